@@ -1,0 +1,47 @@
+# What every target of the project is compiled with.
+
+option(MORVANTILE_BUILD_TESTS "Build the tests" ON)
+option(MORVANTILE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(MORVANTILE_WERROR "Treat warnings as errors" OFF)
+set(MORVANTILE_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+find_program(MORVANTILE_CCACHE ccache)
+if(MORVANTILE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${MORVANTILE_CCACHE}")
+endif()
+
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(morvantile_settings INTERFACE)
+target_compile_features(morvantile_settings INTERFACE cxx_std_17)
+# The root is a system directory for nobody: includes read "profiles/ImageProfile.h".
+target_include_directories(morvantile_settings INTERFACE "${CMAKE_SOURCE_DIR}")
+target_compile_definitions(morvantile_settings INTERFACE
+  QT_NO_CAST_FROM_ASCII
+  QT_NO_CAST_TO_ASCII
+  QT_NO_CAST_FROM_BYTEARRAY
+  QT_NO_URL_CAST_FROM_STRING
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+  QT_NO_FOREACH
+  QT_STRICT_ITERATORS
+  QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+target_compile_options(morvantile_settings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
+  -Wcast-align -Wnull-dereference -Wextra-semi -Wimplicit-fallthrough
+  $<$<BOOL:${MORVANTILE_WERROR}>:-Werror>)
+
+if(MORVANTILE_SANITIZE)
+  target_compile_options(morvantile_settings INTERFACE
+    -fsanitize=${MORVANTILE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(morvantile_settings INTERFACE -fsanitize=${MORVANTILE_SANITIZE})
+  # The sanitizers' own checks make GCC see null dereferences that no path has.
+  target_compile_options(morvantile_settings INTERFACE -Wno-null-dereference)
+endif()

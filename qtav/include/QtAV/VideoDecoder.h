@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QtAV/Packet.h>
+#include <QtAV/VideoCodecContext.h>
+#include <QtAV/VideoFrame.h>
+
+#include <QString>
+#include <QVariantHash>
+
+#include <memory>
+
+namespace QtAV {
+
+/// Turns the packets of one video stream into frames.
+///
+/// Decodes on all cores. Not thread-safe, but tied to no thread: one thread at a time may use it.
+class VideoDecoder
+{
+public:
+    /// The decoder of that name, owned by the caller. There is one, "FFmpeg"; any other name
+    /// gives null.
+    static VideoDecoder* create(const char* name);
+
+    ~VideoDecoder();
+    VideoDecoder(const VideoDecoder&) = delete;
+    VideoDecoder& operator=(const VideoDecoder&) = delete;
+
+    /// Says which stream open() is for. The decoder keeps what it needs: the context may go.
+    void setCodecContext(const VideoCodecContext* context);
+
+    /// False where no decoder exists for the codec or the stream's parameters are refused.
+    bool open();
+    void close();
+    bool isOpen() const;
+
+    /// Options by section and key. Understood, from the next packet on: section "avcodec" with
+    /// the integers "skip_frame" and "skip_loop_filter" (FFmpeg's AVDiscard values), and, before
+    /// open(), "threads" (0 = as many as there are cores). All others are ignored.
+    void setOptions(const QVariantHash& options);
+    QVariantHash options() const;
+
+    /// Forgets all packets and frames; the next packet should be a key frame.
+    void flush();
+
+    /// Decodes one packet. True also when no frame came out yet, which frame() then shows by
+    /// being invalid. The first key packet after open() or flush() gives its frame at once. False
+    /// for a packet that is damaged; the decoder stays usable.
+    bool decode(const Packet& packet);
+
+    /// The frame of the last decode(), taken away by this call: at most one a packet, in the
+    /// order of presentation, each once.
+    VideoFrame frame();
+
+private:
+    VideoDecoder();
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace QtAV

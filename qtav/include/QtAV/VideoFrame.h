@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QImage>
+#include <QMetaType>
+#include <QRectF>
+#include <QSharedDataPointer>
+#include <QSize>
+#include <QString>
+
+namespace QtAV {
+
+class VideoFramePrivate;
+
+/// One decoded picture and its time: an implicitly shared, immutable value that may travel between
+/// threads and outlive the decoder.
+class VideoFrame
+{
+public:
+    VideoFrame();
+    ~VideoFrame();
+    VideoFrame(const VideoFrame&);
+    VideoFrame(VideoFrame&&) noexcept;
+    VideoFrame& operator=(const VideoFrame&);
+    VideoFrame& operator=(VideoFrame&&) noexcept;
+
+    /// For the library itself.
+    explicit VideoFrame(VideoFramePrivate* data);
+
+    /// False for a default-made frame, which stands for "no frame".
+    bool isValid() const;
+
+    /// Presentation time in seconds on the demuxer's timeline; 0 when not valid.
+    double timestamp() const;
+
+    /// The stored picture's size in pixels, before turning it upright and making its pixels
+    /// square; 0 when not valid.
+    int width() const;
+    int height() const;
+
+    /// The size at which the picture is meant to be seen: upright and with square pixels. To get
+    /// there the shorter of width and height is stretched, so that no stored pixel is lost.
+    QSize displaySize() const;
+
+    /// The pixel format's name, such as "yuv420p"; empty when not valid.
+    QString format() const;
+
+    /// The picture as it is meant to be seen: upright, with square pixels, in full-range sRGB
+    /// values, converted by the frame's own matrix and range, with its alpha where it has one.
+    ///
+    /// @param format  the image's format; Format_Invalid gives Format_ARGB32.
+    /// @param size    the size to scale the result to; an empty size keeps that of the region.
+    /// @param region  the part to take, in pixels of the whole picture at displaySize(), clipped
+    ///                to it; a null rectangle takes all.
+    /// @return a null image for an invalid frame, for a region outside the picture and when
+    ///         memory runs out. May be called from any thread.
+    QImage toImage(QImage::Format format = QImage::Format_ARGB32, const QSize& size = QSize(),
+                   const QRectF& region = QRectF()) const;
+
+private:
+    QSharedDataPointer<VideoFramePrivate> d;
+};
+
+} // namespace QtAV
+
+Q_DECLARE_METATYPE(QtAV::VideoFrame)
