@@ -1,0 +1,59 @@
+#pragma once
+
+/// Owners for FFmpeg's objects: the only place where they are freed, and the only one that includes
+/// FFmpeg's headers for everybody else in this folder.
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavcodec/bsf.h>
+#include <libavformat/avformat.h>
+#include <libavutil/display.h>
+#include <libavutil/frame.h>
+#include <libavutil/imgutils.h>
+#include <libavutil/mathematics.h>
+#include <libavutil/opt.h>
+#include <libavutil/pixdesc.h>
+#include <libswscale/swscale.h>
+}
+
+#include <memory>
+
+namespace QtAV {
+
+/// Calls an FFmpeg function that frees an object through the address of its pointer.
+template <auto Free>
+struct FreeByAddress
+{
+    template <typename T>
+    void operator()(T* object) const
+    {
+        Free(&object);
+    }
+};
+
+/// Calls an FFmpeg function that frees an object through its pointer.
+template <auto Free>
+struct FreeByPointer
+{
+    template <typename T>
+    void operator()(T* object) const
+    {
+        Free(object);
+    }
+};
+
+using FormatContextPtr = std::unique_ptr<AVFormatContext, FreeByAddress<avformat_close_input>>;
+using CodecContextPtr = std::unique_ptr<AVCodecContext, FreeByAddress<avcodec_free_context>>;
+using CodecParametersPtr =
+    std::unique_ptr<AVCodecParameters, FreeByAddress<avcodec_parameters_free>>;
+using PacketPtr = std::unique_ptr<AVPacket, FreeByAddress<av_packet_free>>;
+using FramePtr = std::unique_ptr<AVFrame, FreeByAddress<av_frame_free>>;
+using BitstreamFilterPtr = std::unique_ptr<AVBSFContext, FreeByAddress<av_bsf_free>>;
+using ParserPtr = std::unique_ptr<AVCodecParserContext, FreeByPointer<av_parser_close>>;
+using ScalerPtr = std::unique_ptr<SwsContext, FreeByPointer<sws_freeContext>>;
+
+/// A new, empty packet or frame; running out of memory for one ends the program, as `new` does.
+PacketPtr makePacket();
+FramePtr makeFrame();
+
+} // namespace QtAV

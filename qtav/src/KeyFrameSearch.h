@@ -1,0 +1,61 @@
+#pragma once
+
+#include "qtav/src/FFmpegHandles.h"
+
+#include <QtGlobal>
+
+#include <deque>
+
+namespace QtAV {
+
+class MediaFile;
+
+/// Finds the last key frame at or before a position, in any container.
+///
+/// A container's own jump is only a first guess: transport and program streams land on any packet,
+/// often behind the target; indexes may list some of the key frames only, and by decoding times.
+/// So the search reads on from where it landed until nothing at or before the target can come any
+/// more, and lands further back when that showed no key frame. What was read from the key frame on
+/// is kept, so that nothing is read twice.
+class KeyFrameSearch
+{
+public:
+    /// The most that is kept of one group of pictures. Beyond it the first key frame found is
+    /// taken even if a later one might follow: decoding from there reaches the same frames.
+    static constexpr qint64 MostKeptBytes = qint64(256) << 20;
+
+    /// @param firstStepBack  how far before the target to land at first, in milliseconds: what the
+    ///                       last search in the same file needed.
+    KeyFrameSearch(MediaFile& file, qint64 durationMs, qint64 firstStepBackMs);
+
+    /// Searches. False when the file holds no video packet that could be read.
+    bool run(qint64 targetMs);
+
+    /// What was read, from the key frame on, in file order. In a stream without any key frame it
+    /// starts with the first packet.
+    std::deque<PacketPtr>& packets() { return m_packets; }
+
+    /// The last of packets() is the last of the file.
+    bool reachedEnd() const { return m_reachedEnd; }
+
+    /// How far back the search had to land.
+    qint64 stepBackMs() const { return m_stepBackMs; }
+
+private:
+    enum class Landing { Found, NoKeyFrame };
+    enum class Accept { AtOrBeforeTarget, FirstKeyFrame, AnyPacket };
+
+    Landing scan(Accept accept);
+    bool keep(PacketPtr packet);
+    bool searchFromStart();
+
+    MediaFile& m_file;
+    qint64 m_durationMs;
+    qint64 m_stepBackMs;
+    qint64 m_targetMs = 0;
+    std::deque<PacketPtr> m_packets;
+    qint64 m_keptBytes = 0;
+    bool m_reachedEnd = false;
+};
+
+} // namespace QtAV

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "qtav/src/FFmpegHandles.h"
+#include "qtav/src/YuvToRgb.h"
+
+#include <QImage>
+#include <QSize>
+
+#include <mutex>
+#include <vector>
+
+namespace QtAV {
+
+/// Turns decoded pictures of any pixel format into full-range sRGB images (Format_ARGB32).
+///
+/// Colours are converted by YuvToRgb, which is exact and reads the common formats as they are. Rare
+/// formats are brought into one of those by FFmpeg's scaler first, and so are pictures whose
+/// pixels are not square. Scalers are kept for the next picture of the same kind.
+///
+/// May be called from several threads at once.
+class PictureConverter
+{
+public:
+    /// The picture at a size in pixels; a null image when it cannot be converted or memory runs
+    /// out.
+    QImage convert(const AVFrame& frame, const QSize& size);
+
+private:
+    /// What a scaler was made for.
+    struct Task
+    {
+        QSize from;
+        QSize to;
+        AVPixelFormat source = AV_PIX_FMT_NONE;
+        AVPixelFormat target = AV_PIX_FMT_NONE;
+        bool isFullRange = false;
+
+        bool operator==(const Task& other) const;
+    };
+
+    struct Scaler
+    {
+        Task task;
+        ScalerPtr context;
+    };
+
+    /// More kinds of pictures than a video and its conversions have at a time.
+    static constexpr size_t MostIdleScalers = 4;
+
+    FramePtr scaled(const AVFrame& frame, const QSize& size, AVPixelFormat format);
+    ScalerPtr takeScaler(const Task& task);
+    void keepScaler(const Task& task, ScalerPtr scaler);
+
+    std::mutex m_mutex;
+    std::vector<Scaler> m_idle; ///< guarded by m_mutex
+};
+
+} // namespace QtAV

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "qtav/src/FFmpegHandles.h"
+
+#include <QtGlobal>
+
+#include <deque>
+#include <set>
+
+namespace QtAV {
+
+/// Gives the packets of a stream presentation times where the container has none.
+///
+/// AVI and raw streams store pictures in decoding order and number them in that order, although
+/// codecs with B-frames show them in another. The n-th picture shown belongs at the n-th of those
+/// times. What is shown when follows from the bitstream: from the picture order count where the
+/// codec has one, else from the picture types (a B-picture is shown at once, any other after the
+/// B-pictures that follow it).
+///
+/// push() packets in decoding order, starting at a key frame, and pop() them in the same order;
+/// a packet comes out as soon as its time is certain, a few packets later. Since everything
+/// before a key frame is shown before the pictures that follow it, the times are the same
+/// wherever one starts.
+class PresentationOrder
+{
+public:
+    /// @param reorderDelay how many pictures the codec may hold back, as FFmpeg measured it.
+    explicit PresentationOrder(const AVCodecParameters& codec, int reorderDelay);
+
+    /// Takes a packet whose decoding time is set.
+    void push(PacketPtr packet);
+
+    /// No more packets will come: all that are held are certain now.
+    void finish();
+
+    /// Forgets everything that is held, for a new start at another key frame.
+    void reset();
+
+    /// The next packet, its presentation time set; null when none is certain yet.
+    PacketPtr pop();
+
+private:
+    struct Held
+    {
+        PacketPtr packet;
+        bool certain = false;
+    };
+
+    /// A picture that waits for its turn: by order count, then by the place in decoding order.
+    struct Waiting
+    {
+        qint64 order;
+        quint64 place;
+        bool operator<(const Waiting& other) const
+        {
+            return order != other.order ? order < other.order : place < other.place;
+        }
+    };
+
+    void parse(const AVPacket& packet);
+    void placeByOrderCount(const AVPacket& packet, quint64 place);
+    void placeByPictureType(quint64 place);
+    void showNext();
+    void showAll();
+
+    ParserPtr m_parser;
+    CodecContextPtr m_context;
+    bool m_hasOrderCount;
+    size_t m_reorderDelay;
+
+    std::deque<Held> m_held;
+    quint64 m_firstPlace = 0;   ///< the place of m_held's front in decoding order
+    std::deque<qint64> m_times; ///< the decoding times not yet given away, in order
+    std::set<Waiting> m_waiting;
+    qint64 m_highestOrder = 0;
+};
+
+} // namespace QtAV

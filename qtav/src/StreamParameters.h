@@ -1,0 +1,24 @@
+#pragma once
+
+#include "qtav/src/FFmpegHandles.h"
+#include "qtav/src/Orientation.h"
+#include "qtav/src/Timeline.h"
+
+namespace QtAV {
+
+/// What the demuxer knows of a video stream and the decoder needs. Immutable once made.
+class StreamParameters
+{
+public:
+    CodecParametersPtr codec;
+    Timeline timeline;
+    /// Frames in a second; 0/1 where the container does not say.
+    AVRational frameRate{0, 1};
+    /// The container's sample aspect ratio, which takes precedence over the codec's; 0/1 = unset.
+    AVRational sampleAspectRatio{0, 1};
+    Orientation orientation = Orientation::Upright;
+    /// The container announces an alpha channel beside the pictures (VP8, VP9).
+    bool hasAlphaLayer = false;
+};
+
+} // namespace QtAV

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "qtav/src/FFmpegHandles.h"
+
+#include <QtGlobal>
+
+namespace QtAV {
+
+/// Converts one stream's ticks to the library's times, which start at 0 where the container starts.
+///
+/// The container's start is kept as the ticks of the stream that starts first, not in FFmpeg's
+/// rounded microseconds: a frame at 40 ms must not come out at 39.9997 ms, since callers cut off
+/// to whole milliseconds.
+class Timeline
+{
+public:
+    Timeline() = default;
+
+    /// @param timeBase       the length of one tick of the stream, in seconds
+    /// @param startTicks     where the container starts, in ticks of
+    /// @param startTimeBase  this length
+    Timeline(AVRational timeBase, qint64 startTicks, AVRational startTimeBase);
+
+    /// Whole milliseconds, cut off; 0 for ticks before the start.
+    qint64 milliseconds(qint64 ticks) const;
+
+    /// Seconds; 0 for ticks before the start. `qint64(seconds(t) * 1000.0)` is milliseconds(t).
+    double seconds(qint64 ticks) const;
+
+    /// The last tick whose whole milliseconds are `ms`.
+    qint64 lastTickOf(qint64 ms) const;
+
+    /// A length of time in seconds.
+    double lengthSeconds(qint64 ticks) const { return double(ticks) * av_q2d(m_timeBase); }
+
+    AVRational timeBase() const { return m_timeBase; }
+
+    /// Products of ticks and two denominators do not fit into 64 bits.
+    __extension__ typedef __int128 Wide;
+
+private:
+    struct Fraction
+    {
+        Wide numerator;
+        Wide denominator;
+    };
+    Fraction exactSeconds(qint64 ticks) const;
+
+    AVRational m_timeBase{1, 1000};
+    qint64 m_startTicks = 0;
+    AVRational m_startTimeBase{1, 1000};
+};
+
+} // namespace QtAV

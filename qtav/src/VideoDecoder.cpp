@@ -1,0 +1,294 @@
+#include <QtAV/VideoDecoder.h>
+
+#include "qtav/src/FFmpegHandles.h"
+#include "qtav/src/FFmpegLog.h"
+#include "qtav/src/HevcLayers.h"
+#include "qtav/src/PacketHandle.h"
+#include "qtav/src/PictureConverter.h"
+#include "qtav/src/StreamParameters.h"
+#include "qtav/src/VideoFramePrivate.h"
+
+#include <deque>
+#include <utility>
+
+namespace QtAV {
+
+namespace {
+
+const AVCodec* decoderFor(const StreamParameters& parameters)
+{
+    // FFmpeg's own decoders for VP8 and VP9 drop the alpha layer.
+    const AVCodec* withAlpha = nullptr;
+    if (parameters.hasAlphaLayer && parameters.codec->codec_id == AV_CODEC_ID_VP8)
+        withAlpha = avcodec_find_decoder_by_name("libvpx");
+    if (parameters.hasAlphaLayer && parameters.codec->codec_id == AV_CODEC_ID_VP9)
+        withAlpha = avcodec_find_decoder_by_name("libvpx-vp9");
+    return withAlpha ? withAlpha : avcodec_find_decoder(parameters.codec->codec_id);
+}
+
+bool isIntraOnly(AVCodecID codec)
+{
+    const AVCodecDescriptor* descriptor = avcodec_descriptor_get(codec);
+    return descriptor && (descriptor->props & AV_CODEC_PROP_INTRA_ONLY);
+}
+
+} // namespace
+
+class VideoDecoder::Private
+{
+public:
+    /// Where the decoder stands on its way past the key frame that it was started with.
+    enum class Start {
+        NeedsKeyFrame, ///< nothing was decoded since opening or flushing
+        KeyFrameTaken, ///< the key frame came out early; FFmpeg must be given it once more
+        Running,
+    };
+
+    bool sendAndReceive(const AVPacket* packet);
+    bool startAtKeyFrame(const Packet& packet);
+    bool resumeAfterKeyFrame();
+    void receiveAll(bool& failed);
+    void deliver(FramePtr frame);
+    void restart();
+    void applySkipOptions();
+    void watchSubLayers(const AVPacket& packet);
+
+    std::shared_ptr<const StreamParameters> parameters;
+    CodecContextPtr context;
+    QVariantHash options;
+    std::shared_ptr<PictureConverter> converter;
+
+    Start start = Start::NeedsKeyFrame;
+    std::shared_ptr<const PacketHandle> keyPacket;
+    /// The presentation ticks of the key frame that comes out a second time.
+    qint64 repeatedTicks = AV_NOPTS_VALUE;
+    bool draining = false;
+    bool hasSubLayers = false;
+    qint64 lastTicks = AV_NOPTS_VALUE; ///< of the frame that came out last
+    qint64 nextTicks = 0;              ///< for frames to which FFmpeg can give no time
+
+    std::deque<VideoFrame> frames;
+    VideoFrame current;
+};
+
+VideoDecoder* VideoDecoder::create(const char* name)
+{
+    return qstrcmp(name, "FFmpeg") == 0 ? new VideoDecoder : nullptr;
+}
+
+VideoDecoder::VideoDecoder()
+    : d(std::make_unique<Private>())
+{}
+
+VideoDecoder::~VideoDecoder() = default;
+
+void VideoDecoder::setCodecContext(const VideoCodecContext* context)
+{
+    close();
+    d->parameters = context ? context->parameters() : nullptr;
+}
+
+bool VideoDecoder::open()
+{
+    close();
+    if (!d->parameters)
+        return false;
+    routeFFmpegLog();
+    const AVCodec* codec = decoderFor(*d->parameters);
+    CodecContextPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);
+    if (!context || avcodec_parameters_to_context(context.get(), d->parameters->codec.get()) < 0)
+        return false;
+    context->pkt_timebase = d->parameters->timeline.timeBase();
+    context->thread_count = d->options.value(QStringLiteral("avcodec"))
+                                .toHash()
+                                .value(QStringLiteral("threads"), 0)
+                                .toInt();
+    if (avcodec_open2(context.get(), codec, nullptr) < 0)
+        return false;
+    d->context = std::move(context);
+    d->converter = std::make_shared<PictureConverter>();
+    const AVCodecParameters& parameters = *d->parameters->codec;
+    d->hasSubLayers = parameters.codec_id == AV_CODEC_ID_HEVC &&
+                      hevcHasSubLayers(parameters.extradata, parameters.extradata_size);
+    d->applySkipOptions();
+    return true;
+}
+
+void VideoDecoder::close()
+{
+    d->context.reset();
+    d->converter.reset();
+    d->restart();
+}
+
+bool VideoDecoder::isOpen() const
+{
+    return d->context != nullptr;
+}
+
+void VideoDecoder::setOptions(const QVariantHash& options)
+{
+    d->options = options;
+    if (d->context)
+        d->applySkipOptions();
+}
+
+QVariantHash VideoDecoder::options() const
+{
+    return d->options;
+}
+
+void VideoDecoder::Private::applySkipOptions()
+{
+    const QVariantHash section = options.value(QStringLiteral("avcodec")).toHash();
+    const auto discard = [&section](const QString& key) {
+        return static_cast<AVDiscard>(section.value(key, int(AVDISCARD_DEFAULT)).toInt());
+    };
+    context->skip_frame = hasSubLayers ? AVDISCARD_DEFAULT : discard(QStringLiteral("skip_frame"));
+    context->skip_loop_filter =
+        hasSubLayers ? AVDISCARD_DEFAULT : discard(QStringLiteral("skip_loop_filter"));
+}
+
+void VideoDecoder::Private::watchSubLayers(const AVPacket& packet)
+{
+    const bool mayTell = context->codec_id == AV_CODEC_ID_HEVC && (packet.flags & AV_PKT_FLAG_KEY);
+    if (!hasSubLayers && mayTell && hevcHasSubLayers(packet.data, packet.size)) {
+        hasSubLayers = true;
+        applySkipOptions();
+    }
+}
+
+void VideoDecoder::flush()
+{
+    if (!d->context)
+        return;
+    avcodec_flush_buffers(d->context.get());
+    d->restart();
+}
+
+void VideoDecoder::Private::restart()
+{
+    start = Start::NeedsKeyFrame;
+    keyPacket.reset();
+    repeatedTicks = AV_NOPTS_VALUE;
+    draining = false;
+    lastTicks = AV_NOPTS_VALUE;
+    nextTicks = 0;
+    frames.clear();
+    current = VideoFrame();
+}
+
+bool VideoDecoder::decode(const Packet& packet)
+{
+    d->current = VideoFrame();
+    const std::shared_ptr<const PacketHandle> handle = PacketHandle::of(packet);
+    if (!d->context || (!handle && !packet.isDrain()))
+        return false;
+    // The caller asks once more for the frame of the key packet it has just given.
+    const bool isRepeated = d->start == Private::Start::KeyFrameTaken && handle == d->keyPacket;
+    if (isRepeated)
+        return true;
+
+    bool succeeded = true;
+    if (d->start == Private::Start::NeedsKeyFrame && packet.hasKeyFrame) {
+        succeeded = d->startAtKeyFrame(packet);
+    } else {
+        if (d->start == Private::Start::KeyFrameTaken)
+            succeeded = d->resumeAfterKeyFrame();
+        d->start = Private::Start::Running;
+        if (handle)
+            d->watchSubLayers(*handle->get());
+        succeeded = d->sendAndReceive(handle ? handle->get() : nullptr) && succeeded;
+    }
+    if (succeeded && !d->frames.empty()) {
+        d->current = std::move(d->frames.front());
+        d->frames.pop_front();
+    }
+    return succeeded;
+}
+
+/// A decoder that re-orders frames or decodes several at a time holds the key frame back.
+/// Draining makes it come out; since that ends a stream for FFmpeg, the packet is given once more
+/// before the one that follows it, and the frame's second appearance dropped.
+bool VideoDecoder::Private::startAtKeyFrame(const Packet& packet)
+{
+    const std::shared_ptr<const PacketHandle> handle = PacketHandle::of(packet);
+    watchSubLayers(*handle->get());
+    bool succeeded = sendAndReceive(handle->get());
+    if (!frames.empty()) {
+        start = Start::Running;
+        return succeeded;
+    }
+    succeeded = sendAndReceive(nullptr) && succeeded;
+    keyPacket = handle;
+    start = Start::KeyFrameTaken;
+    return succeeded;
+}
+
+bool VideoDecoder::Private::resumeAfterKeyFrame()
+{
+    const std::shared_ptr<const PacketHandle> packet = std::move(keyPacket);
+    keyPacket.reset();
+    avcodec_flush_buffers(context.get());
+    draining = false;
+    // What follows refers to no other picture.
+    if (isIntraOnly(context->codec_id))
+        return true;
+    repeatedTicks = lastTicks;
+    return sendAndReceive(packet->get());
+}
+
+/// A null packet drains.
+bool VideoDecoder::Private::sendAndReceive(const AVPacket* packet)
+{
+    if (draining && packet) {
+        avcodec_flush_buffers(context.get());
+        draining = false;
+    }
+    bool failed = false;
+    if (packet || !draining) {
+        const int result = avcodec_send_packet(context.get(), packet);
+        failed = result < 0 && result != AVERROR_EOF;
+        draining = !packet;
+    }
+    receiveAll(failed);
+    return !failed;
+}
+
+void VideoDecoder::Private::receiveAll(bool& failed)
+{
+    for (;;) {
+        FramePtr frame = makeFrame();
+        const int result = avcodec_receive_frame(context.get(), frame.get());
+        if (result == AVERROR(EAGAIN) || result == AVERROR_EOF)
+            return;
+        if (result < 0) {
+            failed = true;
+            return;
+        }
+        deliver(std::move(frame));
+    }
+}
+
+void VideoDecoder::Private::deliver(FramePtr frame)
+{
+    const bool hasTime = frame->best_effort_timestamp != AV_NOPTS_VALUE;
+    const qint64 ticks = hasTime ? frame->best_effort_timestamp : nextTicks;
+    if (repeatedTicks != AV_NOPTS_VALUE && ticks <= repeatedTicks) {
+        // Also what leads up to an open group's key frame and cannot be decoded from there.
+        if (ticks == repeatedTicks)
+            repeatedTicks = AV_NOPTS_VALUE;
+        return;
+    }
+    repeatedTicks = AV_NOPTS_VALUE;
+    lastTicks = ticks;
+    nextTicks = ticks + std::max<qint64>(1, frame->pkt_duration);
+    frames.emplace_back(new VideoFramePrivate(std::move(frame), ticks, parameters, converter));
+}
+
+VideoFrame VideoDecoder::frame()
+{
+    return std::exchange(d->current, VideoFrame());
+}
+
+} // namespace QtAV

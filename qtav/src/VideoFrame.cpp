@@ -1,0 +1,118 @@
+#include <QtAV/VideoFrame.h>
+
+#include "qtav/src/PictureConverter.h"
+#include "qtav/src/StreamParameters.h"
+#include "qtav/src/VideoFramePrivate.h"
+
+#include <cmath>
+
+namespace QtAV {
+
+namespace {
+
+/// What a picture says of itself takes precedence over what its container says.
+Orientation orientationOf(const AVFrame& frame, const StreamParameters& parameters)
+{
+    const AVFrameSideData* own = av_frame_get_side_data(&frame, AV_FRAME_DATA_DISPLAYMATRIX);
+    if (own && own->size >= 9 * sizeof(qint32))
+        return orientationFromDisplayMatrix(reinterpret_cast<const qint32*>(own->data));
+    return parameters.orientation;
+}
+
+AVRational sampleAspectRatioOf(const AVFrame& frame, const StreamParameters& parameters)
+{
+    const AVRational stated = parameters.sampleAspectRatio.num > 0 ? parameters.sampleAspectRatio
+                                                                   : frame.sample_aspect_ratio;
+    return stated.num > 0 && stated.den > 0 ? stated : AVRational{1, 1};
+}
+
+/// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
+constexpr double WidestPixel = 16.0;
+
+} // namespace
+
+VideoFramePrivate::VideoFramePrivate(FramePtr picture, qint64 ticks,
+                                     const std::shared_ptr<const StreamParameters>& parameters,
+                                     std::shared_ptr<PictureConverter> pictureConverter)
+    : frame(std::move(picture))
+    , seconds(parameters->timeline.seconds(ticks))
+    , orientation(orientationOf(*frame, *parameters))
+    , sampleAspectRatio(sampleAspectRatioOf(*frame, *parameters))
+    , converter(std::move(pictureConverter))
+{}
+
+QSize VideoFramePrivate::squareSize() const
+{
+    const double ratio = av_q2d(sampleAspectRatio);
+    if (ratio > WidestPixel || ratio < 1.0 / WidestPixel)
+        return {frame->width, frame->height};
+    if (ratio >= 1.0)
+        return {static_cast<int>(std::lround(frame->width * ratio)), frame->height};
+    return {frame->width, static_cast<int>(std::lround(frame->height / ratio))};
+}
+
+VideoFrame::VideoFrame() = default;
+VideoFrame::~VideoFrame() = default;
+VideoFrame::VideoFrame(const VideoFrame&) = default;
+VideoFrame::VideoFrame(VideoFrame&&) noexcept = default;
+VideoFrame& VideoFrame::operator=(const VideoFrame&) = default;
+VideoFrame& VideoFrame::operator=(VideoFrame&&) noexcept = default;
+
+VideoFrame::VideoFrame(VideoFramePrivate* data)
+    : d(data)
+{}
+
+bool VideoFrame::isValid() const
+{
+    return d;
+}
+
+double VideoFrame::timestamp() const
+{
+    return d ? d->seconds : 0.0;
+}
+
+int VideoFrame::width() const
+{
+    return d ? d->frame->width : 0;
+}
+
+int VideoFrame::height() const
+{
+    return d ? d->frame->height : 0;
+}
+
+QSize VideoFrame::displaySize() const
+{
+    if (!d)
+        return {};
+    const QSize square = d->squareSize();
+    return swapsSides(d->orientation) ? square.transposed() : square;
+}
+
+QString VideoFrame::format() const
+{
+    if (!d)
+        return {};
+    return QString::fromLatin1(av_get_pix_fmt_name(static_cast<AVPixelFormat>(d->frame->format)));
+}
+
+QImage VideoFrame::toImage(QImage::Format format, const QSize& size, const QRectF& region) const
+{
+    if (!d)
+        return {};
+    const QImage stored = d->converter->convert(*d->frame, d->squareSize());
+    QImage image = oriented(stored, d->orientation);
+    if (!region.isNull()) {
+        const QRect part = region.toAlignedRect() & image.rect();
+        if (part.isEmpty())
+            return {};
+        image = image.copy(part);
+    }
+    if (!size.isEmpty() && size != image.size())
+        image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage::Format wanted = format == QImage::Format_Invalid ? QImage::Format_ARGB32 : format;
+    return image.format() == wanted ? image : image.convertToFormat(wanted);
+}
+
+} // namespace QtAV

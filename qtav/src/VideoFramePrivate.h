@@ -1,0 +1,34 @@
+#pragma once
+
+#include "qtav/src/FFmpegHandles.h"
+#include "qtav/src/Orientation.h"
+
+#include <QSharedData>
+#include <QSize>
+
+#include <memory>
+
+namespace QtAV {
+
+class PictureConverter;
+class StreamParameters;
+
+/// What the copies of one VideoFrame share. Immutable.
+class VideoFramePrivate : public QSharedData
+{
+public:
+    VideoFramePrivate(FramePtr picture, qint64 ticks,
+                      const std::shared_ptr<const StreamParameters>& parameters,
+                      std::shared_ptr<PictureConverter> converter);
+
+    /// The stored size with square pixels.
+    QSize squareSize() const;
+
+    const FramePtr frame;
+    const double seconds;
+    const Orientation orientation;
+    const AVRational sampleAspectRatio;
+    const std::shared_ptr<PictureConverter> converter;
+};
+
+} // namespace QtAV

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "qtav/src/FFmpegHandles.h"
+
+#include <QImage>
+
+#include <cstdint>
+
+namespace QtAV {
+
+/// Converts luma and chroma to full-range R'G'B' by a picture's own matrix and range.
+///
+/// FFmpeg's fast conversions are up to 3 of 255 off and repeat chroma samples; its exact ones cost
+/// several times as much. This one calculates with 15 bits, interpolates chroma at the place where
+/// it was sampled, and deviates by no more than 1 of 255 from the standards' formulas.
+class YuvToRgb
+{
+public:
+    /// For pictures with this one's matrix, range and format.
+    explicit YuvToRgb(const AVFrame& frame);
+
+    /// True for the formats that convert() takes: planar YUV with or without alpha, 8 to 16 bits,
+    /// chroma in full or half width and height, grey, NV12 and NV21.
+    static bool reads(AVPixelFormat format);
+
+    /// The matrix that applies: the picture's own, or the one that its height implies.
+    static AVColorSpace matrixOf(const AVFrame& frame);
+
+    /// True for the formats that mean full range by themselves.
+    static bool isJpegFormat(int format);
+
+    /// A Format_ARGB32 image of the picture's stored size; null when memory runs out.
+    QImage convert(const AVFrame& frame) const;
+
+    /// Factors in 1/8192 and the luma level of black, for samples of 15 bits.
+    struct Matrix
+    {
+        int16_t luma;
+        int16_t crToRed;
+        int16_t cbToGreen;
+        int16_t crToGreen;
+        int16_t cbToBlue;
+        int16_t black;
+    };
+
+private:
+    Matrix m_matrix;
+};
+
+} // namespace QtAV
