@@ -1,0 +1,50 @@
+#include "profiles/BaseProfile.h"
+
+#include <QMetaProperty>
+#include <QSettings>
+#include <QUuid>
+#include <QVariant>
+
+#include <vector>
+
+namespace {
+
+/// The persisted properties of a class in the order of their declaration, inherited ones first.
+std::vector<QMetaProperty> persistedProperties(const QMetaObject& type)
+{
+    std::vector<QMetaProperty> properties;
+    for (int index = 0; index < type.propertyCount(); ++index) {
+        const QMetaProperty property = type.property(index);
+        if (property.isStored() && property.isWritable())
+            properties.push_back(property);
+    }
+    return properties;
+}
+
+} // namespace
+
+BaseProfile::BaseProfile(BaseProfile* /*ignored*/)
+    : m_id(QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper())
+{}
+
+BaseProfile::~BaseProfile() = default;
+
+void BaseProfile::save(QSettings& settings) const
+{
+    for (const QMetaProperty& property : persistedProperties(*metaObject()))
+        settings.setValue(QLatin1String(property.name()), property.read(this));
+}
+
+void BaseProfile::load(const QSettings& settings)
+{
+    for (const QMetaProperty& property : persistedProperties(*metaObject())) {
+        const QLatin1String key(property.name());
+        if (!settings.contains(key))
+            continue;
+        // Converted here, since write() would drop a value that converts with an error and so hide
+        // a damaged entry behind the default.
+        QVariant value = settings.value(key);
+        value.convert(property.userType());
+        property.write(this, value);
+    }
+}

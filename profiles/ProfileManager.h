@@ -1,0 +1,81 @@
+#pragma once
+
+#include "profiles/BaseProfile.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+/// All profiles of one kind, in display order, and the one used last, kept in one INI file.
+///
+/// Each kind has one manager, reached through the static `profileManager()` of its class; it is
+/// made on first use and lives until the program ends, and so do the profiles in its list: nothing
+/// is ever removed from the list or from the file, and the manager deletes no profile, not even in
+/// its destructor.
+///
+/// A profile's values reach the file only through saveProfiles(). Failures to read count as an
+/// empty file and failures to write are ignored, both without a message; groups and keys in the
+/// file that the manager does not know stay there.
+///
+/// User-interface thread only.
+class ProfileManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Makes a new profile of the managed kind with its default values; never gives null.
+    using Factory = std::function<BaseProfile*()>;
+
+    /// Loads the profiles from the file, makes the first one the last used one unless another is
+    /// stored, and writes the file, so that it is complete from the first start on.
+    ///
+    /// `fileName` is the bare name of the INI file. With `createDefaultIfEmpty`, a manager that
+    /// finds no profile makes one named "[Unnamed Settings]". Throws std::bad_function_call when a
+    /// profile has to be made and `factory` is empty.
+    ProfileManager(const QString& fileName, const Factory& factory, bool createDefaultIfEmpty);
+    ~ProfileManager() override;
+
+    /// Replaces the list with what the file holds, ordered by "sortOrder" (those that share one
+    /// come in no particular order), and restores the last used profile: null if the stored id
+    /// belongs to no profile, unchanged if none is stored. The profiles listed before are not
+    /// deleted. Throws std::bad_function_call, changing nothing, when the file has profiles and
+    /// there is no factory.
+    void loadProfilesFromFile();
+
+    /// Writes every profile and the id of the last used one to the file.
+    void saveProfiles();
+
+    /// A new profile from the factory, neither listed nor saved; the caller owns it until it is
+    /// added. Throws std::bad_function_call without a factory.
+    [[nodiscard]] BaseProfile* createProfile() const;
+
+    /// Appends `profile`, which must not be null and stays alive for good, without saving.
+    void addProfile(BaseProfile* profile);
+
+    /// The profiles in display order.
+    QList<BaseProfile*> profiles() const { return m_profiles; }
+
+    /// The first profile whose id is `id` ignoring letter case; null if there is none, and for an
+    /// empty `id`.
+    BaseProfile* profileForId(const QString& id) const;
+
+    /// The profile that the user chose last; null if there is none.
+    BaseProfile* lastUsedProfile() const { return m_lastUsedProfile; }
+
+    /// Remembers the user's choice, a profile of the list or null, and saves at once, so that it
+    /// survives a crash. Does nothing if it is the last used one already.
+    void setLastUsedProfile(BaseProfile* profile);
+
+    /// The full path of the settings file with the bare name `fileName` in the application's
+    /// configuration folder, which is made if it is missing. If it cannot be made, `fileName`
+    /// itself, which is then relative to the working directory.
+    static QString getSettingsPath(const QString& fileName);
+
+private:
+    QList<BaseProfile*> m_profiles;
+    BaseProfile* m_lastUsedProfile = nullptr;
+    Factory m_factory;
+    QString m_fileName;
+};
