@@ -1,0 +1,83 @@
+#pragma once
+
+#include "profiles/BaseProfile.h"
+
+#include <QMetaType>
+#include <QString>
+
+class ProfileManager;
+
+/// How a captured frame becomes an output image: size, corrections, JPEG quality, watermark.
+///
+/// The ranges below are what the dialog offers. The setters store any value, and a settings file
+/// edited by hand can hold any, so whoever uses one has to cope with it.
+class ImageProfile : public BaseProfile
+{
+    Q_OBJECT
+    /// Keep the video frame's own size instead of the requested one.
+    Q_PROPERTY(bool sameSizeAsVideo READ sameSizeAsVideo WRITE setSameSizeAsVideo)
+    /// Requested size in pixels.
+    Q_PROPERTY(int imageWidth READ imageWidth WRITE setImageWidth)
+    Q_PROPERTY(int imageHeight READ imageHeight WRITE setImageHeight)
+    /// Keep the frame's aspect ratio when scaling to the requested size.
+    Q_PROPERTY(bool maintainAspectRatio READ maintainAspectRatio WRITE setMaintainAspectRatio)
+    /// Corrections, -100 to 100; 0 changes nothing.
+    Q_PROPERTY(int imageContrast READ imageContrast WRITE setImageContrast)
+    Q_PROPERTY(int imageBrightness READ imageBrightness WRITE setImageBrightness)
+    /// JPEG quality, 0 to 100.
+    Q_PROPERTY(int imageQuality READ imageQuality WRITE setImageQuality)
+    /// The id of the watermark profile to draw; empty for none. It may belong to no profile.
+    Q_PROPERTY(QString watermarkProfileId READ watermarkProfileId WRITE setWatermarkProfileId)
+
+public:
+    /// A profile named "Image Profile" with a fresh id and default values; the argument is ignored.
+    explicit ImageProfile(ImageProfile* ignored = nullptr);
+    ~ImageProfile() override;
+
+    bool sameSizeAsVideo() const { return m_sameSizeAsVideo; }
+    void setSameSizeAsVideo(bool sameSize) { m_sameSizeAsVideo = sameSize; }
+
+    int imageWidth() const { return m_imageWidth; }
+    void setImageWidth(int width) { m_imageWidth = width; }
+
+    int imageHeight() const { return m_imageHeight; }
+    void setImageHeight(int height) { m_imageHeight = height; }
+
+    bool maintainAspectRatio() const { return m_maintainAspectRatio; }
+    void setMaintainAspectRatio(bool maintain) { m_maintainAspectRatio = maintain; }
+
+    int imageContrast() const { return m_imageContrast; }
+    void setImageContrast(int contrast) { m_imageContrast = contrast; }
+
+    int imageBrightness() const { return m_imageBrightness; }
+    void setImageBrightness(int brightness) { m_imageBrightness = brightness; }
+
+    int imageQuality() const { return m_imageQuality; }
+    void setImageQuality(int quality) { m_imageQuality = quality; }
+
+    QString watermarkProfileId() const { return m_watermarkProfileId; }
+    void setWatermarkProfileId(const QString& id) { m_watermarkProfileId = id; }
+
+    /// Whether black edges are cut off. No property, so that it is never persisted.
+    bool cropBlackEdges() const { return m_cropBlackEdges; }
+    void setCropBlackEdges(bool crop) { m_cropBlackEdges = crop; }
+
+    /// The one manager of image profiles, made on first call over "ImageProfiles.ini"; it always
+    /// has at least one profile.
+    static ProfileManager* profileManager();
+
+private:
+    bool m_sameSizeAsVideo = false;
+    int m_imageWidth = 640;
+    int m_imageHeight = 480;
+    bool m_maintainAspectRatio = true;
+    int m_imageContrast = 0;
+    int m_imageBrightness = 0;
+    int m_imageQuality = 90;
+    QString m_watermarkProfileId;
+    bool m_cropBlackEdges = false;
+
+    static inline ProfileManager* s_profileManager = nullptr;
+};
+
+Q_DECLARE_METATYPE(ImageProfile*)
