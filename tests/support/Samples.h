@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QFlags>
+#include <QList>
+#include <QSize>
+#include <QString>
+
+/// The manifest of the sample videos that tests/media makes.
+namespace testsupport {
+
+/// A fraction of whole numbers; the denominator is positive.
+struct Rational
+{
+    qint64 num = 0;
+    qint64 den = 1;
+};
+
+/// What a test may want to choose samples by.
+enum class Trait : quint32 {
+    VariableRate = 1u << 0,        ///< the times stand in Sample::timesMs
+    NoStatedDuration = 1u << 1,    ///< the container states no length, or an impossible one
+    IntraRefresh = 1u << 2,        ///< no whole picture at a key packet but the first
+    OpenGop = 1u << 3,             ///< key frames are followed by frames that need the GOP before
+    Alpha = 1u << 4,               ///< transparent pixels below the number
+    Sound = 1u << 5,               ///< has a sound track
+    Interlaced = 1u << 6,          ///< coded as two fields
+    NoPresentationTimes = 1u << 7, ///< AVI and raw streams: times follow from the frame's number
+    Turned = 1u << 8,              ///< has a display matrix
+    Anamorphic = 1u << 9,          ///< pixels are not square
+    TwoVideoStreams = 1u << 10,    ///< a second video, its numbers counting from 1000
+    CoverArt = 1u << 11,           ///< an attached picture beside the video
+    StartsInsideGop = 1u << 12,    ///< the first frame shown is no key frame (edit list)
+    Large = 1u << 13,              ///< 1080 lines or more: slow to decode
+    NoVideo = 1u << 14,            ///< opens, but has no video
+    Damaged = 1u << 15,            ///< some frames are missing or wrong
+    Unopenable = 1u << 16,         ///< no video file at all
+};
+Q_DECLARE_FLAGS(Traits, Trait)
+Q_DECLARE_OPERATORS_FOR_FLAGS(Traits)
+
+/// One sample. All times are on the timeline that starts at 0 where the container starts.
+struct Sample
+{
+    QString file;        ///< name within the sample folder
+    int frames = 0;      ///< how many frames are shown; for damaged files, were there no damage
+    Rational frameRate;  ///< frames a second; 0 for a variable rate
+    Rational tick;       ///< the unit of the container's times in seconds; 0 where they are exact
+    Rational start;      ///< time of the first frame in seconds
+    int firstNumber = 0; ///< the number in the first frame that is shown
+    QSize codedSize;     ///< as stored
+    QSize displaySize; ///< upright and with square pixels: the shorter side stretched, none shrunk
+    Traits traits;
+    QList<qint64> timesMs; ///< of each frame, for a variable rate only
+
+    [[nodiscard]] bool has(Trait trait) const { return traits.testFlag(trait); }
+};
+
+/// The path of a file in the sample folder, which the environment variable MORVANTILE_MEDIA names.
+/// Ends the test program when that is not set.
+[[nodiscard]] QString samplePath(const QString& file);
+
+/// All sound files with video, in which every frame can be read and has its number.
+[[nodiscard]] const QList<Sample>& allVideoSamples();
+
+/// Files without video: sound alone, sound with a cover picture.
+[[nodiscard]] const QList<Sample>& noVideoSamples();
+
+/// Truncated and damaged files, and what is no video at all.
+[[nodiscard]] const QList<Sample>& brokenSamples();
+
+/// The sample of that name from any of the three lists; ends the test program when none is.
+[[nodiscard]] const Sample& sampleNamed(const QString& file);
+
+/// The time of the n-th shown frame, counted from 0, in whole milliseconds rounded down.
+[[nodiscard]] qint64 frameTimeMs(const Sample& sample, int n);
+
+/// The shown frames, counted from 0 and rising, whose packets the container marks as key packets.
+[[nodiscard]] QList<int> keyFrames(const Sample& sample);
+
+} // namespace testsupport

@@ -1,0 +1,31 @@
+#include "tests/support/TestDir.h"
+
+#include <QtTest>
+
+namespace testsupport {
+
+TestDir::TestDir()
+{
+    if (!m_dir.isValid())
+        qFatal("No temporary folder: %s", qUtf8Printable(m_dir.errorString()));
+}
+
+TestDir::~TestDir()
+{
+    if (!QTest::currentTestFailed())
+        return;
+    m_dir.setAutoRemove(false);
+    qInfo("The folder of the failed case is kept: %s", qUtf8Printable(m_dir.path()));
+}
+
+QString TestDir::path() const
+{
+    return m_dir.path();
+}
+
+QString TestDir::filePath(const QString& name) const
+{
+    return m_dir.filePath(name);
+}
+
+} // namespace testsupport
