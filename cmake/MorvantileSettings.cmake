@@ -14,6 +14,10 @@ if(MORVANTILE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${MORVANTILE_CCACHE}")
 endif()
 
+# Said to the compiler even where it is its default: clang-tidy's default is another one.
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
@@ -21,7 +25,6 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 add_library(morvantile_settings INTERFACE)
-target_compile_features(morvantile_settings INTERFACE cxx_std_17)
 # The root is a system directory for nobody: includes read "profiles/ImageProfile.h".
 target_include_directories(morvantile_settings INTERFACE "${CMAKE_SOURCE_DIR}")
 target_compile_definitions(morvantile_settings INTERFACE
