@@ -7,7 +7,7 @@ root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 source "$root/scripts/setup.sh"
 
 usage() {
-  cat >&2 <<'END'
+    cat >&2 <<'END'
 Usage: ./run.sh VIDEO [FOLDER] [OPTION]…
 
   ./run.sh film.mp4                      an image every 5 seconds, beside the video
@@ -19,17 +19,20 @@ END
 ensure_build_folder
 ensure_packages run
 if ! is_configured release; then
-  configure release -DMORVANTILE_BUILD_TESTS=OFF
+    configure release -DMORVANTILE_BUILD_TESTS=OFF
 fi
 # All programs of the folder app/, without the tests that the build folder may hold as well.
 build release app/all
 release_build_folder
 
+# In the bare "C" locale of many a container Qt would not find files with names beyond ASCII.
+[[ $(locale charmap 2>/dev/null) == UTF-8 ]] || export LC_ALL=C.UTF-8
+
 programs=$root/build/release/app
 if (($#)); then
-  exec "$programs/morvantile-cli" "$@"
+    exec "$programs/morvantile-cli" "$@"
 elif [[ -x $programs/morvantile ]]; then
-  exec "$programs/morvantile"
+    exec "$programs/morvantile"
 else
-  usage
+    usage
 fi

@@ -10,26 +10,26 @@ source "$root/scripts/setup.sh"
 presets=("$@")
 (($#)) || presets=(release asan tsan)
 for preset in "${presets[@]}"; do
-  [[ $preset == @(release|asan|tsan) ]] || die "no such preset: $preset (release, asan or tsan)"
+    [[ $preset == @(release|asan|tsan) ]] || die "no such preset: $preset (release, asan or tsan)"
 done
 
 ensure_build_folder
 ensure_packages run test
 
 for preset in "${presets[@]}"; do
-  say "== Building: $preset"
-  configure "$preset" -DMORVANTILE_BUILD_TESTS=ON -DMORVANTILE_WERROR=ON
-  # Thread sanitizer runs few of the tests, and they need few of the libraries.
-  if [[ $preset == tsan ]]; then build tsan tests/all; else build "$preset" all; fi
+    say "== Building: $preset"
+    configure "$preset" -DMORVANTILE_BUILD_TESTS=ON -DMORVANTILE_WERROR=ON
+    # Thread sanitizer runs few of the tests, and they need few of the libraries.
+    if [[ $preset == tsan ]]; then build tsan tests/all; else build "$preset" all; fi
 done
 
 # One CTest run over all build folders, so that one summary tells of them all.
 suite=$root/build/suite
 mkdir -p "$suite"
 {
-  printf 'add_test(source_format "%s/scripts/format.sh" --check)\n' "$root"
-  printf 'add_test(source_fences "%s/scripts/check-fences.sh")\n' "$root"
-  printf "subdirs(\"$root/build/%s\")\n" "${presets[@]}"
+    printf 'add_test(source_format "%s/scripts/format.sh" --check)\n' "$root"
+    printf 'add_test(source_fences "%s/scripts/check-fences.sh")\n' "$root"
+    printf "subdirs(\"$root/build/%s\")\n" "${presets[@]}"
 } >"$suite/CTestTestfile.cmake"
 release_build_folder
 ctest --test-dir "$suite" --output-on-failure --no-tests=error --timeout 900 -j "$(nproc)"

@@ -17,7 +17,7 @@ endif()
 
 # morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [LABELS label…] [TIMEOUT s])
 # One Qt Test program for one class: FOLDER/NAME.cpp. MEDIA makes the sample videos first.
-# It runs on the offscreen platform, with a home of its own.
+# It runs on the offscreen platform, in no country's language, with a home of its own.
 # The label `threads` marks a test of what runs in several threads: thread sanitizer runs these
 # alone, for Qt's own libraries are not built for it and the other tests would tell it nothing.
 function(morvantile_add_test path)
@@ -33,7 +33,7 @@ function(morvantile_add_test path)
   file(MAKE_DIRECTORY "${home}")
   add_test(NAME ${test} COMMAND ${name})
   set_tests_properties(${test} PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;MORVANTILE_MEDIA=${MORVANTILE_MEDIA_DIR};${MORVANTILE_SANITIZER_ENVIRONMENT}"
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;MORVANTILE_MEDIA=${MORVANTILE_MEDIA_DIR};${MORVANTILE_SANITIZER_ENVIRONMENT}"
     LABELS "${ARG_LABELS}")
   if(ARG_MEDIA)
     set_property(TEST ${test} PROPERTY FIXTURES_REQUIRED media)
