@@ -11,7 +11,7 @@ usage() {
 Usage: ./run.sh VIDEO [FOLDER] [OPTION]…
 
   ./run.sh film.mp4                      an image every 5 seconds, beside the video
-  ./run.sh film.mp4 stills --count 12    twelve, evenly spread, into the folder "stills"
+  ./run.sh film.mp4 stills --count 12    twelve, evenly spread, into the existing folder "stills"
   ./run.sh --help                        all options
 END
 }
