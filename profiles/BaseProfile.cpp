@@ -44,7 +44,8 @@ void BaseProfile::load(const QSettings& settings)
         // Converted here, since write() would drop a value that converts with an error and so hide
         // a damaged entry behind the default.
         QVariant value = settings.value(key);
-        value.convert(property.userType());
+        if (value.canConvert(property.userType()))
+            value.convert(property.userType());
         property.write(this, value);
     }
 }

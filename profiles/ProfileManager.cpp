@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -32,6 +33,13 @@ LoadedProfile loadProfile(QSettings& settings, const QString& group,
 
     qDebug() << "Loaded Profile" << profile->name();
     return {sortOrder, std::move(profile)};
+}
+
+/// QSettings writes no file while there is nothing to store, but the file has to exist. That this
+/// fails is ignored like every other failure to write.
+void createFileIfMissing(const QString& path)
+{
+    QFile(path).open(QIODevice::WriteOnly | QIODevice::NewOnly);
 }
 
 } // namespace
@@ -100,6 +108,7 @@ void ProfileManager::saveProfiles()
     if (m_lastUsedProfile)
         settings.setValue(lastUsedProfileKey, m_lastUsedProfile->id());
     settings.sync();
+    createFileIfMissing(settings.fileName());
 }
 
 BaseProfile* ProfileManager::createProfile() const

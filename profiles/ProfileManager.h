@@ -44,7 +44,8 @@ public:
     /// there is no factory.
     void loadProfilesFromFile();
 
-    /// Writes every profile and the id of the last used one to the file.
+    /// Writes every profile and the id of the last used one to the file, which exists afterwards
+    /// even if there is nothing to write. Without a last used profile the stored id stays as it is.
     void saveProfiles();
 
     /// A new profile from the factory, neither listed nor saved; the caller owns it until it is
