@@ -19,8 +19,8 @@ private slots:
     void wholeFile_comesOutFrameByFrame_whenNobodySeeks();
     void seek_landsOnTheKeyFrameAtOrBefore_fromAnywhere_data() { addSamples(); }
     void seek_landsOnTheKeyFrameAtOrBefore_fromAnywhere();
-    void decodingOn_meetsEveryFrameOnce_afterSeeksInAnyOrder_data() { addSamples(); }
-    void decodingOn_meetsEveryFrameOnce_afterSeeksInAnyOrder();
+    void decodingOn_meetsEveryFrameOnce_afterSeeksInRandomOrder_data() { addSamples(); }
+    void decodingOn_meetsEveryFrameOnce_afterSeeksInRandomOrder();
 
 private:
     static void addSamples();
@@ -108,18 +108,19 @@ void SeekTest::seek_landsOnTheKeyFrameAtOrBefore_fromAnywhere()
     }
 }
 
-void SeekTest::decodingOn_meetsEveryFrameOnce_afterSeeksInAnyOrder()
+void SeekTest::decodingOn_meetsEveryFrameOnce_afterSeeksInRandomOrder()
 {
     QFETCH(QString, file);
     const Sample& sample = testsupport::sampleNamed(file);
     const QList<int> keyFrames = testsupport::keyFrames(sample);
     Player player(testsupport::samplePath(file));
     QVERIFY(player.isReady());
-    QList<qint64> all = inEveryOrder(positions(sample, keyFrames));
-    // Decoding large pictures again and again shows nothing that a few times do not.
-    constexpr int MostLarge = 4;
-    if (sample.has(Trait::Large))
-        all = all.mid(all.size() - MostLarge);
+    // On which key frame each position lands is tested above: this needs no more than a few of
+    // them.
+    const int most = sample.has(Trait::Large) ? 2 : 8;
+    QList<qint64> all = positions(sample, keyFrames);
+    std::shuffle(all.begin(), all.end(), std::mt19937(20));
+    all = all.mid(0, most);
     for (const qint64 ms : all) {
         QVERIFY(player.demuxer.seek(ms));
         player.decoder->flush();
