@@ -7,15 +7,16 @@ readonly JOBS=2
 
 # --- pictures -------------------------------------------------------------------------------
 
-# numbers SIZE RATE: a filter source of frames that bear nothing but their number.
+# numbers SIZE RATE [FIRST]: a filter source of frames that bear nothing but their number, counted
+# from FIRST.
 #
 # The top sixth of a picture is two rows of 16 blocks. In the upper row the first block is white,
 # the last one black; between them stand the 14 bits of the frame's number, white for 1, highest
 # bit first. The lower row is the upper one's negative. So the rows confirm each other, and the
 # outer blocks tell an upright picture from a turned or mirrored one.
 numbers() {
-    local size=$1 rate=$2
-    local bit='eq(X,0)+mod(floor(N*pow(2,X-14)),2)'
+    local size=$1 rate=$2 first=${3:-0}
+    local bit="eq(X,0)+lt(X,15)*mod(floor((N+$first)*pow(2,X-14)),2)"
     echo "color=s=16x2:r=$rate,format=yuv444p,geq=lum='16+219*abs(Y-($bit))':cb=128:cr=128," \
          "scale=${size%x*}:$(strip_height "$size"):flags=neighbor+accurate_rnd+full_chroma_inp"
 }
@@ -33,6 +34,14 @@ pictures() {
          "[number];[scene][number]overlay=format=yuv444,setsar=1,$filters"
 }
 
+# interlaced_pictures SIZE RATE: numbered frames whose two fields show different moments, the upper
+# one first.
+interlaced_pictures() {
+    local size=$1 rate=$2
+    echo "testsrc2=s=$size:r=$rate*2,format=yuv444p,tinterlace=interleave_top,setsar=1[scene];" \
+         "$(numbers "$size" "$rate")[number];[scene][number]overlay=format=yuv444"
+}
+
 # sound SECONDS: a filter source of a quiet tone.
 sound() {
     echo "sine=frequency=440:sample_rate=48000:duration=$1,volume=0.1"
@@ -40,9 +49,9 @@ sound() {
 
 # --- encoding -------------------------------------------------------------------------------
 
-# ff ARG…: ffmpeg, silent unless it fails, same outcome on every run.
+# ff ARG…: ffmpeg, silent unless it fails, and never endless.
 ff() {
-    ffmpeg -hide_banner -loglevel error -nostdin -y "$@"
+    SVT_LOG=1 timeout 120 ffmpeg -hide_banner -loglevel error -nostdin -y "$@"
 }
 
 # What every output needs for the same bytes on every run.
@@ -104,7 +113,7 @@ stamp_of() {
     local name=$1 recipe=${RECIPES[$1]} source=${NEEDS[$1]:-}
     {
         echo "$recipe"
-        declare -f "${recipe%% *}"
+        declare -f "${recipe%% *}" || true # a program, not a function
         [[ -z $source ]] || stamp_of "$source"
         echo "$TOOLCHAIN"
     } | sha256sum | cut -d ' ' -f 1

@@ -30,15 +30,15 @@ make_all() {
         finish_running $((JOBS - 1))
         start "$name" "$stamp" &
         busy[$name]=1
-        ((running += 1))
+        running=$((running + 1))
     done
     finish_running 0
 }
 
 # start NAME STAMP: one sample in a process of its own, which says what failed.
 start() {
-    # shellcheck disable=SC2064 # the name of now
-    trap "(( \$? == 0 )) || echo 'make_samples: $1 failed' >&2" EXIT
+    STARTED=$1
+    trap '(($? == 0)) || echo "make_samples: $STARTED failed" >&2' EXIT
     make_one "$1" "$2"
 }
 
@@ -49,7 +49,7 @@ finish_running() {
             wait
             fail "stopped at the first failure"
         }
-        ((running -= 1))
+        running=$((running - 1))
     done
 }
 

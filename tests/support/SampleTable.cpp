@@ -2,14 +2,20 @@
 
 #include <QFileInfo>
 
+#include <array>
+
 namespace testsupport {
 
 namespace {
 
 constexpr QSize small{320, 240};
+constexpr Rational variableRate{0, 1};
 constexpr Rational pal{25, 1};
 constexpr Rational film{24000, 1001};
+constexpr Rational ntsc{30000, 1001};
 constexpr Rational ntscFields{60000, 1001};
+constexpr QSize palSize{720, 576};
+constexpr QSize oddSize{321, 241};
 
 /// The unit of the times in a container, told by the file's extension.
 Rational tickOf(const QString& file)
@@ -100,21 +106,180 @@ QList<Sample> h264Samples()
     };
 }
 
+QList<Sample> codecSamples()
+{
+    return {
+        Entry("hevc_8bit.mp4", 75),
+        Entry("hevc_10bit.mkv", 75),
+        Entry("hevc_open_gop.mp4", 75).with(Trait::OpenGop),
+        Entry("hevc_temporal_layers.mp4", 75),
+        Entry("vp8.webm", 75),
+        Entry("vp9.webm", 75),
+        Entry("vp9.mp4", 60, {30, 1}),
+        Entry("vp9_10bit.webm", 50),
+        Entry("av1.mp4", 50),
+        Entry("av1.webm", 50),
+        Entry("vp8_alpha.webm", 50).with(Trait::Alpha),
+        Entry("vp9_alpha.webm", 50).with(Trait::Alpha),
+        Entry("prores_alpha.mov", 50).with(Trait::Alpha),
+        Entry("mpeg2.ts", 75).with(Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("mpeg2.mpg", 75).with(Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("mpeg2_ntsc.mpg", 60, ntsc).with(Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("mpeg1.mpg", 50).with(Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("h264.ts", 75).with(Trait::NoStatedDuration),
+        Entry("h264_5994fps.ts", 120, ntscFields).with(Trait::NoStatedDuration),
+        Entry("hevc.ts", 50).with(Trait::NoStatedDuration),
+        Entry("mpeg4_bframes.avi", 75).with(Trait::NoPresentationTimes),
+        Entry("mpeg4_packed_bframes.avi", 75).with(Trait::NoPresentationTimes),
+        Entry("h264_bframes.avi", 75).with(Trait::NoPresentationTimes),
+        Entry("mpeg4.mp4", 50),
+        Entry("msmpeg4.avi", 50).with(Trait::NoPresentationTimes),
+        Entry("mjpeg.avi", 50).with(Trait::NoPresentationTimes),
+        Entry("theora.ogv", 75),
+        Entry("wmv2.wmv", 75),
+        Entry("flv1.flv", 75),
+        Entry("h264_bframes.flv", 75),
+        Entry("dv.avi", 15, pal, palSize)
+            .shownAs({768, 576})
+            .with(Trait::NoPresentationTimes | Trait::Anamorphic),
+        Entry("dv.dv", 15, pal, palSize)
+            .shownAs({768, 576})
+            .with(Trait::NoPresentationTimes | Trait::Anamorphic),
+        Entry("prores.mov", 25),
+        Entry("animated.gif", 40),
+        Entry("ffv1.mkv", 25),
+        Entry("raw.h264", 75).with(Trait::NoStatedDuration | Trait::NoPresentationTimes),
+        Entry("raw.hevc", 50).with(Trait::NoStatedDuration | Trait::NoPresentationTimes),
+        Entry("raw.m2v", 50)
+            .with(Trait::NoStatedDuration | Trait::NoPresentationTimes | Trait::OpenGop),
+    };
+}
+
+QList<Sample> geometrySamples()
+{
+    return {
+        Entry("turned_90.mp4", 50, pal, {240, 320})
+            .shownAs(small)
+            .with(Trait::Turned | Trait::Sideways),
+        Entry("turned_180.mp4", 50).with(Trait::Turned),
+        Entry("turned_270.mp4", 50, pal, {240, 320})
+            .shownAs(small)
+            .with(Trait::Turned | Trait::Sideways),
+        Entry("mirrored_left_right.mp4", 50).with(Trait::Turned),
+        Entry("mirrored_up_down.mp4", 50).with(Trait::Turned),
+        Entry("transposed.mp4", 50, pal, {240, 320})
+            .shownAs(small)
+            .with(Trait::Turned | Trait::Sideways),
+        Entry("anti_transposed.mp4", 50, pal, {240, 320})
+            .shownAs(small)
+            .with(Trait::Turned | Trait::Sideways),
+        Entry("turned_90_anamorphic.mp4", 50, pal, {240, 320})
+            .shownAs({320, 360})
+            .with(Trait::Turned | Trait::Sideways | Trait::Anamorphic),
+        Entry("anamorphic_pal.mpg", 25, pal, palSize)
+            .shownAs({768, 576})
+            .with(Trait::NoStatedDuration | Trait::Anamorphic | Trait::OpenGop),
+        Entry("anamorphic_ntsc.mp4", 30, ntsc, {720, 480})
+            .shownAs({720, 540})
+            .with(Trait::Anamorphic),
+        Entry("anamorphic_4_3.mkv", 25, pal, {240, 240}).shownAs(small).with(Trait::Anamorphic),
+        Entry("h264_interlaced.mp4", 50).with(Trait::Interlaced),
+        Entry("mpeg2_interlaced.ts", 50)
+            .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("odd_size_420.mkv", 20, pal, oddSize),
+        Entry("odd_size_444.mkv", 20, pal, oddSize),
+        Entry("odd_size_444.mp4", 20, pal, oddSize),
+        Entry("odd_size.webm", 20, pal, oddSize),
+        Entry("odd_size.gif", 20, pal, oddSize),
+        Entry("odd_size_small.mkv", 20, pal, {175, 99}),
+        Entry("odd_size_small.webm", 20, pal, {175, 99}),
+        Entry("h264_2160p.mp4", 12, {30, 1}, {3840, 2160}).with(Trait::Large),
+        Entry("hevc_2160p.mp4", 8, {30, 1}, {3840, 2160}).with(Trait::Large),
+        Entry("h264_full_range.mp4", 50),
+    };
+}
+
+QList<qint64> variableTimes()
+{
+    QList<qint64> times;
+    for (int n = 0; n < 60; ++n)
+        times.append(n / 4 * 173 + std::array{0, 40, 60, 140}[size_t(n % 4)]);
+    return times;
+}
+
+QList<Sample> containerSamples()
+{
+    return {
+        Entry("variable_rate.mkv", 60, variableRate).at(variableTimes()),
+        Entry("variable_rate.mp4", 60, variableRate).at(variableTimes()),
+        Entry("h264_23976fps.mkv", 96, film),
+        Entry("h264_5994fps.mov", 60, ntscFields),
+        Entry("edit_list.mp4", 65).countingFrom(35).with(Trait::StartsInsideGop),
+        Entry("h264_index_first.mp4", 100),
+        Entry("h264_bframes.mkv", 100),
+        Entry("sound.mp4", 75).with(Trait::Sound),
+        Entry("sound_earlier.mp4", 75).startingAt({48, 100}).with(Trait::Sound),
+        Entry("sound_earlier.mkv", 75).startingAt({490, 1000}).with(Trait::Sound),
+        Entry("sound_earlier.ts", 75)
+            .startingAt({43200 + 902, 90000})
+            .with(Trait::Sound | Trait::NoStatedDuration),
+        Entry("sound_later.mp4", 75).with(Trait::Sound),
+        Entry("sound_later.mkv", 75).with(Trait::Sound),
+        Entry("sound_first_stream.mkv", 50).startingAt({10, 1000}).with(Trait::Sound),
+        Entry("no_duration.webm", 75).with(Trait::NoStatedDuration),
+        Entry("no_duration.flv", 75).with(Trait::NoStatedDuration),
+        Entry("no_cues.webm", 75),
+        Entry("impossible_duration.webm", 75).with(Trait::NoStatedDuration),
+        Entry("cover_and_video.mp4", 50).with(Trait::Sound | Trait::CoverArt),
+        Entry("cover_and_video.mkv", 50)
+            .startingAt({10, 1000})
+            .with(Trait::Sound | Trait::CoverArt),
+        Entry("two_videos.mkv", 50).with(Trait::TwoVideoStreams),
+        Entry("two_videos.mp4", 50).with(Trait::TwoVideoStreams),
+        Entry("two words.mp4", 50),
+        Entry("dots.in.the.name.mp4", 50),
+        Entry("single ' and double \" quotes.mp4", 50),
+        Entry("Übergröße 映像 видео.mp4", 50),
+        Entry("100% %d %03d.mp4", 50),
+        Entry("concat:colon|bar.mp4", 50),
+        Entry("-dash first.mp4", 50),
+        Entry("UPPER CASE.MP4", 50),
+        Entry("wrong_extension.avi", 50),
+    };
+}
+
 } // namespace
 
 QList<Sample> videoSampleTable()
 {
-    return joined({h264Samples()});
+    return joined({h264Samples(), codecSamples(), geometrySamples(), containerSamples()});
 }
 
 QList<Sample> noVideoSampleTable()
 {
-    return {};
+    QList<Sample> samples;
+    for (const char* file :
+         {"sound_only.mp3", "sound_only.mp4", "sound_only.wav", "sound_with_cover.mp3",
+          "sound_with_cover.m4a", "sound_with_cover.flac"})
+        samples.append(Entry(file, 0).with(Trait::NoVideo | Trait::Sound));
+    return samples;
 }
 
 QList<Sample> brokenSampleTable()
 {
-    return {};
+    QList<Sample> samples{
+        Entry("truncated.mp4", 100).with(Trait::Damaged),
+        Entry("truncated.ts", 75).with(Trait::Damaged | Trait::NoStatedDuration),
+        Entry("truncated.mkv", 100).with(Trait::Damaged),
+        Entry("truncated.avi", 75).with(Trait::Damaged | Trait::NoPresentationTimes),
+        Entry("bit_flipped.mp4", 100).with(Trait::Damaged),
+        Entry("bit_flipped.ts", 75).with(Trait::Damaged | Trait::NoStatedDuration),
+        Entry("bit_flipped.mkv", 100).with(Trait::Damaged),
+    };
+    for (const char* file :
+         {"truncated_without_moov.mp4", "empty.mp4", "text.mp4", "random_bytes.mp4", "folder.mp4"})
+        samples.append(Entry(file, 0).with(Trait::Unopenable));
+    return samples;
 }
 
 } // namespace testsupport

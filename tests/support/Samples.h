@@ -34,6 +34,7 @@ enum class Trait : quint32 {
     NoVideo = 1u << 14,            ///< opens, but has no video
     Damaged = 1u << 15,            ///< some frames are missing or wrong
     Unopenable = 1u << 16,         ///< no video file at all
+    Sideways = 1u << 17,           ///< turned by a quarter: width and height change places
 };
 Q_DECLARE_FLAGS(Traits, Trait)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Traits)
@@ -59,7 +60,7 @@ struct Sample
 /// Ends the test program when that is not set.
 [[nodiscard]] QString samplePath(const QString& file);
 
-/// All sound files with video, in which every frame can be read and has its number.
+/// All sound video files, in which every frame can be read and has its number.
 [[nodiscard]] const QList<Sample>& allVideoSamples();
 
 /// Files without video: sound alone, sound with a cover picture.

@@ -13,8 +13,7 @@ namespace {
 /// The pictures of the first video, upright, in the order of showing and in the size as stored.
 QList<QImage> decodedByFfmpeg(const Sample& sample)
 {
-    const bool sideways = sample.has(Trait::Turned) && !sample.has(Trait::Anamorphic) &&
-                          sample.displaySize == sample.codedSize.transposed();
+    const bool sideways = sample.has(Trait::Sideways);
     const QSize size = sideways ? sample.codedSize.transposed() : sample.codedSize;
     const auto result = runProgram(
         QStringLiteral("ffmpeg"),

@@ -1,0 +1,47 @@
+# How a picture lies, what its pixels look like and how large it is.
+
+# turned FILE STORING A B C D: pictures stored through the filter STORING, and the display matrix
+# that undoes it.
+turned() {
+    local file=$1 storing=$2
+    shift 2
+    encode_filtered "$file" 320x240 25 50 "$storing" "${X264[@]}" -x264-params keyint=25:bframes=2
+    tool mp4_matrix "$file" "$@"
+}
+
+sample turned_90.mp4 turned transpose=cclock 0 1 -1 0
+sample turned_180.mp4 turned hflip,vflip -1 0 0 -1
+sample turned_270.mp4 turned transpose=clock 0 -1 1 0
+sample mirrored_left_right.mp4 turned hflip -1 0 0 1
+sample mirrored_up_down.mp4 turned vflip 1 0 0 -1
+sample transposed.mp4 turned transpose=cclock_flip 0 1 1 0
+sample anti_transposed.mp4 turned transpose=clock_flip 0 -1 -1 0
+sample turned_90_anamorphic.mp4 turned transpose=cclock,setsar=3/2 0 1 -1 0
+
+sample anamorphic_pal.mpg encode_filtered 720x576 25 25 setsar=16/15 -c:v mpeg2video -q:v 4 -g 12
+sample anamorphic_ntsc.mp4 encode_filtered 720x480 30000/1001 30 setsar=8/9 "${X264[@]}" \
+    -x264-params keyint=15:bframes=2
+sample anamorphic_4_3.mkv encode_filtered 240x240 25 25 setsar=4/3 "${X264[@]}"
+
+interlaced() {
+    local file=$1 size=$2
+    shift 2
+    ff -f lavfi -i "$(interlaced_pictures "$size" 25)" -frames:v 50 "${EXACT[@]}" \
+        -flags +ildct+ilme -top 1 "$@" "$file"
+}
+
+sample h264_interlaced.mp4 interlaced 320x240 "${X264[@]}" -x264-params keyint=25:tff=1:bframes=2
+sample mpeg2_interlaced.ts interlaced 320x240 -c:v mpeg2video -q:v 4 -g 12 -bf 2
+
+sample odd_size_420.mkv encode 321x241 25 20 -c:v ffv1 -pix_fmt yuv420p
+sample odd_size_444.mkv encode 321x241 25 20 -c:v ffv1 -pix_fmt yuv444p
+sample odd_size_444.mp4 encode 321x241 25 20 "${X264[@]}" -pix_fmt yuv444p
+sample odd_size.webm encode 321x241 25 20 -c:v libvpx-vp9 "${VPX[@]}" -pix_fmt yuv420p
+sample odd_size.gif encode 321x241 25 20
+sample odd_size_small.mkv encode 175x99 25 20 -c:v ffv1 -pix_fmt yuv420p
+sample odd_size_small.webm encode 175x99 25 20 -c:v libvpx "${VPX[@]}"
+
+sample h264_2160p.mp4 encode 3840x2160 30 12 "${X264[@]}" -preset ultrafast \
+    -x264-params keyint=6
+sample hevc_2160p.mp4 encode 3840x2160 30 8 "${X265[@]}" -tag:v hvc1 \
+    -x265-params "$X265_PARAMS:keyint=4"

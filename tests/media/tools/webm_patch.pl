@@ -1,0 +1,27 @@
+# Usage: webm_patch.pl IN OUT without-cues | impossible-duration
+# Copies a WebM file with its index blanked out, or with a stated duration of 3000 years.
+use strict;
+use warnings;
+
+my ($from, $to, $what) = @ARGV;
+open my $in, '<:raw', $from or die "$from: $!\n";
+my $data = do { local $/; <$in> };
+close $in;
+
+if ($what eq 'without-cues') {
+    # The element becomes an empty one of the same length ("Void", with a length of 8 bytes).
+    my $at = rindex $data, "\x1c\x53\xbb\x6b";
+    die "$from has no cues\n" if $at < 0;
+    my $rest = length($data) - $at - 9;
+    substr $data, $at, 9, "\xec\x01" . substr(pack('Q>', $rest), 1);
+} elsif ($what eq 'impossible-duration') {
+    my $at = index $data, "\x44\x89\x88";
+    die "$from states no duration\n" if $at < 0;
+    substr $data, $at + 3, 8, pack 'd>', 1e14;
+} else {
+    die "unknown patch: $what\n";
+}
+
+open my $out, '>:raw', $to or die "$to: $!\n";
+print $out $data;
+close $out or die "$to: $!\n";
