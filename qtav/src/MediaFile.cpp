@@ -31,6 +31,16 @@ bool isAvi(const AVFormatContext& format)
     return std::strcmp(format.iformat->name, "avi") == 0;
 }
 
+/// A bare sequence of pictures, without a container that would tell times.
+bool isRawStream(const AVFormatContext& format)
+{
+    constexpr const char* Names[] = {"h264", "hevc",      "vvc",  "mpegvideo", "m4v", "vc1",
+                                     "h263", "cavsvideo", "avs2", "avs3",      "obu", "dirac"};
+    return std::any_of(std::begin(Names), std::end(Names), [&format](const char* name) {
+        return std::strcmp(format.iformat->name, name) == 0;
+    });
+}
+
 } // namespace
 
 std::unique_ptr<MediaFile> MediaFile::open(const QString& path, QString& error)
@@ -147,7 +157,7 @@ void MediaFile::prepareVideoPipeline()
         }
     }
 
-    m_rawStream = m_format->iformat->flags & AVFMT_NOTIMESTAMPS;
+    m_rawStream = isRawStream(*m_format);
     const int delay = stream.codecpar->video_delay;
     if (m_rawStream || (isAvi(*m_format) && delay > 0))
         m_order = std::make_unique<PresentationOrder>(*parameters->codec, delay);
@@ -307,12 +317,13 @@ bool MediaFile::jumpNear(qint64 ms)
 bool MediaFile::rewind()
 {
     forgetPosition();
-    if (m_rawStream)
-        return av_seek_frame(m_format.get(), -1, 0, AVSEEK_FLAG_BYTE) >= 0 || reopen();
+    // Searching a damaged stream for its first time may end anywhere; its first byte is certain.
+    const bool goesByBytes = m_rawStream || jumpsAnywhere();
+    if (goesByBytes && av_seek_frame(m_format.get(), -1, 0, AVSEEK_FLAG_BYTE) >= 0)
+        return true;
     const qint64 first = m_parameters ? m_parameters->timeline.lastTickOf(0) : 0;
-    return av_seek_frame(m_format.get(), m_parameters ? m_video : -1, first,
-                         AVSEEK_FLAG_BACKWARD) >= 0 ||
-           reopen();
+    const int stream = m_parameters ? m_video : -1;
+    return av_seek_frame(m_format.get(), stream, first, AVSEEK_FLAG_BACKWARD) >= 0 || reopen();
 }
 
 bool MediaFile::reopen()
@@ -347,12 +358,12 @@ std::optional<qint64> MediaFile::confirmedDuration()
 bool MediaFile::reaches(qint64 ms)
 {
     // Landing this close to the end shows that the file is whole, or misses a little at most.
-    constexpr qint64 CloseMs = 15000;
-    constexpr qint64 RoundingMs = 1000;
+    const qint64 closeMs = std::min<qint64>(15000, ms / 10);
+    const qint64 roundingMs = std::min<qint64>(1000, ms / 10);
     const std::optional<qint64> landed = firstTimeAt(ms);
     if (!landed)
         return false;
-    return *landed + CloseMs >= ms || readToEnd() + RoundingMs >= ms;
+    return *landed + closeMs >= ms || readToEnd() + roundingMs >= ms;
 }
 
 qint64 MediaFile::measuredDuration()
