@@ -164,7 +164,7 @@ list_key_frames() {
     ffprobe -v quiet -select_streams "$stream" -show_entries packet=pts,flags -of csv=p=0 "$file" |
         tool rank_key_packets ||
         ffprobe -v quiet -select_streams "$stream" -show_entries frame=key_frame -of csv=p=0 \
-            "$file" | awk -F , '$1 == 1 { print NR - 1 }'
+            "$file" | awk -F , '/^[01]/ { if ($1 == 1) print n + 0; n++ }'
 }
 
 # main_video_stream FILE: the number of its first video stream that is no attached picture.

@@ -2,7 +2,13 @@
 #include "tests/support/FrameNumber.h"
 #include "tests/support/RunProgram.h"
 
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QtTest>
+
+#include <cmath>
 
 using namespace testsupport;
 
@@ -11,18 +17,19 @@ Q_DECLARE_METATYPE(testsupport::Sample)
 namespace {
 
 /// The pictures of the first video, upright, in the order of showing and in the size as stored.
+/// Of a damaged file, those that come out.
 QList<QImage> decodedByFfmpeg(const Sample& sample)
 {
     const bool sideways = sample.has(Trait::Sideways);
     const QSize size = sideways ? sample.codedSize.transposed() : sample.codedSize;
-    const auto result = runProgram(
-        QStringLiteral("ffmpeg"),
-        {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-nostdin"),
-         QStringLiteral("-i"), samplePath(sample.file), QStringLiteral("-map"),
-         QStringLiteral("0:V:0"), QStringLiteral("-vsync"), QStringLiteral("passthrough"),
-         QStringLiteral("-pix_fmt"), QStringLiteral("gray"), QStringLiteral("-f"),
-         QStringLiteral("rawvideo"), QStringLiteral("-")});
-    if (!result.succeeded())
+    const QStringList arguments{
+        QStringLiteral("-v"),       QStringLiteral("error"),  QStringLiteral("-nostdin"),
+        QStringLiteral("-i"),       samplePath(sample.file),  QStringLiteral("-map"),
+        QStringLiteral("0:V:0"),    QStringLiteral("-vsync"), QStringLiteral("passthrough"),
+        QStringLiteral("-pix_fmt"), QStringLiteral("gray"),   QStringLiteral("-f"),
+        QStringLiteral("rawvideo"), QStringLiteral("-")};
+    const auto result = runProgram(QStringLiteral("ffmpeg"), arguments);
+    if (!result.succeeded() && !sample.has(Trait::Damaged))
         qWarning("%s", result.standardError.constData());
     const int pictureBytes = size.width() * size.height();
     QList<QImage> pictures;
@@ -33,6 +40,29 @@ QList<QImage> decodedByFfmpeg(const Sample& sample)
                 .copy());
     }
     return pictures;
+}
+
+ProgramResult ffprobe(const QStringList& arguments)
+{
+    return runProgram(QStringLiteral("ffprobe"),
+                      QStringList{QStringLiteral("-v"), QStringLiteral("error")} + arguments);
+}
+
+/// What ffprobe tells of each frame of the first video, beside its rate and the container's start.
+QJsonObject probe(const Sample& sample, const QString& ofFrames)
+{
+    const auto result = ffprobe(
+        {QStringLiteral("-select_streams"), QStringLiteral("V:0"), QStringLiteral("-show_entries"),
+         QStringLiteral("format=start_time:stream=r_frame_rate:frame=") + ofFrames,
+         QStringLiteral("-of"), QStringLiteral("json"), samplePath(sample.file)});
+    return QJsonDocument::fromJson(result.standardOutput).object();
+}
+
+double number(const QJsonObject& object, const QString& key)
+{
+    bool isNumber = false;
+    const double value = object.value(key).toString().toDouble(&isNumber);
+    return isNumber ? value : std::nan("");
 }
 
 } // namespace
@@ -58,6 +88,90 @@ private slots:
         QCOMPARE(pictures.size(), sample.frames);
         for (int n = 0; n < pictures.size(); ++n)
             QCOMPARE(frameNumber(pictures[n]).value_or(-1), sample.firstNumber + n);
+    }
+
+    void times_areThoseOfTheContainer_data() { addVideoRows(); }
+    void times_areThoseOfTheContainer()
+    {
+        QFETCH(Sample, sample);
+        const QJsonObject probed = probe(sample, QStringLiteral("best_effort_timestamp_time"));
+        const QJsonArray frames = probed.value(QStringLiteral("frames")).toArray();
+        QCOMPARE(frames.size(), sample.frames);
+        if (sample.has(Trait::NoPresentationTimes)) {
+            // What is reported there are decoding times; the rate is all that the file states.
+            const QJsonObject stream =
+                probed.value(QStringLiteral("streams")).toArray().first().toObject();
+            const QString rate =
+                QStringLiteral("%1/%2").arg(sample.frameRate.num).arg(sample.frameRate.den);
+            QCOMPARE(stream.value(QStringLiteral("r_frame_rate")).toString(), rate);
+            return;
+        }
+        const double start =
+            number(probed.value(QStringLiteral("format")).toObject(), QStringLiteral("start_time"));
+        for (int n = 0; n < sample.frames; ++n) {
+            const double seconds =
+                number(frames[n].toObject(), QStringLiteral("best_effort_timestamp_time")) - start;
+            // Printed times are rounded to microseconds: 2 of them are not enough to reach the
+            // next tick of any container.
+            QCOMPARE(frameTimeMs(sample, n), qint64(std::floor((seconds + 2e-6) * 1000)));
+        }
+    }
+
+    void keyFrames_areThoseOfTheDecoder_data() { addVideoRows(); }
+    void keyFrames_areThoseOfTheDecoder()
+    {
+        QFETCH(Sample, sample);
+        const QJsonArray frames =
+            probe(sample, QStringLiteral("key_frame")).value(QStringLiteral("frames")).toArray();
+        QList<int> expected;
+        for (int n = 0; n < frames.size(); ++n) {
+            if (frames[n].toObject().value(QStringLiteral("key_frame")).toInt() == 1)
+                expected.append(n);
+        }
+        QVERIFY(!expected.isEmpty());
+        QCOMPARE(expected.first() == 0, !sample.has(Trait::StartsInsideGop));
+        const QList<int> listed = keyFrames(sample);
+        if (sample.has(Trait::IntraRefresh)) {
+            // The later ones are marked in the container, but no whole picture comes from them.
+            QVERIFY(listed.size() > expected.size());
+            QCOMPARE(expected, QList<int>{0});
+            QCOMPARE(listed.first(), 0);
+            return;
+        }
+        QCOMPARE(listed, expected);
+    }
+
+    void noVideo_isFound_inSoundFiles()
+    {
+        for (const Sample& sample : noVideoSamples()) {
+            const auto result = ffprobe({QStringLiteral("-select_streams"), QStringLiteral("V"),
+                                         QStringLiteral("-show_entries"),
+                                         QStringLiteral("stream=index"), QStringLiteral("-of"),
+                                         QStringLiteral("csv=p=0"), samplePath(sample.file)});
+            QVERIFY2(result.succeeded(), qPrintable(sample.file));
+            QCOMPARE(result.standardOutput.trimmed(), QByteArray());
+        }
+    }
+
+    void unopenableFiles_exist_andAreNoVideos()
+    {
+        for (const Sample& sample : brokenSamples()) {
+            QVERIFY2(QFileInfo::exists(samplePath(sample.file)), qPrintable(sample.file));
+            const bool opens = ffprobe({samplePath(sample.file)}).succeeded();
+            QVERIFY2(opens != sample.has(Trait::Unopenable), qPrintable(sample.file));
+        }
+    }
+
+    void damagedFiles_loseFrames_butShowNoOthers()
+    {
+        for (const Sample& sample : brokenSamples()) {
+            if (sample.has(Trait::Unopenable))
+                continue;
+            int readable = 0;
+            for (const QImage& picture : decodedByFfmpeg(sample))
+                readable += frameNumber(picture).value_or(sample.frames) < sample.frames ? 1 : 0;
+            QVERIFY2(readable > 0, qPrintable(sample.file));
+        }
     }
 };
 

@@ -1,0 +1,69 @@
+#include "tests/support/ColourSamples.h"
+
+namespace testsupport {
+
+namespace {
+
+constexpr QSize standardSize{320, 240};
+constexpr QSize highSize{1280, 720};
+constexpr int columns = 4;
+constexpr int rows = 2;
+constexpr int margin = 16;
+
+QString container(int bits)
+{
+    return bits == 8 ? QStringLiteral("8bit.mp4") : QStringLiteral("10bit.mkv");
+}
+
+QList<ColourSample> colourSampleTable()
+{
+    const QList<QPair<QString, Matrix>> matrices{{QStringLiteral("bt601"), Matrix::Bt601},
+                                                 {QStringLiteral("bt709"), Matrix::Bt709},
+                                                 {QStringLiteral("bt2020"), Matrix::Bt2020}};
+    QList<ColourSample> samples;
+    for (const int bits : {8, 10}) {
+        for (const auto& [name, matrix] : matrices) {
+            for (const bool full : {false, true}) {
+                const QString range = full ? QStringLiteral("full") : QStringLiteral("limited");
+                samples.append({QStringLiteral("colour_%1_%2_%3").arg(name, range, container(bits)),
+                                matrix, full, true, bits, standardSize});
+            }
+        }
+        samples.append({QStringLiteral("colour_untagged_sd_") + container(bits), Matrix::Bt601,
+                        false, false, bits, standardSize});
+        samples.append({QStringLiteral("colour_untagged_hd_") + container(bits), Matrix::Bt709,
+                        false, false, bits, highSize});
+    }
+    return samples;
+}
+
+} // namespace
+
+const QList<ColourSample>& colourSamples()
+{
+    static const QList<ColourSample> samples = colourSampleTable();
+    return samples;
+}
+
+QList<PatchCodes> patchCodes(const ColourSample& sample)
+{
+    // As tests/media/recipes/40_colours.sh has them.
+    QList<PatchCodes> codes{{16, 128, 128},  {235, 128, 128}, {60, 128, 128},  {120, 100, 160},
+                            {120, 160, 100}, {150, 100, 110}, {100, 150, 150}, {81, 90, 240}};
+    if (sample.bits == 10) {
+        for (PatchCodes& patch : codes)
+            patch = {4 * patch.y + 1, 4 * patch.cb + 1, 4 * patch.cr + 1};
+    }
+    return codes;
+}
+
+QRect patchArea(const ColourSample& sample, int patch)
+{
+    const int top = sample.size.height() / 12 * 2;
+    const int width = sample.size.width() / columns;
+    const int height = (sample.size.height() - top) / rows;
+    const QRect whole(patch % columns * width, top + patch / columns * height, width, height);
+    return whole.adjusted(margin, margin, -margin, -margin);
+}
+
+} // namespace testsupport
