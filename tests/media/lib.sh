@@ -1,5 +1,6 @@
 # What every recipe builds on: the pictures, the sounds, and the bookkeeping of what is made.
-# Sourced by make_samples.sh; expects OUT, the folder of the finished samples.
+# Sourced by make_samples.sh; expects OUT, the folder of the finished samples, and RECIPES_FILE, the
+# file whose recipes are being declared.
 
 # Two encoders at a time, one thread each: faster for such short videos than many threads for
 # one, and the outcome does not depend on the machine.
@@ -88,6 +89,7 @@ tool() {
 
 NAMES=()             # every declared sample, in order
 declare -A RECIPES=() # its command
+declare -A ORIGINS=() # the file of recipes that declares it
 declare -A NEEDS=()   # the sample that it is made from, if any
 
 # sample NAME COMMAND ARG…: declares a sample. `COMMAND FILE ARG…` makes it in FILE, whose
@@ -97,6 +99,7 @@ sample() {
     shift
     NAMES+=("$name")
     RECIPES[$name]=$(printf '%q ' "$@")
+    ORIGINS[$name]=$RECIPES_FILE
 }
 
 # derived NAME SOURCE COMMAND ARG…: declares a sample that `COMMAND FILE SOURCE_FILE ARG…` makes
@@ -108,12 +111,12 @@ derived() {
     NEEDS[$name]=$source
 }
 
-# stamp_of NAME: changes whenever the sample would come out different.
+# stamp_of NAME: changes whenever the sample might come out different.
 stamp_of() {
-    local name=$1 recipe=${RECIPES[$1]} source=${NEEDS[$1]:-}
+    local name=$1 source=${NEEDS[$1]:-}
     {
-        echo "$recipe"
-        declare -f "${recipe%% *}" || true # a program, not a function
+        echo "${RECIPES[$name]}"
+        grep -vE '^(sample|derived) ' "${ORIGINS[$name]}"
         [[ -z $source ]] || stamp_of "$source"
         echo "$TOOLCHAIN"
     } | sha256sum | cut -d ' ' -f 1

@@ -67,10 +67,10 @@ main() {
     readonly OUT
     # shellcheck source=lib.sh
     . "$MEDIA_DIR/lib.sh"
-    local recipes
-    for recipes in "$MEDIA_DIR"/recipes/*.sh; do
+    local RECIPES_FILE
+    for RECIPES_FILE in "$MEDIA_DIR"/recipes/*.sh; do
         # shellcheck source=/dev/null
-        . "$recipes"
+        . "$RECIPES_FILE"
     done
     if [[ ${1:-} == --list ]]; then
         printf '%s\n' "${NAMES[@]}"

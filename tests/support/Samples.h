@@ -21,7 +21,7 @@ enum class Trait : quint32 {
     NoStatedDuration = 1u << 1,    ///< the container states no length, or an impossible one
     IntraRefresh = 1u << 2,        ///< no whole picture at a key packet but the first
     OpenGop = 1u << 3,             ///< key frames are followed by frames that need the GOP before
-    Alpha = 1u << 4,               ///< transparent pixels below the number
+    Alpha = 1u << 4,               ///< lower half: left transparent, right with alpha 128 (of 255)
     Sound = 1u << 5,               ///< has a sound track
     Interlaced = 1u << 6,          ///< coded as two fields
     NoPresentationTimes = 1u << 7, ///< AVI and raw streams: times follow from the frame's number
@@ -60,7 +60,8 @@ struct Sample
 /// Ends the test program when that is not set.
 [[nodiscard]] QString samplePath(const QString& file);
 
-/// All sound video files, in which every frame can be read and has its number.
+/// All undamaged videos but those of ColourSamples.h: every frame can be decoded and bears its
+/// number.
 [[nodiscard]] const QList<Sample>& allVideoSamples();
 
 /// Files without video: sound alone, sound with a cover picture.
