@@ -199,7 +199,7 @@ QString AVDemuxer::errorString() const
 
 bool AVDemuxer::atEnd() const
 {
-    return d->fileEnded && d->kept.empty() && d->drainsLeft == 0;
+    return !d->file || (d->fileEnded && d->kept.empty() && d->drainsLeft == 0);
 }
 
 qint64 AVDemuxer::duration() const

@@ -48,7 +48,7 @@ void AVDemuxerTest::newDemuxer_isEmpty()
 {
     AVDemuxer demuxer;
     QVERIFY(!demuxer.isLoaded());
-    QVERIFY(!demuxer.atEnd());
+    QVERIFY(demuxer.atEnd());
     QVERIFY(!demuxer.readFrame());
     QVERIFY(!demuxer.seek(0));
     QCOMPARE(demuxer.duration(), 0);

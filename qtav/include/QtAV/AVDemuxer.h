@@ -58,7 +58,8 @@ public:
     /// Why the last load(), seek() or readFrame() failed; empty when none did since load().
     QString errorString() const;
 
-    /// True when the last packet, drain packets included, has been read.
+    /// True when the last packet, drain packets included, has been read, and when nothing is
+    /// loaded.
     bool atEnd() const;
 
     /// Length in milliseconds; 0 when nothing is loaded or nothing could be measured.
