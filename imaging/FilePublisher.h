@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// What to do with a file that already bears the name of a new one.
+enum class ExistingFile {
+    Replace, ///< The new file takes its place, in one step.
+    Keep     ///< It stays as it is, even when it appears in the very moment of writing.
+};
+
+/// How writing a file ended.
+enum class WriteResult {
+    Written,       ///< The whole file stands under its name.
+    AlreadyExists, ///< Another file bears the name and was kept; only with ExistingFile::Keep.
+    Failed         ///< Nothing changed: no file, or the old one, stands under the name.
+};
+
+/// Puts whole files under their names.
+///
+/// The content goes into a hidden file in the same folder first, which takes its final name only
+/// when it is complete. Whatever happens on the way (a full disk, the end of the process), nobody
+/// ever sees half a file under the final name. The hidden file is removed on every failure; only
+/// a process that is killed in the middle leaves one behind, named ".morvantile-….part".
+///
+/// Nothing is forced onto the disk, so a power cut may still lose what was just written.
+///
+/// Without state: callable from any thread, and safe against other threads, processes and programs
+/// that write into the same folder.
+namespace FilePublisher {
+
+/// Writes `content` to the file `fileName`.
+///
+/// With ExistingFile::Replace, a symbolic link is followed and the file behind it replaced; the
+/// new file takes over the permissions of the old one. What is write-protected, or no regular file
+/// at all, is not replaced: that is a failure.
+///
+/// With ExistingFile::Keep, of any number of writers of one name exactly one gets Written, and the
+/// others AlreadyExists. On file systems that can neither rename without replacing nor make hard
+/// links, the name is claimed by an empty file for the moment before the content takes its place.
+[[nodiscard]] WriteResult publish(const QString& fileName, const QByteArray& content,
+                                  ExistingFile existing);
+
+} // namespace FilePublisher

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "imaging/FilePublisher.h"
+
+#include <QImage>
+#include <QString>
+
+/// Writes images to files, whole or not at all.
+///
+/// The picture is encoded in memory and then put under its name by FilePublisher, with all that
+/// that promises. Without state: callable from any thread.
+namespace ImageFileWriter {
+
+/// The quality that leaves the choice to the format.
+constexpr int DefaultQuality = -1;
+
+/// Writes the image to `fileName`.
+///
+/// @param quality  0 (small file) to 100 (true picture), or DefaultQuality; above 100 counts as
+///     100. What it means is up to the format.
+/// @return Failed for a null image, for a name whose suffix stands for no format that can be
+///     written (capitals do not matter), and where the file cannot be written.
+///
+/// The format is the suffix's; the last one's where the name has several dots.
+[[nodiscard]] WriteResult write(const QString& fileName, const QImage& image, int quality,
+                                ExistingFile existing);
+
+} // namespace ImageFileWriter

@@ -1,0 +1,411 @@
+#include "imaging/FilePublisher.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <memory>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int LargeSize = 4 * 1024 * 1024;
+constexpr uid_t Nobody = 65534;
+/// After so long a child ends itself, should the test that started it fail.
+constexpr unsigned ChildSeconds = 30;
+
+QByteArray read(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
+bool put(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+/// Runs the function in a process of its own, whose exit code is what the function returns.
+template <typename Function>
+pid_t startProcess(Function function)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::alarm(ChildSeconds);
+        ::_exit(function());
+    }
+    return child;
+}
+
+int exitCode(pid_t child)
+{
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+/// While it lives, no file of the process can grow beyond the size: what a full disk is like.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t size)
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        m_handler = ::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{size, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        ::signal(SIGXFSZ, m_handler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit m_before{};
+    sighandler_t m_handler = SIG_DFL;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(ExistingFile)
+
+class FilePublisherTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    [[nodiscard]] QString path(const char* name) const
+    {
+        return m_folder->filePath(QLatin1String(name));
+    }
+    /// The names of all files in the folder, hidden ones included.
+    [[nodiscard]] QStringList files() const
+    {
+        return QDir(m_folder->path())
+            .entryList(QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
+    }
+    /// What a process of a user without privileges, which root is not, gets to hear.
+    [[nodiscard]] static WriteResult publishedByNobody(const QString& path, ExistingFile existing)
+    {
+        const pid_t child = startProcess([&] {
+            if (::geteuid() == 0 && ::setuid(Nobody) != 0)
+                return -1;
+            return static_cast<int>(FilePublisher::publish(path, "new", existing));
+        });
+        return static_cast<WriteResult>(exitCode(child));
+    }
+    static void addBothWays()
+    {
+        QTest::addColumn<ExistingFile>("existing");
+        QTest::newRow("replace") << ExistingFile::Replace;
+        QTest::newRow("keep") << ExistingFile::Keep;
+    }
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+    }
+    void cleanup() { m_folder->setAutoRemove(!QTest::currentTestFailed()); }
+
+    void publish_writesTheWholeFileAndNothingElse_data() { addBothWays(); }
+    void publish_writesTheWholeFileAndNothingElse()
+    {
+        QFETCH(ExistingFile, existing);
+        const QByteArray content(LargeSize, 'x');
+        QCOMPARE(FilePublisher::publish(path("new.jpg"), content, existing), WriteResult::Written);
+        QCOMPARE(read(path("new.jpg")), content);
+        QCOMPARE(files(), QStringList{QStringLiteral("new.jpg")});
+    }
+
+    void publish_writesAnEmptyFile_whenThereIsNoContent()
+    {
+        QCOMPARE(FilePublisher::publish(path("empty"), {}, ExistingFile::Keep),
+                 WriteResult::Written);
+        QCOMPARE(read(path("empty")), QByteArray());
+    }
+
+    void publish_works_whateverTheNamesAre_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("place markers") << QStringLiteral("%1 %2 %3") << QStringLiteral("%1.jpg");
+        QTest::newRow("other letters") << QStringLiteral("Füße") << QStringLiteral("写真.jpg");
+        QTest::newRow("quotes, blanks")
+            << QStringLiteral("a 'b' \"c\"") << QStringLiteral(" $x .jpg");
+        QTest::newRow("longest") << QStringLiteral("d") << QString(255, QLatin1Char('n'));
+    }
+    void publish_works_whateverTheNamesAre()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, name);
+        QVERIFY(QDir(m_folder->path()).mkdir(folder));
+        const QString file = m_folder->filePath(folder + QLatin1Char('/') + name);
+        QCOMPARE(FilePublisher::publish(file, "1", ExistingFile::Keep), WriteResult::Written);
+        QCOMPARE(FilePublisher::publish(file, "2", ExistingFile::Replace), WriteResult::Written);
+        QCOMPARE(read(file), QByteArray("2"));
+        QCOMPARE(QDir(m_folder->filePath(folder)).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{name});
+    }
+
+    void publish_takesRelativeNames()
+    {
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+        const WriteResult result =
+            FilePublisher::publish(QStringLiteral("near"), "1", ExistingFile::Keep);
+        QVERIFY(QDir::setCurrent(before));
+        QCOMPARE(result, WriteResult::Written);
+        QCOMPARE(read(path("near")), QByteArray("1"));
+    }
+
+    void publish_replacesTheFile_whenToldTo()
+    {
+        QVERIFY(put(path("file"), "a longer old content"));
+        QCOMPARE(FilePublisher::publish(path("file"), "new", ExistingFile::Replace),
+                 WriteResult::Written);
+        QCOMPARE(read(path("file")), QByteArray("new"));
+        QCOMPARE(files().size(), 1);
+    }
+
+    void publish_leavesTheFile_whenToldToKeepIt()
+    {
+        QVERIFY(put(path("file"), "old"));
+        QCOMPARE(FilePublisher::publish(path("file"), "new", ExistingFile::Keep),
+                 WriteResult::AlreadyExists);
+        QCOMPARE(read(path("file")), QByteArray("old"));
+        QCOMPARE(files().size(), 1);
+    }
+
+    void publish_leavesEvenADanglingLink_whenToldToKeep()
+    {
+        QVERIFY(QFile::link(path("nowhere"), path("link")));
+        QCOMPARE(FilePublisher::publish(path("link"), "new", ExistingFile::Keep),
+                 WriteResult::AlreadyExists);
+        QVERIFY(!QFile::exists(path("nowhere")));
+    }
+
+    void publish_replacesWhatALinkLeadsTo()
+    {
+        QVERIFY(put(path("file"), "old"));
+        QVERIFY(QFile::link(path("file"), path("link")));
+        QCOMPARE(FilePublisher::publish(path("link"), "new", ExistingFile::Replace),
+                 WriteResult::Written);
+        QVERIFY(QFileInfo(path("link")).isSymLink());
+        QCOMPARE(read(path("file")), QByteArray("new"));
+    }
+
+    void publish_makesWhatADanglingLinkLeadsTo()
+    {
+        QVERIFY(QFile::link(path("nowhere"), path("link")));
+        QCOMPARE(FilePublisher::publish(path("link"), "new", ExistingFile::Replace),
+                 WriteResult::Written);
+        QCOMPARE(read(path("nowhere")), QByteArray("new"));
+    }
+
+    void publish_keepsThePermissions_whenItReplaces()
+    {
+        QVERIFY(put(path("file"), "old"));
+        const auto permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
+        QVERIFY(QFile::setPermissions(path("file"), permissions));
+        const auto before = QFile::permissions(path("file"));
+        QCOMPARE(FilePublisher::publish(path("file"), "new", ExistingFile::Replace),
+                 WriteResult::Written);
+        QCOMPARE(QFile::permissions(path("file")), before);
+    }
+
+    void publish_givesNewFilesTheUsualPermissions()
+    {
+        QVERIFY(put(path("usual"), "1"));
+        QCOMPARE(FilePublisher::publish(path("file"), "1", ExistingFile::Keep),
+                 WriteResult::Written);
+        QCOMPARE(QFile::permissions(path("file")), QFile::permissions(path("usual")));
+    }
+
+    void publish_fails_whenTheFolderIsMissing_data() { addBothWays(); }
+    void publish_fails_whenTheFolderIsMissing()
+    {
+        QFETCH(ExistingFile, existing);
+        QCOMPARE(FilePublisher::publish(path("missing/file"), "1", existing), WriteResult::Failed);
+        QCOMPARE(files(), QStringList());
+    }
+
+    void publish_fails_whenTheFolderIsAFile_data() { addBothWays(); }
+    void publish_fails_whenTheFolderIsAFile()
+    {
+        QFETCH(ExistingFile, existing);
+        QVERIFY(put(path("folder"), "old"));
+        QCOMPARE(FilePublisher::publish(path("folder/file"), "1", existing), WriteResult::Failed);
+        QCOMPARE(read(path("folder")), QByteArray("old"));
+    }
+
+    void publish_fails_whenTheNameIsAFolders()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
+        QCOMPARE(FilePublisher::publish(path("folder"), "1", ExistingFile::Replace),
+                 WriteResult::Failed);
+        QCOMPARE(FilePublisher::publish(path("folder"), "1", ExistingFile::Keep),
+                 WriteResult::AlreadyExists);
+        QCOMPARE(files(), QStringList());
+    }
+
+    void publish_fails_whenTheNameIsNoRegularFiles()
+    {
+        QCOMPARE(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+        QCOMPARE(FilePublisher::publish(path("pipe"), "1", ExistingFile::Replace),
+                 WriteResult::Failed);
+        QCOMPARE(files(), QStringList{QStringLiteral("pipe")});
+    }
+
+    void publish_fails_whenTheNameIsTooLong_data() { addBothWays(); }
+    void publish_fails_whenTheNameIsTooLong()
+    {
+        QFETCH(ExistingFile, existing);
+        const QByteArray name(256, 'n');
+        QCOMPARE(FilePublisher::publish(path(name.constData()), "1", existing),
+                 WriteResult::Failed);
+        QCOMPARE(files(), QStringList());
+    }
+
+    void publish_fails_whenTheFolderIsWriteProtected_data() { addBothWays(); }
+    void publish_fails_whenTheFolderIsWriteProtected()
+    {
+        QFETCH(ExistingFile, existing);
+        QCOMPARE(::chmod(QFile::encodeName(m_folder->path()).constData(), 0555), 0);
+        QCOMPARE(publishedByNobody(path("file"), existing), WriteResult::Failed);
+        QCOMPARE(::chmod(QFile::encodeName(m_folder->path()).constData(), 0777), 0);
+        QCOMPARE(files(), QStringList());
+        QCOMPARE(publishedByNobody(path("file"), existing), WriteResult::Written);
+    }
+
+    void publish_fails_whenTheFileIsWriteProtected()
+    {
+        QCOMPARE(::chmod(QFile::encodeName(m_folder->path()).constData(), 0777), 0);
+        QVERIFY(put(path("file"), "old"));
+        QCOMPARE(::chmod(QFile::encodeName(path("file")).constData(), 0444), 0);
+        QCOMPARE(publishedByNobody(path("file"), ExistingFile::Replace), WriteResult::Failed);
+        QCOMPARE(read(path("file")), QByteArray("old"));
+        QCOMPARE(files().size(), 1);
+    }
+
+    void publish_failsWithoutATrace_whenTheFileCannotGrow_data() { addBothWays(); }
+    void publish_failsWithoutATrace_whenTheFileCannotGrow()
+    {
+        QFETCH(ExistingFile, existing);
+        WriteResult result = WriteResult::Written;
+        {
+            const FileSizeLimit limit(100000);
+            result = FilePublisher::publish(path("file"), QByteArray(LargeSize, 'x'), existing);
+        }
+        QCOMPARE(result, WriteResult::Failed);
+        QCOMPARE(files(), QStringList());
+    }
+
+    void publish_leavesTheOldFile_whenTheNewOneCannotGrow()
+    {
+        QVERIFY(put(path("file"), "old"));
+        WriteResult result = WriteResult::Written;
+        {
+            const FileSizeLimit limit(100000);
+            result = FilePublisher::publish(path("file"), QByteArray(LargeSize, 'x'),
+                                            ExistingFile::Replace);
+        }
+        QCOMPARE(result, WriteResult::Failed);
+        QCOMPARE(read(path("file")), QByteArray("old"));
+        QCOMPARE(files().size(), 1);
+    }
+
+    void publish_failsWithoutATrace_whenTheDiskIsFull()
+    {
+#ifdef Q_OS_LINUX
+        const QByteArray folder = QFile::encodeName(m_folder->path());
+        if (::mount("tmpfs", folder.constData(), "tmpfs", 0, "size=1m") != 0)
+            QSKIP("Mounting a small disk needs root's rights.");
+        const WriteResult tooLarge =
+            FilePublisher::publish(path("file"), QByteArray(LargeSize, 'x'), ExistingFile::Keep);
+        const QStringList left = files();
+        const WriteResult small =
+            FilePublisher::publish(path("file"), QByteArray(1000, 'x'), ExistingFile::Keep);
+        QCOMPARE(::umount(folder.constData()), 0);
+        QCOMPARE(tooLarge, WriteResult::Failed);
+        QCOMPARE(left, QStringList());
+        QCOMPARE(small, WriteResult::Written);
+#else
+        QSKIP("Small disks are made with Linux's tmpfs.");
+#endif
+    }
+
+    void publish_hasOneWinner_whenManyProcessesRace()
+    {
+        constexpr int processes = 8;
+        constexpr int names = 100;
+        // Each process returns how many of the names it got.
+        std::vector<pid_t> children;
+        for (int number = 0; number < processes; ++number) {
+            children.push_back(startProcess([this, number] {
+                int won = 0;
+                for (int name = 0; name < names; ++name) {
+                    const QByteArray content(1000 + number, static_cast<char>('a' + number));
+                    const WriteResult result = FilePublisher::publish(
+                        path(QByteArray::number(name).constData()), content, ExistingFile::Keep);
+                    if (result == WriteResult::Failed)
+                        return 255;
+                    won += result == WriteResult::Written ? 1 : 0;
+                }
+                return won;
+            }));
+        }
+        int won = 0;
+        for (const pid_t child : children) {
+            const int code = exitCode(child);
+            QVERIFY(code >= 0 && code <= names);
+            won += code;
+        }
+        QCOMPARE(won, names);
+        QCOMPARE(files().size(), names);
+        for (int name = 0; name < names; ++name) {
+            const QByteArray content = read(path(QByteArray::number(name).constData()));
+            const int number = content.at(0) - 'a';
+            QCOMPARE(content, QByteArray(1000 + number, static_cast<char>('a' + number)));
+        }
+    }
+
+    void publish_neverShowsHalfAFile_whenTheProcessIsKilled()
+    {
+        const QByteArray first(LargeSize, 'a');
+        const QByteArray second(LargeSize, 'b');
+        for (int round = 0; round < 10; ++round) {
+            const pid_t child = startProcess([&] {
+                for (;;) {
+                    for (const QByteArray& content : {first, second}) {
+                        if (FilePublisher::publish(path("file"), content, ExistingFile::Replace) !=
+                            WriteResult::Written)
+                            return 1;
+                    }
+                }
+            });
+            QTRY_VERIFY(QFile::exists(path("file")));
+            QTest::qSleep(1 + 7 * round);
+            QCOMPARE(::kill(child, SIGKILL), 0);
+            QCOMPARE(exitCode(child), -1);
+            const QByteArray content = read(path("file"));
+            QVERIFY(content == first || content == second);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(FilePublisherTest)
+#include "FilePublisherTest.moc"

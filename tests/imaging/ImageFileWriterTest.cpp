@@ -1,0 +1,147 @@
+#include "imaging/ImageFileWriter.h"
+
+#include <QDir>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+QImage picture()
+{
+    QImage image(40, 30, QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, qRgb(6 * x, 8 * y, (x * y) % 256));
+    }
+    return image;
+}
+
+QByteArray read(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class ImageFileWriterTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    [[nodiscard]] QStringList files() const
+    {
+        return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden);
+    }
+
+private slots:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+    void cleanup() { m_folder->setAutoRemove(!QTest::currentTestFailed()); }
+
+    void write_takesTheFormatFromTheSuffix_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("format");
+        QTest::newRow("jpg") << QStringLiteral("a.jpg") << QByteArray("jpeg");
+        QTest::newRow("jpeg") << QStringLiteral("a.jpeg") << QByteArray("jpeg");
+        QTest::newRow("png") << QStringLiteral("a.png") << QByteArray("png");
+        QTest::newRow("bmp") << QStringLiteral("a.bmp") << QByteArray("bmp");
+        QTest::newRow("tif") << QStringLiteral("a.tif") << QByteArray("tiff");
+        QTest::newRow("tiff") << QStringLiteral("a.tiff") << QByteArray("tiff");
+        QTest::newRow("capitals") << QStringLiteral("a.PNG") << QByteArray("png");
+        QTest::newRow("several dots") << QStringLiteral("a.jpg.b.png") << QByteArray("png");
+        QTest::newRow("hidden") << QStringLiteral(".jpg") << QByteArray("jpeg");
+    }
+    void write_takesTheFormatFromTheSuffix()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, format);
+        const QString path = m_folder->filePath(name);
+        QCOMPARE(ImageFileWriter::write(path, picture(), ImageFileWriter::DefaultQuality,
+                                        ExistingFile::Keep),
+                 WriteResult::Written);
+        QCOMPARE(files(), QStringList{name});
+        QImageReader reader(path);
+        reader.setDecideFormatFromContent(true);
+        QCOMPARE(reader.format(), format);
+        const QImage image = reader.read();
+        QCOMPARE(image.size(), picture().size());
+        if (format != "jpeg")
+            QCOMPARE(image.convertToFormat(QImage::Format_ARGB32), picture());
+    }
+
+    void write_givesWhatQtsWriterGives_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<int>("quality");
+        for (const QByteArray& suffix :
+             {QByteArray("jpg"), QByteArray("png"), QByteArray("bmp"), QByteArray("tiff")}) {
+            for (const int quality : {-1, 0, 50, 100, 150}) {
+                QTest::newRow((suffix + ' ' + QByteArray::number(quality)).constData())
+                    << QString::fromLatin1(suffix) << quality;
+            }
+        }
+    }
+    void write_givesWhatQtsWriterGives()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(int, quality);
+        const QString ours = m_folder->filePath(QStringLiteral("ours.") + suffix);
+        const QString qts = m_folder->filePath(QStringLiteral("qts.") + suffix);
+        QImageWriter writer(qts);
+        writer.setQuality(quality);
+        QVERIFY(writer.write(picture()));
+        QCOMPARE(ImageFileWriter::write(ours, picture(), quality, ExistingFile::Keep),
+                 WriteResult::Written);
+        QVERIFY(read(ours) == read(qts));
+    }
+
+    void write_failsWithoutATrace_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QImage>("image");
+        QTest::newRow("null image") << QStringLiteral("a.jpg") << QImage();
+        QTest::newRow("unknown suffix") << QStringLiteral("a.xyz") << picture();
+        QTest::newRow("empty suffix") << QStringLiteral("a.") << picture();
+        QTest::newRow("no suffix") << QStringLiteral("png") << picture();
+        QTest::newRow("format that is only read") << QStringLiteral("a.gif") << picture();
+        QTest::newRow("suffix beyond ASCII") << QStringLiteral("a.ſpng") << picture();
+        QTest::newRow("missing folder") << QStringLiteral("missing/a.jpg") << picture();
+        QTest::newRow("larger than a JPEG can be")
+            << QStringLiteral("a.jpg") << QImage(66000, 2, QImage::Format_Grayscale8);
+    }
+    void write_failsWithoutATrace()
+    {
+        QFETCH(QString, name);
+        QFETCH(QImage, image);
+        for (const auto existing : {ExistingFile::Keep, ExistingFile::Replace}) {
+            QCOMPARE(ImageFileWriter::write(m_folder->filePath(name), image,
+                                            ImageFileWriter::DefaultQuality, existing),
+                     WriteResult::Failed);
+        }
+        QCOMPARE(files(), QStringList());
+    }
+
+    void write_passesOnWhatToDoWithAnExistingFile()
+    {
+        const QString path = m_folder->filePath(QStringLiteral("a.png"));
+        const QImage other = picture().mirrored();
+        const auto write = [&path](const QImage& image, ExistingFile existing) {
+            return ImageFileWriter::write(path, image, ImageFileWriter::DefaultQuality, existing);
+        };
+        QCOMPARE(write(picture(), ExistingFile::Keep), WriteResult::Written);
+        QCOMPARE(write(other, ExistingFile::Keep), WriteResult::AlreadyExists);
+        QCOMPARE(QImage(path).convertToFormat(QImage::Format_ARGB32), picture());
+        QCOMPARE(write(other, ExistingFile::Replace), WriteResult::Written);
+        QCOMPARE(QImage(path).convertToFormat(QImage::Format_ARGB32), other);
+    }
+};
+
+QTEST_GUILESS_MAIN(ImageFileWriterTest)
+#include "ImageFileWriterTest.moc"
