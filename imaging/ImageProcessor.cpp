@@ -1,0 +1,6 @@
+#include "imaging/ImageProcessor.h"
+
+QImage ImageProcessor::brightnessContrast(int /*brightness*/, double /*contrast*/)
+{
+    return {};
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QPoint>
+#include <QSize>
+
+class WatermarkProfile;
+
+/// Draws watermarks: text with a shadow, or a picture, at one of nine places.
+///
+/// Keeps nothing between calls; every call paints on a copy of its own. A picture is read through
+/// the profiles' shared cache, which one thread may use at a time; all callers are on the
+/// user-interface thread.
+///
+/// The results are full copies of the images, which are never changed. They have the image's
+/// format, except that formats with a colour table, which cannot be painted on, become RGB32 or
+/// ARGB32. A null image gives a null image; a watermark that cannot be seen (opacity 0, empty
+/// text, a picture that is missing) leaves every pixel as it is.
+class WatermarkManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The only instance, made at the first call. It lives as long as the process.
+    static WatermarkManager* instance();
+
+    /// A copy of the image with the profile's watermark: text for watermark type 0, a picture for
+    /// any other. The profile is not null.
+    [[nodiscard]] QImage processImage(QImage& image, WatermarkProfile* profile);
+
+    /// A copy of the image with the profile's text, its shadow below it. The text is laid out in
+    /// the image less the margins on all four sides.
+    [[nodiscard]] QImage processTypeText(QImage& image, WatermarkProfile* profile);
+
+    /// A copy of the image with the profile's picture, pixel by pixel at its own size.
+    [[nodiscard]] QImage processTypeImage(QImage& image, WatermarkProfile* profile);
+
+    /// The top left corner of an item in a container, in pixels.
+    ///
+    /// The margins count from the edges that the item is aligned to; a centred axis has none, and
+    /// half pixels are cut towards zero. Without a flag for an axis the item is left or top. Right
+    /// goes before centre, bottom before centre. An item larger than the container may lie at
+    /// negative coordinates.
+    [[nodiscard]] static QPoint getAlignedPoint(QSize container, QSize item,
+                                                Qt::Alignment alignment, int xMargin, int yMargin);
+
+private:
+    WatermarkManager() = default;
+};

@@ -1,0 +1,18 @@
+#include "imaging/ImageProcessor.h"
+
+#include <QtTest>
+
+class ImageProcessorTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void brightnessContrast_isNull_forLackOfAPicture()
+    {
+        ImageProcessor processor;
+        QVERIFY(processor.brightnessContrast(10, 1.5).isNull());
+    }
+};
+
+QTEST_GUILESS_MAIN(ImageProcessorTest)
+#include "ImageProcessorTest.moc"
