@@ -178,7 +178,8 @@ void AVDemuxerTest::duration_isMeasured_whereTheHeaderDoesNotTell()
     QVERIFY2(demuxer.duration() >= beforeLast, qPrintable(QString::number(demuxer.duration())));
     QVERIFY2(demuxer.duration() <= last + (last - beforeLast) + LongerSoundMs,
              qPrintable(QString::number(demuxer.duration())));
-    if (sample.has(Trait::NoStatedDuration))
+    // FFmpeg reads an FLV's length from its last tag, and does not tell that from a stated one.
+    if (sample.has(Trait::NoStatedDuration) && !file.endsWith(QLatin1String(".flv")))
         QCOMPARE(demuxer.durationSource(), AVDemuxer::DurationSource::Scan);
     else
         QVERIFY(demuxer.durationSource() != AVDemuxer::DurationSource::Unknown);
