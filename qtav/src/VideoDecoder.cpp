@@ -214,6 +214,7 @@ bool VideoDecoder::Private::startAtKeyFrame(const Packet& packet)
 {
     const std::shared_ptr<const PacketHandle> handle = PacketHandle::of(packet);
     watchSubLayers(*handle->get());
+    nextTicks = presentationTicks(*handle->get());
     bool succeeded = sendAndReceive(handle->get());
     if (!frames.empty()) {
         start = Start::Running;
@@ -235,6 +236,7 @@ bool VideoDecoder::Private::resumeAfterKeyFrame()
     if (isIntraOnly(context->codec_id))
         return true;
     repeatedTicks = lastTicks;
+    nextTicks = presentationTicks(*packet->get());
     return sendAndReceive(packet->get());
 }
 

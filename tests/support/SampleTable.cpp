@@ -139,9 +139,8 @@ QList<Sample> codecSamples()
         Entry("wmv2.wmv", 75),
         Entry("flv1.flv", 75),
         Entry("h264_bframes.flv", 75),
-        Entry("dv.avi", 15, pal, palSize)
-            .shownAs({768, 576})
-            .with(Trait::NoPresentationTimes | Trait::Anamorphic),
+        // The AVI says that its pixels are square, whatever the pictures in it say.
+        Entry("dv.avi", 15, pal, palSize).with(Trait::NoPresentationTimes),
         Entry("dv.dv", 15, pal, palSize)
             .shownAs({768, 576})
             .with(Trait::NoPresentationTimes | Trait::Anamorphic),

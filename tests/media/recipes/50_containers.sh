@@ -104,7 +104,9 @@ video_with_attachment() {
 derived cover_and_video.mkv cover.jpg video_with_attachment
 
 two_videos() {
-    ff -f lavfi -i "$(pictures 320x240 25)" -f lavfi -i "$(numbers 160x120 25 1000)" \
+    local second="color=gray:s=160x120:r=25,format=yuv444p,setsar=1[scene];"
+    second+="$(numbers 160x120 25 1000)[number];[scene][number]overlay=format=yuv444"
+    ff -f lavfi -i "$(pictures 320x240 25)" -f lavfi -i "$second" \
         -map 0 -map 1 -frames:v 50 "${EXACT[@]}" "${X264[@]}" \
         -x264-params keyint=25:bframes=2 "$1"
 }
