@@ -1,0 +1,134 @@
+#pragma once
+
+#include <QtAV/AVDemuxer.h>
+#include <QtAV/VideoDecoder.h>
+#include <QtAV/VideoFrame.h>
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QVariantHash>
+
+#include <atomic>
+#include <memory>
+
+/// Takes single frames out of a video file at positions in milliseconds.
+///
+/// An extraction seeks to the last key frame at or before the target. That frame is taken when it
+/// lies within the precision of the target, on either side; otherwise the grabber decodes forward
+/// to the first frame at or after the target. Files are opened by the first extraction or question
+/// for the duration, and stay open until an extraction reaches the end of the video.
+///
+/// Threads: everything happens in the thread that calls, and the signals are emitted there, before
+/// the call returns. One thread at a time may use a grabber; only abort() may be called from any
+/// other thread at any time.
+class FrameGrabber : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString source READ getSource WRITE setSource NOTIFY sourceChanged)
+    Q_PROPERTY(int precision READ getPrecision WRITE setPrecision NOTIFY precisionChanged)
+    Q_PROPERTY(qint64 position READ getPosition WRITE setPosition NOTIFY positionChanged)
+
+public:
+    explicit FrameGrabber(QObject* parent = nullptr);
+    ~FrameGrabber() override;
+
+    /// The video file. Setting another one closes what is open; nothing is opened yet.
+    QString getSource() const { return m_source; }
+    void setSource(const QString& url);
+
+    /// Length of the video in milliseconds, opening it if needed; 0 when it cannot be opened. A
+    /// file without video is closed again and reports 0 too.
+    qint64 getDuration();
+
+    /// The position in milliseconds that extract() takes. Setting one that is nearer to the
+    /// current position than the precision changes nothing, nor does setting any after a file
+    /// turned out to hold no video.
+    qint64 getPosition() const { return m_position; }
+    void setPosition(qint64 value);
+
+    /// How far from the target, in milliseconds, a frame may lie. A negative value lets every
+    /// opening choose from the length of the video: 500 from 10 seconds up, else 250. That is
+    /// also how a new grabber starts.
+    int getPrecision() const { return m_precision; }
+    void setPrecision(int value);
+
+    /// Makes a running extraction end with aborted() at its next packet. Without one it does
+    /// nothing, since every extraction starts by forgetting earlier requests. From any thread.
+    void abort();
+
+    /// Closes the file and gives the last frame's memory back.
+    void safeReleaseResource();
+    /// Closes the file; keeps the last frame unless `releaseFrame`.
+    void releaseResourceInternal(bool releaseFrame);
+
+    /// Makes the file and a decoder ready; true when they are. May change the precision.
+    [[nodiscard]] bool checkAndOpen();
+
+    /// The extraction proper, in the opened file: leaves the frame to be handed out by
+    /// extractInternal().
+    ///
+    /// @param value   target in milliseconds
+    /// @param range   tolerance in milliseconds
+    /// @param err     why it failed
+    /// @param aborted whether it failed because of abort()
+    /// @return true when it ended well, which includes running to the end of the video without a
+    ///         frame in tolerance: the frame is then the last one decoded, or an invalid one.
+    [[nodiscard]] bool extractInPrecision(qint64 value, int range, QString& err, bool& aborted);
+
+public Q_SLOTS:
+    /// Extracts the frame at position().
+    void extract();
+    /// Extracts the frame at `pos` milliseconds and emits exactly one of frameExtracted(), error()
+    /// and aborted(), the first perhaps after precisionChanged().
+    void extractInternal(qint64 pos);
+
+Q_SIGNALS:
+    /// An extraction ended well. The frame is invalid when nothing could be decoded up to the end.
+    void frameExtracted(const QtAV::VideoFrame& frame);
+    void sourceChanged();
+    /// An extraction failed. The grabber stays usable.
+    void error(const QString& errorMessage);
+    /// An extraction was ended by abort(). The grabber stays usable.
+    void aborted(const QString& abortMessage);
+    void positionChanged();
+    void precisionChanged();
+
+private:
+    struct Extraction;
+    enum class ForwardStep { GoOn, Found, Failed };
+
+    bool isLoaded() const;
+    bool loadSource();
+    bool openDecoder();
+    std::unique_ptr<QtAV::VideoDecoder> makeDecoder(const QString& name) const;
+
+    bool readKeyPacket(Extraction& extraction);
+    void enlargeRange(Extraction& extraction) const;
+    bool decodeKeyPacket(Extraction& extraction);
+    bool isKeyFrameNearEnough(const Extraction& extraction) const;
+    bool decodeForward(Extraction& extraction);
+    ForwardStep decodeNextPacket(Extraction& extraction);
+    ForwardStep judgeFrame(Extraction& extraction);
+    void chooseOptions(Extraction& extraction);
+    void closeAtEnd();
+    bool isAbortedAt(Extraction& extraction, const char* checkpoint);
+    bool readVideoPacket(const Extraction& extraction);
+
+    std::atomic<bool> m_abort{false};
+    bool m_hasVideo = true;
+    bool m_autoPrecision = true;
+    /// Extractions completed by decoding forward since the decoder was opened.
+    qint32 m_seekCount = 0;
+    qint64 m_position;
+    qint32 m_precision;
+    QString m_source;
+    QtAV::AVDemuxer m_demuxer;
+    /// Null while closed.
+    std::unique_ptr<QtAV::VideoDecoder> m_decoder;
+    QtAV::VideoFrame m_frame;
+    QStringList m_decoderNames;
+    /// Skip frames that no other frame needs: for the stretch before the target.
+    QVariantHash m_droppingOptions;
+    QVariantHash m_normalOptions;
+};
