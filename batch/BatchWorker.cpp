@@ -1,0 +1,209 @@
+#include "batch/BatchWorker.h"
+
+#include "batch/BatchWorkerConfig.h"
+#include "batch/SamplingPlan.h"
+#include "imaging/ImageProcessingManager.h"
+#include "video/FrameGrabber.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFileInfo>
+#include <QThread>
+
+namespace {
+
+/// Nothing shorter is taken for a video.
+constexpr qint64 shortestVideo = 500;
+
+constexpr int ticksPerFrame = 2;
+/// The part of the progress that opening the video stands for.
+constexpr float openingProgress = 0.01F;
+constexpr float samplingProgress = 0.99F;
+
+/// Leaves the worker's own thread the time to make and save an image before the next one comes.
+constexpr unsigned long pauseMilliseconds = 100;
+
+/// Asks for a file name without a number.
+constexpr int noCounter = -1;
+
+} // namespace
+
+BatchWorker::BatchWorker(QObject* parent)
+    : Worker(parent)
+    , m_frameGrabber(new FrameGrabber(this))
+{
+    connect(m_frameGrabber, &FrameGrabber::frameExtracted, this, &BatchWorker::frameExtracted);
+    connect(m_frameGrabber, &FrameGrabber::error, this, &BatchWorker::extractorError);
+}
+
+BatchWorker::~BatchWorker()
+{
+    // The grabber outlives this part of the worker and must not call back into it.
+    m_frameGrabber->disconnect(this);
+}
+
+void BatchWorker::registerMetaTypes()
+{
+    qRegisterMetaType<BatchWorker::BatchStatusMessageType>("BatchWorker::BatchStatusMessageType");
+    qRegisterMetaType<QtAV::VideoFrame>("QtAV::VideoFrame");
+}
+
+void BatchWorker::loadFile()
+{
+    m_frameGrabber->setSource(m_config->source());
+}
+
+void BatchWorker::run()
+{
+    qDebug("BatchWorker::run");
+    runInternal();
+    m_frameGrabber->disconnect();
+    m_frameGrabber->abort();
+}
+
+void BatchWorker::setProgress(float progress)
+{
+    if (isInterruptionRequested()) {
+        return;
+    }
+    m_progress = progress;
+    Q_EMIT progressUpdate(this, progress);
+}
+
+void BatchWorker::runInternal()
+{
+    qDebug("Before progress");
+    setProgress(0.0F);
+    qDebug("Worker loading file");
+    loadFile();
+    setProgress(openingProgress);
+    if (isInterruptionRequested()) {
+        return;
+    }
+    const qint64 duration = m_frameGrabber->getDuration();
+    if (duration < shortestVideo) {
+        // The file's name is not part of the message: receivers know the worker.
+        Q_EMIT statusUpdate(this, tr("Could not open file"), Error);
+        return;
+    }
+    const SamplingPlan plan = SamplingPlan::make(*m_config, duration);
+    qDebug("skipAmount: %lld", plan.step);
+    m_frameCounter = 1;
+    m_fileCounter = 1;
+    m_stepsTaken = 0;
+    m_stepCount = plan.expectedImages * ticksPerFrame;
+    if (!isInterruptionRequested()) {
+        takeFrames(plan);
+    }
+}
+
+void BatchWorker::takeFrames(const SamplingPlan& plan)
+{
+    qint64 position = plan.start;
+    while (plan.takes(position, m_frameCounter) && takeFrame(position)) {
+        position += plan.step;
+        QThread::msleep(pauseMilliseconds);
+        QCoreApplication::processEvents();
+        if (isInterruptionRequested()) {
+            return;
+        }
+    }
+}
+
+/// Requests one frame; false once interrupted.
+bool BatchWorker::takeFrame(qint64 position)
+{
+    qDebug("Frame");
+    m_frameGrabber->setPosition(position);
+    tickProgress();
+    if (isInterruptionRequested()) {
+        return false;
+    }
+    m_frameGrabber->extract();
+    tickProgress();
+    ++m_frameCounter;
+    return !isInterruptionRequested();
+}
+
+void BatchWorker::tickProgress()
+{
+    ++m_stepsTaken;
+    const float taken = static_cast<float>(m_stepsTaken) / static_cast<float>(m_stepCount);
+    setProgress(taken * samplingProgress + openingProgress);
+    qDebug("Steps taken: %d stepCount: %d", m_stepsTaken, m_stepCount);
+}
+
+void BatchWorker::frameExtracted(QtAV::VideoFrame frame)
+{
+    if (isInterruptionRequested()) {
+        return;
+    }
+    if (!frame.isValid()) {
+        extractorError(tr("no picture found"));
+        return;
+    }
+    const QString path = firstFreePath();
+    announceSaving(path);
+    const QImage image = frame.toImage(QImage::Format_ARGB32, QSize(), QRectF());
+    QImage processed =
+        ImageProcessingManager::instance()->processImage(image, m_config->imageProfile(), nullptr);
+    if (saveImage(path, processed)) {
+        Q_EMIT imageReady(this, processed);
+    }
+}
+
+void BatchWorker::extractorError(QString message)
+{
+    if (!isInterruptionRequested()) {
+        Q_EMIT statusUpdate(this, tr("Frame extraction error ") + message, Error);
+    }
+}
+
+/// A single shot's name bears no number unless that name is taken.
+QString BatchWorker::firstFreePath()
+{
+    if (m_config->intervalType() == BatchWorkerConfig::SingleShot) {
+        const QString path =
+            m_config->outputDir().filePath(m_config->filenameForCounter(noCounter));
+        if (!QFileInfo::exists(path)) {
+            return path;
+        }
+    }
+    return nextFreePath();
+}
+
+QString BatchWorker::nextFreePath()
+{
+    const QDir dir = m_config->outputDir();
+    QString path;
+    do {
+        path = dir.filePath(m_config->filenameForCounter(m_fileCounter++));
+    } while (QFileInfo::exists(path));
+    return path;
+}
+
+void BatchWorker::announceSaving(const QString& path)
+{
+    Q_EMIT statusUpdate(this, tr("Saving: ") + path, Normal);
+    qDebug().noquote() << QStringLiteral("Saving image ") + path;
+}
+
+/// Saves under the given name or, while others take the names at the same moment, under the next
+/// free one. False when that failed, which has been told then.
+bool BatchWorker::saveImage(QString path, const QImage& image)
+{
+    const auto save = [this, &image](const QString& target) {
+        return ImageProcessingManager::instance()->saveNewImage(
+            target, image, m_config->imageProfile(), m_config->filenameProfile());
+    };
+    WriteResult result = save(path);
+    while (result == WriteResult::AlreadyExists) {
+        path = nextFreePath();
+        announceSaving(path);
+        result = save(path);
+    }
+    if (result == WriteResult::Failed) {
+        Q_EMIT statusUpdate(this, tr("Could not save %1").arg(path), Error);
+    }
+    return result == WriteResult::Written;
+}

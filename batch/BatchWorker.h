@@ -1,0 +1,89 @@
+#pragma once
+
+#include "batch/Worker.h"
+
+#include <QtAV/VideoFrame.h>
+
+#include <QImage>
+#include <QMetaType>
+#include <QString>
+
+class BatchWorkerConfig;
+class FrameGrabber;
+struct SamplingPlan;
+
+/// Runs one batch job: takes the frames, makes the images and saves them.
+///
+/// Threads: the worker belongs to the thread that created it, and run() may be called in that
+/// thread or another. Frames are taken where run() runs; images are made and saved in the worker's
+/// own thread, each while run() pauses after it. progressUpdate() and the status that a video
+/// cannot be opened come from the thread of run(), all other signals from the worker's own. In one
+/// thread everything happens in order before run() returns.
+class BatchWorker : public Worker
+{
+    Q_OBJECT
+
+public:
+    enum BatchStatusMessageType {
+        Normal = 0, ///< what is being done
+        Error = 1,  ///< something failed; the job goes on
+    };
+
+    explicit BatchWorker(QObject* parent = nullptr);
+    ~BatchWorker() override;
+
+    /// Makes the types of the signals known to queued connections; before the first run().
+    static void registerMetaTypes();
+
+    /// The job, needed by run(). Not owned; it must outlive the run and the images still to be
+    /// saved after it.
+    BatchWorkerConfig* config() const { return m_config; }
+    void setConfig(BatchWorkerConfig* config) { m_config = config; }
+
+    /// Tells the frame grabber which video the job is about; nothing is opened yet.
+    void loadFile();
+
+    /// Runs the job to its end or to the next step after an interruption. Once for each worker.
+    void run() override;
+
+    /// Reports how much of the job is done, from 0 to 1; nothing once interrupted.
+    void setProgress(float progress);
+
+Q_SIGNALS:
+    /// An image has been saved. It is the receiver's only until the signal returns.
+    void imageReady(BatchWorker* worker, QImage& image);
+    /// Something to tell the user.
+    void statusUpdate(BatchWorker* worker, QString message,
+                      BatchWorker::BatchStatusMessageType type = BatchWorker::Normal);
+    /// How much of the job is done, from 0 to 1. The last one may fall short of 1, since the
+    /// number of images is an estimate.
+    void progressUpdate(BatchWorker* worker, float progress);
+
+private Q_SLOTS:
+    void frameExtracted(QtAV::VideoFrame frame);
+    void extractorError(QString message);
+
+private:
+    void runInternal();
+    void takeFrames(const SamplingPlan& plan);
+    bool takeFrame(qint64 position);
+    void tickProgress();
+
+    QString firstFreePath();
+    QString nextFreePath();
+    void announceSaving(const QString& path);
+    bool saveImage(QString path, const QImage& image);
+
+    BatchWorkerConfig* m_config = nullptr;
+    FrameGrabber* m_frameGrabber;
+    /// Number of the frame to request next.
+    int m_frameCounter = 0;
+    /// Number to try next in a file name. Only ever raised during a run.
+    int m_fileCounter = 0;
+    float m_progress = 0.0F;
+    /// Two for each frame: for finding and for taking it.
+    int m_stepsTaken = 0;
+    int m_stepCount = 0;
+};
+
+Q_DECLARE_METATYPE(BatchWorker::BatchStatusMessageType)

@@ -1,0 +1,96 @@
+#include "batch/SamplingPlan.h"
+
+#include "batch/BatchWorkerConfig.h"
+
+#include <QDebug>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int fallbackMilliseconds = 1000;
+constexpr int fallbackImages = 10;
+
+void correctInterval(BatchWorkerConfig& config)
+{
+    switch (config.intervalType()) {
+    case BatchWorkerConfig::EveryMilliseconds:
+        if (config.intervalMilliseconds() < 1) {
+            config.setIntervalMilliseconds(fallbackMilliseconds);
+        }
+        break;
+    case BatchWorkerConfig::SpreadImages:
+        if (config.intervalImages() <= 1) {
+            qDebug("Batch m_intervalImages was %d", config.intervalImages());
+            config.setIntervalImages(fallbackImages);
+            config.setIntervalType(BatchWorkerConfig::SingleShot);
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+/// The middle is that of the sampled stretch's length, counted from the video's start: the front
+/// skip does not move it.
+qint64 singleShotPosition(const BatchWorkerConfig& config, qint64 sampled, qint64 end)
+{
+    switch (config.intervalSingleShot()) {
+    case BatchWorkerConfig::Middle:
+        return sampled / 2;
+    case BatchWorkerConfig::Back:
+        return end;
+    default:
+        return config.skipFront();
+    }
+}
+
+} // namespace
+
+SamplingPlan SamplingPlan::make(BatchWorkerConfig& config, qint64 duration)
+{
+    correctInterval(config);
+
+    const qint64 front = config.skipFront();
+    const qint64 sampled = duration - front - config.skipBack();
+    SamplingPlan plan;
+    plan.intervalType = config.intervalType();
+    plan.end = duration - config.skipBack();
+    plan.images = config.intervalImages();
+    plan.start = front;
+    switch (plan.intervalType) {
+    case BatchWorkerConfig::EveryMilliseconds: {
+        const int milliseconds = config.intervalMilliseconds();
+        plan.step = milliseconds;
+        plan.expectedImages =
+            static_cast<int>(static_cast<float>(sampled) / static_cast<float>(milliseconds) + 1.0F);
+        break;
+    }
+    case BatchWorkerConfig::SpreadImages:
+        plan.step = sampled / plan.images - 1;
+        plan.expectedImages = plan.images;
+        break;
+    case BatchWorkerConfig::SingleShot:
+        plan.start = singleShotPosition(config, sampled, plan.end);
+        plan.expectedImages = 1;
+        break;
+    default:
+        break;
+    }
+    plan.start = std::min(plan.end, std::max(plan.start, front));
+    return plan;
+}
+
+bool SamplingPlan::takes(qint64 position, int number) const
+{
+    switch (intervalType) {
+    case BatchWorkerConfig::EveryMilliseconds:
+        return position < end;
+    case BatchWorkerConfig::SpreadImages:
+        return number <= images;
+    case BatchWorkerConfig::SingleShot:
+        return number <= 1;
+    default:
+        return false;
+    }
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+#include <QRunnable>
+
+#include <atomic>
+
+/// Work that can be asked to stop.
+///
+/// Interruption is cooperative: the work looks at isInterruptionRequested() between its steps and
+/// returns early. A worker cannot be made to go on again.
+///
+/// Owned through QObject's parents, not by a thread pool.
+class Worker : public QObject, public QRunnable
+{
+    Q_OBJECT
+
+public:
+    explicit Worker(QObject* parent = nullptr);
+
+    /// Asks the work to stop at its next step and returns at once. From any thread.
+    void requestInterruption();
+    /// From any thread.
+    bool isInterruptionRequested() const { return m_interruption != 0; }
+
+private:
+    std::atomic<int> m_interruption{0};
+};
