@@ -1,0 +1,26 @@
+#include "app/Startup.h"
+
+#include "app/ProductInfo.h"
+#include "batch/BatchWorker.h"
+
+#include <QtAV/QtAV_Global.h>
+
+#include <QCoreApplication>
+
+void Startup::setIdentity()
+{
+    QCoreApplication::setApplicationName(ProductInfo::name());
+    QCoreApplication::setOrganizationName(ProductInfo::name());
+    QCoreApplication::setOrganizationDomain(ProductInfo::domain());
+    QCoreApplication::setApplicationVersion(ProductInfo::version());
+}
+
+void Startup::quietVideoLibrary()
+{
+    QtAV::setLogLevel(QtAV::LogCritical);
+}
+
+void Startup::registerMetaTypes()
+{
+    BatchWorker::registerMetaTypes();
+}

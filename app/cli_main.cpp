@@ -1,0 +1,37 @@
+// The command line: one batch job, without a window and without a display.
+
+#include "app/CommandLineProcessor.h"
+#include "app/Startup.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+
+namespace {
+
+/// Must happen before the application object exists.
+void needNoDisplay()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
+/// Debug lines are for developers, who turn them on again with QT_LOGGING_RULES.
+void hideDebugLines()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    needNoDisplay();
+    hideDebugLines();
+    QApplication app(argc, argv);
+    Startup::setIdentity();
+    Startup::quietVideoLibrary();
+    Startup::registerMetaTypes();
+    processCommandLine(app);
+    return 0;
+}
