@@ -10,6 +10,8 @@ namespace {
 constexpr qint32 defaultPrecision = 500;
 constexpr qint32 shortVideoPrecision = 250;
 constexpr qint64 longestShortVideo = 9999;
+/// Further away from 0 than any precision chosen here, so that the first setPosition() counts.
+constexpr qint64 startPosition = -1000;
 
 constexpr int keyFrameAttempts = 2;
 
@@ -65,8 +67,7 @@ struct FrameGrabber::Extraction
 
 FrameGrabber::FrameGrabber(QObject* parent)
     : QObject(parent)
-    // Further away than any precision from 0, so that the first setPosition() takes effect.
-    , m_position(-2 * defaultPrecision)
+    , m_position(startPosition)
     , m_precision(defaultPrecision)
     , m_decoderNames{QStringLiteral("FFmpeg")}
     , m_droppingOptions(decoderOptions(discardNonReference))

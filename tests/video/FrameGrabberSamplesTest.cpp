@@ -1,0 +1,249 @@
+#include "video/FrameGrabber.h"
+
+#include "tests/support/FrameNumber.h"
+#include "tests/support/Samples.h"
+
+#include <QSet>
+#include <QTest>
+
+#include <algorithm>
+#include <limits>
+
+using testsupport::frameTimeMs;
+using testsupport::Sample;
+using testsupport::samplePath;
+using testsupport::Trait;
+
+namespace {
+
+/// What the last extraction of a grabber gave.
+class Outcome
+{
+public:
+    explicit Outcome(FrameGrabber& grabber)
+    {
+        QObject::connect(&grabber, &FrameGrabber::frameExtracted, &grabber,
+                         [this](const QtAV::VideoFrame& frame) {
+                             m_image = frame.toImage();
+                             m_problem.clear();
+                         });
+        QObject::connect(&grabber, &FrameGrabber::error, &grabber,
+                         [this](const QString& message) { m_problem = message; });
+    }
+
+    /// The frame's number, or what went wrong.
+    QString text() const
+    {
+        if (!m_problem.isEmpty()) {
+            return m_problem;
+        }
+        const auto number = testsupport::frameNumber(m_image);
+        return number ? QString::number(*number) : QStringLiteral("no readable number");
+    }
+
+private:
+    QImage m_image;
+    QString m_problem = QStringLiteral("no signal");
+};
+
+/// The key frame that a seek finds, counted among the shown frames; -1 for one that is never shown.
+int keyFrameFor(const Sample& sample, qint64 target)
+{
+    const QList<int> keys = testsupport::keyFrames(sample);
+    int found = -1;
+    for (const int key : keys) {
+        if (frameTimeMs(sample, key) <= target) {
+            found = key;
+        }
+    }
+    const bool hiddenKey = sample.has(Trait::StartsInsideGop);
+    return found < 0 && !hiddenKey && !keys.isEmpty() ? keys.first() : found;
+}
+
+int firstFrameFrom(const Sample& sample, qint64 target)
+{
+    int n = 0;
+    while (n < sample.frames && frameTimeMs(sample, n) < target) {
+        ++n;
+    }
+    return n;
+}
+
+/// The shown frame that must come out, counted from 0.
+int expectedFrame(const Sample& sample, qint64 target, int precision)
+{
+    const int key = keyFrameFor(sample, target);
+    const bool isWhole = !sample.has(Trait::IntraRefresh) || key == 0;
+    if (key >= 0 && isWhole && std::abs(frameTimeMs(sample, key) - target) <= precision) {
+        return key;
+    }
+    return std::min(firstFrameFrom(sample, target), sample.frames - 1);
+}
+
+QString expectedNumber(const Sample& sample, qint64 target, int precision)
+{
+    return QString::number(sample.firstNumber + expectedFrame(sample, target, precision));
+}
+
+/// An intra-refresh stream has no whole picture near most of its key packets: the first one may
+/// come later, within tolerance or not, but never before the target.
+bool isAnswer(const Sample& sample, const QString& outcome, qint64 target, int precision)
+{
+    if (outcome == expectedNumber(sample, target, precision)) {
+        return true;
+    }
+    if (!sample.has(Trait::IntraRefresh)) {
+        return false;
+    }
+    bool isNumber = false;
+    const int frame = outcome.toInt(&isNumber);
+    if (!isNumber) {
+        return outcome.contains(QLatin1String("out pts out of range"));
+    }
+    const qint64 late = frameTimeMs(sample, frame) - target;
+    return late >= 0 && late <= precision;
+}
+
+/// Frames worth asking for: the first and last ones, and those around the key frames.
+QList<int> interestingFrames(const Sample& sample)
+{
+    QSet<int> frames{0, 1, sample.frames / 2, sample.frames - 2, sample.frames - 1};
+    const QList<int> keys = testsupport::keyFrames(sample);
+    const bool isSlow = sample.has(Trait::Large);
+    const int stride = std::max(1, keys.size() / (isSlow ? 1 : 3));
+    const QList<int> offsets = isSlow ? QList<int>{1} : QList<int>{-1, 0, 1, 7, 13};
+    for (int i = 0; i < keys.size(); i += stride) {
+        for (const int offset : offsets) {
+            frames.insert(keys.at(i) + offset);
+        }
+    }
+    QList<int> list;
+    for (const int frame : qAsConst(frames)) {
+        if (frame >= 0 && frame < sample.frames) {
+            list.append(frame);
+        }
+    }
+    std::sort(list.begin(), list.end());
+    return list;
+}
+
+/// Positions at and just before the interesting frames; each has a frame in reach.
+QList<qint64> interestingTargets(const Sample& sample, int precision)
+{
+    QList<qint64> targets;
+    for (const int frame : interestingFrames(sample)) {
+        const qint64 time = frameTimeMs(sample, frame);
+        targets.append(time);
+        targets.append(std::max<qint64>(0, time - 1));
+        targets.append(std::max<qint64>(0, time - precision / 2));
+    }
+    return targets;
+}
+
+/// The same positions, jumping to and fro.
+QList<qint64> shuffled(const QList<qint64>& targets)
+{
+    QList<qint64> result;
+    const int half = targets.size() / 2;
+    for (int i = 0; i < half; ++i) {
+        result.append(targets.at(i + half));
+        result.append(targets.at(half - 1 - i));
+    }
+    return result;
+}
+
+constexpr qint64 farPastTheEnd = std::numeric_limits<qint32>::max();
+
+} // namespace
+
+class FrameGrabberSamplesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void extract_givesTheRightFrame_atRisingPositions_data() { addSamples(); }
+    void extract_givesTheRightFrame_atRisingPositions();
+    void extract_givesTheRightFrame_jumpingToAndFro_data() { addSamples(); }
+    void extract_givesTheRightFrame_jumpingToAndFro();
+    void extract_givesTheRightFrame_withSmallPrecision_data() { addSamples(); }
+    void extract_givesTheRightFrame_withSmallPrecision();
+    void extract_givesTheLastFrame_pastTheEnd_data() { addSamples(); }
+    void extract_givesTheLastFrame_pastTheEnd();
+
+private:
+    static void addSamples();
+    static void checkTargets(const Sample& sample, FrameGrabber& grabber,
+                             const QList<qint64>& targets);
+};
+
+void FrameGrabberSamplesTest::addSamples()
+{
+    QTest::addColumn<QString>("file");
+    for (const Sample& sample : testsupport::allVideoSamples()) {
+        QTest::newRow(qUtf8Printable(sample.file)) << sample.file;
+    }
+}
+
+void FrameGrabberSamplesTest::checkTargets(const Sample& sample, FrameGrabber& grabber,
+                                           const QList<qint64>& targets)
+{
+    const Outcome outcome(grabber);
+    QStringList wrong;
+    for (const qint64 target : targets) {
+        grabber.extractInternal(target);
+        if (!isAnswer(sample, outcome.text(), target, grabber.getPrecision())) {
+            wrong.append(QStringLiteral("%1 ms: %2 instead of %3")
+                             .arg(QString::number(target), outcome.text(),
+                                  expectedNumber(sample, target, grabber.getPrecision())));
+        }
+    }
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QStringLiteral("; "))));
+}
+
+void FrameGrabberSamplesTest::extract_givesTheRightFrame_atRisingPositions()
+{
+    QFETCH(const QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    FrameGrabber grabber;
+    grabber.setSource(samplePath(file));
+    QVERIFY(grabber.checkAndOpen());
+    checkTargets(sample, grabber, interestingTargets(sample, grabber.getPrecision()));
+}
+
+void FrameGrabberSamplesTest::extract_givesTheRightFrame_jumpingToAndFro()
+{
+    QFETCH(const QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    FrameGrabber grabber;
+    grabber.setSource(samplePath(file));
+    QVERIFY(grabber.checkAndOpen());
+    checkTargets(sample, grabber, shuffled(interestingTargets(sample, grabber.getPrecision())));
+}
+
+void FrameGrabberSamplesTest::extract_givesTheRightFrame_withSmallPrecision()
+{
+    QFETCH(const QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    FrameGrabber grabber;
+    grabber.setPrecision(8);
+    grabber.setSource(samplePath(file));
+    checkTargets(sample, grabber, shuffled(interestingTargets(sample, 8)));
+}
+
+/// Whatever was extracted before, since later extractions decode less before their target.
+void FrameGrabberSamplesTest::extract_givesTheLastFrame_pastTheEnd()
+{
+    QFETCH(const QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    const qint64 justPast = frameTimeMs(sample, sample.frames - 1) + 1;
+    const qint64 middle = frameTimeMs(sample, sample.frames / 2);
+    const qint64 first = frameTimeMs(sample, 0);
+    FrameGrabber grabber;
+    grabber.setSource(samplePath(file));
+    QVERIFY(grabber.checkAndOpen());
+    checkTargets(sample, grabber,
+                 {farPastTheEnd, middle, farPastTheEnd, middle, justPast, first, justPast});
+}
+
+QTEST_GUILESS_MAIN(FrameGrabberSamplesTest)
+#include "FrameGrabberSamplesTest.moc"
