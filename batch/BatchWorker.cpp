@@ -32,6 +32,7 @@ BatchWorker::BatchWorker(QObject* parent)
     : Worker(parent)
     , m_frameGrabber(new FrameGrabber(this))
 {
+    registerMetaTypes();
     connect(m_frameGrabber, &FrameGrabber::frameExtracted, this, &BatchWorker::frameExtracted);
     connect(m_frameGrabber, &FrameGrabber::error, this, &BatchWorker::extractorError);
 }

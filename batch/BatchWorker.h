@@ -32,7 +32,8 @@ public:
     explicit BatchWorker(QObject* parent = nullptr);
     ~BatchWorker() override;
 
-    /// Makes the types of the signals known to queued connections; before the first run().
+    /// Makes the types of the signals known to queued connections. Every worker does so; who
+    /// connects by name before there is one calls it.
     static void registerMetaTypes();
 
     /// The job, needed by run(). Not owned; it must outlive the run and the images still to be
