@@ -1,0 +1,32 @@
+#pragma once
+
+#include "tests/support/RunProgram.h"
+
+#include <QImage>
+#include <QList>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+
+/// Runs the command line's program as users do, and looks at what it leaves.
+namespace commandline {
+
+/// The program's path.
+[[nodiscard]] QString program();
+
+/// The environment of a machine without a display, with a home of its own.
+[[nodiscard]] QProcessEnvironment environment();
+
+/// Runs the program to its end.
+[[nodiscard]] testsupport::ProgramResult run(const QStringList& arguments);
+
+/// Copies a sample into the folder, under its own or another name; the copy's path.
+QString copySample(const QString& sample, const QString& folder, const QString& name = {});
+
+/// The names of all files in the folder but videos, hidden ones too, in order.
+[[nodiscard]] QStringList imagesIn(const QString& folder);
+
+/// The numbers of the frames in these images, in order; -1 for an image without a readable one.
+[[nodiscard]] QList<int> numbersIn(const QString& folder);
+
+} // namespace commandline
