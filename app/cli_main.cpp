@@ -11,9 +11,7 @@ namespace {
 /// Must happen before the application object exists.
 void needNoDisplay()
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
 /// Debug lines are for developers, who turn them on again with QT_LOGGING_RULES.

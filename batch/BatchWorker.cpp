@@ -92,7 +92,7 @@ void BatchWorker::runInternal()
     m_frameCounter = 1;
     m_fileCounter = 1;
     m_stepsTaken = 0;
-    m_stepCount = plan.expectedImages * ticksPerFrame;
+    m_stepCount = qint64(plan.expectedImages) * ticksPerFrame;
     if (!isInterruptionRequested()) {
         takeFrames(plan);
     }
@@ -131,7 +131,7 @@ void BatchWorker::tickProgress()
     ++m_stepsTaken;
     const float taken = static_cast<float>(m_stepsTaken) / static_cast<float>(m_stepCount);
     setProgress(taken * samplingProgress + openingProgress);
-    qDebug("Steps taken: %d stepCount: %d", m_stepsTaken, m_stepCount);
+    qDebug("Steps taken: %lld stepCount: %lld", m_stepsTaken, m_stepCount);
 }
 
 void BatchWorker::frameExtracted(QtAV::VideoFrame frame)

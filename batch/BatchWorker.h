@@ -83,8 +83,8 @@ private:
     int m_fileCounter = 0;
     float m_progress = 0.0F;
     /// Two for each frame: for finding and for taking it.
-    int m_stepsTaken = 0;
-    int m_stepCount = 0;
+    qint64 m_stepsTaken = 0;
+    qint64 m_stepCount = 0;
 };
 
 Q_DECLARE_METATYPE(BatchWorker::BatchStatusMessageType)

@@ -31,6 +31,13 @@ void correctInterval(BatchWorkerConfig& config)
     }
 }
 
+/// Cut off to a whole number, within what an int holds: a job may ask for absurd skips.
+int truncated(float value)
+{
+    constexpr float most = 2147483520.0F; // the largest float that is an int
+    return static_cast<int>(std::clamp(value, -most, most));
+}
+
 /// The middle is that of the sampled stretch's length, counted from the video's start: the front
 /// skip does not move it.
 qint64 singleShotPosition(const BatchWorkerConfig& config, qint64 sampled, qint64 end)
@@ -63,7 +70,7 @@ SamplingPlan SamplingPlan::make(BatchWorkerConfig& config, qint64 duration)
         const int milliseconds = config.intervalMilliseconds();
         plan.step = milliseconds;
         plan.expectedImages =
-            static_cast<int>(static_cast<float>(sampled) / static_cast<float>(milliseconds) + 1.0F);
+            truncated(static_cast<float>(sampled) / static_cast<float>(milliseconds) + 1.0F);
         break;
     }
     case BatchWorkerConfig::SpreadImages:

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void singleShot_takesItsPlace();
     void unknownType_takesNothing();
     void otherSettings_stayAsTheyAre();
+    void expectedImages_stayAWholeNumber_forAbsurdSkips();
 };
 
 void SamplingPlanTest::everyMilliseconds_startsBehindTheFrontSkip_andStopsBeforeTheBackSkip()
@@ -243,6 +244,18 @@ void SamplingPlanTest::otherSettings_stayAsTheyAre()
     QCOMPARE(config.intervalType(), 2);
     QCOMPARE(config.intervalMilliseconds(), 0);
     QCOMPARE(config.intervalImages(), 0);
+}
+
+void SamplingPlanTest::expectedImages_stayAWholeNumber_forAbsurdSkips()
+{
+    BatchWorkerConfig config;
+    config.setIntervalMilliseconds(1);
+    config.setSkipFront(-(qint64(1) << 50));
+    QVERIFY(SamplingPlan::make(config, minute).expectedImages > 2000000000);
+    config.setSkipFront(qint64(1) << 50);
+    const SamplingPlan none = SamplingPlan::make(config, minute);
+    QVERIFY(none.expectedImages < -2000000000);
+    QVERIFY(!none.takes(none.start, 1));
 }
 
 QTEST_GUILESS_MAIN(SamplingPlanTest)
