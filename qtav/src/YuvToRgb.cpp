@@ -1,5 +1,7 @@
 #include "qtav/src/YuvToRgb.h"
 
+#include "qtav/src/YuvToRgbLines.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -271,22 +273,30 @@ public:
         , m_chromaWidth(AV_CEIL_RSHIFT(frame.width, m_format.log2_chroma_w))
         , m_chromaHeight(AV_CEIL_RSHIFT(frame.height, m_format.log2_chroma_h))
         , m_luma(static_cast<size_t>(frame.width))
-        , m_narrow(static_cast<size_t>(m_chromaWidth) + 2)
+        , m_narrowCb(static_cast<size_t>(m_chromaWidth) + 2)
+        , m_narrowCr(static_cast<size_t>(m_chromaWidth) + 2)
         , m_cb(static_cast<size_t>(m_chromaWidth) * 2)
         , m_cr(static_cast<size_t>(m_chromaWidth) * 2)
     {}
 
     void convert(int line, uint32_t* pixels)
     {
-        if (m_depth == 8)
-            widen(at(0, line), m_luma.data(), m_frame.width);
-        else
-            widenDeep(deepAt(0, line), m_luma.data(), m_frame.width, m_depth);
-        if (m_hasChroma) {
-            readChroma(1, line, m_cb.data());
-            readChroma(2, line, m_cr.data());
+        int done = 0;
+        if (m_hasChroma && m_halvesWidth) {
+            mixChroma(1, line, m_narrowCb.data() + 1);
+            mixChroma(2, line, m_narrowCr.data() + 1);
+            repeatEnds(m_narrowCb);
+            repeatEnds(m_narrowCr);
+            if (m_depth == 8 && m_siting.isLeft)
+                done = convertHalvedLine(at(0, line), m_narrowCb.data() + 1, m_narrowCr.data() + 1,
+                                         pixels, m_frame.width, m_matrix);
+            widenChroma(m_narrowCb, m_cb, done);
+            widenChroma(m_narrowCr, m_cr, done);
+        } else if (m_hasChroma) {
+            mixChroma(1, line, m_cb.data());
+            mixChroma(2, line, m_cr.data());
         }
-        combine(m_luma.data(), m_cb.data(), m_cr.data(), pixels, m_frame.width, m_matrix);
+        convertFrom(done, line, pixels);
         if (m_format.nb_components == 4)
             addAlpha(line, pixels);
     }
@@ -311,27 +321,48 @@ private:
                                         : chromaLinesFor(line, m_chromaHeight, m_siting.vertical);
     }
 
-    void readChroma(int component, int line, int16_t* samples)
+    /// The chroma at a line of luma, as many samples as are stored.
+    void mixChroma(int component, int line, int16_t* samples) const
     {
         const ChromaLines lines = chromaLines(line);
-        int16_t* mixed = m_halvesWidth ? m_narrow.data() + 1 : samples;
         if (m_depth > 8)
             mixDeep(deepAt(component, lines.near), deepAt(component, lines.far), lines.nearQuarters,
-                    mixed, m_chromaWidth, m_depth);
+                    samples, m_chromaWidth, m_depth);
         else if (m_format.comp[component].step == 2)
             mixInterleaved(at(component, lines.near), at(component, lines.far), lines.nearQuarters,
-                           mixed, m_chromaWidth);
+                           samples, m_chromaWidth);
         else
-            mix(at(component, lines.near), at(component, lines.far), lines.nearQuarters, mixed,
+            mix(at(component, lines.near), at(component, lines.far), lines.nearQuarters, samples,
                 m_chromaWidth);
-        if (!m_halvesWidth)
-            return;
-        m_narrow.front() = m_narrow[1];
-        m_narrow.back() = m_narrow[m_narrow.size() - 2];
+    }
+
+    static void repeatEnds(std::vector<int16_t>& narrow)
+    {
+        narrow.front() = narrow[1];
+        narrow.back() = narrow[narrow.size() - 2];
+    }
+
+    /// From the pixel `from` on, which is even.
+    void widenChroma(const std::vector<int16_t>& narrow, std::vector<int16_t>& wide, int from) const
+    {
+        const int16_t* const source = narrow.data() + 1 + from / 2;
+        int16_t* const target = wide.data() + from;
+        const int count = m_chromaWidth - from / 2;
         if (m_siting.isLeft)
-            doubleFromLeft(mixed, samples, m_chromaWidth);
+            doubleFromLeft(source, target, count);
         else
-            doubleFromCentre(mixed, samples, m_chromaWidth);
+            doubleFromCentre(source, target, count);
+    }
+
+    void convertFrom(int from, int line, uint32_t* pixels)
+    {
+        const int count = m_frame.width - from;
+        int16_t* const luma = m_luma.data() + from;
+        if (m_depth == 8)
+            widen(at(0, line) + from, luma, count);
+        else
+            widenDeep(deepAt(0, line) + from, luma, count, m_depth);
+        combine(luma, m_cb.data() + from, m_cr.data() + from, pixels + from, count, m_matrix);
     }
 
     void addAlpha(int line, uint32_t* pixels) const
@@ -353,8 +384,9 @@ private:
     const int m_chromaWidth;
     const int m_chromaHeight;
     std::vector<int16_t> m_luma;
-    std::vector<int16_t> m_narrow; ///< a line of chroma with a neighbour at either end
-    std::vector<int16_t> m_cb;     ///< zero, the middle, in a grey picture
+    std::vector<int16_t> m_narrowCb; ///< a line of chroma with a neighbour at either end
+    std::vector<int16_t> m_narrowCr;
+    std::vector<int16_t> m_cb; ///< zero, the middle, in a grey picture
     std::vector<int16_t> m_cr;
 };
 
