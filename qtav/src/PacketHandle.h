@@ -18,7 +18,7 @@ public:
     const AVPacket* get() const { return m_packet.get(); }
 
     /// The Packet for what the demuxer read.
-    static Packet wrap(PacketPtr packet, const Timeline& timeline);
+    static Packet wrap(PacketPtr source, const Timeline& timeline);
 
     /// A packet that carries nothing and makes a decoder hand out a held frame.
     static Packet drain(double pts);

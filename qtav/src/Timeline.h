@@ -36,7 +36,7 @@ public:
     AVRational timeBase() const { return m_timeBase; }
 
     /// Products of ticks and two denominators do not fit into 64 bits.
-    __extension__ typedef __int128 Wide;
+    __extension__ typedef __int128 Wide; // NOLINT(modernize-use-using): it takes no __extension__
 
 private:
     struct Fraction

@@ -50,7 +50,7 @@ public:
     void receiveAll(bool& failed);
     void deliver(FramePtr frame);
     void restart();
-    void applySkipOptions();
+    void applySkipOptions() const;
     void watchSubLayers(const AVPacket& packet);
 
     std::shared_ptr<const StreamParameters> parameters;
@@ -138,7 +138,7 @@ QVariantHash VideoDecoder::options() const
     return d->options;
 }
 
-void VideoDecoder::Private::applySkipOptions()
+void VideoDecoder::Private::applySkipOptions() const
 {
     const QVariantHash section = options.value(QStringLiteral("avcodec")).toHash();
     const auto discard = [&section](const QString& key) {

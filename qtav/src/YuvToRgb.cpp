@@ -75,7 +75,7 @@ void mixInterleaved(const uint8_t* __restrict near, const uint8_t* __restrict fa
                     int16_t* __restrict target, int count)
 {
     const int farQuarters = 4 - nearQuarters;
-    for (int i = 0; i < count; ++i) {
+    for (ptrdiff_t i = 0; i < count; ++i) {
         const int sum = near[2 * i] * nearQuarters + far[2 * i] * farQuarters;
         target[i] = static_cast<int16_t>((sum - 512) * 32);
     }
@@ -98,7 +98,7 @@ void mixDeep(const uint16_t* __restrict near, const uint16_t* __restrict far, in
 FOR_SEVERAL_PROCESSORS
 void doubleFromLeft(const int16_t* __restrict source, int16_t* __restrict target, int count)
 {
-    for (int i = 0; i < count; ++i) {
+    for (ptrdiff_t i = 0; i < count; ++i) {
         target[2 * i] = source[i];
         target[2 * i + 1] = static_cast<int16_t>((source[i] + source[i + 1] + 1) >> 1);
     }
@@ -109,7 +109,7 @@ void doubleFromLeft(const int16_t* __restrict source, int16_t* __restrict target
 FOR_SEVERAL_PROCESSORS
 void doubleFromCentre(const int16_t* __restrict source, int16_t* __restrict target, int count)
 {
-    for (int i = 0; i < count; ++i) {
+    for (ptrdiff_t i = 0; i < count; ++i) {
         target[2 * i] = static_cast<int16_t>((source[i] * 3 + source[i - 1] + 2) >> 2);
         target[2 * i + 1] = static_cast<int16_t>((source[i] * 3 + source[i + 1] + 2) >> 2);
     }
