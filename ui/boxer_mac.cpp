@@ -1,0 +1,111 @@
+// The message box of macOS: AppKit's NSAlert, messaged through the Objective-C runtime, so that the
+// project needs no Objective-C compiler.
+
+#include "ui/BoxerButtons.h"
+#include "ui/boxer.h"
+
+#include <objc/message.h>
+#include <objc/objc.h>
+#include <objc/runtime.h>
+
+#include <cstddef>
+#include <vector>
+
+// Exported by the runtime, but declared in none of its headers.
+extern "C" void* objc_autoreleasePoolPush(void);
+extern "C" void objc_autoreleasePoolPop(void* pool);
+
+namespace {
+
+// AppKit's and Foundation's types and values, which only their Objective-C headers declare.
+using NSInteger = long;
+using NSUInteger = unsigned long;
+
+constexpr NSUInteger AlertStyleWarning = 0;
+constexpr NSUInteger AlertStyleInformational = 1;
+constexpr NSUInteger AlertStyleCritical = 2;
+constexpr NSInteger ModalPanelWindowLevel = 8;
+constexpr NSInteger AlertFirstButtonReturn = 1000;
+
+/// Frees the strings that are made while it lives: before the event loop runs, nobody else would.
+class AutoreleasePool
+{
+public:
+    AutoreleasePool()
+        : m_pool(objc_autoreleasePoolPush())
+    {}
+    ~AutoreleasePool() { objc_autoreleasePoolPop(m_pool); }
+    AutoreleasePool(const AutoreleasePool&) = delete;
+    AutoreleasePool& operator=(const AutoreleasePool&) = delete;
+
+private:
+    void* m_pool;
+};
+
+/// Sends a message. The runtime wants its function called with the very types of the method that
+/// answers, so these must match the method's declaration.
+template <typename Result, typename... Arguments>
+Result send(id receiver, const char* selector, Arguments... arguments)
+{
+    using Method = Result (*)(id, SEL, Arguments...);
+    return reinterpret_cast<Method>(objc_msgSend)(receiver, sel_registerName(selector),
+                                                  arguments...);
+}
+
+id classNamed(const char* name)
+{
+    // A class receives messages like any other object.
+    return reinterpret_cast<id>(objc_getClass(name));
+}
+
+id makeString(const char* text)
+{
+    const id stringClass = classNamed("NSString");
+    const auto encoding = send<NSUInteger>(stringClass, "defaultCStringEncoding");
+    return send<id>(stringClass, "stringWithCString:encoding:", text, encoding);
+}
+
+NSUInteger alertStyle(boxer::Style style)
+{
+    switch (style) {
+    case boxer::Style::Info:
+        return AlertStyleInformational;
+    case boxer::Style::Warning:
+    case boxer::Style::Question:
+        return AlertStyleWarning;
+    case boxer::Style::Error:
+        return AlertStyleCritical;
+    }
+    return AlertStyleInformational;
+}
+
+boxer::Selection selectionFor(NSInteger response, const std::vector<BoxerButtons::Button>& buttons)
+{
+    const NSInteger index = response - AlertFirstButtonReturn;
+    if (index < 0 || index >= static_cast<NSInteger>(buttons.size())) {
+        return boxer::Selection::None;
+    }
+    return buttons[static_cast<std::size_t>(index)].selection;
+}
+
+} // namespace
+
+boxer::Selection boxer::show(const char* message, const char* title, Style style, Buttons buttons)
+{
+    const AutoreleasePool pool;
+    const auto shownButtons = BoxerButtons::of(buttons);
+
+    const id alert = send<id>(send<id>(classNamed("NSAlert"), "alloc"), "init");
+    send<void>(alert, "setMessageText:", makeString(title));
+    send<void>(alert, "setInformativeText:", makeString(message));
+    send<void>(alert, "setAlertStyle:", alertStyle(style));
+    for (const auto& button : shownButtons) {
+        send<id>(alert, "addButtonWithTitle:", makeString(button.title));
+    }
+    // Above whatever window of the program may be there, so that it cannot be missed.
+    send<void>(send<id>(alert, "window"), "setLevel:", ModalPanelWindowLevel);
+
+    const auto response = send<NSInteger>(alert, "runModal");
+    send<void>(alert, "release");
+    return selectionFor(response, shownButtons);
+}
