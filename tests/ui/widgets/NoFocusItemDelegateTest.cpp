@@ -1,0 +1,58 @@
+#include "ui/widgets/NoFocusItemDelegate.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QStandardItemModel>
+#include <QStyleOptionViewItem>
+#include <QTest>
+
+namespace {
+
+QImage painted(const QAbstractItemDelegate& delegate, QStyle::State state)
+{
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), QStringLiteral("video.mp4"));
+
+    QImage image(120, 24, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QStyleOptionViewItem option;
+    option.rect = image.rect();
+    option.state = state;
+    delegate.paint(&painter, option, model.index(0, 0));
+    return image;
+}
+
+constexpr QStyle::State Plain = QStyle::State_Enabled | QStyle::State_KeyboardFocusChange;
+constexpr QStyle::State Focused = Plain | QStyle::State_HasFocus;
+
+} // namespace
+
+class NoFocusItemDelegateTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void focus_leavesNoTrace();
+    void selection_isStillShown();
+};
+
+void NoFocusItemDelegateTest::focus_leavesNoTrace()
+{
+    // The ordinary delegate shows that there is something to leave out.
+    const QItemDelegate ordinary;
+    QVERIFY(painted(ordinary, Focused) != painted(ordinary, Plain));
+    const NoFocusItemDelegate delegate;
+    QCOMPARE(painted(delegate, Focused), painted(delegate, Plain));
+    QCOMPARE(painted(delegate, Plain), painted(ordinary, Plain));
+}
+
+void NoFocusItemDelegateTest::selection_isStillShown()
+{
+    const NoFocusItemDelegate delegate;
+    const QStyle::State selected = Focused | QStyle::State_Selected;
+    QVERIFY(painted(delegate, selected) != painted(delegate, Focused));
+}
+
+QTEST_MAIN(NoFocusItemDelegateTest)
+#include "NoFocusItemDelegateTest.moc"

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QColor>
+#include <QLabel>
+
+/// A swatch that shows the colour chosen beside it. User-interface thread only.
+class ColorLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ColorLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
+
+    /// Invalid until one is set.
+    QColor colorValue() const;
+
+    /// Stores the colour; the swatch shows it from its next repaint on, which is the caller's to
+    /// ask for.
+    void setColorValue(const QColor& color);
+
+protected:
+    /// Fills a rectangle at the left over the full height; no text and no frame. An invalid colour
+    /// paints nothing.
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor m_colorValue;
+};

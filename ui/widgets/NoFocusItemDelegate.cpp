@@ -1,0 +1,5 @@
+#include "ui/widgets/NoFocusItemDelegate.h"
+
+void NoFocusItemDelegate::drawFocus(QPainter* /*painter*/, const QStyleOptionViewItem& /*option*/,
+                                    const QRect& /*rect*/) const
+{}
