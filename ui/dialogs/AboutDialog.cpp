@@ -1,0 +1,40 @@
+#include "ui/dialogs/AboutDialog.h"
+
+#include "app/ProductInfo.h"
+#include "ui_AboutDialog.h"
+
+#include <QPixmap>
+
+namespace {
+
+QString link(const QString& address, const QString& text)
+{
+    return QStringLiteral("<a href=\"%1\">%2</a>")
+        .arg(address.toHtmlEscaped(), text.toHtmlEscaped());
+}
+
+} // namespace
+
+AboutDialog::AboutDialog(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::AboutDialog>())
+{
+    m_ui->setupUi(this);
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+
+    fillLinks();
+    m_ui->versionLabel->setText(tr("Version: ") + ProductInfo::version());
+    m_ui->iconLabel->setPixmap(QPixmap(QStringLiteral(":/Images/MVIcon1024.png")));
+}
+
+AboutDialog::~AboutDialog() = default;
+
+void AboutDialog::fillLinks()
+{
+    const QString host = ProductInfo::domain();
+    m_ui->webLinkLabel->setText(link(QStringLiteral("https://") + host + QLatin1Char('/'), host));
+
+    const QString mail = QStringLiteral("support@") + host;
+    m_ui->mailLinkLabel->setText(link(QStringLiteral("mailto:") + mail, mail));
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class AboutDialog;
+}
+
+/// The about box: what the program is called, its version, and where its maker is found.
+/// User-interface thread only.
+class AboutDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit AboutDialog(QWidget* parent);
+    ~AboutDialog() override;
+
+private:
+    void fillLinks();
+
+    std::unique_ptr<Ui::AboutDialog> m_ui;
+};
