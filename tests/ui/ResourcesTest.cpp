@@ -1,7 +1,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QIcon>
 #include <QImage>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSvgRenderer>
@@ -51,6 +54,8 @@ private Q_SLOTS:
     void styleSheet_isAcceptedWhole();
     void styleSheet_isAsciiWithoutNul();
     void styleSheet_namesOnlyImagesThatExist();
+    void styleSheet_leavesFontsAlone();
+    void styleSheet_leavesPlaceholdersPalerThanText();
     void icons_areDrawn_data();
     void icons_areDrawn();
     void icons_standOutOnLightAndDark_data();
@@ -95,6 +100,26 @@ void ResourcesTest::styleSheet_namesOnlyImagesThatExist()
         const QString path = matches.next().captured(1);
         QVERIFY2(QFile::exists(path), qPrintable(path));
     }
+}
+
+void ResourcesTest::styleSheet_leavesFontsAlone()
+{
+    // Font labels show a font of the user's.
+    const QFont font(QStringLiteral("Courier"), 14, QFont::Bold);
+    QLabel label;
+    label.setFont(font);
+    label.setStyleSheet(QString::fromLatin1(contents(QStringLiteral(":/Styles.qss"))));
+    label.ensurePolished();
+    QCOMPARE(label.font(), font);
+}
+
+void ResourcesTest::styleSheet_leavesPlaceholdersPalerThanText()
+{
+    QLineEdit edit;
+    edit.setStyleSheet(QString::fromLatin1(contents(QStringLiteral(":/Styles.qss"))));
+    edit.ensurePolished();
+    const QPalette palette = edit.palette();
+    QVERIFY(palette.color(QPalette::PlaceholderText) != palette.color(QPalette::Text));
 }
 
 void ResourcesTest::icons_areDrawn_data()
