@@ -42,7 +42,7 @@ protected:
         if (hasCancelButton()) {
             QMessageBox::closeEvent(event);
         } else {
-            QDialog::closeEvent(event);
+            reject();
         }
     }
 
@@ -95,6 +95,7 @@ boxer::Selection boxer::show(const char* message, const char* title, Style style
 
     const auto shownButtons = BoxerButtons::of(buttons);
     std::vector<QPushButton*> added;
+    added.reserve(shownButtons.size());
     for (const auto& button : shownButtons) {
         added.push_back(box.addButton(QString::fromUtf8(button.title), role(button.selection)));
     }

@@ -5,14 +5,18 @@
 #include <vector>
 
 // <objc/message.h> is left out: it declares objc_msgSend without the parameters that it has. Like
-// the real one it is called through pointers of many types, which works since all arguments are
-// machine words, passed alike. Those that a message lacks are not looked at.
+// the real one it is called through pointers of many types, which works since all arguments and
+// results are pointers or integers as wide, passed alike. Those that a message lacks are not looked
+// at.
 
 namespace {
 
-using Word = std::uintptr_t;
+/// An argument: a pointer, or a number in its place.
+using Argument = const void*;
+/// A result: a number, or a pointer in its place.
+using Result = std::uintptr_t;
 
-constexpr Word MacRomanEncoding = 30;
+constexpr Result MacRomanEncoding = 30;
 
 /// An object, a class or a selector: something with a name.
 struct Named
@@ -38,14 +42,19 @@ Named* make(const QString& name)
     return runtime().made.emplace_back(std::make_unique<Named>(Named{name})).get();
 }
 
-QString nameOf(Word object)
+QString nameOf(Argument object)
 {
-    return object == 0 ? QStringLiteral("nil") : reinterpret_cast<const Named*>(object)->name;
+    return object == nullptr ? QStringLiteral("nil") : static_cast<const Named*>(object)->name;
 }
 
-Word wordOf(const Named* object)
+std::uintptr_t number(Argument argument)
 {
-    return reinterpret_cast<Word>(object);
+    return reinterpret_cast<std::uintptr_t>(argument);
+}
+
+Result pointer(Argument object)
+{
+    return reinterpret_cast<Result>(object);
 }
 
 QString quoted(const char* text)
@@ -53,43 +62,43 @@ QString quoted(const char* text)
     return QLatin1Char('"') + QString::fromUtf8(text) + QLatin1Char('"');
 }
 
-Word makeString(Word text, Word encoding)
+Result makeString(Argument text, Argument encoding)
 {
-    const QString name = quoted(reinterpret_cast<const char*>(text));
+    const QString name = quoted(static_cast<const char*>(text));
     runtime().journal +=
-        QStringLiteral("NSString stringWithCString:%1 encoding:%2").arg(name).arg(encoding);
-    return wordOf(make(name));
+        QStringLiteral("NSString stringWithCString:%1 encoding:%2").arg(name).arg(number(encoding));
+    return pointer(make(name));
 }
 
 /// Messages without an argument.
-Word answer(Word receiver, const QString& selector)
+Result answer(Argument receiver, const QString& selector)
 {
     runtime().journal += nameOf(receiver) + QLatin1Char(' ') + selector;
     if (selector == QLatin1String("alloc")) {
-        return wordOf(make(QStringLiteral("alert")));
+        return pointer(make(QStringLiteral("alert")));
     }
     if (selector == QLatin1String("init")) {
-        return receiver;
+        return pointer(receiver);
     }
     if (selector == QLatin1String("window")) {
-        return wordOf(make(QStringLiteral("window")));
+        return pointer(make(QStringLiteral("window")));
     }
     if (selector == QLatin1String("defaultCStringEncoding")) {
         return MacRomanEncoding;
     }
     if (selector == QLatin1String("runModal")) {
-        return static_cast<Word>(runtime().modalResponse);
+        return static_cast<Result>(runtime().modalResponse);
     }
     return 0;
 }
 
 /// Messages with one argument: an object for texts and titles, a number for the others.
-Word answer(Word receiver, const QString& selector, Word argument)
+Result answer(Argument receiver, const QString& selector, Argument argument)
 {
     const bool takesObject =
         selector.endsWith(QLatin1String("Text:")) || selector.endsWith(QLatin1String("Title:"));
     runtime().journal += nameOf(receiver) + QLatin1Char(' ') + selector +
-                         (takesObject ? nameOf(argument) : QString::number(argument));
+                         (takesObject ? nameOf(argument) : QString::number(number(argument)));
     return 0;
 }
 
@@ -130,7 +139,7 @@ void* sel_registerName(const char* name)
     return make(QString::fromLatin1(name));
 }
 
-Word objc_msgSend(Word receiver, Word selector, Word first, Word second)
+Result objc_msgSend(Argument receiver, Argument selector, Argument first, Argument second)
 {
     const QString name = nameOf(selector);
     switch (name.count(QLatin1Char(':'))) {
