@@ -90,6 +90,17 @@ QSize VideoFrame::displaySize() const
     return swapsSides(d->orientation) ? square.transposed() : square;
 }
 
+qint64 VideoFrame::byteCount() const
+{
+    if (!d)
+        return 0;
+    // Planes may share a buffer, and buffers are larger than the planes in them: ask the buffers.
+    qint64 bytes = 0;
+    for (const AVBufferRef* buffer : d->frame->buf)
+        bytes += buffer ? static_cast<qint64>(buffer->size) : 0;
+    return bytes;
+}
+
 QString VideoFrame::format() const
 {
     if (!d)

@@ -41,6 +41,9 @@ public:
     /// there the shorter of width and height is stretched, so that no stored pixel is lost.
     QSize displaySize() const;
 
+    /// The memory that the stored picture takes, in bytes; 0 when not valid.
+    qint64 byteCount() const;
+
     /// The pixel format's name, such as "yuv420p"; empty when not valid.
     QString format() const;
 

@@ -1,0 +1,102 @@
+#include "qtav/player/FrameCache.h"
+
+#include "qtav/player/Times.h"
+
+#include <iterator>
+
+namespace QtAV {
+
+FrameCache::FrameCache(qint64 mostBytes)
+    : m_mostBytes(mostBytes)
+{}
+
+void FrameCache::insert(const VideoFrame& frame, std::optional<double> predecessor)
+{
+    Entry& entry = m_frames[frame.timestamp()];
+    if (predecessor)
+        entry.predecessor = predecessor;
+    if (entry.frame.isValid())
+        return;
+    entry.frame = frame;
+    m_bytes += frame.byteCount();
+    shrink();
+}
+
+void FrameCache::setFocus(double seconds)
+{
+    m_focus = seconds;
+}
+
+void FrameCache::clear()
+{
+    m_frames.clear();
+    m_bytes = 0;
+    m_focus = 0.0;
+    m_first.reset();
+}
+
+/// One frame stays however large it is.
+void FrameCache::shrink()
+{
+    while (m_bytes > m_mostBytes && m_frames.size() > 1) {
+        const auto first = m_frames.begin();
+        const auto last = std::prev(m_frames.end());
+        const bool firstIsFurther = m_focus - first->first > last->first - m_focus;
+        const auto furthest = firstIsFurther ? first : last;
+        m_bytes -= furthest->second.frame.byteCount();
+        m_frames.erase(furthest);
+    }
+}
+
+VideoFrame FrameCache::at(double seconds) const
+{
+    const auto found = m_frames.find(seconds);
+    return found != m_frames.end() ? found->second.frame : VideoFrame();
+}
+
+VideoFrame FrameCache::before(double seconds) const
+{
+    const auto found = m_frames.find(seconds);
+    if (found == m_frames.end() || !found->second.predecessor)
+        return {};
+    return at(*found->second.predecessor);
+}
+
+VideoFrame FrameCache::after(double seconds) const
+{
+    const auto next = m_frames.upper_bound(seconds);
+    if (next == m_frames.end() || next->second.predecessor != seconds)
+        return {};
+    return next->second.frame;
+}
+
+VideoFrame FrameCache::atOrAfter(qint64 ms) const
+{
+    // Half a millisecond less, so that rounding hides no frame.
+    auto next = m_frames.lower_bound((double(ms) - 0.5) / 1000.0);
+    while (next != m_frames.end() && toMilliseconds(next->first) < ms)
+        ++next;
+    if (next == m_frames.end())
+        return {};
+    const std::optional<double>& predecessor = next->second.predecessor;
+    const bool isTheFirstSuch =
+        m_first == next->first || (predecessor && toMilliseconds(*predecessor) < ms);
+    return isTheFirstSuch ? next->second.frame : VideoFrame();
+}
+
+std::optional<FrameCache::Run> FrameCache::runUpTo(double seconds) const
+{
+    auto entry = m_frames.find(seconds);
+    if (entry == m_frames.end())
+        return std::nullopt;
+    Run run{seconds, 0, false};
+    while (entry != m_frames.begin() && entry->second.predecessor == std::prev(entry)->first) {
+        --entry;
+        run.start = entry->first;
+        run.bytes += entry->second.frame.byteCount();
+    }
+    run.isAtStart = m_first == run.start;
+    return run;
+}
+
+} // namespace QtAV

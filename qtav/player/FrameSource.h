@@ -1,0 +1,107 @@
+#pragma once
+
+#include "qtav/player/FrameCache.h"
+#include "qtav/player/VideoCursor.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace QtAV {
+
+/// Gives exactly the frame that is asked for: the first at or after a position, the very next and
+/// the very one before.
+///
+/// What was decoded is kept in a FrameCache. Two cursors walk in the file: one stays where frames
+/// are wanted next, so that going forward goes on decoding; the other fills the cache with what
+/// lies before the focus, so that stepping back finds it there.
+///
+/// Where a codec gives no whole picture at a place that the container calls a key frame, decoding
+/// starts again further back, until nothing can be missing before the frame that was found.
+///
+/// Not thread-safe, but tied to no thread.
+class FrameSource
+{
+public:
+    struct Found
+    {
+        enum class Kind { Frame, None, Cancelled };
+
+        Kind kind = Kind::None;
+        VideoFrame frame = {};
+    };
+
+    /// Opens a file and decodes its first frame, which goes into the cache. False, with a text for
+    /// people, when no frame comes out.
+    [[nodiscard]] bool open(const QString& path, qint64 cacheBytes, const IsCancelled& isCancelled,
+                            QString& error);
+    void close();
+    bool isOpen() const { return m_ahead.isOpen(); }
+
+    /// In milliseconds; 0 when nothing is open.
+    qint64 duration() const { return m_ahead.demuxer().duration(); }
+    /// The usual time between two frames in milliseconds, 1 or more.
+    int frameInterval() const;
+    bool hasSound() const { return !m_ahead.demuxer().audioStreams().isEmpty(); }
+
+    /// The first frame at or after a position in milliseconds; behind the last frame, the last.
+    [[nodiscard]] Found frameAt(qint64 ms, const IsCancelled& isCancelled);
+
+    /// The frame directly after the one of that time in seconds; none after the last.
+    [[nodiscard]] Found after(double seconds, const IsCancelled& isCancelled);
+
+    /// The frame directly before the one of that time in seconds; none before the first.
+    [[nodiscard]] Found before(double seconds, const IsCancelled& isCancelled);
+
+    /// The time in seconds around which frames are kept and before which they are decoded ahead.
+    void setFocus(double seconds);
+
+    /// Decodes one of the frames before the focus. False when enough of them are there.
+    [[nodiscard]] bool fillBehind(const IsCancelled& isCancelled);
+
+    const FrameCache& cache() const { return m_cache; }
+
+private:
+    using IsReached = std::function<bool(const VideoFrame&)>;
+
+    enum class Walked { Reached, MayHaveMissed, End, Cancelled };
+    enum class Filling { GoesOn, Done, Cancelled };
+
+    /// The walk of the second cursor up to a frame.
+    struct WalkBehind
+    {
+        double target; ///< the time of the frame to get to, in seconds
+        qint64 stepBackMs = 0;
+        bool leavesOut = true;
+        VideoFrame previous = {}; ///< the last frame before the target
+    };
+
+    Found walkFrom(qint64 ms, qint64 completeFrom, const IsReached& isReached,
+                   const IsCancelled& isCancelled);
+    Walked walkOn(const IsReached& isReached, const IsCancelled& isCancelled);
+    bool isShortlyBefore(double seconds) const;
+    Found lastFrame(const IsCancelled& isCancelled);
+    void noteEnd();
+
+    bool startWalkBehind(double target);
+    void landBehind();
+    Filling walkOnBehind(const IsCancelled& isCancelled);
+    bool startFilling();
+
+    void keep(const VideoCursor::Step& step);
+    qint64 lengthOf(qint64 frames) const { return frames * m_longestGapMs; }
+
+    QString m_path;
+    FrameCache m_cache;
+    VideoCursor m_ahead;
+    VideoCursor m_behind;
+    VideoFrame m_aheadFrame;          ///< what m_ahead gave last
+    std::optional<double> m_lastTime; ///< of the video's last frame, once it has been seen
+    qint64 m_longestGapMs = 0;        ///< between two neighbours that have been seen
+    double m_focus = 0.0;
+    std::optional<WalkBehind> m_walk;
+    std::optional<double> m_filledUpTo; ///< the frame that the last filling was for
+};
+
+} // namespace QtAV

@@ -1,0 +1,156 @@
+#pragma once
+
+#include "qtav/player/FrameSource.h"
+
+#include <QString>
+
+#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
+
+namespace QtAV {
+
+/// The decoding thread of one player and its mailbox.
+///
+/// Commands are posted from the owner's thread and never wait. Each bears a serial number, which
+/// its answer repeats. A seek replaces the seeks and steps that have not been answered yet, and so
+/// do opening and closing; steps are carried out one by one. While playing, frames are decoded
+/// ahead into a bounded queue, from which the owner takes them when they are due; while not, what
+/// lies before the current frame is decoded into the cache.
+///
+/// All public functions are for the owner's thread.
+class PlaybackEngine
+{
+public:
+    enum class Direction { Forward, Backward };
+
+    struct Answer
+    {
+        enum class Kind {
+            Opened,     ///< the file plays; all but error holds
+            OpenFailed, ///< error holds
+            Sought,     ///< frame holds
+            SeekFailed, ///< no frame can be had any more
+            Stepped,    ///< frame is invalid where there is none in that direction
+        };
+
+        Kind kind = Kind::SeekFailed;
+        quint64 serial = 0;
+        VideoFrame frame = {};
+        qint64 duration = 0; ///< in milliseconds
+        int frameInterval = 0;
+        bool hasSound = false;
+        QString error = {};
+    };
+
+    /// What the queue holds for a moment of playback.
+    struct Due
+    {
+        VideoFrame frame = {};           ///< the one to show now; invalid for none
+        std::optional<double> next = {}; ///< the time of the frame after it in seconds
+        int dropped = 0;                 ///< frames that came too late to be shown
+        bool isEnded = false;            ///< nothing comes after `frame`
+    };
+
+    enum class CatchUp { No, Yes };
+
+    /// More would only make seeking while playing slower to begin.
+    static constexpr size_t MostQueuedFrames = 8;
+
+    /// @param wake  called on the decoding thread when there are answers, or frames for an owner
+    ///              who found the queue empty. Must not call the engine.
+    explicit PlaybackEngine(std::function<void()> wake);
+
+    /// Waits until the decoding thread has ended: for a packet, or for a file being opened.
+    ~PlaybackEngine();
+    PlaybackEngine(const PlaybackEngine&) = delete;
+    PlaybackEngine& operator=(const PlaybackEngine&) = delete;
+
+    quint64 open(const QString& path, qint64 cacheBytes);
+    quint64 close();
+    quint64 seek(qint64 ms);
+    quint64 step(Direction direction);
+
+    /// Whether the queue is to be kept full.
+    void setPlaying(bool playing);
+
+    /// The answers since the last call, in order.
+    std::vector<Answer> takeAnswers();
+
+    /// Takes the frames whose time has come out of the queue. The last of them becomes the current
+    /// frame, which steps go from.
+    /// @param catchUp  whether decoding shall leave frames out when it falls behind this time.
+    Due takeDue(double seconds, CatchUp catchUp);
+
+private:
+    struct OpenRequest
+    {
+        QString path;
+        qint64 cacheBytes;
+        quint64 serial;
+    };
+    struct SeekRequest
+    {
+        qint64 ms;
+        quint64 serial;
+    };
+    struct StepRequest
+    {
+        Direction direction;
+        quint64 serial;
+    };
+    using Lock = std::unique_lock<std::mutex>;
+
+    void run();
+    bool workOnce(Lock& lock);
+    void openFile(Lock& lock);
+    void carryOutSeek(Lock& lock);
+    void carryOutStep(Lock& lock);
+    bool wantsFrames() const;
+    void decodeAhead(Lock& lock);
+    void decodeBehind(Lock& lock);
+
+    quint64 post();
+    void dropPending();
+    void leaveFile();
+    void forgetQueue();
+    void becomeCurrent(const VideoFrame& frame);
+    void answer(Answer answer);
+    void wakeOwner();
+
+    const std::function<void()> m_wake;
+    // Asked by the decoding thread between two packets.
+    std::atomic<bool> m_commandWaits{false};     ///< any: decoding ahead and behind stop for it
+    std::atomic<bool> m_replacementWaits{false}; ///< one that seeks and steps stop for
+    std::atomic<bool> m_otherFileWaits{false};   ///< one that opening a file stops for
+
+    std::mutex m_mutex;
+    // Guarded by m_mutex, down to m_quits.
+    std::condition_variable m_changed;
+    quint64 m_serial = 0;
+    std::optional<OpenRequest> m_open;
+    bool m_closes = false;
+    std::optional<SeekRequest> m_seek;
+    std::deque<StepRequest> m_steps;
+    bool m_playing = false;
+    std::vector<Answer> m_answers;
+    bool m_ownerIsWoken = false;
+    VideoFrame m_current;
+    std::deque<VideoFrame> m_queue;
+    quint64 m_queueGeneration = 0; ///< changes when what is being decoded no longer belongs there
+    bool m_ended = false;
+    bool m_ownerWaitsForFrames = false;
+    double m_catchUpTo = 0.0; ///< the time of the sound in seconds; 0 for none to follow
+    bool m_mayFillBehind = false;
+    bool m_quits = false;
+
+    FrameSource m_source; ///< of the decoding thread
+    std::thread m_thread; ///< last, so that it finds everything made
+};
+
+} // namespace QtAV

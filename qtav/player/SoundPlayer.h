@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace QtAV {
+
+/// Plays the sound of one file on a thread of its own and tells the time by it.
+///
+/// Where there is no device, or it fails, the sound falls silent and gives no time; nothing else
+/// happens. All functions are for the owner's thread and never wait.
+class SoundPlayer
+{
+public:
+    SoundPlayer();
+    /// Waits until the thread has ended.
+    ~SoundPlayer();
+    SoundPlayer(const SoundPlayer&) = delete;
+    SoundPlayer& operator=(const SoundPlayer&) = delete;
+
+    void open(const QString& path);
+    void close();
+
+    /// Plays from a time in seconds on.
+    void play(double seconds);
+    void pause();
+
+    /// From 0 to 1; 0 is silence.
+    void setVolume(qreal volume);
+
+    /// The time in seconds that can be heard now; nothing while no sound comes out.
+    std::optional<double> position() const;
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace QtAV

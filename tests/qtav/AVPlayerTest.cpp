@@ -1,0 +1,561 @@
+#include "tests/qtav/Playing.h"
+
+#include <QTest>
+
+#include <random>
+
+using namespace decoding;
+using namespace playing;
+using QtAV::AVPlayer;
+using testsupport::Sample;
+
+/// What a player does when it is told to, with the files of several formats.
+class AVPlayerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void newPlayer_isStopped_andHasNothing();
+    void play_showsEveryFrame_andPausesOnTheLast();
+    void play_startsOver_fromTheEnd();
+    void playback_stops_atTheEnd_whenToldSo();
+    void playback_ends_forEachFormat_data();
+    void playback_ends_forEachFormat();
+    void pause_andPlay_changeTheState_andAreSignalled();
+    void pause_holds_whileTheFileIsBeingOpened();
+    void stop_closesTheFile_andBlackensTheScreen();
+    void otherFile_replacesTheFirst_whenPlayed();
+    void unplayableFile_endsInvalidAndStopped_data();
+    void unplayableFile_endsInvalidAndStopped();
+    void goodFile_plays_afterAnUnplayableOne();
+    void calls_doNothing_withoutAFile();
+    void steps_meetEveryFrameOnce_toTheEndAndBack_data();
+    void steps_meetEveryFrameOnce_toTheEndAndBack();
+    void steps_addUp_whenNobodyWaits();
+    void step_pauses_whilePlaying_andGoesFromTheFrameOnScreen();
+    void mixedStepsAndSeeks_endOnTheRightFrame();
+    void positions_areClamped();
+    void seek_showsTheFirstFrameAtOrAfter_data();
+    void seek_showsTheFirstFrameAtOrAfter();
+    void seek_beforeTheFileIsOpen_isCarriedOut();
+    void seek_playsOn_whilePlaying();
+    void newestSeek_wins_andAloneIsAnswered();
+    void capture_givesTheFrameOnScreen_asADecoderDoes_data();
+    void capture_givesTheFrameOnScreen_asADecoderDoes();
+    void capture_fails_withoutAFrame();
+    void statistics_tellTheSizeOnScreen();
+    void renderer_mayGo_beforeThePlayer();
+    void truncatedFile_canBeSoughtAndStepped();
+};
+
+void AVPlayerTest::newPlayer_isStopped_andHasNothing()
+{
+    AVPlayer player;
+    QCOMPARE(player.state(), AVPlayer::StoppedState);
+    QVERIFY(!player.isPlaying());
+    QVERIFY(!player.isPaused());
+    QVERIFY(!player.isLoaded());
+    QCOMPARE(player.mediaStatus(), QtAV::NoMedia);
+    QCOMPARE(player.duration(), qint64(0));
+    QCOMPARE(player.position(), qint64(0));
+    QCOMPARE(player.displayPosition(), qint64(0));
+    QCOMPARE(player.statistics().video_only.width, 0);
+    QCOMPARE(player.frameCacheSize(), qint64(256) << 20);
+    QVERIFY(player.videoCapture());
+    QCOMPARE(player.audio()->volume(), 1.0);
+}
+
+void AVPlayerTest::play_showsEveryFrame_andPausesOnTheLast()
+{
+    const Sample& sample = testsupport::sampleNamed(QStringLiteral("h264_bframes.mp4"));
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    QSignalSpy started(&stage.player, &AVPlayer::started);
+    QSignalSpy states(&stage.player, &AVPlayer::stateChanged);
+    QSignalSpy durations(&stage.player, &AVPlayer::durationChanged);
+    QSignalSpy intervals(&stage.player, &AVPlayer::notifyIntervalChanged);
+    stage.player.play(testsupport::samplePath(sample.file));
+    QVERIFY(stage.player.isPlaying());
+    QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    QVERIFY(stage.player.isPaused());
+    QCOMPARE(started.count(), 1);
+    QCOMPARE(states.count(), 2);
+    QCOMPARE(durations.count(), 1);
+    QCOMPARE(durations.at(0).at(0).toLongLong(), qint64(4000));
+    QCOMPARE(intervals.count(), 1);
+    QCOMPARE(stage.player.notifyInterval(), 40);
+    // A machine under load may drop some, but shows none twice or out of order.
+    const QList<Shown> all = stage.screen.shown;
+    for (int i = 1; i < all.size(); ++i)
+        QVERIFY(all.at(i).number > all.at(i - 1).number);
+    QCOMPARE(all.size() + stage.player.statistics().droppedFrames, sample.frames);
+    QCOMPARE(all.constLast(), expectedFrom(sample, 0).constLast());
+}
+
+void AVPlayerTest::play_startsOver_fromTheEnd()
+{
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
+    QVERIFY(stage.seek(1900));
+    stage.player.play();
+    QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    stage.screen.shown.clear();
+    stage.player.play();
+    QVERIFY(stage.player.isPlaying());
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    QCOMPARE(stage.screen.shown.constFirst().number, 0);
+    QCOMPARE(stage.player.mediaStatus(), QtAV::LoadedMedia);
+    QVERIFY(stage.screen.shown.constLast().number < 40);
+}
+
+void AVPlayerTest::playback_stops_atTheEnd_whenToldSo()
+{
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Stop);
+    QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
+    QVERIFY(stage.seek(1900));
+    QSignalSpy stopped(&stage.player, &AVPlayer::stopped);
+    stage.player.play();
+    QVERIFY(stopped.wait(Patience));
+    QCOMPARE(stage.player.state(), AVPlayer::StoppedState);
+    QVERIFY(!stage.player.isLoaded());
+}
+
+void AVPlayerTest::playback_ends_forEachFormat_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"variable_rate.mkv", "mpeg2.ts", "h264_one_frame.mp4", "sound.mp4",
+                             "edit_list.mp4", "raw.h264", "mpeg4_packed_bframes.avi"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void AVPlayerTest::playback_ends_forEachFormat()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    QVERIFY(stage.open(file));
+    QVERIFY(stage.seek(testsupport::frameTimeMs(sample, std::max(0, sample.frames - 8))));
+    stage.player.play();
+    QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    QVERIFY(stage.player.isPaused());
+    QCOMPARE(stage.screen.shown.constLast(), expectedFrom(sample, 0).constLast());
+}
+
+void AVPlayerTest::pause_andPlay_changeTheState_andAreSignalled()
+{
+    Stage stage;
+    QSignalSpy paused(&stage.player, &AVPlayer::paused);
+    stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    stage.player.pause();
+    QVERIFY(stage.player.isPaused());
+    QVERIFY(!stage.player.isPlaying());
+    QCOMPARE(paused.count(), 1);
+    stage.player.pause(); // a second time changes nothing
+    QCOMPARE(paused.count(), 1);
+    const int before = stage.screen.shown.size();
+    stage.settle();
+    QCOMPARE(stage.screen.shown.size(), before);
+    stage.player.pause(false);
+    QVERIFY(stage.player.isPlaying());
+    QCOMPARE(paused.count(), 2);
+    QCOMPARE(paused.at(1).at(0).toBool(), false);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() > before, Patience);
+    QCOMPARE(stage.screen.shown.at(before).number, stage.screen.shown.at(before - 1).number + 1);
+}
+
+void AVPlayerTest::pause_holds_whileTheFileIsBeingOpened()
+{
+    Stage stage;
+    stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
+    QCOMPARE(stage.player.mediaStatus(), QtAV::LoadingMedia);
+    stage.player.pause();
+    QVERIFY(stage.player.isPaused());
+    QVERIFY(stage.waitForStatus(QtAV::LoadedMedia));
+    stage.settle();
+    QCOMPARE(stage.screen.shown.size(), 1);
+    QCOMPARE(stage.screen.shown.constFirst().number, 0);
+    QVERIFY(stage.player.isPaused());
+}
+
+void AVPlayerTest::stop_closesTheFile_andBlackensTheScreen()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
+    QVERIFY(stage.screen.frame.isValid());
+    QSignalSpy stopped(&stage.player, &AVPlayer::stopped);
+    stage.player.stop();
+    QCOMPARE(stopped.count(), 1);
+    QVERIFY(!stage.screen.frame.isValid());
+    QCOMPARE(stage.player.state(), AVPlayer::StoppedState);
+    QCOMPARE(stage.player.mediaStatus(), QtAV::NoMedia);
+    QCOMPARE(stage.player.duration(), qint64(0));
+    QCOMPARE(stage.player.displayPosition(), qint64(0));
+    stage.player.stop(); // a second time does nothing
+    QCOMPARE(stopped.count(), 1);
+    stage.player.play();
+    QVERIFY(stage.waitForStatus(QtAV::LoadedMedia));
+}
+
+void AVPlayerTest::otherFile_replacesTheFirst_whenPlayed()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
+    stage.player.play(testsupport::samplePath(QStringLiteral("vp8.webm")));
+    stage.player.play(testsupport::samplePath(QStringLiteral("edit_list.mp4")));
+    stage.player.pause();
+    stage.screen.shown.clear();
+    QVERIFY(stage.waitForStatus(QtAV::LoadedMedia));
+    QCOMPARE(stage.screen.shown.constFirst().number, 35);
+    QCOMPARE(stage.player.file(), testsupport::samplePath(QStringLiteral("edit_list.mp4")));
+}
+
+void AVPlayerTest::unplayableFile_endsInvalidAndStopped_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"empty.mp4", "text.mp4", "random_bytes.mp4", "folder.mp4",
+                             "truncated_without_moov.mp4", "sound_only.mp3", "missing.mp4"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void AVPlayerTest::unplayableFile_endsInvalidAndStopped()
+{
+    QFETCH(QString, file);
+    Stage stage;
+    QSignalSpy statuses(&stage.player, &AVPlayer::mediaStatusChanged);
+    stage.player.play(testsupport::samplePath(file));
+    QVERIFY(stage.waitForStatus(QtAV::InvalidMedia));
+    QCOMPARE(statuses.count(), 2); // loading, invalid
+    QCOMPARE(stage.player.state(), AVPlayer::StoppedState);
+    QVERIFY(!stage.player.isLoaded());
+    QVERIFY(!stage.player.errorString().isEmpty());
+    QVERIFY(stage.screen.shown.isEmpty());
+    // A second try fails the same way.
+    stage.player.play();
+    QVERIFY(stage.waitForStatus(QtAV::InvalidMedia));
+}
+
+void AVPlayerTest::goodFile_plays_afterAnUnplayableOne()
+{
+    Stage stage;
+    stage.player.play(testsupport::samplePath(QStringLiteral("text.mp4")));
+    QVERIFY(stage.waitForStatus(QtAV::InvalidMedia));
+    QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
+    QVERIFY(stage.player.errorString().isEmpty());
+    QCOMPARE(stage.number(), 0);
+}
+
+void AVPlayerTest::calls_doNothing_withoutAFile()
+{
+    Stage stage;
+    QSignalSpy states(&stage.player, &AVPlayer::stateChanged);
+    QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
+    stage.player.play();
+    stage.player.pause();
+    stage.player.pause(false);
+    stage.player.setPosition(1000);
+    stage.player.stepForward();
+    stage.player.stepBackward();
+    stage.player.stop();
+    stage.settle();
+    QCOMPARE(states.count(), 0);
+    QCOMPARE(sought.count(), 0);
+    QVERIFY(!stage.screen.frame.isValid());
+}
+
+void AVPlayerTest::steps_meetEveryFrameOnce_toTheEndAndBack_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"h264_bframes.mp4", "variable_rate.mp4", "h264_open_gop_bframes.mp4",
+                             "mpeg2.ts", "h264_gop250.mp4"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void AVPlayerTest::steps_meetEveryFrameOnce_toTheEndAndBack()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    Stage stage;
+    QVERIFY(stage.open(file));
+    QList<Shown> expected = expectedFrom(sample, 0);
+    for (int n = 1; n < sample.frames; ++n)
+        QVERIFY(stage.stepForward());
+    QCOMPARE(stage.screen.shown, expected);
+    stage.player.stepForward(); // there is none
+    stage.settle();
+    QCOMPARE(stage.screen.shown.size(), sample.frames);
+
+    stage.screen.shown = {stage.screen.shown.constLast()};
+    for (int n = 1; n < sample.frames; ++n)
+        QVERIFY(stage.stepBackward());
+    std::reverse(expected.begin(), expected.end());
+    QCOMPARE(stage.screen.shown, expected);
+    stage.player.stepBackward(); // there is none
+    stage.settle();
+    QCOMPARE(stage.screen.shown.size(), sample.frames);
+}
+
+void AVPlayerTest::steps_addUp_whenNobodyWaits()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
+    for (int i = 0; i < 30; ++i)
+        stage.player.stepForward();
+    for (int i = 0; i < 10; ++i)
+        stage.player.stepBackward();
+    QTRY_COMPARE_WITH_TIMEOUT(stage.screen.shown.size(), 41, Patience);
+    QCOMPARE(stage.number(), 20);
+}
+
+void AVPlayerTest::step_pauses_whilePlaying_andGoesFromTheFrameOnScreen()
+{
+    Stage stage;
+    stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 10, Patience);
+    const int number = stage.number();
+    QVERIFY(stage.stepBackward());
+    QVERIFY(stage.player.isPaused());
+    QCOMPARE(stage.number(), number - 1);
+    stage.player.play();
+    QTRY_VERIFY_WITH_TIMEOUT(stage.number() > number + 2, Patience);
+    const int later = stage.number();
+    QVERIFY(stage.stepForward());
+    QCOMPARE(stage.number(), later + 1);
+}
+
+void AVPlayerTest::mixedStepsAndSeeks_endOnTheRightFrame()
+{
+    const Sample& sample = testsupport::sampleNamed(QStringLiteral("h264_open_gop_bframes.mp4"));
+    Stage stage;
+    stage.player.setFrameCacheSize(30 * 320 * 240 * 3 / 2);
+    QVERIFY(stage.open(sample.file));
+    int n = 0;
+    std::mt19937 random(11);
+    for (int i = 0; i < 1000; ++i) {
+        const auto choice = random() % 8;
+        const bool canStep = choice < 4 ? n + 1 < sample.frames : n > 0;
+        if (choice < 7 && !canStep)
+            continue;
+        if (choice < 4) {
+            QVERIFY(stage.stepForward());
+            ++n;
+        } else if (choice < 7) {
+            QVERIFY(stage.stepBackward());
+            --n;
+        } else {
+            n = int(random() % quint32(sample.frames));
+            QVERIFY(stage.seek(testsupport::frameTimeMs(sample, n)));
+        }
+        const Shown expected{n, testsupport::frameTimeMs(sample, n)};
+        QCOMPARE(shown(stage.screen.frame), expected);
+        QCOMPARE(stage.player.displayPosition(), expected.ms);
+    }
+}
+
+void AVPlayerTest::positions_areClamped()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
+    QVERIFY(stage.seek(2000));
+    stage.player.setPosition(-600);
+    QCOMPARE(stage.player.position(), qint64(0));
+    QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
+    QVERIFY(sought.wait(Patience));
+    QCOMPARE(stage.number(), 0);
+    stage.player.setPosition(3600000);
+    QCOMPARE(stage.player.position(), stage.player.duration());
+    QVERIFY(sought.wait(Patience));
+    QCOMPARE(stage.number(), 99);
+    QCOMPARE(stage.player.position(), qint64(3960));
+    QVERIFY(stage.stepBackward());
+    QCOMPARE(stage.number(), 98);
+}
+
+void AVPlayerTest::seek_showsTheFirstFrameAtOrAfter_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"variable_rate.mp4", "h264_23976fps.mkv", "h264.ts", "wmv2.wmv",
+                             "h264_bframes.avi", "sound_earlier.mkv", "no_cues.webm"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void AVPlayerTest::seek_showsTheFirstFrameAtOrAfter()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    Stage stage;
+    QVERIFY(stage.open(file));
+    std::mt19937 random(3);
+    for (int i = 0; i < 20; ++i) {
+        const int n = 1 + int(random() % quint32(sample.frames - 1));
+        const qint64 ms = testsupport::frameTimeMs(sample, n);
+        const qint64 before = testsupport::frameTimeMs(sample, n - 1);
+        QVERIFY(stage.seek(ms));
+        QCOMPARE(shown(stage.screen.frame), expectedFrom(sample, n).constFirst());
+        QVERIFY(stage.seek(before + 1));
+        QCOMPARE(shown(stage.screen.frame), expectedFrom(sample, n).constFirst());
+        QVERIFY(stage.seek(before));
+        QCOMPARE(shown(stage.screen.frame), expectedFrom(sample, n - 1).constFirst());
+    }
+}
+
+void AVPlayerTest::seek_beforeTheFileIsOpen_isCarriedOut()
+{
+    Stage stage;
+    QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
+    stage.player.play(testsupport::samplePath(QStringLiteral("h264_bframes.mp4")));
+    stage.player.pause();
+    stage.player.setPosition(1000);
+    stage.player.setPosition(2000);
+    QVERIFY(sought.wait(Patience));
+    stage.settle();
+    QCOMPARE(sought.count(), 1);
+    QCOMPARE(stage.number(), 50);
+}
+
+void AVPlayerTest::seek_playsOn_whilePlaying()
+{
+    Stage stage;
+    stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    for (const int n : {300, 100, 480, 20}) {
+        stage.screen.shown.clear();
+        QVERIFY(stage.seek(n * 40));
+        QVERIFY(stage.player.isPlaying());
+        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 4, Patience);
+        QCOMPARE(stage.screen.shown.constFirst().number, n);
+        for (int i = 1; i < stage.screen.shown.size(); ++i)
+            QVERIFY(stage.screen.shown.at(i).number > stage.screen.shown.at(i - 1).number);
+    }
+}
+
+void AVPlayerTest::newestSeek_wins_andAloneIsAnswered()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("h264_gop250.mp4")));
+    stage.screen.shown.clear();
+    QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
+    std::mt19937 random(5);
+    for (int i = 0; i < 200; ++i)
+        stage.player.seek(qint64(random() % 20000));
+    stage.player.seek(12000);
+    QVERIFY(sought.wait(Patience));
+    stage.settle();
+    QCOMPARE(sought.count(), 1);
+    QCOMPARE(sought.at(0).at(0).toLongLong(), qint64(12000));
+    QCOMPARE(stage.screen.shown.size(), 1);
+    QCOMPARE(stage.number(), 300);
+
+    // With the event loop between them each may be answered, but the last one is.
+    for (int i = 0; i < 200; ++i) {
+        stage.player.seek(qint64(random() % 20000));
+        QCoreApplication::processEvents();
+    }
+    stage.player.seek(4000);
+    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 100, Patience);
+    const int answers = sought.count();
+    stage.settle();
+    QCOMPARE(sought.count(), answers);
+}
+
+void AVPlayerTest::capture_givesTheFrameOnScreen_asADecoderDoes_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("n");
+    QTest::newRow("B-frames") << QStringLiteral("h264_bframes.mp4") << 61;
+    QTest::newRow("10 bit") << QStringLiteral("hevc_10bit.mkv") << 33;
+    QTest::newRow("turned") << QStringLiteral("turned_90_anamorphic.mp4") << 20;
+    QTest::newRow("alpha") << QStringLiteral("vp9_alpha.webm") << 31;
+    QTest::newRow("transport stream") << QStringLiteral("mpeg2.ts") << 50;
+}
+
+void AVPlayerTest::capture_givesTheFrameOnScreen_asADecoderDoes()
+{
+    QFETCH(QString, file);
+    QFETCH(int, n);
+    const Sample& sample = testsupport::sampleNamed(file);
+    Stage stage;
+    QVERIFY(stage.open(file));
+    QVERIFY(stage.seek(testsupport::frameTimeMs(sample, n)));
+    QSignalSpy captured(stage.player.videoCapture(), &QtAV::VideoCapture::imageCaptured);
+    stage.player.videoCapture()->capture();
+    QCOMPARE(captured.count(), 0); // answered later
+    QVERIFY(captured.wait(Patience));
+    QCOMPARE(captured.count(), 1);
+    const auto image = captured.at(0).at(0).value<QImage>();
+    QCOMPARE(image.format(), QImage::Format_ARGB32);
+    QCOMPARE(image.size(), sample.displaySize);
+
+    // What decoding the whole file gives for that frame.
+    Player decoded(testsupport::samplePath(file));
+    QVERIFY(decoded.isReady());
+    int count = 0;
+    QImage expected;
+    while (const auto packet = decoded.nextVideoPacket()) {
+        const bool succeeded = decoded.decoder->decode(*packet);
+        const QtAV::VideoFrame frame = succeeded ? decoded.decoder->frame() : QtAV::VideoFrame();
+        if (frame.isValid() && count++ == n)
+            expected = frame.toImage(QImage::Format_ARGB32);
+    }
+    QVERIFY(!expected.isNull());
+    QVERIFY(image == expected);
+}
+
+void AVPlayerTest::capture_fails_withoutAFrame()
+{
+    Stage stage;
+    QSignalSpy failed(stage.player.videoCapture(), &QtAV::VideoCapture::failed);
+    stage.player.videoCapture()->capture();
+    QVERIFY(failed.wait(Patience));
+    QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
+    stage.player.stop();
+    stage.player.videoCapture()->capture();
+    QVERIFY(failed.wait(Patience));
+}
+
+void AVPlayerTest::statistics_tellTheSizeOnScreen()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("turned_90_anamorphic.mp4")));
+    QCOMPARE(stage.player.statistics().video_only.width, 320);
+    QCOMPARE(stage.player.statistics().video_only.height, 360);
+    stage.player.stop();
+    QCOMPARE(stage.player.statistics().video_only.width, 0);
+}
+
+void AVPlayerTest::renderer_mayGo_beforeThePlayer()
+{
+    AVPlayer player;
+    {
+        Screen screen;
+        player.setRenderer(&screen);
+        QCOMPARE(player.renderer(), &screen);
+    }
+    QVERIFY(!player.renderer());
+    player.play(testsupport::samplePath(QStringLiteral("h264_baseline.mp4")));
+    QTRY_VERIFY_WITH_TIMEOUT(player.displayedFrame().isValid(), Patience);
+}
+
+void AVPlayerTest::truncatedFile_canBeSoughtAndStepped()
+{
+    for (const char* file : {"truncated.mp4", "truncated.ts", "truncated.mkv", "truncated.avi"}) {
+        Stage stage;
+        stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+        QVERIFY(stage.open(QString::fromLatin1(file)));
+        QVERIFY(stage.seek(3600000));
+        const qint64 last = stage.player.displayPosition();
+        QVERIFY(last > 0);
+        QVERIFY(stage.stepBackward());
+        QVERIFY(stage.player.displayPosition() < last);
+        QVERIFY(stage.stepForward());
+        QCOMPARE(stage.player.displayPosition(), last);
+        stage.player.play();
+        QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    }
+}
+
+QTEST_GUILESS_MAIN(AVPlayerTest)
+#include "AVPlayerTest.moc"

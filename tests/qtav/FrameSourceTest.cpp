@@ -1,0 +1,261 @@
+#include "qtav/player/FrameSource.h"
+
+#include "tests/qtav/Decoding.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <random>
+
+using namespace decoding;
+using QtAV::FrameSource;
+using QtAV::VideoFrame;
+using testsupport::Sample;
+using testsupport::Trait;
+using Kind = FrameSource::Found::Kind;
+
+namespace {
+
+bool never()
+{
+    return false;
+}
+
+/// Room for few frames, so that most of them are decoded again.
+qint64 smallCache(const VideoFrame& frame)
+{
+    return 12 * frame.byteCount();
+}
+
+} // namespace
+
+/// Which frame is found, for every format: recognized by the number in its picture.
+class FrameSourceTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void steps_meetEveryFrameOnce_toTheEndAndBack_data() { addSamples(); }
+    void steps_meetEveryFrameOnce_toTheEndAndBack();
+    void mixedStepsAndSeeks_endOnTheRightFrame_data() { addSamples(); }
+    void mixedStepsAndSeeks_endOnTheRightFrame();
+    void filling_letsStepsBackDecodeNothing_afterASeek();
+    void filling_ends_withoutAnyStep();
+    void cancelledSearch_givesNoFrame_andTheNextOneIsRight();
+    void open_fails_whenNothingCanBeDecoded_data();
+    void open_fails_whenNothingCanBeDecoded();
+    void damagedFile_givesRisingFrames_toTheEndAndTheSameBack_data();
+    void damagedFile_givesRisingFrames_toTheEndAndTheSameBack();
+
+private:
+    static void addSamples();
+    static qint64 cacheFor(const Sample& sample);
+};
+
+void FrameSourceTest::addSamples()
+{
+    QTest::addColumn<QString>("file");
+    for (const Sample& sample : testsupport::allVideoSamples())
+        QTest::newRow(qPrintable(sample.file)) << sample.file;
+}
+
+qint64 FrameSourceTest::cacheFor(const Sample& sample)
+{
+    const QSize size = sample.codedSize;
+    return qint64(size.width()) * size.height() * 3 / 2 * 12;
+}
+
+void FrameSourceTest::steps_meetEveryFrameOnce_toTheEndAndBack()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    FrameSource source;
+    QString error;
+    QVERIFY2(source.open(testsupport::samplePath(file), cacheFor(sample), never, error),
+             qPrintable(error));
+    FrameSource::Found found = source.frameAt(0, never);
+    QCOMPARE(found.kind, Kind::Frame);
+    VideoFrame frame = found.frame;
+    QList<Shown> forwards{shown(frame)};
+    while ((found = source.after(frame.timestamp(), never)).kind == Kind::Frame) {
+        frame = found.frame;
+        source.setFocus(frame.timestamp());
+        forwards.append(shown(frame));
+    }
+    QList<Shown> expected = expectedFrom(sample, 0);
+    QCOMPARE(forwards, expected);
+
+    QList<Shown> backwards{shown(frame)};
+    while ((found = source.before(frame.timestamp(), never)).kind == Kind::Frame) {
+        frame = found.frame;
+        source.setFocus(frame.timestamp());
+        backwards.append(shown(frame));
+    }
+    std::reverse(expected.begin(), expected.end());
+    QCOMPARE(backwards, expected);
+}
+
+void FrameSourceTest::mixedStepsAndSeeks_endOnTheRightFrame()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    const int most = sample.has(Trait::Large) ? 10 : 40;
+    const qint64 lastMs = testsupport::frameTimeMs(sample, sample.frames - 1);
+    FrameSource source;
+    QString error;
+    QVERIFY(source.open(testsupport::samplePath(file), cacheFor(sample), never, error));
+    VideoFrame frame = source.frameAt(0, never).frame;
+    int n = 0;
+    std::mt19937 random(7);
+    for (int i = 0; i < most; ++i) {
+        const auto choice = random() % 6;
+        FrameSource::Found found;
+        if (choice < 2) {
+            found = source.after(frame.timestamp(), never);
+            QCOMPARE(found.kind, n + 1 < sample.frames ? Kind::Frame : Kind::None);
+            n = std::min(n + 1, sample.frames - 1);
+        } else if (choice < 4) {
+            found = source.before(frame.timestamp(), never);
+            QCOMPARE(found.kind, n > 0 ? Kind::Frame : Kind::None);
+            n = std::max(n - 1, 0);
+        } else {
+            const qint64 ms = qint64(random() % quint32(lastMs + 200));
+            found = source.frameAt(ms, never);
+            QCOMPARE(found.kind, Kind::Frame);
+            n = 0;
+            while (n + 1 < sample.frames && testsupport::frameTimeMs(sample, n) < ms)
+                ++n;
+        }
+        if (found.kind == Kind::Frame)
+            frame = found.frame;
+        source.setFocus(frame.timestamp());
+        for (auto fills = random() % 20; fills > 0 && source.fillBehind(never);)
+            --fills;
+        const Shown expected{sample.firstNumber + n, testsupport::frameTimeMs(sample, n)};
+        QCOMPARE(shown(frame), expected);
+    }
+}
+
+void FrameSourceTest::filling_letsStepsBackDecodeNothing_afterASeek()
+{
+    FrameSource source;
+    QString error;
+    QVERIFY(source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")),
+                        QtAV::FrameCache::DefaultBytes, never, error));
+    VideoFrame frame = source.frameAt(9000, never).frame; // frame 225 of a group of 250
+    source.setFocus(frame.timestamp());
+    while (source.fillBehind(never)) {
+    }
+    const int cached = source.cache().frameCount();
+    QVERIFY(cached > 220);
+    for (int n = 224; n >= 0; --n) {
+        const FrameSource::Found found = source.before(frame.timestamp(), [] {
+            qFatal("A packet was decoded");
+            return true;
+        });
+        QCOMPARE(found.kind, Kind::Frame);
+        frame = found.frame;
+        QCOMPARE(shown(frame).number, n);
+    }
+}
+
+void FrameSourceTest::filling_ends_withoutAnyStep()
+{
+    FrameSource source;
+    QString error;
+    const QString path = testsupport::samplePath(QStringLiteral("h264_gop250.mp4"));
+    QVERIFY(source.open(path, QtAV::FrameCache::DefaultBytes, never, error));
+    const qint64 bytes = smallCache(source.frameAt(0, never).frame);
+    QVERIFY(source.open(path, bytes, never, error));
+    source.setFocus(source.frameAt(15000, never).frame.timestamp());
+    int fills = 0;
+    while (source.fillBehind(never))
+        QVERIFY(++fills < 2000);
+    QVERIFY(source.cache().byteCount() <= bytes);
+}
+
+void FrameSourceTest::cancelledSearch_givesNoFrame_andTheNextOneIsRight()
+{
+    for (const int packets : {0, 1, 5, 50, 100}) {
+        // Opened anew: what is in the cache needs no search.
+        FrameSource source;
+        QString error;
+        QVERIFY(source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")),
+                            QtAV::FrameCache::DefaultBytes, never, error));
+        int left = packets;
+        const auto soon = [&left] { return left-- <= 0; };
+        QCOMPARE(source.frameAt(9960, soon).kind, Kind::Cancelled);
+        left = packets;
+        QCOMPARE(source.before(6.0, soon).kind, Kind::Cancelled);
+        QCOMPARE(shown(source.frameAt(8000 + packets * 40, never).frame).number, 200 + packets);
+        QCOMPARE(shown(source.before(6.0, never).frame).number, 149);
+    }
+}
+
+void FrameSourceTest::open_fails_whenNothingCanBeDecoded_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const Sample& sample : testsupport::brokenSamples() + testsupport::noVideoSamples()) {
+        if (sample.has(Trait::Unopenable) || sample.has(Trait::NoVideo))
+            QTest::newRow(qPrintable(sample.file)) << sample.file;
+    }
+    QTest::newRow("missing") << QStringLiteral("no such file.mp4");
+}
+
+void FrameSourceTest::open_fails_whenNothingCanBeDecoded()
+{
+    QFETCH(QString, file);
+    FrameSource source;
+    QString error;
+    QVERIFY(!source.open(testsupport::samplePath(file), 1000000, never, error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(!source.isOpen());
+}
+
+void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const Sample& sample : testsupport::brokenSamples()) {
+        if (sample.has(Trait::Damaged))
+            QTest::newRow(qPrintable(sample.file)) << sample.file;
+    }
+}
+
+/// Which frames a damaged file still gives depends on where decoding starts; that going through it
+/// comes to its end, and back to its start, does not.
+void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    FrameSource source;
+    QString error;
+    QVERIFY(source.open(testsupport::samplePath(file), cacheFor(sample), never, error));
+    const double first = source.frameAt(0, never).frame.timestamp();
+    double time = first;
+    int forwards = 1;
+    for (;;) {
+        const FrameSource::Found found = source.after(time, never);
+        if (found.kind != Kind::Frame)
+            break;
+        QVERIFY(found.frame.timestamp() > time);
+        time = found.frame.timestamp();
+        source.setFocus(time);
+        QVERIFY(++forwards <= sample.frames);
+    }
+    const double last = source.frameAt(3600000, never).frame.timestamp();
+    QCOMPARE(last, time);
+    QVERIFY(forwards > 1);
+    for (int backwards = 1;; ++backwards) {
+        const FrameSource::Found found = source.before(time, never);
+        if (found.kind != Kind::Frame)
+            break;
+        QVERIFY(found.frame.timestamp() < time);
+        time = found.frame.timestamp();
+        source.setFocus(time);
+        QVERIFY(backwards <= sample.frames);
+    }
+    QCOMPARE(time, first);
+}
+
+QTEST_GUILESS_MAIN(FrameSourceTest)
+#include "FrameSourceTest.moc"
