@@ -1,0 +1,188 @@
+#include "tests/qtav/Playing.h"
+
+#include <QTest>
+
+#include <memory>
+#include <random>
+
+using namespace playing;
+using QtAV::AVPlayer;
+
+namespace {
+
+/// So many turns of the event loop.
+void turnEventLoop(int times)
+{
+    for (int i = 0; i < times; ++i)
+        QCoreApplication::processEvents();
+}
+
+} // namespace
+
+/// Players that end, and files that change, in the middle of everything. That nothing is touched
+/// after its end is for the sanitizers to see.
+class AVPlayerLifetimeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void player_canEnd_inTheMiddleOf_data();
+    void player_canEnd_inTheMiddleOf();
+    void player_canEnd_withAnsweredButUnreadCommands();
+    void files_canBeOpenedAndClosed_manyTimes();
+    void files_canReplaceEachOther_whileBeingOpened();
+    void commands_inAnyOrder_leaveAPlayerThatWorks();
+    void frames_outliveThePlayer();
+    void player_canBeStoppedAndPlayed_byItsOwnSignals();
+};
+
+void AVPlayerLifetimeTest::player_canEnd_inTheMiddleOf_data()
+{
+    QTest::addColumn<QString>("activity");
+    QTest::addColumn<int>("turns");
+    for (const char* activity : {"opening", "playing", "seeking", "stepping", "filling"}) {
+        for (const int turns : {0, 1, 50}) {
+            const QByteArray name = activity + QByteArray(", turns: ") + QByteArray::number(turns);
+            QTest::newRow(name.constData()) << QString::fromLatin1(activity) << turns;
+        }
+    }
+}
+
+void AVPlayerLifetimeTest::player_canEnd_inTheMiddleOf()
+{
+    QFETCH(QString, activity);
+    QFETCH(int, turns);
+    for (int round = 0; round < 5; ++round) {
+        auto stage = std::make_unique<Stage>();
+        const QString file = QStringLiteral("h264_gop250.mp4");
+        if (activity == QLatin1String("opening")) {
+            stage->player.play(testsupport::samplePath(file));
+        } else {
+            QVERIFY(stage->open(file));
+            if (activity == QLatin1String("playing"))
+                stage->player.play();
+            else if (activity == QLatin1String("seeking"))
+                stage->player.seek(9900 + round);
+            else if (activity == QLatin1String("stepping"))
+                stage->player.stepForward();
+            else
+                QVERIFY(stage->seek(9000));
+        }
+        turnEventLoop(turns);
+        stage.reset();
+        turnEventLoop(1);
+    }
+}
+
+void AVPlayerLifetimeTest::player_canEnd_withAnsweredButUnreadCommands()
+{
+    for (int round = 0; round < 20; ++round) {
+        auto stage = std::make_unique<Stage>();
+        QVERIFY(stage->open(QStringLiteral("h264_baseline.mp4")));
+        // This one's answer shows that the decoding thread is running; the next are not waited for.
+        QVERIFY(stage->seek(400));
+        for (int i = 0; i < round; ++i)
+            stage->player.stepForward();
+    }
+}
+
+void AVPlayerLifetimeTest::files_canBeOpenedAndClosed_manyTimes()
+{
+    Stage stage;
+    for (int round = 0; round < 30; ++round) {
+        const bool other = round % 2;
+        QVERIFY(stage.open(other ? QStringLiteral("vp8.webm") : QStringLiteral("mpeg2.ts")));
+        QCOMPARE(stage.number(), 0);
+        stage.player.stop();
+        QVERIFY(!stage.screen.frame.isValid());
+    }
+}
+
+void AVPlayerLifetimeTest::files_canReplaceEachOther_whileBeingOpened()
+{
+    Stage stage;
+    for (int round = 0; round < 30; ++round) {
+        stage.player.play(testsupport::samplePath(QStringLiteral("mpeg2.ts")));
+        turnEventLoop(round % 4);
+        stage.player.play(testsupport::samplePath(QStringLiteral("text.mp4")));
+        turnEventLoop(round % 3);
+        stage.player.stop();
+    }
+    QVERIFY(stage.open(QStringLiteral("edit_list.mp4")));
+    QCOMPARE(stage.number(), 35);
+}
+
+void AVPlayerLifetimeTest::commands_inAnyOrder_leaveAPlayerThatWorks()
+{
+    const QStringList files{QStringLiteral("h264_bframes.mp4"), QStringLiteral("sound.mp4"),
+                            QStringLiteral("text.mp4"), QStringLiteral("mpeg2.ts")};
+    Stage stage;
+    std::mt19937 random(17);
+    for (int i = 0; i < 500; ++i) {
+        switch (random() % 9) {
+        case 0:
+            stage.player.play(testsupport::samplePath(files.at(int(random() % 4))));
+            break;
+        case 1:
+            stage.player.play();
+            break;
+        case 2:
+            stage.player.pause();
+            break;
+        case 3:
+            stage.player.seek(qint64(random() % 5000));
+            break;
+        case 4:
+            stage.player.stepForward();
+            break;
+        case 5:
+            stage.player.stepBackward();
+            break;
+        case 6:
+            if (random() % 4 == 0)
+                stage.player.stop();
+            break;
+        case 7:
+            stage.player.videoCapture()->capture();
+            break;
+        default:
+            stage.player.audio()->setVolume(double(random() % 100) / 100.0);
+            break;
+        }
+        turnEventLoop(int(random() % 5));
+    }
+    QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
+    QVERIFY(stage.seek(2000));
+    QCOMPARE(stage.number(), 50);
+}
+
+void AVPlayerLifetimeTest::frames_outliveThePlayer()
+{
+    QtAV::VideoFrame frame;
+    {
+        Stage stage;
+        QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
+        QVERIFY(stage.seek(800));
+        frame = stage.player.displayedFrame();
+    }
+    QCOMPARE(decoding::shown(frame).number, 20);
+}
+
+void AVPlayerLifetimeTest::player_canBeStoppedAndPlayed_byItsOwnSignals()
+{
+    Stage stage;
+    int rounds = 0;
+    connect(&stage.player, &AVPlayer::positionChanged, &stage.screen, [&](qint64 ms) {
+        if (ms > 0 && rounds < 5) {
+            ++rounds;
+            stage.player.play(stage.player.file());
+        }
+    });
+    stage.player.play(testsupport::samplePath(QStringLiteral("h264_baseline.mp4")));
+    QTRY_COMPARE_WITH_TIMEOUT(rounds, 5, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.number() > 2, Patience);
+    QVERIFY(stage.player.isPlaying());
+}
+
+QTEST_GUILESS_MAIN(AVPlayerLifetimeTest)
+#include "AVPlayerLifetimeTest.moc"
