@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtAV/VideoRenderer.h>
+
+#include <QPointer>
+
+class QWidget;
+
+namespace QtAV {
+
+/// Shows a player's frames in a widget: upright, with square pixels, letterboxed on black, and in
+/// the full resolution of the screen.
+///
+/// The widget draws with OpenGL where there is a graphics processor for it.
+/// User-interface thread only.
+class VideoOutput : public VideoRenderer
+{
+    Q_OBJECT
+
+public:
+    enum class Drawing {
+        Automatic, ///< with OpenGL where a graphics processor does it, else as Raster
+        OpenGL,    ///< with OpenGL where a context can be made, else as Raster
+        Raster,    ///< with the processor, everywhere
+    };
+
+    explicit VideoOutput(QObject* parent = nullptr);
+    explicit VideoOutput(Drawing drawing, QObject* parent = nullptr);
+    /// Deletes the widget.
+    ~VideoOutput() override;
+
+    /// Where the frames are shown, to be put into a layout, which may own and delete it from then
+    /// on. Null after that, and where no widget can be made: without a widget application.
+    QWidget* widget() const;
+
+    void present(const VideoFrame& frame) override;
+
+private:
+    QPointer<QWidget> m_widget;
+};
+
+} // namespace QtAV

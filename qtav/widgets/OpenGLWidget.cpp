@@ -1,0 +1,142 @@
+#include "qtav/widgets/OpenGLWidget.h"
+
+#include <QDebug>
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+
+#include <array>
+
+namespace QtAV {
+
+namespace {
+
+constexpr const char* VertexShader = R"(
+attribute highp vec2 corner;
+varying highp vec2 place;
+void main()
+{
+    place = vec2(corner.x * 0.5 + 0.5, 0.5 - corner.y * 0.5);
+    gl_Position = vec4(corner, 0.0, 1.0);
+}
+)";
+
+// Pictures with transparent parts lie on black, like the border.
+constexpr const char* FragmentShader = R"(
+uniform sampler2D picture;
+varying highp vec2 place;
+void main()
+{
+    lowp vec4 colour = texture2D(picture, place);
+    gl_FragColor = vec4(colour.rgb * colour.a, 1.0);
+}
+)";
+
+constexpr std::array<float, 8> Corners{-1, -1, 1, -1, -1, 1, 1, 1};
+
+} // namespace
+
+OpenGLWidget::OpenGLWidget(QWidget* parent)
+    : QOpenGLWidget(parent)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+OpenGLWidget::~OpenGLWidget()
+{
+    releaseResources();
+}
+
+void OpenGLWidget::setFrame(const VideoFrame& frame)
+{
+    m_frame = frame;
+    m_isUploaded = false;
+    update();
+}
+
+QSize OpenGLWidget::sizeHint() const
+{
+    return {640, 360};
+}
+
+/// Called again with another context when the widget moves to another window.
+void OpenGLWidget::initializeGL()
+{
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &OpenGLWidget::releaseResources,
+            Qt::UniqueConnection);
+    m_program = std::make_unique<QOpenGLShaderProgram>();
+    const bool works =
+        m_program->addShaderFromSourceCode(QOpenGLShader::Vertex, VertexShader) &&
+        m_program->addShaderFromSourceCode(QOpenGLShader::Fragment, FragmentShader) &&
+        m_program->link();
+    if (!works)
+        qWarning() << "Cannot draw with OpenGL:" << m_program->log();
+    m_isUploaded = false;
+}
+
+void OpenGLWidget::releaseResources()
+{
+    if (!m_program && !m_texture)
+        return;
+    makeCurrent();
+    m_texture.reset();
+    m_program.reset();
+    doneCurrent();
+}
+
+void OpenGLWidget::upload()
+{
+    m_isUploaded = true;
+    // Byte order R, G, B, A, which every OpenGL takes.
+    const QImage image = m_frame.toImage(QImage::Format_RGBA8888);
+    if (image.isNull()) {
+        m_texture.reset();
+        return;
+    }
+    const bool fits =
+        m_texture && m_texture->width() == image.width() && m_texture->height() == image.height();
+    if (!fits) {
+        m_texture = std::make_unique<QOpenGLTexture>(QOpenGLTexture::Target2D);
+        m_texture->setFormat(QOpenGLTexture::RGBA8_UNorm);
+        m_texture->setSize(image.width(), image.height());
+        m_texture->setMipLevels(m_texture->maximumMipLevels());
+        m_texture->setAutoMipMapGenerationEnabled(false);
+        m_texture->allocateStorage(QOpenGLTexture::RGBA, QOpenGLTexture::UInt8);
+        // Small widgets show large pictures: without mip levels fine lines would flicker.
+        m_texture->setMinMagFilters(QOpenGLTexture::LinearMipMapLinear, QOpenGLTexture::Linear);
+        m_texture->setWrapMode(QOpenGLTexture::ClampToEdge);
+    }
+    m_texture->setData(QOpenGLTexture::RGBA, QOpenGLTexture::UInt8, image.constBits());
+    m_texture->generateMipMaps();
+}
+
+void OpenGLWidget::paintGL()
+{
+    QOpenGLFunctions* gl = context()->functions();
+    gl->glClearColor(0.0F, 0.0F, 0.0F, 1.0F);
+    gl->glClear(GL_COLOR_BUFFER_BIT);
+    if (!m_isUploaded)
+        upload();
+    const QSize screen = size() * devicePixelRatioF();
+    const QRect place = letterboxed(m_frame.displaySize(), screen);
+    if (m_texture && m_program && m_program->isLinked() && !place.isEmpty())
+        drawInto(place, screen);
+}
+
+void OpenGLWidget::drawInto(const QRect& place, const QSize& screen)
+{
+    QOpenGLFunctions* gl = context()->functions();
+    // OpenGL counts from the bottom.
+    gl->glViewport(place.x(), screen.height() - place.y() - place.height(), place.width(),
+                   place.height());
+    m_program->bind();
+    m_texture->bind(0);
+    m_program->setUniformValue("picture", 0);
+    m_program->enableAttributeArray("corner");
+    m_program->setAttributeArray("corner", Corners.data(), 2);
+    gl->glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
+    m_program->disableAttributeArray("corner");
+    m_texture->release();
+    m_program->release();
+}
+
+} // namespace QtAV

@@ -1,0 +1,17 @@
+#include "qtav/include/QtAVWidgets/QtAVWidgets"
+
+#include "qtav/widgets/OpenGLSupport.h"
+
+#include <QtAV/VideoFrame.h>
+
+namespace QtAV {
+namespace Widgets {
+
+void registerRenderers()
+{
+    qRegisterMetaType<QtAV::VideoFrame>("QtAV::VideoFrame");
+    static_cast<void>(openGLSupport());
+}
+
+} // namespace Widgets
+} // namespace QtAV

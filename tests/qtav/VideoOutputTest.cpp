@@ -1,0 +1,222 @@
+#include "tests/qtav/Playing.h"
+#include "tests/support/FrameNumber.h"
+
+#include <QtAVWidgets>
+
+#include <QApplication>
+#include <QTest>
+#include <QWidget>
+
+#include <algorithm>
+
+using namespace playing;
+using QtAV::VideoOutput;
+using testsupport::Sample;
+
+namespace {
+
+/// A frame of a sample: its first.
+QtAV::VideoFrame firstFrame(const QString& file)
+{
+    decoding::Player player(testsupport::samplePath(file));
+    const auto packet = player.isReady() ? player.nextVideoPacket() : std::nullopt;
+    return packet ? player.decodeKeyFrame(*packet) : QtAV::VideoFrame();
+}
+
+QImage grabbed(QWidget& widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+constexpr QRgb black = qRgb(0, 0, 0);
+
+} // namespace
+
+/// What the widget shows.
+class VideoOutputTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void widget_isMade_withAndWithoutOpenGL();
+    void widget_isBlack_withoutAFrame();
+    void frame_isShown_asItsImage_inItsOwnSize();
+    void frame_isLetterboxed_whenTheWidgetIsWiderOrHigher();
+    void frame_isSeenUprightAndSquare_data();
+    void frame_isSeenUprightAndSquare();
+    void newFrame_replacesTheOld_andNoFrameLeavesBlack();
+    void frame_followsTheWidgetsSize();
+    void tinyWidget_paintsWithoutHarm();
+    void output_goesOn_withoutItsWidget();
+    void openGL_drawsWhatRasterDraws();
+    void player_showsItsFrames_inTheWidget();
+};
+
+void VideoOutputTest::widget_isMade_withAndWithoutOpenGL()
+{
+    QtAV::Widgets::registerRenderers();
+    VideoOutput automatic;
+    QVERIFY(automatic.widget());
+    VideoOutput raster(VideoOutput::Drawing::Raster);
+    QVERIFY(raster.widget());
+    QCOMPARE(raster.widget()->metaObject()->className(), "QtAV::RasterWidget");
+}
+
+void VideoOutputTest::widget_isBlack_withoutAFrame()
+{
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.widget()->resize(64, 48);
+    QImage expected(64, 48, QImage::Format_RGB32);
+    expected.fill(black);
+    QCOMPARE(grabbed(*output.widget()), expected);
+}
+
+void VideoOutputTest::frame_isShown_asItsImage_inItsOwnSize()
+{
+    const QtAV::VideoFrame frame = firstFrame(QStringLiteral("h264_bframes.mp4"));
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.widget()->resize(frame.displaySize());
+    output.present(frame);
+    QCOMPARE(grabbed(*output.widget()), frame.toImage(QImage::Format_RGB32));
+}
+
+void VideoOutputTest::frame_isLetterboxed_whenTheWidgetIsWiderOrHigher()
+{
+    const QtAV::VideoFrame frame = firstFrame(QStringLiteral("h264_bframes.mp4")); // 320 x 240
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.present(frame);
+
+    output.widget()->resize(520, 240);
+    QImage image = grabbed(*output.widget());
+    QCOMPARE(image.copy(100, 0, 320, 240), frame.toImage(QImage::Format_RGB32));
+    QCOMPARE(image.pixel(99, 120), black);
+    QCOMPARE(image.pixel(420, 120), black);
+
+    output.widget()->resize(320, 300);
+    image = grabbed(*output.widget());
+    QCOMPARE(image.copy(0, 30, 320, 240), frame.toImage(QImage::Format_RGB32));
+    QCOMPARE(image.pixel(160, 29), black);
+    QCOMPARE(image.pixel(160, 270), black);
+}
+
+void VideoOutputTest::frame_isSeenUprightAndSquare_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"turned_90.mp4", "turned_180.mp4", "mirrored_left_right.mp4",
+                             "turned_90_anamorphic.mp4", "anamorphic_pal.mpg"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void VideoOutputTest::frame_isSeenUprightAndSquare()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.widget()->resize(sample.displaySize + QSize(40, 0));
+    output.present(firstFrame(file));
+    const QImage image = grabbed(*output.widget());
+    const QImage picture = image.copy(QRect(QPoint(20, 0), sample.displaySize));
+    QCOMPARE(testsupport::frameNumber(picture).value_or(-1), 0);
+    QCOMPARE(image.pixel(10, image.height() / 2), black);
+}
+
+void VideoOutputTest::newFrame_replacesTheOld_andNoFrameLeavesBlack()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.widget()->resize(320, 240);
+    stage.player.setRenderer(&output);
+    QCOMPARE(testsupport::frameNumber(grabbed(*output.widget())).value_or(-1), 0);
+    QVERIFY(stage.seek(2000));
+    QCOMPARE(testsupport::frameNumber(grabbed(*output.widget())).value_or(-1), 50);
+    stage.player.stop();
+    QCOMPARE(grabbed(*output.widget()).pixel(10, 10), black);
+}
+
+void VideoOutputTest::frame_followsTheWidgetsSize()
+{
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.present(firstFrame(QStringLiteral("h264_bframes.mp4")));
+    for (const QSize size : {QSize(640, 480), QSize(160, 120), QSize(400, 300)}) {
+        output.widget()->resize(size);
+        QCOMPARE(testsupport::frameNumber(grabbed(*output.widget())).value_or(-1), 0);
+    }
+}
+
+void VideoOutputTest::tinyWidget_paintsWithoutHarm()
+{
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.present(firstFrame(QStringLiteral("h264_bframes.mp4")));
+    for (const QSize size : {QSize(1, 1), QSize(500, 1), QSize(1, 500)}) {
+        output.widget()->resize(size);
+        QCOMPARE(grabbed(*output.widget()).size(), size);
+    }
+}
+
+void VideoOutputTest::output_goesOn_withoutItsWidget()
+{
+    VideoOutput output;
+    {
+        QWidget window;
+        output.widget()->setParent(&window);
+    }
+    QVERIFY(!output.widget());
+    output.present(firstFrame(QStringLiteral("h264_bframes.mp4")));
+}
+
+void VideoOutputTest::openGL_drawsWhatRasterDraws()
+{
+    VideoOutput output(VideoOutput::Drawing::OpenGL);
+    if (QByteArray(output.widget()->metaObject()->className()) != "QtAV::OpenGLWidget")
+        QSKIP("The platform has no OpenGL; with a display, such as Xvfb's, this is tested");
+    VideoOutput raster(VideoOutput::Drawing::Raster);
+    for (const char* file : {"h264_bframes.mp4", "turned_90_anamorphic.mp4", "vp9_alpha.webm"}) {
+        const QtAV::VideoFrame frame = firstFrame(QString::fromLatin1(file));
+        const QSize size = frame.displaySize() + QSize(41, 0);
+        QImage images[2];
+        for (VideoOutput* each : {&output, &raster}) {
+            each->widget()->resize(size);
+            each->widget()->show();
+            QVERIFY(QTest::qWaitForWindowExposed(each->widget()));
+            each->present(frame);
+            images[each == &raster] = grabbed(*each->widget());
+        }
+        QCOMPARE(images[0].size(), images[1].size());
+        int largest = 0;
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x) {
+                const QRgb a = images[0].pixel(x, y);
+                const QRgb b = images[1].pixel(x, y);
+                largest = std::max({largest, qAbs(qRed(a) - qRed(b)), qAbs(qGreen(a) - qGreen(b)),
+                                    qAbs(qBlue(a) - qBlue(b))});
+            }
+        }
+        QVERIFY2(largest <= 2, QByteArray::number(largest).constData());
+        output.present(QtAV::VideoFrame());
+        QCOMPARE(grabbed(*output.widget()).pixel(size.width() / 2, size.height() / 2), black);
+    }
+}
+
+void VideoOutputTest::player_showsItsFrames_inTheWidget()
+{
+    VideoOutput output;
+    QWidget window;
+    window.resize(320, 240);
+    output.widget()->setParent(&window);
+    output.widget()->resize(320, 240);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QtAV::AVPlayer player;
+    player.setRenderer(&output);
+    player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    player.play(testsupport::samplePath(QStringLiteral("h264_baseline.mp4")));
+    player.seek(1800);
+    QSignalSpy statuses(&player, &QtAV::AVPlayer::mediaStatusChanged);
+    while (player.mediaStatus() != QtAV::EndOfMedia)
+        QVERIFY(statuses.wait(Patience));
+    QCOMPARE(testsupport::frameNumber(grabbed(*output.widget())).value_or(-1), 49);
+}
+
+QTEST_MAIN(VideoOutputTest)
+#include "VideoOutputTest.moc"
