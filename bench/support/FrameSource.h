@@ -1,0 +1,39 @@
+#pragma once
+
+#include "video/FrameGrabber.h"
+
+#include <QtAV/VideoFrame.h>
+
+#include <QObject>
+#include <QString>
+
+namespace bench {
+
+/// A video that stays open in a FrameGrabber, asked for frames the way a batch job asks.
+class FrameSource : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Keeps the grabber's own choice of precision: 500 ms, or 250 ms for a short video.
+    static constexpr int AutomaticPrecision = -1;
+
+    /// Opens nothing yet; see FrameGrabber for the precision, in milliseconds.
+    explicit FrameSource(const QString& video, int precision = AutomaticPrecision);
+
+    /// Length of the video in milliseconds; 0 when it cannot be opened.
+    [[nodiscard]] qint64 duration();
+
+    /// The frame at a position in milliseconds. An invalid one when there is none: error() says
+    /// why.
+    [[nodiscard]] QtAV::VideoFrame frameAt(qint64 position);
+    /// Why the last frameAt() gave no frame; empty when it gave one.
+    [[nodiscard]] QString error() const { return m_error; }
+
+private:
+    FrameGrabber m_grabber;
+    QtAV::VideoFrame m_frame;
+    QString m_error;
+};
+
+} // namespace bench
