@@ -13,6 +13,7 @@ extern "C" {
 #include <libavutil/mathematics.h>
 #include <libavutil/opt.h>
 #include <libavutil/pixdesc.h>
+#include <libswresample/swresample.h>
 #include <libswscale/swscale.h>
 }
 
@@ -50,6 +51,7 @@ using PacketPtr = std::unique_ptr<AVPacket, FreeByAddress<av_packet_free>>;
 using FramePtr = std::unique_ptr<AVFrame, FreeByAddress<av_frame_free>>;
 using BitstreamFilterPtr = std::unique_ptr<AVBSFContext, FreeByAddress<av_bsf_free>>;
 using ParserPtr = std::unique_ptr<AVCodecParserContext, FreeByPointer<av_parser_close>>;
+using ResamplerPtr = std::unique_ptr<SwrContext, FreeByAddress<swr_free>>;
 using ScalerPtr = std::unique_ptr<SwsContext, FreeByPointer<sws_freeContext>>;
 
 /// A new, empty packet or frame; running out of memory for one ends the program, as `new` does.

@@ -118,6 +118,11 @@ void MediaFile::findStart()
     }
 }
 
+const AVCodecParameters* MediaFile::audioParameters() const
+{
+    return m_audio >= 0 ? m_format->streams[m_audio]->codecpar : nullptr;
+}
+
 Timeline MediaFile::timeline(int stream) const
 {
     return Timeline(m_format->streams[stream]->time_base, m_startTicks, m_startTimeBase);
@@ -312,6 +317,13 @@ bool MediaFile::jumpNear(qint64 ms)
     forgetPosition();
     const qint64 ticks = m_parameters->timeline.lastTickOf(ms);
     return av_seek_frame(m_format.get(), m_video, ticks, AVSEEK_FLAG_BACKWARD) >= 0;
+}
+
+bool MediaFile::jumpNearInAudio(qint64 ms)
+{
+    forgetPosition();
+    const qint64 ticks = timeline(m_audio).lastTickOf(ms);
+    return av_seek_frame(m_format.get(), m_audio, ticks, AVSEEK_FLAG_BACKWARD) >= 0;
 }
 
 bool MediaFile::rewind()

@@ -49,6 +49,9 @@ public:
     /// The selected video stream's facts; null without one.
     const std::shared_ptr<const StreamParameters>& videoParameters() const { return m_parameters; }
 
+    /// The selected audio stream's parameters, which last as long as this file; null without one.
+    const AVCodecParameters* audioParameters() const;
+
     Timeline timeline(int stream) const;
 
     /// Reads the next packet of the selected streams.
@@ -59,6 +62,9 @@ public:
 
     /// Jumps to some packet near a position, before it if the container can. False when refused.
     bool jumpNear(qint64 ms);
+
+    /// The same by the selected audio stream, for a file of which no video stream is selected.
+    bool jumpNearInAudio(qint64 ms);
 
     /// Jumps to the first packet of the file. False when the file cannot be read any more.
     bool rewind();

@@ -1,0 +1,94 @@
+#include "qtav/player/SoundDevice.h"
+
+#include <QAudioDeviceInfo>
+#include <QAudioOutput>
+
+#include <algorithm>
+
+namespace QtAV {
+
+namespace {
+
+/// A device of Qt Multimedia's.
+class SystemDevice : public SoundDevice
+{
+public:
+    SystemDevice(const QAudioDeviceInfo& info, const QAudioFormat& format)
+        : m_format(format)
+        , m_output(info, format)
+    {}
+
+    int sampleRate() const override { return m_format.sampleRate(); }
+    int channels() const override { return m_format.channelCount(); }
+
+    bool start(QIODevice* source) override
+    {
+        m_output.start(source);
+        return m_output.error() == QAudio::NoError;
+    }
+    void stop() override { m_output.stop(); }
+
+    bool isRunning() const override
+    {
+        const bool isStarved =
+            m_output.state() == QAudio::IdleState && m_output.error() == QAudio::UnderrunError;
+        return m_output.state() == QAudio::ActiveState || isStarved;
+    }
+
+    double heardSeconds() const override
+    {
+        // What was read from the source less what still waits in the device's buffer.
+        const int buffered = std::max(0, m_output.bufferSize() - m_output.bytesFree());
+        const qint64 us = m_output.processedUSecs() - m_format.durationForBytes(buffered);
+        return std::max(0.0, double(us) / 1e6);
+    }
+
+    void setVolume(qreal volume) override { m_output.setVolume(volume); }
+
+private:
+    QAudioFormat m_format;
+    QAudioOutput m_output;
+};
+
+QAudioFormat formatFor(const QAudioDeviceInfo& info, int preferredRate)
+{
+    QAudioFormat format;
+    format.setCodec(QStringLiteral("audio/pcm"));
+    format.setByteOrder(static_cast<QAudioFormat::Endian>(QSysInfo::ByteOrder));
+    format.setSampleType(QAudioFormat::SignedInt);
+    format.setSampleSize(16);
+    format.setChannelCount(2);
+    format.setSampleRate(preferredRate);
+    return info.isFormatSupported(format) ? format : info.nearestFormat(format);
+}
+
+SoundDevice::Factory& factoryInUse()
+{
+    static SoundDevice::Factory factory = &SoundDevice::openDefault;
+    return factory;
+}
+
+} // namespace
+
+std::unique_ptr<SoundDevice> SoundDevice::openDefault(int preferredRate)
+{
+    const QAudioDeviceInfo info = QAudioDeviceInfo::defaultOutputDevice();
+    if (info.isNull())
+        return nullptr;
+    const QAudioFormat format = formatFor(info, preferredRate);
+    const bool isUsable = format.isValid() && format.sampleSize() == 16 &&
+                          format.sampleType() == QAudioFormat::SignedInt;
+    return isUsable ? std::make_unique<SystemDevice>(info, format) : nullptr;
+}
+
+void SoundDevice::setFactory(Factory factory)
+{
+    factoryInUse() = std::move(factory);
+}
+
+SoundDevice::Factory SoundDevice::factory()
+{
+    return factoryInUse();
+}
+
+} // namespace QtAV

@@ -1,0 +1,222 @@
+#include "qtav/player/SoundFile.h"
+
+#include "qtav/src/PacketHandle.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace QtAV {
+
+namespace {
+
+/// Decoding begins this much earlier: sound codecs need some packets to come into their own.
+constexpr double LeadSeconds = 0.3;
+
+/// How far to land before the target, where a container's jump ends behind it.
+constexpr double StepsBackSeconds[] = {0.0, 2.0, 10.0};
+
+/// Sound whose times are further off than this is moved to where they say.
+constexpr double MostOffsetSeconds = 0.05;
+
+/// No gap that damaged times claim is filled with more silence than this.
+constexpr double LongestSilenceSeconds = 3600.0;
+
+} // namespace
+
+bool SoundFile::open(const QString& path, QString& error)
+{
+    m_file = MediaFile::open(path, error);
+    if (!m_file)
+        return false;
+    error = QCoreApplication::translate("QtAV::AVPlayer", "The sound cannot be decoded.");
+    if (m_file->audioStreams().isEmpty())
+        return false;
+    m_file->selectAudio(m_file->audioStreams().constFirst());
+    m_timeline = m_file->timeline(m_file->audioStream());
+    const AVCodecParameters* parameters = m_file->audioParameters();
+    const AVCodec* codec = avcodec_find_decoder(parameters->codec_id);
+    m_decoder.reset(codec ? avcodec_alloc_context3(codec) : nullptr);
+    if (!m_decoder || avcodec_parameters_to_context(m_decoder.get(), parameters) < 0)
+        return false;
+    m_decoder->pkt_timebase = m_timeline.timeBase();
+    if (avcodec_open2(m_decoder.get(), codec, nullptr) < 0)
+        return false;
+    error.clear();
+    return true;
+}
+
+void SoundFile::setFormat(int sampleRate, int channels)
+{
+    m_rate = sampleRate;
+    m_channels = channels;
+    m_resampler.reset();
+}
+
+bool SoundFile::seek(double seconds)
+{
+    m_start = seconds;
+    for (const double back : StepsBackSeconds) {
+        const double landing = seconds - LeadSeconds - back;
+        const bool landed = landing > 0.0
+                                ? m_file->jumpNearInAudio(static_cast<qint64>(landing * 1000.0))
+                                : m_file->rewind();
+        if (!landed)
+            continue;
+        avcodec_flush_buffers(m_decoder.get());
+        m_resampler.reset();
+        m_ready.clear();
+        m_readyFrom = 0;
+        m_made = -1; // the first frame places itself
+        m_toSkip = 0;
+        m_isDrained = false;
+        if (!decodeMore())
+            continue;
+        const bool startsBehind = landing > 0.0 && m_toSkip == 0;
+        if (!startsBehind || back == StepsBackSeconds[std::size(StepsBackSeconds) - 1])
+            return true;
+    }
+    return false;
+}
+
+qint64 SoundFile::read(char* data, qint64 bytes)
+{
+    qint64 done = 0;
+    while (done < bytes) {
+        const qint64 available = m_ready.size() - m_readyFrom;
+        if (available == 0) {
+            if (!decodeMore())
+                break;
+            continue;
+        }
+        const qint64 part = std::min(available, bytes - done);
+        std::memcpy(data + done, m_ready.constData() + m_readyFrom, size_t(part));
+        m_readyFrom += int(part);
+        done += part;
+    }
+    return done;
+}
+
+/// Decodes one more frame; false at the end.
+bool SoundFile::decodeMore()
+{
+    if (m_readyFrom == m_ready.size()) {
+        m_ready.clear();
+        m_readyFrom = 0;
+    }
+    const FramePtr frame = makeFrame();
+    for (;;) {
+        const int result = avcodec_receive_frame(m_decoder.get(), frame.get());
+        if (result >= 0) {
+            take(*frame);
+            return true;
+        }
+        if (result == AVERROR_EOF || m_isDrained)
+            return false;
+        // What a damaged packet fails with is over with the next one.
+        if (!sendPacket())
+            m_isDrained = true;
+    }
+}
+
+/// False when no packet is left and the decoder drains.
+bool SoundFile::sendPacket()
+{
+    PacketPtr packet;
+    for (;;) {
+        switch (m_file->read(packet)) {
+        case MediaFile::Read::Packet:
+            avcodec_send_packet(m_decoder.get(), packet.get());
+            return true;
+        case MediaFile::Read::Failure:
+            break;
+        case MediaFile::Read::End:
+            avcodec_send_packet(m_decoder.get(), nullptr);
+            return false;
+        }
+    }
+}
+
+void SoundFile::take(const AVFrame& frame)
+{
+    if (!prepareResampler(frame))
+        return;
+    if (frame.best_effort_timestamp != AV_NOPTS_VALUE)
+        placeAt(m_timeline.seconds(frame.best_effort_timestamp));
+    else if (m_made < 0)
+        m_made = 0;
+    convert(&frame);
+}
+
+/// Puts what is converted next where its time says: behind silence, or cut off at its beginning.
+void SoundFile::placeAt(double seconds)
+{
+    const bool isFirst = m_made < 0;
+    const double reached = m_start + double(std::max<qint64>(0, m_made) - m_toSkip) / m_rate;
+    const double offset = seconds - reached;
+    if (isFirst)
+        m_made = 0;
+    else if (std::abs(offset) < MostOffsetSeconds)
+        return;
+    if (offset > 0.0) {
+        const double silence = std::min(offset, LongestSilenceSeconds);
+        qint64 samples = std::llround(silence * m_rate);
+        const qint64 skipped = std::min(samples, m_toSkip);
+        m_toSkip -= skipped;
+        samples -= skipped;
+        m_ready.append(int(samples) * bytesPerFrame(), '\0');
+        m_made += samples;
+    } else {
+        m_toSkip += std::llround(-offset * m_rate);
+    }
+}
+
+void SoundFile::convert(const AVFrame* frame)
+{
+    const int most = swr_get_out_samples(m_resampler.get(), frame->nb_samples);
+    if (most <= 0)
+        return;
+    QByteArray samples(most * bytesPerFrame(), Qt::Uninitialized);
+    auto* out = reinterpret_cast<uint8_t*>(samples.data());
+    const int made =
+        swr_convert(m_resampler.get(), &out, most,
+                    const_cast<const uint8_t**>(frame->extended_data), frame->nb_samples);
+    if (made <= 0)
+        return;
+    const qint64 skipped = std::min<qint64>(m_toSkip, made);
+    m_toSkip -= skipped;
+    m_made += made - skipped;
+    m_ready.append(samples.constData() + skipped * bytesPerFrame(),
+                   int(made - skipped) * bytesPerFrame());
+}
+
+bool SoundFile::prepareResampler(const AVFrame& frame)
+{
+    const bool fits = m_resampler && frame.sample_rate == m_inputRate &&
+                      frame.format == m_inputFormat &&
+                      frame.ch_layout.nb_channels == m_inputChannels;
+    if (fits)
+        return true;
+    AVChannelLayout in = frame.ch_layout;
+    if (in.order == AV_CHANNEL_ORDER_UNSPEC)
+        av_channel_layout_default(&in, frame.ch_layout.nb_channels);
+    AVChannelLayout out{};
+    av_channel_layout_default(&out, m_channels);
+    SwrContext* context = nullptr;
+    const int result = swr_alloc_set_opts2(&context, &out, AV_SAMPLE_FMT_S16, m_rate, &in,
+                                           static_cast<AVSampleFormat>(frame.format),
+                                           frame.sample_rate, 0, nullptr);
+    m_resampler.reset(context);
+    if (result < 0 || swr_init(m_resampler.get()) < 0) {
+        m_resampler.reset();
+        return false;
+    }
+    m_inputRate = frame.sample_rate;
+    m_inputFormat = frame.format;
+    m_inputChannels = frame.ch_layout.nb_channels;
+    return true;
+}
+
+} // namespace QtAV

@@ -1,0 +1,142 @@
+#include "qtav/player/SoundWorker.h"
+
+#include "qtav/src/FFmpegLog.h"
+
+#include <algorithm>
+
+namespace QtAV {
+
+namespace {
+
+constexpr int TellTimeMs = 20;
+
+/// Between two tellings the time goes on by itself, but not for longer than this: who tells it no
+/// more may have come to a stop.
+constexpr double LongestSilentSeconds = 0.1;
+
+} // namespace
+
+SoundState::Wish SoundState::wish() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_wish;
+}
+
+void SoundState::setHeard(quint64 playSerial, std::optional<double> seconds)
+{
+    const std::lock_guard lock(m_mutex);
+    m_heardSerial = playSerial;
+    m_heard = seconds;
+    m_heardAt = std::chrono::steady_clock::now();
+}
+
+std::optional<double> SoundState::heard() const
+{
+    const std::lock_guard lock(m_mutex);
+    if (!m_wish.plays || m_heardSerial != m_wish.playSerial || !m_heard)
+        return std::nullopt;
+    const std::chrono::duration<double> since = std::chrono::steady_clock::now() - m_heardAt;
+    return *m_heard + std::min(since.count(), LongestSilentSeconds);
+}
+
+/// Lets the device read the file.
+class SoundWorker::Source : public QIODevice
+{
+public:
+    explicit Source(SoundFile& file)
+        : m_file(file)
+    {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char* data, qint64 most) override { return m_file.read(data, most); }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    SoundFile& m_file;
+};
+
+SoundWorker::SoundWorker(SoundState& state)
+    : m_state(state)
+    , m_clock(this)
+{
+    m_clock.setInterval(TellTimeMs);
+    m_clock.setTimerType(Qt::PreciseTimer);
+    connect(&m_clock, &QTimer::timeout, this, &SoundWorker::tellTime);
+}
+
+SoundWorker::~SoundWorker()
+{
+    stopDevice();
+}
+
+void SoundWorker::heed()
+{
+    const SoundState::Wish wish = m_state.wish();
+    const SoundState::Wish done = std::exchange(m_done, wish);
+    if (wish.path != done.path)
+        openFile(wish.path);
+    if (wish.path != done.path || wish.playSerial != done.playSerial) {
+        stopDevice();
+        if (wish.plays)
+            start(wish);
+    }
+    if (m_device)
+        m_device->setVolume(wish.volume);
+}
+
+void SoundWorker::openFile(const QString& path)
+{
+    stopDevice();
+    m_device.reset();
+    m_source.reset();
+    m_file.reset();
+    if (path.isEmpty())
+        return;
+    auto file = std::make_unique<SoundFile>();
+    QString error;
+    if (file->open(path, error))
+        m_file = std::move(file);
+    else
+        qCWarning(lcQtAV, "No sound: %s", qUtf8Printable(error));
+}
+
+void SoundWorker::start(const SoundState::Wish& wish)
+{
+    if (!m_file)
+        return;
+    // Asked for anew each time: it may have come since, or be another one.
+    m_device = SoundDevice::factory()(m_file->sampleRate());
+    if (!m_device)
+        return;
+    m_device->setVolume(wish.volume);
+    m_file->setFormat(m_device->sampleRate(), m_device->channels());
+    if (!m_file->seek(wish.from))
+        return;
+    m_source = std::make_unique<Source>(*m_file);
+    if (m_device->start(m_source.get()))
+        m_clock.start();
+    else
+        qCWarning(lcQtAV, "The sound device does not start.");
+}
+
+void SoundWorker::stopDevice()
+{
+    m_clock.stop();
+    if (m_device)
+        m_device->stop();
+    m_state.setHeard(m_done.playSerial, std::nullopt);
+}
+
+/// A device that failed, or has played everything, gives no time any more.
+void SoundWorker::tellTime()
+{
+    if (m_device->isRunning())
+        m_state.setHeard(m_done.playSerial, m_done.from + m_device->heardSeconds());
+    else
+        stopDevice();
+}
+
+} // namespace QtAV

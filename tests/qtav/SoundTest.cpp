@@ -1,0 +1,306 @@
+#include "qtav/player/SoundDevice.h"
+#include "qtav/player/SoundFile.h"
+
+#include "tests/qtav/Playing.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QTimer>
+
+#include <atomic>
+#include <cmath>
+
+using namespace playing;
+using QtAV::AVPlayer;
+using QtAV::SoundDevice;
+using QtAV::SoundFile;
+
+namespace {
+
+constexpr int Rate = 48000;
+
+/// What the devices of a test did; of both threads.
+struct Record
+{
+    std::atomic<int> made{0};
+    std::atomic<int> started{0};
+    std::atomic<qint64> heardBytes{0};
+    std::atomic<double> volume{-1.0};
+    /// Fails when so many bytes have been heard.
+    std::atomic<qint64> failsAfter{std::numeric_limits<qint64>::max()};
+};
+
+/// Takes samples as fast as a real one would play them, times a factor.
+class PretendedDevice : public SoundDevice
+{
+public:
+    explicit PretendedDevice(Record& record, double speed = 1.0)
+        : m_record(record)
+        , m_speed(speed)
+    {
+        ++m_record.made;
+        m_timer.setInterval(10);
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { pull(); });
+    }
+
+    int sampleRate() const override { return Rate; }
+    int channels() const override { return 2; }
+    bool start(QIODevice* source) override
+    {
+        ++m_record.started;
+        m_source = source;
+        m_heard = 0;
+        m_time.start();
+        m_timer.start();
+        return true;
+    }
+    void stop() override { m_timer.stop(); }
+    bool isRunning() const override { return m_timer.isActive(); }
+    double heardSeconds() const override { return double(m_heard) / BytesASecond; }
+    void setVolume(qreal volume) override { m_record.volume = volume; }
+
+private:
+    static constexpr int BytesASecond = Rate * 4;
+
+    void pull()
+    {
+        const qint64 due = qint64(double(m_time.elapsed()) * m_speed) * (BytesASecond / 1000);
+        QByteArray samples(int(due - m_heard), '\0');
+        const qint64 got = m_source->read(samples.data(), samples.size());
+        m_heard += got;
+        m_record.heardBytes += got;
+        if (got < samples.size() || m_heard > m_record.failsAfter)
+            m_timer.stop();
+    }
+
+    Record& m_record;
+    double m_speed;
+    QIODevice* m_source = nullptr;
+    QTimer m_timer;
+    QElapsedTimer m_time;
+    qint64 m_heard = 0;
+};
+
+/// All players made while it lives have this device.
+class Devices
+{
+public:
+    explicit Devices(double speed = 1.0)
+    {
+        SoundDevice::setFactory(
+            [this, speed](int) { return std::make_unique<PretendedDevice>(record, speed); });
+    }
+    ~Devices() { SoundDevice::setFactory(&SoundDevice::openDefault); }
+
+    Record record;
+};
+
+QVector<qint16> samplesFrom(SoundFile& file, double seconds)
+{
+    if (!file.seek(seconds))
+        return {};
+    QVector<qint16> all;
+    QVector<qint16> part(10007 * 2);
+    for (;;) {
+        const qint64 bytes = file.read(reinterpret_cast<char*>(part.data()), part.size() * 2);
+        all += part.mid(0, int(bytes / 2));
+        if (bytes < part.size() * 2)
+            return all;
+    }
+}
+
+} // namespace
+
+/// Sound: what is read from a file, and a player with devices that work, fail or are missing.
+class SoundTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void file_givesTheSameSamples_fromAnywhere_data();
+    void file_givesTheSameSamples_fromAnywhere();
+    void file_withoutSound_doesNotOpen();
+    void sound_isPlayed_withThePicture();
+    void sound_leadsThePicture();
+    void sound_startsAnew_afterEachSeek();
+    void sound_isSilent_whilePaused();
+    void volume_reachesTheDevice();
+    void picture_playsOn_withoutADevice();
+    void picture_playsOn_whenTheDeviceFails();
+    void player_canEnd_whileSoundPlays();
+};
+
+void SoundTest::file_givesTheSameSamples_fromAnywhere_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file :
+         {"sound.mp4", "sound_earlier.ts", "sound_earlier.mkv", "sound_later.mp4",
+          "sound_later.mkv", "sound_only.wav", "sound_only.mp3", "sound_with_cover.flac"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void SoundTest::file_givesTheSameSamples_fromAnywhere()
+{
+    QFETCH(QString, file);
+    SoundFile sound;
+    QString error;
+    QVERIFY2(sound.open(testsupport::samplePath(file), error), qPrintable(error));
+    sound.setFormat(Rate, 2);
+    const QVector<qint16> all = samplesFrom(sound, 0.0);
+    QVERIFY(all.size() > Rate); // half a second and more
+    const double length = double(all.size()) / 2 / Rate;
+    const auto loudest = std::max_element(all.cbegin(), all.cend());
+    QVERIFY(*loudest > 100);
+    for (const double part : {0.5, 0.1, 0.9, 0.0, 0.7}) {
+        const qint64 start = std::llround(part * length * Rate);
+        const QVector<qint16> rest = samplesFrom(sound, double(start) / Rate);
+        // Times in milliseconds are off by up to half of one.
+        QVERIFY(std::abs(rest.size() - (all.size() - 2 * start)) <= 2 * Rate / 500);
+        // The tone's loudness does not depend on where reading began, and neither does silence.
+        const int count = std::min(int(rest.size()), Rate / 5);
+        double energy = 0.0;
+        double expected = 0.0;
+        for (int i = 0; i < count; ++i) {
+            energy += double(rest.at(i)) * rest.at(i);
+            const int at = std::min(int(2 * start) + i, int(all.size()) - 1);
+            expected += double(all.at(at)) * all.at(at);
+        }
+        QVERIFY2(std::abs(std::sqrt(energy / count) - std::sqrt(expected / count)) <
+                     0.05 * *loudest,
+                 QByteArray::number(part).constData());
+    }
+    QVERIFY(samplesFrom(sound, length + 60.0).isEmpty());
+}
+
+void SoundTest::file_withoutSound_doesNotOpen()
+{
+    SoundFile sound;
+    QString error;
+    QVERIFY(!sound.open(testsupport::samplePath(QStringLiteral("h264_bframes.mp4")), error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(!sound.open(testsupport::samplePath(QStringLiteral("text.mp4")), error));
+    QVERIFY(!error.isEmpty());
+}
+
+void SoundTest::sound_isPlayed_withThePicture()
+{
+    Devices devices;
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
+    QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    QCOMPARE(stage.number(), 74);
+    QCOMPARE(devices.record.started.load(), 1);
+    // The sound is shorter than the picture, which goes on without it.
+    QVERIFY(devices.record.heardBytes > 2.4 * Rate * 4);
+}
+
+void SoundTest::sound_leadsThePicture()
+{
+    // A device that plays twice as fast as the clock runs: the picture keeps up with it.
+    Devices devices(2.0);
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    QVERIFY(stage.open(QStringLiteral("sound.mp4")));
+    qint64 furthest = 0;
+    connect(&stage.screen, &Screen::presented, &stage.screen, [&] {
+        const double heard = double(devices.record.heardBytes) / 4 / Rate * 1000.0;
+        if (heard > 300.0 && heard < 2300.0)
+            furthest = std::max(furthest,
+                                qint64(std::abs(double(stage.player.displayPosition()) - heard)));
+    });
+    QElapsedTimer time;
+    time.start();
+    stage.player.play();
+    QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    QVERIFY(furthest > 0);
+    qInfo("The picture was at most %lld ms off the sound.", furthest);
+    // By the clock alone it would be 1150 ms behind in the end.
+    QVERIFY(furthest < 500);
+}
+
+void SoundTest::sound_startsAnew_afterEachSeek()
+{
+    Devices devices;
+    Stage stage;
+    stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, Patience);
+    for (const int count : {2, 3, 4}) {
+        QVERIFY(stage.seek(count * 500));
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), count, Patience);
+    }
+}
+
+void SoundTest::sound_isSilent_whilePaused()
+{
+    Devices devices;
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("sound.mp4")));
+    QVERIFY(stage.seek(1000));
+    QVERIFY(stage.stepForward());
+    stage.settle();
+    QCOMPARE(devices.record.started.load(), 0);
+    stage.player.play();
+    QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > 0, Patience);
+    stage.player.pause();
+    stage.settle();
+    const qint64 heard = devices.record.heardBytes;
+    stage.settle();
+    QCOMPARE(devices.record.heardBytes.load(), heard);
+}
+
+void SoundTest::volume_reachesTheDevice()
+{
+    Devices devices;
+    Stage stage;
+    stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
+    stage.player.audio()->setVolume(0.25);
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 0.25, Patience);
+    stage.player.audio()->setVolume(7.0);
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 1.0, Patience);
+    stage.player.audio()->setMute(true);
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 0.0, Patience);
+    QCOMPARE(stage.player.audio()->volume(), 1.0);
+    stage.player.audio()->setMute(false);
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 1.0, Patience);
+}
+
+void SoundTest::picture_playsOn_withoutADevice()
+{
+    SoundDevice::setFactory([](int) { return std::unique_ptr<SoundDevice>(); });
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    QVERIFY(stage.open(QStringLiteral("sound.mp4")));
+    QVERIFY(stage.seek(2500));
+    stage.player.play();
+    QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    QCOMPARE(stage.number(), 74);
+    SoundDevice::setFactory(&SoundDevice::openDefault);
+}
+
+void SoundTest::picture_playsOn_whenTheDeviceFails()
+{
+    Devices devices;
+    devices.record.failsAfter = Rate; // after a quarter of a second
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    QVERIFY(stage.open(QStringLiteral("sound.mp4")));
+    QVERIFY(stage.seek(2000));
+    stage.player.play();
+    QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    QCOMPARE(stage.number(), 74);
+    QVERIFY(devices.record.heardBytes < Rate * 4);
+}
+
+void SoundTest::player_canEnd_whileSoundPlays()
+{
+    Devices devices;
+    for (int round = 0; round < 5; ++round) {
+        Stage stage;
+        stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), round + 1, Patience);
+    }
+}
+
+QTEST_GUILESS_MAIN(SoundTest)
+#include "SoundTest.moc"
