@@ -6,6 +6,14 @@
 
 namespace QtAV {
 
+namespace {
+
+/// Frames behind the focus go this much sooner than those before it: decoding gets to the next
+/// frame at once, but to the one before only from its key frame.
+constexpr double WeightBehind = 2.0;
+
+} // namespace
+
 FrameCache::FrameCache(qint64 mostBytes)
     : m_mostBytes(mostBytes)
 {}
@@ -41,7 +49,7 @@ void FrameCache::shrink()
     while (m_bytes > m_mostBytes && m_frames.size() > 1) {
         const auto first = m_frames.begin();
         const auto last = std::prev(m_frames.end());
-        const bool firstIsFurther = m_focus - first->first > last->first - m_focus;
+        const bool firstIsFurther = m_focus - first->first > WeightBehind * (last->first - m_focus);
         const auto furthest = firstIsFurther ? first : last;
         m_bytes -= furthest->second.frame.byteCount();
         m_frames.erase(furthest);

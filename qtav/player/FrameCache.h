@@ -10,7 +10,8 @@ namespace QtAV {
 /// Decoded frames around the one on screen, by their times, up to a number of bytes.
 ///
 /// The cache knows which frames are direct neighbours, so that it never gives a frame further off
-/// for the next or the previous one. When it is full, the frames furthest from the focus go first.
+/// for the next or the previous one. When it is full, the frames furthest from the focus go first,
+/// with those after it counting as further away.
 ///
 /// A frame is known by its exact time in seconds, the one that VideoFrame::timestamp() gives.
 /// Not thread-safe: one thread uses it.

@@ -19,6 +19,10 @@ constexpr double NearSeconds = 1.0;
 /// So many frames before a target are decoded with it, for the steps back that often follow.
 constexpr qint64 FramesBeforeTarget = 16;
 
+/// The part of the cache that frames before the focus should take: less than what eviction leaves
+/// them, or filling would never end.
+constexpr int PartBehind = 3;
+
 constexpr int UsualGapMs = 40;
 
 qint64 furtherBack(qint64 stepBackMs)
@@ -293,7 +297,8 @@ bool FrameSource::fillBehind(const IsCancelled& isCancelled)
 bool FrameSource::startFilling()
 {
     const std::optional<FrameCache::Run> run = m_cache.runUpTo(m_focus);
-    const bool isEnough = !run || run->isAtStart || run->bytes >= m_cache.mostBytes() / 4;
+    const qint64 enough = m_cache.mostBytes() / PartBehind;
+    const bool isEnough = !run || run->isAtStart || run->bytes >= enough;
     // Filling up to the same frame again would end the same.
     if (isEnough || m_filledUpTo == run->start)
         return false;

@@ -35,7 +35,7 @@ public:
     /// The system's standard device; null where there is none.
     static std::unique_ptr<SoundDevice> openDefault(int preferredRate);
 
-    /// Replaces openDefault() in all players made afterwards; for tests.
+    /// Replaces openDefault() in all players that have not played any sound yet; for tests.
     static void setFactory(Factory factory);
     static Factory factory();
 };

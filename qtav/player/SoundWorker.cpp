@@ -60,6 +60,7 @@ private:
 
 SoundWorker::SoundWorker(SoundState& state)
     : m_state(state)
+    , m_makeDevice(SoundDevice::factory())
     , m_clock(this)
 {
     m_clock.setInterval(TellTimeMs);
@@ -108,7 +109,7 @@ void SoundWorker::start(const SoundState::Wish& wish)
     if (!m_file)
         return;
     // Asked for anew each time: it may have come since, or be another one.
-    m_device = SoundDevice::factory()(m_file->sampleRate());
+    m_device = m_makeDevice(m_file->sampleRate());
     if (!m_device)
         return;
     m_device->setVolume(wish.volume);

@@ -49,7 +49,8 @@ private:
     std::chrono::steady_clock::time_point m_heardAt;
 };
 
-/// Carries out a SoundState's wishes, on the thread that it lives in.
+/// Carries out a SoundState's wishes, on the thread that it lives in. Made on the owner's thread,
+/// from where it takes the way to make devices.
 class SoundWorker : public QObject
 {
     Q_OBJECT
@@ -71,6 +72,7 @@ private:
     void tellTime();
 
     SoundState& m_state;
+    const SoundDevice::Factory m_makeDevice;
     SoundState::Wish m_done; ///< the wish that has been carried out
     std::unique_ptr<SoundFile> m_file;
     std::unique_ptr<Source> m_source;
