@@ -1,0 +1,184 @@
+#include "ui/mainwindow/MainWindow.h"
+
+#include "ui/mainwindow/DroppedVideo.h"
+#include "ui/widgets/GroupBoxMargins.h"
+#include "ui_MainWindow.h"
+
+#include <QtAV/AVPlayer.h>
+#include <QtAV/VideoOutput.h>
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMessageBox>
+#include <QMimeData>
+
+namespace {
+
+QDir storedOpenDir(const QSettings& settings)
+{
+    return QDir(settings.value(QStringLiteral("lastOpenDir"), QDir::homePath()).toString());
+}
+
+/// Room for the widest time, so that the row does not shake while the digits change.
+void reserveTimeWidth(QLabel& label)
+{
+    label.setMinimumWidth(label.fontMetrics().horizontalAdvance(QStringLiteral("00:00:00.000")));
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : MainWindow(parent, [](QObject* owner) { return new QtAV::VideoOutput(owner); })
+{}
+
+MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutput)
+    : QMainWindow(parent)
+    , m_ui(std::make_unique<Ui::MainWindow>())
+    , m_lastOpenDir(storedOpenDir(m_settings))
+    , m_saveDialogDir(m_lastOpenDir)
+{
+    m_ui->setupUi(this);
+    GroupBoxMargins::apply(*this);
+    updateWindowTitle();
+    setupPlayer(makeVideoOutput);
+    updatePlayButton();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
+{
+    m_player = new QtAV::AVPlayer(this);
+    m_videoOutput = makeVideoOutput(this);
+    QWidget* const screen = m_videoOutput->widget();
+    if (screen == nullptr) {
+        refusePlayer();
+        return;
+    }
+    m_player->setRenderer(m_videoOutput);
+    m_player->setMediaEndAction(QtAV::MediaEndAction_Pause);
+    screen->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_ui->videoLayout->addWidget(screen, 0, 0);
+    m_ui->openVideoLabel->raise();
+    connectPlayer();
+    connectTransport();
+    alignControls();
+    loadImageProfileComboBox();
+    loadFileNameProfileComboBox();
+    setupFileDialogs();
+    setVideoControlsEnabled(false);
+    setSnapshotControlsEnabled(false);
+    updateAutomaticFileNameDisplay();
+    setupVolumePopup();
+}
+
+/// Says that there is nothing to show videos with, and leaves only what works without.
+void MainWindow::refusePlayer()
+{
+    QMessageBox::warning(nullptr, tr("Morvantile error"), tr("Can not create video renderer"),
+                         QMessageBox::Ok);
+    setAcceptDrops(false);
+    m_ui->centralWidget->setEnabled(false);
+    setVideoControlsEnabled(false);
+    setSnapshotControlsEnabled(false);
+    m_ui->actionOpen->setEnabled(false);
+}
+
+void MainWindow::connectPlayer()
+{
+    using QtAV::AVPlayer;
+    const auto updateSliderNow = [this] { updateSlider(); };
+    connect(m_player, &AVPlayer::started, this, updateSliderNow);
+    connect(m_player, &AVPlayer::durationChanged, this, &MainWindow::durationChanged);
+    connect(m_player, &AVPlayer::positionChanged, this, &MainWindow::positionChanged);
+    connect(m_player, &AVPlayer::notifyIntervalChanged, this, &MainWindow::updateSliderUnit);
+    connect(m_player, &AVPlayer::stateChanged, this, &MainWindow::updatePlayButton);
+    connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::updatePlayButton);
+    connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::noticeMediaStatus);
+
+    const QtAV::VideoCapture* const capture = m_player->videoCapture();
+    connect(capture, &QtAV::VideoCapture::imageCaptured, this, &MainWindow::snapshotCaptured);
+    connect(capture, &QtAV::VideoCapture::failed, this, &MainWindow::onCaptureError);
+}
+
+void MainWindow::connectTransport()
+{
+    connect(m_ui->openVideoLabel, &QPushButton::clicked, this, &MainWindow::openVideoLabelClicked);
+    connect(m_ui->videoSlider, &QSlider::sliderMoved, this,
+            [this](int value) { seekBySlider(value); });
+    connect(m_ui->videoSlider, &QSlider::sliderPressed, this, [this] { seekBySlider(); });
+    connect(m_ui->playButton, &QPushButton::clicked, this, &MainWindow::playPause);
+    connect(m_ui->stepBackwardButton, &QPushButton::clicked, this, &MainWindow::stepBackward);
+    connect(m_ui->stepForwardButton, &QPushButton::clicked, this, &MainWindow::stepForward);
+    connect(m_ui->skipBackwardButton, &QPushButton::clicked, this, &MainWindow::skipBackward);
+    connect(m_ui->skipForwardButton, &QPushButton::clicked, this, &MainWindow::skipForward);
+    connect(m_ui->actionPlayPause, &QAction::triggered, this, &MainWindow::playPause);
+    connect(m_ui->actionSkipBackward, &QAction::triggered, this, &MainWindow::skipBackward);
+    connect(m_ui->actionSkipForward, &QAction::triggered, this, &MainWindow::skipForward);
+    connect(m_ui->actionStepBackward, &QAction::triggered, this, &MainWindow::stepBackward);
+    connect(m_ui->actionStepForward, &QAction::triggered, this, &MainWindow::stepForward);
+    connect(m_ui->snapshotButton, &QPushButton::clicked, this, &MainWindow::snapshotButtonPressed);
+    connect(m_ui->saveButton, &QPushButton::clicked, this, &MainWindow::saveButtonPressed);
+}
+
+void MainWindow::alignControls()
+{
+    m_ui->splitter->setChildrenCollapsible(false);
+    m_ui->playerLayout->setAlignment(m_ui->videoControlsFrame, Qt::AlignHCenter);
+    m_ui->snapshotLayout->setAlignment(m_ui->snapshotControlsFrame, Qt::AlignHCenter);
+    reserveTimeWidth(*m_ui->positionLabel);
+    reserveTimeWidth(*m_ui->durationLabel);
+}
+
+void MainWindow::on_actionExit_triggered()
+{
+    quit();
+}
+
+void MainWindow::confirmQuit()
+{
+    quit();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    quit();
+}
+
+void MainWindow::quit()
+{
+    if (m_videoOutput != nullptr) {
+        m_videoOutput->deleteLater();
+    }
+    QCoreApplication::quit();
+}
+
+void MainWindow::retakeFocusAfterDialog()
+{
+    raise();
+    activateWindow();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!DroppedVideo::pathIn(*event->mimeData()).isEmpty()) {
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QString path = DroppedVideo::pathIn(*event->mimeData());
+    if (path.isEmpty()) {
+        return;
+    }
+    // Never a move: the program where the file comes from would delete it.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    openVideo(path);
+    retakeFocusAfterDialog();
+}

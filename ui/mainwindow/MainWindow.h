@@ -1,0 +1,200 @@
+#pragma once
+
+#include "imaging/FilePublisher.h"
+#include "ui/mainwindow/CaptureTickets.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
+#include <QImage>
+#include <QMainWindow>
+#include <QPointer>
+#include <QSettings>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+class FileNameProfile;
+class ImageProfile;
+class QFileDialog;
+class VolumePopup;
+
+namespace QtAV {
+class AVPlayer;
+class VideoOutput;
+} // namespace QtAV
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The application's one window: on the left a video player, on the right the snapshot taken from
+/// it, which is saved or copied.
+///
+/// Its sources are split by topic: construction and ending in MainWindow.cpp, the player in
+/// MainWindow_player.cpp, the snapshot in MainWindow_snapshot.cpp, the menus in
+/// MainWindow_menus.cpp.
+///
+/// Settings: "lastOpenDir", the folder that the save dialog starts in. User-interface thread only.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Which way step() goes. What is not Forward counts as Backward.
+    enum SeekDirection { Backward = -1, Forward = 1 };
+
+    /// Makes what shows the video, as a child of the object that it is given.
+    using VideoOutputFactory = std::function<QtAV::VideoOutput*(QObject*)>;
+
+    explicit MainWindow(QWidget* parent = nullptr);
+    /// The same with another video output. Where that has no widget, says so in a message box and
+    /// gives a window without a player.
+    MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutput);
+    ~MainWindow() override;
+
+    /// A video is open, or being opened; it may still turn out to be unplayable.
+    bool isVideoLoaded() const;
+    /// The path of the open video; empty without one.
+    QString currentVideoFilePath() const;
+    /// About the file that the player has.
+    QFileInfo currentVideoFileInfo() const;
+    /// The name with its extension.
+    QString currentVideoFileName() const;
+    /// The name up to its first dot.
+    QString currentVideoFileBaseName() const;
+    QDir currentVideoFileDir() const;
+
+    /// Names the open video in the title.
+    void updateWindowTitle();
+    /// Enables or disables whatever works on a video.
+    void setVideoControlsEnabled(bool on);
+    void setupVolumePopup();
+
+    /// Writes the snapshot, in place of a file of that name. Notes the outcome on the debug stream
+    /// and in the status bar; false when nothing was written.
+    bool saveSnapshot(QString path);
+    /// The name of the next picture in the folder: the first from the file counter on that is free.
+    /// The counter stays there.
+    QString automaticFileName(QDir dir);
+    void updateAutomaticFileNameDisplay();
+    /// Enables or disables whatever works on a snapshot.
+    void setSnapshotControlsEnabled(bool on);
+    /// Fill the choices from the profiles; what was used last becomes the selected one.
+    void loadImageProfileComboBox();
+    void loadFileNameProfileComboBox();
+    /// Makes the save dialog; to be called once.
+    void setupFileDialogs();
+
+public Q_SLOTS:
+    // The player.
+    void openVideoLabelClicked();
+    void showSelectVideoDialog();
+    void openVideo(QString path);
+    void closeVideo();
+    void pause();
+    void playPause();
+    void updatePlayButton();
+    void updateSliderUnit();
+    void updateSlider();
+    void updateSlider(qint64 position);
+    void durationChanged(qint64 duration);
+    void positionChanged(qint64 position);
+    void seekBySlider(int value);
+    void seekBySlider();
+    void skipBackward();
+    void skipForward();
+    /// Pauses and goes `ms` milliseconds on, or back where it is negative.
+    void seekRelative(qint64 ms);
+    void stepBackward();
+    void stepForward();
+    void step(SeekDirection direction);
+    /// @param volume  0 to 100
+    void volumeChanged(int volume);
+    void on_volumeButton_clicked();
+    void on_actionOpen_triggered();
+
+    // The snapshot.
+    void snapshotButtonPressed();
+    void snapshotCaptured(const QImage& image);
+    void onCaptureError();
+    /// Makes the snapshot anew from the full frame; with the selected profile when given null.
+    void processFullFrameImage(ImageProfile* profile);
+    void imageProfileUpdated(ImageProfile* profile);
+    void saveButtonPressed();
+    void on_actionSaveSnapshot_triggered();
+    void saveWithAutomaticFileName();
+    void showSaveDialog();
+    void on_actionTake_Snapshot_triggered();
+    void on_actionCopy_Snapshot_triggered();
+    void on_actionCopy_Full_Frame_triggered();
+    void on_imageProfileComboBox_activated(int index);
+    void on_filenameProfileComboBox_activated(int index);
+    void on_selectOutputFolderButton_clicked();
+    void on_automaticFileNameGroupBox_toggled(bool on);
+
+    // The menus.
+    void on_actionImage_Filters_Test_triggered();
+    void on_actionAbout_triggered();
+    void on_actionDocumentation_triggered();
+    void on_actionCommandLineOptions_triggered();
+    void on_actionExit_triggered();
+
+    /// Ends the application, without a question.
+    void confirmQuit();
+    void retakeFocusAfterDialog();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void setupPlayer(const VideoOutputFactory& makeVideoOutput);
+    void refusePlayer();
+    void connectPlayer();
+    void connectTransport();
+    void alignControls();
+    void quit();
+
+    void followVideoFolder(const QFileInfo& video);
+    void proposeFileName(const QFileInfo& video);
+    void noticeMediaStatus();
+    void showOpenButton(const QString& text);
+
+    void capture();
+    void resetSnapshot();
+    [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
+    [[nodiscard]] WriteResult saveNewSnapshot(const QString& path);
+    void reportSaving(const QString& path, bool success);
+    void saveAs(const QString& chosen);
+    [[nodiscard]] bool isReplacingWanted(const QString& path);
+
+    std::unique_ptr<Ui::MainWindow> m_ui;
+    QSettings m_settings;
+    /// As processed; null until the first capture.
+    QImage m_snapshotImage;
+    /// As captured.
+    QImage m_fullFrameImage;
+    QString m_currentVideoPath;
+    QtAV::AVPlayer* m_player = nullptr;
+    /// Goes before the window when the application ends.
+    QPointer<QtAV::VideoOutput> m_videoOutput;
+    QDir m_lastOpenDir;
+    QDir m_saveDialogDir;
+    QString m_saveDialogFileName;
+    QString m_saveDialogNameFilter;
+    QFileDialog* m_saveDialog = nullptr;
+    /// Null in a window without a player.
+    VolumePopup* m_volumePopup = nullptr;
+    /// Milliseconds per step of the slider.
+    qint64 m_sliderUnit = 1000;
+    QIcon m_playIcon;
+    QIcon m_pauseIcon;
+    /// The number of the next automatic file name.
+    int m_fileCounter = 1;
+    ImageProfile* m_imageProfile = nullptr;
+    FileNameProfile* m_fileNameProfile = nullptr;
+    CaptureTickets m_captures;
+};

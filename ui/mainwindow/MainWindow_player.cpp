@@ -1,0 +1,324 @@
+#include "ui/mainwindow/MainWindow.h"
+
+#include "ui/widgets/SmartFileDialog.h"
+#include "ui/widgets/VolumePopup.h"
+#include "ui_MainWindow.h"
+
+#include <QtAV/AVPlayer.h>
+#include <QtAV/VideoOutput.h>
+
+#include <QDebug>
+#include <QTime>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+/// How far the skip buttons go.
+constexpr qint64 skipMs = 1000;
+
+/// How precise the slider is: finer than a frame of most videos.
+constexpr qint64 sliderUnitMs = 30;
+
+QString timeText(qint64 ms)
+{
+    // Only the time of day is shown, so that whole days may go before the conversion to int.
+    constexpr qint64 dayMs = 24 * 60 * 60 * 1000;
+    return QTime(0, 0, 0, 0).addMSecs(int(ms % dayMs)).toString(QStringLiteral("hh:mm:ss.zzz"));
+}
+
+int sliderSteps(qint64 ms, qint64 unit)
+{
+    return int(std::min<qint64>(ms / unit, std::numeric_limits<int>::max()));
+}
+
+} // namespace
+
+bool MainWindow::isVideoLoaded() const
+{
+    return !m_currentVideoPath.isEmpty();
+}
+
+QString MainWindow::currentVideoFilePath() const
+{
+    return m_currentVideoPath;
+}
+
+QFileInfo MainWindow::currentVideoFileInfo() const
+{
+    return QFileInfo(m_player->file());
+}
+
+QString MainWindow::currentVideoFileName() const
+{
+    return currentVideoFileInfo().fileName();
+}
+
+QString MainWindow::currentVideoFileBaseName() const
+{
+    return currentVideoFileInfo().baseName();
+}
+
+QDir MainWindow::currentVideoFileDir() const
+{
+    return currentVideoFileInfo().dir();
+}
+
+void MainWindow::updateWindowTitle()
+{
+    setWindowTitle(isVideoLoaded()
+                       ? tr("Morvantile - %1").arg(QFileInfo(m_currentVideoPath).fileName())
+                       : tr("Morvantile"));
+}
+
+void MainWindow::setVideoControlsEnabled(bool on)
+{
+    m_ui->actionTake_Snapshot->setEnabled(on);
+    m_ui->snapshotButton->setEnabled(on);
+    m_ui->videoSlider->setEnabled(on);
+    m_ui->videoControlsFrame->setEnabled(on);
+    const QList<QAction*> actions = m_ui->menuVideoControls->actions();
+    for (QAction* const action : actions) {
+        action->setEnabled(on);
+    }
+    if (!on) {
+        durationChanged(0);
+        positionChanged(0);
+    }
+}
+
+void MainWindow::on_actionOpen_triggered()
+{
+    showSelectVideoDialog();
+}
+
+void MainWindow::openVideoLabelClicked()
+{
+    showSelectVideoDialog();
+}
+
+void MainWindow::showSelectVideoDialog()
+{
+    pause();
+    SmartFileDialog dialog(this, QStringLiteral("openDialog"));
+    dialog.setFiltersToVideo();
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    const QString file = dialog.selectedFiles().value(0);
+    if (!file.isEmpty()) {
+        openVideo(file);
+    }
+}
+
+void MainWindow::openVideo(QString path)
+{
+    if (m_volumePopup == nullptr) {
+        return;
+    }
+    closeVideo();
+    const QFileInfo video(path);
+    m_currentVideoPath = path;
+    m_player->play(path);
+    volumeChanged(m_volumePopup->volume());
+    proposeFileName(video);
+    followVideoFolder(video);
+    m_ui->outputFolderLineEdit->setText(QDir::toNativeSeparators(video.absolutePath()));
+    m_videoOutput->widget()->raise();
+    m_ui->openVideoLabel->setFocusPolicy(Qt::NoFocus);
+    m_ui->openVideoLabel->clearFocus();
+    setVideoControlsEnabled(true);
+    m_fileCounter = 1;
+    updateAutomaticFileNameDisplay();
+    updateWindowTitle();
+    updatePlayButton();
+    updateSliderUnit();
+    noticeMediaStatus();
+}
+
+/// Keeps the type that the user saved the last picture as.
+void MainWindow::proposeFileName(const QFileInfo& video)
+{
+    const QString suffix = QFileInfo(m_saveDialogFileName).suffix();
+    m_saveDialogFileName = video.completeBaseName();
+    if (!suffix.isEmpty()) {
+        m_saveDialogFileName += QLatin1Char('.') + suffix;
+    }
+}
+
+/// Unless the user saves somewhere else on purpose, pictures go where their video is.
+void MainWindow::followVideoFolder(const QFileInfo& video)
+{
+    if (m_saveDialogDir.exists() && m_saveDialogDir != m_lastOpenDir) {
+        return;
+    }
+    m_lastOpenDir = video.absoluteDir();
+    m_saveDialogDir = m_lastOpenDir;
+    m_settings.setValue(QStringLiteral("lastOpenDir"), m_lastOpenDir.absolutePath());
+}
+
+void MainWindow::closeVideo()
+{
+    m_player->stop();
+    m_player->setFile(QString());
+    m_currentVideoPath.clear();
+    m_captures.forgetAll();
+    updateWindowTitle();
+    setVideoControlsEnabled(false);
+    setSnapshotControlsEnabled(false);
+    resetSnapshot();
+    statusBar()->clearMessage();
+    showOpenButton(tr("Click to open video"));
+}
+
+void MainWindow::showOpenButton(const QString& text)
+{
+    m_ui->openVideoLabel->setText(text);
+    m_ui->openVideoLabel->setFocusPolicy(Qt::StrongFocus);
+    m_ui->openVideoLabel->raise();
+}
+
+/// What cannot be played would leave a black screen, and nobody would know why.
+void MainWindow::noticeMediaStatus()
+{
+    if (!isVideoLoaded() || m_player->mediaStatus() != QtAV::InvalidMedia) {
+        return;
+    }
+    const auto fitting = [this](const QString& text) {
+        const QPushButton& button = *m_ui->openVideoLabel;
+        return button.fontMetrics().elidedText(text, Qt::ElideMiddle, button.width() * 3 / 4);
+    };
+    const QString name = QFileInfo(m_currentVideoPath).fileName();
+    showOpenButton(fitting(name) + QLatin1Char('\n') + tr("cannot be played as a video.") +
+                   QLatin1String("\n\n") + tr("Click to open another video"));
+    statusBar()->showMessage(m_player->errorString());
+}
+
+void MainWindow::pause()
+{
+    m_player->pause();
+}
+
+void MainWindow::playPause()
+{
+    if (m_player->isPlaying()) {
+        m_player->pause(!m_player->isPaused());
+    } else {
+        m_player->play();
+    }
+}
+
+void MainWindow::updatePlayButton()
+{
+    qDebug() << "updatePlayButton: " << m_player->state();
+    if (m_playIcon.isNull()) {
+        m_playIcon = QIcon(QStringLiteral(":/Images/Play.svg"));
+        m_pauseIcon = QIcon(QStringLiteral(":/Images/Pause.svg"));
+    }
+    const bool isPlaying = isVideoLoaded() && m_player->state() == QtAV::AVPlayer::PlayingState;
+    m_ui->playButton->setIcon(isPlaying ? m_pauseIcon : m_playIcon);
+}
+
+void MainWindow::updateSliderUnit()
+{
+    m_sliderUnit = sliderUnitMs;
+    qDebug() << "updateSliderUnit: " << m_sliderUnit;
+    updateSlider();
+}
+
+void MainWindow::updateSlider()
+{
+    if (m_ui->videoSlider->isSliderDown()) {
+        return;
+    }
+    m_ui->videoSlider->setRange(0, sliderSteps(m_player->duration(), m_sliderUnit));
+    m_ui->videoSlider->setValue(sliderSteps(m_player->displayPosition(), m_sliderUnit));
+}
+
+void MainWindow::updateSlider(qint64 position)
+{
+    Q_UNUSED(position)
+    updateSlider();
+}
+
+void MainWindow::durationChanged(qint64 duration)
+{
+    m_ui->durationLabel->setText(timeText(duration));
+    updateSlider();
+}
+
+void MainWindow::positionChanged(qint64 position)
+{
+    Q_UNUSED(position)
+    m_ui->positionLabel->setText(timeText(m_player->displayPosition()));
+    updateSlider();
+}
+
+void MainWindow::seekBySlider(int value)
+{
+    if (m_player->isPlaying()) {
+        m_player->seek(value * m_sliderUnit);
+    }
+}
+
+void MainWindow::seekBySlider()
+{
+    seekBySlider(m_ui->videoSlider->value());
+}
+
+void MainWindow::skipBackward()
+{
+    seekRelative(-skipMs);
+}
+
+void MainWindow::skipForward()
+{
+    seekRelative(skipMs);
+}
+
+void MainWindow::seekRelative(qint64 ms)
+{
+    m_player->pause();
+    m_player->setPosition(m_player->displayPosition() + ms);
+}
+
+void MainWindow::stepBackward()
+{
+    step(Backward);
+}
+
+void MainWindow::stepForward()
+{
+    step(Forward);
+}
+
+void MainWindow::step(SeekDirection direction)
+{
+    if (direction == Forward) {
+        m_player->stepForward();
+    } else {
+        m_player->stepBackward();
+    }
+}
+
+void MainWindow::setupVolumePopup()
+{
+    m_volumePopup = new VolumePopup(this);
+    connect(m_volumePopup, &VolumePopup::volumeChanged, this, &MainWindow::volumeChanged);
+}
+
+void MainWindow::volumeChanged(int volume)
+{
+    m_player->audio()->setVolume(volume / 100.0);
+}
+
+void MainWindow::on_volumeButton_clicked()
+{
+    const QPoint button = m_ui->volumeButton->mapToGlobal({0, 0});
+    const int x = button.x() + (m_ui->volumeButton->width() - m_volumePopup->width()) / 2;
+    const int y = int(button.y() - m_volumePopup->height() * 1.1);
+    m_volumePopup->move(x, y);
+    m_volumePopup->show();
+}

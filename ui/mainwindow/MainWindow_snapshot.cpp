@@ -1,0 +1,330 @@
+#include "ui/mainwindow/MainWindow.h"
+
+#include "imaging/ImageProcessingManager.h"
+#include "profiles/FileNameProfile.h"
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
+#include "ui/mainwindow/SavePath.h"
+#include "ui_MainWindow.h"
+
+#include <QtAV/AVPlayer.h>
+
+#include <QDebug>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace {
+
+/// How long the outcome of saving stays in the status bar.
+constexpr int messageMs = 8000;
+
+/// Fills the box with the manager's profiles and makes the one used last current. Gives that
+/// profile: the first, where the one used last is unknown.
+BaseProfile* fillProfiles(QComboBox& box, const ProfileManager& manager)
+{
+    box.clear();
+    const QList<BaseProfile*> profiles = manager.profiles();
+    for (const BaseProfile* const profile : profiles) {
+        box.addItem(profile->name(), profile->id());
+    }
+    BaseProfile* const lastUsed = manager.lastUsedProfile();
+    if (lastUsed == nullptr) {
+        return profiles.value(0);
+    }
+    box.setCurrentIndex(box.findData(lastUsed->id()));
+    return lastUsed;
+}
+
+/// The profile that the user chose in the box, which is then the one used last. Null for none.
+BaseProfile* chooseProfile(const QComboBox& box, ProfileManager& manager)
+{
+    BaseProfile* const profile = manager.profileForId(box.currentData().toString());
+    if (profile != nullptr) {
+        manager.setLastUsedProfile(profile);
+    }
+    return profile;
+}
+
+QDir folderIn(const QLineEdit& edit)
+{
+    return QDir(edit.text());
+}
+
+} // namespace
+
+void MainWindow::snapshotButtonPressed()
+{
+    capture();
+}
+
+void MainWindow::on_actionTake_Snapshot_triggered()
+{
+    capture();
+}
+
+void MainWindow::capture()
+{
+    m_captures.ask();
+    m_player->videoCapture()->capture();
+}
+
+void MainWindow::snapshotCaptured(const QImage& image)
+{
+    if (!m_captures.answer()) {
+        return;
+    }
+    m_fullFrameImage = image.copy();
+    processFullFrameImage(nullptr);
+    setSnapshotControlsEnabled(true);
+}
+
+void MainWindow::onCaptureError()
+{
+    if (m_captures.answer()) {
+        QMessageBox::warning(nullptr, QStringLiteral("Morvantile video capture"),
+                             tr("Failed to capture video frame"), QMessageBox::Ok);
+    }
+}
+
+void MainWindow::processFullFrameImage(ImageProfile* profile)
+{
+    m_snapshotImage = ImageProcessingManager::instance()->processImage(
+        m_fullFrameImage, profile == nullptr ? m_imageProfile : profile, nullptr);
+    m_ui->snapshotImageView->setImage(m_snapshotImage);
+}
+
+void MainWindow::imageProfileUpdated(ImageProfile* profile)
+{
+    processFullFrameImage(profile);
+}
+
+void MainWindow::resetSnapshot()
+{
+    m_fullFrameImage = QImage();
+    m_snapshotImage = QImage();
+    m_ui->snapshotImageView->setImage(m_snapshotImage);
+}
+
+void MainWindow::setSnapshotControlsEnabled(bool on)
+{
+    m_ui->actionCopy_Full_Frame->setEnabled(on);
+    m_ui->actionCopy_Snapshot->setEnabled(on);
+    m_ui->actionSaveSnapshot->setEnabled(on);
+    m_ui->snapshotControlsFrame->setEnabled(on);
+    if (!on) {
+        m_ui->outputFolderLineEdit->clear();
+    }
+    updateAutomaticFileNameDisplay();
+}
+
+void MainWindow::saveButtonPressed()
+{
+    if (m_ui->automaticFileNameGroupBox->isChecked()) {
+        saveWithAutomaticFileName();
+    } else {
+        showSaveDialog();
+    }
+}
+
+void MainWindow::on_actionSaveSnapshot_triggered()
+{
+    saveButtonPressed();
+}
+
+bool MainWindow::saveSnapshot(QString path)
+{
+    const bool success = ImageProcessingManager::instance()->saveImage(
+        path, m_snapshotImage, m_imageProfile, m_fileNameProfile);
+    reportSaving(path, success);
+    return success;
+}
+
+/// The same, but never in place of another file.
+WriteResult MainWindow::saveNewSnapshot(const QString& path)
+{
+    const WriteResult result = ImageProcessingManager::instance()->saveNewImage(
+        path, m_snapshotImage, m_imageProfile, m_fileNameProfile);
+    reportSaving(path, result == WriteResult::Written);
+    return result;
+}
+
+void MainWindow::reportSaving(const QString& path, bool success)
+{
+    qDebug() << (success ? "Save success" : "Save failure") << path;
+    const QString shownPath = QDir::toNativeSeparators(path);
+    statusBar()->showMessage((success ? tr("Saved %1") : tr("Could not save %1")).arg(shownPath),
+                             messageMs);
+}
+
+void MainWindow::saveWithAutomaticFileName()
+{
+    const QDir folder = folderIn(*m_ui->outputFolderLineEdit);
+    if (!isOutputFolderUsable(folder)) {
+        return;
+    }
+    auto result = WriteResult::AlreadyExists;
+    while (result == WriteResult::AlreadyExists) {
+        result = saveNewSnapshot(folder.absoluteFilePath(automaticFileName(folder)));
+        // The number is used up, also by a file that came in between.
+        if (result != WriteResult::Failed) {
+            ++m_fileCounter;
+        }
+    }
+    updateAutomaticFileNameDisplay();
+}
+
+/// Asks whether to make a folder that is missing. One that cannot be made fails the saving.
+bool MainWindow::isOutputFolderUsable(const QDir& folder)
+{
+    if (folder.isRelative()) {
+        QMessageBox::warning(
+            this, tr("Unknown Folder"),
+            tr("Please enter a valid output folder in the Automatic FileName section."),
+            QMessageBox::Ok);
+        m_ui->outputFolderLineEdit->setFocus();
+        return false;
+    }
+    if (folder.exists()) {
+        return true;
+    }
+    const QString question = tr("Create folder?") + QLatin1String("\r\n") +
+                             QDir::toNativeSeparators(folder.absolutePath());
+    if (QMessageBox::question(this, QStringLiteral("Folder does not exist"), question,
+                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
+        return false;
+    }
+    folder.mkpath(QStringLiteral("."));
+    return true;
+}
+
+QString MainWindow::automaticFileName(QDir dir)
+{
+    const QString baseName = currentVideoFileBaseName();
+    for (;; ++m_fileCounter) {
+        const QString name = m_fileNameProfile->generateFileName(baseName, m_fileCounter);
+        if (!QFileInfo::exists(dir.absoluteFilePath(name))) {
+            return name;
+        }
+    }
+}
+
+void MainWindow::updateAutomaticFileNameDisplay()
+{
+    const bool isShown = isVideoLoaded() && m_ui->automaticFileNameGroupBox->isChecked();
+    m_ui->nextFileNameLabel->setVisible(isShown);
+    m_ui->nextFileNameDescriptionLabel->setVisible(isShown);
+    if (isShown) {
+        m_ui->nextFileNameLabel->setText(automaticFileName(folderIn(*m_ui->outputFolderLineEdit)));
+    }
+}
+
+void MainWindow::on_automaticFileNameGroupBox_toggled(bool on)
+{
+    Q_UNUSED(on)
+    updateAutomaticFileNameDisplay();
+}
+
+void MainWindow::on_selectOutputFolderButton_clicked()
+{
+    const QDir current = folderIn(*m_ui->outputFolderLineEdit);
+    const bool isKnown = !m_ui->outputFolderLineEdit->text().isEmpty() && current.exists();
+    const QString folder = QFileDialog::getExistingDirectory(
+        this, tr("Open Directory"), isKnown ? current.absolutePath() : QString(),
+        QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+    if (!folder.isEmpty() && QDir(folder).exists()) {
+        m_ui->outputFolderLineEdit->setText(QDir::toNativeSeparators(folder));
+        updateAutomaticFileNameDisplay();
+    }
+}
+
+void MainWindow::setupFileDialogs()
+{
+    m_saveDialog = new QFileDialog(this);
+    m_saveDialog->setObjectName(QStringLiteral("saveDialog"));
+    m_saveDialog->setDirectory(m_saveDialogDir.absolutePath());
+    m_saveDialog->setNameFilters(SavePath::nameFilters());
+    m_saveDialog->setAcceptMode(QFileDialog::AcceptSave);
+}
+
+void MainWindow::showSaveDialog()
+{
+    m_saveDialog->setDirectory(m_saveDialogDir);
+    if (!m_saveDialogNameFilter.isEmpty()) {
+        m_saveDialog->selectNameFilter(m_saveDialogNameFilter);
+    }
+    m_saveDialog->selectFile(m_saveDialogFileName);
+    if (m_saveDialog->exec() == QDialog::Accepted) {
+        saveAs(m_saveDialog->selectedFiles().value(0));
+    }
+    retakeFocusAfterDialog();
+}
+
+/// The dialog asked about replacing the file of the name as it was typed, not of a completed one.
+void MainWindow::saveAs(const QString& chosen)
+{
+    const QString path = SavePath::completed(chosen, m_saveDialog->selectedNameFilter());
+    if (path != chosen && QFileInfo::exists(path) && !isReplacingWanted(path)) {
+        return;
+    }
+    if (saveSnapshot(path)) {
+        m_saveDialogDir = m_saveDialog->directory();
+        m_saveDialogFileName = QFileInfo(path).fileName();
+        m_saveDialogNameFilter = m_saveDialog->selectedNameFilter();
+    }
+}
+
+bool MainWindow::isReplacingWanted(const QString& path)
+{
+    const QString question =
+        tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName());
+    return QMessageBox::question(this, tr("Save Snapshot"), question,
+                                 QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
+}
+
+void MainWindow::on_actionCopy_Snapshot_triggered()
+{
+    if (!m_snapshotImage.isNull()) {
+        ImageProcessingManager::instance()->setToClipboard(m_snapshotImage.copy());
+    }
+}
+
+void MainWindow::on_actionCopy_Full_Frame_triggered()
+{
+    if (!m_fullFrameImage.isNull()) {
+        ImageProcessingManager::instance()->setToClipboard(m_fullFrameImage.copy());
+    }
+}
+
+void MainWindow::loadImageProfileComboBox()
+{
+    m_imageProfile = static_cast<ImageProfile*>(
+        fillProfiles(*m_ui->imageProfileComboBox, *ImageProfile::profileManager()));
+}
+
+void MainWindow::loadFileNameProfileComboBox()
+{
+    m_fileNameProfile = static_cast<FileNameProfile*>(
+        fillProfiles(*m_ui->filenameProfileComboBox, *FileNameProfile::profileManager()));
+}
+
+void MainWindow::on_imageProfileComboBox_activated(int index)
+{
+    Q_UNUSED(index)
+    BaseProfile* const chosen =
+        chooseProfile(*m_ui->imageProfileComboBox, *ImageProfile::profileManager());
+    if (chosen != nullptr) {
+        m_imageProfile = static_cast<ImageProfile*>(chosen);
+    }
+}
+
+void MainWindow::on_filenameProfileComboBox_activated(int index)
+{
+    Q_UNUSED(index)
+    BaseProfile* const chosen =
+        chooseProfile(*m_ui->filenameProfileComboBox, *FileNameProfile::profileManager());
+    if (chosen != nullptr) {
+        m_fileNameProfile = static_cast<FileNameProfile*>(chosen);
+        updateAutomaticFileNameDisplay();
+    }
+}

@@ -1,0 +1,36 @@
+#include "ui/mainwindow/SavePath.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace {
+
+/// "jpg" and "jpeg" in "JPEG (*.jpg *.jpeg)".
+QStringList suffixesIn(const QString& nameFilters)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\*\\.(\\w+)"));
+    QStringList suffixes;
+    QRegularExpressionMatchIterator matches = pattern.globalMatch(nameFilters);
+    while (matches.hasNext()) {
+        suffixes.append(matches.next().captured(1));
+    }
+    return suffixes;
+}
+
+} // namespace
+
+QStringList SavePath::nameFilters()
+{
+    return {QStringLiteral("JPEG (*.jpg *.jpeg)"), QStringLiteral("PNG (*.png)"),
+            QStringLiteral("BMP (*.bmp)"), QStringLiteral("TIFF (*.tif *.tiff)")};
+}
+
+QString SavePath::completed(const QString& path, const QString& nameFilter)
+{
+    const QStringList known = suffixesIn(nameFilters().join(QLatin1Char(' ')));
+    const QStringList wanted = suffixesIn(nameFilter);
+    if (wanted.isEmpty() || known.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive)) {
+        return path;
+    }
+    return path + QLatin1Char('.') + wanted.first();
+}
