@@ -1,0 +1,55 @@
+#include "app/Presentation.h"
+
+#include "ui/mainwindow/MainWindow.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QFile>
+#include <QIcon>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+QIcon applicationIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256, 512}) {
+        icon.addFile(QStringLiteral(":/Images/MVIcon%1.png").arg(size), {size, size});
+    }
+    return icon;
+}
+
+} // namespace
+
+void Presentation::applyStyleSheet(QApplication& app, const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        qDebug() << "Style not loaded";
+        return;
+    }
+    const QByteArray bytes = file.readAll();
+    const auto end = std::find(bytes.cbegin(), bytes.cend(), '\0');
+    app.setStyleSheet(QString::fromLatin1(bytes.constData(), int(end - bytes.cbegin())));
+}
+
+void Presentation::centre(QWidget& widget, const QRect& screen)
+{
+    widget.move((screen.width() - widget.width()) / 2, (screen.height() - widget.height()) / 2);
+}
+
+void showMainWindow(QApplication& app)
+{
+    Presentation::applyStyleSheet(app, QStringLiteral(":/Styles.qss"));
+    QApplication::setWindowIcon(applicationIcon());
+    // Gone before the application object is: the player's threads end with it.
+    const auto window = std::make_unique<MainWindow>();
+    window->resize(800, 600);
+    Presentation::centre(*window, QGuiApplication::primaryScreen()->geometry());
+    window->show();
+    QApplication::exec();
+}

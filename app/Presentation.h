@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+class QApplication;
+class QRect;
+class QWidget;
+
+/// How the window comes onto the screen. User-interface thread only.
+namespace Presentation {
+
+/// Gives the application the style sheet in the file, which holds Latin-1 text up to its end or its
+/// first NUL byte. A file that cannot be opened leaves the application unstyled and is noted on the
+/// debug stream.
+void applyStyleSheet(QApplication& app, const QString& path);
+
+/// Moves the widget so that it is as far from the left edge of a screen as from the right one, and
+/// as far from the upper as from the lower, to the pixel below.
+void centre(QWidget& widget, const QRect& screen);
+
+} // namespace Presentation
+
+/// Shows the main window, 800 by 600 and in the middle of the primary screen, and returns when the
+/// event loop ends.
+void showMainWindow(QApplication& app);

@@ -1,0 +1,30 @@
+// The window. Its arguments mean nothing to it: morvantile-cli is the command line.
+
+#include "app/Presentation.h"
+#include "app/Startup.h"
+#include "app/SupportedOS.h"
+
+#include <QtAVWidgets>
+
+#include <QApplication>
+#include <QSettings>
+
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    QApplication app(argc, argv);
+    Startup::setIdentity();
+    if (!checkSupportedOS(app)) {
+        std::exit(-1);
+    }
+    QtAV::Widgets::registerRenderers();
+    Startup::quietVideoLibrary();
+    Startup::registerMetaTypes();
+    // Kept for the whole run: settings objects that come and go then share its open file.
+    const QSettings settings;
+    showMainWindow(app);
+    return 0;
+}
