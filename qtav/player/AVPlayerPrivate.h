@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QtAV/AVPlayer.h>
+
+#include "qtav/player/PlaybackClock.h"
+#include "qtav/player/PlaybackEngine.h"
+#include "qtav/player/SoundPlayer.h"
+
+#include <QPointer>
+#include <QTimer>
+
+#include <optional>
+
+namespace QtAV {
+
+/// What a player knows, and how it goes from one state to the next. User-interface thread.
+class AVPlayer::Private
+{
+public:
+    explicit Private(AVPlayer* player);
+
+    void setState(State newState);
+    void setStatus(MediaStatus newStatus);
+    void setDuration(qint64 ms);
+    void show(const VideoFrame& frame);
+
+    void openFile();
+    void heed(const PlaybackEngine::Answer& answer);
+    void opened(const PlaybackEngine::Answer& answer);
+    void sought(const PlaybackEngine::Answer& answer);
+    void fail(const QString& reason);
+    void close(MediaStatus statusAfterwards);
+    qint64 clamped(qint64 ms) const;
+    void seek(qint64 ms);
+    void step(PlaybackEngine::Direction direction);
+
+    void resumeTime();
+    void haltTime();
+    double now();
+    bool plays() const { return state == PlayingState && isLoaded && !soughtMs; }
+    double endTime(bool hasSound) const;
+    void schedule(double secondsFromNow);
+    void presentDue();
+    void finish();
+
+    AVPlayer* const q;
+    QString file;
+    QString error;
+    State state = StoppedState;
+    MediaStatus status = NoMedia;
+    MediaEndAction endAction = MediaEndAction_Stop;
+    qint64 cacheBytes = FrameCache::DefaultBytes;
+    bool isLoaded = false;
+    bool hasSound = false;
+    bool hasStarted = false; ///< started() has been sent since opening
+    qint64 duration = 0;
+    int interval = 0;
+    VideoFrame frame;
+    QPointer<VideoRenderer> renderer;
+    Statistics statistics;
+
+    std::optional<qint64> soughtMs; ///< the target of the seek that runs
+    quint64 seekSerial = 0;         ///< of the newest seek; older seeks and steps come too late
+    quint64 openSerial = 0;         ///< of opening or closing; all that is older comes too late
+
+    PlaybackClock clock;
+    QTimer timer;
+    VideoCapture* const capture;
+    AudioOutput* const audio;
+    SoundPlayer sound;
+    PlaybackEngine engine; ///< last: its thread calls for the others
+};
+
+} // namespace QtAV

@@ -1,0 +1,247 @@
+#include "tests/qtav/Playing.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <random>
+
+using namespace decoding;
+using namespace playing;
+using QtAV::AVPlayer;
+using testsupport::Sample;
+
+/// Which frame a player shows after seeks and steps, with the files of several formats.
+class AVPlayerSeekTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void steps_meetEveryFrameOnce_toTheEndAndBack_data();
+    void steps_meetEveryFrameOnce_toTheEndAndBack();
+    void steps_addUp_whenNobodyWaits();
+    void step_pauses_whilePlaying_andGoesFromTheFrameOnScreen();
+    void mixedStepsAndSeeks_endOnTheRightFrame();
+    void positions_areClamped();
+    void seek_showsTheFirstFrameAtOrAfter_data();
+    void seek_showsTheFirstFrameAtOrAfter();
+    void seek_beforeTheFileIsOpen_isCarriedOut();
+    void seek_playsOn_whilePlaying();
+    void newestSeek_wins_andAloneIsAnswered();
+    void truncatedFile_canBeSoughtAndStepped();
+};
+
+void AVPlayerSeekTest::steps_meetEveryFrameOnce_toTheEndAndBack_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"h264_bframes.mp4", "variable_rate.mp4", "h264_open_gop_bframes.mp4",
+                             "mpeg2.ts", "h264_gop250.mp4"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void AVPlayerSeekTest::steps_meetEveryFrameOnce_toTheEndAndBack()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    Stage stage;
+    QVERIFY(stage.open(file));
+    QList<Shown> expected = expectedFrom(sample, 0);
+    for (int n = 1; n < sample.frames; ++n)
+        QVERIFY(stage.stepForward());
+    QCOMPARE(stage.screen.shown, expected);
+    stage.player.stepForward(); // there is none
+    stage.settle();
+    QCOMPARE(stage.screen.shown.size(), sample.frames);
+
+    stage.screen.shown = {stage.screen.shown.constLast()};
+    for (int n = 1; n < sample.frames; ++n)
+        QVERIFY(stage.stepBackward());
+    std::reverse(expected.begin(), expected.end());
+    QCOMPARE(stage.screen.shown, expected);
+    stage.player.stepBackward(); // there is none
+    stage.settle();
+    QCOMPARE(stage.screen.shown.size(), sample.frames);
+}
+
+void AVPlayerSeekTest::steps_addUp_whenNobodyWaits()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
+    for (int i = 0; i < 30; ++i)
+        stage.player.stepForward();
+    for (int i = 0; i < 10; ++i)
+        stage.player.stepBackward();
+    QTRY_COMPARE_WITH_TIMEOUT(stage.screen.shown.size(), 41, Patience);
+    QCOMPARE(stage.number(), 20);
+}
+
+void AVPlayerSeekTest::step_pauses_whilePlaying_andGoesFromTheFrameOnScreen()
+{
+    Stage stage;
+    stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 10, Patience);
+    const int number = stage.number();
+    QVERIFY(stage.stepBackward());
+    QVERIFY(stage.player.isPaused());
+    QCOMPARE(stage.number(), number - 1);
+    stage.player.play();
+    QTRY_VERIFY_WITH_TIMEOUT(stage.number() > number + 2, Patience);
+    const int later = stage.number();
+    QVERIFY(stage.stepForward());
+    QCOMPARE(stage.number(), later + 1);
+}
+
+void AVPlayerSeekTest::mixedStepsAndSeeks_endOnTheRightFrame()
+{
+    const Sample& sample = testsupport::sampleNamed(QStringLiteral("h264_open_gop_bframes.mp4"));
+    Stage stage;
+    stage.player.setFrameCacheSize(30 * 320 * 240 * 3 / 2);
+    QVERIFY(stage.open(sample.file));
+    int n = 0;
+    std::mt19937 random(11);
+    for (int i = 0; i < 1000; ++i) {
+        const auto choice = random() % 8;
+        const bool canStep = choice < 4 ? n + 1 < sample.frames : n > 0;
+        if (choice < 7 && !canStep)
+            continue;
+        if (choice < 4) {
+            QVERIFY(stage.stepForward());
+            ++n;
+        } else if (choice < 7) {
+            QVERIFY(stage.stepBackward());
+            --n;
+        } else {
+            n = int(random() % quint32(sample.frames));
+            QVERIFY(stage.seek(testsupport::frameTimeMs(sample, n)));
+        }
+        const Shown expected{n, testsupport::frameTimeMs(sample, n)};
+        QCOMPARE(shown(stage.screen.frame), expected);
+        QCOMPARE(stage.player.displayPosition(), expected.ms);
+    }
+}
+
+void AVPlayerSeekTest::positions_areClamped()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
+    QVERIFY(stage.seek(2000));
+    stage.player.setPosition(-600);
+    QCOMPARE(stage.player.position(), qint64(0));
+    QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
+    QVERIFY(sought.wait(Patience));
+    QCOMPARE(stage.number(), 0);
+    stage.player.setPosition(3600000);
+    QCOMPARE(stage.player.position(), stage.player.duration());
+    QVERIFY(sought.wait(Patience));
+    QCOMPARE(stage.number(), 99);
+    QCOMPARE(stage.player.position(), qint64(3960));
+    QVERIFY(stage.stepBackward());
+    QCOMPARE(stage.number(), 98);
+}
+
+void AVPlayerSeekTest::seek_showsTheFirstFrameAtOrAfter_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"variable_rate.mp4", "h264_23976fps.mkv", "h264.ts", "wmv2.wmv",
+                             "h264_bframes.avi", "sound_earlier.mkv", "no_cues.webm"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void AVPlayerSeekTest::seek_showsTheFirstFrameAtOrAfter()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    Stage stage;
+    QVERIFY(stage.open(file));
+    std::mt19937 random(3);
+    for (int i = 0; i < 20; ++i) {
+        const int n = 1 + int(random() % quint32(sample.frames - 1));
+        const qint64 ms = testsupport::frameTimeMs(sample, n);
+        const qint64 before = testsupport::frameTimeMs(sample, n - 1);
+        QVERIFY(stage.seek(ms));
+        QCOMPARE(shown(stage.screen.frame), expectedFrom(sample, n).constFirst());
+        QVERIFY(stage.seek(before + 1));
+        QCOMPARE(shown(stage.screen.frame), expectedFrom(sample, n).constFirst());
+        QVERIFY(stage.seek(before));
+        QCOMPARE(shown(stage.screen.frame), expectedFrom(sample, n - 1).constFirst());
+    }
+}
+
+void AVPlayerSeekTest::seek_beforeTheFileIsOpen_isCarriedOut()
+{
+    Stage stage;
+    QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
+    stage.player.play(testsupport::samplePath(QStringLiteral("h264_bframes.mp4")));
+    stage.player.pause();
+    stage.player.setPosition(1000);
+    stage.player.setPosition(2000);
+    QVERIFY(sought.wait(Patience));
+    stage.settle();
+    QCOMPARE(sought.count(), 1);
+    QCOMPARE(stage.number(), 50);
+}
+
+void AVPlayerSeekTest::seek_playsOn_whilePlaying()
+{
+    Stage stage;
+    stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    for (const int n : {300, 100, 480, 20}) {
+        stage.screen.shown.clear();
+        QVERIFY(stage.seek(n * 40));
+        QVERIFY(stage.player.isPlaying());
+        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 4, Patience);
+        QCOMPARE(stage.screen.shown.constFirst().number, n);
+        for (int i = 1; i < stage.screen.shown.size(); ++i)
+            QVERIFY(stage.screen.shown.at(i).number > stage.screen.shown.at(i - 1).number);
+    }
+}
+
+void AVPlayerSeekTest::newestSeek_wins_andAloneIsAnswered()
+{
+    Stage stage;
+    QVERIFY(stage.open(QStringLiteral("h264_gop250.mp4")));
+    stage.screen.shown.clear();
+    QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
+    std::mt19937 random(5);
+    for (int i = 0; i < 200; ++i)
+        stage.player.seek(qint64(random() % 20000));
+    stage.player.seek(12000);
+    QVERIFY(sought.wait(Patience));
+    stage.settle();
+    QCOMPARE(sought.count(), 1);
+    QCOMPARE(sought.at(0).at(0).toLongLong(), qint64(12000));
+    QCOMPARE(stage.screen.shown.size(), 1);
+    QCOMPARE(stage.number(), 300);
+
+    // With the event loop between them each may be answered, but the last one is.
+    for (int i = 0; i < 200; ++i) {
+        stage.player.seek(qint64(random() % 20000));
+        QCoreApplication::processEvents();
+    }
+    stage.player.seek(4000);
+    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 100, Patience);
+    const int answers = sought.count();
+    stage.settle();
+    QCOMPARE(sought.count(), answers);
+}
+
+void AVPlayerSeekTest::truncatedFile_canBeSoughtAndStepped()
+{
+    for (const char* file : {"truncated.mp4", "truncated.ts", "truncated.mkv", "truncated.avi"}) {
+        Stage stage;
+        stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+        QVERIFY(stage.open(QString::fromLatin1(file)));
+        QVERIFY(stage.seek(3600000));
+        const qint64 last = stage.player.displayPosition();
+        QVERIFY(last > 0);
+        QVERIFY(stage.stepBackward());
+        QVERIFY(stage.player.displayPosition() < last);
+        QVERIFY(stage.stepForward());
+        QCOMPARE(stage.player.displayPosition(), last);
+        stage.player.play();
+        QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    }
+}
+
+QTEST_GUILESS_MAIN(AVPlayerSeekTest)
+#include "AVPlayerSeekTest.moc"
