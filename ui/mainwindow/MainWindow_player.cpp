@@ -128,7 +128,8 @@ void MainWindow::openVideo(QString path)
     m_ui->outputFolderLineEdit->setText(QDir::toNativeSeparators(video.absolutePath()));
     m_videoOutput->widget()->raise();
     m_ui->openVideoLabel->setFocusPolicy(Qt::NoFocus);
-    m_ui->openVideoLabel->clearFocus();
+    // The keys are the video's, and no button asks for them.
+    m_ui->videoFrame->setFocus();
     setVideoControlsEnabled(true);
     m_fileCounter = 1;
     updateAutomaticFileNameDisplay();
@@ -316,6 +317,8 @@ void MainWindow::volumeChanged(int volume)
 
 void MainWindow::on_volumeButton_clicked()
 {
+    // Showing would widen it, once it stands.
+    m_volumePopup->resize(m_volumePopup->size().expandedTo(m_volumePopup->minimumSizeHint()));
     const QPoint button = m_ui->volumeButton->mapToGlobal({0, 0});
     const int x = button.x() + (m_ui->volumeButton->width() - m_volumePopup->width()) / 2;
     const int y = int(button.y() - m_volumePopup->height() * 1.1);
