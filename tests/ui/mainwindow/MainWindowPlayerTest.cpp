@@ -1,0 +1,207 @@
+#include "tests/ui/mainwindow/OpenWindow.h"
+
+#include "tests/support/Samples.h"
+#include "ui/widgets/VolumePopup.h"
+
+#include <QtAV/AVPlayer.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTest>
+
+using namespace testsupport;
+
+class MainWindowPlayerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void playPause_goesBothWays();
+    void playButton_showsWhatItDoes();
+    void step_showsTheNextAndThePreviousFrame();
+    void skip_goesASecondAndPauses();
+    void skip_endsAtTheStart_whenThereIsNoWholeSecond();
+    void slider_goesInStepsOf30Milliseconds();
+    void slider_doesNotSeek_whenPaused();
+    void slider_seeks_whenPlaying();
+    void slider_staysInTheHand_whileTheVideoGoesOn();
+    void duration_dropsDays();
+    void volumePopup_standsAboveItsButton();
+    void volume_goesToThePlayer();
+};
+
+namespace {
+
+constexpr int limitMs = 30000;
+
+const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
+
+bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
+{
+    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
+}
+
+} // namespace
+
+void MainWindowPlayerTest::playPause_goesBothWays()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window->playPause();
+    QTRY_VERIFY(window.player().isPlaying());
+    window->playPause();
+    QTRY_VERIFY(window.player().isPaused());
+    window.find<QAction>("actionPlayPause").trigger();
+    QTRY_VERIFY(window.player().isPlaying());
+}
+
+void MainWindowPlayerTest::playButton_showsWhatItDoes()
+{
+    OpenWindow window;
+    QPushButton& button = window.find<QPushButton>("playButton");
+    const auto looks = [&button] { return button.icon().pixmap(22, 22).toImage(); };
+    const QImage play = QIcon(QStringLiteral(":/Images/Play.svg")).pixmap(22, 22).toImage();
+    const QImage pause = QIcon(QStringLiteral(":/Images/Pause.svg")).pixmap(22, 22).toImage();
+    QVERIFY(play != pause);
+    QCOMPARE(looks(), play);
+    window->openVideo(samplePath(clip));
+    QTRY_COMPARE(looks(), pause);
+    window->pause();
+    QTRY_COMPARE(looks(), play);
+}
+
+void MainWindowPlayerTest::step_showsTheNextAndThePreviousFrame()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window.player().setPosition(400);
+    QVERIFY(waitForPosition(window.player(), 400));
+    window->stepForward();
+    QVERIFY(waitForPosition(window.player(), 440));
+    QTRY_COMPARE(window.find<QLabel>("positionLabel").text(), QStringLiteral("00:00:00.440"));
+    window->step(MainWindow::Backward);
+    QVERIFY(waitForPosition(window.player(), 400));
+    window.find<QPushButton>("stepBackwardButton").click();
+    QVERIFY(waitForPosition(window.player(), 360));
+    window.find<QAction>("actionStepForward").trigger();
+    QVERIFY(waitForPosition(window.player(), 400));
+}
+
+void MainWindowPlayerTest::skip_goesASecondAndPauses()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window.player().setPosition(400);
+    QVERIFY(waitForPosition(window.player(), 400));
+    window.find<QPushButton>("skipForwardButton").click();
+    QVERIFY(waitForPosition(window.player(), 1400));
+    window->seekRelative(200);
+    QVERIFY(waitForPosition(window.player(), 1600));
+    window.find<QPushButton>("skipBackwardButton").click();
+    QVERIFY(waitForPosition(window.player(), 600));
+    window->playPause();
+    QTRY_VERIFY(window.player().isPlaying());
+    window->skipForward();
+    QTRY_VERIFY(window.player().isPaused());
+}
+
+void MainWindowPlayerTest::skip_endsAtTheStart_whenThereIsNoWholeSecond()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window.player().setPosition(400);
+    QVERIFY(waitForPosition(window.player(), 400));
+    window->skipBackward();
+    QVERIFY(waitForPosition(window.player(), 0));
+}
+
+void MainWindowPlayerTest::slider_goesInStepsOf30Milliseconds()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window.player().setPosition(1000);
+    QVERIFY(waitForPosition(window.player(), 1000));
+    QTRY_COMPARE(window.find<QSlider>("videoSlider").value(), 1000 / 30);
+}
+
+void MainWindowPlayerTest::slider_doesNotSeek_whenPaused()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    const qint64 before = window.player().position();
+    QSlider& slider = window.find<QSlider>("videoSlider");
+    slider.setSliderDown(true);
+    slider.setSliderPosition(100);
+    slider.setSliderDown(false);
+    QCOMPARE(slider.value(), 100);
+    QCOMPARE(window.player().position(), before);
+}
+
+void MainWindowPlayerTest::slider_seeks_whenPlaying()
+{
+    OpenWindow window;
+    window->openVideo(samplePath(QStringLiteral("h264_1fps.mp4"))); // 20 seconds
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), limitMs);
+    const QSignalSpy found(&window.player(), &QtAV::AVPlayer::seekFinished);
+    QSlider& slider = window.find<QSlider>("videoSlider");
+    slider.setSliderDown(true);
+    slider.setSliderPosition(400); // 12 seconds
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayPosition() >= 12000, limitMs);
+    slider.setSliderDown(false);
+    QVERIFY(!found.isEmpty());
+}
+
+void MainWindowPlayerTest::slider_staysInTheHand_whileTheVideoGoesOn()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QSlider& slider = window.find<QSlider>("videoSlider");
+    slider.setSliderDown(true);
+    slider.setSliderPosition(90);
+    window->stepForward();
+    QTRY_VERIFY(window.player().displayPosition() > 0);
+    QCOMPARE(slider.value(), 90);
+    slider.setSliderDown(false);
+    window->updateSlider();
+    QVERIFY(slider.value() != 90);
+}
+
+void MainWindowPlayerTest::duration_dropsDays()
+{
+    OpenWindow window;
+    window->durationChanged(90061001);
+    QCOMPARE(window.find<QLabel>("durationLabel").text(), QStringLiteral("01:01:01.001"));
+    window->durationChanged(qint64(100) * 24 * 3600 * 1000 + 1);
+    QCOMPARE(window.find<QLabel>("durationLabel").text(), QStringLiteral("00:00:00.001"));
+}
+
+void MainWindowPlayerTest::volumePopup_standsAboveItsButton()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QPushButton& button = window.find<QPushButton>("volumeButton");
+    button.click();
+    auto* const popup = window.window().findChild<VolumePopup*>();
+    QVERIFY(popup->isVisible());
+    const QPoint at = button.mapToGlobal({0, 0});
+    QCOMPARE(popup->x(), at.x() + (button.width() - popup->width()) / 2);
+    QCOMPARE(popup->y(), int(at.y() - popup->height() * 1.1));
+    popup->close();
+}
+
+void MainWindowPlayerTest::volume_goesToThePlayer()
+{
+    OpenWindow window;
+    auto* const popup = window.window().findChild<VolumePopup*>();
+    popup->findChild<QSlider*>()->setValue(70);
+    QCOMPARE(window.player().audio()->volume(), 0.7);
+    popup->findChild<QCheckBox*>()->click();
+    QCOMPARE(window.player().audio()->volume(), 0.0);
+}
+
+QTEST_MAIN(MainWindowPlayerTest)
+#include "MainWindowPlayerTest.moc"

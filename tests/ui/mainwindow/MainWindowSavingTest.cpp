@@ -1,0 +1,336 @@
+#include "tests/ui/mainwindow/OpenWindow.h"
+
+#include "tests/support/Samples.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QGroupBox>
+#include <QImageReader>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+using namespace testsupport;
+
+class MainWindowSavingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void automaticSaving_countsOn();
+    void automaticSaving_takesTheFirstFreeNumber_andReplacesNothing();
+    void automaticSaving_startsOverWithTheNextVideo();
+    void automaticSaving_stepsOverALinkThatLeadsNowhere();
+    void automaticSaving_keepsItsNumber_whenItFails();
+    void automaticSaving_asksForAFolder_whenThereIsNone();
+    void automaticSaving_makesTheFolder_whenWanted();
+    void automaticSaving_makesNothing_whenNotWanted();
+    void nextName_isShown_whileSavingIsAutomatic();
+
+    void saveDialog_offersTheImageTypes();
+    void saveDialog_proposesTheVideosName();
+    void saveDialog_remembersWhatWasSaved();
+    void saveDialog_remembersNothing_whenCancelled();
+    void saveDialog_asksBeforeReplacing_whenItCompletesTheName();
+    void savedElsewhere_staysThere_whenAnotherVideoIsOpened();
+    void saveSnapshot_writesTheFile_orSaysThatItCouldNot();
+};
+
+namespace {
+
+const QString clip = QStringLiteral("h264_bframes.mp4");
+
+/// A window with a paused video "clip.mp4" in its folder and a snapshot taken from it.
+class Snapshot : public OpenWindow
+{
+public:
+    Snapshot()
+    {
+        if (!openPaused(copyOf(clip, QStringLiteral("clip.mp4"))) || !takeSnapshot()) {
+            qFatal("no snapshot");
+        }
+    }
+
+    void setAutomatic() { find<QGroupBox>("automaticFileNameGroupBox").setChecked(true); }
+    void setFolder(const QString& path) { find<QLineEdit>("outputFolderLineEdit").setText(path); }
+    QString nextName() { return find<QLabel>("nextFileNameLabel").text(); }
+
+    QStringList images() const
+    {
+        return QDir(dir().path()).entryList({QStringLiteral("*.jp*g"), QStringLiteral("*.png")});
+    }
+};
+
+void writeFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+        qFatal("cannot write %s", qPrintable(path));
+    }
+}
+
+/// Saves through the dialog, which `answer` gets once it is open.
+void saveWithDialog(OpenWindow& window, const std::function<void(QFileDialog&)>& answer)
+{
+    QTimer::singleShot(0, &window.window(), [&answer] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) {
+            qFatal("no save dialog");
+        }
+        answer(*dialog);
+    });
+    window->saveButtonPressed();
+}
+
+void chooseIn(QFileDialog& dialog, const QString& path)
+{
+    dialog.selectFile(path);
+    QMetaObject::invokeMethod(&dialog, "accept");
+}
+
+} // namespace
+
+void MainWindowSavingTest::automaticSaving_countsOn()
+{
+    Snapshot window;
+    window.setAutomatic();
+    window->saveButtonPressed();
+    window->on_actionSaveSnapshot_triggered();
+    QCOMPARE(window.images(),
+             (QStringList{QStringLiteral("clip-00001.jpeg"), QStringLiteral("clip-00002.jpeg")}));
+    QCOMPARE(window.nextName(), QStringLiteral("clip-00003.jpeg"));
+    QImageReader image(window.dir().filePath(QStringLiteral("clip-00001.jpeg")));
+    QCOMPARE(image.format(), QByteArray("jpeg"));
+    QCOMPARE(image.read().width(), 640);
+}
+
+void MainWindowSavingTest::automaticSaving_takesTheFirstFreeNumber_andReplacesNothing()
+{
+    Snapshot window;
+    for (int number = 1; number <= 3; ++number) {
+        writeFile(window.dir().filePath(QStringLiteral("clip-0000%1.jpeg").arg(number)), "mine");
+    }
+    window.setAutomatic();
+    QCOMPARE(window.nextName(), QStringLiteral("clip-00004.jpeg"));
+    window->saveButtonPressed();
+    QCOMPARE(window.images().size(), 4);
+    QCOMPARE(window.nextName(), QStringLiteral("clip-00005.jpeg"));
+    QCOMPARE(QFileInfo(window.dir().filePath(QStringLiteral("clip-00003.jpeg"))).size(), 4);
+}
+
+void MainWindowSavingTest::automaticSaving_startsOverWithTheNextVideo()
+{
+    Snapshot window;
+    window.setAutomatic();
+    window->saveButtonPressed();
+    QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("next.mp4"))));
+    QCOMPARE(window.nextName(), QStringLiteral("next-00001.jpeg"));
+}
+
+void MainWindowSavingTest::automaticSaving_stepsOverALinkThatLeadsNowhere()
+{
+    Snapshot window;
+    const QString link = window.dir().filePath(QStringLiteral("clip-00001.jpeg"));
+    QVERIFY(QFile::link(window.dir().filePath(QStringLiteral("gone")), link));
+    window.setAutomatic();
+    window->saveButtonPressed();
+    QVERIFY(QFileInfo(link).isSymLink());
+    QVERIFY(QFileInfo::exists(window.dir().filePath(QStringLiteral("clip-00002.jpeg"))));
+    QVERIFY(!QFileInfo::exists(window.dir().filePath(QStringLiteral("gone"))));
+}
+
+void MainWindowSavingTest::automaticSaving_keepsItsNumber_whenItFails()
+{
+    Snapshot window;
+    window.setAutomatic();
+    const QString file = window.dir().filePath(QStringLiteral("file"));
+    writeFile(file, "no folder");
+    window.setFolder(file + QStringLiteral("/below"));
+    SeenBox box;
+    answerNextBox(QMessageBox::Yes, box);
+    window->saveButtonPressed();
+    QCOMPARE(window.nextName(), QStringLiteral("clip-00001.jpeg"));
+    QVERIFY(window->statusBar()->currentMessage().startsWith(QStringLiteral("Could not save ")));
+}
+
+void MainWindowSavingTest::automaticSaving_asksForAFolder_whenThereIsNone()
+{
+    Snapshot window;
+    window.setAutomatic();
+    for (const char* const folder : {"", "pictures"}) {
+        window.setFolder(QString::fromLatin1(folder));
+        SeenBox box;
+        answerNextBox(QMessageBox::Ok, box);
+        window->saveButtonPressed();
+        QCOMPARE(box.title, QStringLiteral("Unknown Folder"));
+        QCOMPARE(box.text,
+                 QStringLiteral(
+                     "Please enter a valid output folder in the Automatic FileName section."));
+        QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
+        QCOMPARE(box.parent, &window.window());
+        QLineEdit& edit = window.find<QLineEdit>("outputFolderLineEdit");
+        QCOMPARE(window->focusWidget(), &edit);
+        edit.clearFocus();
+    }
+    QVERIFY(window.images().isEmpty());
+}
+
+void MainWindowSavingTest::automaticSaving_makesTheFolder_whenWanted()
+{
+    Snapshot window;
+    window.setAutomatic();
+    const QString folder = window.dir().filePath(QStringLiteral("a/b"));
+    window.setFolder(folder);
+    SeenBox box;
+    answerNextBox(QMessageBox::Yes, box);
+    window->saveButtonPressed();
+    QCOMPARE(box.title, QStringLiteral("Folder does not exist"));
+    QCOMPARE(box.text, QStringLiteral("Create folder?\r\n") + folder);
+    QCOMPARE(box.buttons, QMessageBox::Yes | QMessageBox::No);
+    QVERIFY(QFileInfo::exists(folder + QStringLiteral("/clip-00001.jpeg")));
+}
+
+void MainWindowSavingTest::automaticSaving_makesNothing_whenNotWanted()
+{
+    Snapshot window;
+    window.setAutomatic();
+    const QString folder = window.dir().filePath(QStringLiteral("a"));
+    window.setFolder(folder);
+    SeenBox box;
+    answerNextBox(QMessageBox::No, box);
+    window->saveButtonPressed();
+    QCOMPARE(box.title, QStringLiteral("Folder does not exist"));
+    QVERIFY(!QFileInfo::exists(folder));
+    QVERIFY(window.images().isEmpty());
+}
+
+void MainWindowSavingTest::nextName_isShown_whileSavingIsAutomatic()
+{
+    Snapshot window;
+    const QLabel& next = window.find<QLabel>("nextFileNameLabel");
+    const QLabel& description = window.find<QLabel>("nextFileNameDescriptionLabel");
+    QVERIFY(!next.isVisible() && !description.isVisible());
+    window.setAutomatic();
+    QVERIFY(next.isVisible() && description.isVisible());
+    QCOMPARE(next.text(), QStringLiteral("clip-00001.jpeg"));
+    window->closeVideo();
+    QVERIFY(!next.isVisible() && !description.isVisible());
+}
+
+void MainWindowSavingTest::saveDialog_offersTheImageTypes()
+{
+    OpenWindow window;
+    const QFileDialog& dialog = window.find<QFileDialog>("saveDialog");
+    QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
+    QCOMPARE(dialog.nameFilters().join(QLatin1Char(';')),
+             QStringLiteral("JPEG (*.jpg *.jpeg);PNG (*.png);BMP (*.bmp);TIFF (*.tif *.tiff)"));
+}
+
+void MainWindowSavingTest::saveDialog_proposesTheVideosName()
+{
+    Snapshot window;
+    saveWithDialog(window, [&window](QFileDialog& dialog) {
+        QCOMPARE(dialog.directory(), QDir(window.dir().path()));
+        QCOMPARE(QFileInfo(dialog.selectedFiles().value(0)).fileName(), QStringLiteral("clip"));
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    // A name without a type gets that of the filter.
+    QCOMPARE(window.images(), QStringList{QStringLiteral("clip.jpg")});
+}
+
+void MainWindowSavingTest::saveDialog_remembersWhatWasSaved()
+{
+    Snapshot window;
+    const QString png = QStringLiteral("PNG (*.png)");
+    saveWithDialog(window, [&png](QFileDialog& dialog) {
+        dialog.selectNameFilter(png);
+        chooseIn(dialog, QStringLiteral("one.png"));
+    });
+    QCOMPARE(window.images(), QStringList{QStringLiteral("one.png")});
+    saveWithDialog(window, [&png](QFileDialog& dialog) {
+        QCOMPARE(dialog.selectedNameFilter(), png);
+        QCOMPARE(QFileInfo(dialog.selectedFiles().value(0)).fileName(), QStringLiteral("one.png"));
+        dialog.reject();
+    });
+    // The next video is offered the type as well.
+    QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("a.b.mp4"))));
+    QVERIFY(window.takeSnapshot());
+    saveWithDialog(window, [](QFileDialog& dialog) {
+        QCOMPARE(QFileInfo(dialog.selectedFiles().value(0)).fileName(), QStringLiteral("a.b.png"));
+        dialog.reject();
+    });
+}
+
+void MainWindowSavingTest::saveDialog_remembersNothing_whenCancelled()
+{
+    Snapshot window;
+    QVERIFY(QDir(window.dir().path()).mkdir(QStringLiteral("sub")));
+    saveWithDialog(window, [&window](QFileDialog& dialog) {
+        dialog.selectNameFilter(QStringLiteral("BMP (*.bmp)"));
+        dialog.setDirectory(window.dir().filePath(QStringLiteral("sub")));
+        dialog.selectFile(QStringLiteral("other.bmp"));
+        dialog.reject();
+    });
+    saveWithDialog(window, [&window](QFileDialog& dialog) {
+        QCOMPARE(dialog.directory(), QDir(window.dir().path()));
+        QCOMPARE(QFileInfo(dialog.selectedFiles().value(0)).fileName(), QStringLiteral("clip"));
+        dialog.reject();
+    });
+}
+
+void MainWindowSavingTest::saveDialog_asksBeforeReplacing_whenItCompletesTheName()
+{
+    Snapshot window;
+    const QString path = window.dir().filePath(QStringLiteral("clip.jpg"));
+    writeFile(path, "mine");
+    SeenBox box;
+    for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
+        QCOMPARE(QFileInfo(path).size(), 4);
+        saveWithDialog(window, [button, &box](QFileDialog& dialog) {
+            answerNextBox(button, box);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        QVERIFY(box.text.startsWith(QStringLiteral("clip.jpg already exists.")));
+    }
+    QVERIFY(QFileInfo(path).size() > 4);
+}
+
+void MainWindowSavingTest::savedElsewhere_staysThere_whenAnotherVideoIsOpened()
+{
+    Snapshot window;
+    const QDir folder(window.dir().path());
+    QVERIFY(folder.mkdir(QStringLiteral("stills")));
+    QVERIFY(folder.mkdir(QStringLiteral("videos")));
+    const QString stills = folder.filePath(QStringLiteral("stills"));
+    saveWithDialog(window, [&stills](QFileDialog& dialog) {
+        dialog.setDirectory(stills);
+        chooseIn(dialog, QStringLiteral("one.jpg"));
+    });
+    QVERIFY(QFileInfo::exists(stills + QStringLiteral("/one.jpg")));
+    QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("videos/b.mp4"))));
+    QCOMPARE(QSettings().value(QStringLiteral("lastOpenDir")).toString(), folder.path());
+    QVERIFY(window.takeSnapshot());
+    saveWithDialog(window, [&stills](QFileDialog& dialog) {
+        QCOMPARE(dialog.directory(), QDir(stills));
+        dialog.reject();
+    });
+}
+
+void MainWindowSavingTest::saveSnapshot_writesTheFile_orSaysThatItCouldNot()
+{
+    Snapshot window;
+    QVERIFY(window->saveSnapshot(window.dir().filePath(QStringLiteral("a.png"))));
+    QVERIFY(window->statusBar()->currentMessage().startsWith(QStringLiteral("Saved ")));
+    QVERIFY(!window->saveSnapshot(window.dir().filePath(QStringLiteral("none/a.png"))));
+    QVERIFY(window->statusBar()->currentMessage().startsWith(QStringLiteral("Could not save ")));
+}
+
+QTEST_MAIN(MainWindowSavingTest)
+#include "MainWindowSavingTest.moc"

@@ -1,0 +1,249 @@
+#include "tests/ui/mainwindow/OpenWindow.h"
+
+#include "profiles/FileNameProfile.h"
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
+#include "tests/support/FrameNumber.h"
+#include "tests/support/Samples.h"
+#include "ui/dialogs/AboutDialog.h"
+#include "ui/dialogs/ImageFiltersDialog.h"
+
+#include <QtAV/AVPlayer.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QFile>
+#include <QFrame>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+using namespace testsupport;
+
+class MainWindowSnapshotTest : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void keepUrl(const QUrl& url) { m_url = url; }
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void snapshot_isTheFrameOnScreen_fullAndProcessed();
+    void snapshot_staysAtTheFrame_whenTheVideoGoesOn();
+    void snapshot_isNotTaken_whenTheVideoIsClosedBeforeTheAnswer();
+    void capture_withoutAPicture_saysSo();
+    void copy_doesNothing_withoutASnapshot();
+    void imageProfileUpdate_showsAtOnce();
+
+    void profiles_areListed_theLastUsedOneIsCurrent();
+    void chosenImageProfile_appliesFromTheNextSnapshotOn();
+    void chosenFileNameProfile_isRemembered();
+
+    void about_opensAndCloses();
+    void filtersTest_pausesTheVideo();
+    void documentation_opensTheGuide();
+
+private:
+    TestDir m_config;
+    QUrl m_url;
+};
+
+namespace {
+
+const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
+
+QImage clipboardAfter(OpenWindow& window, const char* action)
+{
+    QApplication::clipboard()->clear();
+    window.find<QAction>(action).trigger();
+    return QApplication::clipboard()->image();
+}
+
+ImageProfile* addImageProfile(const QString& name, int width)
+{
+    auto* const profile =
+        static_cast<ImageProfile*>(ImageProfile::profileManager()->createProfile());
+    profile->setName(name);
+    profile->setImageWidth(width);
+    ImageProfile::profileManager()->addProfile(profile);
+    return profile;
+}
+
+} // namespace
+
+/// The profiles of the test program are the same for all cases: they live as long as the process.
+void MainWindowSnapshotTest::initTestCase()
+{
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_config.path()));
+    const TestSettings settings;
+    addImageProfile(QStringLiteral("Small"), 64);
+    auto* const profile = FileNameProfile::profileManager()->createProfile();
+    profile->setName(QStringLiteral("Other names"));
+    FileNameProfile::profileManager()->addProfile(profile);
+}
+
+void MainWindowSnapshotTest::snapshot_isTheFrameOnScreen_fullAndProcessed()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window.player().setPosition(1000);
+    QTRY_COMPARE(window.player().displayPosition(), 1000);
+    QVERIFY(window.takeSnapshot());
+    QVERIFY(window.find<QFrame>("snapshotControlsFrame").isEnabled());
+    QVERIFY(window.find<QAction>("actionSaveSnapshot").isEnabled());
+    const QImage full = clipboardAfter(window, "actionCopy_Full_Frame");
+    QCOMPARE(full.size(), sampleNamed(clip).displaySize);
+    QCOMPARE(frameNumber(full), std::optional<int>(25));
+    const QImage processed = clipboardAfter(window, "actionCopy_Snapshot");
+    QCOMPARE(processed.width(), 640);
+    QCOMPARE(frameNumber(processed), std::optional<int>(25));
+}
+
+void MainWindowSnapshotTest::snapshot_staysAtTheFrame_whenTheVideoGoesOn()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window.player().setPosition(1000);
+    QTRY_COMPARE(window.player().displayPosition(), 1000);
+    QVERIFY(window.takeSnapshot());
+    window->stepForward();
+    QTRY_COMPARE(window.player().displayPosition(), 1040);
+    QCOMPARE(frameNumber(clipboardAfter(window, "actionCopy_Full_Frame")), std::optional<int>(25));
+}
+
+void MainWindowSnapshotTest::snapshot_isNotTaken_whenTheVideoIsClosedBeforeTheAnswer()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window->snapshotButtonPressed();
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QTest::qWait(200);
+    QVERIFY(!window.find<QFrame>("snapshotControlsFrame").isEnabled());
+    QVERIFY(window.takeSnapshot());
+}
+
+void MainWindowSnapshotTest::capture_withoutAPicture_saysSo()
+{
+    OpenWindow window;
+    SeenBox box;
+    answerNextBox(QMessageBox::Ok, box);
+    window->snapshotButtonPressed();
+    QTRY_COMPARE(box.title, QStringLiteral("Morvantile video capture"));
+    QCOMPARE(box.text, QStringLiteral("Failed to capture video frame"));
+    QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
+    QVERIFY(box.parent == nullptr);
+}
+
+void MainWindowSnapshotTest::copy_doesNothing_withoutASnapshot()
+{
+    OpenWindow window;
+    QApplication::clipboard()->setText(QStringLiteral("before"));
+    window->on_actionCopy_Snapshot_triggered();
+    window->on_actionCopy_Full_Frame_triggered();
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("before"));
+}
+
+void MainWindowSnapshotTest::imageProfileUpdate_showsAtOnce()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QVERIFY(window.takeSnapshot());
+    ImageProfile edited;
+    edited.setImageWidth(100);
+    window->imageProfileUpdated(&edited);
+    QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 100);
+    window->processFullFrameImage(nullptr);
+    QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 640);
+}
+
+void MainWindowSnapshotTest::profiles_areListed_theLastUsedOneIsCurrent()
+{
+    OpenWindow window;
+    const QComboBox& box = window.find<QComboBox>("imageProfileComboBox");
+    const auto profiles = ImageProfile::profileManager()->profiles();
+    QCOMPARE(box.count(), profiles.size());
+    for (int i = 0; i < profiles.size(); ++i) {
+        QCOMPARE(box.itemText(i), profiles.at(i)->name());
+        QCOMPARE(box.itemData(i).toString(), profiles.at(i)->id());
+    }
+    QCOMPARE(box.currentData().toString(), ImageProfile::profileManager()->lastUsedProfile()->id());
+}
+
+void MainWindowSnapshotTest::chosenImageProfile_appliesFromTheNextSnapshotOn()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QVERIFY(window.takeSnapshot());
+    BaseProfile* const before = ImageProfile::profileManager()->lastUsedProfile();
+    QComboBox& box = window.find<QComboBox>("imageProfileComboBox");
+    box.setCurrentIndex(box.findText(QStringLiteral("Small")));
+    window->on_imageProfileComboBox_activated(box.currentIndex());
+    BaseProfile* const chosen = ImageProfile::profileManager()->lastUsedProfile();
+    QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 640);
+    window->snapshotButtonPressed();
+    QTRY_COMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 64);
+    ImageProfile::profileManager()->setLastUsedProfile(before);
+    QCOMPARE(chosen->name(), QStringLiteral("Small"));
+}
+
+void MainWindowSnapshotTest::chosenFileNameProfile_isRemembered()
+{
+    OpenWindow window;
+    QComboBox& box = window.find<QComboBox>("filenameProfileComboBox");
+    box.setCurrentIndex(box.findText(QStringLiteral("Other names")));
+    window->on_filenameProfileComboBox_activated(box.currentIndex());
+    QCOMPARE(FileNameProfile::profileManager()->lastUsedProfile()->name(),
+             QStringLiteral("Other names"));
+    window->loadFileNameProfileComboBox();
+    QCOMPARE(box.currentText(), QStringLiteral("Other names"));
+}
+
+void MainWindowSnapshotTest::about_opensAndCloses()
+{
+    OpenWindow window;
+    bool seen = false;
+    QTimer::singleShot(0, &window.window(), [&seen] {
+        auto* const dialog = qobject_cast<AboutDialog*>(QApplication::activeModalWidget());
+        seen = dialog != nullptr;
+        QApplication::activeModalWidget()->close();
+    });
+    window.find<QAction>("actionAbout").trigger();
+    QVERIFY(seen);
+    QTRY_VERIFY(window->isActiveWindow());
+}
+
+void MainWindowSnapshotTest::filtersTest_pausesTheVideo()
+{
+    OpenWindow window;
+    window->openVideo(samplePath(clip));
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), 30000);
+    bool seen = false;
+    QTimer::singleShot(0, &window.window(), [&seen] {
+        seen = qobject_cast<ImageFiltersDialog*>(QApplication::activeModalWidget()) != nullptr;
+        QApplication::activeModalWidget()->close();
+    });
+    window.find<QAction>("actionImage_Filters_Test").trigger();
+    QVERIFY(seen);
+    QTRY_VERIFY(window.player().isPaused());
+    QTRY_VERIFY(window->isActiveWindow());
+}
+
+void MainWindowSnapshotTest::documentation_opensTheGuide()
+{
+    OpenWindow window;
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "keepUrl");
+    window.find<QAction>("actionDocumentation").trigger();
+    QCOMPARE(m_url, QUrl(QStringLiteral("https://morvantile.example/support")));
+    window.find<QAction>("actionCommandLineOptions").trigger();
+    QCOMPARE(m_url, QUrl(QStringLiteral("https://morvantile.example/support#command-line")));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+}
+
+QTEST_MAIN(MainWindowSnapshotTest)
+#include "MainWindowSnapshotTest.moc"

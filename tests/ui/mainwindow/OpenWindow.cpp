@@ -1,0 +1,76 @@
+#include "tests/ui/mainwindow/OpenWindow.h"
+
+#include "tests/support/Samples.h"
+
+#include <QtAV/AVPlayer.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+
+namespace testsupport {
+
+namespace {
+
+constexpr int limitMs = 30000;
+
+} // namespace
+
+OpenWindow::OpenWindow()
+{
+    m_window.resize(800, 600);
+    m_window.show();
+}
+
+QtAV::AVPlayer& OpenWindow::player()
+{
+    return *m_window.findChild<QtAV::AVPlayer*>();
+}
+
+QString OpenWindow::copyOf(const QString& sample, const QString& name)
+{
+    const QString copy = dir().filePath(name);
+    if (!QFile::copy(samplePath(sample), copy)) {
+        qFatal("cannot copy %s", qPrintable(sample));
+    }
+    return copy;
+}
+
+bool OpenWindow::openPaused(const QString& path)
+{
+    m_window.openVideo(path);
+    const auto isShown = [this] { return player().displayedFrame().isValid(); };
+    if (!QTest::qWaitFor(isShown, limitMs)) {
+        return false;
+    }
+    m_window.pause();
+    return QTest::qWaitFor([this] { return player().isPaused(); }, limitMs);
+}
+
+bool OpenWindow::takeSnapshot()
+{
+    m_window.snapshotButtonPressed();
+    const QAction& copy = find<QAction>("actionCopy_Snapshot");
+    return QTest::qWaitFor([&copy] { return copy.isEnabled(); }, limitMs);
+}
+
+void answerNextBox(QMessageBox::StandardButton button, SeenBox& seen)
+{
+    auto* const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, button, &seen] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr) {
+            return;
+        }
+        timer->deleteLater();
+        timer->stop();
+        seen = {box->windowTitle(), box->text(), box->standardButtons(), box->parentWidget()};
+        box->button(button)->click();
+    });
+    timer->start(10);
+}
+
+} // namespace testsupport

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "tests/ui/support/TestSettings.h"
+#include "ui/mainwindow/MainWindow.h"
+
+#include <QMessageBox>
+#include <QString>
+
+namespace QtAV {
+class AVPlayer;
+} // namespace QtAV
+
+namespace testsupport {
+
+/// A shown main window with settings and a temporary folder of its own, and ways to reach what is
+/// in it. Create it on the case's stack.
+class OpenWindow
+{
+public:
+    OpenWindow();
+
+    MainWindow* operator->() { return &m_window; }
+    MainWindow& window() { return m_window; }
+    const TestDir& dir() const { return m_settings.dir(); }
+
+    /// The object of the form with that name; ends the test program when there is none.
+    template <typename Object>
+    Object& find(const char* name)
+    {
+        auto* const found = m_window.findChild<Object*>(QLatin1String(name));
+        if (found == nullptr) {
+            qFatal("no %s in the window", name);
+        }
+        return *found;
+    }
+
+    QtAV::AVPlayer& player();
+
+    /// A copy of a sample in the case's folder.
+    QString copyOf(const QString& sample, const QString& name);
+
+    /// Opens a video and waits until its first frame is on screen, then pauses. False when that
+    /// takes too long.
+    [[nodiscard]] bool openPaused(const QString& path);
+
+    /// Takes a snapshot and waits for it. False when none comes.
+    [[nodiscard]] bool takeSnapshot();
+
+private:
+    TestSettings m_settings;
+    MainWindow m_window;
+};
+
+/// What the next message box said, once it was ended.
+struct SeenBox
+{
+    QString title;
+    QString text;
+    QMessageBox::StandardButtons buttons;
+    QWidget* parent = nullptr;
+};
+
+/// Ends the next message box with the button, as soon as it shows, and keeps what it said in
+/// `seen`, which must outlive it.
+void answerNextBox(QMessageBox::StandardButton button, SeenBox& seen);
+
+} // namespace testsupport
