@@ -1,24 +1,64 @@
 #!/usr/bin/env bash
-# Fails where a folder includes a library that another folder fences in.
+# Fails where an include goes against the order of the folders, or reaches for a library that
+# another folder fences in. The compiler cannot see either: all folders share one include path.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
 status=0
-# fence LIBRARY HEADERS FOLDER…: only these folders may include headers that match HEADERS.
-fence() {
-    local library=$1 headers=$2 allowed
-    shift 2
-    allowed=$(IFS='|' && printf '%s' "$*")
-    local found
-    found=$(find . -path './build*' -prune -o -path './.git' -prune -o \
-        \( -name '*.cpp' -o -name '*.h' \) -print | grep -vE "^\./($allowed)/" |
-        xargs -r -d '\n' grep -nE "^[[:space:]]*#[[:space:]]*include[[:space:]]*[<\"]($headers)" || true)
-    if [[ -n $found ]]; then
-        printf '%s may be included only in: %s\n%s\n' "$library" "$*" "$found" >&2
-        status=1
-    fi
+complain() {
+    printf '%s\n%s\n' "$1" "$2" >&2
+    status=1
 }
 
-fence FFmpeg 'lib(av|sw)[a-z]*/' qtav
+# includes_of PATTERN FOLDER…: the lines "file:line:text" that include what matches, in what there
+# is of these folders.
+includes_of() {
+    local pattern=$1
+    shift
+    find "$@" \( -name '*.cpp' -o -name '*.h' \) -exec \
+        grep -nHE "^[[:space:]]*#[[:space:]]*include[[:space:]]*[<\"]($pattern)" {} + 2>/dev/null || true
+}
+
+# not_in_folders FOLDER…: keeps the others.
+not_in_folders() { grep -vE "^($(IFS='|' && printf '%s' "$*"))/" || true; }
+
+readonly FOLDERS=(qtav video profiles utils imaging batch ui app)
+ours="$(IFS='|' && printf '%s' "${FOLDERS[*]}")"
+readonly OURS="($ours)/"
+
+# layer FOLDER NAME…: what is in FOLDER may include only headers that start with one of the names.
+# Layers that stand inside another one come first.
+checked=(none)
+layer() {
+    local folder=$1 found
+    shift
+    found=$(includes_of "$OURS" "$folder" | not_in_folders "${checked[@]}" |
+        grep -vE "[<\"]($(IFS='|' && printf '%s' "$*"))" || true)
+    [[ -z $found ]] || complain "$folder may include only: $*" "$found"
+    checked+=("$folder")
+}
+
+# fence LIBRARY HEADERS FOLDER…: only these folders may include headers that match HEADERS.
+fence() {
+    local library=$1 headers=$2 found
+    shift 2
+    found=$(includes_of "$headers" "${FOLDERS[@]}" tests bench | not_in_folders "$@")
+    [[ -z $found ]] || complain "$library may be included only in: $*" "$found"
+}
+
+layer qtav qtav/
+layer video video/
+layer profiles profiles/
+layer utils utils/
+layer imaging imaging/ profiles/
+layer batch/dialogs batch/ ui/ video/ profiles/ imaging/ app/ProductInfo.h
+layer batch batch/ video/ profiles/ imaging/
+layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ utils/ app/ProductInfo.h
+layer ui ui/ profiles/ imaging/ utils/ app/ProductInfo.h
+# app/ stands above all others.
+
+# The benchmarks call the bare library for comparison.
+fence FFmpeg 'lib(av|sw)[a-z]*/' qtav bench/bare
+fence QtAV 'QtAV' qtav video batch ui app tests bench
 fence OpenCV 'opencv2/' imaging utils tests/imaging tests/utils bench
 exit "$status"
