@@ -134,19 +134,19 @@ private:
     std::condition_variable m_changed;
     quint64 m_serial = 0;
     std::optional<OpenRequest> m_open;
-    bool m_closes = false;
     std::optional<SeekRequest> m_seek;
     std::deque<StepRequest> m_steps;
-    bool m_playing = false;
     std::vector<Answer> m_answers;
-    bool m_ownerIsWoken = false;
     VideoFrame m_current;
     std::deque<VideoFrame> m_queue;
     quint64 m_queueGeneration = 0; ///< changes when what is being decoded no longer belongs there
-    bool m_ended = false;
-    bool m_ownerWaitsForFrames = false;
-    double m_catchUpTo = 0.0; ///< the time of the sound in seconds; 0 for none to follow
+    double m_catchUpTo = 0.0;      ///< the time of the sound in seconds; 0 for none to follow
+    bool m_closes = false;
+    bool m_playing = false;
+    bool m_ended = false; ///< the last frame is in the queue, or was
     bool m_mayFillBehind = false;
+    bool m_ownerIsWoken = false;
+    bool m_ownerWaitsForFrames = false;
     bool m_quits = false;
 
     FrameSource m_source; ///< of the decoding thread

@@ -12,7 +12,7 @@ class SoundPlayer::Private
 public:
     ~Private();
     void ensureThread();
-    void wake();
+    void wake() const;
 
     SoundState state;
     QThread thread;
@@ -36,7 +36,7 @@ SoundPlayer::Private::~Private()
     thread.wait();
 }
 
-void SoundPlayer::Private::wake()
+void SoundPlayer::Private::wake() const
 {
     if (worker)
         QMetaObject::invokeMethod(worker, "heed", Qt::QueuedConnection);
