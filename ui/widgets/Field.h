@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QObject>
+#include <QVariant>
+
+#include <functional>
+
+class QWidget;
+
+/// Binds one property, by its name, to the widget of a form that edits it.
+///
+/// A form that shows an object with many properties keeps a list of these and needs no code for
+/// each: it reads a property and hands the value to setValue(), and writes value() back. Several
+/// radio buttons may share one property; then each is a field of its own with the value that it
+/// stands for.
+///
+/// Kinds of widgets that can be bound: line edits, text edits, combo boxes (by their items' data),
+/// check boxes, sliders, spin boxes, radio buttons, `ColorLabel` and `FontLabel`; other labels can
+/// be written but not read. User-interface thread only.
+class Field : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The choice value of a field that is no radio button.
+    static constexpr int NoChoice = -1;
+
+    /// `propertyName` must stay valid as long as the field does: a string literal. The widget is
+    /// not owned and outlives every use of the field; none is allowed too. `choiceValue` is what
+    /// a radio button stands for, 0 or more. `parent` owns the field.
+    Field(const char* propertyName, QWidget* widget, int choiceValue, QObject* parent);
+
+    const char* propertyName() const { return m_propertyName; }
+    QWidget* widget() const { return m_widget; }
+    int choiceValue() const { return m_choiceValue; }
+
+    /// Whether the field is one of several that choose the property's value together.
+    bool isChoice() const { return m_choiceValue != NoChoice; }
+
+    /// What the widget holds: a font, a colour, a text, the data of the current item
+    /// (`Qt::UserRole`), whether it is fully checked, or a number. A radio button holds the choice
+    /// value, or NoChoice while it is not checked. Invalid for widgets of other kinds, for none,
+    /// and for a combo box without a current item.
+    QVariant value() const;
+
+    /// Shows the value in the widget, converted to what the widget takes. A combo box selects the
+    /// item whose data is the value as text, in the same letter case, or else no item; a radio
+    /// button is checked if the value is its choice value, and unchecked otherwise. An invalid
+    /// value shows as an empty text, 0, unchecked or no item. Texts are never taken for mark-up.
+    /// Widgets of other kinds stay as they are.
+    void setValue(const QVariant& value);
+
+    /// Calls `handler` whenever what the widget holds changes, through the user or the program; for
+    /// radio buttons only when the user clicks them. It ends when `context` is destroyed. Labels
+    /// report nothing.
+    void whenChanged(const QObject* context, const std::function<void()>& handler) const;
+
+private:
+    const char* m_propertyName;
+    QWidget* m_widget;
+    int m_choiceValue;
+};
