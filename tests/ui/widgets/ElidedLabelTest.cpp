@@ -1,0 +1,114 @@
+#include "ui/widgets/ElidedLabel.h"
+
+#include "tests/ui/support/Painting.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QTest>
+#include <QTextDocument>
+#include <QToolTip>
+
+using testsupport::paintedBounds;
+using testsupport::paintedBy;
+
+class ElidedLabelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void longText_asksForNoWidth_andKeepsItsText();
+    void longText_isPaintedWhollyInside_withItsEnd();
+    void markup_isPlainText();
+    void toolTip_isTheWholeText();
+    void toolTip_isTheOneThatWasSet_whileTextFits();
+    void toolTip_isTextAndTheOneThatWasSet_whenTextIsElided();
+    void cleanup() { QToolTip::hideText(); }
+};
+
+namespace {
+
+const QString longText = QStringLiteral("a very long name of a video that fits nowhere-00001.jpeg");
+
+QString shownToolTip(ElidedLabel& label)
+{
+    const QPoint middle = label.rect().center();
+    QHelpEvent hover(QEvent::ToolTip, middle, label.mapToGlobal(middle));
+    QApplication::sendEvent(&label, &hover);
+    return QToolTip::text();
+}
+
+/// What a tool tip that is mark-up shows.
+QString asPlainText(const QString& toolTip)
+{
+    QTextDocument document;
+    if (Qt::mightBeRichText(toolTip))
+        document.setHtml(toolTip);
+    return document.toPlainText();
+}
+
+} // namespace
+
+void ElidedLabelTest::longText_asksForNoWidth_andKeepsItsText()
+{
+    ElidedLabel label;
+    label.setText(longText);
+    QCOMPARE(label.sizeHint().width(), 0);
+    QCOMPARE(label.minimumSizeHint().width(), 0);
+    QVERIFY(label.sizeHint().height() > 0);
+    QCOMPARE(label.text(), longText);
+}
+
+void ElidedLabelTest::longText_isPaintedWhollyInside_withItsEnd()
+{
+    ElidedLabel label;
+    label.resize(120, 20);
+    label.setText(longText);
+    const QImage elided = paintedBy(label);
+    QVERIFY(paintedBounds(elided).right() < 120);
+    QVERIFY(paintedBounds(elided).width() > 60);
+    label.setText(longText + QStringLiteral("x"));
+    QVERIFY(paintedBy(label) != elided);
+}
+
+void ElidedLabelTest::markup_isPlainText()
+{
+    ElidedLabel label;
+    label.setText(QStringLiteral("x"));
+    const int height = label.sizeHint().height();
+    label.setText(QStringLiteral("<h1>a<br>b</h1>"));
+    QCOMPARE(label.sizeHint().height(), height);
+}
+
+void ElidedLabelTest::toolTip_isTheWholeText()
+{
+    ElidedLabel label;
+    label.resize(120, 20);
+    label.show();
+    label.setText(longText);
+    QCOMPARE(asPlainText(shownToolTip(label)), longText);
+    label.setText(QStringLiteral("Tom & <b>Jerry</b>"));
+    QCOMPARE(asPlainText(shownToolTip(label)), QStringLiteral("Tom & <b>Jerry</b>"));
+}
+
+void ElidedLabelTest::toolTip_isTheOneThatWasSet_whileTextFits()
+{
+    ElidedLabel label;
+    label.resize(120, 20);
+    label.show();
+    label.setText(QStringLiteral("short"));
+    label.setToolTip(QStringLiteral("What it is."));
+    QCOMPARE(shownToolTip(label), QStringLiteral("What it is."));
+}
+
+void ElidedLabelTest::toolTip_isTextAndTheOneThatWasSet_whenTextIsElided()
+{
+    ElidedLabel label;
+    label.resize(120, 20);
+    label.show();
+    label.setText(longText);
+    label.setToolTip(QStringLiteral("What it is."));
+    QCOMPARE(asPlainText(shownToolTip(label)), longText + QStringLiteral("\nWhat it is."));
+}
+
+QTEST_MAIN(ElidedLabelTest)
+#include "ElidedLabelTest.moc"

@@ -1,0 +1,57 @@
+#include "ui/widgets/ElidedLabel.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QTextDocument>
+#include <QToolTip>
+
+ElidedLabel::ElidedLabel(QWidget* parent)
+    : QLabel(parent)
+{
+    // Names of files may look like mark-up, which would be measured as such.
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {0, QLabel::minimumSizeHint().height()};
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    return {0, QLabel::sizeHint().height()};
+}
+
+bool ElidedLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip) {
+        return QLabel::event(event);
+    }
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), wholeToolTip(), this);
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    const QRect rect = contentsRect();
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect, int(alignment()), palette(), isEnabled(), elidedText(),
+                          foregroundRole());
+}
+
+QString ElidedLabel::elidedText() const
+{
+    return fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+}
+
+QString ElidedLabel::wholeToolTip() const
+{
+    // Said to be mark-up in any case, since it is a guess otherwise.
+    const QString whole = Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal);
+    if (toolTip().isEmpty())
+        return whole;
+    return elidedText() == text() ? toolTip() : whole + toolTip();
+}
