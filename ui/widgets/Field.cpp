@@ -18,7 +18,7 @@ namespace {
 
 void selectItem(QComboBox& box, const QVariant& value)
 {
-    // An item without data would match no value as it matches an empty text.
+    // No value is not the empty text, which an item may stand for.
     const int index = value.isValid() ? box.findData(value.toString(), Qt::UserRole,
                                                      Qt::MatchExactly | Qt::MatchCaseSensitive)
                                       : -1;
