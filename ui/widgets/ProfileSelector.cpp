@@ -1,8 +1,6 @@
 #include "ui/widgets/ProfileSelector.h"
 
-#include "profiles/BaseProfile.h"
 #include "profiles/ProfileManager.h"
-#include "ui/widgets/Field.h"
 #include "ui_ProfileSelector.h"
 
 #include <QDebug>

@@ -1,5 +1,9 @@
 #pragma once
 
+// Whole types, so that the signals' arguments are known to the meta-object system.
+#include "profiles/BaseProfile.h"
+#include "ui/widgets/Field.h"
+
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -7,8 +11,6 @@
 
 #include <memory>
 
-class BaseProfile;
-class Field;
 class ProfileManager;
 
 namespace Ui {
