@@ -40,6 +40,9 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     , m_saveDialogDir(m_lastOpenDir)
 {
     m_ui->setupUi(this);
+    // Not in the form: a box that is off disables its children while they are still being made, and
+    // to screen readers they would then stay what they were at that moment, plain areas.
+    m_ui->automaticFileNameGroupBox->setChecked(false);
     GroupBoxMargins::apply(*this);
     updateWindowTitle();
     setupPlayer(makeVideoOutput);

@@ -6,6 +6,7 @@
 #include <QtAV/AVPlayer.h>
 #include <QtAV/VideoOutput.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -22,6 +23,7 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QSlider>
 #include <QSplitter>
@@ -38,6 +40,7 @@ class MainWindowOpeningTest : public QObject
 private Q_SLOTS:
     void newWindow_hasNoVideoAndDisabledControls();
     void newWindow_hasTheTextsAndShortcuts();
+    void newWindow_tellsScreenReadersWhatItsControlsAre();
     void newWindow_laysItsFormOut();
     void newWindow_fitsTheSizeThatStartUpGivesIt();
     void window_comesUpWithoutAPlayer_whenThereIsNoRenderer();
@@ -120,6 +123,29 @@ void MainWindowOpeningTest::newWindow_hasTheTextsAndShortcuts()
     QCOMPARE(shortcut(window, "actionPlayPause"), QKeySequence(Qt::Key_Space));
     QCOMPARE(shortcut(window, "actionSaveSnapshot"), QKeySequence(Qt::CTRL + Qt::Key_S));
     QCOMPARE(shortcut(window, "actionExit"), QKeySequence());
+}
+
+void MainWindowOpeningTest::newWindow_tellsScreenReadersWhatItsControlsAre()
+{
+    const auto switchOff = qScopeGuard([] { QAccessible::setActive(false); });
+    QAccessible::setActive(true);
+    OpenWindow window;
+    const auto told = [&window](const char* name) {
+        return QAccessible::queryAccessibleInterface(&window.find<QWidget>(name));
+    };
+    const auto role = [&told](const char* name) { return told(name)->role(); };
+    // These are in a box that is off.
+    QCOMPARE(role("filenameProfileComboBox"), QAccessible::ComboBox);
+    QCOMPARE(role("editFileNameProfileButton"), QAccessible::Button);
+    QCOMPARE(role("outputFolderLineEdit"), QAccessible::EditableText);
+    QCOMPARE(role("selectOutputFolderButton"), QAccessible::Button);
+    QCOMPARE(role("nextFileNameLabel"), QAccessible::StaticText);
+    // What it is must not stand in for what it says.
+    QCOMPARE(told("positionLabel")->text(QAccessible::Name), QStringLiteral("00:00:00.000"));
+    QCOMPARE(told("positionLabel")->text(QAccessible::Description), QStringLiteral("Position"));
+    QCOMPARE(told("durationLabel")->text(QAccessible::Name), QStringLiteral("00:00:00.000"));
+    QCOMPARE(told("imageProfileComboBox")->text(QAccessible::Description),
+             QStringLiteral("Image profile"));
 }
 
 void MainWindowOpeningTest::newWindow_laysItsFormOut()
