@@ -141,6 +141,8 @@ void MainWindowOpeningTest::newWindow_tellsScreenReadersWhatItsControlsAre()
     QCOMPARE(role("selectOutputFolderButton"), QAccessible::Button);
     QCOMPARE(role("nextFileNameLabel"), QAccessible::StaticText);
     // What it is must not stand in for what it says.
+    QCOMPARE(told("openVideoLabel")->text(QAccessible::Name),
+             QStringLiteral("Click to open video"));
     QCOMPARE(told("positionLabel")->text(QAccessible::Name), QStringLiteral("00:00:00.000"));
     QCOMPARE(told("positionLabel")->text(QAccessible::Description), QStringLiteral("Position"));
     QCOMPARE(told("durationLabel")->text(QAccessible::Name), QStringLiteral("00:00:00.000"));
