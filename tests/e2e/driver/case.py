@@ -1,0 +1,106 @@
+"""What all end-to-end tests have in common."""
+
+import collections
+import contextlib
+import functools
+import os
+import pathlib
+import shutil
+import tempfile
+import unittest
+
+from tests.e2e.driver.desktop import Desktop
+from tests.e2e.driver.program import Program
+from tests.e2e.driver.waiting import wait_until
+
+MEDIA = pathlib.Path(os.environ.get("MORVANTILE_MEDIA", "build/media"))
+# Between two frames of the samples that tests play.
+FRAME_MS = 40
+# Where a test that fails leaves the screen and the program's log.
+TRACES = pathlib.Path(os.environ.get("MORVANTILE_TRACES", tempfile.gettempdir()))
+
+
+def _leaving_traces(test):
+    @functools.wraps(test)
+    def wrapped(self):
+        try:
+            return test(self)
+        except BaseException:
+            with contextlib.suppress(OSError):
+                self.leave_traces()
+            raise
+
+    return wrapped
+
+
+Frame = collections.namedtuple("Frame", "number")
+
+
+def _frame_at_position(program):
+    """The frame on the screen where it is the one of the position shown, else none."""
+    number = program.shown_frame()
+    is_there = number is not None and program.position == number * FRAME_MS
+    return Frame(number) if is_there else None
+
+
+class MorvantileCase(unittest.TestCase):
+    """A test with a desktop, an empty folder, and a home in which no program ran before."""
+
+    def __init_subclass__(cls):
+        super().__init_subclass__()
+        for name, member in list(vars(cls).items()):
+            if name.startswith("test_"):
+                setattr(cls, name, _leaving_traces(member))
+
+    def setUp(self):
+        self.desktop = Desktop.shared()
+        self.folder = pathlib.Path(
+            self.enterContext(tempfile.TemporaryDirectory(prefix="morvantile-e2e-"))
+        )
+        self.home = self.folder / "home"
+        self.videos = self.folder / "videos"
+        self.videos.mkdir()
+
+    def start(self, arguments=(), environment=None):
+        """Starts the program, which ends with the test at the latest."""
+        return self.enterContext(Program(self.desktop, self.home, arguments, environment))
+
+    def sample(self, name, copy=None):
+        """The path of a copy of the sample video in the test's folder for videos."""
+        return pathlib.Path(shutil.copy(MEDIA / name, self.videos / (copy or name)))
+
+    def open_paused(self, program, video):
+        """Opens the video, pauses it somewhere and gives the number of the frame it stands at."""
+        program.open_with_dialog(video)
+        wait_until(lambda: program.shown_frame() is not None, "no frame on the screen")
+        self.desktop.key("space")
+        return self.wait_for_standstill(program)
+
+    def wait_for_standstill(self, program):
+        """The number of the frame on the screen, once it is paused there."""
+        wait_until(program.offers_to_play, "the video goes on")
+        return wait_until(
+            lambda: _frame_at_position(program),
+            lambda: f"frame {program.shown_frame()} at {program.position} ms",
+        ).number
+
+    def wait_for_frame(self, program, number):
+        """Waits until the video is paused at the frame."""
+        wait_until(program.offers_to_play, "the video goes on")
+        wait_until(
+            lambda: getattr(_frame_at_position(program), "number", None) == number,
+            lambda: f"frame {program.shown_frame()} at {program.position} ms, not {number}",
+        )
+
+    def take_snapshot(self, program):
+        """Takes the frame on the screen and waits until it is shown as the snapshot."""
+        self.desktop.key("ctrl+a")
+        wait_until(lambda: program.find("push button", "Save").is_enabled, "no snapshot was taken")
+
+    def leave_traces(self):
+        folder = TRACES / self.id()
+        folder.mkdir(parents=True, exist_ok=True)
+        self.desktop.picture().save(folder / "screen.png")
+        for log in self.home.glob("*.log"):
+            shutil.copy(log, folder)
+        print(f"\nscreen and log: {folder}")

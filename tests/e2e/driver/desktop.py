@@ -1,0 +1,147 @@
+"""A desktop of its own for the tests: an X server, a window manager, accessibility, input."""
+
+import atexit
+import contextlib
+import os
+import pathlib
+import subprocess
+import tempfile
+
+from PIL import ImageGrab
+
+from tests.e2e.driver import processes
+from tests.e2e.driver.waiting import LIMIT_S, wait_until
+
+SIZE = (1280, 900)
+
+
+class Desktop:
+    """Shared by nobody else, so that tests beside it do not see its windows, keys and clipboard.
+
+    One lives in a process: the accessibility library connects once, to the desktop that the
+    environment names. To be used in a `with`, or through `shared()`.
+    """
+
+    _shared = None
+
+    @classmethod
+    def shared(cls):
+        """The one that all tests of this process use. It ends with the process."""
+        if cls._shared is None:
+            stack = contextlib.ExitStack()
+            atexit.register(stack.close)
+            cls._shared = stack.enter_context(cls())
+        return cls._shared
+
+    def __init__(self, size=SIZE):
+        self._size = size
+        self._stack = contextlib.ExitStack()
+        self.environment = {}
+
+    def __enter__(self):
+        with contextlib.ExitStack() as stack:
+            folder = stack.enter_context(tempfile.TemporaryDirectory(prefix="morvantile-desktop-"))
+            self._start_all(stack, pathlib.Path(folder))
+            self._stack = stack.pop_all()
+        return self
+
+    def __exit__(self, *error):
+        self._stack.close()
+
+    def _start_all(self, stack, folder):
+        log = stack.enter_context(open(folder / "log", "w", encoding="utf-8"))
+        self.environment = self._new_environment(folder)
+
+        def announcing(command):
+            process, line = processes.start_announcing(
+                command, env=self.environment, stdout=log, stderr=log
+            )
+            stack.callback(processes.stop, process)
+            if not line:
+                raise RuntimeError("did not start: " + (folder / "log").read_text())
+            return line
+
+        width, height = self._size
+        screen = f"{width}x{height}x24"
+        self.environment["DISPLAY"] = ":" + announcing(
+            lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", screen, "-noreset",
+                        "-nolisten", "tcp"])  # fmt: skip
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = announcing(
+            lambda fd: ["dbus-daemon", "--session", "--nofork", "--nopidfile",
+                        f"--print-address={fd}"])  # fmt: skip
+        window_manager = processes.start(
+            ["openbox", "--sm-disable"], env=self.environment, stdout=log, stderr=log
+        )
+        stack.callback(processes.stop, window_manager)
+        # Windows that open before it would stay without a frame and without the keyboard.
+        wait_until(self._has_window_manager, "no window manager")
+        os.environ.update(self.environment)
+
+    @staticmethod
+    def _new_environment(folder):
+        """Nothing of the user's: neither settings nor language, theme, sound server or session."""
+        return {
+            "PATH": os.environ["PATH"],
+            "HOME": str(folder),
+            "XDG_RUNTIME_DIR": str(folder),
+            "LC_ALL": "C.UTF-8",
+        }
+
+    def _has_window_manager(self):
+        answer = subprocess.run(
+            ["xdotool", "get_desktop"], env=self.environment, capture_output=True, check=False
+        )
+        return answer.returncode == 0
+
+    # --- what is on the screen ----------------------------------------------------------------
+
+    def picture(self, area=None):
+        """The screen, or the part of it in (left, top, right, bottom), as a Pillow image."""
+        return ImageGrab.grab(bbox=area, xdisplay=self.environment["DISPLAY"])
+
+    # --- input ---------------------------------------------------------------------------------
+
+    def key(self, *keys):
+        """Presses and releases keys, such as "ctrl+o", one after another."""
+        self._do("key", "--delay", "5", *keys)
+
+    def type(self, text):
+        self._do("type", "--delay", "5", "--", text)
+
+    def move(self, x, y):
+        self._do("mousemove", "--sync", str(int(x)), str(int(y)))
+
+    def press(self):
+        self._do("mousedown", "1")
+
+    def release(self):
+        self._do("mouseup", "1")
+
+    def click(self, x, y):
+        self.move(x, y)
+        self._do("click", "1")
+
+    def drag(self, x, y, steps=10):
+        """Moves the pointer as a hand does, over the places between."""
+        from_x, from_y = self.pointer()
+        for step in range(1, steps + 1):
+            self.move(from_x + (x - from_x) * step / steps, from_y + (y - from_y) * step / steps)
+
+    def pointer(self):
+        words = self._do("getmouselocation").split()
+        return tuple(int(word.split(":")[1]) for word in words[:2])
+
+    def _do(self, *arguments):
+        answer = subprocess.run(
+            ["xdotool", *arguments], env=self.environment, timeout=LIMIT_S, check=True,
+            capture_output=True, text=True)  # fmt: skip
+        return answer.stdout
+
+    # --- the clipboard -------------------------------------------------------------------------
+
+    def clipboard(self, kind):
+        """The bytes that another program gets from the clipboard; none when it has not the kind."""
+        answer = subprocess.run(
+            ["xclip", "-selection", "clipboard", "-target", kind, "-out"], env=self.environment,
+            timeout=LIMIT_S, check=False, capture_output=True)  # fmt: skip
+        return answer.stdout if answer.returncode == 0 else b""

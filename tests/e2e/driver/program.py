@@ -1,0 +1,188 @@
+"""The real program, started on a desktop and watched."""
+
+import contextlib
+import os
+import pathlib
+import signal
+
+from tests.e2e.driver import processes
+from tests.e2e.driver.controls import Control, windows_of
+from tests.e2e.driver.frames import fitted, frame_number
+from tests.e2e.driver.waiting import LIMIT_S, wait_until
+
+BINARY = pathlib.Path(os.environ.get("MORVANTILE", "build/release/app/morvantile")).absolute()
+
+
+class Program:
+    """A running `morvantile`. To be used in a `with`, which ends it if it still runs.
+
+    `home` is the folder of its settings, so that a second start may find what the first one left.
+    """
+
+    def __init__(self, desktop, home, arguments=(), environment=None):
+        self.desktop = desktop
+        self._home = pathlib.Path(home)
+        self.log_file = self._home / "morvantile.log"
+        self._arguments = list(arguments)
+        self._environment = environment or {}
+        self._process = None
+
+    def __enter__(self):
+        self._home.mkdir(parents=True, exist_ok=True)
+        with open(self.log_file, "ab") as log:
+            self._process = processes.start(
+                [BINARY, *self._arguments], env=self._all_environment(), cwd=self._home,
+                stdout=log, stderr=log)  # fmt: skip
+        try:
+            self.window()
+        except BaseException:
+            processes.stop(self._process)
+            raise
+        return self
+
+    def __exit__(self, *error):
+        processes.stop(self._process)
+
+    def _all_environment(self):
+        sanitizers = {key: os.environ[key] for key in os.environ if key.endswith("SAN_OPTIONS")}
+        return {
+            **self.desktop.environment,
+            "HOME": str(self._home),
+            "XDG_CONFIG_HOME": str(self._home / "config"),
+            "XDG_DATA_HOME": str(self._home / "data"),
+            "XDG_CACHE_HOME": str(self._home / "cache"),
+            "QT_QPA_PLATFORM": "xcb",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            **sanitizers,
+            **self._environment,
+        }
+
+    # --- windows and controls ------------------------------------------------------------------
+
+    def _windows(self):
+        if self._process.poll() is not None:
+            raise AssertionError(f"the program ended with {self._process.returncode}")
+        try:
+            return [window for window in windows_of(self._process.pid) if window.is_showing]
+        except Control.Gone:
+            return []
+
+    def window(self, title=None, limit=LIMIT_S):
+        """The window or dialog that has the keyboard, once that is one of the title, if given."""
+
+        def wanted():
+            with contextlib.suppress(Control.Gone):
+                for window in self._windows():
+                    if window.has_state("ACTIVE") and title in (None, window.name):
+                        return window
+            return None
+
+        def missing():
+            return f"no active window {title or ''} among {[str(w) for w in self._windows()]}"
+
+        return wait_until(wanted, missing, limit)
+
+    def find_all(self, role=None, name=None, description=None):
+        """The controls on the screen, in all windows, of which all that is given is true."""
+        try:
+            return [
+                control
+                for window in self._windows()
+                for control in window.all(role, name, description)
+                if control.is_showing
+            ]
+        except Control.Gone:
+            return []
+
+    def has(self, role=None, name=None, description=None):
+        return bool(self.find_all(role, name, description))
+
+    def find(self, role=None, name=None, description=None):
+        """The first control on the screen of that kind, once there is one."""
+        return wait_until(
+            lambda: next(iter(self.find_all(role, name, description)), None),
+            lambda: f"no {role or 'control'} {name or ''} {description or ''} on the screen",
+        )
+
+    def click(self, role=None, name=None, description=None):
+        """Clicks on the control of that kind, once it can be clicked on."""
+        control = self.find(role, name, description)
+        wait_until(lambda: control.is_enabled, f"{control} stays disabled")
+        self.desktop.click(*control.middle)
+        return control
+
+    def enter(self, text):
+        """Types into the edit field that has the keyboard, in place of what is there."""
+        field = wait_until(self._focused_field, "no edit field has the keyboard")
+        self.desktop.key("ctrl+a")
+        self.desktop.type(text)
+        wait_until(lambda: field.text == text, lambda: f'"{field.text}" instead of "{text}"')
+        return field
+
+    def _focused_field(self):
+        return next((field for field in self.find_all("text") if field.is_focused), None)
+
+    def focused(self):
+        """The control that has the keyboard, or none."""
+        return next((control for control in self.find_all() if control.is_focused), None)
+
+    # --- the main window -----------------------------------------------------------------------
+
+    @property
+    def position(self):
+        """The time shown as the position, in milliseconds."""
+        return _milliseconds(self.find("label", description="Position").name)
+
+    @property
+    def duration(self):
+        return _milliseconds(self.find("label", description="Duration").name)
+
+    def open_button(self):
+        """The button in the place of the video, which also lies behind a video that is shown."""
+        return self.find("push button", description="Open a video, or drop one here")
+
+    def open_with_dialog(self, path):
+        """Opens the video as a user does, and waits until it is on the screen."""
+        self.desktop.key("ctrl+o")
+        self.window("Open")
+        self.enter(str(path))
+        self.desktop.key("Return")
+        self.window(f"Morvantile - {pathlib.Path(path).name}")
+
+    def shown_frame(self):
+        """The number in the picture of the player; none when no number can be read."""
+        return self._frame_in(self.open_button().parent)
+
+    def shown_snapshot(self):
+        """The number in the picture of the snapshot; none when no number can be read."""
+        return self._frame_in(self.find(name="Snapshot"))
+
+    def offers_to_play(self):
+        """Whether the play button shows the triangle, not the two bars."""
+        x, y = self.find("push button", "Play/Pause").middle
+        # The middle is inside the triangle, and between the bars.
+        brightness = self.desktop.picture((x, y, x + 1, y + 1)).convert("L").getpixel((0, 0))
+        return brightness < 128
+
+    def _frame_in(self, control):
+        # The samples that tests look at on the screen have pictures of four to three.
+        return frame_number(self.desktop.picture(fitted((4, 3), control.area)))
+
+    # --- its end -------------------------------------------------------------------------------
+
+    def wait_for_end(self, limit=LIMIT_S):
+        """The exit code, which is negative for a signal."""
+        wait_until(lambda: self._process.poll() is not None, "the program still runs", limit)
+        return self._process.returncode
+
+    def interrupt(self):
+        self._process.send_signal(signal.SIGTERM)
+
+    @property
+    def log(self):
+        return self.log_file.read_text(encoding="utf-8", errors="replace")
+
+
+def _milliseconds(text):
+    hours, minutes, seconds = text.split(":")
+    return round((int(hours) * 3600 + int(minutes) * 60 + float(seconds)) * 1000)

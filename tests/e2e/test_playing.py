@@ -1,0 +1,147 @@
+"""Playing, stepping, skipping and seeking, by keys, buttons and the slider."""
+
+from tests.e2e.driver.case import FRAME_MS, MorvantileCase
+from tests.e2e.driver.waiting import holds_for, wait_until
+
+FRAMES_A_SECOND = 1000 // FRAME_MS
+
+
+# Of the slider, in milliseconds.
+SLIDER_STEP_MS = 30
+
+
+class PlayingTest(MorvantileCase):
+
+    def setUp(self):
+        super().setUp()
+        self.program = self.start()
+
+    def test_space_pauses_and_plays(self):
+        number = self.open_long_video()
+        self.assertTrue(
+            holds_for(lambda: self.program.shown_frame() == number, 0.5), "the picture moves"
+        )
+        self.desktop.key("space")
+        wait_until(lambda: (self.program.shown_frame() or 0) > number, "it does not go on")
+        self.assertFalse(self.program.offers_to_play())
+
+    def test_play_button_pauses_and_plays(self):
+        self.open_long_video()
+        self.program.click("push button", "Play/Pause")
+        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+        self.program.click("push button", "Play/Pause")
+        self.wait_for_standstill(self.program)
+
+    def test_step_keys_go_one_frame(self):
+        number = self.open_long_video()
+        for key, change in (("Right", 1), ("Right", 1), ("Left", -1), ("Left", -1), ("Left", -1)):
+            number += change
+            self.desktop.key(f"ctrl+{key}")
+            self.wait_for_frame(self.program, number)
+
+    def test_step_buttons_go_one_frame(self):
+        number = self.open_long_video()
+        self.program.click("push button", "Step forward one frame")
+        self.wait_for_frame(self.program, number + 1)
+        self.program.click("push button", "Step back one frame")
+        self.wait_for_frame(self.program, number)
+
+    def test_many_steps_at_once_lose_none(self):
+        number = self.open_long_video()
+        self.desktop.key(*["ctrl+Right"] * 20)
+        self.wait_for_frame(self.program, number + 20)
+        self.desktop.key(*["ctrl+Left"] * 15)
+        self.wait_for_frame(self.program, number + 5)
+
+    def test_step_pauses_a_video_that_plays(self):
+        self.open_long_video()
+        self.desktop.key("space")
+        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+        self.desktop.key("ctrl+Right")
+        self.wait_for_standstill(self.program)
+
+    def test_skip_keys_go_a_second(self):
+        number = self.open_long_video()
+        self.desktop.key("ctrl+Up")
+        self.wait_for_frame(self.program, number + FRAMES_A_SECOND)
+        self.desktop.key("ctrl+Up")
+        self.wait_for_frame(self.program, number + 2 * FRAMES_A_SECOND)
+        self.desktop.key("ctrl+Down")
+        self.wait_for_frame(self.program, number + FRAMES_A_SECOND)
+
+    def test_skip_buttons_go_a_second(self):
+        number = self.open_long_video()
+        self.program.click("push button", "Skip forward a bit")
+        self.wait_for_frame(self.program, number + FRAMES_A_SECOND)
+        self.program.click("push button", "Skip back a bit")
+        self.wait_for_frame(self.program, number)
+
+    def test_video_stops_at_its_last_frame_and_plays_again_from_the_start(self):
+        video = self.sample("h264_bframes.mp4")
+        self.program.open_with_dialog(video)
+        self.wait_for_frame(self.program, 99)
+        self.desktop.key("space")
+        wait_until(lambda: 0 <= (self.program.shown_frame() or 99) < 50, "it does not start over")
+
+    def test_dragged_slider_seeks_while_playing(self):
+        self.open_long_video()
+        self.desktop.key("space")
+        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+        self.grab_slider()
+        self.desktop.drag(*self.slider_place(0.9))
+        wait_until(lambda: (self.program.shown_frame() or 0) > 400, "it did not go there")
+        # Only a seek goes back.
+        self.desktop.drag(*self.slider_place(0.2))
+        wait_until(lambda: 0 < (self.program.shown_frame() or 0) < 250, "it did not go back")
+        self.desktop.release()
+        wait_until(lambda: self.program.shown_frame() is not None, "no frame on the screen")
+        self.assertFalse(self.program.offers_to_play())
+
+    def test_dragged_slider_does_not_seek_while_paused(self):
+        number = self.open_long_video()
+        self.grab_slider()
+        self.desktop.drag(*self.slider_place(0.8))
+        slider = self.slider()
+        wait_until(lambda: slider.value > slider.maximum / 2, "the slider does not move")
+        self.desktop.release()
+        self.assertTrue(
+            holds_for(lambda: self.program.shown_frame() == number, 0.5), "the picture moves"
+        )
+        self.desktop.key("ctrl+Right")
+        self.wait_for_frame(self.program, number + 1)
+        wait_until(
+            lambda: slider.value == (number + 1) * FRAME_MS // SLIDER_STEP_MS,
+            lambda: f"the slider stands at {slider.value}",
+        )
+
+    def test_click_beside_the_handle_seeks_while_playing(self):
+        self.open_long_video()
+        self.desktop.key("space")
+        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+        self.desktop.click(*self.slider_place(0.9))
+        wait_until(lambda: (self.program.shown_frame() or 0) > 400, "it did not go there")
+        self.desktop.click(*self.slider_place(0.2))
+        wait_until(lambda: 0 < (self.program.shown_frame() or 0) < 250, "it did not go back")
+
+    # --- what the cases are made of ------------------------------------------------------------
+
+    def open_long_video(self):
+        """Paused; gives the frame at which it stands."""
+        return self.open_paused(self.program, self.sample("h264_gop250.mp4"))
+
+    def slider(self):
+        return self.program.find("slider", "Position")
+
+    def slider_place(self, part):
+        left, top, right, bottom = self.slider().area
+        return left + (right - left) * part, (top + bottom) // 2
+
+    def grab_slider(self):
+        """Takes the handle where it is, with the mouse button held down."""
+        slider = self.slider()
+        handle = 16
+        left, top, right, bottom = slider.area
+        way = (right - left - handle) * slider.value / slider.maximum
+        self.desktop.move(left + handle // 2 + way, (top + bottom) // 2)
+        self.desktop.press()
+        self.addCleanup(self.desktop.release)
