@@ -34,7 +34,7 @@ class Desktop:
         return cls._shared
 
     def __init__(self, size=SIZE):
-        self._size = size
+        self.size = size
         self._stack = contextlib.ExitStack()
         self.environment = {}
 
@@ -61,7 +61,7 @@ class Desktop:
                 raise RuntimeError("did not start: " + (folder / "log").read_text())
             return line
 
-        width, height = self._size
+        width, height = self.size
         screen = f"{width}x{height}x24"
         self.environment["DISPLAY"] = ":" + announcing(
             lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", screen, "-noreset",
@@ -98,6 +98,12 @@ class Desktop:
     def picture(self, area=None):
         """The screen, or the part of it in (left, top, right, bottom), as a Pillow image."""
         return ImageGrab.grab(bbox=area, xdisplay=self.environment["DISPLAY"])
+
+    # --- windows -------------------------------------------------------------------------------
+
+    def resize_window(self, width, height):
+        """Gives the window that has the keyboard this size, without its frame."""
+        self._do("getactivewindow", "windowsize", "--sync", str(width), str(height))
 
     # --- input ---------------------------------------------------------------------------------
 

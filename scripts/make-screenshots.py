@@ -1,0 +1,92 @@
+#!/usr/bin/python3
+"""Takes the pictures of the user guide from the running program, by keys and mouse.
+
+To be run by hand after a window changed, from any folder; takes a release build, and the packages
+that packages.txt lists for the tests. The pictures are written into docs/user-guide.
+"""
+
+import os
+import pathlib
+import shutil
+import sys
+import tempfile
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+PICTURES = ROOT / "docs/user-guide"
+SAMPLE = ROOT / "samples/sunrise.mp4"
+
+os.environ.setdefault("MORVANTILE", str(ROOT / "build/release/app/morvantile"))
+sys.path.insert(0, str(ROOT))
+# pylint: disable=wrong-import-position
+from tests.e2e.driver.desktop import Desktop  # noqa: E402
+from tests.e2e.driver.program import Program  # noqa: E402
+from tests.e2e.driver.waiting import wait_until  # noqa: E402
+
+# Of the main window with a video.
+SIZE = (1120, 700)
+# Two pictures of a window are the same when it has stopped moving.
+STILL_TIMES = 15
+
+
+class Photographer:
+    def __init__(self, desktop, program):
+        self.desktop = desktop
+        self.program = program
+
+    def take(self, name, title):
+        """The window of the title, once nothing in it moves any more."""
+        window = self.program.window(title)
+        self.desktop.move(1, self.desktop.size[1] - 1)
+        picture = self._settled(window)
+        picture.save(PICTURES / f"{name}.png", optimize=True)
+        print(name, picture.size)
+
+    def _settled(self, window):
+        seen = [self.desktop.picture(window.area)]
+
+        def same_again():
+            seen.append(self.desktop.picture(window.area))
+            if seen[-1] != seen[0]:
+                seen[:] = seen[-1:]
+            return len(seen) > STILL_TIMES
+
+        wait_until(same_again, "the window does not come to rest")
+        return seen[0]
+
+
+def take_main_window(photographer, video):
+    desktop, program = photographer.desktop, photographer.program
+    photographer.take("window-empty", "Morvantile")
+    desktop.resize_window(*SIZE)
+    program.open_with_dialog(video)
+    title = f"Morvantile - {video.name}"
+    wait_until(lambda: program.position > 3500, "the video does not play")
+    desktop.key("space")
+    wait_until(program.offers_to_play, "the video goes on")
+    desktop.key("ctrl+a")
+    wait_until(lambda: program.find("push button", "Save").is_enabled, "no snapshot was taken")
+    left, top, _, _ = program.find("check box", "Automatic File Name").area
+    desktop.click(left + 12, top + 8)
+    wait_until(lambda: program.has("label", description="Next file name"), "no automatic names")
+    photographer.take("window", title)
+
+
+def take_all(photographer, video):
+    take_main_window(photographer, video)
+
+
+def main():
+    desktop = Desktop.shared()
+    # Seen in the pictures, so it bears a name for people.
+    videos = pathlib.Path(tempfile.gettempdir(), "Videos")
+    videos.mkdir()
+    try:
+        video = pathlib.Path(shutil.copy(SAMPLE, videos))
+        with tempfile.TemporaryDirectory() as home, Program(desktop, home) as program:
+            take_all(Photographer(desktop, program), video)
+    finally:
+        shutil.rmtree(videos)
+
+
+if __name__ == "__main__":
+    main()
