@@ -58,6 +58,15 @@ public:
         return prefixes;
     }
 
+    /// Shows the selector alone, with the keyboard in the name. False when that fails.
+    [[nodiscard]] bool focusName()
+    {
+        m_selector.show();
+        m_selector.activateWindow();
+        combo().setFocus();
+        return QTest::qWaitForWindowActive(&m_selector) && combo().lineEdit()->hasFocus();
+    }
+
     void typeName(const QString& name)
     {
         combo().lineEdit()->selectAll();

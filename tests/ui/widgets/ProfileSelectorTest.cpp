@@ -255,6 +255,7 @@ void ProfileSelectorTest::typing_isReported_andKeepsForm()
 void ProfileSelectorTest::typing_isNotCompleted()
 {
     NameForm form({QStringLiteral("Holiday in 4K")});
+    QVERIFY(form.focusName());
     form.typeName(QStringLiteral("Holiday"));
     QCOMPARE(form.combo().currentText(), QStringLiteral("Holiday"));
     QCOMPARE(form.selector().currentListedProfile(), nullptr);
@@ -265,10 +266,7 @@ void ProfileSelectorTest::typedNameOfAnother_loadsNothing_onReturnOrLeaving()
     NameForm form(abc());
     form.selector().loadProfile(form.profile(0));
     form.prefix().setText(QStringLiteral("entered"));
-    form.selector().show();
-    form.selector().activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&form.selector()));
-    form.combo().setFocus();
+    QVERIFY(form.focusName());
     form.typeName(QStringLiteral("B"));
     QTest::keyClick(form.combo().lineEdit(), Qt::Key_Return);
     QCOMPARE(form.prefix().text(), QStringLiteral("entered"));
