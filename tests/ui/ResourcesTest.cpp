@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QIcon>
@@ -7,11 +8,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSpinBox>
 #include <QSvgRenderer>
 #include <QTest>
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace {
 
@@ -56,6 +59,8 @@ private Q_SLOTS:
     void styleSheet_namesOnlyImagesThatExist();
     void styleSheet_leavesFontsAlone();
     void styleSheet_leavesPlaceholdersPalerThanText();
+    void styleSheet_leavesFieldsRoomForTheirText_data();
+    void styleSheet_leavesFieldsRoomForTheirText();
     void icons_areDrawn_data();
     void icons_areDrawn();
     void icons_standOutOnLightAndDark_data();
@@ -120,6 +125,37 @@ void ResourcesTest::styleSheet_leavesPlaceholdersPalerThanText()
     edit.ensurePolished();
     const QPalette palette = edit.palette();
     QVERIFY(palette.color(QPalette::PlaceholderText) != palette.color(QPalette::Text));
+}
+
+void ResourcesTest::styleSheet_leavesFieldsRoomForTheirText_data()
+{
+    QTest::addColumn<int>("points");
+    for (const int points : {8, 10, 15, 30}) {
+        QTest::addRow("%d points", points) << points;
+    }
+}
+
+void ResourcesTest::styleSheet_leavesFieldsRoomForTheirText()
+{
+    QFETCH(int, points);
+    const QFont before = QApplication::font();
+    QFont font = before;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    QLineEdit edit;
+    QComboBox box;
+    QSpinBox number;
+    QPushButton button;
+    const std::initializer_list<QWidget*> widgets{&edit, &box, &number, &button};
+    for (QWidget* const widget : widgets) {
+        widget->setStyleSheet(QString::fromLatin1(contents(QStringLiteral(":/Styles.qss"))));
+        widget->ensurePolished();
+    }
+    QApplication::setFont(before);
+    for (const QWidget* const widget : widgets) {
+        QVERIFY2(widget->minimumHeight() >= QFontMetrics(font).height(),
+                 widget->metaObject()->className());
+    }
 }
 
 void ResourcesTest::icons_areDrawn_data()
