@@ -1,5 +1,7 @@
 #include "ProfileTestSupport.h"
 
+#include "profiles/ProfileManager.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -35,6 +37,17 @@ ProfileKeeper::~ProfileKeeper()
 {
     for (const QPointer<BaseProfile>& profile : qAsConst(m_made))
         delete profile.data();
+}
+
+void forgetProfiles(ProfileManager& manager, const QString& fileName)
+{
+    const QList<BaseProfile*> profiles = manager.profiles();
+    manager.setLastUsedProfile(nullptr);
+    QFile::remove(ProfileManager::getSettingsPath(fileName));
+    manager.loadProfilesFromFile();
+    if (!manager.profiles().isEmpty())
+        qFatal("profiles are left");
+    qDeleteAll(profiles);
 }
 
 QStringList persistedPropertyNames(const QMetaObject& type)

@@ -10,6 +10,8 @@
 
 #include <functional>
 
+class ProfileManager;
+
 /// A user's home for one test case: from its construction on, the configuration and data folders
 /// lie in a temporary folder, and the application bears its real names.
 class TestHome
@@ -60,6 +62,10 @@ public:
 private:
     QList<QPointer<BaseProfile>> m_made;
 };
+
+/// Starts a case with a kind's own manager, which outlives all cases, as empty as on the first day:
+/// deletes its profiles and the settings file with the bare name `fileName` in the current home.
+void forgetProfiles(ProfileManager& manager, const QString& fileName);
 
 /// The names of the properties of `type` that are persisted, in the order of the walk.
 QStringList persistedPropertyNames(const QMetaObject& type);

@@ -1,0 +1,137 @@
+#include "ui/dialogs/FileNameProfileDialog.h"
+
+#include "profiles/FileNameProfile.h"
+#include "profiles/ProfileManager.h"
+#include "ui/widgets/Field.h"
+#include "ui/widgets/GroupBoxMargins.h"
+#include "ui_FileNameProfileDialog.h"
+
+#include <QFileInfo>
+#include <QFormLayout>
+
+#include <algorithm>
+
+FileNameProfileDialog::FileNameProfileDialog(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::FileNameProfileDialog>())
+{
+    m_ui->setupUi(this);
+    GroupBoxMargins::apply(*this);
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    arrangeButtons();
+    alignCaptions();
+
+    connect(m_ui->profileSelector, &ProfileSelector::profileSelected, this,
+            &FileNameProfileDialog::profileSelected);
+    connect(m_ui->profileSelector, &ProfileSelector::profileNameTextChanged, this,
+            &FileNameProfileDialog::profileNameTextChanged);
+    connect(m_ui->profileSelector, &ProfileSelector::fieldChanged, this,
+            &FileNameProfileDialog::fieldChanged);
+    fillTypes();
+    loadProfiles();
+}
+
+FileNameProfileDialog::~FileNameProfileDialog() = default;
+
+void FileNameProfileDialog::setSelectedProfile(FileNameProfile* profile)
+{
+    m_selectedProfile = profile;
+    m_ui->profileSelector->loadProfile(profile);
+    if (!profile)
+        m_ui->profileSelector->loadDefaultValues();
+    // The selector is silent about a profile that was selected already or is not listed.
+    updateExampleDisplay();
+}
+
+void FileNameProfileDialog::setExampleFileName(const QString& fileName)
+{
+    m_exampleFileName = fileName;
+    updateExampleDisplay();
+}
+
+void FileNameProfileDialog::loadProfiles()
+{
+    const auto bind = [this](const char* property, QWidget* widget) {
+        m_ui->profileSelector->addField(new Field(property, widget, Field::NoChoice, this));
+    };
+    bind("fileOutputPrefix", m_ui->formatPrefixLineEdit);
+    bind("fileBaseName", m_ui->formatBasenameLineEdit);
+    bind("fileOutputSuffix", m_ui->formatSuffixLineEdit);
+    bind("fileOutputType", m_ui->formatFileExtensionComboBox);
+    m_ui->profileSelector->loadProfiles(FileNameProfile::profileManager());
+}
+
+void FileNameProfileDialog::updateExampleDisplay()
+{
+    FileNameProfile entered;
+    m_ui->profileSelector->loadFormIntoProfile(&entered);
+
+    const QString baseName = QFileInfo(m_exampleFileName).baseName();
+    m_ui->outputExampleVideoLabel->setText(m_exampleFileName);
+    m_ui->formatBasenameLineEdit->setPlaceholderText(baseName);
+    m_ui->outputExampleLabel->setText(entered.generateFileName(baseName, 1));
+    m_ui->outputExampleWithoutCounterLabel->setText(entered.generateFileName(baseName));
+}
+
+void FileNameProfileDialog::profileSelected(BaseProfile* /*profile*/)
+{
+    updateExampleDisplay();
+}
+
+void FileNameProfileDialog::profileNameTextChanged(const QString& name)
+{
+    m_ui->saveButton->setEnabled(!name.isEmpty());
+}
+
+void FileNameProfileDialog::fieldChanged(Field* /*field*/)
+{
+    updateExampleDisplay();
+}
+
+void FileNameProfileDialog::on_resetToDefaultsButton_clicked()
+{
+    m_ui->profileSelector->loadDefaultValues();
+    updateExampleDisplay();
+}
+
+void FileNameProfileDialog::on_cancelButton_clicked()
+{
+    reject();
+}
+
+void FileNameProfileDialog::on_saveButton_clicked()
+{
+    m_selectedProfile = qobject_cast<FileNameProfile*>(m_ui->profileSelector->saveProfile());
+    accept();
+}
+
+void FileNameProfileDialog::fillTypes()
+{
+    for (const char* const type : {"jpg", "jpeg", "png", "tif", "tiff"}) {
+        const QString extension = QLatin1String(type);
+        m_ui->formatFileExtensionComboBox->addItem(QLatin1Char('.') + extension, extension);
+    }
+}
+
+void FileNameProfileDialog::arrangeButtons()
+{
+    // Each platform has an order of its own, which the box knows.
+    m_ui->buttonBox->addButton(m_ui->resetToDefaultsButton, QDialogButtonBox::ResetRole);
+    m_ui->buttonBox->addButton(m_ui->saveButton, QDialogButtonBox::AcceptRole);
+    m_ui->buttonBox->addButton(m_ui->cancelButton, QDialogButtonBox::RejectRole);
+}
+
+void FileNameProfileDialog::alignCaptions()
+{
+    // The two forms stand one above the other and read as one.
+    QList<QWidget*> captions;
+    for (const QFormLayout* const form : {m_ui->formatLayout, m_ui->exampleLayout}) {
+        for (int row = 0; row < form->rowCount(); ++row)
+            captions += form->itemAt(row, QFormLayout::LabelRole)->widget();
+    }
+    int widest = 0;
+    for (const QWidget* const caption : qAsConst(captions))
+        widest = std::max(widest, caption->sizeHint().width());
+    for (QWidget* const caption : qAsConst(captions))
+        caption->setMinimumWidth(widest);
+}
