@@ -1,0 +1,48 @@
+#include "ui/dialogs/WatermarkPicture.h"
+
+#include "profiles/WatermarkProfile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QSize>
+#include <QUuid>
+
+namespace {
+
+/// More than any view of a dialog shows, also on screens with small pixels.
+constexpr QSize DisplayBounds{1024, 1024};
+
+bool isTooLarge(QSize size)
+{
+    return qint64{size.width()} * size.height() > WatermarkPicture::MaxPixels;
+}
+
+} // namespace
+
+bool WatermarkPicture::isTooLarge(const QString& path)
+{
+    return ::isTooLarge(QImageReader(path).size());
+}
+
+QImage WatermarkPicture::readForDisplay(const QString& path)
+{
+    QImageReader reader(path);
+    const QSize size = reader.size();
+    if (::isTooLarge(size))
+        return {};
+    if (size.width() > DisplayBounds.width() || size.height() > DisplayBounds.height()) {
+        // Most decoders make it smaller on the way, without ever holding the whole picture.
+        const QSize fitting = size.scaled(DisplayBounds, Qt::KeepAspectRatio);
+        reader.setScaledSize(fitting.expandedTo({1, 1}));
+    }
+    return reader.read();
+}
+
+QString WatermarkPicture::addCopyOf(const QString& path)
+{
+    const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() +
+                         QLatin1Char('.') + QFileInfo(path).completeSuffix();
+    QFile::copy(path, WatermarkProfile::pathForImage(name));
+    return name;
+}
