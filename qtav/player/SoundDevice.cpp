@@ -1,5 +1,7 @@
 #include "qtav/player/SoundDevice.h"
 
+#include "qtav/player/SoundClock.h"
+
 #include <QAudioDeviceInfo>
 #include <QAudioOutput>
 
@@ -24,6 +26,8 @@ public:
     bool start(QIODevice* source) override
     {
         m_output.start(source);
+        const qint64 bufferUs = m_format.durationForBytes(m_output.bufferSize());
+        m_clock.reset(double(bufferUs) / 1e6, std::chrono::steady_clock::now());
         return m_output.error() == QAudio::NoError;
     }
     void stop() override { m_output.stop(); }
@@ -32,20 +36,23 @@ public:
     {
         const bool isStarved =
             m_output.state() == QAudio::IdleState && m_output.error() == QAudio::UnderrunError;
-        return m_output.state() == QAudio::ActiveState || isStarved;
+        // A device that was taken away has nothing free, not even nothing.
+        const bool isThere = m_output.bytesFree() >= 0;
+        return isThere && (m_output.state() == QAudio::ActiveState || isStarved);
     }
 
-    double heardSeconds() const override
+    double heardSeconds() override
     {
-        // What was read from the source less what still waits in the device's buffer.
+        // What was read from the source less what still waits for the device to take it.
         const int buffered = std::max(0, m_output.bufferSize() - m_output.bytesFree());
         const qint64 us = m_output.processedUSecs() - m_format.durationForBytes(buffered);
-        return std::max(0.0, double(us) / 1e6);
+        return m_clock.heard(std::max(0.0, double(us) / 1e6), std::chrono::steady_clock::now());
     }
 
     void setVolume(qreal volume) override { m_output.setVolume(volume); }
 
 private:
+    SoundClock m_clock;
     QAudioFormat m_format;
     QAudioOutput m_output;
 };

@@ -23,11 +23,13 @@ public:
     /// Falls silent at once and forgets what it has read.
     virtual void stop() = 0;
 
-    /// True while sound comes out, or comes again as soon as the source gives more.
+    /// True while sound comes out, or comes again as soon as the source gives more. Systems do not
+    /// always tell that a device is gone: then it stays true, and heardSeconds() stands still.
     virtual bool isRunning() const = 0;
 
-    /// How much of the source has been heard since start(), in seconds.
-    virtual double heardSeconds() const = 0;
+    /// How much of the source has been heard since start(), in seconds. To be asked often: between
+    /// two blocks that the device takes, that is an estimate from what it was before.
+    virtual double heardSeconds() = 0;
 
     /// From 0 to 1.
     virtual void setVolume(qreal volume) = 0;

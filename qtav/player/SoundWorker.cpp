@@ -8,11 +8,16 @@ namespace QtAV {
 
 namespace {
 
-constexpr int TellTimeMs = 20;
+constexpr int TellTimeMs = 10;
 
 /// Between two tellings the time goes on by itself, but not for longer than this: who tells it no
 /// more may have come to a stop.
 constexpr double LongestSilentSeconds = 0.1;
+
+/// A device that hears nothing more for so long is gone, or done where its source has ended. Before
+/// its first sound, a device may have to play out two seconds of silence.
+constexpr std::chrono::milliseconds LongestStandstill{3000};
+constexpr std::chrono::milliseconds LongestStandstillAtTheEnd{500};
 
 } // namespace
 
@@ -49,13 +54,20 @@ public:
         open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }
     bool isSequential() const override { return true; }
+    bool hasEnded() const { return m_hasEnded; }
 
 protected:
-    qint64 readData(char* data, qint64 most) override { return m_file.read(data, most); }
+    qint64 readData(char* data, qint64 most) override
+    {
+        const qint64 got = m_file.read(data, most);
+        m_hasEnded = got < most;
+        return got;
+    }
     qint64 writeData(const char*, qint64) override { return -1; }
 
 private:
     SoundFile& m_file;
+    bool m_hasEnded = false;
 };
 
 SoundWorker::SoundWorker(SoundState& state)
@@ -117,6 +129,8 @@ void SoundWorker::start(const SoundState::Wish& wish)
     if (!m_file->seek(wish.from))
         return;
     m_source = std::make_unique<Source>(*m_file);
+    m_lastHeard = 0.0;
+    m_movedAt = std::chrono::steady_clock::now();
     if (m_device->start(m_source.get()))
         m_clock.start();
     else
@@ -134,10 +148,21 @@ void SoundWorker::stopDevice()
 /// A device that failed, or has played everything, gives no time any more.
 void SoundWorker::tellTime()
 {
-    if (m_device->isRunning())
-        m_state.setHeard(m_done.playSerial, m_done.from + m_device->heardSeconds());
+    const double heard = m_device->heardSeconds();
+    if (m_device->isRunning() && !isOver(heard))
+        m_state.setHeard(m_done.playSerial, m_done.from + heard);
     else
         stopDevice();
+}
+
+bool SoundWorker::isOver(double heardSeconds)
+{
+    const auto now = std::chrono::steady_clock::now();
+    if (heardSeconds > m_lastHeard)
+        m_movedAt = now;
+    m_lastHeard = heardSeconds;
+    const auto longest = m_source->hasEnded() ? LongestStandstillAtTheEnd : LongestStandstill;
+    return now - m_movedAt > longest;
 }
 
 } // namespace QtAV

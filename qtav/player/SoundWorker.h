@@ -70,6 +70,7 @@ private:
     void start(const SoundState::Wish& wish);
     void stopDevice();
     void tellTime();
+    [[nodiscard]] bool isOver(double heardSeconds);
 
     SoundState& m_state;
     const SoundDevice::Factory m_makeDevice;
@@ -77,6 +78,8 @@ private:
     std::unique_ptr<SoundFile> m_file;
     std::unique_ptr<Source> m_source;
     std::unique_ptr<SoundDevice> m_device;
+    double m_lastHeard = 0.0;                        ///< since the device's start
+    std::chrono::steady_clock::time_point m_movedAt; ///< when it was less for the last time
     QTimer m_clock;
 };
 

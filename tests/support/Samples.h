@@ -60,8 +60,8 @@ struct Sample
 /// Ends the test program when that is not set.
 [[nodiscard]] QString samplePath(const QString& file);
 
-/// All undamaged videos but those of ColourSamples.h: every frame can be decoded and bears its
-/// number.
+/// All undamaged videos but those of ColourSamples.h and those made for the tests of sound: every
+/// frame can be decoded and bears its number.
 [[nodiscard]] const QList<Sample>& allVideoSamples();
 
 /// Files without video: sound alone, sound with a cover picture.
