@@ -1,0 +1,172 @@
+#include "tests/qtav/SoundServer.h"
+
+#include "tests/support/RunProgram.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QThread>
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+using testsupport::ProgramResult;
+using testsupport::runProgram;
+
+namespace playing {
+
+namespace {
+
+constexpr int PatienceMs = 30000;
+constexpr int Rate = 48000;
+constexpr auto DeviceArguments = "sink_name=quiet rate=48000 channels=2";
+
+} // namespace
+
+SoundServer::SoundServer()
+{
+    // A sanitizer's runtime is no concern of the server's, nor is the tests' platform.
+    qputenv("PULSE_SERVER", "unix:" + m_dir.filePath(QStringLiteral("native")).toLocal8Bit());
+    qputenv("PULSE_RUNTIME_PATH", m_dir.path().toLocal8Bit());
+    qputenv("PULSE_STATE_PATH", m_dir.path().toLocal8Bit());
+    qputenv("PULSE_COOKIE", m_dir.filePath(QStringLiteral("cookie")).toLocal8Bit());
+}
+
+SoundServer::~SoundServer()
+{
+    kill();
+}
+
+bool SoundServer::start()
+{
+    const QString socket = m_dir.filePath(QStringLiteral("native"));
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.start(
+        QStringLiteral("pulseaudio"),
+        {QStringLiteral("-n"), QStringLiteral("--daemonize=no"), QStringLiteral("--system=no"),
+         QStringLiteral("--use-pid-file=no"), QStringLiteral("--exit-idle-time=-1"),
+         QStringLiteral("--log-level=error"), QStringLiteral("--disable-shm=yes"),
+         QStringLiteral("-L"),
+         QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + socket,
+         QStringLiteral("-L"),
+         QStringLiteral("module-null-sink ") + QLatin1String(DeviceArguments)});
+    if (!m_process.waitForStarted(PatienceMs)) {
+        qWarning("pulseaudio does not start: %s", qUtf8Printable(m_process.errorString()));
+        return false;
+    }
+    const QDeadlineTimer patience(PatienceMs);
+    while (m_process.state() == QProcess::Running && !patience.hasExpired()) {
+        if (control({QStringLiteral("info")}))
+            return true;
+        QThread::msleep(20);
+        m_process.waitForFinished(0);
+    }
+    qWarning("pulseaudio does not answer.");
+    return false;
+}
+
+void SoundServer::kill()
+{
+    if (m_process.state() == QProcess::NotRunning)
+        return;
+    m_process.kill();
+    m_process.waitForFinished(PatienceMs);
+}
+
+bool SoundServer::removeDevice()
+{
+    return control({QStringLiteral("unload-module"), QStringLiteral("module-null-sink")});
+}
+
+bool SoundServer::addDevice()
+{
+    QStringList arguments{QStringLiteral("load-module"), QStringLiteral("module-null-sink")};
+    arguments += QString::fromLatin1(DeviceArguments).split(u' ');
+    return control(arguments);
+}
+
+int SoundServer::streamCount() const
+{
+    const ProgramResult result =
+        runProgram(QStringLiteral("pactl"),
+                   {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")},
+                   PatienceMs);
+    return result.succeeded() ? int(result.standardOutput.count('\n')) : -1;
+}
+
+bool SoundServer::control(const QStringList& arguments) const
+{
+    return runProgram(QStringLiteral("pactl"), arguments, PatienceMs).succeeded();
+}
+
+bool SoundRecording::start(int latencyMs)
+{
+    QStringList arguments{QStringLiteral("--raw"), QStringLiteral("--format=s16le"),
+                          QStringLiteral("--rate=%1").arg(Rate), QStringLiteral("--channels=1"),
+                          QStringLiteral("--device=quiet.monitor")};
+    if (latencyMs > 0)
+        arguments.append(QStringLiteral("--latency-msec=%1").arg(latencyMs));
+    connect(&m_process, &QProcess::readyReadStandardOutput, this, &SoundRecording::take);
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.start(QStringLiteral("parec"), arguments);
+    if (!m_process.waitForStarted(PatienceMs))
+        return false;
+    const QDeadlineTimer patience(PatienceMs);
+    while (m_samples.isEmpty() && !patience.hasExpired())
+        m_process.waitForReadyRead(100);
+    return !m_samples.isEmpty();
+}
+
+void SoundRecording::stop()
+{
+    m_process.terminate();
+    m_process.waitForFinished(PatienceMs);
+}
+
+/// The device hands on a block of samples when its first one is heard, and nothing between two
+/// blocks, of at least 10 ms: what comes after a pause begins one.
+void SoundRecording::take()
+{
+    constexpr std::chrono::milliseconds PauseBetweenBlocks(5);
+    const Time now = std::chrono::steady_clock::now();
+    const auto before = std::chrono::nanoseconds(qint64(m_samples.size()) / qint64(sizeof(qint16)) *
+                                                 1000000000 / Rate);
+    if (now - m_lastArrival > PauseBetweenBlocks)
+        m_begins.push_back(now - before);
+    m_samples += m_process.readAllStandardOutput();
+    m_lastArrival = now;
+}
+
+/// The median, for single blocks may be late on a busy machine, and the first ones come before the
+/// device has adapted its blocks.
+SoundRecording::Time SoundRecording::begin() const
+{
+    std::vector<Time> begins = m_begins;
+    const auto middle = begins.begin() + std::ptrdiff_t(begins.size() / 2);
+    std::nth_element(begins.begin(), middle, begins.end());
+    return begins.empty() ? Time() : *middle;
+}
+
+QList<SoundRecording::Time> SoundRecording::toneStarts() const
+{
+    constexpr int Loud = 5000;
+    constexpr int SilenceBetweenTones = Rate / 4;
+    const int count = m_samples.size() / int(sizeof(qint16));
+    const Time first = begin();
+    QList<Time> starts;
+    int silent = SilenceBetweenTones;
+    for (int i = 0; i < count; ++i) {
+        qint16 sample = 0;
+        std::memcpy(&sample, m_samples.constData() + i * int(sizeof(qint16)), sizeof(sample));
+        if (std::abs(int(sample)) < Loud) {
+            ++silent;
+            continue;
+        }
+        if (silent >= SilenceBetweenTones)
+            starts.append(first + std::chrono::nanoseconds(qint64(i) * 1000000000 / Rate));
+        silent = 0;
+    }
+    return starts;
+}
+
+} // namespace playing
