@@ -1,0 +1,111 @@
+#include "batch/BatchModeListModel.h"
+
+#include "batch/BatchWorkerConfig.h"
+
+#include <QDebug>
+#include <QDir>
+
+#include <vector>
+
+namespace {
+
+enum Column { FileName = 0, Destination = 1, Interval = 2, OutputExample = 3, ColumnCount = 4 };
+
+QString unknown()
+{
+    return QStringLiteral("Unknown!");
+}
+
+/// The first image, which every interval takes.
+constexpr int exampleCounter = 1;
+
+} // namespace
+
+BatchModeListModel::BatchModeListModel(QObject* parent)
+    : QAbstractTableModel(parent)
+{}
+
+void BatchModeListModel::addConfig(BatchWorkerConfig* config)
+{
+    const int row = rowCount();
+    beginInsertRows(QModelIndex(), row, row);
+    m_configs.append(config);
+    endInsertRows();
+}
+
+void BatchModeListModel::removeRow(int row, const QModelIndex& parent)
+{
+    beginRemoveRows(parent, row, row);
+    if (row >= 0 && row < rowCount()) {
+        m_configs.removeAt(row);
+    }
+    endRemoveRows();
+}
+
+/// Goes by the jobs, not by the rows: each removal moves those below.
+void BatchModeListModel::removeRows(const QList<QModelIndex>& indexes)
+{
+    std::vector<BatchWorkerConfig*> configs;
+    for (const QModelIndex& index : indexes) {
+        qDebug() << "Removing index " << index;
+        configs.push_back(getConfig(index.row()));
+    }
+    for (BatchWorkerConfig* const config : configs) {
+        removeRow(m_configs.indexOf(config), QModelIndex());
+    }
+}
+
+void BatchModeListModel::configUpdated(BatchWorkerConfig* config)
+{
+    const int row = m_configs.indexOf(config);
+    Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
+int BatchModeListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_configs.size();
+}
+
+int BatchModeListModel::columnCount(const QModelIndex& /*parent*/) const
+{
+    return ColumnCount;
+}
+
+QVariant BatchModeListModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || role != Qt::DisplayRole) {
+        return {};
+    }
+    const BatchWorkerConfig* const config = getConfig(index.row());
+    switch (index.column()) {
+    case FileName:
+        return config->sourceFileName();
+    case Destination:
+        return config->fileOutputPath();
+    case Interval:
+        return config->intervalDisplay();
+    case OutputExample:
+        return config->filenameForCounter(exampleCounter);
+    default:
+        return unknown();
+    }
+}
+
+QVariant BatchModeListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole || orientation != Qt::Horizontal) {
+        return {};
+    }
+    switch (section) {
+    case FileName:
+        return tr("File Name");
+    case Destination:
+        return tr("Destination");
+    case Interval:
+        return tr("Interval");
+    case OutputExample:
+        return tr("Output Example");
+    default:
+        return unknown();
+    }
+}
