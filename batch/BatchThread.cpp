@@ -98,13 +98,14 @@ void BatchThread::runWorker(BatchWorker& worker)
 
 /// Takes the worker out of the queue and has it deleted.
 ///
-/// Frames may still wait for it in its own thread. They come before its deletion there, so that
-/// their images are saved, and until then it keeps its connections, so that they are told of.
+/// Frames may still wait for it in its own thread, and news of it for others there. They all come
+/// before its deletion, so that the images are saved and told of; until then it keeps its
+/// connections. A bare deleteLater() might overtake them: it can be served apart from other events.
 void BatchThread::release(BatchWorker& worker)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     ++m_finished;
-    worker.deleteLater();
+    QMetaObject::invokeMethod(&worker, &QObject::deleteLater, Qt::QueuedConnection);
 }
 
 /// The first worker that has not finished; null when all have, or when they shall not.

@@ -140,6 +140,7 @@ private Q_SLOTS:
     void debugLines_tellOfEachStep();
     void workers_belongToTheThread_andAreGoneAfterTheirRun();
     void lastImages_areSavedAndTold_howeverBusyTheirThreadIs();
+    void workers_outliveTheNewsOfThem();
     void failedJob_doesNotStopTheOthers();
     void interruption_stopsTheRunningJob_andThoseToCome();
     void interruption_beforeTheStart_runsNothing();
@@ -300,6 +301,24 @@ void BatchThreadTest::lastImages_areSavedAndTold_howeverBusyTheirThreadIs()
     QVERIFY(events.waitForEnd());
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files).size(), 2);
     QCOMPARE(workerEvents.of(QStringLiteral("image")).size(), 2);
+}
+
+/// Deletions can be served before other events that are older, as Qt Test's own waiting does.
+void BatchThreadTest::workers_outliveTheNewsOfThem()
+{
+    BatchThread thread;
+    const QPointer<BatchWorker> worker(new ScriptedWorker([](ScriptedWorker& self) {
+        Q_EMIT self.statusUpdate(&self, QStringLiteral("last words"), BatchWorker::Error);
+    }));
+    bool wasAlive = false;
+    connect(worker, &BatchWorker::statusUpdate, this,
+            [&wasAlive, &worker] { wasAlive = !worker.isNull(); });
+    thread.addWorker(worker);
+    thread.start();
+    QVERIFY(thread.wait(limitMs));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    QVERIFY(wasAlive);
 }
 
 void BatchThreadTest::failedJob_doesNotStopTheOthers()
