@@ -4,12 +4,9 @@
 
 #include <QtAV/AVPlayer.h>
 
-#include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QFile>
 #include <QTest>
-#include <QTimer>
 
 namespace testsupport {
 
@@ -55,22 +52,6 @@ bool OpenWindow::takeSnapshot()
     m_window.snapshotButtonPressed();
     const QAction& copy = find<QAction>("actionCopy_Snapshot");
     return QTest::qWaitFor([&copy] { return copy.isEnabled(); }, limitMs);
-}
-
-void answerNextBox(QMessageBox::StandardButton button, SeenBox& seen)
-{
-    auto* const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, button, &seen] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr) {
-            return;
-        }
-        timer->deleteLater();
-        timer->stop();
-        seen = {box->windowTitle(), box->text(), box->standardButtons(), box->parentWidget()};
-        box->button(button)->click();
-    });
-    timer->start(10);
 }
 
 } // namespace testsupport

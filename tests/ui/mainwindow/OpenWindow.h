@@ -1,9 +1,9 @@
 #pragma once
 
+#include "tests/ui/support/NextBox.h"
 #include "tests/ui/support/TestSettings.h"
 #include "ui/mainwindow/MainWindow.h"
 
-#include <QMessageBox>
 #include <QString>
 
 namespace QtAV {
@@ -50,18 +50,5 @@ private:
     TestSettings m_settings;
     MainWindow m_window;
 };
-
-/// What the next message box said, once it was ended.
-struct SeenBox
-{
-    QString title;
-    QString text;
-    QMessageBox::StandardButtons buttons;
-    QWidget* parent = nullptr;
-};
-
-/// Ends the next message box with the button, as soon as it shows, and keeps what it said in
-/// `seen`, which must outlive it.
-void answerNextBox(QMessageBox::StandardButton button, SeenBox& seen);
 
 } // namespace testsupport

@@ -1,0 +1,150 @@
+#include "batch/dialogs/BatchProcessingDialog.h"
+
+#include "batch/BatchThread.h"
+#include "batch/BatchWorkerConfig.h"
+#include "ui_BatchProcessingDialog.h"
+
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QTextCursor>
+
+namespace {
+
+/// A progress from 0 to 1 as whole percent: 100 means done and nothing less.
+int percent(float progress)
+{
+    return static_cast<int>(progress * 100.0F);
+}
+
+} // namespace
+
+BatchProcessingDialog::BatchProcessingDialog(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::BatchProcessingDialog>())
+    , m_thread(new BatchThread(this))
+{
+    m_ui->setupUi(this);
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    connect(m_ui->doneButton, &QPushButton::clicked, this,
+            &BatchProcessingDialog::doneButtonClicked);
+    connect(m_thread, &BatchThread::progressUpdate, this,
+            &BatchProcessingDialog::threadProgressUpdate);
+    connect(m_thread, &BatchThread::threadDone, this, &BatchProcessingDialog::threadDone);
+    m_ui->doneButton->setFocus();
+    updateDoneButton();
+}
+
+BatchProcessingDialog::~BatchProcessingDialog() = default;
+
+void BatchProcessingDialog::addWorkerWithConfig(BatchWorkerConfig* config)
+{
+    auto* const worker = new BatchWorker(this);
+    worker->setConfig(config);
+    connect(worker, &BatchWorker::statusUpdate, this, &BatchProcessingDialog::workerStatusUpdate);
+    connect(worker, &BatchWorker::imageReady, this, &BatchProcessingDialog::workerImageReady);
+    // A job says what it does only when it has its first frame, which may take a while.
+    connect(worker, &BatchWorker::progressUpdate, this,
+            [this](BatchWorker* running) { showCurrentVideo(*running); });
+    m_thread->addWorker(worker);
+}
+
+int BatchProcessingDialog::exec()
+{
+    m_ui->currentVideoLabel->clear();
+    m_ui->statusLabel->clear();
+    show();
+    m_thread->start(QThread::InheritPriority);
+    return QDialog::exec();
+}
+
+void BatchProcessingDialog::logMessage(const QString& message, BatchWorker* worker)
+{
+    const QString source =
+        worker == nullptr ? QString() : worker->config()->source() + QStringLiteral(": ");
+    m_ui->logTextEdit->moveCursor(QTextCursor::End);
+    m_ui->logTextEdit->insertPlainText(source + message + QLatin1Char('\n'));
+}
+
+bool BatchProcessingDialog::confirmAbort()
+{
+    return QMessageBox::question(this, tr("Cancel Batch Processing"),
+                                 tr("Are you sure you want to cancel batch processing?\n"),
+                                 QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::Yes) == QMessageBox::Yes;
+}
+
+void BatchProcessingDialog::abort()
+{
+    m_thread->requestInterruption();
+    updateDoneButton();
+}
+
+void BatchProcessingDialog::reject()
+{
+    close();
+}
+
+void BatchProcessingDialog::closeEvent(QCloseEvent* event)
+{
+    if (m_thread->isFinished()) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (confirmAbort()) {
+        abort();
+    }
+}
+
+void BatchProcessingDialog::doneButtonClicked()
+{
+    if (m_thread->isFinished()) {
+        close();
+    } else if (confirmAbort()) {
+        abort();
+    }
+}
+
+void BatchProcessingDialog::workerStatusUpdate(BatchWorker* worker, QString text,
+                                               BatchWorker::BatchStatusMessageType type)
+{
+    showCurrentVideo(*worker);
+    m_ui->statusLabel->setText(text);
+    if (type == BatchWorker::Error) {
+        logMessage(text, worker);
+    }
+}
+
+void BatchProcessingDialog::workerImageReady(BatchWorker* /*worker*/, QImage& image)
+{
+    m_ui->previewImageView->setImage(image);
+}
+
+void BatchProcessingDialog::threadProgressUpdate(float overallProgress, float currentProgress)
+{
+    m_ui->progressBarTotal->setValue(percent(overallProgress));
+    m_ui->progressBarCurrent->setValue(percent(currentProgress));
+}
+
+void BatchProcessingDialog::threadDone()
+{
+    // The signal is the thread's last act but not yet its end, after which the button goes.
+    m_thread->wait();
+    updateDoneButton();
+    logMessage(tr("Processing Complete"), nullptr);
+    m_ui->currentVideoLabel->clear();
+    m_ui->statusLabel->setText(tr("Processing Complete"));
+}
+
+void BatchProcessingDialog::showCurrentVideo(const BatchWorker& worker)
+{
+    m_ui->currentVideoLabel->setText(worker.config()->source());
+}
+
+void BatchProcessingDialog::updateDoneButton()
+{
+    const bool isFinished = m_thread->isFinished();
+    m_ui->doneButton->setText(isFinished ? tr("Done") : tr("Cancel"));
+    // The return key shall close what is done, and not cancel what runs.
+    m_ui->doneButton->setDefault(isFinished);
+}

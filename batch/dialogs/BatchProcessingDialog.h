@@ -1,0 +1,70 @@
+#pragma once
+
+#include "batch/BatchWorker.h"
+
+#include <QDialog>
+#include <QString>
+
+#include <memory>
+
+class BatchThread;
+class BatchWorkerConfig;
+class QCloseEvent;
+class QImage;
+
+namespace Ui {
+class BatchProcessingDialog;
+}
+
+/// Runs a batch and shows how it goes: the video, the last image, the progress, and a log of what
+/// went wrong. Errors of a job never stop the batch.
+///
+/// Add the jobs, then exec(). While jobs run, the dialog closes for nobody: whoever tries to is
+/// asked whether to cancel the batch. User-interface thread only.
+class BatchProcessingDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit BatchProcessingDialog(QWidget* parent = nullptr);
+    /// Stops what still runs, and waits for its next step.
+    ~BatchProcessingDialog() override;
+
+    /// Adds a job, before exec(). The job is not owned and must outlive the dialog.
+    void addWorkerWithConfig(BatchWorkerConfig* config);
+
+    /// Shows the dialog, runs the jobs in the order in which they were added, and returns when the
+    /// user has closed the dialog. Once for each dialog.
+    int exec() override;
+
+    /// Appends a line to the log, headed by the path of the worker's video; null for none.
+    void logMessage(const QString& message, BatchWorker* worker);
+
+    /// Asks the user whether to cancel the batch.
+    [[nodiscard]] bool confirmAbort();
+
+    /// Cancels the batch, which ends after the running job's next step.
+    void abort();
+
+public Q_SLOTS:
+    /// Escape, too, goes the way of closing.
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private Q_SLOTS:
+    void doneButtonClicked();
+    void workerStatusUpdate(BatchWorker* worker, QString text,
+                            BatchWorker::BatchStatusMessageType type);
+    void workerImageReady(BatchWorker* worker, QImage& image);
+    void threadProgressUpdate(float overallProgress, float currentProgress);
+    void threadDone();
+
+private:
+    void showCurrentVideo(const BatchWorker& worker);
+    void updateDoneButton();
+
+    const std::unique_ptr<Ui::BatchProcessingDialog> m_ui;
+    BatchThread* const m_thread;
+};

@@ -1,0 +1,335 @@
+#include "batch/dialogs/BatchProcessingDialog.h"
+
+#include "batch/BatchThread.h"
+#include "tests/batch/dialogs/RunningBatch.h"
+#include "tests/support/Samples.h"
+#include "tests/support/TestDir.h"
+#include "tests/ui/support/NextBox.h"
+#include "tests/ui/support/Painting.h"
+#include "ui/widgets/ImageView.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QTest>
+#include <QTextEdit>
+
+using testsupport::answerNextBox;
+using testsupport::RunningBatch;
+using testsupport::samplePath;
+using testsupport::SeenBox;
+using testsupport::TestDir;
+
+namespace {
+
+QString complete()
+{
+    return QStringLiteral("Processing Complete");
+}
+
+/// 20.8 seconds: every quarter of a second makes a job that does not end by itself soon.
+BatchWorkerConfig& addLongJob(RunningBatch& batch, const QString& folder)
+{
+    BatchWorkerConfig& config = batch.addJob(samplePath(QStringLiteral("h264_gop250.mp4")), folder);
+    config.setIntervalType(BatchWorkerConfig::EveryMilliseconds);
+    config.setIntervalMilliseconds(250);
+    return config;
+}
+
+QString goodVideo()
+{
+    return samplePath(QStringLiteral("h264_bframes.mp4"));
+}
+
+QStringList filesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+} // namespace
+
+class BatchProcessingDialogTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void form_isReadyForABatch();
+    void batch_endsComplete_withItsImagesAndItsBarsFull();
+    void emptyBatch_isCompleteAtOnce();
+    void video_isNamed_beforeItsFirstImage();
+    void status_isShown_andOnlyErrorsAreLogged();
+    void failedJob_isLoggedWithItsVideo();
+    void errors_keepTheirPlaceBehindOthers_whereverTheCursorIs();
+    void lastImage_isShown();
+    void progress_isShownInWholePercent_data();
+    void progress_isShownInWholePercent();
+    void cancelling_isAskedFor_andNoChangesNothing_data();
+    void cancelling_isAskedFor_andNoChangesNothing();
+    void cancelling_endsTheBatch();
+    void returnKey_closesWhatIsDone_andCancelsNothing();
+    void batch_isStopped_whenTheDialogEnds();
+    void largeFonts_areNotCutOff();
+};
+
+void BatchProcessingDialogTest::form_isReadyForABatch()
+{
+    const RunningBatch batch;
+    const auto& dialog = batch.find<QPushButton>("doneButton").window();
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Batch Processing"));
+    QCOMPARE(dialog->windowModality(), Qt::ApplicationModal);
+    QCOMPARE(dialog->size(), QSize(322, 443));
+    QVERIFY(!dialog->windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
+    QCOMPARE(batch.button().text(), QStringLiteral("Cancel"));
+    QCOMPARE(batch.labelText("currentVideoLabel"), QStringLiteral("TextLabel"));
+    QCOMPARE(batch.labelText("statusLabel"), QStringLiteral("Status"));
+    for (const char* const name : {"progressBarCurrent", "progressBarTotal"}) {
+        const auto& bar = batch.find<QProgressBar>(name);
+        QCOMPARE(bar.minimum(), 0);
+        QCOMPARE(bar.maximum(), 100);
+        QCOMPARE(bar.value(), 0);
+        QVERIFY(!bar.accessibleName().isEmpty());
+    }
+    QVERIFY(batch.find<QTextEdit>("logTextEdit").isReadOnly());
+    QCOMPARE(batch.find<QTextEdit>("logTextEdit").maximumHeight(), 100);
+    QCOMPARE(batch.find<ImageView>("previewImageView").minimumSize(), QSize(200, 200));
+}
+
+void BatchProcessingDialogTest::batch_endsComplete_withItsImagesAndItsBarsFull()
+{
+    const TestDir dir;
+    RunningBatch batch;
+    batch.addJob(goodVideo(), dir.path());
+    batch.addJob(samplePath(QStringLiteral("mjpeg.avi")), dir.path());
+    QVERIFY(batch.execToItsEnd());
+    QCOMPARE(filesIn(dir.path()),
+             (QStringList{QStringLiteral("h264_bframes-.jpeg"), QStringLiteral("mjpeg-.jpeg")}));
+    QCOMPARE(batch.log(), complete() + QLatin1Char('\n'));
+    QCOMPARE(batch.labelText("currentVideoLabel"), QString());
+    QCOMPARE(batch.labelText("statusLabel"), complete());
+    QCOMPARE(batch.percent("progressBarCurrent"), 100);
+    QCOMPARE(batch.percent("progressBarTotal"), 100);
+    QVERIFY(!batch.dialog().isVisible());
+}
+
+void BatchProcessingDialogTest::emptyBatch_isCompleteAtOnce()
+{
+    RunningBatch batch;
+    QVERIFY(batch.execToItsEnd());
+    QCOMPARE(batch.log(), complete() + QLatin1Char('\n'));
+    QCOMPARE(batch.percent("progressBarTotal"), 0);
+}
+
+void BatchProcessingDialogTest::video_isNamed_beforeItsFirstImage()
+{
+    const TestDir dir;
+    RunningBatch batch;
+    addLongJob(batch, dir.path());
+    const auto& label = batch.find<QLabel>("currentVideoLabel");
+    QString first;
+    QString statusThen;
+    connect(batch.thread().findChild<BatchWorker*>(), &BatchWorker::progressUpdate, &label,
+            [&](BatchWorker*, float progress) {
+                if (progress == 0.0F) {
+                    first = label.text();
+                    statusThen = batch.labelText("statusLabel");
+                }
+            });
+    batch.exec([&] { QTRY_VERIFY(!first.isEmpty()); });
+    QCOMPARE(first, QDir::toNativeSeparators(samplePath(QStringLiteral("h264_gop250.mp4"))));
+    QCOMPARE(statusThen, QString());
+}
+
+void BatchProcessingDialogTest::status_isShown_andOnlyErrorsAreLogged()
+{
+    const TestDir dir;
+    RunningBatch batch;
+    const QString path = dir.filePath(QStringLiteral("one.mp4"));
+    batch.addJob(path, dir.path());
+    auto* const worker = batch.thread().findChild<BatchWorker*>();
+    Q_EMIT worker->statusUpdate(worker, QStringLiteral("going on"));
+    QCOMPARE(batch.labelText("currentVideoLabel"), path);
+    QCOMPARE(batch.labelText("statusLabel"), QStringLiteral("going on"));
+    QCOMPARE(batch.log(), QString());
+    Q_EMIT worker->statusUpdate(worker, QStringLiteral("<b>broken</b>"), BatchWorker::Error);
+    QCOMPARE(batch.labelText("statusLabel"), QStringLiteral("<b>broken</b>"));
+    QCOMPARE(batch.log(), path + QStringLiteral(": <b>broken</b>\n"));
+}
+
+void BatchProcessingDialogTest::failedJob_isLoggedWithItsVideo()
+{
+    const TestDir dir;
+    RunningBatch batch;
+    const QString missing = dir.filePath(QStringLiteral("missing.mp4"));
+    batch.addJob(missing, dir.path());
+    QVERIFY(batch.execToItsEnd());
+    QCOMPARE(batch.log(),
+             missing + QStringLiteral(": Could not open file\n") + complete() + QLatin1Char('\n'));
+    QCOMPARE(batch.percent("progressBarTotal"), 100);
+    QVERIFY(filesIn(dir.path()).isEmpty());
+}
+
+void BatchProcessingDialogTest::errors_keepTheirPlaceBehindOthers_whereverTheCursorIs()
+{
+    RunningBatch batch;
+    batch.dialog().logMessage(QStringLiteral("one"), nullptr);
+    batch.find<QTextEdit>("logTextEdit").selectAll();
+    batch.dialog().logMessage(QStringLiteral("two"), nullptr);
+    batch.find<QTextEdit>("logTextEdit").moveCursor(QTextCursor::Start);
+    batch.dialog().logMessage(QStringLiteral("three"), nullptr);
+    QCOMPARE(batch.log(), QStringLiteral("one\ntwo\nthree\n"));
+}
+
+void BatchProcessingDialogTest::lastImage_isShown()
+{
+    const TestDir dir;
+    RunningBatch batch;
+    batch.addJob(goodVideo(), dir.path());
+    auto& view = batch.find<ImageView>("previewImageView");
+    batch.exec([&] {
+        QVERIFY(testsupport::paintedBounds(testsupport::paintedBy(view)).isEmpty());
+        QVERIFY(batch.waitForEnd());
+        QVERIFY(!testsupport::paintedBounds(testsupport::paintedBy(view)).isEmpty());
+    });
+}
+
+void BatchProcessingDialogTest::progress_isShownInWholePercent_data()
+{
+    QTest::addColumn<float>("progress");
+    QTest::addColumn<int>("shown");
+    QTest::newRow("nothing") << 0.0F << 0;
+    QTest::newRow("a third") << 1.0F / 3.0F << 33;
+    QTest::newRow("nearly all") << 0.999F << 99;
+    QTest::newRow("all") << 1.0F << 100;
+}
+
+void BatchProcessingDialogTest::progress_isShownInWholePercent()
+{
+    QFETCH(const float, progress);
+    QFETCH(const int, shown);
+    const RunningBatch batch;
+    Q_EMIT batch.thread().progressUpdate(progress, 0.5F);
+    QCOMPARE(batch.percent("progressBarTotal"), shown);
+    QCOMPARE(batch.percent("progressBarCurrent"), 50);
+    Q_EMIT batch.thread().progressUpdate(0.5F, progress);
+    QCOMPARE(batch.percent("progressBarCurrent"), shown);
+    QCOMPARE(batch.percent("progressBarTotal"), 50);
+}
+
+void BatchProcessingDialogTest::cancelling_isAskedFor_andNoChangesNothing_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("button") << "button";
+    QTest::newRow("closing") << "closing";
+    QTest::newRow("escape") << "escape";
+}
+
+void BatchProcessingDialogTest::cancelling_isAskedFor_andNoChangesNothing()
+{
+    QFETCH(const QString, way);
+    const TestDir dir;
+    RunningBatch batch;
+    addLongJob(batch, dir.path());
+    batch.exec([&] {
+        SeenBox box;
+        answerNextBox(QMessageBox::No, box);
+        if (way == QLatin1String("button")) {
+            QTest::mouseClick(&batch.button(), Qt::LeftButton);
+        } else if (way == QLatin1String("closing")) {
+            QVERIFY(!batch.dialog().close());
+        } else {
+            QTest::keyClick(&batch.dialog(), Qt::Key_Escape);
+        }
+        QCOMPARE(box.title, QStringLiteral("Cancel Batch Processing"));
+        QCOMPARE(box.text, QStringLiteral("Are you sure you want to cancel batch processing?\n"));
+        QCOMPARE(int(box.buttons), int(QMessageBox::Yes | QMessageBox::No));
+        QCOMPARE(box.defaultButton, QMessageBox::Yes);
+        QCOMPARE(box.parent, &batch.dialog());
+        QVERIFY(batch.dialog().isVisible());
+        QVERIFY(batch.thread().isRunning());
+        QVERIFY(!batch.thread().isInterruptionRequested());
+        QCOMPARE(batch.button().text(), QStringLiteral("Cancel"));
+    });
+}
+
+void BatchProcessingDialogTest::cancelling_endsTheBatch()
+{
+    const TestDir dir;
+    RunningBatch batch;
+    addLongJob(batch, dir.path());
+    batch.addJob(goodVideo(), dir.path());
+    batch.exec([&] {
+        SeenBox box;
+        answerNextBox(QMessageBox::Yes, box);
+        batch.button().click();
+        QVERIFY(batch.thread().isInterruptionRequested());
+        QVERIFY(batch.dialog().isVisible());
+        QVERIFY(batch.waitForEnd());
+        QVERIFY(batch.dialog().isVisible());
+        QCOMPARE(batch.log(), complete() + QLatin1Char('\n'));
+        QCOMPARE(batch.labelText("statusLabel"), complete());
+        QVERIFY(batch.percent("progressBarTotal") < 50);
+        batch.button().click();
+        QVERIFY(!batch.dialog().isVisible());
+    });
+    QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("h264_bframes-.jpeg"))));
+}
+
+void BatchProcessingDialogTest::returnKey_closesWhatIsDone_andCancelsNothing()
+{
+    const TestDir dir;
+    RunningBatch batch;
+    addLongJob(batch, dir.path()).setIntervalMilliseconds(10000);
+    batch.exec([&] {
+        QTest::keyClick(&batch.dialog(), Qt::Key_Return);
+        QTest::keyClick(&batch.button(), Qt::Key_Return);
+        QVERIFY(!batch.thread().isInterruptionRequested());
+        QVERIFY(batch.waitForEnd());
+        QTest::keyClick(&batch.dialog(), Qt::Key_Return);
+        QVERIFY(!batch.dialog().isVisible());
+    });
+}
+
+void BatchProcessingDialogTest::batch_isStopped_whenTheDialogEnds()
+{
+    const TestDir dir;
+    BatchWorkerConfig config;
+    config.setSource(samplePath(QStringLiteral("h264_gop250.mp4")));
+    config.setFileOutputPath(dir.path());
+    config.setIntervalMilliseconds(250);
+    auto dialog = std::make_unique<BatchProcessingDialog>();
+    dialog->addWorkerWithConfig(&config);
+    dialog->findChild<BatchThread*>()->start();
+    QTRY_VERIFY(!filesIn(dir.path()).isEmpty());
+    dialog.reset();
+    const QStringList files = filesIn(dir.path());
+    QCoreApplication::processEvents();
+    QCOMPARE(filesIn(dir.path()), files);
+}
+
+/// As in the program, with its style sheet.
+void BatchProcessingDialogTest::largeFonts_areNotCutOff()
+{
+    QFile styles(QStringLiteral(":/Styles.qss"));
+    QVERIFY(styles.open(QIODevice::ReadOnly));
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(before.pointSizeF() * 1.5);
+    QApplication::setFont(large);
+    {
+        RunningBatch batch;
+        batch.dialog().setStyleSheet(QString::fromLatin1(styles.readAll()));
+        batch.dialog().show();
+        for (const char* const name : {"progressBarCurrent", "progressBarTotal", "statusLabel",
+                                       "currentVideoLabel", "doneButton"}) {
+            const auto& widget = batch.find<QWidget>(name);
+            QVERIFY2(widget.height() >= widget.fontMetrics().height(), name);
+        }
+        QVERIFY(batch.button().width() >= batch.button().sizeHint().width());
+        batch.dialog().hide();
+    }
+    QApplication::setFont(before);
+}
+
+QTEST_MAIN(BatchProcessingDialogTest)
+#include "BatchProcessingDialogTest.moc"

@@ -1,0 +1,337 @@
+#include "batch/BatchThread.h"
+#include "tests/batch/dialogs/RunningBatch.h"
+#include "tests/support/ColourSamples.h"
+#include "tests/support/FrameNumber.h"
+#include "tests/support/RunProgram.h"
+#include "tests/support/Samples.h"
+#include "tests/support/TestDir.h"
+#include "video/FrameGrabber.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QTest>
+#include <QTimer>
+
+#include <atomic>
+#include <memory>
+
+using testsupport::RunningBatch;
+using testsupport::Sample;
+using testsupport::samplePath;
+using testsupport::TestDir;
+using testsupport::Trait;
+
+namespace {
+
+QStringList filesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+/// A folder within `dir` for each job, since many samples share their base names.
+QString makeFolder(const TestDir& dir, const QString& name)
+{
+    if (!QDir(dir.path()).mkpath(name)) {
+        qFatal("cannot make a folder");
+    }
+    return dir.filePath(name);
+}
+
+QString copySample(const QString& sample, const TestDir& dir, const QString& name)
+{
+    QString path = dir.filePath(name);
+    if (!QFile::copy(samplePath(sample), path)) {
+        qFatal("cannot copy %s", qPrintable(sample));
+    }
+    return path;
+}
+
+QStringList allSampleFiles()
+{
+    QStringList files;
+    for (const QList<Sample>& list : {testsupport::allVideoSamples(), testsupport::noVideoSamples(),
+                                      testsupport::brokenSamples()}) {
+        for (const Sample& sample : list) {
+            files.append(sample.file);
+        }
+    }
+    for (const testsupport::ColourSample& sample : testsupport::colourSamples()) {
+        files.append(sample.file);
+    }
+    return files;
+}
+
+/// Whether a single frame can be taken out of the middle: not of videos below half a second, nor
+/// where no whole picture comes anywhere near it.
+bool givesAnImage(const Sample& sample)
+{
+    return testsupport::frameTimeMs(sample, sample.frames - 1) > 450 &&
+           !sample.has(Trait::IntraRefresh);
+}
+
+/// The large sample over and over, since by itself it is too short for a batch.
+QString makeLongLargeVideo(const TestDir& dir, const QString& sample)
+{
+    QString path = dir.filePath(sample);
+    const bool isMade =
+        testsupport::runProgram(QStringLiteral("ffmpeg"),
+                                {QStringLiteral("-v"), QStringLiteral("error"),
+                                 QStringLiteral("-stream_loop"), QStringLiteral("7"),
+                                 QStringLiteral("-i"), samplePath(sample), QStringLiteral("-c"),
+                                 QStringLiteral("copy"), path})
+            .succeeded();
+    return isMade ? path : QString();
+}
+
+/// How often the only job of the batch has gone to a position.
+std::shared_ptr<std::atomic<int>> countPositions(const RunningBatch& batch)
+{
+    auto count = std::make_shared<std::atomic<int>>(0);
+    auto* const grabber = batch.thread().findChild<BatchWorker*>()->findChild<FrameGrabber*>();
+    QObject::connect(
+        grabber, &FrameGrabber::positionChanged, grabber, [count] { ++*count; },
+        Qt::DirectConnection);
+    return count;
+}
+
+BatchWorkerConfig& addSpreadJob(RunningBatch& batch, const QString& video, const QString& folder,
+                                int images)
+{
+    BatchWorkerConfig& config = batch.addJob(video, folder);
+    config.setIntervalType(BatchWorkerConfig::SpreadImages);
+    config.setIntervalImages(images);
+    return config;
+}
+
+/// The longest time that an event had to wait while it lives.
+class Heartbeat : public QObject
+{
+public:
+    Heartbeat()
+    {
+        connect(&m_timer, &QTimer::timeout, this,
+                [this] { m_longestMs = qMax(m_longestMs, m_clock.restart()); });
+        m_clock.start();
+        m_timer.start(5);
+    }
+    qint64 longestMs() const { return m_longestMs; }
+
+private:
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    qint64 m_longestMs = 0;
+};
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+/// Sanitizers make every step several times as long.
+constexpr qint64 longestWaitMs = 2000;
+#else
+/// What a user does not yet take for a window that hangs.
+constexpr qint64 longestWaitMs = 200;
+#endif
+
+/// The longest wait for an event while images are taken out of a video; -1 if some are missing.
+qint64 longestWaitDuring(const QString& video)
+{
+    const TestDir images;
+    RunningBatch batch;
+    addSpreadJob(batch, video, images.path(), 12);
+    const Heartbeat heartbeat;
+    const bool hasEnded = batch.execToItsEnd();
+    return hasEnded && filesIn(images.path()).size() == 12 ? heartbeat.longestMs() : -1;
+}
+
+} // namespace
+
+class BatchProcessingVideosTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everySample_givesItsImageOrALogLine();
+    void cancelling_leavesWholeImages_andNoMorePositions();
+    void window_staysResponsive_duringLargeVideos_data();
+    void window_staysResponsive_duringLargeVideos();
+    void deletedVideo_isLogged_andTheOthersGoOn();
+    void videoDeletedWhileItRuns_doesNotStopTheBatch();
+    void vanishedFolder_isLogged_andTheOthersGoOn();
+    void readOnlyFolder_isLogged();
+};
+
+void BatchProcessingVideosTest::everySample_givesItsImageOrALogLine()
+{
+    const TestDir dir;
+    RunningBatch batch;
+    const QStringList files = allSampleFiles();
+    for (int i = 0; i < files.size(); ++i) {
+        batch.addJob(samplePath(files.at(i)), makeFolder(dir, QString::number(i)));
+    }
+    QVERIFY(batch.execToItsEnd());
+    const QStringList lines = batch.logLines();
+    QCOMPARE(lines.last(), QStringLiteral("Processing Complete"));
+    int failures = 0;
+    for (int i = 0; i < files.size(); ++i) {
+        const QString& file = files.at(i);
+        const QString folder = dir.filePath(QString::number(i));
+        const QStringList images = filesIn(folder);
+        const int errors = lines.filter(samplePath(file) + QStringLiteral(": ")).size();
+        QVERIFY2(images.size() + errors == 1, qPrintable(file));
+        for (const QString& image : images) {
+            QVERIFY2(!QImage(QDir(folder).filePath(image)).isNull(), qPrintable(file));
+        }
+        failures += errors;
+    }
+    QCOMPARE(lines.size(), failures + 1);
+
+    const QList<Sample>& goodOnes = testsupport::allVideoSamples();
+    for (int i = 0; i < goodOnes.size(); ++i) {
+        const QString folder = dir.filePath(QString::number(i));
+        const QStringList images = filesIn(folder);
+        QVERIFY2(images.isEmpty() != givesAnImage(goodOnes.at(i)), qPrintable(files.at(i)));
+        for (const QString& image : images) {
+            const QImage picture(QDir(folder).filePath(image));
+            QVERIFY2(testsupport::frameNumber(picture).has_value(), qPrintable(files.at(i)));
+        }
+    }
+}
+
+/// Large images take long to be written, so that most cancels come in the middle of one.
+void BatchProcessingVideosTest::cancelling_leavesWholeImages_andNoMorePositions()
+{
+    const TestDir dir;
+    const QString video = makeLongLargeVideo(dir, QStringLiteral("h264_2160p.mp4"));
+    QVERIFY(!video.isEmpty());
+    const QString folder = makeFolder(dir, QStringLiteral("images"));
+    RunningBatch batch;
+    BatchWorkerConfig& config = addSpreadJob(batch, video, folder, 1000);
+    config.imageProfile()->setSameSizeAsVideo(true);
+    config.filenameProfile()->setFileOutputType(QStringLiteral("png"));
+    const auto positions = countPositions(batch);
+    int before = 0;
+    QStringList images;
+    batch.exec([&] {
+        QVERIFY(QTest::qWaitFor([&folder] { return filesIn(folder).size() > 1; }, 60000));
+        batch.dialog().abort();
+        before = *positions;
+        images = filesIn(folder);
+        QVERIFY(batch.waitForEnd());
+    });
+    QVERIFY(*positions - before <= 1);
+    QCOMPARE(filesIn(folder), images);
+    for (const QString& image : qAsConst(images)) {
+        QCOMPARE(QImage(QDir(folder).filePath(image)).size(), QSize(3840, 2160));
+    }
+    QCOMPARE(batch.logLines(), QStringList{QStringLiteral("Processing Complete")});
+}
+
+void BatchProcessingVideosTest::window_staysResponsive_duringLargeVideos_data()
+{
+    QTest::addColumn<QString>("sample");
+    QTest::newRow("H.264") << "h264_2160p.mp4";
+    QTest::newRow("HEVC") << "hevc_2160p.mp4";
+}
+
+/// A busy machine may hold one run up; what holds up every one is our own.
+void BatchProcessingVideosTest::window_staysResponsive_duringLargeVideos()
+{
+    QFETCH(const QString, sample);
+    const TestDir dir;
+    const QString video = makeLongLargeVideo(dir, sample);
+    QVERIFY(!video.isEmpty());
+    qint64 wait = longestWaitMs + 1;
+    for (int attempt = 0; attempt < 5 && wait > longestWaitMs; ++attempt) {
+        wait = longestWaitDuring(video);
+        QVERIFY(wait >= 0);
+    }
+    QVERIFY2(wait <= longestWaitMs, qPrintable(QString::number(wait)));
+}
+
+void BatchProcessingVideosTest::deletedVideo_isLogged_andTheOthersGoOn()
+{
+    const TestDir dir;
+    const QString doomed =
+        copySample(QStringLiteral("h264_bframes.mp4"), dir, QStringLiteral("doomed.mp4"));
+    const QString folder = makeFolder(dir, QStringLiteral("images"));
+    RunningBatch batch;
+    addSpreadJob(batch, samplePath(QStringLiteral("mjpeg.avi")), folder, 4);
+    batch.addJob(doomed, folder);
+    batch.addJob(samplePath(QStringLiteral("mpeg4.mp4")), folder);
+    batch.exec([&] {
+        QVERIFY(QTest::qWaitFor([&folder] { return !filesIn(folder).isEmpty(); }, 60000));
+        QVERIFY(QFile::remove(doomed));
+        QVERIFY(batch.waitForEnd());
+    });
+    QCOMPARE(batch.logLines(), (QStringList{doomed + QStringLiteral(": Could not open file"),
+                                            QStringLiteral("Processing Complete")}));
+    QCOMPARE(filesIn(folder).size(), 5);
+}
+
+/// Where a file can be deleted while it is open, it can still be read.
+void BatchProcessingVideosTest::videoDeletedWhileItRuns_doesNotStopTheBatch()
+{
+    const TestDir dir;
+    const QString doomed =
+        copySample(QStringLiteral("h264_gop250.mp4"), dir, QStringLiteral("doomed.mp4"));
+    const QString folder = makeFolder(dir, QStringLiteral("images"));
+    RunningBatch batch;
+    addSpreadJob(batch, doomed, folder, 6);
+    batch.exec([&] {
+        QVERIFY(QTest::qWaitFor([&folder] { return !filesIn(folder).isEmpty(); }, 60000));
+        QVERIFY(QFile::remove(doomed));
+        QVERIFY(batch.waitForEnd());
+    });
+    const QStringList lines = batch.logLines();
+    QCOMPARE(lines.last(), QStringLiteral("Processing Complete"));
+    const int errors = lines.filter(doomed + QStringLiteral(": Frame extraction error ")).size();
+    QCOMPARE(lines.size(), errors + 1);
+    QCOMPARE(filesIn(folder).size() + errors, 6);
+}
+
+void BatchProcessingVideosTest::vanishedFolder_isLogged_andTheOthersGoOn()
+{
+    const TestDir dir;
+    const QString video = samplePath(QStringLiteral("h264_gop250.mp4"));
+    const QString doomed = makeFolder(dir, QStringLiteral("doomed"));
+    const QString folder = makeFolder(dir, QStringLiteral("images"));
+    RunningBatch batch;
+    addSpreadJob(batch, video, doomed, 6);
+    batch.addJob(samplePath(QStringLiteral("mpeg4.mp4")), folder);
+    int saved = 0;
+    batch.exec([&] {
+        QVERIFY(QTest::qWaitFor([&doomed] { return !filesIn(doomed).isEmpty(); }, 60000));
+        saved = filesIn(doomed).size();
+        QVERIFY(QDir(doomed).removeRecursively());
+        QVERIFY(batch.waitForEnd());
+    });
+    const QStringList lines = batch.logLines();
+    const QString head = video + QStringLiteral(": Could not save ") + doomed;
+    QCOMPARE(lines.filter(head).size(), 6 - saved);
+    QCOMPARE(lines.size(), 6 - saved + 1);
+    QVERIFY(!QFile::exists(doomed));
+    QCOMPARE(filesIn(folder).size(), 1);
+}
+
+void BatchProcessingVideosTest::readOnlyFolder_isLogged()
+{
+    const TestDir dir;
+    QString folder = makeFolder(dir, QStringLiteral("images"));
+    QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    if (QFileInfo(folder).isWritable()) {
+        // Permissions do not stop the superuser, but nobody makes files here.
+        folder = QStringLiteral("/proc");
+    }
+    const QString video = samplePath(QStringLiteral("mpeg4.mp4"));
+    RunningBatch batch;
+    batch.addJob(video, folder);
+    QVERIFY(batch.execToItsEnd());
+    QCOMPARE(batch.logLines(),
+             (QStringList{video + QStringLiteral(": Could not save ") +
+                              QDir(folder).filePath(QStringLiteral("mpeg4-.jpeg")),
+                          QStringLiteral("Processing Complete")}));
+}
+
+QTEST_MAIN(BatchProcessingVideosTest)
+#include "BatchProcessingVideosTest.moc"
