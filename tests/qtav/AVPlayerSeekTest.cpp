@@ -10,6 +10,12 @@ using namespace playing;
 using QtAV::AVPlayer;
 using testsupport::Sample;
 
+namespace {
+
+constexpr int Moves = 1000;
+
+} // namespace
+
 /// Which frame a player shows after seeks and steps, with the files of several formats.
 class AVPlayerSeekTest : public QObject
 {
@@ -20,13 +26,17 @@ private slots:
     void steps_meetEveryFrameOnce_toTheEndAndBack();
     void steps_addUp_whenNobodyWaits();
     void step_pauses_whilePlaying_andGoesFromTheFrameOnScreen();
+    void mixedStepsAndSeeks_endOnTheRightFrame_data();
     void mixedStepsAndSeeks_endOnTheRightFrame();
     void positions_areClamped();
     void seek_showsTheFirstFrameAtOrAfter_data();
     void seek_showsTheFirstFrameAtOrAfter();
     void seek_beforeTheFileIsOpen_isCarriedOut();
     void seek_playsOn_whilePlaying();
+    void newestSeek_wins_andAloneIsAnswered_data();
     void newestSeek_wins_andAloneIsAnswered();
+    void newestSeek_wins_whenOthersAreAnswered();
+    void seeks_leaveTheEnd_andReturnToIt();
     void truncatedFile_canBeSoughtAndStepped();
 };
 
@@ -34,7 +44,8 @@ void AVPlayerSeekTest::steps_meetEveryFrameOnce_toTheEndAndBack_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"h264_bframes.mp4", "variable_rate.mp4", "h264_open_gop_bframes.mp4",
-                             "mpeg2.ts", "h264_gop250.mp4"})
+                             "mpeg2.ts", "h264_gop250.mp4", "variable_rate.mkv",
+                             "hevc_open_gop.mp4", "h264.ts", "mpeg4_packed_bframes.avi"})
         QTest::newRow(file) << QString::fromLatin1(file);
 }
 
@@ -90,30 +101,51 @@ void AVPlayerSeekTest::step_pauses_whilePlaying_andGoesFromTheFrameOnScreen()
     QCOMPARE(stage.number(), later + 1);
 }
 
+void AVPlayerSeekTest::mixedStepsAndSeeks_endOnTheRightFrame_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"h264_bframes.mp4", "variable_rate.mp4", "h264_open_gop_bframes.mp4",
+                             "hevc_open_gop.mp4", "mpeg2.ts", "h264.ts"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+/// A thousand moves: to the next frame, to the one before, to any, and to any with a few steps that
+/// wait for nothing. The cache has room for few frames, so that most are decoded again.
 void AVPlayerSeekTest::mixedStepsAndSeeks_endOnTheRightFrame()
 {
-    const Sample& sample = testsupport::sampleNamed(QStringLiteral("h264_open_gop_bframes.mp4"));
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    const int last = sample.frames - 1;
     Stage stage;
     stage.player.setFrameCacheSize(30 * 320 * 240 * 3 / 2);
-    QVERIFY(stage.open(sample.file));
+    QVERIFY(stage.open(file));
     int n = 0;
     std::mt19937 random(11);
-    for (int i = 0; i < 1000; ++i) {
-        const auto choice = random() % 8;
-        const bool canStep = choice < 4 ? n + 1 < sample.frames : n > 0;
-        if (choice < 7 && !canStep)
-            continue;
-        if (choice < 4) {
+    for (int moves = 0; moves < Moves; ++moves) {
+        const auto choice = random() % 10;
+        if (choice < 4 && n < last) {
             QVERIFY(stage.stepForward());
             ++n;
-        } else if (choice < 7) {
+        } else if (choice < 8 && n > 0) {
             QVERIFY(stage.stepBackward());
             --n;
         } else {
             n = int(random() % quint32(sample.frames));
-            QVERIFY(stage.seek(testsupport::frameTimeMs(sample, n)));
+            const qint64 ms = testsupport::frameTimeMs(sample, n);
+            if (choice < 9) {
+                QVERIFY(stage.seek(ms));
+            } else {
+                const int steps = int(random() % 7) - 3;
+                stage.player.setPosition(ms);
+                for (int i = 0; i < std::abs(steps); ++i)
+                    steps > 0 ? stage.player.stepForward() : stage.player.stepBackward();
+                n = std::clamp(n + steps, 0, last);
+            }
         }
-        const Shown expected{n, testsupport::frameTimeMs(sample, n)};
+        const Shown expected{sample.firstNumber + n, testsupport::frameTimeMs(sample, n)};
+        QSignalSpy presented(&stage.screen, &Screen::presented);
+        while (!(shown(stage.screen.frame) == expected) && presented.wait(Patience)) {
+        }
         QCOMPARE(shown(stage.screen.frame), expected);
         QCOMPARE(stage.player.displayPosition(), expected.ms);
     }
@@ -196,24 +228,72 @@ void AVPlayerSeekTest::seek_playsOn_whilePlaying()
     }
 }
 
+void AVPlayerSeekTest::newestSeek_wins_andAloneIsAnswered_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<qint64>("newest");
+    QTest::addColumn<bool>("plays");
+    const QString whole = QStringLiteral("h264_gop250.mp4");
+    QTest::newRow("paused") << whole << qint64(12000) << false;
+    QTest::newRow("playing") << whole << qint64(12000) << true;
+    QTest::newRow("to the end") << whole << qint64(20760) << false;
+    QTest::newRow("past the end") << whole << qint64(3600000) << false;
+    QTest::newRow("past the end, playing") << whole << qint64(3600000) << true;
+    for (const char* file : {"truncated.mp4", "truncated.ts", "truncated.mkv", "truncated.avi"}) {
+        const QByteArray name(file);
+        QTest::newRow((name + ", what is there").constData())
+            << QString::fromLatin1(file) << qint64(800) << false;
+        QTest::newRow((name + ", what is missing").constData())
+            << QString::fromLatin1(file) << qint64(3600000) << false;
+        QTest::newRow((name + ", what is missing, playing").constData())
+            << QString::fromLatin1(file) << qint64(3600000) << true;
+    }
+}
+
 void AVPlayerSeekTest::newestSeek_wins_andAloneIsAnswered()
+{
+    QFETCH(QString, file);
+    QFETCH(qint64, newest);
+    QFETCH(bool, plays);
+    Stage quiet;
+    QVERIFY(quiet.open(file));
+    QVERIFY(quiet.seek(newest));
+    const Shown expected = shown(quiet.screen.frame);
+    QVERIFY(expected.ms > 0);
+
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    QVERIFY(stage.open(file));
+    if (plays) {
+        stage.player.play();
+        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 2, Patience);
+    }
+    QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
+    std::mt19937 random(5);
+    stage.screen.shown.clear();
+    for (int i = 0; i < 200; ++i)
+        stage.player.seek(qint64(random() % 20000));
+    stage.player.seek(newest);
+    QVERIFY(sought.wait(Patience));
+    QCOMPARE(sought.at(0).at(0).toLongLong(), expected.ms);
+    QCOMPARE(stage.screen.shown.constFirst(), expected);
+    stage.settle();
+    QCOMPARE(sought.count(), 1);
+    if (!plays)
+        QCOMPARE(stage.screen.shown.size(), 1);
+    else if (newest > stage.player.duration())
+        QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    else
+        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+}
+
+/// With the event loop between them each may be answered, but the last one is.
+void AVPlayerSeekTest::newestSeek_wins_whenOthersAreAnswered()
 {
     Stage stage;
     QVERIFY(stage.open(QStringLiteral("h264_gop250.mp4")));
-    stage.screen.shown.clear();
     QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
     std::mt19937 random(5);
-    for (int i = 0; i < 200; ++i)
-        stage.player.seek(qint64(random() % 20000));
-    stage.player.seek(12000);
-    QVERIFY(sought.wait(Patience));
-    stage.settle();
-    QCOMPARE(sought.count(), 1);
-    QCOMPARE(sought.at(0).at(0).toLongLong(), qint64(12000));
-    QCOMPARE(stage.screen.shown.size(), 1);
-    QCOMPARE(stage.number(), 300);
-
-    // With the event loop between them each may be answered, but the last one is.
     for (int i = 0; i < 200; ++i) {
         stage.player.seek(qint64(random() % 20000));
         QCoreApplication::processEvents();
@@ -221,8 +301,30 @@ void AVPlayerSeekTest::newestSeek_wins_andAloneIsAnswered()
     stage.player.seek(4000);
     QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 100, Patience);
     const int answers = sought.count();
+    QVERIFY(answers <= 201);
     stage.settle();
     QCOMPARE(sought.count(), answers);
+}
+
+void AVPlayerSeekTest::seeks_leaveTheEnd_andReturnToIt()
+{
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
+    QVERIFY(stage.seek(3800));
+    for (int round = 0; round < 3; ++round) {
+        stage.player.play();
+        QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+        QCOMPARE(stage.number(), 99);
+        QVERIFY(stage.seek(5000)); // past the end, and there already
+        QCOMPARE(stage.number(), 99);
+        QVERIFY(stage.stepBackward());
+        QCOMPARE(stage.number(), 98);
+        QVERIFY(stage.seek(3720));
+        QCOMPARE(stage.number(), 93);
+        QVERIFY(stage.player.isPaused());
+        QCOMPARE(stage.player.mediaStatus(), QtAV::LoadedMedia);
+    }
 }
 
 void AVPlayerSeekTest::truncatedFile_canBeSoughtAndStepped()
