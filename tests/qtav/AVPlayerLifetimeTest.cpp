@@ -1,8 +1,11 @@
 #include "tests/qtav/Playing.h"
 
+#include <QDir>
+#include <QElapsedTimer>
 #include <QTest>
 
 #include <memory>
+#include <optional>
 #include <random>
 
 using namespace playing;
@@ -15,6 +18,55 @@ void turnEventLoop(int times)
 {
     for (int i = 0; i < times; ++i)
         QCoreApplication::processEvents();
+}
+
+/// Thread sanitizer makes starting and ending threads many times as slow.
+#ifdef __SANITIZE_THREAD__
+constexpr int Rounds = 100;
+#else
+constexpr int Rounds = 500;
+#endif
+
+/// What the process holds that would be missed if it were not given back.
+struct Resources
+{
+    int files;
+    int threads;
+
+    bool operator==(const Resources& other) const
+    {
+        return files == other.files && threads == other.threads;
+    }
+};
+
+char* toString(const Resources& resources)
+{
+    return QTest::toString(
+        QStringLiteral("%1 open files, %2 threads").arg(resources.files).arg(resources.threads));
+}
+
+int entriesIn(const char* folder)
+{
+    return QDir(QString::fromLatin1(folder)).entryList(QDir::AllEntries | QDir::System).size();
+}
+
+/// Once what is being closed is closed; both are 0 on systems that do not tell.
+Resources settledResources()
+{
+    const auto now = [] {
+        return Resources{entriesIn("/proc/self/fd"), entriesIn("/proc/self/task")};
+    };
+    QElapsedTimer quiet;
+    quiet.start();
+    Resources last = now();
+    while (quiet.elapsed() < 500) {
+        QTest::qWait(20);
+        const Resources next = now();
+        if (!(next == last))
+            quiet.restart();
+        last = next;
+    }
+    return last;
 }
 
 } // namespace
@@ -32,6 +84,7 @@ private slots:
     void files_canBeOpenedAndClosed_manyTimes();
     void files_canReplaceEachOther_whileBeingOpened();
     void commands_inAnyOrder_leaveAPlayerThatWorks();
+    void players_comeAndGo_withoutLeavingAnything();
     void frames_outliveThePlayer();
     void player_canBeStoppedAndPlayed_byItsOwnSignals();
 };
@@ -89,13 +142,18 @@ void AVPlayerLifetimeTest::player_canEnd_withAnsweredButUnreadCommands()
 void AVPlayerLifetimeTest::files_canBeOpenedAndClosed_manyTimes()
 {
     Stage stage;
-    for (int round = 0; round < 30; ++round) {
-        const bool other = round % 2;
-        QVERIFY(stage.open(other ? QStringLiteral("vp8.webm") : QStringLiteral("mpeg2.ts")));
+    const QStringList files{QStringLiteral("vp8.webm"), QStringLiteral("mpeg2.ts"),
+                            QStringLiteral("sound.mp4"), QStringLiteral("variable_rate.mkv")};
+    std::optional<Resources> before;
+    for (int round = 0; round < Rounds; ++round) {
+        QVERIFY(stage.open(files.at(round % files.size())));
         QCOMPARE(stage.number(), 0);
         stage.player.stop();
         QVERIFY(!stage.screen.frame.isValid());
+        if (round == files.size())
+            before = settledResources();
     }
+    QCOMPARE(settledResources(), *before);
 }
 
 void AVPlayerLifetimeTest::files_canReplaceEachOther_whileBeingOpened()
@@ -154,6 +212,57 @@ void AVPlayerLifetimeTest::commands_inAnyOrder_leaveAPlayerThatWorks()
     QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
     QVERIFY(stage.seek(2000));
     QCOMPARE(stage.number(), 50);
+}
+
+/// Each round something is begun, and the next round may come before it is done.
+void AVPlayerLifetimeTest::players_comeAndGo_withoutLeavingAnything()
+{
+    const QStringList files{QStringLiteral("h264_bframes.mp4"), QStringLiteral("sound.mp4"),
+                            QStringLiteral("text.mp4"), QStringLiteral("mpeg2.ts"),
+                            QStringLiteral("truncated.mkv")};
+    std::optional<Resources> before;
+    std::mt19937 random(29);
+    auto stage = std::make_unique<Stage>();
+    for (int round = 0; round < Rounds; ++round) {
+        // By then, what is made once for all players has been made.
+        if (round == Rounds / 10) {
+            stage.reset();
+            before = settledResources();
+            stage = std::make_unique<Stage>();
+        }
+        switch (random() % 4) {
+        case 0:
+            stage = std::make_unique<Stage>();
+            break;
+        case 1:
+            stage->player.stop();
+            break;
+        default:
+            break;
+        }
+        stage->player.play(testsupport::samplePath(files.at(int(random() % 5))));
+        turnEventLoop(int(random() % 20));
+        switch (random() % 4) {
+        case 0:
+            stage->player.seek(qint64(random() % 5000));
+            break;
+        case 1:
+            stage->player.stepForward();
+            break;
+        case 2:
+            stage->player.stepBackward();
+            break;
+        default:
+            stage->player.pause();
+            break;
+        }
+        turnEventLoop(int(random() % 20));
+    }
+    QVERIFY(stage->open(files.constFirst()));
+    QVERIFY(stage->seek(2000));
+    QCOMPARE(stage->number(), 50);
+    stage.reset();
+    QCOMPARE(settledResources(), *before);
 }
 
 void AVPlayerLifetimeTest::frames_outliveThePlayer()
