@@ -1,0 +1,251 @@
+// A player with a window, told on standard input what to do, one command a line. Each is answered
+// by one line of JSON once its picture has been painted:
+//
+//   open PATH        plays it, and pauses when its first frame is there
+//   stop
+//   seek MS          to a position in milliseconds
+//   forward          a step to the very next frame
+//   backward         a step to the very frame before
+//   play MS          plays for so long, then pauses
+//   cache MS         fills a frame cache around a position, without the window
+//
+// Opening, seeking and stepping answer {"painted": ms, "position": ms}, which is how long it took
+// to the picture on screen and which picture it is; "seek" adds "finished", the time to
+// seekFinished(). "play" answers how many frames were painted and dropped, "cache" how many there
+// are and what they take. Where something failed, the answer is {"error": text}. compare_player.py
+// runs this beside another player.
+
+#include "bench/support/Sandbox.h"
+#include "qtav/player/FrameSource.h"
+
+#include <QtAV/AVPlayer.h>
+#include <QtAV/VideoOutput.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <iostream>
+#include <string>
+#include <thread>
+#include <utility>
+
+using QtAV::AVPlayer;
+
+namespace {
+
+/// What takes longer has failed.
+constexpr int PatienceMs = 120000;
+
+/// Shows frames in a window and says when one has been painted.
+class Screen : public QtAV::VideoRenderer
+{
+    Q_OBJECT
+
+public:
+    Screen(QtAV::VideoOutput::Drawing drawing, const QSize& size)
+        : m_output(drawing)
+    {
+        m_output.widget()->installEventFilter(this);
+        m_output.widget()->resize(size);
+        m_output.widget()->show();
+    }
+
+    void present(const QtAV::VideoFrame& frame) override
+    {
+        m_awaitsPaint = frame.isValid();
+        m_output.present(frame);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        // The filter comes before the painting: what is queued here comes after it.
+        if (event->type() == QEvent::Paint && std::exchange(m_awaitsPaint, false))
+            QMetaObject::invokeMethod(this, &Screen::painted, Qt::QueuedConnection);
+        return VideoRenderer::eventFilter(watched, event);
+    }
+
+Q_SIGNALS:
+    void painted();
+
+private:
+    QtAV::VideoOutput m_output;
+    bool m_awaitsPaint = false;
+};
+
+double milliseconds(const QElapsedTimer& timer)
+{
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+QJsonObject failure(const QString& text)
+{
+    return {{QStringLiteral("error"), text}};
+}
+
+/// Carries the commands out. While it waits, the event loop runs as it does in the program.
+class Session : public QObject
+{
+    Q_OBJECT
+
+public:
+    Session(QtAV::VideoOutput::Drawing drawing, const QSize& size)
+        : m_screen(drawing, size)
+    {
+        m_player.setRenderer(&m_screen);
+    }
+
+    QJsonObject answer(const QString& command, const QString& argument)
+    {
+        if (command == QLatin1String("open"))
+            return open(argument);
+        if (command == QLatin1String("seek"))
+            return seek(argument.toLongLong());
+        if (command == QLatin1String("forward"))
+            return untilPainted([this] { m_player.stepForward(); });
+        if (command == QLatin1String("backward"))
+            return untilPainted([this] { m_player.stepBackward(); });
+        if (command == QLatin1String("play"))
+            return play(argument.toInt());
+        if (command == QLatin1String("stop"))
+            return stop();
+        if (command == QLatin1String("cache"))
+            return fillCache(argument.toLongLong());
+        return failure(QStringLiteral("unknown command %1").arg(command));
+    }
+
+private:
+    QJsonObject open(const QString& path)
+    {
+        const QJsonObject result = untilPainted([this, path] { m_player.play(path); });
+        m_player.pause();
+        return result;
+    }
+
+    QJsonObject stop()
+    {
+        m_player.stop();
+        return {};
+    }
+
+    QJsonObject seek(qint64 ms)
+    {
+        QElapsedTimer timer;
+        double finished = 0.0;
+        const auto note = [&timer, &finished] { finished = milliseconds(timer); };
+        const auto connection = connect(&m_player, &AVPlayer::seekFinished, this, note);
+        timer.start();
+        QJsonObject result = untilPainted([this, ms] { m_player.setPosition(ms); });
+        disconnect(connection);
+        result.insert(QStringLiteral("finished"), finished);
+        return result;
+    }
+
+    QJsonObject untilPainted(const std::function<void()>& action)
+    {
+        QEventLoop loop;
+        QTimer patience;
+        patience.setSingleShot(true);
+        bool isPainted = false;
+        connect(&m_screen, &Screen::painted, &loop, [&isPainted, &loop] {
+            isPainted = true;
+            loop.quit();
+        });
+        connect(&patience, &QTimer::timeout, &loop, &QEventLoop::quit);
+        patience.start(PatienceMs);
+        QElapsedTimer timer;
+        timer.start();
+        action();
+        loop.exec();
+        const double elapsed = milliseconds(timer);
+        if (!isPainted)
+            return failure(QStringLiteral("no picture: %1").arg(m_player.errorString()));
+        return {{QStringLiteral("painted"), elapsed},
+                {QStringLiteral("position"), m_player.displayedFrame().timestamp() * 1000.0}};
+    }
+
+    QJsonObject play(int ms)
+    {
+        int painted = 0;
+        const int droppedBefore = m_player.statistics().droppedFrames;
+        const auto count = [&painted] { ++painted; };
+        const auto connection = connect(&m_screen, &Screen::painted, this, count);
+        m_player.play();
+        QEventLoop loop;
+        QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+        loop.exec();
+        m_player.pause();
+        disconnect(connection);
+        return {{QStringLiteral("painted"), painted},
+                {QStringLiteral("dropped"), m_player.statistics().droppedFrames - droppedBefore}};
+    }
+
+    QJsonObject fillCache(qint64 ms) const
+    {
+        const auto isCancelled = [] { return false; };
+        QtAV::FrameSource source;
+        QString error;
+        if (!source.open(m_player.file(), m_player.frameCacheSize(), isCancelled, error))
+            return failure(error);
+        const QtAV::FrameSource::Found found = source.frameAt(ms, isCancelled);
+        source.setFocus(found.frame.timestamp());
+        while (source.fillBehind(isCancelled)) {
+        }
+        return {{QStringLiteral("frames"), source.cache().frameCount()},
+                {QStringLiteral("bytes"), source.cache().byteCount()}};
+    }
+
+    Screen m_screen;
+    AVPlayer m_player;
+};
+
+/// Reads commands and has them answered one after the other on the session's thread.
+void readCommands(Session& session)
+{
+    std::string line;
+    while (std::getline(std::cin, line)) {
+        const QString text = QString::fromStdString(line);
+        const QString command = text.section(QLatin1Char(' '), 0, 0);
+        const QString argument = text.section(QLatin1Char(' '), 1);
+        QJsonObject answer;
+        QMetaObject::invokeMethod(
+            &session, [&] { answer = session.answer(command, argument); },
+            Qt::BlockingQueuedConnection);
+        std::cout << QJsonDocument(answer).toJson(QJsonDocument::Compact).constData() << std::endl;
+    }
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const bench::Sandbox sandbox(bench::Sandbox::Display::Own);
+    const QApplication app(argc, argv);
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    const QCommandLineOption openGL(QStringLiteral("opengl"),
+                                    QStringLiteral("Draw with OpenGL instead of the processor."));
+    const QCommandLineOption width(QStringLiteral("width"), QStringLiteral("Of the window."),
+                                   QStringLiteral("pixels"), QStringLiteral("960"));
+    const QCommandLineOption height(QStringLiteral("height"), QStringLiteral("Of the window."),
+                                    QStringLiteral("pixels"), QStringLiteral("540"));
+    parser.addOptions({openGL, width, height});
+    parser.process(app);
+
+    using Drawing = QtAV::VideoOutput::Drawing;
+    Session session(parser.isSet(openGL) ? Drawing::OpenGL : Drawing::Raster,
+                    QSize(parser.value(width).toInt(), parser.value(height).toInt()));
+    std::thread reader([&session] { readCommands(session); });
+    const int result = QApplication::exec();
+    reader.join();
+    return result;
+}
+
+#include "player_times.moc"
