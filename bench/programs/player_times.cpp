@@ -101,6 +101,8 @@ public:
         m_player.setRenderer(&m_screen);
     }
 
+    void setFrameCacheSize(qint64 bytes) { m_player.setFrameCacheSize(bytes); }
+
     QJsonObject answer(const QString& command, const QString& argument)
     {
         if (command == QLatin1String("open"))
@@ -236,12 +238,17 @@ int main(int argc, char** argv)
                                    QStringLiteral("pixels"), QStringLiteral("960"));
     const QCommandLineOption height(QStringLiteral("height"), QStringLiteral("Of the window."),
                                     QStringLiteral("pixels"), QStringLiteral("540"));
-    parser.addOptions({openGL, width, height});
+    const QCommandLineOption cache(QStringLiteral("cache"),
+                                   QStringLiteral("Most memory for the frame cache."),
+                                   QStringLiteral("MiB"));
+    parser.addOptions({openGL, width, height, cache});
     parser.process(app);
 
     using Drawing = QtAV::VideoOutput::Drawing;
     Session session(parser.isSet(openGL) ? Drawing::OpenGL : Drawing::Raster,
                     QSize(parser.value(width).toInt(), parser.value(height).toInt()));
+    if (parser.isSet(cache))
+        session.setFrameCacheSize(parser.value(cache).toLongLong() << 20);
     std::thread reader([&session] { readCommands(session); });
     const int result = QApplication::exec();
     reader.join();

@@ -16,12 +16,14 @@ constexpr qint64 SmallestStepBackMs = 500;
 /// To a frame not further ahead than this, decoding on is cheaper than starting at a key frame.
 constexpr double NearSeconds = 1.0;
 
-/// So many frames before a target are decoded with it, for the steps back that often follow.
-constexpr qint64 FramesBeforeTarget = 16;
+/// So many frames before a target are decoded with it, for the step back that often follows. Each
+/// costs a part of the seek's time; those before them are decoded behind the seek's back.
+constexpr qint64 FramesBeforeTarget = 4;
 
-/// The part of the cache that frames before the focus should take: less than what eviction leaves
-/// them, or filling would never end.
+/// Filling begins when frames before the focus take less than this part of the cache, and adds the
+/// other part: together less than what eviction leaves them, or filling would never end.
 constexpr int PartBehind = 3;
+constexpr int PartFilled = 2;
 
 constexpr int UsualGapMs = 40;
 
@@ -77,14 +79,17 @@ void FrameSource::setFocus(double seconds)
     m_cache.setFocus(seconds);
 }
 
-void FrameSource::keep(const VideoCursor::Step& step)
+/// Frames with others left out between them answer no question: they would only take the memory of
+/// those that do.
+void FrameSource::keep(const VideoCursor::Step& step, const VideoCursor& cursor)
 {
     const double time = step.frame.timestamp();
     if (step.isFirstOfVideo)
         m_cache.setFirst(time);
     if (step.predecessor)
         m_longestGapMs = std::max(m_longestGapMs, toMilliseconds(time - *step.predecessor));
-    m_cache.insert(step.frame, step.predecessor);
+    if (toMilliseconds(time) >= cursor.completeFrom())
+        m_cache.insert(step.frame, step.predecessor);
 }
 
 FrameSource::Found FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelled)
@@ -190,7 +195,7 @@ FrameSource::Walked FrameSource::walkOn(const IsReached& isReached, const IsCanc
             noteEnd();
             return Walked::End;
         }
-        keep(step);
+        keep(step, m_ahead);
         m_aheadFrame = step.frame;
         if (!isReached(step.frame))
             continue;
@@ -256,7 +261,8 @@ void FrameSource::landBehind()
     m_behind.seek(std::max<qint64>(0, targetMs - 1 - m_walk->stepBackMs));
     // What the cache would throw away again need not be decoded.
     const qint64 frameBytes = std::max<qint64>(1, m_aheadFrame.byteCount());
-    const qint64 frames = std::max(FramesBeforeTarget, m_cache.mostBytes() / frameBytes);
+    const qint64 room = m_cache.mostBytes() / PartFilled / frameBytes;
+    const qint64 frames = std::max(FramesBeforeTarget, room);
     m_behind.setCompleteFrom(m_walk->leavesOut ? targetMs - lengthOf(frames) : 0);
     m_walk->previous = VideoFrame();
 }
@@ -268,7 +274,7 @@ FrameSource::Filling FrameSource::walkOnBehind(const IsCancelled& isCancelled)
         return Filling::Cancelled;
     const bool isFrame = step.kind == VideoCursor::Step::Kind::Frame;
     if (isFrame)
-        keep(step);
+        keep(step, m_behind);
     if (isFrame && step.frame.timestamp() < m_walk->target) {
         m_walk->previous = step.frame;
         return Filling::GoesOn;
@@ -287,11 +293,19 @@ FrameSource::Filling FrameSource::walkOnBehind(const IsCancelled& isCancelled)
 
 bool FrameSource::fillBehind(const IsCancelled& isCancelled)
 {
-    if (!m_walk && !startFilling())
+    if (!m_walk && !startFilling()) {
+        restBehind();
         return false;
+    }
     if (walkOnBehind(isCancelled) == Filling::Done)
         m_walk.reset();
     return true;
+}
+
+void FrameSource::restBehind()
+{
+    if (m_behind.isOpen())
+        m_behind.rest();
 }
 
 bool FrameSource::startFilling()

@@ -57,7 +57,8 @@ public:
     /// The time in seconds around which frames are kept and before which they are decoded ahead.
     void setFocus(double seconds);
 
-    /// Decodes one of the frames before the focus. False when enough of them are there.
+    /// Decodes one of the frames before the focus. False when enough of them are there; what the
+    /// second cursor's decoder had taken is then given back.
     [[nodiscard]] bool fillBehind(const IsCancelled& isCancelled);
 
     const FrameCache& cache() const { return m_cache; }
@@ -88,8 +89,9 @@ private:
     void landBehind();
     Filling walkOnBehind(const IsCancelled& isCancelled);
     bool startFilling();
+    void restBehind();
 
-    void keep(const VideoCursor::Step& step);
+    void keep(const VideoCursor::Step& step, const VideoCursor& cursor);
     qint64 lengthOf(qint64 frames) const { return frames * m_longestGapMs; }
 
     QString m_path;

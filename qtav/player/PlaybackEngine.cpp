@@ -211,6 +211,7 @@ void PlaybackEngine::becomeCurrent(const VideoFrame& frame)
     m_catchUpTo = 0.0;
     forgetQueue();
     m_source.setFocus(frame.timestamp());
+    m_restsUntil = std::chrono::steady_clock::now() + RestBeforeFilling;
 }
 
 void PlaybackEngine::carryOutSeek(Lock& lock)
@@ -293,6 +294,10 @@ void PlaybackEngine::decodeAhead(Lock& lock)
 
 void PlaybackEngine::decodeBehind(Lock& lock)
 {
+    if (std::chrono::steady_clock::now() < m_restsUntil) {
+        m_changed.wait_until(lock, m_restsUntil);
+        return;
+    }
     m_source.setFocus(m_current.timestamp());
     lock.unlock();
     const bool goesOn = m_source.fillBehind([this] { return m_commandWaits.load(); });

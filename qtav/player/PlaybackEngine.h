@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -61,6 +62,10 @@ public:
 
     /// More would only make seeking while playing slower to begin.
     static constexpr size_t MostQueuedFrames = 8;
+
+    /// Decoding what lies before the current frame begins so long after that was given: until then
+    /// it needs the processor's cores to get to the screen, or to be followed by the next step.
+    static constexpr std::chrono::milliseconds RestBeforeFilling{25};
 
     /// @param wake  called on the decoding thread when there are answers, or frames for an owner
     ///              who found the queue empty. Must not call the engine.
@@ -141,6 +146,7 @@ private:
     std::deque<VideoFrame> m_queue;
     quint64 m_queueGeneration = 0; ///< changes when what is being decoded no longer belongs there
     double m_catchUpTo = 0.0;      ///< the time of the sound in seconds; 0 for none to follow
+    std::chrono::steady_clock::time_point m_restsUntil; ///< nothing is filled before
     bool m_closes = false;
     bool m_playing = false;
     bool m_ended = false; ///< the last frame is in the queue, or was

@@ -14,9 +14,12 @@ namespace {
 constexpr int DiscardDefault = 0;
 constexpr int DiscardNonReference = 8;
 
-QVariantHash decoderOptions(int discard)
+/// Where frames are left out, the key frame is not looked at either: it need not come out early.
+QVariantHash decoderOptions(bool skips)
 {
-    return {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), discard}}}};
+    const int discard = skips ? DiscardNonReference : DiscardDefault;
+    return {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), discard}}},
+            {QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), !skips}}}};
 }
 
 } // namespace
@@ -58,7 +61,10 @@ void VideoCursor::seek(qint64 ms)
 {
     // What a seek could not do shows in the packets that follow.
     static_cast<void>(m_demuxer.seek(ms));
-    m_decoder->flush();
+    if (m_decoder->isOpen())
+        m_decoder->flush();
+    else if (!m_decoder->open())
+        qWarning("A decoder cannot be opened again");
     m_completeFrom = 0;
     m_leftOutUpTo = -1.0;
     m_startedAtZero = ms <= 0;
@@ -97,7 +103,7 @@ void VideoCursor::chooseSkipping(const Packet& packet)
     if (skips == m_skips)
         return;
     m_skips = skips;
-    m_decoder->setOptions(decoderOptions(skips ? DiscardNonReference : DiscardDefault));
+    m_decoder->setOptions(decoderOptions(skips));
 }
 
 VideoCursor::Step VideoCursor::stepTo(const VideoFrame& frame)

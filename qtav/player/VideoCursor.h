@@ -52,6 +52,11 @@ public:
     /// From here on, frames before this position in milliseconds may be left out where no other
     /// frame needs them, which saves time.
     void setCompleteFrom(qint64 ms) { m_completeFrom = ms; }
+    qint64 completeFrom() const { return m_completeFrom; }
+
+    /// Gives the decoder's memory back, which is that of several pictures, until the next seek():
+    /// there must be one before next().
+    void rest() { m_decoder->close(); }
 
     [[nodiscard]] Step next(const IsCancelled& isCancelled);
 

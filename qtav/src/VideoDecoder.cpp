@@ -45,6 +45,8 @@ public:
     };
 
     bool sendAndReceive(const AVPacket* packet);
+    bool wantsKeyFrameAtOnce() const;
+    void startBehindKeyFrame(const AVPacket& packet);
     bool startAtKeyFrame(const Packet& packet);
     bool resumeAfterKeyFrame();
     void receiveAll(bool& failed);
@@ -60,7 +62,8 @@ public:
 
     Start start = Start::NeedsKeyFrame;
     std::shared_ptr<const PacketHandle> keyPacket;
-    /// The presentation ticks of the key frame that comes out a second time.
+    /// Frames up to these presentation ticks are dropped: those of the key frame that comes out a
+    /// second time, or just before one that comes out once.
     qint64 repeatedTicks = AV_NOPTS_VALUE;
     bool draining = false;
     bool hasSubLayers = false;
@@ -190,11 +193,15 @@ bool VideoDecoder::decode(const Packet& packet)
         return true;
 
     bool succeeded = true;
-    if (d->start == Private::Start::NeedsKeyFrame && packet.hasKeyFrame) {
+    const bool isFirstKeyFrame =
+        d->start == Private::Start::NeedsKeyFrame && packet.hasKeyFrame && handle;
+    if (isFirstKeyFrame && d->wantsKeyFrameAtOnce()) {
         succeeded = d->startAtKeyFrame(packet);
     } else {
         if (d->start == Private::Start::KeyFrameTaken)
             succeeded = d->resumeAfterKeyFrame();
+        if (isFirstKeyFrame)
+            d->startBehindKeyFrame(*handle->get());
         d->start = Private::Start::Running;
         if (handle)
             d->watchSubLayers(*handle->get());
@@ -205,6 +212,21 @@ bool VideoDecoder::decode(const Packet& packet)
         d->frames.pop_front();
     }
     return succeeded;
+}
+
+bool VideoDecoder::Private::wantsKeyFrameAtOnce() const
+{
+    const QVariantHash section = options.value(QStringLiteral("start")).toHash();
+    return section.value(QStringLiteral("key_frame_at_once"), true).toBool();
+}
+
+/// The key frame comes out when FFmpeg has got packets enough for it. What leads up to an open
+/// group's key frame cannot be decoded from there.
+void VideoDecoder::Private::startBehindKeyFrame(const AVPacket& packet)
+{
+    nextTicks = presentationTicks(packet);
+    if (nextTicks != AV_NOPTS_VALUE)
+        repeatedTicks = nextTicks - 1;
 }
 
 /// A decoder that re-orders frames or decodes several at a time holds the key frame back.

@@ -35,7 +35,8 @@ public:
 
     /// Options by section and key. Understood, from the next packet on: section "avcodec" with
     /// the integers "skip_frame" and "skip_loop_filter" (FFmpeg's AVDiscard values), and, before
-    /// open(), "threads" (0 = as many as there are cores). All others are ignored.
+    /// open(), "threads" (0 = as many as there are cores); section "start" with the bool
+    /// "key_frame_at_once", true unless said. All others are ignored.
     void setOptions(const QVariantHash& options);
     QVariantHash options() const;
 
@@ -43,8 +44,9 @@ public:
     void flush();
 
     /// Decodes one packet. True also when no frame came out yet, which frame() then shows by
-    /// being invalid. The first key packet after open() or flush() gives its frame at once. False
-    /// for a packet that is damaged; the decoder stays usable.
+    /// being invalid. The first key packet after open() or flush() gives its frame at once; where
+    /// only later frames matter, the option "key_frame_at_once" saves what that costs. False for a
+    /// packet that is damaged; the decoder stays usable.
     bool decode(const Packet& packet);
 
     /// The frame of the last decode(), taken away by this call: at most one a packet, in the
