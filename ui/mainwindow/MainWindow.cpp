@@ -7,10 +7,14 @@
 #include <QtAV/AVPlayer.h>
 #include <QtAV/VideoOutput.h>
 
+#include <QAbstractButton>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QGroupBox>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QMimeData>
 
@@ -25,6 +29,15 @@ QDir storedOpenDir(const QSettings& settings)
 void reserveTimeWidth(QLabel& label)
 {
     label.setMinimumWidth(label.fontMetrics().horizontalAdvance(QStringLiteral("00:00:00.000")));
+}
+
+/// A control that the space key presses.
+bool isPressedBySpace(const QWidget* control)
+{
+    const auto* const box = qobject_cast<const QGroupBox*>(control);
+    return qobject_cast<const QAbstractButton*>(control) != nullptr ||
+           qobject_cast<const QComboBox*>(control) != nullptr ||
+           (box != nullptr && box->isCheckable());
 }
 
 } // namespace
@@ -44,6 +57,7 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     // to screen readers they would then stay what they were at that moment, plain areas.
     m_ui->automaticFileNameGroupBox->setChecked(false);
     GroupBoxMargins::apply(*this);
+    shareSpaceKey();
     updateWindowTitle();
     setupPlayer(makeVideoOutput);
     updatePlayButton();
@@ -133,6 +147,30 @@ void MainWindow::alignControls()
     m_ui->snapshotLayout->setAlignment(m_ui->snapshotControlsFrame, Qt::AlignHCenter);
     reserveTimeWidth(*m_ui->positionLabel);
     reserveTimeWidth(*m_ui->durationLabel);
+}
+
+/// Space plays and pauses, but presses the control that somebody went to by Tab. So that a click
+/// never takes the key from the video, it does not take the keyboard along.
+void MainWindow::shareSpaceKey()
+{
+    const auto controls = m_ui->centralWidget->findChildren<QWidget*>();
+    for (QWidget* const control : controls) {
+        if (isPressedBySpace(control)) {
+            control->setFocusPolicy(Qt::TabFocus);
+        }
+    }
+}
+
+bool MainWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && isPressedBySpace(focusWidget())) {
+        const auto& key = *static_cast<const QKeyEvent*>(event);
+        if (key.key() == Qt::Key_Space && key.modifiers() == Qt::NoModifier) {
+            event->accept();
+            return true;
+        }
+    }
+    return QMainWindow::event(event);
 }
 
 void MainWindow::on_actionExit_triggered()

@@ -146,6 +146,7 @@ public Q_SLOTS:
     void retakeFocusAfterDialog();
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -156,6 +157,7 @@ private:
     void connectPlayer();
     void connectTransport();
     void alignControls();
+    void shareSpaceKey();
     void quit();
 
     void followVideoFolder(const QFileInfo& video);

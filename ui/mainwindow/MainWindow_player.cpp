@@ -177,7 +177,7 @@ void MainWindow::closeVideo()
 void MainWindow::showOpenButton(const QString& text)
 {
     m_ui->openVideoLabel->setText(text);
-    m_ui->openVideoLabel->setFocusPolicy(Qt::StrongFocus);
+    m_ui->openVideoLabel->setFocusPolicy(Qt::TabFocus);
     m_ui->openVideoLabel->raise();
 }
 

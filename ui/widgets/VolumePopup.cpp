@@ -27,6 +27,8 @@ VolumePopup::VolumePopup(QWidget* parent)
 {
     m_ui->setupUi(this);
     setFrameStyle(QFrame::WinPanel | QFrame::Raised);
+    // A popup without a focus takes the keys from its window and does nothing with them.
+    m_ui->volumeSlider->setFocus();
 
     // Showing what is remembered is no change: nothing is to be written or reported.
     const QSignalBlocker noChange(m_ui->volumeSlider);

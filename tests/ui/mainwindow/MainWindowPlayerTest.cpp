@@ -6,7 +6,9 @@
 #include <QtAV/AVPlayer.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -22,6 +24,7 @@ class MainWindowPlayerTest : public QObject
 private Q_SLOTS:
     void playPause_goesBothWays();
     void playButton_showsWhatItDoes();
+    void space_pressesTheControlReachedByTab_elseItPlays();
     void step_showsTheNextAndThePreviousFrame();
     void skip_goesASecondAndPauses();
     void skip_endsAtTheStart_whenThereIsNoWholeSecond();
@@ -31,6 +34,7 @@ private Q_SLOTS:
     void slider_staysInTheHand_whileTheVideoGoesOn();
     void duration_dropsDays();
     void volumePopup_standsAboveItsButton();
+    void volumePopup_takesTheKeys();
     void volume_goesToThePlayer();
 };
 
@@ -72,6 +76,28 @@ void MainWindowPlayerTest::playButton_showsWhatItDoes()
     QTRY_COMPARE(looks(), pause);
     window->pause();
     QTRY_COMPARE(looks(), play);
+}
+
+void MainWindowPlayerTest::space_pressesTheControlReachedByTab_elseItPlays()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(
+        window.copyOf(QStringLiteral("h264_gop250.mp4"), QStringLiteral("a.mp4"))));
+    QApplication::setActiveWindow(&window.window());
+    auto& box = window.find<QGroupBox>("automaticFileNameGroupBox");
+    auto& step = window.find<QPushButton>("stepForwardButton");
+    QVERIFY(window.takeSnapshot());
+
+    box.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&box, Qt::Key_Space);
+    QVERIFY(box.isChecked());
+    QVERIFY(!window.player().isPlaying());
+
+    window.find<QWidget>("videoFrame").setFocus();
+    QTest::mouseClick(&step, Qt::LeftButton);
+    QVERIFY(!step.hasFocus());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(window.player().isPlaying());
 }
 
 void MainWindowPlayerTest::step_showsTheNextAndThePreviousFrame()
@@ -191,6 +217,18 @@ void MainWindowPlayerTest::volumePopup_standsAboveItsButton()
     QCOMPARE(popup->x(), at.x() + (button.width() - popup->width()) / 2);
     QCOMPARE(popup->y(), int(at.y() - popup->height() * 1.1));
     popup->close();
+}
+
+void MainWindowPlayerTest::volumePopup_takesTheKeys()
+{
+    OpenWindow window;
+    QApplication::setActiveWindow(&window.window());
+    window->on_volumeButton_clicked();
+    auto& popup = window.find<VolumePopup>("VolumePopup");
+    const int volume = popup.volume();
+    QVERIFY(popup.focusWidget() != nullptr);
+    QTest::keyClick(popup.focusWidget(), Qt::Key_Up);
+    QCOMPARE(popup.volume(), volume + 1);
 }
 
 void MainWindowPlayerTest::volume_goesToThePlayer()
