@@ -138,6 +138,12 @@ void MainWindow::connectTransport()
     connect(m_ui->actionStepForward, &QAction::triggered, this, &MainWindow::stepForward);
     connect(m_ui->snapshotButton, &QPushButton::clicked, this, &MainWindow::snapshotButtonPressed);
     connect(m_ui->saveButton, &QPushButton::clicked, this, &MainWindow::saveButtonPressed);
+    // Not at every key: each folder on the way to the one that is meant would raise the counter.
+    connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this,
+            &MainWindow::updateAutomaticFileNameDisplay);
+    // The field has uses of its own for Space and the keys that take, copy and step.
+    connect(m_ui->outputFolderLineEdit, &QLineEdit::returnPressed, this,
+            [this] { m_ui->videoFrame->setFocus(); });
 }
 
 void MainWindow::alignControls()

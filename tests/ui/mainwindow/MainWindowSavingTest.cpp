@@ -33,6 +33,7 @@ private Q_SLOTS:
     void automaticSaving_makesTheFolder_whenWanted();
     void automaticSaving_makesNothing_whenNotWanted();
     void nextName_isShown_whileSavingIsAutomatic();
+    void nextName_isTheOneOfTheFolder_onceThatIsTyped();
 
     void saveDialog_offersTheImageTypes();
     void saveDialog_proposesTheVideosName();
@@ -222,6 +223,24 @@ void MainWindowSavingTest::nextName_isShown_whileSavingIsAutomatic()
     QCOMPARE(next.text(), QStringLiteral("clip-00001.jpeg"));
     window->closeVideo();
     QVERIFY(!next.isVisible() && !description.isVisible());
+}
+
+void MainWindowSavingTest::nextName_isTheOneOfTheFolder_onceThatIsTyped()
+{
+    Snapshot window;
+    window.setAutomatic();
+    const QLabel& next = window.find<QLabel>("nextFileNameLabel");
+    QCOMPARE(next.text(), QStringLiteral("clip-00001.jpeg"));
+    const QString folder = window.dir().filePath(QStringLiteral("full"));
+    QVERIFY(QDir().mkpath(folder));
+    writeFile(folder + QStringLiteral("/clip-00001.jpeg"), "old");
+    window.setFolder(folder);
+    QApplication::setActiveWindow(&window.window());
+    auto& field = window.find<QLineEdit>("outputFolderLineEdit");
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_Return);
+    QCOMPARE(next.text(), QStringLiteral("clip-00002.jpeg"));
+    QVERIFY(!field.hasFocus());
 }
 
 void MainWindowSavingTest::saveDialog_offersTheImageTypes()
