@@ -87,8 +87,10 @@ class Control:
         return [Control(child) for child in found if child is not None]
 
     def all(self, role=None, name=None, description=None):
-        """The controls inside it, to any depth, of which all that is given is true."""
+        """The controls shown inside it, to any depth, of which all that is given is true."""
         for child in self.children:
+            if not child.is_showing:
+                continue
             if (
                 (role is None or child.role == role)
                 and (name is None or child.name == name)

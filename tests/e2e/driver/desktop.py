@@ -105,6 +105,18 @@ class Desktop:
         """Gives the window that has the keyboard this size, without its frame."""
         self._do("getactivewindow", "windowsize", "--sync", str(width), str(height))
 
+    def window_area(self, title):
+        """Where a window is, with or without a frame; none while there is no such window.
+
+        Popups are to be found so: assistive technology is not told of them.
+        """
+        with contextlib.suppress(subprocess.CalledProcessError):
+            window = self._do("search", "--onlyvisible", "--name", f"^{title}$").split()[-1]
+            lines = self._do("getwindowgeometry", "--shell", window).split()
+            is_ = {key: int(value) for key, value in (line.split("=") for line in lines)}
+            return (is_["X"], is_["Y"], is_["X"] + is_["WIDTH"], is_["Y"] + is_["HEIGHT"])
+        return None
+
     # --- input ---------------------------------------------------------------------------------
 
     def key(self, *keys):
@@ -125,7 +137,8 @@ class Desktop:
 
     def click(self, x, y):
         self.move(x, y)
-        self._do("click", "1")
+        self.press()
+        self.release()
 
     def drag(self, x, y, steps=10):
         """Moves the pointer as a hand does, over the places between."""

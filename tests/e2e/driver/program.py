@@ -82,25 +82,22 @@ class Program:
 
         return wait_until(wanted, missing, limit)
 
+    def _controls(self, role, name, description):
+        with contextlib.suppress(Control.Gone):
+            for window in self._windows():
+                yield from window.all(role, name, description)
+
     def find_all(self, role=None, name=None, description=None):
         """The controls on the screen, in all windows, of which all that is given is true."""
-        try:
-            return [
-                control
-                for window in self._windows()
-                for control in window.all(role, name, description)
-                if control.is_showing
-            ]
-        except Control.Gone:
-            return []
+        return list(self._controls(role, name, description))
 
     def has(self, role=None, name=None, description=None):
-        return bool(self.find_all(role, name, description))
+        return next(self._controls(role, name, description), None) is not None
 
     def find(self, role=None, name=None, description=None):
         """The first control on the screen of that kind, once there is one."""
         return wait_until(
-            lambda: next(iter(self.find_all(role, name, description)), None),
+            lambda: next(self._controls(role, name, description), None),
             lambda: f"no {role or 'control'} {name or ''} {description or ''} on the screen",
         )
 

@@ -1,0 +1,167 @@
+"""Taking snapshots and saving them."""
+
+from PIL import Image
+
+from tests.e2e.driver.case import MorvantileCase
+from tests.e2e.driver.frames import frame_number
+from tests.e2e.driver.waiting import holds_for, wait_until
+
+# How a file of the format begins.
+SIGNATURES = {
+    "jpg": (b"\xff\xd8\xff", "JPEG"),
+    "png": (b"\x89PNG\r\n\x1a\n", "PNG"),
+    "bmp": (b"BM", "BMP"),
+    "tiff": (b"II*\0", "TIFF"),
+}
+
+
+class SavingTest(MorvantileCase):
+
+    def setUp(self):
+        super().setUp()
+        self.program = self.start()
+        self.pictures = self.folder / "pictures"
+        self.pictures.mkdir()
+
+    def test_snapshot_is_the_frame_on_the_screen(self):
+        number = self.open_video()
+        self.take_snapshot(self.program)
+        wait_until(lambda: self.program.shown_snapshot() == number, "another frame is shown")
+        self.desktop.key("ctrl+Right")
+        self.wait_for_frame(self.program, number + 1)
+        self.assertEqual(self.program.shown_snapshot(), number)
+        self.program.click("push button", "Take Snapshot")
+        wait_until(lambda: self.program.shown_snapshot() == number + 1, "the old frame is shown")
+
+    def test_dialog_saves_in_all_formats(self):
+        number = self.open_video()
+        self.take_snapshot(self.program)
+        for suffix, (signature, kind) in SIGNATURES.items():
+            with self.subTest(suffix):
+                file = self.save_as(f"one.{suffix}")
+                self.assertTrue(file.read_bytes().startswith(signature))
+                with Image.open(file) as picture:
+                    self.assertEqual(picture.format, kind)
+                    self.assertEqual(picture.size, (640, 480))
+                    self.assertEqual(frame_number(picture), number)
+        self.assertEqual(len(list(self.pictures.iterdir())), len(SIGNATURES))
+
+    def test_dialog_completes_a_name_by_the_chosen_type(self):
+        self.open_video()
+        self.take_snapshot(self.program)
+        self.desktop.key("ctrl+s")
+        self.program.window("Save As")
+        self.program.enter(str(self.pictures / "named"))
+        self.program.click("combo box", "JPEG (*.jpg *.jpeg)")
+        self.desktop.key("Down", "Return")
+        self.program.find("combo box", "PNG (*.png)")
+        self.desktop.key("alt+s")
+        file = self.pictures / "named.png"
+        wait_until(file.exists, lambda: f"only {list(self.pictures.iterdir())}")
+        with Image.open(file) as picture:
+            self.assertEqual(picture.format, "PNG")
+
+    def test_dialog_asks_before_it_replaces_a_file(self):
+        self.open_video()
+        self.take_snapshot(self.program)
+        file = self.pictures / "taken.png"
+        file.write_bytes(b"precious")
+        for answer in ("No", "Yes"):
+            self.desktop.key("ctrl+s")
+            self.program.window("Save As")
+            self.program.enter(str(file))
+            self.desktop.key("Return")
+            wait_until(lambda: self.program.has("push button", "No"), "it does not ask")
+            self.program.click("push button", answer)
+            if answer == "No":
+                wait_until(lambda: not self.program.has("push button", "No"), "it still asks")
+                self.assertEqual(file.read_bytes(), b"precious")
+                self.desktop.key("Escape")
+                self.program.window("Morvantile - h264_gop250.mp4")
+        wait_until(lambda: file.read_bytes() != b"precious", "it is not replaced")
+
+    def test_automatic_names_count_on_and_replace_nothing(self):
+        number = self.open_video()
+        self.take_snapshot(self.program)
+        old = {f"h264_gop250-0000{i}.jpeg": f"old {i}".encode() for i in (1, 2, 4)}
+        for name, content in old.items():
+            (self.pictures / name).write_bytes(content)
+        self.save_automatically_into(self.pictures)
+        self.expect_next("h264_gop250-00003.jpeg")
+        for step, name in enumerate(("00003", "00005", "00006")):
+            if step:
+                self.desktop.key("ctrl+Right")
+                self.wait_for_frame(self.program, number + step)
+                self.desktop.key("ctrl+a")
+                wait_until(
+                    lambda: self.program.shown_snapshot() == number + step, "the old frame is shown"
+                )
+            self.desktop.key("ctrl+s")
+            file = self.pictures / f"h264_gop250-{name}.jpeg"
+            wait_until(file.exists, lambda: f"no {file} in {list(self.pictures.iterdir())}")
+            with Image.open(file) as picture:
+                self.assertEqual(picture.format, "JPEG")
+                self.assertEqual(frame_number(picture), number + step)
+        self.expect_next("h264_gop250-00007.jpeg")
+        for name, content in old.items():
+            self.assertEqual((self.pictures / name).read_bytes(), content)
+        self.assertEqual(len(list(self.pictures.iterdir())), 6)
+
+    def test_automatic_names_start_over_with_the_next_video(self):
+        self.open_video()
+        self.take_snapshot(self.program)
+        self.save_automatically_into(self.pictures)
+        self.desktop.key("ctrl+s")
+        wait_until((self.pictures / "h264_gop250-00001.jpeg").exists, "nothing was saved")
+        number = self.open_paused(self.program, self.sample("h264_bframes.mp4"))
+        self.take_snapshot(self.program)
+        self.program.click("push button", "Save")
+        # Where the video is, for that folder was proposed when it was opened.
+        file = self.videos / "h264_bframes-00001.jpeg"
+        wait_until(file.exists, "nothing was saved")
+        with Image.open(file) as picture:
+            self.assertEqual(frame_number(picture), number)
+
+    def test_missing_folder_is_made_only_when_wanted(self):
+        self.open_video()
+        self.take_snapshot(self.program)
+        new = self.pictures / "a" / "b"
+        self.save_automatically_into(new)
+        for answer in ("No", "Yes"):
+            self.desktop.key("ctrl+s")
+            self.program.window("Folder does not exist")
+            self.program.click("push button", answer)
+            self.program.window("Morvantile - h264_gop250.mp4")
+            if answer == "No":
+                self.assertTrue(holds_for(lambda: not new.exists(), 0.3))
+        wait_until((new / "h264_gop250-00001.jpeg").exists, "nothing was saved")
+
+    # --- what the cases are made of ------------------------------------------------------------
+
+    def open_video(self):
+        """Paused; gives the frame at which it stands."""
+        return self.open_paused(self.program, self.sample("h264_gop250.mp4"))
+
+    def save_as(self, name):
+        """Saves through the dialog and gives the file."""
+        file = self.pictures / name
+        self.desktop.key("ctrl+s")
+        self.program.window("Save As")
+        self.program.enter(str(file))
+        self.desktop.key("Return")
+        self.program.window("Morvantile - h264_gop250.mp4")
+        wait_until(file.exists, f"no {file}")
+        return file
+
+    def save_automatically_into(self, folder):
+        box = self.program.find("check box", "Automatic File Name")
+        left, top, _, _ = box.area
+        self.desktop.click(left + 12, top + 8)
+        wait_until(lambda: box.is_checked, "it is not checked")
+        self.program.click("text", "Output folder")
+        self.program.enter(str(folder))
+        self.desktop.key("Return")
+
+    def expect_next(self, name):
+        label = self.program.find(description="Next file name")
+        wait_until(lambda: label.name == name, lambda: f"next comes {label.name}")

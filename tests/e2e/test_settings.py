@@ -1,0 +1,105 @@
+"""What a second start finds of the first one."""
+
+from tests.e2e.driver.case import MorvantileCase
+from tests.e2e.driver.waiting import wait_until
+
+
+class SettingsTest(MorvantileCase):
+
+    def test_volume_and_mute_are_remembered(self):
+        program = self.start()
+        popup = self.open_volume(program)
+        left, top, right, bottom = popup
+        slider = (left + 2, top + 2, right - 2, bottom - 40)
+        # Without the edge, which tells whether the keyboard is there.
+        tick = (left + 11, bottom - 28, left + 20, bottom - 19)
+        untouched = [self.desktop.picture(part).tobytes() for part in (slider, tick)]
+        # The slider fills the popup above the check box, its handle is in the middle of it.
+        self.desktop.move((left + right) // 2, top + (bottom - top) * 0.41)
+        self.desktop.press()
+        self.addCleanup(self.desktop.release)
+        self.desktop.drag((left + right) // 2, top + (bottom - top) * 0.2)
+        self.desktop.release()
+        self.wait_for_setting("volume", lambda volume: 60 < int(volume) < 100)
+        self.desktop.click(left + 15, bottom - 24)
+        self.wait_for_setting("muted", lambda muted: muted == "true")
+        self.desktop.move(0, 0)
+        changed = wait_until(lambda: self.settled(slider, tick), "the popup never settles")
+        self.assertNotIn(True, [new == old for new, old in zip(changed, untouched)])
+        self.desktop.key("Escape")
+        wait_until(lambda: self.desktop.window_area("Form") is None, "the popup stays")
+        self.close(program)
+
+        self.assertEqual(self.open_volume(self.start()), popup)
+        self.desktop.move(0, 0)
+        wait_until(
+            lambda: self.settled(slider, tick) == changed,
+            "the popup looks different after the restart",
+        )
+
+    def test_folder_of_the_videos_is_remembered(self):
+        self.sample("h264_baseline.mp4")
+        self.sample("h264_bframes.mp4")
+        program = self.start()
+        self.desktop.key("ctrl+o")
+        program.window("Open")
+        program.enter(str(self.videos))
+        self.desktop.key("Return")
+        # A bare name opens only in the folder that the dialog shows.
+        wait_until(lambda: program.has("list item", "h264_bframes.mp4")
+                   or program.has("table cell", "h264_bframes.mp4"), "another folder is shown")  # fmt: skip
+        program.enter("h264_bframes.mp4")
+        self.desktop.key("Return")
+        program.window("Morvantile - h264_bframes.mp4")
+        self.close(program)
+
+        program = self.start()
+        program.open_with_dialog("h264_baseline.mp4")
+        wait_until(lambda: program.shown_frame() is not None, "no frame on the screen")
+
+    def test_pictures_go_where_the_last_video_was(self):
+        program = self.start()
+        program.open_with_dialog(self.sample("h264_bframes.mp4"))
+        self.close(program)
+
+        program = self.start()
+        elsewhere = self.folder / "elsewhere"
+        elsewhere.mkdir()
+        self.open_paused(program, self.sample("h264_bframes.mp4").rename(elsewhere / "video.mp4"))
+        self.take_snapshot(program)
+        self.desktop.key("ctrl+s")
+        program.window("Save As")
+        program.enter("picture.png")
+        self.desktop.key("Return")
+        wait_until((elsewhere / "picture.png").exists, "nothing was saved beside the video")
+
+    # --- what the cases are made of ------------------------------------------------------------
+
+    def open_volume(self, program):
+        """Opens the popup and gives its place on the screen."""
+        program.open_with_dialog(self.sample("h264_gop250.mp4"))
+        program.click("push button", "Volume Control")
+        return wait_until(lambda: self.desktop.window_area("Form"), "no popup")
+
+    def wait_for_setting(self, key, wanted):
+        """Waits until the file of the settings has a value that is wanted."""
+        file = self.home / "config/Morvantile/Morvantile.conf"
+
+        def value():
+            lines = file.read_text().splitlines() if file.exists() else []
+            pairs = (line.split("=", 1) for line in lines if "=" in line)
+            return dict(pairs).get(key)
+
+        wait_until(
+            lambda: value() is not None and wanted(value()), lambda: f"{key} is {value()}"
+        )
+
+    def settled(self, *areas):
+        """The pixels of places on the screen, once they are the same twice in a row."""
+        first = [self.desktop.picture(area).tobytes() for area in areas]
+        second = [self.desktop.picture(area).tobytes() for area in areas]
+        return first if first == second else None
+
+    def close(self, program):
+        self.desktop.key("alt+F4")
+        self.assertEqual(program.wait_for_end(), 0)
