@@ -78,7 +78,8 @@ void UserGuideContentTest::everyPictureInTheFolder_isShown()
 
 void UserGuideContentTest::everyOptionOfTheCommandLine_isExplained()
 {
-    const QString help = QString::fromLocal8Bit(commandline::run({QStringLiteral("--help")}).standardOutput);
+    const QString help =
+        QString::fromLocal8Bit(commandline::run({QStringLiteral("--help")}).standardOutput);
     QSet<QString> options = allOf(QStringLiteral("(?m)^ *(?:-\\w, )?(--[a-z-]+)"), help);
     QVERIFY(options.contains(QStringLiteral("--skipback")));
     // Qt's own, which say nothing of videos.
