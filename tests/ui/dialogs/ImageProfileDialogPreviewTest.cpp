@@ -1,0 +1,370 @@
+#include "ui/dialogs/ImageProfileDialog.h"
+
+#include "profiles/ProfileManager.h"
+#include "profiles/WatermarkProfile.h"
+#include "tests/ui/dialogs/support/DialogDriving.h"
+#include "tests/ui/dialogs/support/ModalScript.h"
+#include "tests/ui/dialogs/support/PreviewWindow.h"
+#include "tests/ui/dialogs/support/TestProfiles.h"
+#include "tests/ui/support/Painting.h"
+#include "ui/dialogs/WatermarkProfileDialog.h"
+#include "ui/widgets/ImageView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+
+#include <functional>
+
+using testsupport::child;
+using testsupport::ModalScript;
+using testsupport::PreviewWindow;
+using testsupport::TestProfiles;
+
+namespace {
+
+/// A multiple of what the dialog waits before it reports.
+constexpr int AWhileMs = 200;
+constexpr int PatienceMs = 20000;
+
+QString textOf(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
+QComboBox& watermarks(const ImageProfileDialog& dialog)
+{
+    return child<QComboBox>(dialog, "watermarkProfileComboBox");
+}
+
+QStringList watermarkTexts(const ImageProfileDialog& dialog)
+{
+    QStringList texts;
+    for (int index = 0; index < watermarks(dialog).count(); ++index)
+        texts += watermarks(dialog).itemText(index);
+    return texts;
+}
+
+void clickEdit(const ImageProfileDialog& dialog)
+{
+    child<QPushButton>(dialog, "watermarkProfileEditButton").click();
+}
+
+/// Saves the watermark dialog under this name once it is open.
+void saveWatermarkAs(ModalScript& script, const QString& name)
+{
+    script.expect<WatermarkProfileDialog>([name](WatermarkProfileDialog& dialog) {
+        testsupport::typeProfileName(dialog, name);
+        child<QPushButton>(dialog, "saveButton").click();
+    });
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::function<void(ImageProfileDialog&)>)
+
+class ImageProfileDialogPreviewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void edits_arePreviewedOnce_afterTheLast();
+    void everyField_isPreviewed_data();
+    void everyField_isPreviewed();
+    void preview_showsWhatIsEntered_andSavesNothing();
+    void preview_followsTheProfile();
+    void preview_followsTheReset();
+    void preview_isLeftOut_withAnotherParent();
+    void watermarks_areNoneAndTheProfiles();
+    void watermarks_areNone_whenThereIsNoProfile();
+    void watermark_isThatOfTheProfile_data();
+    void watermark_isThatOfTheProfile();
+    void watermarkDialog_opensOnTheChosenOne();
+    void watermarkDialog_showsTheFrame_asItIsEntered();
+    void newWatermark_isChosen();
+    void renamedAndOtherWatermarks_areListed();
+    void cancelledWatermarkDialog_keepsTheChoice_data();
+    void cancelledWatermarkDialog_keepsTheChoice();
+};
+
+void ImageProfileDialogPreviewTest::edits_arePreviewedOnce_afterTheLast()
+{
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(textOf("mine"));
+    PreviewWindow window;
+    ImageProfileDialog dialog(&window);
+    dialog.setSelectedProfile(&profile);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+
+    auto& slider = child<QSlider>(dialog, "brightnessSlider");
+    for (int value = 1; value <= 60; ++value)
+        slider.setValue(value);
+    QCOMPARE(child<QSpinBox>(dialog, "brightnessSpinBox").value(), 60);
+    dialog.updateImage();
+    QCOMPARE(window.updates, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, PatienceMs);
+    QCOMPARE(window.brightness, 60);
+    QTest::qWait(AWhileMs);
+    QCOMPARE(window.updates, 2);
+}
+
+void ImageProfileDialogPreviewTest::everyField_isPreviewed_data()
+{
+    using Edit = std::function<void(ImageProfileDialog&)>;
+    QTest::addColumn<Edit>("edit");
+    QTest::newRow("same size") << Edit([](ImageProfileDialog& dialog) {
+        child<QCheckBox>(dialog, "sameSizeAsVideoCheckbox").click();
+    });
+    QTest::newRow("width") << Edit([](ImageProfileDialog& dialog) {
+        child<QLineEdit>(dialog, "imageWidthLineEdit").setText(textOf("1"));
+    });
+    QTest::newRow("height") << Edit([](ImageProfileDialog& dialog) {
+        child<QLineEdit>(dialog, "imageHeightLineEdit").setText(textOf("1"));
+    });
+    QTest::newRow("aspect ratio") << Edit([](ImageProfileDialog& dialog) {
+        child<QCheckBox>(dialog, "maintainAspectRatioCheckbox").click();
+    });
+    QTest::newRow("contrast") << Edit(
+        [](ImageProfileDialog& dialog) { child<QSpinBox>(dialog, "contrastSpinBox").setValue(5); });
+    QTest::newRow("quality") << Edit([](ImageProfileDialog& dialog) {
+        child<QSpinBox>(dialog, "jpegQualitySpinBox").setValue(5);
+    });
+    QTest::newRow("watermark") << Edit(
+        [](ImageProfileDialog& dialog) { watermarks(dialog).setCurrentIndex(1); });
+}
+
+void ImageProfileDialogPreviewTest::everyField_isPreviewed()
+{
+    QFETCH(std::function<void(ImageProfileDialog&)>, edit);
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(textOf("mine"));
+    profiles.add<WatermarkProfile>(textOf("logo"));
+    PreviewWindow window;
+    ImageProfileDialog dialog(&window);
+    dialog.setSelectedProfile(&profile);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    edit(dialog);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, PatienceMs);
+}
+
+void ImageProfileDialogPreviewTest::preview_showsWhatIsEntered_andSavesNothing()
+{
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(textOf("mine"));
+    PreviewWindow window;
+    ImageProfileDialog dialog(&window);
+    dialog.setSelectedProfile(&profile);
+    child<QLineEdit>(dialog, "imageWidthLineEdit").setText(textOf("320"));
+    child<QSlider>(dialog, "contrastSlider").setValue(-30);
+    child<QSpinBox>(dialog, "jpegQualitySpinBox").setValue(7);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    QCOMPARE(window.size, QSize(320, 480));
+    QCOMPARE(window.contrast, -30);
+    QCOMPARE(window.quality, 7);
+    // It was the dialog's for this one call.
+    QVERIFY(window.last.isNull());
+    QCOMPARE(ImageProfile::profileManager()->profiles(), QList<BaseProfile*>{&profile});
+    QCOMPARE(profile.imageWidth(), 640);
+}
+
+void ImageProfileDialogPreviewTest::preview_followsTheProfile()
+{
+    const TestProfiles profiles;
+    auto& first = profiles.add<ImageProfile>(textOf("first"));
+    profiles.add<ImageProfile>(textOf("second")).setImageContrast(44);
+    PreviewWindow window;
+    ImageProfileDialog dialog(&window);
+    dialog.setSelectedProfile(&first);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    testsupport::pickProfile(dialog, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, PatienceMs);
+    QCOMPARE(window.contrast, 44);
+}
+
+void ImageProfileDialogPreviewTest::preview_followsTheReset()
+{
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(textOf("mine"));
+    profile.setImageContrast(44);
+    PreviewWindow window;
+    ImageProfileDialog dialog(&window);
+    dialog.setSelectedProfile(&profile);
+    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 44, PatienceMs);
+    child<QPushButton>(dialog, "resetToDefaultsButton").click();
+    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 0, PatienceMs);
+}
+
+void ImageProfileDialogPreviewTest::preview_isLeftOut_withAnotherParent()
+{
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(textOf("mine"));
+    PreviewWindow window;
+    QWidget between(&window);
+    ImageProfileDialog inAnother(&between);
+    ImageProfileDialog alone(nullptr);
+    for (ImageProfileDialog* const dialog : {&inAnother, &alone}) {
+        dialog->setSelectedProfile(&profile);
+        child<QSlider>(*dialog, "brightnessSlider").setValue(9);
+        dialog->updateImage();
+    }
+    QTest::qWait(AWhileMs);
+    QCOMPARE(window.updates, 0);
+}
+
+void ImageProfileDialogPreviewTest::watermarks_areNoneAndTheProfiles()
+{
+    const TestProfiles profiles;
+    const QString first = profiles.add<WatermarkProfile>(textOf("b")).id();
+    const QString second = profiles.add<WatermarkProfile>(textOf("a")).id();
+    const ImageProfileDialog dialog(nullptr);
+    QCOMPARE(watermarkTexts(dialog),
+             (QStringList{textOf("[No Watermark]"), textOf("b"), textOf("a")}));
+    QCOMPARE(watermarks(dialog).itemData(0), QVariant(QString()));
+    QCOMPARE(watermarks(dialog).itemData(1), QVariant(first));
+    QCOMPARE(watermarks(dialog).itemData(2), QVariant(second));
+}
+
+void ImageProfileDialogPreviewTest::watermarks_areNone_whenThereIsNoProfile()
+{
+    const TestProfiles profiles;
+    const ImageProfileDialog dialog(nullptr);
+    QCOMPARE(watermarkTexts(dialog), QStringList{textOf("[No Watermark]")});
+}
+
+void ImageProfileDialogPreviewTest::watermark_isThatOfTheProfile_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<int>("index");
+    QTest::newRow("none") << QString() << 0;
+    QTest::newRow("listed") << textOf("LOGO-ID") << 1;
+    QTest::newRow("other letter case") << textOf("logo-id") << -1;
+    QTest::newRow("not listed") << textOf("gone") << -1;
+}
+
+void ImageProfileDialogPreviewTest::watermark_isThatOfTheProfile()
+{
+    QFETCH(QString, id);
+    QFETCH(int, index);
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(textOf("mine"));
+    profile.setWatermarkProfileId(id);
+    profiles.add<WatermarkProfile>(textOf("logo")).setId(textOf("LOGO-ID"));
+    ImageProfileDialog dialog(nullptr);
+    dialog.setSelectedProfile(&profile);
+    QCOMPARE(watermarks(dialog).currentIndex(), index);
+}
+
+void ImageProfileDialogPreviewTest::watermarkDialog_opensOnTheChosenOne()
+{
+    const TestProfiles profiles;
+    profiles.add<WatermarkProfile>(textOf("first"));
+    auto& second = profiles.add<WatermarkProfile>(textOf("second"));
+    ImageProfileDialog dialog(nullptr);
+    watermarks(dialog).setCurrentIndex(2);
+    ModalScript script;
+    const WatermarkProfile* selected = nullptr;
+    const QWidget* parent = nullptr;
+    script.expect<WatermarkProfileDialog>([&](WatermarkProfileDialog& watermarkDialog) {
+        selected = watermarkDialog.selectedProfile();
+        parent = watermarkDialog.parentWidget();
+        watermarkDialog.reject();
+    });
+    clickEdit(dialog);
+    QVERIFY(script.isDone());
+    QCOMPARE(selected, &second);
+    QCOMPARE(parent, &dialog);
+}
+
+void ImageProfileDialogPreviewTest::watermarkDialog_showsTheFrame_asItIsEntered()
+{
+    const TestProfiles profiles;
+    ImageProfileDialog dialog(nullptr);
+    QImage frame(320, 240, QImage::Format_RGB888);
+    frame.fill(QColor(10, 20, 30));
+    dialog.setExampleImage(frame);
+    child<QSlider>(dialog, "brightnessSlider").setValue(100);
+    child<QLineEdit>(dialog, "imageWidthLineEdit").setText(textOf("100"));
+    child<QLineEdit>(dialog, "imageHeightLineEdit").setText(textOf("50"));
+    child<QCheckBox>(dialog, "maintainAspectRatioCheckbox").setChecked(false);
+    ModalScript script;
+    QImage shown;
+    script.expect<WatermarkProfileDialog>([&shown](WatermarkProfileDialog& watermarkDialog) {
+        auto& view = child<ImageView>(watermarkDialog, "watermarkPositioner");
+        const auto isRendered = [&] {
+            shown = testsupport::paintedAt(view, {400, 300});
+            return shown.pixelColor(200, 150) == QColor(110, 120, 130);
+        };
+        if (!QTest::qWaitFor(isRendered, PatienceMs))
+            qWarning("The frame is not shown");
+        watermarkDialog.reject();
+    });
+    clickEdit(dialog);
+    QVERIFY(script.isDone());
+    QCOMPARE(shown.pixelColor(200, 150), QColor(110, 120, 130));
+    // Twice as wide as high, as entered.
+    QCOMPARE(testsupport::paintedBounds(shown), QRect(0, 50, 400, 200));
+}
+
+void ImageProfileDialogPreviewTest::newWatermark_isChosen()
+{
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(textOf("mine"));
+    ImageProfileDialog dialog(nullptr);
+    dialog.setSelectedProfile(&profile);
+    ModalScript script;
+    saveWatermarkAs(script, textOf("new"));
+    clickEdit(dialog);
+    QVERIFY(script.isDone());
+    QCOMPARE(watermarkTexts(dialog), (QStringList{textOf("[No Watermark]"), textOf("new")}));
+    QCOMPARE(watermarks(dialog).currentText(), textOf("new"));
+    child<QPushButton>(dialog, "saveButton").click();
+    QCOMPARE(profile.watermarkProfileId(),
+             WatermarkProfile::profileManager()->profiles().first()->id());
+}
+
+void ImageProfileDialogPreviewTest::renamedAndOtherWatermarks_areListed()
+{
+    const TestProfiles profiles;
+    auto& first = profiles.add<WatermarkProfile>(textOf("first"));
+    profiles.add<WatermarkProfile>(textOf("second"));
+    ImageProfileDialog dialog(nullptr);
+    watermarks(dialog).setCurrentIndex(1);
+    ModalScript script;
+    saveWatermarkAs(script, textOf("SECOND"));
+    first.setName(textOf("renamed"));
+    clickEdit(dialog);
+    QVERIFY(script.isDone());
+    QCOMPARE(watermarkTexts(dialog),
+             (QStringList{textOf("[No Watermark]"), textOf("renamed"), textOf("second")}));
+    QCOMPARE(watermarks(dialog).currentText(), textOf("second"));
+}
+
+void ImageProfileDialogPreviewTest::cancelledWatermarkDialog_keepsTheChoice_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::newRow("none") << 0;
+    QTest::newRow("second") << 2;
+}
+
+void ImageProfileDialogPreviewTest::cancelledWatermarkDialog_keepsTheChoice()
+{
+    QFETCH(int, index);
+    const TestProfiles profiles;
+    profiles.add<WatermarkProfile>(textOf("first"));
+    profiles.add<WatermarkProfile>(textOf("second"));
+    ImageProfileDialog dialog(nullptr);
+    watermarks(dialog).setCurrentIndex(index);
+    ModalScript script;
+    script.expect<WatermarkProfileDialog>(
+        [](WatermarkProfileDialog& watermarkDialog) { watermarkDialog.reject(); });
+    clickEdit(dialog);
+    QVERIFY(script.isDone());
+    QCOMPARE(watermarks(dialog).currentIndex(), index);
+}
+
+QTEST_MAIN(ImageProfileDialogPreviewTest)
+#include "ImageProfileDialogPreviewTest.moc"

@@ -1,0 +1,218 @@
+#include "ui/dialogs/ImageProfileDialog.h"
+
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
+#include "profiles/WatermarkProfile.h"
+#include "ui/dialogs/ImageProfilePreview.h"
+#include "ui/dialogs/WatermarkProfileDialog.h"
+#include "ui/widgets/Field.h"
+#include "ui/widgets/GroupBoxMargins.h"
+#include "ui_ImageProfileDialog.h"
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto UpdateDelay = 50ms;
+
+constexpr int MinAdjustment = -100;
+constexpr int MaxAdjustment = 100;
+
+} // namespace
+
+ImageProfileDialog::ImageProfileDialog(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::ImageProfileDialog>())
+{
+    m_ui->setupUi(this);
+    m_updateTimer.setSingleShot(true);
+    GroupBoxMargins::apply(*this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setupButtons();
+
+    connect(m_ui->profileSelector, &ProfileSelector::profileNameTextChanged, this,
+            &ImageProfileDialog::profileNameTextChanged);
+    setupWatermarkProfileComboBox();
+    connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, MinAdjustment, MaxAdjustment);
+    connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
+    setupProfileSelector();
+    connect(&m_updateTimer, &QTimer::timeout, this, &ImageProfileDialog::updateImageTimerFired);
+}
+
+ImageProfileDialog::~ImageProfileDialog() = default;
+
+void ImageProfileDialog::setSelectedProfile(ImageProfile* profile)
+{
+    m_selectedProfile = profile;
+    m_ui->profileSelector->loadProfile(profile);
+}
+
+void ImageProfileDialog::setVideoDimensions(int width, int height)
+{
+    m_videoWidth = width;
+    m_videoHeight = height;
+    showVideoDimensions();
+}
+
+void ImageProfileDialog::setExampleImage(const QImage& image)
+{
+    m_exampleImage = image;
+}
+
+void ImageProfileDialog::updateImage()
+{
+    m_updateTimer.start(UpdateDelay);
+}
+
+void ImageProfileDialog::profileNameTextChanged(const QString& name)
+{
+    m_ui->saveButton->setEnabled(!name.isEmpty());
+}
+
+void ImageProfileDialog::fieldChanged(Field* /*field*/)
+{
+    updateImage();
+}
+
+void ImageProfileDialog::updateImageTimerFired()
+{
+    auto* const preview = dynamic_cast<ImageProfilePreview*>(parentWidget());
+    if (!preview)
+        return;
+    ImageProfile profile(nullptr);
+    m_ui->profileSelector->loadFormIntoProfile(&profile);
+    preview->imageProfileUpdated(&profile);
+}
+
+void ImageProfileDialog::on_sameSizeAsVideoCheckbox_toggled(bool checked)
+{
+    if (!m_videoWidthDisplay) {
+        m_videoWidthDisplay = makeVideoDisplay(*m_ui->imageWidthLineEdit);
+        m_videoHeightDisplay = makeVideoDisplay(*m_ui->imageHeightLineEdit);
+        showVideoDimensions();
+    }
+    // What the user typed stays in the editors, and is what the form saves.
+    if (checked) {
+        swap(*m_ui->imageWidthLineEdit, *m_videoWidthDisplay);
+        swap(*m_ui->imageHeightLineEdit, *m_videoHeightDisplay);
+    } else {
+        swap(*m_videoWidthDisplay, *m_ui->imageWidthLineEdit);
+        swap(*m_videoHeightDisplay, *m_ui->imageHeightLineEdit);
+    }
+    m_ui->maintainAspectRatioCheckbox->setEnabled(!checked);
+}
+
+void ImageProfileDialog::on_watermarkProfileEditButton_clicked()
+{
+    ImageProfile entered(nullptr);
+    m_ui->profileSelector->loadFormIntoProfile(&entered);
+
+    const QString id = m_ui->watermarkProfileComboBox->currentData().toString();
+    WatermarkProfileDialog dialog(this);
+    dialog.setSelectedProfile(
+        qobject_cast<WatermarkProfile*>(WatermarkProfile::profileManager()->profileForId(id)));
+    dialog.setExampleImage(m_exampleImage, &entered);
+    dialog.exec();
+
+    // There may be more profiles now, or other names.
+    setupWatermarkProfileComboBox();
+    if (const WatermarkProfile* const selected = dialog.selectedProfile()) {
+        m_ui->watermarkProfileComboBox->setCurrentIndex(m_ui->watermarkProfileComboBox->findData(
+            selected->id(), Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    }
+}
+
+void ImageProfileDialog::on_resetToDefaultsButton_clicked()
+{
+    m_ui->profileSelector->loadDefaultValues();
+    updateImage();
+}
+
+void ImageProfileDialog::on_saveButton_clicked()
+{
+    m_selectedProfile = qobject_cast<ImageProfile*>(m_ui->profileSelector->saveProfile());
+    accept();
+}
+
+void ImageProfileDialog::on_cancelButton_clicked()
+{
+    reject();
+}
+
+/// Gives the buttons to the box that knows the platform's order.
+void ImageProfileDialog::setupButtons()
+{
+    m_ui->buttonBox->addButton(m_ui->resetToDefaultsButton, QDialogButtonBox::ResetRole);
+    m_ui->buttonBox->addButton(m_ui->saveButton, QDialogButtonBox::AcceptRole);
+    m_ui->buttonBox->addButton(m_ui->cancelButton, QDialogButtonBox::RejectRole);
+}
+
+void ImageProfileDialog::setupWatermarkProfileComboBox()
+{
+    m_ui->watermarkProfileComboBox->clear();
+    m_ui->watermarkProfileComboBox->addItem(QStringLiteral("[No Watermark]"), QString());
+    const QList<BaseProfile*> profiles = WatermarkProfile::profileManager()->profiles();
+    for (const BaseProfile* const profile : profiles)
+        m_ui->watermarkProfileComboBox->addItem(profile->name(), profile->id());
+}
+
+void ImageProfileDialog::connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max)
+{
+    slider->setRange(min, max);
+    spinBox->setRange(min, max);
+    connect(slider, &QSlider::valueChanged, spinBox, &QSpinBox::setValue);
+    connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), slider, &QSlider::setValue);
+}
+
+void ImageProfileDialog::setupProfileSelector()
+{
+    addField("sameSizeAsVideo", m_ui->sameSizeAsVideoCheckbox);
+    addField("imageWidth", m_ui->imageWidthLineEdit);
+    addField("imageHeight", m_ui->imageHeightLineEdit);
+    addField("maintainAspectRatio", m_ui->maintainAspectRatioCheckbox);
+    addField("watermarkProfileId", m_ui->watermarkProfileComboBox);
+    addField("imageBrightness", m_ui->brightnessSpinBox);
+    addField("imageContrast", m_ui->contrastSpinBox);
+    addField("imageQuality", m_ui->jpegQualitySpinBox);
+
+    ProfileSelector* const selector = m_ui->profileSelector;
+    selector->loadProfiles(ImageProfile::profileManager());
+    connect(selector, &ProfileSelector::fieldChanged, this, &ImageProfileDialog::fieldChanged);
+    // Another profile in the form is reported by no field, but is as much to be seen.
+    connect(selector, &ProfileSelector::profileSelected, this, &ImageProfileDialog::updateImage);
+}
+
+void ImageProfileDialog::addField(const char* propertyName, QWidget* widget)
+{
+    m_ui->profileSelector->addField(new Field(propertyName, widget, Field::NoChoice, this));
+}
+
+/// A disabled line edit that can stand where the editor stands.
+QLineEdit* ImageProfileDialog::makeVideoDisplay(const QLineEdit& editor)
+{
+    auto* const display = new QLineEdit(editor.parentWidget());
+    display->setAccessibleName(editor.accessibleName());
+    display->setEnabled(false);
+    display->hide();
+    return display;
+}
+
+void ImageProfileDialog::showVideoDimensions()
+{
+    if (!m_videoWidthDisplay)
+        return;
+    const bool isKnown = m_videoWidth != 0 && m_videoHeight != 0;
+    m_videoWidthDisplay->setText(isKnown ? QString::number(m_videoWidth) : QString());
+    m_videoHeightDisplay->setText(isKnown ? QString::number(m_videoHeight) : QString());
+}
+
+/// Puts a hidden widget of the size group in the place of one that is shown.
+void ImageProfileDialog::swap(QWidget& shown, QWidget& hidden)
+{
+    const std::unique_ptr<QLayoutItem> replaced(
+        m_ui->imageSizeLayout->replaceWidget(&shown, &hidden));
+    shown.hide();
+    hidden.show();
+}

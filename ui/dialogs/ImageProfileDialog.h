@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QDialog>
+#include <QImage>
+#include <QTimer>
+
+#include <memory>
+
+class Field;
+class ImageProfile;
+class QLineEdit;
+class QSlider;
+class QSpinBox;
+
+namespace Ui {
+class ImageProfileDialog;
+}
+
+/// Edits image profiles: size, corrections, JPEG quality and the watermark.
+///
+/// A parent that is an ImageProfilePreview shows every edit, a moment after the last one. The
+/// caller sets up the dialog, runs it and asks for selectedProfile(). User-interface thread only.
+class ImageProfileDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ImageProfileDialog(QWidget* parent);
+    ~ImageProfileDialog() override;
+
+    /// Selects the profile in the list and shows it in the form.
+    void setSelectedProfile(ImageProfile* profile);
+
+    /// The profile that was saved, else the one given to setSelectedProfile(); null before. Its
+    /// manager owns it.
+    ImageProfile* selectedProfile() const { return m_selectedProfile; }
+
+    /// The size of the current video in pixels, shown in place of the entered one where the
+    /// profile keeps it; nothing is shown while a side is 0.
+    void setVideoDimensions(int width, int height);
+
+    /// The frame on which the watermark dialog shows its preview. It has a picture of its own where
+    /// there is none.
+    void setExampleImage(const QImage& image);
+
+    /// Has the preview updated in a moment; every call puts it off again.
+    void updateImage();
+
+private Q_SLOTS:
+    void profileNameTextChanged(const QString& name);
+    void fieldChanged(Field* field);
+    void updateImageTimerFired();
+    void on_sameSizeAsVideoCheckbox_toggled(bool checked);
+    void on_watermarkProfileEditButton_clicked();
+    void on_resetToDefaultsButton_clicked();
+    void on_saveButton_clicked();
+    void on_cancelButton_clicked();
+
+private:
+    void setupButtons();
+    void setupWatermarkProfileComboBox();
+    void connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max);
+    void setupProfileSelector();
+    void addField(const char* propertyName, QWidget* widget);
+    QLineEdit* makeVideoDisplay(const QLineEdit& editor);
+    void showVideoDimensions();
+    void swap(QWidget& shown, QWidget& hidden);
+
+    std::unique_ptr<Ui::ImageProfileDialog> m_ui;
+    ImageProfile* m_selectedProfile = nullptr;
+    int m_videoWidth = 0;
+    int m_videoHeight = 0;
+    /// Take the places of the editors; children of the form, null before they are needed.
+    QLineEdit* m_videoWidthDisplay = nullptr;
+    QLineEdit* m_videoHeightDisplay = nullptr;
+    QImage m_exampleImage;
+    QTimer m_updateTimer;
+};
