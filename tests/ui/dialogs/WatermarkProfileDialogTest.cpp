@@ -132,6 +132,10 @@ void WatermarkProfileDialogTest::form_hasItsTexts()
     QCOMPARE(child<QPushButton>(dialog, "shadowColorButton").text(), textOf("Shadow Color"));
     QCOMPARE(saveButton(dialog).text(), textOf("Save"));
     QCOMPARE(child<QPushButton>(dialog, "cancelButton").text(), textOf("Cancel"));
+    for (const char* const name :
+         {"imageBrowseButton", "textFontButton", "textColorButton", "shadowColorButton"})
+        QVERIFY2(!child<QPushButton>(dialog, name).autoDefault(), name);
+    QVERIFY(saveButton(dialog).isDefault());
     // It has no action, so it is not offered.
     QVERIFY(!child<QPushButton>(dialog, "imageBrowseButton_2").isVisibleTo(&dialog));
 }
