@@ -25,6 +25,13 @@ namespace {
 /// A small screen less a title bar.
 constexpr QSize SmallScreen{1024, 728};
 
+/// From the top of the highest letter to the bottom of the lowest, in the widget's font: less than
+/// a line, which has empty rows above and below.
+int glyphHeight(const QWidget& widget)
+{
+    return widget.fontMetrics().tightBoundingRect(QStringLiteral("Ågq|")).height();
+}
+
 /// What cannot show its whole text in the room that it has.
 QStringList cutOff(const QDialog& dialog)
 {
@@ -40,8 +47,7 @@ QStringList cutOff(const QDialog& dialog)
                              qobject_cast<const QComboBox*>(widget) ||
                              qobject_cast<const QLineEdit*>(widget);
         const bool tooNarrow = isText && widget->width() < widget->sizeHint().width();
-        const bool tooLow = (isText && widget->height() < widget->sizeHint().height()) ||
-                            (isField && widget->height() < widget->fontMetrics().height());
+        const bool tooLow = (isText || isField) && widget->height() < glyphHeight(*widget);
         if (tooNarrow || tooLow)
             found += widget->objectName();
     }
