@@ -71,8 +71,9 @@ std::vector<double> offsets(const QList<SoundRecording::Time>& flashes,
 
 } // namespace
 
-/// Players whose sound goes to a real sound server. The server goes away in the last cases, in the
-/// order in which they stand here.
+/// Players whose sound goes to a real sound server. Not for thread sanitizer, which is too slow to
+/// play in real time and is shown the same threads by other tests. The server goes away in the last
+/// cases, in the order in which they stand here.
 class SoundSyncTest : public QObject
 {
     Q_OBJECT
