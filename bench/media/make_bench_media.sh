@@ -70,6 +70,14 @@ if missing 1080p_h264_gop250.mp4 1080p_h264_gop30.mp4; then
     publish 1080p_h264_gop250.mp4 1080p_h264_gop30.mp4
 fi
 
+if missing 1080p30_h264_gop30.mp4; then
+    # The same pictures shown faster, for a minute of the rate that most cameras have.
+    "${ffmpeg[@]}" -itsscale 0.8333333333 -stream_loop 1 -i "$folder/1080p_h264_gop30.mp4" \
+        -f lavfi -i "$tone" -map 0:v -map 1 -c:v copy "${sound[@]}" -t 60 \
+        "$work/1080p30_h264_gop30.mp4"
+    publish 1080p30_h264_gop30.mp4
+fi
+
 if missing 2160p_hevc_gop120.mp4; then
     "${ffmpeg[@]}" -filter_complex "$(scene 3840 2160)[v];$tone[a]" -map '[v]' -map '[a]' \
         -c:v libx265 -preset ultrafast -b:v 20M -tag:v hvc1 \
