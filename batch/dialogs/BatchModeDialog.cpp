@@ -1,0 +1,561 @@
+#include "batch/dialogs/BatchModeDialog.h"
+
+#include "batch/BatchModeListModel.h"
+#include "batch/BatchWorkerConfig.h"
+#include "batch/dialogs/BatchProcessingDialog.h"
+#include "batch/dialogs/MergedField.h"
+#include "profiles/ProfileManager.h"
+#include "ui/dialogs/FileNameProfileDialog.h"
+#include "ui/widgets/Field.h"
+#include "ui/widgets/GroupBoxMargins.h"
+#include "ui/widgets/NoFocusItemDelegate.h"
+#include "ui/widgets/SmartFileDialog.h"
+#include "ui_BatchModeDialog.h"
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QShortcut>
+#include <QStandardItemModel>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/// The data of the first item of each combo box, which stands for no choice.
+QString noChoice()
+{
+    return QStringLiteral("-");
+}
+
+/// Shows the cursor that asks for patience while it lives.
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+QStringList localFiles(const QMimeData& data)
+{
+    QStringList files;
+    const QList<QUrl> urls = data.urls();
+    for (const QUrl& url : urls) {
+        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
+            files.append(url.toLocalFile());
+        }
+    }
+    return files;
+}
+
+QList<QObject*> asObjects(const QList<BatchWorkerConfig*>& configs)
+{
+    QList<QObject*> objects;
+    objects.reserve(configs.size());
+    std::copy(configs.cbegin(), configs.cend(), std::back_inserter(objects));
+    return objects;
+}
+
+/// What all the jobs have for a profile; null where they differ.
+template <typename Getter>
+auto common(const QList<BatchWorkerConfig*>& configs, Getter profileOf)
+{
+    auto* const first = configs.isEmpty() ? nullptr : profileOf(*configs.first());
+    const bool isCommon =
+        std::all_of(configs.cbegin(), configs.cend(),
+                    [&](const BatchWorkerConfig* config) { return profileOf(*config) == first; });
+    return isCommon ? first : nullptr;
+}
+
+/// The profile of the combo box's item; null for none.
+BaseProfile* profileAt(const QComboBox& comboBox, int index, const ProfileManager& manager)
+{
+    return index > 0 ? manager.profileForId(comboBox.itemData(index).toString()) : nullptr;
+}
+
+} // namespace
+
+BatchModeDialog::BatchModeDialog(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::BatchModeDialog>())
+    , m_model(new BatchModeListModel(this))
+{
+    m_ui->setupUi(this);
+    GroupBoxMargins::apply(*this);
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    arrangeButtons();
+    alignCaptions();
+    growWithFont();
+    setupFilesTable();
+    loadProfileComboBox(m_ui->imageProfileComboBox, ImageProfile::profileManager());
+    loadProfileComboBox(m_ui->filenameProfileComboBox, FileNameProfile::profileManager());
+    loadSingleShotComboBox();
+    setupPropertyFields();
+    loadFormValues();
+}
+
+BatchModeDialog::~BatchModeDialog() = default;
+
+void BatchModeDialog::arrangeButtons()
+{
+    // Each platform has an order of its own, which the box knows.
+    m_ui->buttonBox->addButton(m_ui->startButton, QDialogButtonBox::AcceptRole);
+    m_ui->buttonBox->addButton(m_ui->cancelButton, QDialogButtonBox::RejectRole);
+}
+
+/// The groups stand one above the other and read as one form.
+void BatchModeDialog::alignCaptions()
+{
+    const QList<QWidget*> captions{m_ui->imageProfileLabel, m_ui->filenameProfileLabel,
+                                   m_ui->filenameOutputExampleCaption, m_ui->fileOutputFolderLabel};
+    const QList<QWidget*> buttons{m_ui->imageProfileEditButton, m_ui->filenameProfileEditButton,
+                                  m_ui->fileOutputFolderSelectButton};
+    for (const QList<QWidget*>& column : {captions, buttons}) {
+        int widest = 0;
+        for (const QWidget* const widget : column) {
+            widest = std::max(widest, widget->sizeHint().width());
+        }
+        for (QWidget* const widget : column) {
+            widget->setMinimumWidth(widest);
+        }
+    }
+}
+
+/// The size that the form asks for is for the usual font.
+void BatchModeDialog::growWithFont()
+{
+    const QFontMetrics metrics = fontMetrics();
+    const QSize wanted(122 * metrics.averageCharWidth(), 40 * metrics.height());
+    resize(size().expandedTo(wanted.boundedTo(screen()->availableSize() * 9 / 10)));
+}
+
+void BatchModeDialog::setupFilesTable()
+{
+    QTableView& table = *m_ui->filesTableView;
+    table.setModel(m_model);
+    table.setItemDelegate(new NoFocusItemDelegate(&table));
+    const int letter = fontMetrics().averageCharWidth();
+    int column = 0;
+    for (const int letters : {30, 42, 18}) {
+        table.setColumnWidth(column++, letters * letter);
+    }
+    const int rowHeight = fontMetrics().height() + 8;
+    table.verticalHeader()->setDefaultSectionSize(rowHeight);
+    table.setMinimumHeight(4 * rowHeight);
+    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &BatchModeDialog::loadFormValues);
+    for (const int key : {Qt::Key_Delete, Qt::Key_Backspace}) {
+        auto* const shortcut = new QShortcut(key, &table);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, m_ui->removeVideoButton, &QPushButton::click);
+    }
+
+    m_emptyListHint = new QLabel(tr("Load videos, or drop them here"), table.viewport());
+    m_emptyListHint->setAlignment(Qt::AlignCenter);
+    m_emptyListHint->setEnabled(false);
+    auto* const layout = new QVBoxLayout(table.viewport());
+    layout->addWidget(m_emptyListHint);
+}
+
+void BatchModeDialog::setupPropertyFields()
+{
+    addField("source", m_ui->selectedVideoFileNameLabel, Field::NoChoice);
+    addField("imageProfileId", m_ui->imageProfileComboBox, Field::NoChoice);
+    addField("fileOutputPath", m_ui->fileOutputFolderTextEdit, Field::NoChoice);
+    addField("filenameProfileId", m_ui->filenameProfileComboBox, Field::NoChoice);
+    addField("filenameExample", m_ui->filenameOutputExampleLabel, Field::NoChoice);
+    addField("intervalType", m_ui->intervalMillisecondsRadioButton,
+             BatchWorkerConfig::EveryMilliseconds);
+    addField("intervalType", m_ui->intervalImagesRadioButton, BatchWorkerConfig::SpreadImages);
+    addField("intervalType", m_ui->intervalSingleShotRadioButton, BatchWorkerConfig::SingleShot);
+    addField("intervalMilliseconds", m_ui->intervalMillisecondsTextEdit, Field::NoChoice);
+    addField("intervalImages", m_ui->intervalImagesTextEdit, Field::NoChoice);
+    addField("intervalSingleShot", m_ui->intervalSingleShotComboBox, Field::NoChoice);
+    addField("skipFront", m_ui->skipFrontTextEdit, Field::NoChoice);
+    addField("skipBack", m_ui->skipBackTextEdit, Field::NoChoice);
+
+    for (Field* const field : qAsConst(m_fields)) {
+        field->whenChanged(field->widget(), [this, field] {
+            if (!m_isLoading) {
+                fieldUpdated(field);
+            }
+        });
+    }
+    for (const QRadioButton* const radioButton :
+         {m_ui->intervalMillisecondsRadioButton, m_ui->intervalImagesRadioButton,
+          m_ui->intervalSingleShotRadioButton}) {
+        connect(radioButton, &QRadioButton::clicked, this, &BatchModeDialog::loadFormValues);
+    }
+}
+
+void BatchModeDialog::addField(char const* property, QWidget* widget, int value)
+{
+    m_fields.append(new Field(property, widget, value, this));
+}
+
+void BatchModeDialog::loadProfileComboBox(QComboBox* comboBox, ProfileManager* manager)
+{
+    const QScopedValueRollback<bool> loading(m_isLoading, true);
+    comboBox->clear();
+    comboBox->addItem(noChoice(), noChoice());
+    const QList<BaseProfile*> profiles = manager->profiles();
+    for (const BaseProfile* const profile : profiles) {
+        comboBox->addItem(profile->name(), profile->id());
+    }
+    setupComboBox(comboBox);
+}
+
+void BatchModeDialog::loadSingleShotComboBox()
+{
+    QComboBox& comboBox = *m_ui->intervalSingleShotComboBox;
+    comboBox.clear();
+    comboBox.addItem(noChoice(), noChoice());
+    comboBox.addItem(tr("front"), BatchWorkerConfig::Front);
+    comboBox.addItem(tr("middle"), BatchWorkerConfig::Middle);
+    comboBox.addItem(tr("back"), BatchWorkerConfig::Back);
+    setupComboBox(&comboBox);
+}
+
+/// The first item says that there is no choice, or more than one: it cannot be chosen itself.
+void BatchModeDialog::setupComboBox(QComboBox* comboBox)
+{
+    if (auto* const items = qobject_cast<QStandardItemModel*>(comboBox->model())) {
+        items->item(0)->setSelectable(false);
+        items->item(0)->setEnabled(false);
+    }
+}
+
+QList<BatchWorkerConfig*> BatchModeDialog::getSelectedConfigs() const
+{
+    QList<BatchWorkerConfig*> configs;
+    const QModelIndexList rows = m_ui->filesTableView->selectionModel()->selectedRows(0);
+    for (const QModelIndex& row : rows) {
+        configs.append(m_model->getConfig(row.row()));
+    }
+    return configs;
+}
+
+void BatchModeDialog::loadFormValues()
+{
+    const QScopedValueRollback<bool> loading(m_isLoading, true);
+    const QList<QObject*> configs = asObjects(getSelectedConfigs());
+    for (Field* const field : qAsConst(m_fields)) {
+        MergedField::show(*field, MergedField::merge(configs, field->propertyName()));
+    }
+    updateFieldsEnabled();
+}
+
+void BatchModeDialog::updateFieldsEnabled()
+{
+    const QScopedValueRollback<bool> loading(m_isLoading, true);
+    const bool hasRows = m_model->rowCount() > 0;
+    const bool hasSelection = m_ui->filesTableView->selectionModel()->hasSelection();
+    m_emptyListHint->setVisible(!hasRows);
+    m_ui->startButton->setEnabled(hasRows);
+    m_ui->selectAllVideoButton->setEnabled(hasRows);
+    if (!hasSelection) {
+        m_ui->selectedVideoFileNameLabel->setText(tr("[No Video Selected]"));
+    }
+    for (QWidget* const widget : std::initializer_list<QWidget*>{
+             m_ui->removeVideoButton, m_ui->selectedVideoGroupBox, m_ui->imageProfileGroupBox,
+             m_ui->intervalGroupBox, m_ui->skipGroupBox, m_ui->fileOutputGroupBox}) {
+        widget->setEnabled(hasSelection);
+    }
+    for (const Field* const field : qAsConst(m_fields)) {
+        setWidgetEnabled(field->widget(), hasSelection);
+    }
+}
+
+void BatchModeDialog::setWidgetEnabled(QWidget* widget, bool enabled)
+{
+    widget->setEnabled(enabled);
+    if (!enabled) {
+        MergedField::reset(*widget);
+    }
+}
+
+void BatchModeDialog::fieldUpdated(Field* field)
+{
+    if (auto* const edit = qobject_cast<QLineEdit*>(field->widget())) {
+        edit->setPlaceholderText(QString());
+        if (!isSensible(*edit)) {
+            return;
+        }
+    }
+    const QVariant value = field->value();
+    if (field->isChoice() && value == Field::NoChoice) {
+        return;
+    }
+    const QList<BatchWorkerConfig*> configs = getSelectedConfigs();
+    for (BatchWorkerConfig* const config : configs) {
+        config->setProperty(field->propertyName(), value);
+        m_model->configUpdated(config);
+    }
+}
+
+/// Whether jobs can have what is typed: a text for a text, for a number one that is large enough.
+bool BatchModeDialog::isSensible(const QLineEdit& edit) const
+{
+    if (&edit == m_ui->fileOutputFolderTextEdit) {
+        return true;
+    }
+    const bool mayBeZero = &edit == m_ui->skipFrontTextEdit || &edit == m_ui->skipBackTextEdit;
+    bool isNumber = false;
+    const int number = edit.text().toInt(&isNumber);
+    return isNumber && number >= (mayBeZero ? 0 : 1);
+}
+
+/// What was typed meant this kind of interval.
+void BatchModeDialog::useInterval(QRadioButton& radioButton, QLineEdit& edit, const QString& text)
+{
+    if (m_isLoading || text.isEmpty() || radioButton.isChecked()) {
+        return;
+    }
+    const int cursor = edit.cursorPosition();
+    resetIntervalWidgets();
+    radioButton.click();
+    // The click has filled the form anew. Unlike setText(), this can be undone.
+    edit.selectAll();
+    edit.insert(text);
+    edit.setCursorPosition(cursor);
+}
+
+void BatchModeDialog::resetIntervalWidgets()
+{
+    m_ui->intervalMillisecondsRadioButton->setEnabled(true);
+    m_ui->intervalImagesRadioButton->setEnabled(true);
+    m_ui->intervalMillisecondsTextEdit->setPlaceholderText(QString());
+    m_ui->intervalImagesTextEdit->setPlaceholderText(QString());
+}
+
+void BatchModeDialog::on_intervalMillisecondsTextEdit_textChanged(QString const& arg1)
+{
+    useInterval(*m_ui->intervalMillisecondsRadioButton, *m_ui->intervalMillisecondsTextEdit, arg1);
+}
+
+void BatchModeDialog::on_intervalImagesTextEdit_textChanged(QString const& arg1)
+{
+    useInterval(*m_ui->intervalImagesRadioButton, *m_ui->intervalImagesTextEdit, arg1);
+}
+
+/// A text that was not typed here, like the one that stands for several, is left alone.
+void BatchModeDialog::takeBackUnlessSensible(QLineEdit& edit)
+{
+    const bool isUntouched = edit.text().isEmpty() && !edit.placeholderText().isEmpty();
+    if (m_isLoading || isUntouched || !edit.isEnabled()) {
+        return;
+    }
+    while (!isSensible(edit) && edit.isUndoAvailable()) {
+        edit.undo();
+    }
+    if (!isSensible(edit)) {
+        loadFormValues();
+    }
+}
+
+void BatchModeDialog::on_intervalMillisecondsTextEdit_editingFinished()
+{
+    takeBackUnlessSensible(*m_ui->intervalMillisecondsTextEdit);
+}
+
+void BatchModeDialog::on_intervalImagesTextEdit_editingFinished()
+{
+    takeBackUnlessSensible(*m_ui->intervalImagesTextEdit);
+}
+
+void BatchModeDialog::on_skipFrontTextEdit_editingFinished()
+{
+    takeBackUnlessSensible(*m_ui->skipFrontTextEdit);
+}
+
+void BatchModeDialog::on_skipBackTextEdit_editingFinished()
+{
+    takeBackUnlessSensible(*m_ui->skipBackTextEdit);
+}
+
+void BatchModeDialog::on_loadVideoButton_clicked()
+{
+    saveBatchWorkerConfigDefault();
+    SmartFileDialog dialog(this, QStringLiteral("openDialog"));
+    dialog.setFiltersToVideo();
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    if (dialog.exec() == QDialog::Accepted) {
+        addVideos(dialog.selectedFiles());
+    }
+}
+
+void BatchModeDialog::loadVideos(const QStringList& files)
+{
+    saveBatchWorkerConfigDefault();
+    addVideos(files);
+}
+
+void BatchModeDialog::addVideos(const QStringList& files)
+{
+    if (files.isEmpty()) {
+        return;
+    }
+    const int first = m_model->rowCount();
+    {
+        const WaitCursor waitCursor;
+        for (const QString& file : files) {
+            auto* const config = new BatchWorkerConfig(this);
+            config->loadFromLastUsed();
+            config->setSource(file);
+            config->loadVideoInfo();
+            m_model->addConfig(config);
+        }
+    }
+    const QItemSelection rows(m_model->index(first, 0), m_model->index(m_model->rowCount() - 1, 0));
+    QItemSelectionModel& selection = *m_ui->filesTableView->selectionModel();
+    selection.setCurrentIndex(m_model->index(first, 0), QItemSelectionModel::NoUpdate);
+    // In one go: the form is filled anew with each change.
+    selection.select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void BatchModeDialog::on_removeVideoButton_clicked()
+{
+    QItemSelectionModel& selection = *m_ui->filesTableView->selectionModel();
+    const QModelIndexList rows = selection.selectedRows(0);
+    // Or else the form would be filled anew with each removal.
+    selection.clearSelection();
+    m_model->removeRows(rows);
+    updateFieldsEnabled();
+}
+
+void BatchModeDialog::on_selectAllVideoButton_clicked()
+{
+    m_ui->filesTableView->selectAll();
+    m_ui->filesTableView->setFocus();
+}
+
+void BatchModeDialog::on_fileOutputFolderSelectButton_clicked()
+{
+    SmartFileDialog dialog(this, QStringLiteral("batchOutputFolder"));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    const QString typed = m_ui->fileOutputFolderTextEdit->text();
+    const bool canStartThere = !typed.isEmpty() && QDir(typed).exists();
+    dialog.setDirectory(
+        canStartThere ? typed : QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+    if (dialog.exec() == QDialog::Accepted) {
+        const QDir chosen(dialog.selectedFiles().value(0));
+        m_ui->fileOutputFolderTextEdit->setText(QDir::toNativeSeparators(chosen.absolutePath()));
+    }
+}
+
+void BatchModeDialog::on_imageProfileComboBox_currentIndexChanged(int index)
+{
+    m_ui->imageProfileEditButton->setEnabled(index != 0);
+    ProfileManager& manager = *ImageProfile::profileManager();
+    if (auto* const profile = profileAt(*m_ui->imageProfileComboBox, index, manager)) {
+        manager.setLastUsedProfile(profile);
+    }
+}
+
+void BatchModeDialog::on_filenameProfileComboBox_currentIndexChanged(int index)
+{
+    m_ui->filenameProfileEditButton->setEnabled(index != 0);
+    ProfileManager& manager = *FileNameProfile::profileManager();
+    if (auto* const profile = profileAt(*m_ui->filenameProfileComboBox, index, manager)) {
+        manager.setLastUsedProfile(profile);
+    }
+}
+
+void BatchModeDialog::on_filenameProfileComboBox_activated(QString const& /*text*/)
+{
+    loadFormValues();
+}
+
+void BatchModeDialog::on_filenameProfileEditButton_clicked()
+{
+    const QList<BatchWorkerConfig*> configs = getSelectedConfigs();
+    FileNameProfileDialog dialog(this);
+    dialog.setSelectedProfile(
+        common(configs, [](const BatchWorkerConfig& config) { return config.filenameProfile(); }));
+    if (!configs.isEmpty()) {
+        dialog.setExampleFileName(QFileInfo(configs.first()->source()).fileName());
+    }
+    dialog.exec();
+    if (dialog.selectedProfile() != nullptr) {
+        for (BatchWorkerConfig* const config : configs) {
+            config->setFileNameProfile(dialog.selectedProfile());
+        }
+    }
+    loadProfileComboBox(m_ui->filenameProfileComboBox, FileNameProfile::profileManager());
+    showJobsAnew();
+}
+
+/// For changes that come from elsewhere, and may concern jobs that are not selected.
+void BatchModeDialog::showJobsAnew()
+{
+    const QList<BatchWorkerConfig*> configs = m_model->getConfigs();
+    for (BatchWorkerConfig* const config : configs) {
+        m_model->configUpdated(config);
+    }
+    loadFormValues();
+}
+
+void BatchModeDialog::saveBatchWorkerConfigDefault()
+{
+    QList<BatchWorkerConfig*> configs = getSelectedConfigs();
+    if (configs.isEmpty()) {
+        configs = m_model->getConfigs();
+    }
+    if (!configs.isEmpty()) {
+        configs.last()->saveAsDefault();
+    }
+}
+
+void BatchModeDialog::on_startButton_clicked()
+{
+    saveBatchWorkerConfigDefault();
+    BatchProcessingDialog dialog(this);
+    const QList<BatchWorkerConfig*> configs = m_model->getConfigs();
+    for (BatchWorkerConfig* const config : configs) {
+        dialog.addWorkerWithConfig(config);
+    }
+    dialog.exec();
+    // The workers may have corrected intervals.
+    showJobsAnew();
+}
+
+void BatchModeDialog::on_cancelButton_clicked()
+{
+    close();
+}
+
+void BatchModeDialog::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!localFiles(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void BatchModeDialog::dropEvent(QDropEvent* event)
+{
+    loadVideos(localFiles(*event->mimeData()));
+    event->acceptProposedAction();
+}
+
+void BatchModeDialog::keyPressEvent(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && qobject_cast<QLineEdit*>(focusWidget()) != nullptr) {
+        // Ends the typing, and shall not start the batch as well.
+        event->accept();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "batch/BatchModeListModel.h"
+#include "batch/BatchWorkerConfig.h"
+#include "batch/dialogs/BatchModeDialog.h"
+#include "tests/ui/support/TestSettings.h"
+
+#include <QLabel>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QTableView>
+
+namespace testsupport {
+
+/// A batch mode dialog for one test case, with settings, a configuration folder and profiles of its
+/// own. Create it on the case's stack.
+class ModeDialog
+{
+public:
+    ModeDialog();
+
+    BatchModeDialog& dialog() { return m_dialog; }
+    const TestDir& dir() const { return m_settings.dir(); }
+    QTableView& table() const { return find<QTableView>("filesTableView"); }
+    BatchModeListModel& model() const;
+    BatchWorkerConfig& job(int row) const { return *model().getConfig(row); }
+
+    /// Lists that many files, a.mov, b.mov and so on, which hold no video. They become selected.
+    void load(int count);
+    QString file(int row) const;
+
+    void select(const QList<int>& rows) const;
+    QList<int> selectedRows() const;
+
+    /// Types over what is in the edit, without leaving it.
+    void type(const char* edit, const QString& text) const;
+    /// The same, and leaves it.
+    void enter(const char* edit, const QString& text) const;
+
+    QString text(const char* edit) const;
+    QString placeholder(const char* edit) const;
+    QString labelText(const char* name) const { return find<QLabel>(name).text(); }
+    QString comboText(const char* name) const;
+    void choose(const char* comboBox, int index) const;
+    bool isChecked(const char* radioButton) const;
+    void click(const char* button) const;
+
+    /// Which of the named widgets are enabled, for all that are so only with a selection.
+    QStringList enabledOnes() const;
+
+    /// What the file of batch defaults holds.
+    QVariantMap defaults() const;
+
+    /// The object of the form with that name; ends the test program when there is none.
+    template <typename Object>
+    Object& find(const char* name) const
+    {
+        auto* const found = m_dialog.findChild<Object*>(QLatin1String(name));
+        if (found == nullptr) {
+            qFatal("no %s in the dialog", name);
+        }
+        return *found;
+    }
+
+private:
+    class Profiles
+    {
+    public:
+        explicit Profiles(const TestDir& dir);
+    };
+
+    TestSettings m_settings;
+    Profiles m_profiles;
+    BatchModeDialog m_dialog;
+};
+
+} // namespace testsupport
