@@ -1,0 +1,372 @@
+#include "batch/dialogs/BatchModeDialog.h"
+
+#include "batch/dialogs/BatchProcessingDialog.h"
+#include "profiles/ProfileManager.h"
+#include "tests/batch/dialogs/ModeDialog.h"
+#include "tests/support/Samples.h"
+#include "tests/ui/dialogs/support/DialogDriving.h"
+#include "tests/ui/dialogs/support/ModalScript.h"
+#include "ui/dialogs/FileNameProfileDialog.h"
+#include "ui/widgets/SmartFileDialog.h"
+
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTest>
+#include <QTextEdit>
+#include <QUrl>
+
+using testsupport::child;
+using testsupport::ModalScript;
+using testsupport::ModeDialog;
+using testsupport::samplePath;
+
+namespace {
+
+void makeFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        qFatal("cannot make a file");
+    }
+}
+
+/// Chooses files of one folder and accepts, as their user would.
+void chooseFiles(SmartFileDialog& dialog, const QString& folder, const QStringList& names)
+{
+    dialog.setDirectory(folder);
+    child<QLineEdit>(dialog, "fileNameEdit")
+        .setText(QLatin1Char('"') + names.join(QStringLiteral("\" \"")) + QLatin1Char('"'));
+    static_cast<QDialog&>(dialog).accept();
+}
+
+/// Waits for the end of a batch and closes its dialog.
+void endBatch(BatchProcessingDialog& dialog)
+{
+    auto& button = child<QPushButton>(dialog, "doneButton");
+    QTRY_COMPARE_WITH_TIMEOUT(button.text(), QStringLiteral("Done"), 60000);
+    button.click();
+}
+
+/// Drops files on the list: what the list does not take goes on to the dialog.
+bool drop(const ModeDialog& mode, const QList<QUrl>& urls)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    QWidget* const viewport = mode.table().viewport();
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(viewport->window(), &enter);
+    if (viewport->acceptDrops() || !enter.isAccepted()) {
+        return false;
+    }
+    QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(viewport->window(), &event);
+    return true;
+}
+
+} // namespace
+
+/// Batch mode and what it opens: files, folders, profiles, batches.
+class BatchModeDialogFilesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void loadedVideos_areSelectedAlone();
+    void loadedVideo_isProbed();
+    void cancelledLoading_addsNothing();
+    void loadedVideos_beginLikeTheOneEditedLast();
+    void droppedFiles_areLoaded_andFoldersAreNot();
+    void removal_takesTheSelectedOnes_data();
+    void removal_takesTheSelectedOnes();
+    void jobs_surviveTheirRemoval();
+    void chosenFolder_goesIntoTheSelectedJobs();
+    void folderDialog_startsWhereItShould_data();
+    void folderDialog_startsWhereItShould();
+    void savedNameProfile_goesIntoTheSelectedJobs();
+    void cancelledNameProfile_changesNothing();
+    void start_runsAllJobs_andKeepsTheList();
+    void start_savesTheDefaults_ofTheLastSelectedJob();
+    void start_showsIntervalsThatWereCorrected();
+    void cancel_closesTheDialog();
+};
+
+void BatchModeDialogFilesTest::initTestCase()
+{
+    // File dialogs of the platform cannot be driven.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void BatchModeDialogFilesTest::loadedVideos_areSelectedAlone()
+{
+    ModeDialog mode;
+    mode.load(2);
+    QStringList names;
+    for (const char* const name : {"x.mov", "y.mov", "z.mov"}) {
+        names.append(QLatin1String(name));
+        makeFile(mode.dir().filePath(names.last()));
+    }
+    ModalScript script;
+    script.expect<SmartFileDialog>([&](SmartFileDialog& dialog) {
+        QCOMPARE(dialog.fileMode(), QFileDialog::ExistingFiles);
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        QVERIFY(dialog.nameFilters().first().contains(QStringLiteral("*.mov")));
+        chooseFiles(dialog, mode.dir().path(), names);
+    });
+    mode.click("loadVideoButton");
+    QVERIFY(script.isDone());
+    QCOMPARE(mode.model().rowCount(), 5);
+    QCOMPARE(mode.selectedRows(), (QList<int>{2, 3, 4}));
+    QCOMPARE(mode.job(4).source(), mode.dir().filePath(QStringLiteral("z.mov")));
+    QCOMPARE(mode.labelText("selectedVideoFileNameLabel"), QStringLiteral("[Multiple]"));
+    QCOMPARE(mode.table().selectionMode(), QAbstractItemView::ExtendedSelection);
+    QVERIFY(QSettings().contains(QStringLiteral("openDialog_dialogPath")));
+}
+
+void BatchModeDialogFilesTest::loadedVideo_isProbed()
+{
+    ModeDialog mode;
+    mode.dialog().loadVideos({samplePath(QStringLiteral("h264_gop250.mp4"))});
+    QCOMPARE(mode.job(0).videoInfo().duration, 20800);
+}
+
+void BatchModeDialogFilesTest::cancelledLoading_addsNothing()
+{
+    ModeDialog mode;
+    mode.load(1);
+    ModalScript script;
+    script.expect<SmartFileDialog>(
+        [](SmartFileDialog& dialog) { static_cast<QDialog&>(dialog).reject(); });
+    mode.click("loadVideoButton");
+    QVERIFY(script.isDone());
+    QCOMPARE(mode.model().rowCount(), 1);
+    QCOMPARE(mode.selectedRows(), QList<int>{0});
+}
+
+void BatchModeDialogFilesTest::loadedVideos_beginLikeTheOneEditedLast()
+{
+    ModeDialog mode;
+    mode.load(3);
+    mode.select({0, 1});
+    mode.enter("skipFrontTextEdit", QStringLiteral("123"));
+    mode.click("intervalSingleShotRadioButton");
+    mode.load(1);
+    QCOMPARE(mode.job(3).skipFront(), 123);
+    QCOMPARE(mode.job(3).intervalType(), 2);
+    QCOMPARE(mode.job(3).fileOutputPath(), mode.dir().path());
+    QCOMPARE(mode.job(2).skipFront(), 2000);
+}
+
+void BatchModeDialogFilesTest::droppedFiles_areLoaded_andFoldersAreNot()
+{
+    const ModeDialog mode;
+    const QString path = mode.dir().filePath(QStringLiteral("dropped.mov"));
+    makeFile(path);
+    QVERIFY(!drop(mode, {QUrl::fromLocalFile(mode.dir().path())}));
+    QVERIFY(!drop(mode, {QUrl(QStringLiteral("https://morvantile.example/video.mov"))}));
+    QCOMPARE(mode.model().rowCount(), 0);
+    QVERIFY(drop(mode, {QUrl::fromLocalFile(path), QUrl::fromLocalFile(mode.dir().path())}));
+    QCOMPARE(mode.model().rowCount(), 1);
+    QCOMPARE(mode.job(0).source(), path);
+    QCOMPARE(mode.selectedRows(), QList<int>{0});
+}
+
+void BatchModeDialogFilesTest::removal_takesTheSelectedOnes_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("button") << "button";
+    QTest::newRow("delete") << "delete";
+}
+
+void BatchModeDialogFilesTest::removal_takesTheSelectedOnes()
+{
+    QFETCH(const QString, way);
+    ModeDialog mode;
+    mode.load(4);
+    mode.select({2, 0});
+    if (way == QLatin1String("button")) {
+        mode.click("removeVideoButton");
+    } else {
+        QVERIFY(testsupport::showActive(mode.dialog()));
+        mode.table().setFocus();
+        QTest::keyClick(&mode.table(), Qt::Key_Delete);
+    }
+    QCOMPARE(mode.model().rowCount(), 2);
+    QCOMPARE(mode.job(0).sourceFileName(), QStringLiteral("b"));
+    QCOMPARE(mode.job(1).sourceFileName(), QStringLiteral("d"));
+    QVERIFY(mode.find<QPushButton>("startButton").isEnabled());
+}
+
+void BatchModeDialogFilesTest::jobs_surviveTheirRemoval()
+{
+    ModeDialog mode;
+    mode.load(1);
+    const BatchWorkerConfig& job = mode.job(0);
+    mode.click("removeVideoButton");
+    QCOMPARE(job.sourceFileName(), QStringLiteral("a"));
+}
+
+void BatchModeDialogFilesTest::chosenFolder_goesIntoTheSelectedJobs()
+{
+    ModeDialog mode;
+    mode.load(2);
+    QVERIFY(QDir(mode.dir().path()).mkdir(QStringLiteral("images")));
+    const QString folder = mode.dir().filePath(QStringLiteral("images"));
+    ModalScript script;
+    script.expect<SmartFileDialog>([&folder](SmartFileDialog& dialog) {
+        QCOMPARE(dialog.fileMode(), QFileDialog::Directory);
+        QVERIFY(dialog.testOption(QFileDialog::ShowDirsOnly));
+        child<QLineEdit>(dialog, "fileNameEdit").setText(folder);
+        static_cast<QDialog&>(dialog).accept();
+    });
+    mode.click("fileOutputFolderSelectButton");
+    QVERIFY(script.isDone());
+    QCOMPARE(mode.text("fileOutputFolderTextEdit"), folder);
+    QCOMPARE(mode.job(0).fileOutputPath(), folder);
+    QCOMPARE(mode.job(1).fileOutputPath(), folder);
+    QVERIFY(QSettings().contains(QStringLiteral("batchOutputFolder_dialogPath")));
+}
+
+void BatchModeDialogFilesTest::folderDialog_startsWhereItShould_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("existing folder") << "/usr/share" << true;
+    QTest::newRow("missing folder") << "/nowhere/to/be/found" << false;
+    QTest::newRow("nothing typed") << "" << false;
+}
+
+void BatchModeDialogFilesTest::folderDialog_startsWhereItShould()
+{
+    QFETCH(const QString, typed);
+    QFETCH(const bool, isThere);
+    ModeDialog mode;
+    mode.load(1);
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(typed);
+    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    QVERIFY(QDir().mkpath(desktop));
+    ModalScript script;
+    script.expect<SmartFileDialog>([&](SmartFileDialog& dialog) {
+        QCOMPARE(dialog.directory().absolutePath(), isThere ? typed : desktop);
+        static_cast<QDialog&>(dialog).reject();
+    });
+    mode.click("fileOutputFolderSelectButton");
+    QVERIFY(script.isDone());
+    QCOMPARE(mode.text("fileOutputFolderTextEdit"), typed);
+}
+
+void BatchModeDialogFilesTest::savedNameProfile_goesIntoTheSelectedJobs()
+{
+    ModeDialog mode;
+    mode.load(3);
+    mode.select({0, 1});
+    const int profiles = FileNameProfile::profileManager()->profiles().size();
+    ModalScript script;
+    script.expect<FileNameProfileDialog>([](FileNameProfileDialog& dialog) {
+        QCOMPARE(dialog.selectedProfile()->name(), QStringLiteral("One"));
+        testsupport::typeProfileName(dialog, QStringLiteral("Made"));
+        child<QLineEdit>(dialog, "formatPrefixLineEdit").setText(QStringLiteral("shot_"));
+        child<QPushButton>(dialog, "saveButton").click();
+    });
+    mode.click("filenameProfileEditButton");
+    QVERIFY(script.isDone());
+    QCOMPARE(FileNameProfile::profileManager()->profiles().size(), profiles + 1);
+    QCOMPARE(mode.job(0).filenameProfile()->name(), QStringLiteral("Made"));
+    QCOMPARE(mode.job(1).filenameForCounter(1), QStringLiteral("shot_b-00001.jpeg"));
+    QCOMPARE(mode.job(2).filenameProfile()->name(), QStringLiteral("One"));
+    QCOMPARE(mode.comboText("filenameProfileComboBox"), QStringLiteral("Made"));
+    QVERIFY(mode.find<QPushButton>("filenameProfileEditButton").isEnabled());
+}
+
+void BatchModeDialogFilesTest::cancelledNameProfile_changesNothing()
+{
+    ModeDialog mode;
+    mode.load(2);
+    ModalScript script;
+    script.expect<FileNameProfileDialog>([](FileNameProfileDialog& dialog) { dialog.reject(); });
+    mode.click("filenameProfileEditButton");
+    QVERIFY(script.isDone());
+    QCOMPARE(mode.job(0).filenameProfile()->name(), QStringLiteral("One"));
+    QCOMPARE(mode.comboText("filenameProfileComboBox"), QStringLiteral("One"));
+    QCOMPARE(mode.selectedRows(), (QList<int>{0, 1}));
+}
+
+void BatchModeDialogFilesTest::start_runsAllJobs_andKeepsTheList()
+{
+    ModeDialog mode;
+    mode.dialog().loadVideos(
+        {samplePath(QStringLiteral("mpeg4.mp4")), samplePath(QStringLiteral("h264_bframes.mp4"))});
+    mode.load(1);
+    mode.click("selectAllVideoButton");
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(mode.dir().path());
+    mode.click("intervalSingleShotRadioButton");
+    mode.select({0});
+    QString log;
+    ModalScript script;
+    script.expect<BatchProcessingDialog>([&](BatchProcessingDialog& dialog) {
+        QCOMPARE(dialog.parentWidget(), &mode.dialog());
+        endBatch(dialog);
+        log = child<QTextEdit>(dialog, "logTextEdit").toPlainText();
+    });
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    QCOMPARE(QDir(mode.dir().path()).entryList({QStringLiteral("*.jpeg")}),
+             (QStringList{QStringLiteral("h264_bframes-.jpeg"), QStringLiteral("mpeg4-.jpeg")}));
+    QCOMPARE(log, mode.file(2) + QStringLiteral(": Could not open file\nProcessing Complete\n"));
+    QCOMPARE(mode.model().rowCount(), 3);
+    QCOMPARE(mode.selectedRows(), QList<int>{0});
+}
+
+void BatchModeDialogFilesTest::start_savesTheDefaults_ofTheLastSelectedJob()
+{
+    ModeDialog mode;
+    mode.load(3);
+    for (const int row : {0, 1, 2}) {
+        mode.job(row).setSkipBack(100 + row);
+    }
+    const auto startAndEnd = [&mode] {
+        ModalScript script;
+        script.expect<BatchProcessingDialog>(endBatch);
+        mode.click("startButton");
+        QVERIFY(script.isDone());
+    };
+    mode.select({0, 1});
+    startAndEnd();
+    QCOMPARE(mode.defaults().value(QStringLiteral("skipBack")).toInt(), 101);
+    mode.select({});
+    startAndEnd();
+    QCOMPARE(mode.defaults().value(QStringLiteral("skipBack")).toInt(), 102);
+    QVERIFY(!mode.defaults().contains(QStringLiteral("source")));
+}
+
+/// One image of many is a single shot, which the worker makes of it.
+void BatchModeDialogFilesTest::start_showsIntervalsThatWereCorrected()
+{
+    ModeDialog mode;
+    mode.dialog().loadVideos({samplePath(QStringLiteral("mpeg4.mp4"))});
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(mode.dir().path());
+    mode.enter("intervalImagesTextEdit", QStringLiteral("1"));
+    ModalScript script;
+    script.expect<BatchProcessingDialog>(endBatch);
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    QVERIFY(mode.isChecked("intervalSingleShotRadioButton"));
+    QCOMPARE(mode.text("intervalImagesTextEdit"), QStringLiteral("10"));
+}
+
+void BatchModeDialogFilesTest::cancel_closesTheDialog()
+{
+    ModeDialog mode;
+    QVERIFY(testsupport::showActive(mode.dialog()));
+    mode.click("cancelButton");
+    QVERIFY(!mode.dialog().isVisible());
+}
+
+QTEST_MAIN(BatchModeDialogFilesTest)
+#include "BatchModeDialogFilesTest.moc"
