@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QThread>
 
@@ -23,6 +24,14 @@ constexpr float samplingProgress = 0.99F;
 /// Leaves the worker's own thread the time to make and save an image before the next one comes.
 constexpr unsigned long pauseMilliseconds = 100;
 
+/// How many frames may wait for their images to be made. A frame of a large video takes as much
+/// memory as its pixels.
+constexpr int mostWaitingFrames = 4;
+/// How often, and how long at most, to look whether there are fewer. Should the worker's thread do
+/// nothing at all, the job goes on all the same.
+constexpr unsigned long lookMilliseconds = 10;
+constexpr qint64 longestWaitMilliseconds = 5000;
+
 /// Asks for a file name without a number.
 constexpr int noCounter = -1;
 
@@ -33,6 +42,9 @@ BatchWorker::BatchWorker(QObject* parent)
     , m_frameGrabber(new FrameGrabber(this))
 {
     registerMetaTypes();
+    connect(
+        m_frameGrabber, &FrameGrabber::frameExtracted, this, [this] { ++m_waitingFrames; },
+        Qt::DirectConnection);
     connect(m_frameGrabber, &FrameGrabber::frameExtracted, this, &BatchWorker::frameExtracted);
     connect(m_frameGrabber, &FrameGrabber::error, this, &BatchWorker::extractorError);
 }
@@ -105,9 +117,21 @@ void BatchWorker::takeFrames(const SamplingPlan& plan)
         position += plan.step;
         QThread::msleep(pauseMilliseconds);
         QCoreApplication::processEvents();
+        waitForImages();
         if (isInterruptionRequested()) {
             return;
         }
+    }
+}
+
+/// Keeps the frames from piling up where images take longer than frames.
+void BatchWorker::waitForImages() const
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (m_waitingFrames >= mostWaitingFrames && !isInterruptionRequested() &&
+           !waited.hasExpired(longestWaitMilliseconds)) {
+        QThread::msleep(lookMilliseconds);
     }
 }
 
@@ -136,6 +160,7 @@ void BatchWorker::tickProgress()
 
 void BatchWorker::frameExtracted(QtAV::VideoFrame frame)
 {
+    --m_waitingFrames;
     if (isInterruptionRequested()) {
         return;
     }

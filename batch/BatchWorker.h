@@ -8,6 +8,8 @@
 #include <QMetaType>
 #include <QString>
 
+#include <atomic>
+
 class BatchWorkerConfig;
 class FrameGrabber;
 struct SamplingPlan;
@@ -16,7 +18,8 @@ struct SamplingPlan;
 ///
 /// Threads: the worker belongs to the thread that created it, and run() may be called in that
 /// thread or another. Frames are taken where run() runs; images are made and saved in the worker's
-/// own thread, each while run() pauses after it. progressUpdate() and the status that a video
+/// own thread, each while run() pauses after it; run() takes no more frames while too many wait for
+/// that. progressUpdate() and the status that a video
 /// cannot be opened come from the thread of run(), all other signals from the worker's own. In one
 /// thread everything happens in order before run() returns.
 class BatchWorker : public Worker
@@ -69,12 +72,16 @@ private:
     void takeFrames(const SamplingPlan& plan);
     bool takeFrame(qint64 position);
     void tickProgress();
+    void waitForImages() const;
 
     QString firstFreePath();
     QString nextFreePath();
     void announceSaving(const QString& path);
     bool saveImage(QString path, const QImage& image);
 
+    /// Frames whose images are still to be made. Counted up in the thread of run(), down in the
+    /// worker's own.
+    std::atomic<int> m_waitingFrames{0};
     BatchWorkerConfig* m_config = nullptr;
     FrameGrabber* m_frameGrabber;
     /// Number of the frame to request next.

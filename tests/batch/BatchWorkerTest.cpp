@@ -12,6 +12,7 @@
 #include <QTest>
 #include <QThread>
 
+#include <atomic>
 #include <memory>
 #include <thread>
 
@@ -90,6 +91,7 @@ private Q_SLOTS:
     void run_stops_whereverItIsInterrupted_data();
     void run_stops_whereverItIsInterrupted();
     void run_savesInTheWorkersThread_whenCalledInAnother();
+    void run_waitsForItsImages_whenTheyFallBehind();
     void setProgress_emits_untilInterrupted();
     void frame_isIgnored_onceInterrupted();
     void error_isIgnored_onceInterrupted();
@@ -354,6 +356,27 @@ void BatchWorkerTest::run_savesInTheWorkersThread_whenCalledInAnother()
     QVERIFY(ended);
     QVERIFY(!isElsewhere);
     QCOMPARE(QDir(dir.path()).entryList({QStringLiteral("*.jpeg")}).size(), 3);
+}
+
+/// A second is time for ten frames, were they let to pile up.
+void BatchWorkerTest::run_waitsForItsImages_whenTheyFallBehind()
+{
+    const TestDir dir;
+    Job job(makeMinute(dir), dir.path());
+    job.config.setIntervalType(BatchWorkerConfig::SpreadImages);
+    job.config.setIntervalImages(12);
+    std::atomic<int> positions{0};
+    QObject::connect(
+        job.grabber(), &FrameGrabber::positionChanged, job.grabber(), [&positions] { ++positions; },
+        Qt::DirectConnection);
+    std::thread thread([&job] { job.worker.run(); });
+    QThread::msleep(1500);
+    const int takenUnheard = positions;
+    const bool ended = QTest::qWaitFor(
+        [&job] { return job.events.of(QStringLiteral("image")).size() == 12; }, 60000);
+    thread.join();
+    QVERIFY2(takenUnheard <= 4, qPrintable(QString::number(takenUnheard)));
+    QVERIFY(ended);
 }
 
 void BatchWorkerTest::setProgress_emits_untilInterrupted()
