@@ -65,6 +65,7 @@ private Q_SLOTS:
     void on_skipBackTextEdit_editingFinished();
     void on_fileOutputFolderSelectButton_clicked();
     void on_imageProfileComboBox_currentIndexChanged(int index);
+    void on_imageProfileEditButton_clicked();
     void on_filenameProfileComboBox_currentIndexChanged(int index);
     void on_filenameProfileEditButton_clicked();
     void on_filenameProfileComboBox_activated(QString const&);

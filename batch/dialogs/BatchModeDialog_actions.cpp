@@ -7,6 +7,7 @@
 #include "batch/dialogs/BatchProcessingDialog.h"
 #include "profiles/ProfileManager.h"
 #include "ui/dialogs/FileNameProfileDialog.h"
+#include "ui/dialogs/ImageProfileDialog.h"
 #include "ui/widgets/SmartFileDialog.h"
 #include "ui_BatchModeDialog.h"
 
@@ -158,6 +159,21 @@ void BatchModeDialog::on_filenameProfileComboBox_activated(QString const& /*text
     loadFormValues();
 }
 
+void BatchModeDialog::on_imageProfileEditButton_clicked()
+{
+    const QList<BatchWorkerConfig*> configs = getSelectedConfigs();
+    ImageProfileDialog dialog(this);
+    dialog.setSelectedProfile(
+        common(configs, [](const BatchWorkerConfig& config) { return config.imageProfile(); }));
+    dialog.exec();
+    for (BatchWorkerConfig* const config : configs) {
+        // Null, when there was no common one and none was saved, changes nothing.
+        config->setImageProfile(dialog.selectedProfile());
+    }
+    loadProfileComboBox(m_ui->imageProfileComboBox, ImageProfile::profileManager());
+    showJobsAnew();
+}
+
 void BatchModeDialog::on_filenameProfileEditButton_clicked()
 {
     const QList<BatchWorkerConfig*> configs = getSelectedConfigs();
@@ -168,10 +184,8 @@ void BatchModeDialog::on_filenameProfileEditButton_clicked()
         dialog.setExampleFileName(QFileInfo(configs.first()->source()).fileName());
     }
     dialog.exec();
-    if (dialog.selectedProfile() != nullptr) {
-        for (BatchWorkerConfig* const config : configs) {
-            config->setFileNameProfile(dialog.selectedProfile());
-        }
+    for (BatchWorkerConfig* const config : configs) {
+        config->setFileNameProfile(dialog.selectedProfile());
     }
     loadProfileComboBox(m_ui->filenameProfileComboBox, FileNameProfile::profileManager());
     showJobsAnew();

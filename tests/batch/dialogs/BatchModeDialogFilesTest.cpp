@@ -7,6 +7,7 @@
 #include "tests/ui/dialogs/support/DialogDriving.h"
 #include "tests/ui/dialogs/support/ModalScript.h"
 #include "ui/dialogs/FileNameProfileDialog.h"
+#include "ui/dialogs/ImageProfileDialog.h"
 #include "ui/widgets/SmartFileDialog.h"
 
 #include <QDropEvent>
@@ -91,6 +92,8 @@ private Q_SLOTS:
     void folderDialog_startsWhereItShould();
     void savedNameProfile_goesIntoTheSelectedJobs();
     void cancelledNameProfile_changesNothing();
+    void savedImageProfile_goesIntoTheSelectedJobs();
+    void cancelledImageProfile_changesNothing_whereJobsDiffer();
     void start_runsAllJobs_andKeepsTheList();
     void start_savesTheDefaults_ofTheLastSelectedJob();
     void start_showsIntervalsThatWereCorrected();
@@ -295,6 +298,48 @@ void BatchModeDialogFilesTest::cancelledNameProfile_changesNothing()
     QCOMPARE(mode.job(0).filenameProfile()->name(), QStringLiteral("One"));
     QCOMPARE(mode.comboText("filenameProfileComboBox"), QStringLiteral("One"));
     QCOMPARE(mode.selectedRows(), (QList<int>{0, 1}));
+}
+
+void BatchModeDialogFilesTest::savedImageProfile_goesIntoTheSelectedJobs()
+{
+    ModeDialog mode;
+    mode.load(3);
+    mode.select({0, 1});
+    const int profiles = ImageProfile::profileManager()->profiles().size();
+    ModalScript script;
+    script.expect<ImageProfileDialog>([](ImageProfileDialog& dialog) {
+        QCOMPARE(dialog.selectedProfile()->name(), QStringLiteral("One"));
+        testsupport::typeProfileName(dialog, QStringLiteral("Small"));
+        child<QLineEdit>(dialog, "imageWidthLineEdit").setText(QStringLiteral("64"));
+        child<QPushButton>(dialog, "saveButton").click();
+    });
+    mode.click("imageProfileEditButton");
+    QVERIFY(script.isDone());
+    QCOMPARE(ImageProfile::profileManager()->profiles().size(), profiles + 1);
+    QCOMPARE(mode.job(0).imageProfile()->name(), QStringLiteral("Small"));
+    QCOMPARE(mode.job(1).imageProfile()->imageWidth(), 64);
+    QCOMPARE(mode.job(2).imageProfile()->name(), QStringLiteral("One"));
+    QCOMPARE(mode.comboText("imageProfileComboBox"), QStringLiteral("Small"));
+}
+
+/// The button is for one profile alone, so this goes around it.
+void BatchModeDialogFilesTest::cancelledImageProfile_changesNothing_whereJobsDiffer()
+{
+    ModeDialog mode;
+    mode.load(2);
+    mode.select({1});
+    mode.choose("imageProfileComboBox", 2);
+    mode.select({0, 1});
+    ModalScript script;
+    script.expect<ImageProfileDialog>([](ImageProfileDialog& dialog) {
+        QVERIFY(dialog.selectedProfile() == nullptr);
+        dialog.reject();
+    });
+    QVERIFY(QMetaObject::invokeMethod(&mode.dialog(), "on_imageProfileEditButton_clicked"));
+    QVERIFY(script.isDone());
+    QCOMPARE(mode.job(0).imageProfile()->name(), QStringLiteral("One"));
+    QCOMPARE(mode.job(1).imageProfile()->name(), QStringLiteral("Two"));
+    QCOMPARE(mode.comboText("imageProfileComboBox"), QStringLiteral("[Multiple]"));
 }
 
 void BatchModeDialogFilesTest::start_runsAllJobs_andKeepsTheList()
