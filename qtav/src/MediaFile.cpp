@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 namespace QtAV {
 
@@ -29,6 +30,20 @@ const qint32* displayMatrixOf(const AVStream& stream)
 bool isAvi(const AVFormatContext& format)
 {
     return std::strcmp(format.iformat->name, "avi") == 0;
+}
+
+/// Finds out what the streams are like, for which FFmpeg decodes some pictures. Nobody sees those:
+/// they need not be filtered.
+int findStreamInfo(AVFormatContext& format)
+{
+    std::vector<AVDictionary*> options(format.nb_streams, nullptr);
+    for (AVDictionary*& ofStream : options)
+        av_dict_set(&ofStream, "skip_loop_filter", "all", 0);
+    const int result =
+        avformat_find_stream_info(&format, options.empty() ? nullptr : options.data());
+    for (AVDictionary*& ofStream : options)
+        av_dict_free(&ofStream);
+    return result;
 }
 
 /// A bare sequence of pictures, without a container that would tell times.
@@ -78,7 +93,7 @@ bool MediaFile::openInput(QString& error)
     av_dict_free(&options);
     m_format.reset(context);
     if (result >= 0)
-        result = avformat_find_stream_info(m_format.get(), nullptr);
+        result = findStreamInfo(*m_format);
     if (result < 0) {
         error = ffmpegErrorText(result);
         m_format.reset();
