@@ -246,7 +246,7 @@ bool FrameSource::startWalkBehind(double target)
     m_walk.reset();
     QString error;
     // The same file opened before: what fails now is that it went away meanwhile.
-    if (!m_behind.isOpen() && !m_behind.open(m_path, error)) {
+    if (!m_behind.isOpen() && !m_behind.open(m_path, error, &m_ahead)) {
         qWarning("Cannot step back: %s", qUtf8Printable(error));
         return false;
     }

@@ -24,7 +24,7 @@ QVariantHash decoderOptions(bool skips)
 
 } // namespace
 
-bool VideoCursor::open(const QString& path, QString& error)
+bool VideoCursor::open(const QString& path, QString& error, const VideoCursor* other)
 {
     close();
     m_demuxer.setMedia(path);
@@ -40,6 +40,8 @@ bool VideoCursor::open(const QString& path, QString& error)
     }
     m_decoder.reset(VideoDecoder::create("FFmpeg"));
     m_decoder->setCodecContext(context);
+    if (other && other->m_decoder)
+        m_decoder->shareMemoryWith(*other->m_decoder);
     if (!m_decoder->open()) {
         error = QCoreApplication::translate("QtAV::AVPlayer", "The video cannot be decoded.");
         close();

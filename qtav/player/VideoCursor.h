@@ -39,7 +39,9 @@ public:
 
     /// Opens the file's first video stream. False, with a text for people, when it has none or
     /// none that can be decoded.
-    [[nodiscard]] bool open(const QString& path, QString& error);
+    /// @param other  another cursor in the same video, whose memory it shall share; null for none.
+    [[nodiscard]] bool open(const QString& path, QString& error,
+                            const VideoCursor* other = nullptr);
     void close();
     [[nodiscard]] bool isOpen() const { return m_decoder != nullptr; }
 

@@ -5,6 +5,7 @@
 #include "qtav/src/HevcLayers.h"
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/PictureConverter.h"
+#include "qtav/src/PicturePool.h"
 #include "qtav/src/StreamParameters.h"
 #include "qtav/src/VideoFramePrivate.h"
 
@@ -56,6 +57,8 @@ public:
     void watchSubLayers(const AVPacket& packet);
 
     std::shared_ptr<const StreamParameters> parameters;
+    std::shared_ptr<PicturePool> pool = std::make_shared<PicturePool>();
+    std::shared_ptr<PicturePool> usedPool; ///< of the open context, which goes before it
     CodecContextPtr context;
     QVariantHash options;
     std::shared_ptr<PictureConverter> converter;
@@ -106,6 +109,8 @@ bool VideoDecoder::open()
                                 .toHash()
                                 .value(QStringLiteral("threads"), 0)
                                 .toInt();
+    d->usedPool = d->pool;
+    d->usedPool->serve(*context);
     if (avcodec_open2(context.get(), codec, nullptr) < 0)
         return false;
     d->context = std::move(context);
@@ -115,6 +120,11 @@ bool VideoDecoder::open()
                       hevcHasSubLayers(parameters.extradata, parameters.extradata_size);
     d->applySkipOptions();
     return true;
+}
+
+void VideoDecoder::shareMemoryWith(const VideoDecoder& other)
+{
+    d->pool = other.d->pool;
 }
 
 void VideoDecoder::close()
