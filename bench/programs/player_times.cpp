@@ -1,7 +1,7 @@
 // A player with a window, told on standard input what to do, one command a line. Each is answered
 // by one line of JSON once its picture has been painted:
 //
-//   open PATH        plays it, and pauses when its first frame is there
+//   open PATH        play() and pause(): up to the first frame
 //   stop
 //   seek MS          to a position in milliseconds
 //   forward          a step to the very next frame
@@ -125,9 +125,10 @@ public:
 private:
     QJsonObject open(const QString& path)
     {
-        const QJsonObject result = untilPainted([this, path] { m_player.play(path); });
-        m_player.pause();
-        return result;
+        return untilPainted([this, path] {
+            m_player.play(path);
+            m_player.pause();
+        });
     }
 
     QJsonObject stop()
