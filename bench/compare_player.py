@@ -278,6 +278,7 @@ class Figures:
     def __init__(self):
         self.first_frames = []
         self.seeks = []
+        self.seek_cpu = []  # processor time
         self.first_backs = []
         self.further_backs = []
         self.forwards = []
@@ -305,12 +306,18 @@ def measure_opening(player, figures, path):
     figures.first_frames.append(player.open(path))
 
 
+def measure_seek(player, figures, frame):
+    before = player.cpu()
+    elapsed, position = player.seek(position_of(frame))
+    figures.seek_cpu.append((player.cpu() - before) * 1000.0)
+    figures.seeks.append(elapsed)
+    check("seek", frame, position)
+
+
 def measure_back(player, figures, path, frame, steps):
     measure_opening(player, figures, path)
     player.rest()
-    elapsed, position = player.seek(position_of(frame))
-    check("seek", frame, position)
-    figures.seeks.append(elapsed)
+    measure_seek(player, figures, frame)
     for number in range(1, steps + 1):
         elapsed, position = player.backward()
         check(f"step back {number}", frame - number, position)
@@ -320,9 +327,7 @@ def measure_back(player, figures, path, frame, steps):
 def measure_forward(player, figures, path, frame, steps):
     measure_opening(player, figures, path)
     player.rest()
-    elapsed, position = player.seek(position_of(frame))
-    check("seek", frame, position)
-    figures.seeks.append(elapsed)
+    measure_seek(player, figures, frame)
     for number in range(1, steps + 1):
         elapsed, position = player.forward()
         check(f"step forward {number}", frame + number, position)
@@ -367,6 +372,7 @@ def measure(video, path, players, count, steps):
         back, forward = frames[2 * number], frames[2 * number + 1]
         each(number, lambda player, own: measure_back(player, own, path, back, steps))
         each(number, lambda player, own: measure_forward(player, own, path, forward, forward_steps))
+        print(f"{video.name}: position {number + 1} of {count}", file=sys.stderr, flush=True)
     each(0, lambda player, own: fill_memory(player, path, frames))
     each(0, measure_playing)
     for player in players:
@@ -395,6 +401,7 @@ def print_figures(video, own, mpv, cache):
     row("first frame, p50", median(own.first_frames), median(mpv.first_frames), FIRST_FRAME_GOAL)
     row("exact seek, p50", median(own.seeks), median(mpv.seeks), video.seek_goal)
     row("exact seek, p90", percentile(own.seeks, 0.9), percentile(mpv.seeks, 0.9))
+    row("processor time of a seek, mean", mean(own.seek_cpu), mean(mpv.seek_cpu))
     row("first step back after a seek, p50", median(own.first_backs), median(mpv.first_backs),
         FIRST_BACK_GOAL)
     row("further steps back, p50", median(own.further_backs), median(mpv.further_backs))
