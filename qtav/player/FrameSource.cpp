@@ -16,9 +16,9 @@ constexpr qint64 SmallestStepBackMs = 500;
 /// To a frame not further ahead than this, decoding on is cheaper than starting at a key frame.
 constexpr double NearSeconds = 1.0;
 
-/// So many frames before a target are decoded with it, for the step back that often follows. Each
+/// So many frames before a target are decoded with it, for the steps back that often follow. Each
 /// costs a part of the seek's time; those before them are decoded behind the seek's back.
-constexpr qint64 FramesBeforeTarget = 4;
+constexpr qint64 FramesBeforeTarget = 8;
 
 /// Filling begins when frames before the focus take less than this part of the cache, and adds the
 /// other part: together less than what eviction leaves them, or filling would never end.
