@@ -11,7 +11,7 @@ class SettingsTest(MorvantileCase):
         popup = self.open_volume(program)
         left, top, right, bottom = popup
         slider = (left + 2, top + 2, right - 2, bottom - 40)
-        # Without the edge, which tells whether the keyboard is there.
+        # Inside the edge of the check box.
         tick = (left + 11, bottom - 28, left + 20, bottom - 19)
         untouched = [self.desktop.picture(part).tobytes() for part in (slider, tick)]
         # The slider fills the popup above the check box, its handle is in the middle of it.
@@ -23,6 +23,8 @@ class SettingsTest(MorvantileCase):
         self.wait_for_setting("volume", lambda volume: 60 < int(volume) < 100)
         self.desktop.click(left + 15, bottom - 24)
         self.wait_for_setting("muted", lambda muted: muted == "true")
+        # As in a popup that was just opened.
+        self.desktop.key("shift+Tab")
         self.desktop.move(0, 0)
         changed = wait_until(lambda: self.settled(slider, tick), "the popup never settles")
         self.assertNotIn(True, [new == old for new, old in zip(changed, untouched)])

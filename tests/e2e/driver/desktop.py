@@ -127,7 +127,7 @@ class Desktop:
         self._do("type", "--delay", "5", "--", text)
 
     def move(self, x, y):
-        self._do("mousemove", "--sync", str(int(x)), str(int(y)))
+        self._do("mousemove", str(int(x)), str(int(y)))
 
     def press(self):
         self._do("mousedown", "1")
