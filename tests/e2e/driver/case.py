@@ -70,9 +70,9 @@ class MorvantileCase(unittest.TestCase):
         return pathlib.Path(shutil.copy(MEDIA / name, self.videos / (copy or name)))
 
     def open_paused(self, program, video):
-        """Opens the video, pauses it somewhere and gives the number of the frame it stands at."""
+        """Opens the video and pauses it with frames before and behind; gives the frame's number."""
         program.open_with_dialog(video)
-        wait_until(lambda: program.shown_frame() is not None, "no frame on the screen")
+        wait_until(lambda: (program.shown_frame() or 0) >= 5, "it does not play")
         self.desktop.key("space")
         return self.wait_for_standstill(program)
 
