@@ -5,7 +5,6 @@ from tests.e2e.driver.waiting import holds_for, wait_until
 
 FRAMES_A_SECOND = 1000 // FRAME_MS
 
-
 # Of the slider, in milliseconds.
 SLIDER_STEP_MS = 30
 

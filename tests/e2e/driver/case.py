@@ -1,6 +1,5 @@
 """What all end-to-end tests have in common."""
 
-import collections
 import contextlib
 import functools
 import os
@@ -33,14 +32,14 @@ def _leaving_traces(test):
     return wrapped
 
 
-Frame = collections.namedtuple("Frame", "number")
-
-
-def _frame_at_position(program):
-    """The frame on the screen where it is the one of the position shown, else none."""
-    number = program.shown_frame()
-    is_there = number is not None and program.position == number * FRAME_MS
-    return Frame(number) if is_there else None
+def _stands_at(program, number):
+    """Whether the video is paused at the frame, on the screen and in the position shown."""
+    return (
+        number is not None
+        and program.offers_to_play()
+        and program.shown_frame() == number
+        and program.position == number * FRAME_MS
+    )
 
 
 class MorvantileCase(unittest.TestCase):
@@ -77,18 +76,17 @@ class MorvantileCase(unittest.TestCase):
         return self.wait_for_standstill(program)
 
     def wait_for_standstill(self, program):
-        """The number of the frame on the screen, once it is paused there."""
-        wait_until(program.offers_to_play, "the video goes on")
-        return wait_until(
-            lambda: _frame_at_position(program),
+        """Waits until the video is paused; gives the number of the frame at which it stands."""
+        wait_until(
+            lambda: _stands_at(program, program.shown_frame()),
             lambda: f"frame {program.shown_frame()} at {program.position} ms",
-        ).number
+        )
+        return program.shown_frame()
 
     def wait_for_frame(self, program, number):
         """Waits until the video is paused at the frame."""
-        wait_until(program.offers_to_play, "the video goes on")
         wait_until(
-            lambda: getattr(_frame_at_position(program), "number", None) == number,
+            lambda: _stands_at(program, number),
             lambda: f"frame {program.shown_frame()} at {program.position} ms, not {number}",
         )
 

@@ -63,12 +63,13 @@ class Desktop:
 
         width, height = self.size
         screen = f"{width}x{height}x24"
-        self.environment["DISPLAY"] = ":" + announcing(
-            lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", screen, "-noreset",
-                        "-nolisten", "tcp"])  # fmt: skip
+        # -r: on a slow machine a key would repeat before it is released.
+        x_server = ["Xvfb", "-r", "-screen", "0", screen, "-noreset", "-nolisten", "tcp"]
+        bus = ["dbus-daemon", "--session", "--nofork", "--nopidfile"]
+        self.environment["DISPLAY"] = ":" + announcing(lambda fd: [*x_server, "-displayfd", str(fd)])
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = announcing(
-            lambda fd: ["dbus-daemon", "--session", "--nofork", "--nopidfile",
-                        f"--print-address={fd}"])  # fmt: skip
+            lambda fd: [*bus, f"--print-address={fd}"]
+        )
         window_manager = processes.start(
             ["openbox", "--sm-disable"], env=self.environment, stdout=log, stderr=log
         )
@@ -88,10 +89,7 @@ class Desktop:
         }
 
     def _has_window_manager(self):
-        answer = subprocess.run(
-            ["xdotool", "get_desktop"], env=self.environment, capture_output=True, check=False
-        )
-        return answer.returncode == 0
+        return self._run("xdotool", "get_desktop").returncode == 0
 
     # --- what is on the screen ----------------------------------------------------------------
 
@@ -151,16 +149,16 @@ class Desktop:
         return tuple(int(word.split(":")[1]) for word in words[:2])
 
     def _do(self, *arguments):
-        answer = subprocess.run(
-            ["xdotool", *arguments], env=self.environment, timeout=LIMIT_S, check=True,
-            capture_output=True, text=True)  # fmt: skip
-        return answer.stdout
+        return self._run("xdotool", *arguments, check=True).stdout.decode()
 
     # --- the clipboard -------------------------------------------------------------------------
 
     def clipboard(self, kind):
         """The bytes that another program gets from the clipboard; none when it has not the kind."""
-        answer = subprocess.run(
-            ["xclip", "-selection", "clipboard", "-target", kind, "-out"], env=self.environment,
-            timeout=LIMIT_S, check=False, capture_output=True)  # fmt: skip
+        answer = self._run("xclip", "-selection", "clipboard", "-target", kind, "-out")
         return answer.stdout if answer.returncode == 0 else b""
+
+    def _run(self, *command, check=False):
+        return subprocess.run(
+            command, env=self.environment, timeout=LIMIT_S, check=check, capture_output=True
+        )

@@ -3,7 +3,6 @@
 import contextlib
 import os
 import pathlib
-import signal
 
 from tests.e2e.driver import processes
 from tests.e2e.driver.controls import Control, windows_of
@@ -31,8 +30,12 @@ class Program:
         self._home.mkdir(parents=True, exist_ok=True)
         with open(self.log_file, "ab") as log:
             self._process = processes.start(
-                [BINARY, *self._arguments], env=self._all_environment(), cwd=self._home,
-                stdout=log, stderr=log)  # fmt: skip
+                [BINARY, *self._arguments],
+                env=self._all_environment(),
+                cwd=self._home,
+                stdout=log,
+                stderr=log,
+            )
         try:
             self.window()
         except BaseException:
@@ -171,9 +174,6 @@ class Program:
         """The exit code, which is negative for a signal."""
         wait_until(lambda: self._process.poll() is not None, "the program still runs", limit)
         return self._process.returncode
-
-    def interrupt(self):
-        self._process.send_signal(signal.SIGTERM)
 
     @property
     def log(self):
