@@ -87,8 +87,8 @@ class PlayingTest(MorvantileCase):
         self.desktop.key("space")
         wait_until(lambda: not self.program.offers_to_play(), "it does not play")
         self.grab_slider()
-        self.desktop.drag(*self.slider_place(0.9))
-        wait_until(lambda: (self.program.shown_frame() or 0) > 400, "it did not go there")
+        self.desktop.drag(*self.slider_place(0.7))
+        wait_until(lambda: (self.program.shown_frame() or 0) > 300, "it did not go there")
         # Only a seek goes back.
         self.desktop.drag(*self.slider_place(0.2))
         wait_until(lambda: 0 < (self.program.shown_frame() or 0) < 250, "it did not go back")
@@ -117,8 +117,8 @@ class PlayingTest(MorvantileCase):
         self.open_long_video()
         self.desktop.key("space")
         wait_until(lambda: not self.program.offers_to_play(), "it does not play")
-        self.desktop.click(*self.slider_place(0.9))
-        wait_until(lambda: (self.program.shown_frame() or 0) > 400, "it did not go there")
+        self.desktop.click(*self.slider_place(0.7))
+        wait_until(lambda: (self.program.shown_frame() or 0) > 300, "it did not go there")
         self.desktop.click(*self.slider_place(0.2))
         wait_until(lambda: 0 < (self.program.shown_frame() or 0) < 250, "it did not go back")
 
