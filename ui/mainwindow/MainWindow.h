@@ -1,6 +1,7 @@
 #pragma once
 
 #include "imaging/FilePublisher.h"
+#include "ui/dialogs/ImageProfilePreview.h"
 #include "ui/mainwindow/CaptureTickets.h"
 
 #include <QDir>
@@ -37,7 +38,7 @@ class MainWindow;
 /// MainWindow_menus.cpp.
 ///
 /// Settings: "lastOpenDir", the folder that the save dialog starts in. User-interface thread only.
-class MainWindow : public QMainWindow
+class MainWindow : public QMainWindow, public ImageProfilePreview
 {
     Q_OBJECT
 
@@ -121,7 +122,8 @@ public Q_SLOTS:
     void onCaptureError();
     /// Makes the snapshot anew from the full frame; with the selected profile when given null.
     void processFullFrameImage(ImageProfile* profile);
-    void imageProfileUpdated(ImageProfile* profile);
+    /// Shows the snapshot as the profile makes it; nothing happens while there is none.
+    void imageProfileUpdated(ImageProfile* profile) override;
     void saveButtonPressed();
     void on_actionSaveSnapshot_triggered();
     void saveWithAutomaticFileName();
@@ -134,7 +136,10 @@ public Q_SLOTS:
     void on_selectOutputFolderButton_clicked();
     void on_automaticFileNameGroupBox_toggled(bool on);
 
-    // The menus.
+    // Profile editing and the menus.
+    void on_editImageProfileButton_clicked();
+    void on_editFileNameProfileButton_clicked();
+    void on_actionBatch_Mode_triggered();
     void on_actionImage_Filters_Test_triggered();
     void on_actionAbout_triggered();
     void on_actionDocumentation_triggered();

@@ -1,10 +1,70 @@
 #include "ui/mainwindow/MainWindow.h"
 
+#include "batch/dialogs/BatchModeDialog.h"
+#include "profiles/FileNameProfile.h"
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
 #include "ui/dialogs/AboutDialog.h"
+#include "ui/dialogs/FileNameProfileDialog.h"
 #include "ui/dialogs/ImageFiltersDialog.h"
+#include "ui/dialogs/ImageProfileDialog.h"
 #include "ui/mainwindow/UserGuide.h"
 
+#include <QtAV/AVPlayer.h>
+
 #include <QDesktopServices>
+
+namespace {
+
+/// Makes the profile that a dialog came back with, if any, the one used last: it then is the one
+/// selected in the window, and again after the next start.
+void adopt(ProfileManager& manager, BaseProfile* profile)
+{
+    if (profile != nullptr) {
+        manager.setLastUsedProfile(profile);
+    }
+}
+
+} // namespace
+
+void MainWindow::on_editImageProfileButton_clicked()
+{
+    pause();
+    ImageProfileDialog dialog(this);
+    const QtAV::Statistics& video = m_player->statistics();
+    dialog.setVideoDimensions(video.video_only.width, video.video_only.height);
+    dialog.setExampleImage(m_fullFrameImage);
+    dialog.setSelectedProfile(m_imageProfile);
+    dialog.exec();
+    adopt(*ImageProfile::profileManager(), dialog.selectedProfile());
+    loadImageProfileComboBox();
+    // Also takes back what the preview showed of a cancelled change.
+    imageProfileUpdated(m_imageProfile);
+    retakeFocusAfterDialog();
+}
+
+void MainWindow::on_editFileNameProfileButton_clicked()
+{
+    pause();
+    FileNameProfileDialog dialog(this);
+    dialog.setExampleFileName(currentVideoFileName());
+    dialog.setSelectedProfile(m_fileNameProfile);
+    dialog.exec();
+    adopt(*FileNameProfile::profileManager(), dialog.selectedProfile());
+    loadFileNameProfileComboBox();
+    updateAutomaticFileNameDisplay();
+    retakeFocusAfterDialog();
+}
+
+void MainWindow::on_actionBatch_Mode_triggered()
+{
+    closeVideo();
+    BatchModeDialog(this).exec();
+    // Profiles may have been added, renamed and chosen there.
+    loadImageProfileComboBox();
+    loadFileNameProfileComboBox();
+    retakeFocusAfterDialog();
+}
 
 void MainWindow::on_actionImage_Filters_Test_triggered()
 {

@@ -95,7 +95,9 @@ void MainWindow::processFullFrameImage(ImageProfile* profile)
 
 void MainWindow::imageProfileUpdated(ImageProfile* profile)
 {
-    processFullFrameImage(profile);
+    if (!m_fullFrameImage.isNull()) {
+        processFullFrameImage(profile);
+    }
 }
 
 void MainWindow::resetSnapshot()
