@@ -14,6 +14,7 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PICTURES = ROOT / "docs/user-guide"
 SAMPLE = ROOT / "samples/sunrise.mp4"
+LOGO = ROOT / "resources/Images/MVIcon128.png"
 
 os.environ.setdefault("MORVANTILE", str(ROOT / "build/release/app/morvantile"))
 sys.path.insert(0, str(ROOT))
@@ -37,7 +38,14 @@ class Photographer:
         """The window of the title, once nothing in it moves any more."""
         window = self.program.window(title)
         self.desktop.move(1, self.desktop.size[1] - 1)
-        picture = self._settled(window)
+        self._save(name, self._settled(window))
+
+    def take_moving(self, name, title):
+        """The window of the title as it is just now."""
+        self._save(name, self.desktop.picture(self.program.window(title).area))
+
+    @staticmethod
+    def _save(name, picture):
         picture.save(PICTURES / f"{name}.png", optimize=True)
         print(name, picture.size)
 
@@ -71,8 +79,78 @@ def take_main_window(photographer, video):
     photographer.take("window", title)
 
 
+def choose_file(program, path):
+    program.enter(str(path))
+    program.desktop.key("Return")
+
+
+def take_profiles(photographer):
+    desktop, program = photographer.desktop, photographer.program
+    program.click("push button", "Edit image profiles")
+    photographer.take("image-profile", "Image Profile Settings")
+
+    program.click("push button", "Edit")
+    program.window("Watermark Settings")
+    program.click("text", "Watermark text")
+    desktop.type("Morvantile")
+    # Out of the way of the times in the sample.
+    program.click("combo box", "Bottom Right")
+    desktop.key("Home", "Down", "Down", "Return")
+    photographer.take("watermark-text", "Watermark Settings")
+    program.click("radio button", "Image")
+    choose_file(program, LOGO)
+    photographer.take("watermark-image", "Watermark Settings")
+    for title in ("Watermark Settings", "Image Profile Settings"):
+        program.window(title)
+        desktop.key("Escape")
+
+    program.click("push button", "Edit file-name profiles")
+    photographer.take("file-name-profile", "FileName Profile Settings")
+    desktop.key("Escape")
+
+
+def choose_in_menu(program, menu, item):
+    program.click("menu item", menu)
+    program.click("menu item", item)
+
+
+def take_filters(photographer):
+    program = photographer.program
+    choose_in_menu(program, "Tools", "Image Filters Test")
+    photographer.take("image-filters", "Dialog")
+    photographer.desktop.key("Escape")
+
+
+def take_batch(photographer, video):
+    desktop, program = photographer.desktop, photographer.program
+    copies = [video.with_name(name) for name in ("Harbour.mp4", "Headland.mp4", "Lighthouse.mp4")]
+    for copy in copies:
+        shutil.copy(video, copy)
+    choose_in_menu(program, "Tools", "Batch Mode")
+    program.window("Morvantile Batch Mode")
+    program.click("push button", "Load Video")
+    program.window("Open")
+    choose_file(program, " ".join(f'"{copy}"' for copy in copies))
+    program.window("Morvantile Batch Mode")
+    program.click("push button", "Select All")
+    photographer.take("batch-mode", "Morvantile Batch Mode")
+
+    program.click("push button", "Start")
+    program.window("Batch Processing")
+    total = program.find("progress bar", "Progress of all videos")
+    wait_until(lambda: total.value > 30, "the batch does not go on")
+    photographer.take_moving("batch-processing", "Batch Processing")
+    wait_until(lambda: program.has("push button", "Done"), "the batch does not end")
+    program.click("push button", "Done")
+    program.window("Morvantile Batch Mode")
+    desktop.key("Escape")
+
+
 def take_all(photographer, video):
     take_main_window(photographer, video)
+    take_profiles(photographer)
+    take_filters(photographer)
+    take_batch(photographer, video)
 
 
 def main():
