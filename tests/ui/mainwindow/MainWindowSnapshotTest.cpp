@@ -5,8 +5,6 @@
 #include "profiles/ProfileManager.h"
 #include "tests/support/FrameNumber.h"
 #include "tests/support/Samples.h"
-#include "ui/dialogs/AboutDialog.h"
-#include "ui/dialogs/ImageFiltersDialog.h"
 
 #include <QtAV/AVPlayer.h>
 
@@ -14,22 +12,16 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDesktopServices>
 #include <QFile>
 #include <QFrame>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
-#include <QUrl>
 
 using namespace testsupport;
 
 class MainWindowSnapshotTest : public QObject
 {
     Q_OBJECT
-
-public Q_SLOTS:
-    void keepUrl(const QUrl& url) { m_url = url; }
 
 private Q_SLOTS:
     void initTestCase();
@@ -45,13 +37,8 @@ private Q_SLOTS:
     void chosenImageProfile_appliesFromTheNextSnapshotOn();
     void chosenFileNameProfile_isRemembered();
 
-    void about_opensAndCloses();
-    void filtersTest_pausesTheVideo();
-    void documentation_opensTheGuide();
-
 private:
     TestDir m_config;
-    QUrl m_url;
 };
 
 namespace {
@@ -202,47 +189,6 @@ void MainWindowSnapshotTest::chosenFileNameProfile_isRemembered()
              QStringLiteral("Other names"));
     window->loadFileNameProfileComboBox();
     QCOMPARE(box.currentText(), QStringLiteral("Other names"));
-}
-
-void MainWindowSnapshotTest::about_opensAndCloses()
-{
-    OpenWindow window;
-    bool seen = false;
-    QTimer::singleShot(0, &window.window(), [&seen] {
-        auto* const dialog = qobject_cast<AboutDialog*>(QApplication::activeModalWidget());
-        seen = dialog != nullptr;
-        QApplication::activeModalWidget()->close();
-    });
-    window.find<QAction>("actionAbout").trigger();
-    QVERIFY(seen);
-    QTRY_VERIFY(window->isActiveWindow());
-}
-
-void MainWindowSnapshotTest::filtersTest_pausesTheVideo()
-{
-    OpenWindow window;
-    window->openVideo(samplePath(clip));
-    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), 30000);
-    bool seen = false;
-    QTimer::singleShot(0, &window.window(), [&seen] {
-        seen = qobject_cast<ImageFiltersDialog*>(QApplication::activeModalWidget()) != nullptr;
-        QApplication::activeModalWidget()->close();
-    });
-    window.find<QAction>("actionImage_Filters_Test").trigger();
-    QVERIFY(seen);
-    QTRY_VERIFY(window.player().isPaused());
-    QTRY_VERIFY(window->isActiveWindow());
-}
-
-void MainWindowSnapshotTest::documentation_opensTheGuide()
-{
-    OpenWindow window;
-    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "keepUrl");
-    window.find<QAction>("actionDocumentation").trigger();
-    QCOMPARE(m_url, QUrl(QStringLiteral("https://morvantile.example/support")));
-    window.find<QAction>("actionCommandLineOptions").trigger();
-    QCOMPARE(m_url, QUrl(QStringLiteral("https://morvantile.example/support#command-line")));
-    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
 }
 
 QTEST_MAIN(MainWindowSnapshotTest)
