@@ -59,6 +59,9 @@ WatermarkProfileDialog::WatermarkProfileDialog(QWidget* parent)
     keepPlaceWhenHidden(*m_ui->textFormatGroupBox);
     keepPlaceWhenHidden(*m_ui->textShadowGroupBox);
     setupButtons();
+    // Not in the form: a frame that is off disables its children while they are still being made,
+    // and to screen readers they would then stay what they were at that moment, plain areas.
+    showType();
 
     setupAlignmentComboBox();
     connect(m_ui->profileSelector, &ProfileSelector::profileNameTextChanged, this,

@@ -19,6 +19,8 @@ ProfileSelector::ProfileSelector(QWidget* parent)
 
     QLineEdit* const nameEdit = m_ui->profileComboBox->lineEdit();
     nameEdit->setPlaceholderText(tr("[Type to Name Profile]"));
+    // It is what has the keyboard, and to screen readers a field of its own.
+    nameEdit->setAccessibleName(m_ui->profileComboBox->accessibleName());
     // Left alone, the combo box would complete a new name to an old one that begins like it, and
     // would load the profile of a typed name over the form before that could be saved under it.
     m_ui->profileComboBox->setCompleter(nullptr);

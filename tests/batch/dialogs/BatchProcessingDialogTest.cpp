@@ -83,6 +83,11 @@ void BatchProcessingDialogTest::form_isReadyForABatch()
     QCOMPARE(batch.button().text(), QStringLiteral("Cancel"));
     QCOMPARE(batch.labelText("currentVideoLabel"), QStringLiteral("TextLabel"));
     QCOMPARE(batch.labelText("statusLabel"), QStringLiteral("Status"));
+    // A name would be read out in place of the text.
+    for (const char* const name : {"currentVideoLabel", "statusLabel"}) {
+        QVERIFY(batch.find<QLabel>(name).accessibleName().isEmpty());
+        QVERIFY(!batch.find<QLabel>(name).accessibleDescription().isEmpty());
+    }
     for (const char* const name : {"progressBarCurrent", "progressBarTotal"}) {
         const auto& bar = batch.find<QProgressBar>(name);
         QCOMPARE(bar.minimum(), 0);

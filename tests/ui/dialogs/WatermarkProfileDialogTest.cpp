@@ -7,6 +7,7 @@
 #include "ui/widgets/ColorLabel.h"
 #include "ui/widgets/FontLabel.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QFile>
 #include <QGroupBox>
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -85,6 +87,7 @@ private Q_SLOTS:
     void fields_areTheseInThisOrder();
     void groupBoxes_shareTheirMargins();
     void inputs_haveNames_withoutSeeingThem();
+    void inputs_areNoPlainAreas_toScreenReaders();
     void tabulator_leadsThroughTheForm();
     void everyLabel_belongsToItsInput();
     void profile_isShown();
@@ -206,6 +209,23 @@ void WatermarkProfileDialogTest::inputs_haveNames_withoutSeeingThem()
     const TestProfiles profiles;
     const WatermarkProfileDialog dialog(nullptr);
     QCOMPARE(testsupport::inputsWithoutName(dialog), QStringList());
+}
+
+void WatermarkProfileDialogTest::inputs_areNoPlainAreas_toScreenReaders()
+{
+    const TestProfiles profiles;
+    const auto switchOff = qScopeGuard([] { QAccessible::setActive(false); });
+    QAccessible::setActive(true);
+    const WatermarkProfileDialog dialog(nullptr);
+    const auto role = [&dialog](const char* name) {
+        return QAccessible::queryAccessibleInterface(&child<QWidget>(dialog, name))->role();
+    };
+    QCOMPARE(role("textTextEdit"), QAccessible::EditableText);
+    // These are off, as is what they stand in, while the watermark is a text.
+    QCOMPARE(role("imageFileNameLineEdit"), QAccessible::EditableText);
+    QCOMPARE(role("imageBrowseButton"), QAccessible::Button);
+    QVERIFY(!child<QWidget>(dialog, "imageTypeFrame").isEnabled());
+    QVERIFY(child<QWidget>(dialog, "textTypeFrame").isEnabled());
 }
 
 void WatermarkProfileDialogTest::tabulator_leadsThroughTheForm()

@@ -70,6 +70,7 @@ void ProfileSelectorTest::combo_hasAName_withoutSeeingIt()
 {
     const ProfileSelector selector(nullptr);
     QCOMPARE(selector.findChild<QComboBox*>()->accessibleName(), QStringLiteral("Profile"));
+    QCOMPARE(selector.findChild<QLineEdit*>()->accessibleName(), QStringLiteral("Profile"));
     QCOMPARE(selector.focusProxy(), selector.findChild<QComboBox*>());
 }
 

@@ -43,6 +43,14 @@ bool isPartOfInput(const QWidget& widget)
     return false;
 }
 
+/// What screen readers say of a widget. The name of a combo box is what it holds at the moment.
+QString spokenName(const QWidget& widget)
+{
+    if (const auto* const box = qobject_cast<const QComboBox*>(&widget))
+        return box->isEditable() ? box->lineEdit()->accessibleName() : box->accessibleDescription();
+    return widget.accessibleName();
+}
+
 QString className(const QWidget& widget)
 {
     return QString::fromLatin1(widget.metaObject()->className());
@@ -98,7 +106,7 @@ QStringList testsupport::inputsWithoutName(const QDialog& dialog)
     QStringList names;
     const auto widgets = dialog.findChildren<QWidget*>();
     for (const QWidget* const widget : widgets) {
-        if (takesInput(*widget) && !isPartOfInput(*widget) && widget->accessibleName().isEmpty())
+        if (takesInput(*widget) && !isPartOfInput(*widget) && spokenName(*widget).isEmpty())
             names += widget->objectName();
     }
     return names;
