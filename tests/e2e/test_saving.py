@@ -38,7 +38,7 @@ class SavingTest(MorvantileCase):
         self.take_snapshot(self.program)
         for suffix, (signature, kind) in SIGNATURES.items():
             with self.subTest(suffix):
-                file = self.save_as(f"one.{suffix}")
+                file = self.save_as(self.program, self.pictures / f"one.{suffix}")
                 self.assertTrue(file.read_bytes().startswith(signature))
                 with Image.open(file) as picture:
                     self.assertEqual(picture.format, kind)
@@ -145,24 +145,9 @@ class SavingTest(MorvantileCase):
         """Paused; gives the frame at which it stands."""
         return self.open_paused(self.program, self.sample("h264_gop250.mp4"))
 
-    def save_as(self, name):
-        """Saves through the dialog and gives the file."""
-        file = self.pictures / name
-        self.desktop.key("ctrl+s")
-        self.program.window("Save As")
-        self.program.enter(str(file))
-        self.desktop.key("Return")
-        self.program.window("Morvantile - h264_gop250.mp4")
-        wait_until(file.exists, f"no {file}")
-        return file
-
     def save_automatically_into(self, folder):
-        box = self.program.find("check box", "Automatic File Name")
-        left, top, _, _ = box.area
-        self.desktop.click(left + 12, top + 8)
-        wait_until(lambda: box.is_checked, "it is not checked")
-        self.program.click("text", "Output folder")
-        self.program.enter(str(folder))
+        self.name_automatically(self.program)
+        self.program.fill("Output folder", str(folder))
         self.desktop.key("Return")
 
     def expect_next(self, name):

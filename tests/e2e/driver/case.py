@@ -95,6 +95,24 @@ class MorvantileCase(unittest.TestCase):
         self.desktop.key("ctrl+a")
         wait_until(lambda: program.find("push button", "Save").is_enabled, "no snapshot was taken")
 
+    def save_as(self, program, file):
+        """Saves the snapshot through the dialog and gives the file."""
+        title = program.window().name
+        self.desktop.key("ctrl+s")
+        program.window("Save As")
+        program.enter(str(file))
+        self.desktop.key("Return")
+        program.window(title)
+        wait_until(file.exists, f"no {file}")
+        return file
+
+    def name_automatically(self, program):
+        """Switches the box of the automatic names on."""
+        box = program.find("check box", "Automatic File Name")
+        left, top, _, _ = box.area
+        self.desktop.click(left + 12, top + 8)
+        wait_until(lambda: box.is_checked, "it is not checked")
+
     def leave_traces(self):
         folder = TRACES / self.id()
         folder.mkdir(parents=True, exist_ok=True)

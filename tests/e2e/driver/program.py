@@ -127,6 +127,32 @@ class Program:
         wait_until(typed, lambda: f'"{field.text}" instead of "{text}"')
         return field
 
+    def fill(self, name, text):
+        """Clicks into the edit field and types into it, in place of what is there."""
+        field = self.find("text", name)
+        self.desktop.click(*field.middle)
+        wait_until(lambda: field.is_focused, f"{field} does not take the keyboard")
+        return self.enter(text)
+
+    def set_number(self, name, number):
+        """Types the number into the spin box and leaves it."""
+        box = self.find("spin button", name)
+        self.desktop.click(*box.middle)
+        wait_until(lambda: box.is_focused, f"{box} does not take the keyboard")
+        self.desktop.key("ctrl+a")
+        self.desktop.type(str(number))
+        self.desktop.key("Tab")
+        wait_until(lambda: box.value == number, lambda: f"{box} is at {box.value}")
+
+    def choose(self, description, item):
+        """Chooses the item from the list of the combo box."""
+        box = self.find("combo box", description=description)
+        items = [entry.name for entry in box.children[0].children]
+        steps = items.index(item) - items.index(box.name)
+        self.desktop.click(*box.middle)
+        self.desktop.key(*["Down" if steps > 0 else "Up"] * abs(steps), "Return")
+        wait_until(lambda: box.name == item, lambda: f"{box.name} is chosen, not {item}")
+
     def _focused_field(self):
         return next((field for field in self.find_all("text") if field.is_focused), None)
 
@@ -163,7 +189,11 @@ class Program:
 
     def shown_snapshot(self):
         """The number in the picture of the snapshot; none when no number can be read."""
-        return self._frame_in(self.find(name="Snapshot"))
+        return self._frame_in(self.snapshot_view())
+
+    def snapshot_view(self):
+        """The part of the window in which the snapshot is shown."""
+        return self.find(name="Snapshot")
 
     def offers_to_play(self):
         """Whether the play button shows the triangle, not the two bars."""
