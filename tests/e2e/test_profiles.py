@@ -187,10 +187,7 @@ class ProfilesTest(MorvantileCase):
 
     def save_dialog(self, title):
         """Clicks on the button of the dialog, not on the one of the main window."""
-        dialog = self.program.window(title)
-        save = next(dialog.all("push button", "Save"))
-        wait_until(lambda: save.is_enabled, "it cannot be saved")
-        self.desktop.click(*save.middle)
+        self.program.click_in(title, "Save")
         wait_until(lambda: self.program.window().name != title, "the dialog stays open")
 
     def expect_profile(self, name):

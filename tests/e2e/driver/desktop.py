@@ -133,6 +133,15 @@ class Desktop:
     def release(self):
         self._do("mouseup", "1")
 
+    @contextlib.contextmanager
+    def holding(self, key):
+        """Keeps a key such as "ctrl" down for what is done inside."""
+        self._do("keydown", key)
+        try:
+            yield
+        finally:
+            self._do("keyup", key)
+
     def click(self, x, y):
         self.move(x, y)
         self.press()

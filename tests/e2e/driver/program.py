@@ -111,6 +111,12 @@ class Program:
         self.desktop.click(*control.middle)
         return control
 
+    def click_in(self, title, button):
+        """Clicks on the button of the active window, where others have one of the name, too."""
+        control = next(self.window(title).all("push button", button))
+        wait_until(lambda: control.is_enabled, f"{control} stays disabled")
+        self.desktop.click(*control.middle)
+
     def enter(self, text):
         """Types into the edit field that has the keyboard, in place of what is there."""
         field = wait_until(self._focused_field, "no edit field has the keyboard")

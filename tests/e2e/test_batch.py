@@ -1,0 +1,188 @@
+"""Batch mode: many videos at once, prepared, run and cancelled by keys and mouse."""
+
+import os
+import pathlib
+import subprocess
+
+from PIL import Image
+
+from tests.e2e.driver.case import MorvantileCase
+from tests.e2e.driver.frames import frame_number
+from tests.e2e.driver.waiting import LIMIT_S, wait_until
+
+CLI = pathlib.Path(os.environ.get("MORVANTILE_CLI", "build/release/app/morvantile-cli")).absolute()
+
+MODE = "Morvantile Batch Mode"
+RUN = "Batch Processing"
+
+# One every 2000 ms, from 600 ms to 600 ms before the end of 20.8 and of 4 seconds; and one every
+# 5000 ms, from 2000 ms to 2000 ms before the end of 20.8 seconds. None is just behind a key frame,
+# which would be taken in its place.
+FRAMES = {
+    "a": [15, 65, 115, 165, 215, 265, 315, 365, 415, 465],
+    "b": [50, 175, 300, 425],
+    "c": [15, 65],
+}
+
+
+class BatchTest(MorvantileCase):
+
+    def setUp(self):
+        super().setUp()
+        self.program = self.start()
+        self.pictures = self.folder / "pictures"
+        self.pictures.mkdir()
+
+    def test_videos_edited_together_give_the_images_of_the_command_line(self):
+        videos = {
+            "a": self.sample("h264_gop250.mp4", "a.mp4"),
+            "b": self.sample("h264_gop250.mp4", "b.mp4"),
+            "c": self.sample("h264_bframes.mp4", "c.mp4"),
+        }
+        self.open_batch_mode()
+        self.load(*videos.values())
+        self.select("a", "c")
+        self.program.find("label", "[Multiple]")
+        self.program.fill("Milliseconds from image to image", "2000")
+        self.program.fill("Milliseconds to skip at the front", "600")
+        self.program.fill("Milliseconds to skip at the back", "600")
+        self.program.fill("Folder", str(self.pictures))
+        wait_until(
+            lambda: self.column(2) == ["Every 2000ms", "Every 5000ms", "Every 2000ms"],
+            lambda: f"intervals: {self.column(2)}",
+        )
+        self.assertEqual(
+            self.column(1), [str(self.pictures), str(self.videos), str(self.pictures)]
+        )
+        self.run_to_its_end()
+
+        made = {**images_in(self.pictures), **images_in(self.videos)}
+        expected = {
+            f"{video}-{i + 1:05}.jpeg": number
+            for video, numbers in FRAMES.items()
+            for i, number in enumerate(numbers)
+        }
+        self.assertEqual({name: frame_in(file) for name, file in made.items()}, expected)
+
+        again = self.folder / "again"
+        again.mkdir()
+        both = ("--ms", "2000", "--skipfront", "600", "--skipback", "600")
+        for video, options in (("a", both), ("b", ()), ("c", both)):
+            self.run_command_line(videos[video], again, *options)
+        self.assertEqual(
+            {name: file.read_bytes() for name, file in images_in(again).items()},
+            {name: file.read_bytes() for name, file in made.items()},
+        )
+
+    def test_cancelled_batch_leaves_only_whole_images(self):
+        videos = [self.sample("h264_gop250.mp4", name) for name in ("a.mp4", "b.mp4")]
+        self.open_paused(self.program, videos[0])
+        self.open_batch_mode()
+        self.load(*videos)
+        self.program.fill("Folder", str(self.pictures))
+        self.run_to_its_end()
+        first = {name: file.read_bytes() for name, file in images_in(self.pictures).items()}
+        self.assertEqual(len(first), 8)
+
+        # 168 images of each video: it does not end by itself soon.
+        self.program.fill("Milliseconds from image to image", "100")
+        self.program.click("push button", "Start")
+        self.answer_cancelling("No")
+        count = len(images_in(self.pictures))
+        wait_until(lambda: len(images_in(self.pictures)) > count, "it does not go on")
+        self.answer_cancelling("Yes")
+        self.wait_for_completion()
+        self.assertLess(self.program.find("progress bar", "Progress of all videos").value, 50)
+
+        names = sorted(file.name for file in self.pictures.iterdir())
+        new = [f"a-{i:05}.jpeg" for i in range(5, len(names) - 3)]
+        self.assertEqual(names, sorted([*first, *new]))
+        numbers = [frame_in(self.pictures / name) for name in new]
+        self.assertNotIn(None, numbers)
+        self.assertEqual(numbers, sorted(numbers))
+        for name, content in first.items():
+            self.assertEqual((self.pictures / name).read_bytes(), content)
+
+        # The video that played is gone since batch mode was opened.
+        self.program.click_in(RUN, "Done")
+        self.program.click_in(MODE, "Cancel")
+        self.program.window("Morvantile")
+        self.assertFalse(self.program.find("push button", "Play/Pause").is_enabled)
+        self.assertEqual(self.program.open_button().name, "Click to open video")
+        self.program.open_with_dialog(videos[1])
+
+    # --- what the cases are made of ------------------------------------------------------------
+
+    def open_batch_mode(self):
+        self.program.click("menu item", "Tools")
+        self.program.click("menu item", "Batch Mode")
+        self.program.window(MODE)
+
+    def load(self, *videos):
+        """Loads the videos, all in one go."""
+        self.program.click("push button", "Load Video")
+        self.program.window("Open")
+        self.program.enter(" ".join(f'"{video}"' for video in videos))
+        self.desktop.key("Return")
+        self.program.window(MODE)
+        names = [video.stem for video in videos]
+        wait_until(lambda: self.column(0) == names, lambda: f"loaded: {self.column(0)}")
+
+    def cells(self, column):
+        cells = self.program.find("table", "Files").all("table cell")
+        return [cell for i, cell in enumerate(cells) if i % 4 == column]
+
+    def column(self, column):
+        """What the column of the list of videos says, row by row."""
+        return [cell.name for cell in self.cells(column)]
+
+    def select(self, first, *others):
+        """Selects the rows of these videos, and no others, by clicks."""
+        self.program.click("table cell", first)
+        with self.desktop.holding("ctrl"):
+            for name in others:
+                self.program.click("table cell", name)
+        wanted = [name in (first, *others) for name in self.column(0)]
+        wait_until(
+            lambda: [cell.has_state("SELECTED") for cell in self.cells(0)] == wanted,
+            f"{first} and {others} are not selected",
+        )
+
+    def run_to_its_end(self):
+        self.program.click("push button", "Start")
+        self.program.window(RUN)
+        self.wait_for_completion()
+        for name in ("Progress of the current video", "Progress of all videos"):
+            self.assertEqual(self.program.find("progress bar", name).value, 100, name)
+        self.program.click_in(RUN, "Done")
+        self.program.window(MODE)
+
+    def wait_for_completion(self):
+        self.program.find("push button", "Done")
+        log = self.program.find("text", "Log")
+        wait_until(lambda: log.text.strip() == "Processing Complete", lambda: f"log: {log.text}")
+        self.program.find("label", "Processing Complete", "Status")
+
+    def answer_cancelling(self, answer):
+        self.program.click_in(RUN, "Cancel")
+        self.program.window("Cancel Batch Processing")
+        self.program.click("push button", answer)
+        self.program.window(RUN)
+
+    def run_command_line(self, video, folder, *options):
+        subprocess.run(
+            [CLI, video, folder, *options],
+            env={**self.desktop.environment, "HOME": str(self.home)},
+            check=True,
+            timeout=LIMIT_S,
+        )
+
+
+def images_in(folder):
+    """The images by their names."""
+    return {file.name: file for file in folder.iterdir() if file.suffix == ".jpeg"}
+
+
+def frame_in(file):
+    with Image.open(file) as picture:
+        return frame_number(picture)
