@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qtav/player/SoundThread.h"
+
 #include <QString>
 
 #include <memory>
@@ -10,12 +12,13 @@ namespace QtAV {
 /// Plays the sound of one file on a thread of its own and tells the time by it.
 ///
 /// Where there is no device, or it fails, the sound falls silent and gives no time; nothing else
-/// happens. All functions are for the owner's thread and never wait.
+/// happens. A device that holds up the thread is given up: the next open() or play() tries it anew
+/// on another thread. All functions are for the owner's thread and never wait.
 class SoundPlayer
 {
 public:
     SoundPlayer();
-    /// Waits until the thread has ended.
+    /// Waits until the thread has ended, but never longer than SoundThread::LongestWork.
     ~SoundPlayer();
     SoundPlayer(const SoundPlayer&) = delete;
     SoundPlayer& operator=(const SoundPlayer&) = delete;
@@ -34,8 +37,11 @@ public:
     std::optional<double> position() const;
 
 private:
-    class Private;
-    std::unique_ptr<Private> d;
+    void ensureThread();
+    void tellWish();
+
+    SoundState::Wish m_wish;
+    std::unique_ptr<SoundThread> m_thread; ///< started for the first file with sound
 };
 
 } // namespace QtAV

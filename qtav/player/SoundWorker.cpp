@@ -2,7 +2,7 @@
 
 #include "qtav/src/FFmpegLog.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace QtAV {
 
@@ -10,39 +10,12 @@ namespace {
 
 constexpr int TellTimeMs = 10;
 
-/// Between two tellings the time goes on by itself, but not for longer than this: who tells it no
-/// more may have come to a stop.
-constexpr double LongestSilentSeconds = 0.1;
-
 /// A device that hears nothing more for so long is gone, or done where its source has ended. Before
 /// its first sound, a device may have to play out two seconds of silence.
 constexpr std::chrono::milliseconds LongestStandstill{3000};
 constexpr std::chrono::milliseconds LongestStandstillAtTheEnd{500};
 
 } // namespace
-
-SoundState::Wish SoundState::wish() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_wish;
-}
-
-void SoundState::setHeard(quint64 playSerial, std::optional<double> seconds)
-{
-    const std::lock_guard lock(m_mutex);
-    m_heardSerial = playSerial;
-    m_heard = seconds;
-    m_heardAt = std::chrono::steady_clock::now();
-}
-
-std::optional<double> SoundState::heard() const
-{
-    const std::lock_guard lock(m_mutex);
-    if (!m_wish.plays || m_heardSerial != m_wish.playSerial || !m_heard)
-        return std::nullopt;
-    const std::chrono::duration<double> since = std::chrono::steady_clock::now() - m_heardAt;
-    return *m_heard + std::min(since.count(), LongestSilentSeconds);
-}
 
 /// Lets the device read the file.
 class SoundWorker::Source : public QIODevice
@@ -70,9 +43,9 @@ private:
     bool m_hasEnded = false;
 };
 
-SoundWorker::SoundWorker(SoundState& state)
+SoundWorker::SoundWorker(SoundState& state, SoundDevice::Factory makeDevice)
     : m_state(state)
-    , m_makeDevice(SoundDevice::factory())
+    , m_makeDevice(std::move(makeDevice))
     , m_clock(this)
 {
     m_clock.setInterval(TellTimeMs);
@@ -85,9 +58,26 @@ SoundWorker::~SoundWorker()
     stopDevice();
 }
 
+void SoundWorker::run()
+{
+    m_state.setWorker(this);
+    m_loop.exec();
+    m_state.setWorker(nullptr);
+}
+
 void SoundWorker::heed()
 {
-    const SoundState::Wish wish = m_state.wish();
+    const std::optional<SoundState::Wish> wish = m_state.takeWish();
+    if (!wish) {
+        m_loop.quit();
+        return;
+    }
+    carryOut(*wish);
+    m_state.setCarriedOut();
+}
+
+void SoundWorker::carryOut(const SoundState::Wish& wish)
+{
     const SoundState::Wish done = std::exchange(m_done, wish);
     if (wish.path != done.path)
         openFile(wish.path);

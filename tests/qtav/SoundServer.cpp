@@ -7,8 +7,11 @@
 #include <QThread>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
+
+#include <sys/types.h>
 
 using testsupport::ProgramResult;
 using testsupport::runProgram;
@@ -71,6 +74,16 @@ void SoundServer::kill()
         return;
     m_process.kill();
     m_process.waitForFinished(PatienceMs);
+}
+
+void SoundServer::freeze()
+{
+    ::kill(pid_t(m_process.processId()), SIGSTOP);
+}
+
+void SoundServer::thaw()
+{
+    ::kill(pid_t(m_process.processId()), SIGCONT);
 }
 
 bool SoundServer::removeDevice()

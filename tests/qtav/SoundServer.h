@@ -32,6 +32,10 @@ public:
     /// Ends it as a crash would.
     void kill();
 
+    /// Lets it answer nobody any more, or go on.
+    void freeze();
+    void thaw();
+
     /// Takes the device away from under who plays on it, or brings it back.
     [[nodiscard]] bool removeDevice();
     [[nodiscard]] bool addDevice();

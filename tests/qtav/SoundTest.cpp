@@ -1,14 +1,14 @@
-#include "qtav/player/SoundDevice.h"
 #include "qtav/player/SoundFile.h"
 
 #include "tests/qtav/Playing.h"
+#include "tests/qtav/PretendedDevice.h"
 
 #include <QElapsedTimer>
 #include <QTest>
-#include <QTimer>
 
-#include <atomic>
+#include <algorithm>
 #include <cmath>
+#include <memory>
 
 using namespace playing;
 using QtAV::AVPlayer;
@@ -16,86 +16,6 @@ using QtAV::SoundDevice;
 using QtAV::SoundFile;
 
 namespace {
-
-constexpr int Rate = 48000;
-
-/// What the devices of a test did; of both threads.
-struct Record
-{
-    std::atomic<int> made{0};
-    std::atomic<int> started{0};
-    std::atomic<qint64> heardBytes{0};
-    std::atomic<double> volume{-1.0};
-    /// Fails when so many bytes have been heard.
-    std::atomic<qint64> failsAfter{std::numeric_limits<qint64>::max()};
-    /// Says that it runs even where it does not, as systems do.
-    std::atomic<bool> saysItRuns{false};
-};
-
-/// Takes samples as fast as a real one would play them, times a factor.
-class PretendedDevice : public SoundDevice
-{
-public:
-    explicit PretendedDevice(Record& record, double speed = 1.0)
-        : m_record(record)
-        , m_speed(speed)
-    {
-        ++m_record.made;
-        m_timer.setInterval(10);
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { pull(); });
-    }
-
-    int sampleRate() const override { return Rate; }
-    int channels() const override { return 2; }
-    bool start(QIODevice* source) override
-    {
-        ++m_record.started;
-        m_source = source;
-        m_heard = 0;
-        m_time.start();
-        m_timer.start();
-        return true;
-    }
-    void stop() override { m_timer.stop(); }
-    bool isRunning() const override { return m_timer.isActive() || m_record.saysItRuns; }
-    double heardSeconds() override { return double(m_heard) / BytesASecond; }
-    void setVolume(qreal volume) override { m_record.volume = volume; }
-
-private:
-    static constexpr int BytesASecond = Rate * 4;
-
-    void pull()
-    {
-        const qint64 due = qint64(double(m_time.elapsed()) * m_speed) * (BytesASecond / 1000);
-        QByteArray samples(int(due - m_heard), '\0');
-        const qint64 got = m_source->read(samples.data(), samples.size());
-        m_heard += got;
-        m_record.heardBytes += got;
-        if (got < samples.size() || m_heard > m_record.failsAfter)
-            m_timer.stop();
-    }
-
-    Record& m_record;
-    double m_speed;
-    QIODevice* m_source = nullptr;
-    QTimer m_timer;
-    QElapsedTimer m_time;
-    qint64 m_heard = 0;
-};
-
-/// All players made while it lives have this device.
-class Devices
-{
-public:
-    explicit Devices(double speed = 1.0)
-    {
-        SoundDevice::setFactory(
-            [this, speed](int) { return std::make_unique<PretendedDevice>(record, speed); });
-    }
-    ~Devices() { SoundDevice::setFactory(&SoundDevice::openDefault); }
-
-    Record record;
-};
 
 QVector<qint16> samplesFrom(SoundFile& file, double seconds)
 {

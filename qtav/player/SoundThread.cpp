@@ -1,0 +1,72 @@
+#include "qtav/player/SoundThread.h"
+
+#include "qtav/player/SoundWorker.h"
+#include "qtav/src/FFmpegLog.h"
+
+#include <QScopeGuard>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+namespace QtAV {
+
+namespace {
+
+std::atomic<int> threadCount{0};
+
+#ifdef __GLIBC__
+/// Sound libraries tidy up at the process's end, and would wait there for ever for a thread that
+/// was left behind in one of their functions. Everything of the program's own is done by then.
+void endWithoutTidying(int status, void*)
+{
+    if (threadCount == 0)
+        return;
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
+#endif
+
+void leaveBehind(std::thread& thread)
+{
+    qCWarning(lcQtAV, "The sound device does not answer; it is not waited for.");
+#ifdef __GLIBC__
+    // Each time anew: it must come before what the library has registered in the meantime.
+    on_exit(&endWithoutTidying, nullptr);
+#endif
+    thread.detach();
+}
+
+} // namespace
+
+SoundThread::SoundThread(const SoundState::Wish& wish)
+    : m_state(std::make_shared<SoundState>(wish))
+{
+    std::packaged_task<void()> task([state = m_state, makeDevice = SoundDevice::factory()] {
+        const auto uncount = qScopeGuard([] { --threadCount; });
+        SoundWorker(*state, makeDevice).run();
+    });
+    m_ended = task.get_future();
+    ++threadCount;
+    m_thread = std::thread(std::move(task));
+}
+
+SoundThread::~SoundThread()
+{
+    m_state->end();
+    const auto patience = LongestWork - m_state->behindFor();
+    if (m_ended.wait_for(std::max(patience, std::chrono::milliseconds(0))) ==
+        std::future_status::ready)
+        m_thread.join();
+    else
+        leaveBehind(m_thread);
+}
+
+int SoundThread::count()
+{
+    return threadCount;
+}
+
+} // namespace QtAV
