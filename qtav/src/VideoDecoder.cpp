@@ -7,6 +7,7 @@
 #include "qtav/src/PictureConverter.h"
 #include "qtav/src/PicturePool.h"
 #include "qtav/src/StreamParameters.h"
+#include "qtav/src/UnreferencedPictures.h"
 #include "qtav/src/VideoFramePrivate.h"
 
 #include <deque>
@@ -55,6 +56,7 @@ public:
     void restart();
     void applySkipOptions() const;
     void watchSubLayers(const AVPacket& packet);
+    bool leavesOut(const AVPacket& packet) const;
 
     std::shared_ptr<const StreamParameters> parameters;
     std::shared_ptr<PicturePool> pool = std::make_shared<PicturePool>();
@@ -70,6 +72,7 @@ public:
     qint64 repeatedTicks = AV_NOPTS_VALUE;
     bool draining = false;
     bool hasSubLayers = false;
+    UnreferencedPictures unreferenced;
     qint64 lastTicks = AV_NOPTS_VALUE; ///< of the frame that came out last
     qint64 nextTicks = 0;              ///< for frames to which FFmpeg can give no time
 
@@ -118,6 +121,7 @@ bool VideoDecoder::open()
     const AVCodecParameters& parameters = *d->parameters->codec;
     d->hasSubLayers = parameters.codec_id == AV_CODEC_ID_HEVC &&
                       hevcHasSubLayers(parameters.extradata, parameters.extradata_size);
+    d->unreferenced = UnreferencedPictures(parameters);
     d->applySkipOptions();
     return true;
 }
@@ -171,6 +175,14 @@ void VideoDecoder::Private::watchSubLayers(const AVPacket& packet)
     }
 }
 
+bool VideoDecoder::Private::leavesOut(const AVPacket& packet) const
+{
+    const bool mayLeaveOut = start == Start::Running && !draining &&
+                             context->skip_frame >= AVDISCARD_NONREF &&
+                             !(packet.flags & AV_PKT_FLAG_KEY);
+    return mayLeaveOut && unreferenced.areAllOf(packet);
+}
+
 void VideoDecoder::flush()
 {
     if (!d->context)
@@ -200,6 +212,9 @@ bool VideoDecoder::decode(const Packet& packet)
     // The caller asks once more for the frame of the key packet it has just given.
     const bool isRepeated = d->start == Private::Start::KeyFrameTaken && handle == d->keyPacket;
     if (isRepeated)
+        return true;
+
+    if (handle && d->leavesOut(*handle->get()))
         return true;
 
     bool succeeded = true;

@@ -1,0 +1,139 @@
+#include "qtav/src/UnreferencedPictures.h"
+
+#include "qtav/src/PacketHandle.h"
+#include "qtav/src/StreamParameters.h"
+#include "tests/qtav/Decoding.h"
+
+#include <QTest>
+
+using QtAV::UnreferencedPictures;
+
+namespace {
+
+/// Of a stream whose units have start codes between them, or lengths of so many bytes before them.
+UnreferencedPictures picturesOf(AVCodecID codec, int lengthBytes)
+{
+    QByteArray record(23, '\0');
+    record[0] = 1;
+    record[codec == AV_CODEC_ID_HEVC ? 21 : 4] = char(lengthBytes - 1);
+    AVCodecParameters parameters{};
+    parameters.codec_id = codec;
+    if (lengthBytes > 0) {
+        parameters.extradata = reinterpret_cast<uint8_t*>(record.data());
+        parameters.extradata_size = record.size();
+    }
+    return UnreferencedPictures(parameters);
+}
+
+bool areAllOf(const UnreferencedPictures& pictures, const QByteArray& bytes)
+{
+    return pictures.areAllOf(reinterpret_cast<const uint8_t*>(bytes.constData()), bytes.size());
+}
+
+} // namespace
+
+class UnreferencedPicturesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void packets_areThoseThatTheDecoderSkips_data();
+    void packets_areThoseThatTheDecoderSkips();
+    void units_decide_data();
+    void units_decide();
+    void damagedLengths_countAsReferredTo();
+    void otherCodecs_countAsReferredTo();
+};
+
+void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"h264_bframes.mp4", "h264.ts", "hevc_8bit.mp4", "hevc.ts"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+/// As many frames are left out as there are such packets: no more, which would be pictures that
+/// FFmpeg takes for unreferenced and we do not, and no fewer, which would be damage.
+void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips()
+{
+    QFETCH(QString, file);
+    decoding::Player player(testsupport::samplePath(file));
+    QVERIFY(player.isReady());
+    const UnreferencedPictures pictures(*player.demuxer.videoCodecContext()->parameters()->codec);
+    int packets = 0;
+    int unreferenced = 0;
+    while (const auto packet = player.nextVideoPacket()) {
+        if (packet->isDrain())
+            continue;
+        ++packets;
+        const bool isSo = pictures.areAllOf(*QtAV::PacketHandle::of(*packet)->get());
+        QVERIFY(!isSo || !packet->hasKeyFrame);
+        unreferenced += isSo ? 1 : 0;
+    }
+    QVERIFY(unreferenced > 0);
+    QVERIFY(player.demuxer.seek(0));
+    player.decoder->flush();
+    constexpr int NonReference = 8; // FFmpeg's AVDISCARD_NONREF
+    player.decoder->setOptions(
+        {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), NonReference}}}});
+    QCOMPARE(player.showRest().size(), packets - unreferenced);
+}
+
+void UnreferencedPicturesTest::units_decide_data()
+{
+    QTest::addColumn<int>("codec");
+    QTest::addColumn<int>("lengthBytes");
+    QTest::addColumn<QByteArray>("packet");
+    QTest::addColumn<bool>("isUnreferenced");
+    const auto row = [](const char* name, int codec, int lengthBytes, const char* hex, bool isSo) {
+        QTest::newRow(name) << codec << lengthBytes << QByteArray::fromHex(hex) << isSo;
+    };
+    constexpr int H264 = AV_CODEC_ID_H264;
+    constexpr int Hevc = AV_CODEC_ID_HEVC;
+    row("H.264 slice nobody needs", H264, 4, "000000020199", true);
+    row("H.264 slice behind information", H264, 4, "0000000206990000000301aabb", true);
+    row("H.264 slice of a reference", H264, 4, "000000024199", false);
+    row("H.264 slice nobody needs and one of a reference", H264, 2, "000201990002419a", false);
+    row("H.264 key frame", H264, 4, "000000026599", false);
+    row("H.264 parameters beside the slice", H264, 1, "0267990201aa", false);
+    row("H.264 information alone", H264, 4, "000000020699", false);
+    row("H.264 behind start codes", H264, 0, "000000010910000001019900000101aa", true);
+    row("H.264 reference behind start codes", H264, 0, "00000001091000000121aa", false);
+    row("HEVC slice nobody needs", Hevc, 4, "00000003000199", true);
+    row("HEVC slice of a reference", Hevc, 4, "00000003020199", false);
+    row("HEVC leading slice nobody needs", Hevc, 4, "00000003100199", true);
+    row("HEVC key frame", Hevc, 4, "00000003260199", false);
+    row("HEVC behind start codes", Hevc, 0, "00000001460150000001000199", true);
+}
+
+void UnreferencedPicturesTest::units_decide()
+{
+    QFETCH(int, codec);
+    QFETCH(int, lengthBytes);
+    QFETCH(QByteArray, packet);
+    QTEST(areAllOf(picturesOf(static_cast<AVCodecID>(codec), lengthBytes), packet),
+          "isUnreferenced");
+}
+
+void UnreferencedPicturesTest::damagedLengths_countAsReferredTo()
+{
+    const QByteArray whole = QByteArray::fromHex("000000020199000000030199aa");
+    const UnreferencedPictures pictures = picturesOf(AV_CODEC_ID_H264, 4);
+    QVERIFY(areAllOf(pictures, whole));
+    for (int size = 0; size < whole.size(); ++size) {
+        const bool endsWithUnit = size == 6;
+        QCOMPARE(areAllOf(pictures, whole.left(size)), endsWithUnit);
+    }
+    QVERIFY(!areAllOf(pictures, QByteArray::fromHex("ffffffff0199")));
+    QVERIFY(!areAllOf(pictures, QByteArray::fromHex("000000000199")));
+    QVERIFY(!pictures.areAllOf(nullptr, 0));
+}
+
+void UnreferencedPicturesTest::otherCodecs_countAsReferredTo()
+{
+    QVERIFY(!areAllOf(picturesOf(AV_CODEC_ID_MPEG2VIDEO, 0), QByteArray::fromHex("0000010199")));
+    QVERIFY(!areAllOf(UnreferencedPictures(), QByteArray::fromHex("000000020199")));
+}
+
+QTEST_GUILESS_MAIN(UnreferencedPicturesTest)
+#include "UnreferencedPicturesTest.moc"
