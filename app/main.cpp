@@ -15,6 +15,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    QtAV::Widgets::avoidImitatedOpenGL();
     QApplication app(argc, argv);
     Startup::setIdentity();
     if (!checkSupportedOS(app)) {

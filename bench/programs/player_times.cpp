@@ -20,6 +20,7 @@
 
 #include <QtAV/AVPlayer.h>
 #include <QtAV/VideoOutput.h>
+#include <QtAVWidgets>
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -30,6 +31,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
 #include <functional>
 #include <iostream>
 #include <string>
@@ -230,6 +232,11 @@ void readCommands(Session& session)
 int main(int argc, char** argv)
 {
     const bench::Sandbox sandbox(bench::Sandbox::Display::Own);
+    const bool drawsWithOpenGL = std::any_of(argv + 1, argv + argc, [](const char* argument) {
+        return qstrcmp(argument, "--opengl") == 0;
+    });
+    if (!drawsWithOpenGL)
+        QtAV::Widgets::avoidImitatedOpenGL();
     const QApplication app(argc, argv);
     QCommandLineParser parser;
     parser.addHelpOption();
@@ -246,7 +253,7 @@ int main(int argc, char** argv)
     parser.process(app);
 
     using Drawing = QtAV::VideoOutput::Drawing;
-    Session session(parser.isSet(openGL) ? Drawing::OpenGL : Drawing::Raster,
+    Session session(drawsWithOpenGL ? Drawing::OpenGL : Drawing::Raster,
                     QSize(parser.value(width).toInt(), parser.value(height).toInt()));
     if (parser.isSet(cache))
         session.setFrameCacheSize(parser.value(cache).toLongLong() << 20);
