@@ -139,14 +139,18 @@ class BatchTest(MorvantileCase):
     def select(self, first, *others):
         """Selects the rows of these videos, and no others, by clicks."""
         self.program.click("table cell", first)
+        selected = [first]
+        wait_until(lambda: self.selected() == selected, lambda: f"selected: {self.selected()}")
         with self.desktop.holding("ctrl"):
             for name in others:
                 self.program.click("table cell", name)
-        wanted = [name in (first, *others) for name in self.column(0)]
-        wait_until(
-            lambda: [cell.has_state("SELECTED") for cell in self.cells(0)] == wanted,
-            f"{first} and {others} are not selected",
-        )
+                selected = [*selected, name]
+                wait_until(
+                    lambda: self.selected() == selected, lambda: f"selected: {self.selected()}"
+                )
+
+    def selected(self):
+        return [cell.name for cell in self.cells(0) if cell.has_state("SELECTED")]
 
     def run_to_its_end(self):
         self.program.click("push button", "Start")

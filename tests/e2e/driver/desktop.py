@@ -143,9 +143,8 @@ class Desktop:
             self._do("keyup", key)
 
     def click(self, x, y):
-        self.move(x, y)
-        self.press()
-        self.release()
+        # In one go: a button that is held long, as on a busy machine, means something else to lists.
+        self._do("mousemove", str(int(x)), str(int(y)), "click", "1")
 
     def drag(self, x, y, steps=10):
         """Moves the pointer as a hand does, over the places between."""
