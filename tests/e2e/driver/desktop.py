@@ -143,7 +143,7 @@ class Desktop:
             self._do("keyup", key)
 
     def click(self, x, y):
-        # In one go: a button that is held long, as on a busy machine, means something else to lists.
+        # In one go: held long, as on a busy machine, a button means something else to lists.
         self._do("mousemove", str(int(x)), str(int(y)), "click", "1")
 
     def drag(self, x, y, steps=10):
