@@ -18,8 +18,8 @@ namespace {
 std::atomic<int> threadCount{0};
 
 #ifdef __GLIBC__
-/// Sound libraries tidy up at the process's end, and break off, or wait for ever, where a thread was
-/// left behind in one of their functions. What the program itself has to do is done by then.
+/// Sound libraries tidy up at the process's end, and break off, or wait for ever, where a thread
+/// was left behind in one of their functions. What the program itself has to do is done by then.
 void endWithoutTidying(int status, void*)
 {
     if (threadCount == 0)
