@@ -35,6 +35,12 @@ void FrameCache::setFocus(double seconds)
     m_focus = seconds;
 }
 
+void FrameCache::setMostBytes(qint64 bytes)
+{
+    m_mostBytes = bytes;
+    shrink();
+}
+
 void FrameCache::clear()
 {
     m_frames.clear();

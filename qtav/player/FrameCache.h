@@ -41,6 +41,9 @@ public:
     /// The time around which frames are kept.
     void setFocus(double seconds);
 
+    /// Changes how much may be kept, and lets go of what is too much.
+    void setMostBytes(qint64 bytes);
+
     void clear();
 
     /// The frames below are invalid ones where the cache does not hold them.

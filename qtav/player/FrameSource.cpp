@@ -25,6 +25,12 @@ constexpr qint64 FramesBeforeTarget = 8;
 constexpr int PartBehind = 3;
 constexpr int PartFilled = 2;
 
+/// A cache of more than these frames, or of more than these bytes where frames are small, would
+/// hardly make stepping faster: what it can fill up meanwhile, and what it is asked for, are in
+/// balance already.
+constexpr qint64 UsefulFrames = 16;
+constexpr qint64 UsefulBytes = qint64(64) << 20;
+
 constexpr int UsualGapMs = 40;
 
 qint64 furtherBack(qint64 stepBackMs)
@@ -43,8 +49,11 @@ bool FrameSource::open(const QString& path, qint64 cacheBytes, const IsCancelled
     if (!m_ahead.open(path, error))
         return false;
     const Found first = frameAt(0, isCancelled);
-    if (first.kind == Found::Kind::Frame)
+    if (first.kind == Found::Kind::Frame) {
+        const qint64 useful = std::max(UsefulBytes, UsefulFrames * first.frame.byteCount());
+        m_cache.setMostBytes(std::min(cacheBytes, useful));
         return true;
+    }
     if (first.kind == Found::Kind::None)
         error = QCoreApplication::translate("QtAV::AVPlayer", "The video cannot be decoded.");
     close();

@@ -34,6 +34,7 @@ public:
 
     /// Opens a file and decodes its first frame, which goes into the cache. False, with a text for
     /// people, when no frame comes out.
+    /// @param cacheBytes  most memory for kept frames; less is taken where more would be no use.
     [[nodiscard]] bool open(const QString& path, qint64 cacheBytes, const IsCancelled& isCancelled,
                             QString& error);
     void close();

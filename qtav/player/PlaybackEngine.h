@@ -60,8 +60,8 @@ public:
 
     enum class CatchUp { No, Yes };
 
-    /// More would only make seeking while playing slower to begin.
-    static constexpr size_t MostQueuedFrames = 8;
+    /// More would only take memory, and make seeking while playing slower to begin.
+    static constexpr size_t MostQueuedFrames = 5;
 
     /// Decoding what lies before the current frame begins so long after that was given: until then
     /// it needs the processor's cores to get to the screen, or to be followed by the next step.

@@ -21,6 +21,7 @@ private slots:
     void atOrAfter_givesTheFirstFrame_beforeIt();
     void fullCache_dropsTheFramesFurthestFromTheFocus();
     void fullCache_keepsOneFrame_largerThanItself();
+    void smallerCache_letsGoOfTheFramesFurthestFromTheFocus();
     void frameInsertedTwice_isCountedOnce();
     void run_endsWhereANeighbourIsUnknown();
     void run_reachesTheStart_whenTheFirstFrameIsKnown();
@@ -133,6 +134,19 @@ void FrameCacheTest::fullCache_keepsOneFrame_largerThanItself()
     insert(cache, 4, 5);
     QCOMPARE(cache.frameCount(), 1);
     QVERIFY(cache.at(time(5)).isValid());
+}
+
+void FrameCacheTest::smallerCache_letsGoOfTheFramesFurthestFromTheFocus()
+{
+    FrameCache cache;
+    cache.setFocus(time(5));
+    insert(cache, 0, 5);
+    const qint64 bytes = 2 * m_frames.at(5).byteCount();
+    cache.setMostBytes(bytes);
+    QCOMPARE(cache.mostBytes(), bytes);
+    QCOMPARE(cache.frameCount(), 2);
+    QVERIFY(cache.at(time(5)).isValid());
+    QVERIFY(cache.at(time(4)).isValid());
 }
 
 void FrameCacheTest::frameInsertedTwice_isCountedOnce()

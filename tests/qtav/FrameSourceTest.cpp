@@ -41,6 +41,7 @@ private slots:
     void mixedStepsAndSeeks_endOnTheRightFrame();
     void filling_letsStepsBackDecodeNothing_afterASeek();
     void filling_ends_withoutAnyStep();
+    void cache_takesNoMoreThanIsUseful_howeverMuchIsAllowed();
     void cancelledSearch_givesNoFrame_andTheNextOneIsRight();
     void open_fails_whenNothingCanBeDecoded_data();
     void open_fails_whenNothingCanBeDecoded();
@@ -172,6 +173,20 @@ void FrameSourceTest::filling_ends_withoutAnyStep()
     while (source.fillBehind(never))
         QVERIFY(++fills < 2000);
     QVERIFY(source.cache().byteCount() <= bytes);
+}
+
+void FrameSourceTest::cache_takesNoMoreThanIsUseful_howeverMuchIsAllowed()
+{
+    const QString path = testsupport::samplePath(QStringLiteral("h264_gop250.mp4"));
+    constexpr qint64 Plenty = qint64(1) << 40;
+    FrameSource source;
+    QString error;
+    QVERIFY(source.open(path, Plenty, never, error));
+    const qint64 frameBytes = source.frameAt(0, never).frame.byteCount();
+    QVERIFY(source.cache().mostBytes() <= qint64(64) << 20);
+    QVERIFY(source.cache().mostBytes() >= 16 * frameBytes);
+    QVERIFY(source.open(path, 5 * frameBytes, never, error));
+    QCOMPARE(source.cache().mostBytes(), 5 * frameBytes);
 }
 
 void FrameSourceTest::cancelledSearch_givesNoFrame_andTheNextOneIsRight()
