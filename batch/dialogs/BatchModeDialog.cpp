@@ -4,6 +4,7 @@
 #include "batch/BatchWorkerConfig.h"
 #include "batch/dialogs/MergedField.h"
 #include "profiles/ProfileManager.h"
+#include "ui/widgets/EqualWidths.h"
 #include "ui/widgets/Field.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui/widgets/NoFocusItemDelegate.h"
@@ -71,15 +72,8 @@ void BatchModeDialog::alignCaptions()
                                    m_ui->filenameOutputExampleCaption, m_ui->fileOutputFolderLabel};
     const QList<QWidget*> buttons{m_ui->imageProfileEditButton, m_ui->filenameProfileEditButton,
                                   m_ui->fileOutputFolderSelectButton};
-    for (const QList<QWidget*>& column : {captions, buttons}) {
-        int widest = 0;
-        for (const QWidget* const widget : column) {
-            widest = std::max(widest, widget->sizeHint().width());
-        }
-        for (QWidget* const widget : column) {
-            widget->setMinimumWidth(widest);
-        }
-    }
+    EqualWidths::apply(captions);
+    EqualWidths::apply(buttons);
 }
 
 /// The size that the form asks for is for the usual font.

@@ -98,11 +98,7 @@ void BatchProcessingDialog::closeEvent(QCloseEvent* event)
 
 void BatchProcessingDialog::doneButtonClicked()
 {
-    if (m_thread->isFinished()) {
-        close();
-    } else if (confirmAbort()) {
-        abort();
-    }
+    close();
 }
 
 void BatchProcessingDialog::workerStatusUpdate(BatchWorker* worker, QString text,

@@ -57,7 +57,11 @@ void MergedField::show(Field& field, const Value& value)
         edit->setText(value.value.toString());
     } else if (auto* const comboBox = qobject_cast<QComboBox*>(widget)) {
         comboBox->setItemText(0, value.isMultiple ? placeholder : nothingChosen());
-        value.isMultiple ? comboBox->setCurrentIndex(0) : field.setValue(value.value);
+        if (value.isMultiple) {
+            comboBox->setCurrentIndex(0);
+        } else {
+            field.setValue(value.value);
+        }
     } else if (auto* const checkBox = qobject_cast<QCheckBox*>(widget)) {
         checkBox->setCheckState(value.isMultiple       ? Qt::PartiallyChecked
                                 : value.value.toBool() ? Qt::Checked

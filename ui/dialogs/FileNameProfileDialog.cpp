@@ -2,14 +2,13 @@
 
 #include "profiles/FileNameProfile.h"
 #include "profiles/ProfileManager.h"
+#include "ui/widgets/EqualWidths.h"
 #include "ui/widgets/Field.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui_FileNameProfileDialog.h"
 
 #include <QFileInfo>
 #include <QFormLayout>
-
-#include <algorithm>
 
 FileNameProfileDialog::FileNameProfileDialog(QWidget* parent)
     : QDialog(parent)
@@ -129,9 +128,5 @@ void FileNameProfileDialog::alignCaptions()
         for (int row = 0; row < form->rowCount(); ++row)
             captions += form->itemAt(row, QFormLayout::LabelRole)->widget();
     }
-    int widest = 0;
-    for (const QWidget* const caption : qAsConst(captions))
-        widest = std::max(widest, caption->sizeHint().width());
-    for (QWidget* const caption : qAsConst(captions))
-        caption->setMinimumWidth(widest);
+    EqualWidths::apply(captions);
 }
