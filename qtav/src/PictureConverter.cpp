@@ -33,22 +33,20 @@ bool isFullRangeFormat(const AVFrame& frame)
     return frame.color_range == AVCOL_RANGE_JPEG || YuvToRgb::isJpegFormat(frame.format);
 }
 
-/// Copies a BGRA picture, which is what Format_ARGB32 is in memory.
-QImage imageFromBgra(const AVFrame& frame)
-{
-    QImage image(frame.width, frame.height, QImage::Format_ARGB32);
-    if (!image.isNull())
-        av_image_copy_plane(image.bits(), image.bytesPerLine(), frame.data[0], frame.linesize[0],
-                            frame.width * 4, frame.height);
-    return image;
-}
-
 } // namespace
 
 bool PictureConverter::Task::operator==(const Task& other) const
 {
     return from == other.from && to == other.to && source == other.source &&
            target == other.target && isFullRange == other.isFullRange;
+}
+
+bool PictureConverter::isOpaqueYuv(const AVFrame& frame)
+{
+    const auto format = static_cast<AVPixelFormat>(frame.format);
+    const AVPixFmtDescriptor* descriptor = av_pix_fmt_desc_get(format);
+    return descriptor && !isRgb(*descriptor) && !isXyz(format) &&
+           !(descriptor->flags & AV_PIX_FMT_FLAG_ALPHA);
 }
 
 QImage PictureConverter::convert(const AVFrame& frame, const QSize& size)
@@ -58,75 +56,93 @@ QImage PictureConverter::convert(const AVFrame& frame, const QSize& size)
         return {};
     const bool isStored = size == QSize(frame.width, frame.height);
     if (isStored && YuvToRgb::reads(format))
-        return YuvToRgb(frame).convert(frame);
-    const FramePtr readable = scaled(frame, size, readableFormatFor(format));
-    if (!readable)
+        return imageOf(frame);
+    std::optional<Scaler> scaler = takeScaler(taskFor(frame, size));
+    if (!scaler || !scale(frame, *scaler))
         return {};
-    return readable->format == AV_PIX_FMT_BGRA ? imageFromBgra(*readable)
-                                               : YuvToRgb(*readable).convert(*readable);
+    QImage image = imageOf(*scaler->picture);
+    keepScaler(std::move(*scaler));
+    return image;
 }
 
-/// The picture at another size or in another format, with its own colours; null when impossible.
-FramePtr PictureConverter::scaled(const AVFrame& frame, const QSize& size, AVPixelFormat format)
+/// The image of a picture in one of the readable formats.
+QImage PictureConverter::imageOf(const AVFrame& picture)
 {
-    FramePtr result = makeFrame();
-    result->width = size.width();
-    result->height = size.height();
-    result->format = format;
-    if (av_frame_get_buffer(result.get(), 0) < 0 || av_frame_copy_props(result.get(), &frame) < 0)
-        return nullptr;
-    result->color_range = isFullRangeFormat(frame) ? AVCOL_RANGE_JPEG : frame.color_range;
-    // The chroma is at the luma's places now.
-    result->chroma_location = AVCHROMA_LOC_UNSPECIFIED;
-    result->colorspace = YuvToRgb::matrixOf(frame);
-
-    const Task task{{frame.width, frame.height},
-                    size,
-                    static_cast<AVPixelFormat>(frame.format),
-                    format,
-                    isFullRangeFormat(frame)};
-    ScalerPtr scaler = takeScaler(task);
-    if (!scaler)
-        return nullptr;
-    const int lines = sws_scale(scaler.get(), frame.data, frame.linesize, 0, frame.height,
-                                result->data, result->linesize);
-    keepScaler(task, std::move(scaler));
-    return lines > 0 ? std::move(result) : nullptr;
+    QImage image = m_images.take({picture.width, picture.height});
+    if (image.isNull())
+        return image;
+    if (picture.format == AV_PIX_FMT_BGRA) // which is what Format_ARGB32 is in memory
+        av_image_copy_plane(image.bits(), image.bytesPerLine(), picture.data[0],
+                            picture.linesize[0], picture.width * 4, picture.height);
+    else
+        YuvToRgb(picture).convert(picture, image);
+    return image;
 }
 
-ScalerPtr PictureConverter::takeScaler(const Task& task)
+PictureConverter::Task PictureConverter::taskFor(const AVFrame& frame, const QSize& size)
+{
+    const auto format = static_cast<AVPixelFormat>(frame.format);
+    return {{frame.width, frame.height},
+            size,
+            format,
+            readableFormatFor(format),
+            isFullRangeFormat(frame)};
+}
+
+/// Scales a picture, which keeps its own colours. False when that is impossible.
+bool PictureConverter::scale(const AVFrame& frame, const Scaler& scaler)
+{
+    AVFrame& picture = *scaler.picture;
+    picture.color_range = isFullRangeFormat(frame) ? AVCOL_RANGE_JPEG : frame.color_range;
+    picture.colorspace = YuvToRgb::matrixOf(frame);
+    return sws_scale(scaler.context.get(), frame.data, frame.linesize, 0, frame.height,
+                     picture.data, picture.linesize) > 0;
+}
+
+std::optional<PictureConverter::Scaler> PictureConverter::takeScaler(const Task& task)
 {
     {
         const std::lock_guard lock(m_mutex);
         const auto found = std::find_if(m_idle.begin(), m_idle.end(),
                                         [&task](const Scaler& s) { return s.task == task; });
         if (found != m_idle.end()) {
-            ScalerPtr scaler = std::move(found->context);
+            Scaler scaler = std::move(*found);
             m_idle.erase(found);
             return scaler;
         }
     }
+    return makeScaler(task);
+}
+
+std::optional<PictureConverter::Scaler> PictureConverter::makeScaler(const Task& task)
+{
     constexpr int Flags =
         SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT | SWS_FULL_CHR_H_INP | SWS_BITEXACT;
-    ScalerPtr scaler(sws_getContext(task.from.width(), task.from.height(), task.source,
-                                    task.to.width(), task.to.height(), task.target, Flags, nullptr,
-                                    nullptr, nullptr));
-    if (!scaler)
-        return nullptr;
+    ScalerPtr context(sws_getContext(task.from.width(), task.from.height(), task.source,
+                                     task.to.width(), task.to.height(), task.target, Flags, nullptr,
+                                     nullptr, nullptr));
+    if (!context)
+        return std::nullopt;
     // The same range on both sides: the conversion to full range is YuvToRgb's.
     const int* coefficients = sws_getCoefficients(SWS_CS_DEFAULT);
     constexpr int Neutral = 1 << 16;
-    sws_setColorspaceDetails(scaler.get(), coefficients, task.isFullRange, coefficients,
+    sws_setColorspaceDetails(context.get(), coefficients, task.isFullRange, coefficients,
                              task.isFullRange, 0, Neutral, Neutral);
-    return scaler;
+    FramePtr picture = makeFrame();
+    picture->width = task.to.width();
+    picture->height = task.to.height();
+    picture->format = task.target;
+    if (av_frame_get_buffer(picture.get(), 0) < 0)
+        return std::nullopt;
+    return Scaler{task, std::move(context), std::move(picture)};
 }
 
-void PictureConverter::keepScaler(const Task& task, ScalerPtr scaler)
+void PictureConverter::keepScaler(Scaler scaler)
 {
     const std::lock_guard lock(m_mutex);
     if (m_idle.size() == MostIdleScalers)
         m_idle.erase(m_idle.begin());
-    m_idle.push_back({task, std::move(scaler)});
+    m_idle.push_back(std::move(scaler));
 }
 
 } // namespace QtAV

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "qtav/src/FFmpegHandles.h"
+#include "qtav/src/ImagePool.h"
 #include "qtav/src/YuvToRgb.h"
 
 #include <QImage>
 #include <QSize>
 
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace QtAV {
@@ -15,7 +17,7 @@ namespace QtAV {
 ///
 /// Colours are converted by YuvToRgb, which is exact and reads the common formats as they are. Rare
 /// formats are brought into one of those by FFmpeg's scaler first, and so are pictures whose
-/// pixels are not square. Scalers are kept for the next picture of the same kind.
+/// pixels are not square. Scalers and memory are kept for the next picture of the same kind.
 ///
 /// May be called from several threads at once.
 class PictureConverter
@@ -24,6 +26,11 @@ public:
     /// The picture at a size in pixels; a null image when it cannot be converted or memory runs
     /// out.
     QImage convert(const AVFrame& frame, const QSize& size);
+
+    /// True for pictures of luma and chroma alone. What convert() gives of them is opaque, and at a
+    /// smaller size shows what it shows at full size, at a part of the time and memory: scaling
+    /// luma and chroma comes to the same as scaling colours.
+    static bool isOpaqueYuv(const AVFrame& frame);
 
 private:
     /// What a scaler was made for.
@@ -42,15 +49,20 @@ private:
     {
         Task task;
         ScalerPtr context;
+        FramePtr picture; ///< where it writes to
     };
 
     /// More kinds of pictures than a video and its conversions have at a time.
     static constexpr size_t MostIdleScalers = 4;
 
-    FramePtr scaled(const AVFrame& frame, const QSize& size, AVPixelFormat format);
-    ScalerPtr takeScaler(const Task& task);
-    void keepScaler(const Task& task, ScalerPtr scaler);
+    QImage imageOf(const AVFrame& picture);
+    static Task taskFor(const AVFrame& frame, const QSize& size);
+    static std::optional<Scaler> makeScaler(const Task& task);
+    static bool scale(const AVFrame& frame, const Scaler& scaler);
+    std::optional<Scaler> takeScaler(const Task& task);
+    void keepScaler(Scaler scaler);
 
+    ImagePool m_images;
     std::mutex m_mutex;
     std::vector<Scaler> m_idle; ///< guarded by m_mutex
 };

@@ -5,6 +5,7 @@
 #include "qtav/src/VideoFramePrivate.h"
 
 #include <cmath>
+#include <utility>
 
 namespace QtAV {
 
@@ -112,8 +113,13 @@ QImage VideoFrame::toImage(QImage::Format format, const QSize& size, const QRect
 {
     if (!d)
         return {};
-    const QImage stored = d->converter->convert(*d->frame, d->squareSize());
-    QImage image = oriented(stored, d->orientation);
+    const QSize whole = displaySize();
+    const bool isReduced = region.isNull() && !size.isEmpty() && size.width() <= whole.width() &&
+                           size.height() <= whole.height();
+    const bool isOpaqueYuv = PictureConverter::isOpaqueYuv(*d->frame);
+    const QSize upright = isReduced && isOpaqueYuv ? size : whole;
+    const QSize stored = swapsSides(d->orientation) ? upright.transposed() : upright;
+    QImage image = oriented(d->converter->convert(*d->frame, stored), d->orientation);
     if (!region.isNull()) {
         const QRect part = region.toAlignedRect() & image.rect();
         if (part.isEmpty())
@@ -123,7 +129,10 @@ QImage VideoFrame::toImage(QImage::Format format, const QSize& size, const QRect
     if (!size.isEmpty() && size != image.size())
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const QImage::Format wanted = format == QImage::Format_Invalid ? QImage::Format_ARGB32 : format;
-    return image.format() == wanted ? image : image.convertToFormat(wanted);
+    // Without transparent parts these formats are the same in memory.
+    if (isOpaqueYuv && wanted == QImage::Format_ARGB32_Premultiplied)
+        image.reinterpretAsFormat(wanted);
+    return image.format() == wanted ? image : std::move(image).convertToFormat(wanted);
 }
 
 } // namespace QtAV

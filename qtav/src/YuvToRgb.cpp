@@ -446,17 +446,13 @@ bool YuvToRgb::isJpegFormat(int format)
     }
 }
 
-QImage YuvToRgb::convert(const AVFrame& frame) const
+void YuvToRgb::convert(const AVFrame& frame, QImage& image) const
 {
-    QImage image(frame.width, frame.height, QImage::Format_ARGB32);
-    if (image.isNull())
-        return image;
     uint8_t* const pixels = image.bits();
     LineConverter lines(frame, m_matrix);
     for (int line = 0; line < frame.height; ++line)
         lines.convert(line,
                       reinterpret_cast<uint32_t*>(pixels + ptrdiff_t(line) * image.bytesPerLine()));
-    return image;
 }
 
 } // namespace QtAV

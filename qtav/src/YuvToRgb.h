@@ -29,8 +29,8 @@ public:
     /// True for the formats that mean full range by themselves.
     static bool isJpegFormat(int format);
 
-    /// A Format_ARGB32 image of the picture's stored size; null when memory runs out.
-    QImage convert(const AVFrame& frame) const;
+    /// Fills a Format_ARGB32 image of the picture's stored size.
+    void convert(const AVFrame& frame, QImage& image) const;
 
     /// Factors in 1/8192 and the luma level of black, for samples of 15 bits.
     struct Matrix

@@ -34,8 +34,7 @@ void RasterWidget::paintEvent(QPaintEvent*)
     if (place.isEmpty())
         return;
     if (m_scaled.size() != place.size())
-        m_scaled = m_frame.toImage(QImage::Format_ARGB32, place.size())
-                       .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        m_scaled = m_frame.toImage(QImage::Format_ARGB32_Premultiplied, place.size());
     m_scaled.setDevicePixelRatio(ratio);
     painter.drawImage(QPointF(place.topLeft()) / ratio, m_scaled);
 }

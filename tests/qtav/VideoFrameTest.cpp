@@ -23,6 +23,18 @@ QtAV::VideoFrame firstFrameOf(const QString& file)
     return packet ? player.decodeKeyFrame(*packet) : QtAV::VideoFrame();
 }
 
+/// The next frame that comes out; an invalid one at the end.
+QtAV::VideoFrame nextFrameOf(Player& player)
+{
+    while (const auto packet = player.nextVideoPacket()) {
+        const QtAV::VideoFrame frame =
+            player.decoder->decode(*packet) ? player.decoder->frame() : QtAV::VideoFrame();
+        if (frame.isValid())
+            return frame;
+    }
+    return {};
+}
+
 /// The shares of red and blue in luma, by ITU-R BT.601, BT.709 and BT.2020.
 std::array<double, 2> sharesOf(testsupport::Matrix matrix)
 {
@@ -55,6 +67,38 @@ std::array<double, 3> rgbOf(const testsupport::PatchCodes& codes, const ColourSa
     return {to255(r), to255(g), to255(b)};
 }
 
+/// Red, green and blue.
+std::array<int, 3> channels(QRgb pixel)
+{
+    return {qRed(pixel), qGreen(pixel), qBlue(pixel)};
+}
+
+std::array<double, 3> meanColour(const QImage& image)
+{
+    std::array<double, 3> sum{};
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            for (size_t i = 0; i < sum.size(); ++i)
+                sum[i] += channels(image.pixel(x, y))[i];
+        }
+    }
+    for (double& value : sum)
+        value /= double(image.width()) * image.height();
+    return sum;
+}
+
+double meanDifference(const QImage& one, const QImage& other)
+{
+    double sum = 0.0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            for (size_t i = 0; i < 3; ++i)
+                sum += std::abs(channels(one.pixel(x, y))[i] - channels(other.pixel(x, y))[i]);
+        }
+    }
+    return sum / 3.0 / one.width() / one.height();
+}
+
 } // namespace
 
 class VideoFrameTest : public QObject
@@ -73,9 +117,13 @@ private slots:
     void region_isCutOut_inPixelsOfTheUprightPicture();
     void region_isClipped_whenItReachesOutside();
     void size_isThatAskedFor_withAndWithoutARegion();
+    void smallerImage_showsTheSame_forEverySample_data();
+    void smallerImage_showsTheSame_forEverySample();
+    void smallestImage_hasThePicturesMeanColour();
     void format_isThatAskedFor_data();
     void format_isThatAskedFor();
     void copies_showTheSamePicture_afterTheDecoderHasGone();
+    void image_keepsItsPixels_whenOthersAreMade();
     void image_isTheSame_fromSeveralThreadsAtOnce();
 };
 
@@ -103,13 +151,8 @@ void VideoFrameTest::image_isUprightWithSquarePixels_forEverySample()
     QFETCH(QString, file);
     const Sample& sample = testsupport::sampleNamed(file);
     Player player(testsupport::samplePath(file));
-    QtAV::VideoFrame frame;
-    while (!frame.isValid()) {
-        const auto packet = player.nextVideoPacket();
-        QVERIFY(packet);
-        if (player.decoder->decode(*packet))
-            frame = player.decoder->frame();
-    }
+    const QtAV::VideoFrame frame = nextFrameOf(player);
+    QVERIFY(frame.isValid());
     QCOMPARE(QSize(frame.width(), frame.height()), sample.codedSize);
     QCOMPARE(frame.displaySize(), sample.displaySize);
     QVERIFY(!frame.format().isEmpty());
@@ -224,6 +267,45 @@ void VideoFrameTest::size_isThatAskedFor_withAndWithoutARegion()
     }
 }
 
+void VideoFrameTest::smallerImage_showsTheSame_forEverySample_data()
+{
+    image_isUprightWithSquarePixels_forEverySample_data();
+}
+
+void VideoFrameTest::smallerImage_showsTheSame_forEverySample()
+{
+    QFETCH(QString, file);
+    Player player(testsupport::samplePath(file));
+    const QtAV::VideoFrame frame = nextFrameOf(player);
+    QVERIFY(frame.isValid());
+    const QSize size = frame.displaySize() / 1.7;
+    const QImage smaller = frame.toImage(QImage::Format_ARGB32, size);
+    QCOMPARE(smaller.size(), size);
+    const QImage expected = frame.toImage()
+                                .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                .convertToFormat(QImage::Format_ARGB32);
+    const std::array<double, 3> mean = meanColour(smaller);
+    const std::array<double, 3> expectedMean = meanColour(expected);
+    for (size_t i = 0; i < mean.size(); ++i)
+        QVERIFY2(std::abs(mean[i] - expectedMean[i]) < 1.0,
+                 qPrintable(QString::number(mean[i] - expectedMean[i])));
+    // Edges are sharper in one of them.
+    const double difference = meanDifference(smaller, expected);
+    QVERIFY2(difference < 5.0, qPrintable(QString::number(difference)));
+}
+
+void VideoFrameTest::smallestImage_hasThePicturesMeanColour()
+{
+    for (const char* file : {"h264_2160p.mp4", "h264_bframes.mp4"}) {
+        const QtAV::VideoFrame frame = firstFrameOf(QString::fromLatin1(file));
+        const std::array<double, 3> expected = meanColour(frame.toImage());
+        const QImage image = frame.toImage(QImage::Format_ARGB32, QSize(1, 1));
+        QCOMPARE(image.size(), QSize(1, 1));
+        for (size_t i = 0; i < expected.size(); ++i)
+            QVERIFY2(std::abs(channels(image.pixel(0, 0))[i] - expected[i]) < 60.0, file);
+    }
+}
+
 void VideoFrameTest::format_isThatAskedFor_data()
 {
     QTest::addColumn<QImage::Format>("format");
@@ -255,6 +337,21 @@ void VideoFrameTest::copies_showTheSamePicture_afterTheDecoderHasGone()
     }
     QVERIFY(!before.isNull());
     QCOMPARE(kept.toImage(), before);
+}
+
+void VideoFrameTest::image_keepsItsPixels_whenOthersAreMade()
+{
+    Player player(testsupport::samplePath(QStringLiteral("h264_bframes.mp4")));
+    const QtAV::VideoFrame first = nextFrameOf(player);
+    const QtAV::VideoFrame second = nextFrameOf(player);
+    QVERIFY(second.isValid());
+    const QImage kept = first.toImage();
+    QImage changed = kept;
+    changed.setPixel(0, 0, qRgb(1, 2, 3));
+    const QImage before = kept.copy();
+    QVERIFY(second.toImage() != before);
+    QCOMPARE(kept, before);
+    QCOMPARE(first.toImage(), before);
 }
 
 void VideoFrameTest::image_isTheSame_fromSeveralThreadsAtOnce()

@@ -103,6 +103,13 @@ std::array<double, 3> expected(const AVFrame& frame, int x, int y)
     return {to255(r), to255(g), to255(b)};
 }
 
+QImage converted(const AVFrame& frame)
+{
+    QImage image(frame.width, frame.height, QImage::Format_ARGB32);
+    YuvToRgb(frame).convert(frame, image);
+    return image;
+}
+
 } // namespace
 
 class YuvToRgbTest : public QObject
@@ -139,7 +146,7 @@ void YuvToRgbTest::picture_deviatesByOneAtMost_fromTheFormula()
     for (const QSize size : {QSize(64, 16), QSize(47, 9), QSize(1, 1), QSize(3, 2)}) {
         const FramePtr frame =
             noise(AVPixelFormat(format), size.width(), size.height(), AVColorRange(range));
-        const QImage image = YuvToRgb(*frame).convert(*frame);
+        const QImage image = converted(*frame);
         QCOMPARE(image.size(), size);
         for (int y = 0; y < size.height(); ++y) {
             for (int x = 0; x < size.width(); ++x) {
@@ -165,7 +172,7 @@ void YuvToRgbTest::pixels_areTheSame_whicheverInstructionsMakeThem()
     constexpr int Width = 140;
     constexpr int Short = 14;
     const FramePtr whole = noise(AV_PIX_FMT_YUV420P, Width, 8, AVCOL_RANGE_MPEG);
-    const QImage image = YuvToRgb(*whole).convert(*whole);
+    const QImage image = converted(*whole);
     for (int left = 0; left < Width; left += Short) {
         const FramePtr part = QtAV::makeFrame();
         QVERIFY(av_frame_ref(part.get(), whole.get()) >= 0);
@@ -173,7 +180,7 @@ void YuvToRgbTest::pixels_areTheSame_whicheverInstructionsMakeThem()
         part->data[0] += left;
         part->data[1] += left / 2;
         part->data[2] += left / 2;
-        const QImage strip = YuvToRgb(*part).convert(*part);
+        const QImage strip = converted(*part);
         // The last pixel lies between two chroma samples, of which the part has but one.
         const QRect same(0, 0, Short - 1, image.height());
         QCOMPARE(strip.copy(same), image.copy(same.translated(left, 0)));
@@ -185,7 +192,7 @@ void YuvToRgbTest::alpha_isTakenOver_inEveryDepth()
     for (const AVPixelFormat format :
          {AV_PIX_FMT_YUVA420P, AV_PIX_FMT_YUVA444P10LE, AV_PIX_FMT_YUVA444P16LE}) {
         const FramePtr frame = noise(format, 33, 5, AVCOL_RANGE_MPEG);
-        const QImage image = YuvToRgb(*frame).convert(*frame);
+        const QImage image = converted(*frame);
         const double top = (1 << av_pix_fmt_desc_get(format)->comp[3].depth) - 1;
         for (int x = 0; x < image.width(); ++x) {
             const double wanted = stored(*frame, 3, x, 2) * 255 / top;
