@@ -32,10 +32,37 @@ bool isAvi(const AVFormatContext& format)
     return std::strcmp(format.iformat->name, "avi") == 0;
 }
 
-/// Finds out what the streams are like, for which FFmpeg decodes some pictures. Nobody sees those:
-/// they need not be filtered.
+bool isCover(const AVStream& stream)
+{
+    return stream.disposition & AV_DISPOSITION_ATTACHED_PIC;
+}
+
+bool hasUnknownSize(const AVStream& stream)
+{
+    const AVCodecParameters& parameters = *stream.codecpar;
+    return parameters.codec_type == AVMEDIA_TYPE_VIDEO && !isCover(stream) &&
+           (parameters.width <= 0 || parameters.height <= 0);
+}
+
+/// MP4 and MOV files state of each stream all that reading and seeking need, except where FFmpeg
+/// does not trust the size that they state.
+bool describesItsStreams(const AVFormatContext& format)
+{
+    return std::strcmp(format.iformat->name, "mov,mp4,m4a,3gp,3g2,mj2") == 0 &&
+           std::none_of(format.streams, format.streams + format.nb_streams,
+                        [](const AVStream* stream) { return hasUnknownSize(*stream); });
+}
+
+/// Finds out what the streams are like, for which FFmpeg decodes some pictures unless it is denied
+/// all decoders. Nobody sees those pictures: they need not be filtered.
 int findStreamInfo(AVFormatContext& format)
 {
+    std::optional<FFmpegLogPause> expectedErrors;
+    if (describesItsStreams(format)) {
+        av_freep(&format.codec_whitelist);
+        format.codec_whitelist = av_strdup("none");
+        expectedErrors.emplace();
+    }
     std::vector<AVDictionary*> options(format.nb_streams, nullptr);
     for (AVDictionary*& ofStream : options)
         av_dict_set(&ofStream, "skip_loop_filter", "all", 0);
@@ -105,8 +132,7 @@ void MediaFile::findStreams()
 {
     for (unsigned i = 0; i < m_format->nb_streams; ++i) {
         const AVStream& stream = *m_format->streams[i];
-        const bool isPicture = stream.disposition & AV_DISPOSITION_ATTACHED_PIC;
-        if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !isPicture)
+        if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !isCover(stream))
             m_videoStreams.append(static_cast<int>(i));
         else if (stream.codecpar->codec_type == AVMEDIA_TYPE_AUDIO)
             m_audioStreams.append(static_cast<int>(i));

@@ -18,6 +18,8 @@ namespace {
 
 std::atomic<LogLevel> s_level{LogWarning};
 
+thread_local int t_pauses = 0;
+
 int ffmpegLevel(LogLevel level)
 {
     switch (level) {
@@ -39,7 +41,7 @@ int ffmpegLevel(LogLevel level)
 
 void writeToMessageLog(void* source, int level, const char* format, va_list arguments)
 {
-    if (level > av_log_get_level())
+    if (level > av_log_get_level() || t_pauses > 0)
         return;
     char line[1024];
     // A line that goes on where the last one ended would need state; each stands for itself here.
@@ -77,6 +79,16 @@ void routeFFmpegLog()
         av_log_set_level(ffmpegLevel(s_level));
         av_log_set_callback(writeToMessageLog);
     });
+}
+
+FFmpegLogPause::FFmpegLogPause()
+{
+    ++t_pauses;
+}
+
+FFmpegLogPause::~FFmpegLogPause()
+{
+    --t_pauses;
 }
 
 QString ffmpegErrorText(int error)

@@ -24,6 +24,7 @@ private slots:
     void load_fails_forWhatIsNoVideoFile_data();
     void load_fails_forWhatIsNoVideoFile();
     void load_doesNotWait_forPipes();
+    void load_complainsOfNothing_inAWholeFile();
     void load_opensFiles_withAnyName_data();
     void load_opensFiles_withAnyName();
     void setMedia_unloads_onlyForAnotherFile();
@@ -98,6 +99,22 @@ void AVDemuxerTest::load_doesNotWait_forPipes()
     AVDemuxer demuxer;
     demuxer.setMedia(path);
     QVERIFY(!demuxer.load());
+}
+
+void AVDemuxerTest::load_complainsOfNothing_inAWholeFile()
+{
+    static int complaints;
+    complaints = 0;
+    const QtMessageHandler previous =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString&) {
+            complaints += type == QtDebugMsg || type == QtInfoMsg ? 0 : 1;
+        });
+    QtAV::AVDemuxer demuxer;
+    demuxer.setMedia(testsupport::samplePath(QStringLiteral("sound.mp4")));
+    const bool isLoaded = demuxer.load();
+    qInstallMessageHandler(previous);
+    QVERIFY(isLoaded);
+    QCOMPARE(complaints, 0);
 }
 
 void AVDemuxerTest::load_opensFiles_withAnyName_data()
