@@ -98,16 +98,25 @@ VideoFrame FrameCache::atOrAfter(qint64 ms) const
     return isTheFirstSuch ? next->second.frame : VideoFrame();
 }
 
-std::optional<FrameCache::Run> FrameCache::runUpTo(double seconds) const
+std::optional<FrameCache::Run> FrameCache::runAround(double seconds) const
 {
-    auto entry = m_frames.find(seconds);
-    if (entry == m_frames.end())
+    const auto given = m_frames.find(seconds);
+    if (given == m_frames.end())
         return std::nullopt;
-    Run run{seconds, 0, false};
-    while (entry != m_frames.begin() && entry->second.predecessor == std::prev(entry)->first) {
-        --entry;
+    Run run{seconds, seconds, 0, 0, false};
+    for (auto next = std::next(given); next != m_frames.end(); ++next) {
+        if (next->second.predecessor != run.end)
+            break;
+        run.end = next->first;
+    }
+    for (auto entry = given; entry != m_frames.begin();) {
+        const auto before = std::prev(entry);
+        if (entry->second.predecessor != before->first)
+            break;
+        entry = before;
         run.start = entry->first;
-        run.bytes += entry->second.frame.byteCount();
+        ++run.framesBefore;
+        run.bytesBefore += entry->second.frame.byteCount();
     }
     run.isAtStart = m_first == run.start;
     return run;

@@ -20,12 +20,14 @@ class FrameCache
 public:
     static constexpr qint64 DefaultBytes = qint64(256) << 20;
 
-    /// Cached frames without a gap between them, up to a given one.
+    /// Cached frames without a gap between them, around a given one.
     struct Run
     {
-        double start;   ///< the time of the first of them
-        qint64 bytes;   ///< of all but the given one
-        bool isAtStart; ///< the first of them is the first of the video
+        double start;        ///< the time of the first of them
+        double end;          ///< the time of the last of them
+        qint64 framesBefore; ///< before the given one
+        qint64 bytesBefore;  ///< that those take
+        bool isAtStart;      ///< the first of them is the first of the video
     };
 
     explicit FrameCache(qint64 mostBytes = DefaultBytes);
@@ -54,8 +56,8 @@ public:
     /// The first frame of the video whose whole milliseconds are at or after a position.
     VideoFrame atOrAfter(qint64 ms) const;
 
-    /// The run that ends with the frame of that time; nothing when that is not cached.
-    std::optional<Run> runUpTo(double seconds) const;
+    /// The run in which the frame of that time is; nothing when that is not cached.
+    std::optional<Run> runAround(double seconds) const;
 
     qint64 byteCount() const { return m_bytes; }
     qint64 mostBytes() const { return m_mostBytes; }

@@ -18,18 +18,23 @@ constexpr double NearSeconds = 1.0;
 
 /// So many frames before a target are decoded with it, for the steps back that often follow. Each
 /// costs a part of the seek's time; those before them are decoded behind the seek's back.
-constexpr qint64 FramesBeforeTarget = 8;
+constexpr qint64 FramesBeforeTarget = 7;
 
-/// Filling begins when frames before the focus take less than this part of the cache, and adds the
-/// other part: together less than what eviction leaves them, or filling would never end.
-constexpr int PartBehind = 3;
-constexpr int PartFilled = 2;
+/// Filling begins when fewer frames than this are left before the focus, or fewer than this for
+/// each step back that was just made. A seek brings more: filling right after it would keep the
+/// decoder from a step forward.
+constexpr qint64 FewFrames = 4;
+constexpr qint64 FramesForStepBack = 2;
 
-/// A cache of more than these frames, or of more than these bytes where frames are small, would
+/// It does not begin when the frames before the focus take this part of the cache, and adds as
+/// much.
+constexpr int PartBehind = 2;
+
+/// A cache of more than these bytes, or of more than these frames where frames are large, would
 /// hardly make stepping faster: what it can fill up meanwhile, and what it is asked for, are in
-/// balance already.
-constexpr qint64 UsefulFrames = 16;
-constexpr qint64 UsefulBytes = qint64(64) << 20;
+/// balance already. A seek fills it with the frames before its target.
+constexpr qint64 UsefulFrames = FramesBeforeTarget + 1;
+constexpr qint64 UsefulBytes = qint64(32) << 20;
 
 constexpr int UsualGapMs = 40;
 
@@ -44,9 +49,8 @@ bool FrameSource::open(const QString& path, qint64 cacheBytes, const IsCancelled
                        QString& error)
 {
     close();
-    m_path = path;
     m_cache = FrameCache(cacheBytes);
-    if (!m_ahead.open(path, error))
+    if (!m_cursor.open(path, error))
         return false;
     const Found first = frameAt(0, isCancelled);
     if (first.kind == Found::Kind::Frame) {
@@ -63,19 +67,19 @@ bool FrameSource::open(const QString& path, qint64 cacheBytes, const IsCancelled
 void FrameSource::close()
 {
     m_walk.reset();
-    m_ahead.close();
-    m_behind.close();
-    m_aheadFrame = VideoFrame();
+    m_cursor.close();
+    m_cursorFrame = VideoFrame();
     m_cache.clear();
     m_lastTime.reset();
     m_filledUpTo.reset();
     m_longestGapMs = UsualGapMs;
     m_focus = 0.0;
+    m_stepsBack = 0;
 }
 
 int FrameSource::frameInterval() const
 {
-    const VideoCodecContext* context = m_ahead.demuxer().videoCodecContext();
+    const VideoCodecContext* context = m_cursor.demuxer().videoCodecContext();
     const AVRational rate = context ? context->parameters()->frameRate : AVRational{0, 1};
     if (rate.num <= 0 || rate.den <= 0)
         return UsualGapMs;
@@ -90,15 +94,25 @@ void FrameSource::setFocus(double seconds)
 
 /// Frames with others left out between them answer no question: they would only take the memory of
 /// those that do.
-void FrameSource::keep(const VideoCursor::Step& step, const VideoCursor& cursor)
+void FrameSource::keep(const VideoCursor::Step& step)
 {
     const double time = step.frame.timestamp();
     if (step.isFirstOfVideo)
         m_cache.setFirst(time);
     if (step.predecessor)
         m_longestGapMs = std::max(m_longestGapMs, toMilliseconds(time - *step.predecessor));
-    if (toMilliseconds(time) >= cursor.completeFrom())
+    if (toMilliseconds(time) >= m_cursor.completeFrom())
         m_cache.insert(step.frame, step.predecessor);
+}
+
+VideoCursor::Step FrameSource::advance(const IsCancelled& isCancelled)
+{
+    const VideoCursor::Step step = m_cursor.next(isCancelled);
+    if (step.kind == VideoCursor::Step::Kind::Frame) {
+        keep(step);
+        m_cursorFrame = step.frame;
+    }
+    return step;
 }
 
 FrameSource::Found FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelled)
@@ -106,23 +120,23 @@ FrameSource::Found FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelle
     if (m_lastTime)
         ms = std::min(ms, toMilliseconds(*m_lastTime));
     setFocus(double(ms) / 1000.0);
+    m_stepsBack = 0;
     const VideoFrame cached = m_cache.atOrAfter(ms);
     if (cached.isValid())
         return {Found::Kind::Frame, cached};
 
-    m_walk.reset();
-    m_filledUpTo.reset();
+    leaveWalkBehind();
     const IsReached isReached = [ms](const VideoFrame& frame) {
         return toMilliseconds(frame.timestamp()) >= ms;
     };
     const qint64 completeFrom = ms - lengthOf(FramesBeforeTarget);
-    if (!m_ahead.last() || toMilliseconds(*m_ahead.last()) >= ms ||
+    if (!m_cursor.last() || toMilliseconds(*m_cursor.last()) >= ms ||
         !isShortlyBefore(double(ms) / 1000.0))
         return walkFrom(ms, completeFrom, isReached, isCancelled);
-    m_ahead.setCompleteFrom(completeFrom);
+    m_cursor.setCompleteFrom(completeFrom);
     switch (walkOn(isReached, isCancelled)) {
     case Walked::Reached:
-        return {Found::Kind::Frame, m_aheadFrame};
+        return {Found::Kind::Frame, m_cursorFrame};
     case Walked::Cancelled:
         return {Found::Kind::Cancelled};
     case Walked::MayHaveMissed:
@@ -135,38 +149,42 @@ FrameSource::Found FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelle
 
 FrameSource::Found FrameSource::after(double seconds, const IsCancelled& isCancelled)
 {
+    m_stepsBack = 0;
     const VideoFrame cached = m_cache.after(seconds);
     if (cached.isValid())
         return {Found::Kind::Frame, cached};
     if (m_lastTime && seconds >= *m_lastTime)
         return {Found::Kind::None};
 
+    if (isOnTheWay(seconds) && finishWalkBehind(isCancelled) == Filling::Cancelled)
+        return {Found::Kind::Cancelled};
+    leaveWalkBehind();
     const IsReached isReached = [seconds](const VideoFrame& frame) {
         return frame.timestamp() > seconds;
     };
+    const qint64 ms = toMilliseconds(seconds);
     Walked walked = Walked::MayHaveMissed;
     if (isShortlyBefore(seconds)) {
-        m_ahead.setCompleteFrom(0);
+        m_cursor.setCompleteFrom(ms);
         walked = walkOn(isReached, isCancelled);
     }
     if (walked == Walked::Reached)
-        return {Found::Kind::Frame, m_aheadFrame};
+        return {Found::Kind::Frame, m_cursorFrame};
     if (walked == Walked::Cancelled)
         return {Found::Kind::Cancelled};
     if (walked == Walked::End)
         return {Found::Kind::None};
-    const qint64 ms = toMilliseconds(seconds);
     const Found found = walkFrom(ms, ms, isReached, isCancelled);
     const bool isAfter = found.frame.isValid() && isReached(found.frame);
     return found.kind != Found::Kind::Frame || isAfter ? found : Found{Found::Kind::None};
 }
 
-/// True when m_ahead comes to a time by going on for a moment.
+/// True when m_cursor comes to a time by going on for a moment, and misses nothing from there on.
 bool FrameSource::isShortlyBefore(double seconds) const
 {
-    const std::optional<double> last = m_ahead.last();
+    const std::optional<double> last = m_cursor.last();
     return last && *last <= seconds && seconds - *last <= NearSeconds &&
-           !m_ahead.leftOutSinceLast();
+           m_cursor.isCompleteFrom(seconds);
 }
 
 /// The first frame that is reached when starting at the key frame before a position, or further
@@ -177,14 +195,14 @@ FrameSource::Found FrameSource::walkFrom(qint64 ms, qint64 completeFrom, const I
     bool leavesOut = completeFrom > 0;
     for (qint64 stepBackMs = 0;;) {
         const qint64 landing = std::max<qint64>(0, ms - stepBackMs);
-        m_ahead.seek(landing);
-        m_ahead.setCompleteFrom(leavesOut ? completeFrom : 0);
+        m_cursor.seek(landing);
+        m_cursor.setCompleteFrom(leavesOut ? completeFrom : 0);
         const Walked walked = walkOn(isReached, isCancelled);
         if (walked == Walked::Reached)
-            return {Found::Kind::Frame, m_aheadFrame};
+            return {Found::Kind::Frame, m_cursorFrame};
         if (walked == Walked::Cancelled)
             return {Found::Kind::Cancelled};
-        if (walked == Walked::End && m_ahead.last())
+        if (walked == Walked::End && m_cursor.last())
             return lastFrame(isCancelled);
         if (walked == Walked::End && landing == 0 && !leavesOut)
             return {Found::Kind::None};
@@ -197,18 +215,16 @@ FrameSource::Found FrameSource::walkFrom(qint64 ms, qint64 completeFrom, const I
 FrameSource::Walked FrameSource::walkOn(const IsReached& isReached, const IsCancelled& isCancelled)
 {
     for (;;) {
-        const VideoCursor::Step step = m_ahead.next(isCancelled);
+        const VideoCursor::Step step = advance(isCancelled);
         if (step.kind == VideoCursor::Step::Kind::Cancelled)
             return Walked::Cancelled;
         if (step.kind == VideoCursor::Step::Kind::End) {
             noteEnd();
             return Walked::End;
         }
-        keep(step, m_ahead);
-        m_aheadFrame = step.frame;
         if (!isReached(step.frame))
             continue;
-        const bool isKeyFrame = m_ahead.landing() && step.frame.timestamp() <= *m_ahead.landing();
+        const bool isKeyFrame = m_cursor.landing() && step.frame.timestamp() <= *m_cursor.landing();
         const bool isCertain = step.predecessor || step.isFirstOfVideo || isKeyFrame;
         return isCertain ? Walked::Reached : Walked::MayHaveMissed;
     }
@@ -216,79 +232,66 @@ FrameSource::Walked FrameSource::walkOn(const IsReached& isReached, const IsCanc
 
 void FrameSource::noteEnd()
 {
-    if (m_ahead.last() && !m_ahead.leftOutSinceLast())
-        m_lastTime = m_ahead.last();
+    if (m_cursor.last() && !m_cursor.leftOutSinceLast())
+        m_lastTime = m_cursor.last();
 }
 
-/// The video's last frame, once m_ahead has come to the end.
+/// The video's last frame, once m_cursor has come to the end.
 FrameSource::Found FrameSource::lastFrame(const IsCancelled& isCancelled)
 {
-    if (!m_ahead.leftOutSinceLast())
-        return {Found::Kind::Frame, m_aheadFrame};
+    if (!m_cursor.leftOutSinceLast())
+        return {Found::Kind::Frame, m_cursorFrame};
     return walkFrom(
-        toMilliseconds(*m_ahead.last()), 0, [](const VideoFrame&) { return false; }, isCancelled);
+        toMilliseconds(*m_cursor.last()), 0, [](const VideoFrame&) { return false; }, isCancelled);
 }
 
 FrameSource::Found FrameSource::before(double seconds, const IsCancelled& isCancelled)
 {
+    ++m_stepsBack;
     const std::optional<double> first = m_cache.first();
     if (first && seconds <= *first)
         return {Found::Kind::None};
     const VideoFrame cached = m_cache.before(seconds);
     if (cached.isValid())
         return {Found::Kind::Frame, cached};
-    const bool isOnTheWay = m_walk && m_walk->target == seconds;
-    if (!isOnTheWay && !startWalkBehind(seconds))
-        return {Found::Kind::None};
-    Filling filling = Filling::GoesOn;
-    while (filling == Filling::GoesOn)
-        filling = walkOnBehind(isCancelled);
-    if (filling == Filling::Cancelled)
+    if (!m_walk || m_walk->target != seconds)
+        startWalkBehind(seconds);
+    if (finishWalkBehind(isCancelled) == Filling::Cancelled)
         return {Found::Kind::Cancelled};
     const VideoFrame previous = m_walk->previous;
     m_walk.reset();
     return previous.isValid() ? Found{Found::Kind::Frame, previous} : Found{Found::Kind::None};
 }
 
-bool FrameSource::startWalkBehind(double target)
+void FrameSource::startWalkBehind(double target)
 {
-    m_walk.reset();
-    QString error;
-    // The same file opened before: what fails now is that it went away meanwhile.
-    if (!m_behind.isOpen() && !m_behind.open(m_path, error, &m_ahead)) {
-        qWarning("Cannot step back: %s", qUtf8Printable(error));
-        return false;
-    }
-    m_walk = WalkBehind{target};
+    m_walk = WalkBehind{target, m_cursor.landing()};
     landBehind();
-    return true;
 }
 
 void FrameSource::landBehind()
 {
     const qint64 targetMs = toMilliseconds(m_walk->target);
-    m_behind.seek(std::max<qint64>(0, targetMs - 1 - m_walk->stepBackMs));
+    m_cursor.seek(std::max<qint64>(0, targetMs - 1 - m_walk->stepBackMs));
     // What the cache would throw away again need not be decoded.
-    const qint64 frameBytes = std::max<qint64>(1, m_aheadFrame.byteCount());
-    const qint64 room = m_cache.mostBytes() / PartFilled / frameBytes;
+    const qint64 frameBytes = std::max<qint64>(1, m_cursorFrame.byteCount());
+    const qint64 room = m_cache.mostBytes() / PartBehind / frameBytes;
     const qint64 frames = std::max(FramesBeforeTarget, room);
-    m_behind.setCompleteFrom(m_walk->leavesOut ? targetMs - lengthOf(frames) : 0);
+    m_cursor.setCompleteFrom(m_walk->leavesOut ? targetMs - lengthOf(frames) : 0);
     m_walk->previous = VideoFrame();
 }
 
 FrameSource::Filling FrameSource::walkOnBehind(const IsCancelled& isCancelled)
 {
-    const VideoCursor::Step step = m_behind.next(isCancelled);
+    const VideoCursor::Step step = advance(isCancelled);
     if (step.kind == VideoCursor::Step::Kind::Cancelled)
         return Filling::Cancelled;
     const bool isFrame = step.kind == VideoCursor::Step::Kind::Frame;
-    if (isFrame)
-        keep(step, m_behind);
     if (isFrame && step.frame.timestamp() < m_walk->target) {
         m_walk->previous = step.frame;
         return Filling::GoesOn;
     }
-    const bool isComplete = isFrame ? step.predecessor.has_value() : !m_behind.leftOutSinceLast();
+    const bool isComplete = isFrame ? step.predecessor.has_value() : !m_cursor.leftOutSinceLast();
     const bool isCertain = m_walk->previous.isValid() && isComplete;
     const bool isAtStart = m_walk->stepBackMs >= toMilliseconds(m_walk->target);
     if (isCertain || step.isFirstOfVideo || (isAtStart && !m_walk->leavesOut))
@@ -300,33 +303,63 @@ FrameSource::Filling FrameSource::walkOnBehind(const IsCancelled& isCancelled)
     return Filling::GoesOn;
 }
 
+FrameSource::Filling FrameSource::finishWalkBehind(const IsCancelled& isCancelled)
+{
+    Filling filling = Filling::GoesOn;
+    while (filling == Filling::GoesOn)
+        filling = walkOnBehind(isCancelled);
+    return filling;
+}
+
+/// True when finishing the walk is the shortest way to what follows a time: another one would lead
+/// over the same frames.
+bool FrameSource::isOnTheWay(double seconds) const
+{
+    return m_walk && m_walk->target <= seconds && seconds - m_walk->target <= NearSeconds &&
+           (!m_walk->wayBack || *m_walk->wayBack < m_walk->target);
+}
+
+/// What the walk was for may be wanted again.
+void FrameSource::leaveWalkBehind()
+{
+    m_walk.reset();
+    m_filledUpTo.reset();
+}
+
 bool FrameSource::fillBehind(const IsCancelled& isCancelled)
 {
-    if (!m_walk && !startFilling()) {
-        restBehind();
-        return false;
-    }
+    if (!m_walk && !startFilling())
+        return catchUp(isCancelled);
     if (walkOnBehind(isCancelled) == Filling::Done)
         m_walk.reset();
     return true;
 }
 
-void FrameSource::restBehind()
-{
-    if (m_behind.isOpen())
-        m_behind.rest();
-}
-
 bool FrameSource::startFilling()
 {
-    const std::optional<FrameCache::Run> run = m_cache.runUpTo(m_focus);
-    const qint64 enough = m_cache.mostBytes() / PartBehind;
-    const bool isEnough = !run || run->isAtStart || run->bytes >= enough;
+    const std::optional<FrameCache::Run> run = m_cache.runAround(m_focus);
+    if (!run || run->isAtStart)
+        return false;
+    const qint64 enough = std::max(FewFrames, FramesForStepBack * m_stepsBack);
+    const bool isEnough =
+        run->framesBefore >= enough || run->bytesBefore >= m_cache.mostBytes() / PartBehind;
     // Filling up to the same frame again would end the same.
     if (isEnough || m_filledUpTo == run->start)
         return false;
     m_filledUpTo = run->start;
-    return startWalkBehind(run->start);
+    startWalkBehind(run->start);
+    return true;
+}
+
+/// Goes to the last of the cached frames around the focus.
+bool FrameSource::catchUp(const IsCancelled& isCancelled)
+{
+    const std::optional<FrameCache::Run> run = m_cache.runAround(m_focus);
+    const bool isAhead = !run || run->end == m_lastTime || m_cursor.last() == run->end;
+    if (isAhead || !isShortlyBefore(run->end))
+        return false;
+    m_cursor.setCompleteFrom(toMilliseconds(run->end));
+    return advance(isCancelled).kind != VideoCursor::Step::Kind::End;
 }
 
 } // namespace QtAV

@@ -13,9 +13,10 @@ namespace QtAV {
 /// Gives exactly the frame that is asked for: the first at or after a position, the very next and
 /// the very one before.
 ///
-/// What was decoded is kept in a FrameCache. Two cursors walk in the file: one stays where frames
-/// are wanted next, so that going forward goes on decoding; the other fills the cache with what
-/// lies before the focus, so that stepping back finds it there.
+/// What was decoded is kept in a FrameCache. One cursor walks in the file, since a decoder takes
+/// the memory of a dozen pictures: it goes back to fill the cache with what lies before the focus,
+/// so that stepping back finds it there, and then on to where the cached frames end, so that going
+/// forward goes on decoding.
 ///
 /// Where a codec gives no whole picture at a place that the container calls a key frame, decoding
 /// starts again further back, until nothing can be missing before the frame that was found.
@@ -38,13 +39,13 @@ public:
     [[nodiscard]] bool open(const QString& path, qint64 cacheBytes, const IsCancelled& isCancelled,
                             QString& error);
     void close();
-    bool isOpen() const { return m_ahead.isOpen(); }
+    bool isOpen() const { return m_cursor.isOpen(); }
 
     /// In milliseconds; 0 when nothing is open.
-    qint64 duration() const { return m_ahead.demuxer().duration(); }
+    qint64 duration() const { return m_cursor.demuxer().duration(); }
     /// The usual time between two frames in milliseconds, 1 or more.
     int frameInterval() const;
-    bool hasSound() const { return !m_ahead.demuxer().audioStreams().isEmpty(); }
+    bool hasSound() const { return !m_cursor.demuxer().audioStreams().isEmpty(); }
 
     /// The first frame at or after a position in milliseconds; behind the last frame, the last.
     [[nodiscard]] Found frameAt(qint64 ms, const IsCancelled& isCancelled);
@@ -58,8 +59,11 @@ public:
     /// The time in seconds around which frames are kept and before which they are decoded ahead.
     void setFocus(double seconds);
 
-    /// Decodes one of the frames before the focus. False when enough of them are there; what the
-    /// second cursor's decoder had taken is then given back.
+    /// Decodes one frame of those that will be wanted before the focus, or on the way back from
+    /// them. False when there are enough, and decoding can go on after them.
+    ///
+    /// After a seek the few frames that came with it are enough; the more steps back follow, the
+    /// more frames are wanted before the focus.
     [[nodiscard]] bool fillBehind(const IsCancelled& isCancelled);
 
     const FrameCache& cache() const { return m_cache; }
@@ -70,10 +74,12 @@ private:
     enum class Walked { Reached, MayHaveMissed, End, Cancelled };
     enum class Filling { GoesOn, Done, Cancelled };
 
-    /// The walk of the second cursor up to a frame.
+    /// The way to the frames before a cached one.
     struct WalkBehind
     {
-        double target; ///< the time of the frame to get to, in seconds
+        double target; ///< the time of that frame in seconds
+        /// The key frame from which decoding had come to the frames after the target.
+        std::optional<double> wayBack = {};
         qint64 stepBackMs = 0;
         bool leavesOut = true;
         VideoFrame previous = {}; ///< the last frame before the target
@@ -86,23 +92,26 @@ private:
     Found lastFrame(const IsCancelled& isCancelled);
     void noteEnd();
 
-    bool startWalkBehind(double target);
+    void startWalkBehind(double target);
     void landBehind();
     Filling walkOnBehind(const IsCancelled& isCancelled);
+    Filling finishWalkBehind(const IsCancelled& isCancelled);
+    bool isOnTheWay(double seconds) const;
+    void leaveWalkBehind();
     bool startFilling();
-    void restBehind();
+    bool catchUp(const IsCancelled& isCancelled);
 
-    void keep(const VideoCursor::Step& step, const VideoCursor& cursor);
+    VideoCursor::Step advance(const IsCancelled& isCancelled);
+    void keep(const VideoCursor::Step& step);
     qint64 lengthOf(qint64 frames) const { return frames * m_longestGapMs; }
 
-    QString m_path;
     FrameCache m_cache;
-    VideoCursor m_ahead;
-    VideoCursor m_behind;
-    VideoFrame m_aheadFrame;          ///< what m_ahead gave last
+    VideoCursor m_cursor;
+    VideoFrame m_cursorFrame;         ///< what m_cursor gave last
     std::optional<double> m_lastTime; ///< of the video's last frame, once it has been seen
     qint64 m_longestGapMs = 0;        ///< between two neighbours that have been seen
     double m_focus = 0.0;
+    int m_stepsBack = 0; ///< since the last seek or step forward
     std::optional<WalkBehind> m_walk;
     std::optional<double> m_filledUpTo; ///< the frame that the last filling was for
 };

@@ -24,7 +24,7 @@ QVariantHash decoderOptions(bool skips)
 
 } // namespace
 
-bool VideoCursor::open(const QString& path, QString& error, const VideoCursor* other)
+bool VideoCursor::open(const QString& path, QString& error)
 {
     close();
     m_demuxer.setMedia(path);
@@ -40,8 +40,6 @@ bool VideoCursor::open(const QString& path, QString& error, const VideoCursor* o
     }
     m_decoder.reset(VideoDecoder::create("FFmpeg"));
     m_decoder->setCodecContext(context);
-    if (other && other->m_decoder)
-        m_decoder->shareMemoryWith(*other->m_decoder);
     if (!m_decoder->open()) {
         error = QCoreApplication::translate("QtAV::AVPlayer", "The video cannot be decoded.");
         close();
@@ -63,10 +61,7 @@ void VideoCursor::seek(qint64 ms)
 {
     // What a seek could not do shows in the packets that follow.
     static_cast<void>(m_demuxer.seek(ms));
-    if (m_decoder->isOpen())
-        m_decoder->flush();
-    else if (!m_decoder->open())
-        qWarning("A decoder cannot be opened again");
+    m_decoder->flush();
     m_completeFrom = 0;
     m_leftOutUpTo = -1.0;
     m_startedAtZero = ms <= 0;

@@ -39,9 +39,7 @@ public:
 
     /// Opens the file's first video stream. False, with a text for people, when it has none or
     /// none that can be decoded.
-    /// @param other  another cursor in the same video, whose memory it shall share; null for none.
-    [[nodiscard]] bool open(const QString& path, QString& error,
-                            const VideoCursor* other = nullptr);
+    [[nodiscard]] bool open(const QString& path, QString& error);
     void close();
     [[nodiscard]] bool isOpen() const { return m_decoder != nullptr; }
 
@@ -56,10 +54,6 @@ public:
     void setCompleteFrom(qint64 ms) { m_completeFrom = ms; }
     qint64 completeFrom() const { return m_completeFrom; }
 
-    /// Gives the decoder's memory back, which is that of several pictures, until the next seek():
-    /// there must be one before next().
-    void rest() { m_decoder->close(); }
-
     [[nodiscard]] Step next(const IsCancelled& isCancelled);
 
     /// The time of the frame that next() gave last; nothing since seek().
@@ -67,6 +61,9 @@ public:
 
     /// The time of the packet where the last seek landed; nothing until next() was called.
     std::optional<double> landing() const { return m_landing; }
+
+    /// No frame at or after a time in seconds has been left out.
+    bool isCompleteFrom(double seconds) const { return m_leftOutUpTo < seconds; }
 
     /// Frames behind last() were left out.
     bool leftOutSinceLast() const { return m_last && *m_last < m_leftOutUpTo; }

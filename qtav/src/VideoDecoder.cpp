@@ -5,7 +5,6 @@
 #include "qtav/src/HevcLayers.h"
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/PictureConverter.h"
-#include "qtav/src/PicturePool.h"
 #include "qtav/src/StreamParameters.h"
 #include "qtav/src/UnreferencedPictures.h"
 #include "qtav/src/VideoFramePrivate.h"
@@ -59,8 +58,6 @@ public:
     bool leavesOut(const AVPacket& packet) const;
 
     std::shared_ptr<const StreamParameters> parameters;
-    std::shared_ptr<PicturePool> pool = std::make_shared<PicturePool>();
-    std::shared_ptr<PicturePool> usedPool; ///< of the open context, which goes before it
     CodecContextPtr context;
     QVariantHash options;
     std::shared_ptr<PictureConverter> converter;
@@ -112,8 +109,6 @@ bool VideoDecoder::open()
                                 .toHash()
                                 .value(QStringLiteral("threads"), 0)
                                 .toInt();
-    d->usedPool = d->pool;
-    d->usedPool->serve(*context);
     if (avcodec_open2(context.get(), codec, nullptr) < 0)
         return false;
     d->context = std::move(context);
@@ -124,11 +119,6 @@ bool VideoDecoder::open()
     d->unreferenced = UnreferencedPictures(parameters);
     d->applySkipOptions();
     return true;
-}
-
-void VideoDecoder::shareMemoryWith(const VideoDecoder& other)
-{
-    d->pool = other.d->pool;
 }
 
 void VideoDecoder::close()

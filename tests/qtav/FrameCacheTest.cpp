@@ -165,12 +165,14 @@ void FrameCacheTest::run_endsWhereANeighbourIsUnknown()
     cache.setFirst(time(0));
     insert(cache, 0, 1);
     insert(cache, 3, 6);
-    const auto run = cache.runUpTo(time(5));
+    const auto run = cache.runAround(time(5));
     QVERIFY(run.has_value());
     QCOMPARE(run->start, time(3));
     QVERIFY(!run->isAtStart);
-    QCOMPARE(run->bytes, m_frames.at(3).byteCount() + m_frames.at(4).byteCount());
-    QVERIFY(!cache.runUpTo(time(2)).has_value());
+    QCOMPARE(run->end, time(6));
+    QCOMPARE(run->framesBefore, 2);
+    QCOMPARE(run->bytesBefore, m_frames.at(3).byteCount() + m_frames.at(4).byteCount());
+    QVERIFY(!cache.runAround(time(2)).has_value());
 }
 
 void FrameCacheTest::run_reachesTheStart_whenTheFirstFrameIsKnown()
@@ -178,7 +180,7 @@ void FrameCacheTest::run_reachesTheStart_whenTheFirstFrameIsKnown()
     FrameCache cache;
     cache.setFirst(time(0));
     insert(cache, 0, 4);
-    const auto run = cache.runUpTo(time(4));
+    const auto run = cache.runAround(time(4));
     QVERIFY(run.has_value());
     QVERIFY(run->isAtStart);
 }

@@ -21,6 +21,55 @@ bool never()
     return false;
 }
 
+/// So many packets at most take a decoder at work to its next frame.
+constexpr int FewPackets = 20;
+
+/// A source in a video whose key frames are 250 frames apart, and the frame on screen.
+struct LongGroups
+{
+    explicit LongGroups(qint64 ms)
+    {
+        QString error;
+        if (!source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")),
+                         QtAV::FrameCache::DefaultBytes, never, error))
+            qFatal("%s", qPrintable(error));
+        show(source.frameAt(ms, never));
+    }
+
+    void show(const FrameSource::Found& found)
+    {
+        frame = found.frame;
+        source.setFocus(frame.timestamp());
+    }
+
+    /// Steps, and counts the packets that this takes.
+    FrameSource::Found step(FrameSource::Found (FrameSource::*direction)(double,
+                                                                         const QtAV::IsCancelled&))
+    {
+        packets = 0;
+        const FrameSource::Found found = (source.*direction)(frame.timestamp(), [this] {
+            ++packets;
+            return false;
+        });
+        if (found.kind == Kind::Frame)
+            show(found);
+        return found;
+    }
+
+    /// Fills until there is no more to do, or so many packets have been taken.
+    void fill(int mostPackets = 1000000)
+    {
+        packets = 0;
+        const auto enough = [this, mostPackets] { return packets == mostPackets || ++packets < 0; };
+        while (packets < mostPackets && source.fillBehind(enough)) {
+        }
+    }
+
+    FrameSource source;
+    VideoFrame frame;
+    int packets = 0;
+};
+
 /// Room for few frames, so that most of them are decoded again.
 qint64 smallCache(const VideoFrame& frame)
 {
@@ -39,7 +88,11 @@ private slots:
     void steps_meetEveryFrameOnce_toTheEndAndBack();
     void mixedStepsAndSeeks_endOnTheRightFrame_data() { addSamples(); }
     void mixedStepsAndSeeks_endOnTheRightFrame();
-    void filling_letsStepsBackDecodeNothing_afterASeek();
+    void filling_letsStepsBackDecodeNothing_asLongAsTheyGoOn();
+    void filling_leavesTheDecoderWhereItIs_afterASeek();
+    void filling_returnsToWhereGoingForwardDecodesOn();
+    void stepForward_endsTheFillingUnderway_withoutStartingAgain();
+    void stepForward_leavesTheFillingUnderway_whenAKeyFrameIsNear();
     void filling_ends_withoutAnyStep();
     void cache_takesNoMoreThanIsUseful_howeverMuchIsAllowed();
     void cancelledSearch_givesNoFrame_andTheNextOneIsRight();
@@ -137,27 +190,64 @@ void FrameSourceTest::mixedStepsAndSeeks_endOnTheRightFrame()
     }
 }
 
-void FrameSourceTest::filling_letsStepsBackDecodeNothing_afterASeek()
+void FrameSourceTest::filling_letsStepsBackDecodeNothing_asLongAsTheyGoOn()
 {
-    FrameSource source;
-    QString error;
-    QVERIFY(source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")),
-                        QtAV::FrameCache::DefaultBytes, never, error));
-    VideoFrame frame = source.frameAt(9000, never).frame; // frame 225 of a group of 250
-    source.setFocus(frame.timestamp());
-    while (source.fillBehind(never)) {
-    }
-    const int cached = source.cache().frameCount();
-    QVERIFY(cached > 220);
+    LongGroups opened(9000); // frame 225 of a group of 250
     for (int n = 224; n >= 0; --n) {
-        const FrameSource::Found found = source.before(frame.timestamp(), [] {
-            qFatal("A packet was decoded");
-            return true;
-        });
+        opened.fill();
+        const FrameSource::Found found = opened.step(&FrameSource::before);
         QCOMPARE(found.kind, Kind::Frame);
-        frame = found.frame;
-        QCOMPARE(shown(frame).number, n);
+        QCOMPARE(shown(found.frame).number, n);
+        QCOMPARE(opened.packets, 0);
     }
+}
+
+void FrameSourceTest::filling_leavesTheDecoderWhereItIs_afterASeek()
+{
+    LongGroups opened(9000);
+    opened.fill();
+    QCOMPARE(opened.packets, 0);
+    for (int n = 226; n < 230; ++n) {
+        QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
+        QVERIFY(opened.packets <= FewPackets);
+    }
+}
+
+void FrameSourceTest::filling_returnsToWhereGoingForwardDecodesOn()
+{
+    LongGroups opened(9000);
+    for (int n = 224; n > 220; --n)
+        QCOMPARE(shown(opened.step(&FrameSource::before).frame).number, n);
+    opened.fill();
+    QVERIFY(opened.packets > 100);
+    for (int n = 222; n < 240; ++n) {
+        QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
+        QVERIFY(opened.packets <= FewPackets);
+    }
+}
+
+void FrameSourceTest::stepForward_endsTheFillingUnderway_withoutStartingAgain()
+{
+    LongGroups opened(9000);
+    for (int n = 224; n > 220; --n)
+        QCOMPARE(shown(opened.step(&FrameSource::before).frame).number, n);
+    opened.fill(50);
+    int packets = 0;
+    for (int n = 222; n <= 226; ++n) {
+        QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
+        packets += opened.packets;
+    }
+    QVERIFY(packets > FewPackets);
+    QVERIFY(packets < 200);
+}
+
+void FrameSourceTest::stepForward_leavesTheFillingUnderway_whenAKeyFrameIsNear()
+{
+    LongGroups opened(10080); // frame 252, two behind a key frame
+    opened.fill(50);
+    QCOMPARE(opened.packets, 50);
+    QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, 253);
+    QVERIFY(opened.packets <= FewPackets);
 }
 
 void FrameSourceTest::filling_ends_withoutAnyStep()
@@ -183,7 +273,7 @@ void FrameSourceTest::cache_takesNoMoreThanIsUseful_howeverMuchIsAllowed()
     QString error;
     QVERIFY(source.open(path, Plenty, never, error));
     const qint64 frameBytes = source.frameAt(0, never).frame.byteCount();
-    QVERIFY(source.cache().mostBytes() <= qint64(64) << 20);
+    QVERIFY(source.cache().mostBytes() <= qint64(32) << 20);
     QVERIFY(source.cache().mostBytes() >= 16 * frameBytes);
     QVERIFY(source.open(path, 5 * frameBytes, never, error));
     QCOMPARE(source.cache().mostBytes(), 5 * frameBytes);

@@ -37,7 +37,6 @@ private slots:
     void keyFrame_comesOutAtOnce_whereverItLies();
     void frames_areTheSame_whenTheKeyFrameMayComeLater_data();
     void frames_areTheSame_whenTheKeyFrameMayComeLater();
-    void frames_outliveTheirDecoders_whenThoseShareMemory();
     void target_isTheSamePicture_whenNonReferenceFramesBeforeItAreSkipped_data();
     void target_isTheSamePicture_whenNonReferenceFramesBeforeItAreSkipped();
     void skipping_leavesFramesOut_fromTheNextPacketOn();
@@ -158,47 +157,6 @@ void VideoDecoderTest::frames_areTheSame_whenTheKeyFrameMayComeLater()
         player.decoder->flush();
         QCOMPARE(player.showRest(), expectedFrom(sample, key));
     }
-}
-
-void VideoDecoderTest::frames_outliveTheirDecoders_whenThoseShareMemory()
-{
-    const Sample& sample = testsupport::sampleNamed(QStringLiteral("h264_bframes.mp4"));
-    const auto decodeSome = [](Player& player, int count) {
-        QList<QtAV::VideoFrame> frames;
-        while (frames.size() < count) {
-            const auto packet = player.nextVideoPacket();
-            if (!packet)
-                break;
-            if (!player.decoder->decode(*packet))
-                continue;
-            const QtAV::VideoFrame frame = player.decoder->frame();
-            if (frame.isValid())
-                frames.append(frame);
-        }
-        return frames;
-    };
-
-    constexpr int Count = 12;
-    QList<QtAV::VideoFrame> frames;
-    {
-        auto first = std::make_unique<Player>(testsupport::samplePath(sample.file));
-        Player second(testsupport::samplePath(sample.file));
-        QVERIFY(first->isReady() && second.isReady());
-        second.decoder->close();
-        second.decoder->shareMemoryWith(*first->decoder);
-        QVERIFY(second.decoder->open());
-        frames = decodeSome(*first, Count);
-        // Given back, and so taken by the other; the rest must not be.
-        frames.erase(frames.begin() + Count / 2, frames.end());
-        frames += decodeSome(second, Count);
-        first.reset();
-        frames += decodeSome(second, Count);
-    }
-    QList<Shown> all;
-    for (const QtAV::VideoFrame& frame : frames)
-        all.append(shown(frame));
-    const QList<Shown> fromStart = expectedFrom(sample, 0);
-    QCOMPARE(all, fromStart.mid(0, Count / 2) + fromStart.mid(0, 2 * Count));
 }
 
 void VideoDecoderTest::target_isTheSamePicture_whenNonReferenceFramesBeforeItAreSkipped_data()

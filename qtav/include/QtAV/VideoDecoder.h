@@ -28,10 +28,6 @@ public:
     /// Says which stream open() is for. The decoder keeps what it needs: the context may go.
     void setCodecContext(const VideoCodecContext* context);
 
-    /// From the next open() on, takes the memory for pictures from where another decoder takes it:
-    /// for decoders of the same video, whose frames are kept together.
-    void shareMemoryWith(const VideoDecoder& other);
-
     /// False where no decoder exists for the codec or the stream's parameters are refused.
     bool open();
     void close();
