@@ -4,6 +4,7 @@
 #include "app/Startup.h"
 #include "app/SupportedOS.h"
 
+#include <QtAV/QtAV_Global.h>
 #include <QtAVWidgets>
 
 #include <QApplication>
@@ -15,6 +16,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+    QtAV::returnFreedMemory();
     QtAV::Widgets::avoidImitatedOpenGL();
     QApplication app(argc, argv);
     Startup::setIdentity();

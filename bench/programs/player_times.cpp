@@ -19,6 +19,7 @@
 #include "qtav/player/FrameSource.h"
 
 #include <QtAV/AVPlayer.h>
+#include <QtAV/QtAV_Global.h>
 #include <QtAV/VideoOutput.h>
 #include <QtAVWidgets>
 
@@ -231,6 +232,7 @@ void readCommands(Session& session)
 
 int main(int argc, char** argv)
 {
+    QtAV::returnFreedMemory();
     const bench::Sandbox sandbox(bench::Sandbox::Display::Own);
     const bool drawsWithOpenGL = std::any_of(argv + 1, argv + argc, [](const char* argument) {
         return qstrcmp(argument, "--opengl") == 0;

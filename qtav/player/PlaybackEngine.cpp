@@ -261,7 +261,9 @@ void PlaybackEngine::carryOutStep(Lock& lock)
 
 bool PlaybackEngine::wantsFrames() const
 {
-    return m_playing && m_current.isValid() && !m_ended && m_queue.size() < MostQueuedFrames;
+    const bool isLarge = m_current.byteCount() >= LargeFrameBytes;
+    const size_t most = isLarge ? MostQueuedLargeFrames : MostQueuedFrames;
+    return m_playing && m_current.isValid() && !m_ended && m_queue.size() < most;
 }
 
 void PlaybackEngine::decodeAhead(Lock& lock)

@@ -60,8 +60,11 @@ public:
 
     enum class CatchUp { No, Yes };
 
-    /// More would only take memory, and make seeking while playing slower to begin.
+    /// More would only take memory, and make seeking while playing slower to begin. Of large frames
+    /// fewer are enough: they come evenly, and each takes long.
     static constexpr size_t MostQueuedFrames = 5;
+    static constexpr size_t MostQueuedLargeFrames = 3;
+    static constexpr qint64 LargeFrameBytes = qint64(8) << 20;
 
     /// Decoding what lies before the current frame begins so long after that was given: until then
     /// it needs the processor's cores to get to the screen, or to be followed by the next step.

@@ -8,7 +8,12 @@
 #include <atomic>
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib> // says whether the C library is GNU's
 #include <mutex>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace QtAV {
 
@@ -70,6 +75,15 @@ void setLogLevel(LogLevel level)
 LogLevel logLevel()
 {
     return s_level;
+}
+
+void returnFreedMemory()
+{
+#ifdef __GLIBC__
+    // The library would raise this by itself whenever a large block is freed.
+    constexpr int LargeBytes = 1 << 20;
+    mallopt(M_MMAP_THRESHOLD, LargeBytes);
+#endif
 }
 
 void routeFFmpegLog()
