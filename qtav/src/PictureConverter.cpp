@@ -33,12 +33,32 @@ bool isFullRangeFormat(const AVFrame& frame)
     return frame.color_range == AVCOL_RANGE_JPEG || YuvToRgb::isJpegFormat(frame.format);
 }
 
+void setOption(SwsContext& context, const char* name, int64_t value)
+{
+    av_opt_set_int(&context, name, value, 0);
+}
+
+/// Says where chroma lies, in directions in which there is less of it than of luma.
+void setChromaPlace(SwsContext& context, AVPixelFormat format, AVChromaLocation location)
+{
+    const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
+    int x = 0;
+    int y = 0;
+    if (avcodec_enum_to_chroma_pos(&x, &y, location) < 0)
+        return;
+    if (descriptor.log2_chroma_w > 0)
+        setOption(context, "src_h_chr_pos", x);
+    if (descriptor.log2_chroma_h > 0)
+        setOption(context, "src_v_chr_pos", y);
+}
+
 } // namespace
 
 bool PictureConverter::Task::operator==(const Task& other) const
 {
     return from == other.from && to == other.to && source == other.source &&
-           target == other.target && isFullRange == other.isFullRange;
+           target == other.target && isFullRange == other.isFullRange &&
+           chromaLocation == other.chromaLocation;
 }
 
 bool PictureConverter::isOpaqueYuv(const AVFrame& frame)
@@ -86,7 +106,8 @@ PictureConverter::Task PictureConverter::taskFor(const AVFrame& frame, const QSi
             size,
             format,
             readableFormatFor(format),
-            isFullRangeFormat(frame)};
+            isFullRangeFormat(frame),
+            YuvToRgb::chromaLocationOf(frame)};
 }
 
 /// Scales a picture, which keeps its own colours. False when that is impossible.
@@ -114,13 +135,28 @@ std::optional<PictureConverter::Scaler> PictureConverter::takeScaler(const Task&
     return makeScaler(task);
 }
 
+/// Null when FFmpeg cannot scale so.
+ScalerPtr PictureConverter::makeScalerContext(const Task& task)
+{
+    ScalerPtr context(sws_alloc_context());
+    if (!context)
+        return nullptr;
+    setOption(*context, "srcw", task.from.width());
+    setOption(*context, "srch", task.from.height());
+    setOption(*context, "src_format", task.source);
+    setOption(*context, "dstw", task.to.width());
+    setOption(*context, "dsth", task.to.height());
+    setOption(*context, "dst_format", task.target);
+    setOption(*context, "sws_flags",
+              SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT | SWS_FULL_CHR_H_INP |
+                  SWS_BITEXACT);
+    setChromaPlace(*context, task.source, task.chromaLocation);
+    return sws_init_context(context.get(), nullptr, nullptr) < 0 ? nullptr : std::move(context);
+}
+
 std::optional<PictureConverter::Scaler> PictureConverter::makeScaler(const Task& task)
 {
-    constexpr int Flags =
-        SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT | SWS_FULL_CHR_H_INP | SWS_BITEXACT;
-    ScalerPtr context(sws_getContext(task.from.width(), task.from.height(), task.source,
-                                     task.to.width(), task.to.height(), task.target, Flags, nullptr,
-                                     nullptr, nullptr));
+    ScalerPtr context = makeScalerContext(task);
     if (!context)
         return std::nullopt;
     // The same range on both sides: the conversion to full range is YuvToRgb's.

@@ -41,6 +41,7 @@ private:
         AVPixelFormat source = AV_PIX_FMT_NONE;
         AVPixelFormat target = AV_PIX_FMT_NONE;
         bool isFullRange = false;
+        AVChromaLocation chromaLocation = AVCHROMA_LOC_UNSPECIFIED;
 
         bool operator==(const Task& other) const;
     };
@@ -57,6 +58,7 @@ private:
 
     QImage imageOf(const AVFrame& picture);
     static Task taskFor(const AVFrame& frame, const QSize& size);
+    static ScalerPtr makeScalerContext(const Task& task);
     static std::optional<Scaler> makeScaler(const Task& task);
     static bool scale(const AVFrame& frame, const Scaler& scaler);
     std::optional<Scaler> takeScaler(const Task& task);

@@ -208,7 +208,7 @@ struct Siting
 
 Siting sitingOf(const AVFrame& frame)
 {
-    switch (frame.chroma_location) {
+    switch (YuvToRgb::chromaLocationOf(frame)) {
     case AVCHROMA_LOC_CENTER:
         return {false, Siting::Vertical::Centre};
     case AVCHROMA_LOC_TOPLEFT:
@@ -220,8 +220,7 @@ Siting sitingOf(const AVFrame& frame)
     case AVCHROMA_LOC_BOTTOM:
         return {false, Siting::Vertical::Bottom};
     default:
-        // JPEG's way, which full-range pictures follow, and MPEG's.
-        return {!isFullRange(frame), Siting::Vertical::Centre};
+        return {true, Siting::Vertical::Centre};
     }
 }
 
@@ -414,6 +413,14 @@ bool YuvToRgb::reads(AVPixelFormat format)
     const bool isSeparate = !isPlanar || (d.comp[1].step == bytes && d.comp[1].plane == 1);
     return !(d.flags & Excluded) && (isGrey || isPlanar) && isPlain && isSeparate &&
            first.step == bytes && d.log2_chroma_w <= 1 && d.log2_chroma_h <= 1;
+}
+
+AVChromaLocation YuvToRgb::chromaLocationOf(const AVFrame& frame)
+{
+    if (frame.chroma_location != AVCHROMA_LOC_UNSPECIFIED)
+        return frame.chroma_location;
+    // JPEG's way, which full-range pictures follow, and MPEG's.
+    return isFullRange(frame) ? AVCHROMA_LOC_CENTER : AVCHROMA_LOC_LEFT;
 }
 
 AVColorSpace YuvToRgb::matrixOf(const AVFrame& frame)

@@ -26,6 +26,9 @@ public:
     /// The matrix that applies: the picture's own, or the one that its height implies.
     static AVColorSpace matrixOf(const AVFrame& frame);
 
+    /// Where chroma was sampled: what the picture says, or what its range implies.
+    static AVChromaLocation chromaLocationOf(const AVFrame& frame);
+
     /// True for the formats that mean full range by themselves.
     static bool isJpegFormat(int format);
 
