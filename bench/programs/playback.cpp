@@ -4,6 +4,7 @@
 #include "bench/support/Sandbox.h"
 
 #include <QtAV/AVPlayer.h>
+#include <QtAV/QtAV_Global.h>
 #include <QtAV/VideoOutput.h>
 
 #include <QApplication>
@@ -84,6 +85,7 @@ bool play(const QString& path, QSize size, int seconds)
 
 int main(int argc, char** argv)
 {
+    QtAV::returnFreedMemory();
     const bench::Sandbox sandbox;
     QApplication app(argc, argv);
     QCommandLineParser parser;
