@@ -83,7 +83,7 @@ public:
     MediaEndAction mediaEndAction() const;
 
     /// Most memory that decoded frames may take for stepping back, in bytes; 256 MiB unless said.
-    /// Of that, no more is used than steps get faster by: 64 MiB, or 16 frames where those are
+    /// Of that, no more is used than steps get faster by: 32 MiB, or 8 frames where those are
     /// more. Holds from the next play() of a stopped player on.
     void setFrameCacheSize(qint64 bytes);
     qint64 frameCacheSize() const;
