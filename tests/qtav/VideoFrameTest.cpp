@@ -119,7 +119,7 @@ private slots:
     void size_isThatAskedFor_withAndWithoutARegion();
     void smallerImage_showsTheSame_forEverySample_data();
     void smallerImage_showsTheSame_forEverySample();
-    void smallestImage_hasThePicturesMeanColour();
+    void smallestImage_isNearThePicturesMeanColour();
     void format_isThatAskedFor_data();
     void format_isThatAskedFor();
     void copies_showTheSamePicture_afterTheDecoderHasGone();
@@ -294,15 +294,16 @@ void VideoFrameTest::smallerImage_showsTheSame_forEverySample()
     QVERIFY2(difference < 5.0, qPrintable(QString::number(difference)));
 }
 
-void VideoFrameTest::smallestImage_hasThePicturesMeanColour()
+void VideoFrameTest::smallestImage_isNearThePicturesMeanColour()
 {
     for (const char* file : {"h264_2160p.mp4", "h264_bframes.mp4"}) {
         const QtAV::VideoFrame frame = firstFrameOf(QString::fromLatin1(file));
         const std::array<double, 3> expected = meanColour(frame.toImage());
         const QImage image = frame.toImage(QImage::Format_ARGB32, QSize(1, 1));
         QCOMPARE(image.size(), QSize(1, 1));
+        // Scaling gives the middle of the picture more weight than its edges.
         for (size_t i = 0; i < expected.size(); ++i)
-            QVERIFY2(std::abs(channels(image.pixel(0, 0))[i] - expected[i]) < 60.0, file);
+            QVERIFY2(std::abs(channels(image.pixel(0, 0))[i] - expected[i]) < 16.0, file);
     }
 }
 

@@ -1,0 +1,47 @@
+#include <QtAV/QtAV_Global.h>
+
+#include <QTest>
+
+#include <malloc.h>
+
+#include <cstdlib>
+
+namespace {
+
+/// Bytes in blocks that go back to the system by themselves when they are freed.
+size_t bytesOnTheirOwn()
+{
+    return mallinfo2().hblkhd;
+}
+
+void takeAndFree(size_t bytes)
+{
+    void* volatile block = std::malloc(bytes);
+    std::free(block);
+}
+
+} // namespace
+
+class FreedMemoryTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBefore();
+};
+
+void FreedMemoryTest::largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBefore()
+{
+    constexpr size_t Large = size_t(4) << 20;
+    QtAV::returnFreedMemory();
+    takeAndFree(4 * Large);
+    const size_t before = bytesOnTheirOwn();
+    void* volatile block = std::malloc(Large);
+    const size_t after = bytesOnTheirOwn();
+    std::free(block);
+    QVERIFY(after >= before + Large);
+    QCOMPARE(bytesOnTheirOwn(), before);
+}
+
+QTEST_GUILESS_MAIN(FreedMemoryTest)
+#include "FreedMemoryTest.moc"
