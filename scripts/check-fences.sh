@@ -51,7 +51,7 @@ layer video video/
 layer profiles profiles/
 layer utils utils/
 layer imaging imaging/ profiles/
-layer batch/dialogs batch/ ui/ video/ profiles/ imaging/ app/ProductInfo.h
+layer ui/batch batch/ ui/ video/ profiles/ imaging/ app/ProductInfo.h
 layer batch batch/ video/ profiles/ imaging/
 layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ utils/ app/ProductInfo.h
 layer ui ui/ profiles/ imaging/ utils/ app/ProductInfo.h
