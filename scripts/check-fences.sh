@@ -23,7 +23,7 @@ includes_of() {
 # not_in_folders FOLDER…: keeps the others.
 not_in_folders() { grep -vE "^($(IFS='|' && printf '%s' "$*"))/" || true; }
 
-readonly FOLDERS=(qtav video profiles utils imaging batch ui app)
+readonly FOLDERS=(product qtav video profiles utils imaging batch ui app)
 ours="$(IFS='|' && printf '%s' "${FOLDERS[*]}")"
 readonly OURS="($ours)/"
 
@@ -55,15 +55,16 @@ only_in() {
     [[ -z $found ]] || complain "$what only in: $file" "$found"
 }
 
+layer product product/
 layer qtav qtav/
 layer video video/
 layer profiles profiles/
 layer utils utils/
 layer imaging imaging/ profiles/
-layer batch/dialogs batch/ ui/ video/ profiles/ imaging/ app/ProductInfo.h
+layer ui/batch batch/ ui/ video/ profiles/ imaging/
 layer batch batch/ video/ profiles/ imaging/
-layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ utils/ app/ProductInfo.h
-layer ui ui/ profiles/ imaging/ utils/ app/ProductInfo.h
+layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ utils/ product/
+layer ui ui/ profiles/ imaging/ utils/ product/
 # app/ stands above all others.
 
 # The benchmarks call the bare library for comparison.

@@ -1,4 +1,4 @@
-#include "batch/dialogs/MergedField.h"
+#include "ui/batch/MergedField.h"
 
 #include "ui/widgets/Field.h"
 
