@@ -1,6 +1,6 @@
 #include "qtav/player/FrameCache.h"
 
-#include "qtav/player/Times.h"
+#include "qtav/src/Times.h"
 
 #include <iterator>
 

@@ -1,7 +1,7 @@
 #include "qtav/player/FrameSource.h"
 
-#include "qtav/player/Times.h"
 #include "qtav/src/StreamParameters.h"
+#include "qtav/src/Times.h"
 
 #include <QCoreApplication>
 
@@ -50,15 +50,17 @@ bool FrameSource::open(const QString& path, qint64 cacheBytes, const IsCancelled
 {
     close();
     m_cache = FrameCache(cacheBytes);
-    if (!m_cursor.open(path, error))
+    if (!m_reader.open(path, isCancelled, error))
         return false;
-    const Found first = frameAt(0, isCancelled);
-    if (first.kind == Found::Kind::Frame) {
+    const FrameResult first = frameAt(0, isCancelled);
+    if (first.answer == FrameAnswer::Frame) {
         const qint64 useful = std::max(UsefulBytes, UsefulFrames * first.frame.byteCount());
         m_cache.setMostBytes(std::min(cacheBytes, useful));
         return true;
     }
-    if (first.kind == Found::Kind::None)
+    if (first.answer == FrameAnswer::Failed)
+        error = first.error;
+    else if (first.answer == FrameAnswer::End)
         error = QCoreApplication::translate("QtAV::AVPlayer", "The video cannot be decoded.");
     close();
     return false;
@@ -67,8 +69,7 @@ bool FrameSource::open(const QString& path, qint64 cacheBytes, const IsCancelled
 void FrameSource::close()
 {
     m_walk.reset();
-    m_cursor.close();
-    m_cursorFrame = VideoFrame();
+    m_reader.close();
     m_cache.clear();
     m_lastTime.reset();
     m_filledUpTo.reset();
@@ -79,7 +80,7 @@ void FrameSource::close()
 
 int FrameSource::frameInterval() const
 {
-    const VideoCodecContext* context = m_cursor.demuxer().videoCodecContext();
+    const VideoCodecContext* context = m_reader.demuxer().videoCodecContext();
     const AVRational rate = context ? context->parameters()->frameRate : AVRational{0, 1};
     if (rate.num <= 0 || rate.den <= 0)
         return UsualGapMs;
@@ -94,28 +95,28 @@ void FrameSource::setFocus(double seconds)
 
 /// Frames with others left out between them answer no question: they would only take the memory of
 /// those that do.
-void FrameSource::keep(const VideoCursor::Step& step)
+void FrameSource::keep()
 {
-    const double time = step.frame.timestamp();
-    if (step.isFirstOfVideo)
+    const VideoFrame& frame = m_reader.lastFrame();
+    const double time = frame.timestamp();
+    const std::optional<double> predecessor = m_reader.predecessor();
+    if (m_reader.isAtFirstOfVideo())
         m_cache.setFirst(time);
-    if (step.predecessor)
-        m_longestGapMs = std::max(m_longestGapMs, toMilliseconds(time - *step.predecessor));
-    if (toMilliseconds(time) >= m_cursor.completeFrom())
-        m_cache.insert(step.frame, step.predecessor);
+    if (predecessor)
+        m_longestGapMs = std::max(m_longestGapMs, toMilliseconds(time - *predecessor));
+    if (toMilliseconds(time) >= m_reader.completeFrom())
+        m_cache.insert(frame, predecessor);
 }
 
-VideoCursor::Step FrameSource::advance(const IsCancelled& isCancelled)
+FrameResult FrameSource::advance(const IsCancelled& isCancelled)
 {
-    const VideoCursor::Step step = m_cursor.next(isCancelled);
-    if (step.kind == VideoCursor::Step::Kind::Frame) {
-        keep(step);
-        m_cursorFrame = step.frame;
-    }
+    FrameResult step = m_reader.next(isCancelled);
+    if (step.answer == FrameAnswer::Frame)
+        keep();
     return step;
 }
 
-FrameSource::Found FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelled)
+FrameResult FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelled)
 {
     if (m_lastTime)
         ms = std::min(ms, toMilliseconds(*m_lastTime));
@@ -123,192 +124,143 @@ FrameSource::Found FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelle
     m_stepsBack = 0;
     const VideoFrame cached = m_cache.atOrAfter(ms);
     if (cached.isValid())
-        return {Found::Kind::Frame, cached};
+        return {FrameAnswer::Frame, cached};
 
     leaveWalkBehind();
-    const IsReached isReached = [ms](const VideoFrame& frame) {
+    const auto isReached = [ms](const VideoFrame& frame) {
         return toMilliseconds(frame.timestamp()) >= ms;
     };
     const qint64 completeFrom = ms - lengthOf(FramesBeforeTarget);
-    if (!m_cursor.last() || toMilliseconds(*m_cursor.last()) >= ms ||
-        !isShortlyBefore(double(ms) / 1000.0))
-        return walkFrom(ms, completeFrom, isReached, isCancelled);
-    m_cursor.setCompleteFrom(completeFrom);
-    switch (walkOn(isReached, isCancelled)) {
-    case Walked::Reached:
-        return {Found::Kind::Frame, m_cursorFrame};
-    case Walked::Cancelled:
-        return {Found::Kind::Cancelled};
-    case Walked::MayHaveMissed:
-        return walkFrom(ms, 0, isReached, isCancelled);
-    case Walked::End:
-        break;
-    }
-    return lastFrame(isCancelled);
+    const bool goesOn = m_reader.last() && toMilliseconds(*m_reader.last()) < ms &&
+                        isShortlyBefore(double(ms) / 1000.0);
+    return look(goesOn, searchFor(ms, completeFrom, isReached), isCancelled);
 }
 
-FrameSource::Found FrameSource::after(double seconds, const IsCancelled& isCancelled)
+FrameResult FrameSource::after(double seconds, const IsCancelled& isCancelled)
 {
     m_stepsBack = 0;
     const VideoFrame cached = m_cache.after(seconds);
     if (cached.isValid())
-        return {Found::Kind::Frame, cached};
+        return {FrameAnswer::Frame, cached};
     if (m_lastTime && seconds >= *m_lastTime)
-        return {Found::Kind::None};
+        return {FrameAnswer::End};
 
-    if (isOnTheWay(seconds) && finishWalkBehind(isCancelled) == Filling::Cancelled)
-        return {Found::Kind::Cancelled};
+    if (isOnTheWay(seconds)) {
+        const FrameResult finished = finishWalkBehind(isCancelled);
+        if (finished.answer == FrameAnswer::Cancelled)
+            return finished;
+    }
     leaveWalkBehind();
-    const IsReached isReached = [seconds](const VideoFrame& frame) {
+    const auto isReached = [seconds](const VideoFrame& frame) {
         return frame.timestamp() > seconds;
     };
     const qint64 ms = toMilliseconds(seconds);
-    Walked walked = Walked::MayHaveMissed;
-    if (isShortlyBefore(seconds)) {
-        m_cursor.setCompleteFrom(ms);
-        walked = walkOn(isReached, isCancelled);
-    }
-    if (walked == Walked::Reached)
-        return {Found::Kind::Frame, m_cursorFrame};
-    if (walked == Walked::Cancelled)
-        return {Found::Kind::Cancelled};
-    if (walked == Walked::End)
-        return {Found::Kind::None};
-    const Found found = walkFrom(ms, ms, isReached, isCancelled);
-    const bool isAfter = found.frame.isValid() && isReached(found.frame);
-    return found.kind != Found::Kind::Frame || isAfter ? found : Found{Found::Kind::None};
+    FrameResult found = look(isShortlyBefore(seconds), searchFor(ms, ms, isReached), isCancelled);
+    const bool isNone = found.answer == FrameAnswer::Frame && !isReached(found.frame);
+    return isNone ? FrameResult{FrameAnswer::End} : found;
 }
 
-/// True when m_cursor comes to a time by going on for a moment, and misses nothing from there on.
+FrameReader::Search FrameSource::searchFor(qint64 ms, qint64 completeFrom,
+                                           std::function<bool(const VideoFrame&)> isReached)
+{
+    return {ms, completeFrom, std::move(isReached), [this](const VideoFrame&) { keep(); }};
+}
+
+FrameResult FrameSource::look(bool goesOn, const FrameReader::Search& search,
+                              const IsCancelled& isCancelled)
+{
+    FrameResult found =
+        goesOn ? m_reader.findOn(search, isCancelled) : m_reader.find(search, isCancelled);
+    const bool isLast = found.answer == FrameAnswer::Frame && !search.isReached(found.frame);
+    if (isLast)
+        m_lastTime = found.frame.timestamp();
+    return found;
+}
+
+/// True when m_reader comes to a time by going on for a moment, and misses nothing from there on.
 bool FrameSource::isShortlyBefore(double seconds) const
 {
-    const std::optional<double> last = m_cursor.last();
+    const std::optional<double> last = m_reader.last();
     return last && *last <= seconds && seconds - *last <= NearSeconds &&
-           m_cursor.isCompleteFrom(seconds);
+           m_reader.isCompleteFrom(seconds);
 }
 
-/// The first frame that is reached when starting at the key frame before a position, or further
-/// back where that would not be certain; the video's last frame when none is.
-FrameSource::Found FrameSource::walkFrom(qint64 ms, qint64 completeFrom, const IsReached& isReached,
-                                         const IsCancelled& isCancelled)
-{
-    bool leavesOut = completeFrom > 0;
-    for (qint64 stepBackMs = 0;;) {
-        const qint64 landing = std::max<qint64>(0, ms - stepBackMs);
-        m_cursor.seek(landing);
-        m_cursor.setCompleteFrom(leavesOut ? completeFrom : 0);
-        const Walked walked = walkOn(isReached, isCancelled);
-        if (walked == Walked::Reached)
-            return {Found::Kind::Frame, m_cursorFrame};
-        if (walked == Walked::Cancelled)
-            return {Found::Kind::Cancelled};
-        if (walked == Walked::End && m_cursor.last())
-            return lastFrame(isCancelled);
-        if (walked == Walked::End && landing == 0 && !leavesOut)
-            return {Found::Kind::None};
-        if (!leavesOut)
-            stepBackMs = furtherBack(stepBackMs);
-        leavesOut = false;
-    }
-}
-
-FrameSource::Walked FrameSource::walkOn(const IsReached& isReached, const IsCancelled& isCancelled)
-{
-    for (;;) {
-        const VideoCursor::Step step = advance(isCancelled);
-        if (step.kind == VideoCursor::Step::Kind::Cancelled)
-            return Walked::Cancelled;
-        if (step.kind == VideoCursor::Step::Kind::End) {
-            noteEnd();
-            return Walked::End;
-        }
-        if (!isReached(step.frame))
-            continue;
-        const bool isKeyFrame = m_cursor.landing() && step.frame.timestamp() <= *m_cursor.landing();
-        const bool isCertain = step.predecessor || step.isFirstOfVideo || isKeyFrame;
-        return isCertain ? Walked::Reached : Walked::MayHaveMissed;
-    }
-}
-
-void FrameSource::noteEnd()
-{
-    if (m_cursor.last() && !m_cursor.leftOutSinceLast())
-        m_lastTime = m_cursor.last();
-}
-
-/// The video's last frame, once m_cursor has come to the end.
-FrameSource::Found FrameSource::lastFrame(const IsCancelled& isCancelled)
-{
-    if (!m_cursor.leftOutSinceLast())
-        return {Found::Kind::Frame, m_cursorFrame};
-    return walkFrom(
-        toMilliseconds(*m_cursor.last()), 0, [](const VideoFrame&) { return false; }, isCancelled);
-}
-
-FrameSource::Found FrameSource::before(double seconds, const IsCancelled& isCancelled)
+FrameResult FrameSource::before(double seconds, const IsCancelled& isCancelled)
 {
     ++m_stepsBack;
     const std::optional<double> first = m_cache.first();
     if (first && seconds <= *first)
-        return {Found::Kind::None};
+        return {FrameAnswer::End};
     const VideoFrame cached = m_cache.before(seconds);
     if (cached.isValid())
-        return {Found::Kind::Frame, cached};
+        return {FrameAnswer::Frame, cached};
     if (!m_walk || m_walk->target != seconds)
         startWalkBehind(seconds);
-    if (finishWalkBehind(isCancelled) == Filling::Cancelled)
-        return {Found::Kind::Cancelled};
+    FrameResult finished = finishWalkBehind(isCancelled);
+    if (finished.answer == FrameAnswer::Cancelled)
+        return finished;
     const VideoFrame previous = m_walk->previous;
     m_walk.reset();
-    return previous.isValid() ? Found{Found::Kind::Frame, previous} : Found{Found::Kind::None};
+    if (!previous.isValid())
+        return finished;
+    return {FrameAnswer::Frame, previous};
 }
 
 void FrameSource::startWalkBehind(double target)
 {
-    m_walk = WalkBehind{target, m_cursor.landing()};
+    m_walk = WalkBehind{target, m_reader.landing()};
     landBehind();
 }
 
 void FrameSource::landBehind()
 {
     const qint64 targetMs = toMilliseconds(m_walk->target);
-    m_cursor.seek(std::max<qint64>(0, targetMs - 1 - m_walk->stepBackMs));
+    m_reader.seek(std::max<qint64>(0, targetMs - 1 - m_walk->stepBackMs));
     // What the cache would throw away again need not be decoded.
-    const qint64 frameBytes = std::max<qint64>(1, m_cursorFrame.byteCount());
+    const qint64 frameBytes = std::max<qint64>(1, m_reader.lastFrame().byteCount());
     const qint64 room = m_cache.mostBytes() / PartBehind / frameBytes;
     const qint64 frames = std::max(FramesBeforeTarget, room);
-    m_cursor.setCompleteFrom(m_walk->leavesOut ? targetMs - lengthOf(frames) : 0);
+    m_reader.setCompleteFrom(m_walk->skips ? targetMs - lengthOf(frames) : 0);
     m_walk->previous = VideoFrame();
 }
 
 FrameSource::Filling FrameSource::walkOnBehind(const IsCancelled& isCancelled)
 {
-    const VideoCursor::Step step = advance(isCancelled);
-    if (step.kind == VideoCursor::Step::Kind::Cancelled)
-        return Filling::Cancelled;
-    const bool isFrame = step.kind == VideoCursor::Step::Kind::Frame;
+    FrameResult step = advance(isCancelled);
+    if (step.answer == FrameAnswer::Cancelled)
+        return {true, std::move(step)};
+    const bool isFailed = step.answer == FrameAnswer::Failed;
+    if (isFailed && m_reader.canGoOn())
+        return {false};
+    if (isFailed) {
+        m_walk->previous = VideoFrame();
+        return {true, std::move(step)};
+    }
+    const bool isFrame = step.answer == FrameAnswer::Frame;
     if (isFrame && step.frame.timestamp() < m_walk->target) {
         m_walk->previous = step.frame;
-        return Filling::GoesOn;
+        return {false};
     }
-    const bool isComplete = isFrame ? step.predecessor.has_value() : !m_cursor.leftOutSinceLast();
+    const bool isComplete =
+        isFrame ? m_reader.predecessor().has_value() : !m_reader.skippedSinceLast();
     const bool isCertain = m_walk->previous.isValid() && isComplete;
     const bool isAtStart = m_walk->stepBackMs >= toMilliseconds(m_walk->target);
-    if (isCertain || step.isFirstOfVideo || (isAtStart && !m_walk->leavesOut))
-        return Filling::Done;
-    if (!m_walk->leavesOut)
+    const bool isFirst = isFrame && m_reader.isAtFirstOfVideo();
+    if (isCertain || isFirst || (isAtStart && !m_walk->skips))
+        return {true};
+    if (!m_walk->skips)
         m_walk->stepBackMs = furtherBack(m_walk->stepBackMs);
-    m_walk->leavesOut = false;
+    m_walk->skips = false;
     landBehind();
-    return Filling::GoesOn;
+    return {false};
 }
 
-FrameSource::Filling FrameSource::finishWalkBehind(const IsCancelled& isCancelled)
+FrameResult FrameSource::finishWalkBehind(const IsCancelled& isCancelled)
 {
-    Filling filling = Filling::GoesOn;
-    while (filling == Filling::GoesOn)
+    Filling filling;
+    while (!filling.isOver)
         filling = walkOnBehind(isCancelled);
-    return filling;
+    return filling.result;
 }
 
 /// True when finishing the walk is the shortest way to what follows a time: another one would lead
@@ -330,7 +282,8 @@ bool FrameSource::fillBehind(const IsCancelled& isCancelled)
 {
     if (!m_walk && !startFilling())
         return catchUp(isCancelled);
-    if (walkOnBehind(isCancelled) == Filling::Done)
+    const Filling filling = walkOnBehind(isCancelled);
+    if (filling.isOver && filling.result.answer != FrameAnswer::Cancelled)
         m_walk.reset();
     return true;
 }
@@ -355,11 +308,11 @@ bool FrameSource::startFilling()
 bool FrameSource::catchUp(const IsCancelled& isCancelled)
 {
     const std::optional<FrameCache::Run> run = m_cache.runAround(m_focus);
-    const bool isAhead = !run || run->end == m_lastTime || m_cursor.last() == run->end;
+    const bool isAhead = !run || run->end == m_lastTime || m_reader.last() == run->end;
     if (isAhead || !isShortlyBefore(run->end))
         return false;
-    m_cursor.setCompleteFrom(toMilliseconds(run->end));
-    return advance(isCancelled).kind != VideoCursor::Step::Kind::End;
+    m_reader.setCompleteFrom(toMilliseconds(run->end));
+    return advance(isCancelled).answer == FrameAnswer::Frame;
 }
 
 } // namespace QtAV

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <QtAV/FrameReader.h>
+
 #include "qtav/player/FrameCache.h"
-#include "qtav/player/VideoCursor.h"
 
 #include <QString>
 
@@ -25,36 +26,28 @@ namespace QtAV {
 class FrameSource
 {
 public:
-    struct Found
-    {
-        enum class Kind { Frame, None, Cancelled };
-
-        Kind kind = Kind::None;
-        VideoFrame frame = {};
-    };
-
     /// Opens a file and decodes its first frame, which goes into the cache. False, with a text for
     /// people, when no frame comes out.
     /// @param cacheBytes  most memory for kept frames; less is taken where more would be no use.
     [[nodiscard]] bool open(const QString& path, qint64 cacheBytes, const IsCancelled& isCancelled,
                             QString& error);
     void close();
-    bool isOpen() const { return m_cursor.isOpen(); }
+    bool isOpen() const { return m_reader.isOpen(); }
 
     /// In milliseconds; 0 when nothing is open.
-    qint64 duration() const { return m_cursor.demuxer().duration(); }
+    qint64 duration() const { return m_reader.demuxer().duration(); }
     /// The usual time between two frames in milliseconds, 1 or more.
     int frameInterval() const;
-    bool hasSound() const { return !m_cursor.demuxer().audioStreams().isEmpty(); }
+    bool hasSound() const { return !m_reader.demuxer().audioStreams().isEmpty(); }
 
     /// The first frame at or after a position in milliseconds; behind the last frame, the last.
-    [[nodiscard]] Found frameAt(qint64 ms, const IsCancelled& isCancelled);
+    [[nodiscard]] FrameResult frameAt(qint64 ms, const IsCancelled& isCancelled);
 
     /// The frame directly after the one of that time in seconds; none after the last.
-    [[nodiscard]] Found after(double seconds, const IsCancelled& isCancelled);
+    [[nodiscard]] FrameResult after(double seconds, const IsCancelled& isCancelled);
 
     /// The frame directly before the one of that time in seconds; none before the first.
-    [[nodiscard]] Found before(double seconds, const IsCancelled& isCancelled);
+    [[nodiscard]] FrameResult before(double seconds, const IsCancelled& isCancelled);
 
     /// The time in seconds around which frames are kept and before which they are decoded ahead.
     void setFocus(double seconds);
@@ -69,10 +62,12 @@ public:
     const FrameCache& cache() const { return m_cache; }
 
 private:
-    using IsReached = std::function<bool(const VideoFrame&)>;
-
-    enum class Walked { Reached, MayHaveMissed, End, Cancelled };
-    enum class Filling { GoesOn, Done, Cancelled };
+    /// One step of filling; the result says how it ended once it is over.
+    struct Filling
+    {
+        bool isOver = false;
+        FrameResult result = {};
+    };
 
     /// The way to the frames before a cached one.
     struct WalkBehind
@@ -81,33 +76,31 @@ private:
         /// The key frame from which decoding had come to the frames after the target.
         std::optional<double> wayBack = {};
         qint64 stepBackMs = 0;
-        bool leavesOut = true;
+        bool skips = true;
         VideoFrame previous = {}; ///< the last frame before the target
     };
 
-    Found walkFrom(qint64 ms, qint64 completeFrom, const IsReached& isReached,
-                   const IsCancelled& isCancelled);
-    Walked walkOn(const IsReached& isReached, const IsCancelled& isCancelled);
+    FrameReader::Search searchFor(qint64 ms, qint64 completeFrom,
+                                  std::function<bool(const VideoFrame&)> isReached);
+    FrameResult look(bool goesOn, const FrameReader::Search& search,
+                     const IsCancelled& isCancelled);
     bool isShortlyBefore(double seconds) const;
-    Found lastFrame(const IsCancelled& isCancelled);
-    void noteEnd();
 
     void startWalkBehind(double target);
     void landBehind();
     Filling walkOnBehind(const IsCancelled& isCancelled);
-    Filling finishWalkBehind(const IsCancelled& isCancelled);
+    FrameResult finishWalkBehind(const IsCancelled& isCancelled);
     bool isOnTheWay(double seconds) const;
     void leaveWalkBehind();
     bool startFilling();
     bool catchUp(const IsCancelled& isCancelled);
 
-    VideoCursor::Step advance(const IsCancelled& isCancelled);
-    void keep(const VideoCursor::Step& step);
+    FrameResult advance(const IsCancelled& isCancelled);
+    void keep();
     qint64 lengthOf(qint64 frames) const { return frames * m_longestGapMs; }
 
     FrameCache m_cache;
-    VideoCursor m_cursor;
-    VideoFrame m_cursorFrame;         ///< what m_cursor gave last
+    FrameReader m_reader;
     std::optional<double> m_lastTime; ///< of the video's last frame, once it has been seen
     qint64 m_longestGapMs = 0;        ///< between two neighbours that have been seen
     double m_focus = 0.0;

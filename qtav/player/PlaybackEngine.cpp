@@ -1,6 +1,6 @@
 #include "qtav/player/PlaybackEngine.h"
 
-#include "qtav/player/Times.h"
+#include "qtav/src/Times.h"
 
 #include <utility>
 
@@ -187,7 +187,7 @@ void PlaybackEngine::openFile(Lock& lock)
         succeeded = m_source.open(
             request->path, request->cacheBytes, [this] { return m_otherFileWaits.load(); },
             result.error);
-    FrameSource::Found first;
+    FrameResult first;
     if (succeeded)
         first = m_source.frameAt(0, [] { return false; });
     lock.lock();
@@ -220,12 +220,12 @@ void PlaybackEngine::carryOutSeek(Lock& lock)
     if (!m_source.isOpen())
         return;
     lock.unlock();
-    const FrameSource::Found found =
+    const FrameResult found =
         m_source.frameAt(request.ms, [this] { return m_replacementWaits.load(); });
     lock.lock();
-    if (found.kind == FrameSource::Found::Kind::Cancelled || m_replacementWaits)
+    if (found.answer == FrameAnswer::Cancelled || m_replacementWaits)
         return;
-    const bool isFound = found.kind == FrameSource::Found::Kind::Frame;
+    const bool isFound = found.answer == FrameAnswer::Frame;
     if (isFound)
         becomeCurrent(found.frame);
     Answer result;
@@ -244,13 +244,13 @@ void PlaybackEngine::carryOutStep(Lock& lock)
     const double from = m_current.timestamp();
     lock.unlock();
     const IsCancelled isCancelled = [this] { return m_replacementWaits.load(); };
-    const FrameSource::Found found = request.direction == Direction::Forward
-                                         ? m_source.after(from, isCancelled)
-                                         : m_source.before(from, isCancelled);
+    const FrameResult found = request.direction == Direction::Forward
+                                  ? m_source.after(from, isCancelled)
+                                  : m_source.before(from, isCancelled);
     lock.lock();
-    if (found.kind == FrameSource::Found::Kind::Cancelled || m_replacementWaits)
+    if (found.answer == FrameAnswer::Cancelled || m_replacementWaits)
         return;
-    if (found.kind == FrameSource::Found::Kind::Frame)
+    if (found.answer == FrameAnswer::Frame)
         becomeCurrent(found.frame);
     Answer result;
     result.kind = Answer::Kind::Stepped;
@@ -275,17 +275,16 @@ void PlaybackEngine::decodeAhead(Lock& lock)
     lock.unlock();
     m_source.setFocus(current);
     const IsCancelled isCancelled = [this] { return m_commandWaits.load(); };
-    FrameSource::Found found;
+    FrameResult found;
     if (from < catchUpTo - MostLagSeconds)
         found = m_source.frameAt(toMilliseconds(catchUpTo), isCancelled);
     else
         found = m_source.after(from, isCancelled);
     lock.lock();
-    if (generation != m_queueGeneration || found.kind == FrameSource::Found::Kind::Cancelled)
+    if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled)
         return;
     // Catching up at the end of the video may give the frame that was there before.
-    const bool isNew =
-        found.kind == FrameSource::Found::Kind::Frame && found.frame.timestamp() > from;
+    const bool isNew = found.answer == FrameAnswer::Frame && found.frame.timestamp() > from;
     if (isNew)
         m_queue.push_back(found.frame);
     else

@@ -8,11 +8,12 @@
 #include <random>
 
 using namespace decoding;
+using QtAV::FrameAnswer;
+using QtAV::FrameResult;
 using QtAV::FrameSource;
 using QtAV::VideoFrame;
 using testsupport::Sample;
 using testsupport::Trait;
-using Kind = FrameSource::Found::Kind;
 
 namespace {
 
@@ -36,22 +37,21 @@ struct LongGroups
         show(source.frameAt(ms, never));
     }
 
-    void show(const FrameSource::Found& found)
+    void show(const FrameResult& found)
     {
         frame = found.frame;
         source.setFocus(frame.timestamp());
     }
 
     /// Steps, and counts the packets that this takes.
-    FrameSource::Found step(FrameSource::Found (FrameSource::*direction)(double,
-                                                                         const QtAV::IsCancelled&))
+    FrameResult step(FrameResult (FrameSource::*direction)(double, const QtAV::IsCancelled&))
     {
         packets = 0;
-        const FrameSource::Found found = (source.*direction)(frame.timestamp(), [this] {
+        const FrameResult found = (source.*direction)(frame.timestamp(), [this] {
             ++packets;
             return false;
         });
-        if (found.kind == Kind::Frame)
+        if (found.answer == FrameAnswer::Frame)
             show(found);
         return found;
     }
@@ -127,11 +127,11 @@ void FrameSourceTest::steps_meetEveryFrameOnce_toTheEndAndBack()
     QString error;
     QVERIFY2(source.open(testsupport::samplePath(file), cacheFor(sample), never, error),
              qPrintable(error));
-    FrameSource::Found found = source.frameAt(0, never);
-    QCOMPARE(found.kind, Kind::Frame);
+    FrameResult found = source.frameAt(0, never);
+    QCOMPARE(found.answer, FrameAnswer::Frame);
     VideoFrame frame = found.frame;
     QList<Shown> forwards{shown(frame)};
-    while ((found = source.after(frame.timestamp(), never)).kind == Kind::Frame) {
+    while ((found = source.after(frame.timestamp(), never)).answer == FrameAnswer::Frame) {
         frame = found.frame;
         source.setFocus(frame.timestamp());
         forwards.append(shown(frame));
@@ -140,7 +140,7 @@ void FrameSourceTest::steps_meetEveryFrameOnce_toTheEndAndBack()
     QCOMPARE(forwards, expected);
 
     QList<Shown> backwards{shown(frame)};
-    while ((found = source.before(frame.timestamp(), never)).kind == Kind::Frame) {
+    while ((found = source.before(frame.timestamp(), never)).answer == FrameAnswer::Frame) {
         frame = found.frame;
         source.setFocus(frame.timestamp());
         backwards.append(shown(frame));
@@ -163,24 +163,24 @@ void FrameSourceTest::mixedStepsAndSeeks_endOnTheRightFrame()
     std::mt19937 random(7);
     for (int i = 0; i < most; ++i) {
         const auto choice = random() % 6;
-        FrameSource::Found found;
+        FrameResult found;
         if (choice < 2) {
             found = source.after(frame.timestamp(), never);
-            QCOMPARE(found.kind, n + 1 < sample.frames ? Kind::Frame : Kind::None);
+            QCOMPARE(found.answer, n + 1 < sample.frames ? FrameAnswer::Frame : FrameAnswer::End);
             n = std::min(n + 1, sample.frames - 1);
         } else if (choice < 4) {
             found = source.before(frame.timestamp(), never);
-            QCOMPARE(found.kind, n > 0 ? Kind::Frame : Kind::None);
+            QCOMPARE(found.answer, n > 0 ? FrameAnswer::Frame : FrameAnswer::End);
             n = std::max(n - 1, 0);
         } else {
             const qint64 ms = qint64(random() % quint32(lastMs + 200));
             found = source.frameAt(ms, never);
-            QCOMPARE(found.kind, Kind::Frame);
+            QCOMPARE(found.answer, FrameAnswer::Frame);
             n = 0;
             while (n + 1 < sample.frames && testsupport::frameTimeMs(sample, n) < ms)
                 ++n;
         }
-        if (found.kind == Kind::Frame)
+        if (found.answer == FrameAnswer::Frame)
             frame = found.frame;
         source.setFocus(frame.timestamp());
         for (auto fills = random() % 20; fills > 0 && source.fillBehind(never);)
@@ -195,8 +195,8 @@ void FrameSourceTest::filling_letsStepsBackDecodeNothing_asLongAsTheyGoOn()
     LongGroups opened(9000); // frame 225 of a group of 250
     for (int n = 224; n >= 0; --n) {
         opened.fill();
-        const FrameSource::Found found = opened.step(&FrameSource::before);
-        QCOMPARE(found.kind, Kind::Frame);
+        const FrameResult found = opened.step(&FrameSource::before);
+        QCOMPARE(found.answer, FrameAnswer::Frame);
         QCOMPARE(shown(found.frame).number, n);
         QCOMPARE(opened.packets, 0);
     }
@@ -289,9 +289,9 @@ void FrameSourceTest::cancelledSearch_givesNoFrame_andTheNextOneIsRight()
                             QtAV::FrameCache::DefaultBytes, never, error));
         int left = packets;
         const auto soon = [&left] { return left-- <= 0; };
-        QCOMPARE(source.frameAt(9960, soon).kind, Kind::Cancelled);
+        QCOMPARE(source.frameAt(9960, soon).answer, FrameAnswer::Cancelled);
         left = packets;
-        QCOMPARE(source.before(6.0, soon).kind, Kind::Cancelled);
+        QCOMPARE(source.before(6.0, soon).answer, FrameAnswer::Cancelled);
         QCOMPARE(shown(source.frameAt(8000 + packets * 40, never).frame).number, 200 + packets);
         QCOMPARE(shown(source.before(6.0, never).frame).number, 149);
     }
@@ -339,8 +339,8 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
     double time = first;
     int forwards = 1;
     for (;;) {
-        const FrameSource::Found found = source.after(time, never);
-        if (found.kind != Kind::Frame)
+        const FrameResult found = source.after(time, never);
+        if (found.answer != FrameAnswer::Frame)
             break;
         QVERIFY(found.frame.timestamp() > time);
         time = found.frame.timestamp();
@@ -351,8 +351,8 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
     QCOMPARE(last, time);
     QVERIFY(forwards > 1);
     for (int backwards = 1;; ++backwards) {
-        const FrameSource::Found found = source.before(time, never);
-        if (found.kind != Kind::Frame)
+        const FrameResult found = source.before(time, never);
+        if (found.answer != FrameAnswer::Frame)
             break;
         QVERIFY(found.frame.timestamp() < time);
         time = found.frame.timestamp();

@@ -1,0 +1,149 @@
+#pragma once
+
+#include <QtAV/AVDemuxer.h>
+#include <QtAV/FrameResult.h>
+#include <QtAV/VideoDecoder.h>
+#include <QtAV/VideoFrame.h>
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace QtAV {
+
+/// The one way to decoded frames: gives those of a file's first video stream in the order in which
+/// they are shown, from any key frame on. The times of the frames that it gives rise strictly.
+///
+/// It says what it knows of the frame before each one, so that callers can tell whether the first
+/// frame that they see at a position is the first one there is.
+///
+/// Not thread-safe, but tied to no thread: one thread at a time may use it.
+class FrameReader
+{
+public:
+    /// What becomes of packets that cannot be decoded on the way to a frame.
+    enum class Damage { Skip, Report };
+
+    /// A frame that is looked for.
+    struct Search
+    {
+        /// The position in milliseconds at which, or shortly behind which, the frame lies.
+        qint64 ms = 0;
+        /// Frames before this position in milliseconds may be skipped, see setCompleteFrom().
+        qint64 completeFrom = 0;
+        /// True for the frame, and for all that come after it.
+        std::function<bool(const VideoFrame&)> isReached;
+        /// Called for each frame on the way, the one looked for included. May be empty.
+        std::function<void(const VideoFrame&)> onFrame = {};
+        Damage damage = Damage::Skip;
+    };
+
+    FrameReader();
+    ~FrameReader();
+    FrameReader(const FrameReader&) = delete;
+    FrameReader& operator=(const FrameReader&) = delete;
+
+    /// How many threads decode, from the next open() on; 0, as at first, for one a core.
+    void setThreads(int threads) { m_threads = threads; }
+
+    /// Opens a file and stands at its start. False, with a text for people, when it cannot be
+    /// opened, has no video or none that can be decoded, or when opening was cancelled.
+    [[nodiscard]] bool open(const QString& path, const IsCancelled& isCancelled, QString& error);
+    void close();
+    [[nodiscard]] bool isOpen() const { return m_decoder != nullptr; }
+
+    const AVDemuxer& demuxer() const { return m_demuxer; }
+
+    /// Makes land() and next() start at the last key frame at or before a position in milliseconds.
+    /// Skips nothing until told to. Touches no file yet.
+    void seek(qint64 ms);
+
+    /// Goes to where the last seek() is to start, unless that is done. Frame when a packet waits
+    /// there; next() calls it by itself.
+    [[nodiscard]] FrameAnswer land(const IsCancelled& isCancelled);
+
+    /// From here on, frames before this position in milliseconds may be skipped where no other
+    /// frame needs them, which saves time.
+    void setCompleteFrom(qint64 ms) { m_completeFrom = ms; }
+    qint64 completeFrom() const { return m_completeFrom; }
+
+    /// The next frame. After Cancelled the next call goes on where this one stopped; after Failed
+    /// it goes on behind the damage while canGoOn() is true.
+    [[nodiscard]] FrameResult next(const IsCancelled& isCancelled);
+
+    /// The first frame of the video that is reached; where none is, the video's last frame. End
+    /// where no frame comes out at all.
+    ///
+    /// find() starts at the key frame before the position, findOn() where the reader stands. Both
+    /// start again further back until no frame can be missing before the one that they give: some
+    /// streams give no whole picture at what the container calls a key frame.
+    [[nodiscard]] FrameResult find(const Search& search, const IsCancelled& isCancelled);
+    [[nodiscard]] FrameResult findOn(const Search& search, const IsCancelled& isCancelled);
+
+    /// False once the file cannot be read any more: until the next seek(), every next() fails.
+    bool canGoOn() const { return !m_isLost; }
+
+    /// The time in seconds of the frame that next() gave last; nothing since seek().
+    std::optional<double> last() const { return m_last; }
+    /// That frame.
+    const VideoFrame& lastFrame() const { return m_lastFrame; }
+
+    /// The time of the frame directly before last(); nothing where it was not seen.
+    std::optional<double> predecessor() const { return m_predecessor; }
+
+    /// No frame comes before last().
+    bool isAtFirstOfVideo() const { return m_isAtFirst; }
+
+    /// How many packets were passed over since seek() because they were marked as damaged.
+    int invalidPackets() const { return m_invalidPackets; }
+
+    /// The time of the packet where the last seek landed, and whether that shows a key frame;
+    /// nothing until it has landed.
+    std::optional<double> landing() const { return m_landing; }
+    bool landedOnKeyFrame() const { return m_landedOnKeyFrame; }
+
+    /// No frame at or after a time in seconds has been skipped.
+    bool isCompleteFrom(double seconds) const { return m_skippedUpTo < seconds; }
+
+    /// Frames behind last() were skipped.
+    bool skippedSinceLast() const { return m_last && *m_last < m_skippedUpTo; }
+
+private:
+    /// How far one attempt of a search came, and whether an earlier frame may have been missed.
+    struct Way
+    {
+        FrameResult result;
+        bool isCertain = true;
+    };
+
+    void restart();
+    [[nodiscard]] Way walk(const Search& search, const IsCancelled& isCancelled);
+    [[nodiscard]] FrameResult findFrom(Search search, const IsCancelled& isCancelled);
+    [[nodiscard]] FrameResult lastOfVideo(const Search& search, const IsCancelled& isCancelled);
+    [[nodiscard]] bool isCertain() const;
+    [[nodiscard]] FrameAnswer readPacket(Packet& packet, const IsCancelled& isCancelled);
+    void chooseSkipping(const Packet& packet);
+    FrameResult arriveAt(const VideoFrame& frame);
+
+    AVDemuxer m_demuxer;
+    std::unique_ptr<VideoDecoder> m_decoder;
+    int m_threads = 0;
+    std::optional<qint64> m_target; ///< of a seek that has not landed yet, in milliseconds
+    Packet m_first;                 ///< read by land(), not decoded yet
+    qint64 m_completeFrom = 0;
+    double m_skippedUpTo = -1.0; ///< frames up to this time may be missing
+    bool m_skips = false;
+    bool m_startedAtZero = true;
+    bool m_isLost = false;
+    int m_invalidPackets = 0;
+    std::optional<double> m_landing;
+    bool m_landedOnKeyFrame = false;
+    std::optional<double> m_last;
+    VideoFrame m_lastFrame;
+    std::optional<double> m_predecessor;
+    bool m_isAtFirst = false;
+};
+
+} // namespace QtAV

@@ -1,0 +1,240 @@
+#include <QtAV/FrameReader.h>
+
+#include "qtav/src/Times.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace QtAV {
+
+namespace {
+
+// FFmpeg's AVDiscard values.
+constexpr int DiscardDefault = 0;
+constexpr int DiscardNonReference = 8;
+
+constexpr qint64 SmallestStepBackMs = 500;
+
+/// Where frames are skipped, the key frame is not looked at either: it need not come out early.
+QVariantHash decoderOptions(bool skips)
+{
+    const int discard = skips ? DiscardNonReference : DiscardDefault;
+    return {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), discard}}},
+            {QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), !skips}}}};
+}
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("QtAV::AVPlayer", text);
+}
+
+} // namespace
+
+FrameReader::FrameReader() = default;
+FrameReader::~FrameReader() = default;
+
+bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QString& error)
+{
+    close();
+    Q_UNUSED(isCancelled)
+    m_demuxer.setMedia(path);
+    if (!m_demuxer.load()) {
+        error = m_demuxer.errorString();
+        return false;
+    }
+    const VideoCodecContext* context = m_demuxer.videoCodecContext();
+    if (!context) {
+        error = tr("There is no video in the file.");
+        close();
+        return false;
+    }
+    m_decoder.reset(VideoDecoder::create("FFmpeg"));
+    m_decoder->setCodecContext(context);
+    m_decoder->setOptions(
+        {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("threads"), m_threads}}}});
+    if (!m_decoder->open()) {
+        error = tr("The video cannot be decoded.");
+        close();
+        return false;
+    }
+    seek(0);
+    return true;
+}
+
+void FrameReader::close()
+{
+    restart();
+    m_decoder.reset();
+    m_demuxer.unload();
+    m_target.reset();
+}
+
+void FrameReader::seek(qint64 ms)
+{
+    restart();
+    m_target = ms;
+    m_startedAtZero = ms <= 0;
+}
+
+void FrameReader::restart()
+{
+    m_first = Packet();
+    m_completeFrom = 0;
+    m_skippedUpTo = -1.0;
+    m_isLost = false;
+    m_invalidPackets = 0;
+    m_landing.reset();
+    m_landedOnKeyFrame = false;
+    m_last.reset();
+    m_lastFrame = VideoFrame();
+    m_predecessor.reset();
+    m_isAtFirst = false;
+}
+
+FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
+{
+    if (!m_target)
+        return FrameAnswer::Frame;
+    if (isCancelled())
+        return FrameAnswer::Cancelled;
+    // What a seek could not do shows in the packets that follow.
+    static_cast<void>(m_demuxer.seek(*m_target));
+    m_decoder->flush();
+    m_target.reset();
+    const FrameAnswer answer = readPacket(m_first, isCancelled);
+    if (answer == FrameAnswer::Frame) {
+        m_landing = m_first.pts;
+        m_landedOnKeyFrame = m_first.hasKeyFrame;
+    }
+    return answer;
+}
+
+FrameAnswer FrameReader::readPacket(Packet& packet, const IsCancelled& isCancelled)
+{
+    while (!m_demuxer.atEnd()) {
+        if (isCancelled())
+            return FrameAnswer::Cancelled;
+        if (!m_demuxer.readFrame() || m_demuxer.stream() != m_demuxer.videoStream())
+            continue;
+        packet = m_demuxer.packet();
+        if (packet.isValid())
+            return FrameAnswer::Frame;
+        ++m_invalidPackets;
+    }
+    return FrameAnswer::End;
+}
+
+FrameResult FrameReader::next(const IsCancelled& isCancelled)
+{
+    FrameAnswer answer = land(isCancelled);
+    while (answer == FrameAnswer::Frame) {
+        Packet packet = std::exchange(m_first, Packet());
+        if (!packet.isValid())
+            answer = readPacket(packet, isCancelled);
+        if (answer != FrameAnswer::Frame)
+            break;
+        chooseSkipping(packet);
+        if (!m_decoder->decode(packet))
+            return {FrameAnswer::Failed, {}, tr("The picture is damaged.")};
+        const VideoFrame frame = m_decoder->frame();
+        const bool isLater = frame.isValid() && (!m_last || frame.timestamp() > *m_last);
+        if (isLater)
+            return arriveAt(frame);
+    }
+    return {answer};
+}
+
+void FrameReader::chooseSkipping(const Packet& packet)
+{
+    const bool skips = !packet.isDrain() && toMilliseconds(packet.pts) < m_completeFrom;
+    if (skips)
+        m_skippedUpTo = std::max(m_skippedUpTo, packet.pts);
+    if (skips == m_skips)
+        return;
+    m_skips = skips;
+    m_decoder->setOptions(decoderOptions(skips));
+}
+
+FrameResult FrameReader::arriveAt(const VideoFrame& frame)
+{
+    m_predecessor.reset();
+    if (m_last && *m_last >= m_skippedUpTo)
+        m_predecessor = m_last;
+    m_isAtFirst = !m_last && m_startedAtZero;
+    m_last = frame.timestamp();
+    m_lastFrame = frame;
+    return {FrameAnswer::Frame, frame};
+}
+
+/// True when no frame can be missing between last() and the one that came before it.
+bool FrameReader::isCertain() const
+{
+    return m_predecessor || m_isAtFirst || (m_landing && *m_last <= *m_landing);
+}
+
+FrameReader::Way FrameReader::walk(const Search& search, const IsCancelled& isCancelled)
+{
+    for (;;) {
+        FrameResult step = next(isCancelled);
+        if (step.answer == FrameAnswer::Failed && search.damage == Damage::Skip && canGoOn())
+            continue;
+        if (step.answer != FrameAnswer::Frame)
+            return {std::move(step)};
+        if (search.onFrame)
+            search.onFrame(step.frame);
+        if (search.isReached(step.frame))
+            return {std::move(step), isCertain()};
+    }
+}
+
+FrameResult FrameReader::find(const Search& search, const IsCancelled& isCancelled)
+{
+    return findFrom(search, isCancelled);
+}
+
+FrameResult FrameReader::findOn(const Search& search, const IsCancelled& isCancelled)
+{
+    setCompleteFrom(search.completeFrom);
+    Way way = walk(search, isCancelled);
+    if (way.result.answer == FrameAnswer::Frame && !way.isCertain) {
+        Search complete = search;
+        complete.completeFrom = 0;
+        return findFrom(complete, isCancelled);
+    }
+    return way.result.answer == FrameAnswer::End && m_last ? lastOfVideo(search, isCancelled)
+                                                           : std::move(way.result);
+}
+
+FrameResult FrameReader::findFrom(Search search, const IsCancelled& isCancelled)
+{
+    for (qint64 stepBackMs = 0;;) {
+        const qint64 landing = std::max<qint64>(0, search.ms - stepBackMs);
+        seek(landing);
+        setCompleteFrom(search.completeFrom);
+        Way way = walk(search, isCancelled);
+        const bool isEnd = way.result.answer == FrameAnswer::End;
+        if (isEnd && m_last)
+            return lastOfVideo(search, isCancelled);
+        const bool isNothing = isEnd && landing == 0 && search.completeFrom <= 0;
+        if (isNothing || (!isEnd && way.isCertain))
+            return std::move(way.result);
+        if (search.completeFrom <= 0)
+            stepBackMs = std::max(SmallestStepBackMs, 2 * stepBackMs);
+        search.completeFrom = 0;
+    }
+}
+
+/// The video's last frame, once the reader has come to the end.
+FrameResult FrameReader::lastOfVideo(const Search& search, const IsCancelled& isCancelled)
+{
+    if (!skippedSinceLast())
+        return {FrameAnswer::Frame, m_lastFrame};
+    Search complete = search;
+    complete.ms = toMilliseconds(*m_last);
+    complete.completeFrom = 0;
+    complete.isReached = [](const VideoFrame&) { return false; };
+    return findFrom(complete, isCancelled);
+}
+
+} // namespace QtAV
