@@ -62,6 +62,8 @@ readonly X264=(-c:v libx264 -preset veryfast -crf 23 -pix_fmt yuv420p)
 readonly X265=(-c:v libx265 -preset ultrafast -crf 23 -pix_fmt yuv420p)
 # One encoder thread; the rest of a recipe's parameters follow after a colon.
 readonly X265_PARAMS=log-level=error:pools=none:frame-threads=1:info=0
+# Nothing is random in these encoders; deadlines that depend on the machine's speed are avoided.
+readonly VPX=(-deadline good -cpu-used 5 -b:v 400k)
 
 # encode OUTPUT SIZE RATE FRAMES ARG…: numbered frames through one encoder.
 encode() {
@@ -78,6 +80,23 @@ encode_filtered() {
         "${EXACT[@]}" "$@" "$output"
 }
 
+# with_sound FILE VIDEO_START SOUND_START SOUND_CODEC ARG…: starts in seconds.
+with_sound() {
+    local file=$1 video_start=$2 sound_start=$3 codec=$4
+    shift 4
+    ff -itsoffset "$video_start" -f lavfi -i "$(pictures 320x240 25)" \
+        -itsoffset "$sound_start" -f lavfi -i "$(sound 3)" -map 0 -map 1 -frames:v 75 \
+        -vsync passthrough \
+        "${EXACT[@]}" "${X264[@]}" -x264-params keyint=25:bframes=2 \
+        -c:a "$codec" -b:a 64k "$@" "$file"
+}
+
+# cut_at_front FILE SOURCE: from 1.4 seconds on, without encoding anew: what must be decoded before
+# that is there, but an edit list hides it.
+cut_at_front() {
+    ff -ss 1.4 -i "$2" -c copy -map_metadata -1 -fflags +bitexact "$1"
+}
+
 # tool NAME ARG…: one of the small programs beside this file.
 tool() {
     local name=$1
@@ -91,6 +110,7 @@ NAMES=()             # every declared sample, in order
 declare -A RECIPES=() # its command
 declare -A ORIGINS=() # the file of recipes that declares it
 declare -A NEEDS=()   # the sample that it is made from, if any
+declare -A MISFLAGGED=() # set for samples whose container marks the wrong packets as key
 
 # sample NAME COMMAND ARG…: declares a sample. `COMMAND FILE ARG…` makes it in FILE, whose
 # extension is that of NAME.
@@ -109,6 +129,11 @@ derived() {
     shift 3
     sample "$name" "$command" "$OUT/$source" "$@"
     NEEDS[$name]=$source
+}
+
+# misflagged NAME: declares that the sample's container marks packets as key that are none.
+misflagged() {
+    MISFLAGGED[$1]=1
 }
 
 # stamp_of NAME: changes whenever the sample might come out different.
@@ -146,7 +171,11 @@ make_one() {
     shift
     "${recipe[0]}" "$made" "$@"
     [[ -e $made ]] || fail "$name: the recipe made nothing"
-    list_key_frames "$made" >"$work/keyframes"
+    if [[ -n ${MISFLAGGED[$name]:-} ]]; then
+        list_decoded_key_frames "$made" >"$work/keyframes"
+    else
+        list_key_frames "$made" >"$work/keyframes"
+    fi
     rm -rf "${OUT:?}/$name"
     mv "$made" "$OUT/$name"
     mv "$work/keyframes" "$OUT/.keyframes/$name"
@@ -157,21 +186,27 @@ make_one() {
 
 # list_key_frames FILE: the key frames of its video, as places in the order of showing, one a
 # line; nothing for what has no video. A key frame that is never shown (before an edit list's
-# start) has no place and is left out.
+# start) has no place and is left out. They are those that the container marks, unless packets
+# without a time leave their places unknown.
 list_key_frames() {
-    local file=$1
-    [[ -f $file ]] || return 0
-    local stream
+    local file=$1 stream
     stream=$(main_video_stream "$file") || return 0
     [[ -n $stream ]] || return 0
     ffprobe -v quiet -select_streams "$stream" -show_entries packet=pts,flags -of csv=p=0 "$file" |
-        tool rank_key_packets ||
-        ffprobe -v quiet -select_streams "$stream" -show_entries frame=key_frame -of csv=p=0 \
-            "$file" | awk -F , '/^[01]/ { if ($1 == 1) print n + 0; n++ }'
+        tool rank_key_packets || list_decoded_key_frames "$file"
+}
+
+# list_decoded_key_frames FILE: the same as the decoder sees it.
+list_decoded_key_frames() {
+    local file=$1 stream
+    stream=$(main_video_stream "$file")
+    ffprobe -v quiet -select_streams "$stream" -show_entries frame=key_frame -of csv=p=0 "$file" |
+        awk -F , '/^[01]/ { if ($1 == 1) print n + 0; n++ }'
 }
 
 # main_video_stream FILE: the number of its first video stream that is no attached picture.
 main_video_stream() {
+    [[ -f $1 ]] || return 0
     ffprobe -v quiet -select_streams v -show_entries stream=index:stream_disposition=attached_pic \
         -of compact=p=0:nk=1 "$1" | awk -F '|' '$2 == 0 { print $1; exit }'
 }

@@ -30,7 +30,7 @@ Rational tickOf(const QString& file)
     };
     if (isOneOf({"mkv", "webm", "flv", "wmv"}))
         return {1, 1000};
-    if (isOneOf({"ts", "mpg"}))
+    if (isOneOf({"ts", "mpg", "vob"}))
         return {1, 90000};
     return {0, 1};
 }
@@ -66,6 +66,12 @@ struct Entry : Sample
     Entry& countingFrom(int number)
     {
         firstNumber = number;
+        return *this;
+    }
+    Entry& withSoundUpTo(qint64 ms)
+    {
+        traits |= Trait::Sound;
+        soundEndMs = ms;
         return *this;
     }
     Entry& at(QList<qint64> times)
@@ -247,11 +253,124 @@ QList<Sample> containerSamples()
     };
 }
 
+/// What the encoder's packed B-frames leave: two empty chunks behind the first picture.
+QList<qint64> xvidTimes()
+{
+    QList<qint64> times{0};
+    for (int n = 1; n < 250; ++n)
+        times.append((n + 2) * 40);
+    return times;
+}
+
+QList<Sample> missingTimesSamples()
+{
+    const QSize tiny{128, 96};
+    const Traits wrapping = Trait::NoStatedDuration | Trait::OpenGop;
+    const Traits program = wrapping | Trait::UntimedPackets;
+    const Traits noTimes = Trait::NoPresentationTimes;
+    return {
+        Entry("mpeg4_xvid_packed.avi", 250, variableRate).at(xvidTimes()).with(noTimes),
+        Entry("mpeg4_xvid_unpacked.avi", 250).with(noTimes),
+        Entry("mpeg2_untimed_keys.mpg", 250, pal, tiny).with(program),
+        Entry("mpeg2_untimed_keys.vob", 250, pal, tiny).with(program),
+        Entry("mpeg2_untimed_keys_svcd.mpg", 250, pal, tiny).with(program),
+        Entry("mpeg2_untimed_no_bframes.vob", 250, pal, tiny).with(program),
+        Entry("mpeg1_untimed_keys.mpg", 125, pal, tiny).with(program),
+        Entry("mpeg1_untimed_keys_vcd.mpg", 125, pal, tiny).with(program),
+        Entry("mpeg1_untimed_no_bframes.mpg", 125, pal, tiny).with(program),
+        Entry("mpeg2_untimed_keys_sound.vob", 250, pal, tiny)
+            .startingAt({902, 90000})
+            .with(program | Trait::Sound),
+        Entry("h264_clock_wraps.ts", 75).with(Trait::NoStatedDuration),
+        Entry("mpeg2_clock_wraps.ts", 75).with(wrapping),
+        Entry("h264_all_flagged_key.mp4", 100),
+        Entry("h264_open_gop.mov", 125).with(Trait::OpenGop),
+        Entry("mpeg2_open_gop.mov", 125).with(Trait::OpenGop),
+        Entry("h264_long_refresh.mp4", 250).with(Trait::IntraRefresh),
+        Entry("h264_long_refresh.mkv", 250).with(Trait::IntraRefresh),
+        Entry("h264_long_refresh.ts", 250).with(Trait::IntraRefresh | Trait::NoStatedDuration),
+    };
+}
+
+/// Bursts of five frames 100 ms apart, each followed by 3, 10, 5 or 7 seconds without any.
+QList<qint64> screenRecordingTimes()
+{
+    QList<qint64> times;
+    for (qint64 n = 0; n < 40; ++n) {
+        const qint64 burst = std::array{0, 3400, 13800, 19200}[size_t(n / 5 % 4)];
+        times.append(n / 20 * 26600 + burst + n % 5 * 100);
+    }
+    return times;
+}
+
+QList<Sample> gapSamples()
+{
+    const auto recording = [](const char* file) {
+        return Entry(file, 40, variableRate).at(screenRecordingTimes());
+    };
+    return {
+        recording("screen_recording.mkv"),
+        recording("screen_recording.mp4"),
+        recording("screen_recording.webm"),
+        recording("screen_recording.gif"),
+        Entry("video_from_3s.mp4", 75).startingAt({3, 1}).with(Trait::Sound),
+        Entry("video_from_3s.mkv", 75).startingAt({3010, 1000}).with(Trait::Sound),
+        Entry("video_from_3s.ts", 75)
+            .startingAt({270902, 90000})
+            .with(Trait::Sound | Trait::NoStatedDuration),
+        Entry("sound_goes_on.mp4", 75).withSoundUpTo(13000),
+        Entry("sound_goes_on.mkv", 75).startingAt({10, 1000}).withSoundUpTo(13008),
+        Entry("sound_goes_on.ts", 75)
+            .startingAt({902, 90000})
+            .withSoundUpTo(12984)
+            .with(Trait::NoStatedDuration),
+        Entry("sound_goes_on.avi", 75).withSoundUpTo(13056).with(Trait::NoPresentationTimes),
+    };
+}
+
+/// Frames that come when they are ready: 33 ms apart, some of them left out.
+QList<qint64> unsteadyTimes()
+{
+    QList<qint64> times;
+    for (qint64 n = 0; n < 150; ++n)
+        times.append(n / 6 * 330 + std::array{0, 33, 66, 132, 165, 264}[size_t(n % 6)]);
+    return times;
+}
+
+QList<Sample> recordingSamples()
+{
+    const Traits aviTraits = Trait::WrongDuration | Trait::NoPresentationTimes;
+    return {
+        Entry("duration_too_short.mkv", 100).with(Trait::WrongDuration),
+        Entry("duration_too_long.mkv", 100).with(Trait::WrongDuration),
+        Entry("duration_too_short.avi", 75).with(aviTraits),
+        Entry("duration_too_long.avi", 75).with(aviTraits),
+        Entry("duration_too_short.mp4", 100).with(Trait::WrongDuration),
+        Entry("duration_too_long.mp4", 100).with(Trait::WrongDuration),
+        Entry("size_change_h264.ts", 100).with(Trait::SizeChange | Trait::NoStatedDuration),
+        Entry("size_change_mpeg2.ts", 100)
+            .with(Trait::SizeChange | Trait::NoStatedDuration | Trait::OpenGop),
+        // Sound starts with 1024 samples that the encoder put before the first one.
+        Entry("fragmented_with_sound.mp4", 75).startingAt({1024, 48000}).with(Trait::Sound),
+        Entry("dash_segments.mp4", 100),
+        Entry("browser_recording.webm", 150, variableRate)
+            .at(unsteadyTimes())
+            .with(Trait::NoStatedDuration),
+        Entry("meeting.mp4", 150, variableRate).at(unsteadyTimes()).with(Trait::Sound),
+        Entry("phone.mp4", 65, pal, {240, 320})
+            .shownAs(small)
+            .countingFrom(35)
+            .with(Trait::Turned | Trait::Sideways | Trait::StartsInsideGop),
+        Entry("recorder_died.mkv", 75).with(Trait::NoStatedDuration),
+    };
+}
+
 } // namespace
 
 QList<Sample> videoSampleTable()
 {
-    return joined({h264Samples(), codecSamples(), geometrySamples(), containerSamples()});
+    return joined({h264Samples(), codecSamples(), geometrySamples(), containerSamples(),
+                   missingTimesSamples(), gapSamples(), recordingSamples()});
 }
 
 QList<Sample> noVideoSampleTable()

@@ -35,6 +35,9 @@ enum class Trait : quint32 {
     Damaged = 1u << 15,            ///< some frames are missing or wrong
     Unopenable = 1u << 16,         ///< no video file at all
     Sideways = 1u << 17,           ///< turned by a quarter: width and height change places
+    WrongDuration = 1u << 18,      ///< the container states half of its length, or twice
+    SizeChange = 1u << 19,         ///< from frame 50 on the pictures are smaller
+    UntimedPackets = 1u << 20,     ///< most packets state no time, and guesses from the others err
 };
 Q_DECLARE_FLAGS(Traits, Trait)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Traits)
@@ -52,6 +55,7 @@ struct Sample
     QSize displaySize; ///< upright and with square pixels: the shorter side stretched, none shrunk
     Traits traits;
     QList<qint64> timesMs; ///< of each frame, for a variable rate only
+    qint64 soundEndMs = 0; ///< where the sound ends, if that is long after the last frame
 
     [[nodiscard]] bool has(Trait trait) const { return traits.testFlag(trait); }
 };

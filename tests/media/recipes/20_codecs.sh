@@ -12,9 +12,6 @@ sample hevc_10bit.mkv x265 75 keyint=25:open-gop=0:bframes=3 -pix_fmt yuv420p10l
 sample hevc_open_gop.mp4 x265 75 keyint=25:open-gop=1:bframes=3:scenecut=0
 sample hevc_temporal_layers.mp4 x265 75 keyint=25:open-gop=0:bframes=3:temporal-layers=1
 
-# Nothing is random in these encoders; deadlines that depend on the machine's speed are avoided.
-readonly VPX=(-deadline good -cpu-used 5 -b:v 400k)
-
 sample vp8.webm encode 320x240 25 75 -c:v libvpx "${VPX[@]}" -g 25 -auto-alt-ref 1 -lag-in-frames 16
 sample vp9.webm encode 320x240 25 75 -c:v libvpx-vp9 "${VPX[@]}" -pix_fmt yuv420p -g 25
 sample vp9.mp4 encode 320x240 30 60 -c:v libvpx-vp9 "${VPX[@]}" -pix_fmt yuv420p -g 30

@@ -18,21 +18,7 @@ sample h264_5994fps.mov encode 320x240 60000/1001 60 "${X264[@]}" \
     -x264-params keyint=30:bframes=2
 
 # Begins with frame 35, ten frames behind a key frame.
-cut_at_front() {
-    ff -ss 1.4 -i "$2" -c copy -map_metadata -1 -fflags +bitexact "$1"
-}
 derived edit_list.mp4 h264_bframes.mp4 cut_at_front
-
-# with_sound FILE VIDEO_START SOUND_START SOUND_CODEC ARG…: starts in seconds.
-with_sound() {
-    local file=$1 video_start=$2 sound_start=$3 codec=$4
-    shift 4
-    ff -itsoffset "$video_start" -f lavfi -i "$(pictures 320x240 25)" \
-        -itsoffset "$sound_start" -f lavfi -i "$(sound 3)" -map 0 -map 1 -frames:v 75 \
-        -vsync passthrough \
-        "${EXACT[@]}" "${X264[@]}" -x264-params keyint=25:bframes=2 \
-        -c:a "$codec" -b:a 64k "$@" "$file"
-}
 
 sample sound.mp4 with_sound 0 0 aac
 sample sound_earlier.mp4 with_sound 0.48 0 aac

@@ -1,5 +1,6 @@
-# Usage: webm_patch.pl IN OUT without-cues | impossible-duration
-# Copies a WebM file with its index blanked out, or with a stated duration of 3000 years.
+# Usage: webm_patch.pl IN OUT without-cues | impossible-duration | unknown-sizes
+# Copies a WebM file with its index blanked out, with a stated duration of 3000 years, or with
+# clusters that do not say how long they are.
 use strict;
 use warnings;
 
@@ -18,6 +19,16 @@ if ($what eq 'without-cues') {
     my $at = index $data, "\x44\x89\x88";
     die "$from states no duration\n" if $at < 0;
     substr $data, $at + 3, 8, pack 'd>', 1e14;
+} elsif ($what eq 'unknown-sizes') {
+    # A length of which all bits are set is an unknown one, however many bytes it takes.
+    my $clusters = 0;
+    for (my $at = 0; ($at = index $data, "\x1f\x43\xb6\x75", $at) >= 0; $at += 4) {
+        my $bytes = 9 - length sprintf '%b', ord substr $data, $at + 4, 1;
+        my $unknown = substr pack('Q>', (1 << 7 * $bytes + 1) - 1), 8 - $bytes;
+        substr $data, $at + 4, $bytes, $unknown;
+        $clusters++;
+    }
+    die "$from has no clusters\n" unless $clusters;
 } else {
     die "unknown patch: $what\n";
 }
