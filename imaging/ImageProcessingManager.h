@@ -35,6 +35,10 @@ public:
     /// three channels give Format_RGB888, of four Format_ARGB32, of one Format_Indexed8 (greys).
     /// A null image gives a null image; nothing else fails.
     ///
+    /// @param image      of an opaque picture, one without alpha, such as Format_RGB888
+    /// (Format_RGB32
+    ///     counts as one with alpha): else lowering the contrast or the brightness would make the
+    ///     picture see-through.
     /// @param profile    not null.
     /// @param watermark  the watermark to draw; null draws the profile's own, if it has one.
     [[nodiscard]] QImage processImage(QImage image, ImageProfile* profile,
