@@ -49,8 +49,8 @@ public:
     /// With the aspect ratio kept, the result is the largest picture inside these bounds; without,
     /// it fills them, and what of the source is too wide or too high is cut off on both sides. See
     /// ResizePlan for the rounding. A matrix that has the size already comes back as it is, sharing
-    /// its samples; so do an empty matrix, and any matrix where a side is 0 or less or the bounds
-    /// hold more than 2 GiB.
+    /// its samples; so do an empty matrix, and any matrix where a side is 0 or less or the result
+    /// would take 2 GiB or more.
     ///
     /// @param cropBlackEdges  without effect: black edges are part of the picture.
     [[nodiscard]] cv::Mat resizeImage(cv::Mat mat, int width, int height, bool maintainAspectRatio,
