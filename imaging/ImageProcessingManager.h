@@ -62,8 +62,9 @@ public:
     /// file-name profile's type is "jpg" or "jpeg", in capitals or not. The file never stands half
     /// written under its name.
     ///
-    /// @return false when nothing was written: the image is null, the suffix unknown, or the file
-    ///     cannot be written there. An existing file is unchanged then.
+    /// @return false when the file was not written: the image is null, the suffix unknown, or there
+    ///     is no writing there. An existing file is unchanged then, unless it could only be written
+    ///     in place (see FilePublisher) and that failed on the way.
     [[nodiscard]] bool saveImage(QString fileName, QImage image, ImageProfile* imageProfile,
                                  FileNameProfile* fileNameProfile);
 
