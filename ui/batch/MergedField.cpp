@@ -22,14 +22,6 @@ QString nothingChosen()
     return QStringLiteral("-");
 }
 
-/// Also unchecks the last one that is checked, which its group would not allow.
-void uncheck(QRadioButton& radioButton)
-{
-    radioButton.setAutoExclusive(false);
-    radioButton.setChecked(false);
-    radioButton.setAutoExclusive(true);
-}
-
 } // namespace
 
 MergedField::Value MergedField::merge(const QList<QObject*>& objects, const char* property)
@@ -66,11 +58,8 @@ void MergedField::show(Field& field, const Value& value)
         checkBox->setCheckState(value.isMultiple       ? Qt::PartiallyChecked
                                 : value.value.toBool() ? Qt::Checked
                                                        : Qt::Unchecked);
-    } else if (auto* const radioButton = qobject_cast<QRadioButton*>(widget)) {
-        uncheck(*radioButton);
-        if (value.value.isValid()) {
-            field.setValue(value.value);
-        }
+    } else if (qobject_cast<QRadioButton*>(widget) != nullptr) {
+        field.setValue(value.value);
     }
 }
 
