@@ -6,11 +6,13 @@
 #include <QObject>
 #include <QString>
 
-#include <opencv2/core/mat.hpp>
-
 class FileNameProfile;
 class ImageProfile;
 class WatermarkProfile;
+
+namespace cv {
+class Mat;
+} // namespace cv
 
 /// The one place where a captured frame becomes the picture that is shown, copied and saved.
 ///
@@ -44,7 +46,8 @@ public:
     [[nodiscard]] QImage processImage(QImage image, ImageProfile* profile,
                                       WatermarkProfile* watermark);
 
-    /// The picture in a matrix resized to `width` by `height` pixels.
+    /// The picture in a matrix resized to `width` by `height` pixels. A caller includes
+    /// <opencv2/core/mat.hpp> by itself, so that all others do without OpenCV.
     ///
     /// With the aspect ratio kept, the result is the largest picture inside these bounds; without,
     /// it fills them, and what of the source is too wide or too high is cut off on both sides. See
