@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Fails where an include goes against the order of the folders, or reaches for a library that
-# another folder fences in. The compiler cannot see either: all folders share one include path.
+# another folder fences in, and where FFmpeg's version is tested outside the one header for that.
+# The compiler cannot see any of it: all folders share one include path.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
@@ -46,6 +47,14 @@ fence() {
     [[ -z $found ]] || complain "$library may be included only in: $*" "$found"
 }
 
+# only_in FILE PATTERN WHAT: no other source has words that match PATTERN.
+only_in() {
+    local file=$1 pattern=$2 what=$3 found
+    found=$(find "${FOLDERS[@]}" tests bench \( -name '*.cpp' -o -name '*.h' \) ! -path "$file" \
+        -exec grep -nHwE "$pattern" {} + || true)
+    [[ -z $found ]] || complain "$what only in: $file" "$found"
+}
+
 layer qtav qtav/
 layer video video/
 layer profiles profiles/
@@ -61,4 +70,8 @@ layer ui ui/ profiles/ imaging/ utils/ app/ProductInfo.h
 fence FFmpeg 'lib(av|sw)[a-z]*/' qtav bench/bare
 fence QtAV 'QtAV' qtav video batch ui app tests bench
 fence OpenCV 'opencv2/' imaging utils tests/imaging tests/utils bench
+
+only_in qtav/src/FFmpegCompat.h \
+    '(LIB(AV|SW)[A-Z]+_VERSION(_[A-Z]+)?|AV_VERSION_INT|FF_API_[A-Z0-9_]+|(av|sw)[a-z]+_version)' \
+    "FFmpeg's version may be tested"
 exit "$status"

@@ -1,5 +1,6 @@
 #include "qtav/src/MediaFile.h"
 
+#include "qtav/src/FFmpegCompat.h"
 #include "qtav/src/FFmpegLog.h"
 #include "qtav/src/PacketHandle.h"
 
@@ -18,13 +19,6 @@ namespace {
 QString tr(const char* text)
 {
     return QCoreApplication::translate("QtAV::AVDemuxer", text);
-}
-
-const qint32* displayMatrixOf(const AVStream& stream)
-{
-    size_t size = 0;
-    const uint8_t* data = av_stream_get_side_data(&stream, AV_PKT_DATA_DISPLAYMATRIX, &size);
-    return size >= 9 * sizeof(qint32) ? reinterpret_cast<const qint32*>(data) : nullptr;
 }
 
 bool isAvi(const AVFormatContext& format)

@@ -1,5 +1,7 @@
 #include "qtav/src/PictureConverter.h"
 
+#include "qtav/src/FFmpegCompat.h"
+
 #include <algorithm>
 
 namespace QtAV {
@@ -42,14 +44,13 @@ void setOption(SwsContext& context, const char* name, int64_t value)
 void setChromaPlace(SwsContext& context, AVPixelFormat format, AVChromaLocation location)
 {
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
-    int x = 0;
-    int y = 0;
-    if (avcodec_enum_to_chroma_pos(&x, &y, location) < 0)
+    const std::optional<ChromaPosition> position = chromaPositionOf(location);
+    if (!position)
         return;
     if (descriptor.log2_chroma_w > 0)
-        setOption(context, "src_h_chr_pos", x);
+        setOption(context, "src_h_chr_pos", position->x);
     if (descriptor.log2_chroma_h > 0)
-        setOption(context, "src_v_chr_pos", y);
+        setOption(context, "src_v_chr_pos", position->y);
 }
 
 } // namespace

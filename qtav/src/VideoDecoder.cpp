@@ -1,5 +1,6 @@
 #include <QtAV/VideoDecoder.h>
 
+#include "qtav/src/FFmpegCompat.h"
 #include "qtav/src/FFmpegHandles.h"
 #include "qtav/src/FFmpegLog.h"
 #include "qtav/src/HevcLayers.h"
@@ -321,7 +322,7 @@ void VideoDecoder::Private::deliver(FramePtr frame)
     }
     repeatedTicks = AV_NOPTS_VALUE;
     lastTicks = ticks;
-    nextTicks = ticks + std::max<qint64>(1, frame->pkt_duration);
+    nextTicks = ticks + std::max<qint64>(1, durationTicks(*frame));
     frames.emplace_back(new VideoFramePrivate(std::move(frame), ticks, parameters, converter));
 }
 

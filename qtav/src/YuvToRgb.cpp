@@ -1,5 +1,6 @@
 #include "qtav/src/YuvToRgb.h"
 
+#include "qtav/src/FFmpegCompat.h"
 #include "qtav/src/YuvToRgbLines.h"
 
 #include <algorithm>
@@ -316,8 +317,8 @@ private:
     {
         if (!m_halvesHeight)
             return {line, line, 4};
-        return m_frame.interlaced_frame ? fieldChromaLineFor(line, m_chromaHeight)
-                                        : chromaLinesFor(line, m_chromaHeight, m_siting.vertical);
+        return isInterlaced(m_frame) ? fieldChromaLineFor(line, m_chromaHeight)
+                                     : chromaLinesFor(line, m_chromaHeight, m_siting.vertical);
     }
 
     /// The chroma at a line of luma, as many samples as are stored.

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "qtav/src/FFmpegHandles.h"
+
+#include <QtGlobal>
+
+#include <optional>
+
+extern "C" {
+#include <libavcodec/version.h>
+#include <libavutil/version.h>
+}
+
+/// What the supported FFmpeg releases, 5.1 to 7.1, do differently. Nothing else tests FFmpeg's
+/// version: each difference is a named feature here, with the release that brought it, and a
+/// function that reads the same with every release.
+
+/// AVFrame::duration, which replaced pkt_duration: 6.0.
+#define QTAV_FFMPEG_HAS_FRAME_DURATION (LIBAVUTIL_VERSION_INT >= AV_VERSION_INT(58, 2, 100))
+/// av_chroma_location_enum_to_pos(), which replaced avcodec_enum_to_chroma_pos(): 6.0.
+#define QTAV_FFMPEG_HAS_CHROMA_LOCATION_POSITION                                                   \
+    (LIBAVUTIL_VERSION_INT >= AV_VERSION_INT(58, 2, 100))
+/// AV_FRAME_FLAG_INTERLACED, which replaced AVFrame::interlaced_frame: 6.1.
+#define QTAV_FFMPEG_HAS_INTERLACED_FLAG (LIBAVUTIL_VERSION_INT >= AV_VERSION_INT(58, 29, 100))
+/// AVCodecParameters::coded_side_data, which replaced AVStream's side data: 6.1.
+#define QTAV_FFMPEG_HAS_CODED_SIDE_DATA (LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(60, 31, 102))
+
+namespace QtAV {
+
+/// How long a decoded frame is shown, in ticks of its packet; 0 where the file does not say.
+inline qint64 durationTicks(const AVFrame& frame)
+{
+#if QTAV_FFMPEG_HAS_FRAME_DURATION
+    return frame.duration;
+#else
+    return frame.pkt_duration;
+#endif
+}
+
+/// Whether the lines of a picture belong to two moments in turn.
+inline bool isInterlaced(const AVFrame& frame)
+{
+#if QTAV_FFMPEG_HAS_INTERLACED_FLAG
+    return frame.flags & AV_FRAME_FLAG_INTERLACED;
+#else
+    return frame.interlaced_frame;
+#endif
+}
+
+/// Where a chroma sample lies, from the upper left luma sample that it belongs to, in 1/256 of the
+/// distance between luma samples.
+struct ChromaPosition
+{
+    int x = 0;
+    int y = 0;
+};
+
+/// Null for a location that is not known.
+inline std::optional<ChromaPosition> chromaPositionOf(AVChromaLocation location)
+{
+    ChromaPosition position;
+#if QTAV_FFMPEG_HAS_CHROMA_LOCATION_POSITION
+    const int result = av_chroma_location_enum_to_pos(&position.x, &position.y, location);
+#else
+    const int result = avcodec_enum_to_chroma_pos(&position.x, &position.y, location);
+#endif
+    return result < 0 ? std::nullopt : std::optional(position);
+}
+
+/// The nine numbers that say how a container wants its pictures turned; null where it does not say.
+/// They belong to the stream.
+inline const qint32* displayMatrixOf(const AVStream& stream)
+{
+    const uint8_t* data = nullptr;
+    size_t size = 0;
+#if QTAV_FFMPEG_HAS_CODED_SIDE_DATA
+    const AVCodecParameters& parameters = *stream.codecpar;
+    const AVPacketSideData* sideData = av_packet_side_data_get(
+        parameters.coded_side_data, parameters.nb_coded_side_data, AV_PKT_DATA_DISPLAYMATRIX);
+    if (sideData) {
+        data = sideData->data;
+        size = sideData->size;
+    }
+#else
+    data = av_stream_get_side_data(&stream, AV_PKT_DATA_DISPLAYMATRIX, &size);
+#endif
+    return size >= 9 * sizeof(qint32) ? reinterpret_cast<const qint32*>(data) : nullptr;
+}
+
+} // namespace QtAV
