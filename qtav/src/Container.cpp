@@ -254,6 +254,15 @@ bool Container::indexesAllPackets() const
     return isMp4(*m_format->iformat) || isAvi();
 }
 
+void Container::setMissingTimes(MissingTimes missing)
+{
+    m_missingTimes = missing;
+    if (missing == MissingTimes::Leave)
+        m_format->flags |= AVFMT_FLAG_NOFILLIN;
+    else
+        m_format->flags &= ~AVFMT_FLAG_NOFILLIN;
+}
+
 PacketAnswer Container::read(PacketPtr& packet)
 {
     if (m_isLost)
@@ -338,6 +347,7 @@ bool Container::reopen()
     m_view.format = std::move(view->format);
     m_view.stream = std::move(view->stream);
     m_format = m_view.format.get();
+    setMissingTimes(m_missingTimes);
     return true;
 }
 

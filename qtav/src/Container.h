@@ -63,6 +63,10 @@ public:
     /// FFmpeg knows all packets of a stream from the file's head or index.
     bool indexesAllPackets() const;
 
+    /// Whether FFmpeg makes up times that packets do not bear, as it does at first.
+    enum class MissingTimes { Guess, Leave };
+    void setMissingTimes(MissingTimes missing);
+
     /// Reads the next packet, of whatever stream.
     [[nodiscard]] PacketAnswer read(PacketPtr& packet);
 
@@ -146,6 +150,7 @@ private:
     qint64 m_startTicks = 0;
     AVRational m_startTimeBase{1, AV_TIME_BASE};
 
+    MissingTimes m_missingTimes = MissingTimes::Guess;
     int m_failures = 0;
     bool m_isLost = false;
     QString m_errorText;

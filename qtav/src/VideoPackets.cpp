@@ -17,18 +17,20 @@ bool isOrderedByType(AVCodecID codec)
            codec == AV_CODEC_ID_MPEG4;
 }
 
-/// True for the end of a picture whose beginning was not read.
-bool isTail(AVCodecID codec, const AVPacket& packet)
+/// How many bytes of a packet belong to a picture whose beginning was not read.
+int tailBytes(AVCodecID codec, const AVPacket& packet)
 {
-    const qsizetype place = behindStartCode(packet.data, 0, packet.size);
-    if (place > 4 || place >= packet.size)
-        return true;
-    const uint8_t code = packet.data[place];
-    if (codec == AV_CODEC_ID_MPEG4)
-        return false;
     constexpr uint8_t FirstSlice = 0x01;
     constexpr uint8_t LastSlice = 0xaf;
-    return code >= FirstSlice && code <= LastSlice;
+    constexpr int StartCodeBytes = 4;
+    for (qsizetype i = behindStartCode(packet.data, 0, packet.size); i < packet.size;
+         i = behindStartCode(packet.data, i, packet.size)) {
+        const uint8_t code = packet.data[i];
+        const bool isSlice = codec != AV_CODEC_ID_MPEG4 && code >= FirstSlice && code <= LastSlice;
+        if (!isSlice)
+            return static_cast<int>(i) + 1 - StartCodeBytes;
+    }
+    return packet.size;
 }
 
 } // namespace
@@ -82,12 +84,15 @@ void VideoPackets::chooseOrder()
 {
     const AVCodecParameters& codec = *m_parameters->codec;
     const int delay = m_container.stream(m_stream).codecpar->video_delay;
-    if (m_isRaw || (m_container.isAvi() && delay > 0))
-        m_order =
-            std::make_unique<PresentationOrder>(codec, delay, PresentationOrder::Times::OfDecoding);
-    else if (m_container.isTransmission() && isOrderedByType(codec.codec_id))
-        m_order =
-            std::make_unique<PresentationOrder>(codec, delay, PresentationOrder::Times::WithGaps);
+    const AVRational timeBase = timeline().timeBase();
+    using Times = PresentationOrder::Times;
+    if (m_isRaw || (m_container.isAvi() && delay > 0)) {
+        m_order = std::make_unique<PresentationOrder>(codec, delay, Times::OfDecoding, timeBase);
+    } else if (m_container.isTransmission() && isOrderedByType(codec.codec_id)) {
+        m_order = std::make_unique<PresentationOrder>(codec, delay, Times::WithGaps, timeBase);
+        // FFmpeg's guesses can give two pictures the same time.
+        m_container.setMissingTimes(Container::MissingTimes::Leave);
+    }
 }
 
 PacketAnswer VideoPackets::read(PacketPtr& packet)
@@ -148,17 +153,20 @@ void VideoPackets::order(PacketPtr packet)
     takeOrdered();
 }
 
-/// Reading a transmission from the middle may begin with the end of a picture. FFmpeg gives that
-/// the time of the picture which begins behind it. True for such an end, which is of no use.
+/// Reading a transmission from the middle may begin with the end of a picture, which is of no use.
+/// FFmpeg puts it before the next picture, or gives it that one's time. True where nothing is left.
 bool VideoPackets::joinsBehindTail(AVPacket& packet)
 {
     if (!m_joins)
         return false;
-    if (isTail(m_parameters->codec->codec_id, packet)) {
+    const int tail = tailBytes(m_parameters->codec->codec_id, packet);
+    if (tail == packet.size) {
         m_tailTicks = packet.pts;
         return true;
     }
     m_joins = false;
+    packet.data += tail;
+    packet.size -= tail;
     if (packet.pts == AV_NOPTS_VALUE)
         packet.pts = m_tailTicks;
     return false;
