@@ -34,6 +34,8 @@ std::optional<DurationProbe::Length> DurationProbe::checkedStatement()
     const qint64 stated = m_container.statedDuration();
     if (stated == 0)
         return std::nullopt;
+    if (m_video && m_container.durationIsMeasured() && m_video->hasMissingTimes())
+        return Length{std::max(stated, endOfPictures(stated)), true};
     if (!m_video || m_container.durationIsMeasured())
         return Length{stated, m_container.durationIsMeasured()};
 
@@ -52,6 +54,24 @@ std::optional<DurationProbe::Length> DurationProbe::checkedStatement()
     if (isClose || end.ms + roundingMs >= stated)
         return Length{stated, false};
     return std::nullopt;
+}
+
+/// FFmpeg measures by the last packet that bears a time.
+qint64 DurationProbe::endOfPictures(qint64 statedMs)
+{
+    constexpr qint64 LongestGapMs = 2000;
+    qint64 end = 0;
+    if (!m_video->seekNear(std::max<qint64>(0, statedMs - LongestGapMs)))
+        return end;
+    for (PacketPtr packet;;) {
+        const PacketAnswer answer = m_video->read(packet);
+        if (answer == PacketAnswer::Failed && m_video->canGoOn())
+            continue;
+        if (answer != PacketAnswer::Packet)
+            return end;
+        const qint64 ticks = presentationTicks(*packet) + m_video->frameTicks(*packet);
+        end = std::max(end, m_video->timeline().milliseconds(ticks));
+    }
 }
 
 /// An index tells for nothing whether pictures follow; else a look at the rest, if it is short.

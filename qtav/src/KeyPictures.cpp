@@ -100,10 +100,14 @@ bool isMpegKey(const uint8_t* data, qsizetype size)
     return false;
 }
 
-/// MPEG-4: two bits of type, 0 for intra. Some writers begin a packet with an empty picture.
+/// MPEG-4: two bits of type, 0 for intra. The empty picture that ends a pack of pictures has the
+/// type of the first of them.
 bool isMpeg4Key(const uint8_t* data, qsizetype size)
 {
     constexpr uint8_t Picture = 0xb6;
+    constexpr qsizetype LargestEmptyPicture = 19;
+    if (size <= LargestEmptyPicture)
+        return false;
     for (qsizetype i = behindStartCode(data, 0, size); i + 1 < size;
          i = behindStartCode(data, i, size)) {
         if (data[i] == Picture)

@@ -90,6 +90,7 @@ void VideoPackets::chooseOrder()
         m_order = std::make_unique<PresentationOrder>(codec, delay, Times::OfDecoding, timeBase);
     } else if (m_container.isTransmission() && isOrderedByType(codec.codec_id)) {
         m_order = std::make_unique<PresentationOrder>(codec, delay, Times::WithGaps, timeBase);
+        m_fillsGaps = true;
         // FFmpeg's guesses can give two pictures the same time.
         m_container.setMissingTimes(Container::MissingTimes::Leave);
     }

@@ -57,6 +57,12 @@ public:
     /// Opens the file anew, see Container::reopen().
     [[nodiscard]] bool reopen();
 
+    /// The container leaves some packets without a time, also at the end of the file.
+    bool hasMissingTimes() const { return m_fillsGaps; }
+
+    /// How long the picture of a packet is shown, in ticks, as far as the stream says.
+    qint64 frameTicks(const AVPacket& packet) const;
+
     bool isRawStream() const { return m_isRaw; }
     /// The length of a raw stream in milliseconds; 0 for others.
     qint64 rawLengthMs() const { return timeline().milliseconds(m_rawIndex.lengthTicks()); }
@@ -71,7 +77,6 @@ private:
     void takeOrdered();
     void flagKey(AVPacket& packet) const;
     void setMissingTime(AVPacket& packet);
-    qint64 frameTicks(const AVPacket& packet) const;
     bool seekInRawStream(qint64 ms);
     void forgetPosition();
 
@@ -82,6 +87,7 @@ private:
     std::shared_ptr<const StreamParameters> m_parameters;
     BitstreamFilterPtr m_unpackBFrames;
     std::unique_ptr<PresentationOrder> m_order; ///< null where the container times all packets
+    bool m_fillsGaps = false;
     std::optional<KeyPictures> m_keyPictures;
     RawStreamIndex m_rawIndex;
 
