@@ -6,9 +6,16 @@
 
 namespace decoding {
 
+QString text(const Shown& shown)
+{
+    const QString number = shown.number < 0 ? QStringLiteral("an unreadable frame")
+                                            : QStringLiteral("frame %1").arg(shown.number);
+    return QStringLiteral("%1 at %2 ms").arg(number).arg(shown.ms);
+}
+
 char* toString(const Shown& shown)
 {
-    return QTest::toString(QStringLiteral("frame %1 at %2 ms").arg(shown.number).arg(shown.ms));
+    return QTest::toString(text(shown));
 }
 
 Player::Player(const QString& path, int threads)
@@ -61,11 +68,16 @@ Shown shown(const QtAV::VideoFrame& frame)
     return {number.value_or(-1), static_cast<qint64>(frame.timestamp() * 1000.0)};
 }
 
+Shown expected(const testsupport::Sample& sample, int n)
+{
+    return {sample.firstNumber + n, testsupport::frameTimeMs(sample, n)};
+}
+
 QList<Shown> expectedFrom(const testsupport::Sample& sample, int n)
 {
     QList<Shown> all;
     for (int i = n; i < sample.frames; ++i)
-        all.append({sample.firstNumber + i, testsupport::frameTimeMs(sample, i)});
+        all.append(expected(sample, i));
     return all;
 }
 

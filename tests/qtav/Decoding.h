@@ -22,7 +22,10 @@ struct Shown
     bool operator==(const Shown& other) const { return number == other.number && ms == other.ms; }
 };
 
-/// For the messages of failed comparisons.
+/// "frame 5 at 200 ms", for messages and comparisons.
+[[nodiscard]] QString text(const Shown& shown);
+
+/// The same for the messages of failed comparisons.
 char* toString(const Shown& shown);
 
 /// An open file with a decoder for its selected video stream.
@@ -51,6 +54,9 @@ private:
 };
 
 [[nodiscard]] Shown shown(const QtAV::VideoFrame& frame);
+
+/// What the n-th shown frame of a sample, counted from 0, must be.
+[[nodiscard]] Shown expected(const testsupport::Sample& sample, int n);
 
 /// What must come out from the n-th shown frame of a sample on.
 [[nodiscard]] QList<Shown> expectedFrom(const testsupport::Sample& sample, int n);

@@ -1,6 +1,7 @@
 #include "qtav/player/FrameSource.h"
 
 #include "tests/qtav/Decoding.h"
+#include "tests/support/FramePositions.h"
 
 #include <QTest>
 
@@ -176,17 +177,14 @@ void FrameSourceTest::mixedStepsAndSeeks_endOnTheRightFrame()
             const qint64 ms = qint64(random() % quint32(lastMs + 200));
             found = source.frameAt(ms, never);
             QCOMPARE(found.answer, FrameAnswer::Frame);
-            n = 0;
-            while (n + 1 < sample.frames && testsupport::frameTimeMs(sample, n) < ms)
-                ++n;
+            n = testsupport::frameFrom(sample, ms);
         }
         if (found.answer == FrameAnswer::Frame)
             frame = found.frame;
         source.setFocus(frame.timestamp());
         for (auto fills = random() % 20; fills > 0 && source.fillBehind(never);)
             --fills;
-        const Shown expected{sample.firstNumber + n, testsupport::frameTimeMs(sample, n)};
-        QCOMPARE(shown(frame), expected);
+        QCOMPARE(shown(frame), expected(sample, n));
     }
 }
 

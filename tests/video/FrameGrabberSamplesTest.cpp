@@ -1,7 +1,8 @@
 #include "video/FrameGrabber.h"
 
-#include "tests/support/FrameNumber.h"
+#include "tests/support/FramePositions.h"
 #include "tests/support/Samples.h"
+#include "tests/video/Extraction.h"
 
 #include <QSet>
 #include <QTest>
@@ -9,42 +10,15 @@
 #include <algorithm>
 #include <limits>
 
+using extraction::Extractor;
+using testsupport::frameFrom;
 using testsupport::frameTimeMs;
+using testsupport::Mistakes;
 using testsupport::Sample;
 using testsupport::samplePath;
 using testsupport::Trait;
 
 namespace {
-
-/// What the last extraction of a grabber gave.
-class Outcome
-{
-public:
-    explicit Outcome(FrameGrabber& grabber)
-    {
-        QObject::connect(&grabber, &FrameGrabber::frameExtracted, &grabber,
-                         [this](const QtAV::VideoFrame& frame) {
-                             m_image = frame.toImage();
-                             m_problem.clear();
-                         });
-        QObject::connect(&grabber, &FrameGrabber::error, &grabber,
-                         [this](const QString& message) { m_problem = message; });
-    }
-
-    /// The frame's number, or what went wrong.
-    QString text() const
-    {
-        if (!m_problem.isEmpty()) {
-            return m_problem;
-        }
-        const auto number = testsupport::frameNumber(m_image);
-        return number ? QString::number(*number) : QStringLiteral("no readable number");
-    }
-
-private:
-    QImage m_image;
-    QString m_problem = QStringLiteral("no signal");
-};
 
 /// The key frame that a seek finds, counted among the shown frames; -1 for one that is never shown.
 int keyFrameFor(const Sample& sample, qint64 target)
@@ -60,15 +34,6 @@ int keyFrameFor(const Sample& sample, qint64 target)
     return found < 0 && !hiddenKey && !keys.isEmpty() ? keys.first() : found;
 }
 
-int firstFrameFrom(const Sample& sample, qint64 target)
-{
-    int n = 0;
-    while (n < sample.frames && frameTimeMs(sample, n) < target) {
-        ++n;
-    }
-    return n;
-}
-
 /// The shown frame that must come out, counted from 0.
 int expectedFrame(const Sample& sample, qint64 target, int precision)
 {
@@ -77,30 +42,28 @@ int expectedFrame(const Sample& sample, qint64 target, int precision)
     if (key >= 0 && isWhole && std::abs(frameTimeMs(sample, key) - target) <= precision) {
         return key;
     }
-    return std::min(firstFrameFrom(sample, target), sample.frames - 1);
+    return frameFrom(sample, target);
 }
 
-QString expectedNumber(const Sample& sample, qint64 target, int precision)
+QString expectedAnswer(const Sample& sample, qint64 target, int precision)
 {
-    return QString::number(sample.firstNumber + expectedFrame(sample, target, precision));
+    return text(decoding::expected(sample, expectedFrame(sample, target, precision)));
 }
 
 /// An intra-refresh stream has no whole picture near most of its key packets: the first one may
 /// come later, within tolerance or not, but never before the target.
-bool isAnswer(const Sample& sample, const QString& outcome, qint64 target, int precision)
+bool isAnswer(const Sample& sample, const Extractor& extractor, qint64 target, int precision)
 {
-    if (outcome == expectedNumber(sample, target, precision)) {
+    if (extractor.answer() == expectedAnswer(sample, target, precision)) {
         return true;
     }
     if (!sample.has(Trait::IntraRefresh)) {
         return false;
     }
-    bool isNumber = false;
-    const int frame = outcome.toInt(&isNumber);
-    if (!isNumber) {
-        return outcome.contains(QLatin1String("out pts out of range"));
+    if (!extractor.frame()) {
+        return extractor.answer().contains(QLatin1String("out pts out of range"));
     }
-    const qint64 late = frameTimeMs(sample, frame) - target;
+    const qint64 late = extractor.frame()->ms - target;
     return late >= 0 && late <= precision;
 }
 
@@ -187,17 +150,17 @@ void FrameGrabberSamplesTest::addSamples()
 void FrameGrabberSamplesTest::checkTargets(const Sample& sample, FrameGrabber& grabber,
                                            const QList<qint64>& targets)
 {
-    const Outcome outcome(grabber);
-    QStringList wrong;
+    Extractor extractor(grabber);
+    Mistakes mistakes;
     for (const qint64 target : targets) {
-        grabber.extractInternal(target);
-        if (!isAnswer(sample, outcome.text(), target, grabber.getPrecision())) {
-            wrong.append(QStringLiteral("%1 ms: %2 instead of %3")
-                             .arg(QString::number(target), outcome.text(),
-                                  expectedNumber(sample, target, grabber.getPrecision())));
-        }
+        extractor.extract(target);
+        const int precision = grabber.getPrecision();
+        const QString right = expectedAnswer(sample, target, precision);
+        const bool isRight = isAnswer(sample, extractor, target, precision);
+        mistakes.compare(QStringLiteral("%1 ms").arg(target), isRight ? right : extractor.answer(),
+                         right);
     }
-    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QStringLiteral("; "))));
+    QVERIFY2(mistakes.isEmpty(), qPrintable(mistakes.text()));
 }
 
 void FrameGrabberSamplesTest::extract_givesTheRightFrame_atRisingPositions()

@@ -1,0 +1,50 @@
+#include "tests/qtav/Cores.h"
+
+#include "tests/qtav/Decoding.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace decoding;
+
+namespace {
+
+/// How many threads this process has.
+int threads()
+{
+    return QDir(QStringLiteral("/proc/self/task"))
+        .entryList(QDir::Dirs | QDir::NoDotAndDotDot)
+        .size();
+}
+
+/// How many threads a decoder brings that is opened on a machine with so many cores.
+int threadsOfDecoder(int cores)
+{
+    const PretendedCores pretended(cores);
+    const int before = threads();
+    const Player player(testsupport::samplePath(QStringLiteral("h264_bframes.mp4")));
+    return player.isReady() ? threads() - before : -1;
+}
+
+} // namespace
+
+/// Whether tests that pretend to run on other machines do.
+class CoresTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void decoder_hasAThreadMoreThanCores_exceptForOne();
+};
+
+void CoresTest::decoder_hasAThreadMoreThanCores_exceptForOne()
+{
+    QCOMPARE(threadsOfDecoder(1), 0);
+    QCOMPARE(threadsOfDecoder(2), 3);
+    QCOMPARE(threadsOfDecoder(8), 9);
+    QCOMPARE(threadsOfDecoder(15), 16);
+    QCOMPARE(threadsOfDecoder(64), 16);
+}
+
+QTEST_GUILESS_MAIN(CoresTest)
+#include "CoresTest.moc"
