@@ -199,7 +199,7 @@ private:
         QString error;
         if (!source.open(m_player.file(), m_player.frameCacheSize(), isCancelled, error))
             return failure(error);
-        const QtAV::FrameSource::Found found = source.frameAt(ms, isCancelled);
+        const QtAV::FrameResult found = source.frameAt(ms, isCancelled);
         source.setFocus(found.frame.timestamp());
         while (source.fillBehind(isCancelled)) {
         }

@@ -143,8 +143,10 @@ void AVPlayer::play()
         d->openFile();
         return;
     }
-    if (d->status == EndOfMedia)
+    const bool isAtEnd = d->status == EndOfMedia;
+    if (isAtEnd)
         d->seek(0);
+    d->startsOverAtEnd = !isAtEnd;
     d->engine.setPlaying(true);
     d->setState(PlayingState);
     Q_EMIT paused(false);
@@ -185,11 +187,11 @@ void AVPlayer::stepBackward()
     d->step(PlaybackEngine::Direction::Backward);
 }
 
-void AVPlayer::heedEngine()
+void AVPlayer::handleEngine()
 {
     for (const PlaybackEngine::Answer& answer : d->engine.takeAnswers()) {
         if (answer.serial >= d->openSerial)
-            d->heed(answer);
+            d->handle(answer);
     }
     presentDue();
 }

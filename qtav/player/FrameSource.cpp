@@ -72,10 +72,16 @@ void FrameSource::close()
     m_reader.close();
     m_cache.clear();
     m_lastTime.reset();
+    m_latestMs = 0;
     m_filledUpTo.reset();
     m_longestGapMs = UsualGapMs;
     m_focus = 0.0;
     m_stepsBack = 0;
+}
+
+qint64 FrameSource::duration() const
+{
+    return std::max(m_reader.demuxer().duration(), m_latestMs);
 }
 
 int FrameSource::frameInterval() const
@@ -100,6 +106,7 @@ void FrameSource::keep()
     const VideoFrame& frame = m_reader.lastFrame();
     const double time = frame.timestamp();
     const std::optional<double> predecessor = m_reader.predecessor();
+    m_latestMs = std::max(m_latestMs, toMilliseconds(time));
     if (m_reader.isAtFirstOfVideo())
         m_cache.setFirst(time);
     if (predecessor)
@@ -158,6 +165,23 @@ FrameResult FrameSource::after(double seconds, const IsCancelled& isCancelled)
     FrameResult found = look(isShortlyBefore(seconds), searchFor(ms, ms, isReached), isCancelled);
     const bool isNone = found.answer == FrameAnswer::Frame && !isReached(found.frame);
     return isNone ? FrameResult{FrameAnswer::End} : found;
+}
+
+FrameResult FrameSource::decodeAnew(double seconds, const IsCancelled& isCancelled)
+{
+    leaveWalkBehind();
+    const auto isReached = [seconds](const VideoFrame& frame) {
+        return frame.timestamp() >= seconds;
+    };
+    const qint64 ms = toMilliseconds(seconds);
+    FrameResult found = look(false, searchFor(ms, ms, isReached), isCancelled);
+    const bool isOther = found.answer == FrameAnswer::Frame && found.frame.timestamp() != seconds;
+    if (isOther || found.answer == FrameAnswer::End)
+        return {
+            FrameAnswer::Failed,
+            {},
+            QCoreApplication::translate("QtAV::AVPlayer", "The frame cannot be read any more.")};
+    return found;
 }
 
 FrameReader::Search FrameSource::searchFor(qint64 ms, qint64 completeFrom,

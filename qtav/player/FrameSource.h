@@ -34,8 +34,8 @@ public:
     void close();
     bool isOpen() const { return m_reader.isOpen(); }
 
-    /// In milliseconds; 0 when nothing is open.
-    qint64 duration() const { return m_reader.demuxer().duration(); }
+    /// In milliseconds, 0 when nothing is open. Grows when frames lie behind the stated end.
+    qint64 duration() const;
     /// The usual time between two frames in milliseconds, 1 or more.
     int frameInterval() const;
     bool hasSound() const { return !m_reader.demuxer().audioStreams().isEmpty(); }
@@ -48,6 +48,10 @@ public:
 
     /// The frame directly before the one of that time in seconds; none before the first.
     [[nodiscard]] FrameResult before(double seconds, const IsCancelled& isCancelled);
+
+    /// The frame of that time in seconds, decoded anew: in its full size whatever is kept of it.
+    /// Failed when the file does not give it any more.
+    [[nodiscard]] FrameResult decodeAnew(double seconds, const IsCancelled& isCancelled);
 
     /// The time in seconds around which frames are kept and before which they are decoded ahead.
     void setFocus(double seconds);
@@ -102,6 +106,7 @@ private:
     FrameCache m_cache;
     FrameReader m_reader;
     std::optional<double> m_lastTime; ///< of the video's last frame, once it has been seen
+    qint64 m_latestMs = 0;            ///< the time of the latest frame that has been seen
     qint64 m_longestGapMs = 0;        ///< between two neighbours that have been seen
     double m_focus = 0.0;
     int m_stepsBack = 0; ///< since the last seek or step forward

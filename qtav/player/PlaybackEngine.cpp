@@ -22,84 +22,62 @@ PlaybackEngine::~PlaybackEngine()
 {
     {
         const std::lock_guard lock(m_mutex);
-        m_quits = true;
-        leaveFile();
-        m_commandWaits = true;
+        m_commands.quit();
     }
     m_changed.notify_one();
     m_thread.join();
 }
 
 /// Called with the mutex held, as are all below that touch what it guards.
-quint64 PlaybackEngine::post()
+quint64 PlaybackEngine::posted(quint64 serial)
 {
-    m_commandWaits = true;
     m_changed.notify_one();
-    return ++m_serial;
-}
-
-void PlaybackEngine::dropPending()
-{
-    m_seek.reset();
-    m_steps.clear();
-    forgetQueue();
-    m_replacementWaits = true;
+    return serial;
 }
 
 void PlaybackEngine::forgetQueue()
 {
     m_queue.clear();
     m_ended = false;
+    m_failure.reset();
     ++m_queueGeneration;
-}
-
-void PlaybackEngine::leaveFile()
-{
-    dropPending();
-    m_open.reset();
-    m_current = VideoFrame();
-    m_otherFileWaits = true;
 }
 
 quint64 PlaybackEngine::open(const QString& path, qint64 cacheBytes)
 {
     const std::lock_guard lock(m_mutex);
-    leaveFile();
-    const quint64 serial = post();
-    m_open = OpenRequest{path, cacheBytes, serial};
-    return serial;
+    forgetQueue();
+    m_current = VideoFrame();
+    return posted(m_commands.open(path, cacheBytes));
 }
 
 quint64 PlaybackEngine::close()
 {
     const std::lock_guard lock(m_mutex);
-    leaveFile();
-    m_closes = true;
+    forgetQueue();
+    m_current = VideoFrame();
     m_playing = false;
-    return post();
+    return posted(m_commands.close());
 }
 
 quint64 PlaybackEngine::seek(qint64 ms)
 {
     const std::lock_guard lock(m_mutex);
-    dropPending();
-    const quint64 serial = post();
-    m_seek = SeekRequest{ms, serial};
-    return serial;
+    forgetQueue();
+    return posted(m_commands.seek(ms));
 }
 
 quint64 PlaybackEngine::step(Direction direction)
 {
     const std::lock_guard lock(m_mutex);
-    const quint64 serial = post();
-    m_steps.push_back({direction, serial});
-    return serial;
+    return posted(m_commands.step(direction));
 }
 
 void PlaybackEngine::setPlaying(bool playing)
 {
     const std::lock_guard lock(m_mutex);
     m_playing = playing;
+    m_failure.reset();
     m_mayFillBehind = true;
     m_catchUpTo = 0.0;
     m_changed.notify_one();
@@ -127,14 +105,18 @@ PlaybackEngine::Due PlaybackEngine::takeDue(double seconds, CatchUp catchUp)
     if (!m_queue.empty())
         due.next = m_queue.front().timestamp();
     due.isEnded = m_ended && m_queue.empty();
+    if (m_queue.empty())
+        due.failure = m_failure;
+    due.duration = m_duration;
     m_catchUpTo = catchUp == CatchUp::Yes ? seconds : 0.0;
-    m_ownerWaitsForFrames = m_queue.empty() && !m_ended;
+    m_ownerWaitsForFrames = m_queue.empty() && !m_ended && !m_failure;
     m_changed.notify_one();
     return due;
 }
 
 void PlaybackEngine::answer(Answer answer)
 {
+    answer.duration = m_duration;
     m_answers.push_back(std::move(answer));
     wakeOwner();
 }
@@ -148,7 +130,7 @@ void PlaybackEngine::wakeOwner()
 void PlaybackEngine::run()
 {
     Lock lock(m_mutex);
-    while (!m_quits) {
+    while (!m_commands.quits()) {
         if (!workOnce(lock))
             m_changed.wait(lock);
     }
@@ -157,14 +139,12 @@ void PlaybackEngine::run()
 /// Does what is most urgent; false when there is nothing to do.
 bool PlaybackEngine::workOnce(Lock& lock)
 {
-    m_otherFileWaits = false;
-    m_replacementWaits = false;
-    m_commandWaits = !m_steps.empty();
-    if (m_closes || m_open)
-        openFile(lock);
-    else if (m_seek)
+    m_commands.acknowledge();
+    if (m_commands.hasFile())
+        replaceFile(lock);
+    else if (m_commands.hasSeek())
         carryOutSeek(lock);
-    else if (!m_steps.empty())
+    else if (m_commands.nextStep())
         carryOutStep(lock);
     else if (wantsFrames())
         decodeAhead(lock);
@@ -175,33 +155,27 @@ bool PlaybackEngine::workOnce(Lock& lock)
     return true;
 }
 
-void PlaybackEngine::openFile(Lock& lock)
+void PlaybackEngine::replaceFile(Lock& lock)
 {
-    m_closes = false;
-    const std::optional<OpenRequest> request = std::exchange(m_open, std::nullopt);
+    const PlaybackCommands::File file = m_commands.takeFile();
     lock.unlock();
-    Answer result;
+    const IsCancelled isCancelled = [this] { return m_commands.isFileOutdated(); };
     m_source.close();
-    bool succeeded = false;
-    if (request)
-        succeeded = m_source.open(
-            request->path, request->cacheBytes, [this] { return m_otherFileWaits.load(); },
-            result.error);
-    FrameResult first;
-    if (succeeded)
-        first = m_source.frameAt(0, [] { return false; });
+    FrameResult first{FrameAnswer::Cancelled};
+    QString error;
+    if (!file.path.isEmpty()) {
+        const bool succeeded = m_source.open(file.path, file.cacheBytes, isCancelled, error);
+        first = succeeded ? m_source.frameAt(0, isCancelled)
+                          : FrameResult{FrameAnswer::Failed, {}, error};
+    }
     lock.lock();
-    if (!request || m_open || m_closes || m_quits)
+    m_duration = m_source.duration();
+    if (file.path.isEmpty() || m_commands.isFileOutdated())
         return;
-    result.serial = request->serial;
-    result.kind = succeeded ? Answer::Kind::Opened : Answer::Kind::OpenFailed;
-    result.duration = m_source.duration();
-    result.frameInterval = m_source.frameInterval();
-    result.hasSound = m_source.hasSound();
-    if (succeeded)
+    if (first.answer == FrameAnswer::Frame)
         becomeCurrent(first.frame);
-    result.frame = first.frame;
-    answer(std::move(result));
+    answer({Answer::Kind::Opened, file.serial, first, 0, m_source.frameInterval(),
+            m_source.hasSound()});
 }
 
 void PlaybackEngine::becomeCurrent(const VideoFrame& frame)
@@ -216,54 +190,64 @@ void PlaybackEngine::becomeCurrent(const VideoFrame& frame)
 
 void PlaybackEngine::carryOutSeek(Lock& lock)
 {
-    const SeekRequest request = *std::exchange(m_seek, std::nullopt);
+    const PlaybackCommands::Seek seek = m_commands.takeSeek();
     if (!m_source.isOpen())
         return;
+    const VideoFrame current = m_current;
     lock.unlock();
-    const FrameResult found =
-        m_source.frameAt(request.ms, [this] { return m_replacementWaits.load(); });
+    const IsCancelled isCancelled = [this] { return m_commands.isSeekOutdated(); };
+    FrameResult found = m_source.frameAt(seek.ms, isCancelled);
+    if (found.answer == FrameAnswer::Failed)
+        found = stayingAt(current, std::move(found), isCancelled);
     lock.lock();
-    if (found.answer == FrameAnswer::Cancelled || m_replacementWaits)
+    m_duration = m_source.duration();
+    if (found.answer == FrameAnswer::Cancelled || m_commands.isSeekOutdated())
         return;
-    const bool isFound = found.answer == FrameAnswer::Frame;
-    if (isFound)
+    if (found.answer == FrameAnswer::Frame)
         becomeCurrent(found.frame);
-    Answer result;
-    result.kind = isFound ? Answer::Kind::Sought : Answer::Kind::SeekFailed;
-    result.serial = request.serial;
-    result.frame = found.frame;
-    answer(std::move(result));
+    answer({Answer::Kind::Sought, seek.serial, std::move(found)});
+}
+
+/// A place that cannot be read costs only itself: the frame on screen stays as long as it could
+/// still be had from the file.
+FrameResult PlaybackEngine::stayingAt(const VideoFrame& frame, FrameResult failed,
+                                      const IsCancelled& isCancelled)
+{
+    if (!frame.isValid())
+        return failed;
+    const FrameResult again = m_source.decodeAnew(frame.timestamp(), isCancelled);
+    if (again.answer == FrameAnswer::Cancelled)
+        return again;
+    return again.answer == FrameAnswer::Frame ? again : failed;
 }
 
 void PlaybackEngine::carryOutStep(Lock& lock)
 {
-    const StepRequest request = m_steps.front();
-    m_steps.pop_front();
-    if (!m_source.isOpen() || !m_current.isValid())
-        return;
+    const PlaybackCommands::Step step = m_commands.takeStep();
+    const bool canStep = m_source.isOpen() && m_current.isValid();
     const double from = m_current.timestamp();
     lock.unlock();
-    const IsCancelled isCancelled = [this] { return m_replacementWaits.load(); };
-    const FrameResult found = request.direction == Direction::Forward
-                                  ? m_source.after(from, isCancelled)
-                                  : m_source.before(from, isCancelled);
+    const IsCancelled isCancelled = [this] { return m_commands.isStepOutdated(); };
+    FrameResult found{FrameAnswer::Cancelled};
+    if (canStep)
+        found = step.direction == Direction::Forward ? m_source.after(from, isCancelled)
+                                                     : m_source.before(from, isCancelled);
     lock.lock();
-    if (found.answer == FrameAnswer::Cancelled || m_replacementWaits)
+    m_duration = m_source.duration();
+    const bool isWanted = m_commands.endStep();
+    if (found.answer == FrameAnswer::Cancelled || !isWanted)
         return;
     if (found.answer == FrameAnswer::Frame)
         becomeCurrent(found.frame);
-    Answer result;
-    result.kind = Answer::Kind::Stepped;
-    result.serial = request.serial;
-    result.frame = found.frame;
-    answer(std::move(result));
+    answer({Answer::Kind::Stepped, step.serial, std::move(found)});
 }
 
 bool PlaybackEngine::wantsFrames() const
 {
     const bool isLarge = m_current.byteCount() >= LargeFrameBytes;
     const size_t most = isLarge ? MostQueuedLargeFrames : MostQueuedFrames;
-    return m_playing && m_current.isValid() && !m_ended && m_queue.size() < most;
+    const bool canGoOn = !m_ended && !m_failure;
+    return m_playing && m_current.isValid() && canGoOn && m_queue.size() < most;
 }
 
 void PlaybackEngine::decodeAhead(Lock& lock)
@@ -274,19 +258,22 @@ void PlaybackEngine::decodeAhead(Lock& lock)
     const quint64 generation = m_queueGeneration;
     lock.unlock();
     m_source.setFocus(current);
-    const IsCancelled isCancelled = [this] { return m_commandWaits.load(); };
+    const IsCancelled isCancelled = [this] { return m_commands.hasArrived(); };
     FrameResult found;
     if (from < catchUpTo - MostLagSeconds)
         found = m_source.frameAt(toMilliseconds(catchUpTo), isCancelled);
     else
         found = m_source.after(from, isCancelled);
     lock.lock();
+    m_duration = m_source.duration();
     if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled)
         return;
     // Catching up at the end of the video may give the frame that was there before.
     const bool isNew = found.answer == FrameAnswer::Frame && found.frame.timestamp() > from;
     if (isNew)
         m_queue.push_back(found.frame);
+    else if (found.answer == FrameAnswer::Failed)
+        m_failure = found.error;
     else
         m_ended = true;
     if (std::exchange(m_ownerWaitsForFrames, false))
@@ -301,8 +288,9 @@ void PlaybackEngine::decodeBehind(Lock& lock)
     }
     m_source.setFocus(m_current.timestamp());
     lock.unlock();
-    const bool goesOn = m_source.fillBehind([this] { return m_commandWaits.load(); });
+    const bool goesOn = m_source.fillBehind([this] { return m_commands.hasArrived(); });
     lock.lock();
+    m_duration = m_source.duration();
     if (!goesOn)
         m_mayFillBehind = false;
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "qtav/player/FrameSource.h"
+#include "qtav/player/PlaybackCommands.h"
 
 #include <QString>
 
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -16,37 +16,33 @@
 
 namespace QtAV {
 
-/// The decoding thread of one player and its mailbox.
+/// The decoding thread of one player.
 ///
-/// Commands are posted from the owner's thread and never wait. Each bears a serial number, which
-/// its answer repeats. A seek replaces the seeks and steps that have not been answered yet, and so
-/// do opening and closing; steps are carried out one by one. While playing, frames are decoded
-/// ahead into a bounded queue, from which the owner takes them when they are due; while not, what
-/// lies before the current frame is decoded into the cache.
+/// Commands are posted from the owner's thread and never wait, see PlaybackCommands. Each bears a
+/// serial number, which its answer repeats; a command that is replaced by a newer one, or cancelled
+/// by a step in the other direction, is not answered. Steps are carried out one by one. While
+/// playing, frames are decoded ahead into a bounded queue, from which the owner takes them when
+/// they are due; while not, what lies before the current frame is decoded into the cache.
 ///
 /// All public functions are for the owner's thread.
 class PlaybackEngine
 {
 public:
-    enum class Direction { Forward, Backward };
+    using Direction = PlaybackCommands::Direction;
 
     struct Answer
     {
-        enum class Kind {
-            Opened,     ///< the file plays; all but error holds
-            OpenFailed, ///< error holds
-            Sought,     ///< frame holds
-            SeekFailed, ///< no frame can be had any more
-            Stepped,    ///< frame is invalid where there is none in that direction
-        };
+        enum class Kind { Opened, Sought, Stepped };
 
-        Kind kind = Kind::SeekFailed;
+        Kind kind = Kind::Sought;
         quint64 serial = 0;
-        VideoFrame frame = {};
-        qint64 duration = 0; ///< in milliseconds
+        /// Opened: Frame when the file plays, else Failed. Sought: Frame, or Failed when no frame
+        /// can be had from the file any more. Stepped: End where there is none in that direction,
+        /// Failed where it cannot be read.
+        FrameResult result = {};
+        qint64 duration = 0; ///< as far as it is known, in milliseconds; it may grow
         int frameInterval = 0;
         bool hasSound = false;
-        QString error = {};
     };
 
     /// What the queue holds for a moment of playback.
@@ -56,6 +52,9 @@ public:
         std::optional<double> next = {}; ///< the time of the frame after it in seconds
         int dropped = 0;                 ///< frames that came too late to be shown
         bool isEnded = false;            ///< nothing comes after `frame`
+        /// Why nothing can be had after `frame`; nothing while more may come, or none is there.
+        std::optional<QString> failure = {};
+        qint64 duration = 0; ///< as far as it is known, in milliseconds
     };
 
     enum class CatchUp { No, Yes };
@@ -96,67 +95,43 @@ public:
     Due takeDue(double seconds, CatchUp catchUp);
 
 private:
-    struct OpenRequest
-    {
-        QString path;
-        qint64 cacheBytes;
-        quint64 serial;
-    };
-    struct SeekRequest
-    {
-        qint64 ms;
-        quint64 serial;
-    };
-    struct StepRequest
-    {
-        Direction direction;
-        quint64 serial;
-    };
     using Lock = std::unique_lock<std::mutex>;
 
     void run();
     bool workOnce(Lock& lock);
-    void openFile(Lock& lock);
+    void replaceFile(Lock& lock);
     void carryOutSeek(Lock& lock);
     void carryOutStep(Lock& lock);
     bool wantsFrames() const;
     void decodeAhead(Lock& lock);
     void decodeBehind(Lock& lock);
 
-    quint64 post();
-    void dropPending();
-    void leaveFile();
+    quint64 posted(quint64 serial);
     void forgetQueue();
     void becomeCurrent(const VideoFrame& frame);
+    FrameResult stayingAt(const VideoFrame& frame, FrameResult failed,
+                          const IsCancelled& isCancelled);
     void answer(Answer answer);
     void wakeOwner();
 
     const std::function<void()> m_wake;
-    // Asked by the decoding thread between two packets.
-    std::atomic<bool> m_commandWaits{false};     ///< any: decoding ahead and behind stop for it
-    std::atomic<bool> m_replacementWaits{false}; ///< one that seeks and steps stop for
-    std::atomic<bool> m_otherFileWaits{false};   ///< one that opening a file stops for
-
     std::mutex m_mutex;
-    // Guarded by m_mutex, down to m_quits.
+    // Guarded by m_mutex, down to m_ownerWaitsForFrames; m_commands where it does not say other.
     std::condition_variable m_changed;
-    quint64 m_serial = 0;
-    std::optional<OpenRequest> m_open;
-    std::optional<SeekRequest> m_seek;
-    std::deque<StepRequest> m_steps;
+    PlaybackCommands m_commands;
     std::vector<Answer> m_answers;
     VideoFrame m_current;
     std::deque<VideoFrame> m_queue;
     quint64 m_queueGeneration = 0; ///< changes when what is being decoded no longer belongs there
     double m_catchUpTo = 0.0;      ///< the time of the sound in seconds; 0 for none to follow
     std::chrono::steady_clock::time_point m_restsUntil; ///< nothing is filled before
-    bool m_closes = false;
+    qint64 m_duration = 0;                              ///< of the open file, in milliseconds
     bool m_playing = false;
-    bool m_ended = false; ///< the last frame is in the queue, or was
+    bool m_ended = false;             ///< the last frame is in the queue, or was
+    std::optional<QString> m_failure; ///< why nothing can be decoded behind the queue
     bool m_mayFillBehind = false;
     bool m_ownerIsWoken = false;
     bool m_ownerWaitsForFrames = false;
-    bool m_quits = false;
 
     FrameSource m_source; ///< of the decoding thread
     std::thread m_thread; ///< last, so that it finds everything made
