@@ -201,7 +201,7 @@ private:
             return failure(error);
         const QtAV::FrameResult found = source.frameAt(ms, isCancelled);
         source.setFocus(found.frame.timestamp());
-        while (source.fillBehind(isCancelled)) {
+        while (source.prepare(QtAV::FrameSource::longestRest, isCancelled)) {
         }
         return {{QStringLiteral("frames"), source.cache().frameCount()},
                 {QStringLiteral("bytes"), source.cache().byteCount()}};

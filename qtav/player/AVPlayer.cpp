@@ -189,10 +189,8 @@ void AVPlayer::stepBackward()
 
 void AVPlayer::handleEngine()
 {
-    for (const PlaybackEngine::Answer& answer : d->engine.takeAnswers()) {
-        if (answer.serial >= d->openSerial)
-            d->handle(answer);
-    }
+    for (const PlaybackEngine::Answer& answer : d->engine.takeAnswers())
+        d->handle(answer);
     presentDue();
 }
 

@@ -22,6 +22,7 @@ AVPlayer::Private::Private(AVPlayer* player)
     , audio(new AudioOutput(player))
     , engine([player] { QMetaObject::invokeMethod(player, "handleEngine", Qt::QueuedConnection); })
 {
+    capture->setTaker([this] { engine.capture(frame); });
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, q, &AVPlayer::presentDue);
@@ -58,7 +59,6 @@ void AVPlayer::Private::show(const VideoFrame& newFrame)
 {
     const qint64 before = q->displayPosition();
     frame = newFrame;
-    capture->setFrame(frame);
     const QSize size = frame.isValid() ? frame.displaySize() : QSize(0, 0);
     statistics.video_only = {size.width(), size.height()};
     if (renderer)
@@ -126,6 +126,9 @@ void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
 {
     using Kind = PlaybackEngine::Answer::Kind;
     const bool isFrame = answer.result.answer == FrameAnswer::Frame;
+    // What was captured is answered also when the file has been closed since.
+    if (answer.serial < openSerial && answer.kind != Kind::Captured)
+        return;
     switch (answer.kind) {
     case Kind::Opened:
         isFrame ? opened(answer) : fail(answer.result.error);
@@ -138,6 +141,13 @@ void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
     case Kind::Stepped:
         if (answer.serial >= seekSerial && isFrame)
             stepped(answer);
+        break;
+    case Kind::Refined:
+        if (answer.result.frame.timestamp() == frame.timestamp() && frame.isScaledDown())
+            show(answer.result.frame);
+        break;
+    case Kind::Captured:
+        capture->deliver(answer.image);
         break;
     }
 }

@@ -55,9 +55,19 @@ quint64 PlaybackCommands::step(Direction direction)
     return m_stepSerial;
 }
 
+quint64 PlaybackCommands::capture(const VideoFrame& frame)
+{
+    if (m_captures.size() == mostWaitingCaptures)
+        return 0;
+    const quint64 serial = post();
+    m_captures.push_back({frame, serial});
+    return serial;
+}
+
 void PlaybackCommands::quit()
 {
     dropMoves();
+    m_captures.clear();
     m_file.reset();
     m_isFileOutdated = true;
     m_quits = true;
@@ -69,6 +79,13 @@ std::optional<PlaybackCommands::Direction> PlaybackCommands::nextStep() const
     if (m_steps == 0)
         return std::nullopt;
     return m_steps > 0 ? Direction::Forward : Direction::Backward;
+}
+
+PlaybackCommands::Capture PlaybackCommands::takeCapture()
+{
+    const Capture capture = m_captures.front();
+    m_captures.pop_front();
+    return capture;
 }
 
 PlaybackCommands::File PlaybackCommands::takeFile()

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QtAV/VideoFrame.h>
+
 #include <QString>
 #include <QtGlobal>
 
 #include <atomic>
+#include <deque>
 #include <optional>
 
 namespace QtAV {
@@ -36,9 +39,17 @@ public:
         Direction direction;
         quint64 serial;
     };
+    struct Capture
+    {
+        VideoFrame frame;
+        quint64 serial;
+    };
 
     /// One second of a keyboard's repeat: more would go on long after the key was released.
     static constexpr int mostWaitingSteps = 30;
+
+    /// More are asked for by mistake only, and each holds a frame.
+    static constexpr size_t mostWaitingCaptures = 8;
 
     /// Each gives the command's serial number, which rises. Further steps than may wait in one
     /// direction are dropped.
@@ -46,6 +57,8 @@ public:
     quint64 close();
     quint64 seek(qint64 ms);
     quint64 step(Direction direction);
+    /// Nothing replaces a capture. 0 when too many wait.
+    [[nodiscard]] quint64 capture(const VideoFrame& frame);
     /// The thread is to end. All that waits is dropped.
     void quit();
 
@@ -55,7 +68,10 @@ public:
     /// The direction of the next step that waits.
     std::optional<Direction> nextStep() const;
 
+    bool hasCapture() const { return !m_captures.empty(); }
+
     /// Each takes a command that waits; to be called only where there is one.
+    Capture takeCapture();
     File takeFile();
     Seek takeSeek();
     /// To be followed by endStep() once the step has been made or given up.
@@ -82,6 +98,7 @@ private:
     void dropMoves();
 
     quint64 m_serial = 0;
+    std::deque<Capture> m_captures;
     std::optional<File> m_file;
     std::optional<Seek> m_seek;
     int m_steps = 0; ///< that wait; negative ones go backward

@@ -1,5 +1,6 @@
 #include "qtav/player/PlaybackEngine.h"
 
+#include "qtav/player/StepPacing.h"
 #include "qtav/src/Times.h"
 
 #include <utility>
@@ -73,14 +74,29 @@ quint64 PlaybackEngine::step(Direction direction)
     return posted(m_commands.step(direction));
 }
 
+quint64 PlaybackEngine::capture(const VideoFrame& frame)
+{
+    const std::lock_guard lock(m_mutex);
+    const quint64 serial = m_commands.capture(frame);
+    if (serial == 0)
+        answer({Answer::Kind::Captured});
+    return posted(serial);
+}
+
 void PlaybackEngine::setPlaying(bool playing)
 {
     const std::lock_guard lock(m_mutex);
     m_playing = playing;
     m_failure.reset();
-    m_mayFillBehind = true;
+    m_mayPrepare = true;
     m_catchUpTo = 0.0;
     m_changed.notify_one();
+}
+
+void PlaybackEngine::setScreen(const QSize& size)
+{
+    const std::lock_guard lock(m_mutex);
+    m_screen = size;
 }
 
 std::vector<PlaybackEngine::Answer> PlaybackEngine::takeAnswers()
@@ -140,19 +156,46 @@ void PlaybackEngine::run()
 bool PlaybackEngine::workOnce(Lock& lock)
 {
     m_commands.acknowledge();
-    if (m_commands.hasFile())
+    m_source.setScreen(m_screen);
+    m_source.setFarFrames(m_playing ? FrameCache::FarFrames::Drop
+                                    : FrameCache::FarFrames::ScaleDown);
+    if (m_commands.hasCapture())
+        carryOutCapture(lock);
+    else if (m_commands.hasFile())
         replaceFile(lock);
     else if (m_commands.hasSeek())
         carryOutSeek(lock);
+    else if (m_commands.nextStep() && isTooSoon())
+        prepareForStep(lock);
     else if (m_commands.nextStep())
         carryOutStep(lock);
     else if (wantsFrames())
         decodeAhead(lock);
-    else if (m_mayFillBehind && !m_playing && m_current.isValid())
-        decodeBehind(lock);
+    else if (m_mayPrepare && !m_playing && m_current.isValid())
+        prepare(lock);
     else
         return false;
     return true;
+}
+
+/// Before everything else, since the frame is of the file that is still open.
+void PlaybackEngine::carryOutCapture(Lock& lock)
+{
+    PlaybackCommands::Capture capture = m_commands.takeCapture();
+    lock.unlock();
+    if (capture.frame.isScaledDown() && m_source.isOpen())
+        capture.frame = m_source
+                            .decodeAnew(capture.frame.timestamp(),
+                                        [this] { return m_commands.isFileOutdated(); })
+                            .frame;
+    QImage image;
+    if (!capture.frame.isScaledDown())
+        image = capture.frame.toImage(QImage::Format_ARGB32);
+    lock.lock();
+    m_mayPrepare = true;
+    Answer result{Answer::Kind::Captured, capture.serial};
+    result.image = std::move(image);
+    answer(std::move(result));
 }
 
 void PlaybackEngine::replaceFile(Lock& lock)
@@ -173,19 +216,23 @@ void PlaybackEngine::replaceFile(Lock& lock)
     if (file.path.isEmpty() || m_commands.isFileOutdated())
         return;
     if (first.answer == FrameAnswer::Frame)
-        becomeCurrent(first.frame);
-    answer({Answer::Kind::Opened, file.serial, first, 0, m_source.frameInterval(),
-            m_source.hasSound()});
+        becomeCurrent(first.frame, file.serial);
+    Answer result{Answer::Kind::Opened, file.serial, first};
+    result.frameInterval = m_source.frameInterval();
+    result.hasSound = m_source.hasSound();
+    answer(std::move(result));
 }
 
-void PlaybackEngine::becomeCurrent(const VideoFrame& frame)
+void PlaybackEngine::becomeCurrent(const VideoFrame& frame, quint64 serial)
 {
     m_current = frame;
-    m_mayFillBehind = true;
+    m_currentSerial = serial;
+    m_currentSince = std::chrono::steady_clock::now();
+    m_noStepBackBefore = m_currentSince;
+    m_mayPrepare = true;
     m_catchUpTo = 0.0;
     forgetQueue();
     m_source.setFocus(frame.timestamp());
-    m_restsUntil = std::chrono::steady_clock::now() + RestBeforeFilling;
 }
 
 void PlaybackEngine::carryOutSeek(Lock& lock)
@@ -204,7 +251,7 @@ void PlaybackEngine::carryOutSeek(Lock& lock)
     if (found.answer == FrameAnswer::Cancelled || m_commands.isSeekOutdated())
         return;
     if (found.answer == FrameAnswer::Frame)
-        becomeCurrent(found.frame);
+        becomeCurrent(found.frame, seek.serial);
     answer({Answer::Kind::Sought, seek.serial, std::move(found)});
 }
 
@@ -238,7 +285,12 @@ void PlaybackEngine::carryOutStep(Lock& lock)
     if (found.answer == FrameAnswer::Cancelled || !isWanted)
         return;
     if (found.answer == FrameAnswer::Frame)
-        becomeCurrent(found.frame);
+        becomeCurrent(found.frame, step.serial);
+    if (step.direction == Direction::Backward) {
+        const FrameSource::Supply supply = m_source.supplyBehind();
+        const auto pause = StepPacing::pauseFor(supply.frames, supply.secondsToMore);
+        m_noStepBackBefore += std::chrono::duration_cast<Time::duration>(pause);
+    }
     answer({Answer::Kind::Stepped, step.serial, std::move(found)});
 }
 
@@ -280,19 +332,55 @@ void PlaybackEngine::decodeAhead(Lock& lock)
         wakeOwner();
 }
 
-void PlaybackEngine::decodeBehind(Lock& lock)
+/// Whether only a step back waits, and is to wait longer: see StepPacing.
+bool PlaybackEngine::isTooSoon() const
 {
-    if (std::chrono::steady_clock::now() < m_restsUntil) {
-        m_changed.wait_until(lock, m_restsUntil);
-        return;
-    }
-    m_source.setFocus(m_current.timestamp());
+    return m_commands.nextStep() == Direction::Backward && !m_playing &&
+           std::chrono::steady_clock::now() < m_noStepBackBefore;
+}
+
+/// Decodes on until the step is due, or what it waits for is there.
+void PlaybackEngine::prepareForStep(Lock& lock)
+{
+    const Time due = m_noStepBackBefore;
     lock.unlock();
-    const bool goesOn = m_source.fillBehind([this] { return m_commands.hasArrived(); });
+    const bool goesOn = m_source.fillBehind(
+        [this, due] { return m_commands.hasArrived() || std::chrono::steady_clock::now() >= due; });
     lock.lock();
     m_duration = m_source.duration();
     if (!goesOn)
-        m_mayFillBehind = false;
+        m_noStepBackBefore = m_currentSince;
+}
+
+void PlaybackEngine::prepare(Lock& lock)
+{
+    m_source.setFocus(m_current.timestamp());
+    const auto rest = std::chrono::duration_cast<FrameSource::Rest>(
+        std::chrono::steady_clock::now() - m_currentSince);
+    const Time since = m_currentSince;
+    lock.unlock();
+    const bool goesOn = m_source.prepare(rest, [this] { return m_commands.hasArrived(); });
+    lock.lock();
+    m_duration = m_source.duration();
+    refine();
+    if (goesOn || m_commands.hasArrived())
+        return;
+    if (const std::optional<FrameSource::Rest> next = FrameSource::nextRest(rest))
+        m_changed.wait_until(lock, since + *next);
+    else
+        m_mayPrepare = false;
+}
+
+/// Gives the current frame once more when it has come in full size meanwhile.
+void PlaybackEngine::refine()
+{
+    if (!m_current.isScaledDown() || m_commands.hasArrived())
+        return;
+    const VideoFrame whole = m_source.cache().at(m_current.timestamp());
+    if (!whole.isValid() || whole.isScaledDown())
+        return;
+    m_current = whole;
+    answer({Answer::Kind::Refined, m_currentSerial, {FrameAnswer::Frame, whole}});
 }
 
 } // namespace QtAV

@@ -3,6 +3,8 @@
 #include "qtav/player/FrameSource.h"
 #include "qtav/player/PlaybackCommands.h"
 
+#include <QImage>
+#include <QSize>
 #include <QString>
 
 #include <chrono>
@@ -32,14 +34,17 @@ public:
 
     struct Answer
     {
-        enum class Kind { Opened, Sought, Stepped };
+        enum class Kind { Opened, Sought, Stepped, Refined, Captured };
 
         Kind kind = Kind::Sought;
         quint64 serial = 0;
         /// Opened: Frame when the file plays, else Failed. Sought: Frame, or Failed when no frame
         /// can be had from the file any more. Stepped: End where there is none in that direction,
-        /// Failed where it cannot be read.
+        /// Failed where it cannot be read. All of these may give frames that are scaled down.
+        /// Refined: Frame, the one that was given last, in full size; the serial number is that of
+        /// its command. Captured: no frame, but image.
         FrameResult result = {};
+        QImage image = {};   ///< Captured: the picture, null when it cannot be had
         qint64 duration = 0; ///< as far as it is known, in milliseconds; it may grow
         int frameInterval = 0;
         bool hasSound = false;
@@ -65,10 +70,6 @@ public:
     static constexpr size_t MostQueuedLargeFrames = 3;
     static constexpr qint64 LargeFrameBytes = qint64(8) << 20;
 
-    /// Decoding what lies before the current frame begins so long after that was given: until then
-    /// it needs the processor's cores to get to the screen, or to be followed by the next step.
-    static constexpr std::chrono::milliseconds RestBeforeFilling{25};
-
     /// @param wake  called on the decoding thread when there are answers, or frames for an owner
     ///              who found the queue empty. Must not call the engine.
     explicit PlaybackEngine(std::function<void()> wake);
@@ -83,8 +84,15 @@ public:
     quint64 seek(qint64 ms);
     quint64 step(Direction direction);
 
+    /// Makes the picture of a frame of the open file that this engine has given: in Format_ARGB32
+    /// and full size, also where the frame is scaled down. Each call is answered, and in any case.
+    quint64 capture(const VideoFrame& frame);
+
     /// Whether the queue is to be kept full.
     void setPlaying(bool playing);
+
+    /// The size in pixels of the screen on which frames are shown; ignored when empty.
+    void setScreen(const QSize& size);
 
     /// The answers since the last call, in order.
     std::vector<Answer> takeAnswers();
@@ -96,19 +104,24 @@ public:
 
 private:
     using Lock = std::unique_lock<std::mutex>;
+    using Time = std::chrono::steady_clock::time_point;
 
     void run();
     bool workOnce(Lock& lock);
+    void carryOutCapture(Lock& lock);
     void replaceFile(Lock& lock);
     void carryOutSeek(Lock& lock);
     void carryOutStep(Lock& lock);
     bool wantsFrames() const;
     void decodeAhead(Lock& lock);
-    void decodeBehind(Lock& lock);
+    bool isTooSoon() const;
+    void prepareForStep(Lock& lock);
+    void prepare(Lock& lock);
+    void refine();
 
     quint64 posted(quint64 serial);
     void forgetQueue();
-    void becomeCurrent(const VideoFrame& frame);
+    void becomeCurrent(const VideoFrame& frame, quint64 serial);
     FrameResult stayingAt(const VideoFrame& frame, FrameResult failed,
                           const IsCancelled& isCancelled);
     void answer(Answer answer);
@@ -124,12 +137,15 @@ private:
     std::deque<VideoFrame> m_queue;
     quint64 m_queueGeneration = 0; ///< changes when what is being decoded no longer belongs there
     double m_catchUpTo = 0.0;      ///< the time of the sound in seconds; 0 for none to follow
-    std::chrono::steady_clock::time_point m_restsUntil; ///< nothing is filled before
-    qint64 m_duration = 0;                              ///< of the open file, in milliseconds
+    QSize m_screen;
+    quint64 m_currentSerial = 0; ///< of the command that made the current frame so
+    Time m_currentSince;         ///< when that became so
+    Time m_noStepBackBefore;     ///< when the next step back may be answered
+    qint64 m_duration = 0;       ///< of the open file, in milliseconds
     bool m_playing = false;
     bool m_ended = false;             ///< the last frame is in the queue, or was
     std::optional<QString> m_failure; ///< why nothing can be decoded behind the queue
-    bool m_mayFillBehind = false;
+    bool m_mayPrepare = false;        ///< there may be something to decode for what comes next
     bool m_ownerIsWoken = false;
     bool m_ownerWaitsForFrames = false;
 

@@ -86,6 +86,13 @@ void returnFreedMemory()
 #endif
 }
 
+void trimFreedMemory()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
 void routeFFmpegLog()
 {
     static std::once_flag once;

@@ -51,7 +51,7 @@ void AVPlayerTest::newPlayer_isStopped_andHasNothing()
     QCOMPARE(player.position(), qint64(0));
     QCOMPARE(player.displayPosition(), qint64(0));
     QCOMPARE(player.statistics().video_only.width, 0);
-    QCOMPARE(player.frameCacheSize(), qint64(256) << 20);
+    QCOMPARE(player.frameCacheSize(), qint64(224) << 20);
     QVERIFY(player.videoCapture());
     QCOMPARE(player.audio()->volume(), 1.0);
 }

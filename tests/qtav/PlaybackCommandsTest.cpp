@@ -47,6 +47,7 @@ private slots:
     void seekTaken_isOutdated_byNewerOnes_butNotBySteps();
     void fileTaken_isOutdated_byAnother_butNotBySeeks();
     void arrival_isSeen_untilAcknowledged();
+    void captures_stay_whateverElseComes_upToALimit();
     void quit_dropsAll_andOutdatesWhatIsDone();
 };
 
@@ -228,6 +229,25 @@ void PlaybackCommandsTest::arrival_isSeen_untilAcknowledged()
         commands.acknowledge();
         QVERIFY(!commands.hasArrived());
     }
+}
+
+void PlaybackCommandsTest::captures_stay_whateverElseComes_upToALimit()
+{
+    PlaybackCommands commands;
+    quint64 last = 0;
+    for (size_t i = 0; i < PlaybackCommands::mostWaitingCaptures; ++i) {
+        const quint64 serial = commands.capture({});
+        QVERIFY(serial > last);
+        last = serial;
+        commands.seek(1);
+        commands.close();
+    }
+    QCOMPARE(commands.capture({}), quint64(0));
+    for (size_t i = 0; i < PlaybackCommands::mostWaitingCaptures; ++i) {
+        QVERIFY(commands.hasCapture());
+        commands.takeCapture();
+    }
+    QVERIFY(!commands.hasCapture());
 }
 
 void PlaybackCommandsTest::quit_dropsAll_andOutdatesWhatIsDone()

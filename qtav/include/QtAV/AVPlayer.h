@@ -83,9 +83,9 @@ public:
     void setMediaEndAction(MediaEndAction action);
     MediaEndAction mediaEndAction() const;
 
-    /// Most memory that decoded frames may take for stepping back, in bytes; 256 MiB unless said.
-    /// Of that, no more is used than steps get faster by: 32 MiB, or 8 frames where those are
-    /// more. Holds from the next play() of a stopped player on.
+    /// Most memory that decoded frames may take for stepping back, in bytes; 224 MiB unless said.
+    /// Only the few frames around the one on screen are kept in full size, the others at that at
+    /// which they are shown. Holds from the next play() of a stopped player on.
     void setFrameCacheSize(qint64 bytes);
     qint64 frameCacheSize() const;
 

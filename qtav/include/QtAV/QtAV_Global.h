@@ -27,4 +27,9 @@ LogLevel logLevel();
 /// nothing where the C library cannot be told.
 void returnFreedMemory();
 
+/// Gives what has been freed in smaller blocks back to the system, once, after much was freed.
+/// Takes some milliseconds; does nothing where the C library cannot be told. May be called from any
+/// thread.
+void trimFreedMemory();
+
 } // namespace QtAV
