@@ -15,7 +15,9 @@ is not charged to the other. Both are paused except where playing is measured.
 For each position: the file is opened anew, so that nothing is cached; then an exact seek to half a frame
 before a frame that lies far behind its key frame, and at once after it the steps back; then the same
 with another position and steps forward. After each operation the time of the frame on screen must be the one that
-was asked for, in both. mpv is run without configuration, without sound, and drawn by the processor.
+was asked for, in both. Then a key is held down: two seconds after a seek steps back follow, each as soon as
+the picture before it is there, over several groups of pictures; mpv makes fewer of them. mpv is run
+without configuration, without sound, and drawn by the processor.
 Memory is the peak of resident memory of the whole process, as the kernel tells it.
 """
 
@@ -40,11 +42,27 @@ PLAYING_MS = 4000
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
+class Hold:
+    """Holding the key for steps back: from how many positions, how many steps, and what we aim at:
+    steps a second, and the milliseconds of the longest."""
+
+    # How long the player may prepare itself after the seek.
+    REST = 2.0
+    # mpv takes as long for each step: this part of them tells enough.
+    MPV_PART = 25
+
+    def __init__(self, positions, steps, rate_goal, longest_goal):
+        self.positions = positions
+        self.steps = steps
+        self.rate_goal = rate_goal
+        self.longest_goal = longest_goal
+
+
 class Video:
     """A benchmark video: how far its key frames are apart, which of its frames are asked for, and
     what we aim at, as ratios to mpv's figures."""
 
-    def __init__(self, name, frames, gop, positions, steps, behind, seek_goal, memory_goal):
+    def __init__(self, name, frames, gop, positions, steps, behind, seek_goal, memory_goal, hold):
         self.name = name
         self.frames = frames
         self.gop = gop
@@ -52,7 +70,8 @@ class Video:
         self.steps = steps
         self.behind = behind  # least distance of a target behind its key frame, in frames
         self.seek_goal = seek_goal
-        self.memory_goal = memory_goal
+        self.memory_goal = memory_goal  # in MiB
+        self.hold = hold
 
     def choose(self, count):
         """Frame numbers to seek to, the same ones in every run."""
@@ -65,13 +84,16 @@ class Video:
 
 
 VIDEOS = [
-    Video("1080p_h264_gop250.mp4", 1500, 250, 10, 20, 40, seek_goal=0.85, memory_goal=1.2),
-    Video("2160p_hevc_gop120.mp4", 480, 120, 6, 20, 30, seek_goal=0.95, memory_goal=1.4),
+    Video("1080p_h264_gop250.mp4", 1500, 250, 10, 20, 40, seek_goal=0.78, memory_goal=400,
+          hold=Hold(positions=4, steps=250, rate_goal=30.0, longest_goal=150.0)),
+    Video("2160p_hevc_gop120.mp4", 480, 120, 6, 20, 30, seek_goal=0.78, memory_goal=700,
+          hold=Hold(positions=4, steps=100, rate_goal=8.0, longest_goal=1500.0)),
 ]
 
-FIRST_BACK_GOAL = 0.05
+FIRST_BACK_GOAL = 0.03
 BACK_GOAL = 0.15
-FIRST_FRAME_GOAL = 1.0
+FIRST_FRAME_GOAL = 0.85
+PLAYING_GOAL = 1.0
 BACK_TO_FORWARD_GOAL = 1.5
 
 
@@ -282,6 +304,7 @@ class Figures:
         self.first_backs = []
         self.further_backs = []
         self.forwards = []
+        self.holds = []  # for each key held down the steps
         self.cpu = 0.0  # while playing, in percent of one core
         self.peak = 0.0  # MiB
 
@@ -334,6 +357,19 @@ def measure_forward(player, figures, path, frame, steps):
         figures.forwards.append(elapsed)
 
 
+def measure_hold(player, figures, path, frame, steps):
+    measure_opening(player, Figures(), path)
+    player.rest()
+    player.seek(position_of(frame))
+    time.sleep(Hold.REST)
+    times = []
+    for number in range(1, steps + 1):
+        elapsed, position = player.backward()
+        check(f"step back {number} of a held key", frame - number, position)
+        times.append(elapsed)
+    figures.holds.append(times)
+
+
 def fill_memory(player, path, frames):
     """Keeps one file open, resting in several places, for the peak of memory."""
     player.stop()
@@ -373,6 +409,15 @@ def measure(video, path, players, count, steps):
         each(number, lambda player, own: measure_back(player, own, path, back, steps))
         each(number, lambda player, own: measure_forward(player, own, path, forward, forward_steps))
         print(f"{video.name}: position {number + 1} of {count}", file=sys.stderr, flush=True)
+    # With enough groups of pictures before them.
+    last_groups = [frame for frame in frames if frame > video.hold.steps][: video.hold.positions]
+    for frame in last_groups:
+        for player in players:
+            for one in players:
+                one.rest()
+            part = Hold.MPV_PART if isinstance(player, Mpv) else 1
+            measure_hold(player, figures[player], path, frame, video.hold.steps // part)
+        print(f"{video.name}: key held at frame {frame}", file=sys.stderr, flush=True)
     each(0, lambda player, own: fill_memory(player, path, frames))
     each(0, measure_playing)
     for player in players:
@@ -393,6 +438,27 @@ def row(what, own, other, goal=None, digits=1):
     print("| " + " | ".join(cells) + " |", flush=True)
 
 
+def rate(times):
+    """Steps a second."""
+    return len(times) * 1000.0 / sum(times)
+
+
+def print_limit(what, own, other, goal, is_met):
+    """A row whose goal is our own figure, no ratio."""
+    print(f"| {what} | {own:.1f} | {other:.1f} | {own / other:.2f} | {goal} | "
+          f"{'yes' if is_met else 'NO'} |", flush=True)
+
+
+def print_hold(hold, own, mpv):
+    slowest = min(rate(times) for times in own)
+    longest = max(max(times) for times in own)
+    print_limit(f"key held, {hold.steps} steps: slowest, steps a second", slowest,
+                min(rate(times) for times in mpv), f"at least {hold.rate_goal:.0f}",
+                slowest >= hold.rate_goal)
+    print_limit("key held: longest step", longest, max(max(times) for times in mpv),
+                f"at most {hold.longest_goal:.0f}", longest <= hold.longest_goal)
+
+
 def print_figures(video, own, mpv, cache):
     print(f"\n{video.name}: {len(own.seeks)} seeks, {len(own.backs())} steps back, "
           f"{len(own.forwards)} forward\n")
@@ -408,8 +474,10 @@ def print_figures(video, own, mpv, cache):
     row("further steps back, longest", max(own.further_backs), max(mpv.further_backs))
     row("all steps back, mean", mean(own.backs()), mean(mpv.backs()), BACK_GOAL)
     row("step forward, p50", median(own.forwards), median(mpv.forwards))
-    row("processor while playing, %", own.cpu, mpv.cpu, digits=0)
-    row("peak memory, MiB", own.peak, mpv.peak, video.memory_goal, digits=0)
+    print_hold(video.hold, own.holds, mpv.holds)
+    row("processor while playing, %", own.cpu, mpv.cpu, PLAYING_GOAL, digits=0)
+    print_limit("peak memory, MiB", own.peak, mpv.peak, f"at most {video.memory_goal}",
+                own.peak <= video.memory_goal)
     print(f"\nOur step back to our step forward, p50: "
           f"{median(own.backs()) / median(own.forwards):.2f} (goal: {BACK_TO_FORWARD_GOAL}). "
           f"A filled cache holds {cache['frames']} frames, {cache['bytes'] / 2**20:.0f} MiB.")

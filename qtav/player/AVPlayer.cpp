@@ -86,11 +86,17 @@ void AVPlayer::setRenderer(VideoRenderer* renderer)
 {
     if (d->renderer == renderer)
         return;
-    if (d->renderer)
+    if (d->renderer) {
+        disconnect(d->renderer, &VideoRenderer::screenSizeChanged, this, nullptr);
         d->renderer->present(VideoFrame());
+    }
     d->renderer = renderer;
-    if (d->renderer)
-        d->renderer->present(d->frame);
+    if (!d->renderer)
+        return;
+    connect(renderer, &VideoRenderer::screenSizeChanged, this,
+            [this, renderer] { d->engine.setScreen(renderer->screenSize()); });
+    d->engine.setScreen(renderer->screenSize());
+    d->renderer->present(d->frame);
 }
 
 VideoRenderer* AVPlayer::renderer() const
@@ -143,8 +149,10 @@ void AVPlayer::play()
         d->openFile();
         return;
     }
-    if (d->status == EndOfMedia)
+    const bool isAtEnd = d->status == EndOfMedia;
+    if (isAtEnd)
         d->seek(0);
+    d->startsOverAtEnd = !isAtEnd;
     d->engine.setPlaying(true);
     d->setState(PlayingState);
     Q_EMIT paused(false);
@@ -185,12 +193,10 @@ void AVPlayer::stepBackward()
     d->step(PlaybackEngine::Direction::Backward);
 }
 
-void AVPlayer::heedEngine()
+void AVPlayer::handleEngine()
 {
-    for (const PlaybackEngine::Answer& answer : d->engine.takeAnswers()) {
-        if (answer.serial >= d->openSerial)
-            d->heed(answer);
-    }
+    for (const PlaybackEngine::Answer& answer : d->engine.takeAnswers())
+        d->handle(answer);
     presentDue();
 }
 

@@ -20,8 +20,9 @@ AVPlayer::Private::Private(AVPlayer* player)
     : q(player)
     , capture(new VideoCapture(player))
     , audio(new AudioOutput(player))
-    , engine([player] { QMetaObject::invokeMethod(player, "heedEngine", Qt::QueuedConnection); })
+    , engine([player] { QMetaObject::invokeMethod(player, "handleEngine", Qt::QueuedConnection); })
 {
+    capture->setTaker([this] { engine.capture(frame); });
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, q, &AVPlayer::presentDue);
@@ -58,7 +59,6 @@ void AVPlayer::Private::show(const VideoFrame& newFrame)
 {
     const qint64 before = q->displayPosition();
     frame = newFrame;
-    capture->setFrame(frame);
     const QSize size = frame.isValid() ? frame.displaySize() : QSize(0, 0);
     statistics.video_only = {size.width(), size.height()};
     if (renderer)
@@ -78,7 +78,7 @@ void AVPlayer::Private::close(MediaStatus statusAfterwards)
     const quint64 serial = openSerial;
     show(VideoFrame());
     setDuration(0);
-    // Who heeded these signals may have opened another file, or will now.
+    // A connected slot may have opened another file, or will now.
     if (openSerial != serial)
         return;
     setState(StoppedState);
@@ -107,6 +107,7 @@ qint64 AVPlayer::Private::clamped(qint64 ms) const
 void AVPlayer::Private::seek(qint64 ms)
 {
     haltTime();
+    startsOverAtEnd = false;
     soughtMs = clamped(ms);
     seekSerial = engine.seek(*soughtMs);
     if (isLoaded)
@@ -121,29 +122,32 @@ void AVPlayer::Private::step(PlaybackEngine::Direction direction)
     engine.step(direction);
 }
 
-void AVPlayer::Private::heed(const PlaybackEngine::Answer& answer)
+void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
 {
     using Kind = PlaybackEngine::Answer::Kind;
+    const bool isFrame = answer.result.answer == FrameAnswer::Frame;
+    // What was captured is answered also when the file has been closed since.
+    if (answer.serial < openSerial && answer.kind != Kind::Captured)
+        return;
     switch (answer.kind) {
     case Kind::Opened:
-        opened(answer);
-        break;
-    case Kind::OpenFailed:
-        fail(answer.error);
+        isFrame ? opened(answer) : fail(answer.result.error);
         break;
     case Kind::Sought:
-        if (answer.serial == seekSerial)
-            sought(answer);
-        break;
-    case Kind::SeekFailed:
-        if (answer.serial == seekSerial)
-            fail(AVPlayer::tr("The file cannot be read any more."));
+        if (answer.serial != seekSerial)
+            break;
+        isFrame ? sought(answer) : fail(AVPlayer::tr("The file cannot be read any more."));
         break;
     case Kind::Stepped:
-        if (answer.serial < seekSerial || !answer.frame.isValid())
-            break;
-        setStatus(LoadedMedia);
-        show(answer.frame);
+        if (answer.serial >= seekSerial && isFrame)
+            stepped(answer);
+        break;
+    case Kind::Refined:
+        if (answer.result.frame.timestamp() == frame.timestamp() && frame.isScaledDown())
+            show(answer.result.frame);
+        break;
+    case Kind::Captured:
+        capture->deliver(answer.image);
         break;
     }
 }
@@ -161,8 +165,8 @@ void AVPlayer::Private::opened(const PlaybackEngine::Answer& answer)
     setDuration(answer.duration);
     if (soughtMs)
         soughtMs = clamped(*soughtMs);
-    show(answer.frame);
-    // Who heeded these signals may have closed the file.
+    show(answer.result.frame);
+    // A connected slot may have closed the file.
     if (openSerial != answer.serial)
         return;
     setStatus(LoadedMedia);
@@ -172,11 +176,21 @@ void AVPlayer::Private::opened(const PlaybackEngine::Answer& answer)
 void AVPlayer::Private::sought(const PlaybackEngine::Answer& answer)
 {
     soughtMs.reset();
-    show(answer.frame);
+    setDuration(answer.duration);
+    show(answer.result.frame);
     resumeTime();
-    // Who heeded positionChanged() may have sought again, or closed the file.
+    // A connected slot may have sought again, or closed the file.
     if (!soughtMs && isLoaded)
         Q_EMIT q->seekFinished(q->displayPosition());
+}
+
+void AVPlayer::Private::stepped(const PlaybackEngine::Answer& answer)
+{
+    setDuration(answer.duration);
+    setStatus(LoadedMedia);
+    // A connected slot may have closed the file, or sought.
+    if (isLoaded && answer.serial >= seekSerial && openSerial <= answer.serial)
+        show(answer.result.frame);
 }
 
 void AVPlayer::Private::fail(const QString& reason)
@@ -230,16 +244,22 @@ void AVPlayer::Private::presentDue()
     const PlaybackEngine::Due due = engine.takeDue(time, soundLeads ? PlaybackEngine::CatchUp::Yes
                                                                     : PlaybackEngine::CatchUp::No);
     statistics.droppedFrames += due.dropped;
+    setDuration(due.duration);
     if (due.frame.isValid()) {
+        startsOverAtEnd = false;
         if (!soundLeads && time - due.frame.timestamp() > MostLatenessSeconds)
             clock.set(due.frame.timestamp());
         show(due.frame);
-        // Who heeded positionChanged() may have stopped, paused or sought.
-        if (!plays())
-            return;
     }
+    // A connected slot may have stopped, paused or sought.
+    if (!plays())
+        return;
     if (due.next)
         schedule(*due.next - now());
+    else if (due.failure)
+        halt(*due.failure);
+    else if (due.isEnded && startsOverAtEnd)
+        seek(0);
     else if (due.isEnded && now() >= endTime(soundLeads))
         finish();
     else if (due.isEnded)
@@ -252,6 +272,13 @@ double AVPlayer::Private::endTime(bool soundLeads) const
     const double end = double(duration) / 1000.0;
     const double last = frame.timestamp();
     return soundLeads ? std::max(end, last) : std::clamp(end, last, last + LongestLastFrameSeconds);
+}
+
+/// Playback cannot go on, but what is on screen stays, and other places may be readable.
+void AVPlayer::Private::halt(const QString& reason)
+{
+    error = reason;
+    q->pause();
 }
 
 void AVPlayer::Private::finish()

@@ -25,9 +25,10 @@ public:
     void show(const VideoFrame& frame);
 
     void openFile();
-    void heed(const PlaybackEngine::Answer& answer);
+    void handle(const PlaybackEngine::Answer& answer);
     void opened(const PlaybackEngine::Answer& answer);
     void sought(const PlaybackEngine::Answer& answer);
+    void stepped(const PlaybackEngine::Answer& answer);
     void fail(const QString& reason);
     void close(MediaStatus statusAfterwards);
     qint64 clamped(qint64 ms) const;
@@ -42,6 +43,7 @@ public:
     void schedule(double secondsFromNow);
     void presentDue();
     void finish();
+    void halt(const QString& reason);
 
     AVPlayer* const q;
     QString file;
@@ -53,6 +55,8 @@ public:
     bool isLoaded = false;
     bool hasSound = false;
     bool hasStarted = false; ///< started() has been sent since opening
+    /// play() was called on a frame that turns out to be the last when none follows.
+    bool startsOverAtEnd = false;
     qint64 duration = 0;
     int interval = 0;
     VideoFrame frame;

@@ -2,15 +2,26 @@
 
 #include "qtav/src/Times.h"
 
+#include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace QtAV {
 
 namespace {
 
-/// Frames behind the focus go this much sooner than those before it: decoding gets to the next
-/// frame at once, but to the one before only from its key frame.
-constexpr double WeightBehind = 2.0;
+/// Frames after the focus go this much sooner than those before it: decoding gets to the next frame
+/// at once, but to the one before only from its key frame.
+constexpr double weightAfter = 2.0;
+
+/// So many bytes of decoded frames stay as they are, or so many frames where those are large: what
+/// is captured and stepped to right after a seek.
+constexpr qint64 wholeBytes = qint64(32) << 20;
+constexpr qint64 wholeFrames = 6;
+
+/// Frames that would not get smaller than these parts are not worth scaling.
+constexpr qint64 worthParts = 3;
+constexpr qint64 worthOf = 4;
 
 } // namespace
 
@@ -18,15 +29,98 @@ FrameCache::FrameCache(qint64 mostBytes)
     : m_mostBytes(mostBytes)
 {}
 
+void FrameCache::setScreen(const QSize& size)
+{
+    if (!size.isEmpty())
+        m_screen = size;
+}
+
+QSize FrameCache::shownSize(const VideoFrame& frame) const
+{
+    return frame.displaySize().scaled(m_screen, Qt::KeepAspectRatio).expandedTo({1, 1});
+}
+
+qint64 FrameCache::bytesScaledDown(const VideoFrame& frame) const
+{
+    const QSize shown = shownSize(frame);
+    const qint64 stored = qint64(frame.width()) * frame.height();
+    return frame.byteCount() * (qint64(shown.width()) * shown.height()) /
+           std::max<qint64>(1, stored);
+}
+
+qint64 FrameCache::mostWholeBytes() const
+{
+    return std::min(std::max(wholeBytes, wholeFrames * m_decodedBytes), m_mostBytes / 2);
+}
+
+double FrameCache::furthestWhole() const
+{
+    const double first = *m_whole.begin();
+    const double last = *m_whole.rbegin();
+    return m_focus - first > last - m_focus ? first : last;
+}
+
+bool FrameCache::isWorthReplacing(const VideoFrame& old, const VideoFrame& frame) const
+{
+    if (!old.isScaledDown() || frame.isScaledDown())
+        return false;
+    const QSize shown = shownSize(frame);
+    const bool isOtherSize = old.width() * old.height() != shown.width() * shown.height();
+    const bool isRoom = m_wholeBytes + frame.byteCount() <= mostWholeBytes();
+    const auto distance = [this](double time) { return std::abs(time - m_focus); };
+    return isOtherSize || isRoom || m_whole.empty() ||
+           distance(frame.timestamp()) < distance(furthestWhole());
+}
+
+void FrameCache::add(Entry& entry, const VideoFrame& frame)
+{
+    entry.frame = frame;
+    const qint64 bytes = frame.byteCount();
+    m_bytes += bytes;
+    if (frame.isScaledDown()) {
+        m_keptBytes = bytes;
+        return;
+    }
+    m_decodedBytes = std::max(m_decodedBytes, bytes);
+    const qint64 bytesWhenSmall = bytesScaledDown(frame);
+    const bool isReducible = bytesWhenSmall * worthOf <= bytes * worthParts;
+    if (m_keptBytes == 0)
+        m_keptBytes = isReducible ? bytesWhenSmall : bytes;
+    if (isReducible) {
+        m_whole.insert(frame.timestamp());
+        m_wholeBytes += bytes;
+    } else {
+        m_keptBytes = bytes;
+    }
+}
+
+/// Takes a frame out of the counts.
+void FrameCache::remove(double seconds, const VideoFrame& frame)
+{
+    m_bytes -= frame.byteCount();
+    if (m_whole.erase(seconds) > 0)
+        m_wholeBytes -= frame.byteCount();
+}
+
+void FrameCache::erase(double seconds)
+{
+    const auto entry = m_frames.find(seconds);
+    remove(seconds, entry->second.frame);
+    m_frames.erase(entry);
+}
+
 void FrameCache::insert(const VideoFrame& frame, std::optional<double> predecessor)
 {
     Entry& entry = m_frames[frame.timestamp()];
     if (predecessor)
         entry.predecessor = predecessor;
-    if (entry.frame.isValid())
-        return;
-    entry.frame = frame;
-    m_bytes += frame.byteCount();
+    if (entry.frame.isValid()) {
+        if (!isWorthReplacing(entry.frame, frame))
+            return;
+        remove(frame.timestamp(), entry.frame);
+    }
+    add(entry, frame);
+    reduceFarFrames();
     shrink();
 }
 
@@ -38,6 +132,7 @@ void FrameCache::setFocus(double seconds)
 void FrameCache::setMostBytes(qint64 bytes)
 {
     m_mostBytes = bytes;
+    reduceFarFrames();
     shrink();
 }
 
@@ -45,20 +140,54 @@ void FrameCache::clear()
 {
     m_frames.clear();
     m_bytes = 0;
+    m_whole.clear();
+    m_wholeBytes = 0;
+    m_decodedBytes = 0;
+    m_keptBytes = 0;
     m_focus = 0.0;
     m_first.reset();
+}
+
+qint64 FrameCache::roomBefore() const
+{
+    if (m_keptBytes == 0)
+        return 0;
+    const bool isScaling = !m_whole.empty() || m_keptBytes < m_decodedBytes;
+    const qint64 bytes = m_mostBytes - (isScaling ? mostWholeBytes() : 0);
+    return static_cast<qint64>(double(bytes / m_keptBytes) * weightAfter / (1.0 + weightAfter));
+}
+
+/// The nearest one stays as it is however large it is.
+void FrameCache::reduceFarFrames()
+{
+    while (m_wholeBytes > mostWholeBytes() && m_whole.size() > 1) {
+        const double furthest = furthestWhole();
+        if (m_farFrames == FarFrames::Drop) {
+            erase(furthest);
+            continue;
+        }
+        Entry& entry = m_frames.at(furthest);
+        const VideoFrame whole = entry.frame;
+        const VideoFrame small = whole.scaledDown(shownSize(whole));
+        remove(furthest, whole);
+        if (small.isScaledDown()) {
+            add(entry, small);
+        } else {
+            // Kinds of pictures that cannot be scaled down take what they take.
+            m_bytes += whole.byteCount();
+            m_keptBytes = whole.byteCount();
+        }
+    }
 }
 
 /// One frame stays however large it is.
 void FrameCache::shrink()
 {
     while (m_bytes > m_mostBytes && m_frames.size() > 1) {
-        const auto first = m_frames.begin();
-        const auto last = std::prev(m_frames.end());
-        const bool firstIsFurther = m_focus - first->first > WeightBehind * (last->first - m_focus);
-        const auto furthest = firstIsFurther ? first : last;
-        m_bytes -= furthest->second.frame.byteCount();
-        m_frames.erase(furthest);
+        const double first = m_frames.begin()->first;
+        const double last = m_frames.rbegin()->first;
+        const bool firstIsFurther = m_focus - first > weightAfter * (last - m_focus);
+        erase(firstIsFurther ? first : last);
     }
 }
 
@@ -108,6 +237,7 @@ std::optional<FrameCache::Run> FrameCache::runAround(double seconds) const
         if (next->second.predecessor != run.end)
             break;
         run.end = next->first;
+        ++run.framesAfter;
     }
     for (auto entry = given; entry != m_frames.begin();) {
         const auto before = std::prev(entry);
@@ -116,7 +246,6 @@ std::optional<FrameCache::Run> FrameCache::runAround(double seconds) const
         entry = before;
         run.start = entry->first;
         ++run.framesBefore;
-        run.bytesBefore += entry->second.frame.byteCount();
     }
     run.isAtStart = m_first == run.start;
     return run;

@@ -2,23 +2,37 @@
 
 #include <QtAV/VideoFrame.h>
 
+#include <QSize>
+
 #include <map>
 #include <optional>
+#include <set>
 
 namespace QtAV {
 
 /// Decoded frames around the one on screen, by their times, up to a number of bytes.
 ///
-/// The cache knows which frames are direct neighbours, so that it never gives a frame further off
-/// for the next or the previous one. When it is full, the frames furthest from the focus go first,
-/// with those after it counting as further away.
+/// The few nearest to the focus are kept as they were decoded; those further off are scaled down to
+/// the size at which they are shown, where that makes them smaller, so that the stretches of steps
+/// fit. The cache knows which frames are direct neighbours, so that it never gives a frame further
+/// off for the next or the previous one. When it is full, the frames furthest from the focus go
+/// first, with those after it counting as further away.
 ///
 /// A frame is known by its exact time in seconds, the one that VideoFrame::timestamp() gives.
 /// Not thread-safe: one thread uses it.
 class FrameCache
 {
 public:
-    static constexpr qint64 DefaultBytes = qint64(256) << 20;
+    static constexpr qint64 DefaultBytes = qint64(224) << 20;
+
+    /// For which screen frames are scaled down while none is known, in pixels.
+    static constexpr QSize usualScreen{960, 540};
+
+    /// What becomes of frames that are not among the few nearest to the focus.
+    enum class FarFrames {
+        ScaleDown,
+        Drop, ///< while frames pass by too quickly for the time that scaling takes
+    };
 
     /// Cached frames without a gap between them, around a given one.
     struct Run
@@ -26,13 +40,19 @@ public:
         double start;        ///< the time of the first of them
         double end;          ///< the time of the last of them
         qint64 framesBefore; ///< before the given one
-        qint64 bytesBefore;  ///< that those take
+        qint64 framesAfter;  ///< after it
         bool isAtStart;      ///< the first of them is the first of the video
     };
 
     explicit FrameCache(qint64 mostBytes = DefaultBytes);
 
-    /// Adds a frame, or what is newly known of a cached one.
+    /// The screen's size in pixels, into which pictures are fitted. Frames that are scaled down
+    /// already stay as they are. Ignored when empty.
+    void setScreen(const QSize& size);
+    void setFarFrames(FarFrames farFrames) { m_farFrames = farFrames; }
+
+    /// Adds a frame, or what is newly known of a cached one. A decoded frame replaces one that is
+    /// scaled down where it would stay as it is, or be scaled to another size.
     /// @param predecessor  the time of the frame directly before it; nothing where unknown.
     void insert(const VideoFrame& frame, std::optional<double> predecessor);
 
@@ -63,6 +83,9 @@ public:
     qint64 mostBytes() const { return m_mostBytes; }
     int frameCount() const { return static_cast<int>(m_frames.size()); }
 
+    /// About how many frames there is room for before the focus; 0 before the first insert().
+    qint64 roomBefore() const;
+
 private:
     struct Entry
     {
@@ -70,13 +93,28 @@ private:
         std::optional<double> predecessor;
     };
 
+    QSize shownSize(const VideoFrame& frame) const;
+    qint64 bytesScaledDown(const VideoFrame& frame) const;
+    qint64 mostWholeBytes() const;
+    double furthestWhole() const;
+    bool isWorthReplacing(const VideoFrame& old, const VideoFrame& frame) const;
+    void add(Entry& entry, const VideoFrame& frame);
+    void remove(double seconds, const VideoFrame& frame);
+    void erase(double seconds);
+    void reduceFarFrames();
     void shrink();
 
     qint64 m_mostBytes;
-    qint64 m_bytes = 0;
+    QSize m_screen = usualScreen;
+    FarFrames m_farFrames = FarFrames::ScaleDown;
     double m_focus = 0.0;
     std::optional<double> m_first;
     std::map<double, Entry> m_frames;
+    qint64 m_bytes = 0;
+    std::set<double> m_whole;  ///< times of the frames that scaling down would make smaller
+    qint64 m_wholeBytes = 0;   ///< that those take
+    qint64 m_decodedBytes = 0; ///< of the largest frame inserted
+    qint64 m_keptBytes = 0;    ///< of a frame as it is kept far from the focus
 };
 
 } // namespace QtAV

@@ -1,5 +1,7 @@
 #include "qtav/player/FrameSource.h"
 
+#include <QtAV/QtAV_Global.h>
+
 #include "qtav/src/StreamParameters.h"
 #include "qtav/src/Times.h"
 
@@ -11,53 +13,43 @@ namespace QtAV {
 
 namespace {
 
-constexpr qint64 SmallestStepBackMs = 500;
-
 /// To a frame not further ahead than this, decoding on is cheaper than starting at a key frame.
-constexpr double NearSeconds = 1.0;
+constexpr double nearSeconds = 1.0;
 
 /// So many frames before a target are decoded with it, for the steps back that often follow. Each
 /// costs a part of the seek's time; those before them are decoded behind the seek's back.
-constexpr qint64 FramesBeforeTarget = 7;
+constexpr qint64 framesBeforeTarget = 7;
 
-/// Filling begins when fewer frames than this are left before the focus, or fewer than this for
-/// each step back that was just made. A seek brings more: filling right after it would keep the
-/// decoder from a step forward.
-constexpr qint64 FewFrames = 4;
-constexpr qint64 FramesForStepBack = 2;
+/// So many frames after the focus are decoded before the reader goes away, so that steps forward
+/// find some until it is back.
+constexpr qint64 framesAhead = 12;
 
-/// It does not begin when the frames before the focus take this part of the cache, and adds as
-/// much.
-constexpr int PartBehind = 2;
+/// How long the user rests until what may be wanted is decoded. At first the processor's cores are
+/// needed to get the picture to the screen, or to follow with the next step.
+constexpr FrameSource::Rest beforeFilling{25};
+/// Going back to where going forward goes on would be in vain while steps back follow.
+constexpr FrameSource::Rest beforeReturning{300};
+/// A user who went forward is more likely to go on forward.
+constexpr FrameSource::Rest beforeTurningBack{1000};
 
-/// A cache of more than these bytes, or of more than these frames where frames are large, would
-/// hardly make stepping faster: what it can fill up meanwhile, and what it is asked for, are in
-/// balance already. A seek fills it with the frames before its target.
-constexpr qint64 UsefulFrames = FramesBeforeTarget + 1;
-constexpr qint64 UsefulBytes = qint64(32) << 20;
-
-constexpr int UsualGapMs = 40;
-
-qint64 furtherBack(qint64 stepBackMs)
-{
-    return std::max(SmallestStepBackMs, 2 * stepBackMs);
-}
+constexpr int usualGapMs = 40;
 
 } // namespace
+
+FrameSource::FrameSource()
+    : m_fill(m_reader, [this] { keep(); })
+{}
 
 bool FrameSource::open(const QString& path, qint64 cacheBytes, const IsCancelled& isCancelled,
                        QString& error)
 {
     close();
-    m_cache = FrameCache(cacheBytes);
+    m_cache.setMostBytes(cacheBytes);
     if (!m_reader.open(path, isCancelled, error))
         return false;
     const FrameResult first = frameAt(0, isCancelled);
-    if (first.answer == FrameAnswer::Frame) {
-        const qint64 useful = std::max(UsefulBytes, UsefulFrames * first.frame.byteCount());
-        m_cache.setMostBytes(std::min(cacheBytes, useful));
+    if (first.answer == FrameAnswer::Frame)
         return true;
-    }
     if (first.answer == FrameAnswer::Failed)
         error = first.error;
     else if (first.answer == FrameAnswer::End)
@@ -68,14 +60,24 @@ bool FrameSource::open(const QString& path, qint64 cacheBytes, const IsCancelled
 
 void FrameSource::close()
 {
-    m_walk.reset();
+    const bool hadFrames = m_cache.frameCount() > 0;
+    m_fill.reset();
     m_reader.close();
     m_cache.clear();
+    if (hadFrames)
+        trimFreedMemory();
     m_lastTime.reset();
-    m_filledUpTo.reset();
-    m_longestGapMs = UsualGapMs;
+    m_latestMs = 0;
+    m_longestGapMs = usualGapMs;
     m_focus = 0.0;
-    m_stepsBack = 0;
+    m_move = Move::Seek;
+    m_returnsTo.reset();
+    m_returnedTo.reset();
+}
+
+qint64 FrameSource::duration() const
+{
+    return std::max(m_reader.demuxer().duration(), m_latestMs);
 }
 
 int FrameSource::frameInterval() const
@@ -83,12 +85,14 @@ int FrameSource::frameInterval() const
     const VideoCodecContext* context = m_reader.demuxer().videoCodecContext();
     const AVRational rate = context ? context->parameters()->frameRate : AVRational{0, 1};
     if (rate.num <= 0 || rate.den <= 0)
-        return UsualGapMs;
+        return usualGapMs;
     return std::max(1, qRound(1000.0 * rate.den / rate.num));
 }
 
 void FrameSource::setFocus(double seconds)
 {
+    if (seconds != m_focus)
+        m_returnedTo.reset();
     m_focus = seconds;
     m_cache.setFocus(seconds);
 }
@@ -100,6 +104,7 @@ void FrameSource::keep()
     const VideoFrame& frame = m_reader.lastFrame();
     const double time = frame.timestamp();
     const std::optional<double> predecessor = m_reader.predecessor();
+    m_latestMs = std::max(m_latestMs, toMilliseconds(time));
     if (m_reader.isAtFirstOfVideo())
         m_cache.setFirst(time);
     if (predecessor)
@@ -121,16 +126,15 @@ FrameResult FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelled)
     if (m_lastTime)
         ms = std::min(ms, toMilliseconds(*m_lastTime));
     setFocus(double(ms) / 1000.0);
-    m_stepsBack = 0;
+    m_move = Move::Seek;
     const VideoFrame cached = m_cache.atOrAfter(ms);
     if (cached.isValid())
         return {FrameAnswer::Frame, cached};
 
-    leaveWalkBehind();
     const auto isReached = [ms](const VideoFrame& frame) {
         return toMilliseconds(frame.timestamp()) >= ms;
     };
-    const qint64 completeFrom = ms - lengthOf(FramesBeforeTarget);
+    const qint64 completeFrom = ms - lengthOf(framesBeforeTarget);
     const bool goesOn = m_reader.last() && toMilliseconds(*m_reader.last()) < ms &&
                         isShortlyBefore(double(ms) / 1000.0);
     return look(goesOn, searchFor(ms, completeFrom, isReached), isCancelled);
@@ -138,19 +142,18 @@ FrameResult FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelled)
 
 FrameResult FrameSource::after(double seconds, const IsCancelled& isCancelled)
 {
-    m_stepsBack = 0;
+    m_move = Move::Forward;
     const VideoFrame cached = m_cache.after(seconds);
     if (cached.isValid())
         return {FrameAnswer::Frame, cached};
     if (m_lastTime && seconds >= *m_lastTime)
         return {FrameAnswer::End};
 
-    if (isOnTheWay(seconds)) {
-        const FrameResult finished = finishWalkBehind(isCancelled);
+    if (m_fill.isOnTheWayTo(seconds)) {
+        FrameResult finished = m_fill.finish(isCancelled);
         if (finished.answer == FrameAnswer::Cancelled)
             return finished;
     }
-    leaveWalkBehind();
     const auto isReached = [seconds](const VideoFrame& frame) {
         return frame.timestamp() > seconds;
     };
@@ -158,6 +161,22 @@ FrameResult FrameSource::after(double seconds, const IsCancelled& isCancelled)
     FrameResult found = look(isShortlyBefore(seconds), searchFor(ms, ms, isReached), isCancelled);
     const bool isNone = found.answer == FrameAnswer::Frame && !isReached(found.frame);
     return isNone ? FrameResult{FrameAnswer::End} : found;
+}
+
+FrameResult FrameSource::decodeAnew(double seconds, const IsCancelled& isCancelled)
+{
+    const auto isReached = [seconds](const VideoFrame& frame) {
+        return frame.timestamp() >= seconds;
+    };
+    const qint64 ms = toMilliseconds(seconds);
+    FrameResult found = look(false, searchFor(ms, ms, isReached), isCancelled);
+    const bool isOther = found.answer == FrameAnswer::Frame && found.frame.timestamp() != seconds;
+    if (isOther || found.answer == FrameAnswer::End)
+        return {
+            FrameAnswer::Failed,
+            {},
+            QCoreApplication::translate("QtAV::AVPlayer", "The frame cannot be read any more.")};
+    return found;
 }
 
 FrameReader::Search FrameSource::searchFor(qint64 ms, qint64 completeFrom,
@@ -169,150 +188,156 @@ FrameReader::Search FrameSource::searchFor(qint64 ms, qint64 completeFrom,
 FrameResult FrameSource::look(bool goesOn, const FrameReader::Search& search,
                               const IsCancelled& isCancelled)
 {
+    leaveBackgroundWork();
+    const auto begin = std::chrono::steady_clock::now();
     FrameResult found =
         goesOn ? m_reader.findOn(search, isCancelled) : m_reader.find(search, isCancelled);
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
     const bool isLast = found.answer == FrameAnswer::Frame && !search.isReached(found.frame);
     if (isLast)
         m_lastTime = found.frame.timestamp();
+    if (!goesOn && found.answer == FrameAnswer::Frame && m_reader.landing())
+        m_fill.noteDecoded(*m_reader.landing(), found.frame.timestamp(), took.count());
     return found;
 }
 
-/// True when m_reader comes to a time by going on for a moment, and misses nothing from there on.
+/// True when m_reader comes to a time by going on, sooner than from the key frame before it, and
+/// misses nothing from there on.
 bool FrameSource::isShortlyBefore(double seconds) const
 {
     const std::optional<double> last = m_reader.last();
-    return last && *last <= seconds && seconds - *last <= NearSeconds &&
+    const bool isOnTheWayBack = m_returnsTo && seconds <= *m_returnsTo;
+    return last && *last <= seconds && (isOnTheWayBack || seconds - *last <= nearSeconds) &&
            m_reader.isCompleteFrom(seconds);
+}
+
+/// The reader goes elsewhere.
+void FrameSource::leaveBackgroundWork()
+{
+    m_fill.leave();
+    m_returnsTo.reset();
+    m_returnedTo.reset();
 }
 
 FrameResult FrameSource::before(double seconds, const IsCancelled& isCancelled)
 {
-    ++m_stepsBack;
+    m_move = Move::Backward;
     const std::optional<double> first = m_cache.first();
     if (first && seconds <= *first)
         return {FrameAnswer::End};
     const VideoFrame cached = m_cache.before(seconds);
     if (cached.isValid())
         return {FrameAnswer::Frame, cached};
-    if (!m_walk || m_walk->target != seconds)
-        startWalkBehind(seconds);
-    FrameResult finished = finishWalkBehind(isCancelled);
-    if (finished.answer == FrameAnswer::Cancelled)
-        return finished;
-    const VideoFrame previous = m_walk->previous;
-    m_walk.reset();
-    if (!previous.isValid())
-        return finished;
-    return {FrameAnswer::Frame, previous};
-}
-
-void FrameSource::startWalkBehind(double target)
-{
-    m_walk = WalkBehind{target, m_reader.landing()};
-    landBehind();
-}
-
-void FrameSource::landBehind()
-{
-    const qint64 targetMs = toMilliseconds(m_walk->target);
-    m_reader.seek(std::max<qint64>(0, targetMs - 1 - m_walk->stepBackMs));
-    // What the cache would throw away again need not be decoded.
-    const qint64 frameBytes = std::max<qint64>(1, m_reader.lastFrame().byteCount());
-    const qint64 room = m_cache.mostBytes() / PartBehind / frameBytes;
-    const qint64 frames = std::max(FramesBeforeTarget, room);
-    m_reader.setCompleteFrom(m_walk->skips ? targetMs - lengthOf(frames) : 0);
-    m_walk->previous = VideoFrame();
-}
-
-FrameSource::Filling FrameSource::walkOnBehind(const IsCancelled& isCancelled)
-{
-    FrameResult step = advance(isCancelled);
-    if (step.answer == FrameAnswer::Cancelled)
-        return {true, std::move(step)};
-    const bool isFailed = step.answer == FrameAnswer::Failed;
-    if (isFailed && m_reader.canGoOn())
-        return {false};
-    if (isFailed) {
-        m_walk->previous = VideoFrame();
-        return {true, std::move(step)};
+    if (!m_fill.isUnderWay() || m_fill.target() != seconds) {
+        leaveBackgroundWork();
+        m_fill.start(seconds, toMilliseconds(seconds) -
+                                  lengthOf(std::max(m_cache.roomBefore(), framesBeforeTarget)));
     }
-    const bool isFrame = step.answer == FrameAnswer::Frame;
-    if (isFrame && step.frame.timestamp() < m_walk->target) {
-        m_walk->previous = step.frame;
-        return {false};
+    return m_fill.finish(isCancelled);
+}
+
+std::optional<FrameSource::Rest> FrameSource::nextRest(Rest rest)
+{
+    for (const Rest next : {beforeFilling, beforeReturning, beforeTurningBack}) {
+        if (next > rest)
+            return next;
     }
-    const bool isComplete =
-        isFrame ? m_reader.predecessor().has_value() : !m_reader.skippedSinceLast();
-    const bool isCertain = m_walk->previous.isValid() && isComplete;
-    const bool isAtStart = m_walk->stepBackMs >= toMilliseconds(m_walk->target);
-    const bool isFirst = isFrame && m_reader.isAtFirstOfVideo();
-    if (isCertain || isFirst || (isAtStart && !m_walk->skips))
-        return {true};
-    if (!m_walk->skips)
-        m_walk->stepBackMs = furtherBack(m_walk->stepBackMs);
-    m_walk->skips = false;
-    landBehind();
-    return {false};
+    return std::nullopt;
 }
 
-FrameResult FrameSource::finishWalkBehind(const IsCancelled& isCancelled)
+bool FrameSource::prepare(Rest rest, const IsCancelled& isCancelled)
 {
-    Filling filling;
-    while (!filling.isOver)
-        filling = walkOnBehind(isCancelled);
-    return filling.result;
+    const std::optional<FrameCache::Run> run = m_cache.runAround(m_focus);
+    if (!run)
+        return false;
+    const bool goesForward = m_move == Move::Forward && rest < beforeTurningBack;
+    if (goesForward && !m_fill.isUnderWay())
+        return returnToEnd(*run, isCancelled) || decodeAhead(*run, isCancelled);
+    if (rest < beforeFilling)
+        return false;
+    if (m_move != Move::Backward && !m_fill.isUnderWay() && decodeAhead(*run, isCancelled))
+        return true;
+    if (fillsBehind(*run))
+        return fillBehind(isCancelled);
+    return rest >= beforeReturning && returnToEnd(*run, isCancelled);
 }
 
-/// True when finishing the walk is the shortest way to what follows a time: another one would lead
-/// over the same frames.
-bool FrameSource::isOnTheWay(double seconds) const
+FrameSource::Supply FrameSource::supplyBehind()
 {
-    return m_walk && m_walk->target <= seconds && seconds - m_walk->target <= NearSeconds &&
-           (!m_walk->wayBack || *m_walk->wayBack < m_walk->target);
+    const std::optional<FrameCache::Run> run = m_cache.runAround(m_focus);
+    if (!run)
+        return {};
+    const bool isComing = fillsBehind(*run) && m_fill.target() == run->start;
+    return {run->framesBefore, isComing ? m_fill.remainingSeconds() : std::nullopt};
 }
 
-/// What the walk was for may be wanted again.
-void FrameSource::leaveWalkBehind()
+/// Whether a pass back is under way; begins one when that is needed.
+bool FrameSource::fillsBehind(const FrameCache::Run& run)
 {
-    m_walk.reset();
-    m_filledUpTo.reset();
+    if (m_fill.isUnderWay())
+        return true;
+    if (!m_fill.startIfNeeded(run, m_cache.roomBefore(), m_longestGapMs))
+        return false;
+    m_returnsTo.reset();
+    m_returnedTo.reset();
+    return true;
 }
 
 bool FrameSource::fillBehind(const IsCancelled& isCancelled)
 {
-    if (!m_walk && !startFilling())
-        return catchUp(isCancelled);
-    const Filling filling = walkOnBehind(isCancelled);
-    if (filling.isOver && filling.result.answer != FrameAnswer::Cancelled)
-        m_walk.reset();
-    return true;
+    if (!m_fill.isUnderWay())
+        return false;
+    const std::optional<FrameResult> result = m_fill.advance(isCancelled);
+    return !result || result->answer != FrameAnswer::Failed;
 }
 
-bool FrameSource::startFilling()
+/// Decodes one of the frames after the focus, if the reader is where they follow.
+bool FrameSource::decodeAhead(const FrameCache::Run& run, const IsCancelled& isCancelled)
 {
-    const std::optional<FrameCache::Run> run = m_cache.runAround(m_focus);
-    if (!run || run->isAtStart)
+    const bool isEnough = run.framesAfter >= framesAhead || run.end == m_lastTime;
+    if (isEnough || m_reader.last() != run.end || !m_reader.isCompleteFrom(run.end))
         return false;
-    const qint64 enough = std::max(FewFrames, FramesForStepBack * m_stepsBack);
-    const bool isEnough =
-        run->framesBefore >= enough || run->bytesBefore >= m_cache.mostBytes() / PartBehind;
-    // Filling up to the same frame again would end the same.
-    if (isEnough || m_filledUpTo == run->start)
-        return false;
-    m_filledUpTo = run->start;
-    startWalkBehind(run->start);
-    return true;
+    m_reader.setCompleteFrom(toMilliseconds(run.end));
+    const FrameResult next = advance(isCancelled);
+    if (next.answer == FrameAnswer::End && !m_reader.skippedSinceLast())
+        m_lastTime = run.end;
+    return next.answer == FrameAnswer::Frame;
 }
 
-/// Goes to the last of the cached frames around the focus.
-bool FrameSource::catchUp(const IsCancelled& isCancelled)
+/// Goes to the last of the cached frames around the focus, by way of the focus where the cache does
+/// not hold that in full size.
+bool FrameSource::returnToEnd(const FrameCache::Run& run, const IsCancelled& isCancelled)
 {
-    const std::optional<FrameCache::Run> run = m_cache.runAround(m_focus);
-    const bool isAhead = !run || run->end == m_lastTime || m_reader.last() == run->end;
-    if (isAhead || !isShortlyBefore(run->end))
+    const bool wantsFocus = m_cache.at(m_focus).isScaledDown();
+    const bool isAtEnd = run.end == m_lastTime || m_reader.last() == run.end;
+    if (isAtEnd && !wantsFocus)
         return false;
-    m_reader.setCompleteFrom(toMilliseconds(run->end));
-    return advance(isCancelled).answer == FrameAnswer::Frame;
+    const double target = wantsFocus ? m_focus : run.end;
+    const std::optional<double> last = m_reader.last();
+    const bool isOnTheWay = m_returnsTo && (!last || *last < target);
+    const bool isBefore = last && *last < target && isShortlyBefore(target);
+    if (!isOnTheWay && !isBefore && !startReturn(target, run.end))
+        return false;
+    const FrameResult next = advance(isCancelled);
+    const bool goesOn = next.answer == FrameAnswer::Frame ||
+                        (next.answer == FrameAnswer::Failed && m_reader.canGoOn());
+    if (!goesOn && next.answer != FrameAnswer::Cancelled)
+        m_returnsTo.reset();
+    return goesOn;
+}
+
+/// False when the same has been tried in vain.
+bool FrameSource::startReturn(double target, double end)
+{
+    if (m_returnedTo == m_focus)
+        return false;
+    m_fill.leave();
+    m_returnedTo = m_focus;
+    m_returnsTo = end;
+    const qint64 ms = toMilliseconds(target);
+    m_reader.seek(ms);
+    m_reader.setCompleteFrom(toMilliseconds(m_focus) - lengthOf(framesBeforeTarget));
+    return true;
 }
 
 } // namespace QtAV

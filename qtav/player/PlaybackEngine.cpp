@@ -1,5 +1,6 @@
 #include "qtav/player/PlaybackEngine.h"
 
+#include "qtav/player/StepPacing.h"
 #include "qtav/src/Times.h"
 
 #include <utility>
@@ -22,87 +23,80 @@ PlaybackEngine::~PlaybackEngine()
 {
     {
         const std::lock_guard lock(m_mutex);
-        m_quits = true;
-        leaveFile();
-        m_commandWaits = true;
+        m_commands.quit();
     }
     m_changed.notify_one();
     m_thread.join();
 }
 
 /// Called with the mutex held, as are all below that touch what it guards.
-quint64 PlaybackEngine::post()
+quint64 PlaybackEngine::posted(quint64 serial)
 {
-    m_commandWaits = true;
     m_changed.notify_one();
-    return ++m_serial;
-}
-
-void PlaybackEngine::dropPending()
-{
-    m_seek.reset();
-    m_steps.clear();
-    forgetQueue();
-    m_replacementWaits = true;
+    return serial;
 }
 
 void PlaybackEngine::forgetQueue()
 {
     m_queue.clear();
     m_ended = false;
+    m_failure.reset();
     ++m_queueGeneration;
-}
-
-void PlaybackEngine::leaveFile()
-{
-    dropPending();
-    m_open.reset();
-    m_current = VideoFrame();
-    m_otherFileWaits = true;
 }
 
 quint64 PlaybackEngine::open(const QString& path, qint64 cacheBytes)
 {
     const std::lock_guard lock(m_mutex);
-    leaveFile();
-    const quint64 serial = post();
-    m_open = OpenRequest{path, cacheBytes, serial};
-    return serial;
+    forgetQueue();
+    m_current = VideoFrame();
+    return posted(m_commands.open(path, cacheBytes));
 }
 
 quint64 PlaybackEngine::close()
 {
     const std::lock_guard lock(m_mutex);
-    leaveFile();
-    m_closes = true;
+    forgetQueue();
+    m_current = VideoFrame();
     m_playing = false;
-    return post();
+    return posted(m_commands.close());
 }
 
 quint64 PlaybackEngine::seek(qint64 ms)
 {
     const std::lock_guard lock(m_mutex);
-    dropPending();
-    const quint64 serial = post();
-    m_seek = SeekRequest{ms, serial};
-    return serial;
+    forgetQueue();
+    return posted(m_commands.seek(ms));
 }
 
 quint64 PlaybackEngine::step(Direction direction)
 {
     const std::lock_guard lock(m_mutex);
-    const quint64 serial = post();
-    m_steps.push_back({direction, serial});
-    return serial;
+    return posted(m_commands.step(direction));
+}
+
+quint64 PlaybackEngine::capture(const VideoFrame& frame)
+{
+    const std::lock_guard lock(m_mutex);
+    const quint64 serial = m_commands.capture(frame);
+    if (serial == 0)
+        answer({Answer::Kind::Captured});
+    return posted(serial);
 }
 
 void PlaybackEngine::setPlaying(bool playing)
 {
     const std::lock_guard lock(m_mutex);
     m_playing = playing;
-    m_mayFillBehind = true;
+    m_failure.reset();
+    m_mayPrepare = true;
     m_catchUpTo = 0.0;
     m_changed.notify_one();
+}
+
+void PlaybackEngine::setScreen(const QSize& size)
+{
+    const std::lock_guard lock(m_mutex);
+    m_screen = size;
 }
 
 std::vector<PlaybackEngine::Answer> PlaybackEngine::takeAnswers()
@@ -127,14 +121,18 @@ PlaybackEngine::Due PlaybackEngine::takeDue(double seconds, CatchUp catchUp)
     if (!m_queue.empty())
         due.next = m_queue.front().timestamp();
     due.isEnded = m_ended && m_queue.empty();
+    if (m_queue.empty())
+        due.failure = m_failure;
+    due.duration = m_duration;
     m_catchUpTo = catchUp == CatchUp::Yes ? seconds : 0.0;
-    m_ownerWaitsForFrames = m_queue.empty() && !m_ended;
+    m_ownerWaitsForFrames = m_queue.empty() && !m_ended && !m_failure;
     m_changed.notify_one();
     return due;
 }
 
 void PlaybackEngine::answer(Answer answer)
 {
+    answer.duration = m_duration;
     m_answers.push_back(std::move(answer));
     wakeOwner();
 }
@@ -148,7 +146,7 @@ void PlaybackEngine::wakeOwner()
 void PlaybackEngine::run()
 {
     Lock lock(m_mutex);
-    while (!m_quits) {
+    while (!m_commands.quits()) {
         if (!workOnce(lock))
             m_changed.wait(lock);
     }
@@ -157,113 +155,151 @@ void PlaybackEngine::run()
 /// Does what is most urgent; false when there is nothing to do.
 bool PlaybackEngine::workOnce(Lock& lock)
 {
-    m_otherFileWaits = false;
-    m_replacementWaits = false;
-    m_commandWaits = !m_steps.empty();
-    if (m_closes || m_open)
-        openFile(lock);
-    else if (m_seek)
+    m_commands.acknowledge();
+    m_source.setScreen(m_screen);
+    m_source.setFarFrames(m_playing ? FrameCache::FarFrames::Drop
+                                    : FrameCache::FarFrames::ScaleDown);
+    if (m_commands.hasCapture())
+        carryOutCapture(lock);
+    else if (m_commands.hasFile())
+        replaceFile(lock);
+    else if (m_commands.hasSeek())
         carryOutSeek(lock);
-    else if (!m_steps.empty())
+    else if (m_commands.nextStep() && isTooSoon())
+        prepareForStep(lock);
+    else if (m_commands.nextStep())
         carryOutStep(lock);
     else if (wantsFrames())
         decodeAhead(lock);
-    else if (m_mayFillBehind && !m_playing && m_current.isValid())
-        decodeBehind(lock);
+    else if (m_mayPrepare && !m_playing && m_current.isValid())
+        prepare(lock);
     else
         return false;
     return true;
 }
 
-void PlaybackEngine::openFile(Lock& lock)
+/// Before everything else, since the frame is of the file that is still open.
+void PlaybackEngine::carryOutCapture(Lock& lock)
 {
-    m_closes = false;
-    const std::optional<OpenRequest> request = std::exchange(m_open, std::nullopt);
+    PlaybackCommands::Capture capture = m_commands.takeCapture();
     lock.unlock();
-    Answer result;
-    m_source.close();
-    bool succeeded = false;
-    if (request)
-        succeeded = m_source.open(
-            request->path, request->cacheBytes, [this] { return m_otherFileWaits.load(); },
-            result.error);
-    FrameResult first;
-    if (succeeded)
-        first = m_source.frameAt(0, [] { return false; });
+    if (capture.frame.isScaledDown() && m_source.isOpen())
+        capture.frame = m_source
+                            .decodeAnew(capture.frame.timestamp(),
+                                        [this] { return m_commands.isFileOutdated(); })
+                            .frame;
+    QImage image;
+    if (!capture.frame.isScaledDown())
+        image = capture.frame.toImage(capture.frame.imageFormat());
     lock.lock();
-    if (!request || m_open || m_closes || m_quits)
-        return;
-    result.serial = request->serial;
-    result.kind = succeeded ? Answer::Kind::Opened : Answer::Kind::OpenFailed;
-    result.duration = m_source.duration();
-    result.frameInterval = m_source.frameInterval();
-    result.hasSound = m_source.hasSound();
-    if (succeeded)
-        becomeCurrent(first.frame);
-    result.frame = first.frame;
+    m_mayPrepare = true;
+    Answer result{Answer::Kind::Captured, capture.serial};
+    result.image = std::move(image);
     answer(std::move(result));
 }
 
-void PlaybackEngine::becomeCurrent(const VideoFrame& frame)
+void PlaybackEngine::replaceFile(Lock& lock)
+{
+    const PlaybackCommands::File file = m_commands.takeFile();
+    lock.unlock();
+    const IsCancelled isCancelled = [this] { return m_commands.isFileOutdated(); };
+    m_source.close();
+    FrameResult first{FrameAnswer::Cancelled};
+    QString error;
+    if (!file.path.isEmpty()) {
+        const bool succeeded = m_source.open(file.path, file.cacheBytes, isCancelled, error);
+        first = succeeded ? m_source.frameAt(0, isCancelled)
+                          : FrameResult{FrameAnswer::Failed, {}, error};
+    }
+    lock.lock();
+    m_duration = m_source.duration();
+    if (file.path.isEmpty() || m_commands.isFileOutdated())
+        return;
+    if (first.answer == FrameAnswer::Frame)
+        becomeCurrent(first.frame, file.serial);
+    Answer result{Answer::Kind::Opened, file.serial, first};
+    result.frameInterval = m_source.frameInterval();
+    result.hasSound = m_source.hasSound();
+    answer(std::move(result));
+}
+
+void PlaybackEngine::becomeCurrent(const VideoFrame& frame, quint64 serial)
 {
     m_current = frame;
-    m_mayFillBehind = true;
+    m_currentSerial = serial;
+    m_currentSince = std::chrono::steady_clock::now();
+    m_noStepBackBefore = m_currentSince;
+    m_mayPrepare = true;
     m_catchUpTo = 0.0;
     forgetQueue();
     m_source.setFocus(frame.timestamp());
-    m_restsUntil = std::chrono::steady_clock::now() + RestBeforeFilling;
 }
 
 void PlaybackEngine::carryOutSeek(Lock& lock)
 {
-    const SeekRequest request = *std::exchange(m_seek, std::nullopt);
+    const PlaybackCommands::Seek seek = m_commands.takeSeek();
     if (!m_source.isOpen())
         return;
+    const VideoFrame current = m_current;
     lock.unlock();
-    const FrameResult found =
-        m_source.frameAt(request.ms, [this] { return m_replacementWaits.load(); });
+    const IsCancelled isCancelled = [this] { return m_commands.isSeekOutdated(); };
+    FrameResult found = m_source.frameAt(seek.ms, isCancelled);
+    if (found.answer == FrameAnswer::Failed)
+        found = stayingAt(current, std::move(found), isCancelled);
     lock.lock();
-    if (found.answer == FrameAnswer::Cancelled || m_replacementWaits)
+    m_duration = m_source.duration();
+    if (found.answer == FrameAnswer::Cancelled || m_commands.isSeekOutdated())
         return;
-    const bool isFound = found.answer == FrameAnswer::Frame;
-    if (isFound)
-        becomeCurrent(found.frame);
-    Answer result;
-    result.kind = isFound ? Answer::Kind::Sought : Answer::Kind::SeekFailed;
-    result.serial = request.serial;
-    result.frame = found.frame;
-    answer(std::move(result));
+    if (found.answer == FrameAnswer::Frame)
+        becomeCurrent(found.frame, seek.serial);
+    answer({Answer::Kind::Sought, seek.serial, std::move(found)});
+}
+
+/// A place that cannot be read costs only itself: the frame on screen stays as long as it could
+/// still be had from the file.
+FrameResult PlaybackEngine::stayingAt(const VideoFrame& frame, FrameResult failed,
+                                      const IsCancelled& isCancelled)
+{
+    if (!frame.isValid())
+        return failed;
+    const FrameResult again = m_source.decodeAnew(frame.timestamp(), isCancelled);
+    if (again.answer == FrameAnswer::Cancelled)
+        return again;
+    return again.answer == FrameAnswer::Frame ? again : failed;
 }
 
 void PlaybackEngine::carryOutStep(Lock& lock)
 {
-    const StepRequest request = m_steps.front();
-    m_steps.pop_front();
-    if (!m_source.isOpen() || !m_current.isValid())
-        return;
+    const PlaybackCommands::Step step = m_commands.takeStep();
+    const bool canStep = m_source.isOpen() && m_current.isValid();
     const double from = m_current.timestamp();
     lock.unlock();
-    const IsCancelled isCancelled = [this] { return m_replacementWaits.load(); };
-    const FrameResult found = request.direction == Direction::Forward
-                                  ? m_source.after(from, isCancelled)
-                                  : m_source.before(from, isCancelled);
+    const IsCancelled isCancelled = [this] { return m_commands.isStepOutdated(); };
+    FrameResult found{FrameAnswer::Cancelled};
+    if (canStep)
+        found = step.direction == Direction::Forward ? m_source.after(from, isCancelled)
+                                                     : m_source.before(from, isCancelled);
     lock.lock();
-    if (found.answer == FrameAnswer::Cancelled || m_replacementWaits)
+    m_duration = m_source.duration();
+    const bool isWanted = m_commands.endStep();
+    if (found.answer == FrameAnswer::Cancelled || !isWanted)
         return;
     if (found.answer == FrameAnswer::Frame)
-        becomeCurrent(found.frame);
-    Answer result;
-    result.kind = Answer::Kind::Stepped;
-    result.serial = request.serial;
-    result.frame = found.frame;
-    answer(std::move(result));
+        becomeCurrent(found.frame, step.serial);
+    if (step.direction == Direction::Backward) {
+        const FrameSource::Supply supply = m_source.supplyBehind();
+        const auto pause = StepPacing::pauseFor(supply.frames, supply.secondsToMore);
+        m_noStepBackBefore += std::chrono::duration_cast<Time::duration>(pause);
+    }
+    answer({Answer::Kind::Stepped, step.serial, std::move(found)});
 }
 
 bool PlaybackEngine::wantsFrames() const
 {
     const bool isLarge = m_current.byteCount() >= LargeFrameBytes;
     const size_t most = isLarge ? MostQueuedLargeFrames : MostQueuedFrames;
-    return m_playing && m_current.isValid() && !m_ended && m_queue.size() < most;
+    const bool canGoOn = !m_ended && !m_failure;
+    return m_playing && m_current.isValid() && canGoOn && m_queue.size() < most;
 }
 
 void PlaybackEngine::decodeAhead(Lock& lock)
@@ -274,37 +310,77 @@ void PlaybackEngine::decodeAhead(Lock& lock)
     const quint64 generation = m_queueGeneration;
     lock.unlock();
     m_source.setFocus(current);
-    const IsCancelled isCancelled = [this] { return m_commandWaits.load(); };
+    const IsCancelled isCancelled = [this] { return m_commands.hasArrived(); };
     FrameResult found;
     if (from < catchUpTo - MostLagSeconds)
         found = m_source.frameAt(toMilliseconds(catchUpTo), isCancelled);
     else
         found = m_source.after(from, isCancelled);
     lock.lock();
+    m_duration = m_source.duration();
     if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled)
         return;
     // Catching up at the end of the video may give the frame that was there before.
     const bool isNew = found.answer == FrameAnswer::Frame && found.frame.timestamp() > from;
     if (isNew)
         m_queue.push_back(found.frame);
+    else if (found.answer == FrameAnswer::Failed)
+        m_failure = found.error;
     else
         m_ended = true;
     if (std::exchange(m_ownerWaitsForFrames, false))
         wakeOwner();
 }
 
-void PlaybackEngine::decodeBehind(Lock& lock)
+/// Whether only a step back waits, and is to wait longer: see StepPacing.
+bool PlaybackEngine::isTooSoon() const
 {
-    if (std::chrono::steady_clock::now() < m_restsUntil) {
-        m_changed.wait_until(lock, m_restsUntil);
-        return;
-    }
-    m_source.setFocus(m_current.timestamp());
+    return m_commands.nextStep() == Direction::Backward && !m_playing &&
+           std::chrono::steady_clock::now() < m_noStepBackBefore;
+}
+
+/// Decodes on until the step is due, or what it waits for is there.
+void PlaybackEngine::prepareForStep(Lock& lock)
+{
+    const Time due = m_noStepBackBefore;
     lock.unlock();
-    const bool goesOn = m_source.fillBehind([this] { return m_commandWaits.load(); });
+    const bool goesOn = m_source.fillBehind(
+        [this, due] { return m_commands.hasArrived() || std::chrono::steady_clock::now() >= due; });
     lock.lock();
+    m_duration = m_source.duration();
     if (!goesOn)
-        m_mayFillBehind = false;
+        m_noStepBackBefore = m_currentSince;
+}
+
+void PlaybackEngine::prepare(Lock& lock)
+{
+    m_source.setFocus(m_current.timestamp());
+    const auto rest = std::chrono::duration_cast<FrameSource::Rest>(
+        std::chrono::steady_clock::now() - m_currentSince);
+    const Time since = m_currentSince;
+    lock.unlock();
+    const bool goesOn = m_source.prepare(rest, [this] { return m_commands.hasArrived(); });
+    lock.lock();
+    m_duration = m_source.duration();
+    refine();
+    if (goesOn || m_commands.hasArrived())
+        return;
+    if (const std::optional<FrameSource::Rest> next = FrameSource::nextRest(rest))
+        m_changed.wait_until(lock, since + *next);
+    else
+        m_mayPrepare = false;
+}
+
+/// Gives the current frame once more when it has come in full size meanwhile.
+void PlaybackEngine::refine()
+{
+    if (!m_current.isScaledDown() || m_commands.hasArrived())
+        return;
+    const VideoFrame whole = m_source.cache().at(m_current.timestamp());
+    if (!whole.isValid() || whole.isScaledDown())
+        return;
+    m_current = whole;
+    answer({Answer::Kind::Refined, m_currentSerial, {FrameAnswer::Frame, whole}});
 }
 
 } // namespace QtAV

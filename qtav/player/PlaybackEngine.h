@@ -1,10 +1,12 @@
 #pragma once
 
 #include "qtav/player/FrameSource.h"
+#include "qtav/player/PlaybackCommands.h"
 
+#include <QImage>
+#include <QSize>
 #include <QString>
 
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -16,37 +18,36 @@
 
 namespace QtAV {
 
-/// The decoding thread of one player and its mailbox.
+/// The decoding thread of one player.
 ///
-/// Commands are posted from the owner's thread and never wait. Each bears a serial number, which
-/// its answer repeats. A seek replaces the seeks and steps that have not been answered yet, and so
-/// do opening and closing; steps are carried out one by one. While playing, frames are decoded
-/// ahead into a bounded queue, from which the owner takes them when they are due; while not, what
-/// lies before the current frame is decoded into the cache.
+/// Commands are posted from the owner's thread and never wait, see PlaybackCommands. Each bears a
+/// serial number, which its answer repeats; a command that is replaced by a newer one, or cancelled
+/// by a step in the other direction, is not answered. Steps are carried out one by one. While
+/// playing, frames are decoded ahead into a bounded queue, from which the owner takes them when
+/// they are due; while not, what lies before the current frame is decoded into the cache.
 ///
 /// All public functions are for the owner's thread.
 class PlaybackEngine
 {
 public:
-    enum class Direction { Forward, Backward };
+    using Direction = PlaybackCommands::Direction;
 
     struct Answer
     {
-        enum class Kind {
-            Opened,     ///< the file plays; all but error holds
-            OpenFailed, ///< error holds
-            Sought,     ///< frame holds
-            SeekFailed, ///< no frame can be had any more
-            Stepped,    ///< frame is invalid where there is none in that direction
-        };
+        enum class Kind { Opened, Sought, Stepped, Refined, Captured };
 
-        Kind kind = Kind::SeekFailed;
+        Kind kind = Kind::Sought;
         quint64 serial = 0;
-        VideoFrame frame = {};
-        qint64 duration = 0; ///< in milliseconds
+        /// Opened: Frame when the file plays, else Failed. Sought: Frame, or Failed when no frame
+        /// can be had from the file any more. Stepped: End where there is none in that direction,
+        /// Failed where it cannot be read. All of these may give frames that are scaled down.
+        /// Refined: Frame, the one that was given last, in full size; the serial number is that of
+        /// its command. Captured: no frame, but image.
+        FrameResult result = {};
+        QImage image = {};   ///< Captured: the picture, null when it cannot be had
+        qint64 duration = 0; ///< as far as it is known, in milliseconds; it may grow
         int frameInterval = 0;
         bool hasSound = false;
-        QString error = {};
     };
 
     /// What the queue holds for a moment of playback.
@@ -56,6 +57,9 @@ public:
         std::optional<double> next = {}; ///< the time of the frame after it in seconds
         int dropped = 0;                 ///< frames that came too late to be shown
         bool isEnded = false;            ///< nothing comes after `frame`
+        /// Why nothing can be had after `frame`; nothing while more may come, or none is there.
+        std::optional<QString> failure = {};
+        qint64 duration = 0; ///< as far as it is known, in milliseconds
     };
 
     enum class CatchUp { No, Yes };
@@ -65,10 +69,6 @@ public:
     static constexpr size_t MostQueuedFrames = 5;
     static constexpr size_t MostQueuedLargeFrames = 3;
     static constexpr qint64 LargeFrameBytes = qint64(8) << 20;
-
-    /// Decoding what lies before the current frame begins so long after that was given: until then
-    /// it needs the processor's cores to get to the screen, or to be followed by the next step.
-    static constexpr std::chrono::milliseconds RestBeforeFilling{25};
 
     /// @param wake  called on the decoding thread when there are answers, or frames for an owner
     ///              who found the queue empty. Must not call the engine.
@@ -84,8 +84,15 @@ public:
     quint64 seek(qint64 ms);
     quint64 step(Direction direction);
 
+    /// Makes the picture of a frame of the open file that this engine has given: in Format_ARGB32
+    /// and full size, also where the frame is scaled down. Each call is answered, and in any case.
+    quint64 capture(const VideoFrame& frame);
+
     /// Whether the queue is to be kept full.
     void setPlaying(bool playing);
+
+    /// The size in pixels of the screen on which frames are shown; ignored when empty.
+    void setScreen(const QSize& size);
 
     /// The answers since the last call, in order.
     std::vector<Answer> takeAnswers();
@@ -96,67 +103,51 @@ public:
     Due takeDue(double seconds, CatchUp catchUp);
 
 private:
-    struct OpenRequest
-    {
-        QString path;
-        qint64 cacheBytes;
-        quint64 serial;
-    };
-    struct SeekRequest
-    {
-        qint64 ms;
-        quint64 serial;
-    };
-    struct StepRequest
-    {
-        Direction direction;
-        quint64 serial;
-    };
     using Lock = std::unique_lock<std::mutex>;
+    using Time = std::chrono::steady_clock::time_point;
 
     void run();
     bool workOnce(Lock& lock);
-    void openFile(Lock& lock);
+    void carryOutCapture(Lock& lock);
+    void replaceFile(Lock& lock);
     void carryOutSeek(Lock& lock);
     void carryOutStep(Lock& lock);
     bool wantsFrames() const;
     void decodeAhead(Lock& lock);
-    void decodeBehind(Lock& lock);
+    bool isTooSoon() const;
+    void prepareForStep(Lock& lock);
+    void prepare(Lock& lock);
+    void refine();
 
-    quint64 post();
-    void dropPending();
-    void leaveFile();
+    quint64 posted(quint64 serial);
     void forgetQueue();
-    void becomeCurrent(const VideoFrame& frame);
+    void becomeCurrent(const VideoFrame& frame, quint64 serial);
+    FrameResult stayingAt(const VideoFrame& frame, FrameResult failed,
+                          const IsCancelled& isCancelled);
     void answer(Answer answer);
     void wakeOwner();
 
     const std::function<void()> m_wake;
-    // Asked by the decoding thread between two packets.
-    std::atomic<bool> m_commandWaits{false};     ///< any: decoding ahead and behind stop for it
-    std::atomic<bool> m_replacementWaits{false}; ///< one that seeks and steps stop for
-    std::atomic<bool> m_otherFileWaits{false};   ///< one that opening a file stops for
-
     std::mutex m_mutex;
-    // Guarded by m_mutex, down to m_quits.
+    // Guarded by m_mutex, down to m_ownerWaitsForFrames; m_commands where it does not say other.
     std::condition_variable m_changed;
-    quint64 m_serial = 0;
-    std::optional<OpenRequest> m_open;
-    std::optional<SeekRequest> m_seek;
-    std::deque<StepRequest> m_steps;
+    PlaybackCommands m_commands;
     std::vector<Answer> m_answers;
     VideoFrame m_current;
     std::deque<VideoFrame> m_queue;
     quint64 m_queueGeneration = 0; ///< changes when what is being decoded no longer belongs there
     double m_catchUpTo = 0.0;      ///< the time of the sound in seconds; 0 for none to follow
-    std::chrono::steady_clock::time_point m_restsUntil; ///< nothing is filled before
-    bool m_closes = false;
+    QSize m_screen;
+    quint64 m_currentSerial = 0; ///< of the command that made the current frame so
+    Time m_currentSince;         ///< when that became so
+    Time m_noStepBackBefore;     ///< when the next step back may be answered
+    qint64 m_duration = 0;       ///< of the open file, in milliseconds
     bool m_playing = false;
-    bool m_ended = false; ///< the last frame is in the queue, or was
-    bool m_mayFillBehind = false;
+    bool m_ended = false;             ///< the last frame is in the queue, or was
+    std::optional<QString> m_failure; ///< why nothing can be decoded behind the queue
+    bool m_mayPrepare = false;        ///< there may be something to decode for what comes next
     bool m_ownerIsWoken = false;
     bool m_ownerWaitsForFrames = false;
-    bool m_quits = false;
 
     FrameSource m_source; ///< of the decoding thread
     std::thread m_thread; ///< last, so that it finds everything made

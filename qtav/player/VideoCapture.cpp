@@ -1,25 +1,28 @@
 #include <QtAV/VideoCapture.h>
 
+#include <utility>
+
 namespace QtAV {
 
 VideoCapture::VideoCapture(QObject* parent)
     : QObject(parent)
 {}
 
-void VideoCapture::setFrame(const VideoFrame& frame)
+void VideoCapture::setTaker(std::function<void()> take)
 {
-    m_frame = frame;
+    m_take = std::move(take);
 }
 
 void VideoCapture::capture()
 {
-    QMetaObject::invokeMethod(
-        this, [this, frame = m_frame] { deliver(frame); }, Qt::QueuedConnection);
+    if (m_take)
+        m_take();
+    else
+        QMetaObject::invokeMethod(this, &VideoCapture::failed, Qt::QueuedConnection);
 }
 
-void VideoCapture::deliver(const VideoFrame& frame)
+void VideoCapture::deliver(const QImage& image)
 {
-    const QImage image = frame.toImage(frame.imageFormat());
     if (image.isNull())
         Q_EMIT failed();
     else

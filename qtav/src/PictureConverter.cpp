@@ -30,6 +30,25 @@ AVPixelFormat readableFormatFor(AVPixelFormat format)
     return isDeep ? AV_PIX_FMT_YUV444P16LE : AV_PIX_FMT_YUV444P;
 }
 
+/// The same without a statement of the range, which the scaler wants to be told otherwise.
+AVPixelFormat withoutRange(AVPixelFormat format)
+{
+    switch (format) {
+    case AV_PIX_FMT_YUVJ411P:
+        return AV_PIX_FMT_YUV411P;
+    case AV_PIX_FMT_YUVJ420P:
+        return AV_PIX_FMT_YUV420P;
+    case AV_PIX_FMT_YUVJ422P:
+        return AV_PIX_FMT_YUV422P;
+    case AV_PIX_FMT_YUVJ440P:
+        return AV_PIX_FMT_YUV440P;
+    case AV_PIX_FMT_YUVJ444P:
+        return AV_PIX_FMT_YUV444P;
+    default:
+        return format;
+    }
+}
+
 bool isFullRangeFormat(const AVFrame& frame)
 {
     return frame.color_range == AVCOL_RANGE_JPEG || YuvToRgb::isJpegFormat(frame.format);
@@ -40,17 +59,27 @@ void setOption(SwsContext& context, const char* name, int64_t value)
     av_opt_set_int(&context, name, value, 0);
 }
 
-/// Says where chroma lies, in directions in which there is less of it than of luma.
-void setChromaPlace(SwsContext& context, AVPixelFormat format, AVChromaLocation location)
+/// Says where chroma lies, in directions in which there is less of it than of luma. The side is
+/// "src" or "dst".
+void setChromaPlace(SwsContext& context, const QByteArray& side, AVPixelFormat format,
+                    AVChromaLocation location)
 {
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
     const std::optional<ChromaPosition> position = chromaPositionOf(location);
     if (!position)
         return;
     if (descriptor.log2_chroma_w > 0)
-        setOption(context, "src_h_chr_pos", position->x);
+        setOption(context, (side + "_h_chr_pos").constData(), position->x);
     if (descriptor.log2_chroma_h > 0)
-        setOption(context, "src_v_chr_pos", position->y);
+        setOption(context, (side + "_v_chr_pos").constData(), position->y);
+}
+
+/// Smaller pictures are made by area: every pixel counts, and what is fine neither vanishes nor
+/// flickers. That smooths too much where a picture becomes larger.
+int filterFor(const QSize& from, const QSize& to)
+{
+    const bool isSmaller = to.width() <= from.width() && to.height() <= from.height();
+    return isSmaller ? SWS_AREA : SWS_BICUBIC;
 }
 
 } // namespace
@@ -84,12 +113,35 @@ QImage PictureConverter::convert(const AVFrame& frame, const QSize& size)
     const bool isStored = size == QSize(frame.width, frame.height);
     if (isStored && YuvToRgb::reads(format))
         return imageOf(frame);
-    std::optional<Scaler> scaler = takeScaler(taskFor(frame, size));
-    if (!scaler || !scale(frame, *scaler))
+    std::optional<Scaler> scaler = takeScaler(taskFor(frame, size, readableFormatFor(format)));
+    if (!scaler)
+        return {};
+    if (!scaler->picture)
+        scaler->picture = makePicture(scaler->task);
+    if (!scaler->picture || !scale(frame, *scaler, *scaler->picture))
         return {};
     QImage image = imageOf(*scaler->picture);
     keepScaler(std::move(*scaler));
     return image;
+}
+
+FramePtr PictureConverter::scaled(const AVFrame& frame, const QSize& size)
+{
+    const auto format = static_cast<AVPixelFormat>(frame.format);
+    if (!av_pix_fmt_desc_get(format) || size.isEmpty())
+        return nullptr;
+    const AVPixelFormat target = YuvToRgb::reads(format) ? format : readableFormatFor(format);
+    std::optional<Scaler> scaler = takeScaler(taskFor(frame, size, target));
+    if (!scaler)
+        return nullptr;
+    FramePtr picture = makePicture(scaler->task);
+    if (!picture || !scale(frame, *scaler, *picture))
+        return nullptr;
+    keepScaler(std::move(*scaler));
+    picture->chroma_location = YuvToRgb::chromaLocationOf(frame);
+    picture->color_primaries = frame.color_primaries;
+    picture->color_trc = frame.color_trc;
+    return picture;
 }
 
 /// The image of a picture in one of the readable formats.
@@ -106,21 +158,20 @@ QImage PictureConverter::imageOf(const AVFrame& picture)
     return image;
 }
 
-PictureConverter::Task PictureConverter::taskFor(const AVFrame& frame, const QSize& size)
+PictureConverter::Task PictureConverter::taskFor(const AVFrame& frame, const QSize& size,
+                                                 AVPixelFormat target)
 {
-    const auto format = static_cast<AVPixelFormat>(frame.format);
     return {{frame.width, frame.height},
             size,
-            format,
-            readableFormatFor(format),
+            withoutRange(static_cast<AVPixelFormat>(frame.format)),
+            withoutRange(target),
             isFullRangeFormat(frame),
             YuvToRgb::chromaLocationOf(frame)};
 }
 
 /// Scales a picture, which keeps its own colours. False when that is impossible.
-bool PictureConverter::scale(const AVFrame& frame, const Scaler& scaler)
+bool PictureConverter::scale(const AVFrame& frame, const Scaler& scaler, AVFrame& picture)
 {
-    AVFrame& picture = *scaler.picture;
     picture.color_range = isFullRangeFormat(frame) ? AVCOL_RANGE_JPEG : frame.color_range;
     picture.colorspace = YuvToRgb::matrixOf(frame);
     return sws_scale(scaler.context.get(), frame.data, frame.linesize, 0, frame.height,
@@ -155,9 +206,10 @@ ScalerPtr PictureConverter::makeScalerContext(const Task& task)
     setOption(*context, "dsth", task.to.height());
     setOption(*context, "dst_format", task.target);
     setOption(*context, "sws_flags",
-              SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT | SWS_FULL_CHR_H_INP |
-                  SWS_BITEXACT);
-    setChromaPlace(*context, task.source, task.chromaLocation);
+              filterFor(task.from, task.to) | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT |
+                  SWS_FULL_CHR_H_INP | SWS_BITEXACT);
+    setChromaPlace(*context, "src", task.source, task.chromaLocation);
+    setChromaPlace(*context, "dst", task.target, task.chromaLocation);
     return sws_init_context(context.get(), nullptr, nullptr) < 0 ? nullptr : std::move(context);
 }
 
@@ -171,13 +223,17 @@ std::optional<PictureConverter::Scaler> PictureConverter::makeScaler(const Task&
     constexpr int Neutral = 1 << 16;
     sws_setColorspaceDetails(context.get(), coefficients, task.isFullRange, coefficients,
                              task.isFullRange, 0, Neutral, Neutral);
+    return Scaler{task, std::move(context), nullptr};
+}
+
+/// Null when memory runs out.
+FramePtr PictureConverter::makePicture(const Task& task)
+{
     FramePtr picture = makeFrame();
     picture->width = task.to.width();
     picture->height = task.to.height();
     picture->format = task.target;
-    if (av_frame_get_buffer(picture.get(), 0) < 0)
-        return std::nullopt;
-    return Scaler{task, std::move(context), std::move(picture)};
+    return av_frame_get_buffer(picture.get(), 0) < 0 ? nullptr : std::move(picture);
 }
 
 void PictureConverter::keepScaler(Scaler scaler)

@@ -30,6 +30,10 @@ public:
     /// True when the picture's format has alpha, be all of it opaque or not.
     static bool hasAlpha(const AVFrame& frame);
 
+    /// The picture itself, smaller: in its own format where that can be read directly, with its own
+    /// colours and square pixels. Null when it cannot be scaled or memory runs out.
+    FramePtr scaled(const AVFrame& frame, const QSize& size);
+
     /// True for pictures of luma and chroma alone. What convert() gives of them is opaque, and at a
     /// smaller size shows what it shows at full size, at a part of the time and memory: scaling
     /// luma and chroma comes to the same as scaling colours.
@@ -53,17 +57,18 @@ private:
     {
         Task task;
         ScalerPtr context;
-        FramePtr picture; ///< where it writes to
+        FramePtr picture; ///< for convert() to write to; made when it is first needed
     };
 
     /// More kinds of pictures than a video and its conversions have at a time.
     static constexpr size_t MostIdleScalers = 4;
 
     QImage imageOf(const AVFrame& picture);
-    static Task taskFor(const AVFrame& frame, const QSize& size);
+    static Task taskFor(const AVFrame& frame, const QSize& size, AVPixelFormat target);
     static ScalerPtr makeScalerContext(const Task& task);
     static std::optional<Scaler> makeScaler(const Task& task);
-    static bool scale(const AVFrame& frame, const Scaler& scaler);
+    static FramePtr makePicture(const Task& task);
+    static bool scale(const AVFrame& frame, const Scaler& scaler, AVFrame& picture);
     std::optional<Scaler> takeScaler(const Task& task);
     void keepScaler(Scaler scaler);
 

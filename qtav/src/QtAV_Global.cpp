@@ -8,7 +8,12 @@
 #include <atomic>
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib> // says whether the C library is GNU's
 #include <mutex>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace QtAV {
 
@@ -70,6 +75,13 @@ void setLogLevel(LogLevel level)
 LogLevel logLevel()
 {
     return s_level;
+}
+
+void trimFreedMemory()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
 }
 
 void routeFFmpegLog()

@@ -30,6 +30,17 @@ AVRational sampleAspectRatioOf(const AVFrame& frame, const StreamParameters& par
 /// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
 constexpr double WidestPixel = 16.0;
 
+/// The stored size with square pixels.
+QSize squareSizeOf(const AVFrame& frame, AVRational sampleAspectRatio)
+{
+    const double ratio = av_q2d(sampleAspectRatio);
+    if (ratio > WidestPixel || ratio < 1.0 / WidestPixel)
+        return {frame.width, frame.height};
+    if (ratio >= 1.0)
+        return {static_cast<int>(std::lround(frame.width * ratio)), frame.height};
+    return {frame.width, static_cast<int>(std::lround(frame.height / ratio))};
+}
+
 } // namespace
 
 VideoFramePrivate::VideoFramePrivate(FramePtr picture, qint64 ticks,
@@ -38,19 +49,18 @@ VideoFramePrivate::VideoFramePrivate(FramePtr picture, qint64 ticks,
     : frame(std::move(picture))
     , seconds(parameters->timeline.seconds(ticks))
     , orientation(orientationOf(*frame, *parameters))
-    , sampleAspectRatio(sampleAspectRatioOf(*frame, *parameters))
+    , squareSize(squareSizeOf(*frame, sampleAspectRatioOf(*frame, *parameters)))
     , converter(std::move(pictureConverter))
 {}
 
-QSize VideoFramePrivate::squareSize() const
-{
-    const double ratio = av_q2d(sampleAspectRatio);
-    if (ratio > WidestPixel || ratio < 1.0 / WidestPixel)
-        return {frame->width, frame->height};
-    if (ratio >= 1.0)
-        return {static_cast<int>(std::lround(frame->width * ratio)), frame->height};
-    return {frame->width, static_cast<int>(std::lround(frame->height / ratio))};
-}
+VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& whole, FramePtr smaller)
+    : frame(std::move(smaller))
+    , seconds(whole.seconds)
+    , orientation(whole.orientation)
+    , squareSize(whole.squareSize)
+    , isScaledDown(true)
+    , converter(whole.converter)
+{}
 
 VideoFrame::VideoFrame() = default;
 VideoFrame::~VideoFrame() = default;
@@ -87,8 +97,24 @@ QSize VideoFrame::displaySize() const
 {
     if (!d)
         return {};
-    const QSize square = d->squareSize();
-    return swapsSides(d->orientation) ? square.transposed() : square;
+    return swapsSides(d->orientation) ? d->squareSize.transposed() : d->squareSize;
+}
+
+VideoFrame VideoFrame::scaledDown(const QSize& size) const
+{
+    const QSize whole = displaySize();
+    const bool isSmaller =
+        !size.isEmpty() && size.width() < whole.width() && size.height() < whole.height();
+    if (!d || !isSmaller || !PictureConverter::isOpaqueYuv(*d->frame))
+        return *this;
+    const QSize stored = swapsSides(d->orientation) ? size.transposed() : size;
+    FramePtr smaller = d->converter->scaled(*d->frame, stored);
+    return smaller ? VideoFrame(new VideoFramePrivate(*d, std::move(smaller))) : *this;
+}
+
+bool VideoFrame::isScaledDown() const
+{
+    return d && d->isScaledDown;
 }
 
 qint64 VideoFrame::byteCount() const

@@ -21,13 +21,14 @@ public:
                       const std::shared_ptr<const StreamParameters>& parameters,
                       std::shared_ptr<PictureConverter> converter);
 
-    /// The stored size with square pixels.
-    QSize squareSize() const;
+    /// The same frame with a smaller picture.
+    VideoFramePrivate(const VideoFramePrivate& whole, FramePtr smaller);
 
     const FramePtr frame;
     const double seconds;
     const Orientation orientation;
-    const AVRational sampleAspectRatio;
+    const QSize squareSize; ///< of the decoded picture, with square pixels
+    const bool isScaledDown = false;
     const std::shared_ptr<PictureConverter> converter;
 };
 

@@ -48,7 +48,7 @@ class AVPlayerSeekTest : public QObject
 private slots:
     void steps_meetEveryFrameOnce_toTheEndAndBack_data();
     void steps_meetEveryFrameOnce_toTheEndAndBack();
-    void steps_addUp_whenNobodyWaits();
+    void steps_addUpToALimit_whenNobodyWaits();
     void step_pauses_whilePlaying_andGoesFromTheFrameOnScreen();
     void mixedStepsAndSeeks_endOnTheRightFrame_data();
     void mixedStepsAndSeeks_endOnTheRightFrame();
@@ -95,7 +95,7 @@ void AVPlayerSeekTest::steps_meetEveryFrameOnce_toTheEndAndBack()
     QCOMPARE(stage.screen.shown.size(), sample.frames);
 }
 
-void AVPlayerSeekTest::steps_addUp_whenNobodyWaits()
+void AVPlayerSeekTest::steps_addUpToALimit_whenNobodyWaits()
 {
     Stage stage;
     QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
@@ -103,8 +103,9 @@ void AVPlayerSeekTest::steps_addUp_whenNobodyWaits()
         stage.player.stepForward();
     for (int i = 0; i < 10; ++i)
         stage.player.stepBackward();
-    QTRY_COMPARE_WITH_TIMEOUT(stage.screen.shown.size(), 41, Patience);
-    QCOMPARE(stage.number(), 20);
+    stage.settle();
+    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 20, Patience);
+    QVERIFY(stage.screen.shown.size() <= 41);
 }
 
 void AVPlayerSeekTest::step_pauses_whilePlaying_andGoesFromTheFrameOnScreen()

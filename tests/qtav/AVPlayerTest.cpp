@@ -1,5 +1,7 @@
 #include "tests/qtav/Playing.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace decoding;
@@ -16,6 +18,9 @@ private slots:
     void newPlayer_isStopped_andHasNothing();
     void play_showsEveryFrame_andPausesOnTheLast();
     void play_startsOver_fromTheEnd();
+    void play_startsOver_fromTheLastFrame_howeverItCameThere_data();
+    void play_startsOver_fromTheLastFrame_howeverItCameThere();
+    void duration_grows_whenFramesComeBehindIt();
     void playback_stops_atTheEnd_whenToldSo();
     void playback_ends_forEachFormat_data();
     void playback_ends_forEachFormat();
@@ -46,7 +51,7 @@ void AVPlayerTest::newPlayer_isStopped_andHasNothing()
     QCOMPARE(player.position(), qint64(0));
     QCOMPARE(player.displayPosition(), qint64(0));
     QCOMPARE(player.statistics().video_only.width, 0);
-    QCOMPARE(player.frameCacheSize(), qint64(256) << 20);
+    QCOMPARE(player.frameCacheSize(), qint64(224) << 20);
     QVERIFY(player.videoCapture());
     QCOMPARE(player.audio()->volume(), 1.0);
 }
@@ -93,6 +98,72 @@ void AVPlayerTest::play_startsOver_fromTheEnd()
     QCOMPARE(stage.screen.shown.constFirst().number, 0);
     QCOMPARE(stage.player.mediaStatus(), QtAV::LoadedMedia);
     QVERIFY(stage.screen.shown.constLast().number < 40);
+}
+
+void AVPlayerTest::play_startsOver_fromTheLastFrame_howeverItCameThere_data()
+{
+    QTest::addColumn<qint64>("position");
+    QTest::addColumn<int>("steps");
+    QTest::newRow("by a seek") << qint64(1960) << 0;
+    QTest::newRow("by a seek past the end") << qint64(3600000) << 0;
+    QTest::newRow("by a step") << qint64(1920) << 1;
+    QTest::newRow("by steps against the end") << qint64(1920) << 3;
+}
+
+void AVPlayerTest::play_startsOver_fromTheLastFrame_howeverItCameThere()
+{
+    QFETCH(qint64, position);
+    QFETCH(int, steps);
+    Stage stage;
+    stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
+    QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
+    QVERIFY(stage.seek(position));
+    for (int i = 0; i < steps; ++i)
+        stage.player.stepForward();
+    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 49, Patience);
+    stage.settle();
+    stage.screen.shown.clear();
+    stage.player.play();
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    QCOMPARE(stage.screen.shown.constFirst().number, 0);
+    QVERIFY(stage.player.isPlaying());
+    // Once, not for ever.
+    QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    QVERIFY(stage.player.isPaused());
+}
+
+/// As with a recording that goes on: the rest of the file comes once it is open.
+void AVPlayerTest::duration_grows_whenFramesComeBehindIt()
+{
+    QFile whole(testsupport::samplePath(QStringLiteral("mpeg2.ts")));
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    const QTemporaryDir folder;
+    QFile grown(folder.filePath(QStringLiteral("grown.ts")));
+    QVERIFY(grown.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    QVERIFY(grown.write(whole.read(whole.size() / 2 / 188 * 188)) > 0);
+
+    Stage stage;
+    stage.player.play(grown.fileName());
+    stage.player.pause();
+    QVERIFY(stage.waitForStatus(QtAV::LoadedMedia));
+    const qint64 half = stage.player.duration();
+    QVERIFY(half > 0);
+    QSignalSpy durations(&stage.player, &AVPlayer::durationChanged);
+    QVERIFY(grown.write(whole.readAll()) > 0);
+    qint64 last = -1;
+    while (stage.player.displayPosition() <= half && stage.player.displayPosition() > last) {
+        last = stage.player.displayPosition();
+        QVERIFY(stage.stepForward());
+    }
+    QVERIFY(stage.player.displayPosition() > half);
+    QVERIFY(!durations.isEmpty());
+    QCOMPARE(durations.constLast().at(0).toLongLong(), stage.player.duration());
+    QVERIFY(stage.player.duration() >= stage.player.displayPosition());
+    // What is known to exist can be gone to.
+    const int number = stage.number();
+    QVERIFY(stage.stepBackward());
+    QVERIFY(stage.seek(stage.player.duration()));
+    QVERIFY(stage.number() >= number);
 }
 
 void AVPlayerTest::playback_stops_atTheEnd_whenToldSo()

@@ -26,6 +26,11 @@ private slots:
     void run_endsWhereANeighbourIsUnknown();
     void run_reachesTheStart_whenTheFirstFrameIsKnown();
     void clear_leavesNothing();
+    void farFrames_areScaledDown_andTheNearestStay();
+    void farFrames_areDropped_whenToldSo();
+    void smallerFrames_leaveRoomForMore();
+    void decodedFrame_replacesASmallOne_nearTheFocus_butNotFarFromIt();
+    void decodedFrame_replacesASmallOne_ofAnotherSize();
 
 private:
     double time(int n) const { return m_frames.at(n).timestamp(); }
@@ -171,7 +176,6 @@ void FrameCacheTest::run_endsWhereANeighbourIsUnknown()
     QVERIFY(!run->isAtStart);
     QCOMPARE(run->end, time(6));
     QCOMPARE(run->framesBefore, 2);
-    QCOMPARE(run->bytesBefore, m_frames.at(3).byteCount() + m_frames.at(4).byteCount());
     QVERIFY(!cache.runAround(time(2)).has_value());
 }
 
@@ -195,6 +199,84 @@ void FrameCacheTest::clear_leavesNothing()
     QCOMPARE(cache.byteCount(), qint64(0));
     QVERIFY(!cache.first().has_value());
     QVERIFY(!cache.at(time(2)).isValid());
+}
+
+/// Room for four frames as they were decoded, half of which may stay so.
+void FrameCacheTest::farFrames_areScaledDown_andTheNearestStay()
+{
+    FrameCache cache(4 * m_frames.at(0).byteCount());
+    cache.setScreen({80, 60});
+    cache.setFocus(time(5));
+    insert(cache, 0, 11);
+    QCOMPARE(cache.frameCount(), 12);
+    QVERIFY(cache.byteCount() <= cache.mostBytes());
+    int whole = 0;
+    for (int n = 0; n < 12; ++n) {
+        const VideoFrame frame = cache.at(time(n));
+        QVERIFY(frame.isValid());
+        QCOMPARE(frame.displaySize(), QSize(320, 240));
+        whole += frame.isScaledDown() ? 0 : 1;
+        if (frame.isScaledDown())
+            QCOMPARE(QSize(frame.width(), frame.height()), QSize(80, 60));
+    }
+    QCOMPARE(whole, 2);
+    QVERIFY(!cache.at(time(5)).isScaledDown());
+    QCOMPARE(cache.runAround(time(5))->framesBefore, 5);
+    QCOMPARE(cache.runAround(time(5))->framesAfter, 6);
+}
+
+void FrameCacheTest::farFrames_areDropped_whenToldSo()
+{
+    FrameCache cache(4 * m_frames.at(0).byteCount());
+    cache.setScreen({80, 60});
+    cache.setFarFrames(FrameCache::FarFrames::Drop);
+    cache.setFocus(time(5));
+    insert(cache, 0, 11);
+    QCOMPARE(cache.frameCount(), 2);
+    QVERIFY(!cache.at(time(5)).isScaledDown());
+}
+
+void FrameCacheTest::smallerFrames_leaveRoomForMore()
+{
+    FrameCache cache(8 * m_frames.at(0).byteCount());
+    QCOMPARE(cache.roomBefore(), qint64(0));
+    insert(cache, 0, 0);
+    const qint64 whole = cache.roomBefore();
+    QVERIFY(whole >= 4);
+    FrameCache small(8 * m_frames.at(0).byteCount());
+    small.setScreen({80, 60});
+    insert(small, 0, 0);
+    QVERIFY(small.roomBefore() > 4 * whole);
+}
+
+void FrameCacheTest::decodedFrame_replacesASmallOne_nearTheFocus_butNotFarFromIt()
+{
+    FrameCache cache(4 * m_frames.at(0).byteCount());
+    cache.setScreen({80, 60});
+    cache.setFocus(time(11));
+    insert(cache, 0, 11);
+    QVERIFY(cache.at(time(1)).isScaledDown());
+    insert(cache, 1, 1);
+    QVERIFY(cache.at(time(1)).isScaledDown());
+    cache.setFocus(time(1));
+    insert(cache, 1, 1);
+    QVERIFY(!cache.at(time(1)).isScaledDown());
+    QCOMPARE(cache.frameCount(), 12);
+    QCOMPARE(cache.before(time(2)).timestamp(), time(1));
+    QVERIFY(cache.byteCount() <= cache.mostBytes());
+}
+
+void FrameCacheTest::decodedFrame_replacesASmallOne_ofAnotherSize()
+{
+    FrameCache cache(4 * m_frames.at(0).byteCount());
+    cache.setScreen({80, 60});
+    cache.setFocus(time(11));
+    insert(cache, 0, 11);
+    cache.setScreen({120, 200});
+    QCOMPARE(cache.at(time(1)).width(), 80); // usable still
+    insert(cache, 1, 1);
+    QCOMPARE(cache.at(time(1)).width(), 120);
+    QCOMPARE(cache.at(time(1)).height(), 90);
 }
 
 QTEST_GUILESS_MAIN(FrameCacheTest)

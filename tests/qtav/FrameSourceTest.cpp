@@ -29,11 +29,12 @@ constexpr int FewPackets = 20;
 /// A source in a video whose key frames are 250 frames apart, and the frame on screen.
 struct LongGroups
 {
-    explicit LongGroups(qint64 ms)
+    explicit LongGroups(qint64 ms, qint64 cacheBytes = QtAV::FrameCache::DefaultBytes)
     {
         QString error;
-        if (!source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")),
-                         QtAV::FrameCache::DefaultBytes, never, error))
+        source.setScreen({80, 60});
+        if (!source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), cacheBytes,
+                         never, error))
             qFatal("%s", qPrintable(error));
         show(source.frameAt(ms, never));
     }
@@ -58,18 +59,24 @@ struct LongGroups
     }
 
     /// Fills until there is no more to do, or so many packets have been taken.
-    void fill(int mostPackets = 1000000)
+    void fill(int mostPackets = 1000000, FrameSource::Rest rest = FrameSource::longestRest)
     {
         packets = 0;
         const auto enough = [this, mostPackets] { return packets == mostPackets || ++packets < 0; };
-        while (packets < mostPackets && source.fillBehind(enough)) {
+        while (packets < mostPackets && source.prepare(rest, enough)) {
         }
     }
+
+    /// As far as the rest between two steps allows.
+    void fillShortly() { fill(1000000, FrameSource::Rest(100)); }
 
     FrameSource source;
     VideoFrame frame;
     int packets = 0;
 };
+
+/// For the frames of that video: few as they were decoded, and many that are scaled down.
+constexpr qint64 smallFrames = 2 << 20;
 
 /// Room for few frames, so that most of them are decoded again.
 qint64 smallCache(const VideoFrame& frame)
@@ -90,12 +97,19 @@ private slots:
     void mixedStepsAndSeeks_endOnTheRightFrame_data() { addSamples(); }
     void mixedStepsAndSeeks_endOnTheRightFrame();
     void filling_letsStepsBackDecodeNothing_asLongAsTheyGoOn();
-    void filling_leavesTheDecoderWhereItIs_afterASeek();
+    void preparing_keepsGoingForwardCheap_afterASeek();
+    void preparing_waits_untilTheUserRests();
+    void preparing_keepsForward_afterAStepForward();
+    void smallFrames_areMetOnceEach_toTheEndAndBack_data();
+    void smallFrames_areMetOnceEach_toTheEndAndBack();
+    void resting_bringsTheFrameAtTheFocus_inFullSize();
+    void decodeAnew_givesTheDecodedPicture_ofASmallFrame();
+    void supplyBehind_tellsTheTimeToMore_untilEnoughIsThere();
     void filling_returnsToWhereGoingForwardDecodesOn();
     void stepForward_endsTheFillingUnderway_withoutStartingAgain();
     void stepForward_leavesTheFillingUnderway_whenAKeyFrameIsNear();
     void filling_ends_withoutAnyStep();
-    void cache_takesNoMoreThanIsUseful_howeverMuchIsAllowed();
+    void cache_takesNoMoreThanAllowed();
     void cancelledSearch_givesNoFrame_andTheNextOneIsRight();
     void open_fails_whenNothingCanBeDecoded_data();
     void open_fails_whenNothingCanBeDecoded();
@@ -182,7 +196,8 @@ void FrameSourceTest::mixedStepsAndSeeks_endOnTheRightFrame()
         if (found.answer == FrameAnswer::Frame)
             frame = found.frame;
         source.setFocus(frame.timestamp());
-        for (auto fills = random() % 20; fills > 0 && source.fillBehind(never);)
+        for (auto fills = random() % 20;
+             fills > 0 && source.prepare(FrameSource::longestRest, never);)
             --fills;
         QCOMPARE(shown(frame), expected(sample, n));
     }
@@ -200,15 +215,133 @@ void FrameSourceTest::filling_letsStepsBackDecodeNothing_asLongAsTheyGoOn()
     }
 }
 
-void FrameSourceTest::filling_leavesTheDecoderWhereItIs_afterASeek()
+void FrameSourceTest::preparing_keepsGoingForwardCheap_afterASeek()
 {
     LongGroups opened(9000);
     opened.fill();
-    QCOMPARE(opened.packets, 0);
-    for (int n = 226; n < 230; ++n) {
+    for (int n = 226; n < 245; ++n) {
         QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
         QVERIFY(opened.packets <= FewPackets);
     }
+}
+
+void FrameSourceTest::preparing_waits_untilTheUserRests()
+{
+    LongGroups opened(9000);
+    QVERIFY(!opened.source.prepare(FrameSource::Rest::zero(), never));
+    const auto rest = FrameSource::nextRest(FrameSource::Rest::zero());
+    QVERIFY(rest);
+    QVERIFY(opened.source.prepare(*rest, never));
+    QVERIFY(!FrameSource::nextRest(FrameSource::longestRest));
+}
+
+/// The next frames come into the cache; the reader goes back only when the user rests long.
+void FrameSourceTest::preparing_keepsForward_afterAStepForward()
+{
+    LongGroups opened(9000);
+    QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, 226);
+    int prepared = 0;
+    while (opened.source.prepare(FrameSource::Rest(500), never))
+        ++prepared;
+    QVERIFY(prepared > 5);
+    QVERIFY(prepared < 50);
+    for (int n = 227; n < 232; ++n) {
+        QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
+        QCOMPARE(opened.packets, 0);
+    }
+    QVERIFY(opened.source.prepare(FrameSource::longestRest, never));
+}
+
+void FrameSourceTest::smallFrames_areMetOnceEach_toTheEndAndBack_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file :
+         {"h264_gop250.mp4", "h264_open_gop_bframes.mp4", "hevc_open_gop.mp4", "mpeg2.ts",
+          "variable_rate.mkv", "turned_90_anamorphic.mp4", "hevc_10bit.mkv", "vp9_alpha.webm"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+/// With so little memory that only small frames fit, and steps that find what was prepared.
+void FrameSourceTest::smallFrames_areMetOnceEach_toTheEndAndBack()
+{
+    QFETCH(QString, file);
+    const Sample& sample = testsupport::sampleNamed(file);
+    FrameSource source;
+    source.setScreen({120, 120});
+    QString error;
+    QVERIFY(source.open(testsupport::samplePath(file), cacheFor(sample), never, error));
+    VideoFrame frame = source.frameAt(0, never).frame;
+    QList<Shown> seen{shown(frame)};
+    bool wereSmall = false;
+    const auto walk = [&](FrameResult (FrameSource::*direction)(double, const QtAV::IsCancelled&)) {
+        FrameResult found;
+        while ((found = (source.*direction)(frame.timestamp(), never)).answer ==
+               FrameAnswer::Frame) {
+            frame = found.frame;
+            wereSmall = wereSmall || frame.isScaledDown();
+            QCOMPARE(frame.displaySize(), sample.displaySize);
+            source.setFocus(frame.timestamp());
+            seen.append(shown(frame));
+            for (int i = 0; i < 10 && source.prepare(FrameSource::Rest(100), never); ++i) {
+            }
+        }
+        QCOMPARE(found.answer, FrameAnswer::End);
+    };
+    walk(&FrameSource::after);
+    QList<Shown> expected = expectedFrom(sample, 0);
+    QCOMPARE(seen, expected);
+    seen = {seen.constLast()};
+    walk(&FrameSource::before);
+    std::reverse(expected.begin(), expected.end());
+    QCOMPARE(seen, expected);
+    QCOMPARE(wereSmall, !sample.has(Trait::Alpha));
+    QVERIFY(source.cache().byteCount() <= source.cache().mostBytes());
+}
+
+void FrameSourceTest::resting_bringsTheFrameAtTheFocus_inFullSize()
+{
+    LongGroups opened(9000, smallFrames);
+    for (int n = 224; n > 200; --n) {
+        opened.fillShortly();
+        QCOMPARE(shown(opened.step(&FrameSource::before).frame).number, n);
+    }
+    QVERIFY(opened.frame.isScaledDown());
+    opened.fill();
+    const VideoFrame whole = opened.source.cache().at(opened.frame.timestamp());
+    QVERIFY(whole.isValid());
+    QVERIFY(!whole.isScaledDown());
+    QCOMPARE(shown(whole), shown(opened.frame));
+    QVERIFY(!opened.source.prepare(FrameSource::longestRest, never));
+}
+
+void FrameSourceTest::decodeAnew_givesTheDecodedPicture_ofASmallFrame()
+{
+    LongGroups decoded(7960);
+    QVERIFY(!decoded.frame.isScaledDown());
+    LongGroups opened(9000, smallFrames);
+    opened.fillShortly();
+    while (shown(opened.frame).number > 199)
+        QCOMPARE(opened.step(&FrameSource::before).answer, FrameAnswer::Frame);
+    QVERIFY(opened.frame.isScaledDown());
+    const FrameResult anew = opened.source.decodeAnew(opened.frame.timestamp(), never);
+    QCOMPARE(anew.answer, FrameAnswer::Frame);
+    QCOMPARE(anew.frame.timestamp(), opened.frame.timestamp());
+    QVERIFY(anew.frame.toImage() == decoded.frame.toImage());
+    QCOMPARE(opened.source.decodeAnew(7.9601, never).answer, FrameAnswer::Failed);
+}
+
+void FrameSourceTest::supplyBehind_tellsTheTimeToMore_untilEnoughIsThere()
+{
+    LongGroups opened(9000, smallFrames);
+    QCOMPARE(opened.step(&FrameSource::before).answer, FrameAnswer::Frame);
+    const FrameSource::Supply few = opened.source.supplyBehind();
+    QVERIFY(few.frames < 10);
+    QVERIFY(few.secondsToMore);
+    QVERIFY(*few.secondsToMore > 0.0);
+    opened.fill();
+    const FrameSource::Supply many = opened.source.supplyBehind();
+    QVERIFY(many.frames > 30);
+    QVERIFY(!many.secondsToMore);
 }
 
 void FrameSourceTest::filling_returnsToWhereGoingForwardDecodesOn()
@@ -258,23 +391,22 @@ void FrameSourceTest::filling_ends_withoutAnyStep()
     QVERIFY(source.open(path, bytes, never, error));
     source.setFocus(source.frameAt(15000, never).frame.timestamp());
     int fills = 0;
-    while (source.fillBehind(never))
+    while (source.prepare(FrameSource::longestRest, never))
         QVERIFY(++fills < 2000);
     QVERIFY(source.cache().byteCount() <= bytes);
 }
 
-void FrameSourceTest::cache_takesNoMoreThanIsUseful_howeverMuchIsAllowed()
+void FrameSourceTest::cache_takesNoMoreThanAllowed()
 {
     const QString path = testsupport::samplePath(QStringLiteral("h264_gop250.mp4"));
-    constexpr qint64 Plenty = qint64(1) << 40;
     FrameSource source;
     QString error;
-    QVERIFY(source.open(path, Plenty, never, error));
+    QVERIFY(source.open(path, QtAV::FrameCache::DefaultBytes, never, error));
     const qint64 frameBytes = source.frameAt(0, never).frame.byteCount();
-    QVERIFY(source.cache().mostBytes() <= qint64(32) << 20);
-    QVERIFY(source.cache().mostBytes() >= 16 * frameBytes);
     QVERIFY(source.open(path, 5 * frameBytes, never, error));
     QCOMPARE(source.cache().mostBytes(), 5 * frameBytes);
+    QCOMPARE(source.frameAt(9000, never).answer, FrameAnswer::Frame);
+    QVERIFY(source.cache().byteCount() <= 5 * frameBytes);
 }
 
 void FrameSourceTest::cancelledSearch_givesNoFrame_andTheNextOneIsRight()

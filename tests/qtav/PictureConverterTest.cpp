@@ -2,7 +2,10 @@
 
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <random>
 
 using QtAV::FramePtr;
 using QtAV::PictureConverter;
@@ -47,6 +50,49 @@ FramePtr ramp(AVPixelFormat format, AVChromaLocation location, double offset)
     return frame;
 }
 
+/// A full-range picture without colour.
+FramePtr grey(int width, int height, const QString& pattern)
+{
+    FramePtr frame = QtAV::makeFrame();
+    frame->width = width;
+    frame->height = height;
+    frame->format = AV_PIX_FMT_YUV420P;
+    frame->color_range = AVCOL_RANGE_JPEG;
+    if (av_frame_get_buffer(frame.get(), 0) < 0)
+        qFatal("out of memory");
+    std::mt19937 random(3);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            int value = int(random() % 256);
+            if (pattern == QLatin1String("lines"))
+                value = x % 7 == 0 || y % 11 == 0 ? 235 : 20;
+            else if (pattern == QLatin1String("squares"))
+                value = (x + y) % 2 == 0 ? 230 : 30;
+            frame->data[0][y * frame->linesize[0] + x] = static_cast<uint8_t>(value);
+        }
+    }
+    for (const int plane : {1, 2})
+        std::memset(frame->data[plane], 128, size_t(frame->linesize[plane]) * size_t(height / 2));
+    return frame;
+}
+
+/// The mean of luma under a pixel of the picture at another size; parts of pixels count as such.
+double meanUnder(const AVFrame& frame, const QSize& size, int x, int y)
+{
+    const double stepX = double(frame.width) / size.width();
+    const double stepY = double(frame.height) / size.height();
+    const auto overlap = [](int pixel, double from, double to) {
+        return std::max(0.0, std::min(pixel + 1.0, to) - std::max(double(pixel), from));
+    };
+    double sum = 0.0;
+    for (int v = int(y * stepY); v < std::min(frame.height, int((y + 1) * stepY) + 1); ++v) {
+        for (int u = int(x * stepX); u < std::min(frame.width, int((x + 1) * stepX) + 1); ++u)
+            sum += frame.data[0][v * frame.linesize[0] + u] *
+                   overlap(u, x * stepX, (x + 1) * stepX) * overlap(v, y * stepY, (y + 1) * stepY);
+    }
+    return sum / (stepX * stepY);
+}
+
 } // namespace
 
 /// Scaled pictures, against the standard's formula.
@@ -57,6 +103,10 @@ class PictureConverterTest : public QObject
 private slots:
     void chroma_staysWhereItWasSampled_whenScaled_data();
     void chroma_staysWhereItWasSampled_whenScaled();
+    void smallerPicture_isTheMeanOfTheAreaUnderEachPixel_data();
+    void smallerPicture_isTheMeanOfTheAreaUnderEachPixel();
+    void scaledPicture_keepsFormatAndColours();
+    void scaledPicture_becomesTheSameImage_asTheWhole();
 };
 
 void PictureConverterTest::chroma_staysWhereItWasSampled_whenScaled_data()
@@ -92,6 +142,88 @@ void PictureConverterTest::chroma_staysWhereItWasSampled_whenScaled()
         const int got = qBlue(image.pixel(x, Height / 2));
         QVERIFY2(std::abs(got - expected) < 2.0,
                  qPrintable(QStringLiteral("%1 instead of %2").arg(got).arg(expected)));
+    }
+}
+
+void PictureConverterTest::smallerPicture_isTheMeanOfTheAreaUnderEachPixel_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("pattern");
+    for (const char* pattern : {"lines", "squares", "noise"}) {
+        for (const QSize size : {QSize(120, 80), QSize(60, 40), QSize(160, 110), QSize(97, 31)}) {
+            const QString name = QStringLiteral("%1, %2 x %3")
+                                     .arg(QLatin1String(pattern))
+                                     .arg(size.width())
+                                     .arg(size.height());
+            QTest::newRow(qPrintable(name)) << size << QString::fromLatin1(pattern);
+        }
+    }
+}
+
+/// What is finest: lines and squares of a pixel, and noise. Nothing of it vanishes or makes
+/// patterns that are not there.
+void PictureConverterTest::smallerPicture_isTheMeanOfTheAreaUnderEachPixel()
+{
+    QFETCH(QSize, size);
+    QFETCH(QString, pattern);
+    const FramePtr frame = grey(240, 160, pattern);
+    PictureConverter converter;
+    const QImage image = converter.convert(*frame, size);
+    const FramePtr scaled = converter.scaled(*frame, size);
+    QCOMPARE(image.size(), size);
+    QVERIFY(scaled);
+    double largest = 0.0;
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const double mean = meanUnder(*frame, size, x, y);
+            const int kept = scaled->data[0][y * scaled->linesize[0] + x];
+            largest = std::max(
+                {largest, std::abs(qGreen(image.pixel(x, y)) - mean), std::abs(kept - mean)});
+        }
+    }
+    QVERIFY2(largest <= 2.0, QByteArray::number(largest).constData());
+}
+
+void PictureConverterTest::scaledPicture_keepsFormatAndColours()
+{
+    for (const AVPixelFormat format :
+         {AV_PIX_FMT_YUV420P, AV_PIX_FMT_YUV422P, AV_PIX_FMT_YUV444P}) {
+        const FramePtr frame = ramp(format, AVCHROMA_LOC_LEFT, 0.0);
+        frame->color_primaries = AVCOL_PRI_BT709;
+        frame->color_trc = AVCOL_TRC_BT709;
+        PictureConverter converter;
+        const FramePtr scaled = converter.scaled(*frame, {Width / 2, Height / 2});
+        QVERIFY(scaled);
+        QCOMPARE(scaled->width, Width / 2);
+        QCOMPARE(scaled->height, Height / 2);
+        QCOMPARE(scaled->format, int(format));
+        QCOMPARE(scaled->colorspace, AVCOL_SPC_BT709);
+        QCOMPARE(scaled->color_range, AVCOL_RANGE_MPEG);
+        QCOMPARE(scaled->color_primaries, AVCOL_PRI_BT709);
+        QCOMPARE(scaled->color_trc, AVCOL_TRC_BT709);
+        QCOMPARE(scaled->chroma_location, AVCHROMA_LOC_LEFT);
+    }
+}
+
+/// Also where chroma lies beside luma: by the ramp it shows when it has moved.
+void PictureConverterTest::scaledPicture_becomesTheSameImage_asTheWhole()
+{
+    for (const AVChromaLocation location :
+         {AVCHROMA_LOC_LEFT, AVCHROMA_LOC_TOPLEFT, AVCHROMA_LOC_CENTER}) {
+        const FramePtr frame =
+            ramp(AV_PIX_FMT_YUV420P, location, location == AVCHROMA_LOC_CENTER ? 0.5 : 0.0);
+        const QSize half(Width / 2, Height / 2);
+        PictureConverter converter;
+        const FramePtr scaled = converter.scaled(*frame, half);
+        QVERIFY(scaled);
+        const QImage fromSmall = converter.convert(*scaled, half);
+        const QImage fromWhole = converter.convert(*frame, half);
+        for (int x = half.width() / 4; x < half.width() * 3 / 4; ++x) {
+            const QRgb a = fromSmall.pixel(x, half.height() / 2);
+            const QRgb b = fromWhole.pixel(x, half.height() / 2);
+            QVERIFY2(std::abs(qBlue(a) - qBlue(b)) <= 3,
+                     qPrintable(QStringLiteral("%1 and %2").arg(qBlue(a)).arg(qBlue(b))));
+        }
     }
 }
 

@@ -106,6 +106,9 @@ class VideoFrameTest : public QObject
     Q_OBJECT
 
 private slots:
+    void scaledDown_keepsTimeSizeAndPicture_data();
+    void scaledDown_keepsTimeSizeAndPicture();
+    void scaledDown_isTheFrameItself_whereItCannotBeSmaller();
     void invalidFrame_hasNothing();
     void image_isUprightWithSquarePixels_forEverySample_data();
     void image_isUprightWithSquarePixels_forEverySample();
@@ -391,6 +394,60 @@ void VideoFrameTest::image_isTheSame_fromSeveralThreadsAtOnce()
         pool.start([&] { same += frame.toImage() == expected; });
     pool.waitForDone();
     QCOMPARE(same.load(), Times);
+}
+
+void VideoFrameTest::scaledDown_keepsTimeSizeAndPicture_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"h264_bframes.mp4", "turned_90_anamorphic.mp4", "hevc_10bit.mkv",
+                             "anamorphic_pal.mpg", "h264_full_range.mp4"})
+        QTest::newRow(file) << QString::fromLatin1(file);
+}
+
+void VideoFrameTest::scaledDown_keepsTimeSizeAndPicture()
+{
+    QFETCH(QString, file);
+    decoding::Player player(testsupport::samplePath(file));
+    const auto packet = player.isReady() ? player.nextVideoPacket() : std::nullopt;
+    QVERIFY(packet);
+    const QtAV::VideoFrame frame = player.decodeKeyFrame(*packet);
+    QVERIFY(frame.isValid() && !frame.isScaledDown());
+    const QSize size = frame.displaySize() / 2;
+    const QtAV::VideoFrame small = frame.scaledDown(size);
+    QVERIFY(small.isScaledDown());
+    QCOMPARE(small.timestamp(), frame.timestamp());
+    QCOMPARE(small.displaySize(), frame.displaySize());
+    QCOMPARE(small.width() * small.height(), size.width() * size.height());
+    QVERIFY(small.byteCount() < frame.byteCount());
+    const QImage own = small.toImage(QImage::Format_RGB32, size);
+    const QImage whole = frame.toImage(QImage::Format_RGB32, size);
+    QCOMPARE(own.size(), size);
+    QCOMPARE(small.toImage().size(), frame.displaySize());
+    // Less chroma is kept, so that edges between colours differ; what is light and dark does not.
+    qint64 difference = 0;
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            difference += std::abs(qGray(own.pixel(x, y)) - qGray(whole.pixel(x, y)));
+    }
+    const double mean = double(difference) / (double(size.width()) * size.height());
+    QVERIFY2(mean <= 1.0, QByteArray::number(mean).constData());
+    QCOMPARE(decoding::shown(small).number, decoding::shown(frame).number);
+}
+
+void VideoFrameTest::scaledDown_isTheFrameItself_whereItCannotBeSmaller()
+{
+    QVERIFY(!QtAV::VideoFrame().scaledDown({10, 10}).isValid());
+    for (const char* file : {"h264_bframes.mp4", "vp9_alpha.webm"}) {
+        decoding::Player player(testsupport::samplePath(QString::fromLatin1(file)));
+        const auto packet = player.isReady() ? player.nextVideoPacket() : std::nullopt;
+        QVERIFY(packet);
+        const QtAV::VideoFrame frame = player.decodeKeyFrame(*packet);
+        const bool hasAlpha = QByteArray(file) == "vp9_alpha.webm";
+        for (const QSize size :
+             {frame.displaySize(), frame.displaySize() * 2, QSize(), QSize(0, 5)})
+            QVERIFY(!frame.scaledDown(size).isScaledDown());
+        QCOMPARE(frame.scaledDown({40, 30}).isScaledDown(), !hasAlpha);
+    }
 }
 
 QTEST_GUILESS_MAIN(VideoFrameTest)

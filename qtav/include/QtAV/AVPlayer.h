@@ -32,7 +32,7 @@ enum MediaEndAction {
 ///
 /// Nothing here waits for decoding, disk or sound: what is asked for is done by threads of the
 /// player's own, and the answers come as signals. Calls that come before an answer are merged: the
-/// newest seek wins, steps add up.
+/// newest seek wins, steps add up to a limit, and those in opposite directions cancel each other.
 ///
 /// Positions are milliseconds on the timeline that starts at 0 where the file starts. The frame on
 /// screen is the frame captured, and it is the same that a VideoDecoder gives for its time.
@@ -64,10 +64,11 @@ public:
     bool isPaused() const { return state() == PausedState; }
     MediaStatus mediaStatus() const;
 
-    /// Why the file cannot be played, for people; empty when it can.
+    /// Why the file cannot be played, or not from here on, for people; empty when it can.
     QString errorString() const;
 
-    /// In milliseconds; 0 while no file is loaded.
+    /// In milliseconds, 0 while no file is loaded. It grows, with a durationChanged(), when frames
+    /// show up behind the end that the file states.
     qint64 duration() const;
 
     /// Where the player is: the target of a seek that runs, else displayPosition().
@@ -82,9 +83,9 @@ public:
     void setMediaEndAction(MediaEndAction action);
     MediaEndAction mediaEndAction() const;
 
-    /// Most memory that decoded frames may take for stepping back, in bytes; 256 MiB unless said.
-    /// Of that, no more is used than steps get faster by: 32 MiB, or 8 frames where those are
-    /// more. Holds from the next play() of a stopped player on.
+    /// Most memory that decoded frames may take for stepping back, in bytes; 224 MiB unless said.
+    /// Only the few frames around the one on screen are kept in full size, the others at that at
+    /// which they are shown. Holds from the next play() of a stopped player on.
     void setFrameCacheSize(qint64 bytes);
     qint64 frameCacheSize() const;
 
@@ -102,8 +103,8 @@ public:
     const Statistics& statistics() const;
 
 public Q_SLOTS:
-    /// Plays on: opens the file first when stopped, starts over when at the end. Does nothing
-    /// without a file.
+    /// Plays on: opens the file first when stopped, starts over from the last frame, however that
+    /// came on screen. Does nothing without a file.
     void play();
     /// The same for another file, or for the same one from its start.
     void play(const QString& path);
@@ -118,7 +119,8 @@ public Q_SLOTS:
     void setPosition(qint64 ms);
     void seek(qint64 ms) { setPosition(ms); }
 
-    /// Show the very next frame or the one before, and pause. Stay at the video's ends.
+    /// Show the very next frame or the one before, and pause. Stay at the video's ends, and where
+    /// the next frame cannot be read.
     void stepForward();
     void stepBackward();
 
@@ -137,7 +139,7 @@ Q_SIGNALS:
     void seekFinished(qint64 ms);
 
 private Q_SLOTS:
-    void heedEngine();
+    void handleEngine();
     void presentDue();
 
 private:

@@ -21,4 +21,9 @@ void setLogLevel(LogLevel level);
 /// The level that setLogLevel() set last.
 LogLevel logLevel();
 
+/// Gives what has been freed in smaller blocks back to the system, once, after much was freed.
+/// Takes some milliseconds; does nothing where the C library cannot be told. May be called from any
+/// thread.
+void trimFreedMemory();
+
 } // namespace QtAV

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QtAV/VideoFrame.h>
-
 #include <QImage>
 #include <QObject>
+
+#include <functional>
 
 namespace QtAV {
 
@@ -16,24 +16,27 @@ class VideoCapture : public QObject
 public:
     explicit VideoCapture(QObject* parent = nullptr);
 
-    /// For the player: the frame on screen, which capture() takes; an invalid one for none.
-    void setFrame(const VideoFrame& frame);
+    /// For the player: what capture() calls. It must return at once, and lead to one deliver() each
+    /// time, later.
+    void setTaker(std::function<void()> take);
+
+    /// For the player: answers a capture(); a null image when there is none.
+    void deliver(const QImage& image);
 
 public Q_SLOTS:
     /// Takes the frame that is on screen now. Each call is answered by one signal, later, from the
-    /// event loop.
+    /// event loop: at once, or, where the frame has to be decoded again for it, as soon as a seek
+    /// is.
     void capture();
 
 Q_SIGNALS:
     /// The picture as it is meant to be seen, in its full size and in VideoFrame::imageFormat().
     void imageCaptured(const QImage& image);
-    /// There is no picture on screen, or no memory for it.
+    /// There is no picture on screen, no memory for it, or it cannot be read any more.
     void failed();
 
 private:
-    void deliver(const VideoFrame& frame);
-
-    VideoFrame m_frame;
+    std::function<void()> m_take;
 };
 
 } // namespace QtAV

@@ -33,13 +33,26 @@ public:
     double timestamp() const;
 
     /// The stored picture's size in pixels, before turning it upright and making its pixels
-    /// square; 0 when not valid.
+    /// square; 0 when not valid. Of a frame that is scaled down, that of the smaller picture.
     int width() const;
     int height() const;
 
     /// The size at which the picture is meant to be seen: upright and with square pixels. To get
-    /// there the shorter of width and height is stretched, so that no stored pixel is lost.
+    /// there the shorter of width and height is stretched, so that no stored pixel is lost. The
+    /// same for a frame that is scaled down.
     QSize displaySize() const;
+
+    /// The frame with a smaller picture, to be kept where it is only shown: luma and chroma as they
+    /// are stored, scaled to square pixels so that toImage() at that size shows about the same at a
+    /// part of the time and memory. Every pixel counts by the area that it covers.
+    ///
+    /// @param size  upright, as displaySize() is.
+    /// @return the frame itself where the size is not smaller in both directions, the picture is
+    ///         not one of luma and chroma alone, or memory runs out. May be called from any thread.
+    VideoFrame scaledDown(const QSize& size) const;
+
+    /// True for what scaledDown() made: not what was decoded.
+    bool isScaledDown() const;
 
     /// The memory that the stored picture takes, in bytes; 0 when not valid.
     qint64 byteCount() const;
@@ -56,7 +69,8 @@ public:
     /// values, converted by the frame's own matrix and range, with its alpha where it has one.
     ///
     /// @param format  the image's format; Format_Invalid gives Format_ARGB32.
-    /// @param size    the size to scale the result to; an empty size keeps that of the region.
+    /// @param size    the size to scale the result to; an empty size keeps that of the region. A
+    ///                frame that is scaled down is enlarged to get there.
     /// @param region  the part to take, in pixels of the whole picture at displaySize(), clipped
     ///                to it; a null rectangle takes all.
     /// @return a null image for an invalid frame, for a region outside the picture and when

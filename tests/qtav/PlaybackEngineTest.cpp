@@ -1,0 +1,198 @@
+#include "qtav/player/PlaybackEngine.h"
+
+#include "tests/qtav/Decoding.h"
+
+#include <QSemaphore>
+#include <QTest>
+
+#include <deque>
+#include <optional>
+
+using namespace decoding;
+using QtAV::FrameAnswer;
+using QtAV::PlaybackEngine;
+using Answer = PlaybackEngine::Answer;
+using Direction = PlaybackEngine::Direction;
+
+namespace {
+
+/// How long anything may take, in milliseconds; far more than it does.
+constexpr int patience = 30000;
+
+/// An engine, and the answers that it has given.
+class Harness
+{
+public:
+    /// The next answer; nothing when none comes.
+    std::optional<Answer> next()
+    {
+        while (m_answers.empty()) {
+            if (!m_woken.tryAcquire(1, patience))
+                return std::nullopt;
+            for (Answer& answer : engine.takeAnswers())
+                m_answers.push_back(std::move(answer));
+        }
+        const Answer first = m_answers.front();
+        m_answers.pop_front();
+        return first;
+    }
+
+    /// The answer to a command, all older ones passed over.
+    std::optional<Answer> to(quint64 serial)
+    {
+        std::optional<Answer> answer = next();
+        while (answer && answer->serial < serial)
+            answer = next();
+        return answer;
+    }
+
+    [[nodiscard]] bool open(const QString& path)
+    {
+        const std::optional<Answer> answer = to(engine.open(path, QtAV::FrameCache::DefaultBytes));
+        return answer && answer->result.answer == FrameAnswer::Frame;
+    }
+
+private:
+    QSemaphore m_woken; ///< before the engine, whose thread uses it
+
+public:
+    PlaybackEngine engine{[this] { m_woken.release(); }};
+
+private:
+    std::deque<Answer> m_answers;
+};
+
+int numberOf(const std::optional<Answer>& answer)
+{
+    return answer && answer->result.answer == FrameAnswer::Frame
+               ? shown(answer->result.frame).number
+               : -1;
+}
+
+} // namespace
+
+/// The decoding thread: that commands are answered, and with what.
+class PlaybackEngineTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void open_isAnswered_withTheFirstFrame();
+    void open_fails_withAReason();
+    void close_isNotAnswered_andStepsAfterItNeither();
+    void seekAndSteps_areAnsweredInOrder();
+    void step_endsWithoutAFrame_atTheVideosEnds();
+    void seeks_areReplaced_byTheNewest();
+    void queue_holdsTheFramesInOrder_untilTheEnd();
+};
+
+void PlaybackEngineTest::open_isAnswered_withTheFirstFrame()
+{
+    Harness harness;
+    const quint64 serial = harness.engine.open(testsupport::samplePath(QStringLiteral("sound.mp4")),
+                                               QtAV::FrameCache::DefaultBytes);
+    const std::optional<Answer> answer = harness.next();
+    QVERIFY(answer);
+    QCOMPARE(answer->kind, Answer::Kind::Opened);
+    QCOMPARE(answer->serial, serial);
+    QCOMPARE(numberOf(answer), 0);
+    QVERIFY(answer->hasSound);
+    QCOMPARE(answer->frameInterval, 40);
+    QVERIFY(answer->duration > 0);
+}
+
+void PlaybackEngineTest::open_fails_withAReason()
+{
+    Harness harness;
+    const quint64 serial = harness.engine.open(testsupport::samplePath(QStringLiteral("text.mp4")),
+                                               QtAV::FrameCache::DefaultBytes);
+    const std::optional<Answer> answer = harness.to(serial);
+    QVERIFY(answer);
+    QCOMPARE(answer->kind, Answer::Kind::Opened);
+    QCOMPARE(answer->result.answer, FrameAnswer::Failed);
+    QVERIFY(!answer->result.error.isEmpty());
+}
+
+void PlaybackEngineTest::close_isNotAnswered_andStepsAfterItNeither()
+{
+    Harness harness;
+    const QString path = testsupport::samplePath(QStringLiteral("h264_baseline.mp4"));
+    QVERIFY(harness.open(path));
+    harness.engine.close();
+    harness.engine.step(Direction::Forward);
+    harness.engine.seek(1000);
+    const quint64 serial = harness.engine.open(path, QtAV::FrameCache::DefaultBytes);
+    const std::optional<Answer> answer = harness.next();
+    QVERIFY(answer);
+    QCOMPARE(answer->serial, serial);
+}
+
+void PlaybackEngineTest::seekAndSteps_areAnsweredInOrder()
+{
+    Harness harness;
+    QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_bframes.mp4"))));
+    const quint64 serial = harness.engine.seek(2000);
+    harness.engine.step(Direction::Backward);
+    harness.engine.step(Direction::Backward);
+    QCOMPARE(numberOf(harness.to(serial)), 50);
+    QCOMPARE(numberOf(harness.next()), 49);
+    const std::optional<Answer> last = harness.next();
+    QCOMPARE(numberOf(last), 48);
+    QCOMPARE(last->kind, Answer::Kind::Stepped);
+}
+
+void PlaybackEngineTest::step_endsWithoutAFrame_atTheVideosEnds()
+{
+    Harness harness;
+    QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_baseline.mp4"))));
+    std::optional<Answer> answer = harness.to(harness.engine.step(Direction::Backward));
+    QVERIFY(answer);
+    QCOMPARE(answer->result.answer, FrameAnswer::End);
+    QCOMPARE(numberOf(harness.to(harness.engine.seek(3600000))), 49);
+    answer = harness.to(harness.engine.step(Direction::Forward));
+    QVERIFY(answer);
+    QCOMPARE(answer->result.answer, FrameAnswer::End);
+}
+
+void PlaybackEngineTest::seeks_areReplaced_byTheNewest()
+{
+    Harness harness;
+    QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4"))));
+    for (int i = 0; i < 200; ++i)
+        harness.engine.seek(19000 - i);
+    const quint64 newest = harness.engine.seek(4000);
+    int answers = 0;
+    std::optional<Answer> answer;
+    do {
+        answer = harness.next();
+        QVERIFY(answer);
+        ++answers;
+    } while (answer->serial != newest);
+    QCOMPARE(numberOf(answer), 100);
+    QVERIFY(answers < 200);
+}
+
+void PlaybackEngineTest::queue_holdsTheFramesInOrder_untilTheEnd()
+{
+    Harness harness;
+    QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_baseline.mp4"))));
+    QCOMPARE(numberOf(harness.to(harness.engine.seek(1600))), 40);
+    harness.engine.setPlaying(true);
+    int number = 40;
+    bool isEnded = false;
+    for (int i = 0; !isEnded && i < patience; ++i) {
+        const PlaybackEngine::Due due =
+            harness.engine.takeDue((number + 1) * 0.04, PlaybackEngine::CatchUp::No);
+        QVERIFY(!due.failure);
+        QCOMPARE(due.dropped, 0);
+        if (due.frame.isValid())
+            QCOMPARE(shown(due.frame).number, ++number);
+        isEnded = due.isEnded;
+        QTest::qSleep(1);
+    }
+    QVERIFY(isEnded);
+    QCOMPARE(number, 49);
+}
+
+QTEST_GUILESS_MAIN(PlaybackEngineTest)
+#include "PlaybackEngineTest.moc"
