@@ -1,7 +1,7 @@
 #include "app/Startup.h"
 
-#include "app/ProductInfo.h"
 #include "batch/BatchWorker.h"
+#include "product/ProductInfo.h"
 
 #include <QtAV/QtAV_Global.h>
 

@@ -1,10 +1,11 @@
 // The window. Its arguments mean nothing to it: morvantile-cli is the command line.
 
+#include "app/GraphicsPolicy.h"
+#include "app/MemoryPolicy.h"
 #include "app/Presentation.h"
 #include "app/Startup.h"
 #include "app/SupportedOS.h"
 
-#include <QtAV/QtAV_Global.h>
 #include <QtAVWidgets>
 
 #include <QApplication>
@@ -16,8 +17,8 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
-    QtAV::returnFreedMemory();
-    QtAV::Widgets::avoidImitatedOpenGL();
+    MemoryPolicy::returnFreedMemory();
+    GraphicsPolicy::avoidImitatedOpenGL();
     QApplication app(argc, argv);
     Startup::setIdentity();
     if (!checkSupportedOS(app)) {

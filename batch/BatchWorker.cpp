@@ -170,7 +170,7 @@ void BatchWorker::frameExtracted(QtAV::VideoFrame frame)
     }
     const QString path = firstFreePath();
     announceSaving(path);
-    const QImage image = frame.toImage(QImage::Format_ARGB32, QSize(), QRectF());
+    const QImage image = frame.toImage(frame.imageFormat());
     QImage processed =
         ImageProcessingManager::instance()->processImage(image, m_config->imageProfile(), nullptr);
     if (saveImage(path, processed)) {

@@ -25,8 +25,6 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 add_library(morvantile_settings INTERFACE)
-# The root is a system directory for nobody: includes read "profiles/ImageProfile.h".
-target_include_directories(morvantile_settings INTERFACE "${CMAKE_SOURCE_DIR}")
 target_compile_definitions(morvantile_settings INTERFACE
   QT_NO_CAST_FROM_ASCII
   QT_NO_CAST_TO_ASCII

@@ -1,11 +1,78 @@
-# The two ways in which the folders declare their targets.
+# How the folders declare their targets.
+#
+# Each target has an include folder of its own, in the build folder: links to the headers that it
+# lists, at the paths by which they are included. Only what links the target finds them, so that an
+# include goes nowhere that the links between targets do not go.
+set(MORVANTILE_INCLUDE_DIR "${CMAKE_BINARY_DIR}/include")
+# Made anew each time: no link outlives its header.
+file(REMOVE_RECURSE "${MORVANTILE_INCLUDE_DIR}")
 
-# morvantile_add_library(NAME SOURCES file… [PUBLIC lib…] [PRIVATE lib…])
-# One static library for one folder. It may link only what stands below it.
+# morvantile_make_include_folder(FOLDER ROOT file…)
+# Makes the folder, with a link to each header among the files at its path from ROOT; where there
+# are no headers, no folder.
+function(morvantile_make_include_folder folder root)
+  cmake_path(ABSOLUTE_PATH root)
+  foreach(header IN LISTS ARGN)
+    if(header MATCHES "\\.(cpp|ui|qrc)$")
+      continue()
+    endif()
+    cmake_path(ABSOLUTE_PATH header)
+    if(NOT EXISTS "${header}")
+      message(FATAL_ERROR "No such header: ${header}")
+    endif()
+    cmake_path(RELATIVE_PATH header BASE_DIRECTORY "${root}" OUTPUT_VARIABLE path)
+    cmake_path(GET path PARENT_PATH parent)
+    file(MAKE_DIRECTORY "${folder}/${parent}")
+    file(CREATE_LINK "${header}" "${folder}/${path}" SYMBOLIC)
+  endforeach()
+endfunction()
+
+# morvantile_add_library(NAME SOURCES file… [PRIVATE_HEADERS file…] [HEADER_ROOT folder]
+#                        [PUBLIC lib…] [PRIVATE lib…])
+# One library for one folder, or for a part of it; static, or an interface if it has headers only.
+# It may link only what stands below it. What links it finds the headers among its SOURCES, by their
+# paths from HEADER_ROOT (the root of the project).
+#
+# The PRIVATE_HEADERS are found by the library itself, by their paths from the root of the project,
+# and by what links NAME_private: its closest neighbours and the tests of its inner parts. That
+# brings the PRIVATE libraries too, whose headers may be included there.
 function(morvantile_add_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
-  add_library(${name} STATIC ${ARG_SOURCES})
+  cmake_parse_arguments(ARG "" "HEADER_ROOT" "SOURCES;PRIVATE_HEADERS;PUBLIC;PRIVATE" ${ARGN})
+  if(NOT ARG_HEADER_ROOT)
+    set(ARG_HEADER_ROOT "${CMAKE_SOURCE_DIR}")
+  endif()
+  set(folder "${MORVANTILE_INCLUDE_DIR}/${name}")
+  morvantile_make_include_folder("${folder}" "${ARG_HEADER_ROOT}" ${ARG_SOURCES})
+  if(NOT ARG_SOURCES MATCHES "\\.cpp")
+    add_library(${name} INTERFACE)
+    target_include_directories(${name} INTERFACE "${folder}")
+    target_link_libraries(${name} INTERFACE morvantile_settings ${ARG_PUBLIC})
+    return()
+  endif()
+  add_library(${name} STATIC ${ARG_SOURCES} ${ARG_PRIVATE_HEADERS})
+  target_include_directories(${name} PUBLIC "${folder}")
   target_link_libraries(${name} PUBLIC morvantile_settings ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+  if(ARG_PRIVATE_HEADERS)
+    set(folder "${MORVANTILE_INCLUDE_DIR}/${name}_private")
+    morvantile_make_include_folder("${folder}" "${CMAKE_SOURCE_DIR}" ${ARG_PRIVATE_HEADERS})
+    target_include_directories(${name} PRIVATE "${folder}")
+    add_library(${name}_private INTERFACE)
+    target_include_directories(${name}_private INTERFACE "${folder}")
+    target_link_libraries(${name}_private INTERFACE ${name} ${ARG_PRIVATE})
+  endif()
+endfunction()
+
+# morvantile_add_executable(NAME SOURCES file… LIBS lib…)
+# A program. It finds the headers among its own SOURCES and those of what it links.
+function(morvantile_add_executable name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  set(folder "${MORVANTILE_INCLUDE_DIR}/${name}")
+  morvantile_make_include_folder("${folder}" "${CMAKE_SOURCE_DIR}" ${ARG_SOURCES})
+  add_executable(${name} ${ARG_SOURCES})
+  if(EXISTS "${folder}")
+    target_include_directories(${name} PRIVATE "${folder}")
+  endif()
+  target_link_libraries(${name} PRIVATE morvantile_settings ${ARG_LIBS})
 endfunction()
 
 # Tests of a sanitizer's build say so in their names, since ./test.sh runs all builds as one suite.
@@ -26,8 +93,7 @@ function(morvantile_add_test path)
     return()
   endif()
   get_filename_component(name "${path}" NAME)
-  add_executable(${name} ${path}.cpp ${ARG_SOURCES})
-  target_link_libraries(${name} PRIVATE morvantile_settings ${ARG_LIBS} Qt5::Test)
+  morvantile_add_executable(${name} SOURCES ${path}.cpp ${ARG_SOURCES} LIBS ${ARG_LIBS} Qt5::Test)
   set(test "${name}${MORVANTILE_TEST_SUFFIX}")
   set(home "${CMAKE_BINARY_DIR}/home/${name}")
   file(MAKE_DIRECTORY "${home}")

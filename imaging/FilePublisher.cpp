@@ -6,7 +6,10 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 
 namespace {
 
@@ -60,10 +63,47 @@ private:
     bool m_exists = false;
 };
 
-WriteResult replacing(const QByteArray& file, const QByteArray& target)
+/// Writes into the file itself. What needs room is written first, behind the old content, and cut
+/// off again where there is none: a full disk then costs nothing.
+WriteResult overwriting(const QString& target, const QByteArray& content)
 {
-    const bool isDone = std::rename(file.constData(), target.constData()) == 0;
-    return isDone ? WriteResult::Written : WriteResult::Failed;
+    // Links have been followed before: one that is there now was put there by somebody else.
+    const int descriptor =
+        ::open(QFile::encodeName(target).constData(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+    QFile file;
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadWrite | QIODevice::Unbuffered,
+                                     QFileDevice::AutoCloseHandle))
+        return WriteResult::Failed;
+    const auto write = [&file, &content](qint64 from, qint64 to) {
+        return file.seek(from) && file.write(content.constData() + from, to - from) == to - from;
+    };
+    const qint64 oldSize = file.size();
+    const qint64 newSize = content.size();
+    const qint64 shared = std::min(oldSize, newSize);
+    if (!write(shared, newSize)) {
+        file.resize(oldSize);
+        return WriteResult::Failed;
+    }
+    const bool isWritten = write(0, shared) && file.resize(newSize);
+    file.close();
+    const bool isWhole = isWritten && file.error() == QFileDevice::NoError;
+    return isWhole ? WriteResult::Written : WriteResult::Failed;
+}
+
+/// Whether that is why a file could not be renamed: the folder is protected, or the target is
+/// another user's in a folder for all, or a mount point.
+bool isTargetFixed(int error)
+{
+    return error == EACCES || error == EPERM || error == EBUSY;
+}
+
+WriteResult replacing(const QByteArray& file, const QFileInfo& target, const QByteArray& content)
+{
+    const QString path = target.absoluteFilePath();
+    if (std::rename(file.constData(), QFile::encodeName(path).constData()) == 0)
+        return WriteResult::Written;
+    const bool mayOverwrite = isTargetFixed(errno) && target.exists();
+    return mayOverwrite ? overwriting(path, content) : WriteResult::Failed;
 }
 
 WriteResult keeping(const QByteArray& file, const QByteArray& target)
@@ -99,13 +139,18 @@ WriteResult FilePublisher::publish(const QString& fileName, const QByteArray& co
     if (isReplacing && target.exists() && (!target.isFile() || !target.isWritable()))
         return WriteResult::Failed;
 
+    const bool isOldFile = isReplacing && target.exists();
+    const QString folder = target.absolutePath();
     HiddenFile file;
-    if (!file.create(target.absolutePath()) || !file.fill(content))
+    if (!file.create(folder)) {
+        const bool mayOverwrite = isOldFile && !QFileInfo(folder).isWritable();
+        return mayOverwrite ? overwriting(target.absoluteFilePath(), content) : WriteResult::Failed;
+    }
+    if (!file.fill(content))
         return WriteResult::Failed;
-    const QByteArray path = QFile::encodeName(target.absoluteFilePath());
     if (!isReplacing)
-        return keeping(file.path(), path);
-    if (target.exists() && !file.setPermissions(target.permissions()))
+        return keeping(file.path(), QFile::encodeName(target.absoluteFilePath()));
+    if (isOldFile && !file.setPermissions(target.permissions()))
         return WriteResult::Failed;
-    return replacing(file.path(), path);
+    return replacing(file.path(), target, content);
 }

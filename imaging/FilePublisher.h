@@ -5,7 +5,7 @@
 
 /// What to do with a file that already bears the name of a new one.
 enum class ExistingFile {
-    Replace, ///< The new file takes its place, in one step.
+    Replace, ///< The new file takes its place, in one step wherever the folder allows that.
     Keep     ///< It stays as it is, even when it appears in the very moment of writing.
 };
 
@@ -13,7 +13,7 @@ enum class ExistingFile {
 enum class WriteResult {
     Written,       ///< The whole file stands under its name.
     AlreadyExists, ///< Another file bears the name and was kept; only with ExistingFile::Keep.
-    Failed         ///< Nothing changed: no file, or the old one, stands under the name.
+    Failed         ///< Not written. What stood under the name is unchanged, unless overwritten.
 };
 
 /// Puts whole files under their names.
@@ -22,6 +22,13 @@ enum class WriteResult {
 /// when it is complete. Whatever happens on the way (a full disk, the end of the process), nobody
 /// ever sees half a file under the final name. The hidden file is removed on every failure; only
 /// a process that is killed in the middle leaves one behind, named ".morvantile-….part".
+///
+/// The exception is overwriting: with ExistingFile::Replace, a file that may be written but not
+/// replaced by another one (its folder is write-protected, it is another user's in a folder for
+/// all, or it is a mount point) is written in place. Room for the new content is taken first, so
+/// that a full disk leaves the old content whole. But others can see half a file meanwhile, and the
+/// end of the process or an error of the disk leaves one behind: after Failed, the old content may
+/// then be lost.
 ///
 /// Nothing is forced onto the disk, so a power cut may still lose what was just written.
 ///

@@ -8,7 +8,7 @@
 /// Writes images to files, whole or not at all.
 ///
 /// The picture is encoded in memory and then put under its name by FilePublisher, with all that
-/// that promises. Without state: callable from any thread.
+/// that promises, and its one exception. Without state: callable from any thread.
 namespace ImageFileWriter {
 
 /// The quality that leaves the choice to the format.

@@ -81,12 +81,12 @@ cv::Mat adjusted(const cv::Mat& mat, int contrast, int brightness)
     return result;
 }
 
+/// Whether the sides, both above 0, make an image of less than 2 GiB.
 bool isImageSize(cv::Size size, size_t bytesPerPixel)
 {
     constexpr auto limit = static_cast<size_t>(std::numeric_limits<int>::max());
-    return size.width > 0 && size.height > 0 &&
-           static_cast<size_t>(size.width) <=
-               limit / bytesPerPixel / static_cast<size_t>(size.height);
+    return static_cast<size_t>(size.width) <=
+           limit / bytesPerPixel / static_cast<size_t>(size.height);
 }
 
 WatermarkProfile* ownWatermark(const ImageProfile& profile)
@@ -138,10 +138,12 @@ cv::Mat ImageProcessingManager::resizeImage(cv::Mat mat, int width, int height,
                                             bool maintainAspectRatio, bool /*cropBlackEdges*/)
 {
     const cv::Size target(width, height);
-    if (mat.empty() || mat.size() == target || !isImageSize(target, mat.elemSize()))
+    if (mat.empty() || mat.size() == target || width <= 0 || height <= 0)
         return mat;
     const ResizePlan plan = maintainAspectRatio ? ResizePlan::fitting(mat.size(), target)
                                                 : ResizePlan::filling(mat.size(), target);
+    if (!isImageSize(plan.size, mat.elemSize()))
+        return mat;
     cv::Mat resized;
     cv::resize(mat(plan.region), resized, plan.size, 0.0, 0.0, cv::INTER_AREA);
     return resized;

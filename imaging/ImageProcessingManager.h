@@ -6,11 +6,13 @@
 #include <QObject>
 #include <QString>
 
-#include <opencv2/core/mat.hpp>
-
 class FileNameProfile;
 class ImageProfile;
 class WatermarkProfile;
+
+namespace cv {
+class Mat;
+} // namespace cv
 
 /// The one place where a captured frame becomes the picture that is shown, copied and saved.
 ///
@@ -35,18 +37,23 @@ public:
     /// three channels give Format_RGB888, of four Format_ARGB32, of one Format_Indexed8 (greys).
     /// A null image gives a null image; nothing else fails.
     ///
+    /// @param image      of an opaque picture, one without alpha, such as Format_RGB888
+    /// (Format_RGB32
+    ///     counts as one with alpha): else lowering the contrast or the brightness would make the
+    ///     picture see-through.
     /// @param profile    not null.
     /// @param watermark  the watermark to draw; null draws the profile's own, if it has one.
     [[nodiscard]] QImage processImage(QImage image, ImageProfile* profile,
                                       WatermarkProfile* watermark);
 
-    /// The picture in a matrix resized to `width` by `height` pixels.
+    /// The picture in a matrix resized to `width` by `height` pixels. A caller includes
+    /// <opencv2/core/mat.hpp> by itself, so that all others do without OpenCV.
     ///
     /// With the aspect ratio kept, the result is the largest picture inside these bounds; without,
     /// it fills them, and what of the source is too wide or too high is cut off on both sides. See
     /// ResizePlan for the rounding. A matrix that has the size already comes back as it is, sharing
-    /// its samples; so do an empty matrix, and any matrix where a side is 0 or less or the bounds
-    /// hold more than 2 GiB.
+    /// its samples; so do an empty matrix, and any matrix where a side is 0 or less or the result
+    /// would take 2 GiB or more.
     ///
     /// @param cropBlackEdges  without effect: black edges are part of the picture.
     [[nodiscard]] cv::Mat resizeImage(cv::Mat mat, int width, int height, bool maintainAspectRatio,
@@ -58,8 +65,9 @@ public:
     /// file-name profile's type is "jpg" or "jpeg", in capitals or not. The file never stands half
     /// written under its name.
     ///
-    /// @return false when nothing was written: the image is null, the suffix unknown, or the file
-    ///     cannot be written there. An existing file is unchanged then.
+    /// @return false when the file was not written: the image is null, the suffix unknown, or there
+    ///     is no writing there. An existing file is unchanged then, unless it could only be written
+    ///     in place (see FilePublisher) and that failed on the way.
     [[nodiscard]] bool saveImage(QString fileName, QImage image, ImageProfile* imageProfile,
                                  FileNameProfile* fileNameProfile);
 

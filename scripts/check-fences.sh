@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Fails where an include goes against the order of the folders, or reaches for a library that
 # another folder fences in, and where FFmpeg's version is tested outside the one header for that.
-# The compiler cannot see any of it: all folders share one include path.
+# The build keeps the folders apart as well, as far as its targets are linked in this order; it
+# cannot see a header that every compiler finds, as FFmpeg's on Debian, nor an include that goes
+# around the targets' include folders.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
@@ -23,7 +25,7 @@ includes_of() {
 # not_in_folders FOLDER…: keeps the others.
 not_in_folders() { grep -vE "^($(IFS='|' && printf '%s' "$*"))/" || true; }
 
-readonly FOLDERS=(qtav video profiles utils imaging batch ui app)
+readonly FOLDERS=(product qtav video profiles utils imaging batch ui app)
 ours="$(IFS='|' && printf '%s' "${FOLDERS[*]}")"
 readonly OURS="($ours)/"
 
@@ -55,21 +57,26 @@ only_in() {
     [[ -z $found ]] || complain "$what only in: $file" "$found"
 }
 
+layer product product/
 layer qtav qtav/
 layer video video/
 layer profiles profiles/
 layer utils utils/
 layer imaging imaging/ profiles/
-layer batch/dialogs batch/ ui/ video/ profiles/ imaging/ app/ProductInfo.h
+layer ui/batch batch/ ui/ video/ profiles/ imaging/
 layer batch batch/ video/ profiles/ imaging/
-layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ utils/ app/ProductInfo.h
-layer ui ui/ profiles/ imaging/ utils/ app/ProductInfo.h
+layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ product/
+layer ui ui/ profiles/ imaging/ product/
 # app/ stands above all others.
+
+# Without a folder only what a tool makes for the including file alone, with `..` nothing.
+found=$(includes_of '([^/"]+\.h"|\.\.?/)' "${FOLDERS[@]}" tests bench | grep -vE '"ui_[^/]*"' || true)
+[[ -z $found ]] || complain "includes are to be written from the root" "$found"
 
 # The benchmarks call the bare library for comparison; its tests let it see other machines.
 fence FFmpeg 'lib(av|sw)[a-z]*/' qtav tests/qtav bench/bare
 fence QtAV 'QtAV' qtav video batch ui app tests bench
-fence OpenCV 'opencv2/' imaging utils tests/imaging tests/utils bench
+fence OpenCV 'opencv2/' imaging tests/imaging bench
 
 only_in qtav/src/FFmpegCompat.h \
     '(LIB(AV|SW)[A-Z]+_VERSION(_[A-Z]+)?|AV_VERSION_INT|FF_API_[A-Z0-9_]+|(av|sw)[a-z]+_version)' \

@@ -12,19 +12,12 @@ constexpr qint32 shortVideoPrecision = 250;
 constexpr qint64 longestShortVideo = 9999;
 /// Further away from 0 than any precision chosen here, so that the first setPosition() counts.
 constexpr qint64 startPosition = -1000;
+constexpr qint64 farthestPosition = qint64(1) << 52;
 
-constexpr int keyFrameAttempts = 2;
-
-// FFmpeg's AVDiscard values.
-constexpr int discardDefault = 0;
-constexpr int discardNonReference = 8;
-
-QVariantHash decoderOptions(int discard)
-{
-    const QVariantHash codec{{QStringLiteral("skip_frame"), discard},
-                             {QStringLiteral("skip_loop_filter"), discard}};
-    return {{QStringLiteral("avcodec"), codec}};
-}
+// Where an extraction found that it was aborted.
+constexpr const char* beforeRead = "abort seek before read";
+constexpr const char* beforeKeyFrame = "abort seek before decoding key frames";
+constexpr const char* afterKeyFrame = "abort seek after key frame before read";
 
 qint64 toMilliseconds(double seconds)
 {
@@ -45,33 +38,22 @@ struct FrameGrabber::Extraction
 {
     /// Target in milliseconds.
     qint64 value;
-    /// Tolerance in milliseconds.
+    /// Tolerance for the key frame in milliseconds.
     qint32 range;
-    int videoStream = -1;
-    QtAV::Packet packet = {};
-    /// Time of the first packet after the seek in milliseconds; -1 before it was read.
-    qint64 firstPts = -1;
-    bool warnOutOfRange = true;
-    bool warnBadSeek = true;
-    /// The decoder options in force.
-    const QVariantHash* options = nullptr;
     QString err = QStringLiteral("");
     bool aborted = false;
 
-    bool fail(const QString& reason)
-    {
-        err = reason;
-        return false;
-    }
+    /// The same, or a position behind any video or before it that is small enough to calculate
+    /// with.
+    qint64 target() const { return std::clamp(value, -farthestPosition, farthestPosition); }
+    /// How far behind the target something lies, in milliseconds.
+    qint64 distanceOf(double seconds) const { return toMilliseconds(seconds) - target(); }
 };
 
 FrameGrabber::FrameGrabber(QObject* parent)
     : QObject(parent)
     , m_position(startPosition)
     , m_precision(defaultPrecision)
-    , m_decoderNames{QStringLiteral("FFmpeg")}
-    , m_droppingOptions(decoderOptions(discardNonReference))
-    , m_normalOptions(decoderOptions(discardDefault))
 {}
 
 FrameGrabber::~FrameGrabber()
@@ -94,7 +76,7 @@ qint64 FrameGrabber::getDuration()
 {
     // What could not be opened has the duration 0: the caller needs no second answer.
     static_cast<void>(checkAndOpen());
-    return m_demuxer.duration();
+    return m_reader.demuxer().duration();
 }
 
 void FrameGrabber::setPosition(qint64 value)
@@ -134,76 +116,44 @@ void FrameGrabber::releaseResourceInternal(bool releaseFrame)
         m_frame = QtAV::VideoFrame();
     }
     m_seekCount = 0;
-    m_decoder.reset();
-    m_demuxer.unload();
-}
-
-bool FrameGrabber::isLoaded() const
-{
-    return m_demuxer.isLoaded() && m_demuxer.fileName() == m_source;
-}
-
-bool FrameGrabber::loadSource()
-{
-    m_demuxer.unload();
-    m_demuxer.setMedia(m_source);
-    return m_demuxer.load();
+    m_reader.close();
 }
 
 bool FrameGrabber::checkAndOpen()
 {
-    const bool loaded = isLoaded();
-    if (loaded && m_decoder) {
-        return true;
-    }
+    const bool isOpen = m_reader.isOpen() && m_reader.demuxer().fileName() == m_source;
+    return isOpen || open();
+}
+
+bool FrameGrabber::open()
+{
+    m_abort = false;
     m_seekCount = 0;
-    m_decoder.reset();
-    const bool usable = loaded && !m_demuxer.atEnd();
-    if (!usable && !loadSource()) {
-        return false;
+    QString reason;
+    const bool isOpen = m_reader.open(m_source, isCancelled(), reason);
+    const QtAV::AVDemuxer& demuxer = m_reader.demuxer();
+    if (demuxer.isLoaded()) {
+        m_hasVideo = !demuxer.videoStreams().isEmpty();
     }
-    m_hasVideo = !m_demuxer.videoStreams().isEmpty();
-    if (!m_hasVideo) {
-        m_demuxer.unload();
-        return false;
+    if (isOpen) {
+        choosePrecision();
+    } else {
+        m_reader.close();
     }
-    return openDecoder();
+    return isOpen;
 }
 
-bool FrameGrabber::openDecoder()
+void FrameGrabber::choosePrecision()
 {
-    if (m_decoderNames.isEmpty()) {
-        return false;
-    }
     if (m_autoPrecision) {
-        m_precision =
-            m_demuxer.duration() > longestShortVideo ? defaultPrecision : shortVideoPrecision;
+        const bool isShort = m_reader.demuxer().duration() <= longestShortVideo;
+        m_precision = isShort ? shortVideoPrecision : defaultPrecision;
     }
-    m_demuxer.setStreamIndex(QtAV::AVDemuxer::VideoStream, 0);
-    for (const QString& name : qAsConst(m_decoderNames)) {
-        m_decoder = makeDecoder(name);
-        if (m_decoder) {
-            return true;
-        }
-    }
-    return false;
 }
 
-std::unique_ptr<QtAV::VideoDecoder> FrameGrabber::makeDecoder(const QString& name) const
+QtAV::IsCancelled FrameGrabber::isCancelled() const
 {
-    std::unique_ptr<QtAV::VideoDecoder> decoder(
-        QtAV::VideoDecoder::create(name.toUtf8().constData()));
-    const QtAV::VideoCodecContext* const context = m_demuxer.videoCodecContext();
-    if (!decoder || context == nullptr) {
-        return nullptr;
-    }
-    decoder->setCodecContext(context);
-    if (!decoder->open()) {
-        return nullptr;
-    }
-    const QVariantHash vaapi{{QStringLiteral("display"), QStringLiteral("X11")}};
-    decoder->setOptions({{QStringLiteral("vaapi"), vaapi}});
-    return decoder;
+    return [this] { return m_abort.load(); };
 }
 
 void FrameGrabber::extract()
@@ -214,8 +164,14 @@ void FrameGrabber::extract()
 void FrameGrabber::extractInternal(qint64 pos)
 {
     const int precisionBefore = m_precision;
+    m_abort = false;
     if (!checkAndOpen()) {
-        Q_EMIT error(QStringLiteral("Cannot open file"));
+        if (m_abort) {
+            Q_EMIT aborted(
+                QStringLiteral("Abort at position %1: %2").arg(pos).arg(QLatin1String(beforeRead)));
+        } else {
+            Q_EMIT error(QStringLiteral("Cannot open file"));
+        }
         return;
     }
     if (m_precision != precisionBefore) {
@@ -236,18 +192,16 @@ bool FrameGrabber::extractInPrecision(qint64 value, int range, QString& err, boo
 {
     m_abort = false;
     m_frame = QtAV::VideoFrame();
-    const qint64 start = m_demuxer.startTime();
+    const qint64 start = m_reader.demuxer().startTime();
     Extraction extraction{value < start ? value + start : value, range};
-
-    const bool ready = readKeyPacket(extraction) && decodeKeyPacket(extraction);
-    const bool extracted = ready && (isKeyFrameNearEnough(extraction) || decodeForward(extraction));
+    const bool extracted = land(extraction) && (takeKeyFrame(extraction) || takeFrame(extraction));
     err = extraction.err;
     aborted = extraction.aborted;
     return extracted;
 }
 
 /// True, with the reason noted, when abort() was called. `checkpoint` says where that was seen.
-bool FrameGrabber::isAbortedAt(Extraction& extraction, const char* checkpoint)
+bool FrameGrabber::isAbortedAt(Extraction& extraction, const char* checkpoint) const
 {
     if (!m_abort) {
         return false;
@@ -258,179 +212,121 @@ bool FrameGrabber::isAbortedAt(Extraction& extraction, const char* checkpoint)
     return true;
 }
 
-/// Reads one packet; false when that failed or gave one of another stream.
-bool FrameGrabber::readVideoPacket(const Extraction& extraction)
+bool FrameGrabber::failed(Extraction& extraction, const QString& reason) const
 {
-    return m_demuxer.readFrame() && m_demuxer.stream() == extraction.videoStream;
+    extraction.err = reason;
+    return false;
 }
 
-/// Seeks and reads up to the first key frame's packet.
-bool FrameGrabber::readKeyPacket(Extraction& extraction)
+/// Goes to the key frame from which decoding starts.
+bool FrameGrabber::land(Extraction& extraction)
 {
-    // What the seek could not do shows in the packets that follow.
-    m_demuxer.seek(extraction.value);
-    extraction.videoStream = m_demuxer.videoStream();
-    while (!m_demuxer.atEnd()) {
-        if (isAbortedAt(extraction, "abort seek before read")) {
-            return false;
-        }
-        if (!readVideoPacket(extraction)) {
-            continue;
-        }
-        extraction.packet = m_demuxer.packet();
-        const qint64 packetTime = toMilliseconds(extraction.packet.pts);
-        if (extraction.firstPts < 0) {
-            extraction.firstPts = packetTime;
-        }
-        if (packetTime - extraction.value > extraction.range && extraction.warnOutOfRange) {
-            extraction.warnOutOfRange = false;
-            qDebug("read packet out of range");
-        }
-        if (extraction.packet.hasKeyFrame) {
-            break;
-        }
-        if (extraction.warnBadSeek) {
-            extraction.warnBadSeek = false;
-            qWarning("Not seek to key frame!!!");
-        }
+    m_reader.seek(extraction.target());
+    const QtAV::FrameAnswer answer = m_reader.land(isCancelled());
+    if (answer == QtAV::FrameAnswer::Cancelled && isAbortedAt(extraction, beforeRead)) {
+        return false;
     }
-    enlargeRange(extraction);
-    if (!extraction.packet.isValid()) {
+    if (answer != QtAV::FrameAnswer::Frame) {
         qWarning("FrameGrabber failed to get a packet at %lld", extraction.value);
-        return extraction.fail(
-            QStringLiteral("failed to get a packet at %1").arg(extraction.value));
+        return failed(extraction,
+                      QStringLiteral("failed to get a packet at %1").arg(extraction.value));
+    }
+    if (extraction.distanceOf(*m_reader.landing()) > extraction.range) {
+        qDebug("read packet out of range");
+    }
+    if (!m_reader.landedOnKeyFrame()) {
+        qWarning("Not seek to key frame!!!");
     }
     return true;
 }
 
-/// Where the seek did not land on a key frame, no frame nearer than the key frame found can come
-/// out: that one has to do.
-void FrameGrabber::enlargeRange(Extraction& extraction) const
+/// Takes the key frame where it is near enough; decodes it at once only where it may be.
+bool FrameGrabber::takeKeyFrame(Extraction& extraction)
 {
-    const qint64 keyTime = toMilliseconds(extraction.packet.pts);
-    if (extraction.firstPts < 0 || keyTime <= extraction.firstPts) {
-        return;
+    const qint64 away = std::abs(extraction.distanceOf(*m_reader.landing()));
+    if (away > extraction.range || isAbortedAt(extraction, beforeKeyFrame)) {
+        return false;
     }
-    extraction.range =
-        static_cast<qint32>(std::max<qint64>(extraction.range, keyTime - extraction.value));
-    qDebug("enlarge range ==>>>> %d", extraction.range);
-}
-
-/// Decodes the key frame's packet; no frame coming out is no failure, being aborted is.
-bool FrameGrabber::decodeKeyPacket(Extraction& extraction)
-{
-    // The frames that the decoder still holds are those of the last extraction.
-    m_decoder->flush();
-    m_decoder->setOptions(m_normalOptions);
-    extraction.options = &m_normalOptions;
-    for (int attempt = 0; attempt < keyFrameAttempts && !m_frame.isValid(); ++attempt) {
-        if (isAbortedAt(extraction, "abort seek before decoding key frames")) {
-            return false;
-        }
-        if (m_decoder->decode(extraction.packet)) {
-            m_frame = m_decoder->frame();
-        }
-    }
-    return true;
-}
-
-/// The key frame will do on either side of the target.
-bool FrameGrabber::isKeyFrameNearEnough(const Extraction& extraction) const
-{
-    const auto frameTime = static_cast<quint32>(toMilliseconds(m_frame.timestamp()));
-    const auto diff = static_cast<qint32>(frameTime - static_cast<quint32>(extraction.value));
-    if (!m_frame.isValid() || std::abs(static_cast<qint64>(diff)) > extraction.range) {
+    // Whether it failed or was aborted shows when decoding goes on.
+    const QtAV::FrameResult first = m_reader.next(isCancelled());
+    m_frame = first.frame;
+    if (!isKeyFrameNearEnough(extraction)) {
+        m_frame = QtAV::VideoFrame();
         return false;
     }
     qDebug().noquote().nospace() << "FrameGrabber: key frame found @" << m_frame.timestamp()
-                                 << " diff=" << diff << ". format: " << m_frame.format();
+                                 << " diff=" << extraction.distanceOf(m_frame.timestamp())
+                                 << ". format: " << m_frame.format();
     return true;
 }
 
-/// Decodes to the first frame at or after the target and within tolerance, or to the end.
-bool FrameGrabber::decodeForward(Extraction& extraction)
+/// The key frame will do on either side of the target, but no frame that came out instead of it.
+bool FrameGrabber::isKeyFrameNearEnough(const Extraction& extraction) const
 {
-    ForwardStep step = ForwardStep::GoOn;
-    while (step == ForwardStep::GoOn && !m_demuxer.atEnd()) {
-        if (isAbortedAt(extraction, "abort seek after key frame before read")) {
-            return false;
-        }
-        step = decodeNextPacket(extraction);
-    }
-    if (step == ForwardStep::Failed) {
+    return m_frame.isValid() && m_reader.isAtLanding() && m_reader.landedOnKeyFrame() &&
+           std::abs(extraction.distanceOf(m_frame.timestamp())) <= extraction.range;
+}
+
+/// Decodes to the first frame at or after the target, or to the last of the video.
+bool FrameGrabber::takeFrame(Extraction& extraction)
+{
+    if (extraction.aborted) {
         return false;
     }
+    const qint64 target = extraction.target();
+    QtAV::FrameReader::Search search;
+    search.ms = target;
+    search.isReached = [target](const QtAV::VideoFrame& frame) {
+        return toMilliseconds(frame.timestamp()) >= target;
+    };
+    // Before the target, later extractions decode only the frames that others need.
+    search.completeFrom = m_seekCount != 0 ? target : 0;
+    search.damage = QtAV::FrameReader::Damage::Report;
+    const int invalidPackets = m_reader.invalidPackets();
+    const QtAV::FrameResult found = m_reader.findOn(search, isCancelled());
+    logInvalidPackets(invalidPackets);
+
+    if (found.answer == QtAV::FrameAnswer::Cancelled && isAbortedAt(extraction, afterKeyFrame)) {
+        return false;
+    }
+    if (found.answer == QtAV::FrameAnswer::Failed) {
+        if (!m_reader.canGoOn()) {
+            return failed(extraction, found.error);
+        }
+        qWarning("!!!!!!!!!decode failed!!!!");
+        return failed(extraction, QStringLiteral("decode failed"));
+    }
+    m_frame = found.frame;
+    logFrame(extraction);
     ++m_seekCount;
     closeAtEnd();
     return true;
 }
 
-FrameGrabber::ForwardStep FrameGrabber::decodeNextPacket(Extraction& extraction)
+void FrameGrabber::logInvalidPackets(int before) const
 {
-    if (!readVideoPacket(extraction)) {
-        return ForwardStep::GoOn;
-    }
-    extraction.packet = m_demuxer.packet();
-    if (!extraction.packet.isValid()) {
+    for (int i = before; i < m_reader.invalidPackets(); ++i) {
         qWarning("invalid packet. no decode");
-        return ForwardStep::GoOn;
-    }
-    chooseOptions(extraction);
-    if (!m_decoder->decode(extraction.packet)) {
-        qWarning("!!!!!!!!!decode failed!!!!");
-        m_frame = QtAV::VideoFrame();
-        extraction.err = QStringLiteral("decode failed");
-        return ForwardStep::Failed;
-    }
-    const QtAV::VideoFrame decoded = m_decoder->frame();
-    if (!decoded.isValid()) {
-        return ForwardStep::GoOn;
-    }
-    m_frame = decoded;
-    return judgeFrame(extraction);
-}
-
-/// Before the target, later extractions decode only the frames that others need; the first one
-/// after opening decodes all.
-void FrameGrabber::chooseOptions(Extraction& extraction)
-{
-    const bool dropping =
-        m_seekCount != 0 && toMilliseconds(extraction.packet.pts) < extraction.value;
-    const QVariantHash* const options = dropping ? &m_droppingOptions : &m_normalOptions;
-    if (options != extraction.options) {
-        m_decoder->setOptions(*options);
-        extraction.options = options;
     }
 }
 
-FrameGrabber::ForwardStep FrameGrabber::judgeFrame(Extraction& extraction)
+void FrameGrabber::logFrame(const Extraction& extraction) const
 {
-    const double pts = m_frame.timestamp();
-    const qint64 diff = toMilliseconds(pts) - extraction.value;
-    if (diff < 0) {
-        return ForwardStep::GoOn;
+    const qint64 diff = extraction.distanceOf(m_frame.timestamp());
+    if (!m_frame.isValid() || diff < 0) {
+        return;
     }
-    if (diff <= extraction.range) {
-        qDebug("got frame at %fs, diff=%lld", pts, diff);
-        return ForwardStep::Found;
+    if (diff > extraction.range) {
+        qWarning("out pts out of range. diff=%lld, range=%d", diff, extraction.range);
     }
-    if (pts < extraction.packet.pts) {
-        extraction.err = QStringLiteral("out pts out of range. diff=%1, range=%2")
-                             .arg(diff)
-                             .arg(extraction.range);
-        qWarning("%s", qUtf8Printable(extraction.err));
-        m_frame = QtAV::VideoFrame();
-        return ForwardStep::Failed;
-    }
-    return ForwardStep::GoOn;
+    qDebug("got frame at %fs, diff=%lld", m_frame.timestamp(), diff);
 }
 
 /// A decoder that was drained at the end takes no more packets: the next extraction opens anew.
 void FrameGrabber::closeAtEnd()
 {
-    if (m_demuxer.atEnd()) {
+    if (m_reader.demuxer().atEnd()) {
         m_seekCount = 0;
-        m_decoder.reset();
-        m_demuxer.unload();
+        m_reader.close();
     }
 }

@@ -1,23 +1,21 @@
 #pragma once
 
-#include <QtAV/AVDemuxer.h>
-#include <QtAV/VideoDecoder.h>
+#include <QtAV/FrameReader.h>
 #include <QtAV/VideoFrame.h>
 
 #include <QObject>
 #include <QString>
-#include <QStringList>
-#include <QVariantHash>
 
 #include <atomic>
-#include <memory>
 
 /// Takes single frames out of a video file at positions in milliseconds.
 ///
 /// An extraction seeks to the last key frame at or before the target. That frame is taken when it
-/// lies within the precision of the target, on either side; otherwise the grabber decodes forward
-/// to the first frame at or after the target. Files are opened by the first extraction or question
-/// for the duration, and stay open until an extraction reaches the end of the video.
+/// lies within the precision of the target, on either side; otherwise the grabber gives the first
+/// frame at or after the target, however far behind it that is, and behind the last frame the last
+/// one. Precision 0 means exact: the key frame is taken only where it is that frame. Files are
+/// opened by the first extraction or question for the duration, and stay open until an extraction
+/// reaches the end of the video.
 ///
 /// Threads: everything happens in the thread that calls, and the signals are emitted there, before
 /// the call returns. One thread at a time may use a grabber; only abort() may be called from any
@@ -47,14 +45,15 @@ public:
     qint64 getPosition() const { return m_position; }
     void setPosition(qint64 value);
 
-    /// How far from the target, in milliseconds, a frame may lie. A negative value lets every
+    /// How far from the target, in milliseconds, a key frame may lie. A negative value lets every
     /// opening choose from the length of the video: 500 from 10 seconds up, else 250. That is
     /// also how a new grabber starts.
     int getPrecision() const { return m_precision; }
     void setPrecision(int value);
 
-    /// Makes a running extraction end with aborted() at its next packet. Without one it does
-    /// nothing, since every extraction starts by forgetting earlier requests. From any thread.
+    /// Makes a running extraction end with aborted() at its next packet, also while the disk does
+    /// not answer. Without one it does nothing, since every extraction starts by forgetting earlier
+    /// requests. From any thread.
     void abort();
 
     /// Closes the file and gives the last frame's memory back.
@@ -72,8 +71,8 @@ public:
     /// @param range   tolerance in milliseconds
     /// @param err     why it failed
     /// @param aborted whether it failed because of abort()
-    /// @return true when it ended well, which includes running to the end of the video without a
-    ///         frame in tolerance: the frame is then the last one decoded, or an invalid one.
+    /// @return true when it ended well, which includes running to the end of the video: the frame
+    ///         is then the last one, or an invalid one where none can be decoded.
     [[nodiscard]] bool extractInPrecision(qint64 value, int range, QString& err, bool& aborted);
 
 public Q_SLOTS:
@@ -96,24 +95,19 @@ Q_SIGNALS:
 
 private:
     struct Extraction;
-    enum class ForwardStep { GoOn, Found, Failed };
 
-    bool isLoaded() const;
-    bool loadSource();
-    bool openDecoder();
-    std::unique_ptr<QtAV::VideoDecoder> makeDecoder(const QString& name) const;
-
-    bool readKeyPacket(Extraction& extraction);
-    void enlargeRange(Extraction& extraction) const;
-    bool decodeKeyPacket(Extraction& extraction);
-    bool isKeyFrameNearEnough(const Extraction& extraction) const;
-    bool decodeForward(Extraction& extraction);
-    ForwardStep decodeNextPacket(Extraction& extraction);
-    ForwardStep judgeFrame(Extraction& extraction);
-    void chooseOptions(Extraction& extraction);
+    [[nodiscard]] bool open();
+    void choosePrecision();
+    [[nodiscard]] bool land(Extraction& extraction);
+    [[nodiscard]] bool takeKeyFrame(Extraction& extraction);
+    [[nodiscard]] bool takeFrame(Extraction& extraction);
+    [[nodiscard]] bool isKeyFrameNearEnough(const Extraction& extraction) const;
+    void logFrame(const Extraction& extraction) const;
+    void logInvalidPackets(int before) const;
+    bool failed(Extraction& extraction, const QString& reason) const;
     void closeAtEnd();
-    bool isAbortedAt(Extraction& extraction, const char* checkpoint);
-    bool readVideoPacket(const Extraction& extraction);
+    bool isAbortedAt(Extraction& extraction, const char* checkpoint) const;
+    QtAV::IsCancelled isCancelled() const;
 
     std::atomic<bool> m_abort{false};
     bool m_hasVideo = true;
@@ -123,12 +117,6 @@ private:
     qint64 m_position;
     qint32 m_precision;
     QString m_source;
-    QtAV::AVDemuxer m_demuxer;
-    /// Null while closed.
-    std::unique_ptr<QtAV::VideoDecoder> m_decoder;
+    QtAV::FrameReader m_reader;
     QtAV::VideoFrame m_frame;
-    QStringList m_decoderNames;
-    /// Skip frames that no other frame needs: for the stretch before the target.
-    QVariantHash m_droppingOptions;
-    QVariantHash m_normalOptions;
 };

@@ -36,7 +36,7 @@ void processImage(benchmark::State& state, const std::string& size, WatermarkPro
     const QtAV::VideoFrame frame = stillFrame(state, size);
     if (!frame.isValid())
         return;
-    const QImage image = frame.toImage();
+    const QImage image = frame.toImage(frame.imageFormat());
     OutputProfiles profiles;
     for ([[maybe_unused]] auto _ : state) {
         QImage result =
@@ -62,7 +62,8 @@ void saveImage(benchmark::State& state, const QString& path, const QString& type
     OutputProfiles profiles;
     profiles.fileName()->setFileOutputType(type);
     auto* const manager = ImageProcessingManager::instance();
-    const QImage image = manager->processImage(frame.toImage(), profiles.image(), nullptr);
+    const QImage image =
+        manager->processImage(frame.toImage(frame.imageFormat()), profiles.image(), nullptr);
     for ([[maybe_unused]] auto _ : state) {
         if (!manager->saveImage(path, image, profiles.image(), profiles.fileName())) {
             state.SkipWithError("saveImage failed");

@@ -1,10 +1,10 @@
 // Plays a video in a window with the raster renderer and prints how many frames were shown and
 // painted, how many came too late, and what share of one core all that took.
 
+#include "app/MemoryPolicy.h"
 #include "bench/support/Sandbox.h"
 
 #include <QtAV/AVPlayer.h>
-#include <QtAV/QtAV_Global.h>
 #include <QtAV/VideoOutput.h>
 
 #include <QApplication>
@@ -85,7 +85,7 @@ bool play(const QString& path, QSize size, int seconds)
 
 int main(int argc, char** argv)
 {
-    QtAV::returnFreedMemory();
+    MemoryPolicy::returnFreedMemory();
     const bench::Sandbox sandbox;
     QApplication app(argc, argv);
     QCommandLineParser parser;

@@ -15,13 +15,13 @@
 // are and what they take. Where something failed, the answer is {"error": text}. compare_player.py
 // runs this beside another player.
 
+#include "app/GraphicsPolicy.h"
+#include "app/MemoryPolicy.h"
 #include "bench/support/Sandbox.h"
 #include "qtav/player/FrameSource.h"
 
 #include <QtAV/AVPlayer.h>
-#include <QtAV/QtAV_Global.h>
 #include <QtAV/VideoOutput.h>
-#include <QtAVWidgets>
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -232,13 +232,13 @@ void readCommands(Session& session)
 
 int main(int argc, char** argv)
 {
-    QtAV::returnFreedMemory();
+    MemoryPolicy::returnFreedMemory();
     const bench::Sandbox sandbox(bench::Sandbox::Display::Own);
     const bool drawsWithOpenGL = std::any_of(argv + 1, argv + argc, [](const char* argument) {
         return qstrcmp(argument, "--opengl") == 0;
     });
     if (!drawsWithOpenGL)
-        QtAV::Widgets::avoidImitatedOpenGL();
+        GraphicsPolicy::avoidImitatedOpenGL();
     const QApplication app(argc, argv);
     QCommandLineParser parser;
     parser.addHelpOption();

@@ -12,7 +12,7 @@ OutputProfiles::OutputProfiles(Shape shape)
 bool OutputProfiles::save(const QtAV::VideoFrame& frame, const QString& path)
 {
     auto* const manager = ImageProcessingManager::instance();
-    const QImage image = frame.toImage(QImage::Format_ARGB32, QSize(), QRectF());
+    const QImage image = frame.toImage(frame.imageFormat());
     const QImage processed = manager->processImage(image, &m_image, nullptr);
     return manager->saveImage(path, processed, &m_image, &m_fileName);
 }

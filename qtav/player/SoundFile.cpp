@@ -28,15 +28,17 @@ constexpr double LongestSilenceSeconds = 3600.0;
 
 bool SoundFile::open(const QString& path, QString& error)
 {
-    m_file = MediaFile::open(path, error);
+    // The thread of sound is left behind where the disk does not answer: see SoundThread.
+    m_file = Container::open(
+        path, [] { return false; }, error);
     if (!m_file)
         return false;
     error = QCoreApplication::translate("QtAV::AVPlayer", "The sound cannot be decoded.");
     if (m_file->audioStreams().isEmpty())
         return false;
-    m_file->selectAudio(m_file->audioStreams().constFirst());
-    m_timeline = m_file->timeline(m_file->audioStream());
-    const AVCodecParameters* parameters = m_file->audioParameters();
+    m_stream = m_file->audioStreams().constFirst();
+    m_timeline = m_file->timeline(m_stream);
+    const AVCodecParameters* parameters = m_file->stream(m_stream).codecpar;
     const AVCodec* codec = avcodec_find_decoder(parameters->codec_id);
     m_decoder.reset(codec ? avcodec_alloc_context3(codec) : nullptr);
     if (!m_decoder || avcodec_parameters_to_context(m_decoder.get(), parameters) < 0)
@@ -60,10 +62,7 @@ bool SoundFile::seek(double seconds)
     m_start = seconds;
     for (const double back : StepsBackSeconds) {
         const double landing = seconds - LeadSeconds - back;
-        const bool landed = landing > 0.0
-                                ? m_file->jumpNearInAudio(static_cast<qint64>(landing * 1000.0))
-                                : m_file->rewind();
-        if (!landed)
+        if (!goTo(landing))
             continue;
         avcodec_flush_buffers(m_decoder.get());
         m_resampler.reset();
@@ -79,6 +78,13 @@ bool SoundFile::seek(double seconds)
             return true;
     }
     return false;
+}
+
+bool SoundFile::goTo(double seconds)
+{
+    const auto ms = static_cast<qint64>(std::max(0.0, seconds) * 1000.0);
+    return m_file->seekNear(m_stream, m_timeline.lastTickOf(ms)) ||
+           (seconds <= 0.0 && m_file->reopen());
 }
 
 qint64 SoundFile::read(char* data, qint64 bytes)
@@ -126,15 +132,13 @@ bool SoundFile::sendPacket()
 {
     PacketPtr packet;
     for (;;) {
-        switch (m_file->read(packet)) {
-        case MediaFile::Read::Packet:
-            avcodec_send_packet(m_decoder.get(), packet.get());
-            return true;
-        case MediaFile::Read::Failure:
-            break;
-        case MediaFile::Read::End:
-            avcodec_send_packet(m_decoder.get(), nullptr);
-            return false;
+        const PacketAnswer answer = m_file->read(packet);
+        if (answer == PacketAnswer::Failed && m_file->canGoOn())
+            continue;
+        const bool isSound = answer == PacketAnswer::Packet && packet->stream_index == m_stream;
+        if (isSound || answer != PacketAnswer::Packet) {
+            avcodec_send_packet(m_decoder.get(), isSound ? packet.get() : nullptr);
+            return isSound;
         }
     }
 }

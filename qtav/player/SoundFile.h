@@ -1,7 +1,7 @@
 #pragma once
 
+#include "qtav/src/Container.h"
 #include "qtav/src/FFmpegHandles.h"
-#include "qtav/src/MediaFile.h"
 
 #include <QByteArray>
 #include <QString>
@@ -38,6 +38,7 @@ public:
     qint64 read(char* data, qint64 bytes);
 
 private:
+    [[nodiscard]] bool goTo(double seconds);
     bool decodeMore();
     bool sendPacket();
     void take(const AVFrame& frame);
@@ -46,7 +47,8 @@ private:
     [[nodiscard]] bool prepareResampler(const AVFrame& frame);
     int bytesPerFrame() const { return m_channels * int(sizeof(qint16)); }
 
-    std::unique_ptr<MediaFile> m_file;
+    std::unique_ptr<Container> m_file;
+    int m_stream = -1;
     CodecContextPtr m_decoder;
     Timeline m_timeline;
     ResamplerPtr m_resampler;

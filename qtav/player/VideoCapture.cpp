@@ -19,7 +19,7 @@ void VideoCapture::capture()
 
 void VideoCapture::deliver(const VideoFrame& frame)
 {
-    const QImage image = frame.toImage(QImage::Format_ARGB32);
+    const QImage image = frame.toImage(frame.imageFormat());
     if (image.isNull())
         Q_EMIT failed();
     else

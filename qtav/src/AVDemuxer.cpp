@@ -1,8 +1,14 @@
 #include <QtAV/AVDemuxer.h>
 
+#include "qtav/src/Container.h"
+#include "qtav/src/DurationProbe.h"
 #include "qtav/src/KeyFrameSearch.h"
-#include "qtav/src/MediaFile.h"
 #include "qtav/src/PacketHandle.h"
+#include "qtav/src/VideoPackets.h"
+
+#include "qtav/src/Times.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <deque>
@@ -29,24 +35,31 @@ class AVDemuxer::Private
 {
 public:
     void unload();
+    bool load();
     void findDuration();
     bool seek(qint64 ms);
-    void ensurePosition();
+    bool ensurePosition();
     void forgetPackets();
-    void selectVideo(int stream);
+    bool selectVideo(int stream);
+    PacketAnswer readPacket(PacketPtr& fresh);
     void takePacket(PacketPtr source);
     void beginDraining();
     bool drain();
+    bool isCancelled() const { return interrupt && interrupt(); }
 
     QString fileName;
     QString error;
-    std::unique_ptr<MediaFile> file;
+    IsCancelled interrupt;
+    std::unique_ptr<Container> container;
+    std::unique_ptr<VideoPackets> video; ///< null without a selected video stream
     std::unique_ptr<VideoCodecContext> codecContext;
+    int audioStream = -1;
     qint64 duration = 0;
     DurationSource durationSource = DurationSource::Unknown;
     qint64 usualStepBackMs = 0;
 
     bool positioned = false;
+    bool lost = false;          ///< reading failed for good, or was interrupted: only a seek helps
     std::deque<PacketPtr> kept; ///< read by the last seek
     bool fileEnded = false;
     int drainsLeft = 0;
@@ -61,19 +74,37 @@ void AVDemuxer::Private::unload()
 {
     forgetPackets();
     codecContext.reset();
-    file.reset();
+    video.reset();
+    container.reset();
+    audioStream = -1;
     duration = 0;
     durationSource = DurationSource::Unknown;
     usualStepBackMs = 0;
+    positioned = false;
+}
+
+bool AVDemuxer::Private::load()
+{
+    const auto asksInterrupt = [this] { return isCancelled(); };
+    container = Container::open(fileName, asksInterrupt, error);
+    if (!container)
+        return false;
+    if (!container->videoStreams().isEmpty())
+        static_cast<void>(selectVideo(container->videoStreams().constFirst()));
+    findDuration();
+    if (!isCancelled())
+        return true;
+    unload();
+    error = QCoreApplication::translate("QtAV::AVDemuxer", "Opening was cancelled.");
+    return false;
 }
 
 void AVDemuxer::Private::findDuration()
 {
-    const std::optional<qint64> stated = file->confirmedDuration();
-    duration = stated ? *stated : file->measuredDuration();
-    const bool isFromHeader = stated && !file->durationIsMeasured();
+    const DurationProbe::Length length = DurationProbe(*container, video.get()).run();
+    duration = length.ms;
     if (duration > 0)
-        durationSource = isFromHeader ? DurationSource::Header : DurationSource::Scan;
+        durationSource = length.isMeasured ? DurationSource::Scan : DurationSource::Header;
     positioned = false;
 }
 
@@ -81,9 +112,17 @@ bool AVDemuxer::Private::seek(qint64 ms)
 {
     forgetPackets();
     positioned = true;
-    KeyFrameSearch search(*file, duration, file->jumpsAnywhere() ? usualStepBackMs : 0);
-    if (!search.run(ms)) {
-        error = file->errorText();
+    if (container->isOverwritten()) {
+        error = container->errorText();
+        lost = true;
+        return false;
+    }
+    KeyFrameSearch search(*video, duration, container->isTransmission() ? usualStepBackMs : 0);
+    const PacketAnswer answer = search.run(ms);
+    if (answer != PacketAnswer::Packet) {
+        error = container->errorText();
+        lost = answer != PacketAnswer::End;
+        fileEnded = answer == PacketAnswer::End;
         return false;
     }
     usualStepBackMs = search.stepBackMs();
@@ -96,40 +135,66 @@ void AVDemuxer::Private::forgetPackets()
 {
     kept.clear();
     fileEnded = false;
+    lost = false;
     drainsLeft = 0;
     videoPackets = 0;
     packet = Packet();
     stream = -1;
 }
 
-void AVDemuxer::Private::selectVideo(int streamNumber)
+bool AVDemuxer::Private::selectVideo(int streamNumber)
 {
     codecContext.reset();
-    if (!file->selectVideo(streamNumber))
-        error = file->errorText();
-    if (file->videoParameters())
-        codecContext = std::make_unique<VideoCodecContext>(file->videoParameters());
+    video.reset();
+    if (streamNumber < 0)
+        return true;
+    video = std::make_unique<VideoPackets>(*container, streamNumber);
+    video->setAudioStream(audioStream);
+    codecContext = std::make_unique<VideoCodecContext>(video->parameters());
+    const bool isReady = video->index();
+    if (!isReady)
+        error = container->errorText();
+    return isReady;
 }
 
 /// Measuring the length has moved the file: reading begins at its start all the same.
-void AVDemuxer::Private::ensurePosition()
+bool AVDemuxer::Private::ensurePosition()
 {
     if (positioned)
-        return;
+        return true;
     positioned = true;
-    if (file->videoStream() >= 0 ? !seek(0) : !file->rewind())
-        fileEnded = true;
+    if (video)
+        return seek(0);
+    fileEnded = !container->seekNear(-1, 0) && !container->reopen();
+    return !fileEnded;
+}
+
+PacketAnswer AVDemuxer::Private::readPacket(PacketPtr& fresh)
+{
+    if (video)
+        return video->read(fresh);
+    for (;;) {
+        const PacketAnswer answer = container->read(fresh);
+        if (answer != PacketAnswer::Packet || fresh->stream_index == audioStream)
+            return answer;
+    }
 }
 
 void AVDemuxer::Private::takePacket(PacketPtr source)
 {
     stream = source->stream_index;
-    const bool isVideo = stream == file->videoStream();
-    packet = PacketHandle::wrap(std::move(source), isVideo ? file->videoParameters()->timeline
-                                                           : file->timeline(stream));
-    if (isVideo) {
-        ++videoPackets;
-        lastVideoPts = packet.pts;
+    const bool isVideo = video && stream == video->stream();
+    packet = PacketHandle::wrap(std::move(source),
+                                isVideo ? video->timeline() : container->timeline(stream));
+    if (!isVideo)
+        return;
+    ++videoPackets;
+    lastVideoPts = packet.pts;
+    // The file goes on behind what was taken for its end.
+    const qint64 ms = toMilliseconds(packet.pts);
+    if (ms > duration) {
+        duration = ms + toMilliseconds(packet.duration);
+        durationSource = DurationSource::Scan;
     }
 }
 
@@ -145,7 +210,7 @@ bool AVDemuxer::Private::drain()
         return false;
     --drainsLeft;
     packet = PacketHandle::drain(lastVideoPts);
-    stream = file->videoStream();
+    stream = video->stream();
     return true;
 }
 
@@ -164,17 +229,16 @@ void AVDemuxer::setMedia(const QString& fileName)
     d->fileName = fileName;
 }
 
+void AVDemuxer::setInterrupt(IsCancelled isCancelled)
+{
+    d->interrupt = std::move(isCancelled);
+}
+
 bool AVDemuxer::load()
 {
     unload();
     d->error.clear();
-    d->file = MediaFile::open(d->fileName, d->error);
-    if (!d->file)
-        return false;
-    if (!d->file->videoStreams().isEmpty())
-        d->selectVideo(d->file->videoStreams().constFirst());
-    d->findDuration();
-    return true;
+    return d->load();
 }
 
 void AVDemuxer::unload()
@@ -184,7 +248,7 @@ void AVDemuxer::unload()
 
 bool AVDemuxer::isLoaded() const
 {
-    return d->file != nullptr;
+    return d->container != nullptr;
 }
 
 QString AVDemuxer::fileName() const
@@ -199,7 +263,7 @@ QString AVDemuxer::errorString() const
 
 bool AVDemuxer::atEnd() const
 {
-    return !d->file || (d->fileEnded && d->kept.empty() && d->drainsLeft == 0);
+    return !d->container || (d->fileEnded && d->kept.empty() && d->drainsLeft == 0);
 }
 
 qint64 AVDemuxer::duration() const
@@ -219,34 +283,35 @@ qint64 AVDemuxer::startTime() const
 
 QList<int> AVDemuxer::videoStreams() const
 {
-    return d->file ? listOf(d->file->videoStreams()) : QList<int>();
+    return d->container ? listOf(d->container->videoStreams()) : QList<int>();
 }
 
 QList<int> AVDemuxer::audioStreams() const
 {
-    return d->file ? listOf(d->file->audioStreams()) : QList<int>();
+    return d->container ? listOf(d->container->audioStreams()) : QList<int>();
 }
 
 int AVDemuxer::videoStream() const
 {
-    return d->file ? d->file->videoStream() : -1;
+    return d->video ? d->video->stream() : -1;
 }
 
 int AVDemuxer::audioStream() const
 {
-    return d->file ? d->file->audioStream() : -1;
+    return d->audioStream;
 }
 
 bool AVDemuxer::setStreamIndex(StreamType type, int index)
 {
     const QList<int> streams = type == VideoStream ? videoStreams() : audioStreams();
-    if (!d->file || index < -1 || index >= streams.size())
+    if (!d->container || index < -1 || index >= streams.size())
         return false;
     const int stream = index < 0 ? -1 : streams.at(index);
-    if (type == AudioStream)
-        d->file->selectAudio(stream);
-    else if (stream != videoStream())
-        d->selectVideo(stream);
+    if (type == VideoStream)
+        return stream == videoStream() || d->selectVideo(stream);
+    d->audioStream = stream;
+    if (d->video)
+        d->video->setAudioStream(stream);
     return true;
 }
 
@@ -267,23 +332,21 @@ bool AVDemuxer::seek(qint64 ms)
 
 bool AVDemuxer::readFrame()
 {
-    if (!d->file)
+    if (!d->container || !d->ensurePosition() || !canGoOn())
         return false;
-    d->ensurePosition();
     PacketPtr fresh;
     if (!d->kept.empty()) {
         fresh = std::move(d->kept.front());
         d->kept.pop_front();
     } else if (!d->fileEnded) {
-        const MediaFile::Read result = d->file->read(fresh);
-        if (result == MediaFile::Read::Failure) {
-            d->error = d->file->errorText();
-            return false;
-        }
-        if (result == MediaFile::Read::End) {
-            d->error = d->file->errorText();
+        const PacketAnswer answer = d->readPacket(fresh);
+        if (answer != PacketAnswer::Packet)
+            d->error = d->container->errorText();
+        d->lost = !d->container->canGoOn();
+        if (answer == PacketAnswer::End)
             d->beginDraining();
-        }
+        else if (answer != PacketAnswer::Packet)
+            return false;
     }
     if (!fresh)
         return d->drain();
@@ -291,6 +354,11 @@ bool AVDemuxer::readFrame()
     if (d->fileEnded && d->kept.empty())
         d->beginDraining();
     return true;
+}
+
+bool AVDemuxer::canGoOn() const
+{
+    return d->container && !d->lost;
 }
 
 Packet AVDemuxer::packet() const

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace QtAV {
 
@@ -24,6 +25,23 @@ QVariantHash decoderOptions(bool skips)
             {QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), !skips}}}};
 }
 
+/// Lets a question interrupt the demuxer while it is in scope.
+class Interruptible
+{
+public:
+    Interruptible(AVDemuxer& demuxer, const IsCancelled& isCancelled)
+        : m_demuxer(demuxer)
+    {
+        m_demuxer.setInterrupt(isCancelled);
+    }
+    ~Interruptible() { m_demuxer.setInterrupt({}); }
+    Interruptible(const Interruptible&) = delete;
+    Interruptible& operator=(const Interruptible&) = delete;
+
+private:
+    AVDemuxer& m_demuxer;
+};
+
 QString tr(const char* text)
 {
     return QCoreApplication::translate("QtAV::AVPlayer", text);
@@ -37,7 +55,7 @@ FrameReader::~FrameReader() = default;
 bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QString& error)
 {
     close();
-    Q_UNUSED(isCancelled)
+    const Interruptible interruptible(m_demuxer, isCancelled);
     m_demuxer.setMedia(path);
     if (!m_demuxer.load()) {
         error = m_demuxer.errorString();
@@ -46,7 +64,6 @@ bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QStr
     const VideoCodecContext* context = m_demuxer.videoCodecContext();
     if (!context) {
         error = tr("There is no video in the file.");
-        close();
         return false;
     }
     m_decoder.reset(VideoDecoder::create("FFmpeg"));
@@ -74,6 +91,7 @@ void FrameReader::seek(qint64 ms)
 {
     restart();
     m_target = ms;
+    m_origin = ms;
     m_startedAtZero = ms <= 0;
 }
 
@@ -83,6 +101,7 @@ void FrameReader::restart()
     m_completeFrom = 0;
     m_skippedUpTo = -1.0;
     m_isLost = false;
+    m_resumes = false;
     m_invalidPackets = 0;
     m_landing.reset();
     m_landedOnKeyFrame = false;
@@ -90,24 +109,45 @@ void FrameReader::restart()
     m_lastFrame = VideoFrame();
     m_predecessor.reset();
     m_isAtFirst = false;
+    m_isAtLanding = false;
 }
 
 FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
 {
     if (!m_target)
-        return FrameAnswer::Frame;
+        return m_isLost ? FrameAnswer::Failed : FrameAnswer::Frame;
     if (isCancelled())
         return FrameAnswer::Cancelled;
-    // What a seek could not do shows in the packets that follow.
-    static_cast<void>(m_demuxer.seek(*m_target));
+    const Interruptible interruptible(m_demuxer, isCancelled);
     m_decoder->flush();
-    m_target.reset();
+    m_first = Packet();
+    if (!m_demuxer.seek(*m_target)) {
+        if (m_demuxer.canGoOn())
+            return FrameAnswer::End;
+        return lost(isCancelled);
+    }
     const FrameAnswer answer = readPacket(m_first, isCancelled);
-    if (answer == FrameAnswer::Frame) {
+    if (answer == FrameAnswer::Cancelled)
+        return answer;
+    m_target.reset();
+    if (answer == FrameAnswer::Frame && !m_resumes) {
         m_landing = m_first.pts;
         m_landedOnKeyFrame = m_first.hasKeyFrame;
     }
     return answer;
+}
+
+/// Where reading was interrupted it begins anew at the last frame that came out.
+FrameAnswer FrameReader::lost(const IsCancelled& isCancelled)
+{
+    if (!isCancelled()) {
+        m_isLost = true;
+        m_target.reset();
+        return FrameAnswer::Failed;
+    }
+    m_target = m_last ? toMilliseconds(*m_last) : m_origin;
+    m_resumes = m_last.has_value();
+    return FrameAnswer::Cancelled;
 }
 
 FrameAnswer FrameReader::readPacket(Packet& packet, const IsCancelled& isCancelled)
@@ -115,7 +155,12 @@ FrameAnswer FrameReader::readPacket(Packet& packet, const IsCancelled& isCancell
     while (!m_demuxer.atEnd()) {
         if (isCancelled())
             return FrameAnswer::Cancelled;
-        if (!m_demuxer.readFrame() || m_demuxer.stream() != m_demuxer.videoStream())
+        if (!m_demuxer.readFrame()) {
+            if (!m_demuxer.canGoOn())
+                return lost(isCancelled);
+            continue;
+        }
+        if (m_demuxer.stream() != m_demuxer.videoStream())
             continue;
         packet = m_demuxer.packet();
         if (packet.isValid())
@@ -128,21 +173,31 @@ FrameAnswer FrameReader::readPacket(Packet& packet, const IsCancelled& isCancell
 FrameResult FrameReader::next(const IsCancelled& isCancelled)
 {
     FrameAnswer answer = land(isCancelled);
+    const Interruptible interruptible(m_demuxer, isCancelled);
     while (answer == FrameAnswer::Frame) {
         Packet packet = std::exchange(m_first, Packet());
-        if (!packet.isValid())
+        const bool isLanding = packet.isValid();
+        if (!isLanding)
             answer = readPacket(packet, isCancelled);
         if (answer != FrameAnswer::Frame)
             break;
         chooseSkipping(packet);
-        if (!m_decoder->decode(packet))
+        const bool isDecoded = m_decoder->decode(packet);
+        // Without the picture that it began with a search starts further back.
+        if (!isDecoded && !isLanding)
             return {FrameAnswer::Failed, {}, tr("The picture is damaged.")};
         const VideoFrame frame = m_decoder->frame();
         const bool isLater = frame.isValid() && (!m_last || frame.timestamp() > *m_last);
         if (isLater)
-            return arriveAt(frame);
+            return arriveAt(frame, isLanding);
     }
-    return {answer};
+    return {answer, {}, answer == FrameAnswer::Failed ? failureText() : QString()};
+}
+
+QString FrameReader::failureText() const
+{
+    const QString reason = m_demuxer.errorString();
+    return reason.isEmpty() ? tr("The file cannot be read any more.") : reason;
 }
 
 void FrameReader::chooseSkipping(const Packet& packet)
@@ -156,11 +211,13 @@ void FrameReader::chooseSkipping(const Packet& packet)
     m_decoder->setOptions(decoderOptions(skips));
 }
 
-FrameResult FrameReader::arriveAt(const VideoFrame& frame)
+FrameResult FrameReader::arriveAt(const VideoFrame& frame, bool isLanding)
 {
     m_predecessor.reset();
-    if (m_last && *m_last >= m_skippedUpTo)
+    // What was interrupted may begin behind frames that cannot be decoded any more.
+    if (m_last && *m_last >= m_skippedUpTo && !std::exchange(m_resumes, false))
         m_predecessor = m_last;
+    m_isAtLanding = isLanding;
     m_isAtFirst = !m_last && m_startedAtZero;
     m_last = frame.timestamp();
     m_lastFrame = frame;
@@ -175,6 +232,8 @@ bool FrameReader::isCertain() const
 
 FrameReader::Way FrameReader::walk(const Search& search, const IsCancelled& isCancelled)
 {
+    if (m_last && search.isReached(m_lastFrame))
+        return {{FrameAnswer::Frame, m_lastFrame}, isCertain()};
     for (;;) {
         FrameResult step = next(isCancelled);
         if (step.answer == FrameAnswer::Failed && search.damage == Damage::Skip && canGoOn())

@@ -1,5 +1,7 @@
 #include "qtav/src/HevcLayers.h"
 
+#include "qtav/src/NalUnits.h"
+
 namespace QtAV {
 
 namespace {
@@ -18,10 +20,10 @@ int layersInConfigurationRecord(const uint8_t* data)
 }
 
 /// A parameter set: two bytes of header, then 4 bits of id and 3 bits of layer count less one.
-bool parameterSetHasSubLayers(const uint8_t* unit, qsizetype size)
+bool parameterSetHasSubLayers(const NalUnits::Unit& unit)
 {
-    const bool isParameterSet = size >= 3 && ((unit[0] >> 1) & 0x3f) == SequenceParameterSet;
-    return isParameterSet && ((unit[2] >> 1) & 0x07) > 0;
+    const bool isParameterSet = unit.type == SequenceParameterSet && unit.size >= 3;
+    return isParameterSet && ((unit.data[2] >> 1) & 0x07) > 0;
 }
 
 } // namespace
@@ -32,9 +34,9 @@ bool hevcHasSubLayers(const uint8_t* data, qsizetype size)
         return false;
     if (isConfigurationRecord(data, size))
         return layersInConfigurationRecord(data) > 1;
-    for (qsizetype i = 0; i + 3 < size; ++i) {
-        const bool isStartCode = data[i] == 0 && data[i + 1] == 0 && data[i + 2] == 1;
-        if (isStartCode && parameterSetHasSubLayers(data + i + 3, size - i - 3))
+    NalUnits::Cursor cursor = NalUnits::ofMarked(AV_CODEC_ID_HEVC, data, size);
+    while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
+        if (parameterSetHasSubLayers(*unit))
             return true;
     }
     return false;

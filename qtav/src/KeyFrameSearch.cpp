@@ -1,6 +1,5 @@
 #include "qtav/src/KeyFrameSearch.h"
 
-#include "qtav/src/MediaFile.h"
 #include "qtav/src/PacketHandle.h"
 
 #include <algorithm>
@@ -13,54 +12,71 @@ constexpr qint64 SmallestStepBackMs = 500;
 
 } // namespace
 
-KeyFrameSearch::KeyFrameSearch(MediaFile& file, qint64 durationMs, qint64 firstStepBackMs)
-    : m_file(file)
+KeyFrameSearch::KeyFrameSearch(VideoPackets& video, qint64 durationMs, qint64 firstStepBackMs)
+    : m_video(video)
     , m_durationMs(durationMs)
     , m_stepBackMs(firstStepBackMs)
 {}
 
-bool KeyFrameSearch::run(qint64 targetMs)
+PacketAnswer KeyFrameSearch::run(qint64 targetMs)
 {
     m_targetMs = targetMs;
     // Searches near the start say nothing of how far to step back elsewhere.
     const qint64 usualStepBackMs = m_stepBackMs;
     const qint64 base = m_durationMs > 0 ? std::min(targetMs, m_durationMs) : targetMs;
     while (base - m_stepBackMs > 0) {
-        if (m_file.jumpNear(base - m_stepBackMs) &&
-            scan(Accept::AtOrBeforeTarget) == Landing::Found)
-            return true;
+        const PacketAnswer answer =
+            scanIf(m_video.seekNear(base - m_stepBackMs), Accept::AtOrBeforeTarget);
+        if (answer != PacketAnswer::End)
+            return answer;
         m_stepBackMs = std::max(SmallestStepBackMs, m_stepBackMs * 2);
     }
     m_stepBackMs = usualStepBackMs;
     return searchFromStart();
 }
 
-bool KeyFrameSearch::searchFromStart()
+PacketAnswer KeyFrameSearch::searchFromStart()
 {
-    if (m_file.rewind() && scan(Accept::FirstKeyFrame) == Landing::Found)
-        return true;
+    PacketAnswer answer = scanIf(m_video.rewind(), Accept::FirstKeyFrame);
     // Some containers claim to go to their start and end up elsewhere.
-    if (m_file.reopen() && scan(Accept::FirstKeyFrame) == Landing::Found)
-        return true;
-    return m_file.reopen() && scan(Accept::AnyPacket) == Landing::Found;
+    for (const Accept accept : {Accept::FirstKeyFrame, Accept::AnyPacket}) {
+        if (answer != PacketAnswer::End)
+            return answer;
+        if (!m_video.reopen())
+            return m_video.wasInterrupted() ? PacketAnswer::Cancelled : PacketAnswer::Failed;
+        answer = scan(accept);
+    }
+    return answer;
 }
 
-KeyFrameSearch::Landing KeyFrameSearch::scan(Accept accept)
+/// Scans from where a seek went to; a seek that was refused found nothing.
+PacketAnswer KeyFrameSearch::scanIf(bool isThere, Accept accept)
+{
+    if (isThere)
+        return scan(accept);
+    return m_video.wasInterrupted() ? PacketAnswer::Cancelled : PacketAnswer::End;
+}
+
+/// End where no packet is acceptable.
+PacketAnswer KeyFrameSearch::scan(Accept accept)
 {
     m_packets.clear();
     m_keptBytes = 0;
     m_reachedEnd = false;
-    const Timeline& timeline = m_file.videoParameters()->timeline;
+    const Timeline& timeline = m_video.timeline();
     bool found = false;
     for (PacketPtr packet;;) {
-        const MediaFile::Read result = m_file.read(packet);
-        if (result == MediaFile::Read::End) {
+        const PacketAnswer answer = m_video.read(packet);
+        if (answer == PacketAnswer::End) {
             m_reachedEnd = true;
-            return found ? Landing::Found : Landing::NoKeyFrame;
+            return found ? PacketAnswer::Packet : PacketAnswer::End;
         }
-        if (result == MediaFile::Read::Failure)
+        if (answer == PacketAnswer::Failed && m_video.canGoOn())
             continue;
-        if (packet->stream_index != m_file.videoStream()) {
+        // What was found before a failure is there all the same.
+        if (answer != PacketAnswer::Packet)
+            return found && answer == PacketAnswer::Failed ? PacketAnswer::Packet : answer;
+        if (packet->stream_index != m_video.stream()) {
             if (found)
                 keep(std::move(packet));
             continue;
@@ -80,7 +96,7 @@ KeyFrameSearch::Landing KeyFrameSearch::scan(Accept accept)
         }
         const bool mayGoOn = !found || keep(std::move(packet));
         if (found ? (isBehind || !mayGoOn) : (isBehind && accept == Accept::AtOrBeforeTarget))
-            return found ? Landing::Found : Landing::NoKeyFrame;
+            return found ? PacketAnswer::Packet : PacketAnswer::End;
     }
 }
 
@@ -89,7 +105,7 @@ bool KeyFrameSearch::keep(PacketPtr packet)
 {
     m_keptBytes += packet->size;
     m_packets.push_back(std::move(packet));
-    return m_keptBytes < MostKeptBytes;
+    return m_keptBytes < MaximumKeptBytes;
 }
 
 } // namespace QtAV

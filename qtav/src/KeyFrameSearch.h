@@ -1,14 +1,10 @@
 #pragma once
 
-#include "qtav/src/FFmpegHandles.h"
-
-#include <QtGlobal>
+#include "qtav/src/VideoPackets.h"
 
 #include <deque>
 
 namespace QtAV {
-
-class MediaFile;
 
 /// Finds the last key frame at or before a position, in any container.
 ///
@@ -20,16 +16,16 @@ class MediaFile;
 class KeyFrameSearch
 {
 public:
-    /// The most that is kept of one group of pictures. Beyond it the first key frame found is
-    /// taken even if a later one might follow: decoding from there reaches the same frames.
-    static constexpr qint64 MostKeptBytes = qint64(256) << 20;
+    /// No more is kept of one group of pictures. Beyond it the first key frame found is taken even
+    /// if a later one might follow: decoding from there reaches the same frames.
+    static constexpr qint64 MaximumKeptBytes = qint64(256) << 20;
 
     /// @param firstStepBack  how far before the target to land at first, in milliseconds: what the
     ///                       last search in the same file needed.
-    KeyFrameSearch(MediaFile& file, qint64 durationMs, qint64 firstStepBackMs);
+    KeyFrameSearch(VideoPackets& video, qint64 durationMs, qint64 firstStepBackMs);
 
-    /// Searches. False when the file holds no video packet that could be read.
-    bool run(qint64 targetMs);
+    /// Searches. Packet when packets() holds what was found, End for a stream without any packet.
+    [[nodiscard]] PacketAnswer run(qint64 targetMs);
 
     /// What was read, from the key frame on, in file order. In a stream without any key frame it
     /// starts with the first packet.
@@ -42,14 +38,14 @@ public:
     qint64 stepBackMs() const { return m_stepBackMs; }
 
 private:
-    enum class Landing { Found, NoKeyFrame };
     enum class Accept { AtOrBeforeTarget, FirstKeyFrame, AnyPacket };
 
-    Landing scan(Accept accept);
+    [[nodiscard]] PacketAnswer scan(Accept accept);
+    [[nodiscard]] PacketAnswer scanIf(bool isThere, Accept accept);
+    [[nodiscard]] PacketAnswer searchFromStart();
     bool keep(PacketPtr packet);
-    bool searchFromStart();
 
-    MediaFile& m_file;
+    VideoPackets& m_video;
     qint64 m_durationMs;
     qint64 m_stepBackMs;
     qint64 m_targetMs = 0;

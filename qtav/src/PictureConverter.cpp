@@ -62,12 +62,18 @@ bool PictureConverter::Task::operator==(const Task& other) const
            chromaLocation == other.chromaLocation;
 }
 
+bool PictureConverter::hasAlpha(const AVFrame& frame)
+{
+    const auto format = static_cast<AVPixelFormat>(frame.format);
+    const AVPixFmtDescriptor* descriptor = av_pix_fmt_desc_get(format);
+    return descriptor && (descriptor->flags & AV_PIX_FMT_FLAG_ALPHA);
+}
+
 bool PictureConverter::isOpaqueYuv(const AVFrame& frame)
 {
     const auto format = static_cast<AVPixelFormat>(frame.format);
     const AVPixFmtDescriptor* descriptor = av_pix_fmt_desc_get(format);
-    return descriptor && !isRgb(*descriptor) && !isXyz(format) &&
-           !(descriptor->flags & AV_PIX_FMT_FLAG_ALPHA);
+    return descriptor && !isRgb(*descriptor) && !isXyz(format) && !hasAlpha(frame);
 }
 
 QImage PictureConverter::convert(const AVFrame& frame, const QSize& size)

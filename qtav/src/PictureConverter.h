@@ -27,6 +27,9 @@ public:
     /// out.
     QImage convert(const AVFrame& frame, const QSize& size);
 
+    /// True when the picture's format has alpha, be all of it opaque or not.
+    static bool hasAlpha(const AVFrame& frame);
+
     /// True for pictures of luma and chroma alone. What convert() gives of them is opaque, and at a
     /// smaller size shows what it shows at full size, at a part of the time and memory: scaling
     /// luma and chroma comes to the same as scaling colours.

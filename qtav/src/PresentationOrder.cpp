@@ -1,11 +1,15 @@
 #include "qtav/src/PresentationOrder.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 
 namespace QtAV {
 
 namespace {
+
+/// In a stream that has no times at all none need be waited for.
+constexpr size_t MaximumUnplaced = 64;
 
 constexpr qint64 NoOrder = std::numeric_limits<qint64>::min();
 
@@ -14,11 +18,21 @@ bool hasOrderCount(AVCodecID codec)
     return codec == AV_CODEC_ID_H264 || codec == AV_CODEC_ID_HEVC;
 }
 
+/// True for two times that differ by less than half a picture.
+bool isNear(qint64 a, qint64 b, qint64 frameTicks)
+{
+    return std::abs(a - b) < std::max<qint64>(1, frameTicks / 2);
+}
+
 } // namespace
 
-PresentationOrder::PresentationOrder(const AVCodecParameters& codec, int reorderDelay)
+PresentationOrder::PresentationOrder(const AVCodecParameters& codec, int reorderDelay, Times times,
+                                     AVRational timeBase)
     : m_parser(av_parser_init(codec.codec_id))
     , m_context(avcodec_alloc_context3(nullptr))
+    , m_codec(codec.codec_id)
+    , m_timeBase(timeBase)
+    , m_mode(times)
     , m_hasOrderCount(hasOrderCount(codec.codec_id))
     , m_reorderDelay(static_cast<size_t>(std::max(0, reorderDelay)))
     , m_highestOrder(NoOrder)
@@ -29,16 +43,20 @@ PresentationOrder::PresentationOrder(const AVCodecParameters& codec, int reorder
         m_parser->flags |= PARSER_FLAG_COMPLETE_FRAMES;
 }
 
-void PresentationOrder::push(PacketPtr packet)
+void PresentationOrder::push(PacketPtr packet, qint64 frameTicks)
 {
     parse(*packet);
     const quint64 place = m_firstPlace + m_held.size();
-    m_times.push_back(packet->dts);
-    m_held.push_back({std::move(packet), false});
+    if (m_mode == Times::OfDecoding)
+        m_times.push_back(packet->dts);
+    const bool isKey = packet->flags & AV_PKT_FLAG_KEY;
+    const bool isTimed = m_mode == Times::WithGaps && packet->pts != AV_NOPTS_VALUE && !isKey;
+    const Waiting picture{0, place, packet->pts, shownTicks(*packet, frameTicks), isKey};
+    m_held.push_back({std::move(packet), isTimed});
     if (m_hasOrderCount)
-        placeByOrderCount(*m_held.back().packet, place);
+        placeByOrderCount(picture);
     else
-        placeByPictureType(place);
+        placeByPictureType(picture);
 }
 
 void PresentationOrder::parse(const AVPacket& packet)
@@ -51,39 +69,118 @@ void PresentationOrder::parse(const AVPacket& packet)
                      packet.pts, packet.dts, packet.pos);
 }
 
-void PresentationOrder::placeByOrderCount(const AVPacket& packet, quint64 place)
+/// Film on an NTSC DVD is stored at its own rate: each picture says for how many fields it is
+/// shown.
+qint64 PresentationOrder::shownTicks(const AVPacket& packet, qint64 frameTicks) const
 {
-    const qint64 order = m_parser ? m_parser->output_picture_number : 0;
+    const AVRational rate = m_context->framerate;
+    const bool countsFields = m_codec == AV_CODEC_ID_MPEG2VIDEO && m_parser &&
+                              m_parser->repeat_pict > 0 && rate.num > 0 && rate.den > 0;
+    if (!countsFields || packet.duration > 0)
+        return frameTicks;
+    const AVRational field{rate.den, 2 * rate.num};
+    return av_rescale_q(1 + m_parser->repeat_pict, field, m_timeBase);
+}
+
+void PresentationOrder::placeByOrderCount(Waiting picture)
+{
+    picture.order = m_parser ? m_parser->output_picture_number : 0;
     // The count starts over where nothing later refers to anything before.
-    const bool startsOver = (packet.flags & AV_PKT_FLAG_KEY) && order <= m_highestOrder;
+    const bool startsOver = picture.isKey && picture.order <= m_highestOrder;
     if (startsOver) {
         showAll();
-        m_highestOrder = order;
+        m_highestOrder = picture.order;
     }
-    m_highestOrder = std::max(m_highestOrder, order);
-    m_waiting.insert({order, place});
+    m_highestOrder = std::max(m_highestOrder, picture.order);
+    m_waiting.insert(picture);
     while (m_waiting.size() > m_reorderDelay)
         showNext();
 }
 
-void PresentationOrder::placeByPictureType(quint64 place)
+void PresentationOrder::placeByPictureType(Waiting picture)
 {
     const bool shownAtOnce = m_parser && m_parser->pict_type == AV_PICTURE_TYPE_B;
     if (!shownAtOnce)
         showAll();
-    m_waiting.insert({shownAtOnce ? -1 : 0, place});
+    picture.order = shownAtOnce ? -1 : 0;
+    m_waiting.insert(picture);
     if (shownAtOnce || m_reorderDelay == 0)
         showNext();
 }
 
 void PresentationOrder::showNext()
 {
-    const auto next = m_waiting.begin();
-    Held& held = m_held[next->place - m_firstPlace];
-    held.packet->pts = m_times.front();
-    held.certain = true;
+    const Waiting picture = *m_waiting.begin();
+    m_waiting.erase(m_waiting.begin());
+    if (m_mode == Times::WithGaps) {
+        time(picture);
+        return;
+    }
+    settle(picture.place, m_times.front());
     m_times.pop_front();
-    m_waiting.erase(next);
+}
+
+void PresentationOrder::time(const Waiting& picture)
+{
+    const bool isTimed = picture.ticks != AV_NOPTS_VALUE;
+    const bool isExpected = m_unplaced.empty() && m_nextTicks != AV_NOPTS_VALUE;
+    const bool isDoubtful =
+        picture.isKey && !(isExpected && isNear(picture.ticks, m_nextTicks, picture.frameTicks));
+    if (isTimed)
+        timeUnplaced(picture);
+    if (isExpected && !isTimed) {
+        settle(picture.place, m_nextTicks);
+        m_nextTicks += picture.frameTicks;
+    } else if (isTimed && !isDoubtful) {
+        settle(picture.place, picture.ticks);
+        m_nextTicks = picture.ticks + picture.frameTicks;
+    } else {
+        m_unplaced.push_back(picture);
+        if (m_unplaced.size() > MaximumUnplaced)
+            giveUpUnplaced();
+    }
+}
+
+/// Times the pictures that were shown before one whose time is known, back from that.
+void PresentationOrder::timeUnplaced(const Waiting& known)
+{
+    constexpr int LargestError = 3;
+    qint64 ticks = known.ticks;
+    for (auto picture = m_unplaced.rbegin(); picture != m_unplaced.rend(); ++picture) {
+        ticks -= picture->frameTicks;
+        const bool isOwn = picture->ticks != AV_NOPTS_VALUE;
+        // Beyond that the pictures between them do not follow one another without a gap.
+        const bool fits = isOwn && !known.isKey &&
+                          isNear(picture->ticks, ticks, 2 * LargestError * picture->frameTicks);
+        if (isOwn && !fits)
+            ticks = picture->ticks;
+        settle(picture->place, ticks);
+    }
+    m_unplaced.clear();
+}
+
+/// What they bear themselves has to do.
+void PresentationOrder::giveUpUnplaced()
+{
+    for (const Waiting& picture : m_unplaced) {
+        const bool isOwn = picture.ticks != AV_NOPTS_VALUE;
+        const bool isBackwards = isOwn && m_nextTicks != AV_NOPTS_VALUE &&
+                                 picture.ticks < m_nextTicks - picture.frameTicks / 2;
+        const qint64 ticks = isOwn && !isBackwards ? picture.ticks : m_nextTicks;
+        settle(picture.place, ticks);
+        m_nextTicks = ticks == AV_NOPTS_VALUE ? ticks : ticks + picture.frameTicks;
+    }
+    m_unplaced.clear();
+}
+
+/// Sets the time of a picture, unless it has gone with its own.
+void PresentationOrder::settle(quint64 place, qint64 ticks)
+{
+    if (place < m_firstPlace)
+        return;
+    Held& held = m_held[place - m_firstPlace];
+    held.packet->pts = ticks;
+    held.certain = true;
 }
 
 void PresentationOrder::showAll()
@@ -95,6 +192,7 @@ void PresentationOrder::showAll()
 void PresentationOrder::finish()
 {
     showAll();
+    giveUpUnplaced();
 }
 
 void PresentationOrder::reset()
@@ -102,8 +200,10 @@ void PresentationOrder::reset()
     m_held.clear();
     m_times.clear();
     m_waiting.clear();
+    m_unplaced.clear();
     m_firstPlace = 0;
     m_highestOrder = NoOrder;
+    m_nextTicks = AV_NOPTS_VALUE;
 }
 
 PacketPtr PresentationOrder::pop()

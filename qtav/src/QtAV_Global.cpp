@@ -8,12 +8,7 @@
 #include <atomic>
 #include <cstdarg>
 #include <cstdio>
-#include <cstdlib> // says whether the C library is GNU's
 #include <mutex>
-
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace QtAV {
 
@@ -75,15 +70,6 @@ void setLogLevel(LogLevel level)
 LogLevel logLevel()
 {
     return s_level;
-}
-
-void returnFreedMemory()
-{
-#ifdef __GLIBC__
-    // The library would raise this by itself whenever a large block is freed.
-    constexpr int LargeBytes = 1 << 20;
-    mallopt(M_MMAP_THRESHOLD, LargeBytes);
-#endif
 }
 
 void routeFFmpegLog()

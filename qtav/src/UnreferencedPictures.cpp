@@ -19,95 +19,46 @@ constexpr int PrefixInformation = 39;
 constexpr int SuffixInformation = 40;
 } // namespace hevc
 
-/// How long the lengths before units are, by the records of ISO/IEC 14496-15; 0 where there is no
-/// such record, and start codes part the units.
-int lengthBytesOf(const AVCodecParameters& parameters)
+enum class Meaning { Neutral, Unreferenced, Needed };
+
+Meaning meaningInH264(const NalUnits::Unit& unit)
 {
-    const uint8_t* record = parameters.extradata;
-    const int place = parameters.codec_id == AV_CODEC_ID_HEVC ? 21 : 4;
-    const bool isRecord = record && parameters.extradata_size > place && record[0] == 1;
-    return isRecord ? (record[place] & 0x03) + 1 : 0;
+    if (unit.type == h264::Slice)
+        return unit.isReference ? Meaning::Needed : Meaning::Unreferenced;
+    const bool isNeutral = unit.type == h264::SupplementalInformation ||
+                           unit.type == h264::Delimiter || unit.type == h264::Filler;
+    return isNeutral ? Meaning::Neutral : Meaning::Needed;
 }
 
-/// The place behind the next start code; the end where none follows.
-qsizetype behindStartCode(const uint8_t* data, qsizetype from, qsizetype size)
+Meaning meaningInHevc(const NalUnits::Unit& unit)
 {
-    for (qsizetype i = from; i + 3 <= size; ++i) {
-        if (data[i] == 0 && data[i + 1] == 0 && data[i + 2] == 1)
-            return i + 3;
-    }
-    return size;
+    // Slices of pictures that are referred to have odd types.
+    if (unit.type <= hevc::LastOrdinarySlice)
+        return unit.type % 2 ? Meaning::Needed : Meaning::Unreferenced;
+    const bool isNeutral = unit.type == hevc::Delimiter || unit.type == hevc::Filler ||
+                           unit.type == hevc::PrefixInformation ||
+                           unit.type == hevc::SuffixInformation;
+    return isNeutral ? Meaning::Neutral : Meaning::Needed;
 }
 
 } // namespace
 
 UnreferencedPictures::UnreferencedPictures(const AVCodecParameters& parameters)
-{
-    if (parameters.codec_id != AV_CODEC_ID_H264 && parameters.codec_id != AV_CODEC_ID_HEVC)
-        return;
-    m_codec = parameters.codec_id;
-    m_lengthBytes = lengthBytesOf(parameters);
-}
+    : m_units(parameters)
+{}
 
 bool UnreferencedPictures::areAllOf(const uint8_t* data, qsizetype size) const
 {
-    if (m_codec == AV_CODEC_ID_NONE || !data)
-        return false;
-    return m_lengthBytes > 0 ? areAllOfPrefixed(data, size) : areAllOfMarked(data, size);
-}
-
-bool UnreferencedPictures::areAllOfPrefixed(const uint8_t* data, qsizetype size) const
-{
+    NalUnits::Cursor cursor = m_units.of(data, size);
     bool hasPicture = false;
-    qsizetype place = 0;
-    while (size - place > m_lengthBytes) {
-        qsizetype length = 0;
-        for (int i = 0; i < m_lengthBytes; ++i)
-            length = length << 8 | data[place++];
-        if (length <= 0 || length > size - place)
+    while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
+        const Meaning meaning =
+            m_units.codec() == AV_CODEC_ID_HEVC ? meaningInHevc(*unit) : meaningInH264(*unit);
+        if (meaning == Meaning::Needed)
             return false;
-        const Unit unit = unitAt(data + place, length);
-        if (unit == Unit::Needed)
-            return false;
-        hasPicture = hasPicture || unit == Unit::Unreferenced;
-        place += length;
+        hasPicture = hasPicture || meaning == Meaning::Unreferenced;
     }
-    return hasPicture && place == size;
-}
-
-bool UnreferencedPictures::areAllOfMarked(const uint8_t* data, qsizetype size) const
-{
-    bool hasPicture = false;
-    for (qsizetype place = behindStartCode(data, 0, size); place < size;
-         place = behindStartCode(data, place, size)) {
-        const Unit unit = unitAt(data + place, size - place);
-        if (unit == Unit::Needed)
-            return false;
-        hasPicture = hasPicture || unit == Unit::Unreferenced;
-    }
-    return hasPicture;
-}
-
-UnreferencedPictures::Unit UnreferencedPictures::unitAt(const uint8_t* data, qsizetype size) const
-{
-    if (m_codec == AV_CODEC_ID_H264) {
-        const int type = data[0] & 0x1f;
-        const bool isReferred = data[0] & 0x60;
-        if (type == h264::Slice)
-            return isReferred ? Unit::Needed : Unit::Unreferenced;
-        const bool isNeutral = type == h264::SupplementalInformation || type == h264::Delimiter ||
-                               type == h264::Filler;
-        return isNeutral ? Unit::Neutral : Unit::Needed;
-    }
-    if (size < 2)
-        return Unit::Needed;
-    const int type = (data[0] >> 1) & 0x3f;
-    // Slices of pictures that are referred to have odd types.
-    if (type <= hevc::LastOrdinarySlice)
-        return type % 2 ? Unit::Needed : Unit::Unreferenced;
-    const bool isNeutral = type == hevc::Delimiter || type == hevc::Filler ||
-                           type == hevc::PrefixInformation || type == hevc::SuffixInformation;
-    return isNeutral ? Unit::Neutral : Unit::Needed;
+    return hasPicture && cursor.isWhole();
 }
 
 } // namespace QtAV

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qtav/src/FFmpegHandles.h"
+#include "qtav/src/NalUnits.h"
 
 #include <QtGlobal>
 
@@ -9,9 +9,9 @@ namespace QtAV {
 /// Tells the packets of an H.264 or HEVC stream that hold nothing but a picture to which no other
 /// picture refers.
 ///
-/// FFmpeg leaves such pictures out when asked to, but hands their packets to its threads all the
-/// same, so that most of the threads have nothing to do. Who does not send them keeps all threads
-/// busy with what must be decoded.
+/// FFmpeg skips such pictures when asked to, but hands their packets to its threads all the same,
+/// so that most of the threads have nothing to do. Not sending them keeps all threads busy with
+/// what must be decoded.
 ///
 /// Packets that cannot be understood count as referred to, as do those of other codecs. In an HEVC
 /// stream with temporal sub-layers the answer holds for the picture's own layer only.
@@ -26,15 +26,7 @@ public:
     bool areAllOf(const uint8_t* data, qsizetype size) const;
 
 private:
-    /// What one unit of the stream means for the picture that it is part of.
-    enum class Unit { Neutral, Unreferenced, Needed };
-
-    Unit unitAt(const uint8_t* data, qsizetype size) const;
-    bool areAllOfPrefixed(const uint8_t* data, qsizetype size) const;
-    bool areAllOfMarked(const uint8_t* data, qsizetype size) const;
-
-    AVCodecID m_codec = AV_CODEC_ID_NONE;
-    int m_lengthBytes = 0; ///< of the length before each unit; 0 where start codes part them
+    NalUnits m_units;
 };
 
 } // namespace QtAV

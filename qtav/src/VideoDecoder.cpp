@@ -6,6 +6,7 @@
 #include "qtav/src/HevcLayers.h"
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/PictureConverter.h"
+#include "qtav/src/SequenceChange.h"
 #include "qtav/src/StreamParameters.h"
 #include "qtav/src/UnreferencedPictures.h"
 #include "qtav/src/VideoFramePrivate.h"
@@ -51,6 +52,7 @@ public:
     void startBehindKeyFrame(const AVPacket& packet);
     bool startAtKeyFrame(const Packet& packet);
     bool resumeAfterKeyFrame();
+    void drain(bool& failed);
     void receiveAll(bool& failed);
     void deliver(FramePtr frame);
     void restart();
@@ -71,6 +73,7 @@ public:
     bool draining = false;
     bool hasSubLayers = false;
     UnreferencedPictures unreferenced;
+    SequenceChange sequenceChange;
     qint64 lastTicks = AV_NOPTS_VALUE; ///< of the frame that came out last
     qint64 nextTicks = 0;              ///< for frames to which FFmpeg can give no time
 
@@ -118,6 +121,7 @@ bool VideoDecoder::open()
     d->hasSubLayers = parameters.codec_id == AV_CODEC_ID_HEVC &&
                       hevcHasSubLayers(parameters.extradata, parameters.extradata_size);
     d->unreferenced = UnreferencedPictures(parameters);
+    d->sequenceChange = SequenceChange(parameters);
     d->applySkipOptions();
     return true;
 }
@@ -191,6 +195,7 @@ void VideoDecoder::Private::restart()
     lastTicks = AV_NOPTS_VALUE;
     nextTicks = 0;
     frames.clear();
+    sequenceChange.reset();
     current = VideoFrame();
 }
 
@@ -286,6 +291,8 @@ bool VideoDecoder::Private::sendAndReceive(const AVPacket* packet)
         draining = false;
     }
     bool failed = false;
+    if (packet && sequenceChange.isAt(*packet))
+        drain(failed);
     if (packet || !draining) {
         const int result = avcodec_send_packet(context.get(), packet);
         failed = result < 0 && result != AVERROR_EOF;
@@ -293,6 +300,14 @@ bool VideoDecoder::Private::sendAndReceive(const AVPacket* packet)
     }
     receiveAll(failed);
     return !failed;
+}
+
+/// Makes what is held come out, and the decoder ready for a new beginning.
+void VideoDecoder::Private::drain(bool& failed)
+{
+    if (avcodec_send_packet(context.get(), nullptr) >= 0)
+        receiveAll(failed);
+    avcodec_flush_buffers(context.get());
 }
 
 void VideoDecoder::Private::receiveAll(bool& failed)

@@ -109,6 +109,13 @@ QString VideoFrame::format() const
     return QString::fromLatin1(av_get_pix_fmt_name(static_cast<AVPixelFormat>(d->frame->format)));
 }
 
+QImage::Format VideoFrame::imageFormat() const
+{
+    if (!d)
+        return QImage::Format_Invalid;
+    return PictureConverter::hasAlpha(*d->frame) ? QImage::Format_ARGB32 : QImage::Format_RGB888;
+}
+
 QImage VideoFrame::toImage(QImage::Format format, const QSize& size, const QRectF& region) const
 {
     if (!d)

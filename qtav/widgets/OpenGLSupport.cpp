@@ -1,8 +1,6 @@
 #include "qtav/widgets/OpenGLSupport.h"
 
-#include "qtav/include/QtAVWidgets/QtAVWidgets"
-
-#include <QFile>
+#include <QByteArray>
 #include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
@@ -33,36 +31,12 @@ OpenGLSupport tryOpenGL()
     return isSoftware(QByteArray(name)) ? OpenGLSupport::Software : OpenGLSupport::Hardware;
 }
 
-/// Qt's name for what makes contexts under X11, and its word for nothing.
-constexpr const char* Integration = "QT_XCB_GL_INTEGRATION";
-constexpr const char* NoIntegration = "none";
-
 } // namespace
-
-bool hasGraphicsDevice(const QString& folder)
-{
-    constexpr const char* Devices[] = {"dri", "nvidiactl", "dxg"};
-    return std::any_of(std::begin(Devices), std::end(Devices), [&folder](const char* name) {
-        return QFile::exists(folder + QLatin1Char('/') + QLatin1String(name));
-    });
-}
-
-namespace Widgets {
-
-void avoidImitatedOpenGL()
-{
-#ifdef Q_OS_LINUX
-    const bool isDecided = qEnvironmentVariableIsSet(Integration);
-    if (!isDecided && !hasGraphicsDevice(QStringLiteral("/dev")))
-        qputenv(Integration, NoIntegration);
-#endif
-}
-
-} // namespace Widgets
 
 OpenGLSupport openGLSupport()
 {
-    const bool isAvoided = qgetenv(Integration) == NoIntegration;
+    // With this the environment keeps Qt from using OpenGL under X11.
+    const bool isAvoided = qgetenv("QT_XCB_GL_INTEGRATION") == "none";
     if (isAvoided || !qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         return OpenGLSupport::None;
     static const OpenGLSupport support = tryOpenGL();

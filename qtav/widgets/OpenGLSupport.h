@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 namespace QtAV {
 
 /// What becomes of drawing with OpenGL.
@@ -10,9 +8,6 @@ enum class OpenGLSupport {
     Software, ///< it works, but the processor imitates it, slower than it draws by itself
     Hardware,
 };
-
-/// True when a folder of device files, as Linux has it, holds one of a graphics processor.
-[[nodiscard]] bool hasGraphicsDevice(const QString& folder);
 
 /// What there is here; found out at the first call, by making a context. None before there is a
 /// graphical application. User-interface thread only.

@@ -1,6 +1,6 @@
-#include "qtav/include/QtAVWidgets/QtAVWidgets"
-
 #include "qtav/widgets/OpenGLSupport.h"
+
+#include <QtAVWidgets>
 
 #include <QtAV/VideoFrame.h>
 

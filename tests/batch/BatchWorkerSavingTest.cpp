@@ -11,6 +11,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <algorithm>
+
 using testsupport::samplePath;
 using testsupport::TestDir;
 
@@ -65,6 +67,17 @@ int numberIn(const QString& path)
     return testsupport::frameNumber(QImage(path)).value_or(-1);
 }
 
+int brightestLevel(const QImage& image)
+{
+    int brightest = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            brightest = std::max(brightest, qGray(image.pixel(x, y)));
+        }
+    }
+    return brightest;
+}
+
 } // namespace
 
 class BatchWorkerSavingTest : public QObject
@@ -74,6 +87,8 @@ class BatchWorkerSavingTest : public QObject
 private Q_SLOTS:
     void images_showTheFramesAtTheirPositions();
     void images_areNamedByTheProfile();
+    void darkImages_stayOpaque_whenTheVideoHasNoAlpha();
+    void images_keepAlpha_whenTheVideoHasIt();
     void existingFiles_areSkipped_andKept();
     void singleShot_hasNoNumber();
     void singleShot_isNumbered_whenItsNameIsTaken();
@@ -113,6 +128,36 @@ void BatchWorkerSavingTest::images_areNamedByTheProfile()
     const QStringList expected{QStringLiteral("a h264_gop250_00001.png"),
                                QStringLiteral("a h264_gop250_00002.png")};
     QCOMPARE(filesIn(dir.path()), expected);
+}
+
+void BatchWorkerSavingTest::darkImages_stayOpaque_whenTheVideoHasNoAlpha()
+{
+    const TestDir dir;
+    Job job(dir.path());
+    job.config.setIntervalType(BatchWorkerConfig::SingleShot);
+    job.config.imageProfile()->setImageBrightness(-50);
+    job.config.filenameProfile()->setFileOutputType(QStringLiteral("png"));
+    job.worker.run();
+    const QImage image(dir.filePath(numbered("-.png")));
+    QVERIFY(!image.isNull());
+    QVERIFY(!image.hasAlphaChannel());
+    // The blocks of the number are white.
+    QCOMPARE(numberIn(dir.filePath(numbered("-.png"))), 210);
+    QCOMPARE(brightestLevel(image), 205);
+}
+
+void BatchWorkerSavingTest::images_keepAlpha_whenTheVideoHasIt()
+{
+    const TestDir dir;
+    Job job(dir.path());
+    job.config.setSource(samplePath(QStringLiteral("prores_alpha.mov")));
+    job.config.setFileOutputPath(dir.path());
+    job.config.setIntervalType(BatchWorkerConfig::SingleShot);
+    job.config.filenameProfile()->setFileOutputType(QStringLiteral("png"));
+    job.worker.run();
+    const QImage image(dir.filePath(QStringLiteral("prores_alpha-.png")));
+    QVERIFY(image.hasAlphaChannel());
+    QVERIFY(qAlpha(image.pixel(image.width() / 4, image.height() - 10)) < 16);
 }
 
 void BatchWorkerSavingTest::existingFiles_areSkipped_andKept()

@@ -1,5 +1,8 @@
 #include "imaging/FilePublisher.h"
 
+#include "tests/imaging/Publishing.h"
+#include "tests/support/ResourceLimits.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -8,74 +11,10 @@
 #include <csignal>
 #include <memory>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-namespace {
-
-constexpr int LargeSize = 4 * 1024 * 1024;
-constexpr uid_t Nobody = 65534;
-/// After so long a child ends itself, should the test that started it fail.
-constexpr unsigned ChildSeconds = 30;
-
-QByteArray read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
-bool put(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
-/// Runs the function in a process of its own, whose exit code is what the function returns.
-template <typename Function>
-pid_t startProcess(Function function)
-{
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::alarm(ChildSeconds);
-        ::_exit(function());
-    }
-    return child;
-}
-
-int exitCode(pid_t child)
-{
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-/// While it lives, no file of the process can grow beyond the size: what a full disk is like.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t size)
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        m_handler = ::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{size, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        ::signal(SIGXFSZ, m_handler);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    rlimit m_before{};
-    sighandler_t m_handler = SIG_DFL;
-};
-
-} // namespace
+using namespace publishing;
+using testsupport::FileSizeLimit;
 
 Q_DECLARE_METATYPE(ExistingFile)
 
@@ -90,22 +29,7 @@ private:
     {
         return m_folder->filePath(QLatin1String(name));
     }
-    /// The names of all files in the folder, hidden ones included.
-    [[nodiscard]] QStringList files() const
-    {
-        return QDir(m_folder->path())
-            .entryList(QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
-    }
-    /// What a process of a user without privileges, which root is not, gets to hear.
-    [[nodiscard]] static WriteResult publishedByNobody(const QString& path, ExistingFile existing)
-    {
-        const pid_t child = startProcess([&] {
-            if (::geteuid() == 0 && ::setuid(Nobody) != 0)
-                return -1;
-            return static_cast<int>(FilePublisher::publish(path, "new", existing));
-        });
-        return static_cast<WriteResult>(exitCode(child));
-    }
+    [[nodiscard]] QStringList files() const { return filesIn(m_folder->path()); }
     static void addBothWays()
     {
         QTest::addColumn<ExistingFile>("existing");
@@ -284,18 +208,18 @@ private slots:
     void publish_fails_whenTheFolderIsWriteProtected()
     {
         QFETCH(ExistingFile, existing);
-        QCOMPARE(::chmod(QFile::encodeName(m_folder->path()).constData(), 0555), 0);
+        QVERIFY(setMode(m_folder->path(), 0555));
         QCOMPARE(publishedByNobody(path("file"), existing), WriteResult::Failed);
-        QCOMPARE(::chmod(QFile::encodeName(m_folder->path()).constData(), 0777), 0);
+        QVERIFY(setMode(m_folder->path(), 0777));
         QCOMPARE(files(), QStringList());
         QCOMPARE(publishedByNobody(path("file"), existing), WriteResult::Written);
     }
 
     void publish_fails_whenTheFileIsWriteProtected()
     {
-        QCOMPARE(::chmod(QFile::encodeName(m_folder->path()).constData(), 0777), 0);
+        QVERIFY(setMode(m_folder->path(), 0777));
         QVERIFY(put(path("file"), "old"));
-        QCOMPARE(::chmod(QFile::encodeName(path("file")).constData(), 0444), 0);
+        QVERIFY(setMode(path("file"), 0444));
         QCOMPARE(publishedByNobody(path("file"), ExistingFile::Replace), WriteResult::Failed);
         QCOMPARE(read(path("file")), QByteArray("old"));
         QCOMPARE(files().size(), 1);

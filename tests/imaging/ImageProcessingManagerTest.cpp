@@ -307,6 +307,15 @@ private slots:
         QCOMPARE(QSize(result.cols, result.rows), QSize(1000, 562));
     }
 
+    void resize_fits_whenOnlyTheBoundsAreTooLargeForAnImage()
+    {
+        const cv::Mat mat(720, 1280, CV_8UC4, cv::Scalar(1, 2, 3, 4));
+        const cv::Mat result = manager().resizeImage(mat, 640, 999999, true, false);
+        QCOMPARE(QSize(result.cols, result.rows), QSize(640, 360));
+        // Cutting to these bounds would fill them.
+        QVERIFY(manager().resizeImage(mat, 640, 999999, false, false).data == mat.data);
+    }
+
     void resize_takesTheMiddle_whenTheRatioIsNotKept()
     {
         cv::Mat mat(1080, 1920, CV_8UC3, cv::Scalar::all(9));

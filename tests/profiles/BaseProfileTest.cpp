@@ -1,6 +1,6 @@
 #include "profiles/BaseProfile.h"
 
-#include "ProfileTestSupport.h"
+#include "tests/profiles/ProfileTestSupport.h"
 
 #include <QRegularExpression>
 #include <QSet>

@@ -1,7 +1,7 @@
 #include "profiles/FileNameProfile.h"
 
-#include "ProfileTestSupport.h"
 #include "profiles/ProfileManager.h"
+#include "tests/profiles/ProfileTestSupport.h"
 
 #include <QFileInfo>
 #include <QSettings>

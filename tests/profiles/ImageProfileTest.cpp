@@ -1,8 +1,8 @@
 #include "profiles/ImageProfile.h"
 
-#include "ProfileTestSupport.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
+#include "tests/profiles/ProfileTestSupport.h"
 
 #include <QFileInfo>
 #include <QSettings>

@@ -1,7 +1,7 @@
 #include "profiles/ProfileManager.h"
 
-#include "ProfileTestSupport.h"
 #include "profiles/ImageProfile.h"
+#include "tests/profiles/ProfileTestSupport.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "ProfileTestSupport.h"
+#include "tests/profiles/ProfileTestSupport.h"
 
 #include "profiles/ProfileManager.h"
 

@@ -1,7 +1,7 @@
 #include "profiles/WatermarkProfile.h"
 
-#include "ProfileTestSupport.h"
 #include "profiles/ProfileManager.h"
+#include "tests/profiles/ProfileTestSupport.h"
 
 #include <QDir>
 #include <QFile>

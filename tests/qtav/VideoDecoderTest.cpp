@@ -163,7 +163,9 @@ void VideoDecoderTest::target_isTheSamePicture_whenNonReferenceFramesBeforeItAre
 {
     QTest::addColumn<QString>("file");
     for (const Sample& sample : testsupport::allVideoSamples()) {
-        if (!sample.has(Trait::Large))
+        // A stream that refreshes bit by bit gives its first picture when FFmpeg takes it for
+        // whole, which can be later where pictures are skipped. FrameReader searches anew then.
+        if (!sample.has(Trait::Large) && !sample.has(Trait::IntraRefresh))
             QTest::newRow(qPrintable(sample.file)) << sample.file;
     }
 }

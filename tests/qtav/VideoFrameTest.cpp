@@ -114,6 +114,8 @@ private slots:
     void alpha_isKept_whereTheFormatHasIt_data();
     void alpha_isKept_whereTheFormatHasIt();
     void alpha_isOpaque_whereTheFormatHasNone();
+    void imageFormat_hasAlpha_onlyWhereThePictureHas_data();
+    void imageFormat_hasAlpha_onlyWhereThePictureHas();
     void region_isCutOut_inPixelsOfTheUprightPicture();
     void region_isClipped_whenItReachesOutside();
     void size_isThatAskedFor_withAndWithoutARegion();
@@ -135,6 +137,7 @@ void VideoFrameTest::invalidFrame_hasNothing()
     QCOMPARE(frame.height(), 0);
     QCOMPARE(frame.timestamp(), 0.0);
     QVERIFY(frame.format().isEmpty());
+    QCOMPARE(frame.imageFormat(), QImage::Format_Invalid);
     QVERIFY(frame.displaySize().isEmpty());
     QVERIFY(frame.toImage().isNull());
 }
@@ -235,6 +238,25 @@ void VideoFrameTest::alpha_isOpaque_whereTheFormatHasNone()
         for (int x = 0; x < image.width(); ++x)
             QCOMPARE(qAlpha(image.pixel(x, y)), 255);
     }
+}
+
+void VideoFrameTest::imageFormat_hasAlpha_onlyWhereThePictureHas_data()
+{
+    image_isUprightWithSquarePixels_forEverySample_data();
+}
+
+void VideoFrameTest::imageFormat_hasAlpha_onlyWhereThePictureHas()
+{
+    QFETCH(QString, file);
+    // The pictures of a GIF may be see-through, although those of the samples are not.
+    const bool hasAlpha =
+        testsupport::sampleNamed(file).has(Trait::Alpha) || file.endsWith(QLatin1String(".gif"));
+    Player player(testsupport::samplePath(file));
+    const QtAV::VideoFrame frame = nextFrameOf(player);
+    QCOMPARE(frame.imageFormat(), hasAlpha ? QImage::Format_ARGB32 : QImage::Format_RGB888);
+    const QImage image = frame.toImage(frame.imageFormat());
+    QCOMPARE(image.hasAlphaChannel(), hasAlpha);
+    QCOMPARE(image.convertToFormat(QImage::Format_ARGB32), frame.toImage());
 }
 
 void VideoFrameTest::region_isCutOut_inPixelsOfTheUprightPicture()

@@ -1,12 +1,9 @@
-#include "qtav/widgets/OpenGLSupport.h"
 #include "tests/qtav/Playing.h"
 #include "tests/support/FrameNumber.h"
 
 #include <QtAVWidgets>
 
 #include <QApplication>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
 
@@ -42,7 +39,6 @@ class VideoOutputTest : public QObject
 
 private slots:
     void widget_isMade_withAndWithoutOpenGL();
-    void graphicsDevice_isSeen_byItsFile();
     void widget_isBlack_withoutAFrame();
     void frame_isShown_asItsImage_inItsOwnSize();
     void frame_isLetterboxed_whenTheWidgetIsWiderOrHigher();
@@ -64,19 +60,6 @@ void VideoOutputTest::widget_isMade_withAndWithoutOpenGL()
     VideoOutput raster(VideoOutput::Drawing::Raster);
     QVERIFY(raster.widget());
     QCOMPARE(raster.widget()->metaObject()->className(), "QtAV::RasterWidget");
-}
-
-void VideoOutputTest::graphicsDevice_isSeen_byItsFile()
-{
-    for (const char* name : {"dri", "nvidiactl", "dxg"}) {
-        const QTemporaryDir devices;
-        QVERIFY(devices.isValid());
-        QVERIFY(!QtAV::hasGraphicsDevice(devices.path()));
-        QFile device(devices.filePath(QString::fromLatin1(name)));
-        QVERIFY(device.open(QIODevice::WriteOnly));
-        QVERIFY(QtAV::hasGraphicsDevice(devices.path()));
-    }
-    QVERIFY(!QtAV::hasGraphicsDevice(QStringLiteral("/no such folder")));
 }
 
 void VideoOutputTest::widget_isBlack_withoutAFrame()

@@ -60,7 +60,7 @@ const QList<Sample>& brokenSamples()
     return samples;
 }
 
-const Sample& sampleNamed(const QString& file)
+const Sample& sampleNamed(QStringView file)
 {
     for (const auto* list : {&allVideoSamples(), &noVideoSamples(), &brokenSamples()}) {
         const auto found = std::find_if(list->cbegin(), list->cend(),
@@ -68,7 +68,7 @@ const Sample& sampleNamed(const QString& file)
         if (found != list->cend())
             return *found;
     }
-    qFatal("No sample is named %s", qUtf8Printable(file));
+    qFatal("No sample is named %s", qUtf8Printable(file.toString()));
 }
 
 qint64 frameTimeMs(const Sample& sample, int n)

@@ -75,7 +75,7 @@ struct Sample
 [[nodiscard]] const QList<Sample>& brokenSamples();
 
 /// The sample of that name from any of the three lists; ends the test program when none is.
-[[nodiscard]] const Sample& sampleNamed(const QString& file);
+[[nodiscard]] const Sample& sampleNamed(QStringView file);
 
 /// The time of the n-th shown frame, counted from 0, in whole milliseconds rounded down.
 [[nodiscard]] qint64 frameTimeMs(const Sample& sample, int n);

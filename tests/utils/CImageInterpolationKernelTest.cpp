@@ -1,6 +1,6 @@
 #include "utils/CImageInterpolationKernel.h"
 
-#include "ChildProcess.h"
+#include "tests/utils/ChildProcess.h"
 
 #include <QtTest>
 

@@ -24,8 +24,10 @@ QImage extracted(FrameGrabber& grabber, qint64 ms)
 {
     QSignalSpy spy(&grabber, &FrameGrabber::frameExtracted);
     grabber.extractInternal(ms);
-    return spy.isEmpty() ? QImage()
-                         : spy.at(0).at(0).value<QtAV::VideoFrame>().toImage(QImage::Format_ARGB32);
+    if (spy.isEmpty())
+        return {};
+    const auto frame = spy.at(0).at(0).value<QtAV::VideoFrame>();
+    return frame.toImage(frame.imageFormat());
 }
 
 } // namespace

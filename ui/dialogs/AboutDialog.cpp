@@ -1,6 +1,6 @@
 #include "ui/dialogs/AboutDialog.h"
 
-#include "app/ProductInfo.h"
+#include "product/ProductInfo.h"
 #include "ui_AboutDialog.h"
 
 #include <QPixmap>

@@ -49,7 +49,8 @@ void pickColor(ColorLabel& label, QWidget* parent)
 WatermarkProfileDialog::WatermarkProfileDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::WatermarkProfileDialog>())
-    , m_exampleImage(QStringLiteral(":/Images/watermarkBackground.jpg"))
+    , m_exampleImage(QImage(QStringLiteral(":/Images/watermarkBackground.jpg"))
+                         .convertToFormat(QImage::Format_RGB888)) // opaque, as frames of videos are
 {
     m_ui->setupUi(this);
     GroupBoxMargins::apply(*this);

@@ -1,9 +1,9 @@
 #include "ui/mainwindow/MainWindow.h"
 
-#include "batch/dialogs/BatchModeDialog.h"
 #include "profiles/FileNameProfile.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "ui/batch/BatchModeDialog.h"
 #include "ui/dialogs/AboutDialog.h"
 #include "ui/dialogs/FileNameProfileDialog.h"
 #include "ui/dialogs/ImageFiltersDialog.h"

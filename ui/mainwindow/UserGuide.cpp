@@ -1,6 +1,6 @@
 #include "ui/mainwindow/UserGuide.h"
 
-#include "app/ProductInfo.h"
+#include "product/ProductInfo.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -3,6 +3,7 @@
 #include "ui/widgets/ColorLabel.h"
 #include "ui/widgets/FontLabel.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QColor>
 #include <QComboBox>
@@ -29,6 +30,22 @@ void showColor(ColorLabel& label, const QColor& color)
 {
     label.setColorValue(color);
     label.update();
+}
+
+/// Also unchecks the only checked button among its kind, which Qt does only for another of them.
+void check(QRadioButton& button, bool on)
+{
+    QButtonGroup* const group = button.group();
+    const bool isExclusive = group != nullptr ? group->exclusive() : button.autoExclusive();
+    const auto setExclusive = [group, &button](bool exclusive) {
+        if (group != nullptr)
+            group->setExclusive(exclusive);
+        else
+            button.setAutoExclusive(exclusive);
+    };
+    setExclusive(isExclusive && on);
+    button.setChecked(on);
+    setExclusive(isExclusive);
 }
 
 /// False for other widgets. Colour and font labels are labels as well, so they come first.
@@ -95,7 +112,7 @@ void Field::setValue(const QVariant& value)
     else if (auto* const spinBox = qobject_cast<QSpinBox*>(m_widget))
         spinBox->setValue(value.toInt());
     else if (auto* const button = qobject_cast<QRadioButton*>(m_widget))
-        button->setChecked(value.toInt() == m_choiceValue);
+        check(*button, value.isValid() && value.toInt() == m_choiceValue);
 }
 
 void Field::whenChanged(const QObject* context, const std::function<void()>& handler) const

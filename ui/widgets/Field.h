@@ -45,7 +45,8 @@ public:
 
     /// Shows the value in the widget, converted to what the widget takes. A combo box selects the
     /// item whose data is the value as text, in the same letter case, or else no item; a radio
-    /// button is checked if the value is its choice value, and unchecked otherwise. An invalid
+    /// button is checked if the value is its choice value, and unchecked otherwise, so that none of
+    /// several is checked for a value that none stands for. An invalid
     /// value shows as an empty text, 0, unchecked or no item. Texts are never taken for mark-up.
     /// Widgets of other kinds stay as they are.
     void setValue(const QVariant& value);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtAV/FrameResult.h>
 #include <QtAV/Packet.h>
 #include <QtAV/VideoCodecContext.h>
 
@@ -21,8 +22,9 @@ namespace QtAV {
 /// floating-point rounding.
 ///
 /// A read error is not the end: readFrame() then returns false while atEnd() is still false, and
-/// reading may go on behind the damage. A file that gives nothing but errors ends after a bounded
-/// number of them, with errorString() set.
+/// reading may go on behind the damage, unless canGoOn() is false. A file whose contents give
+/// nothing but errors, though its bytes can be read, ends after a bounded number of them, with
+/// errorString() set.
 ///
 /// Not thread-safe, but tied to no thread: one thread at a time may use it.
 class AVDemuxer : public QObject
@@ -45,9 +47,14 @@ public:
     /// Names the file for the next load(); what is loaded is unloaded when the name differs.
     void setMedia(const QString& fileName);
 
+    /// Asked while the file is opened, read and sought in, and while the disk does not answer. Once
+    /// it says true, load(), seek() and readFrame() return false as soon as they can. Empty, as at
+    /// first, for none.
+    void setInterrupt(IsCancelled isCancelled);
+
     /// Opens the file and selects its first video stream and no audio stream. False, with
     /// errorString() set, for what cannot be opened; a file without video opens.
-    bool load();
+    [[nodiscard]] bool load();
 
     /// Closes the file; the file name stays.
     void unload();
@@ -62,7 +69,8 @@ public:
     /// loaded.
     bool atEnd() const;
 
-    /// Length in milliseconds; 0 when nothing is loaded or nothing could be measured.
+    /// Length in milliseconds; 0 when nothing is loaded or nothing could be measured. It grows when
+    /// packets turn up behind it.
     qint64 duration() const;
     DurationSource durationSource() const;
 
@@ -81,7 +89,8 @@ public:
     int audioStream() const;
 
     /// Selects by place in videoStreams() or audioStreams(); -1 selects none. Only packets of
-    /// selected streams are read. False for a place that does not exist.
+    /// selected streams are read. False for a place that does not exist, and where the stream could
+    /// not be read through, see errorString().
     bool setStreamIndex(StreamType type, int index);
 
     /// The stream that the last packet belongs to; -1 before the first.
@@ -94,12 +103,15 @@ public:
     /// Goes to a position in milliseconds, so that the next packet of the video stream is the
     /// last key frame whose whole milliseconds lie at or before it: the stream's first key frame
     /// when none does, its last one for positions at and past the end. False when the file
-    /// allows no seeking at all or holds no packet.
-    bool seek(qint64 ms);
+    /// allows no seeking at all or holds no packet, cannot be read any more or was overwritten.
+    [[nodiscard]] bool seek(qint64 ms);
 
     /// Reads the next packet of the selected streams. False at the end and when reading failed;
     /// atEnd() tells them apart.
-    bool readFrame();
+    [[nodiscard]] bool readFrame();
+
+    /// False after reading failed for good, or was interrupted: only seek() helps, and load().
+    bool canGoOn() const;
 
     /// The packet that readFrame() read last.
     Packet packet() const;

@@ -49,7 +49,8 @@ public:
     void setThreads(int threads) { m_threads = threads; }
 
     /// Opens a file and stands at its start. False, with a text for people, when it cannot be
-    /// opened, has no video or none that can be decoded, or when opening was cancelled.
+    /// opened, has no video or none that can be decoded, or when opening was cancelled. A file
+    /// without video stays loaded in the demuxer.
     [[nodiscard]] bool open(const QString& path, const IsCancelled& isCancelled, QString& error);
     void close();
     [[nodiscard]] bool isOpen() const { return m_decoder != nullptr; }
@@ -76,7 +77,8 @@ public:
     /// The first frame of the video that is reached; where none is, the video's last frame. End
     /// where no frame comes out at all.
     ///
-    /// find() starts at the key frame before the position, findOn() where the reader stands. Both
+    /// find() starts at the key frame before the position, findOn() with last(), which must not be
+    /// behind the frame. Both
     /// start again further back until no frame can be missing before the one that they give: some
     /// streams give no whole picture at what the container calls a key frame.
     [[nodiscard]] FrameResult find(const Search& search, const IsCancelled& isCancelled);
@@ -96,8 +98,14 @@ public:
     /// No frame comes before last().
     bool isAtFirstOfVideo() const { return m_isAtFirst; }
 
+    /// last() is the very picture of the packet where the last seek landed.
+    bool isAtLanding() const { return m_isAtLanding; }
+
     /// How many packets were passed over since seek() because they were marked as damaged.
     int invalidPackets() const { return m_invalidPackets; }
+
+    /// Why the last seek, land() or next() failed, for people.
+    QString errorString() const { return m_demuxer.errorString(); }
 
     /// The time of the packet where the last seek landed, and whether that shows a key frame;
     /// nothing until it has landed.
@@ -123,14 +131,18 @@ private:
     [[nodiscard]] FrameResult findFrom(Search search, const IsCancelled& isCancelled);
     [[nodiscard]] FrameResult lastOfVideo(const Search& search, const IsCancelled& isCancelled);
     [[nodiscard]] bool isCertain() const;
+    [[nodiscard]] FrameAnswer lost(const IsCancelled& isCancelled);
+    QString failureText() const;
     [[nodiscard]] FrameAnswer readPacket(Packet& packet, const IsCancelled& isCancelled);
     void chooseSkipping(const Packet& packet);
-    FrameResult arriveAt(const VideoFrame& frame);
+    FrameResult arriveAt(const VideoFrame& frame, bool isLanding);
 
     AVDemuxer m_demuxer;
     std::unique_ptr<VideoDecoder> m_decoder;
     int m_threads = 0;
     std::optional<qint64> m_target; ///< of a seek that has not landed yet, in milliseconds
+    qint64 m_origin = 0;            ///< what was sought last, in milliseconds
+    bool m_resumes = false;         ///< m_target is to get back to where reading was interrupted
     Packet m_first;                 ///< read by land(), not decoded yet
     qint64 m_completeFrom = 0;
     double m_skippedUpTo = -1.0; ///< frames up to this time may be missing
@@ -144,6 +156,7 @@ private:
     VideoFrame m_lastFrame;
     std::optional<double> m_predecessor;
     bool m_isAtFirst = false;
+    bool m_isAtLanding = false;
 };
 
 } // namespace QtAV

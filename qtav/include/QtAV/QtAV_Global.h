@@ -21,10 +21,4 @@ void setLogLevel(LogLevel level);
 /// The level that setLogLevel() set last.
 LogLevel logLevel();
 
-/// Lets the whole process give large blocks of memory back to the system as soon as they are freed.
-/// Otherwise the C library keeps those of decoded pictures, for each decoding thread apart, which
-/// after some videos takes as much as another decoder. For the start of a program that plays; does
-/// nothing where the C library cannot be told.
-void returnFreedMemory();
-
 } // namespace QtAV

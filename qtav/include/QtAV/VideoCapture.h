@@ -25,7 +25,7 @@ public Q_SLOTS:
     void capture();
 
 Q_SIGNALS:
-    /// The picture as it is meant to be seen, in Format_ARGB32 and its full size.
+    /// The picture as it is meant to be seen, in its full size and in VideoFrame::imageFormat().
     void imageCaptured(const QImage& image);
     /// There is no picture on screen, or no memory for it.
     void failed();

@@ -47,6 +47,11 @@ public:
     /// The pixel format's name, such as "yuv420p"; empty when not valid.
     QString format() const;
 
+    /// The format of an image that keeps the whole picture: Format_ARGB32 where the pixel format
+    /// has alpha, else Format_RGB888. An opaque picture should be passed on in that, since whatever
+    /// works on alpha like on colours would make it see-through. Format_Invalid when not valid.
+    QImage::Format imageFormat() const;
+
     /// The picture as it is meant to be seen: upright, with square pixels, in full-range sRGB
     /// values, converted by the frame's own matrix and range, with its alpha where it has one.
     ///

@@ -1,4 +1,4 @@
-#include "NameDialog.h"
+#include "tests/ui/dialogs/NameDialog.h"
 
 #include <QFile>
 

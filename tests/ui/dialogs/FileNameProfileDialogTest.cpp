@@ -1,6 +1,6 @@
 #include "ui/dialogs/FileNameProfileDialog.h"
 
-#include "NameDialog.h"
+#include "tests/ui/dialogs/NameDialog.h"
 
 #include <QGroupBox>
 #include <QLayout>

@@ -185,7 +185,9 @@ void WatermarkProfileDialogPreviewTest::samplePicture_isShown_untilThereIsAFrame
     const TestProfiles profiles;
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(nullptr);
-    const QImage sample(textOf(":/Images/watermarkBackground.jpg"));
+    // Opaque, also when it is darkened.
+    const QImage sample =
+        QImage(textOf(":/Images/watermarkBackground.jpg")).convertToFormat(QImage::Format_RGB888);
     QVERIFY(!sample.isNull());
     ImageProfile defaults(nullptr);
     auto* const pipeline = ImageProcessingManager::instance();

@@ -1,4 +1,3 @@
-#include "batch/dialogs/BatchModeDialog.h"
 #include "profiles/FileNameProfile.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
@@ -6,6 +5,7 @@
 #include "tests/ui/dialogs/support/DialogDriving.h"
 #include "tests/ui/dialogs/support/ModalScript.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
+#include "ui/batch/BatchModeDialog.h"
 #include "ui/dialogs/AboutDialog.h"
 #include "ui/dialogs/FileNameProfileDialog.h"
 #include "ui/dialogs/ImageFiltersDialog.h"

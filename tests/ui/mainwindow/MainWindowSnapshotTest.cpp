@@ -32,6 +32,8 @@ private Q_SLOTS:
     void capture_withoutAPicture_saysSo();
     void copy_doesNothing_withoutASnapshot();
     void imageProfileUpdate_showsAtOnce();
+    void darkSnapshot_staysOpaque_whenTheVideoHasNoAlpha();
+    void snapshot_keepsAlpha_whenTheVideoHasIt();
 
     void profiles_areListed_theLastUsedOneIsCurrent();
     void chosenImageProfile_appliesFromTheNextSnapshotOn();
@@ -147,6 +149,35 @@ void MainWindowSnapshotTest::imageProfileUpdate_showsAtOnce()
     QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 100);
     window->processFullFrameImage(nullptr);
     QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 640);
+}
+
+void MainWindowSnapshotTest::darkSnapshot_staysOpaque_whenTheVideoHasNoAlpha()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QVERIFY(window.takeSnapshot());
+    QVERIFY(!clipboardAfter(window, "actionCopy_Full_Frame").hasAlphaChannel());
+    ImageProfile dark;
+    dark.setImageBrightness(-50);
+    window->processFullFrameImage(&dark);
+    const QString path = window.dir().filePath(QStringLiteral("dark.png"));
+    QVERIFY(window->saveSnapshot(path));
+    const QImage saved(path);
+    QVERIFY(!saved.hasAlphaChannel());
+    QVERIFY(frameNumber(saved).has_value());
+    QCOMPARE(saved.convertToFormat(QImage::Format_RGB32),
+             clipboardAfter(window, "actionCopy_Snapshot").convertToFormat(QImage::Format_RGB32));
+}
+
+void MainWindowSnapshotTest::snapshot_keepsAlpha_whenTheVideoHasIt()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(QStringLiteral("prores_alpha.mov"))));
+    QVERIFY(window.takeSnapshot());
+    const QImage full = clipboardAfter(window, "actionCopy_Full_Frame");
+    QVERIFY(qAlpha(full.pixel(full.width() / 4, full.height() - 10)) < 16);
+    const QImage snapshot = clipboardAfter(window, "actionCopy_Snapshot");
+    QVERIFY(qAlpha(snapshot.pixel(snapshot.width() / 4, snapshot.height() - 10)) < 16);
 }
 
 void MainWindowSnapshotTest::profiles_areListed_theLastUsedOneIsCurrent()

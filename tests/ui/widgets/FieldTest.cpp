@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QRadioButton>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTest>
@@ -92,7 +91,6 @@ private Q_SLOTS:
     void value_ofCheckBox_isTrue_onlyWhenFullyChecked();
     void value_ofSlider_isItsNumber();
     void value_ofSpinBox_isItsNumber();
-    void value_ofRadioButton_isItsChoice_whenChecked();
     void value_isInvalid_forOtherWidgets();
 
     void setValue_ofColorLabel_showsColour_andRepaints();
@@ -107,12 +105,10 @@ private Q_SLOTS:
     void setValue_ofCheckBox_checksOrUnchecks();
     void setValue_ofSlider_showsNumber_inItsRange();
     void setValue_ofSpinBox_showsNumber_inItsRange();
-    void setValue_ofRadioButton_checksIt_exactlyForItsChoice();
     void setValue_showsNothing_whenInvalid();
     void setValue_leavesOtherWidgets();
 
     void whenChanged_reportsEdits_ofEveryKind();
-    void whenChanged_reportsRadioButtons_onlyWhenClicked();
     void whenChanged_reportsNoLabels();
     void whenChanged_reportsNothing_onceContextIsGone();
     void whenChanged_reportsNothing_whenValueStays();
@@ -230,14 +226,6 @@ void FieldTest::value_ofSpinBox_isItsNumber()
     box->setValue(42);
     QCOMPARE(box.field().value(), QVariant(42));
     QCOMPARE(box.field().value().userType(), int(QMetaType::Int));
-}
-
-void FieldTest::value_ofRadioButton_isItsChoice_whenChecked()
-{
-    Bound<QRadioButton> button(5);
-    QCOMPARE(button.field().value(), QVariant(-1));
-    button->setChecked(true);
-    QCOMPARE(button.field().value(), QVariant(5));
 }
 
 void FieldTest::value_isInvalid_forOtherWidgets()
@@ -393,21 +381,6 @@ void FieldTest::setValue_ofSpinBox_showsNumber_inItsRange()
     QCOMPARE(box->value(), -100);
 }
 
-void FieldTest::setValue_ofRadioButton_checksIt_exactlyForItsChoice()
-{
-    QWidget form;
-    QRadioButton zero(&form);
-    QRadioButton one(&form);
-    Field zeroField("type", &zero, 0, nullptr);
-    Field oneField("type", &one, 1, nullptr);
-    for (const int type : {1, 0, 1}) {
-        zeroField.setValue(type);
-        oneField.setValue(type);
-        QCOMPARE(zero.isChecked(), type == 0);
-        QCOMPARE(one.isChecked(), type == 1);
-    }
-}
-
 void FieldTest::setValue_showsNothing_whenInvalid()
 {
     Bound<QLineEdit> line;
@@ -494,16 +467,6 @@ void FieldTest::whenChanged_reportsEdits_ofEveryKind()
     QTest::keyClick(&spin.widget(), Qt::Key_Up);
     spin->setValue(50);
     QCOMPARE(spinChanges.count(), 2);
-}
-
-void FieldTest::whenChanged_reportsRadioButtons_onlyWhenClicked()
-{
-    Bound<QRadioButton> button(0);
-    const ChangeCounter changes(button.field());
-    button->setChecked(true);
-    QCOMPARE(changes.count(), 0);
-    button->click();
-    QCOMPARE(changes.count(), 1);
 }
 
 void FieldTest::whenChanged_reportsNoLabels()

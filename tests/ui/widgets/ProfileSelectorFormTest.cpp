@@ -1,5 +1,5 @@
-#include "NameForm.h"
 #include "profiles/WatermarkProfile.h"
+#include "tests/ui/widgets/NameForm.h"
 #include "ui/widgets/ColorLabel.h"
 
 #include <QRadioButton>

@@ -1,6 +1,6 @@
 #include "ui/widgets/ProfileSelector.h"
 
-#include "NameForm.h"
+#include "tests/ui/widgets/NameForm.h"
 
 using testsupport::abc;
 using testsupport::itemTexts;

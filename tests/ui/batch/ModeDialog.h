@@ -2,8 +2,8 @@
 
 #include "batch/BatchModeListModel.h"
 #include "batch/BatchWorkerConfig.h"
-#include "batch/dialogs/BatchModeDialog.h"
 #include "tests/ui/support/TestSettings.h"
+#include "ui/batch/BatchModeDialog.h"
 
 #include <QLabel>
 #include <QList>

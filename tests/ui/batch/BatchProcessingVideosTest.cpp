@@ -1,10 +1,10 @@
 #include "batch/BatchThread.h"
-#include "tests/batch/dialogs/RunningBatch.h"
 #include "tests/support/ColourSamples.h"
 #include "tests/support/FrameNumber.h"
 #include "tests/support/RunProgram.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
+#include "tests/ui/batch/RunningBatch.h"
 #include "video/FrameGrabber.h"
 
 #include <QDir>

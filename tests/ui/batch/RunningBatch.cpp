@@ -1,4 +1,4 @@
-#include "tests/batch/dialogs/RunningBatch.h"
+#include "tests/ui/batch/RunningBatch.h"
 
 #include "batch/BatchThread.h"
 

@@ -1,4 +1,4 @@
-#include "batch/dialogs/BatchProcessingDialog.h"
+#include "ui/batch/BatchProcessingDialog.h"
 
 #include "batch/BatchThread.h"
 #include "batch/BatchWorkerConfig.h"

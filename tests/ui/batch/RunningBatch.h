@@ -1,7 +1,7 @@
 #pragma once
 
 #include "batch/BatchWorkerConfig.h"
-#include "batch/dialogs/BatchProcessingDialog.h"
+#include "ui/batch/BatchProcessingDialog.h"
 
 #include <QProgressBar>
 #include <QPushButton>

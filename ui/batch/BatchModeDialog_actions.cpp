@@ -1,11 +1,11 @@
 // What batch mode opens: videos, folders, profiles and batches.
 
-#include "batch/dialogs/BatchModeDialog.h"
+#include "ui/batch/BatchModeDialog.h"
 
 #include "batch/BatchModeListModel.h"
 #include "batch/BatchWorkerConfig.h"
-#include "batch/dialogs/BatchProcessingDialog.h"
 #include "profiles/ProfileManager.h"
+#include "ui/batch/BatchProcessingDialog.h"
 #include "ui/dialogs/FileNameProfileDialog.h"
 #include "ui/dialogs/ImageProfileDialog.h"
 #include "ui/widgets/SmartFileDialog.h"

@@ -1,9 +1,9 @@
-#include "batch/dialogs/BatchModeDialog.h"
+#include "ui/batch/BatchModeDialog.h"
 
 #include "batch/BatchModeListModel.h"
 #include "batch/BatchWorkerConfig.h"
-#include "batch/dialogs/MergedField.h"
 #include "profiles/ProfileManager.h"
+#include "ui/batch/MergedField.h"
 #include "ui/widgets/EqualWidths.h"
 #include "ui/widgets/Field.h"
 #include "ui/widgets/GroupBoxMargins.h"

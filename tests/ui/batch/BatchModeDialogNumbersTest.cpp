@@ -1,6 +1,6 @@
-#include "batch/dialogs/BatchModeDialog.h"
+#include "ui/batch/BatchModeDialog.h"
 
-#include "tests/batch/dialogs/ModeDialog.h"
+#include "tests/ui/batch/ModeDialog.h"
 
 #include <QLineEdit>
 #include <QTest>

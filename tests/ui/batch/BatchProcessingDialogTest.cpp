@@ -1,9 +1,9 @@
-#include "batch/dialogs/BatchProcessingDialog.h"
+#include "ui/batch/BatchProcessingDialog.h"
 
 #include "batch/BatchThread.h"
-#include "tests/batch/dialogs/RunningBatch.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
+#include "tests/ui/batch/RunningBatch.h"
 #include "tests/ui/support/NextBox.h"
 #include "tests/ui/support/Painting.h"
 #include "ui/widgets/ImageView.h"

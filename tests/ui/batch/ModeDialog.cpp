@@ -1,4 +1,4 @@
-#include "tests/batch/dialogs/ModeDialog.h"
+#include "tests/ui/batch/ModeDialog.h"
 
 #include "profiles/ProfileManager.h"
 

@@ -1,4 +1,4 @@
-#include "batch/dialogs/MergedField.h"
+#include "ui/batch/MergedField.h"
 
 #include "ui/widgets/Field.h"
 
@@ -20,14 +20,6 @@ QString multiple()
 QString nothingChosen()
 {
     return QStringLiteral("-");
-}
-
-/// Also unchecks the last one that is checked, which its group would not allow.
-void uncheck(QRadioButton& radioButton)
-{
-    radioButton.setAutoExclusive(false);
-    radioButton.setChecked(false);
-    radioButton.setAutoExclusive(true);
 }
 
 } // namespace
@@ -66,11 +58,8 @@ void MergedField::show(Field& field, const Value& value)
         checkBox->setCheckState(value.isMultiple       ? Qt::PartiallyChecked
                                 : value.value.toBool() ? Qt::Checked
                                                        : Qt::Unchecked);
-    } else if (auto* const radioButton = qobject_cast<QRadioButton*>(widget)) {
-        uncheck(*radioButton);
-        if (value.value.isValid()) {
-            field.setValue(value.value);
-        }
+    } else if (qobject_cast<QRadioButton*>(widget) != nullptr) {
+        field.setValue(value.value);
     }
 }
 

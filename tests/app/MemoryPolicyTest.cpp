@@ -1,4 +1,4 @@
-#include <QtAV/QtAV_Global.h>
+#include "app/MemoryPolicy.h"
 
 #include <QTest>
 
@@ -22,7 +22,7 @@ void takeAndFree(size_t bytes)
 
 } // namespace
 
-class FreedMemoryTest : public QObject
+class MemoryPolicyTest : public QObject
 {
     Q_OBJECT
 
@@ -30,10 +30,10 @@ private slots:
     void largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBefore();
 };
 
-void FreedMemoryTest::largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBefore()
+void MemoryPolicyTest::largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBefore()
 {
     constexpr size_t Large = size_t(4) << 20;
-    QtAV::returnFreedMemory();
+    MemoryPolicy::returnFreedMemory();
     takeAndFree(4 * Large);
     const size_t before = bytesOnTheirOwn();
     void* volatile block = std::malloc(Large);
@@ -43,5 +43,5 @@ void FreedMemoryTest::largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBef
     QCOMPARE(bytesOnTheirOwn(), before);
 }
 
-QTEST_GUILESS_MAIN(FreedMemoryTest)
-#include "FreedMemoryTest.moc"
+QTEST_GUILESS_MAIN(MemoryPolicyTest)
+#include "MemoryPolicyTest.moc"

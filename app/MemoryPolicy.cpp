@@ -1,0 +1,16 @@
+#include "app/MemoryPolicy.h"
+
+#include <cstdlib> // says whether the C library is GNU's
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+void MemoryPolicy::returnFreedMemory()
+{
+#ifdef __GLIBC__
+    // The library would raise this by itself whenever a large block is freed.
+    constexpr int largeBytes = 1 << 20;
+    mallopt(M_MMAP_THRESHOLD, largeBytes);
+#endif
+}
