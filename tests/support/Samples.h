@@ -83,7 +83,8 @@ struct Sample
 /// The size at which the n-th shown frame is seen: that of the sample, unless its size changes.
 [[nodiscard]] QSize displaySizeOf(const Sample& sample, int n);
 
-/// The shown frames, counted from 0 and rising, whose packets the container marks as key packets.
+/// The shown frames, counted from 0 and rising, whose packets the container marks as key packets;
+/// where its marks are missing or wrong, those that the decoder calls key frames.
 [[nodiscard]] QList<int> keyFrames(const Sample& sample);
 
 } // namespace testsupport
