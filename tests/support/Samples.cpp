@@ -82,6 +82,13 @@ qint64 frameTimeMs(const Sample& sample, int n)
     return floorDiv(seconds.num * 1000, seconds.den);
 }
 
+QSize displaySizeOf(const Sample& sample, int n)
+{
+    constexpr int firstSmallFrame = 50;
+    const bool isSmall = sample.has(Trait::SizeChange) && n >= firstSmallFrame;
+    return isSmall ? QSize(176, 144) : sample.displaySize;
+}
+
 QList<int> keyFrames(const Sample& sample)
 {
     QFile list(samplePath(QStringLiteral(".keyframes/") + sample.file));

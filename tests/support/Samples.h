@@ -36,7 +36,7 @@ enum class Trait : quint32 {
     Unopenable = 1u << 16,         ///< no video file at all
     Sideways = 1u << 17,           ///< turned by a quarter: width and height change places
     WrongDuration = 1u << 18,      ///< the container states half of its length, or twice
-    SizeChange = 1u << 19,         ///< from frame 50 on the pictures are smaller
+    SizeChange = 1u << 19,         ///< from frame 50 on the pictures are 176x144
     UntimedPackets = 1u << 20,     ///< most packets state no time, and guesses from the others err
 };
 Q_DECLARE_FLAGS(Traits, Trait)
@@ -80,7 +80,11 @@ struct Sample
 /// The time of the n-th shown frame, counted from 0, in whole milliseconds rounded down.
 [[nodiscard]] qint64 frameTimeMs(const Sample& sample, int n);
 
-/// The shown frames, counted from 0 and rising, whose packets the container marks as key packets.
+/// The size at which the n-th shown frame is seen: that of the sample, unless its size changes.
+[[nodiscard]] QSize displaySizeOf(const Sample& sample, int n);
+
+/// The shown frames, counted from 0 and rising, whose packets the container marks as key packets;
+/// where its marks are missing or wrong, those that the decoder calls key frames.
 [[nodiscard]] QList<int> keyFrames(const Sample& sample);
 
 } // namespace testsupport

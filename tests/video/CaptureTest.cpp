@@ -66,7 +66,7 @@ void CaptureTest::capture_isWhatIsExtracted_forEachFormat()
         const qint64 ms = testsupport::frameTimeMs(sample, n);
         const QImage image = captured(stage);
         return stage.number() == sample.firstNumber + n && stage.player.displayPosition() == ms &&
-               !image.isNull() && image.size() == sample.displaySize &&
+               !image.isNull() && image.size() == testsupport::displaySizeOf(sample, n) &&
                image == extracted(grabber, ms);
     };
     QVERIFY(isTheFrame(0));
