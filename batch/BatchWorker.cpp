@@ -42,10 +42,8 @@ BatchWorker::BatchWorker(QObject* parent)
     , m_frameGrabber(new FrameGrabber(this))
 {
     registerMetaTypes();
-    connect(
-        m_frameGrabber, &FrameGrabber::frameExtracted, this, [this] { ++m_waitingFrames; },
-        Qt::DirectConnection);
-    connect(m_frameGrabber, &FrameGrabber::frameExtracted, this, &BatchWorker::frameExtracted);
+    connect(m_frameGrabber, &FrameGrabber::frameExtracted, this, &BatchWorker::passOn,
+            Qt::DirectConnection);
     connect(m_frameGrabber, &FrameGrabber::error, this, &BatchWorker::extractorError);
 }
 
@@ -158,24 +156,43 @@ void BatchWorker::tickProgress()
     qDebug("Steps taken: %lld stepCount: %lld", m_stepsTaken, m_stepCount);
 }
 
-void BatchWorker::frameExtracted(QtAV::VideoFrame frame)
+/// Hands a frame over to the worker's own thread, with the position that it was requested for.
+void BatchWorker::passOn(const QtAV::VideoFrame& frame)
+{
+    ++m_waitingFrames;
+    QMetaObject::invokeMethod(this, "frameExtracted", Q_ARG(QtAV::VideoFrame, frame),
+                              Q_ARG(qint64, m_frameGrabber->getPosition()));
+}
+
+void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
 {
     --m_waitingFrames;
     if (isInterruptionRequested()) {
         return;
     }
     if (!frame.isValid()) {
-        extractorError(tr("no picture found"));
+        extractorError(tr("no picture found at position %1").arg(position));
         return;
     }
     const QString path = firstFreePath();
     announceSaving(path);
-    const QImage image = frame.toImage(frame.imageFormat());
-    QImage processed =
-        ImageProcessingManager::instance()->processImage(image, m_config->imageProfile(), nullptr);
-    if (saveImage(path, processed)) {
-        Q_EMIT imageReady(this, processed);
+    QString error;
+    QImage image = ImageProcessingManager::instance()->processImage(
+        frame.toImage(frame.imageFormat()), m_config->imageProfile(), nullptr, &error);
+    if (image.isNull()) {
+        reportUnmadeImage(path, position, error);
+    } else if (saveImage(path, image)) {
+        Q_EMIT imageReady(this, image);
     }
+}
+
+/// Also on the debug stream, for those who run jobs without listening.
+void BatchWorker::reportUnmadeImage(const QString& path, qint64 position, const QString& reason)
+{
+    const QString message =
+        tr("Could not make %1 from position %2: %3").arg(path, QString::number(position), reason);
+    qWarning().noquote() << m_config->source() + QStringLiteral(": ") + message;
+    Q_EMIT statusUpdate(this, message, Error);
 }
 
 void BatchWorker::extractorError(QString message)

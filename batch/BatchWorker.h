@@ -64,7 +64,7 @@ Q_SIGNALS:
     void progressUpdate(BatchWorker* worker, float progress);
 
 private Q_SLOTS:
-    void frameExtracted(QtAV::VideoFrame frame);
+    void frameExtracted(QtAV::VideoFrame frame, qint64 position);
     void extractorError(QString message);
 
 private:
@@ -73,11 +73,13 @@ private:
     bool takeFrame(qint64 position);
     void tickProgress();
     void waitForImages() const;
+    void passOn(const QtAV::VideoFrame& frame);
 
     QString firstFreePath();
     QString nextFreePath();
     void announceSaving(const QString& path);
     bool saveImage(QString path, const QImage& image);
+    void reportUnmadeImage(const QString& path, qint64 position, const QString& reason);
 
     /// Frames whose images are still to be made. Counted up in the thread of run(), down in the
     /// worker's own.

@@ -19,7 +19,8 @@ constexpr int DefaultQuality = -1;
 /// @param quality  0 (small file) to 100 (true picture), or DefaultQuality; above 100 counts as
 ///     100. What it means is up to the format.
 /// @return Failed for a null image, for a name whose suffix stands for no format that can be
-///     written (capitals do not matter), and where the file cannot be written.
+///     written (capitals do not matter), where memory for the encoded picture runs out, and where
+///     the file cannot be written.
 ///
 /// The format is the suffix's; the last one's where the name has several dots.
 [[nodiscard]] WriteResult write(const QString& fileName, const QImage& image, int quality,

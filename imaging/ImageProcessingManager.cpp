@@ -15,8 +15,10 @@
 
 #include <opencv2/imgproc.hpp>
 
+#include <exception>
 #include <limits>
 #include <memory>
+#include <new>
 
 namespace {
 
@@ -89,6 +91,13 @@ bool isImageSize(cv::Size size, size_t bytesPerPixel)
            limit / bytesPerPixel / static_cast<size_t>(size.height);
 }
 
+bool isLackOfMemory(const std::exception& exception)
+{
+    const auto* const failure = dynamic_cast<const cv::Exception*>(&exception);
+    return failure != nullptr ? failure->code == cv::Error::StsNoMem
+                              : dynamic_cast<const std::bad_alloc*>(&exception) != nullptr;
+}
+
 WatermarkProfile* ownWatermark(const ImageProfile& profile)
 {
     return qobject_cast<WatermarkProfile*>(
@@ -113,7 +122,25 @@ ImageProcessingManager* ImageProcessingManager::instance()
 }
 
 QImage ImageProcessingManager::processImage(QImage image, ImageProfile* profile,
-                                            WatermarkProfile* watermark)
+                                            WatermarkProfile* watermark, QString* error)
+{
+    QImage result;
+    // What Qt has no memory for is a null image; OpenCV and the containers throw.
+    QString reason = image.isNull() ? tr("There is no picture, perhaps for a lack of memory")
+                                    : tr("Not enough memory");
+    try {
+        result = process(image, profile, watermark);
+    } catch (const std::exception& exception) {
+        if (!isLackOfMemory(exception))
+            reason = QString::fromUtf8(exception.what()).trimmed();
+    }
+    if (error != nullptr)
+        *error = result.isNull() ? reason : QString();
+    return result;
+}
+
+QImage ImageProcessingManager::process(const QImage& image, ImageProfile* profile,
+                                       WatermarkProfile* watermark)
 {
     const bool keepsSize = profile->sameSizeAsVideo();
     const int width = keepsSize ? image.width() : profile->imageWidth();

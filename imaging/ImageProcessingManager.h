@@ -35,16 +35,17 @@ public:
     /// Contrast c multiplies every sample by 1 + c / 200 where it is negative, by 1 + c / 40 where
     /// it is not; the brightness is added after that. Alpha is a sample like the others. Images of
     /// three channels give Format_RGB888, of four Format_ARGB32, of one Format_Indexed8 (greys).
-    /// A null image gives a null image; nothing else fails.
+    /// A null image gives a null image, and so does a failure of OpenCV, most of all for a lack of
+    /// memory: no exception leaves this function.
     ///
-    /// @param image      of an opaque picture, one without alpha, such as Format_RGB888
-    /// (Format_RGB32
-    ///     counts as one with alpha): else lowering the contrast or the brightness would make the
-    ///     picture see-through.
+    /// @param image      an opaque picture comes without alpha, in a format of three channels: else
+    ///     a lower contrast or brightness would make it see-through. (Format_RGB32 has four.)
     /// @param profile    not null.
     /// @param watermark  the watermark to draw; null draws the profile's own, if it has one.
+    /// @param error      unless null, receives why the result is null, for the user; else an empty
+    ///     text.
     [[nodiscard]] QImage processImage(QImage image, ImageProfile* profile,
-                                      WatermarkProfile* watermark);
+                                      WatermarkProfile* watermark, QString* error = nullptr);
 
     /// The picture in a matrix resized to `width` by `height` pixels. A caller includes
     /// <opencv2/core/mat.hpp> by itself, so that all others do without OpenCV.
@@ -53,7 +54,7 @@ public:
     /// it fills them, and what of the source is too wide or too high is cut off on both sides. See
     /// ResizePlan for the rounding. A matrix that has the size already comes back as it is, sharing
     /// its samples; so do an empty matrix, and any matrix where a side is 0 or less or the result
-    /// would take 2 GiB or more.
+    /// would take 2 GiB or more. Throws cv::Exception where there is no memory for the result.
     ///
     /// @param cropBlackEdges  without effect: black edges are part of the picture.
     [[nodiscard]] cv::Mat resizeImage(cv::Mat mat, int width, int height, bool maintainAspectRatio,
@@ -82,4 +83,7 @@ public:
 
 private:
     ImageProcessingManager() = default;
+
+    [[nodiscard]] QImage process(const QImage& image, ImageProfile* profile,
+                                 WatermarkProfile* watermark);
 };

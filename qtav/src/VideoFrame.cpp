@@ -5,6 +5,7 @@
 #include "qtav/src/VideoFramePrivate.h"
 
 #include <cmath>
+#include <new>
 #include <utility>
 
 namespace QtAV {
@@ -25,6 +26,28 @@ AVRational sampleAspectRatioOf(const AVFrame& frame, const StreamParameters& par
     const AVRational stated = parameters.sampleAspectRatio.num > 0 ? parameters.sampleAspectRatio
                                                                    : frame.sample_aspect_ratio;
     return stated.num > 0 && stated.den > 0 ? stated : AVRational{1, 1};
+}
+
+void dropAlpha(const QRgb* __restrict source, uchar* __restrict target, ptrdiff_t count)
+{
+    for (ptrdiff_t i = 0; i < count; ++i) {
+        target[3 * i] = static_cast<uchar>(source[i] >> 16);
+        target[3 * i + 1] = static_cast<uchar>(source[i] >> 8);
+        target[3 * i + 2] = static_cast<uchar>(source[i]);
+    }
+}
+
+/// A Format_ARGB32 image in Format_RGB888; null when memory runs out.
+///
+/// Qt's own conversion divides the work between threads, and waits for ever where there is no
+/// memory to start one.
+QImage withoutAlpha(const QImage& image)
+{
+    QImage result(image.size(), QImage::Format_RGB888);
+    for (int y = 0; y < result.height(); ++y)
+        dropAlpha(reinterpret_cast<const QRgb*>(image.constScanLine(y)), result.scanLine(y),
+                  result.width());
+    return result;
 }
 
 /// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
@@ -143,7 +166,7 @@ QImage::Format VideoFrame::imageFormat() const
 }
 
 QImage VideoFrame::toImage(QImage::Format format, const QSize& size, const QRectF& region) const
-{
+try {
     if (!d)
         return {};
     const QSize whole = displaySize();
@@ -165,7 +188,11 @@ QImage VideoFrame::toImage(QImage::Format format, const QSize& size, const QRect
     // Without transparent parts these formats are the same in memory.
     if (isOpaqueYuv && wanted == QImage::Format_ARGB32_Premultiplied)
         image.reinterpretAsFormat(wanted);
+    if (image.format() == QImage::Format_ARGB32 && wanted == QImage::Format_RGB888)
+        return withoutAlpha(image);
     return image.format() == wanted ? image : std::move(image).convertToFormat(wanted);
+} catch (const std::bad_alloc&) {
+    return {};
 }
 
 } // namespace QtAV

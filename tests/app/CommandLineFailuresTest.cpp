@@ -1,4 +1,5 @@
 #include "tests/app/CommandLine.h"
+#include "tests/support/ResourceLimits.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
 
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void brokenFile_endsInTime_withCompleteImages_data();
     void brokenFile_endsInTime_withCompleteImages();
     void unwritableDestination_givesNothing();
+    void imageBeyondTheMemory_isAnError_withFileAndPosition();
     void vanishedDestination_endsWell();
     void twoRunsAtOnce_loseAndReplaceNothing();
     void killedRun_leavesNoHalfImage();
@@ -262,6 +264,33 @@ void CommandLineFailuresTest::unwritableDestination_givesNothing()
         commandline::run({samplePath(longSample), QStringLiteral("/proc")});
     QVERIFY(result.succeeded());
     QCOMPARE(result.standardOutput, QByteArray());
+}
+
+void CommandLineFailuresTest::imageBeyondTheMemory_isAnError_withFileAndPosition()
+{
+    if (!testsupport::MemoryLimit::isPossible()) {
+        QSKIP("Memory cannot be limited here.");
+    }
+    const TestDir destination;
+    const QString video = samplePath(longSample);
+    // A gibibyte, for images of nearly two.
+    const ProgramResult result = testsupport::runProgram(
+        QStringLiteral("/bin/sh"),
+        {QStringLiteral("-c"), QStringLiteral("ulimit -d 1048576; exec \"$@\""),
+         QStringLiteral("sh"), commandline::program(), video, destination.path(),
+         QStringLiteral("--width"), QStringLiteral("25000"), QStringLiteral("--height"),
+         QStringLiteral("25000"), QStringLiteral("--ms"), QStringLiteral("10000")},
+        60000, commandline::environment());
+    QVERIFY(result.succeeded());
+    QVERIFY(imagesIn(destination.path()).isEmpty());
+    for (const int number : {1, 2}) {
+        const QString image = QStringLiteral("h264_gop250-0000%1.jpeg").arg(number);
+        const QString line = QStringLiteral("%1: Could not make %2 from position %3: Not enough "
+                                            "memory\n")
+                                 .arg(video, destination.filePath(image))
+                                 .arg(10000 * number - 8000);
+        QVERIFY2(result.standardError.contains(line.toUtf8()), result.standardError.constData());
+    }
 }
 
 void CommandLineFailuresTest::vanishedDestination_endsWell()

@@ -3,6 +3,7 @@
 #include "batch/BatchWorkerConfig.h"
 #include "tests/batch/WorkerEvents.h"
 #include "tests/support/FrameNumber.h"
+#include "tests/support/ResourceLimits.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
 #include "video/FrameGrabber.h"
@@ -13,12 +14,16 @@
 
 #include <algorithm>
 
+using testsupport::MemoryLimit;
 using testsupport::samplePath;
 using testsupport::TestDir;
 
 namespace {
 
 const QString base = QStringLiteral("h264_gop250");
+
+/// Enough for decoding, and not for an image of 25000 by 25000 pixels.
+constexpr rlim_t roomBytes = 512 * 1024 * 1024;
 
 struct Job
 {
@@ -85,6 +90,8 @@ class BatchWorkerSavingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
+
     void images_showTheFramesAtTheirPositions();
     void images_areNamedByTheProfile();
     void darkImages_stayOpaque_whenTheVideoHasNoAlpha();
@@ -96,8 +103,15 @@ private Q_SLOTS:
     void singleShotName_takenAtTheSameMoment_isSkipped();
     void failedSave_isAnError_andTheJobGoesOn_data();
     void failedSave_isAnError_andTheJobGoesOn();
+    void imageBeyondTheMemory_isAnError_andTheJobGoesOn();
+    void frameBeyondTheMemory_isAnError_andNoFile();
     void missingPicture_isAnError_andNoFile();
 };
+
+void BatchWorkerSavingTest::initTestCase()
+{
+    MemoryLimit::prepare();
+}
 
 /// A key frame every ten seconds, 25 frames a second.
 void BatchWorkerSavingTest::images_showTheFramesAtTheirPositions()
@@ -283,13 +297,72 @@ void BatchWorkerSavingTest::failedSave_isAnError_andTheJobGoesOn()
     QCOMPARE(filesIn(files.path()), QStringList{QStringLiteral("file")});
 }
 
+void BatchWorkerSavingTest::imageBeyondTheMemory_isAnError_andTheJobGoesOn()
+{
+    if (!MemoryLimit::isPossible()) {
+        QSKIP("Memory cannot be limited here.");
+    }
+    const TestDir dir;
+    Job job(dir.path());
+    job.config.setIntervalMilliseconds(10000);
+    ImageProfile& profile = *job.config.imageProfile();
+    profile.setImageWidth(25000);
+    profile.setImageHeight(25000);
+    connect(&job.worker, &BatchWorker::statusUpdate, &job.worker,
+            [&profile](BatchWorker*, const QString&, BatchWorker::BatchStatusMessageType type) {
+                if (type == BatchWorker::Error) {
+                    profile.setImageWidth(320);
+                    profile.setImageHeight(240);
+                }
+            });
+    {
+        const MemoryLimit limit(roomBytes);
+        job.worker.run();
+    }
+    QCOMPARE(job.events.of(QStringLiteral("error")),
+             QStringList{QStringLiteral("Could not make %1 from position 2000: Not enough memory")
+                             .arg(dir.filePath(numbered("-00001.jpeg")))});
+    QCOMPARE(filesIn(dir.path()), QStringList{numbered("-00002.jpeg")});
+    QCOMPARE(numberIn(dir.filePath(numbered("-00002.jpeg"))), 300);
+    QCOMPARE(job.events.all.last(), QStringLiteral("progress 1.0000"));
+}
+
+void BatchWorkerSavingTest::frameBeyondTheMemory_isAnError_andNoFile()
+{
+    if (!MemoryLimit::isPossible()) {
+        QSKIP("Memory cannot be limited here.");
+    }
+    const TestDir dir;
+    Job job(dir.path());
+    QtAV::VideoFrame frame;
+    FrameGrabber grabber;
+    connect(&grabber, &FrameGrabber::frameExtracted, this,
+            [&frame](const QtAV::VideoFrame& extracted) { frame = extracted; });
+    grabber.setSource(samplePath(QStringLiteral("h264_2160p.mp4")));
+    grabber.extractInternal(0);
+    QVERIFY(frame.isValid());
+    job.grabber()->setPosition(1500);
+    {
+        const MemoryLimit limit(1024 * 1024);
+        Q_EMIT job.grabber()->frameExtracted(frame);
+    }
+    QCOMPARE(
+        job.events.of(QStringLiteral("error")),
+        QStringList{QStringLiteral("Could not make %1 from position 1500: There is no picture, "
+                                   "perhaps for a lack of memory")
+                        .arg(dir.filePath(numbered("-00000.jpeg")))});
+    QVERIFY(filesIn(dir.path()).isEmpty());
+}
+
 void BatchWorkerSavingTest::missingPicture_isAnError_andNoFile()
 {
     const TestDir dir;
     Job job(dir.path());
+    job.grabber()->setPosition(2000);
     Q_EMIT job.grabber()->frameExtracted(QtAV::VideoFrame());
     QCOMPARE(job.events.all,
-             QStringList{QStringLiteral("error Frame extraction error no picture found")});
+             QStringList{
+                 QStringLiteral("error Frame extraction error no picture found at position 2000")});
     QVERIFY(filesIn(dir.path()).isEmpty());
 }
 

@@ -1,12 +1,18 @@
 #include "imaging/ImageFileWriter.h"
 
+#include "tests/support/ResourceLimits.h"
+
 #include <QDir>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
+
+using testsupport::MemoryLimit;
 
 namespace {
 
@@ -16,6 +22,18 @@ QImage picture()
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x)
             image.setPixel(x, y, qRgb(6 * x, 8 * y, (x * y) % 256));
+    }
+    return image;
+}
+
+/// A picture that no format makes much smaller.
+QImage noise(QSize size)
+{
+    QRandomGenerator generator(7);
+    QImage image(size, QImage::Format_RGB888);
+    for (int y = 0; y < size.height(); ++y) {
+        uchar* const line = image.scanLine(y);
+        std::generate(line, line + 3 * size.width(), [&] { return uchar(generator.generate()); });
     }
     return image;
 }
@@ -41,6 +59,7 @@ private:
     }
 
 private slots:
+    void initTestCase() { MemoryLimit::prepare(); }
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void cleanup() { m_folder->setAutoRemove(!QTest::currentTestFailed()); }
 
@@ -126,6 +145,41 @@ private slots:
                      WriteResult::Failed);
         }
         QCOMPARE(files(), QStringList());
+    }
+
+    void write_writesAllOrNothing_howeverLittleMemoryThereIs_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* const name : {"a.jpg", "a.png", "a.bmp", "a.tiff"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void write_writesAllOrNothing_howeverLittleMemoryThereIs()
+    {
+        if (!MemoryLimit::isPossible())
+            QSKIP("Memory cannot be limited here.");
+        QFETCH(QString, name);
+        const QString path = m_folder->filePath(name);
+        const auto write = [&path](const QImage& image) {
+            return ImageFileWriter::write(path, image, 100, ExistingFile::Replace);
+        };
+        const QImage image = noise(QSize(2000, 1500));
+        // The plugin of the format takes its own memory now.
+        QCOMPARE(write(image), WriteResult::Written);
+        const QByteArray whole = read(path);
+        int failures = 0;
+        for (rlim_t mebibytes = 1; mebibytes < 128; mebibytes += mebibytes / 4 + 1) {
+            QFile::remove(path);
+            WriteResult result = WriteResult::Written;
+            {
+                const MemoryLimit limit(mebibytes * 1024 * 1024);
+                result = write(image);
+            }
+            failures += result == WriteResult::Failed ? 1 : 0;
+            QCOMPARE(files().size(), result == WriteResult::Failed ? 0 : 1);
+            QVERIFY(result == WriteResult::Failed || read(path) == whole);
+        }
+        QVERIFY(failures > 0);
+        QCOMPARE(files(), QStringList{name});
     }
 
     void write_passesOnWhatToDoWithAnExistingFile()

@@ -5,6 +5,7 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
+#include "tests/support/ResourceLimits.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -18,6 +19,8 @@
 #include <opencv2/imgproc.hpp>
 
 #include <memory>
+
+using testsupport::MemoryLimit;
 
 namespace {
 
@@ -99,7 +102,11 @@ private:
     }
 
 private slots:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        MemoryLimit::prepare();
+    }
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void cleanup() { m_folder->setAutoRemove(!QTest::currentTestFailed()); }
 
@@ -229,6 +236,75 @@ private slots:
             profile.setImageContrast(contrast);
             QVERIFY(manager().processImage(QImage(), &profile, nullptr).isNull());
         }
+    }
+
+    void process_saysWhyThereIsNoImage()
+    {
+        ImageProfile profile(nullptr);
+        QString error;
+        static_cast<void>(manager().processImage(QImage(), &profile, nullptr, &error));
+        QCOMPARE(error, QStringLiteral("There is no picture, perhaps for a lack of memory"));
+        static_cast<void>(manager().processImage(filledImage(0), &profile, nullptr, &error));
+        QCOMPARE(error, QString());
+    }
+
+    void process_failsWithoutException_whenMemoryRunsOut_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<int>("brightness");
+        QTest::addColumn<QImage::Format>("format");
+        QTest::newRow("absurd size") << QSize(25000, 25000) << 0 << QImage::Format_RGB888;
+        QTest::newRow("brighter") << QSize(4000, 3000) << 10 << QImage::Format_RGB888;
+        QTest::newRow("copied") << QSize(4000, 3000) << 0 << QImage::Format_RGB888;
+        QTest::newRow("converted") << QSize(4000, 3000) << 0 << QImage::Format_RGBA8888;
+    }
+    void process_failsWithoutException_whenMemoryRunsOut()
+    {
+        if (!MemoryLimit::isPossible())
+            QSKIP("Memory cannot be limited here.");
+        QFETCH(QSize, size);
+        QFETCH(int, brightness);
+        QFETCH(QImage::Format, format);
+        ImageProfile profile(nullptr);
+        setSize(profile, size);
+        profile.setImageBrightness(brightness);
+        QImage image(4000, 3000, format);
+        image.fill(Qt::darkGreen);
+        QString error;
+        QImage result = image;
+        {
+            const MemoryLimit limit(16 * 1024 * 1024);
+            result = manager().processImage(image, &profile, nullptr, &error);
+        }
+        QVERIFY(result.isNull());
+        QCOMPARE(error, QStringLiteral("Not enough memory"));
+    }
+
+    void process_givesTheImageOrNone_howeverLittleMemoryThereIs()
+    {
+        if (!MemoryLimit::isPossible())
+            QSKIP("Memory cannot be limited here.");
+        ImageProfile profile(nullptr);
+        setSize(profile, QSize(2400, 1800));
+        profile.setImageContrast(3);
+        QImage image(1600, 1200, QImage::Format_RGB888);
+        image.fill(Qt::darkGreen);
+        WatermarkProfile mark(nullptr);
+        mark.setText(QStringLiteral("Hello"));
+        const QImage expected = manager().processImage(image, &profile, &mark);
+        int failures = 0;
+        for (rlim_t mebibytes = 1; mebibytes < 64; mebibytes += 2) {
+            QString error;
+            QImage result;
+            {
+                const MemoryLimit limit(mebibytes * 1024 * 1024);
+                result = manager().processImage(image, &profile, &mark, &error);
+            }
+            QCOMPARE(result.isNull(), !error.isEmpty());
+            QVERIFY(result.isNull() || result == expected);
+            failures += result.isNull() ? 1 : 0;
+        }
+        QVERIFY(failures > 0 && failures < 32);
     }
 
     void process_cropsNoBlackEdges()

@@ -1,6 +1,7 @@
 #include "tests/qtav/Decoding.h"
 #include "tests/support/ColourSamples.h"
 #include "tests/support/FrameNumber.h"
+#include "tests/support/ResourceLimits.h"
 
 #include <QTest>
 #include <QThreadPool>
@@ -106,9 +107,11 @@ class VideoFrameTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void scaledDown_keepsTimeSizeAndPicture_data();
     void scaledDown_keepsTimeSizeAndPicture();
     void scaledDown_isTheFrameItself_whereItCannotBeSmaller();
+
     void invalidFrame_hasNothing();
     void image_isUprightWithSquarePixels_forEverySample_data();
     void image_isUprightWithSquarePixels_forEverySample();
@@ -127,10 +130,17 @@ private slots:
     void smallestImage_isNearThePicturesMeanColour();
     void format_isThatAskedFor_data();
     void format_isThatAskedFor();
+    void image_isNull_whenMemoryRunsOut_data();
+    void image_isNull_whenMemoryRunsOut();
     void copies_showTheSamePicture_afterTheDecoderHasGone();
     void image_keepsItsPixels_whenOthersAreMade();
     void image_isTheSame_fromSeveralThreadsAtOnce();
 };
+
+void VideoFrameTest::initTestCase()
+{
+    testsupport::MemoryLimit::prepare();
+}
 
 void VideoFrameTest::invalidFrame_hasNothing()
 {
@@ -350,6 +360,35 @@ void VideoFrameTest::format_isThatAskedFor()
     const QImage image = frame.toImage(format);
     QCOMPARE(image.format(), expected);
     QCOMPARE(image, frame.toImage().convertToFormat(expected));
+}
+
+void VideoFrameTest::image_isNull_whenMemoryRunsOut_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QImage::Format>("format");
+    QTest::addColumn<QSize>("size");
+    const QString opaque = QStringLiteral("h264_2160p.mp4");
+    const QString turned = QStringLiteral("turned_90.mp4");
+    QTest::newRow("converted") << opaque << QImage::Format_ARGB32 << QSize();
+    QTest::newRow("without alpha") << opaque << QImage::Format_RGB888 << QSize();
+    QTest::newRow("enlarged") << turned << QImage::Format_ARGB32 << QSize(20000, 20000);
+    QTest::newRow("absurdly wide") << turned << QImage::Format_ARGB32 << QSize(100000000, 1);
+}
+
+void VideoFrameTest::image_isNull_whenMemoryRunsOut()
+{
+    if (!testsupport::MemoryLimit::isPossible())
+        QSKIP("Memory cannot be limited here.");
+    QFETCH(QString, file);
+    QFETCH(QImage::Format, format);
+    QFETCH(QSize, size);
+    const QtAV::VideoFrame frame = firstFrameOf(file);
+    QVERIFY(frame.isValid());
+    {
+        const testsupport::MemoryLimit limit(16 * 1024 * 1024);
+        QVERIFY(frame.toImage(format, size).isNull());
+    }
+    QVERIFY(!frame.toImage(format).isNull());
 }
 
 void VideoFrameTest::copies_showTheSamePicture_afterTheDecoderHasGone()

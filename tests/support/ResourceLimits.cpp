@@ -2,18 +2,23 @@
 
 #include <QFile>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <unistd.h>
 
 namespace testsupport {
 
 namespace {
 
-/// The address space that the process takes, in bytes.
+/// The bytes that the process can write to and shares with no other one. (Not all of its address
+/// space: the C library reserves much of that beforehand.)
 rlim_t takenMemory()
 {
+    constexpr int dataField = 5;
     QFile file(QStringLiteral("/proc/self/statm"));
     const bool isOpen = file.open(QIODevice::ReadOnly);
-    const rlim_t pages = isOpen ? file.readLine().split(' ').value(0).toULongLong() : 0;
+    const rlim_t pages = isOpen ? file.readLine().split(' ').value(dataField).toULongLong() : 0;
     if (pages == 0) {
         qFatal("It is not known how much memory the process takes");
     }
@@ -38,14 +43,14 @@ FileSizeLimit::~FileSizeLimit()
 
 MemoryLimit::MemoryLimit(rlim_t moreBytes)
 {
-    ::getrlimit(RLIMIT_AS, &m_before);
+    ::getrlimit(RLIMIT_DATA, &m_before);
     const rlimit limit{takenMemory() + moreBytes, m_before.rlim_max};
-    ::setrlimit(RLIMIT_AS, &limit);
+    ::setrlimit(RLIMIT_DATA, &limit);
 }
 
 MemoryLimit::~MemoryLimit()
 {
-    ::setrlimit(RLIMIT_AS, &m_before);
+    ::setrlimit(RLIMIT_DATA, &m_before);
 }
 
 bool MemoryLimit::isPossible()
@@ -54,6 +59,13 @@ bool MemoryLimit::isPossible()
     return true;
 #else
     return false;
+#endif
+}
+
+void MemoryLimit::prepare()
+{
+#ifdef __GLIBC__
+    mallopt(M_MMAP_THRESHOLD, 1 << 20);
 #endif
 }
 

@@ -23,7 +23,8 @@ private:
 
 /// While it lives, the process gets only so much memory beside what it has.
 ///
-/// Leave some room for the small things that the code under test and the test itself need.
+/// Leave some room for the small things that the code under test and the test itself need. Large
+/// blocks freed before might still be found, so call prepare() when the test program starts.
 class MemoryLimit
 {
 public:
@@ -35,6 +36,9 @@ public:
     /// False where a case has to be skipped: sanitizers end the program that gets no memory, and
     /// what a process has is known on Linux only.
     [[nodiscard]] static bool isPossible();
+
+    /// Makes the process give large blocks of memory back to the system as soon as they are freed.
+    static void prepare();
 
 private:
     rlimit m_before{};

@@ -120,7 +120,8 @@ public Q_SLOTS:
     void snapshotButtonPressed();
     void snapshotCaptured(const QImage& image);
     void onCaptureError();
-    /// Makes the snapshot anew from the full frame; with the selected profile when given null.
+    /// Makes the snapshot anew from the full frame; with the selected profile when given null. Says
+    /// in the status bar when that fails, and there is no snapshot then.
     void processFullFrameImage(ImageProfile* profile);
     /// Shows the snapshot as the profile makes it; nothing happens while there is none.
     void imageProfileUpdated(ImageProfile* profile) override;
@@ -171,6 +172,8 @@ private:
     void showOpenButton(const QString& text);
 
     void capture();
+    [[nodiscard]] QString makeSnapshot(ImageProfile* profile);
+    void warnOfCapture(const QString& reason);
     void resetSnapshot();
     [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
     [[nodiscard]] WriteResult saveNewSnapshot(const QString& path);
@@ -184,6 +187,8 @@ private:
     QImage m_snapshotImage;
     /// As captured.
     QImage m_fullFrameImage;
+    /// The file and the time of the last capture, for messages.
+    QString m_capturedPlace;
     QString m_currentVideoPath;
     QtAV::AVPlayer* m_player = nullptr;
     /// Goes before the window when the application ends.

@@ -65,6 +65,9 @@ void MainWindow::on_actionTake_Snapshot_triggered()
 void MainWindow::capture()
 {
     m_captures.ask();
+    m_capturedPlace = isVideoLoaded()
+                          ? tr("%1 at %2").arg(currentVideoFileName(), m_ui->positionLabel->text())
+                          : QString();
     m_player->videoCapture()->capture();
 }
 
@@ -74,23 +77,52 @@ void MainWindow::snapshotCaptured(const QImage& image)
         return;
     }
     m_fullFrameImage = image.copy();
-    processFullFrameImage(nullptr);
+    const QString error = makeSnapshot(nullptr);
+    // Without a snapshot as well: the profile may be to blame, and is edited there.
     setSnapshotControlsEnabled(true);
+    if (!error.isEmpty()) {
+        warnOfCapture(error);
+    }
 }
 
 void MainWindow::onCaptureError()
 {
     if (m_captures.answer()) {
-        QMessageBox::warning(nullptr, QStringLiteral("Morvantile video capture"),
-                             tr("Failed to capture video frame"), QMessageBox::Ok);
+        warnOfCapture(QString());
     }
+}
+
+/// Says what could not be captured and, where that is known, why not.
+void MainWindow::warnOfCapture(const QString& reason)
+{
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Morvantile video capture"),
+                    tr("Failed to capture video frame"), QMessageBox::Ok);
+    QStringList details{m_capturedPlace.toHtmlEscaped(), reason.toHtmlEscaped()};
+    details.removeAll(QString());
+    if (!details.isEmpty()) {
+        // Said to be mark-up, or the box would guess from the file's name whether it is.
+        box.setInformativeText(
+            QStringLiteral("<qt>%1</qt>").arg(details.join(QStringLiteral("<br>"))));
+    }
+    box.exec();
 }
 
 void MainWindow::processFullFrameImage(ImageProfile* profile)
 {
+    const QString error = makeSnapshot(profile);
+    if (!error.isEmpty() && !m_fullFrameImage.isNull()) {
+        statusBar()->showMessage(tr("No image of %1: %2").arg(m_capturedPlace, error), messageMs);
+    }
+}
+
+/// Makes the snapshot from the full frame, and shows it. Gives the reason where there is none.
+QString MainWindow::makeSnapshot(ImageProfile* profile)
+{
+    QString error;
     m_snapshotImage = ImageProcessingManager::instance()->processImage(
-        m_fullFrameImage, profile == nullptr ? m_imageProfile : profile, nullptr);
+        m_fullFrameImage, profile == nullptr ? m_imageProfile : profile, nullptr, &error);
     m_ui->snapshotImageView->setImage(m_snapshotImage);
+    return error;
 }
 
 void MainWindow::imageProfileUpdated(ImageProfile* profile)

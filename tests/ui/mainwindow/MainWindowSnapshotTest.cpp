@@ -4,6 +4,7 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "tests/support/FrameNumber.h"
+#include "tests/support/ResourceLimits.h"
 #include "tests/support/Samples.h"
 
 #include <QtAV/AVPlayer.h>
@@ -15,6 +16,7 @@
 #include <QFile>
 #include <QFrame>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 
 using namespace testsupport;
@@ -30,6 +32,8 @@ private Q_SLOTS:
     void snapshot_staysAtTheFrame_whenTheVideoGoesOn();
     void snapshot_isNotTaken_whenTheVideoIsClosedBeforeTheAnswer();
     void capture_withoutAPicture_saysSo();
+    void captureBeyondTheMemory_saysSo_withFileAndTime();
+    void previewBeyondTheMemory_saysSo_andTheNextOneIsShown();
     void copy_doesNothing_withoutASnapshot();
     void imageProfileUpdate_showsAtOnce();
     void darkSnapshot_staysOpaque_whenTheVideoHasNoAlpha();
@@ -46,6 +50,9 @@ private:
 namespace {
 
 const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
+
+/// Enough for the window, and not for an image of 25000 by 25000 pixels.
+constexpr rlim_t roomBytes = 512 * 1024 * 1024;
 
 QImage clipboardAfter(OpenWindow& window, const char* action)
 {
@@ -127,6 +134,59 @@ void MainWindowSnapshotTest::capture_withoutAPicture_saysSo()
     QCOMPARE(box.text, QStringLiteral("Failed to capture video frame"));
     QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
     QVERIFY(box.parent == nullptr);
+    QCOMPARE(box.informativeText, QString());
+}
+
+void MainWindowSnapshotTest::captureBeyondTheMemory_saysSo_withFileAndTime()
+{
+    if (!MemoryLimit::isPossible()) {
+        QSKIP("Memory cannot be limited here.");
+    }
+    OpenWindow window;
+    QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("a<b>.mp4"))));
+    window.player().setPosition(1000);
+    QTRY_COMPARE(window.player().displayPosition(), 1000);
+    auto& profile = *static_cast<ImageProfile*>(ImageProfile::profileManager()->lastUsedProfile());
+    const QSize size(profile.imageWidth(), profile.imageHeight());
+    profile.setImageWidth(25000);
+    profile.setImageHeight(25000);
+    SeenBox box;
+    answerNextBox(QMessageBox::Ok, box);
+    {
+        const MemoryLimit limit(roomBytes);
+        window->snapshotButtonPressed();
+        QTRY_VERIFY(!box.title.isEmpty());
+    }
+    profile.setImageWidth(size.width());
+    profile.setImageHeight(size.height());
+    QCOMPARE(box.text, QStringLiteral("Failed to capture video frame"));
+    QCOMPARE(box.informativeText,
+             QStringLiteral("<qt>a&lt;b&gt;.mp4 at 00:00:01.000<br>Not enough memory</qt>"));
+    QVERIFY(clipboardAfter(window, "actionCopy_Snapshot").isNull());
+    QCOMPARE(frameNumber(clipboardAfter(window, "actionCopy_Full_Frame")), std::optional<int>(25));
+}
+
+void MainWindowSnapshotTest::previewBeyondTheMemory_saysSo_andTheNextOneIsShown()
+{
+    if (!MemoryLimit::isPossible()) {
+        QSKIP("Memory cannot be limited here.");
+    }
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QVERIFY(window.takeSnapshot());
+    ImageProfile edited;
+    edited.setImageWidth(25000);
+    edited.setImageHeight(25000);
+    {
+        const MemoryLimit limit(roomBytes);
+        window->imageProfileUpdated(&edited);
+    }
+    QVERIFY(window->statusBar()->currentMessage().startsWith(
+        QStringLiteral("No image of %1 at 00:00:0").arg(clip)));
+    QVERIFY(window->statusBar()->currentMessage().endsWith(QStringLiteral(": Not enough memory")));
+    edited.setImageWidth(100);
+    window->imageProfileUpdated(&edited);
+    QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 100);
 }
 
 void MainWindowSnapshotTest::copy_doesNothing_withoutASnapshot()

@@ -17,8 +17,12 @@ void answerNextBox(QMessageBox::StandardButton button, SeenBox& seen)
         }
         timer->deleteLater();
         timer->stop();
-        seen = {box->windowTitle(), box->text(), box->standardButtons(),
-                box->standardButton(box->defaultButton()), box->parentWidget()};
+        seen = {box->windowTitle(),
+                box->text(),
+                box->informativeText(),
+                box->standardButtons(),
+                box->standardButton(box->defaultButton()),
+                box->parentWidget()};
         box->button(button)->click();
     });
     timer->start(10);

@@ -10,6 +10,7 @@ struct SeenBox
 {
     QString title;
     QString text;
+    QString informativeText;
     QMessageBox::StandardButtons buttons;
     /// The button that the return key presses.
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
