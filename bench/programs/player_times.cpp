@@ -56,6 +56,8 @@ public:
         : m_output(drawing)
     {
         m_output.widget()->installEventFilter(this);
+        connect(&m_output, &VideoRenderer::screenSizeChanged, this,
+                &VideoRenderer::screenSizeChanged);
         m_output.widget()->resize(size);
         m_output.widget()->show();
     }
@@ -66,10 +68,13 @@ public:
         m_output.present(frame);
     }
 
+    QSize screenSize() const override { return m_output.screenSize(); }
+
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         // The filter comes before the painting: what is queued here comes after it.
-        if (event->type() == QEvent::Paint && std::exchange(m_awaitsPaint, false))
+        const bool isPaint = event->type() == QEvent::Paint && m_output.isUpToDate();
+        if (isPaint && std::exchange(m_awaitsPaint, false))
             QMetaObject::invokeMethod(this, &Screen::painted, Qt::QueuedConnection);
         return VideoRenderer::eventFilter(watched, event);
     }

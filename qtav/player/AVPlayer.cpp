@@ -86,11 +86,17 @@ void AVPlayer::setRenderer(VideoRenderer* renderer)
 {
     if (d->renderer == renderer)
         return;
-    if (d->renderer)
+    if (d->renderer) {
+        disconnect(d->renderer, &VideoRenderer::screenSizeChanged, this, nullptr);
         d->renderer->present(VideoFrame());
+    }
     d->renderer = renderer;
-    if (d->renderer)
-        d->renderer->present(d->frame);
+    if (!d->renderer)
+        return;
+    connect(renderer, &VideoRenderer::screenSizeChanged, this,
+            [this, renderer] { d->engine.setScreen(renderer->screenSize()); });
+    d->engine.setScreen(renderer->screenSize());
+    d->renderer->present(d->frame);
 }
 
 VideoRenderer* AVPlayer::renderer() const

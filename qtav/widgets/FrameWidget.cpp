@@ -2,6 +2,15 @@
 
 namespace QtAV {
 
+void FrameWidget::noteScreen(const QSize& screen)
+{
+    if (screen == m_screen)
+        return;
+    m_screen = screen;
+    if (m_handleScreen)
+        m_handleScreen();
+}
+
 QRect letterboxed(const QSize& picture, const QSize& screen)
 {
     if (picture.isEmpty() || screen.isEmpty())

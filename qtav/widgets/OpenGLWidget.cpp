@@ -20,14 +20,12 @@ void main()
 }
 )";
 
-// Pictures with transparent parts lie on black, like the border.
 constexpr const char* FragmentShader = R"(
 uniform sampler2D picture;
 varying highp vec2 place;
 void main()
 {
-    lowp vec4 colour = texture2D(picture, place);
-    gl_FragColor = vec4(colour.rgb * colour.a, 1.0);
+    gl_FragColor = vec4(texture2D(picture, place).rgb, 1.0);
 }
 )";
 
@@ -46,9 +44,10 @@ OpenGLWidget::~OpenGLWidget()
     releaseResources();
 }
 
-void OpenGLWidget::setFrame(const VideoFrame& frame)
+void OpenGLWidget::setPicture(const QImage& picture, const QSize& proportions)
 {
-    m_frame = frame;
+    m_picture = picture;
+    m_proportions = proportions;
     m_isUploaded = false;
     update();
 }
@@ -86,27 +85,28 @@ void OpenGLWidget::releaseResources()
 void OpenGLWidget::upload()
 {
     m_isUploaded = true;
-    // Byte order R, G, B, A, which every OpenGL takes.
-    const QImage image = m_frame.toImage(QImage::Format_RGBA8888);
-    if (image.isNull()) {
+    if (m_picture.isNull()) {
         m_texture.reset();
         return;
     }
-    const bool fits =
-        m_texture && m_texture->width() == image.width() && m_texture->height() == image.height();
+    const bool fits = m_texture && m_texture->width() == m_picture.width() &&
+                      m_texture->height() == m_picture.height();
     if (!fits) {
         m_texture = std::make_unique<QOpenGLTexture>(QOpenGLTexture::Target2D);
         m_texture->setFormat(QOpenGLTexture::RGBA8_UNorm);
-        m_texture->setSize(image.width(), image.height());
-        m_texture->setMipLevels(m_texture->maximumMipLevels());
+        m_texture->setSize(m_picture.width(), m_picture.height());
+        m_texture->setMipLevels(1);
         m_texture->setAutoMipMapGenerationEnabled(false);
         m_texture->allocateStorage(QOpenGLTexture::RGBA, QOpenGLTexture::UInt8);
-        // Small widgets show large pictures: without mip levels fine lines would flicker.
-        m_texture->setMinMagFilters(QOpenGLTexture::LinearMipMapLinear, QOpenGLTexture::Linear);
+        m_texture->setMinMagFilters(QOpenGLTexture::Linear, QOpenGLTexture::Linear);
         m_texture->setWrapMode(QOpenGLTexture::ClampToEdge);
     }
-    m_texture->setData(QOpenGLTexture::RGBA, QOpenGLTexture::UInt8, image.constBits());
-    m_texture->generateMipMaps();
+    m_texture->setData(QOpenGLTexture::RGBA, QOpenGLTexture::UInt8, m_picture.constBits());
+}
+
+void OpenGLWidget::resizeGL(int, int)
+{
+    noteScreen(size() * devicePixelRatioF());
 }
 
 void OpenGLWidget::paintGL()
@@ -116,17 +116,17 @@ void OpenGLWidget::paintGL()
     gl->glClear(GL_COLOR_BUFFER_BIT);
     if (!m_isUploaded)
         upload();
-    const QSize screen = size() * devicePixelRatioF();
-    const QRect place = letterboxed(m_frame.displaySize(), screen);
+    noteScreen(size() * devicePixelRatioF());
+    const QRect place = letterboxed(m_proportions, screenSize());
     if (m_texture && m_program && m_program->isLinked() && !place.isEmpty())
-        drawInto(place, screen);
+        drawInto(place, screenSize());
 }
 
-void OpenGLWidget::drawInto(const QRect& place, const QSize& screen)
+void OpenGLWidget::drawInto(const QRect& place, const QSize& whole)
 {
     QOpenGLFunctions* gl = context()->functions();
     // OpenGL counts from the bottom.
-    gl->glViewport(place.x(), screen.height() - place.y() - place.height(), place.width(),
+    gl->glViewport(place.x(), whole.height() - place.y() - place.height(), place.width(),
                    place.height());
     m_program->bind();
     m_texture->bind(0);

@@ -11,10 +11,8 @@
 
 namespace QtAV {
 
-/// Shows frames as textures: the graphics processor scales them.
-///
-/// What is uploaded is the frame's image, the one that captures and batches give too, so that all
-/// of them agree in every colour.
+/// Shows the pictures of frames as textures. They come at the size at which they are shown, so that
+/// nothing is left to the graphics processor but to put them in their place.
 class OpenGLWidget : public QOpenGLWidget, public FrameWidget
 {
     Q_OBJECT
@@ -23,19 +21,23 @@ public:
     explicit OpenGLWidget(QWidget* parent = nullptr);
     ~OpenGLWidget() override;
 
-    void setFrame(const VideoFrame& frame) override;
+    void setPicture(const QImage& picture, const QSize& proportions) override;
+    /// Byte order R, G, B, X, which every OpenGL takes.
+    QImage::Format pictureFormat() const override { return QImage::Format_RGBX8888; }
     QSize sizeHint() const override;
 
 protected:
     void initializeGL() override;
+    void resizeGL(int width, int height) override;
     void paintGL() override;
 
 private:
     void releaseResources();
     void upload();
-    void drawInto(const QRect& place, const QSize& screen);
+    void drawInto(const QRect& place, const QSize& whole);
 
-    VideoFrame m_frame;
+    QImage m_picture;
+    QSize m_proportions;
     bool m_isUploaded = true;
     std::unique_ptr<QOpenGLTexture> m_texture;
     std::unique_ptr<QOpenGLShaderProgram> m_program;

@@ -1,6 +1,7 @@
 #include "qtav/widgets/RasterWidget.h"
 
 #include <QPainter>
+#include <QRegion>
 
 namespace QtAV {
 
@@ -13,10 +14,10 @@ RasterWidget::RasterWidget(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void RasterWidget::setFrame(const VideoFrame& frame)
+void RasterWidget::setPicture(const QImage& picture, const QSize& proportions)
 {
-    m_frame = frame;
-    m_scaled = QImage();
+    m_picture = picture;
+    m_proportions = proportions;
     update();
 }
 
@@ -25,18 +26,30 @@ QSize RasterWidget::sizeHint() const
     return {640, 360};
 }
 
+void RasterWidget::resizeEvent(QResizeEvent*)
+{
+    noteScreen(size() * devicePixelRatioF());
+}
+
 void RasterWidget::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    painter.fillRect(rect(), Qt::black);
     const qreal ratio = devicePixelRatioF();
-    const QRect place = letterboxed(m_frame.displaySize(), size() * ratio);
+    noteScreen(size() * ratio);
+    QPainter painter(this);
+    const QRect place = m_picture.isNull() ? QRect() : letterboxed(m_proportions, screenSize());
+    const QRectF target(QPointF(place.topLeft()) / ratio, QSizeF(place.size()) / ratio);
+    // Only the border: filling what is painted over costs as much as painting it.
+    for (const QRect& border : QRegion(rect()) - QRegion(target.toRect().intersected(rect())))
+        painter.fillRect(border, Qt::black);
     if (place.isEmpty())
         return;
-    if (m_scaled.size() != place.size())
-        m_scaled = m_frame.toImage(QImage::Format_ARGB32_Premultiplied, place.size());
-    m_scaled.setDevicePixelRatio(ratio);
-    painter.drawImage(QPointF(place.topLeft()) / ratio, m_scaled);
+    if (m_picture.size() == place.size()) {
+        m_picture.setDevicePixelRatio(ratio);
+        painter.drawImage(target.topLeft(), m_picture);
+    } else {
+        m_picture.setDevicePixelRatio(1.0);
+        painter.drawImage(target, m_picture);
+    }
 }
 
 } // namespace QtAV

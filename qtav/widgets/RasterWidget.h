@@ -7,7 +7,7 @@
 
 namespace QtAV {
 
-/// Shows frames by painting images: works everywhere.
+/// Shows frames by painting their pictures: works everywhere.
 class RasterWidget : public QWidget, public FrameWidget
 {
     Q_OBJECT
@@ -15,15 +15,17 @@ class RasterWidget : public QWidget, public FrameWidget
 public:
     explicit RasterWidget(QWidget* parent = nullptr);
 
-    void setFrame(const VideoFrame& frame) override;
+    void setPicture(const QImage& picture, const QSize& proportions) override;
+    QImage::Format pictureFormat() const override { return QImage::Format_RGB32; }
     QSize sizeHint() const override;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    VideoFrame m_frame;
-    QImage m_scaled; ///< the frame in the screen's pixels, kept for repaints; null when outdated
+    QImage m_picture;
+    QSize m_proportions;
 };
 
 } // namespace QtAV

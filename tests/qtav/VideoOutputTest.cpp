@@ -31,6 +31,15 @@ QImage grabbed(QWidget& widget)
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
+/// What an output shows once it has made the picture for its widget's size.
+QImage shownBy(const VideoOutput& output)
+{
+    grabbed(*output.widget()); // which lets the widget know its size
+    if (!QTest::qWaitFor([&output] { return output.isUpToDate(); }, Patience))
+        qFatal("no picture comes");
+    return grabbed(*output.widget());
+}
+
 constexpr QRgb black = qRgb(0, 0, 0);
 
 } // namespace
@@ -54,6 +63,9 @@ private slots:
     void output_goesOn_withoutItsWidget();
     void openGL_drawsWhatRasterDraws();
     void player_showsItsFrames_inTheWidget();
+    void oldPicture_staysScaled_untilTheNewOneComes();
+    void present_returnsAtOnce_andOnlyTheNewestFrameIsShown();
+    void screenSize_isToldInPixels_whenTheWidgetChanges();
 };
 
 void VideoOutputTest::widget_isMade_withAndWithoutOpenGL()
@@ -85,7 +97,7 @@ void VideoOutputTest::widget_isBlack_withoutAFrame()
     output.widget()->resize(64, 48);
     QImage expected(64, 48, QImage::Format_RGB32);
     expected.fill(black);
-    QCOMPARE(grabbed(*output.widget()), expected);
+    QCOMPARE(shownBy(output), expected);
 }
 
 void VideoOutputTest::frame_isShown_asItsImage_inItsOwnSize()
@@ -94,7 +106,7 @@ void VideoOutputTest::frame_isShown_asItsImage_inItsOwnSize()
     VideoOutput output(VideoOutput::Drawing::Raster);
     output.widget()->resize(frame.displaySize());
     output.present(frame);
-    QCOMPARE(grabbed(*output.widget()), frame.toImage(QImage::Format_RGB32));
+    QCOMPARE(shownBy(output), frame.toImage(QImage::Format_RGB32));
 }
 
 void VideoOutputTest::frame_isLetterboxed_whenTheWidgetIsWiderOrHigher()
@@ -104,13 +116,13 @@ void VideoOutputTest::frame_isLetterboxed_whenTheWidgetIsWiderOrHigher()
     output.present(frame);
 
     output.widget()->resize(520, 240);
-    QImage image = grabbed(*output.widget());
+    QImage image = shownBy(output);
     QCOMPARE(image.copy(100, 0, 320, 240), frame.toImage(QImage::Format_RGB32));
     QCOMPARE(image.pixel(99, 120), black);
     QCOMPARE(image.pixel(420, 120), black);
 
     output.widget()->resize(320, 300);
-    image = grabbed(*output.widget());
+    image = shownBy(output);
     QCOMPARE(image.copy(0, 30, 320, 240), frame.toImage(QImage::Format_RGB32));
     QCOMPARE(image.pixel(160, 29), black);
     QCOMPARE(image.pixel(160, 270), black);
@@ -131,7 +143,7 @@ void VideoOutputTest::frame_isSeenUprightAndSquare()
     VideoOutput output(VideoOutput::Drawing::Raster);
     output.widget()->resize(sample.displaySize + QSize(40, 0));
     output.present(firstFrame(file));
-    const QImage image = grabbed(*output.widget());
+    const QImage image = shownBy(output);
     const QImage picture = image.copy(QRect(QPoint(20, 0), sample.displaySize));
     QCOMPARE(testsupport::frameNumber(picture).value_or(-1), 0);
     QCOMPARE(image.pixel(10, image.height() / 2), black);
@@ -144,11 +156,11 @@ void VideoOutputTest::newFrame_replacesTheOld_andNoFrameLeavesBlack()
     VideoOutput output(VideoOutput::Drawing::Raster);
     output.widget()->resize(320, 240);
     stage.player.setRenderer(&output);
-    QCOMPARE(testsupport::frameNumber(grabbed(*output.widget())).value_or(-1), 0);
+    QCOMPARE(testsupport::frameNumber(shownBy(output)).value_or(-1), 0);
     QVERIFY(stage.seek(2000));
-    QCOMPARE(testsupport::frameNumber(grabbed(*output.widget())).value_or(-1), 50);
+    QCOMPARE(testsupport::frameNumber(shownBy(output)).value_or(-1), 50);
     stage.player.stop();
-    QCOMPARE(grabbed(*output.widget()).pixel(10, 10), black);
+    QCOMPARE(shownBy(output).pixel(10, 10), black);
 }
 
 void VideoOutputTest::frame_followsTheWidgetsSize()
@@ -157,7 +169,7 @@ void VideoOutputTest::frame_followsTheWidgetsSize()
     output.present(firstFrame(QStringLiteral("h264_bframes.mp4")));
     for (const QSize size : {QSize(640, 480), QSize(160, 120), QSize(400, 300)}) {
         output.widget()->resize(size);
-        QCOMPARE(testsupport::frameNumber(grabbed(*output.widget())).value_or(-1), 0);
+        QCOMPARE(testsupport::frameNumber(shownBy(output)).value_or(-1), 0);
     }
 }
 
@@ -167,7 +179,7 @@ void VideoOutputTest::tinyWidget_paintsWithoutHarm()
     output.present(firstFrame(QStringLiteral("h264_bframes.mp4")));
     for (const QSize size : {QSize(1, 1), QSize(500, 1), QSize(1, 500)}) {
         output.widget()->resize(size);
-        QCOMPARE(grabbed(*output.widget()).size(), size);
+        QCOMPARE(shownBy(output).size(), size);
     }
 }
 
@@ -198,7 +210,7 @@ void VideoOutputTest::openGL_drawsWhatRasterDraws()
             each->widget()->show();
             QVERIFY(QTest::qWaitForWindowExposed(each->widget()));
             each->present(frame);
-            images[each == &raster] = grabbed(*each->widget());
+            images[each == &raster] = shownBy(*each);
         }
         QCOMPARE(images[0].size(), images[1].size());
         int largest = 0;
@@ -212,7 +224,7 @@ void VideoOutputTest::openGL_drawsWhatRasterDraws()
         }
         QVERIFY2(largest <= 2, QByteArray::number(largest).constData());
         output.present(QtAV::VideoFrame());
-        QCOMPARE(grabbed(*output.widget()).pixel(size.width() / 2, size.height() / 2), black);
+        QCOMPARE(shownBy(output).pixel(size.width() / 2, size.height() / 2), black);
     }
 }
 
@@ -233,7 +245,63 @@ void VideoOutputTest::player_showsItsFrames_inTheWidget()
     QSignalSpy statuses(&player, &QtAV::AVPlayer::mediaStatusChanged);
     while (player.mediaStatus() != QtAV::EndOfMedia)
         QVERIFY(statuses.wait(Patience));
-    QCOMPARE(testsupport::frameNumber(grabbed(*output.widget())).value_or(-1), 49);
+    QCOMPARE(testsupport::frameNumber(shownBy(output)).value_or(-1), 49);
+}
+
+void VideoOutputTest::oldPicture_staysScaled_untilTheNewOneComes()
+{
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.widget()->resize(320, 240);
+    output.present(firstFrame(QStringLiteral("h264_bframes.mp4")));
+    const QImage before = shownBy(output);
+    output.widget()->resize(640, 480);
+    // No event loop runs here, so that no picture can come.
+    const QImage scaled = grabbed(*output.widget());
+    QVERIFY(!output.isUpToDate());
+    QCOMPARE(scaled, before.scaled(640, 480));
+    QVERIFY(shownBy(output) != scaled);
+}
+
+void VideoOutputTest::present_returnsAtOnce_andOnlyTheNewestFrameIsShown()
+{
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.widget()->resize(320, 240);
+    const QImage dark = shownBy(output);
+    decoding::Player player(testsupport::samplePath(QStringLiteral("h264_bframes.mp4")));
+    int last = -1;
+    for (int i = 0; i < 40; ++i) {
+        const auto packet = player.nextVideoPacket();
+        QVERIFY(packet && player.decoder->decode(*packet));
+        const QtAV::VideoFrame frame = player.decoder->frame();
+        if (!frame.isValid())
+            continue;
+        output.present(frame);
+        last = decoding::shown(frame).number;
+        QCOMPARE(grabbed(*output.widget()), dark);
+    }
+    QVERIFY(last > 10);
+    QCOMPARE(testsupport::frameNumber(shownBy(output)).value_or(-1), last);
+    // A picture that is late is none of a black screen.
+    output.widget()->resize(160, 120);
+    output.present(firstFrame(QStringLiteral("h264_bframes.mp4")));
+    output.present(QtAV::VideoFrame());
+    QTest::qWait(50);
+    QCOMPARE(shownBy(output).pixel(80, 60), black);
+}
+
+void VideoOutputTest::screenSize_isToldInPixels_whenTheWidgetChanges()
+{
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    const QSignalSpy changes(&output, &QtAV::VideoRenderer::screenSizeChanged);
+    output.widget()->resize(300, 200);
+    output.widget()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(output.widget()));
+    QCOMPARE(output.screenSize(), output.widget()->size() * output.widget()->devicePixelRatioF());
+    QVERIFY(!changes.isEmpty());
+    const int before = changes.count();
+    output.widget()->resize(400, 200);
+    QTRY_VERIFY_WITH_TIMEOUT(changes.count() > before, Patience);
+    QCOMPARE(output.screenSize().width(), qRound(400 * output.widget()->devicePixelRatioF()));
 }
 
 QTEST_MAIN(VideoOutputTest)

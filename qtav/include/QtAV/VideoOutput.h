@@ -2,7 +2,7 @@
 
 #include <QtAV/VideoRenderer.h>
 
-#include <QPointer>
+#include <memory>
 
 class QWidget;
 
@@ -11,8 +11,9 @@ namespace QtAV {
 /// Shows a player's frames in a widget: upright, with square pixels, letterboxed on black, and in
 /// the full resolution of the screen.
 ///
-/// The widget draws with OpenGL where there is a graphics processor for it.
-/// User-interface thread only.
+/// The widget draws with OpenGL where there is a graphics processor for it. Pictures are made at
+/// the size at which they are shown by a thread of this object; until one is there the one before
+/// stays, scaled to the widget's size if that has changed. User-interface thread only.
 class VideoOutput : public VideoRenderer
 {
     Q_OBJECT
@@ -34,9 +35,17 @@ public:
     QWidget* widget() const;
 
     void present(const VideoFrame& frame) override;
+    QSize screenSize() const override;
+
+    /// True when the widget's next repaint shows the last frame, made for the widget's size.
+    bool isUpToDate() const;
+
+private Q_SLOTS:
+    void showPicture();
 
 private:
-    QPointer<QWidget> m_widget;
+    class Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace QtAV

@@ -3,6 +3,7 @@
 #include <QtAV/VideoFrame.h>
 
 #include <QObject>
+#include <QSize>
 
 namespace QtAV {
 
@@ -16,6 +17,12 @@ public:
 
     /// Shows a frame from now on; an invalid one for nothing.
     virtual void present(const VideoFrame& frame) = 0;
+
+    /// The size in pixels of the screen into which frames are fitted; empty while it is not known.
+    virtual QSize screenSize() const { return {}; }
+
+Q_SIGNALS:
+    void screenSizeChanged();
 };
 
 } // namespace QtAV

@@ -1,0 +1,73 @@
+#include "qtav/widgets/PictureMaker.h"
+
+#include <utility>
+
+namespace QtAV {
+
+namespace {
+
+QImage make(const PictureMaker::Request& request)
+{
+    QImage image = request.frame.toImage(QImage::Format_ARGB32_Premultiplied, request.size);
+    // What is multiplied by its alpha is what it looks like on black.
+    image.reinterpretAsFormat(QImage::Format_RGB32);
+    return std::move(image).convertToFormat(request.format);
+}
+
+} // namespace
+
+PictureMaker::PictureMaker(std::function<void()> wake)
+    : m_wake(std::move(wake))
+    , m_thread([this] { run(); })
+{}
+
+PictureMaker::~PictureMaker()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_request.reset();
+        m_quits = true;
+    }
+    m_changed.notify_one();
+    m_thread.join();
+}
+
+void PictureMaker::request(Request request)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_request = std::move(request);
+    }
+    m_changed.notify_one();
+}
+
+void PictureMaker::cancel()
+{
+    const std::lock_guard lock(m_mutex);
+    m_request.reset();
+    m_picture.reset();
+}
+
+std::optional<PictureMaker::Picture> PictureMaker::take()
+{
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_picture, std::nullopt);
+}
+
+void PictureMaker::run()
+{
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        m_changed.wait(lock, [this] { return m_quits || m_request; });
+        if (m_quits)
+            return;
+        const Request request = *std::exchange(m_request, std::nullopt);
+        lock.unlock();
+        Picture picture{make(request), request.serial};
+        lock.lock();
+        m_picture = std::move(picture);
+        m_wake();
+    }
+}
+
+} // namespace QtAV

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QtAV/VideoFrame.h>
+
+#include <QImage>
+#include <QSize>
+
+#include <condition_variable>
+#include <functional>
+#include <mutex>
+#include <optional>
+#include <thread>
+
+namespace QtAV {
+
+/// Makes the pictures that widgets show out of frames, on a thread of its own.
+///
+/// Only the newest request is carried out: one that waits is replaced. All public functions are for
+/// the owner's thread.
+class PictureMaker
+{
+public:
+    struct Request
+    {
+        VideoFrame frame;
+        QSize size;            ///< of the picture in pixels, not empty
+        QImage::Format format; ///< an opaque one
+        quint64 serial;        ///< repeated by the picture
+    };
+
+    struct Picture
+    {
+        QImage image; ///< transparent parts lie on black; null when memory ran out
+        quint64 serial;
+    };
+
+    /// @param wake  called on the maker's thread when a picture can be taken. Must not call the
+    /// maker.
+    explicit PictureMaker(std::function<void()> wake);
+    /// Waits until the picture in the making is done.
+    ~PictureMaker();
+    PictureMaker(const PictureMaker&) = delete;
+    PictureMaker& operator=(const PictureMaker&) = delete;
+
+    void request(Request request);
+
+    /// Drops what waits, and the picture that was not taken. One in the making still comes.
+    void cancel();
+
+    /// The newest picture that has been made since the last call; nothing when none has.
+    std::optional<Picture> take();
+
+private:
+    void run();
+
+    const std::function<void()> m_wake;
+    std::mutex m_mutex;
+    // Guarded by m_mutex, down to m_quits.
+    std::condition_variable m_changed;
+    std::optional<Request> m_request;
+    std::optional<Picture> m_picture;
+    bool m_quits = false;
+
+    std::thread m_thread; ///< last, so that it finds everything made
+};
+
+} // namespace QtAV
