@@ -85,9 +85,9 @@ class Video:
 
 VIDEOS = [
     Video("1080p_h264_gop250.mp4", 1500, 250, 10, 20, 40, seek_goal=0.78, memory_goal=400,
-          hold=Hold(positions=4, steps=250, rate_goal=30.0, longest_goal=150.0)),
+          hold=Hold(positions=3, steps=250, rate_goal=30.0, longest_goal=150.0)),
     Video("2160p_hevc_gop120.mp4", 480, 120, 6, 20, 30, seek_goal=0.78, memory_goal=700,
-          hold=Hold(positions=4, steps=100, rate_goal=8.0, longest_goal=1500.0)),
+          hold=Hold(positions=3, steps=100, rate_goal=8.0, longest_goal=1500.0)),
 ]
 
 FIRST_BACK_GOAL = 0.03
