@@ -53,7 +53,7 @@ QJsonObject probe(const Sample& sample, const QString& ofFrames)
 {
     const auto result = ffprobe(
         {QStringLiteral("-select_streams"), QStringLiteral("V:0"), QStringLiteral("-show_entries"),
-         QStringLiteral("format=start_time:stream=r_frame_rate:frame=") + ofFrames,
+         QStringLiteral("format=start_time:stream=r_frame_rate,avg_frame_rate:frame=") + ofFrames,
          QStringLiteral("-of"), QStringLiteral("json"), samplePath(sample.file)});
     return QJsonDocument::fromJson(result.standardOutput).object();
 }
@@ -99,11 +99,14 @@ private slots:
         QCOMPARE(frames.size(), sample.frames);
         if (sample.has(Trait::NoPresentationTimes)) {
             // What is reported there are decoding times; the rate is all that the file states.
+            // Newer FFmpeg finds fields' rate in raw.h264, or no average in dv.dv, but never both.
             const QJsonObject stream =
                 probed.value(QStringLiteral("streams")).toArray().first().toObject();
             const QString rate =
                 QStringLiteral("%1/%2").arg(sample.frameRate.num).arg(sample.frameRate.den);
-            QCOMPARE(stream.value(QStringLiteral("r_frame_rate")).toString(), rate);
+            const QStringList rates{stream.value(QStringLiteral("r_frame_rate")).toString(),
+                                    stream.value(QStringLiteral("avg_frame_rate")).toString()};
+            QVERIFY2(rates.contains(rate), qPrintable(rates.join(u' ')));
             return;
         }
         const double start =
