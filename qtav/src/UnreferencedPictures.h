@@ -6,8 +6,8 @@
 
 namespace QtAV {
 
-/// Tells the packets of an H.264 or HEVC stream that hold nothing but a picture to which no other
-/// picture refers.
+/// Tells the packets of an H.264, HEVC or MPEG-4 stream that hold nothing but a picture to which no
+/// other picture refers.
 ///
 /// FFmpeg leaves such pictures out when asked to, but hands their packets to its threads all the
 /// same, so that most of the threads have nothing to do. Who does not send them keeps all threads
@@ -30,6 +30,9 @@ private:
     enum class Unit { Neutral, Unreferenced, Needed };
 
     Unit unitAt(const uint8_t* data, qsizetype size) const;
+    static Unit h264UnitAt(const uint8_t* data);
+    static Unit hevcUnitAt(const uint8_t* data);
+    static Unit mpeg4UnitAt(const uint8_t* data);
     bool areAllOfPrefixed(const uint8_t* data, qsizetype size) const;
     bool areAllOfMarked(const uint8_t* data, qsizetype size) const;
 
