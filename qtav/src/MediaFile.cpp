@@ -26,6 +26,17 @@ bool isAvi(const AVFormatContext& format)
     return std::strcmp(format.iformat->name, "avi") == 0;
 }
 
+bool isMp4(const AVFormatContext& format)
+{
+    return std::strcmp(format.iformat->name, "mov,mp4,m4a,3gp,3g2,mj2") == 0;
+}
+
+bool reordersPictures(AVCodecID codec)
+{
+    const AVCodecDescriptor* descriptor = avcodec_descriptor_get(codec);
+    return descriptor && (descriptor->props & AV_CODEC_PROP_REORDER);
+}
+
 bool isCover(const AVStream& stream)
 {
     return stream.disposition & AV_DISPOSITION_ATTACHED_PIC;
@@ -42,7 +53,7 @@ bool hasUnknownSize(const AVStream& stream)
 /// does not trust the size that they state.
 bool describesItsStreams(const AVFormatContext& format)
 {
-    return std::strcmp(format.iformat->name, "mov,mp4,m4a,3gp,3g2,mj2") == 0 &&
+    return isMp4(format) &&
            std::none_of(format.streams, format.streams + format.nb_streams,
                         [](const AVStream* stream) { return hasUnknownSize(*stream); });
 }
@@ -398,7 +409,8 @@ std::optional<qint64> MediaFile::confirmedDuration()
     if (stated == 0)
         return std::nullopt;
     const bool canCheck = m_video >= 0 && !durationIsMeasured();
-    return !canCheck || reaches(stated) ? std::optional(stated) : std::nullopt;
+    const bool isConfirmed = !canCheck || (reaches(stated) && !showsPicturesAfter(stated));
+    return isConfirmed ? std::optional(stated) : std::nullopt;
 }
 
 /// False where the file is cut off long before a position.
@@ -411,6 +423,40 @@ bool MediaFile::reaches(qint64 ms)
     if (!landed)
         return false;
     return *landed + closeMs >= ms || readToEnd() + roundingMs >= ms;
+}
+
+/// Newer releases of FFmpeg end an MP4 file where its last packet has been decoded. A picture that
+/// was decoded earlier may be shown after that.
+bool MediaFile::showsPicturesAfter(qint64 ms)
+{
+    // No codec lets more pictures than this wait for one that is decoded later.
+    constexpr int MostWaiting = 16;
+    const AVStream& stream = *m_format->streams[m_video];
+    if (!isMp4(*m_format) || !reordersPictures(stream.codecpar->codec_id))
+        return false;
+    AVStream* const indexed = m_format->streams[m_video];
+    const int count = avformat_index_get_entries_count(indexed);
+    const AVIndexEntry* entry =
+        avformat_index_get_entry(indexed, std::max(0, count - 1 - MostWaiting));
+    forgetPosition();
+    if (!entry || av_seek_frame(m_format.get(), m_video, entry->timestamp,
+                                AVSEEK_FLAG_BACKWARD | AVSEEK_FLAG_ANY) < 0)
+        return false;
+    const qint64 lastTicks = timeline(m_video).lastTickOf(ms);
+    PacketPtr packet;
+    // The index of a file in fragments may end far from its end.
+    for (int pictures = 0; pictures < 2 * MostWaiting;) {
+        const Read result = readFromContainer(packet);
+        if (result == Read::End)
+            return false;
+        if (result == Read::Failure || packet->stream_index != m_video)
+            continue;
+        ++pictures;
+        const bool isShown = !(packet->flags & AV_PKT_FLAG_DISCARD);
+        if (isShown && packet->pts != AV_NOPTS_VALUE && packet->pts > lastTicks)
+            return true;
+    }
+    return false;
 }
 
 qint64 MediaFile::measuredDuration()

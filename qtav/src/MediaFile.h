@@ -75,8 +75,8 @@ public:
     /// True for containers whose jumps land on any packet instead of a key frame.
     bool jumpsAnywhere() const { return m_format->iformat->flags & AVFMT_TS_DISCONT; }
 
-    /// The length that the container states, in milliseconds, where the file reaches that far;
-    /// nothing where it states none or guesses it from a bit rate. Moves the position.
+    /// The length that the container states, in milliseconds, where the file reaches that far and
+    /// no further; nothing where it states none or guesses it from a bit rate. Moves the position.
     std::optional<qint64> confirmedDuration();
 
     /// The end of the last packet in milliseconds, read from the end of the file; 0 for a file
@@ -105,6 +105,7 @@ private:
     void forgetPosition();
     qint64 statedDuration() const;
     bool reaches(qint64 ms);
+    bool showsPicturesAfter(qint64 ms);
     std::optional<qint64> firstTimeAt(qint64 ms);
     qint64 readToEnd();
 
