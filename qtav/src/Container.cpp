@@ -324,6 +324,22 @@ bool Container::seekNear(int stream, qint64 ticks)
     return result >= 0 && !m_wasInterrupted;
 }
 
+std::optional<qint64> Container::seekToTail(int stream, int packets)
+{
+    AVStream* const indexed = m_format->streams[stream];
+    const int count = avformat_index_get_entries_count(indexed);
+    const AVIndexEntry* entry =
+        count > 0 ? avformat_index_get_entry(indexed, std::max(0, count - 1 - packets)) : nullptr;
+    if (!entry)
+        return std::nullopt;
+    const qint64 bytes = m_input->size() - entry->pos;
+    forgetFailures();
+    const int result =
+        av_seek_frame(m_format, stream, entry->timestamp, AVSEEK_FLAG_BACKWARD | AVSEEK_FLAG_ANY);
+    m_isLost = m_wasInterrupted;
+    return result >= 0 && !m_wasInterrupted ? std::optional(bytes) : std::nullopt;
+}
+
 bool Container::seekToByte(qint64 position)
 {
     forgetFailures();

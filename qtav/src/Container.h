@@ -83,6 +83,11 @@ public:
     /// when that is refused or interrupted.
     [[nodiscard]] bool seekNear(int stream, qint64 ticks);
 
+    /// Goes to the packet that stands so many before the last one in FFmpeg's index of a stream.
+    /// How many bytes there are from there to the end of the file; nothing where that is not
+    /// possible.
+    [[nodiscard]] std::optional<qint64> seekToTail(int stream, int packets);
+
     /// Goes to a byte. False when the container does not go by bytes.
     [[nodiscard]] bool seekToByte(qint64 position);
 

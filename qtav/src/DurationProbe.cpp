@@ -46,7 +46,7 @@ std::optional<DurationProbe::Length> DurationProbe::checkedStatement()
     if (!landed)
         return std::nullopt;
     const bool isClose = *landed + closeMs >= stated;
-    if (isClose && !isWorthReadingOn(stated))
+    if (isClose && !isWorthReadingOn())
         return Length{stated, false};
     const End end = readToEnd();
     if (end.pictureMs > stated)
@@ -74,24 +74,17 @@ qint64 DurationProbe::endOfPictures(qint64 statedMs)
     }
 }
 
-/// An index tells for nothing whether pictures follow; else a look at the rest, if it is short.
-bool DurationProbe::isWorthReadingOn(qint64 statedMs)
+/// True when the file stands where reading it to its end shows what follows, and costs little. Some
+/// releases of FFmpeg end an MP4 file where its last packet has been decoded: a picture that was
+/// decoded before may be shown after that.
+bool DurationProbe::isWorthReadingOn()
 {
-    if (m_container.indexesAllPackets()) {
-        const std::optional<qint64> last = lastIndexedMs();
-        return last && *last > statedMs && m_video->seekNear(*last);
-    }
-    const qint64 rest = m_container.remainingBytes();
+    // No codec lets more pictures than this wait for one that is decoded later.
+    constexpr int MaximumWaiting = 16;
+    const qint64 rest = m_container.indexesAllPackets()
+                            ? m_container.seekToTail(m_video->stream(), MaximumWaiting).value_or(0)
+                            : m_container.remainingBytes();
     return rest > 0 && rest <= CheapBytes;
-}
-
-std::optional<qint64> DurationProbe::lastIndexedMs() const
-{
-    // FFmpeg takes the stream without `const`, and only reads it.
-    auto* const stream = const_cast<AVStream*>(&m_container.stream(m_video->stream()));
-    const int count = avformat_index_get_entries_count(stream);
-    const AVIndexEntry* last = count > 0 ? avformat_index_get_entry(stream, count - 1) : nullptr;
-    return last ? std::optional(m_video->timeline().milliseconds(last->timestamp)) : std::nullopt;
 }
 
 qint64 DurationProbe::measure()
@@ -150,7 +143,8 @@ DurationProbe::End DurationProbe::readToEnd()
             continue;
         const Timeline timeline = m_container.timeline(stream);
         end.ms = std::max(end.ms, timeline.milliseconds(ticks + packet->duration));
-        if (m_video && stream == m_video->stream())
+        const bool isShown = !(packet->flags & AV_PKT_FLAG_DISCARD);
+        if (isShown && m_video && stream == m_video->stream())
             end.pictureMs = std::max(end.pictureMs, timeline.milliseconds(ticks));
     }
 }

@@ -35,12 +35,11 @@ private:
     };
 
     [[nodiscard]] std::optional<Length> checkedStatement();
-    [[nodiscard]] bool isWorthReadingOn(qint64 statedMs);
+    [[nodiscard]] bool isWorthReadingOn();
     [[nodiscard]] qint64 endOfPictures(qint64 statedMs);
     [[nodiscard]] qint64 measure();
     [[nodiscard]] bool goTo(qint64 ms);
     [[nodiscard]] std::optional<qint64> firstTimeAt(qint64 ms);
-    [[nodiscard]] std::optional<qint64> lastIndexedMs() const;
     [[nodiscard]] End readToEnd();
 
     Container& m_container;

@@ -19,6 +19,12 @@ constexpr int PrefixInformation = 39;
 constexpr int SuffixInformation = 40;
 } // namespace hevc
 
+namespace mpeg4 {
+constexpr int UserData = 0xb2;
+constexpr int Picture = 0xb6;
+constexpr int BidirectionalPicture = 2;
+} // namespace mpeg4
+
 enum class Meaning { Neutral, Unreferenced, Needed };
 
 Meaning meaningInH264(const NalUnits::Unit& unit)
@@ -41,14 +47,33 @@ Meaning meaningInHevc(const NalUnits::Unit& unit)
     return isNeutral ? Meaning::Neutral : Meaning::Needed;
 }
 
+/// MPEG-4: B-pictures, with nothing before them but what users may write there.
+bool areBidirectional(const uint8_t* data, qsizetype size)
+{
+    bool hasPicture = false;
+    for (qsizetype i = behindStartCode(data, 0, size); i + 1 < size;
+         i = behindStartCode(data, i, size)) {
+        const bool isPicture = data[i] == mpeg4::Picture;
+        if (!isPicture && data[i] != mpeg4::UserData)
+            return false;
+        if (isPicture && data[i + 1] >> 6 != mpeg4::BidirectionalPicture)
+            return false;
+        hasPicture = hasPicture || isPicture;
+    }
+    return hasPicture;
+}
+
 } // namespace
 
 UnreferencedPictures::UnreferencedPictures(const AVCodecParameters& parameters)
-    : m_units(parameters)
+    : m_isMpeg4(parameters.codec_id == AV_CODEC_ID_MPEG4)
+    , m_units(parameters)
 {}
 
 bool UnreferencedPictures::areAllOf(const uint8_t* data, qsizetype size) const
 {
+    if (m_isMpeg4)
+        return data && areBidirectional(data, size);
     NalUnits::Cursor cursor = m_units.of(data, size);
     bool hasPicture = false;
     while (const std::optional<NalUnits::Unit> unit = cursor.next()) {

@@ -6,8 +6,8 @@
 
 namespace QtAV {
 
-/// Tells the packets of an H.264 or HEVC stream that hold nothing but a picture to which no other
-/// picture refers.
+/// Tells the packets of an H.264, HEVC or MPEG-4 stream that hold nothing but a picture to which no
+/// other picture refers.
 ///
 /// FFmpeg skips such pictures when asked to, but hands their packets to its threads all the same,
 /// so that most of the threads have nothing to do. Not sending them keeps all threads busy with
@@ -26,6 +26,7 @@ public:
     bool areAllOf(const uint8_t* data, qsizetype size) const;
 
 private:
+    bool m_isMpeg4 = false;
     NalUnits m_units;
 };
 

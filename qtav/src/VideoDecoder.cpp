@@ -59,6 +59,7 @@ public:
     void applySkipOptions() const;
     void watchSubLayers(const AVPacket& packet);
     bool leavesOut(const AVPacket& packet) const;
+    bool leadsUpToKeyFrame(const AVPacket& packet);
 
     std::shared_ptr<const StreamParameters> parameters;
     CodecContextPtr context;
@@ -70,6 +71,8 @@ public:
     /// Frames up to these presentation ticks are dropped: those of the key frame that comes out a
     /// second time, or just before one that comes out once.
     qint64 repeatedTicks = AV_NOPTS_VALUE;
+    /// Presentation ticks of the key frame that decoding started at, until one behind it is sent.
+    qint64 startTicks = AV_NOPTS_VALUE;
     bool draining = false;
     bool hasSubLayers = false;
     UnreferencedPictures unreferenced;
@@ -178,6 +181,19 @@ bool VideoDecoder::Private::leavesOut(const AVPacket& packet) const
     return mayLeaveOut && unreferenced.areAllOf(packet);
 }
 
+/// What leads up to an open group's key frame refers to the group before and cannot be decoded from
+/// there. FFmpeg 7.1's MPEG-4 decoder tries, and then gives other pictures twice.
+bool VideoDecoder::Private::leadsUpToKeyFrame(const AVPacket& packet)
+{
+    if (startTicks == AV_NOPTS_VALUE)
+        return false;
+    if (presentationTicks(packet) > startTicks) {
+        startTicks = AV_NOPTS_VALUE;
+        return false;
+    }
+    return unreferenced.areAllOf(packet);
+}
+
 void VideoDecoder::flush()
 {
     if (!d->context)
@@ -191,6 +207,7 @@ void VideoDecoder::Private::restart()
     start = Start::NeedsKeyFrame;
     keyPacket.reset();
     repeatedTicks = AV_NOPTS_VALUE;
+    startTicks = AV_NOPTS_VALUE;
     draining = false;
     lastTicks = AV_NOPTS_VALUE;
     nextTicks = 0;
@@ -210,12 +227,14 @@ bool VideoDecoder::decode(const Packet& packet)
     if (isRepeated)
         return true;
 
-    if (handle && d->leavesOut(*handle->get()))
+    if (handle && (d->leavesOut(*handle->get()) || d->leadsUpToKeyFrame(*handle->get())))
         return true;
 
     bool succeeded = true;
     const bool isFirstKeyFrame =
         d->start == Private::Start::NeedsKeyFrame && packet.hasKeyFrame && handle;
+    if (isFirstKeyFrame)
+        d->startTicks = presentationTicks(*handle->get());
     if (isFirstKeyFrame && d->wantsKeyFrameAtOnce()) {
         succeeded = d->startAtKeyFrame(packet);
     } else {

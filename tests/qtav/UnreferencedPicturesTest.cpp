@@ -48,7 +48,8 @@ private slots:
 void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips_data()
 {
     QTest::addColumn<QString>("file");
-    for (const char* file : {"h264_bframes.mp4", "h264.ts", "hevc_8bit.mp4", "hevc.ts"})
+    for (const char* file :
+         {"h264_bframes.mp4", "h264.ts", "hevc_8bit.mp4", "hevc.ts", "mpeg4_bframes.avi"})
         QTest::newRow(file) << QString::fromLatin1(file);
 }
 
@@ -90,6 +91,7 @@ void UnreferencedPicturesTest::units_decide_data()
     };
     constexpr int H264 = AV_CODEC_ID_H264;
     constexpr int Hevc = AV_CODEC_ID_HEVC;
+    constexpr int Mpeg4 = AV_CODEC_ID_MPEG4;
     row("H.264 slice nobody needs", H264, 4, "000000020199", true);
     row("H.264 slice behind information", H264, 4, "0000000206990000000301aabb", true);
     row("H.264 slice of a reference", H264, 4, "000000024199", false);
@@ -104,6 +106,12 @@ void UnreferencedPicturesTest::units_decide_data()
     row("HEVC leading slice nobody needs", Hevc, 4, "00000003100199", true);
     row("HEVC key frame", Hevc, 4, "00000003260199", false);
     row("HEVC behind start codes", Hevc, 0, "00000001460150000001000199", true);
+    row("MPEG-4 B-picture", Mpeg4, 0, "000001b69099", true);
+    row("MPEG-4 B-picture behind user data", Mpeg4, 0, "000001b244697658000001b69099", true);
+    row("MPEG-4 picture that others refer to", Mpeg4, 0, "000001b65099", false);
+    row("MPEG-4 packed pictures", Mpeg4, 0, "000001b65099000001b69099", false);
+    row("MPEG-4 key frame", Mpeg4, 0, "000001b3001007000001b61099", false);
+    row("MPEG-4 cut off", Mpeg4, 0, "000001b6", false);
 }
 
 void UnreferencedPicturesTest::units_decide()

@@ -37,6 +37,8 @@ private slots:
     void keyFrame_comesOutAtOnce_whereverItLies();
     void frames_areTheSame_whenTheKeyFrameMayComeLater_data();
     void frames_areTheSame_whenTheKeyFrameMayComeLater();
+    void lastKeyFrame_comesOutOnce_howeverOftenItIsDecoded_data();
+    void lastKeyFrame_comesOutOnce_howeverOftenItIsDecoded();
     void target_isTheSamePicture_whenNonReferenceFramesBeforeItAreSkipped_data();
     void target_isTheSamePicture_whenNonReferenceFramesBeforeItAreSkipped();
     void skipping_leavesFramesOut_fromTheNextPacketOn();
@@ -156,6 +158,36 @@ void VideoDecoderTest::frames_areTheSame_whenTheKeyFrameMayComeLater()
         QVERIFY(player.demuxer.seek(testsupport::frameTimeMs(sample, key)));
         player.decoder->flush();
         QCOMPARE(player.showRest(), expectedFrom(sample, key));
+    }
+}
+
+void VideoDecoderTest::lastKeyFrame_comesOutOnce_howeverOftenItIsDecoded_data()
+{
+    QTest::addColumn<int>("threads");
+    QTest::addColumn<bool>("atOnce");
+    for (const int threads : {1, 2, 4}) {
+        QTest::addRow("%d threads, at once", threads) << threads << true;
+        QTest::addRow("%d threads, with what follows", threads) << threads << false;
+    }
+}
+
+/// Of this file's last group there is but the key frame and one that leads up to it.
+void VideoDecoderTest::lastKeyFrame_comesOutOnce_howeverOftenItIsDecoded()
+{
+    QFETCH(int, threads);
+    QFETCH(bool, atOnce);
+    const Sample& sample = testsupport::sampleNamed(QStringLiteral("mpeg4_bframes.avi"));
+    const int last = sample.frames - 1;
+    QCOMPARE(testsupport::keyFrames(sample).constLast(), last);
+    Player player(testsupport::samplePath(sample.file), threads);
+    QVERIFY(player.isReady());
+    player.decoder->setOptions(
+        {{QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), atOnce}}}});
+
+    for (int time = 0; time < 3; ++time) {
+        QVERIFY(player.demuxer.seek(testsupport::frameTimeMs(sample, last)));
+        player.decoder->flush();
+        QCOMPARE(player.showRest(), expectedFrom(sample, last));
     }
 }
 

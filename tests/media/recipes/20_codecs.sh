@@ -10,7 +10,18 @@ x265() {
 sample hevc_8bit.mp4 x265 75 keyint=25:open-gop=0:bframes=3
 sample hevc_10bit.mkv x265 75 keyint=25:open-gop=0:bframes=3 -pix_fmt yuv420p10le
 sample hevc_open_gop.mp4 x265 75 keyint=25:open-gop=1:bframes=3:scenecut=0
-sample hevc_temporal_layers.mp4 x265 75 keyint=25:open-gop=0:bframes=3:temporal-layers=1
+
+# x265_layered FILE FRAMES PARAMS: in two temporal sub-layers. x265 takes their number from 3.6 on,
+# before that it takes only whether there shall be any.
+x265_layered() {
+    local file=$1 frames=$2 params=$3 layers=2 complaints
+    complaints=$(ffmpeg -hide_banner -nostdin -v warning -f lavfi -i color=s=64x64 -frames:v 1 \
+        -c:v libx265 -x265-params "$X265_PARAMS:temporal-layers=$layers" -f null - 2>&1)
+    [[ $complaints != *'Invalid value for temporal-layers'* ]] || layers=1
+    x265 "$file" "$frames" "$params:temporal-layers=$layers"
+}
+
+sample hevc_temporal_layers.mp4 x265_layered 75 keyint=25:open-gop=0:bframes=3
 
 sample vp8.webm encode 320x240 25 75 -c:v libvpx "${VPX[@]}" -g 25 -auto-alt-ref 1 -lag-in-frames 16
 sample vp9.webm encode 320x240 25 75 -c:v libvpx-vp9 "${VPX[@]}" -pix_fmt yuv420p -g 25

@@ -21,10 +21,10 @@ patch_codes() {
                     depth == 8 ? $plane : 4 * $plane + 1; n++ }' <<<"$PATCHES"
 }
 
-# patches FILE SIZE DEPTH ARG…: 5 frames; ARG… are the encoder and the tags of matrix and range.
+# patches FILE SIZE DEPTH FILTER ARG…: 5 frames through FILTER and the encoder ARG….
 patches() {
-    local file=$1 size=$2 depth=$3
-    shift 3
+    local file=$1 size=$2 depth=$3 filter=$4
+    shift 4
     local layout=yuv420p whole=yuv444p
     ((depth == 8)) || { layout=yuv420p10le && whole=yuv444p10le; }
     local below=${size%x*}:$((${size#*x} - $(strip_height "$size")))
@@ -32,23 +32,35 @@ patches() {
     graph+=",geq=lum='$(patch_codes 1 "$depth")':cb='$(patch_codes 2 "$depth")'"
     graph+=":cr='$(patch_codes 3 "$depth")',scale=$below:flags=neighbor[patches]"
     graph+=";$(numbers "$size" 25),format=$whole[number]"
-    graph+=";[number][patches]vstack,format=$layout,setsar=1"
+    graph+=";[number][patches]vstack,format=$layout,setsar=1,$filter"
     ff -f lavfi -i "$graph" -frames:v 5 "${EXACT[@]}" "$@" "$file"
 }
 
 readonly LOSSLESS_8BIT=(-c:v libx264 -preset veryfast -qp 0)
 readonly LOSSLESS_10BIT=(-c:v ffv1)
 
+# tagged_patches FILE DEPTH MATRIX PRIMARIES TRANSFER RANGE ARG…: with the encoder ARG…. Both the
+# pictures and the encoder are tagged: FFmpeg from 7 on converts codes that come with other tags than
+# the encoder's, and before that no tags go from the one to the other.
+tagged_patches() {
+    local file=$1 depth=$2 matrix=$3 primaries=$4 transfer=$5 range=$6
+    shift 6
+    patches "$file" 320x240 "$depth" \
+        "setparams=colorspace=$matrix:color_primaries=$primaries:color_trc=$transfer:range=$range" \
+        "$@" -colorspace "$matrix" -color_primaries "$primaries" -color_trc "$transfer" \
+        -color_range "$range"
+}
+
 # matrix_samples NAME MATRIX PRIMARIES TRANSFER: limited and full range in both depths.
 matrix_samples() {
-    local name=$1 range
-    local tags=(-colorspace "$2" -color_primaries "$3" -color_trc "$4")
-    for range in limited full; do
-        tags+=(-color_range "$([[ $range == full ]] && echo pc || echo tv)")
-        sample "colour_${name}_${range}_8bit.mp4" patches 320x240 8 "${LOSSLESS_8BIT[@]}" \
-            "${tags[@]}"
-        sample "colour_${name}_${range}_10bit.mkv" patches 320x240 10 "${LOSSLESS_10BIT[@]}" \
-            "${tags[@]}"
+    local name=$1 tags=("$2" "$3" "$4") range
+    for range in tv pc; do
+        local extent=limited
+        [[ $range == tv ]] || extent=full
+        sample "colour_${name}_${extent}_8bit.mp4" \
+            tagged_patches 8 "${tags[@]}" "$range" "${LOSSLESS_8BIT[@]}"
+        sample "colour_${name}_${extent}_10bit.mkv" \
+            tagged_patches 10 "${tags[@]}" "$range" "${LOSSLESS_10BIT[@]}"
     done
 }
 
@@ -56,11 +68,19 @@ matrix_samples bt601 smpte170m smpte170m smpte170m
 matrix_samples bt709 bt709 bt709 bt709
 matrix_samples bt2020 bt2020nc bt2020 bt2020-10
 
+# untagged_10bit FILE SIZE: FFmpeg writes a range into every MKV that it encodes, into NUT it writes
+# none, and a copy says no more than its source.
+untagged_10bit() {
+    local file=$1 bare=${1%.*}.nut
+    patches "$bare" "$2" 10 null "${LOSSLESS_10BIT[@]}"
+    ff -i "$bare" -c copy "${EXACT[@]}" "$file"
+}
+
 # Without tags the matrix goes by the size: BT.601 below 720 lines, BT.709 from there up.
-sample colour_untagged_sd_8bit.mp4 patches 320x240 8 "${LOSSLESS_8BIT[@]}"
-sample colour_untagged_sd_10bit.mkv patches 320x240 10 "${LOSSLESS_10BIT[@]}"
-sample colour_untagged_hd_8bit.mp4 patches 1280x720 8 "${LOSSLESS_8BIT[@]}"
-sample colour_untagged_hd_10bit.mkv patches 1280x720 10 "${LOSSLESS_10BIT[@]}"
+sample colour_untagged_sd_8bit.mp4 patches 320x240 8 null "${LOSSLESS_8BIT[@]}"
+sample colour_untagged_sd_10bit.mkv untagged_10bit 320x240
+sample colour_untagged_hd_8bit.mp4 patches 1280x720 8 null "${LOSSLESS_8BIT[@]}"
+sample colour_untagged_hd_10bit.mkv untagged_10bit 1280x720
 
 sample h264_full_range.mp4 encode_filtered 320x240 25 50 scale=out_range=full,format=yuv420p \
     -color_range pc "${X264[@]}" -x264-params keyint=25:bframes=2
