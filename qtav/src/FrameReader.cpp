@@ -11,16 +11,12 @@ namespace QtAV {
 
 namespace {
 
-// FFmpeg's AVDiscard values.
-constexpr int DiscardDefault = 0;
-constexpr int DiscardNonReference = 8;
-
 constexpr qint64 SmallestStepBackMs = 500;
 
 /// Where frames are skipped, the key frame is not looked at either: it need not come out early.
 QVariantHash decoderOptions(bool skips)
 {
-    const int discard = skips ? DiscardNonReference : DiscardDefault;
+    const int discard = skips ? VideoDecoder::DiscardNonReference : VideoDecoder::DiscardDefault;
     return {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), discard}}},
             {QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), !skips}}}};
 }

@@ -48,8 +48,10 @@ qint64 Timeline::milliseconds(qint64 ticks) const
 double Timeline::seconds(qint64 ticks) const
 {
     const Fraction exact = exactSeconds(ticks);
-    double result = double(exact.numerator) / double(exact.denominator);
     const qint64 ms = narrowed(exact.numerator * 1000 / exact.denominator);
+    // Beyond that, neighbouring numbers are further apart than the steps below would ever cover.
+    double result = ms < MostTicks ? double(exact.numerator) / double(exact.denominator)
+                                   : double(MostTicks) / 1000.0;
     while (static_cast<qint64>(result * 1000.0) < ms)
         result = std::nextafter(result, std::numeric_limits<double>::infinity());
     while (static_cast<qint64>(result * 1000.0) > ms)

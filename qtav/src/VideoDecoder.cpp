@@ -35,6 +35,9 @@ bool isIntraOnly(AVCodecID codec)
     return descriptor && (descriptor->props & AV_CODEC_PROP_INTRA_ONLY);
 }
 
+static_assert(int(VideoDecoder::DiscardDefault) == int(AVDISCARD_DEFAULT));
+static_assert(int(VideoDecoder::DiscardNonReference) == int(AVDISCARD_NONREF));
+
 } // namespace
 
 class VideoDecoder::Private

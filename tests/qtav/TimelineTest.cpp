@@ -20,6 +20,7 @@ private slots:
     void lastTickOf_isTheLastOneOfItsMillisecond_data();
     void lastTickOf_isTheLastOneOfItsMillisecond();
     void times_stayFinite_forAbsurdTicks();
+    void seconds_end_whereNumbersGetCoarse();
 };
 
 void TimelineTest::milliseconds_areCutOff_notRounded()
@@ -99,6 +100,19 @@ void TimelineTest::times_stayFinite_forAbsurdTicks()
             QVERIFY(std::isfinite(timeline.seconds(ticks)));
         }
         QVERIFY(timeline.lastTickOf(qint64(1) << 40) != 0);
+    }
+}
+
+/// Times of thousands of years, in ticks of a minute: neighbouring numbers are milliseconds apart.
+void TimelineTest::seconds_end_whereNumbersGetCoarse()
+{
+    for (const int num : {1, 60, 3600, 1 << 30}) {
+        const Timeline timeline({num, 1}, 0, {1, 1000});
+        for (int bits = 40; bits < 63; ++bits) {
+            const qint64 ticks = qint64(1) << bits;
+            const qint64 ms = timeline.milliseconds(ticks);
+            QCOMPARE(static_cast<qint64>(timeline.seconds(ticks) * 1000.0), ms);
+        }
     }
 }
 

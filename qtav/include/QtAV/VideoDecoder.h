@@ -17,6 +17,9 @@ namespace QtAV {
 class VideoDecoder
 {
 public:
+    /// Which pictures the decoder skips, as the options have it: FFmpeg's AVDiscard values.
+    enum Discard { DiscardDefault = 0, DiscardNonReference = 8 };
+
     /// The decoder of that name, owned by the caller. There is one, "FFmpeg"; any other name
     /// gives null.
     static VideoDecoder* create(const char* name);
@@ -34,7 +37,7 @@ public:
     bool isOpen() const;
 
     /// Options by section and key. Understood, from the next packet on: section "avcodec" with
-    /// the integers "skip_frame" and "skip_loop_filter" (FFmpeg's AVDiscard values), and, before
+    /// the integers "skip_frame" and "skip_loop_filter" (each a Discard), and, before
     /// open(), "threads" (0 = as many as there are cores); section "start" with the bool
     /// "key_frame_at_once", true unless said. All others are ignored.
     void setOptions(const QVariantHash& options);
