@@ -26,10 +26,10 @@ int main(int argc, char** argv)
 {
     needNoDisplay();
     hideDebugLines();
-    QApplication app(argc, argv);
+    const auto app = Startup::makeApplication(argc, argv);
     Startup::setIdentity();
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();
-    processCommandLine(app);
+    processCommandLine(*app);
     return 0;
 }

@@ -19,9 +19,9 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     MemoryPolicy::returnFreedMemory();
     GraphicsPolicy::avoidImitatedOpenGL();
-    QApplication app(argc, argv);
+    const auto app = Startup::makeApplication(argc, argv);
     Startup::setIdentity();
-    if (!checkSupportedOS(app)) {
+    if (!checkSupportedOS(*app)) {
         std::exit(-1);
     }
     QtAV::Widgets::registerRenderers();
@@ -29,6 +29,6 @@ int main(int argc, char** argv)
     Startup::registerMetaTypes();
     // Kept for the whole run: settings objects that come and go then share its open file.
     const QSettings settings;
-    showMainWindow(app);
+    showMainWindow(*app);
     return 0;
 }

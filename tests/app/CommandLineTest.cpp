@@ -47,6 +47,7 @@ class CommandLineTest : public QObject
 private Q_SLOTS:
     void run_takesAnImageEvery5000ms_nextToTheVideo();
     void run_printsNothing();
+    void run_complainsOfNothing_inASessionWithoutARuntimeFolder();
     void run_printsDebugLines_onRequest();
     void images_goToTheDestination();
     void paths_mayBeRelative();
@@ -88,6 +89,20 @@ void CommandLineTest::run_printsNothing()
     QCOMPARE(result.standardOutput, QByteArray());
     QVERIFY2(!result.standardError.contains("BatchWorker"), result.standardError.constData());
     QVERIFY2(!result.standardError.contains("progress"), result.standardError.constData());
+}
+
+void CommandLineTest::run_complainsOfNothing_inASessionWithoutARuntimeFolder()
+{
+    const TestDir dir;
+    const TestDir temporary;
+    QProcessEnvironment environment = commandline::environment();
+    environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+    environment.insert(QStringLiteral("TMPDIR"), temporary.path());
+    const ProgramResult result = testsupport::runProgram(
+        commandline::program(), {copySample(shortSample, dir.path())}, 60000, environment);
+    QVERIFY(result.succeeded());
+    QCOMPARE(result.standardError, QByteArray());
+    QVERIFY(QDir(temporary.path()).isEmpty());
 }
 
 void CommandLineTest::run_printsDebugLines_onRequest()

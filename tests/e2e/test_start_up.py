@@ -34,6 +34,20 @@ class StartUpTest(MorvantileCase):
         self.desktop.key("ctrl+Right")
         self.wait_for_frame(program, number + 1)
 
+    def test_session_without_a_runtime_folder_is_not_complained_of(self):
+        temporary = self.folder / "temporary"
+        temporary.mkdir()
+        program = self.start(environment={"XDG_RUNTIME_DIR": None, "TMPDIR": str(temporary)})
+        self.open_paused(program, self.sample("flashes_and_beeps.mp4"))
+        self.take_snapshot(program)
+        self.save_as(program, self.folder / "one.png")
+        self.desktop.key("alt+F4")
+        self.assertEqual(program.wait_for_end(), 0)
+        self.assertNotIn("XDG_RUNTIME_DIR", program.log)
+        # The sound server's client keeps a folder of its own there.
+        left = [file.name for file in temporary.iterdir() if not file.name.startswith("pulse-")]
+        self.assertEqual(left, [])
+
     def test_two_windows_live_beside_each_other(self):
         first = self.start()
         number = self.open_paused(first, self.sample("h264_gop250.mp4"))

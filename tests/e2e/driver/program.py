@@ -16,6 +16,7 @@ class Program:
     """A running `morvantile`. To be used in a `with`, which ends it if it still runs.
 
     `home` is the folder of its settings, so that a second start may find what the first one left.
+    A variable of the environment that is None is not set.
     """
 
     def __init__(self, desktop, home, arguments=(), environment=None):
@@ -48,7 +49,7 @@ class Program:
 
     def _all_environment(self):
         sanitizers = {key: os.environ[key] for key in os.environ if key.endswith("SAN_OPTIONS")}
-        return {
+        environment = {
             **self.desktop.environment,
             "HOME": str(self._home),
             "XDG_CONFIG_HOME": str(self._home / "config"),
@@ -59,6 +60,7 @@ class Program:
             **sanitizers,
             **self._environment,
         }
+        return {key: value for key, value in environment.items() if value is not None}
 
     # --- windows and controls ------------------------------------------------------------------
 
