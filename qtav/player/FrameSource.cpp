@@ -251,6 +251,8 @@ bool FrameSource::prepare(Rest rest, const IsCancelled& isCancelled)
     if (!run)
         return false;
     const bool goesForward = m_move == Move::Forward && rest < beforeTurningBack;
+    if (goesForward && m_fill.isUnderWay() && !m_fill.isOnTheWayTo(run->end))
+        m_fill.leave();
     if (goesForward && !m_fill.isUnderWay())
         return returnToEnd(*run, isCancelled) || decodeAhead(*run, isCancelled);
     if (rest < beforeFilling)
@@ -331,7 +333,6 @@ bool FrameSource::startReturn(double target, double end)
 {
     if (m_returnedTo == m_focus)
         return false;
-    m_fill.leave();
     m_returnedTo = m_focus;
     m_returnsTo = end;
     const qint64 ms = toMilliseconds(target);

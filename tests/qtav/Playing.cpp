@@ -8,8 +8,10 @@ namespace playing {
 
 void Screen::present(const QtAV::VideoFrame& newFrame)
 {
+    const bool isRefined =
+        frame.isScaledDown() && newFrame.isValid() && newFrame.timestamp() == frame.timestamp();
     frame = newFrame;
-    if (frame.isValid())
+    if (frame.isValid() && !isRefined)
         shown.append(decoding::shown(frame));
     Q_EMIT presented();
 }
@@ -41,16 +43,25 @@ bool Stage::seek(qint64 ms)
 
 bool Stage::stepForward()
 {
-    QSignalSpy presented(&screen, &Screen::presented);
-    player.stepForward();
-    return presented.wait(Patience);
+    return waitForOther([this] { player.stepForward(); });
 }
 
 bool Stage::stepBackward()
 {
+    return waitForOther([this] { player.stepBackward(); });
+}
+
+/// The frame on screen may come once more meanwhile, in full size: that is no answer.
+bool Stage::waitForOther(const std::function<void()>& action)
+{
+    const double before = screen.frame.timestamp();
     QSignalSpy presented(&screen, &Screen::presented);
-    player.stepBackward();
-    return presented.wait(Patience);
+    action();
+    while (screen.frame.timestamp() == before) {
+        if (!presented.wait(Patience))
+            return false;
+    }
+    return true;
 }
 
 /// A player that has been told nothing for this long has nothing more to answer.

@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QSignalSpy>
 
+#include <functional>
+
 /// What the tests of the player share.
 namespace playing {
 
@@ -22,7 +24,8 @@ public:
     void present(const QtAV::VideoFrame& newFrame) override;
 
     QtAV::VideoFrame frame;
-    QList<decoding::Shown> shown; ///< without the invalid frames
+    /// Without the invalid frames, and without those that came again in full size.
+    QList<decoding::Shown> shown;
 
 Q_SIGNALS:
     void presented();
@@ -51,6 +54,9 @@ public:
 
     Screen screen;
     QtAV::AVPlayer player;
+
+private:
+    [[nodiscard]] bool waitForOther(const std::function<void()>& action);
 };
 
 } // namespace playing
