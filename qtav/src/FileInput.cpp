@@ -204,6 +204,8 @@ std::unique_ptr<FileInput> FileInput::open(const QString& path, const IsCancelle
 
 int FileInput::readAt(qint64 position, uint8_t* buffer, int bytes)
 {
+    if (m_isCancelled())
+        return noted(AVERROR_EXIT);
     const int ready = readWithoutWaiting(m_reader->file, position, buffer, bytes);
     if (ready >= 0)
         return ready;
