@@ -106,9 +106,13 @@ public:
     /// The interval in a few words, for lists.
     QString intervalDisplay() const;
 
-    /// What loadVideoInfo() found out about the source; not loaded before.
+    /// What is known about the source; nothing before loadVideoInfo() or setVideoFacts().
     const VideoInfo& videoInfo() const { return m_videoInfo; }
+    /// Reads the source, and returns when that is done: see VideoInfoLoader for a way that does not
+    /// block the user interface.
     void loadVideoInfo();
+    /// Takes over what was read in another thread.
+    void setVideoFacts(const VideoFacts& facts) { m_videoInfo.setFacts(facts); }
 
     /// Writes the settings to the file of batch defaults; the source and the output folder are
     /// no defaults.

@@ -5,6 +5,13 @@
 #include <QDebug>
 #include <QException>
 
+#include <utility>
+
+void VideoInfo::setInterrupt(QtAV::IsCancelled isCancelled)
+{
+    m_isCancelled = std::move(isCancelled);
+}
+
 void VideoInfo::loadFromVideo(QString path)
 {
     try {
@@ -24,6 +31,7 @@ bool VideoInfo::internalLoadFromVideo(QString path)
     QtAV::AVDemuxer demuxer;
     demuxer.unload();
     demuxer.setMedia(path);
+    demuxer.setInterrupt(m_isCancelled);
     if (!demuxer.load()) {
         return false;
     }
@@ -40,4 +48,12 @@ bool VideoInfo::internalLoadFromVideo(QString path)
     width = context->width;
     height = context->height;
     return true;
+}
+
+void VideoInfo::setFacts(const VideoFacts& facts)
+{
+    duration = facts.duration;
+    width = facts.width;
+    height = facts.height;
+    loaded = facts.loaded;
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "video/VideoFacts.h"
+
+#include <QtAV/FrameResult.h>
+
 #include <QObject>
 #include <QString>
 
@@ -14,13 +18,23 @@ class VideoInfo : public QObject
 public:
     using QObject::QObject;
 
-    /// Reads the facts of the file at `path`. What went wrong is written to the message log, and
-    /// `loaded` then keeps its value: nothing else is reported.
+    /// Asked often while a file is read, and while the disk does not answer. Once it says true, the
+    /// load fails within a moment and changes nothing. Empty, as at first, for none.
+    void setInterrupt(QtAV::IsCancelled isCancelled);
+
+    /// Reads the facts of the file at `path`, which takes minutes for some large damaged files.
+    /// What went wrong is written to the message log, and `loaded` then keeps its value: nothing
+    /// else is reported.
     void loadFromVideo(QString path);
 
     /// The reading itself: true when the file has a usable video stream. A file without one fills
     /// `duration` alone, a file that cannot be opened changes nothing.
     [[nodiscard]] bool internalLoadFromVideo(QString path);
+
+    /// What is known, to be handed to another thread.
+    VideoFacts facts() const { return {duration, width, height, loaded}; }
+    /// Takes over what was read elsewhere.
+    void setFacts(const VideoFacts& facts);
 
     /// Length in milliseconds.
     qint64 duration = 0;
@@ -30,4 +44,7 @@ public:
     qint32 height = 0;
     /// True once a load succeeded; no later failure resets it.
     bool loaded = false;
+
+private:
+    QtAV::IsCancelled m_isCancelled;
 };

@@ -1,10 +1,14 @@
 #include "tests/video/MakeVideo.h"
 
 #include "tests/support/RunProgram.h"
+#include "tests/support/Samples.h"
 
+#include <QFile>
 #include <QtGlobal>
 
 namespace {
+
+constexpr qint64 slowVideoBytes = qint64(64) << 30;
 
 void encode(const QString& path, int frames, int frameMs, const QStringList& codec)
 {
@@ -40,4 +44,13 @@ void testsupport::makeVideoWithOneKeyFrame(const QString& path, int frames, int 
            {QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-pix_fmt"),
             QStringLiteral("yuv420p"), QStringLiteral("-bf"), QStringLiteral("0"),
             QStringLiteral("-x264-params"), QStringLiteral("keyint=100000:scenecut=0")});
+}
+
+void testsupport::makeSlowVideo(const QString& path)
+{
+    QFile file(path);
+    if (!QFile::copy(samplePath(QStringLiteral("h264_bframes.mkv")), path) ||
+        !file.resize(slowVideoBytes)) {
+        qFatal("cannot make a slow video: %s", qUtf8Printable(file.errorString()));
+    }
 }

@@ -25,6 +25,9 @@ private Q_SLOTS:
     void load_fillsLengthAlone_whenThereIsNoVideo();
     void load_changesNothing_whenTheFileIsMissing();
     void loaded_staysTrue_whenALaterLoadFails();
+    void interruptedLoad_changesNothing();
+    void interrupt_isAsked_untilItIsRemoved();
+    void facts_travelToAnotherObject();
 };
 
 void VideoInfoTest::fields_areEmpty_beforeAnyLoad()
@@ -123,6 +126,48 @@ void VideoInfoTest::loaded_staysTrue_whenALaterLoadFails()
     info.loadFromVideo(dir.filePath(QStringLiteral("missing.mp4")));
     QVERIFY(info.loaded);
     QCOMPARE(info.duration, duration);
+}
+
+void VideoInfoTest::interruptedLoad_changesNothing()
+{
+    VideoInfo info;
+    info.duration = 7;
+    info.setInterrupt([] { return true; });
+    QTest::ignoreMessage(QtDebugMsg, "Error loading VideoInfo");
+    info.loadFromVideo(samplePath(QStringLiteral("h264_bframes.mp4")));
+    QCOMPARE(info.duration, 7);
+    QCOMPARE(info.width, 0);
+    QVERIFY(!info.loaded);
+}
+
+void VideoInfoTest::interrupt_isAsked_untilItIsRemoved()
+{
+    VideoInfo info;
+    int questions = 0;
+    info.setInterrupt([&questions] {
+        ++questions;
+        return false;
+    });
+    info.loadFromVideo(samplePath(QStringLiteral("h264_bframes.mp4")));
+    QVERIFY(info.loaded);
+    QVERIFY(questions > 0);
+    questions = 0;
+    info.setInterrupt({});
+    info.loadFromVideo(samplePath(QStringLiteral("h264_bframes.mp4")));
+    QCOMPARE(questions, 0);
+}
+
+void VideoInfoTest::facts_travelToAnotherObject()
+{
+    VideoInfo info;
+    QVERIFY(!info.facts().loaded);
+    info.loadFromVideo(samplePath(QStringLiteral("h264_bframes.mp4")));
+    VideoInfo other;
+    other.setFacts(info.facts());
+    QVERIFY(other.loaded);
+    QVERIFY(other.duration > 0);
+    QCOMPARE(other.duration, info.duration);
+    QCOMPARE(QSize(other.width, other.height), QSize(320, 240));
 }
 
 QTEST_GUILESS_MAIN(VideoInfoTest)

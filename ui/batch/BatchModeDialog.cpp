@@ -2,6 +2,7 @@
 
 #include "batch/BatchModeListModel.h"
 #include "batch/BatchWorkerConfig.h"
+#include "batch/VideoInfoLoader.h"
 #include "profiles/ProfileManager.h"
 #include "ui/batch/MergedField.h"
 #include "ui/widgets/EqualWidths.h"
@@ -41,6 +42,7 @@ BatchModeDialog::BatchModeDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::BatchModeDialog>())
     , m_model(new BatchModeListModel(this))
+    , m_loader(new VideoInfoLoader(this))
 {
     m_ui->setupUi(this);
     GroupBoxMargins::apply(*this);
@@ -49,6 +51,7 @@ BatchModeDialog::BatchModeDialog(QWidget* parent)
     alignCaptions();
     growWithFont();
     setupFilesTable();
+    setupLoading();
     loadProfileComboBox(m_ui->imageProfileComboBox, ImageProfile::profileManager());
     loadProfileComboBox(m_ui->filenameProfileComboBox, FileNameProfile::profileManager());
     loadSingleShotComboBox();
@@ -205,8 +208,10 @@ void BatchModeDialog::updateFieldsEnabled()
     const QScopedValueRollback<bool> loading(m_isLoading, true);
     const bool hasRows = m_model->rowCount() > 0;
     const bool hasSelection = m_ui->filesTableView->selectionModel()->hasSelection();
-    m_emptyListHint->setVisible(!hasRows);
-    m_ui->startButton->setEnabled(hasRows);
+    m_emptyListHint->setVisible(!hasRows && !isLoading());
+    m_ui->startButton->setEnabled(hasRows && !isLoading());
+    m_ui->startButton->setToolTip(
+        isLoading() ? tr("The batch can start when all videos have been read") : QString());
     m_ui->selectAllVideoButton->setEnabled(hasRows);
     if (!hasSelection) {
         m_ui->selectedVideoFileNameLabel->setText(tr("[No Video Selected]"));

@@ -2,8 +2,10 @@
 
 #include <QDialog>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 
 #include <memory>
 
@@ -16,6 +18,7 @@ class QLabel;
 class QLineEdit;
 class QRadioButton;
 class QWidget;
+class VideoInfoLoader;
 
 namespace Ui {
 class BatchModeDialog;
@@ -28,6 +31,9 @@ class BatchModeDialog;
 /// these are taken back when their field is left. Where the selected jobs differ, the form shows
 /// "[Multiple]". New jobs begin with the settings of the one edited last, also in the next dialog.
 ///
+/// Videos are read in the background, and each one's job is listed when it has been read. The batch
+/// can start when all are. Closing the dialog drops those that have not been read.
+///
 /// The jobs live as long as the dialog, removed ones too. User-interface thread only.
 class BatchModeDialog : public QDialog
 {
@@ -37,8 +43,17 @@ public:
     explicit BatchModeDialog(QWidget* parent = nullptr);
     ~BatchModeDialog() override;
 
-    /// Lists the videos, each with a job like the one edited last, and selects them alone.
+    /// Begins to read the videos, behind those being read, and returns at once. They are listed in
+    /// this order, unreadable ones too, each with a job like the one edited last. When all are,
+    /// they become selected alone, unless other jobs were selected meanwhile.
     void loadVideos(const QStringList& files);
+
+    /// Whether videos are still being read.
+    bool isLoading() const;
+
+Q_SIGNALS:
+    /// All videos are listed, or loading was stopped.
+    void loadingFinished();
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -47,6 +62,7 @@ protected:
 
 private Q_SLOTS:
     void on_loadVideoButton_clicked();
+    void on_stopLoadingButton_clicked();
     void on_removeVideoButton_clicked();
     void on_selectAllVideoButton_clicked();
     void loadFormValues();
@@ -73,7 +89,12 @@ private Q_SLOTS:
     void saveBatchWorkerConfigDefault();
 
 private:
+    void setupLoading();
     void addVideos(const QStringList& files);
+    void listJob(BatchWorkerConfig* job);
+    void showLoading();
+    void endLoading();
+    void selectNewJobs();
     void setupFilesTable();
     void setupPropertyFields();
     void arrangeButtons();
@@ -89,6 +110,11 @@ private:
 
     const std::unique_ptr<Ui::BatchModeDialog> m_ui;
     BatchModeListModel* const m_model;
+    VideoInfoLoader* const m_loader;
+    /// What loadVideos() was last called for; empty once all is loaded.
+    QSet<BatchWorkerConfig*> m_newJobs;
+    /// Runs until it shows that videos are being read.
+    QTimer m_loadingDelay;
     /// Shown in the list as long as it is empty.
     QLabel* m_emptyListHint = nullptr;
     QList<Field*> m_fields;

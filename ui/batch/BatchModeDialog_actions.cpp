@@ -1,4 +1,4 @@
-// What batch mode opens: videos, folders, profiles and batches.
+// What batch mode opens: folders, profiles and batches.
 
 #include "ui/batch/BatchModeDialog.h"
 
@@ -11,39 +11,12 @@
 #include "ui/widgets/SmartFileDialog.h"
 #include "ui_BatchModeDialog.h"
 
-#include <QApplication>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QFileInfo>
-#include <QMimeData>
 #include <QStandardPaths>
-#include <QUrl>
 
 #include <algorithm>
 
 namespace {
-
-/// Shows the cursor that asks for patience while it lives.
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
-
-QStringList localFiles(const QMimeData& data)
-{
-    QStringList files;
-    const QList<QUrl> urls = data.urls();
-    for (const QUrl& url : urls) {
-        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
-            files.append(url.toLocalFile());
-        }
-    }
-    return files;
-}
 
 /// What all the jobs have for a profile; null where they differ.
 template <typename Getter>
@@ -63,47 +36,6 @@ BaseProfile* profileAt(const QComboBox& comboBox, int index, const ProfileManage
 }
 
 } // namespace
-
-void BatchModeDialog::on_loadVideoButton_clicked()
-{
-    saveBatchWorkerConfigDefault();
-    SmartFileDialog dialog(this, QStringLiteral("openDialog"));
-    dialog.setFiltersToVideo();
-    dialog.setFileMode(QFileDialog::ExistingFiles);
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    if (dialog.exec() == QDialog::Accepted) {
-        addVideos(dialog.selectedFiles());
-    }
-}
-
-void BatchModeDialog::loadVideos(const QStringList& files)
-{
-    saveBatchWorkerConfigDefault();
-    addVideos(files);
-}
-
-void BatchModeDialog::addVideos(const QStringList& files)
-{
-    if (files.isEmpty()) {
-        return;
-    }
-    const int first = m_model->rowCount();
-    {
-        const WaitCursor waitCursor;
-        for (const QString& file : files) {
-            auto* const config = new BatchWorkerConfig(this);
-            config->loadFromLastUsed();
-            config->setSource(file);
-            config->loadVideoInfo();
-            m_model->addConfig(config);
-        }
-    }
-    const QItemSelection rows(m_model->index(first, 0), m_model->index(m_model->rowCount() - 1, 0));
-    QItemSelectionModel& selection = *m_ui->filesTableView->selectionModel();
-    selection.setCurrentIndex(m_model->index(first, 0), QItemSelectionModel::NoUpdate);
-    // In one go: the form is filled anew with each change.
-    selection.select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-}
 
 void BatchModeDialog::on_removeVideoButton_clicked()
 {
@@ -228,17 +160,4 @@ void BatchModeDialog::on_startButton_clicked()
 void BatchModeDialog::on_cancelButton_clicked()
 {
     close();
-}
-
-void BatchModeDialog::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!localFiles(*event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
-    }
-}
-
-void BatchModeDialog::dropEvent(QDropEvent* event)
-{
-    loadVideos(localFiles(*event->mimeData()));
-    event->acceptProposedAction();
 }

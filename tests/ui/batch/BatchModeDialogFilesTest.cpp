@@ -124,6 +124,7 @@ void BatchModeDialogFilesTest::loadedVideos_areSelectedAlone()
     });
     mode.click("loadVideoButton");
     QVERIFY(script.isDone());
+    mode.waitUntilLoaded();
     QCOMPARE(mode.model().rowCount(), 5);
     QCOMPARE(mode.selectedRows(), (QList<int>{2, 3, 4}));
     QCOMPARE(mode.job(4).source(), mode.dir().filePath(QStringLiteral("z.mov")));
@@ -135,7 +136,7 @@ void BatchModeDialogFilesTest::loadedVideos_areSelectedAlone()
 void BatchModeDialogFilesTest::loadedVideo_isProbed()
 {
     ModeDialog mode;
-    mode.dialog().loadVideos({samplePath(QStringLiteral("h264_gop250.mp4"))});
+    mode.load({samplePath(QStringLiteral("h264_gop250.mp4"))});
     QCOMPARE(mode.job(0).videoInfo().duration, 20800);
 }
 
@@ -168,13 +169,14 @@ void BatchModeDialogFilesTest::loadedVideos_beginLikeTheOneEditedLast()
 
 void BatchModeDialogFilesTest::droppedFiles_areLoaded_andFoldersAreNot()
 {
-    const ModeDialog mode;
+    ModeDialog mode;
     const QString path = mode.dir().filePath(QStringLiteral("dropped.mov"));
     makeFile(path);
     QVERIFY(!drop(mode, {QUrl::fromLocalFile(mode.dir().path())}));
     QVERIFY(!drop(mode, {QUrl(QStringLiteral("https://morvantile.example/video.mov"))}));
     QCOMPARE(mode.model().rowCount(), 0);
     QVERIFY(drop(mode, {QUrl::fromLocalFile(path), QUrl::fromLocalFile(mode.dir().path())}));
+    mode.waitUntilLoaded();
     QCOMPARE(mode.model().rowCount(), 1);
     QCOMPARE(mode.job(0).source(), path);
     QCOMPARE(mode.selectedRows(), QList<int>{0});
@@ -345,7 +347,7 @@ void BatchModeDialogFilesTest::cancelledImageProfile_changesNothing_whereJobsDif
 void BatchModeDialogFilesTest::start_runsAllJobs_andKeepsTheList()
 {
     ModeDialog mode;
-    mode.dialog().loadVideos(
+    mode.load(
         {samplePath(QStringLiteral("mpeg4.mp4")), samplePath(QStringLiteral("h264_bframes.mp4"))});
     mode.load(1);
     mode.click("selectAllVideoButton");
@@ -394,7 +396,7 @@ void BatchModeDialogFilesTest::start_savesTheDefaults_ofTheLastSelectedJob()
 void BatchModeDialogFilesTest::start_showsIntervalsThatWereCorrected()
 {
     ModeDialog mode;
-    mode.dialog().loadVideos({samplePath(QStringLiteral("mpeg4.mp4"))});
+    mode.load({samplePath(QStringLiteral("mpeg4.mp4"))});
     mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(mode.dir().path());
     mode.enter("intervalImagesTextEdit", QStringLiteral("1"));
     ModalScript script;

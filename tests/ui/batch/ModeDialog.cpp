@@ -15,6 +15,8 @@ namespace testsupport {
 
 namespace {
 
+constexpr int longestLoadingMs = 30000;
+
 /// The managers live as long as the program; every case finds these profiles, the first used last.
 template <typename Profile>
 void useTwoProfiles()
@@ -62,7 +64,20 @@ void ModeDialog::load(int count)
         }
         files.append(made.fileName());
     }
+    load(files);
+}
+
+void ModeDialog::load(const QStringList& files)
+{
     m_dialog.loadVideos(files);
+    waitUntilLoaded();
+}
+
+void ModeDialog::waitUntilLoaded()
+{
+    if (!QTest::qWaitFor([this] { return !m_dialog.isLoading(); }, longestLoadingMs)) {
+        qFatal("the videos are still being read");
+    }
 }
 
 void ModeDialog::select(const QList<int>& rows) const

@@ -28,6 +28,10 @@ public:
 
     /// Lists that many files, a.mov, b.mov and so on, which hold no video. They become selected.
     void load(int count);
+    /// Lists these videos.
+    void load(const QStringList& files);
+    /// Ends the test program when loading takes longer than any test may.
+    void waitUntilLoaded();
     QString file(int row) const;
 
     void select(const QList<int>& rows) const;

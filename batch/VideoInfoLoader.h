@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+#include <memory>
+#include <thread>
+
+class BatchWorkerConfig;
+
+/// Reads the facts of batch jobs' videos in a thread of its own, one video after another.
+///
+/// A large damaged video takes minutes to read, and a disk may not answer at all. So the owner
+/// never waits for a video; a read that does not end soon after it was cancelled is left behind
+/// with its thread, which ends with the read.
+///
+/// Belongs to the user-interface thread, where its signals arrive from the event loop. Its slots
+/// may load more or cancel, but not delete it.
+class VideoInfoLoader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit VideoInfoLoader(QObject* parent = nullptr);
+    /// Cancels, without a signal.
+    ~VideoInfoLoader() override;
+
+    /// Appends jobs to what is to be read, and returns at once. The jobs are not owned and must
+    /// live until loaded() has reported them or cancel() has returned them.
+    void load(const QList<BatchWorkerConfig*>& jobs);
+
+    /// Drops the jobs whose videos have not been read, and returns them in their order. Waits for
+    /// the running read, but no longer than a moment.
+    QList<BatchWorkerConfig*> cancel();
+
+    /// True from load() until the last job is loaded or dropped.
+    bool isLoading() const { return !m_waiting.isEmpty(); }
+
+    /// How many jobs are loaded, and how many there are with those that wait, both since nothing
+    /// waited.
+    int loadedCount() const { return m_loadedCount; }
+    int jobCount() const { return m_loadedCount + m_waiting.size(); }
+
+    /// The job whose video is being read; null for none.
+    BatchWorkerConfig* currentJob() const { return m_waiting.value(0); }
+
+Q_SIGNALS:
+    /// The job's videoInfo() holds what was found, which is nothing for an unreadable video. Jobs
+    /// come in the order of load().
+    void loaded(BatchWorkerConfig* job);
+    /// No job waits any more: all are loaded or dropped.
+    void finished();
+
+private:
+    class Reader;
+
+    void start();
+    void stop();
+    void takeFacts();
+
+    /// The jobs that are to be read, the first one of them being read.
+    QList<BatchWorkerConfig*> m_waiting;
+    int m_loadedCount = 0;
+    /// Shared with the thread; null while nothing is read.
+    std::shared_ptr<Reader> m_reader;
+    std::thread m_thread;
+};

@@ -1,0 +1,173 @@
+// How videos come into batch mode: chosen or dropped, then read one after another.
+
+#include "ui/batch/BatchModeDialog.h"
+
+#include "batch/BatchModeListModel.h"
+#include "batch/BatchWorkerConfig.h"
+#include "batch/VideoInfoLoader.h"
+#include "ui/widgets/SmartFileDialog.h"
+#include "ui_BatchModeDialog.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QItemSelection>
+#include <QMimeData>
+#include <QUrl>
+
+#include <chrono>
+
+namespace {
+
+/// How long videos are read before it shows: most are read at once, and nothing should flash up.
+constexpr std::chrono::milliseconds longestUnseenLoading{300};
+
+/// In average letters.
+constexpr int progressBarWidth = 12;
+
+QStringList localFiles(const QMimeData& data)
+{
+    QStringList files;
+    const QList<QUrl> urls = data.urls();
+    for (const QUrl& url : urls) {
+        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
+            files.append(url.toLocalFile());
+        }
+    }
+    return files;
+}
+
+} // namespace
+
+void BatchModeDialog::setupLoading()
+{
+    QWidget& widget = *m_ui->loadingWidget;
+    // Its place also keeps the buttons beside it apart.
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+    widget.hide();
+    m_ui->loadingProgressBar->setFixedWidth(progressBarWidth * fontMetrics().averageCharWidth());
+    m_loadingDelay.setSingleShot(true);
+    m_loadingDelay.setInterval(longestUnseenLoading);
+    connect(&m_loadingDelay, &QTimer::timeout, &widget, &QWidget::show);
+    connect(m_loader, &VideoInfoLoader::loaded, this, &BatchModeDialog::listJob);
+    connect(m_loader, &VideoInfoLoader::finished, this, &BatchModeDialog::endLoading);
+    connect(this, &QDialog::finished, this, &BatchModeDialog::on_stopLoadingButton_clicked);
+}
+
+void BatchModeDialog::on_loadVideoButton_clicked()
+{
+    saveBatchWorkerConfigDefault();
+    SmartFileDialog dialog(this, QStringLiteral("openDialog"));
+    dialog.setFiltersToVideo();
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    if (dialog.exec() == QDialog::Accepted) {
+        addVideos(dialog.selectedFiles());
+    }
+}
+
+void BatchModeDialog::loadVideos(const QStringList& files)
+{
+    saveBatchWorkerConfigDefault();
+    addVideos(files);
+}
+
+bool BatchModeDialog::isLoading() const
+{
+    return m_loader->isLoading();
+}
+
+/// The selection is cleared first: what a person selects before all is read stays selected then.
+void BatchModeDialog::addVideos(const QStringList& files)
+{
+    if (files.isEmpty()) {
+        return;
+    }
+    QList<BatchWorkerConfig*> jobs;
+    for (const QString& file : files) {
+        auto* const config = new BatchWorkerConfig(this);
+        config->loadFromLastUsed();
+        config->setSource(file);
+        jobs.append(config);
+    }
+    m_newJobs = QSet<BatchWorkerConfig*>(jobs.cbegin(), jobs.cend());
+    m_ui->filesTableView->clearSelection();
+    if (!isLoading()) {
+        m_loadingDelay.start();
+    }
+    m_loader->load(jobs);
+    showLoading();
+}
+
+void BatchModeDialog::listJob(BatchWorkerConfig* job)
+{
+    m_model->addConfig(job);
+    showLoading();
+}
+
+void BatchModeDialog::showLoading()
+{
+    updateFieldsEnabled();
+    if (const BatchWorkerConfig* const job = m_loader->currentJob()) {
+        m_ui->loadingLabel->setText(tr("Reading video %1 of %2:")
+                                        .arg(m_loader->loadedCount() + 1)
+                                        .arg(m_loader->jobCount()));
+        m_ui->loadingFileLabel->setText(QFileInfo(job->source()).fileName());
+    }
+    m_ui->loadingProgressBar->setMaximum(m_loader->jobCount());
+    m_ui->loadingProgressBar->setValue(m_loader->loadedCount());
+}
+
+void BatchModeDialog::on_stopLoadingButton_clicked()
+{
+    qDeleteAll(m_loader->cancel());
+}
+
+void BatchModeDialog::endLoading()
+{
+    m_loadingDelay.stop();
+    if (m_ui->stopLoadingButton->hasFocus()) {
+        m_ui->filesTableView->setFocus();
+    }
+    m_ui->loadingWidget->hide();
+    updateFieldsEnabled();
+    if (!m_ui->filesTableView->selectionModel()->hasSelection()) {
+        selectNewJobs();
+    }
+    m_newJobs.clear();
+    Q_EMIT loadingFinished();
+}
+
+/// They come last in the list. Some may be missing, since loading can be stopped and jobs be
+/// removed.
+void BatchModeDialog::selectNewJobs()
+{
+    const int end = m_model->rowCount();
+    int first = end;
+    while (first > 0 && m_newJobs.contains(m_model->getConfig(first - 1))) {
+        --first;
+    }
+    if (first == end) {
+        return;
+    }
+    const QItemSelection rows(m_model->index(first, 0), m_model->index(end - 1, 0));
+    QItemSelectionModel& selection = *m_ui->filesTableView->selectionModel();
+    selection.setCurrentIndex(m_model->index(first, 0), QItemSelectionModel::NoUpdate);
+    // In one go: the form is filled anew with each change.
+    selection.select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void BatchModeDialog::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!localFiles(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void BatchModeDialog::dropEvent(QDropEvent* event)
+{
+    loadVideos(localFiles(*event->mimeData()));
+    event->acceptProposedAction();
+}
