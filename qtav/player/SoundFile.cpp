@@ -83,7 +83,8 @@ bool SoundFile::seek(double seconds)
 bool SoundFile::goTo(double seconds)
 {
     const auto ms = static_cast<qint64>(std::max(0.0, seconds) * 1000.0);
-    return m_file->seekNear(m_stream, m_timeline.lastTickOf(ms)) ||
+    // PCM files go to exactly the tick they are asked for, and a millisecond has many.
+    return m_file->seekNear(m_stream, m_timeline.lastTickOf(ms - 1)) ||
            (seconds <= 0.0 && m_file->reopen());
 }
 

@@ -2,32 +2,20 @@
 
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/StreamParameters.h"
+#include "tests/qtav/CodecRecord.h"
 #include "tests/qtav/Decoding.h"
 
 #include <QTest>
 
+using codecrecord::dataOf;
+using codecrecord::madeFor;
 using QtAV::UnreferencedPictures;
 
 namespace {
 
-/// Of a stream whose units have start codes between them, or lengths of so many bytes before them.
-UnreferencedPictures picturesOf(AVCodecID codec, int lengthBytes)
-{
-    QByteArray record(23, '\0');
-    record[0] = 1;
-    record[codec == AV_CODEC_ID_HEVC ? 21 : 4] = char(lengthBytes - 1);
-    AVCodecParameters parameters{};
-    parameters.codec_id = codec;
-    if (lengthBytes > 0) {
-        parameters.extradata = reinterpret_cast<uint8_t*>(record.data());
-        parameters.extradata_size = record.size();
-    }
-    return UnreferencedPictures(parameters);
-}
-
 bool areAllOf(const UnreferencedPictures& pictures, const QByteArray& bytes)
 {
-    return pictures.areAllOf(reinterpret_cast<const uint8_t*>(bytes.constData()), bytes.size());
+    return pictures.areAllOf(dataOf(bytes), bytes.size());
 }
 
 } // namespace
@@ -119,14 +107,15 @@ void UnreferencedPicturesTest::units_decide()
     QFETCH(int, codec);
     QFETCH(int, lengthBytes);
     QFETCH(QByteArray, packet);
-    QTEST(areAllOf(picturesOf(static_cast<AVCodecID>(codec), lengthBytes), packet),
-          "isUnreferenced");
+    QTEST(
+        areAllOf(madeFor<UnreferencedPictures>(static_cast<AVCodecID>(codec), lengthBytes), packet),
+        "isUnreferenced");
 }
 
 void UnreferencedPicturesTest::damagedLengths_countAsReferredTo()
 {
     const QByteArray whole = QByteArray::fromHex("000000020199000000030199aa");
-    const UnreferencedPictures pictures = picturesOf(AV_CODEC_ID_H264, 4);
+    const UnreferencedPictures pictures = madeFor<UnreferencedPictures>(AV_CODEC_ID_H264, 4);
     QVERIFY(areAllOf(pictures, whole));
     for (int size = 0; size < whole.size(); ++size) {
         const bool endsWithUnit = size == 6;
@@ -139,7 +128,8 @@ void UnreferencedPicturesTest::damagedLengths_countAsReferredTo()
 
 void UnreferencedPicturesTest::otherCodecs_countAsReferredTo()
 {
-    QVERIFY(!areAllOf(picturesOf(AV_CODEC_ID_MPEG2VIDEO, 0), QByteArray::fromHex("0000010199")));
+    QVERIFY(!areAllOf(madeFor<UnreferencedPictures>(AV_CODEC_ID_MPEG2VIDEO),
+                      QByteArray::fromHex("0000010199")));
     QVERIFY(!areAllOf(UnreferencedPictures(), QByteArray::fromHex("000000020199")));
 }
 

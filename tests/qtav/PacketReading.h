@@ -1,0 +1,63 @@
+#pragma once
+
+#include "qtav/src/VideoPackets.h"
+
+#include <QList>
+#include <QString>
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+/// What several tests of the library's packets do with a sample.
+namespace packetreading {
+
+/// Opens a sample; ends the test program when that fails.
+[[nodiscard]] std::unique_ptr<QtAV::Container> open(const QString& file);
+
+/// All packets of the first video stream as the container gives them.
+[[nodiscard]] std::vector<QtAV::PacketPtr> packetsOf(QtAV::Container& container);
+
+/// What tells one packet of a stream from another.
+struct Read
+{
+    qint64 ticks; ///< of presentation; AV_NOPTS_VALUE where it has no time at all
+    qint64 ms;
+    int size;
+    bool isKey;
+
+    bool operator==(const Read& other) const
+    {
+        return ticks == other.ticks && size == other.size && isKey == other.isKey;
+    }
+};
+
+/// "key packet of 812 bytes at 480 ms", for the messages of failed comparisons.
+char* toString(const Read& read);
+
+[[nodiscard]] Read described(const AVPacket& packet, const QtAV::Timeline& timeline);
+
+/// An open sample and the packets of its first video stream; a raw stream is indexed.
+class OpenVideo
+{
+public:
+    /// Ends the test program when the sample cannot be opened.
+    explicit OpenVideo(const QString& file);
+
+    /// The video packets from here to the end. Ends the test program when one cannot be read.
+    [[nodiscard]] QList<Read> readRest();
+
+    std::unique_ptr<QtAV::Container> container;
+    QtAV::VideoPackets packets;
+};
+
+[[nodiscard]] QList<Read> described(const std::deque<QtAV::PacketPtr>& packets,
+                                    const QtAV::Timeline& timeline);
+
+/// The times in order of presentation, in milliseconds.
+[[nodiscard]] QList<qint64> sortedTimes(const QList<Read>& packets);
+
+/// The places of the key packets in order of presentation, counted from 0.
+[[nodiscard]] QList<int> keyPlaces(QList<Read> packets);
+
+} // namespace packetreading

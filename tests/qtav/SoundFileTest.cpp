@@ -1,0 +1,266 @@
+#include "qtav/player/SoundFile.h"
+
+#include "tests/support/Samples.h"
+#include "tests/support/TestDir.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+using QtAV::SoundFile;
+using testsupport::samplePath;
+using testsupport::TestDir;
+
+namespace {
+
+constexpr int rate = 48000;
+
+/// Opens a file and has it give samples of one channel.
+[[nodiscard]] bool openMono(SoundFile& sound, const QString& path)
+{
+    QString error;
+    if (!sound.open(path, error)) {
+        qWarning("%s: %s", qPrintable(path), qPrintable(error));
+        return false;
+    }
+    sound.setFormat(rate, 1);
+    return true;
+}
+
+/// All samples from here to the end, in portions that no packet is as long as.
+QVector<qint16> readRest(SoundFile& sound)
+{
+    QVector<qint16> all;
+    QVector<qint16> part(10007);
+    for (;;) {
+        const qint64 bytes = sound.read(reinterpret_cast<char*>(part.data()), part.size() * 2);
+        all += part.mid(0, int(bytes / 2));
+        if (bytes < part.size() * 2) {
+            return all;
+        }
+    }
+}
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+/// The samples that a WAV file of one channel and 16 bits stores, in the machine's byte order.
+QVector<qint16> storedSamples(const QByteArray& wav)
+{
+    const int begin = wav.indexOf("data") + 8;
+    QVector<qint16> samples;
+    for (int i = begin; i + 1 < wav.size(); i += 2) {
+        samples.append(qint16(uchar(wav.at(i)) | uchar(wav.at(i + 1)) << 8));
+    }
+    return samples;
+}
+
+/// The mean strength of the samples in a stretch of time, in seconds.
+double strength(const QVector<qint16>& samples, double from, double to)
+{
+    const QVector<qint16> part = samples.mid(int(from * rate), int((to - from) * rate));
+    double energy = 0.0;
+    for (const qint16 sample : part) {
+        energy += double(sample) * sample;
+    }
+    return std::sqrt(energy / std::max(1, part.size()));
+}
+
+double firstLoudSecond(const QVector<qint16>& samples)
+{
+    const auto isLoud = [](qint16 sample) { return std::abs(int(sample)) > 100; };
+    const auto loud = std::find_if(samples.cbegin(), samples.cend(), isLoud);
+    return double(loud - samples.cbegin()) / rate;
+}
+
+} // namespace
+
+/// Reading a file's sound: which samples come from where.
+class SoundFileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void samples_areThoseOfTheFile_atEachPosition();
+    void samples_areAsManyAsTheFormatWants();
+    void lateSound_isPrecededBySilence_data();
+    void lateSound_isPrecededBySilence();
+    void sound_endsWhereTheFileEndsIt();
+    void nothing_isRead_behindTheEnd();
+    void seeking_works_afterTheEnd();
+    void file_doesNotOpen_withoutSound_data();
+    void file_doesNotOpen_withoutSound();
+    void cutOffFile_givesWhatItHolds();
+    void damagedPart_leavesTheRestInItsPlace();
+};
+
+void SoundFileTest::samples_areThoseOfTheFile_atEachPosition()
+{
+    const QString path = samplePath(QStringLiteral("sound_only.wav"));
+    const QVector<qint16> stored = storedSamples(contents(path));
+    QCOMPARE(stored.size(), 2 * rate);
+    SoundFile sound;
+    QVERIFY(openMono(sound, path));
+    QCOMPARE(sound.sampleRate(), rate);
+    for (const int start : {0, 1, 4801, 24000, 47999, 90007, 95999}) {
+        QVERIFY(sound.seek(double(start) / rate));
+        const QVector<qint16> read = readRest(sound);
+        QVERIFY2(read == stored.mid(start), QByteArray::number(start).constData());
+    }
+}
+
+void SoundFileTest::samples_areAsManyAsTheFormatWants()
+{
+    const QString path = samplePath(QStringLiteral("sound_only.wav"));
+    const QVector<qint16> stored = storedSamples(contents(path));
+    SoundFile sound;
+    QVERIFY(openMono(sound, path));
+    sound.setFormat(rate, 2);
+    QVERIFY(sound.seek(0.0));
+    const QVector<qint16> stereo = readRest(sound);
+    QCOMPARE(stereo.size(), 2 * stored.size());
+    for (int i = 0; i < stereo.size(); i += 2) {
+        QCOMPARE(stereo.at(i), stereo.at(i + 1));
+    }
+    sound.setFormat(rate / 2, 1);
+    QVERIFY(sound.seek(0.0));
+    QVERIFY(std::abs(readRest(sound).size() - stored.size() / 2) < 50);
+}
+
+void SoundFileTest::lateSound_isPrecededBySilence_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("MP4") << QStringLiteral("sound_later.mp4");
+    QTest::newRow("Matroska") << QStringLiteral("sound_later.mkv");
+}
+
+/// The sound begins 0.48 s after the pictures.
+void SoundFileTest::lateSound_isPrecededBySilence()
+{
+    QFETCH(QString, file);
+    SoundFile sound;
+    QVERIFY(openMono(sound, samplePath(file)));
+    for (const double from : {0.0, 0.2, 0.4}) {
+        QVERIFY(sound.seek(from));
+        const double begin = firstLoudSecond(readRest(sound)) + from;
+        QVERIFY2(std::abs(begin - 0.48) < 0.01, QByteArray::number(begin).constData());
+    }
+    QVERIFY(sound.seek(1.0));
+    QVERIFY(firstLoudSecond(readRest(sound)) < 0.01);
+}
+
+/// Half way through the pictures.
+void SoundFileTest::sound_endsWhereTheFileEndsIt()
+{
+    SoundFile sound;
+    QVERIFY(openMono(sound, samplePath(QStringLiteral("sound_ends_early.mp4"))));
+    for (const double from : {0.0, 0.5, 1.2}) {
+        QVERIFY(sound.seek(from));
+        const double end = double(readRest(sound).size()) / rate + from;
+        // The encoder's packets are 21 ms long, and the last one is filled up.
+        QVERIFY2(end > 1.499 && end < 1.545, QByteArray::number(end).constData());
+    }
+}
+
+void SoundFileTest::nothing_isRead_behindTheEnd()
+{
+    for (const char* file : {"sound_only.wav", "sound_only.mp3", "sound_ends_early.mp4"}) {
+        SoundFile sound;
+        QVERIFY(openMono(sound, samplePath(QString::fromLatin1(file))));
+        QVERIFY(sound.seek(0.0));
+        QVERIFY(!readRest(sound).isEmpty());
+        QVERIFY(readRest(sound).isEmpty());
+        // Whether such a seek fails or succeeds is up to the container.
+        static_cast<void>(sound.seek(60.0));
+        QVERIFY2(readRest(sound).isEmpty(), file);
+    }
+}
+
+void SoundFileTest::seeking_works_afterTheEnd()
+{
+    SoundFile sound;
+    QVERIFY(openMono(sound, samplePath(QStringLiteral("sound_only.mp3"))));
+    QVERIFY(sound.seek(0.0));
+    const QVector<qint16> all = readRest(sound);
+    QVERIFY(strength(all, 0.5, 1.5) > 100.0);
+    QVERIFY(sound.seek(0.0));
+    QCOMPARE(readRest(sound), all);
+}
+
+void SoundFileTest::file_doesNotOpen_withoutSound_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"h264_bframes.mp4", "cover.jpg", "text.mp4", "empty.mp4",
+                             "random_bytes.mp4", "folder.mp4", "no_such_file.mp4"}) {
+        QTest::newRow(file) << QString::fromLatin1(file);
+    }
+}
+
+void SoundFileTest::file_doesNotOpen_withoutSound()
+{
+    QFETCH(QString, file);
+    SoundFile sound;
+    QString error;
+    QVERIFY(!sound.open(samplePath(file), error));
+    QVERIFY(!error.isEmpty());
+}
+
+void SoundFileTest::cutOffFile_givesWhatItHolds()
+{
+    const TestDir dir;
+    const QString path = dir.filePath(QStringLiteral("cut_off.wav"));
+    const QByteArray whole = contents(samplePath(QStringLiteral("sound_only.wav")));
+    const QByteArray half = whole.left(whole.size() / 2);
+    write(path, half);
+    SoundFile sound;
+    QVERIFY(openMono(sound, path));
+    QVERIFY(sound.seek(0.0));
+    QVERIFY(readRest(sound) == storedSamples(half));
+    QVERIFY(sound.seek(0.25));
+    QVERIFY(readRest(sound) == storedSamples(half).mid(rate / 4));
+}
+
+/// The tone goes on behind the damage, and ends when it did before.
+void SoundFileTest::damagedPart_leavesTheRestInItsPlace()
+{
+    const QString original = samplePath(QStringLiteral("sound_earlier.ts"));
+    SoundFile undamaged;
+    QVERIFY(openMono(undamaged, original));
+    QVERIFY(undamaged.seek(0.0));
+    const QVector<qint16> expected = readRest(undamaged);
+
+    const TestDir dir;
+    const QString path = dir.filePath(QStringLiteral("damaged.ts"));
+    QByteArray bytes = contents(original);
+    const int damage = bytes.size() / 6;
+    bytes.replace(bytes.size() / 2, damage, QByteArray(damage, '\0'));
+    write(path, bytes);
+    SoundFile sound;
+    QVERIFY(openMono(sound, path));
+    QVERIFY(sound.seek(0.0));
+    const QVector<qint16> read = readRest(sound);
+    QVERIFY(read != expected);
+    QVERIFY(std::abs(read.size() - expected.size()) < rate / 20);
+    const double length = double(expected.size()) / rate;
+    const double usual = strength(expected, 0.2 * length, 0.3 * length);
+    QVERIFY(usual > 100.0);
+    for (const double part : {0.2, 0.8, 0.9}) {
+        const double heard = strength(read, part * length, part * length + 0.1);
+        QVERIFY2(std::abs(heard - usual) < 0.1 * usual, QByteArray::number(part).constData());
+    }
+}
+
+QTEST_GUILESS_MAIN(SoundFileTest)
+#include "SoundFileTest.moc"
