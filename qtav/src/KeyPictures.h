@@ -14,8 +14,8 @@ public:
     explicit KeyPictures(const AVCodecParameters& parameters);
 
     /// True for a packet that shows an intra picture, or from which an H.264 or HEVC stream that
-    /// refreshes its pictures bit by bit recovers; also for codecs and packets that cannot be
-    /// understood.
+    /// refreshes its pictures bit by bit recovers; also for codecs that are not looked into, and
+    /// for H.264 and HEVC packets that cannot be understood.
     bool isIn(const AVPacket& packet) const { return isIn(packet.data, packet.size); }
     bool isIn(const uint8_t* data, qsizetype size) const;
 

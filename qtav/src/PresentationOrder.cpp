@@ -126,7 +126,9 @@ void PresentationOrder::time(const Waiting& picture)
     const bool isExpected = m_unplaced.empty() && m_nextTicks != AV_NOPTS_VALUE;
     const bool isDoubtful =
         picture.isKey && !(isExpected && isNear(picture.ticks, m_nextTicks, picture.frameTicks));
-    if (isTimed)
+    const bool decides = !isDoubtful || std::any_of(m_unplaced.cbegin(), m_unplaced.cend(),
+                                                    [](const Waiting& p) { return p.isKey; });
+    if (isTimed && decides)
         timeUnplaced(picture);
     if (isExpected && !isTimed) {
         settle(picture.place, m_nextTicks);
@@ -150,8 +152,9 @@ void PresentationOrder::timeUnplaced(const Waiting& known)
         ticks -= picture->frameTicks;
         const bool isOwn = picture->ticks != AV_NOPTS_VALUE;
         // Beyond that the pictures between them do not follow one another without a gap.
-        const bool fits = isOwn && !known.isKey &&
-                          isNear(picture->ticks, ticks, 2 * LargestError * picture->frameTicks);
+        const bool fits =
+            isOwn && !known.isKey &&
+            isNear(picture->ticks, ticks, 2 * (LargestError + 1) * picture->frameTicks - 1);
         if (isOwn && !fits)
             ticks = picture->ticks;
         settle(picture->place, ticks);
