@@ -15,6 +15,7 @@
 #include <optional>
 #include <sys/stat.h>
 #include <sys/uio.h>
+#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -184,10 +185,23 @@ FileInput::~FileInput()
         m_thread.detach();
 }
 
+/// Null where the system gives no more threads.
+std::unique_ptr<FileInput> FileInput::make(const IsCancelled& isCancelled, QString& error)
+{
+    try {
+        return std::unique_ptr<FileInput>(new FileInput(std::make_shared<Reader>(), isCancelled));
+    } catch (const std::system_error& failure) {
+        error = QString::fromLocal8Bit(failure.what());
+        return nullptr;
+    }
+}
+
 std::unique_ptr<FileInput> FileInput::open(const QString& path, const IsCancelled& isCancelled,
                                            QString& error)
 {
-    std::unique_ptr<FileInput> input(new FileInput(std::make_shared<Reader>(), isCancelled));
+    std::unique_ptr<FileInput> input = make(isCancelled, error);
+    if (!input)
+        return nullptr;
     const auto open = [name = QFile::encodeName(path)](Reader& reader) -> qint64 {
         const int result = openRegular(name.constData());
         reader.file = result;

@@ -54,6 +54,7 @@ private:
     class Reader;
 
     FileInput(std::shared_ptr<Reader> reader, IsCancelled isCancelled);
+    static std::unique_ptr<FileInput> make(const IsCancelled& isCancelled, QString& error);
     int noted(int result);
 
     std::shared_ptr<Reader> m_reader;
