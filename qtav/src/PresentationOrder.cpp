@@ -1,7 +1,8 @@
 #include "qtav/src/PresentationOrder.h"
 
+#include "qtav/src/Timeline.h"
+
 #include <algorithm>
-#include <cstdlib>
 #include <limits>
 
 namespace QtAV {
@@ -10,6 +11,9 @@ namespace {
 
 /// In a stream that has no times at all none need be waited for.
 constexpr size_t MaximumUnplaced = 64;
+
+/// Longer than any picture is shown, and small enough to be calculated with.
+constexpr qint64 MaximumFrameTicks = qint64(1) << 40;
 
 constexpr qint64 NoOrder = std::numeric_limits<qint64>::min();
 
@@ -21,7 +25,10 @@ bool hasOrderCount(AVCodecID codec)
 /// True for two times that differ by less than half a picture.
 bool isNear(qint64 a, qint64 b, qint64 frameTicks)
 {
-    return std::abs(a - b) < std::max<qint64>(1, frameTicks / 2);
+    // Damaged files state any time: the distance of two need not fit.
+    const Timeline::Wide distance = Timeline::Wide(a) - b;
+    const qint64 limit = std::max<qint64>(1, frameTicks / 2);
+    return -limit < distance && distance < limit;
 }
 
 } // namespace
@@ -51,7 +58,8 @@ void PresentationOrder::push(PacketPtr packet, qint64 frameTicks)
         m_times.push_back(packet->dts);
     const bool isKey = packet->flags & AV_PKT_FLAG_KEY;
     const bool isTimed = m_mode == Times::WithGaps && packet->pts != AV_NOPTS_VALUE && !isKey;
-    const Waiting picture{0, place, packet->pts, shownTicks(*packet, frameTicks), isKey};
+    const qint64 shown = std::clamp<qint64>(shownTicks(*packet, frameTicks), 0, MaximumFrameTicks);
+    const Waiting picture{0, place, packet->pts, shown, isKey};
     m_held.push_back({std::move(packet), isTimed});
     if (m_hasOrderCount)
         placeByOrderCount(picture);
@@ -124,8 +132,9 @@ void PresentationOrder::time(const Waiting& picture)
 {
     const bool isTimed = picture.ticks != AV_NOPTS_VALUE;
     const bool isExpected = m_unplaced.empty() && m_nextTicks != AV_NOPTS_VALUE;
-    const bool isDoubtful =
-        picture.isKey && !(isExpected && isNear(picture.ticks, m_nextTicks, picture.frameTicks));
+    const bool fits =
+        isTimed && isExpected && isNear(picture.ticks, m_nextTicks, picture.frameTicks);
+    const bool isDoubtful = picture.isKey && !fits;
     const bool decides = !isDoubtful || std::any_of(m_unplaced.cbegin(), m_unplaced.cend(),
                                                     [](const Waiting& p) { return p.isKey; });
     if (isTimed && decides)
