@@ -212,6 +212,10 @@ void Container::findStart()
 {
     if (m_format->start_time == AV_NOPTS_VALUE)
         return;
+    // An MP4 is shown from 0 on. FFmpeg 5.1 counts what a sound encoder puts before that, in files
+    // in fragments.
+    if (isMp4(*m_format->iformat) && m_format->start_time < 0)
+        return;
     m_startTicks = m_format->start_time;
     const AVRational microsecond{1, AV_TIME_BASE};
     for (const int index : m_videoStreams + m_audioStreams) {
