@@ -18,6 +18,21 @@ using Way = Outcome (*)(const QByteArray&, const QByteArray&);
 constexpr int Rounds = 50;
 constexpr int Racers = 8;
 
+struct NamedWay
+{
+    const char* name;
+    Way way;
+};
+
+constexpr NamedWay Ways[] = {
+    {"first supported", ExclusiveRename::rename},
+#ifdef Q_OS_LINUX
+    {"by renaming", ExclusiveRename::byRenaming},
+#endif
+    {"by linking", ExclusiveRename::byLinking},
+    {"by claiming", ExclusiveRename::byClaiming},
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(Way)
@@ -48,28 +63,15 @@ private:
     static void addWays()
     {
         QTest::addColumn<Way>("way");
-        QTest::newRow("first supported") << Way(ExclusiveRename::rename);
-#ifdef Q_OS_LINUX
-        QTest::newRow("by renaming") << Way(ExclusiveRename::byRenaming);
-#endif
-        QTest::newRow("by linking") << Way(ExclusiveRename::byLinking);
-        QTest::newRow("by claiming") << Way(ExclusiveRename::byClaiming);
+        for (const NamedWay& named : Ways)
+            QTest::newRow(named.name) << named.way;
     }
 
 private slots:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-    }
-    void cleanup()
-    {
-        m_folder->setAutoRemove(!QTest::currentTestFailed());
-    }
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+    void cleanup() { m_folder->setAutoRemove(!QTest::currentTestFailed()); }
 
-    void rename_movesTheFile_whenTheNameIsFree_data()
-    {
-        addWays();
-    }
+    void rename_movesTheFile_whenTheNameIsFree_data() { addWays(); }
     void rename_movesTheFile_whenTheNameIsFree()
     {
         QFETCH(Way, way);
@@ -78,10 +80,7 @@ private slots:
         QVERIFY(!QFile::exists(QFile::decodeName(path("old"))));
     }
 
-    void rename_keepsBoth_whenTheNameIsTaken_data()
-    {
-        addWays();
-    }
+    void rename_keepsBoth_whenTheNameIsTaken_data() { addWays(); }
     void rename_keepsBoth_whenTheNameIsTaken()
     {
         QFETCH(Way, way);
@@ -90,10 +89,7 @@ private slots:
         QCOMPARE(content("old"), QByteArray("content"));
     }
 
-    void rename_keepsADanglingLink_whenItHasTheName_data()
-    {
-        addWays();
-    }
+    void rename_keepsADanglingLink_whenItHasTheName_data() { addWays(); }
     void rename_keepsADanglingLink_whenItHasTheName()
     {
         QFETCH(Way, way);
@@ -102,10 +98,7 @@ private slots:
         QVERIFY(QFileInfo(QFile::decodeName(path("new"))).isSymLink());
     }
 
-    void rename_fails_whenTheFolderIsMissing_data()
-    {
-        addWays();
-    }
+    void rename_fails_whenTheFolderIsMissing_data() { addWays(); }
     void rename_fails_whenTheFolderIsMissing()
     {
         QFETCH(Way, way);
@@ -113,10 +106,7 @@ private slots:
         QCOMPARE(content("old"), QByteArray("content"));
     }
 
-    void rename_fails_whenTheFileIsMissing_data()
-    {
-        addWays();
-    }
+    void rename_fails_whenTheFileIsMissing_data() { addWays(); }
     void rename_fails_whenTheFileIsMissing()
     {
         QFETCH(Way, way);
@@ -124,10 +114,7 @@ private slots:
         QVERIFY(!QFile::exists(QFile::decodeName(path("new"))));
     }
 
-    void rename_hasOneWinner_whenManyRace_data()
-    {
-        addWays();
-    }
+    void rename_hasOneWinner_whenManyRace_data() { addWays(); }
     void rename_hasOneWinner_whenManyRace()
     {
         QFETCH(Way, way);
