@@ -1,12 +1,20 @@
 #!/usr/bin/env bash
 # Installs what is missing, then builds and runs all tests: of the sources themselves, in release,
 # and under the sanitizers. Ends with CTest's summary; fails when anything failed.
-#   ./test.sh             everything
-#   ./test.sh PRESET…     only these of release, asan and tsan
+#   ./test.sh                              everything
+#   ./test.sh PRESET…                      only these of release, asan and tsan
+#   ./test.sh --without-desktop [PRESET…]  without the tests that need a desktop
 set -euo pipefail
 root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 source "$root/scripts/setup.sh"
 
+sections=(run test desktop)
+desktop_tests=ON
+if [[ ${1-} == --without-desktop ]]; then
+    shift
+    sections=(run test)
+    desktop_tests=OFF
+fi
 presets=("$@")
 (($#)) || presets=(release asan tsan)
 for preset in "${presets[@]}"; do
@@ -14,11 +22,12 @@ for preset in "${presets[@]}"; do
 done
 
 ensure_build_folder
-ensure_packages run test
+ensure_packages "${sections[@]}"
 
 for preset in "${presets[@]}"; do
     say "== Building: $preset"
-    configure "$preset" -DMORVANTILE_BUILD_TESTS=ON -DMORVANTILE_WERROR=ON
+    configure "$preset" -DMORVANTILE_BUILD_TESTS=ON -DMORVANTILE_WERROR=ON \
+        -DMORVANTILE_DESKTOP_TESTS=$desktop_tests
     # Thread sanitizer runs few of the tests, and they need few of the libraries.
     if [[ $preset == tsan ]]; then build tsan tests/all; else build "$preset" all; fi
 done

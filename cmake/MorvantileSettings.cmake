@@ -1,6 +1,7 @@
 # What every target of the project is compiled with.
 
 option(MORVANTILE_BUILD_TESTS "Build the tests" ON)
+option(MORVANTILE_DESKTOP_TESTS "Of the tests, build those that need a desktop too" ON)
 option(MORVANTILE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(MORVANTILE_WERROR "Treat warnings as errors" OFF)
 set(MORVANTILE_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")

@@ -56,7 +56,7 @@ ensure_packages() {
     local wanted missing log=$root/build/install.log
     mapfile -t wanted < <(packages_in "$@")
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-        die "packages can be installed on Debian only (12, bookworm). On another system build by hand:" \
+        die "packages can be installed on Debian only (12 or 13). On another system build by hand:" \
             "CONTRIBUTING.md says how, packages.txt what it takes."
     fi
     mapfile -t missing < <(missing_packages "${wanted[@]}")
@@ -73,8 +73,8 @@ ensure_packages() {
     "${apt[@]}" update >"$log" 2>&1 || true
     if ! "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >>"$log" 2>&1; then
         tail -n 15 "$log" >&2
-        die "the packages could not be installed (see above, and $log). It takes Debian 12, a network" \
-            "and root or sudo. To install them by hand, as root: $by_hand"
+        die "the packages could not be installed (see above, and $log). It takes Debian 12 or 13, a" \
+            "network and root or sudo. To install them by hand, as root: $by_hand"
     fi
 }
 

@@ -29,8 +29,8 @@ constexpr double LongestSilenceSeconds = 3600.0;
 bool SoundFile::open(const QString& path, QString& error)
 {
     // The thread of sound is left behind where the disk does not answer: see SoundThread.
-    m_file = Container::open(
-        path, [] { return false; }, error);
+    const IsCancelled never = [] { return false; };
+    m_file = Container::open(path, never, error);
     if (!m_file)
         return false;
     error = QCoreApplication::translate("QtAV::AVPlayer", "The sound cannot be decoded.");

@@ -18,8 +18,7 @@ namespace {
 
 struct stat statusOf(const QString& path)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     ::stat(QFile::encodeName(path).constData(), &status);
     return status;
 }

@@ -171,8 +171,8 @@ void ContainerTest::open_endsSoon_whenCancelled()
     QElapsedTimer timer;
     timer.start();
     QString error;
-    QVERIFY(!Container::open(
-        path, [&isCancelled] { return isCancelled.load(); }, error));
+    const auto isCancelledNow = [&isCancelled] { return isCancelled.load(); };
+    QVERIFY(!Container::open(path, isCancelledNow, error));
     QVERIFY(!error.isEmpty());
     QVERIFY(timer.elapsed() < 1000);
 }

@@ -14,8 +14,8 @@ using QtAV::PacketAnswer;
 std::unique_ptr<QtAV::Container> open(const QString& file)
 {
     QString error;
-    auto container = QtAV::Container::open(
-        testsupport::samplePath(file), [] { return false; }, error);
+    const QtAV::IsCancelled never = [] { return false; };
+    auto container = QtAV::Container::open(testsupport::samplePath(file), never, error);
     if (!container) {
         qFatal("%s: %s", qPrintable(file), qPrintable(error));
     }
