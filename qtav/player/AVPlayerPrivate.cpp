@@ -139,8 +139,12 @@ void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
         isFrame ? sought(answer) : fail(AVPlayer::tr("The file cannot be read any more."));
         break;
     case Kind::Stepped:
-        if (answer.serial >= seekSerial && isFrame)
+        if (answer.serial < seekSerial)
+            break;
+        if (isFrame)
             stepped(answer);
+        else if (answer.result.answer == FrameAnswer::Failed)
+            halt(answer.result.error);
         break;
     case Kind::Refined:
         if (answer.result.frame.timestamp() == frame.timestamp() && frame.isScaledDown())
@@ -274,11 +278,12 @@ double AVPlayer::Private::endTime(bool soundLeads) const
     return soundLeads ? std::max(end, last) : std::clamp(end, last, last + LongestLastFrameSeconds);
 }
 
-/// Playback cannot go on, but what is on screen stays, and other places may be readable.
+/// No way on from here, but what is on screen stays, and other places may be readable.
 void AVPlayer::Private::halt(const QString& reason)
 {
     error = reason;
     q->pause();
+    Q_EMIT q->failed(reason);
 }
 
 void AVPlayer::Private::finish()

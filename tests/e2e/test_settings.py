@@ -13,13 +13,19 @@ class SettingsTest(MorvantileCase):
         untouched = wait_until(lambda: self.handle_height(popup), "no handle in the popup")
         self.assertFalse(self.is_ticked(popup))
         # The slider fills the popup above the check box, its handle is in the middle of it.
-        self.desktop.move((left + right) // 2, top + (bottom - top) * 0.41)
+        middle, grip = (left + right) // 2, top + (bottom - top) * 0.41
+        way_up = (bottom - top) * 0.21
+        self.desktop.move(middle, grip)
         self.desktop.press()
         self.addCleanup(self.desktop.release)
-        self.desktop.drag((left + right) // 2, top + (bottom - top) * 0.2)
+        self.desktop.drag(middle, grip - way_up)
         self.desktop.release()
         self.wait_for_setting("volume", lambda volume: 60 < int(volume) < 100)
-        wait_until(lambda: (self.handle_height(popup) or untouched) < untouched - 10, "it stays")
+        # Not a picture of it on its way.
+        wait_until(
+            lambda: abs((self.handle_height(popup) or 0) - (untouched - way_up)) < 4,
+            lambda: f"the handle is at {self.handle_height(popup)}, it was at {untouched}",
+        )
         height = self.handle_height(popup)
         self.desktop.click(left + 15, bottom - 24)
         self.wait_for_setting("muted", lambda muted: muted == "true")

@@ -1,7 +1,9 @@
 #include "qtav/player/PlaybackEngine.h"
 
 #include "tests/qtav/Decoding.h"
+#include "tests/support/TestDir.h"
 
+#include <QFile>
 #include <QSemaphore>
 #include <QTest>
 
@@ -62,6 +64,17 @@ private:
     std::deque<Answer> m_answers;
 };
 
+/// A copy of a sample that is much longer than what is decoded ahead.
+QString copiedTo(const testsupport::TestDir& dir)
+{
+    const QString path = dir.filePath(QStringLiteral("video.mp4"));
+    if (!QFile::copy(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), path))
+        qFatal("the sample cannot be copied");
+    return path;
+}
+
+constexpr int longSampleFrames = 520;
+
 int numberOf(const std::optional<Answer>& answer)
 {
     return answer && answer->result.answer == FrameAnswer::Frame
@@ -84,6 +97,9 @@ private slots:
     void step_endsWithoutAFrame_atTheVideosEnds();
     void seeks_areReplaced_byTheNewest();
     void queue_holdsTheFramesInOrder_untilTheEnd();
+    void step_fails_withAReason_whereTheFileIsLost();
+    void seek_fails_withAReason_whereTheFileIsLost();
+    void queue_fails_insteadOfEnding_whereTheFileIsLost();
 };
 
 void PlaybackEngineTest::open_isAnswered_withTheFirstFrame()
@@ -192,6 +208,68 @@ void PlaybackEngineTest::queue_holdsTheFramesInOrder_untilTheEnd()
     }
     QVERIFY(isEnded);
     QCOMPARE(number, 49);
+}
+
+void PlaybackEngineTest::step_fails_withAReason_whereTheFileIsLost()
+{
+    Harness harness;
+    const testsupport::TestDir dir;
+    const QString path = copiedTo(dir);
+    QVERIFY(harness.open(path));
+    QVERIFY(QFile::resize(path, 0));
+    std::optional<Answer> answer;
+    int number = -1;
+    do {
+        number = answer ? numberOf(answer) : 0;
+        answer = harness.to(harness.engine.step(Direction::Forward));
+        QVERIFY(answer);
+    } while (answer->result.answer == FrameAnswer::Frame);
+    QCOMPARE(answer->result.answer, FrameAnswer::Failed);
+    QVERIFY(!answer->result.error.isEmpty());
+    QVERIFY(number < longSampleFrames / 2);
+    answer = harness.to(harness.engine.step(Direction::Forward));
+    QVERIFY(answer);
+    QCOMPARE(answer->result.answer, FrameAnswer::Failed);
+    if (number > 0)
+        QCOMPARE(numberOf(harness.to(harness.engine.step(Direction::Backward))), number - 1);
+    QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_bframes.mp4"))));
+}
+
+void PlaybackEngineTest::seek_fails_withAReason_whereTheFileIsLost()
+{
+    Harness harness;
+    const testsupport::TestDir dir;
+    const QString path = copiedTo(dir);
+    QVERIFY(harness.open(path));
+    QVERIFY(QFile::resize(path, 0));
+    const std::optional<Answer> answer = harness.to(harness.engine.seek(15000));
+    QVERIFY(answer);
+    QCOMPARE(answer->kind, Answer::Kind::Sought);
+    QCOMPARE(answer->result.answer, FrameAnswer::Failed);
+    QVERIFY(!answer->result.error.isEmpty());
+    QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_bframes.mp4"))));
+}
+
+void PlaybackEngineTest::queue_fails_insteadOfEnding_whereTheFileIsLost()
+{
+    Harness harness;
+    const testsupport::TestDir dir;
+    const QString path = copiedTo(dir);
+    QVERIFY(harness.open(path));
+    QVERIFY(QFile::resize(path, 0));
+    harness.engine.setPlaying(true);
+    PlaybackEngine::Due due;
+    int number = 0;
+    for (int i = 0; !due.failure && !due.isEnded && i < patience; ++i) {
+        due = harness.engine.takeDue((number + 1) * 0.04, PlaybackEngine::CatchUp::No);
+        if (due.frame.isValid())
+            number = shown(due.frame).number;
+        QTest::qSleep(1);
+    }
+    QVERIFY(!due.isEnded);
+    QVERIFY(due.failure);
+    QVERIFY(!due.failure->isEmpty());
+    QVERIFY(number < longSampleFrames / 2);
 }
 
 QTEST_GUILESS_MAIN(PlaybackEngineTest)

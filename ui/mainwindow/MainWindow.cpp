@@ -114,6 +114,7 @@ void MainWindow::connectPlayer()
     connect(m_player, &AVPlayer::stateChanged, this, &MainWindow::updatePlayButton);
     connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::updatePlayButton);
     connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::noticeMediaStatus);
+    connect(m_player, &AVPlayer::failed, this, &MainWindow::noticeFailedRead);
 
     const QtAV::VideoCapture* const capture = m_player->videoCapture();
     connect(capture, &QtAV::VideoCapture::imageCaptured, this, &MainWindow::snapshotCaptured);

@@ -158,6 +158,9 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    /// How long the outcome of what was done stays in the status bar.
+    static constexpr int messageMs = 8000;
+
     void setupPlayer(const VideoOutputFactory& makeVideoOutput);
     void refusePlayer();
     void connectPlayer();
@@ -169,6 +172,7 @@ private:
     void followVideoFolder(const QFileInfo& video);
     void proposeFileName(const QFileInfo& video);
     void noticeMediaStatus();
+    void noticeFailedRead(const QString& reason);
     void showOpenButton(const QString& text);
 
     void capture();

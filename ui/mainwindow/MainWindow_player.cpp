@@ -197,6 +197,13 @@ void MainWindow::noticeMediaStatus()
     statusBar()->showMessage(m_player->errorString());
 }
 
+/// The picture that stays on screen does not tell why the video does not go on.
+void MainWindow::noticeFailedRead(const QString& reason)
+{
+    statusBar()->showMessage(tr("%1: %2").arg(QFileInfo(m_currentVideoPath).fileName(), reason),
+                             messageMs);
+}
+
 void MainWindow::pause()
 {
     m_player->pause();

@@ -15,9 +15,6 @@
 
 namespace {
 
-/// How long the outcome of saving stays in the status bar.
-constexpr int messageMs = 8000;
-
 /// Fills the box with the manager's profiles and makes the one used last current. Gives that
 /// profile: the first, where the one used last is unknown.
 BaseProfile* fillProfiles(QComboBox& box, const ProfileManager& manager)

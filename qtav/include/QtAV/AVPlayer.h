@@ -137,6 +137,9 @@ Q_SIGNALS:
     void notifyIntervalChanged();
     /// The newest seek's frame is on screen; its time.
     void seekFinished(qint64 ms);
+    /// The next frame, or the one before, cannot be read: the player pauses and the frame on screen
+    /// stays. The reason is for people, and that of errorString().
+    void failed(const QString& reason);
 
 private Q_SLOTS:
     void handleEngine();
