@@ -70,15 +70,15 @@ private Q_SLOTS:
 private:
     void runInternal();
     void takeFrames(const SamplingPlan& plan);
-    bool takeFrame(qint64 position);
+    [[nodiscard]] bool takeFrame(qint64 position);
     void tickProgress();
     void waitForImages() const;
     void passOn(const QtAV::VideoFrame& frame);
 
-    QString firstFreePath();
-    QString nextFreePath();
+    [[nodiscard]] QString firstFreePath();
+    [[nodiscard]] QString nextFreePath();
     void announceSaving(const QString& path);
-    bool saveImage(QString path, const QImage& image);
+    [[nodiscard]] bool saveImage(QString path, const QImage& image);
     void reportUnmadeImage(const QString& path, qint64 position, const QString& reason);
 
     /// Frames whose images are still to be made. Counted up in the thread of run(), down in the

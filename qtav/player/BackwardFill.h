@@ -40,7 +40,7 @@ public:
     /// @return whether a pass is under way then. None begins while half of the room is filled, at
     /// the
     ///         start of the video, nor for a target that one has led to already.
-    bool startIfNeeded(const FrameCache::Run& run, qint64 room, qint64 gapMs);
+    [[nodiscard]] bool startIfNeeded(const FrameCache::Run& run, qint64 room, qint64 gapMs);
 
     /// Begins a pass to a target in seconds. Frames before a position in milliseconds may be
     /// skipped.
@@ -91,7 +91,7 @@ private:
     void land();
     [[nodiscard]] std::optional<FrameResult> walkOn(const IsCancelled& isCancelled);
     void measure(std::optional<double> from);
-    FrameResult end(FrameResult result);
+    [[nodiscard]] FrameResult end(FrameResult result);
 
     FrameReader& m_reader;
     const std::function<void()> m_onFrame;

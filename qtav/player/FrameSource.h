@@ -98,17 +98,17 @@ private:
 
     FrameReader::Search searchFor(qint64 ms, qint64 completeFrom,
                                   std::function<bool(const VideoFrame&)> isReached);
-    FrameResult look(bool goesOn, const FrameReader::Search& search,
-                     const IsCancelled& isCancelled);
+    [[nodiscard]] FrameResult look(bool goesOn, const FrameReader::Search& search,
+                                   const IsCancelled& isCancelled);
     bool isShortlyBefore(double seconds) const;
     void leaveBackgroundWork();
 
-    bool fillsBehind(const FrameCache::Run& run);
-    bool decodeAhead(const FrameCache::Run& run, const IsCancelled& isCancelled);
-    bool returnToEnd(const FrameCache::Run& run, const IsCancelled& isCancelled);
-    bool startReturn(double target, double end);
+    [[nodiscard]] bool fillsBehind(const FrameCache::Run& run);
+    [[nodiscard]] bool decodeAhead(const FrameCache::Run& run, const IsCancelled& isCancelled);
+    [[nodiscard]] bool returnToEnd(const FrameCache::Run& run, const IsCancelled& isCancelled);
+    [[nodiscard]] bool startReturn(double target, double end);
 
-    FrameResult advance(const IsCancelled& isCancelled);
+    [[nodiscard]] FrameResult advance(const IsCancelled& isCancelled);
     void keep();
     qint64 lengthOf(qint64 frames) const { return frames * m_longestGapMs; }
 

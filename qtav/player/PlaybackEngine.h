@@ -107,7 +107,7 @@ private:
     using Time = std::chrono::steady_clock::time_point;
 
     void run();
-    bool workOnce(Lock& lock);
+    [[nodiscard]] bool workOnce(Lock& lock);
     void carryOutCapture(Lock& lock);
     void replaceFile(Lock& lock);
     void carryOutSeek(Lock& lock);
@@ -122,8 +122,8 @@ private:
     quint64 posted(quint64 serial);
     void forgetQueue();
     void becomeCurrent(const VideoFrame& frame, quint64 serial);
-    FrameResult stayingAt(const VideoFrame& frame, FrameResult failed,
-                          const IsCancelled& isCancelled);
+    [[nodiscard]] FrameResult stayingAt(const VideoFrame& frame, FrameResult failed,
+                                        const IsCancelled& isCancelled);
     void answer(Answer answer);
     void wakeOwner();
 

@@ -35,7 +35,7 @@ public:
     virtual void setVolume(qreal volume) = 0;
 
     /// The system's standard device; null where there is none.
-    static std::unique_ptr<SoundDevice> openDefault(int preferredRate);
+    [[nodiscard]] static std::unique_ptr<SoundDevice> openDefault(int preferredRate);
 
     /// Replaces openDefault() in all players that have not played any sound yet; for tests.
     static void setFactory(Factory factory);

@@ -35,12 +35,12 @@ public:
     [[nodiscard]] bool seek(double seconds);
 
     /// Fills a buffer with samples. Less than asked for only at the end of the sound.
-    qint64 read(char* data, qint64 bytes);
+    [[nodiscard]] qint64 read(char* data, qint64 bytes);
 
 private:
     [[nodiscard]] bool goTo(double seconds);
-    bool decodeMore();
-    bool sendPacket();
+    [[nodiscard]] bool decodeMore();
+    [[nodiscard]] bool sendPacket();
     void take(const AVFrame& frame);
     void placeAt(double seconds);
     void convert(const AVFrame* frame);

@@ -35,7 +35,7 @@ public:
     /// Null for nobody from now on.
     void setWorker(QObject* worker);
     /// What the worker is to carry out now; nothing when it is to end.
-    std::optional<Wish> takeWish();
+    [[nodiscard]] std::optional<Wish> takeWish();
     /// It has carried out what it took.
     void setCarriedOut();
     /// For how long the worker has not got on with what is wished; 0 when there is nothing to do.

@@ -35,8 +35,8 @@ public:
     static constexpr int MaximumFailures = 64;
 
     /// Null, with a text for people in `error`, for what cannot be opened.
-    static std::unique_ptr<Container> open(const QString& path, const IsCancelled& isCancelled,
-                                           QString& error);
+    [[nodiscard]] static std::unique_ptr<Container>
+    open(const QString& path, const IsCancelled& isCancelled, QString& error);
     ~Container();
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
@@ -138,7 +138,7 @@ private:
     bool isInterrupted();
     static int interrupt(void* container);
     void forgetFailures();
-    PacketAnswer failed(int result);
+    [[nodiscard]] PacketAnswer failed(int result);
 
     QString m_path;
     IsCancelled m_isCancelled;

@@ -26,8 +26,8 @@ class FileInput
 public:
     /// Opens a regular file for reading. Null, with a text for people in `error`, when that is not
     /// possible or was cancelled.
-    static std::unique_ptr<FileInput> open(const QString& path, const IsCancelled& isCancelled,
-                                           QString& error);
+    [[nodiscard]] static std::unique_ptr<FileInput>
+    open(const QString& path, const IsCancelled& isCancelled, QString& error);
     ~FileInput();
     FileInput(const FileInput&) = delete;
     FileInput& operator=(const FileInput&) = delete;
@@ -54,8 +54,9 @@ private:
     class Reader;
 
     FileInput(std::shared_ptr<Reader> reader, IsCancelled isCancelled);
-    static std::unique_ptr<FileInput> make(const IsCancelled& isCancelled, QString& error);
-    int noted(int result);
+    [[nodiscard]] static std::unique_ptr<FileInput> make(const IsCancelled& isCancelled,
+                                                         QString& error);
+    [[nodiscard]] int noted(int result);
 
     std::shared_ptr<Reader> m_reader;
     std::thread m_thread;

@@ -17,7 +17,7 @@ class ImagePool
 {
 public:
     /// A Format_ARGB32 image whose pixels have any values; null when memory runs out.
-    QImage take(const QSize& size);
+    [[nodiscard]] QImage take(const QSize& size);
 
 private:
     AVBufferRef* takeBuffer(size_t bytes);

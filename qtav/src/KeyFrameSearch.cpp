@@ -77,8 +77,8 @@ PacketAnswer KeyFrameSearch::scan(Accept accept)
         if (answer != PacketAnswer::Packet)
             return found && answer == PacketAnswer::Failed ? PacketAnswer::Packet : answer;
         if (packet->stream_index != m_video.stream()) {
-            if (found)
-                keep(std::move(packet));
+            if (found && !keep(std::move(packet)))
+                return PacketAnswer::Packet;
             continue;
         }
 

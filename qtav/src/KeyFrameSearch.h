@@ -43,7 +43,7 @@ private:
     [[nodiscard]] PacketAnswer scan(Accept accept);
     [[nodiscard]] PacketAnswer scanIf(bool isThere, Accept accept);
     [[nodiscard]] PacketAnswer searchFromStart();
-    bool keep(PacketPtr packet);
+    [[nodiscard]] bool keep(PacketPtr packet);
 
     VideoPackets& m_video;
     qint64 m_durationMs;

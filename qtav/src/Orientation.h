@@ -27,6 +27,6 @@ Orientation orientationFromDisplayMatrix(const qint32* matrix);
 bool swapsSides(Orientation orientation);
 
 /// The picture turned upright; the image itself when it is so already.
-QImage oriented(const QImage& image, Orientation orientation);
+[[nodiscard]] QImage oriented(const QImage& image, Orientation orientation);
 
 } // namespace QtAV

@@ -25,7 +25,7 @@ class PictureConverter
 public:
     /// The picture at a size in pixels; a null image when it cannot be converted or memory runs
     /// out.
-    QImage convert(const AVFrame& frame, const QSize& size);
+    [[nodiscard]] QImage convert(const AVFrame& frame, const QSize& size);
 
     /// True when the picture's format has alpha, be all of it opaque or not.
     static bool hasAlpha(const AVFrame& frame);
@@ -63,13 +63,13 @@ private:
     /// More kinds of pictures than a video and its conversions have at a time.
     static constexpr size_t MostIdleScalers = 4;
 
-    QImage imageOf(const AVFrame& picture);
+    [[nodiscard]] QImage imageOf(const AVFrame& picture);
     static Task taskFor(const AVFrame& frame, const QSize& size, AVPixelFormat target);
     static ScalerPtr makeScalerContext(const Task& task);
-    static std::optional<Scaler> makeScaler(const Task& task);
+    [[nodiscard]] static std::optional<Scaler> makeScaler(const Task& task);
     static FramePtr makePicture(const Task& task);
-    static bool scale(const AVFrame& frame, const Scaler& scaler, AVFrame& picture);
-    std::optional<Scaler> takeScaler(const Task& task);
+    [[nodiscard]] static bool scale(const AVFrame& frame, const Scaler& scaler, AVFrame& picture);
+    [[nodiscard]] std::optional<Scaler> takeScaler(const Task& task);
     void keepScaler(Scaler scaler);
 
     ImagePool m_images;

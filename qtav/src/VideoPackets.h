@@ -77,7 +77,7 @@ private:
     void takeOrdered();
     void flagKey(AVPacket& packet) const;
     void setMissingTime(AVPacket& packet);
-    bool seekInRawStream(qint64 ms);
+    [[nodiscard]] bool seekInRawStream(qint64 ms);
     void forgetPosition();
 
     Container& m_container;

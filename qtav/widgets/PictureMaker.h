@@ -48,7 +48,7 @@ public:
     void cancel();
 
     /// The newest picture that has been made since the last call; nothing when none has.
-    std::optional<Picture> take();
+    [[nodiscard]] std::optional<Picture> take();
 
 private:
     void run();

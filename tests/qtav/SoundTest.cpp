@@ -157,6 +157,8 @@ void SoundTest::sound_leadsThePicture()
     time.start();
     stage.player.play();
     QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
+    QCOMPARE(devices.record.started.load(), 1);
+    QVERIFY(devices.record.heardBytes > 2.4 * Rate * 4);
     QVERIFY(furthest > 0);
     qInfo("The picture was at most %lld ms off the sound.", furthest);
     // By the clock alone it would be 1150 ms behind in the end.

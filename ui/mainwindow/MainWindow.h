@@ -75,10 +75,10 @@ public:
 
     /// Writes the snapshot, in place of a file of that name. Notes the outcome on the debug stream
     /// and in the status bar; false when nothing was written.
-    bool saveSnapshot(QString path);
+    [[nodiscard]] bool saveSnapshot(QString path);
     /// The name of the next picture in the folder: the first from the file counter on that is free.
     /// The counter stays there.
-    QString automaticFileName(QDir dir);
+    [[nodiscard]] QString automaticFileName(QDir dir);
     void updateAutomaticFileNameDisplay();
     /// Enables or disables whatever works on a snapshot.
     void setSnapshotControlsEnabled(bool on);

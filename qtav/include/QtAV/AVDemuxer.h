@@ -91,7 +91,7 @@ public:
     /// Selects by place in videoStreams() or audioStreams(); -1 selects none. Only packets of
     /// selected streams are read. False for a place that does not exist, and where the stream could
     /// not be read through, see errorString().
-    bool setStreamIndex(StreamType type, int index);
+    [[nodiscard]] bool setStreamIndex(StreamType type, int index);
 
     /// The stream that the last packet belongs to; -1 before the first.
     int stream() const;

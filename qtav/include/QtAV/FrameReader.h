@@ -135,7 +135,7 @@ private:
     QString failureText() const;
     [[nodiscard]] FrameAnswer readPacket(Packet& packet, const IsCancelled& isCancelled);
     void chooseSkipping(const Packet& packet);
-    FrameResult arriveAt(const VideoFrame& frame, bool isLanding);
+    [[nodiscard]] FrameResult arriveAt(const VideoFrame& frame, bool isLanding);
 
     AVDemuxer m_demuxer;
     std::unique_ptr<VideoDecoder> m_decoder;

@@ -32,7 +32,7 @@ public:
     void setCodecContext(const VideoCodecContext* context);
 
     /// False where no decoder exists for the codec or the stream's parameters are refused.
-    bool open();
+    [[nodiscard]] bool open();
     void close();
     bool isOpen() const;
 
@@ -50,11 +50,11 @@ public:
     /// being invalid. The first key packet after open() or flush() gives its frame at once; where
     /// only later frames matter, the option "key_frame_at_once" saves what that costs. False for a
     /// packet that is damaged; the decoder stays usable.
-    bool decode(const Packet& packet);
+    [[nodiscard]] bool decode(const Packet& packet);
 
     /// The frame of the last decode(), taken away by this call: at most one a packet, in the
     /// order of presentation, each once.
-    VideoFrame frame();
+    [[nodiscard]] VideoFrame frame();
 
 private:
     VideoDecoder();

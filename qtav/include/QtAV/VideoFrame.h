@@ -75,8 +75,9 @@ public:
     ///                to it; a null rectangle takes all.
     /// @return a null image for an invalid frame, for a region outside the picture and when
     ///         memory runs out. May be called from any thread.
-    QImage toImage(QImage::Format format = QImage::Format_ARGB32, const QSize& size = QSize(),
-                   const QRectF& region = QRectF()) const;
+    [[nodiscard]] QImage toImage(QImage::Format format = QImage::Format_ARGB32,
+                                 const QSize& size = QSize(),
+                                 const QRectF& region = QRectF()) const;
 
 private:
     QSharedDataPointer<VideoFramePrivate> d;
