@@ -41,4 +41,5 @@ mkdir -p "$suite"
     printf "subdirs(\"$root/build/%s\")\n" "${presets[@]}"
 } >"$suite/CTestTestfile.cmake"
 release_build_folder
-ctest --test-dir "$suite" --output-on-failure --no-tests=error --timeout 900 -j "$(nproc)"
+ctest --test-dir "$suite" --output-on-failure --no-tests=error --timeout 900 \
+    -j $(($(nproc) + 1)) # many of them wait more than they compute

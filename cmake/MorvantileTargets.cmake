@@ -82,13 +82,19 @@ elseif(MORVANTILE_SANITIZE)
   set(MORVANTILE_TEST_SUFFIX ".asan")
 endif()
 
-# morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [LABELS label…] [TIMEOUT s])
+# morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [EXHAUSTIVE] [LABELS label…]
+#                     [TIMEOUT s])
 # One Qt Test program for one class: FOLDER/NAME.cpp. MEDIA makes the sample videos first.
+# EXHAUSTIVE is a test that asks for the frames of all samples one by one. Sanitizers do without it:
+# for the time it takes they would see nothing that the tests beside it do not show them.
 # It runs on the offscreen platform, in no country's language, with a home of its own.
 # The label `threads` marks a test of what runs in several threads: thread sanitizer runs these
 # alone, for Qt's own libraries are not built for it and the other tests would tell it nothing.
 function(morvantile_add_test path)
-  cmake_parse_arguments(ARG "MEDIA" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "MEDIA;EXHAUSTIVE" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
+  if(MORVANTILE_SANITIZE AND ARG_EXHAUSTIVE)
+    return()
+  endif()
   if(MORVANTILE_SANITIZE MATCHES "thread" AND NOT "threads" IN_LIST ARG_LABELS)
     return()
   endif()

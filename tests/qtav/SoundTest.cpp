@@ -147,11 +147,14 @@ void SoundTest::sound_leadsThePicture()
     stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
     QVERIFY(stage.open(QStringLiteral("sound.mp4")));
     qint64 furthest = 0;
+    int pictures = 0;
     connect(&stage.screen, &Screen::presented, &stage.screen, [&] {
         const double heard = double(devices.record.heardBytes) / 4 / Rate * 1000.0;
-        if (heard > 300.0 && heard < 2300.0)
+        if (heard > 300.0 && heard < 2300.0) {
+            ++pictures;
             furthest = std::max(furthest,
                                 qint64(std::abs(double(stage.player.displayPosition()) - heard)));
+        }
     });
     QElapsedTimer time;
     time.start();
@@ -159,7 +162,7 @@ void SoundTest::sound_leadsThePicture()
     QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
     QCOMPARE(devices.record.started.load(), 1);
     QVERIFY(devices.record.heardBytes > 2.4 * Rate * 4);
-    QVERIFY(furthest > 0);
+    QVERIFY(pictures > 0);
     qInfo("The picture was at most %lld ms off the sound.", furthest);
     // By the clock alone it would be 1150 ms behind in the end.
     QVERIFY(furthest < 500);

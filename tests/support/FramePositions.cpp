@@ -10,12 +10,6 @@ namespace {
 constexpr qint64 pixelsOfSmallPicture = 320 * 240;
 constexpr int namedMistakes = 8;
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr int slowness = 10;
-#else
-constexpr int slowness = 1;
-#endif
-
 /// How many small pictures must be decoded to reach each frame from its key frame, in all.
 qint64 decodedInAll(const Sample& sample, const QList<int>& keys)
 {
@@ -44,8 +38,7 @@ int frameFrom(const Sample& sample, qint64 ms)
 QList<int> framesToAskFor(const Sample& sample, int mostDecoded)
 {
     const QList<int> keys = keyFrames(sample);
-    const int affordable = std::max(1, mostDecoded / slowness);
-    const int stride = int((decodedInAll(sample, keys) + affordable - 1) / affordable);
+    const int stride = int((decodedInAll(sample, keys) + mostDecoded - 1) / mostDecoded);
     QList<int> frames;
     for (int n = 0; n < sample.frames; ++n) {
         const bool isAtEnd = n == 0 || n == sample.frames - 1;
@@ -58,12 +51,6 @@ QList<int> framesToAskFor(const Sample& sample, int mostDecoded)
     }
     std::shuffle(frames.begin(), frames.end(), std::mt19937(20));
     return frames;
-}
-
-int stepsToTake(const Sample& sample)
-{
-    constexpr int stepsWhenSlow = 30;
-    return slowness == 1 ? sample.frames : std::min(sample.frames, stepsWhenSlow);
 }
 
 void Mistakes::compare(const QString& question, const QString& got, const QString& expected)

@@ -13,11 +13,8 @@ namespace testsupport {
 
 /// Shown frames in random order, the same on every run: all of them, or, where reaching each from
 /// its key frame would take longer than decoding so many frames of 320x240, every n-th. The first,
-/// the last, key frames and those before them are always there. Sanitizers get a tenth.
+/// the last, key frames and those before them are always there.
 [[nodiscard]] QList<int> framesToAskFor(const Sample& sample, int mostDecoded);
-
-/// How many steps to take from an end of a sample: to the other one; with sanitizers some.
-[[nodiscard]] int stepsToTake(const Sample& sample);
 
 /// Collects what came out wrong, so that a row that fails names all of it.
 class Mistakes

@@ -1,5 +1,7 @@
 #include "tests/support/ResourceLimits.h"
 
+#include "tests/support/Sanitizers.h"
+
 #include <QFile>
 
 #ifdef __GLIBC__
@@ -55,8 +57,8 @@ MemoryLimit::~MemoryLimit()
 
 bool MemoryLimit::isPossible()
 {
-#if defined(Q_OS_LINUX) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-    return true;
+#ifdef Q_OS_LINUX
+    return !isSanitized;
 #else
     return false;
 #endif

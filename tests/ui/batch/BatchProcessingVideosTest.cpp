@@ -3,6 +3,7 @@
 #include "tests/support/FrameNumber.h"
 #include "tests/support/RunProgram.h"
 #include "tests/support/Samples.h"
+#include "tests/support/Sanitizers.h"
 #include "tests/support/TestDir.h"
 #include "tests/ui/batch/RunningBatch.h"
 #include "video/FrameGrabber.h"
@@ -122,13 +123,8 @@ private:
     qint64 m_longestMs = 0;
 };
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-/// Sanitizers make every step several times as long.
-constexpr qint64 longestWaitMs = 2000;
-#else
 /// What a user does not yet take for a window that hangs.
-constexpr qint64 longestWaitMs = 200;
-#endif
+constexpr qint64 longestWaitMs = testsupport::isSanitized ? 2000 : 200;
 
 /// The longest wait for an event while images are taken out of a video; -1 if some are missing.
 qint64 longestWaitDuring(const QString& video)
