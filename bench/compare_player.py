@@ -94,7 +94,6 @@ FIRST_BACK_GOAL = 0.03
 BACK_GOAL = 0.15
 FIRST_FRAME_GOAL = 0.85
 PLAYING_GOAL = 1.0
-BACK_TO_FORWARD_GOAL = 1.5
 
 
 class Process:
@@ -479,7 +478,7 @@ def print_figures(video, own, mpv, cache):
     print_limit("peak memory, MiB", own.peak, mpv.peak, f"at most {video.memory_goal}",
                 own.peak <= video.memory_goal)
     print(f"\nOur step back to our step forward, p50: "
-          f"{median(own.backs()) / median(own.forwards):.2f} (goal: {BACK_TO_FORWARD_GOAL}). "
+          f"{median(own.backs()) / median(own.forwards):.2f}. "
           f"A filled cache holds {cache['frames']} frames, {cache['bytes'] / 2**20:.0f} MiB.")
 
 
