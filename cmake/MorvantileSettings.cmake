@@ -2,6 +2,7 @@
 
 option(MORVANTILE_BUILD_TESTS "Build the tests" ON)
 option(MORVANTILE_DESKTOP_TESTS "Of the tests, build those that need a desktop too" ON)
+option(MORVANTILE_PRECOMPILE "Build the tests with precompiled headers, which takes less time" OFF)
 option(MORVANTILE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(MORVANTILE_WERROR "Treat warnings as errors" OFF)
 set(MORVANTILE_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
@@ -12,7 +13,9 @@ endif()
 
 find_program(MORVANTILE_CCACHE ccache)
 if(MORVANTILE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${MORVANTILE_CCACHE}")
+  # What it needs to be told to keep what was compiled with precompiled headers.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${MORVANTILE_CCACHE}")
 endif()
 
 # Said to the compiler even where it is its default: clang-tidy's default is another one.

@@ -82,16 +82,17 @@ elseif(MORVANTILE_SANITIZE)
   set(MORVANTILE_TEST_SUFFIX ".asan")
 endif()
 
-# morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [EXHAUSTIVE] [LABELS label…]
-#                     [TIMEOUT s])
+# morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [EXHAUSTIVE] [CORE_ONLY]
+#                     [LABELS label…] [TIMEOUT s])
 # One Qt Test program for one class: FOLDER/NAME.cpp. MEDIA makes the sample videos first.
 # EXHAUSTIVE is a test that asks for the frames of all samples one by one. Sanitizers do without it:
 # for the time it takes they would see nothing that the tests beside it do not show them.
+# CORE_ONLY is one that is built without Qt5::Gui, and so without the precompiled headers.
 # It runs on the offscreen platform, in no country's language, with a home of its own.
 # The label `threads` marks a test of what runs in several threads: thread sanitizer runs these
 # alone, for Qt's own libraries are not built for it and the other tests would tell it nothing.
 function(morvantile_add_test path)
-  cmake_parse_arguments(ARG "MEDIA;EXHAUSTIVE" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "MEDIA;EXHAUSTIVE;CORE_ONLY" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   if(MORVANTILE_SANITIZE AND ARG_EXHAUSTIVE)
     return()
   endif()
@@ -100,6 +101,9 @@ function(morvantile_add_test path)
   endif()
   get_filename_component(name "${path}" NAME)
   morvantile_add_executable(${name} SOURCES ${path}.cpp ${ARG_SOURCES} LIBS ${ARG_LIBS} Qt5::Test)
+  if(MORVANTILE_PRECOMPILE AND NOT ARG_CORE_ONLY)
+    target_precompile_headers(${name} REUSE_FROM morvantile_test_support)
+  endif()
   set(test "${name}${MORVANTILE_TEST_SUFFIX}")
   set(home "${CMAKE_BINARY_DIR}/home/${name}")
   file(MAKE_DIRECTORY "${home}")

@@ -47,10 +47,11 @@ bool replaceByFewerStreams(const QString& path)
            QFile::remove(path) && QFile::rename(beside, path);
 }
 
+/// Of the finished images.
 QHash<QString, QByteArray> contents(const QString& folder)
 {
     QHash<QString, QByteArray> result;
-    for (const QString& name : imagesIn(folder)) {
+    for (const QString& name : QDir(folder).entryList(QDir::Files)) {
         QFile image(QDir(folder).filePath(name));
         if (image.open(QIODevice::ReadOnly)) {
             result.insert(name, image.readAll());
@@ -64,7 +65,7 @@ bool startTaking(QProcess& process, const QString& video, const QString& destina
 {
     process.setProcessEnvironment(commandline::environment());
     process.start(commandline::program(),
-                  {video, destination, QStringLiteral("--count"), QStringLiteral("20"),
+                  {video, destination, QStringLiteral("--count"), QStringLiteral("12"),
                    QStringLiteral("--skipfront"), QStringLiteral("0"), QStringLiteral("--skipback"),
                    QStringLiteral("0")});
     const auto someAreThere = [&destination] { return imagesIn(destination).size() >= 3; };

@@ -1,6 +1,6 @@
 #include "tests/app/CommandLine.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <QDir>
 #include <QFile>

@@ -7,7 +7,7 @@
 #include <QImageWriter>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "imaging/ImageProcessor.h"
 
-#include <QtTest>
+#include <QTest>
 
 class ImageProcessorTest : public QObject
 {

@@ -1,6 +1,6 @@
 #include "imaging/MatChannels.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace QtOcv;
 

@@ -1,6 +1,6 @@
 #include "imaging/QtOcv.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <opencv2/core.hpp>
 

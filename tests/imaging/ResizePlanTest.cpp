@@ -2,7 +2,7 @@
 
 #include <QRect>
 #include <QSize>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QStandardPaths>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

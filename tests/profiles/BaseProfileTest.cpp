@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QSettings>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include <QFileInfo>
 #include <QSettings>
-#include <QtTest>
+#include <QTest>
 
 #include <limits>
 

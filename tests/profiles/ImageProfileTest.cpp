@@ -6,7 +6,7 @@
 
 #include <QFileInfo>
 #include <QSettings>
-#include <QtTest>
+#include <QTest>
 
 class ImageProfileTest : public QObject
 {

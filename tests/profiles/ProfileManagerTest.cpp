@@ -6,9 +6,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QSettings>
+#include <QTest>
 #include <QTranslator>
-#include <QtTest>
 
 #include <functional>
 

@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
-#include <QtTest>
+#include <QTest>
 
 #include <limits>
 

@@ -2,7 +2,7 @@
 #include "tests/support/RunProgram.h"
 #include "tests/support/Samples.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace testsupport;
 

@@ -1,7 +1,7 @@
 #include "tests/support/FrameNumber.h"
 
 #include <QPainter>
-#include <QtTest>
+#include <QTest>
 
 using namespace testsupport;
 

@@ -1,6 +1,6 @@
 #include "tests/support/RunProgram.h"
 
-#include <QtTest>
+#include <QTest>
 
 using testsupport::ProgramResult;
 using testsupport::runProgram;

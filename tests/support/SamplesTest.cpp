@@ -7,7 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "tests/support/TestDir.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace testsupport {
 

@@ -2,7 +2,7 @@
 
 #include "tests/utils/ChildProcess.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "utils/CImageResizer.h"
 
 #include <QScreen>
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 

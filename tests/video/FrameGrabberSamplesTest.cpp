@@ -103,12 +103,12 @@ QList<qint64> interestingTargets(const Sample& sample, int precision)
     return targets;
 }
 
-/// Every other one of the positions, jumping to and fro.
+/// Every fourth of the positions, jumping to and fro.
 QList<qint64> shuffled(const QList<qint64>& targets)
 {
     QList<qint64> result;
     const int half = targets.size() / 2;
-    for (int i = 0; i < half; i += 2) {
+    for (int i = 0; i < half; i += 4) {
         result.append(targets.at(i + half));
         result.append(targets.at(half - 1 - i));
     }
