@@ -2,7 +2,8 @@
 
 #include "batch/BatchWorkerConfig.h"
 #include "batch/SamplingPlan.h"
-#include "imaging/ImageProcessingManager.h"
+#include "imaging/Rendering.h"
+#include "profiles/FileNameProfile.h"
 #include "video/FrameGrabber.h"
 
 #include <QCoreApplication>
@@ -176,13 +177,12 @@ void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
     }
     const QString path = firstFreePath();
     announceSaving(path);
-    QString error;
-    QImage image = ImageProcessingManager::instance()->processImage(
-        frame.toImage(frame.imageFormat()), m_config->imageProfile(), nullptr, &error);
-    if (image.isNull()) {
-        reportUnmadeImage(path, position, error);
-    } else if (saveImage(path, image)) {
-        Q_EMIT imageReady(this, image);
+    const ImageRecipe recipe = recipes::of(*m_config->imageProfile());
+    imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), recipe);
+    if (made.image.isNull()) {
+        reportUnmadeImage(path, position, made.error);
+    } else if (saveImage(path, made.image, recipe)) {
+        Q_EMIT imageReady(this, made.image);
     }
 }
 
@@ -233,11 +233,11 @@ void BatchWorker::announceSaving(const QString& path)
 
 /// Saves under the given name or, while others take the names at the same moment, under the next
 /// free one. False when that failed, which has been told then.
-bool BatchWorker::saveImage(QString path, const QImage& image)
+bool BatchWorker::saveImage(QString path, const QImage& image, const ImageRecipe& recipe)
 {
-    const auto save = [this, &image](const QString& target) {
-        return ImageProcessingManager::instance()->saveNewImage(
-            target, image, m_config->imageProfile(), m_config->filenameProfile());
+    const auto save = [this, &image, &recipe](const QString& target) {
+        return imaging::save(target, image, recipe, m_config->filenameProfile()->naming(),
+                             ExistingFile::Keep);
     };
     WriteResult result = save(path);
     while (result == WriteResult::AlreadyExists) {

@@ -12,6 +12,7 @@
 
 class BatchWorkerConfig;
 class FrameGrabber;
+struct ImageRecipe;
 struct SamplingPlan;
 
 /// Runs one batch job: takes the frames, makes the images and saves them.
@@ -78,7 +79,7 @@ private:
     [[nodiscard]] QString firstFreePath();
     [[nodiscard]] QString nextFreePath();
     void announceSaving(const QString& path);
-    [[nodiscard]] bool saveImage(QString path, const QImage& image);
+    [[nodiscard]] bool saveImage(QString path, const QImage& image, const ImageRecipe& recipe);
     void reportUnmadeImage(const QString& path, qint64 position, const QString& reason);
 
     /// Frames whose images are still to be made. Counted up in the thread of run(), down in the

@@ -2,13 +2,6 @@
 
 #include "profiles/ProfileManager.h"
 
-namespace {
-
-constexpr int noCounter = -1;
-constexpr int paddedCounterWidth = 5;
-
-} // namespace
-
 FileNameProfile::FileNameProfile(FileNameProfile* ignored)
     : BaseProfile(ignored)
 {}
@@ -17,14 +10,12 @@ FileNameProfile::~FileNameProfile() = default;
 
 QString FileNameProfile::generateFileName(const QString& videoBaseName, int counter) const
 {
-    const QString baseName = m_fileBaseName.isEmpty() ? videoBaseName : m_fileBaseName;
-    return m_fileOutputPrefix + baseName + m_fileOutputSuffix + counterText(counter) +
-           QLatin1Char('.') + m_fileOutputType;
+    return m_naming.fileName(videoBaseName, counter);
 }
 
 QString FileNameProfile::generateFileName(const QString& videoBaseName) const
 {
-    return generateFileName(videoBaseName, noCounter);
+    return generateFileName(videoBaseName, OutputNaming::noCounter);
 }
 
 QString FileNameProfile::fileOutputExamples() const
@@ -41,13 +32,4 @@ ProfileManager* FileNameProfile::profileManager()
             createDefaultIfEmpty);
     }
     return s_profileManager;
-}
-
-QString FileNameProfile::counterText(int counter) const
-{
-    if (counter == noCounter)
-        return QString();
-    if (!m_fileOutputCounterPadZeros)
-        return QString::number(counter);
-    return QStringLiteral("%1").arg(qlonglong(counter), paddedCounterWidth, 10, QLatin1Char('0'));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "profiles/BaseProfile.h"
+#include "profiles/OutputNaming.h"
 
 #include <QString>
 
@@ -30,20 +31,23 @@ public:
     explicit FileNameProfile(FileNameProfile* ignored = nullptr);
     ~FileNameProfile() override;
 
-    QString fileOutputPrefix() const { return m_fileOutputPrefix; }
-    void setFileOutputPrefix(const QString& prefix) { m_fileOutputPrefix = prefix; }
+    QString fileOutputPrefix() const { return m_naming.prefix; }
+    void setFileOutputPrefix(const QString& prefix) { m_naming.prefix = prefix; }
 
-    QString fileBaseName() const { return m_fileBaseName; }
-    void setFileBaseName(const QString& baseName) { m_fileBaseName = baseName; }
+    QString fileBaseName() const { return m_naming.baseName; }
+    void setFileBaseName(const QString& baseName) { m_naming.baseName = baseName; }
 
-    QString fileOutputSuffix() const { return m_fileOutputSuffix; }
-    void setFileOutputSuffix(const QString& suffix) { m_fileOutputSuffix = suffix; }
+    QString fileOutputSuffix() const { return m_naming.suffix; }
+    void setFileOutputSuffix(const QString& suffix) { m_naming.suffix = suffix; }
 
-    QString fileOutputType() const { return m_fileOutputType; }
-    void setFileOutputType(const QString& type) { m_fileOutputType = type; }
+    QString fileOutputType() const { return m_naming.type; }
+    void setFileOutputType(const QString& type) { m_naming.type = type; }
 
-    bool fileOutputCounterPadZeros() const { return m_fileOutputCounterPadZeros; }
-    void setFileOutputCounterPadZeros(bool pad) { m_fileOutputCounterPadZeros = pad; }
+    bool fileOutputCounterPadZeros() const { return m_naming.padsZeros; }
+    void setFileOutputCounterPadZeros(bool pad) { m_naming.padsZeros = pad; }
+
+    /// The same as a value, for any thread.
+    const OutputNaming& naming() const { return m_naming; }
 
     /// The file name, without a folder: prefix, base name, suffix, counter, dot, type. A counter of
     /// exactly -1 leaves the counter out; it is never cut.
@@ -60,13 +64,7 @@ public:
     static ProfileManager* profileManager();
 
 private:
-    QString counterText(int counter) const;
-
-    QString m_fileOutputPrefix;
-    QString m_fileBaseName;
-    QString m_fileOutputSuffix = QStringLiteral("-");
-    QString m_fileOutputType = QStringLiteral("jpeg");
-    bool m_fileOutputCounterPadZeros = true;
+    OutputNaming m_naming;
 
     static inline ProfileManager* s_profileManager = nullptr;
 };

@@ -3,7 +3,6 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
-#include "ui/dialogs/ImageProfilePreview.h"
 #include "ui/dialogs/WatermarkProfileDialog.h"
 #include "ui/widgets/Field.h"
 #include "ui/widgets/GroupBoxMargins.h"
@@ -78,12 +77,11 @@ void ImageProfileDialog::fieldChanged(Field* /*field*/)
 
 void ImageProfileDialog::updateImageTimerFired()
 {
-    auto* const preview = dynamic_cast<ImageProfilePreview*>(parentWidget());
-    if (!preview)
+    if (!m_preview)
         return;
     ImageProfile profile(nullptr);
     m_ui->profileSelector->loadFormIntoProfile(&profile);
-    preview->imageProfileUpdated(&profile);
+    m_preview(&profile);
 }
 
 void ImageProfileDialog::on_sameSizeAsVideoCheckbox_toggled(bool checked)

@@ -4,7 +4,9 @@
 #include <QImage>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 class Field;
 class ImageProfile;
@@ -18,7 +20,7 @@ class ImageProfileDialog;
 
 /// Edits image profiles: size, corrections, JPEG quality and the watermark.
 ///
-/// A parent that is an ImageProfilePreview shows every edit, a moment after the last one. The
+/// Every edit is handed to the preview, a moment after the last one. The
 /// caller sets up the dialog, runs it and asks for selectedProfile(). User-interface thread only.
 class ImageProfileDialog : public QDialog
 {
@@ -42,6 +44,11 @@ public:
     /// The frame on which the watermark dialog shows its preview. It has a picture of its own where
     /// there is none.
     void setExampleImage(const QImage& image);
+
+    /// What shows the picture as a profile makes it. The profile that it is given is not null,
+    /// holds what is entered at the moment, belongs to no manager and is gone after the call.
+    using Preview = std::function<void(ImageProfile* profile)>;
+    void setPreview(Preview preview) { m_preview = std::move(preview); }
 
     /// Has the preview updated in a moment; every call puts it off again.
     void updateImage();
@@ -74,5 +81,6 @@ private:
     QLineEdit* m_videoWidthDisplay = nullptr;
     QLineEdit* m_videoHeightDisplay = nullptr;
     QImage m_exampleImage;
+    Preview m_preview;
     QTimer m_updateTimer;
 };

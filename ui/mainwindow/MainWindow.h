@@ -1,7 +1,6 @@
 #pragma once
 
 #include "imaging/FilePublisher.h"
-#include "ui/dialogs/ImageProfilePreview.h"
 #include "ui/mainwindow/CaptureTickets.h"
 
 #include <QDir>
@@ -38,7 +37,7 @@ class MainWindow;
 /// MainWindow_menus.cpp.
 ///
 /// Settings: "lastOpenDir", the folder that the save dialog starts in. User-interface thread only.
-class MainWindow : public QMainWindow, public ImageProfilePreview
+class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
@@ -124,7 +123,7 @@ public Q_SLOTS:
     /// in the status bar when that fails, and there is no snapshot then.
     void processFullFrameImage(ImageProfile* profile);
     /// Shows the snapshot as the profile makes it; nothing happens while there is none.
-    void imageProfileUpdated(ImageProfile* profile) override;
+    void imageProfileUpdated(ImageProfile* profile);
     void saveButtonPressed();
     void on_actionSaveSnapshot_triggered();
     void saveWithAutomaticFileName();

@@ -31,6 +31,7 @@ void MainWindow::on_editImageProfileButton_clicked()
 {
     pause();
     ImageProfileDialog dialog(this);
+    dialog.setPreview([this](ImageProfile* edited) { imageProfileUpdated(edited); });
     const QtAV::Statistics& video = m_player->statistics();
     dialog.setVideoDimensions(video.video_only.width, video.video_only.height);
     dialog.setExampleImage(m_fullFrameImage);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "profiles/ImageProfile.h"
-#include "ui/dialogs/ImageProfilePreview.h"
+#include "ui/dialogs/ImageProfileDialog.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -9,17 +9,13 @@
 namespace testsupport {
 
 /// Remembers what it was asked to preview.
-class PreviewWindow : public QWidget, public ImageProfilePreview
+class PreviewWindow : public QWidget
 {
 public:
-    void imageProfileUpdated(ImageProfile* profile) override
+    /// For a dialog that does not outlive this window.
+    [[nodiscard]] ImageProfileDialog::Preview preview()
     {
-        ++updates;
-        brightness = profile->imageBrightness();
-        contrast = profile->imageContrast();
-        size = {profile->imageWidth(), profile->imageHeight()};
-        quality = profile->imageQuality();
-        last = profile;
+        return [this](ImageProfile* profile) { remember(profile); };
     }
 
     int updates = 0;
@@ -29,6 +25,17 @@ public:
     int quality = 0;
     /// Null once the profile is gone.
     QPointer<ImageProfile> last;
+
+private:
+    void remember(ImageProfile* profile)
+    {
+        ++updates;
+        brightness = profile->imageBrightness();
+        contrast = profile->imageContrast();
+        size = {profile->imageWidth(), profile->imageHeight()};
+        quality = profile->imageQuality();
+        last = profile;
+    }
 };
 
 } // namespace testsupport

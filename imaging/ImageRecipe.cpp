@@ -1,0 +1,61 @@
+#include "imaging/ImageRecipe.h"
+
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
+#include "profiles/WatermarkProfile.h"
+
+namespace {
+
+constexpr int textType = 0;
+
+const WatermarkProfile* ownWatermark(const ImageProfile& profile)
+{
+    return qobject_cast<const WatermarkProfile*>(
+        WatermarkProfile::profileManager()->profileForId(profile.watermarkProfileId()));
+}
+
+} // namespace
+
+ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* watermark)
+{
+    ImageRecipe recipe;
+    recipe.keepsSize = profile.sameSizeAsVideo();
+    recipe.bounds = QSize(profile.imageWidth(), profile.imageHeight());
+    recipe.keepsAspectRatio = profile.maintainAspectRatio();
+    recipe.contrast = profile.imageContrast();
+    recipe.brightness = profile.imageBrightness();
+    recipe.jpegQuality = profile.imageQuality();
+    if (watermark == nullptr) {
+        watermark = ownWatermark(profile);
+    }
+    if (watermark != nullptr) {
+        recipe.watermark = of(*watermark);
+    }
+    return recipe;
+}
+
+WatermarkRecipe recipes::of(const WatermarkProfile& profile)
+{
+    const bool isText = profile.watermarkType() == textType;
+    return of(profile, isText ? WatermarkRecipe::Kind::Text : WatermarkRecipe::Kind::Picture);
+}
+
+WatermarkRecipe recipes::of(const WatermarkProfile& profile, WatermarkRecipe::Kind kind)
+{
+    WatermarkRecipe recipe;
+    recipe.kind = kind;
+    recipe.alignment = profile.alignment();
+    recipe.xMargin = profile.xMargin();
+    recipe.yMargin = profile.yMargin();
+    recipe.opacity = profile.alpha();
+    if (kind == WatermarkRecipe::Kind::Picture) {
+        recipe.picture = profile.image();
+        return recipe;
+    }
+    recipe.text = profile.text();
+    recipe.font = profile.textFont();
+    recipe.textColor = profile.textColor();
+    recipe.shadowColor = profile.textShadowColor();
+    recipe.shadowOffset = profile.textShadowOffset();
+    return recipe;
+}

@@ -1,0 +1,126 @@
+#include "imaging/Rendering.h"
+
+#include "imaging/ImageFileWriter.h"
+#include "imaging/QtOcv.h"
+#include "imaging/Resizing.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+
+#include <opencv2/core.hpp>
+
+#include <exception>
+#include <memory>
+#include <new>
+
+namespace {
+
+constexpr float LoweringContrastDivisor = 200.0F;
+constexpr float RaisingContrastDivisor = 40.0F;
+
+/// A picture as a matrix, and the order of its channels.
+///
+/// Contrast, brightness and resizing treat all channels alike, so a picture goes through them in
+/// whatever order it has: that spares the copies which reordering would cost.
+struct Picture
+{
+    cv::Mat mat;
+    QtOcv::MatColorOrder order = QtOcv::Bgr;
+
+    /// The matrix's samples are its own, and not those of an image.
+    [[nodiscard]] bool ownsSamples() const { return mat.u != nullptr; }
+};
+
+/// The image's pixels, shared with it where its format can be taken as it is.
+Picture pictureOf(const QImage& image)
+{
+    Picture picture;
+    picture.mat = QtOcv::imageToMat_shared(image, &picture.order);
+    if (picture.mat.empty())
+        picture.mat = QtOcv::imageToMat(image, CV_8UC(CV_CN_MAX), QtOcv::Bgr);
+    return picture;
+}
+
+/// An image that keeps the matrix's samples alive instead of copying them.
+QImage adoptedImage(const cv::Mat& mat, QImage::Format format)
+{
+    auto keeper = std::make_unique<cv::Mat>(mat);
+    const QImage image(
+        mat.data, mat.cols, mat.rows, static_cast<int>(mat.step[0]), format,
+        [](void* owner) { delete static_cast<cv::Mat*>(owner); }, keeper.get());
+    if (!image.isNull())
+        static_cast<void>(keeper.release());
+    return image;
+}
+
+/// An image of the picture that shares its pixels with nobody.
+QImage imageOf(const Picture& picture)
+{
+    const cv::Mat& mat = picture.mat;
+    // Qt's own images begin every line at a multiple of four bytes, and so shall ours.
+    const bool isAdoptable = picture.ownsSamples() && mat.step[0] % 4 == 0;
+    if (isAdoptable && mat.type() == CV_8UC4 && picture.order == QtOcv::Bgr)
+        return adoptedImage(mat, QImage::Format_ARGB32);
+    if (isAdoptable && mat.type() == CV_8UC3 && picture.order == QtOcv::Rgb)
+        return adoptedImage(mat, QImage::Format_RGB888);
+    return QtOcv::matToImage(mat, picture.order, QImage::Format_Invalid);
+}
+
+/// Every sample times the contrast's gain plus the brightness, saturated, in a matrix of its own.
+cv::Mat adjusted(const cv::Mat& mat, int contrast, int brightness)
+{
+    const float divisor = contrast < 0 ? LoweringContrastDivisor : RaisingContrastDivisor;
+    const float gain = static_cast<float>(contrast) / divisor + 1.0F;
+    cv::Mat result;
+    mat.convertTo(result, mat.type(), static_cast<double>(gain), brightness);
+    return result;
+}
+
+bool isLackOfMemory(const std::exception& exception)
+{
+    const auto* const failure = dynamic_cast<const cv::Exception*>(&exception);
+    return failure != nullptr ? failure->code == cv::Error::StsNoMem
+                              : dynamic_cast<const std::bad_alloc*>(&exception) != nullptr;
+}
+
+QImage rendered(const QImage& image, const ImageRecipe& recipe)
+{
+    const QSize size = recipe.keepsSize ? image.size() : recipe.bounds;
+    Picture picture = pictureOf(image);
+    qDebug() << "Contrast: " << recipe.contrast << " Brightness: " << recipe.brightness;
+    if (recipe.contrast != 0 || recipe.brightness != 0)
+        picture.mat = adjusted(picture.mat, recipe.contrast, recipe.brightness);
+    picture.mat = resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio);
+    const QImage result = imageOf(picture);
+    return recipe.watermark ? imaging::watermarked(result, *recipe.watermark) : result;
+}
+
+} // namespace
+
+imaging::Rendering imaging::render(const QImage& image, const ImageRecipe& recipe)
+{
+    // What Qt has no memory for is a null image; OpenCV and the containers throw.
+    Rendering result;
+    result.error = image.isNull()
+                       ? QCoreApplication::translate(
+                             "imaging", "There is no picture, perhaps for a lack of memory")
+                       : QCoreApplication::translate("imaging", "Not enough memory");
+    try {
+        result.image = rendered(image, recipe);
+    } catch (const std::exception& exception) {
+        if (!isLackOfMemory(exception))
+            result.error = QString::fromUtf8(exception.what()).trimmed();
+    }
+    if (!result.image.isNull())
+        result.error.clear();
+    return result;
+}
+
+WriteResult imaging::save(const QString& fileName, const QImage& image, const ImageRecipe& recipe,
+                          const OutputNaming& naming, ExistingFile existing)
+{
+    const QString type = naming.type.toLower();
+    const bool isJpeg = type == QLatin1String("jpeg") || type == QLatin1String("jpg");
+    const int quality = isJpeg ? recipe.jpegQuality : ImageFileWriter::DefaultQuality;
+    return ImageFileWriter::write(fileName, image, quality, existing);
+}

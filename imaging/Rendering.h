@@ -1,0 +1,44 @@
+#pragma once
+
+#include "imaging/FilePublisher.h"
+#include "imaging/ImageRecipe.h"
+#include "profiles/OutputNaming.h"
+
+#include <QImage>
+#include <QString>
+
+/// The one way from a frame to the picture that is shown, copied and saved, and to its file.
+/// Without state: all functions may be called from any thread, also at the same time.
+namespace imaging {
+
+struct Rendering
+{
+    QImage image;  ///< null after a failure
+    QString error; ///< why, for people; empty after a success
+};
+
+/// The picture that a recipe makes of an image: contrast and brightness, then the size, then the
+/// watermark. The result shares nothing with the image.
+///
+/// Contrast c multiplies every sample by 1 + c / 200 where it is negative, by 1 + c / 40 where it
+/// is not; the brightness is added after that. Alpha is a sample like the others, so that an opaque
+/// picture has to come in a format of three channels: else a lower contrast or brightness would
+/// make it see-through. (Format_RGB32 has four.) Images of three channels give Format_RGB888, of
+/// four Format_ARGB32, of one Format_Indexed8 (greys).
+///
+/// A null image is a failure, and so is a lack of memory: no exception leaves this function.
+[[nodiscard]] Rendering render(const QImage& image, const ImageRecipe& recipe);
+
+/// A full copy of the image with the watermark. It has the image's format, except that formats with
+/// a colour table, which cannot be painted on, become RGB32 or ARGB32. A null image gives a null
+/// image; a watermark that cannot be seen leaves every pixel as it is.
+[[nodiscard]] QImage watermarked(const QImage& image, const WatermarkRecipe& recipe);
+
+/// Writes an image as it is to a file, in the format of the file name's suffix. The recipe's
+/// quality is used where the naming's type is "jpg" or "jpeg", in capitals or not. See
+/// ImageFileWriter.
+[[nodiscard]] WriteResult save(const QString& fileName, const QImage& image,
+                               const ImageRecipe& recipe, const OutputNaming& naming,
+                               ExistingFile existing);
+
+} // namespace imaging

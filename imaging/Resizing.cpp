@@ -1,0 +1,32 @@
+#include "imaging/Resizing.h"
+
+#include "imaging/ResizePlan.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <limits>
+
+namespace {
+
+/// Whether the sides, both above 0, make an image of less than 2 GiB.
+bool isImageSize(cv::Size size, size_t bytesPerPixel)
+{
+    constexpr auto limit = static_cast<size_t>(std::numeric_limits<int>::max());
+    return static_cast<size_t>(size.width) <=
+           limit / bytesPerPixel / static_cast<size_t>(size.height);
+}
+
+} // namespace
+
+cv::Mat resized(const cv::Mat& mat, cv::Size target, bool keepsAspectRatio)
+{
+    if (mat.empty() || mat.size() == target || target.width <= 0 || target.height <= 0)
+        return mat;
+    const ResizePlan plan = keepsAspectRatio ? ResizePlan::fitting(mat.size(), target)
+                                             : ResizePlan::filling(mat.size(), target);
+    if (!isImageSize(plan.size, mat.elemSize()))
+        return mat;
+    cv::Mat result;
+    cv::resize(mat(plan.region), result, plan.size, 0.0, 0.0, cv::INTER_AREA);
+    return result;
+}
