@@ -181,7 +181,7 @@ void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
     imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), recipe);
     if (made.image.isNull()) {
         reportUnmadeImage(path, position, made.error);
-    } else if (saveImage(path, made.image, recipe)) {
+    } else if (saveImage(path, made.image, recipe.jpegQuality)) {
         Q_EMIT imageReady(this, made.image);
     }
 }
@@ -233,11 +233,11 @@ void BatchWorker::announceSaving(const QString& path)
 
 /// Saves under the given name or, while others take the names at the same moment, under the next
 /// free one. False when that failed, which has been told then.
-bool BatchWorker::saveImage(QString path, const QImage& image, const ImageRecipe& recipe)
+bool BatchWorker::saveImage(QString path, const QImage& image, int jpegQuality)
 {
-    const auto save = [this, &image, &recipe](const QString& target) {
-        return imaging::save(target, image, recipe, m_config->filenameProfile()->naming(),
-                             ExistingFile::Keep);
+    const auto save = [this, &image, jpegQuality](const QString& target) {
+        return imaging::save(target, image, jpegQuality,
+                             m_config->filenameProfile()->fileOutputType(), ExistingFile::Keep);
     };
     WriteResult result = save(path);
     while (result == WriteResult::AlreadyExists) {

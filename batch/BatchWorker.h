@@ -12,7 +12,6 @@
 
 class BatchWorkerConfig;
 class FrameGrabber;
-struct ImageRecipe;
 struct SamplingPlan;
 
 /// Runs one batch job: takes the frames, makes the images and saves them.
@@ -79,7 +78,7 @@ private:
     [[nodiscard]] QString firstFreePath();
     [[nodiscard]] QString nextFreePath();
     void announceSaving(const QString& path);
-    [[nodiscard]] bool saveImage(QString path, const QImage& image, const ImageRecipe& recipe);
+    [[nodiscard]] bool saveImage(QString path, const QImage& image, int jpegQuality);
     void reportUnmadeImage(const QString& path, qint64 position, const QString& reason);
 
     /// Frames whose images are still to be made. Counted up in the thread of run(), down in the

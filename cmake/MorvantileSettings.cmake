@@ -43,7 +43,9 @@ target_compile_definitions(morvantile_settings INTERFACE
 target_compile_options(morvantile_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
   -Wcast-align -Wextra-semi -Wimplicit-fallthrough
-  $<$<BOOL:${MORVANTILE_WERROR}>:-Werror>)
+  $<$<BOOL:${MORVANTILE_WERROR}>:-Werror>
+  # For ccache.
+  $<$<BOOL:${MORVANTILE_PRECOMPILE}>:-fpch-preprocess>)
 
 if(MORVANTILE_SANITIZE)
   target_compile_options(morvantile_settings INTERFACE

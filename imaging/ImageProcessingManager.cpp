@@ -13,9 +13,8 @@ namespace {
 WriteResult save(const QString& fileName, const QImage& image, const ImageProfile& imageProfile,
                  const FileNameProfile& fileNameProfile, ExistingFile existing)
 {
-    ImageRecipe recipe;
-    recipe.jpegQuality = imageProfile.imageQuality();
-    return imaging::save(fileName, image, recipe, fileNameProfile.naming(), existing);
+    return imaging::save(fileName, image, imageProfile.imageQuality(),
+                         fileNameProfile.fileOutputType(), existing);
 }
 
 } // namespace

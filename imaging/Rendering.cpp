@@ -116,11 +116,11 @@ imaging::Rendering imaging::render(const QImage& image, const ImageRecipe& recip
     return result;
 }
 
-WriteResult imaging::save(const QString& fileName, const QImage& image, const ImageRecipe& recipe,
-                          const OutputNaming& naming, ExistingFile existing)
+WriteResult imaging::save(const QString& fileName, const QImage& image, int jpegQuality,
+                          const QString& type, ExistingFile existing)
 {
-    const QString type = naming.type.toLower();
-    const bool isJpeg = type == QLatin1String("jpeg") || type == QLatin1String("jpg");
-    const int quality = isJpeg ? recipe.jpegQuality : ImageFileWriter::DefaultQuality;
+    const QString lower = type.toLower();
+    const bool isJpeg = lower == QLatin1String("jpeg") || lower == QLatin1String("jpg");
+    const int quality = isJpeg ? jpegQuality : ImageFileWriter::DefaultQuality;
     return ImageFileWriter::write(fileName, image, quality, existing);
 }

@@ -2,9 +2,10 @@
 
 #include "imaging/FilePublisher.h"
 #include "imaging/ImageRecipe.h"
-#include "profiles/OutputNaming.h"
 
 #include <QImage>
+#include <QPoint>
+#include <QSize>
 #include <QString>
 
 /// The one way from a frame to the picture that is shown, copied and saved, and to its file.
@@ -34,11 +35,18 @@ struct Rendering
 /// image; a watermark that cannot be seen leaves every pixel as it is.
 [[nodiscard]] QImage watermarked(const QImage& image, const WatermarkRecipe& recipe);
 
-/// Writes an image as it is to a file, in the format of the file name's suffix. The recipe's
-/// quality is used where the naming's type is "jpg" or "jpeg", in capitals or not. See
-/// ImageFileWriter.
-[[nodiscard]] WriteResult save(const QString& fileName, const QImage& image,
-                               const ImageRecipe& recipe, const OutputNaming& naming,
-                               ExistingFile existing);
+/// Writes an image as it is to a file, in the format of the file name's suffix. The quality, 0 to
+/// 100, is used where the type is "jpg" or "jpeg", in capitals or not. See ImageFileWriter.
+[[nodiscard]] WriteResult save(const QString& fileName, const QImage& image, int jpegQuality,
+                               const QString& type, ExistingFile existing);
+
+/// The top left corner of an item in a container, in pixels.
+///
+/// The margins count from the edges that the item is aligned to; a centred axis has none, and half
+/// pixels are cut towards zero. Without a flag for an axis the item is left or top. Right goes
+/// before centre, bottom before centre. An item larger than the container may lie at negative
+/// coordinates.
+[[nodiscard]] QPoint alignedPoint(QSize container, QSize item, Qt::Alignment alignment, int xMargin,
+                                  int yMargin);
 
 } // namespace imaging

@@ -1,5 +1,4 @@
 #include "imaging/Rendering.h"
-#include "imaging/WatermarkManager.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -50,8 +49,8 @@ void drawPicture(QImage& image, const WatermarkRecipe& recipe)
     QImage picture = recipe.picture;
     // A picture named like "logo@2x.png" is loaded with a pixel ratio that would shrink it.
     picture.setDevicePixelRatio(1.0);
-    const QPoint position = WatermarkManager::getAlignedPoint(
-        image.size(), picture.size(), recipe.alignment, recipe.xMargin, recipe.yMargin);
+    const QPoint position = imaging::alignedPoint(image.size(), picture.size(), recipe.alignment,
+                                                  recipe.xMargin, recipe.yMargin);
     QPainter painter(&image);
     painter.setOpacity(opacityOf(recipe));
     painter.drawImage(QPointF(position), picture);
@@ -78,4 +77,21 @@ QImage imaging::watermarked(const QImage& image, const WatermarkRecipe& recipe)
     else
         drawPicture(result, recipe);
     return result;
+}
+
+QPoint imaging::alignedPoint(QSize container, QSize item, Qt::Alignment alignment, int xMargin,
+                             int yMargin)
+{
+    const int freeWidth = container.width() - item.width();
+    const int freeHeight = container.height() - item.height();
+    QPoint point(xMargin, yMargin);
+    if (alignment.testFlag(Qt::AlignRight))
+        point.setX(freeWidth - xMargin);
+    else if (alignment.testFlag(Qt::AlignHCenter))
+        point.setX(freeWidth / 2);
+    if (alignment.testFlag(Qt::AlignBottom))
+        point.setY(freeHeight - yMargin);
+    else if (alignment.testFlag(Qt::AlignVCenter))
+        point.setY(freeHeight / 2);
+    return point;
 }

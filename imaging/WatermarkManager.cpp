@@ -26,16 +26,5 @@ QImage WatermarkManager::processTypeImage(QImage& image, WatermarkProfile* profi
 QPoint WatermarkManager::getAlignedPoint(QSize container, QSize item, Qt::Alignment alignment,
                                          int xMargin, int yMargin)
 {
-    const int freeWidth = container.width() - item.width();
-    const int freeHeight = container.height() - item.height();
-    QPoint point(xMargin, yMargin);
-    if (alignment.testFlag(Qt::AlignRight))
-        point.setX(freeWidth - xMargin);
-    else if (alignment.testFlag(Qt::AlignHCenter))
-        point.setX(freeWidth / 2);
-    if (alignment.testFlag(Qt::AlignBottom))
-        point.setY(freeHeight - yMargin);
-    else if (alignment.testFlag(Qt::AlignVCenter))
-        point.setY(freeHeight / 2);
-    return point;
+    return imaging::alignedPoint(container, item, alignment, xMargin, yMargin);
 }

@@ -36,12 +36,7 @@ public:
     /// A copy of the image with the profile's picture, pixel by pixel at its own size.
     [[nodiscard]] QImage processTypeImage(QImage& image, WatermarkProfile* profile);
 
-    /// The top left corner of an item in a container, in pixels.
-    ///
-    /// The margins count from the edges that the item is aligned to; a centred axis has none, and
-    /// half pixels are cut towards zero. Without a flag for an axis the item is left or top. Right
-    /// goes before centre, bottom before centre. An item larger than the container may lie at
-    /// negative coordinates.
+    /// The same as imaging::alignedPoint().
     [[nodiscard]] static QPoint getAlignedPoint(QSize container, QSize item,
                                                 Qt::Alignment alignment, int xMargin, int yMargin);
 

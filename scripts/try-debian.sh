@@ -24,8 +24,7 @@ presets=("$@")
 (($#)) || presets=(release)
 
 if ((EUID != 0)); then
-    exec_as_root=(as_root "$0" "$release" "${presets[@]}")
-    "${exec_as_root[@]}"
+    as_root "$0" "$release" "${presets[@]}"
     exit
 fi
 

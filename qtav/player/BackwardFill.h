@@ -38,8 +38,7 @@ public:
     /// @param room   how many frames the cache has room for before the focus.
     /// @param gapMs  the longest time between two frames, in milliseconds.
     /// @return whether a pass is under way then. None begins while half of the room is filled, at
-    /// the
-    ///         start of the video, nor for a target that one has led to already.
+    ///         the start of the video, nor for a target that one has led to already.
     [[nodiscard]] bool startIfNeeded(const FrameCache::Run& run, qint64 room, qint64 gapMs);
 
     /// Begins a pass to a target in seconds. Frames before a position in milliseconds may be

@@ -165,8 +165,9 @@ void RenderingTest::save_writesTheSame_asTheManagerDoesForTheProfiles()
     const QImage image = gradient({320, 240});
     const QString ours = dir.filePath(QStringLiteral("ours.") + type);
     const QString theirs = dir.filePath(QStringLiteral("theirs.") + type);
-    QCOMPARE(imaging::save(ours, image, recipes::of(*profile), names.naming(), ExistingFile::Keep),
-             WriteResult::Written);
+    QCOMPARE(
+        imaging::save(ours, image, recipes::of(*profile).jpegQuality, type, ExistingFile::Keep),
+        WriteResult::Written);
     QVERIFY(ImageProcessingManager::instance()->saveImage(theirs, image, profile.get(), &names));
     QVERIFY(!contentOf(ours).isEmpty());
     QCOMPARE(contentOf(ours), contentOf(theirs));
@@ -177,13 +178,15 @@ void RenderingTest::save_keepsAnExistingFile_whenToldSo()
     const TestDir dir;
     const QString path = dir.filePath(QStringLiteral("there.png"));
     const QImage image = gradient({32, 24});
-    QCOMPARE(imaging::save(path, image, {}, {}, ExistingFile::Keep), WriteResult::Written);
+    QCOMPARE(imaging::save(path, image, 90, QStringLiteral("png"), ExistingFile::Keep),
+             WriteResult::Written);
     const QByteArray before = contentOf(path);
-    QCOMPARE(imaging::save(path, gradient({64, 24}), {}, {}, ExistingFile::Keep),
+    QCOMPARE(imaging::save(path, gradient({64, 24}), 90, QStringLiteral("png"), ExistingFile::Keep),
              WriteResult::AlreadyExists);
     QCOMPARE(contentOf(path), before);
-    QCOMPARE(imaging::save(path, gradient({64, 24}), {}, {}, ExistingFile::Replace),
-             WriteResult::Written);
+    QCOMPARE(
+        imaging::save(path, gradient({64, 24}), 90, QStringLiteral("png"), ExistingFile::Replace),
+        WriteResult::Written);
     QVERIFY(contentOf(path) != before);
 }
 

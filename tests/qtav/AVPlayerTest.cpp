@@ -1,4 +1,5 @@
 #include "tests/qtav/Playing.h"
+#include "tests/support/TestDir.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -31,6 +32,7 @@ private slots:
     void unplayableFile_endsInvalidAndStopped_data();
     void unplayableFile_endsInvalidAndStopped();
     void goodFile_plays_afterAnUnplayableOne();
+    void step_pausesWithAReason_whereTheFileIsLost();
     void calls_doNothing_withoutAFile();
     void capture_givesTheFrameOnScreen_asADecoderDoes_data();
     void capture_givesTheFrameOnScreen_asADecoderDoes();
@@ -303,6 +305,31 @@ void AVPlayerTest::goodFile_plays_afterAnUnplayableOne()
     QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
     QVERIFY(stage.player.errorString().isEmpty());
     QCOMPARE(stage.number(), 0);
+}
+
+void AVPlayerTest::step_pausesWithAReason_whereTheFileIsLost()
+{
+    const testsupport::TestDir dir;
+    const QString path = dir.filePath(QStringLiteral("video.mp4"));
+    QVERIFY(QFile::copy(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), path));
+    Stage stage;
+    stage.player.play(path);
+    stage.player.pause();
+    QVERIFY(stage.waitForStatus(QtAV::LoadedMedia));
+    QVERIFY(QFile::resize(path, 0));
+    QSignalSpy failed(&stage.player, &AVPlayer::failed);
+    constexpr int moreSteps = 400; // than frames are decoded ahead
+    for (int i = 0; failed.isEmpty() && i < moreSteps; ++i) {
+        stage.player.stepForward();
+        QTest::qWait(10);
+    }
+    QVERIFY(!failed.isEmpty());
+    QVERIFY(!stage.player.errorString().isEmpty());
+    QCOMPARE(failed.first().first().toString(), stage.player.errorString());
+    QVERIFY(stage.player.isPaused());
+    QVERIFY(stage.number() >= 0);
+    QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
+    QVERIFY(stage.player.errorString().isEmpty());
 }
 
 void AVPlayerTest::calls_doNothing_withoutAFile()

@@ -64,16 +64,15 @@ private:
     std::deque<Answer> m_answers;
 };
 
-/// A copy of a sample that is much longer than what is decoded ahead.
-QString copiedTo(const testsupport::TestDir& dir)
+constexpr int longSampleFrames = 520;
+
+/// Opens a copy of a sample that is much longer than what is decoded ahead, and cuts it to nothing.
+bool openAndLose(Harness& harness, const testsupport::TestDir& dir)
 {
     const QString path = dir.filePath(QStringLiteral("video.mp4"));
-    if (!QFile::copy(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), path))
-        qFatal("the sample cannot be copied");
-    return path;
+    return QFile::copy(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), path) &&
+           harness.open(path) && QFile::resize(path, 0);
 }
-
-constexpr int longSampleFrames = 520;
 
 int numberOf(const std::optional<Answer>& answer)
 {
@@ -214,16 +213,14 @@ void PlaybackEngineTest::step_fails_withAReason_whereTheFileIsLost()
 {
     Harness harness;
     const testsupport::TestDir dir;
-    const QString path = copiedTo(dir);
-    QVERIFY(harness.open(path));
-    QVERIFY(QFile::resize(path, 0));
-    std::optional<Answer> answer;
-    int number = -1;
-    do {
-        number = answer ? numberOf(answer) : 0;
+    QVERIFY(openAndLose(harness, dir));
+    int number = 0;
+    std::optional<Answer> answer = harness.to(harness.engine.step(Direction::Forward));
+    while (numberOf(answer) > number) {
+        number = numberOf(answer);
         answer = harness.to(harness.engine.step(Direction::Forward));
-        QVERIFY(answer);
-    } while (answer->result.answer == FrameAnswer::Frame);
+    }
+    QVERIFY(answer);
     QCOMPARE(answer->result.answer, FrameAnswer::Failed);
     QVERIFY(!answer->result.error.isEmpty());
     QVERIFY(number < longSampleFrames / 2);
@@ -239,9 +236,7 @@ void PlaybackEngineTest::seek_fails_withAReason_whereTheFileIsLost()
 {
     Harness harness;
     const testsupport::TestDir dir;
-    const QString path = copiedTo(dir);
-    QVERIFY(harness.open(path));
-    QVERIFY(QFile::resize(path, 0));
+    QVERIFY(openAndLose(harness, dir));
     const std::optional<Answer> answer = harness.to(harness.engine.seek(15000));
     QVERIFY(answer);
     QCOMPARE(answer->kind, Answer::Kind::Sought);
@@ -254,9 +249,7 @@ void PlaybackEngineTest::queue_fails_insteadOfEnding_whereTheFileIsLost()
 {
     Harness harness;
     const testsupport::TestDir dir;
-    const QString path = copiedTo(dir);
-    QVERIFY(harness.open(path));
-    QVERIFY(QFile::resize(path, 0));
+    QVERIFY(openAndLose(harness, dir));
     harness.engine.setPlaying(true);
     PlaybackEngine::Due due;
     int number = 0;

@@ -20,8 +20,8 @@ class ImageProfileDialog;
 
 /// Edits image profiles: size, corrections, JPEG quality and the watermark.
 ///
-/// Every edit is handed to the preview, a moment after the last one. The
-/// caller sets up the dialog, runs it and asks for selectedProfile(). User-interface thread only.
+/// Every edit is handed to the preview, a moment after the last one. The caller sets up the dialog,
+/// runs it and asks for selectedProfile(). User-interface thread only.
 class ImageProfileDialog : public QDialog
 {
     Q_OBJECT

@@ -200,8 +200,7 @@ void MainWindow::noticeMediaStatus()
 /// The picture that stays on screen does not tell why the video does not go on.
 void MainWindow::noticeFailedRead(const QString& reason)
 {
-    statusBar()->showMessage(tr("%1: %2").arg(QFileInfo(m_currentVideoPath).fileName(), reason),
-                             messageMs);
+    statusBar()->showMessage(tr("%1: %2").arg(currentVideoFileName(), reason), messageMs);
 }
 
 void MainWindow::pause()
