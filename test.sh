@@ -28,7 +28,7 @@ for preset in "${presets[@]}"; do
     say "== Building: $preset"
     # Without precompiled headers a file has to include what it uses: the shorter run sees to that.
     configure "$preset" -DMORVANTILE_BUILD_TESTS=ON -DMORVANTILE_WERROR=ON \
-        -DMORVANTILE_DESKTOP_TESTS=$desktop_tests -DMORVANTILE_PRECOMPILE=$desktop_tests
+        -DMORVANTILE_DESKTOP_TESTS=$desktop_tests -DMORVANTILE_QUICK_BUILD=$desktop_tests
     # Thread sanitizer runs few of the tests, and they need few of the libraries.
     if [[ $preset == tsan ]]; then build tsan tests/all; else build "$preset" all; fi
 done

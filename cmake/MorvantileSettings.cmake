@@ -2,7 +2,7 @@
 
 option(MORVANTILE_BUILD_TESTS "Build the tests" ON)
 option(MORVANTILE_DESKTOP_TESTS "Of the tests, build those that need a desktop too" ON)
-option(MORVANTILE_PRECOMPILE "Build the tests with precompiled headers, which takes less time" OFF)
+option(MORVANTILE_QUICK_BUILD "Build with precompiled headers and a quicker linker" OFF)
 option(MORVANTILE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(MORVANTILE_WERROR "Treat warnings as errors" OFF)
 set(MORVANTILE_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
@@ -45,10 +45,16 @@ target_compile_options(morvantile_settings INTERFACE
   -Wcast-align -Wextra-semi -Wimplicit-fallthrough
   $<$<BOOL:${MORVANTILE_WERROR}>:-Werror>
   # For ccache.
-  $<$<BOOL:${MORVANTILE_PRECOMPILE}>:-fpch-preprocess>)
+  $<$<BOOL:${MORVANTILE_QUICK_BUILD}>:-fpch-preprocess>)
 
+# Options of the folders, so that those of the tests can take something back.
 if(MORVANTILE_SANITIZE)
-  target_compile_options(morvantile_settings INTERFACE
-    -fsanitize=${MORVANTILE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
-  target_link_options(morvantile_settings INTERFACE -fsanitize=${MORVANTILE_SANITIZE})
+  add_compile_options(-fsanitize=${MORVANTILE_SANITIZE} -fno-omit-frame-pointer
+    -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${MORVANTILE_SANITIZE})
+endif()
+
+find_program(MORVANTILE_GOLD ld.gold)
+if(MORVANTILE_QUICK_BUILD AND MORVANTILE_GOLD)
+  add_link_options(-fuse-ld=gold)
 endif()

@@ -27,8 +27,17 @@ function(morvantile_make_include_folder folder root)
   endforeach()
 endfunction()
 
+# What is precompiled, where it is: what most files include, and what those with widgets include too.
+set(MORVANTILE_COMMON_HEADERS
+  <QColor> <QCoreApplication> <QDateTime> <QDebug> <QDir> <QElapsedTimer> <QFile> <QFileInfo>
+  <QHash> <QImage> <QObject> <QSet> <QString> <QTemporaryDir> <QUrl> <QVariant> <QVector>
+  <algorithm> <atomic> <chrono> <functional> <map> <memory> <optional> <string> <thread> <vector>)
+set(MORVANTILE_WIDGET_HEADERS ${MORVANTILE_COMMON_HEADERS}
+  <QComboBox> <QDialog> <QFileDialog> <QGroupBox> <QLabel> <QLineEdit> <QMessageBox> <QPainter>
+  <QSettings> <QSlider> <QTimer> <QWidget>)
+
 # morvantile_add_library(NAME SOURCES file… [PRIVATE_HEADERS file…] [HEADER_ROOT folder]
-#                        [PUBLIC lib…] [PRIVATE lib…])
+#                        [PUBLIC lib…] [PRIVATE lib…] [PRECOMPILED header…])
 # One library for one folder, or for a part of it; static, or an interface if it has headers only.
 # It may link only what stands below it. What links it finds the headers among its SOURCES, by their
 # paths from HEADER_ROOT (the root of the project).
@@ -36,8 +45,10 @@ endfunction()
 # The PRIVATE_HEADERS are found by the library itself, by their paths from the root of the project,
 # and by what links NAME_private: its closest neighbours and the tests of its inner parts. That
 # brings the PRIVATE libraries too, whose headers may be included there.
+#
+# The PRECOMPILED headers are made part of each source where MORVANTILE_QUICK_BUILD is on.
 function(morvantile_add_library name)
-  cmake_parse_arguments(ARG "" "HEADER_ROOT" "SOURCES;PRIVATE_HEADERS;PUBLIC;PRIVATE" ${ARGN})
+  cmake_parse_arguments(ARG "" "HEADER_ROOT" "SOURCES;PRIVATE_HEADERS;PUBLIC;PRIVATE;PRECOMPILED" ${ARGN})
   if(NOT ARG_HEADER_ROOT)
     set(ARG_HEADER_ROOT "${CMAKE_SOURCE_DIR}")
   endif()
@@ -52,6 +63,9 @@ function(morvantile_add_library name)
   add_library(${name} STATIC ${ARG_SOURCES} ${ARG_PRIVATE_HEADERS})
   target_include_directories(${name} PUBLIC "${folder}")
   target_link_libraries(${name} PUBLIC morvantile_settings ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+  if(MORVANTILE_QUICK_BUILD AND ARG_PRECOMPILED)
+    target_precompile_headers(${name} PRIVATE ${ARG_PRECOMPILED})
+  endif()
   if(ARG_PRIVATE_HEADERS)
     set(folder "${MORVANTILE_INCLUDE_DIR}/${name}_private")
     morvantile_make_include_folder("${folder}" "${CMAKE_SOURCE_DIR}" ${ARG_PRIVATE_HEADERS})
@@ -82,6 +96,28 @@ elseif(MORVANTILE_SANITIZE)
   set(MORVANTILE_TEST_SUFFIX ".asan")
 endif()
 
+# morvantile_run_moc(TARGET file…)
+# Has moc run on the test's own file, which includes the outcome, and on the headers that need it.
+# CMake's search for what needs moc takes longer than compiling a short test.
+function(morvantile_run_moc target test)
+  set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+  get_filename_component(name "${test}" NAME_WE)
+  set(folder "${CMAKE_CURRENT_BINARY_DIR}/${target}_moc")
+  file(MAKE_DIRECTORY "${folder}")
+  qt5_generate_moc(${test} "${folder}/${name}.moc" TARGET ${target})
+  target_sources(${target} PRIVATE "${folder}/${name}.moc")
+  target_include_directories(${target} PRIVATE "${folder}")
+  foreach(header IN LISTS ARGN)
+    file(STRINGS "${header}" declarations REGEX "^ *Q_(OBJECT|GADGET)$")
+    if(NOT declarations)
+      continue()
+    endif()
+    get_filename_component(name "${header}" NAME_WE)
+    qt5_generate_moc("${header}" "${folder}/moc_${name}.cpp" TARGET ${target})
+    target_sources(${target} PRIVATE "${folder}/moc_${name}.cpp")
+  endforeach()
+endfunction()
+
 # morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [EXHAUSTIVE] [CORE_ONLY]
 #                     [LABELS label…] [TIMEOUT s])
 # One Qt Test program for one class: FOLDER/NAME.cpp. MEDIA makes the sample videos first.
@@ -101,7 +137,8 @@ function(morvantile_add_test path)
   endif()
   get_filename_component(name "${path}" NAME)
   morvantile_add_executable(${name} SOURCES ${path}.cpp ${ARG_SOURCES} LIBS ${ARG_LIBS} Qt5::Test)
-  if(MORVANTILE_PRECOMPILE AND NOT ARG_CORE_ONLY)
+  morvantile_run_moc(${name} ${path}.cpp ${ARG_SOURCES})
+  if(MORVANTILE_QUICK_BUILD AND NOT ARG_CORE_ONLY)
     target_precompile_headers(${name} REUSE_FROM morvantile_test_support)
   endif()
   set(test "${name}${MORVANTILE_TEST_SUFFIX}")

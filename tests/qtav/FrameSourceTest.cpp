@@ -124,7 +124,7 @@ private:
 void FrameSourceTest::addSamples()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::allVideoSamples())
+    for (const Sample& sample : testsupport::videoSamplesToRepeat())
         QTest::newRow(qPrintable(sample.file)) << sample.file;
 }
 

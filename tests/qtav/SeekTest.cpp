@@ -17,19 +17,25 @@ class SeekTest : public QObject
     Q_OBJECT
 
 private slots:
-    void wholeFile_comesOutFrameByFrame_whenNobodySeeks_data() { addSamples(); }
+    void wholeFile_comesOutFrameByFrame_whenNobodySeeks_data()
+    {
+        addSamples(testsupport::allVideoSamples());
+    }
     void wholeFile_comesOutFrameByFrame_whenNobodySeeks();
-    void seek_landsOnTheKeyFrameAtOrBefore_andAllFramesFollow_data() { addSamples(); }
+    void seek_landsOnTheKeyFrameAtOrBefore_andAllFramesFollow_data()
+    {
+        addSamples(testsupport::videoSamplesToRepeat());
+    }
     void seek_landsOnTheKeyFrameAtOrBefore_andAllFramesFollow();
 
 private:
-    static void addSamples();
+    static void addSamples(const QList<Sample>& samples);
 };
 
-void SeekTest::addSamples()
+void SeekTest::addSamples(const QList<Sample>& samples)
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::allVideoSamples())
+    for (const Sample& sample : samples)
         QTest::newRow(qPrintable(sample.file)) << sample.file;
 }
 

@@ -100,7 +100,7 @@ void VideoDecoderTest::keyFrame_comesOutAtOnce_whereverItLies_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<int>("threads");
     const QList<int> threadCounts = testsupport::isSanitized ? QList<int>{4} : QList<int>{1, 4};
-    for (const Sample& sample : testsupport::allVideoSamples()) {
+    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         for (const int threads : threadCounts)
             QTest::addRow("%s, %d threads", qPrintable(sample.file), threads)
                 << sample.file << threads;
@@ -196,7 +196,7 @@ void VideoDecoderTest::lastKeyFrame_comesOutOnce_howeverOftenItIsDecoded()
 void VideoDecoderTest::target_isTheSamePicture_whenNonReferenceFramesBeforeItAreSkipped_data()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::allVideoSamples()) {
+    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         // A stream that refreshes bit by bit gives its first picture when FFmpeg takes it for
         // whole, which can be later where pictures are skipped. FrameReader searches anew then.
         if (!sample.has(Trait::Large) && !sample.has(Trait::IntraRefresh))

@@ -1,6 +1,7 @@
 #include "tests/support/Samples.h"
 
 #include "tests/support/SampleTable.h"
+#include "tests/support/Sanitizers.h"
 
 #include <QDir>
 #include <QFile>
@@ -45,6 +46,18 @@ QString samplePath(const QString& file)
 const QList<Sample>& allVideoSamples()
 {
     static const QList<Sample> samples = videoSampleTable();
+    return samples;
+}
+
+const QList<Sample>& videoSamplesToRepeat()
+{
+    static const QList<Sample> samples = [] {
+        constexpr int step = isSanitized ? 3 : 1;
+        QList<Sample> chosen;
+        for (int i = 0; i < allVideoSamples().size(); i += step)
+            chosen.append(allVideoSamples().at(i));
+        return chosen;
+    }();
     return samples;
 }
 
