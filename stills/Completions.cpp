@@ -1,0 +1,158 @@
+#include "stills/Completions.h"
+
+#include "stills/OptionTable.h"
+
+namespace stills {
+
+namespace {
+
+/// The first sentence of an option's text, without its point, and without what shells would read.
+std::string firstSentence(const OptionEntry& entry)
+{
+    std::string text = entry.text;
+    text = text.substr(0, text.find_first_of(".:;"));
+    std::string plain;
+    for (const char c : text) {
+        if (c != '\'' && c != '[' && c != ']' && c != '"' && c != '`' && c != '$' && c != '\\') {
+            plain += c;
+        }
+    }
+    return plain;
+}
+
+std::string namesBetween(const OptionEntry& entry, const char* separator)
+{
+    const std::string brief = entry.shortName();
+    return brief.empty() ? entry.longName() : brief + separator + entry.longName();
+}
+
+std::string bashValues(const OptionEntry& entry)
+{
+    switch (entry.completes) {
+    case Completes::Files:
+        return "_filedir";
+    case Completes::Folders:
+        return "_filedir -d";
+    case Completes::Words:
+        return std::string("COMPREPLY=($(compgen -W '") + entry.words + "' -- \"$cur\"))";
+    case Completes::Nothing:
+        break;
+    }
+    return ":";
+}
+
+std::string zshAction(const OptionEntry& entry)
+{
+    switch (entry.completes) {
+    case Completes::Files:
+        return "_files";
+    case Completes::Folders:
+        return "_files -/";
+    case Completes::Words:
+        return std::string("(") + entry.words + ")";
+    case Completes::Nothing:
+        break;
+    }
+    return " ";
+}
+
+std::string zshSpecs(const OptionEntry& entry)
+{
+    std::string rest = "[" + firstSentence(entry) + "]";
+    std::string equals;
+    if (entry.valueIsOptional()) {
+        rest += "::value: ";
+        equals = "=-";
+    } else if (entry.takesValue()) {
+        rest += std::string(":") + entry.value + ":" + zshAction(entry);
+        equals = "=";
+    }
+    const std::string repeats =
+        std::holds_alternative<TypedOptions::Values TypedOptions::*>(entry.target) ? "*" : "";
+    std::string lines = "  '" + repeats + entry.longName() + equals + rest + "' \\\n";
+    if (!entry.shortName().empty()) {
+        lines += "  '" + repeats + entry.shortName() + (equals.empty() ? "" : "+") + rest + "' \\\n";
+    }
+    return lines;
+}
+
+} // namespace
+
+std::string bashCompletion()
+{
+    std::string cases;
+    std::string all;
+    for (const OptionEntry& entry : optionTable()) {
+        if (entry.section == Section::Hidden) {
+            continue;
+        }
+        all += " " + entry.longName();
+        if (entry.takesValue() && !entry.valueIsOptional()) {
+            cases += "        " + namesBetween(entry, "|") + ") " + bashValues(entry) +
+                     "; return ;;\n";
+        }
+    }
+    return "# bash completion for stills\n"
+           "_stills() {\n"
+           "    local cur prev words cword split\n"
+           "    _init_completion -s || return\n"
+           "    case $prev in\n" +
+           cases +
+           "    esac\n"
+           "    $split && return\n"
+           "    if [[ $cur == -* ]]; then\n"
+           "        COMPREPLY=($(compgen -W '" +
+           all.substr(1) +
+           "' -- \"$cur\"))\n"
+           "        return\n"
+           "    fi\n"
+           "    _filedir\n"
+           "} &&\n"
+           "    complete -F _stills stills\n";
+}
+
+std::string zshCompletion()
+{
+    std::string text = "#compdef stills\n\n_arguments -s -S \\\n";
+    for (const OptionEntry& entry : optionTable()) {
+        if (entry.section != Section::Hidden) {
+            text += zshSpecs(entry);
+        }
+    }
+    return text + "  '*:video:_files'\n";
+}
+
+std::string fishCompletion()
+{
+    std::string text = "# fish completion for stills\n";
+    for (const OptionEntry& entry : optionTable()) {
+        if (entry.section == Section::Hidden) {
+            continue;
+        }
+        text += "complete -c stills";
+        if (!entry.shortName().empty()) {
+            text += " -s " + entry.shortName().substr(1);
+        }
+        text += " -l " + entry.longName().substr(2);
+        if (entry.takesValue() && !entry.valueIsOptional()) {
+            switch (entry.completes) {
+            case Completes::Files:
+                text += " -r -F";
+                break;
+            case Completes::Folders:
+                text += " -x -a '(__fish_complete_directories)'";
+                break;
+            case Completes::Words:
+                text += std::string(" -x -a '") + entry.words + "'";
+                break;
+            case Completes::Nothing:
+                text += " -x";
+                break;
+            }
+        }
+        text += " -d '" + firstSentence(entry) + "'\n";
+    }
+    return text;
+}
+
+} // namespace stills

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QTextCodec>
+
+namespace stills {
+
+/// File names as Qt's texts, and back, without loss: UTF-8, and each byte that is none as a lone
+/// surrogate, U+DC80 to U+DCFF. Where it is the codec of the locale, QFile, QDir and all that goes
+/// through QFile::encodeName() work with any name that a file system can hold, in any locale.
+class FileNameCodec : public QTextCodec
+{
+public:
+    /// Makes one the codec of the locale. Before the application object; Qt owns and ends it.
+    static void install();
+
+    [[nodiscard]] QByteArray name() const override;
+    [[nodiscard]] int mibEnum() const override;
+
+protected:
+    QString convertToUnicode(const char* bytes, int length, ConverterState* state) const override;
+    QByteArray convertFromUnicode(const QChar* text, int length,
+                                  ConverterState* state) const override;
+};
+
+} // namespace stills

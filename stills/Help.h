@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+/// The texts that are made of the table of options. All end with a line break.
+namespace stills {
+
+/// The most useful options, with their defaults and examples: fits a terminal of 80 by 24.
+[[nodiscard]] std::string shortHelp();
+
+/// All options.
+[[nodiscard]] std::string fullHelp();
+
+/// "stills" and the version, in one line.
+[[nodiscard]] std::string versionText();
+
+/// The manual page, in the language of man pages.
+[[nodiscard]] std::string manualPage();
+
+} // namespace stills

@@ -1,0 +1,182 @@
+#include "stills/VideoList.h"
+
+#include "stills/Result.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <optional>
+#include <string_view>
+#include <unordered_set>
+
+namespace stills {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Sorted, for a binary search.
+constexpr std::array<std::string_view, 45> videoSuffixes{
+    "264",  "265",  "3g2",  "3gp", "asf", "av1", "avi",  "divx", "dv",   "evo", "f4v", "flv",
+    "h264", "h265", "hevc", "ivf", "m1v", "m2p",  "m2ts", "m2v",  "m4v", "mjpeg", "mjpg",
+    "mk3d", "mkv",  "mod",  "mov", "mp4", "mpe", "mpeg", "mpg",  "mpv",  "mts", "mxf", "nut",
+    "ogm",  "ogv",  "qt",   "rm",  "rmvb", "ts", "vob",  "webm", "wmv",  "y4m"};
+
+/// Collects paths, each once.
+class Collector
+{
+public:
+    explicit Collector(bool isRecursive)
+        : m_isRecursive(isRecursive)
+    {}
+
+    void add(const std::string& path)
+    {
+        std::error_code error;
+        if (!fs::is_directory(path, error)) {
+            addVideo(path);
+        } else if (m_isRecursive) {
+            addFolder(path);
+        } else {
+            addProblem(path, "is a folder; --recursive takes the videos in it");
+        }
+    }
+
+    void addProblem(const std::string& path, const std::string& text)
+    {
+        m_list.problems.push_back({path, text});
+    }
+
+    [[nodiscard]] VideoList taken() { return std::move(m_list); }
+
+private:
+    void addVideo(const std::string& path)
+    {
+        if (m_known.insert(path).second) {
+            m_list.videos.push_back(path);
+        }
+    }
+
+    /// The videos in a folder and then those of the folders within, all by name. Hidden files and
+    /// folders are passed over; links to folders too, for they may lead round in circles.
+    void addFolder(const std::string& path)
+    {
+        std::error_code error;
+        std::vector<std::string> files;
+        std::vector<std::string> folders;
+        fs::directory_iterator entry(path, error);
+        while (!error && entry != fs::directory_iterator()) {
+            const std::string name = entry->path().filename().string();
+            std::error_code unknown;
+            if (name.front() != '.' && entry->is_directory(unknown)) {
+                if (!entry->is_symlink(unknown)) {
+                    folders.push_back(entry->path().string());
+                }
+            } else if (name.front() != '.' && hasVideoSuffix(name)) {
+                files.push_back(entry->path().string());
+            }
+            entry.increment(error);
+        }
+        if (error) {
+            addProblem(path, "cannot be read: " + error.message());
+        }
+        std::sort(files.begin(), files.end());
+        std::sort(folders.begin(), folders.end());
+        std::for_each(files.begin(), files.end(), [this](const auto& file) { addVideo(file); });
+        std::for_each(folders.begin(), folders.end(),
+                      [this](const auto& folder) { addFolder(folder); });
+    }
+
+    bool m_isRecursive = false;
+    VideoList m_list;
+    std::unordered_set<std::string> m_known;
+};
+
+Result<std::string> contentOf(const std::string& path)
+{
+    std::ifstream file;
+    if (path != "-") {
+        std::error_code error;
+        if (fs::is_directory(path, error)) {
+            return Result<std::string>::failure("is a folder; --files-from takes a list of videos");
+        }
+        errno = 0;
+        file.open(path, std::ios::binary);
+        if (!file) {
+            return Result<std::string>::failure(std::string("cannot be read: ") +
+                                                std::strerror(errno));
+        }
+    }
+    std::istream& stream = path == "-" ? std::cin : file;
+    std::string content{std::istreambuf_iterator<char>(stream), {}};
+    return stream.bad() ? Result<std::string>::failure("cannot be read")
+                        : Result<std::string>::of(std::move(content));
+}
+
+/// The lines, or what stands between NUL characters where there are any; empty ones left out.
+std::vector<std::string> namesIn(const std::string& content)
+{
+    const char separator = content.find('\0') == std::string::npos ? '\n' : '\0';
+    std::vector<std::string> names;
+    for (std::size_t start = 0; start < content.size();) {
+        const std::size_t end = std::min(content.find(separator, start), content.size());
+        std::string name = content.substr(start, end - start);
+        std::error_code error;
+        // A list that was written on Windows; a file may be called like that all the same.
+        if (separator == '\n' && !name.empty() && name.back() == '\r' && !fs::exists(name, error)) {
+            name.pop_back();
+        }
+        if (!name.empty()) {
+            names.push_back(name);
+        }
+        start = end + 1;
+    }
+    return names;
+}
+
+} // namespace
+
+bool hasVideoSuffix(const std::string& path)
+{
+    const std::size_t point = path.find_last_of("./");
+    if (point == std::string::npos || path[point] != '.') {
+        return false;
+    }
+    std::string suffix = path.substr(point + 1);
+    std::transform(suffix.begin(), suffix.end(), suffix.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
+    return std::binary_search(videoSuffixes.begin(), videoSuffixes.end(), suffix);
+}
+
+bool isInShard(std::size_t place, const Shard& shard)
+{
+    return place % static_cast<std::size_t>(shard.count) ==
+           static_cast<std::size_t>(shard.number - 1);
+}
+
+VideoList findVideos(const Options& options)
+{
+    Collector collector(options.isRecursive);
+    for (const std::string& video : options.videos) {
+        collector.add(video);
+    }
+    if (options.listFile) {
+        const Result<std::string> content = contentOf(*options.listFile);
+        if (content.isGood()) {
+            for (const std::string& name : namesIn(*content.value)) {
+                collector.add(name);
+            }
+        } else {
+            collector.addProblem(*options.listFile, content.error);
+        }
+    }
+    return collector.taken();
+}
+
+} // namespace stills
