@@ -52,7 +52,7 @@ std::vector<OptionEntry> pictureOptions()
          "The largest width and height in pixels. Proportions are kept, and smaller pictures stay "
          "as they are. Without it pictures have the size of the video. For --sheet alone, the "
          "size of its pictures.",
-         "at most this large: 1920x1080 (default: the video's)", Completes::Nothing, nullptr},
+         "at most this large: 1920x1080 (default: as it is)", Completes::Nothing, nullptr},
         {section, "--enlarge", nullptr, &T::enlarge,
          "Let --size enlarge smaller pictures until they fill the width or the height.", nullptr,
          Completes::Nothing, nullptr},
