@@ -63,13 +63,16 @@ QByteArray encoded(const QImage& image, const QByteArray& format, int quality)
 
 } // namespace
 
+QByteArray ImageFileWriter::encode(const QImage& image, const QString& type, int quality)
+{
+    const QByteArray format = type.toLower().toUtf8();
+    return image.isNull() || format.isEmpty() ? QByteArray() : encoded(image, format, quality);
+}
+
 WriteResult ImageFileWriter::write(const QString& fileName, const QImage& image, int quality,
                                    ExistingFile existing)
 {
-    const QByteArray format = QFileInfo(fileName).suffix().toLower().toUtf8();
-    if (image.isNull() || format.isEmpty())
-        return WriteResult::Failed;
-    const QByteArray content = encoded(image, format, quality);
+    const QByteArray content = encode(image, QFileInfo(fileName).suffix(), quality);
     return content.isEmpty() ? WriteResult::Failed
                              : FilePublisher::publish(fileName, content, existing);
 }

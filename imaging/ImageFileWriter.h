@@ -2,6 +2,7 @@
 
 #include "imaging/FilePublisher.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QString>
 
@@ -13,6 +14,12 @@ namespace ImageFileWriter {
 
 /// The quality that leaves the choice to the format.
 constexpr int DefaultQuality = -1;
+
+/// The encoded picture. Empty for a null image, where the type, which is a suffix without dot,
+/// stands for no format that can be written (capitals do not matter), and where memory runs out.
+///
+/// @param quality  as for write()
+[[nodiscard]] QByteArray encode(const QImage& image, const QString& type, int quality);
 
 /// Writes the image to `fileName`.
 ///

@@ -95,6 +95,13 @@ QImage rendered(const QImage& image, const ImageRecipe& recipe)
     return recipe.watermark ? imaging::watermarked(result, *recipe.watermark) : result;
 }
 
+int qualityFor(const QString& type, int jpegQuality)
+{
+    const QString lower = type.toLower();
+    const bool isJpeg = lower == QLatin1String("jpeg") || lower == QLatin1String("jpg");
+    return isJpeg ? jpegQuality : ImageFileWriter::DefaultQuality;
+}
+
 } // namespace
 
 imaging::Rendering imaging::render(const QImage& image, const ImageRecipe& recipe)
@@ -116,11 +123,13 @@ imaging::Rendering imaging::render(const QImage& image, const ImageRecipe& recip
     return result;
 }
 
+QByteArray imaging::encode(const QImage& image, int jpegQuality, const QString& type)
+{
+    return ImageFileWriter::encode(image, type, qualityFor(type, jpegQuality));
+}
+
 WriteResult imaging::save(const QString& fileName, const QImage& image, int jpegQuality,
                           const QString& type, ExistingFile existing)
 {
-    const QString lower = type.toLower();
-    const bool isJpeg = lower == QLatin1String("jpeg") || lower == QLatin1String("jpg");
-    const int quality = isJpeg ? jpegQuality : ImageFileWriter::DefaultQuality;
-    return ImageFileWriter::write(fileName, image, quality, existing);
+    return ImageFileWriter::write(fileName, image, qualityFor(type, jpegQuality), existing);
 }

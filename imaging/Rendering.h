@@ -3,6 +3,7 @@
 #include "imaging/FilePublisher.h"
 #include "imaging/ImageRecipe.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QPoint>
 #include <QSize>
@@ -34,6 +35,10 @@ struct Rendering
 /// a colour table, which cannot be painted on, become RGB32 or ARGB32. A null image gives a null
 /// image; a watermark that cannot be seen leaves every pixel as it is.
 [[nodiscard]] QImage watermarked(const QImage& image, const WatermarkRecipe& recipe);
+
+/// An image as it is, encoded in the format that a file name's suffix would stand for; the quality
+/// as in save(). Empty for a null image, a format that cannot be written, and a lack of memory.
+[[nodiscard]] QByteArray encode(const QImage& image, int jpegQuality, const QString& type);
 
 /// Writes an image as it is to a file, in the format of the file name's suffix. The quality, 0 to
 /// 100, is used where the type is "jpg" or "jpeg", in capitals or not. See ImageFileWriter.

@@ -25,7 +25,7 @@ includes_of() {
 # not_in_folders FOLDER…: keeps the others.
 not_in_folders() { grep -vE "^($(IFS='|' && printf '%s' "$*"))/" || true; }
 
-readonly FOLDERS=(product qtav video profiles utils imaging batch ui app)
+readonly FOLDERS=(product qtav video profiles utils imaging series batch ui app)
 ours="$(IFS='|' && printf '%s' "${FOLDERS[*]}")"
 readonly OURS="($ours)/"
 
@@ -63,8 +63,9 @@ layer video video/
 layer profiles profiles/
 layer utils utils/
 layer imaging imaging/ profiles/
+layer series series/ imaging/
 layer ui/batch batch/ ui/ video/ profiles/ imaging/
-layer batch batch/ video/ profiles/ imaging/
+layer batch batch/ series/ video/ profiles/ imaging/
 layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ product/
 layer ui ui/ profiles/ imaging/ product/
 # app/ stands above all others.
@@ -75,7 +76,7 @@ found=$(includes_of '([^/"]+\.h"|\.\.?/)' "${FOLDERS[@]}" tests bench | grep -vE
 
 # The benchmarks call the bare library for comparison; its tests let it see other machines.
 fence FFmpeg 'lib(av|sw)[a-z]*/' qtav tests/qtav bench/bare
-fence QtAV 'QtAV' qtav video batch ui app tests bench
+fence QtAV 'QtAV' qtav video series batch ui app tests bench
 fence OpenCV 'opencv2/' imaging tests/imaging bench
 
 only_in qtav/src/FFmpegCompat.h \

@@ -19,7 +19,8 @@ struct SeriesJob
     QString video; ///< the file's path
     FramePositions positions;
     ImageRecipe recipe;
-    QString type = QStringLiteral("jpeg"); ///< of the encoded pictures: a suffix without dot
+    /// Of the encoded pictures: a suffix without dot; empty for none.
+    QString type = QStringLiteral("jpeg");
     /// The size that small pictures fit into, beside the encoded ones; empty for none.
     QSize thumbnail;
     /// Give the picture itself, too.
@@ -40,16 +41,16 @@ struct SeriesFacts
 /// What became of one position.
 struct SeriesPicture
 {
-    int video = 0;                        ///< its place among the jobs, from 0
-    int number = 0;                       ///< of the position within its video, from 1
-    std::optional<qint64> askedMs = {};   ///< not where the video itself told the position
-    std::optional<qint64> timeMs = {};    ///< of the frame; nothing after an error
-    std::optional<qint64> frame = {};     ///< its number, where known
-    QSize size = {};                      ///< of the picture, in pixels
-    QByteArray content = {};              ///< the encoded picture; empty after an error
-    QImage image = {};                    ///< null unless asked for
-    QImage thumbnail = {};                ///< null unless asked for
-    QString error = {};                   ///< for people; empty after a success
+    int video = 0;                      ///< its place among the jobs, from 0
+    int number = 0;                     ///< of the position within its video, from 1
+    std::optional<qint64> askedMs = {}; ///< not where the video itself told the position
+    std::optional<qint64> timeMs = {};  ///< of the frame; nothing after an error
+    std::optional<qint64> frame = {};   ///< its number, where known
+    QSize size = {};                    ///< of the picture, in pixels
+    QByteArray content = {};            ///< the encoded picture; empty after an error
+    QImage image = {};                  ///< null unless asked for
+    QImage thumbnail = {};              ///< null unless asked for
+    QString error = {};                 ///< for people; empty after a success
 };
 
 /// Takes what a series gives. All is given in order: the videos in that of the jobs, their pictures

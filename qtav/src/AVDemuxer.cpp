@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 #include <deque>
 #include <optional>
 
@@ -23,6 +24,9 @@ constexpr int MostHeldFrames = 64;
 
 /// Positions behind this are the end of any video, and small enough to be calculated with.
 constexpr qint64 LastPositionMs = qint64(1) << 40;
+
+/// An index that ends further before the end of the video does not hold all of it.
+constexpr qint64 LongestGroupMs = 20000;
 
 QList<int> listOf(const QVector<int>& streams)
 {
@@ -323,6 +327,32 @@ int AVDemuxer::stream() const
 const VideoCodecContext* AVDemuxer::videoCodecContext() const
 {
     return d->codecContext.get();
+}
+
+QVector<qint64> AVDemuxer::indexedKeyFrames()
+{
+    if (!d->video)
+        return {};
+    // The index tells when pictures are decoded. Those that wait for others to be shown before them
+    // are shown later by as many frames as the decoder holds back.
+    const StreamParameters& parameters = *d->video->parameters();
+    const double delayMs = parameters.codec->video_delay * frameDurationMs();
+    QVector<qint64> keys = d->container->indexedKeyFrames(d->video->stream());
+    for (qint64& key : keys)
+        key = parameters.timeline.milliseconds(key) + std::llround(delayMs);
+    std::sort(keys.begin(), keys.end());
+    d->forgetPackets();
+    d->positioned = false;
+    const bool isWhole = !keys.isEmpty() && d->duration - keys.constLast() <= LongestGroupMs;
+    return isWhole ? keys : QVector<qint64>();
+}
+
+double AVDemuxer::frameDurationMs() const
+{
+    if (!d->video)
+        return 0.0;
+    const AVRational rate = d->video->parameters()->frameRate;
+    return rate.num > 0 && rate.den > 0 ? 1000.0 * rate.den / rate.num : 0.0;
 }
 
 bool AVDemuxer::seek(qint64 ms)

@@ -253,6 +253,23 @@ bool Container::isRawStream() const
                                         "cavsvideo", "avs2", "avs3", "obu", "dirac"});
 }
 
+QVector<qint64> Container::indexedKeyFrames(int index)
+{
+    AVStream* const stream = m_format->streams[index];
+    const bool isMatroska = isOneOf(*m_format->iformat, {"matroska,webm"});
+    // Matroska's index is read by the first seek.
+    if (!(isMatroska && seekNear(index, 0)) && !indexesAllPackets())
+        return {};
+    QVector<qint64> keys;
+    const int entries = avformat_index_get_entries_count(stream);
+    for (int i = 0; i < entries; ++i) {
+        const AVIndexEntry* entry = avformat_index_get_entry(stream, i);
+        if (entry->flags & AVINDEX_KEYFRAME)
+            keys.append(entry->timestamp);
+    }
+    return keys;
+}
+
 bool Container::indexesAllPackets() const
 {
     return isMp4(*m_format->iformat) || isAvi();

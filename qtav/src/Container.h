@@ -63,6 +63,11 @@ public:
     /// FFmpeg knows all packets of a stream from the file's head or index.
     bool indexesAllPackets() const;
 
+    /// The decoding times of a stream's key frames in ticks, in rising order, as the file's index
+    /// says: it may leave some out, and call a packet one that is none. Empty where there is no
+    /// index, or not of the whole file. May move the file to another packet.
+    QVector<qint64> indexedKeyFrames(int stream);
+
     /// Whether FFmpeg makes up times that packets do not bear, as it does at first.
     enum class MissingTimes { Guess, Leave };
     void setMissingTimes(MissingTimes missing);

@@ -13,6 +13,9 @@ namespace {
 
 constexpr qint64 SmallestStepBackMs = 500;
 
+/// Most of what readAhead() keeps while no key frame comes.
+constexpr qint64 MostAheadBytes = 64 * 1024 * 1024;
+
 /// Where frames are skipped, the key frame is not looked at either: it need not come out early.
 QVariantHash decoderOptions(bool skips)
 {
@@ -64,15 +67,22 @@ bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QStr
     }
     m_decoder.reset(VideoDecoder::create("FFmpeg"));
     m_decoder->setCodecContext(context);
-    m_decoder->setOptions(
-        {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("threads"), m_threads}}}});
-    if (!m_decoder->open()) {
+    if (!openDecoder()) {
         error = tr("The video cannot be decoded.");
         close();
         return false;
     }
     seek(0);
     return true;
+}
+
+bool FrameReader::openDecoder()
+{
+    m_decoderThreads = m_threads;
+    m_skips = false;
+    m_decoder->setOptions(
+        {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("threads"), m_threads}}}});
+    return m_decoder->open();
 }
 
 void FrameReader::close()
@@ -94,6 +104,7 @@ void FrameReader::seek(qint64 ms)
 void FrameReader::restart()
 {
     m_first = Packet();
+    m_ahead.clear();
     m_completeFrom = 0;
     m_skippedUpTo = -1.0;
     m_isLost = false;
@@ -115,8 +126,12 @@ FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
     if (isCancelled())
         return FrameAnswer::Cancelled;
     const Interruptible interruptible(m_demuxer, isCancelled);
-    m_decoder->flush();
+    if (m_decoderThreads == m_threads)
+        m_decoder->flush();
+    else if (!openDecoder())
+        return FrameAnswer::Failed;
     m_first = Packet();
+    m_ahead.clear();
     if (!m_demuxer.seek(*m_target)) {
         if (m_demuxer.canGoOn())
             return FrameAnswer::End;
@@ -147,6 +162,15 @@ FrameAnswer FrameReader::lost(const IsCancelled& isCancelled)
 }
 
 FrameAnswer FrameReader::readPacket(Packet& packet, const IsCancelled& isCancelled)
+{
+    if (m_ahead.empty())
+        return readFromFile(packet, isCancelled);
+    packet = std::move(m_ahead.front());
+    m_ahead.pop_front();
+    return FrameAnswer::Frame;
+}
+
+FrameAnswer FrameReader::readFromFile(Packet& packet, const IsCancelled& isCancelled)
 {
     while (!m_demuxer.atEnd()) {
         if (isCancelled())
@@ -186,6 +210,104 @@ FrameResult FrameReader::next(const IsCancelled& isCancelled)
         const bool isLater = frame.isValid() && (!m_last || frame.timestamp() > *m_last);
         if (isLater)
             return arriveAt(frame, isLanding);
+    }
+    return {answer, {}, answer == FrameAnswer::Failed ? failureText() : QString()};
+}
+
+FrameAnswer FrameReader::readAhead(qint64 ms, const IsCancelled& isCancelled)
+{
+    FrameAnswer answer = land(isCancelled);
+    if (answer != FrameAnswer::Frame || m_first.isValid())
+        return answer;
+    const Interruptible interruptible(m_demuxer, isCancelled);
+    const auto isBehind = [ms](const Packet& packet) {
+        return packet.isDrain() || toMilliseconds(packet.pts) > ms;
+    };
+    qint64 bytes = 0;
+    for (size_t i = m_ahead.size(); i-- > 0;) {
+        bytes += m_ahead[i].data.size();
+        if (m_ahead[i].hasKeyFrame && !isBehind(m_ahead[i])) {
+            landOnAhead(i);
+            break;
+        }
+    }
+    while ((m_ahead.empty() || !isBehind(m_ahead.back())) && bytes < MostAheadBytes) {
+        Packet packet;
+        answer = readFromFile(packet, isCancelled);
+        if (answer == FrameAnswer::End)
+            return FrameAnswer::Frame;
+        if (answer != FrameAnswer::Frame)
+            return answer;
+        bytes += packet.data.size();
+        m_ahead.push_back(std::move(packet));
+        if (m_ahead.back().hasKeyFrame && !isBehind(m_ahead.back())) {
+            landOnAhead(m_ahead.size() - 1);
+            bytes = 0;
+        }
+    }
+    return FrameAnswer::Frame;
+}
+
+/// What a seek to one of the packets that were read ahead would have done.
+void FrameReader::landOnAhead(size_t index)
+{
+    std::deque<Packet> ahead = std::move(m_ahead);
+    ahead.erase(ahead.begin(), ahead.begin() + static_cast<std::ptrdiff_t>(index));
+    restart();
+    m_startedAtZero = false;
+    m_decoder->flush();
+    m_first = std::move(ahead.front());
+    ahead.pop_front();
+    m_ahead = std::move(ahead);
+    m_origin = toMilliseconds(m_first.pts);
+    m_landing = m_first.pts;
+    m_landedOnKeyFrame = true;
+}
+
+QVector<qint64> FrameReader::readFrameTimes(const IsCancelled& isCancelled)
+{
+    seek(0);
+    FrameAnswer answer = land(isCancelled);
+    const Interruptible interruptible(m_demuxer, isCancelled);
+    QVector<qint64> times;
+    while (answer == FrameAnswer::Frame) {
+        Packet packet = std::exchange(m_first, Packet());
+        if (!packet.isValid())
+            answer = readPacket(packet, isCancelled);
+        if (answer == FrameAnswer::Frame && !packet.isDrain())
+            times.append(toMilliseconds(packet.pts));
+    }
+    std::sort(times.begin(), times.end());
+    times.erase(std::unique(times.begin(), times.end()), times.end());
+    seek(0);
+    return times;
+}
+
+FrameResult FrameReader::nextKeyFrame(const IsCancelled& isCancelled)
+{
+    FrameAnswer answer = land(isCancelled);
+    const Interruptible interruptible(m_demuxer, isCancelled);
+    while (answer == FrameAnswer::Frame) {
+        Packet packet = std::exchange(m_first, Packet());
+        if (!packet.isValid())
+            answer = readPacket(packet, isCancelled);
+        if (answer != FrameAnswer::Frame)
+            break;
+        if (!packet.hasKeyFrame)
+            continue;
+        // Key frames refer to nothing, and a decoder that was given one more expects what is
+        // between them.
+        m_decoder->flush();
+        const bool isDecoded = m_decoder->decode(packet);
+        const VideoFrame frame = m_decoder->frame();
+        if (!isDecoded)
+            return {FrameAnswer::Failed, {}, tr("The picture is damaged.")};
+        if (frame.isValid() && (!m_last || frame.timestamp() > *m_last)) {
+            m_skippedUpTo = frame.timestamp();
+            FrameResult result = arriveAt(frame, true);
+            m_predecessor.reset();
+            return result;
+        }
     }
     return {answer, {}, answer == FrameAnswer::Failed ? failureText() : QString()};
 }

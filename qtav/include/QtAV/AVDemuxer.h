@@ -7,6 +7,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QVector>
 
 #include <memory>
 
@@ -99,6 +100,15 @@ public:
     /// Facts of the selected video stream, owned by the demuxer until it is unloaded or another
     /// stream is selected; null without one.
     const VideoCodecContext* videoCodecContext() const;
+
+    /// Where the key frames of the video stream lie, in milliseconds in rising order, as far as the
+    /// file's index tells without reading the file: good for planning, since the index may leave
+    /// some out, call others so that are none, and be some frames off. Empty where there is no
+    /// index of the whole file. Afterwards only seek() goes on.
+    QVector<qint64> indexedKeyFrames();
+
+    /// How long a frame is usually shown, in milliseconds; 0 where the file does not say.
+    double frameDurationMs() const;
 
     /// Goes to a position in milliseconds, so that the next packet of the video stream is the
     /// last key frame whose whole milliseconds lie at or before it: the stream's first key frame

@@ -6,7 +6,9 @@
 #include <QtAV/VideoFrame.h>
 
 #include <QString>
+#include <QVector>
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -45,7 +47,7 @@ public:
     FrameReader(const FrameReader&) = delete;
     FrameReader& operator=(const FrameReader&) = delete;
 
-    /// How many threads decode, from the next open() on; 0, as at first, for one a core.
+    /// How many threads decode, from the next open() or seek() on; 0, as at first, for one a core.
     void setThreads(int threads) { m_threads = threads; }
 
     /// Opens a file and stands at its start. False, with a text for people, when it cannot be
@@ -57,6 +59,14 @@ public:
 
     const AVDemuxer& demuxer() const { return m_demuxer; }
 
+    /// Where key frames lie, see AVDemuxer. Afterwards only seek() goes on.
+    QVector<qint64> indexedKeyFrames() { return m_demuxer.indexedKeyFrames(); }
+
+    /// The times in whole milliseconds of all frames, in the order shown: reads all packets and
+    /// decodes none. Ends early where reading fails or is cancelled. Afterwards only seek() goes
+    /// on.
+    [[nodiscard]] QVector<qint64> readFrameTimes(const IsCancelled& isCancelled);
+
     /// Makes land() and next() start at the last key frame at or before a position in milliseconds.
     /// Skips nothing until told to. Touches no file yet.
     void seek(qint64 ms);
@@ -64,6 +74,16 @@ public:
     /// Goes to where the last seek() is to start, unless that is done. Frame when a packet waits
     /// there; next() calls it by itself.
     [[nodiscard]] FrameAnswer land(const IsCancelled& isCancelled);
+
+    /// Reads on to a position in milliseconds without decoding. Where a key frame at or before it
+    /// was passed, all is as if that had been sought; else next() goes on where it was. Cheaper
+    /// than a seek over short distances, and where seeks are searches. Frame unless reading failed
+    /// or was cancelled; at the end of the video, too.
+    [[nodiscard]] FrameAnswer readAhead(qint64 ms, const IsCancelled& isCancelled);
+
+    /// The next key frame, without those between; only after seek() or another nextKeyFrame(). Its
+    /// predecessor() is unknown.
+    [[nodiscard]] FrameResult nextKeyFrame(const IsCancelled& isCancelled);
 
     /// From here on, frames before this position in milliseconds may be skipped where no other
     /// frame needs them, which saves time.
@@ -127,6 +147,9 @@ private:
     };
 
     void restart();
+    [[nodiscard]] bool openDecoder();
+    void landOnAhead(size_t index);
+    [[nodiscard]] FrameAnswer readFromFile(Packet& packet, const IsCancelled& isCancelled);
     [[nodiscard]] Way walk(const Search& search, const IsCancelled& isCancelled);
     [[nodiscard]] FrameResult findFrom(Search search, const IsCancelled& isCancelled);
     [[nodiscard]] FrameResult lastOfVideo(const Search& search, const IsCancelled& isCancelled);
@@ -140,10 +163,12 @@ private:
     AVDemuxer m_demuxer;
     std::unique_ptr<VideoDecoder> m_decoder;
     int m_threads = 0;
+    int m_decoderThreads = 0;       ///< those of m_decoder
     std::optional<qint64> m_target; ///< of a seek that has not landed yet, in milliseconds
     qint64 m_origin = 0;            ///< what was sought last, in milliseconds
     bool m_resumes = false;         ///< m_target is to get back to where reading was interrupted
     Packet m_first;                 ///< read by land(), not decoded yet
+    std::deque<Packet> m_ahead;     ///< read after that by readAhead()
     qint64 m_completeFrom = 0;
     double m_skippedUpTo = -1.0; ///< frames up to this time may be missing
     bool m_skips = false;

@@ -1,0 +1,364 @@
+#include "series/SeriesLane.h"
+
+#include "imaging/Rendering.h"
+#include "series/SceneDetector.h"
+
+#include <QtAV/AVDemuxer.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+using QtAV::FrameAnswer;
+using QtAV::FrameResult;
+
+namespace {
+
+/// Up to here reading on, without decoding, is cheaper than a search for the key frame.
+constexpr qint64 longestReadAheadMs = 15000;
+
+/// A key frame this much nearer is worth starting anew at.
+constexpr qint64 worthStartingMs = 200;
+
+/// What the index calls a key frame is none when a seek to it lands this far before it.
+constexpr qint64 indexErrorMs = 1000;
+
+/// So much before a part of a video is decoded, so that its first frame has one to compare with.
+constexpr qint64 beforeScenesMs = 2000;
+
+qint64 msOf(double seconds)
+{
+    return static_cast<qint64>(seconds * 1000.0);
+}
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("series", text);
+}
+
+QImage thumbnailOf(const QImage& image, const QSize& bounds)
+{
+    const QSize size = image.size().scaled(bounds, Qt::KeepAspectRatio);
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// Renders and encodes; an error takes the place of what could not be made.
+void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::VideoFrame& frame)
+{
+    const imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), job.recipe);
+    picture.size = made.image.size();
+    picture.error = made.error;
+    if (made.image.isNull()) {
+        return;
+    }
+    if (!job.type.isEmpty()) {
+        picture.content = imaging::encode(made.image, job.recipe.jpegQuality, job.type);
+        if (picture.content.isEmpty()) {
+            picture.error = tr("The picture could not be encoded as %1.").arg(job.type);
+            return;
+        }
+    }
+    if (!job.thumbnail.isEmpty()) {
+        picture.thumbnail = thumbnailOf(made.image, job.thumbnail);
+    }
+    if (job.keepsImage) {
+        picture.image = made.image;
+    }
+}
+
+} // namespace
+
+SeriesLane::SeriesLane(SeriesBoard& board, const QVector<SeriesJob>& jobs, int lanes,
+                       const QtAV::IsCancelled& isCancelled)
+    : m_board(board)
+    , m_jobs(jobs)
+    , m_lanes(lanes)
+    , m_isCancelled(isCancelled)
+{}
+
+void SeriesLane::run()
+{
+    for (;;) {
+        Task task = m_board.next();
+        if (task.kind == Task::Kind::None) {
+            return;
+        }
+        if (task.kind == Task::Kind::Plan) {
+            task = plan(task);
+        }
+        if (task.kind == Task::Kind::Walk) {
+            walk(task);
+        }
+    }
+}
+
+bool SeriesLane::open(int video, QString& error)
+{
+    if (m_video == video) {
+        return true;
+    }
+    m_video = -1;
+    // Whoever decodes says with how many threads, before the first frame.
+    m_reader.setThreads(1);
+    if (!m_reader.open(m_jobs.at(video).video, m_isCancelled, error)) {
+        return false;
+    }
+    m_video = video;
+    return true;
+}
+
+SeriesBoard::Task SeriesLane::plan(const Task& task)
+{
+    QString error;
+    if (!open(task.video, error)) {
+        m_board.failed(task.video, error);
+        return {};
+    }
+    const SeriesJob& job = m_jobs.at(task.video);
+    const FramePositions& positions = job.positions;
+    SeriesLength length;
+    length.durationMs = m_reader.demuxer().duration();
+    if (job.numbersFrames || asksForNumbers(positions)) {
+        length.frameTimesMs = m_reader.readFrameTimes(m_isCancelled);
+    }
+    QVector<qint64> keyFrames = m_reader.indexedKeyFrames();
+    SeriesFacts facts{task.video, length.durationMs};
+    std::deque<Delivery> failures;
+    SeriesPlan plan;
+    if (positions.kind == FramePositions::Kind::KeyFrames ||
+        positions.kind == FramePositions::Kind::Scenes) {
+        plan = planPart(positions.front.ms(length.durationMs),
+                        length.durationMs - positions.back.ms(length.durationMs) + 1,
+                        std::move(keyFrames), m_lanes);
+    } else {
+        QVector<SeriesTarget> targets = neededTargets(task.video, length, failures);
+        facts.expected = targets.size() + static_cast<int>(failures.size());
+        plan = planTargets(std::move(targets), std::move(keyFrames), m_lanes);
+    }
+    plan.frameTimesMs = std::move(length.frameTimesMs);
+    return m_board.planned(task.video, std::move(plan), facts, std::move(failures));
+}
+
+/// Also gives an error for each frame that there is not.
+QVector<SeriesTarget> SeriesLane::neededTargets(int video, const SeriesLength& length,
+                                                std::deque<Delivery>& failures) const
+{
+    QVector<FramePosition> missing;
+    const QVector<SeriesTarget> all = targetsOf(m_jobs.at(video).positions, length, &missing);
+    QVector<SeriesTarget> needed;
+    std::copy_if(
+        all.cbegin(), all.cend(), std::back_inserter(needed),
+        [this, video](const SeriesTarget& target) { return m_board.needs(video, target); });
+    for (const FramePosition& position : missing) {
+        Delivery failure;
+        failure.index = needed.size() + static_cast<int>(failures.size());
+        failure.picture.video = video;
+        failure.picture.frame = static_cast<qint64>(position.value);
+        failure.picture.error = tr("The video has no frame %1.").arg(*failure.picture.frame);
+        failures.push_back(std::move(failure));
+    }
+    return needed;
+}
+
+void SeriesLane::walk(const Task& task)
+{
+    QString error;
+    if (open(task.video, error)) {
+        m_reader.setThreads(task.threads);
+        m_keyFramesMs = m_board.plan(task.video).keyFramesMs;
+        m_lastSeconds.reset();
+        switch (m_jobs.at(task.video).positions.kind) {
+        case FramePositions::Kind::KeyFrames:
+            error = walkKeyFrames(task);
+            break;
+        case FramePositions::Kind::Scenes:
+            error = walkScenes(task);
+            break;
+        default:
+            walkTargets(task);
+            break;
+        }
+    }
+    m_board.finished(task.video, task.stretch, error);
+}
+
+void SeriesLane::walkTargets(const Task& task)
+{
+    begin(task);
+    while (const std::optional<int> index = m_board.take(task.video, task.stretch)) {
+        if (!walkTarget(task, *index)) {
+            return;
+        }
+    }
+}
+
+/// Goes to the key frame before the first target. What lies between it and the target is decoded
+/// anyway, so that targets there are met at no cost.
+void SeriesLane::begin(const Task& task)
+{
+    const SeriesPlan& plan = m_board.plan(task.video);
+    const int first = m_board.stretch(task.video, task.stretch).begin;
+    if (first >= plan.targets.size()) {
+        return;
+    }
+    const qint64 ms = plan.targets.at(first).ms;
+    m_reader.seek(ms);
+    if (m_reader.land(m_isCancelled) != FrameAnswer::Frame || !m_reader.landing()) {
+        return;
+    }
+    const qint64 landing = msOf(*m_reader.landing());
+    if (plan.keyFrameBefore(ms) - landing > indexErrorMs) {
+        m_keyFramesMs.clear();
+    }
+    m_board.extendBack(task.video, task.stretch, landing);
+}
+
+/// False once cancelled.
+bool SeriesLane::walkTarget(const Task& task, int index)
+{
+    const SeriesTarget target = m_board.plan(task.video).targets.at(index);
+    Delivery delivery = deliveryFor(task);
+    delivery.index = index;
+    delivery.picture.askedMs = target.ms;
+    delivery.picture.frame = target.frame;
+    return deliver(task, std::move(delivery), find(target));
+}
+
+FrameResult SeriesLane::find(const SeriesTarget& target)
+{
+    QtAV::FrameReader::Search search;
+    search.ms = target.ms;
+    search.completeFrom = target.ms;
+    const qint64 ms = target.ms;
+    if (target.isLast) {
+        search.isReached = [](const QtAV::VideoFrame&) { return false; };
+    } else {
+        search.isReached = [ms](const QtAV::VideoFrame& frame) {
+            return msOf(frame.timestamp()) >= ms;
+        };
+    }
+    if (!m_reader.canGoOn()) {
+        return m_reader.find(search, m_isCancelled);
+    }
+    approach(ms);
+    return m_reader.findOn(search, m_isCancelled);
+}
+
+/// Starts at a key frame where one lies between the frame before and the position.
+void SeriesLane::approach(qint64 ms)
+{
+    if (!m_reader.last()) {
+        return;
+    }
+    const qint64 lastMs = msOf(*m_reader.last());
+    if (wantsToStartAnew(ms, lastMs)) {
+        m_reader.seek(ms);
+    } else if (m_keyFramesMs.isEmpty() && ms - lastMs > worthStartingMs) {
+        // What could not be read is told by the search that follows.
+        static_cast<void>(m_reader.readAhead(ms, m_isCancelled));
+    }
+}
+
+bool SeriesLane::wantsToStartAnew(qint64 ms, qint64 lastMs) const
+{
+    if (m_keyFramesMs.isEmpty()) {
+        return ms - lastMs > longestReadAheadMs;
+    }
+    const auto behind = std::upper_bound(m_keyFramesMs.cbegin(), m_keyFramesMs.cend(), ms);
+    return behind != m_keyFramesMs.cbegin() && *(behind - 1) - lastMs > worthStartingMs;
+}
+
+QString SeriesLane::walkKeyFrames(const Task& task)
+{
+    const SeriesPlan::Stretch part = m_board.stretch(task.video, task.stretch);
+    m_reader.seek(part.fromMs);
+    for (;;) {
+        const FrameResult found = m_reader.nextKeyFrame(m_isCancelled);
+        if (found.answer == FrameAnswer::Failed && m_reader.canGoOn()) {
+            continue;
+        }
+        if (found.answer != FrameAnswer::Frame) {
+            return found.error;
+        }
+        const qint64 ms = msOf(found.frame.timestamp());
+        if (ms >= part.toMs) {
+            return {};
+        }
+        if (ms >= part.fromMs && !deliver(task, deliveryFor(task), found)) {
+            return {};
+        }
+    }
+}
+
+/// The first frame of the video, and each that differs from the one before it like another scene.
+QString SeriesLane::walkScenes(const Task& task)
+{
+    const SeriesPlan::Stretch part = m_board.stretch(task.video, task.stretch);
+    const double threshold = m_jobs.at(task.video).positions.sceneThreshold;
+    SceneDetector detector;
+    const qint64 start = std::max<qint64>(0, part.fromMs - beforeScenesMs);
+    m_reader.seek(start);
+    m_reader.setCompleteFrom(start);
+    bool isFirst = task.stretch == 0;
+    for (;;) {
+        const FrameResult found = m_reader.next(m_isCancelled);
+        if (found.answer == FrameAnswer::Failed && m_reader.canGoOn()) {
+            continue;
+        }
+        if (found.answer != FrameAnswer::Frame) {
+            return found.error;
+        }
+        const qint64 ms = msOf(found.frame.timestamp());
+        if (ms >= part.toMs) {
+            return {};
+        }
+        if (ms < start) {
+            continue;
+        }
+        const double score = detector.add(
+            found.frame.toImage(QImage::Format_Grayscale8, SceneDetector::pictureSize));
+        if (ms < part.fromMs) {
+            continue;
+        }
+        const bool isScene = std::exchange(isFirst, false) || score >= threshold;
+        if (isScene && !deliver(task, deliveryFor(task), found)) {
+            return {};
+        }
+    }
+}
+
+SeriesBoard::Delivery SeriesLane::deliveryFor(const Task& task) const
+{
+    Delivery delivery;
+    delivery.picture.video = task.video;
+    return delivery;
+}
+
+/// False once cancelled.
+bool SeriesLane::deliver(const Task& task, Delivery delivery, const FrameResult& found)
+{
+    if (found.answer == FrameAnswer::Cancelled) {
+        return false;
+    }
+    SeriesPicture& picture = delivery.picture;
+    if (found.answer == FrameAnswer::Frame) {
+        delivery.seconds = found.frame.timestamp();
+        if (std::exchange(m_lastSeconds, delivery.seconds) == delivery.seconds) {
+            return true;
+        }
+        const QVector<qint64> times = m_board.plan(task.video).frameTimesMs;
+        picture.timeMs = msOf(found.frame.timestamp());
+        const auto time = std::lower_bound(times.cbegin(), times.cend(), *picture.timeMs);
+        if (time != times.cend() && *time == *picture.timeMs) {
+            picture.frame = time - times.cbegin();
+        }
+        makePicture(picture, m_jobs.at(task.video), found.frame);
+    } else {
+        picture.error = found.answer == FrameAnswer::Failed
+                            ? found.error
+                            : tr("There is no picture at this position.");
+    }
+    return m_board.deliver(task.video, task.stretch, std::move(delivery));
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "series/SeriesBoard.h"
+
+#include <QtAV/FrameReader.h>
+
+#include <optional>
+
+/// One of the workers of a series: decodes with a reader of its own, makes the pictures and encodes
+/// them. Used in the thread that runs it.
+class SeriesLane
+{
+public:
+    SeriesLane(SeriesBoard& board, const QVector<SeriesJob>& jobs, int lanes,
+               const QtAV::IsCancelled& isCancelled);
+
+    /// Works until nothing is left to do, or all is cancelled.
+    void run();
+
+private:
+    using Task = SeriesBoard::Task;
+    using Delivery = SeriesBoard::Delivery;
+
+    [[nodiscard]] Task plan(const Task& task);
+    [[nodiscard]] QVector<SeriesTarget> neededTargets(int video, const SeriesLength& length,
+                                                      std::deque<Delivery>& failures) const;
+    [[nodiscard]] bool open(int video, QString& error);
+
+    void walk(const Task& task);
+    void walkTargets(const Task& task);
+    [[nodiscard]] bool walkTarget(const Task& task, int index);
+    void begin(const Task& task);
+    void approach(qint64 ms);
+    [[nodiscard]] bool wantsToStartAnew(qint64 ms, qint64 lastMs) const;
+    [[nodiscard]] QtAV::FrameResult find(const SeriesTarget& target);
+    [[nodiscard]] QString walkKeyFrames(const Task& task);
+    [[nodiscard]] QString walkScenes(const Task& task);
+
+    [[nodiscard]] bool deliver(const Task& task, Delivery delivery, const QtAV::FrameResult& found);
+    [[nodiscard]] Delivery deliveryFor(const Task& task) const;
+
+    SeriesBoard& m_board;
+    const QVector<SeriesJob>& m_jobs;
+    const int m_lanes;
+    const QtAV::IsCancelled& m_isCancelled;
+
+    QtAV::FrameReader m_reader;
+    int m_video = -1; ///< what the reader has open
+    QVector<qint64> m_keyFramesMs;
+    std::optional<double> m_lastSeconds; ///< of the frame delivered last in a stretch
+};
