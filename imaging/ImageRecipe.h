@@ -39,6 +39,7 @@ struct ImageRecipe
     bool keepsSize = true;         ///< else the result has the size `bounds`, or fits into it
     QSize bounds;                  ///< in pixels
     bool keepsAspectRatio = false; ///< fits into the bounds; else it fills them and is cut
+    bool enlarges = true;          ///< else what fits into the bounds already keeps its size
     int contrast = 0;              ///< -100 to 100, 0 for none
     int brightness = 0;            ///< is added to each sample, -255 to 255
     int jpegQuality = 100;         ///< 0 to 100

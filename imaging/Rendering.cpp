@@ -83,9 +83,17 @@ bool isLackOfMemory(const std::exception& exception)
                               : dynamic_cast<const std::bad_alloc*>(&exception) != nullptr;
 }
 
+/// Whether the image is small enough for a recipe that only ever makes it smaller.
+bool fitsAlready(const QImage& image, const ImageRecipe& recipe)
+{
+    return !recipe.enlarges && image.width() <= recipe.bounds.width() &&
+           image.height() <= recipe.bounds.height();
+}
+
 QImage rendered(const QImage& image, const ImageRecipe& recipe)
 {
-    const QSize size = recipe.keepsSize ? image.size() : recipe.bounds;
+    const bool keepsSize = recipe.keepsSize || fitsAlready(image, recipe);
+    const QSize size = keepsSize ? image.size() : recipe.bounds;
     Picture picture = pictureOf(image);
     qDebug() << "Contrast: " << recipe.contrast << " Brightness: " << recipe.brightness;
     if (recipe.contrast != 0 || recipe.brightness != 0)

@@ -45,6 +45,10 @@ public:
                 const QtAV::IsCancelled& isCancelled, int lanes, qint64 memoryBytes);
 
     /// Whether the output wants a target at all.
+    void announce(int video, const QVector<SeriesTarget>& targets)
+    {
+        m_output.announce(video, targets);
+    }
     [[nodiscard]] bool needs(int video, const SeriesTarget& target)
     {
         return m_output.needs(video, target);

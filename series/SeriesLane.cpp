@@ -147,6 +147,7 @@ QVector<SeriesTarget> SeriesLane::neededTargets(int video, const SeriesLength& l
 {
     QVector<FramePosition> missing;
     const QVector<SeriesTarget> all = targetsOf(m_jobs.at(video).positions, length, &missing);
+    m_board.announce(video, all);
     QVector<SeriesTarget> needed;
     std::copy_if(
         all.cbegin(), all.cend(), std::back_inserter(needed),

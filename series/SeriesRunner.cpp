@@ -51,6 +51,9 @@ int coreCount()
 
 } // namespace
 
+void SeriesOutput::announce(int, const QVector<SeriesTarget>&)
+{}
+
 bool SeriesOutput::needs(int, const SeriesTarget&)
 {
     return true;

@@ -63,6 +63,10 @@ public:
     SeriesOutput(const SeriesOutput&) = delete;
     SeriesOutput& operator=(const SeriesOutput&) = delete;
 
+    /// The positions of a video in rising order, before needs() is asked about each of them: so that
+    /// what is needed can go by its neighbours. From any thread, also at once with the other calls.
+    virtual void announce(int video, const QVector<SeriesTarget>& targets);
+
     /// Whether a position is needed at all; asked before anything is decoded for it, from any
     /// thread at any time, also at once with the other calls. Not asked for key frames and scenes.
     virtual bool needs(int video, const SeriesTarget& target);

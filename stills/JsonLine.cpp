@@ -51,7 +51,7 @@ JsonLine& JsonLine::add(QLatin1String key, std::optional<qint64> value)
     return addRaw(key, value ? QByteArray::number(*value) : QByteArrayLiteral("null"));
 }
 
-JsonLine& JsonLine::add(QLatin1String key, bool value)
+JsonLine& JsonLine::addTruth(QLatin1String key, bool value)
 {
     return addRaw(key, value ? QByteArrayLiteral("true") : QByteArrayLiteral("false"));
 }

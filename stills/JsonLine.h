@@ -20,7 +20,7 @@ public:
     JsonLine& add(QLatin1String key, const QString& value);
     /// A whole number; null where there is none.
     JsonLine& add(QLatin1String key, std::optional<qint64> value);
-    JsonLine& add(QLatin1String key, bool value);
+    JsonLine& addTruth(QLatin1String key, bool value);
 
     /// The object and a line break.
     [[nodiscard]] QByteArray line() const { return m_text + "}\n"; }

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
 #include <unistd.h>
 
 namespace stills {
@@ -80,46 +81,161 @@ QString summaryText(const Tally& tally, const QString& place, bool isSheetAlone,
     return text;
 }
 
-Report::Report(const Style& style, int videos)
-    : m_style(style)
+Report::Report(Style style, int videos)
+    : m_style(std::move(style))
     , m_output(STDOUT_FILENO)
     , m_errors(STDERR_FILENO)
 {
     m_state.videos = videos;
     m_clock.start();
-    const bool isOneTerminal = style.isJson && m_output.isTerminal();
-    m_style.showsProgress = style.showsProgress ||
-                            (!style.isQuiet && !isOneTerminal && m_errors.isTerminal());
+    const bool isOneTerminal = m_style.isJson && m_output.isTerminal();
+    m_style.showsProgress =
+        m_style.showsProgress || (!m_style.isQuiet && !isOneTerminal && m_errors.isTerminal());
 }
 
-void Report::beginVideo(int video, const QString& path, std::optional<int> expected,
-                        qint64 durationMs)
+void Report::beginVideo(int video, const QString& path)
 {
+    m_path = path;
+    m_video = Tally();
+    m_durationMs.reset();
     m_state.video = video + 1;
     m_state.name = QFileInfo(path).fileName();
     m_state.pictures = 0;
-    m_state.expected = expected;
+    m_state.expected.reset();
     m_state.part = 0.0;
+}
+
+void Report::describeVideo(std::optional<int> expected, qint64 durationMs)
+{
+    m_state.expected = expected;
     m_durationMs = durationMs;
-    showProgress({});
+    showProgress();
 }
 
 void Report::addPicture(const Picture& picture)
 {
     ++m_video.delivered;
-    if (m_style.isJson) {
-        JsonLine line(QLatin1String("image"));
-        line.add(QLatin1String("video"), m_state.name);
+    ++m_total.delivered;
+    ++m_state.total;
+    ++m_state.pictures;
+    if (m_state.expected && *m_state.expected > 0) {
+        m_state.part = static_cast<double>(m_state.pictures) / *m_state.expected;
+    } else if (picture.timeMs && m_durationMs && *m_durationMs > 0) {
+        m_state.part = static_cast<double>(*picture.timeMs) / static_cast<double>(*m_durationMs);
     }
-    if (m_style.isVerbose) {
+    if (m_style.isJson) {
+        writeJson(JsonLine(QLatin1String("image"))
+                      .add(QLatin1String("video"), m_path)
+                      .add(QLatin1String("asked_ms"), picture.askedMs)
+                      .add(QLatin1String("time_ms"), picture.timeMs)
+                      .add(QLatin1String("frame"), picture.frame)
+                      .add(QLatin1String("path"), picture.path)
+                      .add(QLatin1String("width"), picture.size.width())
+                      .add(QLatin1String("height"), picture.size.height())
+                      .line());
+    }
+    if (m_style.isVerbose && !picture.path.isEmpty()) {
         writeLine(oneLine(picture.path));
     }
-    showProgress(picture.timeMs);
+    showProgress();
 }
 
 void Report::addSkipped(int count)
 {
     m_video.skipped += count;
+    m_total.skipped += count;
+}
+
+void Report::addSheet(const QString& path, QSize size, int pictures)
+{
+    ++m_video.sheets;
+    ++m_total.sheets;
+    if (m_style.isJson) {
+        writeJson(JsonLine(QLatin1String("sheet"))
+                      .add(QLatin1String("video"), m_path)
+                      .add(QLatin1String("path"), path)
+                      .add(QLatin1String("pictures"), pictures)
+                      .add(QLatin1String("width"), size.width())
+                      .add(QLatin1String("height"), size.height())
+                      .line());
+    }
+    if (m_style.isVerbose && !path.isEmpty()) {
+        writeLine(oneLine(path));
+    }
+}
+
+void Report::addError(std::optional<qint64> askedMs, const QString& message)
+{
+    ++m_video.failed;
+    ++m_total.failed;
+    writeError(m_path, askedMs, message);
+}
+
+void Report::addProblem(const QString& path, const QString& message)
+{
+    ++m_total.failed;
+    writeError(path, {}, message);
+}
+
+void Report::writeError(const QString& path, std::optional<qint64> askedMs, const QString& message)
+{
+    QString text = path;
+    if (askedMs) {
+        text += QStringLiteral(" at ") + exactClockTime(*askedMs);
+    }
+    writeLine("stills: " + oneLine(text + QStringLiteral(": ") + message));
+    if (m_style.isJson) {
+        writeJson(JsonLine(QLatin1String("error"))
+                      .add(QLatin1String("video"), path)
+                      .add(QLatin1String("asked_ms"), askedMs)
+                      .add(QLatin1String("message"), message)
+                      .line());
+    }
+}
+
+void Report::endVideo()
+{
+    m_state.part = 1.0;
+    if (m_style.isJson) {
+        writeJson(JsonLine(QLatin1String("video"))
+                      .add(QLatin1String("video"), m_path)
+                      .add(QLatin1String("duration_ms"), m_durationMs)
+                      .add(QLatin1String("delivered"), m_video.delivered)
+                      .add(QLatin1String("skipped"), m_video.skipped)
+                      .add(QLatin1String("failed"), m_video.failed)
+                      .line());
+    }
+    showProgress();
+}
+
+void Report::finish(bool wasInterrupted)
+{
+    clearProgress();
+    if (m_style.isJson) {
+        writeJson(JsonLine(QLatin1String("summary"))
+                      .add(QLatin1String("videos"), m_state.videos)
+                      .add(QLatin1String("delivered"), m_total.delivered)
+                      .add(QLatin1String("skipped"), m_total.skipped)
+                      .add(QLatin1String("failed"), m_total.failed)
+                      .addTruth(QLatin1String("interrupted"), wasInterrupted)
+                      .add(QLatin1String("elapsed_ms"), m_clock.elapsed())
+                      .line());
+    } else if (!m_style.isQuiet) {
+        writeLine(oneLine(
+            summaryText(m_total, m_style.place, m_style.isSheetAlone, wasInterrupted)));
+    }
+}
+
+void Report::showProgress()
+{
+    const qint64 now = m_clock.elapsed();
+    if (!m_style.showsProgress || (m_isShown && now - m_shownMs < progressIntervalMs)) {
+        return;
+    }
+    m_shownMs = now;
+    m_isShown = true;
+    m_state.elapsedMs = now;
+    m_errors.write("\r" + oneLine(progressText(m_state, m_errors.columns())) + "\033[K");
 }
 
 void Report::clearProgress()
@@ -136,9 +252,9 @@ void Report::writeLine(const QByteArray& line)
     m_errors.write(line + '\n');
 }
 
-void Report::showProgress(std::optional<qint64> timeMs)
+void Report::writeJson(const QByteArray& line)
 {
-    Q_UNUSED(timeMs)
+    m_output.write(line);
 }
 
 } // namespace stills

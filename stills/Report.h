@@ -61,21 +61,26 @@ public:
         std::optional<qint64> askedMs;
         std::optional<qint64> timeMs;
         std::optional<qint64> frame;
-        QString path;
+        QString path; ///< empty for standard output
         QSize size;
     };
 
-    Report(const Style& style, int videos);
+    Report(Style style, int videos);
 
-    /// Before the first picture of a video: its place, from 0, and what is known of it.
-    void beginVideo(int video, const QString& path, std::optional<int> expected, qint64 durationMs);
+    /// Before anything else is told of a video: its place, from 0.
+    void beginVideo(int video, const QString& path);
+    /// What is known of it once it is open.
+    void describeVideo(std::optional<int> expected, qint64 durationMs);
     void addPicture(const Picture& picture);
     /// Pictures that exist already.
     void addSkipped(int count);
     void addSheet(const QString& path, QSize size, int pictures);
-    /// Something that was asked for could not be had.
-    void addError(const QString& path, std::optional<qint64> askedMs, const QString& message);
-    void endVideo(int video, const QString& path);
+    /// What was asked for of the video at work could not be had.
+    void addError(std::optional<qint64> askedMs, const QString& message);
+    void endVideo();
+
+    /// An error outside of all videos begun, such as a path that cannot be used.
+    void addProblem(const QString& path, const QString& message);
 
     /// After the last video.
     void finish(bool wasInterrupted);
@@ -87,17 +92,20 @@ public:
     [[nodiscard]] bool isReaderGone() const { return m_output.hasFailed(); }
 
 private:
-    void showProgress(std::optional<qint64> timeMs);
+    void showProgress();
     void clearProgress();
     void writeLine(const QByteArray& line);
+    void writeJson(const QByteArray& line);
+    void writeError(const QString& path, std::optional<qint64> askedMs, const QString& message);
 
     Style m_style;
     OutputStream m_output;
     OutputStream m_errors;
     Tally m_total;
     Tally m_video;
-    ProgressState m_state;
+    QString m_path;
     std::optional<qint64> m_durationMs;
+    ProgressState m_state;
     QElapsedTimer m_clock;
     qint64 m_shownMs = 0;
     bool m_isShown = false;

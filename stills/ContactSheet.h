@@ -1,0 +1,46 @@
+#pragma once
+
+#include "stills/Options.h"
+
+#include <QImage>
+#include <QString>
+#include <QVector>
+
+namespace stills {
+
+/// Collects the small pictures of one video and draws them side by side. Drawing needs a
+/// QGuiApplication, for its fonts. One thread at a time.
+class ContactSheet
+{
+public:
+    /// So many pictures have a place at most.
+    static constexpr int mostPictures = 2000;
+
+    explicit ContactSheet(const Sheet& sheet)
+        : m_sheet(sheet)
+    {}
+
+    /// False where there is no place for more.
+    [[nodiscard]] bool add(const QImage& picture, qint64 timeMs);
+
+    [[nodiscard]] int count() const { return m_pictures.size(); }
+
+    /// The sheet. Null where it would be too large, or memory runs out.
+    /// @param title  in large letters, unless the options have another one
+    /// @param facts  below it
+    [[nodiscard]] QImage draw(const QString& title, const QString& facts) const;
+
+private:
+    struct Picture
+    {
+        QImage image;
+        qint64 timeMs = 0;
+    };
+
+    [[nodiscard]] QSize largest() const;
+
+    Sheet m_sheet;
+    QVector<Picture> m_pictures;
+};
+
+} // namespace stills

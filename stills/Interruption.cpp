@@ -1,0 +1,49 @@
+#include "stills/Interruption.h"
+
+#include <atomic>
+#include <csignal>
+#include <initializer_list>
+
+namespace stills {
+
+namespace {
+
+// A signal's handler has no other place to leave its word.
+std::atomic<int> receivedSignal{0};
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may not wait");
+
+extern "C" void noteSignal(int number)
+{
+    receivedSignal.store(number);
+}
+
+void handle(int number)
+{
+    struct sigaction before = {};
+    if (::sigaction(number, nullptr, &before) == 0 && before.sa_handler == SIG_IGN) {
+        return;
+    }
+    struct sigaction action = {};
+    action.sa_handler = noteSignal;
+    // Without restarting: reads and writes that wait are to return.
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    sigemptyset(&action.sa_mask);
+    ::sigaction(number, &action, nullptr);
+}
+
+} // namespace
+
+void Interruption::install()
+{
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        handle(number);
+    }
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+}
+
+int Interruption::signalNumber()
+{
+    return receivedSignal.load();
+}
+
+} // namespace stills

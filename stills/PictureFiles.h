@@ -1,0 +1,54 @@
+#pragma once
+
+#include "stills/Options.h"
+
+#include <QByteArray>
+#include <QSet>
+#include <QString>
+
+#include <functional>
+
+namespace stills {
+
+/// Writes pictures under names that are free, or that may be taken. Whatever the rule for existing
+/// files, no file that this object has written is written over. One thread at a time.
+class PictureFiles
+{
+public:
+    /// The name of a file without its folder, as the system's bytes, for an attempt from 1 on. No
+    /// two attempts give the same name.
+    using NameForAttempt = std::function<QByteArray(int attempt)>;
+
+    struct Outcome
+    {
+        enum class Kind {
+            Written,
+            Skipped, ///< there is a file of that name already
+            Failed,
+            NoRoom, ///< failed, and so would every other picture in this folder
+        };
+
+        Kind kind = Kind::Failed;
+        QString path;  ///< of the file that was written or that exists
+        QString error; ///< for people
+    };
+
+    explicit PictureFiles(Existing existing)
+        : m_existing(existing)
+    {}
+
+    /// @param folder  exists
+    [[nodiscard]] Outcome write(const QString& folder, const NameForAttempt& name,
+                                const QByteArray& content);
+
+    /// Something has that name.
+    [[nodiscard]] static bool exists(const QString& folder, const QByteArray& name);
+
+private:
+    [[nodiscard]] Outcome writeUnder(const QString& path, const QByteArray& content, bool replaces);
+
+    Existing m_existing;
+    QSet<QString> m_written;
+};
+
+} // namespace stills

@@ -1,0 +1,95 @@
+#include "stills/PictureNames.h"
+
+#include "stills/Texts.h"
+
+#include <algorithm>
+
+namespace stills {
+
+namespace {
+
+using Field = NameTemplate::Field;
+
+/// In bytes; room for what profiles put around it stays.
+constexpr std::size_t longestProfileStem = 150;
+
+bool asksForTimes(const Positions& positions)
+{
+    switch (positions.kind) {
+    case Positions::Kind::Count:
+    case Positions::Kind::Every:
+        return true;
+    case Positions::Kind::KeyFrames:
+    case Positions::Kind::Scenes:
+        return false;
+    case Positions::Kind::List:
+        break;
+    }
+    return std::none_of(positions.list.begin(), positions.list.end(), [](const Position& position) {
+        return position.kind == Position::Kind::FrameNumber;
+    });
+}
+
+NameFields fieldsOf(const VideoTask& task)
+{
+    NameFields fields;
+    fields.stem = task.stem;
+    fields.tail = task.tail;
+    return fields;
+}
+
+} // namespace
+
+PictureNames::PictureNames(const Options& options, const std::optional<OutputNaming>& naming,
+                           QString suffix)
+    : m_template(options.names)
+    , m_naming(naming)
+    , m_suffix(bytesOf(suffix))
+    , m_takesAskedTime(asksForTimes(options.positions))
+{
+    if (options.sheet) {
+        m_sheet = options.sheet->name;
+    }
+}
+
+QByteArray PictureNames::name(const VideoTask& task, const SeriesPicture& picture, int number,
+                              bool isOnly, int attempt) const
+{
+    if (m_naming) {
+        const bool isSingle = isOnly && attempt == 1;
+        const int counter = isSingle ? OutputNaming::noCounter : number + attempt - (isOnly ? 2 : 1);
+        const std::string stem = cutBetweenCharacters(task.stem, longestProfileStem) + task.tail;
+        const QString whole = m_naming->fileName(pathOf(stem), counter);
+        const QString base = whole.left(whole.size() - m_naming->type.size() - 1);
+        return QByteArray::fromStdString(safeFileName(bytesOf(base), m_suffix));
+    }
+    NameFields fields = fieldsOf(task);
+    fields.number = number;
+    fields.frame = picture.frame;
+    fields.timeMs = m_takesAskedTime && picture.askedMs ? *picture.askedMs
+                                                        : picture.timeMs.value_or(0);
+    fields.width = picture.size.width();
+    fields.height = picture.size.height();
+    return QByteArray::fromStdString(m_template.fileName(fields, m_suffix, attempt));
+}
+
+std::optional<QByteArray> PictureNames::nameBefore(const VideoTask& task,
+                                                   const SeriesTarget& target, int number) const
+{
+    const bool isKnown = !m_naming && !m_template.uses(Field::Frame) &&
+                         !m_template.uses(Field::Width) && !m_template.uses(Field::Height) &&
+                         (m_takesAskedTime || !m_template.uses(Field::Time));
+    if (!isKnown) {
+        return std::nullopt;
+    }
+    SeriesPicture picture;
+    picture.askedMs = target.ms;
+    return name(task, picture, number, false, 1);
+}
+
+QByteArray PictureNames::sheetName(const VideoTask& task, int attempt) const
+{
+    return QByteArray::fromStdString(m_sheet.fileName(fieldsOf(task), m_suffix, attempt));
+}
+
+} // namespace stills

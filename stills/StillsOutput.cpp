@@ -1,0 +1,268 @@
+#include "stills/StillsOutput.h"
+
+#include "imaging/Rendering.h"
+#include "stills/Texts.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLocale>
+
+#include <unistd.h>
+
+namespace stills {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("stills", text);
+}
+
+} // namespace
+
+StillsOutput::StillsOutput(const Options& options, const Look& look,
+                           const std::vector<VideoTask>& tasks, Report& report)
+    : m_options(options)
+    , m_look(look)
+    , m_tasks(tasks)
+    , m_report(report)
+    , m_names(options, look.naming, look.suffix)
+    , m_files(options.existing)
+    , m_standardOutput(STDOUT_FILENO)
+{}
+
+StillsOutput::~StillsOutput() = default;
+
+/// Where positions are close, several mean one frame, whose picture bears the name of the first of
+/// them. Whether the others need one can only be told together with the one before, so that is
+/// needed as well.
+void StillsOutput::announce(int video, const QVector<SeriesTarget>& targets)
+{
+    const VideoTask& task = m_tasks[static_cast<std::size_t>(video)];
+    Plan plan;
+    bool isNextMissing = false;
+    for (int i = targets.size() - 1; i >= 0; --i) {
+        const SeriesTarget& target = targets.at(i);
+        const bool isThisMissing = isMissing(task, target, i + 1);
+        if (isThisMissing || isNextMissing) {
+            plan.needed.insert(target.ms);
+        } else {
+            ++plan.skipped;
+        }
+        isNextMissing = isThisMissing;
+        plan.numbers.insert(target.ms, i + 1);
+    }
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_plans.insert(video, plan);
+}
+
+bool StillsOutput::needs(int video, const SeriesTarget& target)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto plan = m_plans.constFind(video);
+    return plan == m_plans.constEnd() || plan->needed.contains(target.ms);
+}
+
+bool StillsOutput::isMissing(const VideoTask& task, const SeriesTarget& target, int number) const
+{
+    // A sheet shows the pictures that exist, too.
+    if (m_options.existing != Existing::Skip || m_options.sheet) {
+        return true;
+    }
+    const auto name = m_names.nameBefore(task, target, number);
+    return !name || !PictureFiles::exists(pathOf(task.folder), *name);
+}
+
+void StillsOutput::beginVideo(int video)
+{
+    if (m_begun == video) {
+        return;
+    }
+    m_begun = video;
+    m_isOnly = false;
+    m_durationMs = 0;
+    m_pictureSize = QSize();
+    m_sheet.reset();
+    if (m_options.sheet) {
+        m_sheet.emplace(*m_options.sheet);
+    }
+    m_report.beginVideo(video, pathOf(m_tasks[static_cast<std::size_t>(video)].path));
+}
+
+void StillsOutput::begin(const SeriesFacts& facts)
+{
+    beginVideo(facts.video);
+    m_durationMs = facts.durationMs;
+    int skipped = 0;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        skipped = m_plans.value(facts.video).skipped;
+    }
+    m_isOnly = facts.expected && *facts.expected + skipped == 1;
+    m_report.describeVideo(facts.expected, facts.durationMs);
+    m_report.addSkipped(skipped);
+}
+
+/// By the position, so that a run that leaves pictures out counts like one that makes them all.
+int StillsOutput::numberOf(const SeriesPicture& picture)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto plan = m_plans.constFind(picture.video);
+    const bool isPlanned = plan != m_plans.constEnd() && picture.askedMs;
+    return isPlanned ? plan->numbers.value(*picture.askedMs, picture.number) : picture.number;
+}
+
+void StillsOutput::take(SeriesPicture picture)
+{
+    if (m_wantsToStop) {
+        return;
+    }
+    // The engine gives the last frame there, which is not what was meant.
+    if (picture.askedMs && picture.askedMs > m_durationMs) {
+        picture.error = tr("The video ends at %1.").arg(exactClockTime(m_durationMs));
+    }
+    if (!picture.error.isEmpty()) {
+        m_report.addError(picture.askedMs, picture.error);
+        m_wantsToStop = m_wantsToStop || m_options.failsFast;
+        return;
+    }
+    m_pictureSize = picture.size;
+    if (m_sheet && !m_sheet->add(picture.thumbnail, picture.timeMs.value_or(0))) {
+        failVideo(tr("More than %1 pictures have no place on a contact sheet.")
+                      .arg(ContactSheet::mostPictures));
+        m_sheet.reset();
+    }
+    if (m_options.makesPictures) {
+        writePicture(picture, numberOf(picture));
+    }
+}
+
+void StillsOutput::writePicture(const SeriesPicture& picture, int number)
+{
+    const VideoTask& task = m_tasks[static_cast<std::size_t>(picture.video)];
+    Report::Picture written{picture.askedMs, picture.timeMs, picture.frame, {}, picture.size};
+    if (m_options.writesToStandardOutput) {
+        if (m_standardOutput.write(picture.content)) {
+            m_report.addPicture(written);
+        } else {
+            fail(picture.askedMs,
+                 {PictureFiles::Outcome::Kind::NoRoom, {}, tr("Nobody reads the pictures.")});
+        }
+        return;
+    }
+    const auto outcome = m_files.write(
+        pathOf(task.folder),
+        [&](int attempt) { return m_names.name(task, picture, number, m_isOnly, attempt); },
+        picture.content);
+    switch (outcome.kind) {
+    case PictureFiles::Outcome::Kind::Written:
+        written.path = outcome.path;
+        m_report.addPicture(written);
+        break;
+    case PictureFiles::Outcome::Kind::Skipped:
+        m_report.addSkipped(1);
+        break;
+    case PictureFiles::Outcome::Kind::Failed:
+    case PictureFiles::Outcome::Kind::NoRoom:
+        fail(picture.askedMs, outcome);
+        break;
+    }
+    // A program that reads the report and is gone does not want the rest.
+    m_wantsToStop = m_wantsToStop || m_report.isReaderGone();
+}
+
+void StillsOutput::fail(std::optional<qint64> askedMs, const PictureFiles::Outcome& outcome)
+{
+    m_report.addError(askedMs, outcome.error);
+    const bool isHopeless = outcome.kind == PictureFiles::Outcome::Kind::NoRoom &&
+                            (hasOneFolder() || m_options.writesToStandardOutput);
+    m_wantsToStop = m_wantsToStop || isHopeless || m_options.failsFast;
+}
+
+void StillsOutput::failVideo(const QString& message)
+{
+    m_report.addError({}, message);
+    m_wantsToStop = m_wantsToStop || m_options.failsFast;
+}
+
+void StillsOutput::end(int video, const QString& error)
+{
+    beginVideo(video);
+    if (!error.isEmpty()) {
+        failVideo(error);
+    }
+    if (m_sheet && m_sheet->count() > 0 && !m_wantsToStop) {
+        finishSheet(m_tasks[static_cast<std::size_t>(video)]);
+    }
+    const Tally& tally = m_report.ofVideo();
+    const bool isNothing =
+        tally.delivered + tally.skipped + tally.failed + tally.sheets == 0 && !m_wantsToStop;
+    if (isNothing) {
+        failVideo(tr("There is no picture at the positions that were asked for."));
+    }
+    m_report.endVideo();
+    m_wantsToStop = m_wantsToStop || m_report.isReaderGone();
+    m_sheet.reset();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_plans.remove(video);
+}
+
+/// "1:35:20, 1920 x 1080, 734.2 MB"
+QString StillsOutput::factsText() const
+{
+    const VideoTask& task = m_tasks[static_cast<std::size_t>(m_begun)];
+    const QChar dot(0x00b7);
+    const QString between = QStringLiteral("   ") + dot + QStringLiteral("   ");
+    QString text = clockTime(m_durationMs);
+    if (m_look.recipe.keepsSize) {
+        text += between + QStringLiteral("%1 %2 %3")
+                              .arg(m_pictureSize.width())
+                              .arg(QChar(0x00d7))
+                              .arg(m_pictureSize.height());
+    }
+    const qint64 bytes = QFileInfo(pathOf(task.path)).size();
+    return text + between +
+           QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+}
+
+void StillsOutput::finishSheet(const VideoTask& task)
+{
+    const QString title = readable(QFileInfo(pathOf(task.path)).fileName());
+    const QImage sheet = m_sheet->draw(title, factsText());
+    if (sheet.isNull()) {
+        failVideo(tr("The contact sheet would be too large; ask for fewer pictures."));
+        return;
+    }
+    writeSheet(task, sheet);
+}
+
+void StillsOutput::writeSheet(const VideoTask& task, const QImage& sheet)
+{
+    const int pictures = m_sheet->count();
+    const QByteArray content =
+        imaging::encode(sheet, m_look.recipe.jpegQuality, m_look.suffix);
+    if (content.isEmpty()) {
+        failVideo(tr("The contact sheet could not be encoded as %1.").arg(m_look.suffix));
+        return;
+    }
+    if (m_options.writesToStandardOutput) {
+        if (m_standardOutput.write(content)) {
+            m_report.addSheet({}, sheet.size(), pictures);
+        } else {
+            fail({}, {PictureFiles::Outcome::Kind::NoRoom, {}, tr("Nobody reads the pictures.")});
+        }
+        return;
+    }
+    const auto outcome = m_files.write(
+        pathOf(task.folder), [&](int attempt) { return m_names.sheetName(task, attempt); },
+        content);
+    if (outcome.kind == PictureFiles::Outcome::Kind::Written) {
+        m_report.addSheet(outcome.path, sheet.size(), pictures);
+    } else if (outcome.kind == PictureFiles::Outcome::Kind::Skipped) {
+        m_report.addSkipped(1);
+    } else {
+        fail({}, outcome);
+    }
+}
+
+} // namespace stills

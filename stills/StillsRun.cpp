@@ -1,0 +1,284 @@
+#include "stills/StillsRun.h"
+
+#include "app/RuntimeFolder.h"
+#include "product/ProductInfo.h"
+#include "stills/FileNameCodec.h"
+#include "stills/Interruption.h"
+#include "stills/Profiles.h"
+#include "stills/Report.h"
+#include "stills/StillsOutput.h"
+#include "stills/Texts.h"
+#include "stills/VideoList.h"
+#include "stills/VideoTask.h"
+
+#include <QtAV/QtAV_Global.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QLoggingCategory>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+namespace stills {
+
+namespace {
+
+constexpr int allDone = 0;
+constexpr int someFailed = 1;
+constexpr int wrongUsage = 2;
+constexpr int signalStatus = 128;
+
+constexpr QSize usualSheetPicture(320, 320);
+
+/// Debug lines are for developers, who turn them on again with QT_LOGGING_RULES.
+void hideDebugLines()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+}
+
+/// Text needs Qt's fonts, and with them its platform; one without a display. The bare application
+/// object is quicker where nothing is written on pictures.
+std::unique_ptr<QCoreApplication> makeApplication(bool needsFonts)
+{
+    static int count = 1;
+    static char name[] = "stills";
+    static char* arguments[] = {name, nullptr};
+    if (!needsFonts) {
+        return std::make_unique<QCoreApplication>(count, arguments);
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const RuntimeFolder folder;
+    return std::make_unique<QGuiApplication>(count, arguments);
+}
+
+FramePosition enginePosition(const Position& position)
+{
+    switch (position.kind) {
+    case Position::Kind::Percent:
+        return {FramePosition::Kind::Percent, position.value};
+    case Position::Kind::FrameNumber:
+        return {FramePosition::Kind::FrameNumber, position.value};
+    case Position::Kind::Last:
+        return {FramePosition::Kind::Last, 0.0};
+    case Position::Kind::Milliseconds:
+        break;
+    }
+    return {FramePosition::Kind::Milliseconds, position.value};
+}
+
+SeriesSkip engineSkip(const Skip& skip)
+{
+    return {skip.isPercent ? SeriesSkip::Unit::Percent : SeriesSkip::Unit::Milliseconds,
+            skip.value};
+}
+
+FramePositions::Kind engineKind(Positions::Kind kind)
+{
+    switch (kind) {
+    case Positions::Kind::Every:
+        return FramePositions::Kind::Every;
+    case Positions::Kind::List:
+        return FramePositions::Kind::List;
+    case Positions::Kind::KeyFrames:
+        return FramePositions::Kind::KeyFrames;
+    case Positions::Kind::Scenes:
+        return FramePositions::Kind::Scenes;
+    case Positions::Kind::Count:
+        break;
+    }
+    return FramePositions::Kind::Spread;
+}
+
+FramePositions enginePositions(const Positions& positions)
+{
+    FramePositions result;
+    result.kind = engineKind(positions.kind);
+    result.everyMs = positions.everyMs;
+    result.count = positions.count;
+    result.sceneThreshold = positions.sceneThreshold;
+    result.front = engineSkip(positions.front);
+    result.back = engineSkip(positions.back);
+    std::transform(positions.list.begin(), positions.list.end(), std::back_inserter(result.list),
+                   enginePosition);
+    return result;
+}
+
+QVector<SeriesJob> jobsOf(const Options& options, const Look& look,
+                          const std::vector<VideoTask>& tasks)
+{
+    SeriesJob job;
+    job.positions = enginePositions(options.positions);
+    job.recipe = look.recipe;
+    job.type = options.makesPictures ? look.suffix : QString();
+    job.numbersFrames =
+        options.makesPictures && !look.naming && options.names.uses(NameTemplate::Field::Frame);
+    if (options.sheet) {
+        const bool isChosen = options.size && !options.makesPictures;
+        job.thumbnail = isChosen ? QSize(options.size->width, options.size->height)
+                                 : usualSheetPicture;
+    }
+    QVector<SeriesJob> jobs;
+    for (const VideoTask& task : tasks) {
+        job.video = pathOf(task.path);
+        jobs.append(job);
+    }
+    return jobs;
+}
+
+QString placeOf(const Options& options)
+{
+    if (options.writesToStandardOutput) {
+        return QStringLiteral("on standard output");
+    }
+    if (options.folder) {
+        return QStringLiteral("in ") + readable(pathOf(*options.folder));
+    }
+    return QStringLiteral("beside the videos");
+}
+
+Report::Style styleOf(const Options& options)
+{
+    Report::Style style;
+    style.isJson = options.isJson;
+    style.showsProgress = options.showsProgress;
+    style.isQuiet = options.isQuiet;
+    style.isVerbose = options.isVerbose;
+    style.isSheetAlone = !options.makesPictures;
+    style.place = placeOf(options);
+    return style;
+}
+
+/// The folder for the pictures is there, or is made. An error text where that cannot be.
+QString prepareFolder(const Options& options)
+{
+    if (!options.folder) {
+        return {};
+    }
+    const QString folder = pathOf(*options.folder);
+    if (QFileInfo(folder).exists() && !QFileInfo(folder).isDir()) {
+        return QStringLiteral("This is no folder");
+    }
+    if (!QDir().mkpath(folder)) {
+        return QStringLiteral("This folder cannot be made");
+    }
+    return QFileInfo(folder).isWritable() ? QString()
+                                          : QStringLiteral("This folder does not let you write");
+}
+
+/// One run, once the application object is there.
+class Run
+{
+public:
+    Run(const Options& options, const Look& look)
+        : m_options(options)
+        , m_look(look)
+    {}
+
+    [[nodiscard]] int execute();
+
+private:
+    [[nodiscard]] std::vector<VideoTask> chooseTasks(const std::vector<std::string>& videos);
+    [[nodiscard]] bool isDone(const VideoTask& task) const;
+    [[nodiscard]] bool work(const std::vector<VideoTask>& tasks, Report& report) const;
+
+    const Options& m_options;
+    const Look& m_look;
+    int m_done = 0;
+};
+
+/// Whether the sheet is all that is wanted of a video, and is there.
+bool Run::isDone(const VideoTask& task) const
+{
+    if (m_options.makesPictures || m_options.existing != Existing::Skip) {
+        return false;
+    }
+    const PictureNames names(m_options, m_look.naming, m_look.suffix);
+    return PictureFiles::exists(pathOf(task.folder), names.sheetName(task, 1));
+}
+
+std::vector<VideoTask> Run::chooseTasks(const std::vector<std::string>& videos)
+{
+    const std::vector<VideoTask> all = planTasks(videos, m_options.folder);
+    std::vector<VideoTask> chosen;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (!isInShard(i, m_options.shard)) {
+            continue;
+        }
+        if (isDone(all[i])) {
+            ++m_done;
+        } else {
+            chosen.push_back(all[i]);
+        }
+    }
+    return chosen;
+}
+
+/// True unless an error ended it.
+bool Run::work(const std::vector<VideoTask>& tasks, Report& report) const
+{
+    StillsOutput output(m_options, m_look, tasks, report);
+    const QVector<SeriesJob> jobs = jobsOf(m_options, m_look, tasks);
+    const auto isCancelled = [&output] {
+        return output.wantsToStop() || Interruption::signalNumber() != 0;
+    };
+    SeriesOptions resources;
+    resources.lanes = m_options.jobs;
+    resources.memoryBytes = m_options.memoryBytes;
+    static_cast<void>(series::run(jobs, output, isCancelled, resources));
+    return !output.wantsToStop();
+}
+
+int Run::execute()
+{
+    const VideoList list = findVideos(m_options);
+    const std::vector<VideoTask> tasks = chooseTasks(list.videos);
+    Report report(styleOf(m_options), static_cast<int>(tasks.size()) + m_done);
+    report.addSkipped(m_done);
+    // Each of several shards would tell of them.
+    if (m_options.shard.number == 1) {
+        for (const VideoList::Problem& problem : list.problems) {
+            report.addProblem(pathOf(problem.path), QString::fromStdString(problem.text));
+        }
+    }
+    const QString folderError = prepareFolder(m_options);
+    if (!folderError.isEmpty()) {
+        report.addProblem(pathOf(*m_options.folder), folderError);
+    }
+    const bool isHopeless =
+        !folderError.isEmpty() || (m_options.failsFast && report.total().failed > 0);
+    const bool isThrough = !isHopeless && work(tasks, report);
+    const int signal = Interruption::signalNumber();
+    report.finish(signal != 0);
+    if (signal != 0) {
+        return signalStatus + signal;
+    }
+    const bool isAllThere = isThrough && report.total().failed == 0 && !report.isReaderGone();
+    return isAllThere ? allDone : someFailed;
+}
+
+} // namespace
+
+int run(const Options& options)
+{
+    Interruption::install();
+    FileNameCodec::install();
+    hideDebugLines();
+    const bool needsFonts = options.sheet || options.watermark || options.profile;
+    const auto application = makeApplication(needsFonts);
+    QCoreApplication::setApplicationName(ProductInfo::name());
+    QCoreApplication::setOrganizationName(ProductInfo::name());
+    QCoreApplication::setOrganizationDomain(ProductInfo::domain());
+    QCoreApplication::setApplicationVersion(ProductInfo::version());
+    QtAV::setLogLevel(QtAV::LogCritical);
+    const Result<Look> look = lookOf(options);
+    if (!look.isGood()) {
+        std::fprintf(stderr, "stills: %s\n", look.error.c_str());
+        return wrongUsage;
+    }
+    return Run(options, *look.value).execute();
+}
+
+} // namespace stills

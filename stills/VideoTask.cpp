@@ -1,0 +1,61 @@
+#include "stills/VideoTask.h"
+
+#include <filesystem>
+#include <map>
+#include <set>
+#include <utility>
+
+namespace stills {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Names that agree up to here may become the same once they are cut.
+constexpr std::size_t comparedBytes = 100;
+
+std::string stemOf(const std::string& path)
+{
+    const std::string name = fs::path(path).filename().string();
+    const std::size_t point = name.rfind('.');
+    return point == std::string::npos || point == 0 ? name : name.substr(0, point);
+}
+
+std::string folderOf(const std::string& path)
+{
+    const std::string folder = fs::path(path).parent_path().string();
+    return folder.empty() ? "." : folder;
+}
+
+} // namespace
+
+std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
+                                 const std::optional<std::string>& folder)
+{
+    using Name = std::pair<std::string, std::string>;
+    std::vector<VideoTask> tasks;
+    std::set<Name> stems;
+    const auto key = [](const VideoTask& task) {
+        return Name{task.folder, cutBetweenCharacters(task.stem, comparedBytes)};
+    };
+    for (const std::string& video : videos) {
+        tasks.push_back({video, folder.value_or(folderOf(video)), stemOf(video), {}});
+        stems.insert(key(tasks.back()));
+    }
+    std::set<Name> seen;
+    std::map<Name, int> lastNumbers; // so that many of one stem take no longer each
+    for (VideoTask& task : tasks) {
+        const Name stem = key(task);
+        Name name = stem;
+        int& number = lastNumbers.emplace(stem, 1).first->second;
+        // No other video may have the name with the tail as its own.
+        while (seen.count(name) > 0 || (!task.tail.empty() && stems.count(name) > 0)) {
+            task.tail = "-" + std::to_string(++number);
+            name = {task.folder, stem.second + task.tail};
+        }
+        seen.insert(name);
+    }
+    return tasks;
+}
+
+} // namespace stills

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "stills/Options.h"
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace stills {
+
+/// One video of a run, and where its pictures go.
+struct VideoTask
+{
+    std::string path;   ///< as it was named
+    std::string folder; ///< of its pictures
+    std::string stem;   ///< its name without the last suffix
+    std::string tail;   ///< tells it from other videos of that stem and folder: "-2", "-3" …
+};
+
+/// The tasks of all videos, in their order. Tails go by the whole list, so that they are the same in
+/// each shard and in each run.
+///
+/// @param folder  for all pictures; without one, the folder of each video
+[[nodiscard]] std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
+                                               const std::optional<std::string>& folder);
+
+} // namespace stills
