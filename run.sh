@@ -1,18 +1,19 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the release and runs it. A later start only runs it.
 #   ./run.sh                     opens the window
-#   ./run.sh VIDEO [FOLDER] …    extracts images on the command line
+#   ./run.sh VIDEO… [OPTION]…    takes pictures out of videos: the command stills
+#   ./run.sh morvantile-cli …    the older command, which takes one video
 set -euo pipefail
 root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 source "$root/scripts/setup.sh"
 
 usage() {
     cat >&2 <<'END'
-Usage: ./run.sh VIDEO [FOLDER] [OPTION]…
+Usage: ./run.sh VIDEO... [OPTION]...
 
-  ./run.sh film.mp4                      an image every 5 seconds, beside the video
-  ./run.sh film.mp4 stills --count 12    twelve, evenly spread, into the existing folder "stills"
-  ./run.sh --help                        all options
+  ./run.sh film.mp4                      ten pictures, evenly spread, beside the video
+  ./run.sh film.mp4 -o out --every 5s    one every 5 seconds, into the folder "out"
+  ./run.sh --help                        the options
 END
 }
 
@@ -21,18 +22,21 @@ ensure_packages run
 if ! is_configured release; then
     configure release -DMORVANTILE_BUILD_TESTS=OFF
 fi
-# All programs of the folder app/, without the tests that the build folder may hold as well.
-build release app/all
+# All programs, without the tests that the build folder may hold as well.
+build release app/all stills/all
 release_build_folder
 
 # In the bare "C" locale of many a container Qt would not find files with names beyond ASCII.
 [[ $(locale charmap 2>/dev/null) == UTF-8 ]] || export LC_ALL=C.UTF-8
 
-programs=$root/build/release/app
-if (($#)); then
-    exec "$programs/morvantile-cli" "$@"
-elif [[ -x $programs/morvantile ]]; then
-    exec "$programs/morvantile"
+programs=$root/build/release
+if [[ ${1-} == morvantile-cli ]]; then
+    shift
+    exec "$programs/app/morvantile-cli" "$@"
+elif (($#)); then
+    exec "$programs/stills/stills" "$@"
+elif [[ -x $programs/app/morvantile ]]; then
+    exec "$programs/app/morvantile"
 else
     usage
 fi

@@ -107,9 +107,10 @@ configure() {
     cmake -S "$root" --preset "$preset" "${fresh[@]}" "$@" >/dev/null
 }
 
-# build PRESET TARGET: builds what changed, and is silent when nothing did.
+# build PRESET TARGET…: builds what changed, and is silent when nothing did.
 build() {
-    local folder=$root/build/$1 target=$2
-    [[ $(ninja -C "$folder" -n "$target" 2>/dev/null) == *'no work to do'* ]] && return
-    ninja -C "$folder" "$target" >&2
+    local folder=$root/build/$1
+    shift
+    [[ $(ninja -C "$folder" -n "$@" 2>/dev/null) == *'no work to do'* ]] && return
+    ninja -C "$folder" "$@" >&2
 }

@@ -168,7 +168,7 @@ std::vector<OptionEntry> reportingOptions()
          nullptr},
         {section, "--quiet", nullptr, &T::quiet, "Write errors only.", nullptr,
          Completes::Nothing, nullptr},
-        {section, "--verbose", nullptr, &T::verbose, "Write the path of each picture as well.",
+        {section, "-v,--verbose", nullptr, &T::verbose, "Write the path of each picture as well.",
          nullptr, Completes::Nothing, nullptr},
     };
 }

@@ -7,7 +7,8 @@ namespace stills {
 
 namespace {
 
-constexpr int longestSide = 65500;            // what a JPEG file can hold
+constexpr int smallestMargin = 16;
+constexpr int longestSide = 65500;             // what a JPEG file can hold
 constexpr qint64 mostPixels = qint64(1) << 28; // a gigabyte of memory
 
 } // namespace
@@ -27,7 +28,7 @@ int SheetLayout::usualColumns(int pictures)
 SheetLayout::SheetLayout(const Parts& parts)
     : m_parts(parts)
     , m_columns(parts.columns > 0 ? parts.columns : usualColumns(parts.pictures))
-    , m_margin(2 * parts.gap)
+    , m_margin(std::max(2 * parts.gap, smallestMargin))
 {
     const int columns = std::min(m_columns, std::max(parts.pictures, 1));
     const int rows = (parts.pictures + m_columns - 1) / m_columns;
