@@ -38,7 +38,10 @@ void Interruption::install()
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         handle(number);
     }
-    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    // Writing beyond what the process may write is an error as well.
+    for (const int number : {SIGPIPE, SIGXFSZ}) {
+        static_cast<void>(std::signal(number, SIG_IGN));
+    }
 }
 
 int Interruption::signalNumber()

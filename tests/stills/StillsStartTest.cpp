@@ -1,0 +1,99 @@
+#include "tests/stills/StillsProgram.h"
+
+#include "product/ProductInfo.h"
+#include "tests/support/Samples.h"
+#include "tests/support/TestDir.h"
+
+#include <QFile>
+#include <QTest>
+
+using testsupport::ProgramResult;
+using testsupport::runProgram;
+
+namespace {
+
+/// The libraries that a file needs at its start, by the dynamic linker's own account.
+QByteArray librariesOf(const QString& file)
+{
+    const ProgramResult result = runProgram(QStringLiteral("ldd"), {file});
+    return result.succeeded() ? result.standardOutput : QByteArray();
+}
+
+} // namespace
+
+class StillsStartTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void version_isThatOfTheProduct();
+    void help_goesToStandardOutput();
+    void program_needsNoLargeLibrary_untilThereIsWork();
+    void module_needsNoWidgets();
+    void run_complainsOfNothing_inABareSession();
+    void manualPage_isWritten();
+};
+
+void StillsStartTest::version_isThatOfTheProduct()
+{
+    const ProgramResult result = stillsprogram::run({QStringLiteral("--version")});
+    QVERIFY(result.succeeded());
+    QCOMPARE(result.standardOutput, "stills " + ProductInfo::version().toUtf8() + "\n");
+}
+
+void StillsStartTest::help_goesToStandardOutput()
+{
+    for (const char* const option : {"--help", "-h", "--help-all"}) {
+        const ProgramResult result = stillsprogram::run({QString::fromLatin1(option)});
+        QVERIFY(result.succeeded());
+        QVERIFY(result.standardOutput.contains("Usage: stills"));
+        QCOMPARE(result.standardError, QByteArray());
+    }
+}
+
+void StillsStartTest::program_needsNoLargeLibrary_untilThereIsWork()
+{
+    const QByteArray libraries = librariesOf(stillsprogram::program());
+    QVERIFY(libraries.contains("libc.so"));
+    for (const char* const name : {"Qt5", "libav", "opencv"}) {
+        QVERIFY2(!libraries.contains(name), libraries.constData());
+    }
+}
+
+void StillsStartTest::module_needsNoWidgets()
+{
+    const QByteArray libraries = librariesOf(QStringLiteral(MORVANTILE_STILLS_MODULE));
+    QVERIFY(libraries.contains("Qt5Core"));
+    QVERIFY(!libraries.contains("Qt5Widgets"));
+    QVERIFY(!libraries.contains("Qt5Multimedia"));
+}
+
+void StillsStartTest::run_complainsOfNothing_inABareSession()
+{
+    const testsupport::TestDir dir;
+    const testsupport::TestDir temporary;
+    QProcessEnvironment environment = stillsprogram::environment();
+    environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+    environment.insert(QStringLiteral("TMPDIR"), temporary.path());
+    for (const char* const option : {"--count=1", "--sheet"}) {
+        const ProgramResult result = runProgram(
+            stillsprogram::program(),
+            {QString::fromLatin1(option), QStringLiteral("--quiet"), QStringLiteral("-o"),
+             dir.path(), testsupport::samplePath(QStringLiteral("h264_bframes.mp4"))},
+            60000, environment);
+        QVERIFY(result.succeeded());
+        QCOMPARE(result.standardError, QByteArray());
+        QVERIFY(stillsprogram::filesIn(temporary.path()).isEmpty());
+    }
+}
+
+void StillsStartTest::manualPage_isWritten()
+{
+    QFile page(QFileInfo(stillsprogram::program()).path() + QStringLiteral("/stills.1"));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    QVERIFY(page.readAll().startsWith(".TH STILLS 1"));
+}
+
+QTEST_GUILESS_MAIN(StillsStartTest)
+
+#include "StillsStartTest.moc"
