@@ -9,5 +9,5 @@ add_custom_target(format
 string(REGEX REPLACE "([][+.*()^$?|\\\\])" "\\\\\\1" source_regex "${CMAKE_SOURCE_DIR}")
 add_custom_target(tidy
   COMMAND run-clang-tidy -quiet -p "${CMAKE_BINARY_DIR}"
-    "^${source_regex}/(app|batch|bench|imaging|product|profiles|qtav|series|tests|ui|utils|video)/.*\\.cpp$"
+    "^${source_regex}/(app|batch|bench|imaging|product|profiles|qtav|series|stills|tests|ui|utils|video)/.*\\.cpp$"
   COMMENT "Running clang-tidy" USES_TERMINAL VERBATIM)

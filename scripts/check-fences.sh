@@ -25,7 +25,7 @@ includes_of() {
 # not_in_folders FOLDER…: keeps the others.
 not_in_folders() { grep -vE "^($(IFS='|' && printf '%s' "$*"))/" || true; }
 
-readonly FOLDERS=(product qtav video profiles utils imaging series batch ui app)
+readonly FOLDERS=(product qtav video profiles utils imaging series batch ui app stills)
 ours="$(IFS='|' && printf '%s' "${FOLDERS[*]}")"
 readonly OURS="($ours)/"
 
@@ -68,6 +68,7 @@ layer ui/batch batch/ ui/ video/ profiles/ imaging/
 layer batch batch/ series/ video/ profiles/ imaging/
 layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ product/
 layer ui ui/ profiles/ imaging/ product/
+layer stills stills/ series/ imaging/ profiles/ product/ app/RuntimeFolder.h
 # app/ stands above all others.
 
 # Without a folder only what a tool makes for the including file alone, with `..` nothing.
@@ -76,7 +77,7 @@ found=$(includes_of '([^/"]+\.h"|\.\.?/)' "${FOLDERS[@]}" tests bench | grep -vE
 
 # The benchmarks call the bare library for comparison; its tests let it see other machines.
 fence FFmpeg 'lib(av|sw)[a-z]*/' qtav tests/qtav bench/bare
-fence QtAV 'QtAV' qtav video series batch ui app tests bench
+fence QtAV 'QtAV' qtav video series batch ui app stills tests bench
 fence OpenCV 'opencv2/' imaging tests/imaging bench
 
 only_in qtav/src/FFmpegCompat.h \

@@ -82,8 +82,11 @@ QList<int> stillsprogram::numbersIn(const QString& folder)
 stillsprogram::InterruptibleProcess::InterruptibleProcess(const QStringList& arguments)
 {
     setProcessEnvironment(stillsprogram::environment());
-    start(program(), arguments);
-    waitForStarted();
+    start(stillsprogram::program(), arguments);
+    if (!waitForStarted()) {
+        qFatal("Cannot start %s: %s", qUtf8Printable(stillsprogram::program()),
+               qUtf8Printable(errorString()));
+    }
 }
 
 stillsprogram::InterruptibleProcess::~InterruptibleProcess()
