@@ -33,6 +33,7 @@ void BatchThread::addWorker(BatchWorker* worker)
     if (isRunning()) {
         qFatal("You can't add workers after calling start");
     }
+    worker->prepare();
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_workers.push_back(worker);
 }

@@ -2,6 +2,7 @@
 
 #include "batch/BatchWorkerConfig.h"
 #include "batch/SamplingPlan.h"
+#include "batch/SeriesSaver.h"
 #include "imaging/Rendering.h"
 #include "profiles/FileNameProfile.h"
 #include "video/FrameGrabber.h"
@@ -11,6 +12,11 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QThread>
+
+#include <algorithm>
+#include <chrono>
+#include <future>
+#include <utility>
 
 namespace {
 
@@ -33,8 +39,41 @@ constexpr int mostWaitingFrames = 4;
 constexpr unsigned long lookMilliseconds = 10;
 constexpr qint64 longestWaitMilliseconds = 5000;
 
+/// How long news of a series may wait where the thread that they are for runs the job.
+constexpr std::chrono::milliseconds newsWait{10};
+
 /// Asks for a file name without a number.
 constexpr int noCounter = -1;
+
+/// The positions that a job with exact frames takes. A single image's are those of the plan, but
+/// for the middle, which is that of the stretch between the skips.
+FramePositions positionsOf(const BatchWorkerConfig& config, const SamplingPlan& plan,
+                           qint64 duration)
+{
+    FramePositions positions;
+    positions.front.value = static_cast<double>(config.skipFront());
+    positions.back.value = static_cast<double>(config.skipBack());
+    switch (plan.intervalType) {
+    case BatchWorkerConfig::EveryMilliseconds:
+        positions.kind = FramePositions::Kind::Every;
+        positions.everyMs = config.intervalMilliseconds();
+        return positions;
+    case BatchWorkerConfig::SpreadImages:
+        positions.kind = FramePositions::Kind::Spread;
+        positions.count = plan.images;
+        return positions;
+    default:
+        break;
+    }
+    positions.kind = FramePositions::Kind::List;
+    if (plan.intervalType == BatchWorkerConfig::SingleShot) {
+        const bool isMiddle = config.intervalSingleShot() == BatchWorkerConfig::Middle;
+        const qint64 ms = isMiddle ? (config.skipFront() + plan.end) / 2 : plan.start;
+        positions.list.append({FramePosition::Kind::Milliseconds,
+                               static_cast<double>(std::clamp<qint64>(ms, 0, duration))});
+    }
+    return positions;
+}
 
 } // namespace
 
@@ -60,6 +99,15 @@ void BatchWorker::registerMetaTypes()
     qRegisterMetaType<QtAV::VideoFrame>("QtAV::VideoFrame");
 }
 
+void BatchWorker::prepare()
+{
+    if (m_config == nullptr || !m_config->exactFrames()) {
+        return;
+    }
+    m_recipe = recipes::of(*m_config->imageProfile());
+    m_naming = m_config->filenameProfile()->naming();
+}
+
 void BatchWorker::loadFile()
 {
     m_frameGrabber->setSource(m_config->source());
@@ -68,6 +116,9 @@ void BatchWorker::loadFile()
 void BatchWorker::run()
 {
     qDebug("BatchWorker::run");
+    if (QThread::currentThread() == thread()) {
+        prepare();
+    }
     runInternal();
     m_frameGrabber->disconnect();
     m_frameGrabber->abort();
@@ -104,8 +155,96 @@ void BatchWorker::runInternal()
     m_fileCounter = 1;
     m_stepsTaken = 0;
     m_stepCount = qint64(plan.expectedImages) * ticksPerFrame;
-    if (!isInterruptionRequested()) {
+    if (isInterruptionRequested()) {
+        return;
+    }
+    if (m_config->exactFrames()) {
+        takeSeries(plan, duration);
+    } else {
         takeFrames(plan);
+    }
+}
+
+void BatchWorker::takeSeries(const SamplingPlan& plan, qint64 duration)
+{
+    // The engine opens the video itself.
+    m_frameGrabber->safeReleaseResource();
+    SeriesJob job;
+    job.video = m_config->source();
+    job.positions = positionsOf(*m_config, plan, duration);
+    job.recipe = m_recipe;
+    job.type = m_naming.type;
+    job.keepsImage = true;
+    SeriesSaver saver({m_config->outputDir(), m_naming, m_config->sourceFileName(),
+                       plan.intervalType == BatchWorkerConfig::SingleShot},
+                      seriesListener());
+    runSeries(job, saver);
+}
+
+/// What is told comes from the threads of the engine, in order: progress from there, all else in
+/// the worker's own.
+SeriesSaver::Listener BatchWorker::seriesListener()
+{
+    SeriesSaver::Listener listener;
+    listener.expecting = [this](int pictures) {
+        m_stepCount = std::max<qint64>(1, qint64(pictures) * ticksPerFrame);
+    };
+    listener.beforePicture = [this] {
+        waitForImages();
+        qDebug("Frame");
+        tickProgress();
+        tickProgress();
+        ++m_frameCounter;
+    };
+    listener.saving = [this](const QString& path) { tell([this, path] { announceSaving(path); }); };
+    listener.notSaved = [this](const QString& path) {
+        tell([this, path] { Q_EMIT statusUpdate(this, tr("Could not save %1").arg(path), Error); });
+    };
+    listener.failed = [this](const QString& message) {
+        tell([this, message] { extractorError(message); });
+    };
+    listener.saved = [this](const QImage& image) {
+        ++m_waitingFrames;
+        QMetaObject::invokeMethod(
+            this, [this, image] { showSaved(image); }, Qt::QueuedConnection);
+    };
+    return listener;
+}
+
+/// Where the worker's own thread runs the job, it attends to the news meanwhile.
+void BatchWorker::runSeries(const SeriesJob& job, SeriesSaver& saver)
+{
+    const auto isCancelled = [this] { return isInterruptionRequested(); };
+    const auto work = [&] { static_cast<void>(series::run({job}, saver, isCancelled)); };
+    if (QThread::currentThread() != thread()) {
+        work();
+        return;
+    }
+    const std::future<void> ended = std::async(std::launch::async, work);
+    while (ended.wait_for(newsWait) != std::future_status::ready) {
+        QCoreApplication::processEvents();
+    }
+    QCoreApplication::processEvents();
+}
+
+/// In the worker's own thread, unless it is interrupted before.
+void BatchWorker::tell(std::function<void()> news)
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, news = std::move(news)] {
+            if (!isInterruptionRequested()) {
+                news();
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void BatchWorker::showSaved(QImage image)
+{
+    --m_waitingFrames;
+    if (!isInterruptionRequested()) {
+        Q_EMIT imageReady(this, image);
     }
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "batch/SeriesSaver.h"
 #include "batch/Worker.h"
+#include "imaging/ImageRecipe.h"
+#include "profiles/OutputNaming.h"
 
 #include <QtAV/VideoFrame.h>
 
@@ -9,12 +12,17 @@
 #include <QString>
 
 #include <atomic>
+#include <functional>
 
 class BatchWorkerConfig;
 class FrameGrabber;
 struct SamplingPlan;
 
 /// Runs one batch job: takes the frames, makes the images and saves them.
+///
+/// A job with exact frames runs through the engine for series, on all cores: nothing pauses, no
+/// frame is taken twice, and images are made and saved where they are decoded. It has the same
+/// signals in the same order.
 ///
 /// Threads: the worker belongs to the thread that created it, and run() may be called in that
 /// thread or another. Frames are taken where run() runs; images are made and saved in the worker's
@@ -44,6 +52,10 @@ public:
     BatchWorkerConfig* config() const { return m_config; }
     void setConfig(BatchWorkerConfig* config) { m_config = config; }
 
+    /// Resolves the profiles of a job with exact frames, which may not change from then on. In the
+    /// worker's own thread, before run(); run() does so itself when it is called there.
+    void prepare();
+
     /// Tells the frame grabber which video the job is about; nothing is opened yet.
     void loadFile();
 
@@ -70,6 +82,11 @@ private Q_SLOTS:
 private:
     void runInternal();
     void takeFrames(const SamplingPlan& plan);
+    void takeSeries(const SamplingPlan& plan, qint64 duration);
+    void runSeries(const SeriesJob& job, SeriesSaver& saver);
+    [[nodiscard]] SeriesSaver::Listener seriesListener();
+    void tell(std::function<void()> news);
+    void showSaved(QImage image);
     [[nodiscard]] bool takeFrame(qint64 position);
     void tickProgress();
     void waitForImages() const;
@@ -86,6 +103,8 @@ private:
     std::atomic<int> m_waitingFrames{0};
     BatchWorkerConfig* m_config = nullptr;
     FrameGrabber* m_frameGrabber;
+    ImageRecipe m_recipe;  ///< of a job with exact frames, once prepared
+    OutputNaming m_naming; ///< likewise
     /// Number of the frame to request next.
     int m_frameCounter = 0;
     /// Number to try next in a file name. Only ever raised during a run.

@@ -35,6 +35,7 @@ class BatchWorkerConfig : public QObject
     Q_PROPERTY(int intervalMilliseconds READ intervalMilliseconds WRITE setIntervalMilliseconds)
     Q_PROPERTY(int intervalImages READ intervalImages WRITE setIntervalImages)
     Q_PROPERTY(int intervalSingleShot READ intervalSingleShot WRITE setIntervalSingleShot)
+    Q_PROPERTY(bool exactFrames READ exactFrames WRITE setExactFrames)
 
 public:
     /// The values of intervalType(). Any other number is kept, shown as a placeholder, and takes
@@ -103,6 +104,10 @@ public:
     void setIntervalImages(int images) { m_intervalImages = images; }
     int intervalSingleShot() const { return m_intervalSingleShot; }
     void setIntervalSingleShot(int place) { m_intervalSingleShot = place; }
+    /// Take exactly the frames at the positions, on all cores, instead of key frames near them, one
+    /// after another. Off in a new job.
+    bool exactFrames() const { return m_exactFrames; }
+    void setExactFrames(bool exact) { m_exactFrames = exact; }
     /// The interval in a few words, for lists.
     QString intervalDisplay() const;
 
@@ -131,6 +136,7 @@ private:
     std::atomic<int> m_intervalMilliseconds{5000};
     std::atomic<int> m_intervalImages{10};
     int m_intervalSingleShot = Middle;
+    bool m_exactFrames = false;
     VideoInfo m_videoInfo;
     // The profiles that a job starts with are its own; those that it is given are not.
     const std::unique_ptr<ImageProfile> m_ownImageProfile;

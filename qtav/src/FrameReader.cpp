@@ -115,6 +115,7 @@ void FrameReader::restart()
     m_last.reset();
     m_lastFrame = VideoFrame();
     m_predecessor.reset();
+    m_isInSequence = false;
     m_isAtFirst = false;
     m_isAtLanding = false;
 }
@@ -333,7 +334,8 @@ FrameResult FrameReader::arriveAt(const VideoFrame& frame, bool isLanding)
 {
     m_predecessor.reset();
     // What was interrupted may begin behind frames that cannot be decoded any more.
-    if (m_last && *m_last >= m_skippedUpTo && !std::exchange(m_resumes, false))
+    m_isInSequence = m_last && !std::exchange(m_resumes, false);
+    if (m_isInSequence && *m_last >= m_skippedUpTo)
         m_predecessor = m_last;
     m_isAtLanding = isLanding;
     m_isAtFirst = !m_last && m_startedAtZero;
@@ -342,10 +344,11 @@ FrameResult FrameReader::arriveAt(const VideoFrame& frame, bool isLanding)
     return {FrameAnswer::Frame, frame};
 }
 
-/// True when no frame can be missing between last() and the one that came before it.
+/// True when no frame that was not skipped can be missing directly before last(). Once one has come
+/// out, all do.
 bool FrameReader::isCertain() const
 {
-    return m_predecessor || m_isAtFirst || (m_landing && *m_last <= *m_landing);
+    return m_isInSequence || m_isAtFirst || (m_landing && *m_last <= *m_landing);
 }
 
 FrameReader::Way FrameReader::walk(const Search& search, const IsCancelled& isCancelled)

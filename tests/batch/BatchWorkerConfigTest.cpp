@@ -74,6 +74,7 @@ void BatchWorkerConfigTest::settings_haveTheirDefaults_whenNew()
     QCOMPARE(config.intervalMilliseconds(), 5000);
     QCOMPARE(config.intervalImages(), 10);
     QCOMPARE(config.intervalSingleShot(), 1);
+    QVERIFY(!config.exactFrames());
     QVERIFY(!config.videoInfo().loaded);
 }
 
@@ -106,7 +107,8 @@ void BatchWorkerConfigTest::properties_standInTheirOrder()
                                QStringLiteral("int intervalType"),
                                QStringLiteral("int intervalMilliseconds"),
                                QStringLiteral("int intervalImages"),
-                               QStringLiteral("int intervalSingleShot")};
+                               QStringLiteral("int intervalSingleShot"),
+                               QStringLiteral("bool exactFrames")};
     QCOMPARE(found, expected);
 }
 
@@ -252,12 +254,16 @@ void BatchWorkerConfigTest::saveAsDefault_writesExactlyTheDefaults()
     const QSettings file(defaultsPath(), QSettings::IniFormat);
     QStringList keys = file.allKeys();
     keys.sort();
-    const QStringList expected{
-        QStringLiteral("filenameProfileId"),  QStringLiteral("imageProfileId"),
-        QStringLiteral("intervalImages"),     QStringLiteral("intervalMilliseconds"),
-        QStringLiteral("intervalSingleShot"), QStringLiteral("intervalType"),
-        QStringLiteral("objectName"),         QStringLiteral("skipBack"),
-        QStringLiteral("skipFront")};
+    const QStringList expected{QStringLiteral("exactFrames"),
+                               QStringLiteral("filenameProfileId"),
+                               QStringLiteral("imageProfileId"),
+                               QStringLiteral("intervalImages"),
+                               QStringLiteral("intervalMilliseconds"),
+                               QStringLiteral("intervalSingleShot"),
+                               QStringLiteral("intervalType"),
+                               QStringLiteral("objectName"),
+                               QStringLiteral("skipBack"),
+                               QStringLiteral("skipFront")};
     QCOMPARE(keys, expected);
     QCOMPARE(file.value(QStringLiteral("objectName")).toString(), QString());
     QCOMPARE(file.value(QStringLiteral("imageProfileId")).toString(), config.imageProfileId());
@@ -269,6 +275,7 @@ void BatchWorkerConfigTest::saveAsDefault_writesExactlyTheDefaults()
     QCOMPARE(file.value(QStringLiteral("intervalMilliseconds")).toString(), QStringLiteral("5000"));
     QCOMPARE(file.value(QStringLiteral("intervalImages")).toString(), QStringLiteral("10"));
     QCOMPARE(file.value(QStringLiteral("intervalSingleShot")).toString(), QStringLiteral("1"));
+    QCOMPARE(file.value(QStringLiteral("exactFrames")).toString(), QStringLiteral("false"));
 }
 
 void BatchWorkerConfigTest::saveAsDefault_keepsOtherKeys()
@@ -293,6 +300,7 @@ void BatchWorkerConfigTest::loadFromLastUsed_restoresWhatWasSaved()
     saved.setIntervalMilliseconds(13);
     saved.setIntervalImages(14);
     saved.setIntervalSingleShot(2);
+    saved.setExactFrames(true);
     saved.saveAsDefault();
 
     BatchWorkerConfig loaded;
@@ -306,6 +314,7 @@ void BatchWorkerConfigTest::loadFromLastUsed_restoresWhatWasSaved()
     QCOMPARE(loaded.intervalMilliseconds(), 13);
     QCOMPARE(loaded.intervalImages(), 14);
     QCOMPARE(loaded.intervalSingleShot(), 2);
+    QVERIFY(loaded.exactFrames());
 }
 
 void BatchWorkerConfigTest::loadFromLastUsed_keepsWhatTheFileLacks()

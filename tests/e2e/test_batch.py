@@ -84,7 +84,8 @@ class BatchTest(MorvantileCase):
         first = {name: file.read_bytes() for name, file in images_in(self.pictures).items()}
         self.assertEqual(len(first), 8)
 
-        # 168 images of each video: it does not end by itself soon.
+        # 168 images of each video, with a pause after each: it does not end by itself soon.
+        self.program.click("check box", "Exact frames")
         self.program.fill("Milliseconds from image to image", "100")
         self.program.click("push button", "Start")
         self.answer_cancelling("No")

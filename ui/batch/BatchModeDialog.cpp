@@ -129,6 +129,7 @@ void BatchModeDialog::setupPropertyFields()
     addField("intervalMilliseconds", m_ui->intervalMillisecondsTextEdit, Field::NoChoice);
     addField("intervalImages", m_ui->intervalImagesTextEdit, Field::NoChoice);
     addField("intervalSingleShot", m_ui->intervalSingleShotComboBox, Field::NoChoice);
+    addField("exactFrames", m_ui->exactFramesCheckBox, Field::NoChoice);
     addField("skipFront", m_ui->skipFrontTextEdit, Field::NoChoice);
     addField("skipBack", m_ui->skipBackTextEdit, Field::NoChoice);
 

@@ -88,6 +88,8 @@ void BatchModeDialog::addVideos(const QStringList& files)
     QList<BatchWorkerConfig*> jobs;
     for (const QString& file : files) {
         auto* const config = new BatchWorkerConfig(this);
+        // The choice of the user, once there is one.
+        config->setExactFrames(true);
         config->loadFromLastUsed();
         config->setSource(file);
         jobs.append(config);

@@ -33,7 +33,8 @@ public:
     {
         /// The position in milliseconds at which, or shortly behind which, the frame lies.
         qint64 ms = 0;
-        /// Frames before this position in milliseconds may be skipped, see setCompleteFrom().
+        /// Frames before this position in milliseconds may be skipped, see setCompleteFrom(). No
+        /// frame before it may be the one that is looked for.
         qint64 completeFrom = 0;
         /// True for the frame, and for all that come after it.
         std::function<bool(const VideoFrame&)> isReached;
@@ -180,6 +181,7 @@ private:
     std::optional<double> m_last;
     VideoFrame m_lastFrame;
     std::optional<double> m_predecessor;
+    bool m_isInSequence = false; ///< a frame came out before m_last, without an interruption
     bool m_isAtFirst = false;
     bool m_isAtLanding = false;
 };

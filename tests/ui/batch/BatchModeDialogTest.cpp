@@ -5,6 +5,7 @@
 #include "ui/widgets/Field.h"
 #include "ui/widgets/NoFocusItemDelegate.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -50,6 +51,8 @@ private Q_SLOTS:
     void edits_goIntoAllSelectedJobs();
     void edits_replaceWhatDiffered();
     void returnKey_endsTyping_andStartsNothing();
+    void newJobs_takeExactFrames_unlessTheLastDidNot();
+    void exactFrames_areChosenForAllSelectedJobs();
     void chosenProfile_goesIntoTheJobs_andIsUsedNext();
     void editButtons_needAProfile();
     void manyJobs_areFilledInOnce_whenSelected();
@@ -100,6 +103,7 @@ void BatchModeDialogTest::fields_bindTheJobsProperties()
                           QStringLiteral("intervalMilliseconds intervalMillisecondsTextEdit -1"),
                           QStringLiteral("intervalImages intervalImagesTextEdit -1"),
                           QStringLiteral("intervalSingleShot intervalSingleShotComboBox -1"),
+                          QStringLiteral("exactFrames exactFramesCheckBox -1"),
                           QStringLiteral("skipFront skipFrontTextEdit -1"),
                           QStringLiteral("skipBack skipBackTextEdit -1")}));
 }
@@ -117,15 +121,17 @@ void BatchModeDialogTest::tabKey_goesThroughTheForm_inOrder()
 {
     ModeDialog mode;
     mode.load(1);
-    QCOMPARE(testsupport::tabOrder(mode.dialog()).join(QLatin1Char(' ')),
-             QStringLiteral("filesTableView loadVideoButton removeVideoButton selectAllVideoButton "
-                            "imageProfileComboBox imageProfileEditButton filenameProfileComboBox "
-                            "filenameProfileEditButton fileOutputFolderTextEdit "
-                            "fileOutputFolderSelectButton intervalImagesRadioButton "
-                            "intervalImagesTextEdit intervalMillisecondsRadioButton "
-                            "intervalMillisecondsTextEdit intervalSingleShotRadioButton "
-                            "intervalSingleShotComboBox skipFrontTextEdit skipBackTextEdit "
-                            "startButton cancelButton"));
+    QCOMPARE(
+        testsupport::tabOrder(mode.dialog()).join(QLatin1Char(' ')),
+        QStringLiteral(
+            "filesTableView loadVideoButton removeVideoButton selectAllVideoButton "
+            "imageProfileComboBox imageProfileEditButton filenameProfileComboBox "
+            "filenameProfileEditButton fileOutputFolderTextEdit "
+            "fileOutputFolderSelectButton intervalImagesRadioButton "
+            "intervalImagesTextEdit intervalMillisecondsRadioButton "
+            "intervalMillisecondsTextEdit intervalSingleShotRadioButton "
+            "intervalSingleShotComboBox exactFramesCheckBox skipFrontTextEdit skipBackTextEdit "
+            "startButton cancelButton"));
 }
 
 void BatchModeDialogTest::firstItems_ofComboBoxes_cannotBeChosen()
@@ -321,6 +327,36 @@ void BatchModeDialogTest::returnKey_endsTyping_andStartsNothing()
     mode.enter("fileOutputFolderTextEdit", QStringLiteral("/tmp"));
     QCOMPARE(starts.size(), 0);
     QVERIFY(mode.find<QPushButton>("startButton").isDefault());
+}
+
+void BatchModeDialogTest::newJobs_takeExactFrames_unlessTheLastDidNot()
+{
+    ModeDialog mode;
+    mode.load(1);
+    QVERIFY(mode.job(0).exactFrames());
+    mode.select({0});
+    QVERIFY(mode.find<QCheckBox>("exactFramesCheckBox").isChecked());
+    mode.click("exactFramesCheckBox");
+    mode.job(0).saveAsDefault();
+    mode.load(1);
+    QVERIFY(!mode.job(1).exactFrames());
+}
+
+void BatchModeDialogTest::exactFrames_areChosenForAllSelectedJobs()
+{
+    ModeDialog mode;
+    mode.load(3);
+    mode.job(1).setExactFrames(false);
+    mode.select({0, 1});
+    const auto& box = mode.find<QCheckBox>("exactFramesCheckBox");
+    QCOMPARE(box.checkState(), Qt::PartiallyChecked);
+    mode.click("exactFramesCheckBox");
+    QCOMPARE(box.checkState(), Qt::Checked);
+    QVERIFY(mode.job(1).exactFrames());
+    mode.click("exactFramesCheckBox");
+    for (const int row : {0, 1, 2}) {
+        QCOMPARE(mode.job(row).exactFrames(), row == 2);
+    }
 }
 
 void BatchModeDialogTest::chosenProfile_goesIntoTheJobs_andIsUsedNext()

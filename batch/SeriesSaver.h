@@ -1,0 +1,52 @@
+#pragma once
+
+#include "profiles/OutputNaming.h"
+#include "series/SeriesRunner.h"
+
+#include <QDir>
+#include <QImage>
+#include <QString>
+
+#include <functional>
+
+/// Saves the pictures of one video's series under the names of a batch job, in order: numbers are
+/// given to pictures that can be made alone, and no existing file is replaced.
+///
+/// Called by the engine, from several threads in turn. The functions are called there.
+class SeriesSaver : public SeriesOutput
+{
+public:
+    /// Where and under which names.
+    struct Target
+    {
+        QDir folder;
+        OutputNaming naming;
+        QString videoBaseName;
+        /// The first picture's name bears no number unless that name is taken.
+        bool isSingle = false;
+    };
+
+    struct Listener
+    {
+        std::function<void(int pictures)> expecting;
+        std::function<void()> beforePicture;
+        std::function<void(const QString& path)> saving;
+        std::function<void(const QString& path)> notSaved;
+        std::function<void(const QImage& image)> saved;
+        std::function<void(const QString& message)> failed;
+    };
+
+    SeriesSaver(Target target, Listener listener);
+
+    void begin(const SeriesFacts& facts) override;
+    void take(SeriesPicture picture) override;
+    void end(int video, const QString& error) override;
+
+private:
+    [[nodiscard]] QString firstPath();
+    [[nodiscard]] QString nextPath();
+
+    const Target m_target;
+    const Listener m_listener;
+    int m_counter = 1; ///< to try next; only ever raised
+};
