@@ -63,8 +63,9 @@ public:
     SeriesOutput(const SeriesOutput&) = delete;
     SeriesOutput& operator=(const SeriesOutput&) = delete;
 
-    /// The positions of a video in rising order, before needs() is asked about each of them: so that
-    /// what is needed can go by its neighbours. From any thread, also at once with the other calls.
+    /// The positions of a video in rising order, before needs() is asked about each of them: so
+    /// that what is needed can go by its neighbours. From any thread, also at once with the other
+    /// calls.
     virtual void announce(int video, const QVector<SeriesTarget>& targets);
 
     /// Whether a position is needed at all; asked before anything is decoded for it, from any

@@ -71,7 +71,8 @@ std::string zshSpecs(const OptionEntry& entry)
         std::holds_alternative<TypedOptions::Values TypedOptions::*>(entry.target) ? "*" : "";
     std::string lines = "  '" + repeats + entry.longName() + equals + rest + "' \\\n";
     if (!entry.shortName().empty()) {
-        lines += "  '" + repeats + entry.shortName() + (equals.empty() ? "" : "+") + rest + "' \\\n";
+        lines +=
+            "  '" + repeats + entry.shortName() + (equals.empty() ? "" : "+") + rest + "' \\\n";
     }
     return lines;
 }
@@ -88,8 +89,8 @@ std::string bashCompletion()
         }
         all += " " + entry.longName();
         if (entry.takesValue() && !entry.valueIsOptional()) {
-            cases += "        " + namesBetween(entry, "|") + ") " + bashValues(entry) +
-                     "; return ;;\n";
+            cases +=
+                "        " + namesBetween(entry, "|") + ") " + bashValues(entry) + "; return ;;\n";
         }
     }
     return "# bash completion for stills\n"

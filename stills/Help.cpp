@@ -29,9 +29,9 @@ constexpr std::array<Example, 5> examples{{
     {"stills -r Videos -o out --skip-existing", "a folder; run again to go on"},
 }};
 
-constexpr std::array<Section, 8> sections{
-    Section::Frames, Section::Pictures,  Section::Sheet,   Section::Files,
-    Section::Videos, Section::Reporting, Section::Running, Section::Information};
+constexpr std::array<Section, 8> sections{Section::Frames,  Section::Pictures,   Section::Sheet,
+                                          Section::Files,   Section::Videos,     Section::Reporting,
+                                          Section::Running, Section::Information};
 
 std::string padded(std::string text, std::size_t width)
 {
@@ -164,9 +164,10 @@ std::string manualPage()
                  "go beside each video unless options say otherwise. No existing file is replaced "
                  "without --overwrite, and no half file is ever seen.\n");
     text += ".SH OPTIONS\n" + roffOptions();
-    text += ".SH EXIT STATUS\n.TP\n.B 0\nAll that was asked for is there.\n.TP\n.B 1\nSome of it is "
-            "not; standard error says why.\n.TP\n.B 2\nThe arguments are wrong.\n.TP\n.B 130, "
-            "143\nInterrupted by Ctrl+C or ended by SIGTERM. What was written is whole.\n";
+    text +=
+        ".SH EXIT STATUS\n.TP\n.B 0\nAll that was asked for is there.\n.TP\n.B 1\nSome of it is "
+        "not; standard error says why.\n.TP\n.B 2\nThe arguments are wrong.\n.TP\n.B 130, "
+        "143\nInterrupted by Ctrl+C or ended by SIGTERM. What was written is whole.\n";
     text += ".SH EXAMPLES\n" + roffExamples();
     return text;
 }

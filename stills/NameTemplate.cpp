@@ -22,9 +22,9 @@ struct FieldName
 };
 
 constexpr FieldName fieldNames[] = {
-    {"stem", NameTemplate::Field::Stem, false},    {"number", NameTemplate::Field::Number, true},
-    {"frame", NameTemplate::Field::Frame, true},   {"time", NameTemplate::Field::Time, false},
-    {"width", NameTemplate::Field::Width, true},   {"height", NameTemplate::Field::Height, true},
+    {"stem", NameTemplate::Field::Stem, false},  {"number", NameTemplate::Field::Number, true},
+    {"frame", NameTemplate::Field::Frame, true}, {"time", NameTemplate::Field::Time, false},
+    {"width", NameTemplate::Field::Width, true}, {"height", NameTemplate::Field::Height, true},
 };
 
 std::string padded(std::int64_t number, int width)

@@ -12,9 +12,9 @@ namespace stills {
 /// What the name of one picture is made of.
 struct NameFields
 {
-    std::string stem;                   ///< the video's name without its last suffix, any bytes
-    std::string tail = {};              ///< tells videos of one stem apart; comes behind the stem
-    int number = 0;                     ///< of the picture within its video, from 1
+    std::string stem;      ///< the video's name without its last suffix, any bytes
+    std::string tail = {}; ///< tells videos of one stem apart; comes behind the stem
+    int number = 0;        ///< of the picture within its video, from 1
     std::optional<std::int64_t> frame = {}; ///< the frame's number, where known
     std::int64_t timeMs = 0;
     int width = 0; ///< of the picture, in pixels
@@ -23,8 +23,8 @@ struct NameFields
 
 /// How pictures are named: text with fields in braces. A plain value, for any thread.
 ///
-/// The fields are {stem}, {number}, {frame}, {time}, {width} and {height}; numbers may have a width,
-/// which leading zeros fill: {number:4}. A doubled brace stands for one.
+/// The fields are {stem}, {number}, {frame}, {time}, {width} and {height}; numbers may have a
+/// width, which leading zeros fill: {number:4}. A doubled brace stands for one.
 class NameTemplate
 {
 public:

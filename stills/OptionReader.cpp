@@ -202,9 +202,9 @@ void Reader::readSheet()
     Sheet sheet;
     const std::string name = m_typed.sheet->empty() ? "{stem}-sheet" : *m_typed.sheet;
     sheet.name = good("--sheet", NameTemplate::parse(name));
-    for (const auto field : {NameTemplate::Field::Number, NameTemplate::Field::Frame,
-                             NameTemplate::Field::Time, NameTemplate::Field::Width,
-                             NameTemplate::Field::Height}) {
+    for (const auto field :
+         {NameTemplate::Field::Number, NameTemplate::Field::Frame, NameTemplate::Field::Time,
+          NameTemplate::Field::Width, NameTemplate::Field::Height}) {
         if (sheet.name.uses(field)) {
             fail("--sheet: the name of a sheet has the field {stem} alone");
         }
@@ -229,8 +229,7 @@ void Reader::readFiles()
     m_options.existing = m_typed.skipExisting ? Existing::Skip
                          : m_typed.overwrite  ? Existing::Overwrite
                                               : Existing::NextName;
-    m_options.names =
-        good("--names", NameTemplate::parse(m_typed.names.value_or("{stem}-{time}")));
+    m_options.names = good("--names", NameTemplate::parse(m_typed.names.value_or("{stem}-{time}")));
     m_options.nameProfile = m_typed.nameProfile;
     if (m_typed.output && m_typed.output->empty()) {
         fail("--output: an empty name is no folder; write . for the one where you are");

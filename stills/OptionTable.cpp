@@ -29,8 +29,8 @@ std::vector<OptionEntry> framesOptions()
          "The frames of these numbers, counted from 0 in the order shown: 0,100,200-300.", nullptr,
          Completes::Nothing, nullptr},
         {section, "--keyframes", nullptr, &T::keyFrames,
-         "All key frames: the quickest way through a video.", "all key frames",
-         Completes::Nothing, nullptr},
+         "All key frames: the quickest way through a video.", "all key frames", Completes::Nothing,
+         nullptr},
         {section, "--scenes", "[=THRESHOLD]", &T::scenes,
          "The first frame of each scene. The threshold, above 0 and up to 1, says how different "
          "it has to be from the frame before; 0.3 unless you say otherwise.",
@@ -112,7 +112,7 @@ std::vector<OptionEntry> fileOptions()
          "into this folder (default: beside each video)", Completes::Folders, nullptr},
         {section, "-n,--names", "TEMPLATE", &T::names,
          "How pictures are named, without their suffix. Fields: {stem} is the video's name "
-         "without its suffix, {number} counts the pictures from 1, {frame} is the frame's number, "
+         "without its suffix, {number} that of the position, from 1, {frame} the frame's, from 0, "
          "{time} the time that was asked for, or the frame's own where none was, as 00.01.02.500; "
          "{width} and {height} are the picture's. {number:4} fills up with zeros; {{ and }} stand "
          "for braces. The default is '{stem}-{time}'.",
@@ -166,8 +166,8 @@ std::vector<OptionEntry> reportingOptions()
         {section, "--progress", nullptr, &T::progress,
          "Show progress even where standard error is no terminal.", nullptr, Completes::Nothing,
          nullptr},
-        {section, "--quiet", nullptr, &T::quiet, "Write errors only.", nullptr,
-         Completes::Nothing, nullptr},
+        {section, "--quiet", nullptr, &T::quiet, "Write errors only.", nullptr, Completes::Nothing,
+         nullptr},
         {section, "-v,--verbose", nullptr, &T::verbose, "Write the path of each picture as well.",
          nullptr, Completes::Nothing, nullptr},
     };
@@ -189,17 +189,16 @@ std::vector<OptionEntry> otherOptions()
          "all options", Completes::Nothing, nullptr},
         {Section::Information, "-V,--version", nullptr, &T::version, "Show the version.", nullptr,
          Completes::Nothing, nullptr},
-        {Section::Hidden, "--print", "WHAT", &T::print, "For the build.", nullptr,
-         Completes::Words, "man bash zsh fish"},
+        {Section::Hidden, "--print", "WHAT", &T::print, "For the build.", nullptr, Completes::Words,
+         "man bash zsh fish"},
     };
 }
 
 std::vector<OptionEntry> wholeTable()
 {
     std::vector<OptionEntry> table;
-    for (const auto& part :
-         {framesOptions(), pictureOptions(), sheetOptions(), fileOptions(), videoOptions(),
-          reportingOptions(), otherOptions()}) {
+    for (const auto& part : {framesOptions(), pictureOptions(), sheetOptions(), fileOptions(),
+                             videoOptions(), reportingOptions(), otherOptions()}) {
         table.insert(table.end(), part.begin(), part.end());
     }
     return table;

@@ -66,7 +66,17 @@ struct TypedOptions
 };
 
 /// Under which heading the full help and the manual page list an option.
-enum class Section { Frames, Pictures, Sheet, Files, Videos, Reporting, Running, Information, Hidden };
+enum class Section {
+    Frames,
+    Pictures,
+    Sheet,
+    Files,
+    Videos,
+    Reporting,
+    Running,
+    Information,
+    Hidden
+};
 
 /// What a shell offers for an option's value.
 enum class Completes { Nothing, Files, Folders, Words };

@@ -57,7 +57,8 @@ QByteArray PictureNames::name(const VideoTask& task, const SeriesPicture& pictur
 {
     if (m_naming) {
         const bool isSingle = isOnly && attempt == 1;
-        const int counter = isSingle ? OutputNaming::noCounter : number + attempt - (isOnly ? 2 : 1);
+        const int counter =
+            isSingle ? OutputNaming::noCounter : number + attempt - (isOnly ? 2 : 1);
         const std::string stem = cutBetweenCharacters(task.stem, longestProfileStem) + task.tail;
         const QString whole = m_naming->fileName(pathOf(stem), counter);
         const QString base = whole.left(whole.size() - m_naming->type.size() - 1);
@@ -66,8 +67,8 @@ QByteArray PictureNames::name(const VideoTask& task, const SeriesPicture& pictur
     NameFields fields = fieldsOf(task);
     fields.number = number;
     fields.frame = picture.frame;
-    fields.timeMs = m_takesAskedTime && picture.askedMs ? *picture.askedMs
-                                                        : picture.timeMs.value_or(0);
+    fields.timeMs =
+        m_takesAskedTime && picture.askedMs ? *picture.askedMs : picture.timeMs.value_or(0);
     fields.width = picture.size.width();
     fields.height = picture.size.height();
     return QByteArray::fromStdString(m_template.fileName(fields, m_suffix, attempt));

@@ -7,8 +7,8 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <utility>
 #include <unistd.h>
+#include <utility>
 
 namespace stills {
 
@@ -45,9 +45,8 @@ QString progressText(const ProgressState& state, int columns)
         const double left = static_cast<double>(state.elapsedMs) * (1.0 - part) / part;
         text += QStringLiteral(", %1 left").arg(clockTime(static_cast<qint64>(left)));
     }
-    const QString place = state.videos > 1
-                              ? QStringLiteral("%1/%2 ").arg(state.video).arg(state.videos)
-                              : QString();
+    const QString place =
+        state.videos > 1 ? QStringLiteral("%1/%2 ").arg(state.video).arg(state.videos) : QString();
     const int room = columns - place.size() - text.size() - 3;
     const QString name = shortened(readable(state.name), std::max(room, shortestName));
     return (place + name + QStringLiteral(": ") + text).left(std::max(columns - 1, 0));
@@ -221,8 +220,8 @@ void Report::finish(bool wasInterrupted)
                       .add(QLatin1String("elapsed_ms"), m_clock.elapsed())
                       .line());
     } else if (!m_style.isQuiet) {
-        writeLine(oneLine(
-            summaryText(m_total, m_style.place, m_style.isSheetAlone, wasInterrupted)));
+        writeLine(
+            oneLine(summaryText(m_total, m_style.place, m_style.isSheetAlone, wasInterrupted)));
     }
 }
 

@@ -14,7 +14,10 @@ struct Result
     std::string error;
 
     [[nodiscard]] static Result of(T content) { return {std::move(content), {}}; }
-    [[nodiscard]] static Result failure(std::string text) { return {std::nullopt, std::move(text)}; }
+    [[nodiscard]] static Result failure(std::string text)
+    {
+        return {std::nullopt, std::move(text)};
+    }
     [[nodiscard]] bool isGood() const { return value.has_value(); }
 };
 

@@ -221,8 +221,7 @@ QString StillsOutput::factsText() const
                               .arg(m_pictureSize.height());
     }
     const qint64 bytes = QFileInfo(pathOf(task.path)).size();
-    return text + between +
-           QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+    return text + between + QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
 }
 
 void StillsOutput::finishSheet(const VideoTask& task)
@@ -239,8 +238,7 @@ void StillsOutput::finishSheet(const VideoTask& task)
 void StillsOutput::writeSheet(const VideoTask& task, const QImage& sheet)
 {
     const int pictures = m_sheet->count();
-    const QByteArray content =
-        imaging::encode(sheet, m_look.recipe.jpegQuality, m_look.suffix);
+    const QByteArray content = imaging::encode(sheet, m_look.recipe.jpegQuality, m_look.suffix);
     if (content.isEmpty()) {
         failVideo(tr("The contact sheet could not be encoded as %1.").arg(m_look.suffix));
         return;

@@ -117,8 +117,8 @@ QVector<SeriesJob> jobsOf(const Options& options, const Look& look,
         options.makesPictures && !look.naming && options.names.uses(NameTemplate::Field::Frame);
     if (options.sheet) {
         const bool isChosen = options.size && !options.makesPictures;
-        job.thumbnail = isChosen ? QSize(options.size->width, options.size->height)
-                                 : usualSheetPicture;
+        job.thumbnail =
+            isChosen ? QSize(options.size->width, options.size->height) : usualSheetPicture;
     }
     QVector<SeriesJob> jobs;
     for (const VideoTask& task : tasks) {

@@ -240,8 +240,8 @@ Result<std::vector<Position>> parseFrames(const std::string& text)
                               ? first
                               : wholeNumber(range.substr(hyphen + 1), highest);
         if (!first || !last || *last < *first) {
-            return Frames::failure(quoted(part) +
-                                   " is no frame; write numbers from 0 on and ranges: 0,100,200-300");
+            return Frames::failure(
+                quoted(part) + " is no frame; write numbers from 0 on and ranges: 0,100,200-300");
         }
         if (frames.size() + std::size_t(*last - *first) >= maxListedFrames) {
             return Frames::failure(quoted(text) + " is more than a million frames; use --every");
@@ -305,10 +305,11 @@ Result<std::int64_t> parseMemory(const std::string& text)
         shift = 10 * (static_cast<int>(letter) + 1);
     }
     const auto parsed = decimal(number);
-    const double bytes = parsed ? (static_cast<double>(parsed->whole) +
-                                   static_cast<double>(parsed->billionths) / 1e9) *
-                                      static_cast<double>(std::int64_t(1) << shift)
-                                : 0.0;
+    const double bytes =
+        parsed
+            ? (static_cast<double>(parsed->whole) + static_cast<double>(parsed->billionths) / 1e9) *
+                  static_cast<double>(std::int64_t(1) << shift)
+            : 0.0;
     if (bytes < static_cast<double>(smallest) || bytes > static_cast<double>(largest)) {
         return Result<std::int64_t>::failure(quoted(text) +
                                              " is no amount of memory; write 800M or 2G");
@@ -322,10 +323,11 @@ Result<Shard> parseShard(const std::string& text)
     const std::string_view view = text;
     const std::size_t slash = view.find('/');
     const auto number = wholeNumber(view.substr(0, slash), most);
-    const auto count = slash == std::string_view::npos ? std::nullopt
-                                                       : wholeNumber(view.substr(slash + 1), most);
+    const auto count =
+        slash == std::string_view::npos ? std::nullopt : wholeNumber(view.substr(slash + 1), most);
     if (!number || !count) {
-        return Result<Shard>::failure(quoted(text) + " is no shard; write 3/16 for the third of 16");
+        return Result<Shard>::failure(quoted(text) +
+                                      " is no shard; write 3/16 for the third of 16");
     }
     if (*number < 1 || *number > *count) {
         return Result<Shard>::failure(quoted(text) + " does not exist: shards count from 1, so " +

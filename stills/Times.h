@@ -8,7 +8,8 @@
 #include <vector>
 
 /// Times, positions and numbers as people write them. Whatever is not written in one of the ways
-/// that are named here is an error that quotes the text: nothing is guessed, rounded or passed over.
+/// that are named here is an error that quotes the text: nothing is guessed, rounded or passed
+/// over.
 namespace stills {
 
 /// Milliseconds of a time: "90", "90s", "1.5s", "500ms", "2m", "1h", "1:30", "1:30.250" or

@@ -22,10 +22,10 @@ namespace fs = std::filesystem;
 
 /// Sorted, for a binary search.
 constexpr std::array<std::string_view, 45> videoSuffixes{
-    "264",  "265",  "3g2",  "3gp", "asf", "av1", "avi",  "divx", "dv",   "evo", "f4v", "flv",
-    "h264", "h265", "hevc", "ivf", "m1v", "m2p",  "m2ts", "m2v",  "m4v", "mjpeg", "mjpg",
-    "mk3d", "mkv",  "mod",  "mov", "mp4", "mpe", "mpeg", "mpg",  "mpv",  "mts", "mxf", "nut",
-    "ogm",  "ogv",  "qt",   "rm",  "rmvb", "ts", "vob",  "webm", "wmv",  "y4m"};
+    "264",  "265",  "3g2",  "3gp",  "asf", "av1",  "avi",  "divx", "dv",  "evo",   "f4v",  "flv",
+    "h264", "h265", "hevc", "ivf",  "m1v", "m2p",  "m2ts", "m2v",  "m4v", "mjpeg", "mjpg", "mk3d",
+    "mkv",  "mod",  "mov",  "mp4",  "mpe", "mpeg", "mpg",  "mpv",  "mts", "mxf",   "nut",  "ogm",
+    "ogv",  "qt",   "rm",   "rmvb", "ts",  "vob",  "webm", "wmv",  "y4m"};
 
 /// Collects paths, each once.
 class Collector

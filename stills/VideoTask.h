@@ -18,8 +18,8 @@ struct VideoTask
     std::string tail;   ///< tells it from other videos of that stem and folder: "-2", "-3" …
 };
 
-/// The tasks of all videos, in their order. Tails go by the whole list, so that they are the same in
-/// each shard and in each run.
+/// The tasks of all videos, in their order. Tails go by the whole list, so that they are the same
+/// in each shard and in each run.
 ///
 /// @param folder  for all pictures; without one, the folder of each video
 [[nodiscard]] std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,

@@ -64,6 +64,7 @@ class RenderingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void smallImage_keepsItsSize_unlessTheRecipeEnlarges();
     void render_givesTheSame_asTheManagerDoesForTheProfile_data();
     void render_givesTheSame_asTheManagerDoesForTheProfile();
     void recipe_staysWhatItWas_whenTheProfileChanges();
@@ -188,6 +189,22 @@ void RenderingTest::save_keepsAnExistingFile_whenToldSo()
         imaging::save(path, gradient({64, 24}), 90, QStringLiteral("png"), ExistingFile::Replace),
         WriteResult::Written);
     QVERIFY(contentOf(path) != before);
+}
+
+void RenderingTest::smallImage_keepsItsSize_unlessTheRecipeEnlarges()
+{
+    const auto sizeOf = [](const QSize& size, const QSize& bounds, bool enlarges) {
+        ImageRecipe recipe;
+        recipe.keepsSize = false;
+        recipe.keepsAspectRatio = true;
+        recipe.bounds = bounds;
+        recipe.enlarges = enlarges;
+        return imaging::render(gradient(size), recipe).image.size();
+    };
+    QCOMPARE(sizeOf(QSize(64, 48), QSize(128, 128), false), QSize(64, 48));
+    QCOMPARE(sizeOf(QSize(64, 48), QSize(64, 48), false), QSize(64, 48));
+    QCOMPARE(sizeOf(QSize(64, 48), QSize(128, 24), false), QSize(32, 24));
+    QCOMPARE(sizeOf(QSize(64, 48), QSize(128, 128), true), QSize(128, 96));
 }
 
 QTEST_MAIN(RenderingTest)

@@ -79,8 +79,7 @@ void CommandLineParserTest::videos_mayStandAnywhere()
 void CommandLineParserTest::everythingBehindTheMark_isAVideo()
 {
     const Options options = optionsOf({"a", "--", "-dash.mp4", "--every", "--", "[x]"});
-    QCOMPARE(options.videos,
-             (std::vector<std::string>{"a", "-dash.mp4", "--every", "--", "[x]"}));
+    QCOMPARE(options.videos, (std::vector<std::string>{"a", "-dash.mp4", "--every", "--", "[x]"}));
 }
 
 void CommandLineParserTest::optionalValues_areTaken_withAnEqualsSignOnly()

@@ -71,8 +71,8 @@ void ContactSheetTest::picturesOfOtherProportions_areCentred()
     options.title = std::string();
     options.hasTimes = false;
     options.gap = 10;
-    const QImage sheet = drawn(options, {filled(QSize(160, 90), Qt::red),
-                                         filled(QSize(50, 90), Qt::blue)});
+    const QImage sheet =
+        drawn(options, {filled(QSize(160, 90), Qt::red), filled(QSize(50, 90), Qt::blue)});
     const int row = sheet.height() / 2;
     const int left = 20 + 160 + 10;
     QCOMPARE(sheet.pixelColor(left + 80, row), QColor(Qt::blue));

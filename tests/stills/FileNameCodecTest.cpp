@@ -47,7 +47,8 @@ void FileNameCodecTest::text_isReadAsUtf8()
 
 void FileNameCodecTest::bytesThatAreNoText_becomeLoneSurrogates()
 {
-    const QString text = QFile::decodeName(QByteArray("a\xff" "b\xc3"));
+    const QString text = QFile::decodeName(QByteArray("a\xff"
+                                                      "b\xc3"));
     QCOMPARE(text.size(), 4);
     QCOMPARE(text.at(1).unicode(), ushort(0xdcff));
     QCOMPARE(text.at(3).unicode(), ushort(0xdcc3));
@@ -55,9 +56,11 @@ void FileNameCodecTest::bytesThatAreNoText_becomeLoneSurrogates()
 
 void FileNameCodecTest::allBytes_comeBack()
 {
-    // Each pair of bytes, and what UTF-8 forbids: long forms, surrogates, beyond the last character.
-    QList<QByteArray> names{"\xc0\x80", "\xed\xa0\x80\xed\xb0\x80", "\xf4\x90\x80\x80",
-                            "\xe0\x80\x80", "\xf0\x9f\x8e", "\xf8\x88\x80\x80\x80"};
+    // Each pair of bytes, and what UTF-8 forbids: long forms, surrogates, beyond the last
+    // character.
+    QList<QByteArray> names{"\xc0\x80",         "\xed\xa0\x80\xed\xb0\x80",
+                            "\xf4\x90\x80\x80", "\xe0\x80\x80",
+                            "\xf0\x9f\x8e",     "\xf8\x88\x80\x80\x80"};
     for (int first = 1; first < 256; ++first) {
         for (int second = 1; second < 256; ++second) {
             names.append(QByteArray().append(char(first)).append(char(second)));

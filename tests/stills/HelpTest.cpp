@@ -1,5 +1,5 @@
-#include "stills/Completions.h"
 #include "stills/Help.h"
+#include "stills/Completions.h"
 #include "stills/OptionTable.h"
 
 #include <QTest>

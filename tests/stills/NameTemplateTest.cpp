@@ -19,7 +19,8 @@ NameFields someFields()
     return fields;
 }
 
-std::string nameOf(const std::string& text, const NameFields& fields = someFields(), int counter = 1)
+std::string nameOf(const std::string& text, const NameFields& fields = someFields(),
+                   int counter = 1)
 {
     const auto parsed = NameTemplate::parse(text);
     return parsed.isGood() ? parsed.value->fileName(fields, "jpg", counter) : parsed.error;
@@ -71,9 +72,9 @@ void NameTemplateTest::fields_areFilledIn()
 void NameTemplateTest::template_isRefused_data()
 {
     QTest::addColumn<QByteArray>("text");
-    for (const char* const text : {"", "{", "}", "{stem", "stem}", "{}", "{foo}", "{Stem}",
-                                   "{number:}", "{number:0}", "{number:99}", "{stem:4}", "{time:3}",
-                                   "{number:-1}", "a}b"}) {
+    for (const char* const text :
+         {"", "{", "}", "{stem", "stem}", "{}", "{foo}", "{Stem}", "{number:}", "{number:0}",
+          "{number:99}", "{stem:4}", "{time:3}", "{number:-1}", "a}b"}) {
         QTest::newRow(text) << QByteArray(text);
     }
 }
@@ -120,7 +121,11 @@ void NameTemplateTest::names_stayInTheFolder_data()
     row("absolute", "/etc/x", "_etc_x.jpg");
     row("backslash", "..\\x", "___x.jpg");
     row("hidden", ".hidden", "_hidden.jpg");
-    row("control", QByteArray("a\n\x1b\x7f\x00" "b", 6), "a____b.jpg");
+    row("control",
+        QByteArray("a\n\x1b\x7f\x00"
+                   "b",
+                   6),
+        "a____b.jpg");
     row("empty", "", "_.jpg");
 }
 

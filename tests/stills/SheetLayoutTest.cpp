@@ -30,9 +30,9 @@ void SheetLayoutTest::columns_makeAboutAsManyRows_data()
 {
     QTest::addColumn<int>("pictures");
     QTest::addColumn<int>("columns");
-    const QList<QPair<int, int>> rows{{1, 1},  {2, 2},  {3, 3},  {4, 2},  {6, 3},  {7, 3},
-                                      {9, 3},  {10, 5}, {12, 4}, {16, 4}, {20, 5}, {24, 6},
-                                      {25, 5}, {100, 10}};
+    const QList<QPair<int, int>> rows{{1, 1},  {2, 2},  {3, 3},  {4, 2},   {6, 3},
+                                      {7, 3},  {9, 3},  {10, 5}, {12, 4},  {16, 4},
+                                      {20, 5}, {24, 6}, {25, 5}, {100, 10}};
     for (const auto& [pictures, columns] : rows) {
         QTest::addRow("%d", pictures) << pictures << columns;
     }

@@ -102,9 +102,8 @@ void StillsFailuresTest::missingVideo_isAnError_theOthersGoOn()
 void StillsFailuresTest::brokenVideos_areErrors_data()
 {
     QTest::addColumn<QString>("file");
-    for (const char* const name :
-         {"empty.mp4", "text.mp4", "random_bytes.mp4", "sound_only.mp4",
-          "truncated_without_moov.mp4", "folder.mp4"}) {
+    for (const char* const name : {"empty.mp4", "text.mp4", "random_bytes.mp4", "sound_only.mp4",
+                                   "truncated_without_moov.mp4", "folder.mp4"}) {
         QTest::newRow(name) << QString::fromLatin1(name);
     }
 }
@@ -152,9 +151,9 @@ void StillsFailuresTest::failFast_stopsAtTheFirstError()
 void StillsFailuresTest::quiet_leavesErrorsAlone()
 {
     const TestDir dir;
-    const ProgramResult result = stillsprogram::run(
-        {QStringLiteral("--quiet"), QStringLiteral("/no/such.mp4"), samplePath(shortSample),
-         QStringLiteral("-o"), dir.path()});
+    const ProgramResult result =
+        stillsprogram::run({QStringLiteral("--quiet"), QStringLiteral("/no/such.mp4"),
+                            samplePath(shortSample), QStringLiteral("-o"), dir.path()});
     QCOMPARE(result.standardError.count('\n'), 1);
     QVERIFY(result.standardError.contains("/no/such.mp4"));
 }
@@ -164,8 +163,7 @@ void StillsFailuresTest::progress_isQuietInAPipe_unlessAskedFor()
     const TestDir dir;
     const QStringList arguments{samplePath(shortSample), QStringLiteral("-o"), dir.path()};
     QVERIFY(!stillsprogram::run(arguments).standardError.contains('\r'));
-    const QByteArray shown =
-        stillsprogram::run(arguments + words("--progress")).standardError;
+    const QByteArray shown = stillsprogram::run(arguments + words("--progress")).standardError;
     QVERIFY(shown.contains("\rh264_bframes.mp4: 0/10 pictures"));
     QVERIFY(shown.endsWith("10 pictures in " + dir.path().toUtf8() + "\n"));
     const QByteArray verbose = stillsprogram::run(arguments + words("-v")).standardError;
@@ -233,8 +231,8 @@ void StillsFailuresTest::fullDisk_isAnError_withoutHalfFiles()
     {
         constexpr rlim_t tooSmall = 2000;
         const testsupport::FileSizeLimit limit(tooSmall);
-        result = stillsprogram::run({samplePath(shortSample), QStringLiteral("-c2"),
-                                     QStringLiteral("-o"), dir.path()});
+        result = stillsprogram::run(
+            {samplePath(shortSample), QStringLiteral("-c2"), QStringLiteral("-o"), dir.path()});
     }
     QCOMPARE(result.exitCode, 1);
     QCOMPARE(filesIn(dir.path()), QStringList());

@@ -86,8 +86,7 @@ void StillsFilesTest::pictures_goBesideTheVideo()
     const QString video = copySample(dir.filePath(QStringLiteral("film.mp4")));
     const ProgramResult result = stillsprogram::run(words("--at 1,2") + QStringList{video});
     QVERIFY(result.succeeded());
-    QCOMPARE(filesIn(dir.path()),
-             words("film-00.00.01.000.jpg film-00.00.02.000.jpg film.mp4"));
+    QCOMPARE(filesIn(dir.path()), words("film-00.00.01.000.jpg film-00.00.02.000.jpg film.mp4"));
     QCOMPARE(result.standardError, QByteArray("2 pictures beside the videos\n"));
 }
 
@@ -143,9 +142,9 @@ void StillsFilesTest::names_neverLeaveTheFolder()
 {
     const TestDir dir;
     const QString out = dir.filePath(QStringLiteral("out"));
-    const ProgramResult result = stillsprogram::run(
-        {samplePath(shortSample), QStringLiteral("-c1"), QStringLiteral("-o"), out,
-         QStringLiteral("--names"), QStringLiteral("../../{stem}/x")});
+    const ProgramResult result =
+        stillsprogram::run({samplePath(shortSample), QStringLiteral("-c1"), QStringLiteral("-o"),
+                            out, QStringLiteral("--names"), QStringLiteral("../../{stem}/x")});
     QVERIFY(result.succeeded());
     QCOMPARE(filesIn(out), QStringList{QStringLiteral("___.._h264_bframes_x.jpg")});
     QCOMPARE(filesIn(dir.path()), QStringList());
@@ -158,8 +157,8 @@ void StillsFilesTest::longNames_areCut()
         copySample(dir.filePath(QString(80, QChar(0x6620)) + QStringLiteral(".mp4")));
     const QString out = dir.filePath(QStringLiteral("out"));
     for (int i = 0; i < 2; ++i) {
-        const ProgramResult result = stillsprogram::run(
-            words("--at 1,2 -o") + QStringList{out, video});
+        const ProgramResult result =
+            stillsprogram::run(words("--at 1,2 -o") + QStringList{out, video});
         QVERIFY2(result.succeeded(), result.standardError.constData());
     }
     QCOMPARE(filesIn(out).size(), 4);
@@ -169,7 +168,8 @@ void StillsFilesTest::longNames_areCut()
 void StillsFilesTest::secondRun_takesTheNextNames()
 {
     const TestDir dir;
-    const QStringList arguments = words("--at 1 -o") + QStringList{dir.path(), samplePath(shortSample)};
+    const QStringList arguments =
+        words("--at 1 -o") + QStringList{dir.path(), samplePath(shortSample)};
     for (int i = 0; i < 3; ++i) {
         QVERIFY(stillsprogram::run(arguments).succeeded());
     }
@@ -242,8 +242,10 @@ void StillsFilesTest::skipExisting_makesNoSecondPicture_ofAFrame()
     // One frame a second: four positions mean each.
     const TestDir dir;
     const QStringList arguments{samplePath(QStringLiteral("h264_1fps.mp4")),
-                                QStringLiteral("--every"), QStringLiteral("250ms"),
-                                QStringLiteral("--skip-existing"), QStringLiteral("-o"),
+                                QStringLiteral("--every"),
+                                QStringLiteral("250ms"),
+                                QStringLiteral("--skip-existing"),
+                                QStringLiteral("-o"),
                                 dir.path()};
     QVERIFY(stillsprogram::run(arguments).succeeded());
     const QStringList names = filesIn(dir.path());
@@ -274,18 +276,18 @@ void StillsFilesTest::videosOfOneStem_getNumbers_inShardsToo()
     const QString b = copySample(dir.filePath(QStringLiteral("b/film.mp4")));
     for (const char* const options : {"--overwrite", "--skip-existing", "--quiet"}) {
         const TestDir out;
-        QVERIFY(stillsprogram::run(words(options) +
-                                   QStringList{QStringLiteral("--at=1"), QStringLiteral("-o"),
-                                               out.path(), a, b})
-                    .succeeded());
+        QVERIFY(
+            stillsprogram::run(words(options) + QStringList{QStringLiteral("--at=1"),
+                                                            QStringLiteral("-o"), out.path(), a, b})
+                .succeeded());
         QCOMPARE(filesIn(out.path()), words("film-00.00.01.000.jpg film-2-00.00.01.000.jpg"));
     }
     const TestDir out;
     for (const char* const shard : {"--shard=2/2", "--shard=1/2"}) {
-        QVERIFY(stillsprogram::run(words(shard) +
-                                   QStringList{QStringLiteral("--at=1"), QStringLiteral("-o"),
-                                               out.path(), a, b})
-                    .succeeded());
+        QVERIFY(
+            stillsprogram::run(words(shard) + QStringList{QStringLiteral("--at=1"),
+                                                          QStringLiteral("-o"), out.path(), a, b})
+                .succeeded());
     }
     QCOMPARE(filesIn(out.path()), words("film-00.00.01.000.jpg film-2-00.00.01.000.jpg"));
 }
@@ -342,11 +344,11 @@ void StillsFilesTest::namesThatAreNoText_work()
     QVERIFY(QFile::exists(dir.filePath(picture)));
     QProcessEnvironment plain = stillsprogram::environment();
     plain.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
-    const ProgramResult again = testsupport::runProgram(
-        stillsprogram::program(),
-        {QStringLiteral("-r"), QStringLiteral("--at=1"), QStringLiteral("--skip-existing"),
-         dir.path()},
-        60000, plain);
+    const ProgramResult again =
+        testsupport::runProgram(stillsprogram::program(),
+                                {QStringLiteral("-r"), QStringLiteral("--at=1"),
+                                 QStringLiteral("--skip-existing"), dir.path()},
+                                60000, plain);
     QVERIFY(again.succeeded());
     QVERIFY(again.standardError.contains("1 skipped"));
 }
@@ -371,9 +373,9 @@ void StillsFilesTest::wrongProfiles_areWrongUsage()
 {
     const TestDir dir;
     for (const char* const option : {"--profile", "--name-profile", "--watermark"}) {
-        const ProgramResult result = stillsprogram::run(
-            {QString::fromLatin1(option), QStringLiteral("nosuch"), samplePath(shortSample),
-             QStringLiteral("-o"), dir.path()});
+        const ProgramResult result =
+            stillsprogram::run({QString::fromLatin1(option), QStringLiteral("nosuch"),
+                                samplePath(shortSample), QStringLiteral("-o"), dir.path()});
         QCOMPARE(result.exitCode, 2);
         QVERIFY(result.standardError.contains("'nosuch'"));
         QCOMPARE(result.standardError.count('\n'), 1);

@@ -87,9 +87,9 @@ void StillsFramesTest::options_chooseTheFrames()
     QFETCH(const QString, options);
     QFETCH(const QList<int>, frames);
     const TestDir dir;
-    const ProgramResult result = stillsprogram::run(QStringList{samplePath(shortSample)} +
-                                                    words(options) +
-                                                    words(QStringLiteral("-o ") + dir.path()));
+    const ProgramResult result =
+        stillsprogram::run(QStringList{samplePath(shortSample)} + words(options) +
+                           words(QStringLiteral("-o ") + dir.path()));
     QVERIFY2(result.succeeded(), result.standardError.constData());
     QCOMPARE(numbersIn(dir.path()), frames);
     QCOMPARE(result.standardOutput, QByteArray());
@@ -100,9 +100,9 @@ void StillsFramesTest::keyFrames_areAllTaken()
     for (const char* const name : {"h264_bframes.mp4", "h264_gop250.mp4", "mpeg2.ts", "vp9.webm"}) {
         const testsupport::Sample& sample = testsupport::sampleNamed(QString::fromLatin1(name));
         const TestDir dir;
-        const ProgramResult result = stillsprogram::run(
-            {samplePath(sample.file), QStringLiteral("--keyframes"), QStringLiteral("-o"),
-             dir.path()});
+        const ProgramResult result =
+            stillsprogram::run({samplePath(sample.file), QStringLiteral("--keyframes"),
+                                QStringLiteral("-o"), dir.path()});
         QVERIFY2(result.succeeded(), result.standardError.constData());
         QCOMPARE(numbersIn(dir.path()), testsupport::keyFrames(sample));
     }
@@ -138,8 +138,7 @@ void StillsFramesTest::allSamples_giveTheFramesThatWereAskedFor()
                              QString::number(integer(picture, "asked_ms")),
                          QString::number(testsupport::frameNumber(image).value_or(-1)),
                          QString::number(sample.firstNumber + frame));
-        mistakes.compare(sample.file + QStringLiteral(": width"),
-                         QString::number(image.width()),
+        mistakes.compare(sample.file + QStringLiteral(": width"), QString::number(image.width()),
                          QString::number(testsupport::displaySizeOf(sample, frame).width()));
         ++pictures;
     }
@@ -151,8 +150,8 @@ void StillsFramesTest::objects_sayWhatCame()
 {
     const TestDir dir;
     const QString video = samplePath(shortSample);
-    const ProgramResult result =
-        stillsprogram::runJson({video, QStringLiteral("--at"), QStringLiteral("1.01,3")}, dir.path());
+    const ProgramResult result = stillsprogram::runJson(
+        {video, QStringLiteral("--at"), QStringLiteral("1.01,3")}, dir.path());
     QVERIFY(result.succeeded());
     QCOMPARE(result.standardError, QByteArray());
     const QList<QJsonObject> all = objects(result.standardOutput);
@@ -209,10 +208,9 @@ void StillsFramesTest::positionsBehindTheEnd_areErrors()
 void StillsFramesTest::framesThatThereAreNot_areErrors()
 {
     const TestDir dir;
-    const ProgramResult result = stillsprogram::run({samplePath(shortSample),
-                                                     QStringLiteral("--frames"),
-                                                     QStringLiteral("99-101"),
-                                                     QStringLiteral("-o"), dir.path()});
+    const ProgramResult result =
+        stillsprogram::run({samplePath(shortSample), QStringLiteral("--frames"),
+                            QStringLiteral("99-101"), QStringLiteral("-o"), dir.path()});
     QCOMPARE(result.exitCode, 1);
     QCOMPARE(numbersIn(dir.path()), QList<int>{99});
     QVERIFY(result.standardError.contains("no frame 100"));

@@ -31,8 +31,8 @@ QString videoName(int i)
 void makeVideos(const QString& folder)
 {
     for (int i = 0; i < videoCount; ++i) {
-        const QString sample = isBroken(i) ? QStringLiteral("text.mp4")
-                                           : QStringLiteral("h264_one_frame.mp4");
+        const QString sample =
+            isBroken(i) ? QStringLiteral("text.mp4") : QStringLiteral("h264_one_frame.mp4");
         if (!QFile::link(samplePath(sample), QDir(folder).filePath(videoName(i)))) {
             qFatal("Cannot make a link in %s", qUtf8Printable(folder));
         }
@@ -57,9 +57,9 @@ void StillsManyVideosTest::everyVideo_isAccountedFor_alsoBrokenAndVanishedOnes()
     const QString out = dir.filePath(QStringLiteral("out"));
     QVERIFY(QDir().mkpath(videos));
     makeVideos(videos);
-    stillsprogram::InterruptibleProcess process(
-        {QStringLiteral("-r"), videos, QStringLiteral("-c1"), QStringLiteral("--json"),
-         QStringLiteral("-o"), out});
+    stillsprogram::InterruptibleProcess process({QStringLiteral("-r"), videos,
+                                                 QStringLiteral("-c1"), QStringLiteral("--json"),
+                                                 QStringLiteral("-o"), out});
     QVERIFY(process.waitForReadyRead());
     // The program is at work; these are gone before their turn comes, or while they are read.
     for (int i = videoCount - 100; i < videoCount; ++i) {
@@ -100,10 +100,10 @@ void StillsManyVideosTest::shards_doEveryVideoOnce()
     makeVideos(videos);
     int told = 0;
     for (int shard = 1; shard <= 4; ++shard) {
-        const auto result = stillsprogram::runJson(
-            {QStringLiteral("-r"), videos, QStringLiteral("-c1"), QStringLiteral("--shard"),
-             QStringLiteral("%1/4").arg(shard)},
-            out);
+        const auto result =
+            stillsprogram::runJson({QStringLiteral("-r"), videos, QStringLiteral("-c1"),
+                                    QStringLiteral("--shard"), QStringLiteral("%1/4").arg(shard)},
+                                   out);
         told += objects(result.standardOutput, QStringLiteral("video")).size();
     }
     QCOMPARE(told, videoCount);

@@ -73,8 +73,8 @@ void StillsSheetTest::sheet_comesAlone_orBesideThePictures()
     QCOMPARE(filesIn(alone.path()), words("h264_bframes-sheet.jpg"));
     QCOMPARE(result.standardError, "1 contact sheet in " + alone.path().toUtf8() + "\n");
     const TestDir both;
-    const ProgramResult second = stillsprogram::run(
-        arguments + words("--with-pictures -o") + QStringList{both.path()});
+    const ProgramResult second =
+        stillsprogram::run(arguments + words("--with-pictures -o") + QStringList{both.path()});
     QVERIFY(second.succeeded());
     QCOMPARE(filesIn(both.path()).size(), 5);
     QVERIFY(second.standardError.startsWith("4 pictures and 1 contact sheet in "));
@@ -103,8 +103,8 @@ void StillsSheetTest::sheet_hasTheSizeThatItsOptionsMake()
 void StillsSheetTest::sheet_isSkipped_whenItExists()
 {
     const TestDir dir;
-    const QStringList arguments = words("--sheet -c2 --skip-existing -o") +
-                                  QStringList{dir.path(), samplePath(sample)};
+    const QStringList arguments =
+        words("--sheet -c2 --skip-existing -o") + QStringList{dir.path(), samplePath(sample)};
     QVERIFY(stillsprogram::run(arguments).succeeded());
     const ProgramResult second = stillsprogram::run(arguments);
     QVERIFY(second.succeeded());
@@ -124,9 +124,9 @@ void StillsSheetTest::sheet_goesToStandardOutput()
 void StillsSheetTest::videosWithoutPictures_haveNoSheet()
 {
     const TestDir dir;
-    const ProgramResult result = stillsprogram::run(
-        {QStringLiteral("--sheet"), samplePath(QStringLiteral("text.mp4")), QStringLiteral("-o"),
-         dir.path()});
+    const ProgramResult result =
+        stillsprogram::run({QStringLiteral("--sheet"), samplePath(QStringLiteral("text.mp4")),
+                            QStringLiteral("-o"), dir.path()});
     QCOMPARE(result.exitCode, 1);
     QCOMPARE(filesIn(dir.path()), QStringList());
     QVERIFY(result.standardError.endsWith("(1 error)\n"));

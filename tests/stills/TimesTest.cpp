@@ -32,7 +32,9 @@ void TimesTest::time_isRead_asPeopleWriteIt_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<double>("ms");
-    const auto row = [](const char* text, double ms) { QTest::newRow(text) << QByteArray(text) << ms; };
+    const auto row = [](const char* text, double ms) {
+        QTest::newRow(text) << QByteArray(text) << ms;
+    };
     row("0", 0);
     row("90", 90000);
     row("90s", 90000);
@@ -65,12 +67,44 @@ void TimesTest::time_isRead_asPeopleWriteIt()
 void TimesTest::time_isRefused_withItsText_data()
 {
     QTest::addColumn<QByteArray>("text");
-    for (const char* const text :
-         {"", " ", "-5", "+5", "5,5", "1.500,5", "1.", ".5", "1.2.3", "5x", "5sec", "ss", "ms",
-          "90ss", "1e3", "0x10", "1 s", " 1", "1:75", "1:5", "1::30", ":30", "1:", "1:2:3:4",
-          "1:60:00", "1:00:60", "1:30s", "1:-1", "5%", "last", "nan", "inf", "1.1234567890",
-          "1000001h", "99999999999999999999", "99999999999999999999:00", "9999999999:00:00",
-          "\xd9\xa5"}) {
+    for (const char* const text : {"",
+                                   " ",
+                                   "-5",
+                                   "+5",
+                                   "5,5",
+                                   "1.500,5",
+                                   "1.",
+                                   ".5",
+                                   "1.2.3",
+                                   "5x",
+                                   "5sec",
+                                   "ss",
+                                   "ms",
+                                   "90ss",
+                                   "1e3",
+                                   "0x10",
+                                   "1 s",
+                                   " 1",
+                                   "1:75",
+                                   "1:5",
+                                   "1::30",
+                                   ":30",
+                                   "1:",
+                                   "1:2:3:4",
+                                   "1:60:00",
+                                   "1:00:60",
+                                   "1:30s",
+                                   "1:-1",
+                                   "5%",
+                                   "last",
+                                   "nan",
+                                   "inf",
+                                   "1.1234567890",
+                                   "1000001h",
+                                   "99999999999999999999",
+                                   "99999999999999999999:00",
+                                   "9999999999:00:00",
+                                   "\xd9\xa5"}) {
         QTest::newRow(text) << QByteArray(text);
     }
 }

@@ -37,8 +37,7 @@ private Q_SLOTS:
 
 void VideoTaskTest::pictures_goBesideTheVideo_orIntoTheFolder()
 {
-    QCOMPARE(namesOf(planTasks({"a.mp4", "x/b.mp4", "/c.mp4"}, {})),
-             (Names{"./a", "x/b", "//c"}));
+    QCOMPARE(namesOf(planTasks({"a.mp4", "x/b.mp4", "/c.mp4"}, {})), (Names{"./a", "x/b", "//c"}));
     QCOMPARE(namesOf(planTasks({"a.mp4", "x/b.mp4"}, std::string("out"))),
              (Names{"out/a", "out/b"}));
 }
