@@ -30,11 +30,12 @@ std::string bashValues(const OptionEntry& entry)
 {
     switch (entry.completes) {
     case Completes::Files:
-        return "_filedir";
+        return "compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- \"$cur\")";
     case Completes::Folders:
-        return "_filedir -d";
+        return "compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- \"$cur\")";
     case Completes::Words:
-        return std::string("COMPREPLY=($(compgen -W '") + entry.words + "' -- \"$cur\"))";
+        return std::string("mapfile -t COMPREPLY < <(compgen -W '") + entry.words +
+               "' -- \"$cur\")";
     case Completes::Nothing:
         break;
     }
@@ -93,23 +94,29 @@ std::string bashCompletion()
                 "        " + namesBetween(entry, "|") + ") " + bashValues(entry) + "; return ;;\n";
         }
     }
+    // It needs nothing beside bash itself, which takes "--name=value" apart at the sign.
     return "# bash completion for stills\n"
            "_stills() {\n"
-           "    local cur prev words cword split\n"
-           "    _init_completion -s || return\n"
+           "    local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]}\n"
+           "    COMPREPLY=()\n"
+           "    if [[ $cur == = ]]; then\n"
+           "        cur=\n"
+           "    elif [[ $prev == = ]]; then\n"
+           "        prev=${COMP_WORDS[COMP_CWORD - 2]}\n"
+           "    fi\n"
            "    case $prev in\n" +
            cases +
            "    esac\n"
-           "    $split && return\n"
            "    if [[ $cur == -* ]]; then\n"
-           "        COMPREPLY=($(compgen -W '" +
+           "        mapfile -t COMPREPLY < <(compgen -W '" +
            all.substr(1) +
-           "' -- \"$cur\"))\n"
+           "' -- \"$cur\")\n"
            "        return\n"
            "    fi\n"
-           "    _filedir\n"
-           "} &&\n"
-           "    complete -F _stills stills\n";
+           "    compopt -o filenames\n"
+           "    mapfile -t COMPREPLY < <(compgen -f -- \"$cur\")\n"
+           "}\n"
+           "complete -F _stills stills\n";
 }
 
 std::string zshCompletion()

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void module_needsNoWidgets();
     void run_complainsOfNothing_inABareSession();
     void manualPage_isWritten();
+    void bash_completesOptionsAndValues_data();
+    void bash_completesOptionsAndValues();
 };
 
 void StillsStartTest::version_isThatOfTheProduct()
@@ -92,6 +94,37 @@ void StillsStartTest::manualPage_isWritten()
     QFile page(QFileInfo(stillsprogram::program()).path() + QStringLiteral("/stills.1"));
     QVERIFY(page.open(QIODevice::ReadOnly));
     QVERIFY(page.readAll().startsWith(".TH STILLS 1"));
+}
+
+void StillsStartTest::bash_completesOptionsAndValues_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<QByteArray>("offered");
+    const auto row = [](const QStringList& words, const char* offered) {
+        QTest::newRow(offered) << words << QByteArray(offered);
+    };
+    row({QStringLiteral("--sheet-t")}, "--sheet-times --sheet-title");
+    row({QStringLiteral("--format"), QStringLiteral("p")}, "png");
+    row({QStringLiteral("-f"), QStringLiteral("t")}, "tif tiff");
+    row({QStringLiteral("--format"), QStringLiteral("="), QStringLiteral("w")}, "webp");
+    row({QStringLiteral("film.mkv"), QStringLiteral("--key")}, "--keyframes");
+}
+
+void StillsStartTest::bash_completesOptionsAndValues()
+{
+    QFETCH(const QStringList, words);
+    QFETCH(const QByteArray, offered);
+    const QString script =
+        QFileInfo(stillsprogram::program()).path() + QStringLiteral("/bash/stills");
+    const ProgramResult result = runProgram(
+        QStringLiteral("bash"),
+        QStringList{
+            QStringLiteral("-c"),
+            QStringLiteral("source \"$1\"; shift; COMP_WORDS=(stills \"$@\"); COMP_CWORD=$#; "
+                           "_stills 2>/dev/null; echo \"${COMPREPLY[@]}\""),
+            QStringLiteral("bash"), script} +
+            words);
+    QCOMPARE(result.standardOutput.trimmed(), offered);
 }
 
 QTEST_GUILESS_MAIN(StillsStartTest)
