@@ -198,15 +198,14 @@ SeriesSaver::Listener BatchWorker::seriesListener()
     };
     listener.saving = [this](const QString& path) { tell([this, path] { announceSaving(path); }); };
     listener.notSaved = [this](const QString& path) {
-        tell([this, path] { Q_EMIT statusUpdate(this, tr("Could not save %1").arg(path), Error); });
+        tell([this, path] { reportUnsavedImage(path); });
     };
     listener.failed = [this](const QString& message) {
         tell([this, message] { extractorError(message); });
     };
     listener.saved = [this](const QImage& image) {
         ++m_waitingFrames;
-        QMetaObject::invokeMethod(
-            this, [this, image] { showSaved(image); }, Qt::QueuedConnection);
+        tell([this, image] { showSaved(image); });
     };
     return listener;
 }
@@ -227,25 +226,35 @@ void BatchWorker::runSeries(const SeriesJob& job, SeriesSaver& saver)
     QCoreApplication::processEvents();
 }
 
-/// In the worker's own thread, unless it is interrupted before.
+/// In the worker's own thread, in order.
 void BatchWorker::tell(std::function<void()> news)
 {
-    QMetaObject::invokeMethod(
-        this,
-        [this, news = std::move(news)] {
-            if (!isInterruptionRequested()) {
-                news();
-            }
-        },
-        Qt::QueuedConnection);
+    {
+        const std::lock_guard<std::mutex> lock(m_newsMutex);
+        m_news.push_back(std::move(news));
+    }
+    QMetaObject::invokeMethod(this, "tellNews", Qt::QueuedConnection);
+}
+
+void BatchWorker::tellNews()
+{
+    std::deque<std::function<void()>> news;
+    {
+        const std::lock_guard<std::mutex> lock(m_newsMutex);
+        news.swap(m_news);
+    }
+    for (const auto& one : news) {
+        if (isInterruptionRequested()) {
+            return;
+        }
+        one();
+    }
 }
 
 void BatchWorker::showSaved(QImage image)
 {
     --m_waitingFrames;
-    if (!isInterruptionRequested()) {
-        Q_EMIT imageReady(this, image);
-    }
+    Q_EMIT imageReady(this, image);
 }
 
 void BatchWorker::takeFrames(const SamplingPlan& plan)
@@ -334,6 +343,11 @@ void BatchWorker::reportUnmadeImage(const QString& path, qint64 position, const 
     Q_EMIT statusUpdate(this, message, Error);
 }
 
+void BatchWorker::reportUnsavedImage(const QString& path)
+{
+    Q_EMIT statusUpdate(this, tr("Could not save %1").arg(path), Error);
+}
+
 void BatchWorker::extractorError(QString message)
 {
     if (!isInterruptionRequested()) {
@@ -385,7 +399,7 @@ bool BatchWorker::saveImage(QString path, const QImage& image, int jpegQuality)
         result = save(path);
     }
     if (result == WriteResult::Failed) {
-        Q_EMIT statusUpdate(this, tr("Could not save %1").arg(path), Error);
+        reportUnsavedImage(path);
     }
     return result == WriteResult::Written;
 }

@@ -12,7 +12,9 @@
 #include <QString>
 
 #include <atomic>
+#include <deque>
 #include <functional>
+#include <mutex>
 
 class BatchWorkerConfig;
 class FrameGrabber;
@@ -78,6 +80,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void frameExtracted(QtAV::VideoFrame frame, qint64 position);
     void extractorError(QString message);
+    void tellNews();
 
 private:
     void runInternal();
@@ -96,6 +99,7 @@ private:
     [[nodiscard]] QString nextFreePath();
     void announceSaving(const QString& path);
     [[nodiscard]] bool saveImage(QString path, const QImage& image, int jpegQuality);
+    void reportUnsavedImage(const QString& path);
     void reportUnmadeImage(const QString& path, qint64 position, const QString& reason);
 
     /// Frames whose images are still to be made. Counted up in the thread of run(), down in the
@@ -103,6 +107,9 @@ private:
     std::atomic<int> m_waitingFrames{0};
     BatchWorkerConfig* m_config = nullptr;
     FrameGrabber* m_frameGrabber;
+    std::mutex m_newsMutex;
+    /// What is to be told in the worker's own thread, in order. Guarded by m_newsMutex.
+    std::deque<std::function<void()>> m_news;
     ImageRecipe m_recipe;  ///< of a job with exact frames, once prepared
     OutputNaming m_naming; ///< likewise
     /// Number of the frame to request next.

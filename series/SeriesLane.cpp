@@ -222,7 +222,9 @@ bool SeriesLane::walkTarget(const Task& task, int index)
     const SeriesTarget target = m_board.plan(task.video).targets.at(index);
     Delivery delivery = deliveryFor(task);
     delivery.index = index;
-    delivery.picture.askedMs = target.ms;
+    if (!target.isLast) {
+        delivery.picture.askedMs = target.ms;
+    }
     delivery.picture.frame = target.frame;
     return deliver(task, std::move(delivery), find(target));
 }

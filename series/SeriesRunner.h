@@ -43,7 +43,7 @@ struct SeriesPicture
 {
     int video = 0;                      ///< its place among the jobs, from 0
     int number = 0;                     ///< of the position within its video, from 1
-    std::optional<qint64> askedMs = {}; ///< not where the video itself told the position
+    std::optional<qint64> askedMs = {}; ///< not where the video itself tells the position
     std::optional<qint64> timeMs = {};  ///< of the frame; nothing after an error
     std::optional<qint64> frame = {};   ///< its number, where known
     QSize size = {};                    ///< of the picture, in pixels

@@ -139,7 +139,7 @@ void FrameReaderTest::next_goesOnWhereItWasCancelled()
 void FrameReaderTest::find_givesTheFirstFrameAtOrAfter_data()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::allVideoSamples()) {
+    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         if (!sample.has(Trait::Large)) {
             QTest::newRow(qPrintable(sample.file)) << sample.file;
         }
@@ -219,7 +219,7 @@ void FrameReaderTest::open_fails_withAText()
 void FrameReaderTest::frames_fail_whenTheFileIsOverwritten_data()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::allVideoSamples()) {
+    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         if (!sample.has(Trait::Large) && QFile(samplePath(sample.file)).size() > 0) {
             QTest::newRow(qPrintable(sample.file)) << sample.file;
         }

@@ -63,7 +63,7 @@ void FrameGrabberGapsTest::addSamples(bool (*isMeant)(const Sample&, int precisi
     QTest::addColumn<QString>("file");
     QTest::addColumn<int>("cores");
     QTest::addColumn<int>("precision");
-    for (const Sample& sample : testsupport::allVideoSamples()) {
+    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         for (const int precision : precisions) {
             if (!isMeant(sample, precision)) {
                 continue;
