@@ -77,9 +77,10 @@ QByteArray PictureNames::name(const VideoTask& task, const SeriesPicture& pictur
 std::optional<QByteArray> PictureNames::nameBefore(const VideoTask& task,
                                                    const SeriesTarget& target, int number) const
 {
+    const bool isTimeKnown = m_takesAskedTime && !target.isLast;
     const bool isKnown = !m_naming && !m_template.uses(Field::Frame) &&
                          !m_template.uses(Field::Width) && !m_template.uses(Field::Height) &&
-                         (m_takesAskedTime || !m_template.uses(Field::Time));
+                         (isTimeKnown || !m_template.uses(Field::Time));
     if (!isKnown) {
         return std::nullopt;
     }

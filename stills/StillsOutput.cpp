@@ -18,6 +18,12 @@ QString tr(const char* text)
     return QCoreApplication::translate("stills", text);
 }
 
+/// Tells positions apart; that of the last frame has no time of its own.
+qint64 keyOf(const SeriesTarget& target)
+{
+    return target.isLast ? -1 : target.ms;
+}
+
 } // namespace
 
 StillsOutput::StillsOutput(const Options& options, const Look& look,
@@ -45,12 +51,16 @@ void StillsOutput::announce(int video, const QVector<SeriesTarget>& targets)
         const SeriesTarget& target = targets.at(i);
         const bool isThisMissing = isMissing(task, target, i + 1);
         if (isThisMissing || isNextMissing) {
-            plan.needed.insert(target.ms);
+            plan.needed.insert(keyOf(target));
         } else {
             ++plan.skipped;
         }
         isNextMissing = isThisMissing;
-        plan.numbers.insert(target.ms, i + 1);
+        if (target.isLast) {
+            plan.lastNumber = i + 1;
+        } else {
+            plan.numbers.insert(target.ms, i + 1);
+        }
     }
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_plans.insert(video, plan);
@@ -60,7 +70,7 @@ bool StillsOutput::needs(int video, const SeriesTarget& target)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const auto plan = m_plans.constFind(video);
-    return plan == m_plans.constEnd() || plan->needed.contains(target.ms);
+    return plan == m_plans.constEnd() || plan->needed.contains(keyOf(target));
 }
 
 bool StillsOutput::isMissing(const VideoTask& task, const SeriesTarget& target, int number) const
@@ -108,8 +118,14 @@ int StillsOutput::numberOf(const SeriesPicture& picture)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const auto plan = m_plans.constFind(picture.video);
-    const bool isPlanned = plan != m_plans.constEnd() && picture.askedMs;
-    return isPlanned ? plan->numbers.value(*picture.askedMs, picture.number) : picture.number;
+    if (plan == m_plans.constEnd()) {
+        return picture.number;
+    }
+    if (picture.askedMs) {
+        return plan->numbers.value(*picture.askedMs, picture.number);
+    }
+    // Only the last frame is asked for without a time, beside what the video itself tells.
+    return plan->lastNumber > 0 ? plan->lastNumber : picture.number;
 }
 
 void StillsOutput::take(SeriesPicture picture)

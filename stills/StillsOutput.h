@@ -43,6 +43,7 @@ private:
     struct Plan
     {
         QHash<qint64, int> numbers; ///< of the positions in milliseconds, from 1
+        int lastNumber = 0;         ///< of the last frame, where that is asked for
         QSet<qint64> needed;
         int skipped = 0; ///< not asked for because their pictures exist
     };

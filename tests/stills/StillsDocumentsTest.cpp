@@ -48,12 +48,12 @@ QStringList commandsIn(const QString& document)
 /// A film of 70 seconds with 350 frames, as the examples ask for it.
 void makeFilm(const QString& path)
 {
-    const ProgramResult result = runProgram(
-        QStringLiteral("ffmpeg"),
-        {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-f"),
-         QStringLiteral("lavfi"), QStringLiteral("-i"),
-         QStringLiteral("testsrc=size=160x120:rate=5:duration=70"), QStringLiteral("-c:v"),
-         QStringLiteral("mpeg4"), path});
+    const ProgramResult result =
+        runProgram(QStringLiteral("ffmpeg"),
+                   {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-f"),
+                    QStringLiteral("lavfi"), QStringLiteral("-i"),
+                    QStringLiteral("testsrc=size=160x120:rate=5:duration=70"),
+                    QStringLiteral("-c:v"), QStringLiteral("mpeg4"), path});
     if (!result.succeeded()) {
         qFatal("ffmpeg: %s", result.standardError.constData());
     }
@@ -114,8 +114,8 @@ void StillsDocumentsTest::examples_work()
     QVERIFY2(result.succeeded(), result.standardError.constData());
     const bool isHelp = command.contains(QStringLiteral("--help"));
     QCOMPARE(result.standardOutput.isEmpty(), !isHelp);
-    const int pictures = filesIn(dir.path()).size() - 2 +
-                         filesIn(dir.filePath(QStringLiteral("out"))).size();
+    const int pictures =
+        filesIn(dir.path()).size() - 2 + filesIn(dir.filePath(QStringLiteral("out"))).size();
     QCOMPARE(pictures > 0, !isHelp);
 }
 
@@ -123,9 +123,8 @@ void StillsDocumentsTest::readme_tellsTheNamesThatComeOut()
 {
     const TestDir dir;
     const QString readme = contentOf(QStringLiteral("README.md"));
-    const QString first = QRegularExpression(QStringLiteral("\\./run\\.sh (samples/.*)"))
-                              .match(readme)
-                              .captured(1);
+    const QString first =
+        QRegularExpression(QStringLiteral("\\./run\\.sh (samples/.*)")).match(readme).captured(1);
     QVERIFY(first.endsWith(QStringLiteral(" -o out")));
     QStringList arguments = first.split(QLatin1Char(' '));
     arguments.first().prepend(QStringLiteral(MORVANTILE_SOURCES "/"));
@@ -133,8 +132,7 @@ void StillsDocumentsTest::readme_tellsTheNamesThatComeOut()
     QVERIFY(stillsprogram::run(arguments).succeeded());
     QCOMPARE(filesIn(dir.path()).size(), 10);
     for (const QString& name : {filesIn(dir.path()).first(), filesIn(dir.path()).last()}) {
-        QVERIFY2(readme.contains(QLatin1Char('`') + name + QLatin1Char('`')),
-                 qUtf8Printable(name));
+        QVERIFY2(readme.contains(QLatin1Char('`') + name + QLatin1Char('`')), qUtf8Printable(name));
     }
 }
 
@@ -147,8 +145,7 @@ void StillsDocumentsTest::everyOption_isExplained()
     QVERIFY(!chapter.isEmpty());
     for (const stills::OptionEntry& entry : stills::optionTable()) {
         const QString name = QString::fromStdString(entry.longName());
-        const bool isExplained =
-            chapter.contains(QStringLiteral("<code>%1</code>").arg(name));
+        const bool isExplained = chapter.contains(QStringLiteral("<code>%1</code>").arg(name));
         QVERIFY2(isExplained == (entry.section != stills::Section::Hidden), qUtf8Printable(name));
     }
 }

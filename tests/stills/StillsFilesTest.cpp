@@ -116,6 +116,8 @@ void StillsFilesTest::names_followTheTemplate_data()
     row("--frames 7 --names {{{frame}}}", "{7}.jpg");
     row("--at 1.01 --names {time}", "00.00.01.010.jpg");
     row("--at last --names {stem}", "h264_bframes.jpg");
+    row("--at last", "h264_bframes-00.00.03.960.jpg");
+    row("--at 1,last --names {number}", "1.jpg 2.jpg");
 }
 
 void StillsFilesTest::names_followTheTemplate()
@@ -184,7 +186,7 @@ void StillsFilesTest::skipExisting_makesOnlyWhatIsMissing_data()
     for (const char* const options :
          {"--count 8", "--every 500ms", "--at 1,2,3,last", "--frames 3,50-52", "--keyframes",
           "--every 500ms --names {stem}-{number:3}", "--every 500ms --names {frame}",
-          "--at 1,2 --names {time}-{width}"}) {
+          "--at 1,2 --names {time}-{width}", "--at 1,last --names {number}"}) {
         QTest::newRow(options) << QString::fromLatin1(options);
     }
 }
