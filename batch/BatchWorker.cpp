@@ -77,6 +77,15 @@ FramePositions positionsOf(const BatchWorkerConfig& config, const SamplingPlan& 
 
 } // namespace
 
+/// The profiles of a job with exact frames, as values.
+struct BatchWorker::Series
+{
+    ImageRecipe recipe;
+    OutputNaming naming;
+
+    static SeriesSaver::Listener listenerOf(BatchWorker& worker);
+};
+
 BatchWorker::BatchWorker(QObject* parent)
     : Worker(parent)
     , m_frameGrabber(new FrameGrabber(this))
@@ -104,8 +113,8 @@ void BatchWorker::prepare()
     if (m_config == nullptr || !m_config->exactFrames()) {
         return;
     }
-    m_recipe = recipes::of(*m_config->imageProfile());
-    m_naming = m_config->filenameProfile()->naming();
+    m_series = std::make_unique<const Series>(
+        Series{recipes::of(*m_config->imageProfile()), m_config->filenameProfile()->naming()});
 }
 
 void BatchWorker::loadFile()
@@ -172,49 +181,50 @@ void BatchWorker::takeSeries(const SamplingPlan& plan, qint64 duration)
     SeriesJob job;
     job.video = m_config->source();
     job.positions = positionsOf(*m_config, plan, duration);
-    job.recipe = m_recipe;
-    job.type = m_naming.type;
+    job.recipe = m_series->recipe;
+    job.type = m_series->naming.type;
     job.keepsImage = true;
-    SeriesSaver saver({m_config->outputDir(), m_naming, m_config->sourceFileName(),
+    SeriesSaver saver({m_config->outputDir(), m_series->naming, m_config->sourceFileName(),
                        plan.intervalType == BatchWorkerConfig::SingleShot},
-                      seriesListener());
-    runSeries(job, saver);
+                      Series::listenerOf(*this));
+    const auto isCancelled = [this] { return isInterruptionRequested(); };
+    runSeries([&] { static_cast<void>(series::run({job}, saver, isCancelled)); });
 }
 
 /// What is told comes from the threads of the engine, in order: progress from there, all else in
 /// the worker's own.
-SeriesSaver::Listener BatchWorker::seriesListener()
+SeriesSaver::Listener BatchWorker::Series::listenerOf(BatchWorker& worker)
 {
     SeriesSaver::Listener listener;
-    listener.expecting = [this](int pictures) {
-        m_stepCount = std::max<qint64>(1, qint64(pictures) * ticksPerFrame);
+    listener.expecting = [&worker](int pictures) {
+        worker.m_stepCount = std::max<qint64>(1, qint64(pictures) * ticksPerFrame);
     };
-    listener.beforePicture = [this] {
-        waitForImages();
+    listener.beforePicture = [&worker] {
+        worker.waitForImages();
         qDebug("Frame");
-        tickProgress();
-        tickProgress();
-        ++m_frameCounter;
+        worker.tickProgress();
+        worker.tickProgress();
+        ++worker.m_frameCounter;
     };
-    listener.saving = [this](const QString& path) { tell([this, path] { announceSaving(path); }); };
-    listener.notSaved = [this](const QString& path) {
-        tell([this, path] { reportUnsavedImage(path); });
+    listener.saving = [&worker](const QString& path) {
+        worker.tell([&worker, path] { worker.announceSaving(path); });
     };
-    listener.failed = [this](const QString& message) {
-        tell([this, message] { extractorError(message); });
+    listener.notSaved = [&worker](const QString& path) {
+        worker.tell([&worker, path] { worker.reportUnsavedImage(path); });
     };
-    listener.saved = [this](const QImage& image) {
-        ++m_waitingFrames;
-        tell([this, image] { showSaved(image); });
+    listener.failed = [&worker](const QString& message) {
+        worker.tell([&worker, message] { worker.extractorError(message); });
+    };
+    listener.saved = [&worker](const QImage& image) {
+        ++worker.m_waitingFrames;
+        worker.tell([&worker, image] { worker.showSaved(image); });
     };
     return listener;
 }
 
 /// Where the worker's own thread runs the job, it attends to the news meanwhile.
-void BatchWorker::runSeries(const SeriesJob& job, SeriesSaver& saver)
+void BatchWorker::runSeries(const std::function<void()>& work)
 {
-    const auto isCancelled = [this] { return isInterruptionRequested(); };
-    const auto work = [&] { static_cast<void>(series::run({job}, saver, isCancelled)); };
     if (QThread::currentThread() != thread()) {
         work();
         return;

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "batch/SeriesSaver.h"
 #include "batch/Worker.h"
-#include "imaging/ImageRecipe.h"
-#include "profiles/OutputNaming.h"
 
 #include <QtAV/VideoFrame.h>
 
@@ -14,6 +11,7 @@
 #include <atomic>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 
 class BatchWorkerConfig;
@@ -86,8 +84,7 @@ private:
     void runInternal();
     void takeFrames(const SamplingPlan& plan);
     void takeSeries(const SamplingPlan& plan, qint64 duration);
-    void runSeries(const SeriesJob& job, SeriesSaver& saver);
-    [[nodiscard]] SeriesSaver::Listener seriesListener();
+    void runSeries(const std::function<void()>& work);
     void tell(std::function<void()> news);
     void showSaved(QImage image);
     [[nodiscard]] bool takeFrame(qint64 position);
@@ -107,11 +104,11 @@ private:
     std::atomic<int> m_waitingFrames{0};
     BatchWorkerConfig* m_config = nullptr;
     FrameGrabber* m_frameGrabber;
+    struct Series;
+    std::unique_ptr<const Series> m_series; ///< of a job with exact frames, once prepared
     std::mutex m_newsMutex;
     /// What is to be told in the worker's own thread, in order. Guarded by m_newsMutex.
     std::deque<std::function<void()>> m_news;
-    ImageRecipe m_recipe;  ///< of a job with exact frames, once prepared
-    OutputNaming m_naming; ///< likewise
     /// Number of the frame to request next.
     int m_frameCounter = 0;
     /// Number to try next in a file name. Only ever raised during a run.
