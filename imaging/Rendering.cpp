@@ -18,6 +18,10 @@ namespace {
 constexpr float LoweringContrastDivisor = 200.0F;
 constexpr float RaisingContrastDivisor = 40.0F;
 
+/// 96 to an inch. Qt takes those of the screen otherwise: the same picture would be another file,
+/// and text on it of another size, on another screen.
+constexpr int dotsPerMeter = 3780;
+
 /// A picture as a matrix, and the order of its channels.
 ///
 /// Contrast, brightness and resizing treat all channels alike, so a picture goes through them in
@@ -99,7 +103,9 @@ QImage rendered(const QImage& image, const ImageRecipe& recipe)
     if (recipe.contrast != 0 || recipe.brightness != 0)
         picture.mat = adjusted(picture.mat, recipe.contrast, recipe.brightness);
     picture.mat = resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio);
-    const QImage result = imageOf(picture);
+    QImage result = imageOf(picture);
+    result.setDotsPerMeterX(dotsPerMeter);
+    result.setDotsPerMeterY(dotsPerMeter);
     return recipe.watermark ? imaging::watermarked(result, *recipe.watermark) : result;
 }
 

@@ -1,0 +1,141 @@
+#include "batch/BatchWorker.h"
+#include "batch/BatchWorkerConfig.h"
+#include "imaging/ImageProcessingManager.h"
+#include "tests/stills/StillsProgram.h"
+#include "tests/support/Samples.h"
+#include "tests/support/TestDir.h"
+#include "video/FrameGrabber.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <memory>
+
+using testsupport::Sample;
+using testsupport::samplePath;
+using testsupport::TestDir;
+
+namespace {
+
+constexpr int quality = 77;
+constexpr QSize smaller{101, 67};
+
+/// Like the window's profiles; full size for an empty one.
+std::unique_ptr<ImageProfile> profileFor(const QSize& size)
+{
+    auto profile = std::make_unique<ImageProfile>();
+    profile->setImageQuality(quality);
+    profile->setSameSizeAsVideo(size.isEmpty());
+    if (!size.isEmpty()) {
+        profile->setImageWidth(size.width());
+        profile->setImageHeight(size.height());
+        profile->setMaintainAspectRatio(true);
+    }
+    return profile;
+}
+
+/// The only file in a folder.
+QByteArray onlyContent(const QString& folder)
+{
+    const QStringList files = stillsprogram::filesIn(folder);
+    QFile file(QDir(folder).filePath(files.value(0)));
+    return files.size() == 1 && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray byStills(const QString& video, qint64 ms, const QSize& size)
+{
+    const TestDir dir;
+    QStringList arguments{video,
+                          QStringLiteral("--at"),
+                          QStringLiteral("%1ms").arg(ms),
+                          QStringLiteral("--quality"),
+                          QString::number(quality),
+                          QStringLiteral("-o"),
+                          dir.path()};
+    if (!size.isEmpty()) {
+        arguments << QStringLiteral("--size")
+                  << QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+    }
+    return stillsprogram::run(arguments).succeeded() ? onlyContent(dir.path()) : QByteArray();
+}
+
+QByteArray byBatchJob(const QString& video, qint64 ms, const QSize& size)
+{
+    const TestDir dir;
+    const std::unique_ptr<ImageProfile> profile = profileFor(size);
+    BatchWorkerConfig config;
+    config.setSource(video);
+    config.setFileOutputPath(dir.path());
+    config.setExactFrames(true);
+    config.setImageProfile(profile.get());
+    config.setIntervalType(BatchWorkerConfig::SingleShot);
+    config.setIntervalSingleShot(BatchWorkerConfig::Front);
+    config.setSkipFront(ms);
+    config.setSkipBack(0);
+    BatchWorker worker;
+    worker.setConfig(&config);
+    worker.run();
+    return onlyContent(dir.path());
+}
+
+/// What the window does with the frame on screen.
+QByteArray bySnapshot(const QString& video, qint64 ms, const QSize& size)
+{
+    const TestDir dir;
+    const std::unique_ptr<ImageProfile> profile = profileFor(size);
+    FileNameProfile names;
+    FrameGrabber grabber;
+    grabber.setSource(video);
+    grabber.setPrecision(0);
+    QtAV::VideoFrame frame;
+    QObject::connect(&grabber, &FrameGrabber::frameExtracted, &grabber,
+                     [&frame](const QtAV::VideoFrame& found) { frame = found; });
+    grabber.extractInternal(ms);
+    ImageProcessingManager& manager = *ImageProcessingManager::instance();
+    const QImage picture =
+        manager.processImage(frame.toImage(frame.imageFormat()), profile.get(), nullptr);
+    const bool isSaved = manager.saveImage(dir.filePath(QStringLiteral("snapshot.jpeg")), picture,
+                                           profile.get(), &names);
+    return isSaved ? onlyContent(dir.path()) : QByteArray();
+}
+
+} // namespace
+
+/// Whatever takes a frame, the same settings make the same file of it.
+class SamePictureTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stillsBatchJobsAndSnapshots_giveTheSameBytes_data();
+    void stillsBatchJobsAndSnapshots_giveTheSameBytes();
+};
+
+void SamePictureTest::stillsBatchJobsAndSnapshots_giveTheSameBytes_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QSize>("size");
+    for (const char* const file :
+         {"h264_bframes.mp4", "hevc_10bit.mkv", "vp9_alpha.webm", "mpeg2.ts", "mpeg4_bframes.avi",
+          "turned_90_anamorphic.mp4", "h264_full_range.mp4", "variable_rate.mkv"}) {
+        QTest::addRow("%s", file) << QString::fromLatin1(file) << QSize();
+        QTest::addRow("%s, smaller", file) << QString::fromLatin1(file) << smaller;
+    }
+}
+
+void SamePictureTest::stillsBatchJobsAndSnapshots_giveTheSameBytes()
+{
+    QFETCH(QString, file);
+    QFETCH(QSize, size);
+    const Sample& sample = testsupport::sampleNamed(file);
+    const QString video = samplePath(file);
+    const qint64 ms = testsupport::frameTimeMs(sample, sample.frames / 2);
+    const QByteArray bytes = byStills(video, ms, size);
+    QVERIFY(!bytes.isEmpty());
+    QVERIFY(byBatchJob(video, ms, size) == bytes);
+    QVERIFY(bySnapshot(video, ms, size) == bytes);
+}
+
+QTEST_MAIN(SamePictureTest)
+#include "SamePictureTest.moc"
