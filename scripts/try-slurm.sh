@@ -5,7 +5,8 @@
 #   scripts/try-slurm.sh [FOLDER_WITH_SAMPLES]      build/media unless said
 #
 # Slurm and munge run in build/slurm, on ports and a socket of their own, as the user who starts
-# this, without systemd; they end with this script. No other Slurm on the machine is touched.
+# this, without systemd; they end with this script. Should that be killed with SIGKILL, tasks at work
+# stay and have to be killed as well. No other Slurm on the machine is touched.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 source "$root/scripts/setup.sh"
