@@ -94,7 +94,7 @@ void StillsOutput::beginVideo(int video)
     m_pictureSize = QSize();
     m_sheet.reset();
     if (m_options.sheet) {
-        m_sheet.emplace(*m_options.sheet);
+        m_sheet = std::make_unique<ContactSheet>(*m_options.sheet);
     }
     m_report.beginVideo(video, pathOf(m_tasks[static_cast<std::size_t>(video)].path));
 }

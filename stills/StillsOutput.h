@@ -14,6 +14,7 @@
 #include <QSet>
 
 #include <atomic>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <vector>
@@ -68,7 +69,7 @@ private:
     PictureNames m_names;
     PictureFiles m_files;
     OutputStream m_standardOutput;
-    std::optional<ContactSheet> m_sheet;
+    std::unique_ptr<ContactSheet> m_sheet;
     std::atomic<bool> m_wantsToStop{false};
 
     int m_begun = -1; ///< the video at work
