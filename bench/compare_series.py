@@ -67,7 +67,7 @@ CASES = [
     Case("1080p, one", "1080p_h264_gop250.mp4", ["--at", "29.5"], [29500], 0.80, ALL + ("mpv",)),
     Case("2160p HEVC, ten spread", "2160p_hevc_gop120.mp4", [], spread(10, 20000), 0.65, ALL + ("mpv",)),
     Case("2160p HEVC, one", "2160p_hevc_gop120.mp4", ["--at", "13.5"], [13500], 0.90, ALL + ("mpv",)),
-    Case("720p TS, every 5 s", "720p_mpeg2.ts", ["--every", "5s"], every(5000, 60000), 0.55, ALL + ("mpv",)),
+    Case("720p TS, every 5 s", "720p_mpeg2.ts", ["--every", "5s", "--skip-end", "500ms"], every(5000, 60000), 0.55, ALL + ("mpv",)),
     Case("1080p, key frames", "1080p_h264_gop30.mp4", ["--keyframes"], None, 0.75, ("ffmpeg keys",)),
     Case("200 clips, one each", None, ["--count", "1"], [2500], 0.35, ("ffmpeg clips",)),
 ]
@@ -103,7 +103,9 @@ class Peers:
     def select(self, videos, positions, folder):
         """One process: the first frame at or after each position."""
         wanted = sorted({-(-position // FRAME_MS) for position in positions})
-        chosen = "+".join(f"eq(n,{number})" for number in wanted)
+        # Long sums are more than its parser takes.
+        terms = [f"eq(n,{number})" for number in wanted]
+        chosen = "+".join(f"({'+'.join(terms[i : i + 40])})" for i in range(0, len(terms), 40))
         run([*self.FFMPEG, "-i", videos[0], "-an", "-vf", f"select='{chosen}'", "-vsync", "0", *self.JPEG,
              f"{folder}/%05d.jpg"])
 
@@ -129,7 +131,7 @@ class Peers:
 
     def mpv(self, videos, positions, folder):
         run_by_twos(["mpv", "--no-config", "--no-audio", "--really-quiet", "--vo=image",
-                     "--vo-image-format=jpg", f"--vo-image-outdir={folder}/{number}", "--frames=1",
+                     "--vo-image-format=jpg", f"--vo-image-outdir={folder}/{number:05}", "--frames=1",
                      "--hr-seek=yes", f"--start={position / 1000}", videos[0]]
                     for number, position in enumerate(positions))
 

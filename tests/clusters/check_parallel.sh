@@ -125,14 +125,15 @@ killed_run_goes_on() {
     expect_all killed "after a kill"
 }
 
-# In place of ssh, a program that gives the command to a shell of this machine.
+# In place of ssh, a program that gives the command to a shell of this machine, and sets SHELL as a
+# login does.
 hosts_share_the_work() {
     cat >"$folder/ssh" <<'END'
 #!/bin/sh
 while case $1 in -*) true ;; *) false ;; esac do shift; done
 shift
 [ "$1" != -- ] || shift
-exec sh -c "$*"
+SHELL=/bin/sh exec sh -c "$*"
 END
     chmod +x "$folder/ssh"
     printf '1/first\n1/second\n' >hosts
