@@ -9,8 +9,8 @@
 #include <optional>
 #include <vector>
 
-/// What the lanes of a series share: who does what, and the pictures that wait for those before
-/// them to be taken by the output.
+/// The state that the lanes of a series share: which lane does which work, and the finished
+/// pictures that wait for their predecessors.
 ///
 /// Thread-safe. The output is called from whatever lane brings what it waits for, one call at a
 /// time and without a lock, so that the others go on.

@@ -100,7 +100,7 @@ bool SeriesLane::open(int video, QString& error)
         return true;
     }
     m_video = -1;
-    // Whoever decodes says with how many threads, before the first frame.
+    // walk() sets the number for the task before it decodes.
     m_reader.setThreads(1);
     if (!m_reader.open(m_jobs.at(video).video, m_isCancelled, error)) {
         return false;
@@ -168,7 +168,7 @@ void SeriesLane::walk(const Task& task)
     QString error;
     if (open(task.video, error)) {
         m_reader.setThreads(task.threads);
-        m_keyFramesMs = m_board.plan(task.video).keyFramesMs;
+        m_knowsKeyFrames = !m_board.plan(task.video).keyFramesMs.isEmpty();
         m_lastSeconds.reset();
         switch (m_jobs.at(task.video).positions.kind) {
         case FramePositions::Kind::KeyFrames:
@@ -211,7 +211,7 @@ void SeriesLane::begin(const Task& task)
     }
     const qint64 landing = msOf(*m_reader.landing());
     if (plan.keyFrameBefore(ms) - landing > indexErrorMs) {
-        m_keyFramesMs.clear();
+        m_knowsKeyFrames = false;
     }
     m_board.extendBack(task.video, task.stretch, landing);
 }
@@ -258,7 +258,7 @@ void SeriesLane::approach(qint64 ms)
     const qint64 lastMs = msOf(*m_reader.last());
     if (wantsToStartAnew(ms, lastMs)) {
         m_reader.seek(ms);
-    } else if (m_keyFramesMs.isEmpty() && ms - lastMs > worthStartingMs) {
+    } else if (!m_knowsKeyFrames && ms - lastMs > worthStartingMs) {
         // What could not be read is told by the search that follows.
         static_cast<void>(m_reader.readAhead(ms, m_isCancelled));
     }
@@ -266,19 +266,20 @@ void SeriesLane::approach(qint64 ms)
 
 bool SeriesLane::wantsToStartAnew(qint64 ms, qint64 lastMs) const
 {
-    if (m_keyFramesMs.isEmpty()) {
+    if (!m_knowsKeyFrames) {
         return ms - lastMs > longestReadAheadMs;
     }
-    const auto behind = std::upper_bound(m_keyFramesMs.cbegin(), m_keyFramesMs.cend(), ms);
-    return behind != m_keyFramesMs.cbegin() && *(behind - 1) - lastMs > worthStartingMs;
+    return m_board.plan(m_video).keyFrameBefore(ms) - lastMs > worthStartingMs;
 }
 
-QString SeriesLane::walkKeyFrames(const Task& task)
+/// Delivers the wanted ones of the frames that `next` gives in a part of the video. An error text
+/// where the video cannot be read on.
+template <typename Next, typename IsWanted>
+QString SeriesLane::walkPart(const Task& task, const SeriesPlan::Stretch& part, const Next& next,
+                             const IsWanted& isWanted)
 {
-    const SeriesPlan::Stretch part = m_board.stretch(task.video, task.stretch);
-    m_reader.seek(part.fromMs);
     for (;;) {
-        const FrameResult found = m_reader.nextKeyFrame(m_isCancelled);
+        const FrameResult found = next();
         if (found.answer == FrameAnswer::Failed && m_reader.canGoOn()) {
             continue;
         }
@@ -289,10 +290,19 @@ QString SeriesLane::walkKeyFrames(const Task& task)
         if (ms >= part.toMs) {
             return {};
         }
-        if (ms >= part.fromMs && !deliver(task, deliveryFor(task), found)) {
+        if (isWanted(found.frame, ms) && !deliver(task, deliveryFor(task), found)) {
             return {};
         }
     }
+}
+
+QString SeriesLane::walkKeyFrames(const Task& task)
+{
+    const SeriesPlan::Stretch part = m_board.stretch(task.video, task.stretch);
+    m_reader.seek(part.fromMs);
+    return walkPart(
+        task, part, [this] { return m_reader.nextKeyFrame(m_isCancelled); },
+        [&part](const QtAV::VideoFrame&, qint64 ms) { return ms >= part.fromMs; });
 }
 
 /// The first frame of the video, and each that differs from the one before it like another scene.
@@ -300,36 +310,21 @@ QString SeriesLane::walkScenes(const Task& task)
 {
     const SeriesPlan::Stretch part = m_board.stretch(task.video, task.stretch);
     const double threshold = m_jobs.at(task.video).positions.sceneThreshold;
-    SceneDetector detector;
     const qint64 start = std::max<qint64>(0, part.fromMs - beforeScenesMs);
     m_reader.seek(start);
     m_reader.setCompleteFrom(start);
+    SceneDetector detector;
     bool isFirst = task.stretch == 0;
-    for (;;) {
-        const FrameResult found = m_reader.next(m_isCancelled);
-        if (found.answer == FrameAnswer::Failed && m_reader.canGoOn()) {
-            continue;
-        }
-        if (found.answer != FrameAnswer::Frame) {
-            return found.error;
-        }
-        const qint64 ms = msOf(found.frame.timestamp());
-        if (ms >= part.toMs) {
-            return {};
-        }
+    const auto isScene = [&](const QtAV::VideoFrame& frame, qint64 ms) {
         if (ms < start) {
-            continue;
+            return false;
         }
-        const double score = detector.add(
-            found.frame.toImage(QImage::Format_Grayscale8, SceneDetector::pictureSize));
-        if (ms < part.fromMs) {
-            continue;
-        }
-        const bool isScene = std::exchange(isFirst, false) || score >= threshold;
-        if (isScene && !deliver(task, deliveryFor(task), found)) {
-            return {};
-        }
-    }
+        const double score =
+            detector.add(frame.toImage(QImage::Format_Grayscale8, SceneDetector::pictureSize));
+        return ms >= part.fromMs && (std::exchange(isFirst, false) || score >= threshold);
+    };
+    return walkPart(
+        task, part, [this] { return m_reader.next(m_isCancelled); }, isScene);
 }
 
 SeriesBoard::Delivery SeriesLane::deliveryFor(const Task& task) const

@@ -33,6 +33,9 @@ private:
     void approach(qint64 ms);
     [[nodiscard]] bool wantsToStartAnew(qint64 ms, qint64 lastMs) const;
     [[nodiscard]] QtAV::FrameResult find(const SeriesTarget& target);
+    template <typename Next, typename IsWanted>
+    [[nodiscard]] QString walkPart(const Task& task, const SeriesPlan::Stretch& part,
+                                   const Next& next, const IsWanted& isWanted);
     [[nodiscard]] QString walkKeyFrames(const Task& task);
     [[nodiscard]] QString walkScenes(const Task& task);
 
@@ -45,7 +48,7 @@ private:
     const QtAV::IsCancelled& m_isCancelled;
 
     QtAV::FrameReader m_reader;
-    int m_video = -1; ///< what the reader has open
-    QVector<qint64> m_keyFramesMs;
+    int m_video = -1;                    ///< what the reader has open
+    bool m_knowsKeyFrames = false;       ///< by the index, which can be wrong
     std::optional<double> m_lastSeconds; ///< of the frame delivered last in a stretch
 };

@@ -2,7 +2,7 @@
 //
 //   ffms_series VIDEO FOLDER NUMBER…
 //
-// The index is made first, as it has to be for a video that nobody has opened before. The frames
+// The index is made anew each time, as for a video that is opened for the first time. The frames
 // are converted to RGB by the library and written as JPEG files of quality 90.
 
 #include <QFile>
