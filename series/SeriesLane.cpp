@@ -4,6 +4,7 @@
 #include "series/SceneDetector.h"
 
 #include <QtAV/AVDemuxer.h>
+#include <QtAV/Times.h>
 
 #include <QCoreApplication>
 
@@ -13,6 +14,7 @@
 
 using QtAV::FrameAnswer;
 using QtAV::FrameResult;
+using QtAV::toMilliseconds;
 
 namespace {
 
@@ -27,11 +29,6 @@ constexpr qint64 indexErrorMs = 1000;
 
 /// So much before a part of a video is decoded, so that its first frame has one to compare with.
 constexpr qint64 beforeScenesMs = 2000;
-
-qint64 msOf(double seconds)
-{
-    return static_cast<qint64>(seconds * 1000.0);
-}
 
 QString tr(const char* text)
 {
@@ -209,7 +206,7 @@ void SeriesLane::begin(const Task& task)
     if (m_reader.land(m_isCancelled) != FrameAnswer::Frame || !m_reader.landing()) {
         return;
     }
-    const qint64 landing = msOf(*m_reader.landing());
+    const qint64 landing = toMilliseconds(*m_reader.landing());
     if (plan.keyFrameBefore(ms) - landing > indexErrorMs) {
         m_knowsKeyFrames = false;
     }
@@ -239,7 +236,7 @@ FrameResult SeriesLane::find(const SeriesTarget& target)
         search.isReached = [](const QtAV::VideoFrame&) { return false; };
     } else {
         search.isReached = [ms](const QtAV::VideoFrame& frame) {
-            return msOf(frame.timestamp()) >= ms;
+            return toMilliseconds(frame.timestamp()) >= ms;
         };
     }
     if (!m_reader.canGoOn()) {
@@ -255,7 +252,7 @@ void SeriesLane::approach(qint64 ms)
     if (!m_reader.last()) {
         return;
     }
-    const qint64 lastMs = msOf(*m_reader.last());
+    const qint64 lastMs = toMilliseconds(*m_reader.last());
     if (wantsToStartAnew(ms, lastMs)) {
         m_reader.seek(ms);
     } else if (!m_knowsKeyFrames && ms - lastMs > worthStartingMs) {
@@ -286,7 +283,7 @@ QString SeriesLane::walkPart(const Task& task, const SeriesPlan::Stretch& part, 
         if (found.answer != FrameAnswer::Frame) {
             return found.error;
         }
-        const qint64 ms = msOf(found.frame.timestamp());
+        const qint64 ms = toMilliseconds(found.frame.timestamp());
         if (ms >= part.toMs) {
             return {};
         }
@@ -347,7 +344,7 @@ bool SeriesLane::deliver(const Task& task, Delivery delivery, const FrameResult&
             return true;
         }
         const QVector<qint64> times = m_board.plan(task.video).frameTimesMs;
-        picture.timeMs = msOf(found.frame.timestamp());
+        picture.timeMs = toMilliseconds(found.frame.timestamp());
         const auto time = std::lower_bound(times.cbegin(), times.cend(), *picture.timeMs);
         if (time != times.cend() && *time == *picture.timeMs) {
             picture.frame = time - times.cbegin();

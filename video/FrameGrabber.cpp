@@ -1,9 +1,13 @@
 #include "video/FrameGrabber.h"
 
+#include <QtAV/Times.h>
+
 #include <QDebug>
 
 #include <algorithm>
 #include <cstdlib>
+
+using QtAV::toMilliseconds;
 
 namespace {
 
@@ -18,11 +22,6 @@ constexpr qint64 farthestPosition = qint64(1) << 52;
 constexpr const char* beforeRead = "abort seek before read";
 constexpr const char* beforeKeyFrame = "abort seek before decoding key frames";
 constexpr const char* afterKeyFrame = "abort seek after key frame before read";
-
-qint64 toMilliseconds(double seconds)
-{
-    return static_cast<qint64>(seconds * 1000.0);
-}
 
 /// How far apart two positions are; no two are too far apart for it.
 quint64 distance(qint64 a, qint64 b)

@@ -1,7 +1,7 @@
 #include <QtAV/AVPlayer.h>
 
 #include "qtav/player/AVPlayerPrivate.h"
-#include "qtav/src/Times.h"
+#include <QtAV/Times.h>
 
 #include <algorithm>
 

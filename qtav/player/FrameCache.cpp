@@ -1,6 +1,6 @@
 #include "qtav/player/FrameCache.h"
 
-#include "qtav/src/Times.h"
+#include <QtAV/Times.h>
 
 #include <algorithm>
 #include <cmath>

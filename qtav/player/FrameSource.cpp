@@ -3,7 +3,7 @@
 #include <QtAV/QtAV_Global.h>
 
 #include "qtav/src/StreamParameters.h"
-#include "qtav/src/Times.h"
+#include <QtAV/Times.h>
 
 #include <QCoreApplication>
 

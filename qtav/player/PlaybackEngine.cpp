@@ -1,7 +1,7 @@
 #include "qtav/player/PlaybackEngine.h"
 
 #include "qtav/player/StepPacing.h"
-#include "qtav/src/Times.h"
+#include <QtAV/Times.h>
 
 #include <utility>
 

@@ -6,7 +6,7 @@
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/VideoPackets.h"
 
-#include "qtav/src/Times.h"
+#include <QtAV/Times.h>
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 #include <QtAV/FrameReader.h>
 
-#include "qtav/src/Times.h"
+#include <QtAV/Times.h>
 
 #include <QCoreApplication>
 
