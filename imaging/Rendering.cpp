@@ -12,6 +12,7 @@
 #include <exception>
 #include <memory>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -94,18 +95,28 @@ bool fitsAlready(const QImage& image, const ImageRecipe& recipe)
            image.height() <= recipe.bounds.height();
 }
 
-QImage rendered(const QImage& image, const ImageRecipe& recipe)
+/// The image with the recipe's contrast and brightness and at its size.
+QImage corrected(QImage image, const ImageRecipe& recipe)
 {
     const bool keepsSize = recipe.keepsSize || fitsAlready(image, recipe);
     const QSize size = keepsSize ? image.size() : recipe.bounds;
+    const bool keepsColours = recipe.contrast == 0 && recipe.brightness == 0;
+    if (keepsColours && size == image.size() && image.format() == QImage::Format_RGB888)
+        return image;
     Picture picture = pictureOf(image);
-    qDebug() << "Contrast: " << recipe.contrast << " Brightness: " << recipe.brightness;
-    if (recipe.contrast != 0 || recipe.brightness != 0)
+    if (!keepsColours)
         picture.mat = adjusted(picture.mat, recipe.contrast, recipe.brightness);
     picture.mat = resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio);
-    QImage result = imageOf(picture);
+    return imageOf(picture);
+}
+
+QImage rendered(QImage image, const ImageRecipe& recipe)
+{
+    qDebug() << "Contrast: " << recipe.contrast << " Brightness: " << recipe.brightness;
+    QImage result = corrected(std::move(image), recipe);
     result.setDotsPerMeterX(dotsPerMeter);
     result.setDotsPerMeterY(dotsPerMeter);
+    result.setDevicePixelRatio(1.0);
     return recipe.watermark ? imaging::watermarked(result, *recipe.watermark) : result;
 }
 
@@ -118,7 +129,7 @@ int qualityFor(const QString& type, int jpegQuality)
 
 } // namespace
 
-imaging::Rendering imaging::render(const QImage& image, const ImageRecipe& recipe)
+imaging::Rendering imaging::render(QImage image, const ImageRecipe& recipe)
 {
     // What Qt has no memory for is a null image; OpenCV and the containers throw.
     Rendering result;
@@ -127,7 +138,7 @@ imaging::Rendering imaging::render(const QImage& image, const ImageRecipe& recip
                              "imaging", "There is no picture, perhaps for a lack of memory")
                        : QCoreApplication::translate("imaging", "Not enough memory");
     try {
-        result.image = rendered(image, recipe);
+        result.image = rendered(std::move(image), recipe);
     } catch (const std::exception& exception) {
         if (!isLackOfMemory(exception))
             result.error = QString::fromUtf8(exception.what()).trimmed();

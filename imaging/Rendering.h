@@ -28,8 +28,9 @@ struct Rendering
 /// make it see-through. (Format_RGB32 has four.) Images of three channels give Format_RGB888, of
 /// four Format_ARGB32, of one Format_Indexed8 (greys).
 ///
-/// A null image is a failure, and so is a lack of memory: no exception leaves this function.
-[[nodiscard]] Rendering render(const QImage& image, const ImageRecipe& recipe);
+/// A null image is a failure, and so is a lack of memory: no exception leaves this function. An
+/// image that is moved in, and of which nothing changes, is not copied.
+[[nodiscard]] Rendering render(QImage image, const ImageRecipe& recipe);
 
 /// A full copy of the image with the watermark. It has the image's format, except that formats with
 /// a colour table, which cannot be painted on, become RGB32 or ARGB32. A null image gives a null

@@ -9,6 +9,19 @@ namespace {
 /// How often a lane that waits looks whether all was cancelled.
 constexpr std::chrono::milliseconds patience{20};
 
+/// Whether more than one lane may find work in a video.
+bool canBeShared(const FramePositions& positions)
+{
+    switch (positions.kind) {
+    case FramePositions::Kind::Spread:
+        return positions.count > 1;
+    case FramePositions::Kind::List:
+        return positions.list.size() > 1;
+    default:
+        return true;
+    }
+}
+
 qint64 bytesOf(const SeriesPicture& picture)
 {
     return picture.content.size() + picture.image.sizeInBytes() + picture.thumbnail.sizeInBytes();
@@ -26,7 +39,7 @@ SeriesBoard::SeriesBoard(const QVector<SeriesJob>& jobs, SeriesOutput& output,
     , m_videos(static_cast<size_t>(jobs.size()))
 {}
 
-SeriesBoard::Task SeriesBoard::next()
+SeriesBoard::Task SeriesBoard::next(int opened)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     while (!m_isCancelled()) {
@@ -36,6 +49,9 @@ SeriesBoard::Task SeriesBoard::next()
         }
         if (m_opening == 0) {
             break;
+        }
+        if (const std::optional<int> video = firstToShare(); video && *video != opened) {
+            return {Task::Kind::Open, *video};
         }
         m_changed.wait_for(lock, patience);
     }
@@ -60,6 +76,19 @@ std::optional<SeriesBoard::Task> SeriesBoard::claim()
         const bool isClaimed = state.state == State::Failed || state.state == State::Planned;
         if (isClaimed && video == m_firstUnclaimed) {
             ++m_firstUnclaimed;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Of the videos that are being opened, the first that may be for several lanes.
+std::optional<int> SeriesBoard::firstToShare() const
+{
+    const int count = static_cast<int>(m_videos.size());
+    for (int video = m_firstUnclaimed; video < count; ++video) {
+        const State state = m_videos[static_cast<size_t>(video)].state;
+        if (state == State::Opening && canBeShared(m_jobs.at(video).positions)) {
+            return video;
         }
     }
     return std::nullopt;

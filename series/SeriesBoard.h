@@ -22,6 +22,7 @@ public:
     {
         enum class Kind {
             Plan, ///< open the video and say planned() or failed()
+            Open, ///< open the video, which another lane plans; there is nothing to say
             Walk, ///< take the targets of the stretch, or look at its frames, then say finished()
             None, ///< nothing is left to do
         };
@@ -54,8 +55,9 @@ public:
         return m_output.needs(video, target);
     }
 
-    /// Waits until there is something to do, or nothing more will be.
-    [[nodiscard]] Task next();
+    /// Waits until there is something to do, or nothing more will be. A lane that would only wait is
+    /// told once to open what it will probably get a part of; `opened` is what it was told last.
+    [[nodiscard]] Task next(int opened);
 
     /// The answers to Plan. The lane that has opened the video goes on with its first stretch,
     /// unless it has none. The failures come after all pictures.
@@ -109,6 +111,7 @@ private:
     };
 
     [[nodiscard]] std::optional<Task> claim();
+    [[nodiscard]] std::optional<int> firstToShare() const;
     [[nodiscard]] Task claimStretch(int video);
     [[nodiscard]] int threadsFor(int unclaimed) const;
     void drain(std::unique_lock<std::mutex>& lock);

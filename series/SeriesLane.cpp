@@ -78,9 +78,15 @@ SeriesLane::SeriesLane(SeriesBoard& board, const QVector<SeriesJob>& jobs, int l
 void SeriesLane::run()
 {
     for (;;) {
-        Task task = m_board.next();
+        Task task = m_board.next(m_readied);
         if (task.kind == Task::Kind::None) {
             return;
+        }
+        if (task.kind == Task::Kind::Open) {
+            m_readied = task.video;
+            // The lane that plans tells of what cannot be opened.
+            QString error;
+            static_cast<void>(open(task.video, error));
         }
         if (task.kind == Task::Kind::Plan) {
             task = plan(task);

@@ -29,7 +29,7 @@ std::string ownFolder()
 stills::ModuleEntry loadModule()
 {
     for (const char* const place : {MORVANTILE_BUILT_MODULE, MORVANTILE_INSTALLED_MODULE}) {
-        void* const module = ::dlopen((ownFolder() + place).c_str(), RTLD_NOW | RTLD_LOCAL);
+        void* const module = ::dlopen((ownFolder() + place).c_str(), RTLD_LAZY | RTLD_LOCAL);
         if (module != nullptr) {
             return reinterpret_cast<stills::ModuleEntry>(::dlsym(module, stills::moduleEntryName));
         }

@@ -105,14 +105,14 @@ bool PictureConverter::isOpaqueYuv(const AVFrame& frame)
     return descriptor && !isRgb(*descriptor) && !isXyz(format) && !hasAlpha(frame);
 }
 
-QImage PictureConverter::convert(const AVFrame& frame, const QSize& size)
+QImage PictureConverter::convert(const AVFrame& frame, const QSize& size, QImage::Format wanted)
 {
     const auto format = static_cast<AVPixelFormat>(frame.format);
     if (!av_pix_fmt_desc_get(format) || size.isEmpty())
         return {};
     const bool isStored = size == QSize(frame.width, frame.height);
     if (isStored && YuvToRgb::reads(format))
-        return imageOf(frame);
+        return imageOf(frame, wanted);
     std::optional<Scaler> scaler = takeScaler(taskFor(frame, size, readableFormatFor(format)));
     if (!scaler)
         return {};
@@ -120,7 +120,7 @@ QImage PictureConverter::convert(const AVFrame& frame, const QSize& size)
         scaler->picture = makePicture(scaler->task);
     if (!scaler->picture || !scale(frame, *scaler, *scaler->picture))
         return {};
-    QImage image = imageOf(*scaler->picture);
+    QImage image = imageOf(*scaler->picture, wanted);
     keepScaler(std::move(*scaler));
     return image;
 }
@@ -145,16 +145,23 @@ FramePtr PictureConverter::scaled(const AVFrame& frame, const QSize& size)
 }
 
 /// The image of a picture in one of the readable formats.
-QImage PictureConverter::imageOf(const AVFrame& picture)
+QImage PictureConverter::imageOf(const AVFrame& picture, QImage::Format format)
 {
-    QImage image = m_images.take({picture.width, picture.height});
+    const QSize size(picture.width, picture.height);
+    const bool hasAlpha = format == QImage::Format_ARGB32;
+    QImage image = hasAlpha ? m_images.take(size) : QImage(size, format);
     if (image.isNull())
         return image;
-    if (picture.format == AV_PIX_FMT_BGRA) // which is what Format_ARGB32 is in memory
+    if (picture.format != AV_PIX_FMT_BGRA)
+        YuvToRgb(picture).convert(picture, image);
+    else if (hasAlpha) // the same in memory
         av_image_copy_plane(image.bits(), image.bytesPerLine(), picture.data[0],
                             picture.linesize[0], picture.width * 4, picture.height);
     else
-        YuvToRgb(picture).convert(picture, image);
+        for (int line = 0; line < picture.height; ++line)
+            dropAlpha(reinterpret_cast<const QRgb*>(picture.data[0] +
+                                                    ptrdiff_t(line) * picture.linesize[0]),
+                      image.scanLine(line), picture.width);
     return image;
 }
 

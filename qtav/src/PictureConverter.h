@@ -13,7 +13,7 @@
 
 namespace QtAV {
 
-/// Turns decoded pictures of any pixel format into full-range sRGB images (Format_ARGB32).
+/// Turns decoded pictures of any pixel format into full-range sRGB images.
 ///
 /// Colours are converted by YuvToRgb, which is exact and reads the common formats as they are. Rare
 /// formats are brought into one of those by FFmpeg's scaler first, and so are pictures whose
@@ -23,9 +23,10 @@ namespace QtAV {
 class PictureConverter
 {
 public:
-    /// The picture at a size in pixels; a null image when it cannot be converted or memory runs
-    /// out.
-    [[nodiscard]] QImage convert(const AVFrame& frame, const QSize& size);
+    /// The picture at a size in pixels, in Format_ARGB32 or, without its alpha, in Format_RGB888; a
+    /// null image when it cannot be converted or memory runs out.
+    [[nodiscard]] QImage convert(const AVFrame& frame, const QSize& size,
+                                 QImage::Format format = QImage::Format_ARGB32);
 
     /// True when the picture's format has alpha, be all of it opaque or not.
     static bool hasAlpha(const AVFrame& frame);
@@ -63,7 +64,7 @@ private:
     /// More kinds of pictures than a video and its conversions have at a time.
     static constexpr size_t MostIdleScalers = 4;
 
-    [[nodiscard]] QImage imageOf(const AVFrame& picture);
+    [[nodiscard]] QImage imageOf(const AVFrame& picture, QImage::Format format);
     static Task taskFor(const AVFrame& frame, const QSize& size, AVPixelFormat target);
     static ScalerPtr makeScalerContext(const Task& task);
     [[nodiscard]] static std::optional<Scaler> makeScaler(const Task& task);

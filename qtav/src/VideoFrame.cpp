@@ -28,28 +28,6 @@ AVRational sampleAspectRatioOf(const AVFrame& frame, const StreamParameters& par
     return stated.num > 0 && stated.den > 0 ? stated : AVRational{1, 1};
 }
 
-void dropAlpha(const QRgb* __restrict source, uchar* __restrict target, ptrdiff_t count)
-{
-    for (ptrdiff_t i = 0; i < count; ++i) {
-        target[3 * i] = static_cast<uchar>(source[i] >> 16);
-        target[3 * i + 1] = static_cast<uchar>(source[i] >> 8);
-        target[3 * i + 2] = static_cast<uchar>(source[i]);
-    }
-}
-
-/// A Format_ARGB32 image in Format_RGB888; null when memory runs out.
-///
-/// Qt's own conversion divides the work between threads, and waits for ever where there is no
-/// memory to start one.
-QImage withoutAlpha(const QImage& image)
-{
-    QImage result(image.size(), QImage::Format_RGB888);
-    for (int y = 0; y < result.height(); ++y)
-        dropAlpha(reinterpret_cast<const QRgb*>(image.constScanLine(y)), result.scanLine(y),
-                  result.width());
-    return result;
-}
-
 /// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
 constexpr double WidestPixel = 16.0;
 
@@ -169,13 +147,20 @@ QImage VideoFrame::toImage(QImage::Format format, const QSize& size, const QRect
 try {
     if (!d)
         return {};
+    const QImage::Format wanted = format == QImage::Format_Invalid ? QImage::Format_ARGB32 : format;
     const QSize whole = displaySize();
     const bool isReduced = region.isNull() && !size.isEmpty() && size.width() <= whole.width() &&
                            size.height() <= whole.height();
     const bool isOpaqueYuv = PictureConverter::isOpaqueYuv(*d->frame);
     const QSize upright = isReduced && isOpaqueYuv ? size : whole;
     const QSize stored = swapsSides(d->orientation) ? upright.transposed() : upright;
-    QImage image = oriented(d->converter->convert(*d->frame, stored), d->orientation);
+    const bool isScaledLater = !size.isEmpty() && (size != upright || !region.isNull());
+    // Qt's own conversion to it divides the work between threads, and waits for ever where there is
+    // no memory to start one.
+    const bool dropsAlpha = wanted == QImage::Format_RGB888 && !isScaledLater;
+    QImage image = oriented(d->converter->convert(*d->frame, stored,
+                                                  dropsAlpha ? wanted : QImage::Format_ARGB32),
+                            d->orientation);
     if (!region.isNull()) {
         const QRect part = region.toAlignedRect() & image.rect();
         if (part.isEmpty())
@@ -184,12 +169,9 @@ try {
     }
     if (!size.isEmpty() && size != image.size())
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    const QImage::Format wanted = format == QImage::Format_Invalid ? QImage::Format_ARGB32 : format;
     // Without transparent parts these formats are the same in memory.
     if (isOpaqueYuv && wanted == QImage::Format_ARGB32_Premultiplied)
         image.reinterpretAsFormat(wanted);
-    if (image.format() == QImage::Format_ARGB32 && wanted == QImage::Format_RGB888)
-        return withoutAlpha(image);
     return image.format() == wanted ? image : std::move(image).convertToFormat(wanted);
 } catch (const std::bad_alloc&) {
     return {};

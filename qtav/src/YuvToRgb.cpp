@@ -454,13 +454,29 @@ bool YuvToRgb::isJpegFormat(int format)
     }
 }
 
+FOR_SEVERAL_PROCESSORS
+void dropAlpha(const QRgb* __restrict source, uchar* __restrict target, ptrdiff_t count)
+{
+    for (ptrdiff_t i = 0; i < count; ++i) {
+        target[3 * i] = static_cast<uchar>(source[i] >> 16);
+        target[3 * i + 1] = static_cast<uchar>(source[i] >> 8);
+        target[3 * i + 2] = static_cast<uchar>(source[i]);
+    }
+}
+
 void YuvToRgb::convert(const AVFrame& frame, QImage& image) const
 {
-    uint8_t* const pixels = image.bits();
     LineConverter lines(frame, m_matrix);
-    for (int line = 0; line < frame.height; ++line)
-        lines.convert(line,
-                      reinterpret_cast<uint32_t*>(pixels + ptrdiff_t(line) * image.bytesPerLine()));
+    if (image.format() == QImage::Format_ARGB32) {
+        for (int line = 0; line < frame.height; ++line)
+            lines.convert(line, reinterpret_cast<QRgb*>(image.scanLine(line)));
+        return;
+    }
+    std::vector<QRgb> pixels(static_cast<size_t>(frame.width));
+    for (int line = 0; line < frame.height; ++line) {
+        lines.convert(line, pixels.data());
+        dropAlpha(pixels.data(), image.scanLine(line), frame.width);
+    }
 }
 
 } // namespace QtAV

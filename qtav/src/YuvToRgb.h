@@ -4,6 +4,7 @@
 
 #include <QImage>
 
+#include <cstddef>
 #include <cstdint>
 
 namespace QtAV {
@@ -32,7 +33,7 @@ public:
     /// True for the formats that mean full range by themselves.
     static bool isJpegFormat(int format);
 
-    /// Fills a Format_ARGB32 image of the picture's stored size.
+    /// Fills an image of the picture's stored size: Format_ARGB32, or Format_RGB888 without alpha.
     void convert(const AVFrame& frame, QImage& image) const;
 
     /// Factors in 1/8192 and the luma level of black, for samples of 15 bits.
@@ -49,5 +50,8 @@ public:
 private:
     Matrix m_matrix;
 };
+
+/// Makes pixels of Format_RGB888 of as many of Format_ARGB32.
+void dropAlpha(const QRgb* source, uchar* target, ptrdiff_t count);
 
 } // namespace QtAV

@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <thread>
+#include <utility>
 #include <vector>
 
 using testsupport::TestDir;
@@ -69,6 +70,8 @@ private Q_SLOTS:
     void render_givesTheSame_asTheManagerDoesForTheProfile();
     void recipe_staysWhatItWas_whenTheProfileChanges();
     void render_givesTheSame_inManyThreadsAtOnce();
+    void render_copiesNothing_whereNothingChangesAndTheImageIsHandedOver();
+    void render_sharesNothing_withAnImageThatIsKept();
     void render_fails_withAReason_withoutAnImage();
     void save_writesTheSame_asTheManagerDoesForTheProfiles_data();
     void save_writesTheSame_asTheManagerDoesForTheProfiles();
@@ -139,6 +142,30 @@ void RenderingTest::render_givesTheSame_inManyThreadsAtOnce()
         thread.join();
     }
     QCOMPARE(same, std::vector<int>(threadCount, rounds));
+}
+
+void RenderingTest::render_copiesNothing_whereNothingChangesAndTheImageIsHandedOver()
+{
+    ImageRecipe recipe;
+    recipe.keepsSize = true;
+    QImage image = gradient({320, 240}, QImage::Format_RGB888);
+    const QImage before = image.copy();
+    const uchar* const pixels = image.constBits();
+    const QImage made = imaging::render(std::move(image), recipe).image;
+    QCOMPARE(made.constBits(), pixels);
+    QCOMPARE(made, before);
+}
+
+void RenderingTest::render_sharesNothing_withAnImageThatIsKept()
+{
+    ImageRecipe recipe;
+    recipe.keepsSize = true;
+    QImage image = gradient({320, 240}, QImage::Format_RGB888);
+    image.setDevicePixelRatio(2.0);
+    const QImage made = imaging::render(image, recipe).image;
+    QVERIFY(made.constBits() != image.constBits());
+    QCOMPARE(made.devicePixelRatio(), 1.0);
+    QCOMPARE(image.devicePixelRatio(), 2.0);
 }
 
 void RenderingTest::render_fails_withAReason_withoutAnImage()
