@@ -1,6 +1,7 @@
 #include "batch/BatchWorker.h"
 
 #include "batch/BatchWorkerConfig.h"
+#include "batch/FreePaths.h"
 #include "batch/SamplingPlan.h"
 #include "batch/SeriesSaver.h"
 #include "imaging/Rendering.h"
@@ -10,7 +11,6 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QThread>
 
 #include <algorithm>
@@ -42,9 +42,6 @@ constexpr qint64 longestWaitMilliseconds = 5000;
 /// How long news of a series may wait where the thread that they are for runs the job.
 constexpr std::chrono::milliseconds newsWait{10};
 
-/// Asks for a file name without a number.
-constexpr int noCounter = -1;
-
 /// The positions that a job with exact frames takes. A single image's are those of the plan, but
 /// for the middle, which is that of the stretch between the skips.
 FramePositions positionsOf(const BatchWorkerConfig& config, const SamplingPlan& plan,
@@ -69,8 +66,8 @@ FramePositions positionsOf(const BatchWorkerConfig& config, const SamplingPlan& 
     if (plan.intervalType == BatchWorkerConfig::SingleShot) {
         const bool isMiddle = config.intervalSingleShot() == BatchWorkerConfig::Middle;
         const qint64 ms = isMiddle ? (config.skipFront() + plan.end) / 2 : plan.start;
-        positions.list.append({FramePosition::Kind::Milliseconds,
-                               static_cast<double>(std::clamp<qint64>(ms, 0, duration))});
+        positions.list.push_back({FramePosition::Kind::Milliseconds,
+                                  static_cast<double>(std::clamp<qint64>(ms, 0, duration))});
     }
     return positions;
 }
@@ -161,7 +158,6 @@ void BatchWorker::runInternal()
     const SamplingPlan plan = SamplingPlan::make(*m_config, duration);
     qDebug("skipAmount: %lld", plan.step);
     m_frameCounter = 1;
-    m_fileCounter = 1;
     m_stepsTaken = 0;
     m_stepCount = qint64(plan.expectedImages) * ticksPerFrame;
     if (isInterruptionRequested()) {
@@ -184,8 +180,11 @@ void BatchWorker::takeSeries(const SamplingPlan& plan, qint64 duration)
     job.recipe = m_series->recipe;
     job.type = m_series->naming.type;
     job.keepsImage = true;
-    SeriesSaver saver({m_config->outputDir(), m_series->naming, m_config->sourceFileName(),
-                       plan.intervalType == BatchWorkerConfig::SingleShot},
+    const auto pathOf = [this, folder = m_config->outputDir(),
+                         video = m_config->sourceFileName()](int counter) {
+        return folder.filePath(m_series->naming.fileName(video, counter));
+    };
+    SeriesSaver saver(FreePaths(pathOf, plan.intervalType == BatchWorkerConfig::SingleShot),
                       Series::listenerOf(*this));
     const auto isCancelled = [this] { return isInterruptionRequested(); };
     runSeries([&] { static_cast<void>(series::run({job}, saver, isCancelled)); });
@@ -269,6 +268,12 @@ void BatchWorker::showSaved(QImage image)
 
 void BatchWorker::takeFrames(const SamplingPlan& plan)
 {
+    // Profiles that change meanwhile count from the next image on.
+    const auto pathOf = [this](int counter) {
+        return m_config->outputDir().filePath(m_config->filenameForCounter(counter));
+    };
+    m_paths =
+        std::make_unique<FreePaths>(pathOf, plan.intervalType == BatchWorkerConfig::SingleShot);
     qint64 position = plan.start;
     while (plan.takes(position, m_frameCounter) && takeFrame(position)) {
         position += plan.step;
@@ -333,7 +338,7 @@ void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
         extractorError(tr("no picture found at position %1").arg(position));
         return;
     }
-    const QString path = firstFreePath();
+    const QString path = m_paths->first();
     announceSaving(path);
     const ImageRecipe recipe = recipes::of(*m_config->imageProfile());
     imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), recipe);
@@ -365,29 +370,6 @@ void BatchWorker::extractorError(QString message)
     }
 }
 
-/// A single shot's name bears no number unless that name is taken.
-QString BatchWorker::firstFreePath()
-{
-    if (m_config->intervalType() == BatchWorkerConfig::SingleShot) {
-        const QString path =
-            m_config->outputDir().filePath(m_config->filenameForCounter(noCounter));
-        if (!QFileInfo::exists(path)) {
-            return path;
-        }
-    }
-    return nextFreePath();
-}
-
-QString BatchWorker::nextFreePath()
-{
-    const QDir dir = m_config->outputDir();
-    QString path;
-    do {
-        path = dir.filePath(m_config->filenameForCounter(m_fileCounter++));
-    } while (QFileInfo::exists(path));
-    return path;
-}
-
 void BatchWorker::announceSaving(const QString& path)
 {
     Q_EMIT statusUpdate(this, tr("Saving: ") + path, Normal);
@@ -404,7 +386,7 @@ bool BatchWorker::saveImage(QString path, const QImage& image, int jpegQuality)
     };
     WriteResult result = save(path);
     while (result == WriteResult::AlreadyExists) {
-        path = nextFreePath();
+        path = m_paths->next();
         announceSaving(path);
         result = save(path);
     }

@@ -16,6 +16,7 @@
 
 class BatchWorkerConfig;
 class FrameGrabber;
+class FreePaths;
 struct SamplingPlan;
 
 /// Runs one batch job: takes the frames, makes the images and saves them.
@@ -92,8 +93,6 @@ private:
     void waitForImages() const;
     void passOn(const QtAV::VideoFrame& frame);
 
-    [[nodiscard]] QString firstFreePath();
-    [[nodiscard]] QString nextFreePath();
     void announceSaving(const QString& path);
     [[nodiscard]] bool saveImage(QString path, const QImage& image, int jpegQuality);
     void reportUnsavedImage(const QString& path);
@@ -111,8 +110,7 @@ private:
     std::deque<std::function<void()>> m_news;
     /// Number of the frame to request next.
     int m_frameCounter = 0;
-    /// Number to try next in a file name. Only ever raised during a run.
-    int m_fileCounter = 0;
+    std::unique_ptr<FreePaths> m_paths; ///< of the images, while a job runs without exact frames
     float m_progress = 0.0F;
     /// Two for each frame: for finding and for taking it.
     qint64 m_stepsTaken = 0;

@@ -2,12 +2,10 @@
 
 #include "imaging/FilePublisher.h"
 
-#include <QFileInfo>
-
 #include <utility>
 
-SeriesSaver::SeriesSaver(Target target, Listener listener)
-    : m_target(std::move(target))
+SeriesSaver::SeriesSaver(FreePaths paths, Listener listener)
+    : m_paths(std::move(paths))
     , m_listener(std::move(listener))
 {}
 
@@ -23,9 +21,9 @@ void SeriesSaver::take(SeriesPicture picture)
         m_listener.failed(picture.error);
         return;
     }
-    QString path = firstPath();
+    QString path = m_paths.first();
     WriteResult result = WriteResult::AlreadyExists;
-    for (;; path = nextPath()) {
+    for (;; path = m_paths.next()) {
         m_listener.saving(path);
         result = FilePublisher::publish(path, picture.content, ExistingFile::Keep);
         if (result != WriteResult::AlreadyExists) {
@@ -44,26 +42,4 @@ void SeriesSaver::end(int /*video*/, const QString& error)
     if (!error.isEmpty()) {
         m_listener.failed(error);
     }
-}
-
-QString SeriesSaver::firstPath()
-{
-    if (m_target.isSingle) {
-        const QString path = m_target.folder.filePath(
-            m_target.naming.fileName(m_target.videoBaseName, OutputNaming::noCounter));
-        if (!QFileInfo::exists(path)) {
-            return path;
-        }
-    }
-    return nextPath();
-}
-
-QString SeriesSaver::nextPath()
-{
-    QString path;
-    do {
-        path =
-            m_target.folder.filePath(m_target.naming.fileName(m_target.videoBaseName, m_counter++));
-    } while (QFileInfo::exists(path));
-    return path;
 }

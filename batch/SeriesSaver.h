@@ -1,9 +1,8 @@
 #pragma once
 
-#include "profiles/OutputNaming.h"
+#include "batch/FreePaths.h"
 #include "series/SeriesRunner.h"
 
-#include <QDir>
 #include <QImage>
 #include <QString>
 
@@ -16,16 +15,6 @@
 class SeriesSaver : public SeriesOutput
 {
 public:
-    /// Where and under which names.
-    struct Target
-    {
-        QDir folder;
-        OutputNaming naming;
-        QString videoBaseName;
-        /// The first picture's name bears no number unless that name is taken.
-        bool isSingle = false;
-    };
-
     struct Listener
     {
         std::function<void(int pictures)> expecting;
@@ -36,17 +25,13 @@ public:
         std::function<void(const QString& message)> failed;
     };
 
-    SeriesSaver(Target target, Listener listener);
+    SeriesSaver(FreePaths paths, Listener listener);
 
     void begin(const SeriesFacts& facts) override;
     void take(SeriesPicture picture) override;
     void end(int video, const QString& error) override;
 
 private:
-    [[nodiscard]] QString firstPath();
-    [[nodiscard]] QString nextPath();
-
-    const Target m_target;
+    FreePaths m_paths;
     const Listener m_listener;
-    int m_counter = 1; ///< to try next; only ever raised
 };

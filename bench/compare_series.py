@@ -15,9 +15,12 @@ to its end; quoted are the medians, and the ratio to the quickest of the others.
 - mpv, one process for all pictures of a dense series, or one a picture: `--start=T --frames=1`;
 - FFMS2, `ffms_series`: makes its index of the video, then takes each frame by its number.
 
-A case leaves out what would take many times as long, and mpv where it takes other frames (TS). That all have taken the same number of pictures is
-checked, and for those with positions, that each of ours is more like the others' than
-its neighbours in the series are.
+A case leaves out what would take many times as long, and mpv where it takes other frames (TS). That
+all have taken the same number of pictures is checked, and for those with positions, that each of ours
+is more like the others' than its neighbours in the series are.
+
+Where the video has an index, `decode_alone` decodes the same frames by as many single-threaded decoders
+and does nothing with them: the last two columns are our processor time and peak of memory over its.
 """
 
 import argparse
@@ -50,6 +53,9 @@ class Case:
         self.goal = goal
         self.peers = peers
 
+    def has_index(self):
+        return self.video in (FILM, LARGE) and len(self.positions) > 1
+
 
 def every(ms, length):
     return list(range(0, length, ms))
@@ -60,15 +66,20 @@ def spread(count, length):
 
 
 ALL = ("ffmpeg select", "ffmpeg each", "ffms2")
+FILM = "1080p_h264_gop250.mp4"
+LARGE = "2160p_hevc_gop120.mp4"
 CASES = [
-    Case("1080p, every 5 s", "1080p_h264_gop250.mp4", ["--every", "5s"], every(5000, 60000), 0.60, ALL + ("mpv",)),
-    Case("1080p, every 500 ms", "1080p_h264_gop250.mp4", ["--every", "500ms"], every(500, 60000), 0.60, ("ffmpeg select", "ffms2")),
-    Case("1080p, ten spread", "1080p_h264_gop250.mp4", [], spread(10, 60000), 0.60, ALL + ("mpv",)),
-    Case("1080p, one", "1080p_h264_gop250.mp4", ["--at", "29.5"], [29500], 0.80, ALL + ("mpv",)),
-    Case("2160p HEVC, ten spread", "2160p_hevc_gop120.mp4", [], spread(10, 20000), 0.65, ALL + ("mpv",)),
-    Case("2160p HEVC, one", "2160p_hevc_gop120.mp4", ["--at", "13.5"], [13500], 0.90, ALL + ("mpv",)),
-    Case("720p TS, every 5 s", "720p_mpeg2.ts", ["--every", "5s", "--skip-end", "500ms"], every(5000, 60000), 0.55, ALL),
-    Case("1080p, key frames", "1080p_h264_gop30.mp4", ["--keyframes"], None, 0.75, ("ffmpeg keys",)),
+    Case("1080p, every 5 s", FILM, ["--every", "5s"], every(5000, 60000), 0.60, (*ALL, "mpv")),
+    Case("1080p, every 500 ms", FILM, ["--every", "500ms"], every(500, 60000), 0.60,
+         ("ffmpeg select", "ffms2")),
+    Case("1080p, ten spread", FILM, [], spread(10, 60000), 0.60, (*ALL, "mpv")),
+    Case("1080p, one", FILM, ["--at", "29.5"], [29500], 0.80, (*ALL, "mpv")),
+    Case("2160p HEVC, ten spread", LARGE, [], spread(10, 20000), 0.65, (*ALL, "mpv")),
+    Case("2160p HEVC, one", LARGE, ["--at", "13.5"], [13500], 0.90, (*ALL, "mpv")),
+    Case("720p TS, every 5 s", "720p_mpeg2.ts", ["--every", "5s", "--skip-end", "500ms"],
+         every(5000, 60000), 0.55, ALL),
+    Case("1080p, key frames", "1080p_h264_gop30.mp4", ["--keyframes"], None, 0.75,
+         ("ffmpeg keys",)),
     Case("200 clips, one each", None, ["--count", "1"], [2500], 0.35, ("ffmpeg clips",)),
 ]
 
@@ -145,11 +156,12 @@ class Peers:
 
 
 class Measure:
-    """Wall time in seconds, processor time, and the peak of memory of the largest process."""
+    """Wall and processor time in seconds, and the peak of memory of the largest process in MiB."""
 
     def __init__(self):
         self.wall = []
         self.cpu = []
+        self.memory = []
 
     def take(self, action):
         before = resource.getrusage(resource.RUSAGE_CHILDREN)
@@ -158,6 +170,18 @@ class Measure:
         self.wall.append(time.perf_counter() - start)
         after = resource.getrusage(resource.RUSAGE_CHILDREN)
         self.cpu.append(after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime)
+
+    def take_one(self, command):
+        """Of one process, whose memory is known."""
+        start = time.perf_counter()
+        process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+        _, status, usage = os.wait4(process.pid, 0)
+        self.wall.append(time.perf_counter() - start)
+        process.returncode = os.waitstatus_to_exitcode(status)
+        if process.returncode != 0:
+            raise RuntimeError(f"failed: {command}")
+        self.cpu.append(usage.ru_utime + usage.ru_stime)
+        self.memory.append(usage.ru_maxrss / 1024)
 
 
 def pictures_in(folder):
@@ -199,16 +223,15 @@ def make_clips(source, folder, count):
     return clips
 
 
-def measure(case, stills, peers, media, runs):
+def measure(case, programs, peers, media, runs):
     videos = [media / case.video] if case.video else make_clips(
         media / "1080p_h264_gop30.mp4", media / "clips", 200)
     measures = {name: Measure() for name in ("ours", *case.peers)}
-    for video in {video.stat().st_ino: video for video in videos}.values():
-        video.read_bytes()  # into the page cache
-
-    def ours(folder):
-        run([stills, *videos, "-o", folder, "--quiet", *case.options])
-
+    if case.has_index():
+        measures["alone"] = Measure()
+    # Into the page cache, but not through this process: the peak of a child's memory begins with the
+    # memory of what starts it.
+    run(["cat", *{video.stat().st_ino: video for video in videos}.values()])
     for number in range(runs):
         order = list(measures) if number % 2 == 0 else list(measures)[::-1]
         taken = {}
@@ -217,7 +240,11 @@ def measure(case, stills, peers, media, runs):
                 folder = pathlib.Path(work) / name.replace(" ", "-")
                 folder.mkdir()
                 if name == "ours":
-                    measures[name].take(lambda: ours(folder))
+                    measures[name].take_one([programs / "stills/stills", *videos, "-o", folder,
+                                             "--quiet", *case.options])
+                elif name == "alone":
+                    measures[name].take_one([programs / "bench/decode_alone", *videos, str(LANES),
+                                             *map(str, case.positions)])
                 else:
                     action = peers.named(name)
                     measures[name].take(lambda: action(videos, case.positions, folder))
@@ -228,14 +255,24 @@ def measure(case, stills, peers, media, runs):
     return measures
 
 
+def beside_decoding(measures):
+    if "alone" not in measures:
+        return "|  |  |"
+    ours, alone = measures["ours"], measures["alone"]
+    cpu = statistics.median(ours.cpu) / statistics.median(alone.cpu)
+    memory = statistics.median(ours.memory) / statistics.median(alone.memory)
+    return f"| {cpu:.2f} | {memory:.2f} |"
+
+
 def report(case, measures):
     walls = {name: statistics.median(measure.wall) for name, measure in measures.items()}
-    cpu = {name: statistics.median(measure.cpu) for name, measure in measures.items()}
     best = min(case.peers, key=walls.get)
     others = ", ".join(f"{name} {walls[name]:.2f}" for name in case.peers)
     ratio = walls["ours"] / walls[best]
-    print(f"| {case.name} | {walls['ours']:.2f} | {cpu['ours']:.2f} | {others} | {ratio:.2f} |"
-          f" {case.goal:.2f} |")
+    ours = measures["ours"]
+    print(f"| {case.name} | {walls['ours']:.2f} | {statistics.median(ours.cpu):.2f} |"
+          f" {statistics.median(ours.memory):.0f} | {others} | {ratio:.2f} | {case.goal:.2f} "
+          + beside_decoding(measures), flush=True)
 
 
 def main():
@@ -245,16 +282,19 @@ def main():
     parser.add_argument("--runs", type=int, default=5)
     parser.add_argument("--case", action="append")
     arguments = parser.parse_args()
-    ffms = arguments.build.absolute() / "bench/ffms_series"
-    stills = arguments.build.absolute() / "stills/stills"
-    print("| series | ours, s | processor | others, s | ratio | goal |")
-    print("| ------ | ------: | --------: | --------- | ----: | ---: |")
+    programs = arguments.build.absolute()
+    ffms = programs / "bench/ffms_series"
+    if not ffms.exists() or not shutil.which("mpv"):
+        sys.exit("It takes the package mpv, and libffms2-dev before the benchmarks are built.")
+    print("| series | ours, s | processor | MiB | others, s | ratio | goal | processor / alone |"
+          " memory / alone |")
+    print("| ------ | ------: | --------: | --: | --------- | ----: | ---: | ----------------: |"
+          " -------------: |")
     for case in CASES:
         if arguments.case and case.name not in arguments.case:
             continue
-        if not ffms.exists() or not shutil.which("mpv"):
-            sys.exit("It takes the package mpv, and libffms2-dev before the benchmarks are built.")
-        report(case, measure(case, stills, Peers(ffms), arguments.media.absolute(), arguments.runs))
+        measures = measure(case, programs, Peers(ffms), arguments.media.absolute(), arguments.runs)
+        report(case, measures)
 
 
 if __name__ == "__main__":

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QVector>
-#include <QtGlobal>
-
-#include <optional>
+#include <cstdint>
+#include <vector>
 
 /// One place in a video, as people say it.
 struct FramePosition
@@ -26,11 +24,10 @@ struct SeriesSkip
 
     Unit unit = Unit::Milliseconds;
     double value = 0.0;
-
-    [[nodiscard]] qint64 ms(qint64 durationMs) const;
 };
 
-/// Which frames of a video are asked for. A plain value, the same for any number of videos.
+/// Which frames of a video are asked for. A plain value, the same for any number of videos; without
+/// Qt, so that a program can read its arguments before it loads any large library.
 struct FramePositions
 {
     enum class Kind {
@@ -42,39 +39,10 @@ struct FramePositions
     };
 
     Kind kind = Kind::Spread;
-    qint64 everyMs = 5000; ///< 1 or more
-    int count = 10;        ///< 1 or more
-    QVector<FramePosition> list;
+    std::int64_t everyMs = 5000; ///< 1 or more
+    int count = 10;              ///< 1 or more
+    std::vector<FramePosition> list;
     double sceneThreshold = 0.3; ///< above 0, up to 1: how different a new scene's first frame is
     SeriesSkip front;            ///< no meaning for List
     SeriesSkip back;             ///< likewise
 };
-
-/// One frame that is asked for, once the video is known.
-struct SeriesTarget
-{
-    /// In milliseconds: the first frame at or after it is meant.
-    qint64 ms = 0;
-    /// The frame's number, where that was asked for.
-    std::optional<qint64> frame = {};
-    /// The last frame of the video is meant.
-    bool isLast = false;
-};
-
-/// What has to be known of a video to tell which frames are meant.
-struct SeriesLength
-{
-    qint64 durationMs = 0;
-    /// The presentation times of all frames in milliseconds, in rising order. Needed for frame
-    /// numbers alone.
-    QVector<qint64> frameTimesMs = {};
-};
-
-/// The targets in rising order, none of them twice; none for KeyFrames and Scenes, which the video
-/// itself has to tell. Numbers of frames that there are not are left out and given in `missing`.
-[[nodiscard]] QVector<SeriesTarget> targetsOf(const FramePositions& positions,
-                                              const SeriesLength& length,
-                                              QVector<FramePosition>* missing = nullptr);
-
-/// Some of the positions are numbers of frames.
-[[nodiscard]] bool asksForNumbers(const FramePositions& positions);

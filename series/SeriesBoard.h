@@ -55,8 +55,8 @@ public:
         return m_output.needs(video, target);
     }
 
-    /// Waits until there is something to do, or nothing more will be. A lane that would only wait is
-    /// told once to open what it will probably get a part of; `opened` is what it was told last.
+    /// Waits until there is something to do, or nothing more will be. A lane that would only wait
+    /// is told once to open what it will probably get a part of; `opened` is what it was told last.
     [[nodiscard]] Task next(int opened);
 
     /// The answers to Plan. The lane that has opened the video goes on with its first stretch,

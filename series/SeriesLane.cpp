@@ -132,8 +132,8 @@ SeriesBoard::Task SeriesLane::plan(const Task& task)
     SeriesPlan plan;
     if (positions.kind == FramePositions::Kind::KeyFrames ||
         positions.kind == FramePositions::Kind::Scenes) {
-        plan = planPart(positions.front.ms(length.durationMs),
-                        length.durationMs - positions.back.ms(length.durationMs) + 1,
+        plan = planPart(msOf(positions.front, length.durationMs),
+                        length.durationMs - msOf(positions.back, length.durationMs) + 1,
                         std::move(keyFrames), m_lanes);
     } else {
         QVector<SeriesTarget> targets = neededTargets(task.video, length, failures);
@@ -148,7 +148,7 @@ SeriesBoard::Task SeriesLane::plan(const Task& task)
 QVector<SeriesTarget> SeriesLane::neededTargets(int video, const SeriesLength& length,
                                                 std::deque<Delivery>& failures) const
 {
-    QVector<FramePosition> missing;
+    std::vector<FramePosition> missing;
     const QVector<SeriesTarget> all = targetsOf(m_jobs.at(video).positions, length, &missing);
     m_board.announce(video, all);
     QVector<SeriesTarget> needed;
@@ -223,6 +223,7 @@ void SeriesLane::begin(const Task& task)
 bool SeriesLane::walkTarget(const Task& task, int index)
 {
     const SeriesTarget target = m_board.plan(task.video).targets.at(index);
+    m_reader.setKeyFrameAtOnce(index + 1 == m_board.stretch(task.video, task.stretch).end);
     Delivery delivery = deliveryFor(task);
     delivery.index = index;
     if (!target.isLast) {
@@ -303,8 +304,9 @@ QString SeriesLane::walkKeyFrames(const Task& task)
 {
     const SeriesPlan::Stretch part = m_board.stretch(task.video, task.stretch);
     m_reader.seek(part.fromMs);
+    m_reader.setKeyFrameAtOnce(true);
     return walkPart(
-        task, part, [this] { return m_reader.nextKeyFrame(m_isCancelled); },
+        task, part, [&] { return m_reader.nextKeyFrame(part.toMs, m_isCancelled); },
         [&part](const QtAV::VideoFrame&, qint64 ms) { return ms >= part.fromMs; });
 }
 
@@ -314,6 +316,7 @@ QString SeriesLane::walkScenes(const Task& task)
     const SeriesPlan::Stretch part = m_board.stretch(task.video, task.stretch);
     const double threshold = m_jobs.at(task.video).positions.sceneThreshold;
     const qint64 start = std::max<qint64>(0, part.fromMs - beforeScenesMs);
+    m_reader.setKeyFrameAtOnce(false);
     m_reader.seek(start);
     m_reader.setCompleteFrom(start);
     SceneDetector detector;

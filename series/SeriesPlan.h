@@ -1,6 +1,6 @@
 #pragma once
 
-#include "series/FramePositions.h"
+#include "series/SeriesTargets.h"
 
 #include <QVector>
 

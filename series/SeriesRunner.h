@@ -1,7 +1,7 @@
 #pragma once
 
 #include "imaging/ImageRecipe.h"
-#include "series/FramePositions.h"
+#include "series/SeriesTargets.h"
 
 #include <QtAV/FrameResult.h>
 

@@ -102,11 +102,11 @@ void Reader::readPositions()
 
 void Reader::readKind()
 {
-    Positions& positions = m_options.positions;
+    FramePositions& positions = m_options.positions;
     if (m_typed.count) {
         positions.count = number("--count", *m_typed.count, 1, highestCount);
     } else if (m_typed.every) {
-        positions.kind = Positions::Kind::Every;
+        positions.kind = FramePositions::Kind::Every;
         const double ms = good("--every", parseTime(*m_typed.every));
         if (m_error.empty() && (ms < 1.0 || ms != std::floor(ms))) {
             fail("--every: " + quoted(*m_typed.every) +
@@ -114,9 +114,9 @@ void Reader::readKind()
         }
         positions.everyMs = static_cast<std::int64_t>(ms);
     } else if (m_typed.keyFrames) {
-        positions.kind = Positions::Kind::KeyFrames;
+        positions.kind = FramePositions::Kind::KeyFrames;
     } else if (m_typed.scenes) {
-        positions.kind = Positions::Kind::Scenes;
+        positions.kind = FramePositions::Kind::Scenes;
         if (!m_typed.scenes->empty()) {
             positions.sceneThreshold = good("--scenes", parseThreshold(*m_typed.scenes));
         }
@@ -125,7 +125,7 @@ void Reader::readKind()
 
 void Reader::readLists()
 {
-    std::vector<Position>& list = m_options.positions.list;
+    std::vector<FramePosition>& list = m_options.positions.list;
     for (const std::string& text : m_typed.at) {
         const auto more = good("--at", parsePositions(text));
         list.insert(list.end(), more.begin(), more.end());
@@ -135,24 +135,27 @@ void Reader::readLists()
         list.insert(list.end(), more.begin(), more.end());
     }
     if (!m_typed.at.empty() || !m_typed.frames.empty()) {
-        m_options.positions.kind = Positions::Kind::List;
+        m_options.positions.kind = FramePositions::Kind::List;
     }
 }
 
 void Reader::readSkips()
 {
-    Positions& positions = m_options.positions;
+    FramePositions& positions = m_options.positions;
     if (m_typed.skipStart) {
         positions.front = good("--skip-start", parseSkip(*m_typed.skipStart));
     }
     if (m_typed.skipEnd) {
         positions.back = good("--skip-end", parseSkip(*m_typed.skipEnd));
     }
-    const bool isList = positions.kind == Positions::Kind::List;
+    const bool isList = positions.kind == FramePositions::Kind::List;
     if (isList && (m_typed.skipStart || m_typed.skipEnd)) {
         fail("--skip-start and --skip-end have no meaning with --at and --frames; leave them away");
     }
-    if (positions.front.isPercent && positions.back.isPercent &&
+    const auto isPart = [](const SeriesSkip& skip) {
+        return skip.unit == SeriesSkip::Unit::Percent;
+    };
+    if (isPart(positions.front) && isPart(positions.back) &&
         positions.front.value + positions.back.value >= 100.0) {
         fail("--skip-start and --skip-end leave nothing of the video; together they must be below "
              "100%");

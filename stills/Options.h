@@ -1,5 +1,6 @@
 #pragma once
 
+#include "series/FramePositions.h"
 #include "stills/NameTemplate.h"
 
 #include <cstdint>
@@ -10,36 +11,6 @@
 /// What a run of `stills` is asked to do: plain values without Qt, so that the program can read its
 /// arguments before it loads any large library. Paths are the bytes that the system knows.
 namespace stills {
-
-/// One place in a video.
-struct Position
-{
-    enum class Kind { Milliseconds, Percent, FrameNumber, Last };
-
-    Kind kind = Kind::Milliseconds;
-    double value = 0.0; ///< by the kind: milliseconds, 0 to 100, or a number from 0
-};
-
-/// A stretch at the start or the end of a video that gives no pictures.
-struct Skip
-{
-    bool isPercent = false;
-    double value = 0.0; ///< per cent, 0 to 100, or milliseconds
-};
-
-/// Which frames are asked for.
-struct Positions
-{
-    enum class Kind { Count, Every, List, KeyFrames, Scenes };
-
-    Kind kind = Kind::Count;
-    int count = 10;
-    std::int64_t everyMs = 0;
-    std::vector<Position> list;
-    double sceneThreshold = 0.3;
-    Skip front;
-    Skip back;
-};
 
 struct Size
 {
@@ -77,7 +48,7 @@ struct Options
     bool isRecursive = false;
     Shard shard;
 
-    Positions positions;
+    FramePositions positions;
 
     std::optional<std::string> folder; ///< without one, beside each video
     bool writesToStandardOutput = false;

@@ -13,21 +13,22 @@ using Field = NameTemplate::Field;
 /// In bytes; room for what profiles put around it stays.
 constexpr std::size_t longestProfileStem = 150;
 
-bool asksForTimes(const Positions& positions)
+bool asksForTimes(const FramePositions& positions)
 {
     switch (positions.kind) {
-    case Positions::Kind::Count:
-    case Positions::Kind::Every:
+    case FramePositions::Kind::Spread:
+    case FramePositions::Kind::Every:
         return true;
-    case Positions::Kind::KeyFrames:
-    case Positions::Kind::Scenes:
+    case FramePositions::Kind::KeyFrames:
+    case FramePositions::Kind::Scenes:
         return false;
-    case Positions::Kind::List:
+    case FramePositions::Kind::List:
         break;
     }
-    return std::none_of(positions.list.begin(), positions.list.end(), [](const Position& position) {
-        return position.kind == Position::Kind::FrameNumber;
-    });
+    return std::none_of(positions.list.begin(), positions.list.end(),
+                        [](const FramePosition& position) {
+                            return position.kind == FramePosition::Kind::FrameNumber;
+                        });
 }
 
 NameFields fieldsOf(const VideoTask& task)

@@ -59,63 +59,11 @@ std::unique_ptr<QCoreApplication> makeApplication(bool needsFonts)
     return std::make_unique<QGuiApplication>(count, arguments);
 }
 
-FramePosition enginePosition(const Position& position)
-{
-    switch (position.kind) {
-    case Position::Kind::Percent:
-        return {FramePosition::Kind::Percent, position.value};
-    case Position::Kind::FrameNumber:
-        return {FramePosition::Kind::FrameNumber, position.value};
-    case Position::Kind::Last:
-        return {FramePosition::Kind::Last, 0.0};
-    case Position::Kind::Milliseconds:
-        break;
-    }
-    return {FramePosition::Kind::Milliseconds, position.value};
-}
-
-SeriesSkip engineSkip(const Skip& skip)
-{
-    return {skip.isPercent ? SeriesSkip::Unit::Percent : SeriesSkip::Unit::Milliseconds,
-            skip.value};
-}
-
-FramePositions::Kind engineKind(Positions::Kind kind)
-{
-    switch (kind) {
-    case Positions::Kind::Every:
-        return FramePositions::Kind::Every;
-    case Positions::Kind::List:
-        return FramePositions::Kind::List;
-    case Positions::Kind::KeyFrames:
-        return FramePositions::Kind::KeyFrames;
-    case Positions::Kind::Scenes:
-        return FramePositions::Kind::Scenes;
-    case Positions::Kind::Count:
-        break;
-    }
-    return FramePositions::Kind::Spread;
-}
-
-FramePositions enginePositions(const Positions& positions)
-{
-    FramePositions result;
-    result.kind = engineKind(positions.kind);
-    result.everyMs = positions.everyMs;
-    result.count = positions.count;
-    result.sceneThreshold = positions.sceneThreshold;
-    result.front = engineSkip(positions.front);
-    result.back = engineSkip(positions.back);
-    std::transform(positions.list.begin(), positions.list.end(), std::back_inserter(result.list),
-                   enginePosition);
-    return result;
-}
-
 QVector<SeriesJob> jobsOf(const Options& options, const Look& look,
                           const std::vector<VideoTask>& tasks)
 {
     SeriesJob job;
-    job.positions = enginePositions(options.positions);
+    job.positions = options.positions;
     job.recipe = look.recipe;
     job.type = options.makesPictures ? look.suffix : QString();
     job.numbersFrames =

@@ -193,45 +193,49 @@ Result<double> parseTime(const std::string& text)
     return text.find(':') == std::string::npos ? timeWithUnit(text) : timeWithColons(text);
 }
 
-Result<Position> parsePosition(const std::string& text)
+Result<FramePosition> parsePosition(const std::string& text)
 {
     if (text == "last") {
-        return Result<Position>::of({Position::Kind::Last, 0.0});
+        return Result<FramePosition>::of({FramePosition::Kind::Last, 0.0});
     }
     const Result<double> number = isPercent(text) ? parsePercent(text) : parseTime(text);
     if (!number.isGood()) {
-        return Result<Position>::failure(number.error +
-                                         (isPercent(text) ? "" : ", or 75% or last"));
+        return Result<FramePosition>::failure(number.error +
+                                              (isPercent(text) ? "" : ", or 75% or last"));
     }
-    const auto kind = isPercent(text) ? Position::Kind::Percent : Position::Kind::Milliseconds;
-    return Result<Position>::of({kind, *number.value});
+    const auto kind =
+        isPercent(text) ? FramePosition::Kind::Percent : FramePosition::Kind::Milliseconds;
+    return Result<FramePosition>::of({kind, *number.value});
 }
 
-Result<std::vector<Position>> parsePositions(const std::string& text)
+Result<std::vector<FramePosition>> parsePositions(const std::string& text)
 {
-    std::vector<Position> positions;
+    std::vector<FramePosition> positions;
     for (const std::string& part : splitAtCommas(text)) {
-        const Result<Position> position = parsePosition(part);
+        const Result<FramePosition> position = parsePosition(part);
         if (!position.isGood()) {
-            return Result<std::vector<Position>>::failure(position.error);
+            return Result<std::vector<FramePosition>>::failure(position.error);
         }
         positions.push_back(*position.value);
     }
-    return Result<std::vector<Position>>::of(positions);
+    return Result<std::vector<FramePosition>>::of(positions);
 }
 
-Result<Skip> parseSkip(const std::string& text)
+Result<SeriesSkip> parseSkip(const std::string& text)
 {
     const Result<double> number = isPercent(text) ? parsePercent(text) : parseTime(text);
-    return number.isGood() ? Result<Skip>::of({isPercent(text), *number.value})
-                           : Result<Skip>::failure(number.error);
+    if (!number.isGood()) {
+        return Result<SeriesSkip>::failure(number.error);
+    }
+    const auto unit = isPercent(text) ? SeriesSkip::Unit::Percent : SeriesSkip::Unit::Milliseconds;
+    return Result<SeriesSkip>::of({unit, *number.value});
 }
 
-Result<std::vector<Position>> parseFrames(const std::string& text)
+Result<std::vector<FramePosition>> parseFrames(const std::string& text)
 {
-    using Frames = Result<std::vector<Position>>;
+    using Frames = Result<std::vector<FramePosition>>;
     constexpr std::int64_t highest = 1000000000;
-    std::vector<Position> frames;
+    std::vector<FramePosition> frames;
     for (const std::string& part : splitAtCommas(text)) {
         const std::string_view range = part;
         const std::size_t hyphen = range.find('-');
@@ -247,7 +251,7 @@ Result<std::vector<Position>> parseFrames(const std::string& text)
             return Frames::failure(quoted(text) + " is more than a million frames; use --every");
         }
         for (std::int64_t frame = *first; frame <= *last; ++frame) {
-            frames.push_back({Position::Kind::FrameNumber, static_cast<double>(frame)});
+            frames.push_back({FramePosition::Kind::FrameNumber, static_cast<double>(frame)});
         }
     }
     return Frames::of(frames);

@@ -18,16 +18,16 @@ namespace stills {
 [[nodiscard]] Result<double> parseTime(const std::string& text);
 
 /// A time, a part of the video's length ("75%", "12.5%"), or "last".
-[[nodiscard]] Result<Position> parsePosition(const std::string& text);
+[[nodiscard]] Result<FramePosition> parsePosition(const std::string& text);
 
 /// Positions with commas between them.
-[[nodiscard]] Result<std::vector<Position>> parsePositions(const std::string& text);
+[[nodiscard]] Result<std::vector<FramePosition>> parsePositions(const std::string& text);
 
 /// A time or a part of the video's length.
-[[nodiscard]] Result<Skip> parseSkip(const std::string& text);
+[[nodiscard]] Result<SeriesSkip> parseSkip(const std::string& text);
 
 /// Numbers of frames, counted from 0, and ranges of them: "0,100,200-300". A million at most.
-[[nodiscard]] Result<std::vector<Position>> parseFrames(const std::string& text);
+[[nodiscard]] Result<std::vector<FramePosition>> parseFrames(const std::string& text);
 
 /// "1920x1080": each side 1 to 65500 pixels.
 [[nodiscard]] Result<Size> parseSize(const std::string& text);

@@ -16,12 +16,12 @@ constexpr qint64 SmallestStepBackMs = 500;
 /// Most of what readAhead() keeps while no key frame comes.
 constexpr qint64 MostAheadBytes = 64 * 1024 * 1024;
 
-/// Where frames are skipped, the key frame is not looked at either: it need not come out early.
-QVariantHash decoderOptions(bool skips)
+QVariantHash decoderOptions(bool skips, bool hurries)
 {
     const int discard = skips ? VideoDecoder::DiscardNonReference : VideoDecoder::DiscardDefault;
-    return {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), discard}}},
-            {QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), !skips}}}};
+    return {
+        {QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), discard}}},
+        {QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), hurries}}}};
 }
 
 /// Lets a question interrupt the demuxer while it is in scope.
@@ -80,6 +80,7 @@ bool FrameReader::openDecoder()
 {
     m_decoderThreads = m_threads;
     m_skips = false;
+    m_decoderHurries = true;
     m_decoder->setOptions(
         {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("threads"), m_threads}}}});
     return m_decoder->open();
@@ -284,7 +285,7 @@ QVector<qint64> FrameReader::readFrameTimes(const IsCancelled& isCancelled)
     return times;
 }
 
-FrameResult FrameReader::nextKeyFrame(const IsCancelled& isCancelled)
+FrameResult FrameReader::nextKeyFrame(qint64 beforeMs, const IsCancelled& isCancelled)
 {
     FrameAnswer answer = land(isCancelled);
     const Interruptible interruptible(m_demuxer, isCancelled);
@@ -296,6 +297,8 @@ FrameResult FrameReader::nextKeyFrame(const IsCancelled& isCancelled)
             break;
         if (!packet.hasKeyFrame)
             continue;
+        if (toMilliseconds(packet.pts) >= beforeMs)
+            return {FrameAnswer::End, {}, {}};
         // Key frames refer to nothing, and a decoder that was given one more expects what is
         // between them.
         m_decoder->flush();
@@ -324,10 +327,13 @@ void FrameReader::chooseSkipping(const Packet& packet)
     const bool skips = !packet.isDrain() && toMilliseconds(packet.pts) < m_completeFrom;
     if (skips)
         m_skippedUpTo = std::max(m_skippedUpTo, packet.pts);
-    if (skips == m_skips)
+    // Where frames are skipped, the key frame is not looked at either.
+    const bool hurries = m_keyFrameAtOnce && !skips;
+    if (skips == m_skips && hurries == m_decoderHurries)
         return;
     m_skips = skips;
-    m_decoder->setOptions(decoderOptions(skips));
+    m_decoderHurries = hurries;
+    m_decoder->setOptions(decoderOptions(skips, hurries));
 }
 
 FrameResult FrameReader::arriveAt(const VideoFrame& frame, bool isLanding)

@@ -1,4 +1,4 @@
-#include "series/FramePositions.h"
+#include "series/SeriesTargets.h"
 
 #include <QTest>
 
@@ -30,7 +30,7 @@ FramePositions spread(int count)
     return positions;
 }
 
-FramePositions listOf(const QVector<FramePosition>& list)
+FramePositions listOf(const std::vector<FramePosition>& list)
 {
     FramePositions positions;
     positions.kind = FramePositions::Kind::List;
@@ -131,12 +131,12 @@ void SeriesPositionsTest::numbers_becomeTheTimesOfTheirFrames()
 
 void SeriesPositionsTest::numbers_areMissing_whenTheVideoHasFewerFrames()
 {
-    QVector<FramePosition> missing;
+    std::vector<FramePosition> missing;
     const QVector<SeriesTarget> targets = targetsOf(
         listOf({{Kind::FrameNumber, 3}, {Kind::FrameNumber, 1}}), {120, {0, 40, 80}}, &missing);
     QCOMPARE(timesOf(targets), QList<qint64>({40}));
     QCOMPARE(missing.size(), 1);
-    QCOMPARE(missing.first().value, 3.0);
+    QCOMPARE(missing.front().value, 3.0);
 }
 
 void SeriesPositionsTest::asksForNumbers_isTrue_forListsWithNumbersAlone()

@@ -105,7 +105,7 @@ FramePositions numbers(const QList<int>& frames)
 {
     FramePositions positions = ofKind(FramePositions::Kind::List);
     for (const int frame : frames) {
-        positions.list.append({FramePosition::Kind::FrameNumber, static_cast<double>(frame)});
+        positions.list.push_back({FramePosition::Kind::FrameNumber, static_cast<double>(frame)});
     }
     return positions;
 }

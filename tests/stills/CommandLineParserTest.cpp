@@ -57,7 +57,7 @@ void CommandLineParserTest::defaults_areTenPictures_besideTheVideo()
 {
     const Options options = optionsOf({"film.mkv"});
     QCOMPARE(options.videos, std::vector<std::string>{"film.mkv"});
-    QVERIFY(options.positions.kind == stills::Positions::Kind::Count);
+    QVERIFY(options.positions.kind == FramePositions::Kind::Spread);
     QCOMPARE(options.positions.count, 10);
     QVERIFY(!options.folder);
     QVERIFY(!options.size);
@@ -99,7 +99,7 @@ void CommandLineParserTest::optionalValues_areTaken_withAnEqualsSignOnly()
 void CommandLineParserTest::positions_mayBeGiven_inSeveralOptions()
 {
     const Options options = optionsOf({"--at", "1,2", "--at=75%", "-a", "last", "a"});
-    QVERIFY(options.positions.kind == stills::Positions::Kind::List);
+    QVERIFY(options.positions.kind == FramePositions::Kind::List);
     QCOMPARE(options.positions.list.size(), std::size_t(4));
     QCOMPARE(optionsOf({"--frames", "0,5", "--frames", "7-9", "a"}).positions.list.size(),
              std::size_t(5));

@@ -119,12 +119,12 @@ void TimesTest::time_isRefused_withItsText()
 
 void TimesTest::position_mayBeAPartOrTheLastFrame()
 {
-    QVERIFY(parsePosition("last").value->kind == Position::Kind::Last);
-    const Position part = *parsePosition("12.5%").value;
-    QVERIFY(part.kind == Position::Kind::Percent);
+    QVERIFY(parsePosition("last").value->kind == FramePosition::Kind::Last);
+    const FramePosition part = *parsePosition("12.5%").value;
+    QVERIFY(part.kind == FramePosition::Kind::Percent);
     QCOMPARE(part.value, 12.5);
     QCOMPARE(parsePosition("100%").value->value, 100.0);
-    QVERIFY(parsePosition("1:30").value->kind == Position::Kind::Milliseconds);
+    QVERIFY(parsePosition("1:30").value->kind == FramePosition::Kind::Milliseconds);
     for (const char* const text : {"101%", "100.1%", "-1%", "%", "50%%", "Last", "first"}) {
         QVERIFY2(!parsePosition(text).isGood(), text);
     }
@@ -136,7 +136,7 @@ void TimesTest::positions_areListed_withCommas()
     QVERIFY(positions.isGood());
     QCOMPARE(positions.value->size(), std::size_t(3));
     QCOMPARE(positions.value->front().value, 62500.0);
-    QVERIFY(positions.value->back().kind == Position::Kind::Last);
+    QVERIFY(positions.value->back().kind == FramePosition::Kind::Last);
 }
 
 void TimesTest::positions_areRefused_whenOneIsMissing()
@@ -148,7 +148,7 @@ void TimesTest::positions_areRefused_whenOneIsMissing()
 
 void TimesTest::skip_mayBeAPart()
 {
-    QVERIFY(parseSkip("10%").value->isPercent);
+    QVERIFY(parseSkip("10%").value->unit == SeriesSkip::Unit::Percent);
     QCOMPARE(parseSkip("30s").value->value, 30000.0);
     QVERIFY(!parseSkip("last").isGood());
 }
@@ -158,8 +158,8 @@ void TimesTest::frames_areNumbersAndRanges()
     const auto frames = parseFrames("0,100,200-203");
     QVERIFY(frames.isGood());
     std::vector<double> numbers;
-    for (const Position& frame : *frames.value) {
-        QVERIFY(frame.kind == Position::Kind::FrameNumber);
+    for (const FramePosition& frame : *frames.value) {
+        QVERIFY(frame.kind == FramePosition::Kind::FrameNumber);
         numbers.push_back(frame.value);
     }
     QCOMPARE(numbers, (std::vector<double>{0, 100, 200, 201, 202, 203}));

@@ -82,9 +82,13 @@ public:
     /// or was cancelled; at the end of the video, too.
     [[nodiscard]] FrameAnswer readAhead(qint64 ms, const IsCancelled& isCancelled);
 
-    /// The next key frame, without those between; only after seek() or another nextKeyFrame(). Its
-    /// predecessor() is unknown.
-    [[nodiscard]] FrameResult nextKeyFrame(const IsCancelled& isCancelled);
+    /// The next key frame before a time in milliseconds, without the frames between; End where
+    /// there is none. Only after seek() or another nextKeyFrame(). Its predecessor() is unknown.
+    [[nodiscard]] FrameResult nextKeyFrame(qint64 beforeMs, const IsCancelled& isCancelled);
+
+    /// Whether the key frame where a seek lands comes out at once, as at first. That is quicker,
+    /// but it is decoded once more where frames behind it are wanted too.
+    void setKeyFrameAtOnce(bool isAtOnce) { m_keyFrameAtOnce = isAtOnce; }
 
     /// From here on, frames before this position in milliseconds may be skipped where no other
     /// frame needs them, which saves time.
@@ -173,6 +177,8 @@ private:
     qint64 m_completeFrom = 0;
     double m_skippedUpTo = -1.0; ///< frames up to this time may be missing
     bool m_skips = false;
+    bool m_keyFrameAtOnce = true;
+    bool m_decoderHurries = true; ///< m_decoder gives key frames at once
     bool m_startedAtZero = true;
     bool m_isLost = false;
     int m_invalidPackets = 0;

@@ -2,9 +2,9 @@
 //
 //   decode_alone VIDEO LANES MILLISECONDS…
 //
-// Each lane is a thread with an input and a single-threaded decoder of its own, for its share of the
-// positions, which rise. It goes to a key frame where one lies between two positions, decodes each
-// frame at most once, and leaves out those that no other frame needs and nobody asked for.
+// Each lane is a thread with an input and a single-threaded decoder of its own, for its share of
+// the positions, which rise. It goes to a key frame where one lies between two positions, decodes
+// each frame at most once, and leaves out those that no other frame needs and nobody asked for.
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -130,8 +130,8 @@ int main(int argc, char** argv)
     for (std::size_t lane = 0; lane < lanes; ++lane) {
         threads.emplace_back([&, lane] {
             Lane own(argv[1]);
-            for (std::size_t i = lane * words.size() / lanes;
-                 i < (lane + 1) * words.size() / lanes; ++i) {
+            for (std::size_t i = lane * words.size() / lanes; i < (lane + 1) * words.size() / lanes;
+                 ++i) {
                 own.take(std::stoll(words[i]));
             }
         });

@@ -1,4 +1,4 @@
-#include "series/FramePositions.h"
+#include "series/SeriesTargets.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,15 +63,15 @@ bool isSame(const SeriesTarget& a, const SeriesTarget& b)
     return !isBefore(a, b) && !isBefore(b, a);
 }
 
-QVector<SeriesTarget> listTargets(const QVector<FramePosition>& list, const SeriesLength& length,
-                                  QVector<FramePosition>* missing)
+QVector<SeriesTarget> listTargets(const std::vector<FramePosition>& list,
+                                  const SeriesLength& length, std::vector<FramePosition>* missing)
 {
     QVector<SeriesTarget> targets;
     for (const FramePosition& position : list) {
         if (const std::optional<SeriesTarget> target = targetOf(position, length)) {
             targets.append(*target);
         } else if (missing) {
-            missing->append(position);
+            missing->push_back(position);
         }
     }
     std::stable_sort(targets.begin(), targets.end(), isBefore);
@@ -81,17 +81,17 @@ QVector<SeriesTarget> listTargets(const QVector<FramePosition>& list, const Seri
 
 } // namespace
 
-qint64 SeriesSkip::ms(qint64 durationMs) const
+qint64 msOf(const SeriesSkip& skip, qint64 durationMs)
 {
-    return unit == Unit::Percent ? partOf(durationMs, value)
-                                 : static_cast<qint64>(std::llround(value));
+    return skip.unit == SeriesSkip::Unit::Percent ? partOf(durationMs, skip.value)
+                                                  : static_cast<qint64>(std::llround(skip.value));
 }
 
 QVector<SeriesTarget> targetsOf(const FramePositions& positions, const SeriesLength& length,
-                                QVector<FramePosition>* missing)
+                                std::vector<FramePosition>* missing)
 {
-    const qint64 from = positions.front.ms(length.durationMs);
-    const qint64 to = length.durationMs - positions.back.ms(length.durationMs);
+    const qint64 from = msOf(positions.front, length.durationMs);
+    const qint64 to = length.durationMs - msOf(positions.back, length.durationMs);
     switch (positions.kind) {
     case FramePositions::Kind::Every:
         return everyTargets(positions.everyMs, from, to);
