@@ -86,6 +86,9 @@ struct BatchWorker::Series
 BatchWorker::BatchWorker(QObject* parent)
     : Worker(parent)
     , m_frameGrabber(new FrameGrabber(this))
+    , m_paths(std::make_unique<FreePaths>([this](int counter) {
+        return m_config->outputDir().filePath(m_config->filenameForCounter(counter));
+    }))
 {
     registerMetaTypes();
     connect(m_frameGrabber, &FrameGrabber::frameExtracted, this, &BatchWorker::passOn,
@@ -184,7 +187,7 @@ void BatchWorker::takeSeries(const SamplingPlan& plan, qint64 duration)
                          video = m_config->sourceFileName()](int counter) {
         return folder.filePath(m_series->naming.fileName(video, counter));
     };
-    SeriesSaver saver(FreePaths(pathOf, plan.intervalType == BatchWorkerConfig::SingleShot),
+    SeriesSaver saver(FreePaths(pathOf), plan.intervalType == BatchWorkerConfig::SingleShot,
                       Series::listenerOf(*this));
     const auto isCancelled = [this] { return isInterruptionRequested(); };
     runSeries([&] { static_cast<void>(series::run({job}, saver, isCancelled)); });
@@ -268,12 +271,6 @@ void BatchWorker::showSaved(QImage image)
 
 void BatchWorker::takeFrames(const SamplingPlan& plan)
 {
-    // Profiles that change meanwhile count from the next image on.
-    const auto pathOf = [this](int counter) {
-        return m_config->outputDir().filePath(m_config->filenameForCounter(counter));
-    };
-    m_paths =
-        std::make_unique<FreePaths>(pathOf, plan.intervalType == BatchWorkerConfig::SingleShot);
     qint64 position = plan.start;
     while (plan.takes(position, m_frameCounter) && takeFrame(position)) {
         position += plan.step;
@@ -338,7 +335,7 @@ void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
         extractorError(tr("no picture found at position %1").arg(position));
         return;
     }
-    const QString path = m_paths->first();
+    const QString path = m_paths->first(m_config->intervalType() == BatchWorkerConfig::SingleShot);
     announceSaving(path);
     const ImageRecipe recipe = recipes::of(*m_config->imageProfile());
     imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), recipe);

@@ -110,7 +110,9 @@ private:
     std::deque<std::function<void()>> m_news;
     /// Number of the frame to request next.
     int m_frameCounter = 0;
-    std::unique_ptr<FreePaths> m_paths; ///< of the images, while a job runs without exact frames
+    /// Of the images of a job without exact frames. Profiles that change meanwhile count from the
+    /// next image on.
+    std::unique_ptr<FreePaths> m_paths;
     float m_progress = 0.0F;
     /// Two for each frame: for finding and for taking it.
     qint64 m_stepsTaken = 0;

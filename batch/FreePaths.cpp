@@ -6,14 +6,13 @@
 
 #include <utility>
 
-FreePaths::FreePaths(PathOf pathOf, bool isSingle)
+FreePaths::FreePaths(PathOf pathOf)
     : m_pathOf(std::move(pathOf))
-    , m_isSingle(isSingle)
 {}
 
-QString FreePaths::first()
+QString FreePaths::first(bool isSingle)
 {
-    if (m_isSingle) {
+    if (isSingle) {
         const QString path = m_pathOf(OutputNaming::noCounter);
         if (!QFileInfo::exists(path)) {
             return path;

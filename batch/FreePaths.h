@@ -12,17 +12,16 @@ public:
     /// The path of the image with a number from 1 on, or OutputNaming::noCounter.
     using PathOf = std::function<QString(int counter)>;
 
-    /// The first image of a job for a single one bears no number unless that name is taken.
-    FreePaths(PathOf pathOf, bool isSingle);
+    explicit FreePaths(PathOf pathOf);
 
-    /// For the next image.
-    [[nodiscard]] QString first();
+    /// For the next image. That of a job for a single one bears no number unless that name is
+    /// taken.
+    [[nodiscard]] QString first(bool isSingle);
 
     /// For the same image, when somebody else has just taken the last path.
     [[nodiscard]] QString next();
 
 private:
     PathOf m_pathOf;
-    bool m_isSingle;
     int m_counter = 1; ///< to try next
 };

@@ -4,8 +4,9 @@
 
 #include <utility>
 
-SeriesSaver::SeriesSaver(FreePaths paths, Listener listener)
+SeriesSaver::SeriesSaver(FreePaths paths, bool isSingle, Listener listener)
     : m_paths(std::move(paths))
+    , m_isSingle(isSingle)
     , m_listener(std::move(listener))
 {}
 
@@ -21,7 +22,7 @@ void SeriesSaver::take(SeriesPicture picture)
         m_listener.failed(picture.error);
         return;
     }
-    QString path = m_paths.first();
+    QString path = m_paths.first(m_isSingle);
     WriteResult result = WriteResult::AlreadyExists;
     for (;; path = m_paths.next()) {
         m_listener.saving(path);

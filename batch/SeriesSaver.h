@@ -25,7 +25,7 @@ public:
         std::function<void(const QString& message)> failed;
     };
 
-    SeriesSaver(FreePaths paths, Listener listener);
+    SeriesSaver(FreePaths paths, bool isSingle, Listener listener);
 
     void begin(const SeriesFacts& facts) override;
     void take(SeriesPicture picture) override;
@@ -33,5 +33,6 @@ public:
 
 private:
     FreePaths m_paths;
+    const bool m_isSingle;
     const Listener m_listener;
 };

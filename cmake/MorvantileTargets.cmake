@@ -27,7 +27,8 @@ function(morvantile_make_include_folder folder root)
   endforeach()
 endfunction()
 
-# What is precompiled, where it is: what most files include, and what those with widgets include too.
+# What is precompiled where MORVANTILE_QUICK_BUILD is on: what most files include, and what those
+# with widgets include too. Made once, since that takes as long as several files.
 set(MORVANTILE_COMMON_HEADERS
   <QColor> <QCoreApplication> <QDateTime> <QDebug> <QDir> <QElapsedTimer> <QFile> <QFileInfo>
   <QHash> <QImage> <QObject> <QSet> <QString> <QTemporaryDir> <QUrl> <QVariant> <QVector>
@@ -36,8 +37,41 @@ set(MORVANTILE_WIDGET_HEADERS ${MORVANTILE_COMMON_HEADERS}
   <QComboBox> <QDialog> <QFileDialog> <QGroupBox> <QLabel> <QLineEdit> <QMessageBox> <QPainter>
   <QSettings> <QSlider> <QTimer> <QWidget>)
 
+# morvantile_precompile_headers(): makes morvantile_common_headers and morvantile_widget_headers,
+# from which the libraries take them. After Qt has been found.
+function(morvantile_precompile_headers)
+  if(NOT MORVANTILE_QUICK_BUILD)
+    return()
+  endif()
+  file(WRITE "${CMAKE_BINARY_DIR}/precompiled.cpp" "")
+  foreach(kind common widget)
+    string(TOUPPER ${kind} headers)
+    add_library(morvantile_${kind}_headers STATIC "${CMAKE_BINARY_DIR}/precompiled.cpp")
+    target_link_libraries(morvantile_${kind}_headers PRIVATE morvantile_settings Qt5::Gui)
+    set_target_properties(morvantile_${kind}_headers PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    target_precompile_headers(morvantile_${kind}_headers PRIVATE ${MORVANTILE_${headers}_HEADERS})
+  endforeach()
+  target_link_libraries(morvantile_widget_headers PRIVATE Qt5::Widgets)
+endfunction()
+
+# morvantile_spare_moc(TARGET file…)
+# Turns CMake's search for what moc, uic and rcc are to do off where no file gives them anything: it
+# takes as long as compiling a file.
+function(morvantile_spare_moc target)
+  foreach(file IN LISTS ARGN)
+    if(file MATCHES "\\.(ui|qrc)$")
+      return()
+    endif()
+    file(STRINGS "${file}" declarations REGEX "^ *Q_(OBJECT|GADGET|NAMESPACE)" LIMIT_COUNT 1)
+    if(declarations)
+      return()
+    endif()
+  endforeach()
+  set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+endfunction()
+
 # morvantile_add_library(NAME SOURCES file… [PRIVATE_HEADERS file…] [HEADER_ROOT folder]
-#                        [PUBLIC lib…] [PRIVATE lib…] [PRECOMPILED header…])
+#                        [PUBLIC lib…] [PRIVATE lib…] [PRECOMPILED common|widget])
 # One library for one folder, or for a part of it; static, or an interface if it has headers only.
 # It may link only what stands below it. What links it finds the headers among its SOURCES, by their
 # paths from HEADER_ROOT (the root of the project).
@@ -46,9 +80,9 @@ set(MORVANTILE_WIDGET_HEADERS ${MORVANTILE_COMMON_HEADERS}
 # and by what links NAME_private: its closest neighbours and the tests of its inner parts. That
 # brings the PRIVATE libraries too, whose headers may be included there.
 #
-# The PRECOMPILED headers are made part of each source where MORVANTILE_QUICK_BUILD is on.
+# PRECOMPILED says which precompiled headers are made part of each source.
 function(morvantile_add_library name)
-  cmake_parse_arguments(ARG "" "HEADER_ROOT" "SOURCES;PRIVATE_HEADERS;PUBLIC;PRIVATE;PRECOMPILED" ${ARGN})
+  cmake_parse_arguments(ARG "" "HEADER_ROOT;PRECOMPILED" "SOURCES;PRIVATE_HEADERS;PUBLIC;PRIVATE" ${ARGN})
   if(NOT ARG_HEADER_ROOT)
     set(ARG_HEADER_ROOT "${CMAKE_SOURCE_DIR}")
   endif()
@@ -61,10 +95,11 @@ function(morvantile_add_library name)
     return()
   endif()
   add_library(${name} STATIC ${ARG_SOURCES} ${ARG_PRIVATE_HEADERS})
+  morvantile_spare_moc(${name} ${ARG_SOURCES} ${ARG_PRIVATE_HEADERS})
   target_include_directories(${name} PUBLIC "${folder}")
   target_link_libraries(${name} PUBLIC morvantile_settings ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
   if(MORVANTILE_QUICK_BUILD AND ARG_PRECOMPILED)
-    target_precompile_headers(${name} PRIVATE ${ARG_PRECOMPILED})
+    target_precompile_headers(${name} REUSE_FROM morvantile_${ARG_PRECOMPILED}_headers)
   endif()
   if(ARG_PRIVATE_HEADERS)
     set(folder "${MORVANTILE_INCLUDE_DIR}/${name}_private")
@@ -83,6 +118,7 @@ function(morvantile_add_executable name)
   set(folder "${MORVANTILE_INCLUDE_DIR}/${name}")
   morvantile_make_include_folder("${folder}" "${CMAKE_SOURCE_DIR}" ${ARG_SOURCES})
   add_executable(${name} ${ARG_SOURCES})
+  morvantile_spare_moc(${name} ${ARG_SOURCES})
   if(EXISTS "${folder}")
     target_include_directories(${name} PRIVATE "${folder}")
   endif()

@@ -12,10 +12,12 @@ constexpr qint64 SmallestStepBackMs = 500;
 
 } // namespace
 
-KeyFrameSearch::KeyFrameSearch(VideoPackets& video, qint64 durationMs, qint64 firstStepBackMs)
+KeyFrameSearch::KeyFrameSearch(VideoPackets& video, qint64 durationMs, qint64 firstStepBackMs,
+                               qint64 mostKeptBytes)
     : m_video(video)
     , m_durationMs(durationMs)
     , m_stepBackMs(firstStepBackMs)
+    , m_mostKeptBytes(mostKeptBytes)
 {}
 
 PacketAnswer KeyFrameSearch::run(qint64 targetMs)
@@ -105,7 +107,7 @@ bool KeyFrameSearch::keep(PacketPtr packet)
 {
     m_keptBytes += packet->size;
     m_packets.push_back(std::move(packet));
-    return m_keptBytes < MaximumKeptBytes;
+    return m_keptBytes < m_mostKeptBytes;
 }
 
 } // namespace QtAV

@@ -16,13 +16,15 @@ namespace QtAV {
 class KeyFrameSearch
 {
 public:
-    /// No more is kept of one group of pictures. Beyond it the first key frame found is taken even
-    /// if a later one might follow: decoding from there reaches the same frames.
+    /// No more is kept of one group of pictures and what lies between its packets. Beyond that the
+    /// first key frame found is taken even if a later one might follow: decoding from there reaches
+    /// the same frames.
     static constexpr qint64 MaximumKeptBytes = qint64(256) << 20;
 
     /// @param firstStepBack  how far before the target to land at first, in milliseconds: what the
     ///                       last search in the same file needed.
-    KeyFrameSearch(VideoPackets& video, qint64 durationMs, qint64 firstStepBackMs);
+    KeyFrameSearch(VideoPackets& video, qint64 durationMs, qint64 firstStepBackMs,
+                   qint64 mostKeptBytes = MaximumKeptBytes);
 
     /// Searches. Packet when packets() holds what was found, End for a stream without any packet.
     [[nodiscard]] PacketAnswer run(qint64 targetMs);
@@ -48,6 +50,7 @@ private:
     VideoPackets& m_video;
     qint64 m_durationMs;
     qint64 m_stepBackMs;
+    const qint64 m_mostKeptBytes;
     qint64 m_targetMs = 0;
     std::deque<PacketPtr> m_packets;
     qint64 m_keptBytes = 0;

@@ -350,7 +350,7 @@ void BatchWorkerSavingTest::frameBeyondTheMemory_isAnError_andNoFile()
         job.events.of(QStringLiteral("error")),
         QStringList{QStringLiteral("Could not make %1 from position 1500: There is no picture, "
                                    "perhaps for a lack of memory")
-                        .arg(dir.filePath(numbered("-00000.jpeg")))});
+                        .arg(dir.filePath(numbered("-00001.jpeg")))});
     QVERIFY(filesIn(dir.path()).isEmpty());
 }
 

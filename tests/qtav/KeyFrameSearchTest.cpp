@@ -94,6 +94,8 @@ private slots:
     void firstKeyFrame_isFound_forAPositionBeforeIt_data();
     void firstKeyFrame_isFound_forAPositionBeforeIt();
     void nextSearch_landsAsFarBackAsTheLast();
+    void memory_isLimited_alsoForPacketsOfOtherStreams_data();
+    void memory_isLimited_alsoForPacketsOfOtherStreams();
     void search_isCancelled_whileTheDiskHangs_data();
     void search_isCancelled_whileTheDiskHangs();
 };
@@ -251,6 +253,31 @@ void KeyFrameSearchTest::nextSearch_landsAsFarBackAsTheLast()
     QCOMPARE(second.stepBackMs(), first.stepBackMs());
     QCOMPARE(packetreading::described(second.packets(), video.packets.timeline()),
              packetreading::described(first.packets(), video.packets.timeline()));
+}
+
+void KeyFrameSearchTest::memory_isLimited_alsoForPacketsOfOtherStreams_data()
+{
+    addFiles({"sound.mp4", "sound_later.mkv", "sound_earlier.ts", "h264_bframes.mkv"});
+}
+
+void KeyFrameSearchTest::memory_isLimited_alsoForPacketsOfOtherStreams()
+{
+    QFETCH(const QString, file);
+    constexpr qint64 limit = 3000;
+    const Sample& sample = sampleNamed(file);
+    OpenVideo video(file);
+    // Deep in the first group of pictures, behind more than may be kept.
+    KeyFrameSearch search(video.packets, durationMs(sample), 0, limit);
+    QCOMPARE(search.run(frameTimeMs(sample, 20)), PacketAnswer::Packet);
+    const AVPacket& first = *search.packets().front();
+    QCOMPARE(first.stream_index, video.packets.stream());
+    QVERIFY(first.flags & AV_PKT_FLAG_KEY);
+    qint64 bytes = 0;
+    for (const QtAV::PacketPtr& packet : search.packets()) {
+        QVERIFY2(bytes < limit, "more was read than may be kept");
+        bytes += packet->size;
+    }
+    QVERIFY(bytes >= limit);
 }
 
 void KeyFrameSearchTest::search_isCancelled_whileTheDiskHangs_data()
