@@ -89,7 +89,7 @@ def take_profiles(photographer):
     program.click("push button", "Edit image profiles")
     photographer.take("image-profile", "Image Profile Settings")
 
-    program.click("push button", "Edit")
+    program.click("push button", "Edit Watermark")
     program.window("Watermark Settings")
     program.click("text", "Watermark text")
     desktop.type("Morvantile")
