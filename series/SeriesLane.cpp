@@ -56,6 +56,8 @@ void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::Video
             picture.error = tr("The picture could not be encoded as %1.").arg(job.type);
             return;
         }
+        // It may have to wait for others, and was given room to grow.
+        picture.content.squeeze();
     }
     if (!job.thumbnail.isEmpty()) {
         picture.thumbnail = thumbnailOf(made.image, job.thumbnail);

@@ -28,6 +28,19 @@ AVRational sampleAspectRatioOf(const AVFrame& frame, const StreamParameters& par
     return stated.num > 0 && stated.den > 0 ? stated : AVRational{1, 1};
 }
 
+/// A Format_ARGB32 image in Format_RGB888; null when memory runs out.
+///
+/// Qt's own conversion divides the work between threads, and waits for ever where there is no
+/// memory to start one.
+QImage withoutAlpha(const QImage& image)
+{
+    QImage result(image.size(), QImage::Format_RGB888);
+    for (int y = 0; y < result.height(); ++y)
+        dropAlpha(reinterpret_cast<const QRgb*>(image.constScanLine(y)), result.scanLine(y),
+                  result.width());
+    return result;
+}
+
 /// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
 constexpr double WidestPixel = 16.0;
 
@@ -155,8 +168,6 @@ try {
     const QSize upright = isReduced && isOpaqueYuv ? size : whole;
     const QSize stored = swapsSides(d->orientation) ? upright.transposed() : upright;
     const bool isScaledLater = !size.isEmpty() && (size != upright || !region.isNull());
-    // Qt's own conversion to it divides the work between threads, and waits for ever where there is
-    // no memory to start one.
     const bool dropsAlpha = wanted == QImage::Format_RGB888 && !isScaledLater;
     QImage image = oriented(
         d->converter->convert(*d->frame, stored, dropsAlpha ? wanted : QImage::Format_ARGB32),
@@ -172,6 +183,8 @@ try {
     // Without transparent parts these formats are the same in memory.
     if (isOpaqueYuv && wanted == QImage::Format_ARGB32_Premultiplied)
         image.reinterpretAsFormat(wanted);
+    if (image.format() == QImage::Format_ARGB32 && wanted == QImage::Format_RGB888)
+        return withoutAlpha(image);
     return image.format() == wanted ? image : std::move(image).convertToFormat(wanted);
 } catch (const std::bad_alloc&) {
     return {};

@@ -19,7 +19,7 @@ class SeekTest : public QObject
 private slots:
     void wholeFile_comesOutFrameByFrame_whenNobodySeeks_data()
     {
-        addSamples(testsupport::allVideoSamples());
+        addSamples(testsupport::videoSamplesToRepeat());
     }
     void wholeFile_comesOutFrameByFrame_whenNobodySeeks();
     void seek_landsOnTheKeyFrameAtOrBefore_andAllFramesFollow_data()

@@ -52,7 +52,7 @@ const QList<Sample>& allVideoSamples()
 const QList<Sample>& videoSamplesToRepeat()
 {
     static const QList<Sample> samples = [] {
-        constexpr int step = isSanitized ? 3 : 1;
+        constexpr int step = isSanitized ? 5 : 1;
         QList<Sample> chosen;
         for (int i = 0; i < allVideoSamples().size(); i += step)
             chosen.append(allVideoSamples().at(i));

@@ -68,7 +68,7 @@ struct Sample
 /// frame can be decoded and bears its number.
 [[nodiscard]] const QList<Sample>& allVideoSamples();
 
-/// Those for tests that go through a video again and again: all of them, and every third where a
+/// Those for tests that go through a video again and again: all of them, and every fifth where a
 /// sanitizer watches. It sees each way through the code, but not each sample on each way.
 [[nodiscard]] const QList<Sample>& videoSamplesToRepeat();
 
