@@ -14,3 +14,13 @@ void MemoryPolicy::returnFreedMemory()
     mallopt(M_MMAP_THRESHOLD, largeBytes);
 #endif
 }
+
+void MemoryPolicy::keepFreedMemory()
+{
+#ifdef __GLIBC__
+    constexpr int largestFrameBytes = 64 << 20;
+    constexpr int mostKeptBytes = 1 << 30;
+    mallopt(M_MMAP_THRESHOLD, largestFrameBytes);
+    mallopt(M_TRIM_THRESHOLD, mostKeptBytes);
+#endif
+}

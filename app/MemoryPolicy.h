@@ -9,4 +9,9 @@ namespace MemoryPolicy {
 /// nothing where the C library cannot be told.
 void returnFreedMemory();
 
+/// The opposite: has the process keep freed memory, up to a gigabyte, for the next block of the
+/// kind. For a program that takes pictures one after the other: their frames come and go in the
+/// same sizes, and fresh memory for each would cost a fifth of the time of short videos.
+void keepFreedMemory();
+
 } // namespace MemoryPolicy

@@ -56,8 +56,12 @@ endfunction()
 
 # morvantile_spare_moc(TARGET file…)
 # Turns CMake's search for what moc, uic and rcc are to do off where no file gives them anything: it
-# takes as long as compiling a file.
+# takes as long as compiling a file. Only where MORVANTILE_QUICK_BUILD is on: a file that gets its
+# first Q_OBJECT later would need CMake to be run again.
 function(morvantile_spare_moc target)
+  if(NOT MORVANTILE_QUICK_BUILD)
+    return()
+  endif()
   foreach(file IN LISTS ARGN)
     if(file MATCHES "\\.(ui|qrc)$")
       return()

@@ -68,7 +68,8 @@ layer ui/batch batch/ ui/ video/ profiles/ imaging/
 layer batch batch/ series/ video/ profiles/ imaging/
 layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ product/
 layer ui ui/ profiles/ imaging/ product/
-layer stills stills/ series/ imaging/ profiles/ product/ app/RuntimeFolder.h
+layer stills stills/ series/ imaging/ profiles/ product/ app/MemoryPolicy.h \
+    app/RuntimeFolder.h
 # app/ stands above all others.
 
 # Without a folder only what a tool makes for the including file alone, with `..` nothing.

@@ -56,8 +56,6 @@ void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::Video
             picture.error = tr("The picture could not be encoded as %1.").arg(job.type);
             return;
         }
-        // It may have to wait for others, and was given room to grow.
-        picture.content.squeeze();
     }
     if (!job.thumbnail.isEmpty()) {
         picture.thumbnail = thumbnailOf(made.image, job.thumbnail);
@@ -331,8 +329,8 @@ QString SeriesLane::walkScenes(const Task& task)
             detector.add(frame.toImage(QImage::Format_Grayscale8, SceneDetector::pictureSize));
         return ms >= part.fromMs && (std::exchange(isFirst, false) || score >= threshold);
     };
-    return walkPart(
-        task, part, [this] { return m_reader.next(m_isCancelled); }, isScene);
+    const auto next = [this] { return m_reader.next(m_isCancelled); };
+    return walkPart(task, part, next, isScene);
 }
 
 SeriesBoard::Delivery SeriesLane::deliveryFor(const Task& task) const

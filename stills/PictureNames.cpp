@@ -1,8 +1,7 @@
 #include "stills/PictureNames.h"
 
+#include "series/SeriesTargets.h"
 #include "stills/Texts.h"
-
-#include <algorithm>
 
 namespace stills {
 
@@ -25,10 +24,7 @@ bool asksForTimes(const FramePositions& positions)
     case FramePositions::Kind::List:
         break;
     }
-    return std::none_of(positions.list.begin(), positions.list.end(),
-                        [](const FramePosition& position) {
-                            return position.kind == FramePosition::Kind::FrameNumber;
-                        });
+    return !asksForNumbers(positions);
 }
 
 NameFields fieldsOf(const VideoTask& task)

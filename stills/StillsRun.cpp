@@ -1,5 +1,6 @@
 #include "stills/StillsRun.h"
 
+#include "app/MemoryPolicy.h"
 #include "app/RuntimeFolder.h"
 #include "product/ProductInfo.h"
 #include "stills/FileNameCodec.h"
@@ -20,12 +21,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib> // says whether the C library is GNU's
 #include <memory>
-
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace stills {
 
@@ -212,23 +208,11 @@ int Run::execute()
     return isAllThere ? allDone : someFailed;
 }
 
-/// Frames come and go in the same sizes as long as the program runs. Given back to the system each
-/// time, as large blocks are otherwise, they would cost a fifth of the time of short videos.
-void keepFreedMemory()
-{
-#ifdef __GLIBC__
-    constexpr int largestFrameBytes = 64 << 20;
-    constexpr int mostKeptBytes = 1 << 30;
-    mallopt(M_MMAP_THRESHOLD, largestFrameBytes);
-    mallopt(M_TRIM_THRESHOLD, mostKeptBytes);
-#endif
-}
-
 } // namespace
 
 int run(const Options& options)
 {
-    keepFreedMemory();
+    MemoryPolicy::keepFreedMemory();
     Interruption::install();
     FileNameCodec::install();
     hideDebugLines();

@@ -28,6 +28,7 @@ std::string ownFolder()
 /// The module's entry: beside the program where that was just built, else where it is installed.
 stills::ModuleEntry loadModule()
 {
+    // Lazily: of what the libraries need of each other, a run calls little.
     for (const char* const place : {MORVANTILE_BUILT_MODULE, MORVANTILE_INSTALLED_MODULE}) {
         void* const module = ::dlopen((ownFolder() + place).c_str(), RTLD_LAZY | RTLD_LOCAL);
         if (module != nullptr) {

@@ -1,8 +1,8 @@
 #include "bench/bare/BareConversion.h"
 
+#include "bench/bare/Handles.h"
+
 extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
 #include <libavutil/imgutils.h>
 #include <libswscale/swscale.h>
 }
@@ -13,35 +13,11 @@ namespace bench {
 
 namespace {
 
-struct CloseInput
-{
-    void operator()(AVFormatContext* context) const { avformat_close_input(&context); }
-};
-
-struct FreeCodec
-{
-    void operator()(AVCodecContext* context) const { avcodec_free_context(&context); }
-};
-
-struct FreePacket
-{
-    void operator()(AVPacket* packet) const { av_packet_free(&packet); }
-};
-
-struct FreeFrame
-{
-    void operator()(AVFrame* frame) const { av_frame_free(&frame); }
-};
-
 struct FreeScaler
 {
     void operator()(SwsContext* context) const { sws_freeContext(context); }
 };
 
-using InputPtr = std::unique_ptr<AVFormatContext, CloseInput>;
-using CodecPtr = std::unique_ptr<AVCodecContext, FreeCodec>;
-using PacketPtr = std::unique_ptr<AVPacket, FreePacket>;
-using FramePtr = std::unique_ptr<AVFrame, FreeFrame>;
 using ScalerPtr = std::unique_ptr<SwsContext, FreeScaler>;
 
 InputPtr openedInput(const QString& video)

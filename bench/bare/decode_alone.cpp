@@ -6,15 +6,11 @@
 // the positions, which rise. It goes to a key frame where one lies between two positions, decodes
 // each frame at most once, and leaves out those that no other frame needs and nobody asked for.
 
-extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
-}
+#include "bench/bare/Handles.h"
 
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
@@ -26,23 +22,6 @@ namespace {
     std::fprintf(stderr, "%s\n", what);
     std::exit(1);
 }
-
-struct CloseInput
-{
-    void operator()(AVFormatContext* input) const { avformat_close_input(&input); }
-};
-struct FreeDecoder
-{
-    void operator()(AVCodecContext* decoder) const { avcodec_free_context(&decoder); }
-};
-struct FreePacket
-{
-    void operator()(AVPacket* packet) const { av_packet_free(&packet); }
-};
-struct FreeFrame
-{
-    void operator()(AVFrame* frame) const { av_frame_free(&frame); }
-};
 
 class Lane
 {
@@ -107,10 +86,10 @@ private:
         return true;
     }
 
-    std::unique_ptr<AVFormatContext, CloseInput> m_input;
-    std::unique_ptr<AVCodecContext, FreeDecoder> m_decoder;
-    std::unique_ptr<AVPacket, FreePacket> m_packet{av_packet_alloc()};
-    std::unique_ptr<AVFrame, FreeFrame> m_frame{av_frame_alloc()};
+    bench::InputPtr m_input;
+    bench::CodecPtr m_decoder;
+    bench::PacketPtr m_packet{av_packet_alloc()};
+    bench::FramePtr m_frame{av_frame_alloc()};
     AVStream* m_stream = nullptr;
     bool m_hasBegun = false;
     std::int64_t m_decoded = INT64_MIN;

@@ -1,7 +1,8 @@
 #include <QtAV/AVPlayer.h>
 
-#include "qtav/player/AVPlayerPrivate.h"
 #include <QtAV/Times.h>
+
+#include "qtav/player/AVPlayerPrivate.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #include "qtav/player/FrameSource.h"
 
 #include <QtAV/QtAV_Global.h>
+#include <QtAV/Times.h>
 
 #include "qtav/src/StreamParameters.h"
-#include <QtAV/Times.h>
 
 #include <QCoreApplication>
 

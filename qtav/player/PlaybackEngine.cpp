@@ -1,7 +1,8 @@
 #include "qtav/player/PlaybackEngine.h"
 
-#include "qtav/player/StepPacing.h"
 #include <QtAV/Times.h>
+
+#include "qtav/player/StepPacing.h"
 
 #include <utility>
 

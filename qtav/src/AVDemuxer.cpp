@@ -1,12 +1,12 @@
 #include <QtAV/AVDemuxer.h>
 
+#include <QtAV/Times.h>
+
 #include "qtav/src/Container.h"
 #include "qtav/src/DurationProbe.h"
 #include "qtav/src/KeyFrameSearch.h"
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/VideoPackets.h"
-
-#include <QtAV/Times.h>
 
 #include <QCoreApplication>
 

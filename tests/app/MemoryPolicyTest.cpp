@@ -28,6 +28,7 @@ class MemoryPolicyTest : public QObject
 
 private slots:
     void largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBefore();
+    void largeBlocks_areUsedAgain_whenKept();
 };
 
 void MemoryPolicyTest::largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBefore()
@@ -41,6 +42,21 @@ void MemoryPolicyTest::largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBe
     std::free(block);
     QVERIFY(after >= before + Large);
     QCOMPARE(bytesOnTheirOwn(), before);
+}
+
+void MemoryPolicyTest::largeBlocks_areUsedAgain_whenKept()
+{
+    constexpr size_t Large = size_t(24) << 20;
+    MemoryPolicy::keepFreedMemory();
+    takeAndFree(Large);
+    const size_t system = mallinfo2().arena;
+    QVERIFY(system >= Large);
+    const size_t onTheirOwn = bytesOnTheirOwn();
+    void* volatile block = std::malloc(Large);
+    QCOMPARE(bytesOnTheirOwn(), onTheirOwn);
+    QCOMPARE(mallinfo2().arena, system);
+    std::free(block);
+    QCOMPARE(mallinfo2().arena, system);
 }
 
 QTEST_GUILESS_MAIN(MemoryPolicyTest)
