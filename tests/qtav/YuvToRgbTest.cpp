@@ -90,8 +90,9 @@ std::array<double, 3> expected(const AVFrame& frame, int x, int y)
     const double luma =
         (stored(frame, 0, x, y) - (full ? 0 : 16 * unit)) / (full ? top : 219 * unit);
     const auto part = [&](int component) {
-        // MPEG's place of chroma is on the left, JPEG's in the middle.
-        const double value = chroma(frame, component, x, y, full ? 0.5 : 0.0) - 128 * unit;
+        // MPEG's place of chroma is on the left; JPEG's, with half the lines, in the middle.
+        const bool isCentred = full && d.log2_chroma_h == 1;
+        const double value = chroma(frame, component, x, y, isCentred ? 0.5 : 0.0) - 128 * unit;
         return hasChroma ? value / (full ? top : 224 * unit) : 0.0;
     };
     const double cb = hasChroma ? part(1) : 0.0;
