@@ -39,9 +39,8 @@ public:
         QByteArray data(bytes, '\0');
         int done = 0;
         while (done < bytes) {
-            const int got = m_input.readAt(position + done,
-                                           reinterpret_cast<uint8_t*>(data.data()) + done,
-                                           bytes - done);
+            const int got = m_input.readAt(
+                position + done, reinterpret_cast<uint8_t*>(data.data()) + done, bytes - done);
             if (got <= 0)
                 return {};
             done += got;
@@ -135,10 +134,10 @@ std::optional<QRect> apertureFrom(const QByteArray& data, const QSize& stored)
     if (!width || !height || !x || !y)
         return std::nullopt;
     // The offsets are those of the middle.
-    const QRect aperture(
-        static_cast<int>(std::lround((stored.width() - *width) / 2.0 + *x)),
-        static_cast<int>(std::lround((stored.height() - *height) / 2.0 + *y)),
-        static_cast<int>(std::lround(*width)), static_cast<int>(std::lround(*height)));
+    const QRect aperture(static_cast<int>(std::lround((stored.width() - *width) / 2.0 + *x)),
+                         static_cast<int>(std::lround((stored.height() - *height) / 2.0 + *y)),
+                         static_cast<int>(std::lround(*width)),
+                         static_cast<int>(std::lround(*height)));
     const QRect whole({0, 0}, stored);
     const bool isPart = !aperture.isEmpty() && whole.contains(aperture) && aperture != whole;
     return isPart ? std::optional(aperture) : std::nullopt;

@@ -44,11 +44,11 @@ private:
 
     Colours m_colours;
     bool m_isHdr;
-    float m_brightest;           ///< of light, white being 1
-    Table m_light;               ///< by value
-    Table m_system;              ///< HLG: what light of the display is to that of the scene, by its root
-    Table m_gain;                ///< by the root of light, less than or equal to 1
-    Table m_values;              ///< sRGB's value, by the root of light
+    float m_brightest; ///< of light, white being 1
+    Table m_light;     ///< by value
+    Table m_system;    ///< HLG: what light of the display is to that of the scene, by its root
+    Table m_gain;      ///< by the root of light, less than or equal to 1
+    Table m_values;    ///< sRGB's value, by the root of light
     std::array<float, 9> m_matrix;
 };
 

@@ -159,10 +159,10 @@ std::array<double, 9> matrixToStandard(Colours::Primaries primaries)
 {
     switch (primaries) {
     case Colours::Primaries::P3:
-        return {1.2249401763, -0.2249401763, 0.0,          -0.0420569547, 1.0420569547,
+        return {1.2249401763, -0.2249401763, 0.0,           -0.0420569547, 1.0420569547,
                 0.0,          -0.0196375546, -0.0786360456, 1.0982736001};
     case Colours::Primaries::Bt2020:
-        return {1.6604910021, -0.5876411388, -0.0728498633, -0.1245504745, 1.1328998971,
+        return {1.6604910021,  -0.5876411388, -0.0728498633, -0.1245504745, 1.1328998971,
                 -0.0083494226, -0.0181507634, -0.1005788980, 1.1187296614};
     case Colours::Primaries::Standard:
         break;
@@ -213,8 +213,8 @@ double toneMapped(double nits, double peakNits, double whiteNits)
     const double t = (value - knee) / (1.0 - knee);
     const double t2 = t * t;
     const double t3 = t2 * t;
-    const double result = (2.0 * t3 - 3.0 * t2 + 1.0) * knee +
-                          (t3 - 2.0 * t2 + t) * (1.0 - knee) + (-2.0 * t3 + 3.0 * t2) * white;
+    const double result = (2.0 * t3 - 3.0 * t2 + 1.0) * knee + (t3 - 2.0 * t2 + t) * (1.0 - knee) +
+                          (-2.0 * t3 + 3.0 * t2) * white;
     return pqToNits(result * peak);
 }
 

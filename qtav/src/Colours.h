@@ -22,7 +22,8 @@ struct Colours
 
     Transfer transfer = Transfer::Standard;
     Primaries primaries = Primaries::Standard;
-    /// The brightest light of a picture with high dynamic range, in cd/m²; of no meaning for others.
+    /// The brightest light of a picture with high dynamic range, in cd/m²; of no meaning for
+    /// others.
     double peakNits = 0.0;
 
     [[nodiscard]] bool isStandard() const;

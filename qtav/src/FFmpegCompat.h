@@ -80,8 +80,8 @@ inline SideData sideDataOf(const AVStream& stream, AVPacketSideDataType type)
     SideData found;
 #if QTAV_FFMPEG_HAS_CODED_SIDE_DATA
     const AVCodecParameters& parameters = *stream.codecpar;
-    const AVPacketSideData* sideData = av_packet_side_data_get(
-        parameters.coded_side_data, parameters.nb_coded_side_data, type);
+    const AVPacketSideData* sideData =
+        av_packet_side_data_get(parameters.coded_side_data, parameters.nb_coded_side_data, type);
     if (sideData)
         found = {sideData->data, sideData->size};
 #else

@@ -53,10 +53,15 @@ std::array<double, 9> rowsFor(AVColorSpace space)
         return {1.0, -1.0, 1.0, 1.0, 1.0, 0.0, 1.0, -1.0, -1.0};
     const YuvToRgb::Shares shares = YuvToRgb::sharesOf(space);
     const double green = 1.0 - shares.red - shares.blue;
-    return {1.0, 0.0, 2.0 * (1.0 - shares.red),
-            1.0, -2.0 * (1.0 - shares.blue) * shares.blue / green,
+    return {1.0,
+            0.0,
+            2.0 * (1.0 - shares.red),
+            1.0,
+            -2.0 * (1.0 - shares.blue) * shares.blue / green,
             -2.0 * (1.0 - shares.red) * shares.red / green,
-            1.0, 2.0 * (1.0 - shares.blue), 0.0};
+            1.0,
+            2.0 * (1.0 - shares.blue),
+            0.0};
 }
 
 // BT.2020's transfer, in which constant luminance is defined.
@@ -88,8 +93,7 @@ RgbLines::RgbLines(const AVFrame& frame)
     // The widest sample, brought to 15 bits, is 1 in full range.
     constexpr double Unit = 1 << (YuvLines::SampleBits - 8);
     const int depth = m_yuv->depth();
-    const double whole =
-        double((1 << depth) - 1) * std::pow(2.0, YuvLines::SampleBits - depth);
+    const double whole = double((1 << depth) - 1) * std::pow(2.0, YuvLines::SampleBits - depth);
     m_lumaScale = static_cast<float>(1.0 / (isFull ? whole : 219.0 * Unit));
     m_chromaScale = static_cast<float>(1.0 / (isFull ? whole : 224.0 * Unit));
     m_black = static_cast<float>(isFull ? 0.0 : 16.0 * Unit);

@@ -18,7 +18,8 @@ public:
     /// @param map  of the picture's colours; null where these are standard.
     explicit TrueColours(std::shared_ptr<const ColourMap> map);
 
-    /// True where a picture with such colours needs this, in one of the formats that RgbLines reads.
+    /// True where a picture with such colours needs this, in one of the formats that RgbLines
+    /// reads.
     static bool isNeededFor(const AVFrame& frame, const Colours& colours);
 
     /// Fills an image of the picture's stored size, in Format_ARGB32, Format_RGB888, Format_RGBX64

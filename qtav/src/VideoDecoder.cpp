@@ -132,7 +132,8 @@ bool VideoDecoder::open()
                                 .toHash()
                                 .value(QStringLiteral("threads"), 0)
                                 .toInt();
-    // Pictures that are cut at the left or the top are else cut at a column that suits the processor.
+    // Pictures that are cut at the left or the top are else cut at a column that suits the
+    // processor.
     context->flags |= AV_CODEC_FLAG_UNALIGNED;
     if (avcodec_open2(context.get(), codec, nullptr) < 0)
         return false;

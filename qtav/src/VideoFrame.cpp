@@ -173,9 +173,9 @@ try {
     const QSize upright = isReduced && isOpaque ? size : whole;
     const QSize stored = swapsSides(d->orientation) ? upright.transposed() : upright;
     const bool isScaledLater = !size.isEmpty() && (size != upright || !region.isNull());
-    QImage image = oriented(d->converter->convert(*d->frame, stored,
-                                                  convertedFormat(wanted, isScaledLater)),
-                            d->orientation);
+    QImage image =
+        oriented(d->converter->convert(*d->frame, stored, convertedFormat(wanted, isScaledLater)),
+                 d->orientation);
     if (!region.isNull()) {
         const QRect part = region.toAlignedRect() & image.rect();
         if (part.isEmpty())

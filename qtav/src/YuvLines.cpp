@@ -37,8 +37,7 @@ void mix(const uint8_t* __restrict near, const uint8_t* __restrict far, int near
 {
     const int farEighths = 8 - nearEighths;
     for (int i = 0; i < count; ++i)
-        target[i] =
-            static_cast<int16_t>((near[i] * nearEighths + far[i] * farEighths - 1024) * 16);
+        target[i] = static_cast<int16_t>((near[i] * nearEighths + far[i] * farEighths - 1024) * 16);
 }
 
 /// The same for every second byte.

@@ -24,7 +24,8 @@ public:
     void moveTo(int line);
 
     /// Where the picture has 8 bits and half as many chroma samples, each on the place of every
-    /// second luma sample: luma as stored, and that chroma, with its last sample repeated behind it.
+    /// second luma sample: luma as stored, and that chroma, with its last sample repeated behind
+    /// it.
     bool isPlainHalved() const;
     const uint8_t* storedLuma() const { return at(0, m_line); }
     const int16_t* halvedCb() const { return m_narrowCb.data() + 1; }
@@ -69,7 +70,8 @@ private:
     const uint16_t* deepAt(int component, int line) const;
     void mixChroma(int component, int16_t* samples) const;
     static void repeatEnds(std::vector<int16_t>& narrow);
-    void widenChroma(const std::vector<int16_t>& narrow, std::vector<int16_t>& wide, int from) const;
+    void widenChroma(const std::vector<int16_t>& narrow, std::vector<int16_t>& wide,
+                     int from) const;
 
     const AVFrame& m_frame;
     const AVPixFmtDescriptor& m_format;

@@ -112,8 +112,7 @@ public:
             done = convertHalvedLine(m_lines.storedLuma(), m_lines.halvedCb(), m_lines.halvedCr(),
                                      pixels, m_lines.width(), m_matrix);
         m_lines.widen(done);
-        const int16_t* const added =
-            m_lines.depth() > 8 ? m_dither.line(line) : m_plain.data();
+        const int16_t* const added = m_lines.depth() > 8 ? m_dither.line(line) : m_plain.data();
         combine(m_lines.luma() + done, m_lines.cb() + done, m_lines.cr() + done, added + done,
                 pixels + done, m_lines.width() - done, m_matrix);
         if (m_lines.hasAlpha())
@@ -214,9 +213,8 @@ AVColorSpace YuvToRgb::matrixOf(const AVFrame& frame)
     case AVCOL_SPC_YCGCO:
         return frame.colorspace;
     default:
-        return frame.width > StandardColumns || frame.height > StandardLines
-                   ? AVCOL_SPC_BT709
-                   : AVCOL_SPC_SMPTE170M;
+        return frame.width > StandardColumns || frame.height > StandardLines ? AVCOL_SPC_BT709
+                                                                             : AVCOL_SPC_SMPTE170M;
     }
 }
 

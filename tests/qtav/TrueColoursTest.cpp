@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 
 extern "C" {
 #include <libavutil/mastering_display_metadata.h>
@@ -31,6 +32,11 @@ FramePtr flat(AVPixelFormat format, const std::array<int, 3>& codes)
     frame->format = format;
     if (av_frame_get_buffer(frame.get(), 0) < 0)
         qFatal("out of memory");
+    // What is written is added to the bits that are there.
+    for (const AVBufferRef* const buffer : frame->buf) {
+        if (buffer)
+            std::memset(buffer->data, 0, buffer->size);
+    }
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(format);
     for (int c = 0; c < 3; ++c) {
         std::array<uint16_t, Side> samples{};
@@ -140,7 +146,8 @@ private slots:
 void TrueColoursTest::greysOfPq_followTheStandard_data()
 {
     QTest::addColumn<double>("nits");
-    for (const double nits : {0.0, 0.05, 1.0, 10.0, 50.0, 100.0, 203.0, 400.0, 700.0, 1000.0, 4000.0})
+    for (const double nits :
+         {0.0, 0.05, 1.0, 10.0, 50.0, 100.0, 203.0, 400.0, 700.0, 1000.0, 4000.0})
         QTest::addRow("%g", nits) << nits;
 }
 
@@ -159,7 +166,8 @@ void TrueColoursTest::coloursOfPq_followTheStandard_data()
     QTest::addColumn<double>("most");
     QTest::newRow("skin") << 90.0 << 60.0 << 45.0 << 3.0;
     QTest::newRow("sky") << 60.0 << 110.0 << 200.0 << 3.0;
-    QTest::newRow("bright yellow") << 800.0 << 700.0 << 200.0 << 3.0;
+    QTest::newRow("bright yellow") << 600.0 << 600.0 << 300.0 << 3.0;
+    QTest::newRow("outside, brighter yellow") << 800.0 << 700.0 << 200.0 << 12.0;
     QTest::newRow("dark red") << 6.0 << 2.0 << 2.0 << 3.0;
     QTest::newRow("outside, green") << 10.0 << 200.0 << 10.0 << 12.0;
     QTest::newRow("outside, bright red") << 900.0 << 5.0 << 5.0 << 12.0;
@@ -200,8 +208,7 @@ void TrueColoursTest::greysOfHlg_followTheStandard_data()
 void TrueColoursTest::greysOfHlg_followTheStandard()
 {
     QFETCH(const double, value);
-    FramePtr frame =
-        flat(AV_PIX_FMT_YUV420P10LE, codesFor({value, value, value}, 0.2627, 0.0593));
+    FramePtr frame = flat(AV_PIX_FMT_YUV420P10LE, codesFor({value, value, value}, 0.2627, 0.0593));
     frame->colorspace = AVCOL_SPC_BT2020_NCL;
     frame->color_primaries = AVCOL_PRI_BT2020;
     frame->color_trc = AVCOL_TRC_ARIB_STD_B67;
@@ -275,9 +282,10 @@ void TrueColoursTest::unusualMatrices_followTheirFormulas()
         first = (blue - luma) / (blue <= luma ? 1.9404 : 1.5816);
         second = (red - luma) / (red <= luma ? 1.7184 : 0.9936);
     }
-    FramePtr frame = flat(AV_PIX_FMT_YUV444P10LE, {static_cast<int>(std::lround(64 + 876 * luma)),
-                                                   static_cast<int>(std::lround(512 + 896 * first)),
-                                                   static_cast<int>(std::lround(512 + 896 * second))});
+    FramePtr frame =
+        flat(AV_PIX_FMT_YUV444P10LE, {static_cast<int>(std::lround(64 + 876 * luma)),
+                                      static_cast<int>(std::lround(512 + 896 * first)),
+                                      static_cast<int>(std::lround(512 + 896 * second))});
     frame->colorspace = AVColorSpace(space);
     frame->color_range = AVCOL_RANGE_MPEG;
     QVERIFY(isNear(meanOf(converted(*frame)), {255 * red, 255 * green, 255 * blue}, 1.0));

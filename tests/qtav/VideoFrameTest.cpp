@@ -185,7 +185,8 @@ void VideoFrameTest::colours_followTheStandards_forEveryMatrixRangeAndDepth()
                                  sample.primaries, sample.peakNits);
         const double allowed = allowedFor(light, sample);
         const QRect area = testsupport::patchArea(sample, patch);
-        for (const QPoint place : {area.topLeft(), area.center(), area.bottomRight() - QPoint(7, 7)}) {
+        for (const QPoint place :
+             {area.topLeft(), area.center(), area.bottomRight() - QPoint(7, 7)}) {
             const std::array<double, 3> got = meanColour(image.copy(QRect(place, QSize(8, 8))));
             for (size_t channel = 0; channel < 3; ++channel) {
                 const double expected = testsupport::srgbOf(light[channel]);

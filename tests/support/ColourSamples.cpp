@@ -40,13 +40,12 @@ QList<ColourSample> colourSampleTable()
                     QSize(1280, 528)});
     samples.append({QStringLiteral("colour_p3.mp4"), Matrix::Bt709, false, true, 8, standardSize,
                     Transfer::Standard, Primaries::P3});
-    const auto addHdr = [&samples](const char* file, Transfer transfer, double peakNits,
-                                   bool tagged = true) {
-        samples.append({QLatin1String(file), Matrix::Bt2020, false, tagged, 10, standardSize,
+    const auto addHdr = [&samples](const char* file, Transfer transfer, double peakNits) {
+        samples.append({QLatin1String(file), Matrix::Bt2020, false, true, 10, standardSize,
                         transfer, Primaries::Bt2020, peakNits});
     };
     addHdr("colour_pq_sei.mp4", Transfer::Pq, 600.0);
-    addHdr("colour_pq_boxes.mp4", Transfer::Pq, 4000.0, false);
+    addHdr("colour_pq_boxes.mp4", Transfer::Pq, 4000.0);
     addHdr("colour_pq_plain.mkv", Transfer::Pq, 1000.0);
     addHdr("colour_hlg.mkv", Transfer::Hlg, 1000.0);
     return samples;

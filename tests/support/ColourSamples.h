@@ -19,7 +19,7 @@ struct ColourSample
     QString file;
     Matrix matrix = Matrix::Bt601;
     bool fullRange = false;
-    bool tagged = true; ///< false: the stream says nothing; the container or the size decides
+    bool tagged = true; ///< false: the file says nothing, and the picture's size decides
     int bits = 8;       ///< depth of the codes: 8 or 10
     QSize size;
     Transfer transfer = Transfer::Standard;

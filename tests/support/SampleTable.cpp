@@ -190,8 +190,8 @@ QList<Sample> geometrySamples()
         Entry("anamorphic_4_3.mkv", 25, pal, {240, 240}).shownAs(small).with(Trait::Anamorphic),
         Entry("h264_cropped.mp4", 25),
         Entry("hevc_cropped.mp4", 25),
-        Entry("h264_clean_aperture.mp4", 25, pal, {352, 256}).shownAs(small),
-        Entry("h264_clean_aperture.mov", 25, pal, {352, 256}).shownAs(small),
+        Entry("h264_clean_aperture.mp4", 25).with(Trait::CleanAperture),
+        Entry("h264_clean_aperture.mov", 25).with(Trait::CleanAperture),
         Entry("h264_interlaced.mp4", 50).with(Trait::Interlaced),
         Entry("mpeg2_interlaced.ts", 50)
             .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
