@@ -1,5 +1,6 @@
 #include "qtav/src/Container.h"
 
+#include "qtav/src/CleanAperture.h"
 #include "qtav/src/FFmpegLog.h"
 
 #include <QCoreApplication>
@@ -245,6 +246,14 @@ AVRational Container::frameRate(int stream) const
 bool Container::isAvi() const
 {
     return isOneOf(*m_format->iformat, {"avi"});
+}
+
+std::optional<QRect> Container::cleanAperture(int stream)
+{
+    const AVStream& video = this->stream(stream);
+    const QSize stored(video.codecpar->width, video.codecpar->height);
+    const bool hasBoxes = std::strstr(m_format->iformat->name, "mp4") != nullptr;
+    return hasBoxes ? cleanApertureOf(*m_input, video.id, stored) : std::nullopt;
 }
 
 bool Container::isRawStream() const

@@ -4,6 +4,7 @@
 #include "qtav/src/FileInput.h"
 #include "qtav/src/Timeline.h"
 
+#include <QRect>
 #include <QString>
 #include <QVector>
 
@@ -56,6 +57,8 @@ public:
     AVRational frameRate(int stream) const;
 
     bool isAvi() const;
+    /// The part of a stream's pictures that the file wants shown; nothing for all of them.
+    [[nodiscard]] std::optional<QRect> cleanAperture(int stream);
     /// A bare sequence of pictures, without a container that would tell times.
     bool isRawStream() const;
     /// A stream for transmission: seeks land on any packet instead of a key frame.

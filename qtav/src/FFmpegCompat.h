@@ -67,24 +67,35 @@ inline std::optional<ChromaPosition> chromaPositionOf(AVChromaLocation location)
     return result < 0 ? std::nullopt : std::optional(position);
 }
 
+/// Bytes that belong to somebody else; null where there are none.
+struct SideData
+{
+    const uint8_t* data = nullptr;
+    size_t size = 0;
+};
+
+/// What a container says of a stream beside its packets. It belongs to the stream.
+inline SideData sideDataOf(const AVStream& stream, AVPacketSideDataType type)
+{
+    SideData found;
+#if QTAV_FFMPEG_HAS_CODED_SIDE_DATA
+    const AVCodecParameters& parameters = *stream.codecpar;
+    const AVPacketSideData* sideData =
+        av_packet_side_data_get(parameters.coded_side_data, parameters.nb_coded_side_data, type);
+    if (sideData)
+        found = {sideData->data, sideData->size};
+#else
+    found.data = av_stream_get_side_data(&stream, type, &found.size);
+#endif
+    return found;
+}
+
 /// The nine numbers that say how a container wants its pictures turned; null where it does not say.
 /// They belong to the stream.
 inline const qint32* displayMatrixOf(const AVStream& stream)
 {
-    const uint8_t* data = nullptr;
-    size_t size = 0;
-#if QTAV_FFMPEG_HAS_CODED_SIDE_DATA
-    const AVCodecParameters& parameters = *stream.codecpar;
-    const AVPacketSideData* sideData = av_packet_side_data_get(
-        parameters.coded_side_data, parameters.nb_coded_side_data, AV_PKT_DATA_DISPLAYMATRIX);
-    if (sideData) {
-        data = sideData->data;
-        size = sideData->size;
-    }
-#else
-    data = av_stream_get_side_data(&stream, AV_PKT_DATA_DISPLAYMATRIX, &size);
-#endif
-    return size >= 9 * sizeof(qint32) ? reinterpret_cast<const qint32*>(data) : nullptr;
+    const SideData found = sideDataOf(stream, AV_PKT_DATA_DISPLAYMATRIX);
+    return found.size >= 9 * sizeof(qint32) ? reinterpret_cast<const qint32*>(found.data) : nullptr;
 }
 
 } // namespace QtAV

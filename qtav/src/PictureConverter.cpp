@@ -1,6 +1,7 @@
 #include "qtav/src/PictureConverter.h"
 
 #include "qtav/src/FFmpegCompat.h"
+#include "qtav/src/TrueColours.h"
 
 #include <algorithm>
 
@@ -22,9 +23,12 @@ bool isXyz(AVPixelFormat format)
 AVPixelFormat readableFormatFor(AVPixelFormat format)
 {
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
+    const bool isDeep = descriptor.comp[0].depth > 8;
+    if (isRgb(descriptor) && isDeep)
+        return descriptor.flags & AV_PIX_FMT_FLAG_ALPHA ? AV_PIX_FMT_GBRAP16LE
+                                                        : AV_PIX_FMT_GBRP16LE;
     if (isRgb(descriptor) || isXyz(format))
         return AV_PIX_FMT_BGRA;
-    const bool isDeep = descriptor.comp[0].depth > 8;
     if (descriptor.flags & AV_PIX_FMT_FLAG_ALPHA)
         return isDeep ? AV_PIX_FMT_YUVA444P16LE : AV_PIX_FMT_YUVA444P;
     return isDeep ? AV_PIX_FMT_YUV444P16LE : AV_PIX_FMT_YUV444P;
@@ -74,6 +78,14 @@ void setChromaPlace(SwsContext& context, const QByteArray& side, AVPixelFormat f
         setOption(context, (side + "_v_chr_pos").constData(), position->y);
 }
 
+/// Chroma that belongs to two moments in turn cannot be scaled as if it were one's.
+bool hasFieldChroma(const AVFrame& frame)
+{
+    const AVPixFmtDescriptor& format =
+        *av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
+    return isInterlaced(frame) && format.log2_chroma_h == 1;
+}
+
 /// Smaller pictures are made by area: every pixel counts, and what is fine neither vanishes nor
 /// flickers. That smooths too much where a picture becomes larger.
 int filterFor(const QSize& from, const QSize& to)
@@ -110,9 +122,21 @@ QImage PictureConverter::convert(const AVFrame& frame, const QSize& size, QImage
     const auto format = static_cast<AVPixelFormat>(frame.format);
     if (!av_pix_fmt_desc_get(format) || size.isEmpty())
         return {};
+    const Colours colours = coloursOf(frame);
     const bool isStored = size == QSize(frame.width, frame.height);
-    if (isStored && YuvToRgb::reads(format))
-        return imageOf(frame, wanted);
+    if (isStored && (YuvToRgb::reads(format) || TrueColours::isNeededFor(frame, colours)))
+        return imageOf(frame, colours, wanted);
+    if (isStored || !hasFieldChroma(frame))
+        return scaledImage(frame, colours, size, wanted);
+    const FramePtr picture = withoutFields(frame);
+    return picture ? scaledImage(*picture, {}, size, wanted) : QImage();
+}
+
+/// Brings the picture to the size and into a format that can be read.
+QImage PictureConverter::scaledImage(const AVFrame& frame, const Colours& colours,
+                                     const QSize& size, QImage::Format wanted)
+{
+    const auto format = static_cast<AVPixelFormat>(frame.format);
     std::optional<Scaler> scaler = takeScaler(taskFor(frame, size, readableFormatFor(format)));
     if (!scaler)
         return {};
@@ -120,7 +144,7 @@ QImage PictureConverter::convert(const AVFrame& frame, const QSize& size, QImage
         scaler->picture = makePicture(scaler->task);
     if (!scaler->picture || !scale(frame, *scaler, *scaler->picture))
         return {};
-    QImage image = imageOf(*scaler->picture, wanted);
+    QImage image = imageOf(*scaler->picture, colours, wanted);
     keepScaler(std::move(*scaler));
     return image;
 }
@@ -130,29 +154,51 @@ FramePtr PictureConverter::scaled(const AVFrame& frame, const QSize& size)
     const auto format = static_cast<AVPixelFormat>(frame.format);
     if (!av_pix_fmt_desc_get(format) || size.isEmpty())
         return nullptr;
-    const AVPixelFormat target = YuvToRgb::reads(format) ? format : readableFormatFor(format);
-    std::optional<Scaler> scaler = takeScaler(taskFor(frame, size, target));
+    const FramePtr whole = hasFieldChroma(frame) ? withoutFields(frame) : nullptr;
+    const AVFrame& source = whole ? *whole : frame;
+    const auto sourceFormat = static_cast<AVPixelFormat>(source.format);
+    const AVPixelFormat target =
+        YuvToRgb::reads(sourceFormat) ? sourceFormat : readableFormatFor(sourceFormat);
+    std::optional<Scaler> scaler = takeScaler(taskFor(source, size, target));
     if (!scaler)
         return nullptr;
     FramePtr picture = makePicture(scaler->task);
-    if (!picture || !scale(frame, *scaler, *picture))
+    if (!picture || !scale(source, *scaler, *picture))
         return nullptr;
     keepScaler(std::move(*scaler));
-    picture->chroma_location = YuvToRgb::chromaLocationOf(frame);
-    picture->color_primaries = frame.color_primaries;
-    picture->color_trc = frame.color_trc;
+    picture->chroma_location = YuvToRgb::chromaLocationOf(source);
+    if (!whole)
+        completeColours(*picture, frame);
+    return picture;
+}
+
+/// An interlaced picture in sRGB, in which no chroma belongs to a field any more. Null when memory
+/// runs out.
+FramePtr PictureConverter::withoutFields(const AVFrame& frame)
+{
+    const QSize size(frame.width, frame.height);
+    const QImage image = convert(frame, size);
+    FramePtr picture = makePicture(taskFor(frame, size, AV_PIX_FMT_BGRA));
+    if (image.isNull() || !picture)
+        return nullptr;
+    av_image_copy_plane(picture->data[0], picture->linesize[0], image.constBits(),
+                        image.bytesPerLine(), frame.width * 4, frame.height);
     return picture;
 }
 
 /// The image of a picture in one of the readable formats.
-QImage PictureConverter::imageOf(const AVFrame& picture, QImage::Format format)
+QImage PictureConverter::imageOf(const AVFrame& picture, const Colours& colours,
+                                 QImage::Format format)
 {
     const QSize size(picture.width, picture.height);
     const bool hasAlpha = format == QImage::Format_ARGB32;
+    const bool isDeep = !hasAlpha && format != QImage::Format_RGB888;
     QImage image = hasAlpha ? m_images.take(size) : QImage(size, format);
     if (image.isNull())
         return image;
-    if (picture.format != AV_PIX_FMT_BGRA)
+    if (isDeep || TrueColours::isNeededFor(picture, colours))
+        TrueColours(mapFor(colours)).convert(picture, image);
+    else if (picture.format != AV_PIX_FMT_BGRA)
         YuvToRgb(picture).convert(picture, image);
     else if (hasAlpha) // the same in memory
         av_image_copy_plane(image.bits(), image.bytesPerLine(), picture.data[0],
@@ -163,6 +209,17 @@ QImage PictureConverter::imageOf(const AVFrame& picture, QImage::Format format)
                                                     ptrdiff_t(line) * picture.linesize[0]),
                       image.scanLine(line), picture.width);
     return image;
+}
+
+/// The tables for colours; null for standard ones. A video's colours hardly ever change.
+std::shared_ptr<const ColourMap> PictureConverter::mapFor(const Colours& colours)
+{
+    if (colours.isStandard())
+        return nullptr;
+    const std::lock_guard lock(m_mutex);
+    if (!m_map || m_map->colours() != colours)
+        m_map = std::make_shared<const ColourMap>(colours);
+    return m_map;
 }
 
 PictureConverter::Task PictureConverter::taskFor(const AVFrame& frame, const QSize& size,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qtav/src/ColourMap.h"
 #include "qtav/src/FFmpegHandles.h"
 #include "qtav/src/ImagePool.h"
 #include "qtav/src/YuvToRgb.h"
@@ -7,6 +8,7 @@
 #include <QImage>
 #include <QSize>
 
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <vector>
@@ -15,16 +17,17 @@ namespace QtAV {
 
 /// Turns decoded pictures of any pixel format into full-range sRGB images.
 ///
-/// Colours are converted by YuvToRgb, which is exact and reads the common formats as they are. Rare
-/// formats are brought into one of those by FFmpeg's scaler first, and so are pictures whose
-/// pixels are not square. Scalers and memory are kept for the next picture of the same kind.
+/// Colours are converted by YuvToRgb, which is exact and reads the common formats as they are, and
+/// by TrueColours where that is not enough. Rare formats are brought into one of those by FFmpeg's
+/// scaler first, and so are pictures whose pixels are not square. Scalers, tables and memory are
+/// kept for the next picture of the same kind.
 ///
 /// May be called from several threads at once.
 class PictureConverter
 {
 public:
-    /// The picture at a size in pixels, in Format_ARGB32 or, without its alpha, in Format_RGB888; a
-    /// null image when it cannot be converted or memory runs out.
+    /// The picture at a size in pixels, in Format_ARGB32 or Format_RGBA64 or, without its alpha, in
+    /// Format_RGB888 or Format_RGBX64; a null image when it cannot be converted or memory runs out.
     [[nodiscard]] QImage convert(const AVFrame& frame, const QSize& size,
                                  QImage::Format format = QImage::Format_ARGB32);
 
@@ -64,7 +67,12 @@ private:
     /// More kinds of pictures than a video and its conversions have at a time.
     static constexpr size_t MostIdleScalers = 4;
 
-    [[nodiscard]] QImage imageOf(const AVFrame& picture, QImage::Format format);
+    [[nodiscard]] QImage imageOf(const AVFrame& picture, const Colours& colours,
+                                 QImage::Format format);
+    [[nodiscard]] std::shared_ptr<const ColourMap> mapFor(const Colours& colours);
+    [[nodiscard]] FramePtr withoutFields(const AVFrame& frame);
+    [[nodiscard]] QImage scaledImage(const AVFrame& frame, const Colours& colours,
+                                     const QSize& size, QImage::Format format);
     static Task taskFor(const AVFrame& frame, const QSize& size, AVPixelFormat target);
     static ScalerPtr makeScalerContext(const Task& task);
     [[nodiscard]] static std::optional<Scaler> makeScaler(const Task& task);
@@ -75,7 +83,8 @@ private:
 
     ImagePool m_images;
     std::mutex m_mutex;
-    std::vector<Scaler> m_idle; ///< guarded by m_mutex
+    std::vector<Scaler> m_idle;             ///< guarded by m_mutex
+    std::shared_ptr<const ColourMap> m_map; ///< used last; guarded by m_mutex
 };
 
 } // namespace QtAV

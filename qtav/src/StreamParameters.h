@@ -4,6 +4,10 @@
 #include "qtav/src/Orientation.h"
 #include "qtav/src/Timeline.h"
 
+#include <QRect>
+
+#include <optional>
+
 namespace QtAV {
 
 /// What the demuxer knows of a video stream and the decoder needs. Immutable once made.
@@ -17,6 +21,11 @@ public:
     /// The container's sample aspect ratio, which takes precedence over the codec's; 0/1 = unset.
     AVRational sampleAspectRatio{0, 1};
     Orientation orientation = Orientation::Upright;
+    /// The part of the stored pictures that the container wants shown.
+    std::optional<QRect> cleanAperture;
+    /// A picture without pixels that bears what the container says of the colours; see
+    /// completeColours().
+    FramePtr statedColours;
     /// The container announces an alpha channel beside the pictures (VP8, VP9).
     bool hasAlphaLayer = false;
 };

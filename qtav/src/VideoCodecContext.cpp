@@ -4,9 +4,20 @@
 
 namespace QtAV {
 
+namespace {
+
+/// The size of the part of the stored pictures that is to be shown.
+QSize sizeOf(const StreamParameters& parameters)
+{
+    return parameters.cleanAperture ? parameters.cleanAperture->size()
+                                    : QSize(parameters.codec->width, parameters.codec->height);
+}
+
+} // namespace
+
 VideoCodecContext::VideoCodecContext(std::shared_ptr<const StreamParameters> parameters)
-    : width(parameters->codec->width)
-    , height(parameters->codec->height)
+    : width(sizeOf(*parameters).width())
+    , height(sizeOf(*parameters).height())
     , m_parameters(std::move(parameters))
 {}
 

@@ -1,5 +1,6 @@
 #include <QtAV/VideoDecoder.h>
 
+#include "qtav/src/Colours.h"
 #include "qtav/src/FFmpegCompat.h"
 #include "qtav/src/FFmpegHandles.h"
 #include "qtav/src/FFmpegLog.h"
@@ -17,6 +18,18 @@
 namespace QtAV {
 
 namespace {
+
+/// Leaves the picture as it is where it has another size than the container says.
+void cutTo(const QRect& part, AVFrame& frame, const AVCodecParameters& codec)
+{
+    if (frame.width != codec.width || frame.height != codec.height)
+        return;
+    frame.crop_left = static_cast<size_t>(part.left());
+    frame.crop_top = static_cast<size_t>(part.top());
+    frame.crop_right = static_cast<size_t>(codec.width - part.right() - 1);
+    frame.crop_bottom = static_cast<size_t>(codec.height - part.bottom() - 1);
+    static_cast<void>(av_frame_apply_cropping(&frame, AV_FRAME_CROP_UNALIGNED));
+}
 
 const AVCodec* decoderFor(const StreamParameters& parameters)
 {
@@ -119,6 +132,9 @@ bool VideoDecoder::open()
                                 .toHash()
                                 .value(QStringLiteral("threads"), 0)
                                 .toInt();
+    // Pictures that are cut at the left or the top are else cut at a column that suits the
+    // processor.
+    context->flags |= AV_CODEC_FLAG_UNALIGNED;
     if (avcodec_open2(context.get(), codec, nullptr) < 0)
         return false;
     d->context = std::move(context);
@@ -360,6 +376,9 @@ void VideoDecoder::Private::deliver(FramePtr frame)
     repeatedTicks = AV_NOPTS_VALUE;
     lastTicks = ticks;
     nextTicks = ticks + std::max<qint64>(1, durationTicks(*frame));
+    completeColours(*frame, *parameters->statedColours);
+    if (parameters->cleanAperture)
+        cutTo(*parameters->cleanAperture, *frame, *parameters->codec);
     frames.emplace_back(new VideoFramePrivate(std::move(frame), ticks, parameters, converter));
 }
 

@@ -41,6 +41,20 @@ QImage withoutAlpha(const QImage& image)
     return result;
 }
 
+/// The format that is made of a picture at once, on the way to the one that is wanted.
+QImage::Format convertedFormat(QImage::Format wanted, bool isScaledLater)
+{
+    switch (wanted) {
+    case QImage::Format_RGB888:
+        return isScaledLater ? QImage::Format_ARGB32 : wanted;
+    case QImage::Format_RGBX64:
+    case QImage::Format_RGBA64:
+        return wanted;
+    default:
+        return QImage::Format_ARGB32;
+    }
+}
+
 /// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
 constexpr double WidestPixel = 16.0;
 
@@ -164,14 +178,14 @@ try {
     const QSize whole = displaySize();
     const bool isReduced = region.isNull() && !size.isEmpty() && size.width() <= whole.width() &&
                            size.height() <= whole.height();
-    const bool isOpaqueYuv = PictureConverter::isOpaqueYuv(*d->frame);
-    const QSize upright = isReduced && isOpaqueYuv ? size : whole;
+    // What was scaled down may have another format, but has no alpha either.
+    const bool isOpaque = d->isScaledDown || PictureConverter::isOpaqueYuv(*d->frame);
+    const QSize upright = isReduced && isOpaque ? size : whole;
     const QSize stored = swapsSides(d->orientation) ? upright.transposed() : upright;
     const bool isScaledLater = !size.isEmpty() && (size != upright || !region.isNull());
-    const bool dropsAlpha = wanted == QImage::Format_RGB888 && !isScaledLater;
-    QImage image = oriented(
-        d->converter->convert(*d->frame, stored, dropsAlpha ? wanted : QImage::Format_ARGB32),
-        d->orientation);
+    QImage image =
+        oriented(d->converter->convert(*d->frame, stored, convertedFormat(wanted, isScaledLater)),
+                 d->orientation);
     if (!region.isNull()) {
         const QRect part = region.toAlignedRect() & image.rect();
         if (part.isEmpty())
@@ -181,7 +195,7 @@ try {
     if (!size.isEmpty() && size != image.size())
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     // Without transparent parts these formats are the same in memory.
-    if (isOpaqueYuv && wanted == QImage::Format_ARGB32_Premultiplied)
+    if (isOpaque && wanted == QImage::Format_ARGB32_Premultiplied)
         image.reinterpretAsFormat(wanted);
     if (image.format() == QImage::Format_ARGB32 && wanted == QImage::Format_RGB888)
         return withoutAlpha(image);

@@ -1,5 +1,6 @@
 #include "qtav/src/VideoPackets.h"
 
+#include "qtav/src/Colours.h"
 #include "qtav/src/FFmpegCompat.h"
 #include "qtav/src/PacketHandle.h"
 
@@ -61,6 +62,8 @@ void VideoPackets::describeStream()
     parameters->frameRate = m_container.frameRate(m_stream);
     parameters->sampleAspectRatio = stream.sample_aspect_ratio;
     parameters->orientation = orientationFromDisplayMatrix(displayMatrixOf(stream));
+    parameters->cleanAperture = m_container.cleanAperture(m_stream);
+    parameters->statedColours = statedColours(stream);
     const AVDictionaryEntry* alpha = av_dict_get(stream.metadata, "alpha_mode", nullptr, 0);
     parameters->hasAlphaLayer = alpha && std::strcmp(alpha->value, "1") == 0;
     m_parameters = std::move(parameters);

@@ -1,34 +1,26 @@
 #include "qtav/src/YuvToRgb.h"
 
-#include "qtav/src/FFmpegCompat.h"
+#include "qtav/src/Dither.h"
+#include "qtav/src/SeveralProcessors.h"
+#include "qtav/src/YuvLines.h"
 #include "qtav/src/YuvToRgbLines.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <vector>
-
-// The loops below are compiled for several processors, and the best is taken when the program
-// starts. That choice is made too early for the sanitizers.
-#if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__) &&                             \
-    !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-#define FOR_SEVERAL_PROCESSORS __attribute__((target_clones("avx2", "ssse3", "default")))
-#else
-#define FOR_SEVERAL_PROCESSORS
-#endif
 
 namespace QtAV {
 
 namespace {
 
-// A sample has 15 bits, chroma less its middle; a result has 5 bits behind the binary point.
-constexpr int SampleBits = 15;
-constexpr int ChromaMiddle = 1 << (SampleBits - 1);
+// A result has 5 bits behind the binary point.
+constexpr int SampleBits = YuvLines::SampleBits;
 constexpr int FactorBits = 13;
 constexpr int FractionBits = 5;
 
-/// From this height up a picture that does not tell its matrix is in high definition.
-constexpr int HighDefinitionLines = 720;
+/// A picture of more columns or lines that does not tell its matrix is in high definition.
+constexpr int StandardColumns = 1279;
+constexpr int StandardLines = 576;
 
 // The pattern that compilers turn into one rounding multiplication of 16-bit lanes.
 inline int16_t multiplied(int16_t a, int16_t b)
@@ -36,97 +28,28 @@ inline int16_t multiplied(int16_t a, int16_t b)
     return static_cast<int16_t>((((int32_t(a) * b) >> 14) + 1) >> 1);
 }
 
-inline int16_t toByte(int16_t value)
+inline int16_t toByte(int16_t value, int16_t added)
 {
-    constexpr int16_t Half = 1 << (FractionBits - 1);
-    const auto rounded = static_cast<int16_t>((value + Half) >> FractionBits);
-    return std::min<int16_t>(std::max<int16_t>(rounded, 0), 255);
+    const auto whole = static_cast<int16_t>((value + added) >> FractionBits);
+    return std::min<int16_t>(std::max<int16_t>(whole, 0), 255);
 }
 
-FOR_SEVERAL_PROCESSORS
-void widen(const uint8_t* __restrict source, int16_t* __restrict target, int count)
-{
-    for (int i = 0; i < count; ++i)
-        target[i] = static_cast<int16_t>(source[i] << (SampleBits - 8));
-}
-
-FOR_SEVERAL_PROCESSORS
-void widenDeep(const uint16_t* __restrict source, int16_t* __restrict target, int count, int depth)
-{
-    // One bit more than wanted, so that 16 bits shift the same way as fewer do.
-    const int shift = SampleBits + 1 - depth;
-    for (int i = 0; i < count; ++i)
-        target[i] = static_cast<int16_t>((uint32_t(source[i]) << shift) >> 1);
-}
-
-/// Two lines of chroma, mixed in quarters, the middle taken off.
-FOR_SEVERAL_PROCESSORS
-void mix(const uint8_t* __restrict near, const uint8_t* __restrict far, int nearQuarters,
-         int16_t* __restrict target, int count)
-{
-    const int farQuarters = 4 - nearQuarters;
-    for (int i = 0; i < count; ++i)
-        target[i] =
-            static_cast<int16_t>((near[i] * nearQuarters + far[i] * farQuarters - 512) * 32);
-}
-
-/// The same for every second byte.
-FOR_SEVERAL_PROCESSORS
-void mixInterleaved(const uint8_t* __restrict near, const uint8_t* __restrict far, int nearQuarters,
-                    int16_t* __restrict target, int count)
-{
-    const int farQuarters = 4 - nearQuarters;
-    for (ptrdiff_t i = 0; i < count; ++i) {
-        const int sum = near[2 * i] * nearQuarters + far[2 * i] * farQuarters;
-        target[i] = static_cast<int16_t>((sum - 512) * 32);
-    }
-}
-
-FOR_SEVERAL_PROCESSORS
-void mixDeep(const uint16_t* __restrict near, const uint16_t* __restrict far, int nearQuarters,
-             int16_t* __restrict target, int count, int depth)
-{
-    const int farQuarters = 4 - nearQuarters;
-    const int shift = SampleBits + 1 - depth;
-    for (int i = 0; i < count; ++i) {
-        const uint32_t sum = near[i] * uint32_t(nearQuarters) + far[i] * uint32_t(farQuarters);
-        target[i] = static_cast<int16_t>(int32_t((sum << shift) >> 3) - ChromaMiddle);
-    }
-}
-
-/// Twice as many samples: every second one on its own place, the others half-way to the next.
-/// source[count] repeats the last.
-FOR_SEVERAL_PROCESSORS
-void doubleFromLeft(const int16_t* __restrict source, int16_t* __restrict target, int count)
-{
-    for (ptrdiff_t i = 0; i < count; ++i) {
-        target[2 * i] = source[i];
-        target[2 * i + 1] = static_cast<int16_t>((source[i] + source[i + 1] + 1) >> 1);
-    }
-}
-
-/// Twice as many samples, a quarter to the left and to the right of the old ones.
-/// source[-1] and source[count] repeat the outermost.
-FOR_SEVERAL_PROCESSORS
-void doubleFromCentre(const int16_t* __restrict source, int16_t* __restrict target, int count)
-{
-    for (ptrdiff_t i = 0; i < count; ++i) {
-        target[2 * i] = static_cast<int16_t>((source[i] * 3 + source[i - 1] + 2) >> 2);
-        target[2 * i + 1] = static_cast<int16_t>((source[i] * 3 + source[i + 1] + 2) >> 2);
-    }
-}
+constexpr int16_t Half = 1 << (FractionBits - 1);
 
 FOR_SEVERAL_PROCESSORS
 void combine(const int16_t* __restrict lumas, const int16_t* __restrict cbs,
-             const int16_t* __restrict crs, uint32_t* __restrict pixels, int count,
-             YuvToRgb::Matrix m)
+             const int16_t* __restrict crs, const int16_t* __restrict added,
+             uint32_t* __restrict pixels, int count, YuvToRgb::Matrix m)
 {
     for (int i = 0; i < count; ++i) {
         const int16_t luma = multiplied(static_cast<int16_t>(lumas[i] - m.black), m.luma);
-        const int16_t red = toByte(static_cast<int16_t>(luma + multiplied(crs[i], m.crToRed)));
+        const int16_t red =
+            toByte(static_cast<int16_t>(luma + multiplied(crs[i], m.crToRed)), added[i]);
         const int16_t green = toByte(static_cast<int16_t>(luma - multiplied(cbs[i], m.cbToGreen) -
-                                                          multiplied(crs[i], m.crToGreen)));
-        const int16_t blue = toByte(static_cast<int16_t>(luma + multiplied(cbs[i], m.cbToBlue)));
+                                                          multiplied(crs[i], m.crToGreen)),
+                                     added[i]);
+        const int16_t blue =
+            toByte(static_cast<int16_t>(luma + multiplied(cbs[i], m.cbToBlue)), added[i]);
         const auto low = static_cast<uint16_t>(blue | (green << 8));
         const auto high = static_cast<uint16_t>(red | 0xff00);
         pixels[i] = low | uint32_t(high) << 16;
@@ -148,19 +71,85 @@ void setAlphaDeep(const uint16_t* alphas, uint32_t* pixels, int count, int depth
     }
 }
 
-bool isFullRange(const AVFrame& frame)
+int16_t factor(double value)
 {
-    return frame.color_range == AVCOL_RANGE_JPEG || YuvToRgb::isJpegFormat(frame.format);
+    return static_cast<int16_t>(std::lround(value * (1 << FactorBits)));
 }
 
-/// The shares of red and blue in luma.
-struct Shares
+YuvToRgb::Matrix makeMatrix(AVColorSpace space, bool fullRange, int depth)
 {
-    double red;
-    double blue;
+    const auto [red, blue] = YuvToRgb::sharesOf(space);
+    const double green = 1.0 - red - blue;
+    // The widest sample, brought to 15 bits, stands for 255 in full range.
+    const double fullScale = 255.0 * (1 << (SampleBits - 8)) /
+                             (double((1 << depth) - 1) * std::pow(2.0, SampleBits - depth));
+    const double luma = fullRange ? fullScale : 255.0 / 219.0;
+    const double chroma = fullRange ? fullScale : 255.0 / 224.0;
+    return {factor(luma),
+            factor(chroma * 2 * (1 - red)),
+            factor(chroma * 2 * (1 - blue) * blue / green),
+            factor(chroma * 2 * (1 - red) * red / green),
+            factor(chroma * 2 * (1 - blue)),
+            static_cast<int16_t>(fullRange ? 0 : 16 << (SampleBits - 8))};
+}
+
+/// Reads one kind of picture line by line and converts each.
+class LineConverter
+{
+public:
+    LineConverter(const AVFrame& frame, const YuvToRgb::Matrix& matrix)
+        : m_lines(frame)
+        , m_matrix(matrix)
+        , m_plain(static_cast<size_t>(frame.width), Half)
+        , m_dither(m_lines.depth() > 8 ? frame.width : 0, ditherAt)
+    {}
+
+    void convert(int line, uint32_t* pixels)
+    {
+        m_lines.moveTo(line);
+        int done = 0;
+        if (m_lines.isPlainHalved())
+            done = convertHalvedLine(m_lines.storedLuma(), m_lines.halvedCb(), m_lines.halvedCr(),
+                                     pixels, m_lines.width(), m_matrix);
+        m_lines.widen(done);
+        const int16_t* const added = m_lines.depth() > 8 ? m_dither.line(line) : m_plain.data();
+        combine(m_lines.luma() + done, m_lines.cb() + done, m_lines.cr() + done, added + done,
+                pixels + done, m_lines.width() - done, m_matrix);
+        if (m_lines.hasAlpha())
+            addAlpha(pixels);
+    }
+
+private:
+    static int16_t ditherAt(int order)
+    {
+        return static_cast<int16_t>((order << FractionBits) / Dither<int16_t>::Orders);
+    }
+
+    void addAlpha(uint32_t* pixels) const
+    {
+        const uint8_t* const alpha = m_lines.storedAlpha();
+        if (m_lines.depth() == 8)
+            setAlpha(alpha, pixels, m_lines.width());
+        else
+            setAlphaDeep(reinterpret_cast<const uint16_t*>(alpha), pixels, m_lines.width(),
+                         m_lines.depth());
+    }
+
+    YuvLines m_lines;
+    const YuvToRgb::Matrix m_matrix;
+    const std::vector<int16_t> m_plain;
+    const Dither<int16_t> m_dither;
 };
 
-Shares sharesOf(AVColorSpace space)
+} // namespace
+
+YuvToRgb::YuvToRgb(const AVFrame& frame)
+    : m_matrix(
+          makeMatrix(matrixOf(frame), isFullRange(frame),
+                     av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format))->comp[0].depth))
+{}
+
+YuvToRgb::Shares YuvToRgb::sharesOf(AVColorSpace space)
 {
     switch (space) {
     case AVCOL_SPC_BT709:
@@ -177,226 +166,10 @@ Shares sharesOf(AVColorSpace space)
     }
 }
 
-int16_t factor(double value)
+bool YuvToRgb::isFullRange(const AVFrame& frame)
 {
-    return static_cast<int16_t>(std::lround(value * (1 << FactorBits)));
+    return frame.color_range == AVCOL_RANGE_JPEG || isJpegFormat(frame.format);
 }
-
-YuvToRgb::Matrix makeMatrix(AVColorSpace space, bool fullRange, int depth)
-{
-    const auto [red, blue] = sharesOf(space);
-    const double green = 1.0 - red - blue;
-    // The widest sample, brought to 15 bits, stands for 255 in full range.
-    const double fullScale = 255.0 * (1 << (SampleBits - 8)) /
-                             (double((1 << depth) - 1) * std::pow(2.0, SampleBits - depth));
-    const double luma = fullRange ? fullScale : 255.0 / 219.0;
-    const double chroma = fullRange ? fullScale : 255.0 / 224.0;
-    return {factor(luma),
-            factor(chroma * 2 * (1 - red)),
-            factor(chroma * 2 * (1 - blue) * blue / green),
-            factor(chroma * 2 * (1 - red) * red / green),
-            factor(chroma * 2 * (1 - blue)),
-            static_cast<int16_t>(fullRange ? 0 : 16 << (SampleBits - 8))};
-}
-
-/// Where chroma was sampled between the lines and columns of luma.
-struct Siting
-{
-    enum class Vertical { Top, Centre, Bottom };
-    bool isLeft = true;
-    Vertical vertical = Vertical::Centre;
-};
-
-Siting sitingOf(const AVFrame& frame)
-{
-    switch (YuvToRgb::chromaLocationOf(frame)) {
-    case AVCHROMA_LOC_CENTER:
-        return {false, Siting::Vertical::Centre};
-    case AVCHROMA_LOC_TOPLEFT:
-        return {true, Siting::Vertical::Top};
-    case AVCHROMA_LOC_TOP:
-        return {false, Siting::Vertical::Top};
-    case AVCHROMA_LOC_BOTTOMLEFT:
-        return {true, Siting::Vertical::Bottom};
-    case AVCHROMA_LOC_BOTTOM:
-        return {false, Siting::Vertical::Bottom};
-    default:
-        return {true, Siting::Vertical::Centre};
-    }
-}
-
-/// The two lines of chroma that a line of luma lies between.
-struct ChromaLines
-{
-    int near;
-    int far;
-    int nearQuarters;
-};
-
-ChromaLines chromaLinesFor(int line, int lines, Siting::Vertical vertical)
-{
-    const int own = line / 2;
-    const bool isUpper = line % 2 == 0;
-    const int above = std::max(own - 1, 0);
-    const int below = std::min(own + 1, lines - 1);
-    switch (vertical) {
-    case Siting::Vertical::Top:
-        return isUpper ? ChromaLines{own, own, 4} : ChromaLines{own, below, 2};
-    case Siting::Vertical::Bottom:
-        return isUpper ? ChromaLines{own, above, 2} : ChromaLines{own, own, 4};
-    case Siting::Vertical::Centre:
-        break;
-    }
-    return {own, isUpper ? above : below, 3};
-}
-
-/// The lines of an interlaced picture belong to two moments: chroma stays with its own field.
-ChromaLines fieldChromaLineFor(int line, int lines)
-{
-    const int own = std::min(2 * (line / 4) + line % 2, lines - 1);
-    return {own, own, 4};
-}
-
-/// Reads one kind of picture line by line and converts each.
-class LineConverter
-{
-public:
-    LineConverter(const AVFrame& frame, const YuvToRgb::Matrix& matrix)
-        : m_frame(frame)
-        , m_format(*av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format)))
-        , m_matrix(matrix)
-        , m_siting(sitingOf(frame))
-        , m_depth(m_format.comp[0].depth)
-        , m_hasChroma(m_format.nb_components >= 3)
-        , m_halvesWidth(m_format.log2_chroma_w == 1)
-        , m_halvesHeight(m_format.log2_chroma_h == 1)
-        , m_chromaWidth(AV_CEIL_RSHIFT(frame.width, m_format.log2_chroma_w))
-        , m_chromaHeight(AV_CEIL_RSHIFT(frame.height, m_format.log2_chroma_h))
-        , m_luma(static_cast<size_t>(frame.width))
-        , m_narrowCb(static_cast<size_t>(m_chromaWidth) + 2)
-        , m_narrowCr(static_cast<size_t>(m_chromaWidth) + 2)
-        , m_cb(static_cast<size_t>(m_chromaWidth) * 2)
-        , m_cr(static_cast<size_t>(m_chromaWidth) * 2)
-    {}
-
-    void convert(int line, uint32_t* pixels)
-    {
-        int done = 0;
-        if (m_hasChroma && m_halvesWidth) {
-            mixChroma(1, line, m_narrowCb.data() + 1);
-            mixChroma(2, line, m_narrowCr.data() + 1);
-            repeatEnds(m_narrowCb);
-            repeatEnds(m_narrowCr);
-            if (m_depth == 8 && m_siting.isLeft)
-                done = convertHalvedLine(at(0, line), m_narrowCb.data() + 1, m_narrowCr.data() + 1,
-                                         pixels, m_frame.width, m_matrix);
-            widenChroma(m_narrowCb, m_cb, done);
-            widenChroma(m_narrowCr, m_cr, done);
-        } else if (m_hasChroma) {
-            mixChroma(1, line, m_cb.data());
-            mixChroma(2, line, m_cr.data());
-        }
-        convertFrom(done, line, pixels);
-        if (m_format.nb_components == 4)
-            addAlpha(line, pixels);
-    }
-
-private:
-    const uint8_t* at(int component, int line) const
-    {
-        const AVComponentDescriptor& c = m_format.comp[component];
-        return m_frame.data[c.plane] + ptrdiff_t(line) * m_frame.linesize[c.plane] + c.offset;
-    }
-
-    const uint16_t* deepAt(int component, int line) const
-    {
-        return reinterpret_cast<const uint16_t*>(at(component, line));
-    }
-
-    ChromaLines chromaLines(int line) const
-    {
-        if (!m_halvesHeight)
-            return {line, line, 4};
-        return isInterlaced(m_frame) ? fieldChromaLineFor(line, m_chromaHeight)
-                                     : chromaLinesFor(line, m_chromaHeight, m_siting.vertical);
-    }
-
-    /// The chroma at a line of luma, as many samples as are stored.
-    void mixChroma(int component, int line, int16_t* samples) const
-    {
-        const ChromaLines lines = chromaLines(line);
-        if (m_depth > 8)
-            mixDeep(deepAt(component, lines.near), deepAt(component, lines.far), lines.nearQuarters,
-                    samples, m_chromaWidth, m_depth);
-        else if (m_format.comp[component].step == 2)
-            mixInterleaved(at(component, lines.near), at(component, lines.far), lines.nearQuarters,
-                           samples, m_chromaWidth);
-        else
-            mix(at(component, lines.near), at(component, lines.far), lines.nearQuarters, samples,
-                m_chromaWidth);
-    }
-
-    static void repeatEnds(std::vector<int16_t>& narrow)
-    {
-        narrow.front() = narrow[1];
-        narrow.back() = narrow[narrow.size() - 2];
-    }
-
-    /// From the pixel `from` on, which is even.
-    void widenChroma(const std::vector<int16_t>& narrow, std::vector<int16_t>& wide, int from) const
-    {
-        const int16_t* const source = narrow.data() + 1 + from / 2;
-        int16_t* const target = wide.data() + from;
-        const int count = m_chromaWidth - from / 2;
-        if (m_siting.isLeft)
-            doubleFromLeft(source, target, count);
-        else
-            doubleFromCentre(source, target, count);
-    }
-
-    void convertFrom(int from, int line, uint32_t* pixels)
-    {
-        const int count = m_frame.width - from;
-        int16_t* const luma = m_luma.data() + from;
-        if (m_depth == 8)
-            widen(at(0, line) + from, luma, count);
-        else
-            widenDeep(deepAt(0, line) + from, luma, count, m_depth);
-        combine(luma, m_cb.data() + from, m_cr.data() + from, pixels + from, count, m_matrix);
-    }
-
-    void addAlpha(int line, uint32_t* pixels) const
-    {
-        if (m_depth == 8)
-            setAlpha(at(3, line), pixels, m_frame.width);
-        else
-            setAlphaDeep(deepAt(3, line), pixels, m_frame.width, m_depth);
-    }
-
-    const AVFrame& m_frame;
-    const AVPixFmtDescriptor& m_format;
-    const YuvToRgb::Matrix m_matrix;
-    const Siting m_siting;
-    const int m_depth;
-    const bool m_hasChroma;
-    const bool m_halvesWidth;
-    const bool m_halvesHeight;
-    const int m_chromaWidth;
-    const int m_chromaHeight;
-    std::vector<int16_t> m_luma;
-    std::vector<int16_t> m_narrowCb; ///< a line of chroma with a neighbour at either end
-    std::vector<int16_t> m_narrowCr;
-    std::vector<int16_t> m_cb; ///< zero, the middle, in a grey picture
-    std::vector<int16_t> m_cr;
-};
-
-} // namespace
-
-YuvToRgb::YuvToRgb(const AVFrame& frame)
-    : m_matrix(
-          makeMatrix(matrixOf(frame), isFullRange(frame),
-                     av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format))->comp[0].depth))
-{}
 
 bool YuvToRgb::reads(AVPixelFormat format)
 {
@@ -420,8 +193,11 @@ AVChromaLocation YuvToRgb::chromaLocationOf(const AVFrame& frame)
 {
     if (frame.chroma_location != AVCHROMA_LOC_UNSPECIFIED)
         return frame.chroma_location;
-    // JPEG's way, which full-range pictures follow, and MPEG's.
-    return isFullRange(frame) ? AVCHROMA_LOC_CENTER : AVCHROMA_LOC_LEFT;
+    // JPEG's way, which full-range pictures follow where chroma has half the lines too, and MPEG's.
+    const AVPixFmtDescriptor* const format =
+        av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
+    const bool isHalvedTwice = format && format->log2_chroma_w == 1 && format->log2_chroma_h == 1;
+    return isHalvedTwice && isFullRange(frame) ? AVCHROMA_LOC_CENTER : AVCHROMA_LOC_LEFT;
 }
 
 AVColorSpace YuvToRgb::matrixOf(const AVFrame& frame)
@@ -434,9 +210,11 @@ AVColorSpace YuvToRgb::matrixOf(const AVFrame& frame)
     case AVCOL_SPC_SMPTE240M:
     case AVCOL_SPC_BT2020_NCL:
     case AVCOL_SPC_BT2020_CL:
+    case AVCOL_SPC_YCGCO:
         return frame.colorspace;
     default:
-        return frame.height >= HighDefinitionLines ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
+        return frame.width > StandardColumns || frame.height > StandardLines ? AVCOL_SPC_BT709
+                                                                             : AVCOL_SPC_SMPTE170M;
     }
 }
 

@@ -13,7 +13,8 @@ namespace QtAV {
 ///
 /// FFmpeg's fast conversions are up to 3 of 255 off and repeat chroma samples; its exact ones cost
 /// several times as much. This one calculates with 15 bits, interpolates chroma at the place where
-/// it was sampled, and deviates by no more than 1 of 255 from the standards' formulas.
+/// it was sampled, and deviates by no more than 1 of 255 from the standards' formulas. Pictures of
+/// more than eight bits are dithered: their mean deviates less.
 class YuvToRgb
 {
 public:
@@ -24,7 +25,7 @@ public:
     /// chroma in full or half width and height, grey, NV12 and NV21.
     static bool reads(AVPixelFormat format);
 
-    /// The matrix that applies: the picture's own, or the one that its height implies.
+    /// The matrix that applies: the picture's own, or the one that its size implies.
     static AVColorSpace matrixOf(const AVFrame& frame);
 
     /// Where chroma was sampled: what the picture says, or what its range implies.
@@ -32,6 +33,15 @@ public:
 
     /// True for the formats that mean full range by themselves.
     static bool isJpegFormat(int format);
+    static bool isFullRange(const AVFrame& frame);
+
+    /// The shares of red and blue in luma.
+    struct Shares
+    {
+        double red;
+        double blue;
+    };
+    static Shares sharesOf(AVColorSpace space);
 
     /// Fills an image of the picture's stored size: Format_ARGB32, or Format_RGB888 without alpha.
     void convert(const AVFrame& frame, QImage& image) const;

@@ -25,8 +25,10 @@ QList<ColourSample> colourSampleTable()
         for (const auto& [name, matrix] : matrices) {
             for (const bool full : {false, true}) {
                 const QString range = full ? QStringLiteral("full") : QStringLiteral("limited");
+                const bool isWide = matrix == Matrix::Bt2020;
                 samples.append({QStringLiteral("colour_%1_%2_%3").arg(name, range, container(bits)),
-                                matrix, full, true, bits, standardSize});
+                                matrix, full, true, bits, standardSize, Transfer::Standard,
+                                isWide ? Primaries::Bt2020 : Primaries::Standard});
             }
         }
         samples.append({QStringLiteral("colour_untagged_sd_") + container(bits), Matrix::Bt601,
@@ -34,6 +36,18 @@ QList<ColourSample> colourSampleTable()
         samples.append({QStringLiteral("colour_untagged_hd_") + container(bits), Matrix::Bt709,
                         false, false, bits, highSize});
     }
+    samples.append({QStringLiteral("colour_untagged_cropped.mp4"), Matrix::Bt709, false, false, 8,
+                    QSize(1280, 528)});
+    samples.append({QStringLiteral("colour_p3.mp4"), Matrix::Bt709, false, true, 8, standardSize,
+                    Transfer::Standard, Primaries::P3});
+    const auto addHdr = [&samples](const char* file, Transfer transfer, double peakNits) {
+        samples.append({QLatin1String(file), Matrix::Bt2020, false, true, 10, standardSize,
+                        transfer, Primaries::Bt2020, peakNits});
+    };
+    addHdr("colour_pq_sei.mp4", Transfer::Pq, 600.0);
+    addHdr("colour_pq_boxes.mp4", Transfer::Pq, 4000.0);
+    addHdr("colour_pq_plain.mkv", Transfer::Pq, 1000.0);
+    addHdr("colour_hlg.mkv", Transfer::Hlg, 1000.0);
     return samples;
 }
 

@@ -188,6 +188,10 @@ QList<Sample> geometrySamples()
             .shownAs({720, 540})
             .with(Trait::Anamorphic),
         Entry("anamorphic_4_3.mkv", 25, pal, {240, 240}).shownAs(small).with(Trait::Anamorphic),
+        Entry("h264_cropped.mp4", 25),
+        Entry("hevc_cropped.mp4", 25),
+        Entry("h264_clean_aperture.mp4", 25).with(Trait::CleanAperture),
+        Entry("h264_clean_aperture.mov", 25).with(Trait::CleanAperture),
         Entry("h264_interlaced.mp4", 50).with(Trait::Interlaced),
         Entry("mpeg2_interlaced.ts", 50)
             .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),

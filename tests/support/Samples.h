@@ -38,6 +38,7 @@ enum class Trait : quint32 {
     WrongDuration = 1u << 18,      ///< the container states half of its length, or twice
     SizeChange = 1u << 19,         ///< from frame 50 on the pictures are 176x144
     UntimedPackets = 1u << 20,     ///< most packets state no time, and guesses from the others err
+    CleanAperture = 1u << 21,      ///< 20 and 12 columns, 8 and 8 lines beside it are to be hidden
 };
 Q_DECLARE_FLAGS(Traits, Trait)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Traits)
@@ -51,7 +52,7 @@ struct Sample
     Rational tick;       ///< the unit of the container's times in seconds; 0 where they are exact
     Rational start;      ///< time of the first frame in seconds
     int firstNumber = 0; ///< the number in the first frame that is shown
-    QSize codedSize;     ///< as stored
+    QSize codedSize;     ///< as stored, less what is hidden
     QSize displaySize; ///< upright and with square pixels: the shorter side stretched, none shrunk
     Traits traits;
     QList<qint64> timesMs; ///< of each frame, for a variable rate only

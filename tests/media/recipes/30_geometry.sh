@@ -23,6 +23,26 @@ sample anamorphic_ntsc.mp4 encode_filtered 720x480 30000/1001 30 setsar=8/9 "${X
     -x264-params keyint=15:bframes=2
 sample anamorphic_4_3.mkv encode_filtered 240x240 25 25 setsar=4/3 "${X264[@]}"
 
+# What lies beside the picture is stored with it, and not to be shown.
+readonly BESIDE="pad=352:256:20:8:red"
+
+sample h264_cropped.mp4 encode_filtered 320x240 25 25 "$BESIDE" "${X264[@]}" \
+    -x264-params keyint=10:bframes=2 \
+    -bsf:v h264_metadata=crop_left=20:crop_right=12:crop_top=8:crop_bottom=8
+sample hevc_cropped.mp4 encode_filtered 320x240 25 25 "$BESIDE" "${X265[@]}" -tag:v hvc1 \
+    -x265-params "$X265_PARAMS:keyint=10" \
+    -bsf:v hevc_metadata=crop_left=20:crop_right=12:crop_top=8:crop_bottom=8
+
+# clean_aperture FILE: the file says so, as cameras and capture cards write it: 320x240, its middle 4
+# to the right of the stored one's.
+clean_aperture() {
+    encode_filtered "$1" 320x240 25 25 "$BESIDE" "${X264[@]}" -x264-params keyint=10:bframes=2
+    tool mp4_add_boxes "$1" \
+        clap:0000014000000001000000f00000000100000004000000010000000000000001
+}
+sample h264_clean_aperture.mp4 clean_aperture
+sample h264_clean_aperture.mov clean_aperture
+
 interlaced() {
     local file=$1 size=$2
     shift 2

@@ -76,7 +76,7 @@ untagged_10bit() {
     ff -i "$bare" -c copy "${EXACT[@]}" "$file"
 }
 
-# Without tags the matrix goes by the size: BT.601 below 720 lines, BT.709 from there up.
+# Without tags the matrix goes by the size: BT.709 from 1280 columns or 577 lines up, else BT.601.
 sample colour_untagged_sd_8bit.mp4 patches 320x240 8 null "${LOSSLESS_8BIT[@]}"
 sample colour_untagged_sd_10bit.mkv untagged_10bit 320x240
 sample colour_untagged_hd_8bit.mp4 patches 1280x720 8 null "${LOSSLESS_8BIT[@]}"
@@ -84,3 +84,32 @@ sample colour_untagged_hd_10bit.mkv untagged_10bit 1280x720
 
 sample h264_full_range.mp4 encode_filtered 320x240 25 50 scale=out_range=full,format=yuv420p \
     -color_range pc "${X264[@]}" -x264-params keyint=25:bframes=2
+
+# --- high dynamic range and wide gamut ------------------------------------------------------
+
+readonly HDR_X265="lossless=1:$X265_PARAMS"
+readonly MASTER_DISPLAY="G(13250,34500)B(7500,3000)R(34000,16000)WP(15635,16450)L(40000000,50)"
+
+# pq_from_encoder FILE: as x265 writes it, with what it knows of the light in the stream.
+pq_from_encoder() {
+    tagged_patches "$1" 10 bt2020nc bt2020 smpte2084 tv -c:v libx265 -preset ultrafast -tag:v hvc1 \
+        -x265-params "$HDR_X265:hdr10=1:repeat-headers=1:master-display=$MASTER_DISPLAY:max-cll=600,200"
+}
+
+# pq_from_boxes FILE: a stream that says nothing; all stands in the boxes of its container: colr
+# (nclx with 9, 16, 9 and limited range), mdcv (4000 cd/m²) and clli (none).
+pq_from_boxes() {
+    patches "$1" 320x240 10 null -c:v libx265 -preset ultrafast -tag:v hvc1 \
+        -x265-params "$HDR_X265"
+    tool mp4_add_boxes "$1" colr:6e636c7800090010000900 \
+        mdcv:33c286c41d4c0bb884d03e803d13404202625a0000000032 clli:00000000
+}
+
+sample colour_pq_sei.mp4 pq_from_encoder
+sample colour_pq_boxes.mp4 pq_from_boxes
+sample colour_pq_plain.mkv tagged_patches 10 bt2020nc bt2020 smpte2084 tv "${LOSSLESS_10BIT[@]}"
+sample colour_hlg.mkv tagged_patches 10 bt2020nc bt2020 arib-std-b67 tv "${LOSSLESS_10BIT[@]}"
+sample colour_p3.mp4 tagged_patches 8 bt709 smpte432 bt709 tv "${LOSSLESS_8BIT[@]}"
+
+# Cropped high definition that says nothing of its colours.
+sample colour_untagged_cropped.mp4 patches 1280x528 8 null "${LOSSLESS_8BIT[@]}"

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "qtav/src/FFmpegHandles.h"
+
+#include <array>
+
+namespace QtAV {
+
+/// What the R'G'B' values of a picture stand for, as far as it is not taken for sRGB.
+struct Colours
+{
+    enum class Transfer {
+        Standard, ///< as sRGB's
+        Pq,       ///< of SMPTE ST 2084: absolute light
+        Hlg,      ///< hybrid log-gamma
+    };
+    enum class Primaries {
+        Standard, ///< as sRGB's, or so near that all players take them for these
+        P3,       ///< of displays and cameras, white as sRGB's
+        Bt2020,
+    };
+
+    Transfer transfer = Transfer::Standard;
+    Primaries primaries = Primaries::Standard;
+    /// The brightest light of a picture with high dynamic range, in cd/m²; of no meaning for
+    /// others.
+    double peakNits = 0.0;
+
+    [[nodiscard]] bool isStandard() const;
+    bool operator==(const Colours& other) const;
+    bool operator!=(const Colours& other) const { return !(*this == other); }
+};
+
+/// What a container says of the colours of a stream, borne by a picture without pixels.
+[[nodiscard]] FramePtr statedColours(const AVStream& stream);
+
+/// Gives a picture what it does not say of its colours itself. Decoders drop some of what the
+/// container says.
+void completeColours(AVFrame& frame, const AVFrame& stated);
+
+/// What a picture says of itself. The peak is that of the content (MaxCLL), else that of the
+/// display on which it was mastered, else 1000 cd/m².
+[[nodiscard]] Colours coloursOf(const AVFrame& frame);
+
+/// The matrix by which linear light with the primaries becomes that with sRGB's; three rows.
+[[nodiscard]] std::array<double, 9> matrixToStandard(Colours::Primaries primaries);
+
+/// Light in cd/m² for a PQ value of 0 to 1, and back.
+[[nodiscard]] double pqToNits(double value);
+[[nodiscard]] double nitsToPq(double nits);
+
+/// Light of the scene, 0 to 1, for an HLG value of 0 to 1.
+[[nodiscard]] double hlgToScene(double value);
+
+/// sRGB's transfer of linear light, 0 to 1, and back.
+[[nodiscard]] double linearToSrgb(double light);
+[[nodiscard]] double srgbToLinear(double value);
+
+/// How bright light is shown where white of a standard picture is the brightest: the electrical
+/// transfer of ITU-R BT.2390 from pictures with the peak to that white, all in cd/m².
+[[nodiscard]] double toneMapped(double nits, double peakNits, double whiteNits);
+
+} // namespace QtAV

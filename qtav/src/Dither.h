@@ -1,0 +1,52 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace QtAV {
+
+/// What is added to values before their fraction is cut off, so that the mean of neighbours keeps
+/// what a single pixel with fewer bits cannot say. It repeats every eight lines and columns.
+template <typename Value>
+class Dither
+{
+public:
+    static constexpr int Size = 8;
+    static constexpr int Orders = Size * Size;
+
+    /// For lines of a width. `added` gives what belongs to a place in the order, 0 to 63, of those
+    /// in eight by eight pixels.
+    template <typename Added>
+    Dither(int width, const Added& added)
+    {
+        for (int y = 0; y < Size; ++y) {
+            std::vector<Value>& line = m_lines[static_cast<size_t>(y)];
+            line.resize(static_cast<size_t>(width));
+            for (size_t x = 0; x < line.size(); ++x)
+                line[x] = added(orderAt(static_cast<int>(x % Size), y));
+        }
+    }
+
+    const Value* line(int number) const
+    {
+        return m_lines[static_cast<size_t>(number % Size)].data();
+    }
+
+private:
+    /// Bayer's order: what follows each other in it lies far apart.
+    static int orderAt(int x, int y)
+    {
+        int order = 0;
+        for (int bit = 0; bit < 3; ++bit) {
+            const int column = (x >> bit) & 1;
+            const int row = (y >> bit) & 1;
+            order = order << 2 | (column ^ row) << 1 | row;
+        }
+        return order;
+    }
+
+    std::array<std::vector<Value>, Size> m_lines;
+};
+
+} // namespace QtAV
