@@ -143,11 +143,10 @@ void KernelResampling::resample(const QSize& source, const QSize& target, const 
     std::vector<Sample> rows(width * static_cast<std::size_t>(source.height()));
     for (int y = 0; y < source.height(); ++y) {
         readLine(y, line.data());
-        std::transform(columns.begin(), columns.end(),
-                       rows.begin() + static_cast<std::ptrdiff_t>(y) * target.width(),
-                       [&line, y](const Taps& taps) {
-                           return applyKernel(line, taps, taps.first, y);
-                       });
+        std::transform(
+            columns.begin(), columns.end(),
+            rows.begin() + static_cast<std::ptrdiff_t>(y) * target.width(),
+            [&line, y](const Taps& taps) { return applyKernel(line, taps, taps.first, y); });
     }
     std::vector<Sample> result(width);
     for (int y = 0; y < target.height(); ++y) {

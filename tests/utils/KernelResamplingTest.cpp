@@ -73,10 +73,10 @@ private Q_SLOTS:
         Grid source = filled({7, 5}, [](int, int) { return 0.25; });
         for (const QSize& size : {QSize(1, 1), QSize(3, 11), QSize(40, 2), QSize(7, 5)}) {
             const Grid result = scaled(source, size, static_cast<Kernel>(kernel));
-            QVERIFY(std::all_of(result.samples.begin(), result.samples.end(),
-                                [](const Sample& sample) {
-                                    return isNear(sample[0], 0.25) && isNear(sample[3], 1.0);
-                                }));
+            QVERIFY(
+                std::all_of(result.samples.begin(), result.samples.end(), [](const Sample& sample) {
+                    return isNear(sample[0], 0.25) && isNear(sample[3], 1.0);
+                }));
         }
     }
 
