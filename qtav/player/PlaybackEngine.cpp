@@ -195,6 +195,7 @@ void PlaybackEngine::carryOutCapture(Lock& lock)
     m_mayPrepare = true;
     Answer result{Answer::Kind::Captured, capture.serial};
     result.image = std::move(image);
+    result.seconds = capture.frame.timestamp();
     answer(std::move(result));
 }
 
@@ -220,6 +221,7 @@ void PlaybackEngine::replaceFile(Lock& lock)
     Answer result{Answer::Kind::Opened, file.serial, first};
     result.frameInterval = m_source.frameInterval();
     result.hasSound = m_source.hasSound();
+    result.facts = m_source.facts();
     answer(std::move(result));
 }
 

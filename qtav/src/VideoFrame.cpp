@@ -158,9 +158,9 @@ try {
     // Qt's own conversion to it divides the work between threads, and waits for ever where there is
     // no memory to start one.
     const bool dropsAlpha = wanted == QImage::Format_RGB888 && !isScaledLater;
-    QImage image = oriented(d->converter->convert(*d->frame, stored,
-                                                  dropsAlpha ? wanted : QImage::Format_ARGB32),
-                            d->orientation);
+    QImage image = oriented(
+        d->converter->convert(*d->frame, stored, dropsAlpha ? wanted : QImage::Format_ARGB32),
+        d->orientation);
     if (!region.isNull()) {
         const QRect part = region.toAlignedRect() & image.rect();
         if (part.isEmpty())
