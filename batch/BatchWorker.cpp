@@ -158,6 +158,9 @@ void BatchWorker::runInternal()
         Q_EMIT statusUpdate(this, tr("Could not open file"), Error);
         return;
     }
+    const QtAV::MediaFacts& facts = m_frameGrabber->facts();
+    m_source = std::make_unique<const PictureSource>(PictureSource::of(
+        m_config->source(), facts.tags, facts.tickNumerator, facts.tickDenominator));
     const SamplingPlan plan = SamplingPlan::make(*m_config, duration);
     qDebug("skipAmount: %lld", plan.step);
     m_frameCounter = 1;
@@ -339,7 +342,8 @@ void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
     imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), recipe);
     if (made.image.isNull()) {
         reportUnmadeImage(path, position, made.error);
-    } else if (saveImage(path, made.image, recipe.jpegQuality)) {
+    } else if (saveImage(path, made.image, recipe,
+                         m_source->at(frame.timestamp(), frame.displaySize()))) {
         Q_EMIT imageReady(this, made.image);
     }
 }
@@ -396,11 +400,12 @@ void BatchWorker::announceSaving(const QString& path)
 
 /// Saves under the given name or, while others take the names at the same moment, under the next
 /// free one. False when that failed, which has been told then.
-bool BatchWorker::saveImage(QString path, const QImage& image, int jpegQuality)
+bool BatchWorker::saveImage(QString path, const QImage& image, const ImageRecipe& recipe,
+                            const PictureSource& source)
 {
-    const auto save = [this, &image, jpegQuality](const QString& target) {
-        return imaging::save(target, image, jpegQuality,
-                             m_config->filenameProfile()->fileOutputType(), ExistingFile::Keep);
+    const QString type = m_config->filenameProfile()->fileOutputType();
+    const auto save = [&](const QString& target) {
+        return imaging::save(target, image, recipe, type, source, ExistingFile::Keep);
     };
     WriteResult result = save(path);
     while (result == WriteResult::AlreadyExists) {

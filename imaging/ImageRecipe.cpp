@@ -14,6 +14,18 @@ const WatermarkProfile* ownWatermark(const ImageProfile& profile)
         WatermarkProfile::profileManager()->profileForId(profile.watermarkProfileId()));
 }
 
+PictureMetadata metadataOf(const ImageProfile& profile)
+{
+    switch (profile.metadata()) {
+    case ImageProfile::MetadataAll:
+        return PictureMetadata::All;
+    case ImageProfile::NoMetadata:
+        return PictureMetadata::None;
+    default:
+        return PictureMetadata::WithoutPlace;
+    }
+}
+
 } // namespace
 
 ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* watermark)
@@ -25,6 +37,7 @@ ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* wat
     recipe.contrast = profile.imageContrast();
     recipe.brightness = profile.imageBrightness();
     recipe.jpegQuality = profile.imageQuality();
+    recipe.metadata = metadataOf(profile);
     if (watermark == nullptr) {
         watermark = ownWatermark(profile);
     }

@@ -32,6 +32,13 @@ struct WatermarkRecipe
     QImage picture; ///< null where there is none to draw
 };
 
+/// What a file tells of where its picture comes from.
+enum class PictureMetadata {
+    All,          ///< also where the video was recorded, and its path on the disk
+    WithoutPlace, ///< all but these two
+    None
+};
+
 /// What imaging::render() makes of a frame. A plain value that knows no profile: it may be copied
 /// to any thread, and profiles may change meanwhile.
 struct ImageRecipe
@@ -44,6 +51,7 @@ struct ImageRecipe
     int brightness = 0;            ///< is added to each sample, -255 to 255
     int jpegQuality = 100;         ///< 0 to 100
     std::optional<WatermarkRecipe> watermark = {};
+    PictureMetadata metadata = PictureMetadata::WithoutPlace; ///< of its file
 };
 
 /// The recipes that profiles stand for. They look up watermarks and read their pictures, through

@@ -1,11 +1,13 @@
 #include "imaging/Rendering.h"
 
 #include "imaging/ImageFileWriter.h"
+#include "imaging/Metadata.h"
 #include "imaging/QtOcv.h"
 #include "imaging/Resizing.h"
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QFileInfo>
 
 #include <opencv2/core.hpp>
 
@@ -122,9 +124,7 @@ QImage rendered(QImage image, const ImageRecipe& recipe)
 
 int qualityFor(const QString& type, int jpegQuality)
 {
-    const QString lower = type.toLower();
-    const bool isJpeg = lower == QLatin1String("jpeg") || lower == QLatin1String("jpg");
-    return isJpeg ? jpegQuality : ImageFileWriter::DefaultQuality;
+    return imaging::usesQuality(type) ? jpegQuality : ImageFileWriter::DefaultQuality;
 }
 
 } // namespace
@@ -157,4 +157,27 @@ WriteResult imaging::save(const QString& fileName, const QImage& image, int jpeg
                           const QString& type, ExistingFile existing)
 {
     return ImageFileWriter::write(fileName, image, qualityFor(type, jpegQuality), existing);
+}
+
+QByteArray imaging::encode(const QImage& image, const ImageRecipe& recipe, const QString& type,
+                           const PictureSource& source)
+{
+    return withMetadata(encode(image, recipe.jpegQuality, type), type, recipe, source);
+}
+
+WriteResult imaging::save(const QString& fileName, const QImage& image, const ImageRecipe& recipe,
+                          const QString& type, const PictureSource& source, ExistingFile existing)
+{
+    const QString format = QFileInfo(fileName).suffix();
+    const int quality = qualityFor(type, recipe.jpegQuality);
+    const QByteArray content =
+        withMetadata(ImageFileWriter::encode(image, format, quality), format, recipe, source);
+    return content.isEmpty() ? WriteResult::Failed
+                             : FilePublisher::publish(fileName, content, existing);
+}
+
+bool imaging::usesQuality(const QString& type)
+{
+    const QString lower = type.toLower();
+    return lower == QLatin1String("jpeg") || lower == QLatin1String("jpg");
 }

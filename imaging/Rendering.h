@@ -2,6 +2,7 @@
 
 #include "imaging/FilePublisher.h"
 #include "imaging/ImageRecipe.h"
+#include "imaging/PictureSource.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -45,6 +46,17 @@ struct Rendering
 /// 100, is used where the type is "jpg" or "jpeg", in capitals or not. See ImageFileWriter.
 [[nodiscard]] WriteResult save(const QString& fileName, const QImage& image, int jpegQuality,
                                const QString& type, ExistingFile existing);
+
+/// The same by a recipe, which says the quality and how much the file tells of its picture's
+/// source.
+[[nodiscard]] QByteArray encode(const QImage& image, const ImageRecipe& recipe, const QString& type,
+                                const PictureSource& source);
+[[nodiscard]] WriteResult save(const QString& fileName, const QImage& image,
+                               const ImageRecipe& recipe, const QString& type,
+                               const PictureSource& source, ExistingFile existing);
+
+/// A recipe's quality matters for files of this type: a suffix, in capitals or not.
+[[nodiscard]] bool usesQuality(const QString& type);
 
 /// The top left corner of an item in a container, in pixels.
 ///

@@ -28,8 +28,17 @@ class ImageProfile : public BaseProfile
     Q_PROPERTY(int imageQuality READ imageQuality WRITE setImageQuality)
     /// The id of the watermark profile to draw; empty for none. It may belong to no profile.
     Q_PROPERTY(QString watermarkProfileId READ watermarkProfileId WRITE setWatermarkProfileId)
+    /// What files tell of where their pictures come from: one of Metadata.
+    Q_PROPERTY(int metadata READ metadata WRITE setMetadata)
 
 public:
+    /// The values of metadata(); any other one means MetadataWithoutPlace.
+    enum Metadata {
+        MetadataAll = 0,          ///< also where the video was recorded and where it lies
+        MetadataWithoutPlace = 1, ///< all but that
+        NoMetadata = 2,
+    };
+
     /// A profile named "Image Profile" with a fresh id and default values; the argument is ignored.
     explicit ImageProfile(ImageProfile* ignored = nullptr);
     ~ImageProfile() override;
@@ -58,6 +67,9 @@ public:
     QString watermarkProfileId() const { return m_watermarkProfileId; }
     void setWatermarkProfileId(const QString& id) { m_watermarkProfileId = id; }
 
+    int metadata() const { return m_metadata; }
+    void setMetadata(int metadata) { m_metadata = metadata; }
+
     /// Whether black edges are cut off. No property, so that it is never persisted.
     bool cropBlackEdges() const { return m_cropBlackEdges; }
     void setCropBlackEdges(bool crop) { m_cropBlackEdges = crop; }
@@ -75,6 +87,7 @@ private:
     int m_imageBrightness = 0;
     int m_imageQuality = 90;
     QString m_watermarkProfileId;
+    int m_metadata = MetadataWithoutPlace;
     bool m_cropBlackEdges = false;
 
     static inline ProfileManager* s_profileManager = nullptr;

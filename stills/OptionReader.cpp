@@ -34,6 +34,7 @@ private:
     void readSkips();
     void readLists();
     void readPictures();
+    void readMetadata(const std::string& text);
     void readSheet();
     void readFiles();
     void readVideos();
@@ -95,6 +96,8 @@ void Reader::readPositions()
               {"--frames", !m_typed.frames.empty()},
               {"--keyframes", m_typed.keyFrames},
               {"--scenes", m_typed.scenes.has_value()}});
+    m_options.choosesPositions = m_typed.count || m_typed.every || !m_typed.at.empty() ||
+                                 !m_typed.frames.empty() || m_typed.keyFrames || m_typed.scenes;
     readKind();
     readLists();
     readSkips();
@@ -152,6 +155,10 @@ void Reader::readSkips()
     if (isList && (m_typed.skipStart || m_typed.skipEnd)) {
         fail("--skip-start and --skip-end have no meaning with --at and --frames; leave them away");
     }
+    if (m_typed.like && !m_options.choosesPositions && (m_typed.skipStart || m_typed.skipEnd)) {
+        fail("--skip-start and --skip-end have no meaning with the position of --like; leave them "
+             "away");
+    }
     if (positions.front.isPercent && positions.back.isPercent &&
         positions.front.value + positions.back.value >= 100.0) {
         fail("--skip-start and --skip-end leave nothing of the video; together they must be below "
@@ -184,6 +191,24 @@ void Reader::readPictures()
     }
     m_options.profile = m_typed.profile;
     m_options.watermark = m_typed.watermark;
+    allowOne({{"--like", m_typed.like.has_value()}, {"--profile", m_typed.profile.has_value()}});
+    m_options.like = m_typed.like;
+    if (m_typed.metadata) {
+        readMetadata(*m_typed.metadata);
+    }
+}
+
+void Reader::readMetadata(const std::string& text)
+{
+    if (text == "all") {
+        m_options.metadata = Metadata::All;
+    } else if (text == "without-place") {
+        m_options.metadata = Metadata::WithoutPlace;
+    } else if (text == "none") {
+        m_options.metadata = Metadata::None;
+    } else {
+        fail("--metadata: " + quoted(text) + " is none of all, without-place and none");
+    }
 }
 
 void Reader::readSheet()
@@ -260,7 +285,7 @@ void Reader::readVideos()
         fail("videos are not read from standard input; for a list of names there is "
              "--files-from -");
     }
-    if (videos.empty() && !m_typed.filesFrom) {
+    if (videos.empty() && !m_typed.filesFrom && !m_typed.like) {
         fail("no video is named; write stills VIDEO, or see stills --help");
     }
 }

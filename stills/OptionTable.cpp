@@ -70,6 +70,16 @@ std::vector<OptionEntry> pictureOptions()
         {section, "--watermark", "NAME", &T::watermark,
          "Draw this watermark, which was made in the window, on each picture.", nullptr,
          Completes::Nothing, nullptr},
+        {section, "--like", "PICTURE", &T::like,
+         "Make a still again by what its file tells: the same frame, size, corrections, text "
+         "watermark, type and quality. Other options change what they name. Without a video, that "
+         "of the picture is looked for beside the picture, a folder above it and where you are.",
+         nullptr, Completes::Files, nullptr},
+        {section, "--metadata", "WHAT", &T::metadata,
+         "What JPEG, PNG, TIFF and WebP files tell of where their pictures come from: all; "
+         "without-place, which leaves out where the video was recorded and its path on the disk; "
+         "or none. The default is without-place, or what --profile says.",
+         nullptr, Completes::Words, "all without-place none"},
     };
 }
 

@@ -30,6 +30,8 @@ struct TypedOptions
     Value quality;
     Value profile;
     Value watermark;
+    Value like;
+    Value metadata;
 
     Value sheet; ///< empty where it came without a value
     bool withPictures = false;

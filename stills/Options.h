@@ -54,6 +54,9 @@ enum class Existing {
     Overwrite, ///< it takes the place
 };
 
+/// What the files of pictures tell of where these come from.
+enum class Metadata { All, WithoutPlace, None };
+
 /// The contact sheet.
 struct Sheet
 {
@@ -78,6 +81,7 @@ struct Options
     Shard shard;
 
     Positions positions;
+    bool choosesPositions = false; ///< some were asked for
 
     std::optional<std::string> folder; ///< without one, beside each video
     bool writesToStandardOutput = false;
@@ -88,6 +92,8 @@ struct Options
     std::optional<std::string> profile;
     std::optional<std::string> nameProfile;
     std::optional<std::string> watermark;
+    std::optional<std::string> like; ///< a still's file
+    std::optional<Metadata> metadata;
     NameTemplate names;
     Existing existing = Existing::NextName;
 

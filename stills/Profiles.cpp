@@ -34,9 +34,12 @@ Result<const Profile*> profileNamed(const char* option, const std::string& name)
                                            quoted(name) + "; " + there);
 }
 
-std::string applyImageProfile(const Options& options, ImageRecipe& recipe)
+std::string applyImageProfile(const Options& options, const imaging::StillOrigin* like,
+                              ImageRecipe& recipe)
 {
-    if (options.profile) {
+    if (like != nullptr) {
+        recipe = like->recipe;
+    } else if (options.profile) {
         const auto profile = profileNamed<ImageProfile>("--profile", *options.profile);
         if (!profile.isGood()) {
             return profile.error;
@@ -51,8 +54,25 @@ std::string applyImageProfile(const Options& options, ImageRecipe& recipe)
             return watermark.error;
         }
         recipe.watermark = recipes::of(**watermark.value);
+    } else if (like != nullptr && like->hadPictureWatermark) {
+        return "--like: " + quoted(*options.like) +
+               " has a picture as its watermark, which its file does not hold; name that with "
+               "--watermark";
     }
     return {};
+}
+
+PictureMetadata engineMetadata(Metadata metadata)
+{
+    switch (metadata) {
+    case Metadata::All:
+        return PictureMetadata::All;
+    case Metadata::None:
+        return PictureMetadata::None;
+    case Metadata::WithoutPlace:
+        break;
+    }
+    return PictureMetadata::WithoutPlace;
 }
 
 std::string applyNaming(const Options& options, Look& look)
@@ -78,11 +98,11 @@ std::string applyNaming(const Options& options, Look& look)
 
 } // namespace
 
-Result<Look> lookOf(const Options& options)
+Result<Look> lookOf(const Options& options, const imaging::StillOrigin* like)
 {
     Look look;
     look.suffix = QStringLiteral("jpg");
-    std::string error = applyImageProfile(options, look.recipe);
+    std::string error = applyImageProfile(options, like, look.recipe);
     if (error.empty()) {
         error = applyNaming(options, look);
     }
@@ -97,6 +117,9 @@ Result<Look> lookOf(const Options& options)
     }
     if (options.quality) {
         look.recipe.jpegQuality = *options.quality;
+    }
+    if (options.metadata) {
+        look.recipe.metadata = engineMetadata(*options.metadata);
     }
     return Result<Look>::of(look);
 }

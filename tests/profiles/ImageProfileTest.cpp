@@ -26,6 +26,7 @@ private slots:
         QCOMPARE(profile.imageBrightness(), 0);
         QCOMPARE(profile.imageQuality(), 90);
         QCOMPARE(profile.watermarkProfileId(), QString());
+        QCOMPARE(profile.metadata(), int(ImageProfile::MetadataWithoutPlace));
         QCOMPARE(profile.cropBlackEdges(), false);
     }
 
@@ -49,7 +50,8 @@ private slots:
                          QStringLiteral("sameSizeAsVideo"), QStringLiteral("imageWidth"),
                          QStringLiteral("imageHeight"), QStringLiteral("maintainAspectRatio"),
                          QStringLiteral("imageContrast"), QStringLiteral("imageBrightness"),
-                         QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId")}));
+                         QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId"),
+                         QStringLiteral("metadata")}));
         QCOMPARE(ImageProfile::staticMetaObject.indexOfProperty("cropBlackEdges"), -1);
     }
 
@@ -76,6 +78,7 @@ private slots:
         saved.setImageBrightness(55);
         saved.setImageQuality(150);
         saved.setWatermarkProfileId(QStringLiteral("3F2504E0-4F89-41D3-9A0C-0305E82C3301"));
+        saved.setMetadata(ImageProfile::NoMetadata);
         saved.setCropBlackEdges(true);
         writer.addProfile(&saved);
         writer.saveProfiles();
@@ -93,6 +96,7 @@ private slots:
         QCOMPARE(loaded->imageBrightness(), 55);
         QCOMPARE(loaded->imageQuality(), 150);
         QCOMPARE(loaded->watermarkProfileId(), saved.watermarkProfileId());
+        QCOMPARE(loaded->metadata(), int(ImageProfile::NoMetadata));
         QCOMPARE(loaded->cropBlackEdges(), false);
     }
 
@@ -166,7 +170,7 @@ private slots:
         settings.beginGroup(profile->id());
         QCOMPARE(settings.value(QStringLiteral("sortOrder")), QVariant(0));
         QCOMPARE(settings.value(QStringLiteral("imageQuality")), QVariant(90));
-        QCOMPARE(settings.allKeys().size(), 12);
+        QCOMPARE(settings.allKeys().size(), 13);
 
         const std::unique_ptr<BaseProfile> made(manager->createProfile());
         QVERIFY(qobject_cast<ImageProfile*>(made.get()));

@@ -34,6 +34,7 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     connect(m_ui->profileSelector, &ProfileSelector::profileNameTextChanged, this,
             &ImageProfileDialog::profileNameTextChanged);
     setupWatermarkProfileComboBox();
+    setupMetadataComboBox();
     connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, MinAdjustment, MaxAdjustment);
     connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
     setupProfileSelector();
@@ -156,6 +157,13 @@ void ImageProfileDialog::setupWatermarkProfileComboBox()
         m_ui->watermarkProfileComboBox->addItem(profile->name(), profile->id());
 }
 
+void ImageProfileDialog::setupMetadataComboBox()
+{
+    m_ui->metadataComboBox->addItem(tr("All"), ImageProfile::MetadataAll);
+    m_ui->metadataComboBox->addItem(tr("Without Place"), ImageProfile::MetadataWithoutPlace);
+    m_ui->metadataComboBox->addItem(tr("None"), ImageProfile::NoMetadata);
+}
+
 void ImageProfileDialog::connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max)
 {
     slider->setRange(min, max);
@@ -174,6 +182,7 @@ void ImageProfileDialog::setupProfileSelector()
     addField("imageBrightness", m_ui->brightnessSpinBox);
     addField("imageContrast", m_ui->contrastSpinBox);
     addField("imageQuality", m_ui->jpegQualitySpinBox);
+    addField("metadata", m_ui->metadataComboBox);
 
     ProfileSelector* const selector = m_ui->profileSelector;
     selector->loadProfiles(ImageProfile::profileManager());

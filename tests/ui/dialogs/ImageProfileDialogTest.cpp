@@ -41,6 +41,7 @@ void fillForm(ImageProfileDialog& dialog)
     child<QSlider>(dialog, "brightnessSlider").setValue(11);
     child<QSlider>(dialog, "contrastSlider").setValue(-12);
     child<QSpinBox>(dialog, "jpegQualitySpinBox").setValue(13);
+    child<QComboBox>(dialog, "metadataComboBox").setCurrentIndex(2);
     auto& watermarks = child<QComboBox>(dialog, "watermarkProfileComboBox");
     watermarks.setCurrentIndex(watermarks.count() - 1);
 }
@@ -54,6 +55,7 @@ void compareWithFilledForm(const ImageProfile& profile, const QString& watermark
     QCOMPARE(profile.imageBrightness(), 11);
     QCOMPARE(profile.imageContrast(), -12);
     QCOMPARE(profile.imageQuality(), 13);
+    QCOMPARE(profile.metadata(), int(ImageProfile::NoMetadata));
     QCOMPARE(profile.watermarkProfileId(), watermarkId);
 }
 
@@ -173,7 +175,8 @@ void ImageProfileDialogTest::fields_areTheseInThisOrder()
                           textOf("watermarkProfileId watermarkProfileComboBox -1"),
                           textOf("imageBrightness brightnessSpinBox -1"),
                           textOf("imageContrast contrastSpinBox -1"),
-                          textOf("imageQuality jpegQualitySpinBox -1")}));
+                          textOf("imageQuality jpegQualitySpinBox -1"),
+                          textOf("metadata metadataComboBox -1")}));
 }
 
 void ImageProfileDialogTest::groupBoxes_shareTheirMargins()
@@ -200,10 +203,10 @@ void ImageProfileDialogTest::everyLabel_belongsToItsInput()
     const TestProfiles profiles;
     const ImageProfileDialog dialog(nullptr);
     const QStringList texts{textOf("Image Width:"), textOf("Image Height:"), textOf("Brightness:"),
-                            textOf("Contrast:"), textOf("JPEG Quality:")};
+                            textOf("Contrast:"),    textOf("JPEG Quality:"), textOf("Metadata:")};
     const QStringList inputs{textOf("imageWidthLineEdit"), textOf("imageHeightLineEdit"),
-                             textOf("brightnessSlider"), textOf("contrastSlider"),
-                             textOf("jpegQualitySpinBox")};
+                             textOf("brightnessSlider"),   textOf("contrastSlider"),
+                             textOf("jpegQualitySpinBox"), textOf("metadataComboBox")};
     QStringList found;
     const auto labels = dialog.findChildren<QLabel*>();
     for (const QLabel* const label : labels) {
@@ -226,6 +229,7 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
                             textOf("contrastSlider"),
                             textOf("contrastSpinBox"),
                             textOf("jpegQualitySpinBox"),
+                            textOf("metadataComboBox"),
                             textOf("watermarkProfileComboBox"),
                             textOf("watermarkProfileEditButton"),
                             textOf("resetToDefaultsButton"),
