@@ -14,6 +14,20 @@ const WatermarkProfile* ownWatermark(const ImageProfile& profile)
         WatermarkProfile::profileManager()->profileForId(profile.watermarkProfileId()));
 }
 
+ResizeFilter filterOf(const ImageProfile& profile)
+{
+    switch (profile.resizeFilter()) {
+    case ImageProfile::LanczosFilter:
+        return ResizeFilter::Lanczos;
+    case ImageProfile::BicubicFilter:
+        return ResizeFilter::Bicubic;
+    case ImageProfile::NearestFilter:
+        return ResizeFilter::Nearest;
+    default:
+        return ResizeFilter::Area;
+    }
+}
+
 PictureMetadata metadataOf(const ImageProfile& profile)
 {
     switch (profile.metadata()) {
@@ -34,6 +48,9 @@ ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* wat
     recipe.keepsSize = profile.sameSizeAsVideo();
     recipe.bounds = QSize(profile.imageWidth(), profile.imageHeight());
     recipe.keepsAspectRatio = profile.maintainAspectRatio();
+    recipe.resampling.filter = filterOf(profile);
+    recipe.resampling.light =
+        profile.resizeInLinearLight() ? ResizeLight::Linear : ResizeLight::AsCoded;
     recipe.contrast = profile.imageContrast();
     recipe.brightness = profile.imageBrightness();
     recipe.jpegQuality = profile.imageQuality();

@@ -32,6 +32,26 @@ struct WatermarkRecipe
     QImage picture; ///< null where there is none to draw
 };
 
+/// How a picture comes to another size.
+enum class ResizeFilter {
+    Area,    ///< by the area that each pixel covers: for shrinking
+    Lanczos, ///< the sharpest
+    Bicubic, ///< softer, with less ringing
+    Nearest, ///< pixels stay pixels
+};
+
+/// What is mixed where pixels are.
+enum class ResizeLight {
+    AsCoded, ///< the samples as they are
+    Linear,  ///< the light that they stand for: fine bright details keep their brightness
+};
+
+struct Resampling
+{
+    ResizeFilter filter = ResizeFilter::Area;
+    ResizeLight light = ResizeLight::AsCoded;
+};
+
 /// What a file tells of where its picture comes from.
 enum class PictureMetadata {
     All,          ///< also where the video was recorded, and its path on the disk
@@ -47,6 +67,7 @@ struct ImageRecipe
     QSize bounds;                  ///< in pixels
     bool keepsAspectRatio = false; ///< fits into the bounds; else it fills them and is cut
     bool enlarges = true;          ///< else what fits into the bounds already keeps its size
+    Resampling resampling;         ///< where the size changes
     int contrast = 0;              ///< -100 to 100, 0 for none
     int brightness = 0;            ///< is added to each sample, -255 to 255
     int jpegQuality = 100;         ///< 0 to 100

@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -17,6 +18,9 @@ constexpr int largestOpacity = 255;
 constexpr int largestFont = 2000;
 
 constexpr const char* yes = "True";
+
+/// In the order of ResizeFilter.
+constexpr std::array<const char*, 4> filterNames{"Area", "Lanczos", "Bicubic", "Nearest"};
 
 QString nameOf(const char* name)
 {
@@ -64,6 +68,24 @@ void addSize(Texts& texts, const ImageRecipe& recipe, const QSize& frame)
     if (fits) {
         texts.insert(nameOf("Enlarges"), nameOf(yes));
     }
+    const ResizeFilter filter = recipe.resampling.filter;
+    texts.insert(nameOf("Filter"), nameOf(filterNames[static_cast<std::size_t>(filter)]));
+    if (recipe.resampling.light == ResizeLight::Linear && filter != ResizeFilter::Nearest) {
+        texts.insert(nameOf("LinearLight"), nameOf(yes));
+    }
+}
+
+Resampling resamplingFrom(const Texts& texts)
+{
+    Resampling resampling;
+    const QString name = texts.value(nameOf("Filter"));
+    for (std::size_t i = 0; i < filterNames.size(); ++i) {
+        if (name == nameOf(filterNames[i])) {
+            resampling.filter = static_cast<ResizeFilter>(i);
+        }
+    }
+    resampling.light = isYes(texts, "LinearLight") ? ResizeLight::Linear : ResizeLight::AsCoded;
+    return resampling;
 }
 
 void addWatermark(Texts& texts, const WatermarkRecipe& watermark)
@@ -150,6 +172,7 @@ ImageRecipe RecipeTexts::recipeFrom(const Texts& texts)
     recipe.brightness =
         numberFrom(texts, "Brightness", -largestAdjustment, largestAdjustment, recipe.brightness);
     recipe.jpegQuality = numberFrom(texts, "Quality", 0, highestQuality, recipe.jpegQuality);
+    recipe.resampling = resamplingFrom(texts);
     const std::optional<QPoint> size = pairFrom(texts.value(nameOf("Size")), 'x');
     if (size && size->x() > 0 && size->y() > 0) {
         recipe.keepsSize = false;

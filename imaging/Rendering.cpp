@@ -108,7 +108,8 @@ QImage corrected(QImage image, const ImageRecipe& recipe)
     Picture picture = pictureOf(image);
     if (!keepsColours)
         picture.mat = adjusted(picture.mat, recipe.contrast, recipe.brightness);
-    picture.mat = resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio);
+    picture.mat = resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio,
+                          recipe.resampling);
     return imageOf(picture);
 }
 

@@ -30,6 +30,10 @@ class ImageProfile : public BaseProfile
     Q_PROPERTY(QString watermarkProfileId READ watermarkProfileId WRITE setWatermarkProfileId)
     /// What files tell of where their pictures come from: one of Metadata.
     Q_PROPERTY(int metadata READ metadata WRITE setMetadata)
+    /// How images come to another size: one of ResizeFilter, and whether light is mixed in
+    /// proportion.
+    Q_PROPERTY(int resizeFilter READ resizeFilter WRITE setResizeFilter)
+    Q_PROPERTY(bool resizeInLinearLight READ resizeInLinearLight WRITE setResizeInLinearLight)
 
 public:
     /// The values of metadata(); any other one means MetadataWithoutPlace.
@@ -37,6 +41,14 @@ public:
         MetadataAll = 0,          ///< also where the video was recorded and where it lies
         MetadataWithoutPlace = 1, ///< all but that
         NoMetadata = 2,
+    };
+
+    /// The values of resizeFilter(); any other one means AreaFilter.
+    enum ResizeFilter {
+        AreaFilter = 0,
+        LanczosFilter = 1,
+        BicubicFilter = 2,
+        NearestFilter = 3,
     };
 
     /// A profile named "Image Profile" with a fresh id and default values; the argument is ignored.
@@ -70,6 +82,12 @@ public:
     int metadata() const { return m_metadata; }
     void setMetadata(int metadata) { m_metadata = metadata; }
 
+    int resizeFilter() const { return m_resizeFilter; }
+    void setResizeFilter(int filter) { m_resizeFilter = filter; }
+
+    bool resizeInLinearLight() const { return m_resizeInLinearLight; }
+    void setResizeInLinearLight(bool linear) { m_resizeInLinearLight = linear; }
+
     /// Whether black edges are cut off. No property, so that it is never persisted.
     bool cropBlackEdges() const { return m_cropBlackEdges; }
     void setCropBlackEdges(bool crop) { m_cropBlackEdges = crop; }
@@ -88,6 +106,8 @@ private:
     int m_imageQuality = 90;
     QString m_watermarkProfileId;
     int m_metadata = MetadataWithoutPlace;
+    int m_resizeFilter = AreaFilter;
+    bool m_resizeInLinearLight = false;
     bool m_cropBlackEdges = false;
 
     static inline ProfileManager* s_profileManager = nullptr;

@@ -62,7 +62,7 @@ layer qtav qtav/
 layer video video/
 layer profiles profiles/
 layer utils utils/
-layer imaging imaging/ profiles/ product/
+layer imaging imaging/ profiles/ utils/ product/
 layer series series/ imaging/
 layer ui/batch batch/ ui/ video/ profiles/ imaging/
 layer batch batch/ series/ video/ profiles/ imaging/

@@ -34,6 +34,7 @@ private:
     void readSkips();
     void readLists();
     void readPictures();
+    void readFilter(const std::string& text);
     void readMetadata(const std::string& text);
     void readSheet();
     void readFiles();
@@ -173,6 +174,10 @@ void Reader::readPictures()
     }
     need("--enlarge", m_typed.enlarge, "--size", m_typed.size.has_value());
     m_options.enlarges = m_typed.enlarge;
+    if (m_typed.filter) {
+        readFilter(*m_typed.filter);
+    }
+    m_options.isInLinearLight = m_typed.linearLight;
     if (m_typed.format) {
         std::string format = *m_typed.format;
         std::transform(format.begin(), format.end(), format.begin(), [](char c) {
@@ -195,6 +200,21 @@ void Reader::readPictures()
     m_options.like = m_typed.like;
     if (m_typed.metadata) {
         readMetadata(*m_typed.metadata);
+    }
+}
+
+void Reader::readFilter(const std::string& text)
+{
+    if (text == "area") {
+        m_options.filter = Filter::Area;
+    } else if (text == "lanczos") {
+        m_options.filter = Filter::Lanczos;
+    } else if (text == "bicubic") {
+        m_options.filter = Filter::Bicubic;
+    } else if (text == "nearest") {
+        m_options.filter = Filter::Nearest;
+    } else {
+        fail("--filter: " + quoted(text) + " is none of area, lanczos, bicubic and nearest");
     }
 }
 

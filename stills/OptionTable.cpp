@@ -56,6 +56,15 @@ std::vector<OptionEntry> pictureOptions()
         {section, "--enlarge", nullptr, &T::enlarge,
          "Let --size enlarge smaller pictures until they fill the width or the height.", nullptr,
          Completes::Nothing, nullptr},
+        {section, "--filter", "NAME", &T::filter,
+         "How pictures come to another size: area, made for shrinking; lanczos, the sharpest; "
+         "bicubic, softer; or nearest, which leaves pixels as they are. The default is area, or "
+         "what --profile says.",
+         nullptr, Completes::Words, "area lanczos bicubic nearest"},
+        {section, "--linear-light", nullptr, &T::linearLight,
+         "Where the size changes, mix light as eyes and lenses do: fine bright details keep their "
+         "brightness.",
+         nullptr, Completes::Nothing, nullptr},
         {section, "-f,--format", "TYPE", &T::format,
          "The type of the pictures, which is their suffix too: jpg, jpeg, png, bmp, tif, tiff or "
          "webp. The default is jpg, or what --name-profile says.",

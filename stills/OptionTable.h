@@ -26,6 +26,8 @@ struct TypedOptions
 
     Value size;
     bool enlarge = false;
+    Value filter;
+    bool linearLight = false;
     Value format;
     Value quality;
     Value profile;

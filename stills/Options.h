@@ -54,6 +54,9 @@ enum class Existing {
     Overwrite, ///< it takes the place
 };
 
+/// How pictures come to another size.
+enum class Filter { Area, Lanczos, Bicubic, Nearest };
+
 /// What the files of pictures tell of where these come from.
 enum class Metadata { All, WithoutPlace, None };
 
@@ -87,6 +90,8 @@ struct Options
     bool writesToStandardOutput = false;
     std::optional<Size> size;
     bool enlarges = false;
+    std::optional<Filter> filter;
+    bool isInLinearLight = false;
     std::optional<std::string> format; ///< a suffix without dot, in small letters
     std::optional<int> quality;        ///< 0 to 100
     std::optional<std::string> profile;

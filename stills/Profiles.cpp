@@ -62,6 +62,21 @@ std::string applyImageProfile(const Options& options, const imaging::StillOrigin
     return {};
 }
 
+ResizeFilter engineFilter(Filter filter)
+{
+    switch (filter) {
+    case Filter::Lanczos:
+        return ResizeFilter::Lanczos;
+    case Filter::Bicubic:
+        return ResizeFilter::Bicubic;
+    case Filter::Nearest:
+        return ResizeFilter::Nearest;
+    case Filter::Area:
+        break;
+    }
+    return ResizeFilter::Area;
+}
+
 PictureMetadata engineMetadata(Metadata metadata)
 {
     switch (metadata) {
@@ -117,6 +132,12 @@ Result<Look> lookOf(const Options& options, const imaging::StillOrigin* like)
     }
     if (options.quality) {
         look.recipe.jpegQuality = *options.quality;
+    }
+    if (options.filter) {
+        look.recipe.resampling.filter = engineFilter(*options.filter);
+    }
+    if (options.isInLinearLight) {
+        look.recipe.resampling.light = ResizeLight::Linear;
     }
     if (options.metadata) {
         look.recipe.metadata = engineMetadata(*options.metadata);

@@ -51,6 +51,7 @@ private Q_SLOTS:
         recipe.contrast = -7;
         recipe.brightness = 31;
         recipe.jpegQuality = 83;
+        recipe.resampling = {ResizeFilter::Bicubic, ResizeLight::Linear};
         recipe.watermark = textWatermark();
         const ImageRecipe back = RecipeTexts::recipeFrom(textsOf(recipe));
         QCOMPARE(back.keepsSize, false);
@@ -59,6 +60,8 @@ private Q_SLOTS:
         QCOMPARE(back.contrast, -7);
         QCOMPARE(back.brightness, 31);
         QCOMPARE(back.jpegQuality, 83);
+        QVERIFY(back.resampling.filter == ResizeFilter::Bicubic);
+        QVERIFY(back.resampling.light == ResizeLight::Linear);
         QVERIFY(back.watermark);
         QVERIFY(back.watermark->kind == WatermarkRecipe::Kind::Text);
         QCOMPARE(back.watermark->alignment, recipe.watermark->alignment);
@@ -80,6 +83,9 @@ private Q_SLOTS:
         QCOMPARE(textsOf(sized({999, 999}, true, false)), textsOf(ImageRecipe()));
         QVERIFY(textsOf(sized({999, 999}, true, true)) != textsOf(ImageRecipe()));
         QVERIFY(textsOf(sized({100, 100}, true, true)) != textsOf(sized({100, 100}, false, true)));
+        ImageRecipe filtered;
+        filtered.resampling = {ResizeFilter::Lanczos, ResizeLight::Linear};
+        QCOMPARE(textsOf(filtered), textsOf(ImageRecipe()));
         ImageRecipe quality;
         quality.jpegQuality = 3;
         QVERIFY(textsOf(quality) != textsOf(ImageRecipe()));

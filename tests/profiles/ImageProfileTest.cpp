@@ -27,6 +27,8 @@ private slots:
         QCOMPARE(profile.imageQuality(), 90);
         QCOMPARE(profile.watermarkProfileId(), QString());
         QCOMPARE(profile.metadata(), int(ImageProfile::MetadataWithoutPlace));
+        QCOMPARE(profile.resizeFilter(), int(ImageProfile::AreaFilter));
+        QCOMPARE(profile.resizeInLinearLight(), false);
         QCOMPARE(profile.cropBlackEdges(), false);
     }
 
@@ -51,7 +53,8 @@ private slots:
                          QStringLiteral("imageHeight"), QStringLiteral("maintainAspectRatio"),
                          QStringLiteral("imageContrast"), QStringLiteral("imageBrightness"),
                          QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId"),
-                         QStringLiteral("metadata")}));
+                         QStringLiteral("metadata"), QStringLiteral("resizeFilter"),
+                         QStringLiteral("resizeInLinearLight")}));
         QCOMPARE(ImageProfile::staticMetaObject.indexOfProperty("cropBlackEdges"), -1);
     }
 
@@ -79,6 +82,8 @@ private slots:
         saved.setImageQuality(150);
         saved.setWatermarkProfileId(QStringLiteral("3F2504E0-4F89-41D3-9A0C-0305E82C3301"));
         saved.setMetadata(ImageProfile::NoMetadata);
+        saved.setResizeFilter(ImageProfile::NearestFilter);
+        saved.setResizeInLinearLight(true);
         saved.setCropBlackEdges(true);
         writer.addProfile(&saved);
         writer.saveProfiles();
@@ -97,6 +102,8 @@ private slots:
         QCOMPARE(loaded->imageQuality(), 150);
         QCOMPARE(loaded->watermarkProfileId(), saved.watermarkProfileId());
         QCOMPARE(loaded->metadata(), int(ImageProfile::NoMetadata));
+        QCOMPARE(loaded->resizeFilter(), int(ImageProfile::NearestFilter));
+        QCOMPARE(loaded->resizeInLinearLight(), true);
         QCOMPARE(loaded->cropBlackEdges(), false);
     }
 
@@ -170,7 +177,7 @@ private slots:
         settings.beginGroup(profile->id());
         QCOMPARE(settings.value(QStringLiteral("sortOrder")), QVariant(0));
         QCOMPARE(settings.value(QStringLiteral("imageQuality")), QVariant(90));
-        QCOMPARE(settings.allKeys().size(), 13);
+        QCOMPARE(settings.allKeys().size(), 15);
 
         const std::unique_ptr<BaseProfile> made(manager->createProfile());
         QVERIFY(qobject_cast<ImageProfile*>(made.get()));

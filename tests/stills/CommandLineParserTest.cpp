@@ -158,6 +158,7 @@ void CommandLineParserTest::wrongUsage_isOneLine_thatNamesTheMistake_data()
     row("--enlarge a", "--size");
     row("--format gif a", "'gif'");
     row("--quality 101 a", "'101'");
+    row("--filter sinc a", "lanczos");
     row("--metadata some a", "without-place");
     row("--like a.jpg --profile x", "--like and --profile");
     row("--like a.jpg --skip-end 3", "--skip-start");
