@@ -59,7 +59,7 @@ bool noticesLackOfMemory(const QByteArray& format)
 /// threads that Qt copies with.
 bool hasMemoryToCopy(const QImage& image)
 {
-    constexpr size_t copyBytes = 2 * sizeof(QRgb);
+    const size_t copyBytes = 2 * std::max(sizeof(QRgb), static_cast<size_t>(image.depth()) / 8);
     constexpr size_t threadBytes = 64 * 1024 * 1024;
     const auto pixels = static_cast<size_t>(image.width()) * static_cast<size_t>(image.height());
     // Volatile, or the compiler leaves out taking what is given back unused.

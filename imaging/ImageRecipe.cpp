@@ -55,6 +55,7 @@ ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* wat
     recipe.brightness = profile.imageBrightness();
     recipe.jpegQuality = profile.imageQuality();
     recipe.metadata = metadataOf(profile);
+    recipe.keepsDeepColours = profile.deepColours();
     if (watermark == nullptr) {
         watermark = ownWatermark(profile);
     }

@@ -71,6 +71,8 @@ struct ImageRecipe
     int contrast = 0;              ///< -100 to 100, 0 for none
     int brightness = 0;            ///< is added to each sample, -255 to 255
     int jpegQuality = 100;         ///< 0 to 100
+    /// Images of 16 bits a channel stay so; else they become images of 8.
+    bool keepsDeepColours = false;
     std::optional<WatermarkRecipe> watermark = {};
     PictureMetadata metadata = PictureMetadata::WithoutPlace; ///< of its file
 };

@@ -155,6 +155,9 @@ RecipeTexts::Texts RecipeTexts::of(const ImageRecipe& recipe, const QSize& frame
     texts.insert(nameOf("Contrast"), QString::number(recipe.contrast));
     texts.insert(nameOf("Brightness"), QString::number(recipe.brightness));
     addSize(texts, recipe, frame);
+    if (recipe.keepsDeepColours) {
+        texts.insert(nameOf("DeepColours"), nameOf(yes));
+    }
     if (keepsQuality) {
         texts.insert(nameOf("Quality"), QString::number(recipe.jpegQuality));
     }
@@ -172,6 +175,7 @@ ImageRecipe RecipeTexts::recipeFrom(const Texts& texts)
     recipe.brightness =
         numberFrom(texts, "Brightness", -largestAdjustment, largestAdjustment, recipe.brightness);
     recipe.jpegQuality = numberFrom(texts, "Quality", 0, highestQuality, recipe.jpegQuality);
+    recipe.keepsDeepColours = isYes(texts, "DeepColours");
     recipe.resampling = resamplingFrom(texts);
     const std::optional<QPoint> size = pairFrom(texts.value(nameOf("Size")), 'x');
     if (size && size->x() > 0 && size->y() > 0) {

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <opencv2/core.hpp>
+#include <opencv2/imgproc.hpp>
 
 #include <exception>
 #include <memory>
@@ -38,9 +39,50 @@ struct Picture
     [[nodiscard]] bool ownsSamples() const { return mat.u != nullptr; }
 };
 
+constexpr int bytesOfDeepPixel = 8;
+
+bool isDeep(QImage::Format format)
+{
+    return format == QImage::Format_RGBX64 || format == QImage::Format_RGBA64 ||
+           format == QImage::Format_RGBA64_Premultiplied;
+}
+
+/// The image as the recipe wants its channels: with 8 bits, or with 16 where it has them.
+QImage withDepth(QImage image, const ImageRecipe& recipe)
+{
+    if (!isDeep(image.format())) {
+        return image;
+    }
+    const bool hasAlpha = image.hasAlphaChannel();
+    if (recipe.keepsDeepColours) {
+        return std::move(image).convertToFormat(hasAlpha ? QImage::Format_RGBA64
+                                                         : QImage::Format_RGBX64);
+    }
+    return std::move(image).convertToFormat(hasAlpha ? QImage::Format_ARGB32
+                                                     : QImage::Format_RGB888);
+}
+
+/// Opaque pixels lose their fourth channel, so that nothing works on it.
+Picture deepPictureOf(const QImage& image)
+{
+    // constBits, because bits() would give the image pixels of its own first.
+    const cv::Mat shared(image.height(), image.width(), CV_16UC4,
+                         const_cast<uchar*>(image.constBits()),
+                         static_cast<size_t>(image.bytesPerLine()));
+    Picture picture{shared, QtOcv::Rgb};
+    if (!image.hasAlphaChannel()) {
+        picture.mat = cv::Mat();
+        cv::cvtColor(shared, picture.mat, cv::COLOR_RGBA2RGB);
+    }
+    return picture;
+}
+
 /// The image's pixels, shared with it where its format can be taken as it is.
 Picture pictureOf(const QImage& image)
 {
+    if (isDeep(image.format())) {
+        return deepPictureOf(image);
+    }
     Picture picture;
     picture.mat = QtOcv::imageToMat_shared(image, &picture.order);
     if (picture.mat.empty())
@@ -60,10 +102,27 @@ QImage adoptedImage(const cv::Mat& mat, QImage::Format format)
     return image;
 }
 
+/// The channels are in the order R, G, B or R, G, B, A.
+QImage deepImageOf(const cv::Mat& mat)
+{
+    cv::Mat pixels = mat;
+    if (mat.channels() == 3) {
+        pixels = cv::Mat();
+        cv::cvtColor(mat, pixels, cv::COLOR_RGB2RGBA);
+    } else if (mat.u == nullptr || mat.step[0] % bytesOfDeepPixel != 0) {
+        pixels = mat.clone();
+    }
+    return adoptedImage(pixels,
+                        mat.channels() == 3 ? QImage::Format_RGBX64 : QImage::Format_RGBA64);
+}
+
 /// An image of the picture that shares its pixels with nobody.
 QImage imageOf(const Picture& picture)
 {
     const cv::Mat& mat = picture.mat;
+    if (mat.depth() == CV_16U) {
+        return deepImageOf(mat);
+    }
     // Qt's own images begin every line at a multiple of four bytes, and so shall ours.
     const bool isAdoptable = picture.ownsSamples() && mat.step[0] % 4 == 0;
     if (isAdoptable && mat.type() == CV_8UC4 && picture.order == QtOcv::Bgr)
@@ -74,12 +133,15 @@ QImage imageOf(const Picture& picture)
 }
 
 /// Every sample times the contrast's gain plus the brightness, saturated, in a matrix of its own.
+/// The brightness counts in steps of 8 bits.
 cv::Mat adjusted(const cv::Mat& mat, int contrast, int brightness)
 {
     const float divisor = contrast < 0 ? LoweringContrastDivisor : RaisingContrastDivisor;
     const float gain = static_cast<float>(contrast) / divisor + 1.0F;
     cv::Mat result;
-    mat.convertTo(result, mat.type(), static_cast<double>(gain), brightness);
+    constexpr int deepSteps = 257;
+    const int offset = mat.depth() == CV_16U ? brightness * deepSteps : brightness;
+    mat.convertTo(result, mat.type(), static_cast<double>(gain), offset);
     return result;
 }
 
@@ -103,7 +165,9 @@ QImage corrected(QImage image, const ImageRecipe& recipe)
     const bool keepsSize = recipe.keepsSize || fitsAlready(image, recipe);
     const QSize size = keepsSize ? image.size() : recipe.bounds;
     const bool keepsColours = recipe.contrast == 0 && recipe.brightness == 0;
-    if (keepsColours && size == image.size() && image.format() == QImage::Format_RGB888)
+    const bool isMade =
+        image.format() == QImage::Format_RGB888 || image.format() == QImage::Format_RGBX64;
+    if (keepsColours && size == image.size() && isMade)
         return image;
     Picture picture = pictureOf(image);
     if (!keepsColours)
@@ -116,7 +180,11 @@ QImage corrected(QImage image, const ImageRecipe& recipe)
 QImage rendered(QImage image, const ImageRecipe& recipe)
 {
     qDebug() << "Contrast: " << recipe.contrast << " Brightness: " << recipe.brightness;
-    QImage result = corrected(std::move(image), recipe);
+    QImage result = withDepth(std::move(image), recipe);
+    if (result.isNull()) {
+        return result;
+    }
+    result = corrected(std::move(result), recipe);
     result.setDotsPerMeterX(dotsPerMeter);
     result.setDotsPerMeterY(dotsPerMeter);
     result.setDevicePixelRatio(1.0);

@@ -29,6 +29,10 @@ struct Rendering
 /// make it see-through. (Format_RGB32 has four.) Images of three channels give Format_RGB888, of
 /// four Format_ARGB32, of one Format_Indexed8 (greys).
 ///
+/// An image of 16 bits a channel becomes one of 8, unless the recipe keeps deep colours: then an
+/// opaque one gives Format_RGBX64, whose fourth channel no correction touches, and one with alpha
+/// Format_RGBA64. Brightness means the same as with 8 bits.
+///
 /// A null image is a failure, and so is a lack of memory: no exception leaves this function. An
 /// image that is moved in, and of which nothing changes, is not copied.
 [[nodiscard]] Rendering render(QImage image, const ImageRecipe& recipe);

@@ -34,6 +34,8 @@ class ImageProfile : public BaseProfile
     /// proportion.
     Q_PROPERTY(int resizeFilter READ resizeFilter WRITE setResizeFilter)
     Q_PROPERTY(bool resizeInLinearLight READ resizeInLinearLight WRITE setResizeInLinearLight)
+    /// PNG and TIFF files have 16 bits a channel where the frame has more than 8.
+    Q_PROPERTY(bool deepColours READ deepColours WRITE setDeepColours)
 
 public:
     /// The values of metadata(); any other one means MetadataWithoutPlace.
@@ -88,6 +90,9 @@ public:
     bool resizeInLinearLight() const { return m_resizeInLinearLight; }
     void setResizeInLinearLight(bool linear) { m_resizeInLinearLight = linear; }
 
+    bool deepColours() const { return m_deepColours; }
+    void setDeepColours(bool deep) { m_deepColours = deep; }
+
     /// Whether black edges are cut off. No property, so that it is never persisted.
     bool cropBlackEdges() const { return m_cropBlackEdges; }
     void setCropBlackEdges(bool crop) { m_cropBlackEdges = crop; }
@@ -108,6 +113,7 @@ private:
     int m_metadata = MetadataWithoutPlace;
     int m_resizeFilter = AreaFilter;
     bool m_resizeInLinearLight = false;
+    bool m_deepColours = false;
     bool m_cropBlackEdges = false;
 
     static inline ProfileManager* s_profileManager = nullptr;

@@ -178,6 +178,7 @@ void Reader::readPictures()
         readFilter(*m_typed.filter);
     }
     m_options.isInLinearLight = m_typed.linearLight;
+    m_options.keepsDeepColours = m_typed.deepColours;
     if (m_typed.format) {
         std::string format = *m_typed.format;
         std::transform(format.begin(), format.end(), format.begin(), [](char c) {

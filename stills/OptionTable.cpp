@@ -69,6 +69,9 @@ std::vector<OptionEntry> pictureOptions()
          "The type of the pictures, which is their suffix too: jpg, jpeg, png, bmp, tif, tiff or "
          "webp. The default is jpg, or what --name-profile says.",
          "jpg (default), png, webp, tiff or bmp", Completes::Words, formats},
+        {section, "--16-bit", nullptr, &T::deepColours,
+         "PNG and TIFF pictures with 16 bits a channel, where the video has more than 8.", nullptr,
+         Completes::Nothing, nullptr},
         {section, "-q,--quality", "N", &T::quality,
          "The quality of JPEG pictures, 0 to 100; 90 unless a profile or you say otherwise.",
          nullptr, Completes::Nothing, nullptr},

@@ -29,6 +29,7 @@ struct TypedOptions
     Value filter;
     bool linearLight = false;
     Value format;
+    bool deepColours = false;
     Value quality;
     Value profile;
     Value watermark;

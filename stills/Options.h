@@ -93,6 +93,7 @@ struct Options
     std::optional<Filter> filter;
     bool isInLinearLight = false;
     std::optional<std::string> format; ///< a suffix without dot, in small letters
+    bool keepsDeepColours = false;
     std::optional<int> quality;        ///< 0 to 100
     std::optional<std::string> profile;
     std::optional<std::string> nameProfile;

@@ -136,6 +136,9 @@ Result<Look> lookOf(const Options& options, const imaging::StillOrigin* like)
     if (options.filter) {
         look.recipe.resampling.filter = engineFilter(*options.filter);
     }
+    if (options.keepsDeepColours) {
+        look.recipe.keepsDeepColours = true;
+    }
     if (options.isInLinearLight) {
         look.recipe.resampling.light = ResizeLight::Linear;
     }

@@ -51,6 +51,7 @@ private Q_SLOTS:
         recipe.contrast = -7;
         recipe.brightness = 31;
         recipe.jpegQuality = 83;
+        recipe.keepsDeepColours = true;
         recipe.resampling = {ResizeFilter::Bicubic, ResizeLight::Linear};
         recipe.watermark = textWatermark();
         const ImageRecipe back = RecipeTexts::recipeFrom(textsOf(recipe));
@@ -60,6 +61,7 @@ private Q_SLOTS:
         QCOMPARE(back.contrast, -7);
         QCOMPARE(back.brightness, 31);
         QCOMPARE(back.jpegQuality, 83);
+        QVERIFY(back.keepsDeepColours);
         QVERIFY(back.resampling.filter == ResizeFilter::Bicubic);
         QVERIFY(back.resampling.light == ResizeLight::Linear);
         QVERIFY(back.watermark);

@@ -29,6 +29,7 @@ private slots:
         QCOMPARE(profile.metadata(), int(ImageProfile::MetadataWithoutPlace));
         QCOMPARE(profile.resizeFilter(), int(ImageProfile::AreaFilter));
         QCOMPARE(profile.resizeInLinearLight(), false);
+        QCOMPARE(profile.deepColours(), false);
         QCOMPARE(profile.cropBlackEdges(), false);
     }
 
@@ -54,7 +55,7 @@ private slots:
                          QStringLiteral("imageContrast"), QStringLiteral("imageBrightness"),
                          QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId"),
                          QStringLiteral("metadata"), QStringLiteral("resizeFilter"),
-                         QStringLiteral("resizeInLinearLight")}));
+                         QStringLiteral("resizeInLinearLight"), QStringLiteral("deepColours")}));
         QCOMPARE(ImageProfile::staticMetaObject.indexOfProperty("cropBlackEdges"), -1);
     }
 
@@ -84,6 +85,7 @@ private slots:
         saved.setMetadata(ImageProfile::NoMetadata);
         saved.setResizeFilter(ImageProfile::NearestFilter);
         saved.setResizeInLinearLight(true);
+        saved.setDeepColours(true);
         saved.setCropBlackEdges(true);
         writer.addProfile(&saved);
         writer.saveProfiles();
@@ -104,6 +106,7 @@ private slots:
         QCOMPARE(loaded->metadata(), int(ImageProfile::NoMetadata));
         QCOMPARE(loaded->resizeFilter(), int(ImageProfile::NearestFilter));
         QCOMPARE(loaded->resizeInLinearLight(), true);
+        QCOMPARE(loaded->deepColours(), true);
         QCOMPARE(loaded->cropBlackEdges(), false);
     }
 
@@ -177,7 +180,7 @@ private slots:
         settings.beginGroup(profile->id());
         QCOMPARE(settings.value(QStringLiteral("sortOrder")), QVariant(0));
         QCOMPARE(settings.value(QStringLiteral("imageQuality")), QVariant(90));
-        QCOMPARE(settings.allKeys().size(), 15);
+        QCOMPARE(settings.allKeys().size(), 16);
 
         const std::unique_ptr<BaseProfile> made(manager->createProfile());
         QVERIFY(qobject_cast<ImageProfile*>(made.get()));

@@ -196,6 +196,7 @@ void ImageProfileDialog::setupProfileSelector()
     addField("imageContrast", m_ui->contrastSpinBox);
     addField("imageQuality", m_ui->jpegQualitySpinBox);
     addField("metadata", m_ui->metadataComboBox);
+    addField("deepColours", m_ui->deepColoursCheckbox);
 
     ProfileSelector* const selector = m_ui->profileSelector;
     selector->loadProfiles(ImageProfile::profileManager());

@@ -44,6 +44,7 @@ void fillForm(ImageProfileDialog& dialog)
     child<QComboBox>(dialog, "metadataComboBox").setCurrentIndex(2);
     child<QComboBox>(dialog, "resizeFilterComboBox").setCurrentIndex(1);
     child<QCheckBox>(dialog, "resizeInLinearLightCheckbox").setChecked(true);
+    child<QCheckBox>(dialog, "deepColoursCheckbox").setChecked(true);
     auto& watermarks = child<QComboBox>(dialog, "watermarkProfileComboBox");
     watermarks.setCurrentIndex(watermarks.count() - 1);
 }
@@ -60,6 +61,7 @@ void compareWithFilledForm(const ImageProfile& profile, const QString& watermark
     QCOMPARE(profile.metadata(), int(ImageProfile::NoMetadata));
     QCOMPARE(profile.resizeFilter(), int(ImageProfile::LanczosFilter));
     QVERIFY(profile.resizeInLinearLight());
+    QVERIFY(profile.deepColours());
     QCOMPARE(profile.watermarkProfileId(), watermarkId);
 }
 
@@ -137,6 +139,7 @@ void ImageProfileDialogTest::form_hasItsTexts()
         {"sameSizeAsVideoCheckbox", "Same Size as Video"},
         {"maintainAspectRatioCheckbox", "Maintain Aspect Ratio"},
         {"resizeInLinearLightCheckbox", "Resize in Linear Light"},
+        {"deepColoursCheckbox", "16-Bit PNG and TIFF"},
         {"watermarkProfileEditButton", "Edit"},
         {"resetToDefaultsButton", "Reset to Defaults"},
         {"saveButton", "Save"},
@@ -183,7 +186,8 @@ void ImageProfileDialogTest::fields_areTheseInThisOrder()
                           textOf("imageBrightness brightnessSpinBox -1"),
                           textOf("imageContrast contrastSpinBox -1"),
                           textOf("imageQuality jpegQualitySpinBox -1"),
-                          textOf("metadata metadataComboBox -1")}));
+                          textOf("metadata metadataComboBox -1"),
+                          textOf("deepColours deepColoursCheckbox -1")}));
 }
 
 void ImageProfileDialogTest::groupBoxes_shareTheirMargins()
@@ -239,6 +243,7 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
                             textOf("contrastSpinBox"),
                             textOf("jpegQualitySpinBox"),
                             textOf("metadataComboBox"),
+                            textOf("deepColoursCheckbox"),
                             textOf("watermarkProfileComboBox"),
                             textOf("watermarkProfileEditButton"),
                             textOf("resetToDefaultsButton"),
