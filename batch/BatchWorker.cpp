@@ -338,12 +338,16 @@ void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
     }
     const QString path = firstFreePath();
     announceSaving(path);
-    const ImageRecipe recipe = recipes::of(*m_config->imageProfile());
-    imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), recipe);
+    const ImageRecipe recipe = forType(recipes::of(*m_config->imageProfile()),
+                                       m_config->filenameProfile()->fileOutputType());
+    const QImage::Format format =
+        recipe.keepsDeepColours ? frame.deepImageFormat() : frame.imageFormat();
+    imaging::Rendering made = imaging::render(frame.toImage(format), recipe);
+    const PictureSource source =
+        m_source ? m_source->at(frame.timestamp(), frame.displaySize()) : PictureSource();
     if (made.image.isNull()) {
         reportUnmadeImage(path, position, made.error);
-    } else if (saveImage(path, made.image, recipe,
-                         m_source->at(frame.timestamp(), frame.displaySize()))) {
+    } else if (saveImage(path, made.image, recipe, source)) {
         Q_EMIT imageReady(this, made.image);
     }
 }

@@ -107,7 +107,7 @@ private:
     std::atomic<int> m_waitingFrames{0};
     BatchWorkerConfig* m_config = nullptr;
     FrameGrabber* m_frameGrabber;
-    std::unique_ptr<const PictureSource> m_source; ///< the video, once run() has opened it
+    std::unique_ptr<const PictureSource> m_source; ///< the video; null until run() has opened it
     struct Series;
     std::unique_ptr<const Series> m_series; ///< of a job with exact frames, once prepared
     std::mutex m_newsMutex;

@@ -1,5 +1,6 @@
 #include "imaging/ImageRecipe.h"
 
+#include "imaging/ImageFormats.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
@@ -41,6 +42,12 @@ PictureMetadata metadataOf(const ImageProfile& profile)
 }
 
 } // namespace
+
+ImageRecipe forType(ImageRecipe recipe, const QString& type)
+{
+    recipe.keepsDeepColours = recipe.keepsDeepColours && ImageFormats::hasDepth(type);
+    return recipe;
+}
 
 ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* watermark)
 {

@@ -71,11 +71,15 @@ struct ImageRecipe
     int contrast = 0;              ///< -100 to 100, 0 for none
     int brightness = 0;            ///< is added to each sample, -255 to 255
     int jpegQuality = 100;         ///< 0 to 100
-    /// Images of 16 bits a channel stay so; else they become images of 8.
+    /// Images of 16 bits a channel stay so; else they become images of 8. See forType().
     bool keepsDeepColours = false;
     std::optional<WatermarkRecipe> watermark = {};
     PictureMetadata metadata = PictureMetadata::WithoutPlace; ///< of its file
 };
+
+/// The recipe as it can be carried out for files of a type, which is a suffix: without deep
+/// colours where these cannot hold them.
+[[nodiscard]] ImageRecipe forType(ImageRecipe recipe, const QString& type);
 
 /// The recipes that profiles stand for. They look up watermarks and read their pictures, through
 /// the profiles' shared cache: user-interface thread only.

@@ -1,6 +1,7 @@
 #include "imaging/Rendering.h"
 
 #include "imaging/ImageFileWriter.h"
+#include "imaging/ImageFormats.h"
 #include "imaging/Metadata.h"
 #include "imaging/QtOcv.h"
 #include "imaging/Resizing.h"
@@ -247,6 +248,5 @@ WriteResult imaging::save(const QString& fileName, const QImage& image, const Im
 
 bool imaging::usesQuality(const QString& type)
 {
-    const QString lower = type.toLower();
-    return lower == QLatin1String("jpeg") || lower == QLatin1String("jpg");
+    return ImageFormats::hasQuality(type);
 }

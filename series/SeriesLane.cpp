@@ -45,14 +45,17 @@ QImage thumbnailOf(const QImage& image, const QSize& bounds)
 void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::VideoFrame& frame,
                  const PictureSource& source)
 {
-    const imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), job.recipe);
+    const ImageRecipe recipe = forType(job.recipe, job.type);
+    const QImage::Format format =
+        recipe.keepsDeepColours ? frame.deepImageFormat() : frame.imageFormat();
+    const imaging::Rendering made = imaging::render(frame.toImage(format), recipe);
     picture.size = made.image.size();
     picture.error = made.error;
     if (made.image.isNull()) {
         return;
     }
     if (!job.type.isEmpty()) {
-        picture.content = imaging::encode(made.image, job.recipe, job.type, source);
+        picture.content = imaging::encode(made.image, recipe, job.type, source);
         if (picture.content.isEmpty()) {
             picture.error = tr("The picture could not be encoded as %1.").arg(job.type);
             return;

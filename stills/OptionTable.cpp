@@ -6,7 +6,7 @@ namespace {
 
 using T = TypedOptions;
 
-constexpr const char* formats = "jpg jpeg png bmp tif tiff webp";
+constexpr const char* formats = "jpg jpeg png bmp tif tiff webp avif jxl";
 
 std::vector<OptionEntry> framesOptions()
 {
@@ -66,14 +66,16 @@ std::vector<OptionEntry> pictureOptions()
          "brightness.",
          nullptr, Completes::Nothing, nullptr},
         {section, "-f,--format", "TYPE", &T::format,
-         "The type of the pictures, which is their suffix too: jpg, jpeg, png, bmp, tif, tiff or "
-         "webp. The default is jpg, or what --name-profile says.",
+         "The type of the pictures, which is their suffix too: jpg, jpeg, png, bmp, tif or tiff; "
+         "webp, avif and jxl where this machine can write them. The default is jpg, or what "
+         "--name-profile says.",
          "jpg (default), png, webp, tiff or bmp", Completes::Words, formats},
         {section, "--16-bit", nullptr, &T::deepColours,
          "PNG and TIFF pictures with 16 bits a channel, where the video has more than 8.", nullptr,
          Completes::Nothing, nullptr},
         {section, "-q,--quality", "N", &T::quality,
-         "The quality of JPEG pictures, 0 to 100; 90 unless a profile or you say otherwise.",
+         "The quality of JPEG, WebP, AVIF and JPEG XL pictures, 0 to 100; 90 unless a profile or "
+         "you say otherwise.",
          nullptr, Completes::Nothing, nullptr},
         {section, "-p,--profile", "NAME", &T::profile,
          "Size, brightness, contrast, quality and watermark of an image profile that was made in "

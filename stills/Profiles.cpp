@@ -1,12 +1,12 @@
 #include "stills/Profiles.h"
 
+#include "imaging/ImageFormats.h"
 #include "profiles/FileNameProfile.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
 #include "stills/Texts.h"
 
-#include <QImageWriter>
 #include <QStringList>
 
 namespace stills {
@@ -103,10 +103,10 @@ std::string applyNaming(const Options& options, Look& look)
     if (options.format) {
         look.suffix = pathOf(*options.format);
     }
-    const QByteArray format = look.suffix.toLower().toLatin1();
-    if (!QImageWriter::supportedImageFormats().contains(format)) {
+    if (!ImageFormats::canWrite(look.suffix)) {
         return "pictures of the type " + quoted(bytesOf(look.suffix)) +
-               " cannot be written on this machine; choose another --format";
+               " cannot be written on this machine; choose another --format: " +
+               bytesOf(ImageFormats::suffixes().join(QStringLiteral(", ")));
     }
     return {};
 }
