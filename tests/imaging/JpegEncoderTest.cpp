@@ -1,19 +1,12 @@
 #include "imaging/JpegEncoder.h"
 
-#include "tests/support/ResourceLimits.h"
-
 #include <QColorSpace>
 #include <QImage>
-#include <QRandomGenerator>
 #include <QTest>
 #include <QtEndian>
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <new>
-
-using testsupport::MemoryLimit;
 
 namespace {
 
@@ -45,19 +38,6 @@ double redError(const QImage& a, const QImage& b)
     return std::sqrt(sum / (a.width() * a.height()));
 }
 
-/// A picture that no encoder makes much smaller.
-QImage noise(QSize size)
-{
-    QRandomGenerator generator(7);
-    QImage image(size, QImage::Format_RGB888);
-    for (int y = 0; y < size.height(); ++y) {
-        uchar* const line = image.scanLine(y);
-        std::generate(line, line + 3 * size.width(),
-                      [&] { return static_cast<uchar>(generator.generate()); });
-    }
-    return image;
-}
-
 /// An sRGB profile with so many bytes behind what counts.
 QColorSpace longProfile(int bytes)
 {
@@ -77,8 +57,6 @@ class JpegEncoderTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { MemoryLimit::prepare(); }
-
     void encode_keepsChroma_data()
     {
         QTest::addColumn<QImage::Format>("format");
@@ -149,32 +127,7 @@ private Q_SLOTS:
         indexed.setColorTable({qRgb(0, 0, 0), qRgb(9, 9, 8)});
         QVERIFY(JpegEncoder::hasChroma(indexed));
     }
-
-    void encode_failsAsAWhole_whenMemoryRunsOut()
-    {
-        if (!MemoryLimit::isPossible()) {
-            QSKIP("Memory cannot be limited here.");
-        }
-        const QImage image = noise({2000, 1500});
-        const QByteArray whole = JpegEncoder::encode(image, 100);
-        QVERIFY(!whole.isEmpty());
-        int failures = 0;
-        for (rlim_t mebibytes = 1; mebibytes < 64; mebibytes += mebibytes / 4 + 1) {
-            QByteArray content;
-            {
-                const MemoryLimit limit(mebibytes * 1024 * 1024);
-                try {
-                    content = JpegEncoder::encode(image, 100);
-                } catch (const std::bad_alloc&) {
-                    content.clear();
-                }
-            }
-            failures += content.isEmpty() ? 1 : 0;
-            QVERIFY(content.isEmpty() || content == whole);
-        }
-        QVERIFY(failures > 0);
-    }
 };
 
-QTEST_GUILESS_MAIN(JpegEncoderTest)
+QTEST_MAIN(JpegEncoderTest)
 #include "JpegEncoderTest.moc"
