@@ -94,7 +94,7 @@ struct Options
     bool isInLinearLight = false;
     std::optional<std::string> format; ///< a suffix without dot, in small letters
     bool keepsDeepColours = false;
-    std::optional<int> quality;        ///< 0 to 100
+    std::optional<int> quality; ///< 0 to 100
     std::optional<std::string> profile;
     std::optional<std::string> nameProfile;
     std::optional<std::string> watermark;
