@@ -158,6 +158,9 @@ void BatchWorker::runInternal()
         Q_EMIT statusUpdate(this, tr("Could not open file"), Error);
         return;
     }
+    const QtAV::MediaFacts& facts = m_frameGrabber->facts();
+    m_source = std::make_unique<const PictureSource>(PictureSource::of(
+        m_config->source(), facts.tags, facts.tickNumerator, facts.tickDenominator));
     const SamplingPlan plan = SamplingPlan::make(*m_config, duration);
     qDebug("skipAmount: %lld", plan.step);
     m_frameCounter = 1;
@@ -337,11 +340,16 @@ void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
     }
     const QString path = m_paths->first(m_config->intervalType() == BatchWorkerConfig::SingleShot);
     announceSaving(path);
-    const ImageRecipe recipe = recipes::of(*m_config->imageProfile());
-    imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), recipe);
+    const ImageRecipe recipe = forType(recipes::of(*m_config->imageProfile()),
+                                       m_config->filenameProfile()->fileOutputType());
+    const QImage::Format format =
+        recipe.keepsDeepColours ? frame.deepImageFormat() : frame.imageFormat();
+    imaging::Rendering made = imaging::render(frame.toImage(format), recipe);
+    const PictureSource source =
+        m_source ? m_source->at(frame.timestamp(), frame.displaySize()) : PictureSource();
     if (made.image.isNull()) {
         reportUnmadeImage(path, position, made.error);
-    } else if (saveImage(path, made.image, recipe.jpegQuality)) {
+    } else if (saveImage(path, made.image, recipe, source)) {
         Q_EMIT imageReady(this, made.image);
     }
 }
@@ -375,11 +383,12 @@ void BatchWorker::announceSaving(const QString& path)
 
 /// Saves under the given name or, while others take the names at the same moment, under the next
 /// free one. False when that failed, which has been told then.
-bool BatchWorker::saveImage(QString path, const QImage& image, int jpegQuality)
+bool BatchWorker::saveImage(QString path, const QImage& image, const ImageRecipe& recipe,
+                            const PictureSource& source)
 {
-    const auto save = [this, &image, jpegQuality](const QString& target) {
-        return imaging::save(target, image, jpegQuality,
-                             m_config->filenameProfile()->fileOutputType(), ExistingFile::Keep);
+    const QString type = m_config->filenameProfile()->fileOutputType();
+    const auto save = [&](const QString& target) {
+        return imaging::save(target, image, recipe, type, source, ExistingFile::Keep);
     };
     WriteResult result = save(path);
     while (result == WriteResult::AlreadyExists) {

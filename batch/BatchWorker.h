@@ -17,6 +17,8 @@
 class BatchWorkerConfig;
 class FrameGrabber;
 class FreePaths;
+struct ImageRecipe;
+struct PictureSource;
 struct SamplingPlan;
 
 /// Runs one batch job: takes the frames, makes the images and saves them.
@@ -94,7 +96,8 @@ private:
     void passOn(const QtAV::VideoFrame& frame);
 
     void announceSaving(const QString& path);
-    [[nodiscard]] bool saveImage(QString path, const QImage& image, int jpegQuality);
+    [[nodiscard]] bool saveImage(QString path, const QImage& image, const ImageRecipe& recipe,
+                                 const PictureSource& source);
     void reportUnsavedImage(const QString& path);
     void reportUnmadeImage(const QString& path, qint64 position, const QString& reason);
 
@@ -103,6 +106,7 @@ private:
     std::atomic<int> m_waitingFrames{0};
     BatchWorkerConfig* m_config = nullptr;
     FrameGrabber* m_frameGrabber;
+    std::unique_ptr<const PictureSource> m_source; ///< the video; null until run() has opened it
     struct Series;
     std::unique_ptr<const Series> m_series; ///< of a job with exact frames, once prepared
     std::mutex m_newsMutex;

@@ -9,7 +9,8 @@
 /// Writes images to files, whole or not at all.
 ///
 /// The picture is encoded in memory and then put under its name by FilePublisher, with all that
-/// that promises, and its one exception. Without state: callable from any thread.
+/// that promises, and its one exception. Every file of a format that can hold one has a colour
+/// profile: the image's own, or sRGB. Without state: callable from any thread.
 namespace ImageFileWriter {
 
 /// The quality that leaves the choice to the format.
@@ -24,7 +25,8 @@ constexpr int DefaultQuality = -1;
 /// Writes the image to `fileName`.
 ///
 /// @param quality  0 (small file) to 100 (true picture), or DefaultQuality; above 100 counts as
-///     100. What it means is up to the format.
+///     100. What it means is up to the format. JPEG keeps chroma in full resolution from 90 on; PNG
+///     loses nothing and is always compressed, the less the quicker.
 /// @return Failed for a null image, for a name whose suffix stands for no format that can be
 ///     written (capitals do not matter), where memory for the encoded picture runs out, and where
 ///     the file cannot be written.

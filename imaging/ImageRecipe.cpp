@@ -1,5 +1,6 @@
 #include "imaging/ImageRecipe.h"
 
+#include "imaging/ImageFormats.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
@@ -14,7 +15,39 @@ const WatermarkProfile* ownWatermark(const ImageProfile& profile)
         WatermarkProfile::profileManager()->profileForId(profile.watermarkProfileId()));
 }
 
+ResizeFilter filterOf(const ImageProfile& profile)
+{
+    switch (profile.resizeFilter()) {
+    case ImageProfile::LanczosFilter:
+        return ResizeFilter::Lanczos;
+    case ImageProfile::BicubicFilter:
+        return ResizeFilter::Bicubic;
+    case ImageProfile::NearestFilter:
+        return ResizeFilter::Nearest;
+    default:
+        return ResizeFilter::Area;
+    }
+}
+
+PictureMetadata metadataOf(const ImageProfile& profile)
+{
+    switch (profile.metadata()) {
+    case ImageProfile::MetadataAll:
+        return PictureMetadata::All;
+    case ImageProfile::NoMetadata:
+        return PictureMetadata::None;
+    default:
+        return PictureMetadata::WithoutPlace;
+    }
+}
+
 } // namespace
+
+ImageRecipe forType(ImageRecipe recipe, const QString& type)
+{
+    recipe.keepsDeepColours = recipe.keepsDeepColours && ImageFormats::hasDepth(type);
+    return recipe;
+}
 
 ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* watermark)
 {
@@ -22,9 +55,14 @@ ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* wat
     recipe.keepsSize = profile.sameSizeAsVideo();
     recipe.bounds = QSize(profile.imageWidth(), profile.imageHeight());
     recipe.keepsAspectRatio = profile.maintainAspectRatio();
+    recipe.resampling.filter = filterOf(profile);
+    recipe.resampling.light =
+        profile.resizeInLinearLight() ? ResizeLight::Linear : ResizeLight::AsCoded;
     recipe.contrast = profile.imageContrast();
     recipe.brightness = profile.imageBrightness();
     recipe.jpegQuality = profile.imageQuality();
+    recipe.metadata = metadataOf(profile);
+    recipe.keepsDeepColours = profile.deepColours();
     if (watermark == nullptr) {
         watermark = ownWatermark(profile);
     }

@@ -32,6 +32,33 @@ struct WatermarkRecipe
     QImage picture; ///< null where there is none to draw
 };
 
+/// How a picture comes to another size.
+enum class ResizeFilter {
+    Area,    ///< by the area that each pixel covers: for shrinking
+    Lanczos, ///< the sharpest
+    Bicubic, ///< softer, with less ringing
+    Nearest, ///< pixels stay pixels
+};
+
+/// What is mixed where pixels are.
+enum class ResizeLight {
+    AsCoded, ///< the samples as they are
+    Linear,  ///< the light that they stand for: fine bright details keep their brightness
+};
+
+struct Resampling
+{
+    ResizeFilter filter = ResizeFilter::Area;
+    ResizeLight light = ResizeLight::AsCoded;
+};
+
+/// What a file tells of where its picture comes from.
+enum class PictureMetadata {
+    All,          ///< also where the video was recorded, and its path on the disk
+    WithoutPlace, ///< all but these two
+    None
+};
+
 /// What imaging::render() makes of a frame. A plain value that knows no profile: it may be copied
 /// to any thread, and profiles may change meanwhile.
 struct ImageRecipe
@@ -40,11 +67,19 @@ struct ImageRecipe
     QSize bounds;                  ///< in pixels
     bool keepsAspectRatio = false; ///< fits into the bounds; else it fills them and is cut
     bool enlarges = true;          ///< else what fits into the bounds already keeps its size
+    Resampling resampling;         ///< where the size changes
     int contrast = 0;              ///< -100 to 100, 0 for none
     int brightness = 0;            ///< is added to each sample, -255 to 255
     int jpegQuality = 100;         ///< 0 to 100
+    /// Images of 16 bits a channel stay so; else they become images of 8. See forType().
+    bool keepsDeepColours = false;
     std::optional<WatermarkRecipe> watermark = {};
+    PictureMetadata metadata = PictureMetadata::WithoutPlace; ///< of its file
 };
+
+/// The recipe as it can be carried out for files of a type, which is a suffix: without deep
+/// colours where these cannot hold them.
+[[nodiscard]] ImageRecipe forType(ImageRecipe recipe, const QString& type);
 
 /// The recipes that profiles stand for. They look up watermarks and read their pictures, through
 /// the profiles' shared cache: user-interface thread only.

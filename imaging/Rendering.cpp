@@ -1,13 +1,17 @@
 #include "imaging/Rendering.h"
 
 #include "imaging/ImageFileWriter.h"
+#include "imaging/ImageFormats.h"
+#include "imaging/Metadata.h"
 #include "imaging/QtOcv.h"
 #include "imaging/Resizing.h"
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QFileInfo>
 
 #include <opencv2/core.hpp>
+#include <opencv2/imgproc.hpp>
 
 #include <exception>
 #include <memory>
@@ -36,9 +40,50 @@ struct Picture
     [[nodiscard]] bool ownsSamples() const { return mat.u != nullptr; }
 };
 
+constexpr int bytesOfDeepPixel = 8;
+
+bool isDeep(QImage::Format format)
+{
+    return format == QImage::Format_RGBX64 || format == QImage::Format_RGBA64 ||
+           format == QImage::Format_RGBA64_Premultiplied;
+}
+
+/// The image as the recipe wants its channels: with 8 bits, or with 16 where it has them.
+QImage withDepth(QImage image, const ImageRecipe& recipe)
+{
+    if (!isDeep(image.format())) {
+        return image;
+    }
+    const bool hasAlpha = image.hasAlphaChannel();
+    if (recipe.keepsDeepColours) {
+        return std::move(image).convertToFormat(hasAlpha ? QImage::Format_RGBA64
+                                                         : QImage::Format_RGBX64);
+    }
+    return std::move(image).convertToFormat(hasAlpha ? QImage::Format_ARGB32
+                                                     : QImage::Format_RGB888);
+}
+
+/// Opaque pixels lose their fourth channel, so that nothing works on it.
+Picture deepPictureOf(const QImage& image)
+{
+    // constBits, because bits() would give the image pixels of its own first.
+    const cv::Mat shared(image.height(), image.width(), CV_16UC4,
+                         const_cast<uchar*>(image.constBits()),
+                         static_cast<size_t>(image.bytesPerLine()));
+    Picture picture{shared, QtOcv::Rgb};
+    if (!image.hasAlphaChannel()) {
+        picture.mat = cv::Mat();
+        cv::cvtColor(shared, picture.mat, cv::COLOR_RGBA2RGB);
+    }
+    return picture;
+}
+
 /// The image's pixels, shared with it where its format can be taken as it is.
 Picture pictureOf(const QImage& image)
 {
+    if (isDeep(image.format())) {
+        return deepPictureOf(image);
+    }
     Picture picture;
     picture.mat = QtOcv::imageToMat_shared(image, &picture.order);
     if (picture.mat.empty())
@@ -58,10 +103,27 @@ QImage adoptedImage(const cv::Mat& mat, QImage::Format format)
     return image;
 }
 
+/// The channels are in the order R, G, B or R, G, B, A.
+QImage deepImageOf(const cv::Mat& mat)
+{
+    cv::Mat pixels = mat;
+    if (mat.channels() == 3) {
+        pixels = cv::Mat();
+        cv::cvtColor(mat, pixels, cv::COLOR_RGB2RGBA);
+    } else if (mat.u == nullptr || mat.step[0] % bytesOfDeepPixel != 0) {
+        pixels = mat.clone();
+    }
+    return adoptedImage(pixels,
+                        mat.channels() == 3 ? QImage::Format_RGBX64 : QImage::Format_RGBA64);
+}
+
 /// An image of the picture that shares its pixels with nobody.
 QImage imageOf(const Picture& picture)
 {
     const cv::Mat& mat = picture.mat;
+    if (mat.depth() == CV_16U) {
+        return deepImageOf(mat);
+    }
     // Qt's own images begin every line at a multiple of four bytes, and so shall ours.
     const bool isAdoptable = picture.ownsSamples() && mat.step[0] % 4 == 0;
     if (isAdoptable && mat.type() == CV_8UC4 && picture.order == QtOcv::Bgr)
@@ -72,12 +134,15 @@ QImage imageOf(const Picture& picture)
 }
 
 /// Every sample times the contrast's gain plus the brightness, saturated, in a matrix of its own.
+/// The brightness counts in steps of 8 bits.
 cv::Mat adjusted(const cv::Mat& mat, int contrast, int brightness)
 {
     const float divisor = contrast < 0 ? LoweringContrastDivisor : RaisingContrastDivisor;
     const float gain = static_cast<float>(contrast) / divisor + 1.0F;
     cv::Mat result;
-    mat.convertTo(result, mat.type(), static_cast<double>(gain), brightness);
+    constexpr int deepSteps = 257;
+    const int offset = mat.depth() == CV_16U ? brightness * deepSteps : brightness;
+    mat.convertTo(result, mat.type(), static_cast<double>(gain), offset);
     return result;
 }
 
@@ -101,19 +166,26 @@ QImage corrected(QImage image, const ImageRecipe& recipe)
     const bool keepsSize = recipe.keepsSize || fitsAlready(image, recipe);
     const QSize size = keepsSize ? image.size() : recipe.bounds;
     const bool keepsColours = recipe.contrast == 0 && recipe.brightness == 0;
-    if (keepsColours && size == image.size() && image.format() == QImage::Format_RGB888)
+    const bool isMade =
+        image.format() == QImage::Format_RGB888 || image.format() == QImage::Format_RGBX64;
+    if (keepsColours && size == image.size() && isMade)
         return image;
     Picture picture = pictureOf(image);
     if (!keepsColours)
         picture.mat = adjusted(picture.mat, recipe.contrast, recipe.brightness);
-    picture.mat = resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio);
+    picture.mat = resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio,
+                          recipe.resampling);
     return imageOf(picture);
 }
 
 QImage rendered(QImage image, const ImageRecipe& recipe)
 {
     qDebug() << "Contrast: " << recipe.contrast << " Brightness: " << recipe.brightness;
-    QImage result = corrected(std::move(image), recipe);
+    QImage result = withDepth(std::move(image), recipe);
+    if (result.isNull()) {
+        return result;
+    }
+    result = corrected(std::move(result), recipe);
     result.setDotsPerMeterX(dotsPerMeter);
     result.setDotsPerMeterY(dotsPerMeter);
     result.setDevicePixelRatio(1.0);
@@ -122,9 +194,7 @@ QImage rendered(QImage image, const ImageRecipe& recipe)
 
 int qualityFor(const QString& type, int jpegQuality)
 {
-    const QString lower = type.toLower();
-    const bool isJpeg = lower == QLatin1String("jpeg") || lower == QLatin1String("jpg");
-    return isJpeg ? jpegQuality : ImageFileWriter::DefaultQuality;
+    return imaging::usesQuality(type) ? jpegQuality : ImageFileWriter::DefaultQuality;
 }
 
 } // namespace
@@ -157,4 +227,26 @@ WriteResult imaging::save(const QString& fileName, const QImage& image, int jpeg
                           const QString& type, ExistingFile existing)
 {
     return ImageFileWriter::write(fileName, image, qualityFor(type, jpegQuality), existing);
+}
+
+QByteArray imaging::encode(const QImage& image, const ImageRecipe& recipe, const QString& type,
+                           const PictureSource& source)
+{
+    return withMetadata(encode(image, recipe.jpegQuality, type), type, recipe, source);
+}
+
+WriteResult imaging::save(const QString& fileName, const QImage& image, const ImageRecipe& recipe,
+                          const QString& type, const PictureSource& source, ExistingFile existing)
+{
+    const QString format = QFileInfo(fileName).suffix();
+    const int quality = qualityFor(type, recipe.jpegQuality);
+    const QByteArray content =
+        withMetadata(ImageFileWriter::encode(image, format, quality), format, recipe, source);
+    return content.isEmpty() ? WriteResult::Failed
+                             : FilePublisher::publish(fileName, content, existing);
+}
+
+bool imaging::usesQuality(const QString& type)
+{
+    return ImageFormats::hasQuality(type);
 }

@@ -2,6 +2,7 @@
 
 #include "imaging/FilePublisher.h"
 #include "imaging/ImageRecipe.h"
+#include "imaging/PictureSource.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -28,6 +29,10 @@ struct Rendering
 /// make it see-through. (Format_RGB32 has four.) Images of three channels give Format_RGB888, of
 /// four Format_ARGB32, of one Format_Indexed8 (greys).
 ///
+/// An image of 16 bits a channel becomes one of 8, unless the recipe keeps deep colours: then an
+/// opaque one gives Format_RGBX64, whose fourth channel no correction touches, and one with alpha
+/// Format_RGBA64. Brightness means the same as with 8 bits.
+///
 /// A null image is a failure, and so is a lack of memory: no exception leaves this function. An
 /// image that is moved in, and of which nothing changes, is not copied.
 [[nodiscard]] Rendering render(QImage image, const ImageRecipe& recipe);
@@ -45,6 +50,17 @@ struct Rendering
 /// 100, is used where the type is "jpg" or "jpeg", in capitals or not. See ImageFileWriter.
 [[nodiscard]] WriteResult save(const QString& fileName, const QImage& image, int jpegQuality,
                                const QString& type, ExistingFile existing);
+
+/// The same by a recipe, which says the quality and how much the file tells of its picture's
+/// source.
+[[nodiscard]] QByteArray encode(const QImage& image, const ImageRecipe& recipe, const QString& type,
+                                const PictureSource& source);
+[[nodiscard]] WriteResult save(const QString& fileName, const QImage& image,
+                               const ImageRecipe& recipe, const QString& type,
+                               const PictureSource& source, ExistingFile existing);
+
+/// A recipe's quality matters for files of this type: a suffix, in capitals or not.
+[[nodiscard]] bool usesQuality(const QString& type);
 
 /// The top left corner of an item in a container, in pixels.
 ///

@@ -1,8 +1,9 @@
 #include "imaging/Resizing.h"
 
+#include "imaging/FilteredResizing.h"
 #include "imaging/ResizePlan.h"
 
-#include <opencv2/imgproc.hpp>
+#include <opencv2/core.hpp>
 
 #include <limits>
 
@@ -18,7 +19,8 @@ bool isImageSize(cv::Size size, size_t bytesPerPixel)
 
 } // namespace
 
-cv::Mat resized(const cv::Mat& mat, cv::Size target, bool keepsAspectRatio)
+cv::Mat resized(const cv::Mat& mat, cv::Size target, bool keepsAspectRatio,
+                const Resampling& resampling)
 {
     if (mat.empty() || mat.size() == target || target.width <= 0 || target.height <= 0)
         return mat;
@@ -26,7 +28,5 @@ cv::Mat resized(const cv::Mat& mat, cv::Size target, bool keepsAspectRatio)
                                              : ResizePlan::filling(mat.size(), target);
     if (!isImageSize(plan.size, mat.elemSize()))
         return mat;
-    cv::Mat result;
-    cv::resize(mat(plan.region), result, plan.size, 0.0, 0.0, cv::INTER_AREA);
-    return result;
+    return filteredResize(mat(plan.region), plan.size, resampling);
 }

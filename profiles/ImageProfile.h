@@ -28,8 +28,31 @@ class ImageProfile : public BaseProfile
     Q_PROPERTY(int imageQuality READ imageQuality WRITE setImageQuality)
     /// The id of the watermark profile to draw; empty for none. It may belong to no profile.
     Q_PROPERTY(QString watermarkProfileId READ watermarkProfileId WRITE setWatermarkProfileId)
+    /// What files tell of where their pictures come from: one of Metadata.
+    Q_PROPERTY(int metadata READ metadata WRITE setMetadata)
+    /// How images come to another size: one of ResizeFilter, and whether light is mixed in
+    /// proportion.
+    Q_PROPERTY(int resizeFilter READ resizeFilter WRITE setResizeFilter)
+    Q_PROPERTY(bool resizeInLinearLight READ resizeInLinearLight WRITE setResizeInLinearLight)
+    /// PNG and TIFF files have 16 bits a channel where the frame has more than 8.
+    Q_PROPERTY(bool deepColours READ deepColours WRITE setDeepColours)
 
 public:
+    /// The values of metadata(); any other one means MetadataWithoutPlace.
+    enum Metadata {
+        MetadataAll = 0,          ///< also where the video was recorded and where it lies
+        MetadataWithoutPlace = 1, ///< all but that
+        NoMetadata = 2,
+    };
+
+    /// The values of resizeFilter(); any other one means AreaFilter.
+    enum ResizeFilter {
+        AreaFilter = 0,
+        LanczosFilter = 1,
+        BicubicFilter = 2,
+        NearestFilter = 3,
+    };
+
     /// A profile named "Image Profile" with a fresh id and default values; the argument is ignored.
     explicit ImageProfile(ImageProfile* ignored = nullptr);
     ~ImageProfile() override;
@@ -58,6 +81,18 @@ public:
     QString watermarkProfileId() const { return m_watermarkProfileId; }
     void setWatermarkProfileId(const QString& id) { m_watermarkProfileId = id; }
 
+    int metadata() const { return m_metadata; }
+    void setMetadata(int metadata) { m_metadata = metadata; }
+
+    int resizeFilter() const { return m_resizeFilter; }
+    void setResizeFilter(int filter) { m_resizeFilter = filter; }
+
+    bool resizeInLinearLight() const { return m_resizeInLinearLight; }
+    void setResizeInLinearLight(bool linear) { m_resizeInLinearLight = linear; }
+
+    bool deepColours() const { return m_deepColours; }
+    void setDeepColours(bool deep) { m_deepColours = deep; }
+
     /// Whether black edges are cut off. No property, so that it is never persisted.
     bool cropBlackEdges() const { return m_cropBlackEdges; }
     void setCropBlackEdges(bool crop) { m_cropBlackEdges = crop; }
@@ -75,6 +110,10 @@ private:
     int m_imageBrightness = 0;
     int m_imageQuality = 90;
     QString m_watermarkProfileId;
+    int m_metadata = MetadataWithoutPlace;
+    int m_resizeFilter = AreaFilter;
+    bool m_resizeInLinearLight = false;
+    bool m_deepColours = false;
     bool m_cropBlackEdges = false;
 
     static inline ProfileManager* s_profileManager = nullptr;

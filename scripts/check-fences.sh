@@ -62,7 +62,7 @@ layer qtav qtav/
 layer video video/
 layer profiles profiles/
 layer utils utils/
-layer imaging imaging/ profiles/
+layer imaging imaging/ profiles/ utils/ product/
 layer series series/ imaging/
 layer ui/batch batch/ ui/ video/ profiles/ imaging/
 layer batch batch/ series/ video/ profiles/ imaging/
@@ -80,6 +80,7 @@ found=$(includes_of '([^/"]+\.h"|\.\.?/)' "${FOLDERS[@]}" tests bench | grep -vE
 fence FFmpeg 'lib(av|sw)[a-z]*/' qtav tests/qtav bench/bare
 fence QtAV 'QtAV' qtav video series batch ui app stills tests bench
 fence OpenCV 'opencv2/' imaging tests/imaging bench
+fence Exiv2 'exiv2/' imaging tests/imaging
 
 only_in qtav/src/FFmpegCompat.h \
     '(LIB(AV|SW)[A-Z]+_VERSION(_[A-Z]+)?|AV_VERSION_INT|FF_API_[A-Z0-9_]+|(av|sw)[a-z]+_version)' \

@@ -42,16 +42,20 @@ QImage thumbnailOf(const QImage& image, const QSize& bounds)
 }
 
 /// Renders and encodes; an error takes the place of what could not be made.
-void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::VideoFrame& frame)
+void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::VideoFrame& frame,
+                 const PictureSource& source)
 {
-    const imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), job.recipe);
+    const ImageRecipe recipe = forType(job.recipe, job.type);
+    const QImage::Format format =
+        recipe.keepsDeepColours ? frame.deepImageFormat() : frame.imageFormat();
+    const imaging::Rendering made = imaging::render(frame.toImage(format), recipe);
     picture.size = made.image.size();
     picture.error = made.error;
     if (made.image.isNull()) {
         return;
     }
     if (!job.type.isEmpty()) {
-        picture.content = imaging::encode(made.image, job.recipe.jpegQuality, job.type);
+        picture.content = imaging::encode(made.image, recipe, job.type, source);
         if (picture.content.isEmpty()) {
             picture.error = tr("The picture could not be encoded as %1.").arg(job.type);
             return;
@@ -109,6 +113,9 @@ bool SeriesLane::open(int video, QString& error)
         return false;
     }
     m_video = video;
+    const QtAV::MediaFacts facts = m_reader.demuxer().facts();
+    m_source = PictureSource::of(m_jobs.at(video).video, facts.tags, facts.tickNumerator,
+                                 facts.tickDenominator);
     return true;
 }
 
@@ -358,7 +365,8 @@ bool SeriesLane::deliver(const Task& task, Delivery delivery, const FrameResult&
         if (time != times.cend() && *time == *picture.timeMs) {
             picture.frame = time - times.cbegin();
         }
-        makePicture(picture, m_jobs.at(task.video), found.frame);
+        makePicture(picture, m_jobs.at(task.video), found.frame,
+                    m_source.at(*delivery.seconds, found.frame.displaySize(), picture.frame));
     } else {
         picture.error = found.answer == FrameAnswer::Failed
                             ? found.error

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "imaging/PictureSource.h"
 #include "series/SeriesBoard.h"
 
 #include <QtAV/FrameReader.h>
@@ -49,6 +50,7 @@ private:
 
     QtAV::FrameReader m_reader;
     int m_video = -1;                    ///< what the reader has open
+    PictureSource m_source;              ///< that video
     int m_readied = -1;                  ///< opened ahead of its plan last
     bool m_knowsKeyFrames = false;       ///< by the index, which can be wrong
     std::optional<double> m_lastSeconds; ///< of the frame delivered last in a stretch

@@ -34,6 +34,8 @@ private:
     void readSkips();
     void readLists();
     void readPictures();
+    void readFilter(const std::string& text);
+    void readMetadata(const std::string& text);
     void readSheet();
     void readFiles();
     void readVideos();
@@ -95,6 +97,8 @@ void Reader::readPositions()
               {"--frames", !m_typed.frames.empty()},
               {"--keyframes", m_typed.keyFrames},
               {"--scenes", m_typed.scenes.has_value()}});
+    m_options.choosesPositions = m_typed.count || m_typed.every || !m_typed.at.empty() ||
+                                 !m_typed.frames.empty() || m_typed.keyFrames || m_typed.scenes;
     readKind();
     readLists();
     readSkips();
@@ -152,6 +156,10 @@ void Reader::readSkips()
     if (isList && (m_typed.skipStart || m_typed.skipEnd)) {
         fail("--skip-start and --skip-end have no meaning with --at and --frames; leave them away");
     }
+    if (m_typed.like && !m_options.choosesPositions && (m_typed.skipStart || m_typed.skipEnd)) {
+        fail("--skip-start and --skip-end have no meaning with the position of --like; leave them "
+             "away");
+    }
     const auto isPart = [](const SeriesSkip& skip) {
         return skip.unit == SeriesSkip::Unit::Percent;
     };
@@ -169,6 +177,11 @@ void Reader::readPictures()
     }
     need("--enlarge", m_typed.enlarge, "--size", m_typed.size.has_value());
     m_options.enlarges = m_typed.enlarge;
+    if (m_typed.filter) {
+        readFilter(*m_typed.filter);
+    }
+    m_options.isInLinearLight = m_typed.linearLight;
+    m_options.keepsDeepColours = m_typed.deepColours;
     if (m_typed.format) {
         std::string format = *m_typed.format;
         std::transform(format.begin(), format.end(), format.begin(), [](char c) {
@@ -187,6 +200,39 @@ void Reader::readPictures()
     }
     m_options.profile = m_typed.profile;
     m_options.watermark = m_typed.watermark;
+    allowOne({{"--like", m_typed.like.has_value()}, {"--profile", m_typed.profile.has_value()}});
+    m_options.like = m_typed.like;
+    if (m_typed.metadata) {
+        readMetadata(*m_typed.metadata);
+    }
+}
+
+void Reader::readFilter(const std::string& text)
+{
+    if (text == "area") {
+        m_options.filter = Filter::Area;
+    } else if (text == "lanczos") {
+        m_options.filter = Filter::Lanczos;
+    } else if (text == "bicubic") {
+        m_options.filter = Filter::Bicubic;
+    } else if (text == "nearest") {
+        m_options.filter = Filter::Nearest;
+    } else {
+        fail("--filter: " + quoted(text) + " is none of area, lanczos, bicubic and nearest");
+    }
+}
+
+void Reader::readMetadata(const std::string& text)
+{
+    if (text == "all") {
+        m_options.metadata = Metadata::All;
+    } else if (text == "without-place") {
+        m_options.metadata = Metadata::WithoutPlace;
+    } else if (text == "none") {
+        m_options.metadata = Metadata::None;
+    } else {
+        fail("--metadata: " + quoted(text) + " is none of all, without-place and none");
+    }
 }
 
 void Reader::readSheet()
@@ -263,7 +309,7 @@ void Reader::readVideos()
         fail("videos are not read from standard input; for a list of names there is "
              "--files-from -");
     }
-    if (videos.empty() && !m_typed.filesFrom) {
+    if (videos.empty() && !m_typed.filesFrom && !m_typed.like) {
         fail("no video is named; write stills VIDEO, or see stills --help");
     }
 }

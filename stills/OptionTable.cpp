@@ -6,7 +6,7 @@ namespace {
 
 using T = TypedOptions;
 
-constexpr const char* formats = "jpg jpeg png bmp tif tiff webp";
+constexpr const char* formats = "jpg jpeg png bmp tif tiff webp avif jxl";
 
 std::vector<OptionEntry> framesOptions()
 {
@@ -56,12 +56,26 @@ std::vector<OptionEntry> pictureOptions()
         {section, "--enlarge", nullptr, &T::enlarge,
          "Let --size enlarge smaller pictures until they fill the width or the height.", nullptr,
          Completes::Nothing, nullptr},
+        {section, "--filter", "NAME", &T::filter,
+         "How pictures come to another size: area, made for shrinking; lanczos, the sharpest; "
+         "bicubic, softer; or nearest, which leaves pixels as they are. The default is area, or "
+         "what --profile says.",
+         nullptr, Completes::Words, "area lanczos bicubic nearest"},
+        {section, "--linear-light", nullptr, &T::linearLight,
+         "Where the size changes, mix light as eyes and lenses do: fine bright details keep their "
+         "brightness.",
+         nullptr, Completes::Nothing, nullptr},
         {section, "-f,--format", "TYPE", &T::format,
-         "The type of the pictures, which is their suffix too: jpg, jpeg, png, bmp, tif, tiff or "
-         "webp. The default is jpg, or what --name-profile says.",
+         "The type of the pictures, which is their suffix too: jpg, jpeg, png, bmp, tif or tiff; "
+         "webp, avif and jxl where this machine can write them. The default is jpg, or what "
+         "--name-profile says.",
          "jpg (default), png, webp, tiff or bmp", Completes::Words, formats},
+        {section, "--16-bit", nullptr, &T::deepColours,
+         "PNG and TIFF pictures with 16 bits a channel, where the video has more than 8.", nullptr,
+         Completes::Nothing, nullptr},
         {section, "-q,--quality", "N", &T::quality,
-         "The quality of JPEG pictures, 0 to 100; 90 unless a profile or you say otherwise.",
+         "The quality of JPEG, WebP, AVIF and JPEG XL pictures, 0 to 100; 90 unless a profile or "
+         "you say otherwise.",
          nullptr, Completes::Nothing, nullptr},
         {section, "-p,--profile", "NAME", &T::profile,
          "Size, brightness, contrast, quality and watermark of an image profile that was made in "
@@ -70,6 +84,16 @@ std::vector<OptionEntry> pictureOptions()
         {section, "--watermark", "NAME", &T::watermark,
          "Draw this watermark, which was made in the window, on each picture.", nullptr,
          Completes::Nothing, nullptr},
+        {section, "--like", "PICTURE", &T::like,
+         "Make a still again by what its file tells: the same frame, size, corrections, text "
+         "watermark, type and quality. Other options change what they name. Without a video, that "
+         "of the picture is looked for beside the picture, a folder above it and where you are.",
+         nullptr, Completes::Files, nullptr},
+        {section, "--metadata", "WHAT", &T::metadata,
+         "What JPEG, PNG, TIFF and WebP files tell of where their pictures come from: all; "
+         "without-place, which leaves out where the video was recorded and its path on the disk; "
+         "or none. The default is without-place, or what --profile says.",
+         nullptr, Completes::Words, "all without-place none"},
     };
 }
 

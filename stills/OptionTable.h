@@ -26,10 +26,15 @@ struct TypedOptions
 
     Value size;
     bool enlarge = false;
+    Value filter;
+    bool linearLight = false;
     Value format;
+    bool deepColours = false;
     Value quality;
     Value profile;
     Value watermark;
+    Value like;
+    Value metadata;
 
     Value sheet; ///< empty where it came without a value
     bool withPictures = false;

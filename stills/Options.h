@@ -25,6 +25,12 @@ enum class Existing {
     Overwrite, ///< it takes the place
 };
 
+/// How pictures come to another size.
+enum class Filter { Area, Lanczos, Bicubic, Nearest };
+
+/// What the files of pictures tell of where these come from.
+enum class Metadata { All, WithoutPlace, None };
+
 /// The contact sheet.
 struct Sheet
 {
@@ -49,16 +55,22 @@ struct Options
     Shard shard;
 
     FramePositions positions;
+    bool choosesPositions = false; ///< some were asked for
 
     std::optional<std::string> folder; ///< without one, beside each video
     bool writesToStandardOutput = false;
     std::optional<Size> size;
     bool enlarges = false;
+    std::optional<Filter> filter;
+    bool isInLinearLight = false;
     std::optional<std::string> format; ///< a suffix without dot, in small letters
-    std::optional<int> quality;        ///< 0 to 100
+    bool keepsDeepColours = false;
+    std::optional<int> quality; ///< 0 to 100
     std::optional<std::string> profile;
     std::optional<std::string> nameProfile;
     std::optional<std::string> watermark;
+    std::optional<std::string> like; ///< a still's file
+    std::optional<Metadata> metadata;
     NameTemplate names;
     Existing existing = Existing::NextName;
 

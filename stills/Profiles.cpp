@@ -1,12 +1,12 @@
 #include "stills/Profiles.h"
 
+#include "imaging/ImageFormats.h"
 #include "profiles/FileNameProfile.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
 #include "stills/Texts.h"
 
-#include <QImageWriter>
 #include <QStringList>
 
 namespace stills {
@@ -34,9 +34,12 @@ Result<const Profile*> profileNamed(const char* option, const std::string& name)
                                            quoted(name) + "; " + there);
 }
 
-std::string applyImageProfile(const Options& options, ImageRecipe& recipe)
+std::string applyImageProfile(const Options& options, const imaging::StillOrigin* like,
+                              ImageRecipe& recipe)
 {
-    if (options.profile) {
+    if (like != nullptr) {
+        recipe = like->recipe;
+    } else if (options.profile) {
         const auto profile = profileNamed<ImageProfile>("--profile", *options.profile);
         if (!profile.isGood()) {
             return profile.error;
@@ -51,8 +54,40 @@ std::string applyImageProfile(const Options& options, ImageRecipe& recipe)
             return watermark.error;
         }
         recipe.watermark = recipes::of(**watermark.value);
+    } else if (like != nullptr && like->hadPictureWatermark) {
+        return "--like: " + quoted(*options.like) +
+               " has a picture as its watermark, which its file does not hold; name that with "
+               "--watermark";
     }
     return {};
+}
+
+ResizeFilter engineFilter(Filter filter)
+{
+    switch (filter) {
+    case Filter::Lanczos:
+        return ResizeFilter::Lanczos;
+    case Filter::Bicubic:
+        return ResizeFilter::Bicubic;
+    case Filter::Nearest:
+        return ResizeFilter::Nearest;
+    case Filter::Area:
+        break;
+    }
+    return ResizeFilter::Area;
+}
+
+PictureMetadata engineMetadata(Metadata metadata)
+{
+    switch (metadata) {
+    case Metadata::All:
+        return PictureMetadata::All;
+    case Metadata::None:
+        return PictureMetadata::None;
+    case Metadata::WithoutPlace:
+        break;
+    }
+    return PictureMetadata::WithoutPlace;
 }
 
 std::string applyNaming(const Options& options, Look& look)
@@ -68,21 +103,21 @@ std::string applyNaming(const Options& options, Look& look)
     if (options.format) {
         look.suffix = pathOf(*options.format);
     }
-    const QByteArray format = look.suffix.toLower().toLatin1();
-    if (!QImageWriter::supportedImageFormats().contains(format)) {
+    if (!ImageFormats::canWrite(look.suffix)) {
         return "pictures of the type " + quoted(bytesOf(look.suffix)) +
-               " cannot be written on this machine; choose another --format";
+               " cannot be written on this machine; choose another --format: " +
+               bytesOf(ImageFormats::suffixes().join(QStringLiteral(", ")));
     }
     return {};
 }
 
 } // namespace
 
-Result<Look> lookOf(const Options& options)
+Result<Look> lookOf(const Options& options, const imaging::StillOrigin* like)
 {
     Look look;
     look.suffix = QStringLiteral("jpg");
-    std::string error = applyImageProfile(options, look.recipe);
+    std::string error = applyImageProfile(options, like, look.recipe);
     if (error.empty()) {
         error = applyNaming(options, look);
     }
@@ -97,6 +132,18 @@ Result<Look> lookOf(const Options& options)
     }
     if (options.quality) {
         look.recipe.jpegQuality = *options.quality;
+    }
+    if (options.filter) {
+        look.recipe.resampling.filter = engineFilter(*options.filter);
+    }
+    if (options.keepsDeepColours) {
+        look.recipe.keepsDeepColours = true;
+    }
+    if (options.isInLinearLight) {
+        look.recipe.resampling.light = ResizeLight::Linear;
+    }
+    if (options.metadata) {
+        look.recipe.metadata = engineMetadata(*options.metadata);
     }
     return Result<Look>::of(look);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "imaging/ImageRecipe.h"
+#include "imaging/Metadata.h"
 #include "profiles/OutputNaming.h"
 #include "stills/Options.h"
 #include "stills/Result.h"
@@ -19,8 +20,10 @@ struct Look
     QString suffix;                     ///< of the pictures' files, and their type
 };
 
-/// Looks the profiles up by their names, small and capital letters alike, and has the other options
+/// Looks profiles up by their names, small and capital letters alike, and has the other options
 /// change what they say. The error names the profiles that there are. Needs the application object.
-[[nodiscard]] Result<Look> lookOf(const Options& options);
+/// @param like  the still that --like names; null without
+[[nodiscard]] Result<Look> lookOf(const Options& options,
+                                  const imaging::StillOrigin* like = nullptr);
 
 } // namespace stills

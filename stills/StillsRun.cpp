@@ -5,6 +5,7 @@
 #include "product/ProductInfo.h"
 #include "stills/FileNameCodec.h"
 #include "stills/Interruption.h"
+#include "stills/Like.h"
 #include "stills/Profiles.h"
 #include "stills/Report.h"
 #include "stills/StillsOutput.h"
@@ -208,6 +209,25 @@ int Run::execute()
     return isAllThere ? allDone : someFailed;
 }
 
+int refuse(const std::string& error)
+{
+    std::fprintf(stderr, "stills: %s\n", error.c_str());
+    return wrongUsage;
+}
+
+int runWith(const Options& options, const imaging::StillOrigin* like)
+{
+    const Result<Look> look = lookOf(options, like);
+    return look.isGood() ? Run(options, *look.value).execute() : refuse(look.error);
+}
+
+int runLike(const Options& options)
+{
+    const Result<Likeness> likeness = likenessOf(options);
+    return likeness.isGood() ? runWith(likeness.value->options, &likeness.value->origin)
+                             : refuse(likeness.error);
+}
+
 } // namespace
 
 int run(const Options& options)
@@ -216,19 +236,14 @@ int run(const Options& options)
     Interruption::install();
     FileNameCodec::install();
     hideDebugLines();
-    const bool needsFonts = options.sheet || options.watermark || options.profile;
+    const bool needsFonts = options.sheet || options.watermark || options.profile || options.like;
     const auto application = makeApplication(needsFonts);
     QCoreApplication::setApplicationName(ProductInfo::name());
     QCoreApplication::setOrganizationName(ProductInfo::name());
     QCoreApplication::setOrganizationDomain(ProductInfo::domain());
     QCoreApplication::setApplicationVersion(ProductInfo::version());
     QtAV::setLogLevel(QtAV::LogCritical);
-    const Result<Look> look = lookOf(options);
-    if (!look.isGood()) {
-        std::fprintf(stderr, "stills: %s\n", look.error.c_str());
-        return wrongUsage;
-    }
-    return Run(options, *look.value).execute();
+    return options.like ? runLike(options) : runWith(options, nullptr);
 }
 
 } // namespace stills

@@ -1,151 +1,34 @@
 #include "utils/CImageResizer.h"
 
-#include "utils/CImageInterpolationKernel.h"
+#include "utils/KernelResampling.h"
 
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
 #include <QSvgRenderer>
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 #include <limits>
-#include <vector>
 
 namespace {
 
-constexpr int CubicSupport = 2;
-constexpr float CubicSlope = -0.5F;
-constexpr int LanczosSupport = 3;
-/// Samples of a kernel function for one unit of x: how finely a position between two pixels is
-/// told apart. At 128 steps the deviation stays below one level of 255.
-constexpr int SamplesPerUnit = 128;
+using KernelResampling::Kernel;
+using KernelResampling::Sample;
 
-using Sample = std::array<float, 4>;
-
-/// Rows of samples, four channels each.
-class SampleGrid
+Kernel kernelFor(int sourceLength, int outputLength)
 {
-public:
-    SampleGrid(int width, int height)
-        : m_width(width)
-        , m_samples(static_cast<std::size_t>(width) * static_cast<std::size_t>(height))
-    {}
+    return outputLength < sourceLength ? Kernel::Lanczos : Kernel::Cubic;
+}
 
-    Sample& at(int x, int y) { return m_samples[index(x, y)]; }
-    const Sample& at(int x, int y) const { return m_samples[index(x, y)]; }
-
-private:
-    [[nodiscard]] std::size_t index(int x, int y) const
-    {
-        return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
-               static_cast<std::size_t>(x);
+void readPixels(const QImage& premultiplied, int y, Sample* samples)
+{
+    const auto* line = reinterpret_cast<const QRgb*>(premultiplied.constScanLine(y));
+    for (int x = 0; x < premultiplied.width(); ++x) {
+        const QRgb pixel = line[x];
+        samples[x] = {static_cast<float>(qRed(pixel)), static_cast<float>(qGreen(pixel)),
+                      static_cast<float>(qBlue(pixel)), static_cast<float>(qAlpha(pixel))};
     }
-
-    int m_width;
-    std::vector<Sample> m_samples;
-};
-
-/// The source pixels (first, first + 1, …) that make one output pixel along one axis, and their
-/// weights, which sum to 1.
-struct Taps
-{
-    int first = 0;
-    std::vector<float> weights;
-};
-
-/// A kernel with the length of its function's positive side.
-struct Filter
-{
-    const CImageInterpolationKernel<float>& kernel;
-    int support;
-};
-
-/// The kernel's function at `x`, up to a factor that normalising the taps takes out again: the
-/// table's middle column is the function times its value at 0.
-float weightAt(const Filter& filter, double x)
-{
-    const int size = filter.kernel.size();
-    const auto sample = static_cast<int>(std::lround((x / (2.0 * filter.support) + 0.5) * size));
-    return sample >= 0 && sample < size ? filter.kernel.coeff(size / 2, sample) : 0.0F;
-}
-
-/// Adds a weight for the source position, where positions beyond an edge stand for the edge.
-void addWeight(Taps& taps, int position, int length, float weight)
-{
-    const int clamped = qBound(0, position, length - 1);
-    const auto slot = static_cast<std::size_t>(clamped - taps.first);
-    if (slot >= taps.weights.size())
-        taps.weights.resize(slot + 1, 0.0F);
-    taps.weights[slot] += weight;
-}
-
-Taps tapsFor(int output, int sourceLength, int outputLength, const Filter& filter)
-{
-    const double ratio = static_cast<double>(sourceLength) / outputLength;
-    const double stretch = std::max(1.0, ratio);
-    const double centre = (output + 0.5) * ratio - 0.5;
-    const double reach = filter.support * stretch;
-    const auto begin = static_cast<int>(std::ceil(centre - reach));
-    const auto end = static_cast<int>(std::floor(centre + reach));
-
-    Taps taps;
-    taps.first = qBound(0, begin, sourceLength - 1);
-    float sum = 0.0F;
-    for (int position = begin; position <= end; ++position) {
-        const float weight = weightAt(filter, (position - centre) / stretch);
-        addWeight(taps, position, sourceLength, weight);
-        sum += weight;
-    }
-    for (float& weight : taps.weights)
-        weight /= sum;
-    return taps;
-}
-
-std::vector<Taps> axisTaps(int sourceLength, int outputLength)
-{
-    const CBicubicKernel cubic(2 * CubicSupport * SamplesPerUnit, CubicSlope);
-    const CLanczosKernel lanczos(2 * LanczosSupport * SamplesPerUnit, LanczosSupport);
-    const Filter filter =
-        outputLength < sourceLength ? Filter{lanczos, LanczosSupport} : Filter{cubic, CubicSupport};
-    std::vector<Taps> taps;
-    taps.reserve(static_cast<std::size_t>(outputLength));
-    for (int output = 0; output < outputLength; ++output)
-        taps.push_back(tapsFor(output, sourceLength, outputLength, filter));
-    return taps;
-}
-
-enum class Axis { Horizontal, Vertical };
-
-/// The weighted mean of the samples from (x, y) on, along the axis.
-Sample applyKernel(const SampleGrid& source, const Taps& taps, int x, int y, Axis axis)
-{
-    Q_ASSERT_X(x >= 0 && y >= 0, "applyKernel", "x >= 0 && y >= 0");
-    const int stepX = axis == Axis::Horizontal ? 1 : 0;
-    const int stepY = 1 - stepX;
-    Sample sum{};
-    for (const float weight : taps.weights) {
-        const Sample& sample = source.at(x, y);
-        for (std::size_t channel = 0; channel < sum.size(); ++channel)
-            sum[channel] += weight * sample[channel];
-        x += stepX;
-        y += stepY;
-    }
-    return sum;
-}
-
-SampleGrid samplesOf(const QImage& premultiplied)
-{
-    SampleGrid grid(premultiplied.width(), premultiplied.height());
-    for (int y = 0; y < premultiplied.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(premultiplied.constScanLine(y));
-        for (int x = 0; x < premultiplied.width(); ++x) {
-            const QRgb pixel = line[x];
-            grid.at(x, y) = {static_cast<float>(qRed(pixel)), static_cast<float>(qGreen(pixel)),
-                             static_cast<float>(qBlue(pixel)), static_cast<float>(qAlpha(pixel))};
-        }
-    }
-    return grid;
 }
 
 /// The sample as a premultiplied pixel. The kernels' negative lobes overshoot at hard edges: alpha
@@ -158,20 +41,6 @@ QRgb pixelOf(const Sample& sample)
     const int alpha = rounded(sample[3], 255);
     return qRgba(rounded(sample[0], alpha), rounded(sample[1], alpha), rounded(sample[2], alpha),
                  alpha);
-}
-
-SampleGrid resampledRows(const QImage& source, int width)
-{
-    const SampleGrid samples = samplesOf(source);
-    const std::vector<Taps> columns = axisTaps(source.width(), width);
-    SampleGrid rows(width, source.height());
-    for (int y = 0; y < source.height(); ++y) {
-        for (int x = 0; x < width; ++x) {
-            const Taps& taps = columns[static_cast<std::size_t>(x)];
-            rows.at(x, y) = applyKernel(samples, taps, taps.first, y, Axis::Horizontal);
-        }
-    }
-    return rows;
 }
 
 /// Not empty, and within what Qt's older interfaces can count in an image: 2 GiB of pixels.
@@ -238,15 +107,15 @@ QImage CImageResizer::bicubicInterpolation(const QImage& image, const QSize& siz
     if (result.isNull())
         return {};
 
-    const SampleGrid rows =
-        resampledRows(image.convertToFormat(QImage::Format_ARGB32_Premultiplied), target.width());
-    const std::vector<Taps> lines = axisTaps(image.height(), target.height());
-    for (int y = 0; y < target.height(); ++y) {
-        const Taps& taps = lines[static_cast<std::size_t>(y)];
-        auto* line = reinterpret_cast<QRgb*>(result.scanLine(y));
-        for (int x = 0; x < target.width(); ++x)
-            line[x] = pixelOf(applyKernel(rows, taps, x, taps.first, Axis::Vertical));
-    }
+    const QImage source = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    KernelResampling::resample(
+        image.size(), target,
+        {kernelFor(image.width(), target.width()), kernelFor(image.height(), target.height())},
+        [&source](int y, Sample* line) { readPixels(source, y, line); },
+        [&result](int y, const Sample* line) {
+            auto* const pixels = reinterpret_cast<QRgb*>(result.scanLine(y));
+            std::transform(line, line + result.width(), pixels, pixelOf);
+        });
     return result;
 }
 

@@ -67,6 +67,7 @@ void FrameGrabber::setSource(const QString& url)
     }
     m_source = url;
     m_hasVideo = true;
+    m_facts = QtAV::MediaFacts();
     Q_EMIT sourceChanged();
     releaseResourceInternal(true);
 }
@@ -135,6 +136,7 @@ bool FrameGrabber::open()
         m_hasVideo = !demuxer.videoStreams().isEmpty();
     }
     if (isOpen) {
+        m_facts = demuxer.facts();
         choosePrecision();
     } else {
         m_reader.close();

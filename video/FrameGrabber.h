@@ -39,6 +39,9 @@ public:
     /// file without video is closed again and reports 0 too.
     qint64 getDuration();
 
+    /// What the video that was opened last says of itself; nothing before one was.
+    const QtAV::MediaFacts& facts() const { return m_facts; }
+
     /// The position in milliseconds that extract() takes. Setting one that is nearer to the
     /// current position than the precision changes nothing, nor does setting any after a file
     /// turned out to hold no video.
@@ -118,5 +121,6 @@ private:
     qint32 m_precision;
     QString m_source;
     QtAV::FrameReader m_reader;
+    QtAV::MediaFacts m_facts;
     QtAV::VideoFrame m_frame;
 };

@@ -48,6 +48,11 @@ qint64 AVPlayer::duration() const
     return d->duration;
 }
 
+MediaFacts AVPlayer::facts() const
+{
+    return d->facts;
+}
+
 qint64 AVPlayer::position() const
 {
     return d->soughtMs.value_or(displayPosition());

@@ -74,6 +74,7 @@ void AVPlayer::Private::close(MediaStatus statusAfterwards)
     openSerial = engine.close();
     isLoaded = false;
     hasSound = false;
+    facts = MediaFacts();
     soughtMs.reset();
     const quint64 serial = openSerial;
     show(VideoFrame());
@@ -151,7 +152,7 @@ void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
             show(answer.result.frame);
         break;
     case Kind::Captured:
-        capture->deliver(answer.image);
+        capture->deliver(answer.image, answer.seconds);
         break;
     }
 }
@@ -160,6 +161,7 @@ void AVPlayer::Private::opened(const PlaybackEngine::Answer& answer)
 {
     isLoaded = true;
     hasSound = answer.hasSound;
+    facts = answer.facts;
     if (hasSound)
         sound.open(file);
     if (interval != answer.frameInterval) {

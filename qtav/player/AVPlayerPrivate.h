@@ -59,6 +59,7 @@ public:
     bool startsOverAtEnd = false;
     qint64 duration = 0;
     int interval = 0;
+    MediaFacts facts;
     VideoFrame frame;
     QPointer<VideoRenderer> renderer;
     Statistics statistics;

@@ -51,6 +51,8 @@ public:
     qint64 duration() const;
     /// The usual time between two frames in milliseconds, 1 or more.
     int frameInterval() const;
+    /// What the file says of itself.
+    MediaFacts facts() const { return m_reader.demuxer().facts(); }
     bool hasSound() const { return !m_reader.demuxer().audioStreams().isEmpty(); }
 
     /// The first frame at or after a position in milliseconds; behind the last frame, the last.

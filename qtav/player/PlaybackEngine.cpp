@@ -196,6 +196,7 @@ void PlaybackEngine::carryOutCapture(Lock& lock)
     m_mayPrepare = true;
     Answer result{Answer::Kind::Captured, capture.serial};
     result.image = std::move(image);
+    result.seconds = capture.frame.timestamp();
     answer(std::move(result));
 }
 
@@ -221,6 +222,7 @@ void PlaybackEngine::replaceFile(Lock& lock)
     Answer result{Answer::Kind::Opened, file.serial, first};
     result.frameInterval = m_source.frameInterval();
     result.hasSound = m_source.hasSound();
+    result.facts = m_source.facts();
     answer(std::move(result));
 }
 

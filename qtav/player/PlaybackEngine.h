@@ -48,6 +48,8 @@ public:
         qint64 duration = 0; ///< as far as it is known, in milliseconds; it may grow
         int frameInterval = 0;
         bool hasSound = false;
+        MediaFacts facts = {}; ///< Opened: what the file says of itself
+        double seconds = 0.0;  ///< Captured: the time of the picture
     };
 
     /// What the queue holds for a moment of playback.

@@ -21,8 +21,9 @@ void VideoCapture::capture()
         QMetaObject::invokeMethod(this, &VideoCapture::failed, Qt::QueuedConnection);
 }
 
-void VideoCapture::deliver(const QImage& image)
+void VideoCapture::deliver(const QImage& image, double seconds)
 {
+    m_seconds = seconds;
     if (image.isNull())
         Q_EMIT failed();
     else

@@ -329,6 +329,11 @@ const VideoCodecContext* AVDemuxer::videoCodecContext() const
     return d->codecContext.get();
 }
 
+MediaFacts AVDemuxer::facts() const
+{
+    return d->container ? d->container->facts(videoStream()) : MediaFacts();
+}
+
 QVector<qint64> AVDemuxer::indexedKeyFrames()
 {
     if (!d->video)

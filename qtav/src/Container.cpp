@@ -83,6 +83,26 @@ int findStreamInfo(AVFormatContext& format)
     return result;
 }
 
+/// More of either is no description of a video.
+constexpr int MostTags = 256;
+constexpr int LongestTagBytes = 4096;
+
+/// Adds the texts whose keys are not there yet.
+void addTags(QMap<QString, QString>& tags, const AVDictionary* dictionary)
+{
+    const AVDictionaryEntry* entry = nullptr;
+    while (tags.size() < MostTags) {
+        entry = av_dict_get(dictionary, "", entry, AV_DICT_IGNORE_SUFFIX);
+        if (!entry)
+            return;
+        const QString key = QString::fromUtf8(entry->key).toLower();
+        if (!tags.contains(key)) {
+            const auto size = static_cast<int>(qstrnlen(entry->value, LongestTagBytes));
+            tags.insert(key, QString::fromUtf8(entry->value, size));
+        }
+    }
+}
+
 /// No file leads to another one.
 int refuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
 {
@@ -236,6 +256,19 @@ void Container::findStart()
 Timeline Container::timeline(int stream) const
 {
     return Timeline(m_format->streams[stream]->time_base, m_startTicks, m_startTimeBase);
+}
+
+MediaFacts Container::facts(int stream) const
+{
+    MediaFacts facts;
+    addTags(facts.tags, m_format->metadata);
+    if (stream >= 0) {
+        const AVStream& described = *m_format->streams[stream];
+        addTags(facts.tags, described.metadata);
+        facts.tickNumerator = described.time_base.num;
+        facts.tickDenominator = described.time_base.den;
+    }
+    return facts;
 }
 
 AVRational Container::frameRate(int stream) const

@@ -4,6 +4,8 @@
 #include "qtav/src/FileInput.h"
 #include "qtav/src/Timeline.h"
 
+#include <QtAV/MediaFacts.h>
+
 #include <QRect>
 #include <QString>
 #include <QVector>
@@ -52,6 +54,9 @@ public:
 
     const AVStream& stream(int index) const { return *m_format->streams[index]; }
     Timeline timeline(int stream) const;
+
+    /// What the file and one of its streams say of themselves; of the file alone for -1.
+    MediaFacts facts(int stream) const;
 
     /// Frames in a second; 0/1 where the file does not say.
     AVRational frameRate(int stream) const;

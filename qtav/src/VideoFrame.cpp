@@ -170,6 +170,18 @@ QImage::Format VideoFrame::imageFormat() const
     return PictureConverter::hasAlpha(*d->frame) ? QImage::Format_ARGB32 : QImage::Format_RGB888;
 }
 
+QImage::Format VideoFrame::deepImageFormat() const
+{
+    const QImage::Format usual = imageFormat();
+    if (!d)
+        return usual;
+    const AVPixFmtDescriptor* const format =
+        av_pix_fmt_desc_get(static_cast<AVPixelFormat>(d->frame->format));
+    if (!format || format->comp[0].depth <= 8)
+        return usual;
+    return usual == QImage::Format_ARGB32 ? QImage::Format_RGBA64 : QImage::Format_RGBX64;
+}
+
 QImage VideoFrame::toImage(QImage::Format format, const QSize& size, const QRectF& region) const
 try {
     if (!d)

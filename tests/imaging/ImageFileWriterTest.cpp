@@ -2,6 +2,7 @@
 
 #include "tests/support/ResourceLimits.h"
 
+#include <QColorSpace>
 #include <QDir>
 #include <QImageReader>
 #include <QImageWriter>
@@ -10,6 +11,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
 
 using testsupport::MemoryLimit;
@@ -99,13 +101,14 @@ private slots:
     {
         QTest::addColumn<QString>("suffix");
         QTest::addColumn<int>("quality");
-        for (const QByteArray& suffix :
-             {QByteArray("jpg"), QByteArray("png"), QByteArray("bmp"), QByteArray("tiff")}) {
-            for (const int quality : {-1, 0, 50, 100, 150}) {
-                QTest::newRow((suffix + ' ' + QByteArray::number(quality)).constData())
-                    << QString::fromLatin1(suffix) << quality;
-            }
-        }
+        const auto add = [](const char* suffix, const QVector<int>& qualities) {
+            for (const int quality : qualities)
+                QTest::addRow("%s %d", suffix, quality) << QString::fromLatin1(suffix) << quality;
+        };
+        add("jpg", {-1, 0, 50, 89});
+        add("png", {0, 50, 89});
+        add("bmp", {-1, 0, 50, 100, 150});
+        add("tiff", {-1, 0, 50, 100, 150});
     }
     void write_givesWhatQtsWriterGives()
     {
@@ -115,10 +118,88 @@ private slots:
         const QString qts = m_folder->filePath(QStringLiteral("qts.") + suffix);
         QImageWriter writer(qts);
         writer.setQuality(quality);
-        QVERIFY(writer.write(picture()));
+        QImage tagged = picture();
+        tagged.setColorSpace(QColorSpace(QColorSpace::SRgb));
+        QVERIFY(writer.write(tagged));
         QCOMPARE(ImageFileWriter::write(ours, picture(), quality, ExistingFile::Keep),
                  WriteResult::Written);
         QVERIFY(read(ours) == read(qts));
+    }
+
+    void write_halvesTheChromaOfJpegs_belowQuality90()
+    {
+        QImage image(48, 48, QImage::Format_RGB888);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                image.setPixel(x, y, (x + y) % 3 == 0 ? qRgb(255, 0, 0) : qRgb(0, 0, 255));
+        }
+        const auto farthestRed = [&image](int quality) {
+            const QImage decoded =
+                QImage::fromData(ImageFileWriter::encode(image, QStringLiteral("JPEG"), quality));
+            int farthest = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    farthest = std::max(
+                        farthest, std::abs(qRed(decoded.pixel(x, y)) - qRed(image.pixel(x, y))));
+                }
+            }
+            return farthest;
+        };
+        QVERIFY(farthestRed(89) > 100);
+        QVERIFY(farthestRed(90) < 60);
+        QVERIFY(farthestRed(100) < 4);
+        QCOMPARE(ImageFileWriter::encode(image, QStringLiteral("jpg"), 150),
+                 ImageFileWriter::encode(image, QStringLiteral("jpg"), 100));
+    }
+
+    void write_compressesPngs_whateverTheQuality()
+    {
+        const QImage image = picture().scaled(400, 300);
+        const auto size = [&image](int quality) {
+            const QByteArray content =
+                ImageFileWriter::encode(image, QStringLiteral("png"), quality);
+            const QImage decoded = QImage::fromData(content);
+            return decoded.convertToFormat(image.format()) == image ? content.size() : -1;
+        };
+        for (const int quality : {-1, 0, 50, 89, 90, 100, 150}) {
+            QVERIFY2(size(quality) > 0, qPrintable(QString::number(quality)));
+            QVERIFY2(size(quality) < 100000, qPrintable(QString::number(size(quality))));
+        }
+    }
+
+    void write_addsAColourProfile_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<int>("quality");
+        QTest::newRow("jpg with halved chroma") << QStringLiteral("jpg") << 80;
+        QTest::newRow("jpg") << QStringLiteral("jpg") << 95;
+        QTest::newRow("png") << QStringLiteral("png") << -1;
+        QTest::newRow("tiff") << QStringLiteral("tiff") << -1;
+    }
+    void write_addsAColourProfile()
+    {
+        QFETCH(QString, suffix);
+        QFETCH(int, quality);
+        const auto profileOf = [&](const QImage& image) {
+            return QImage::fromData(ImageFileWriter::encode(image, suffix, quality)).colorSpace();
+        };
+        QCOMPARE(profileOf(picture()), QColorSpace(QColorSpace::SRgb));
+        QImage wide = picture();
+        wide.setColorSpace(QColorSpace(QColorSpace::AdobeRgb));
+        QCOMPARE(profileOf(wide), QColorSpace(QColorSpace::AdobeRgb));
+    }
+
+    void write_leavesTheImageAsItIs()
+    {
+        QImage image = picture().convertToFormat(QImage::Format_Indexed8);
+        image.setText(QStringLiteral("Title"), QStringLiteral("a title"));
+        const QByteArray content = ImageFileWriter::encode(image, QStringLiteral("png"), -1);
+        QVERIFY(!image.colorSpace().isValid());
+        const QImage decoded = QImage::fromData(content);
+        QCOMPARE(decoded.colorTable(), image.colorTable());
+        QCOMPARE(decoded.text(QStringLiteral("Title")), QStringLiteral("a title"));
+        QCOMPARE(decoded.convertToFormat(QImage::Format_RGB32),
+                 image.convertToFormat(QImage::Format_RGB32));
     }
 
     void write_failsWithoutATrace_data()

@@ -26,6 +26,10 @@ private slots:
         QCOMPARE(profile.imageBrightness(), 0);
         QCOMPARE(profile.imageQuality(), 90);
         QCOMPARE(profile.watermarkProfileId(), QString());
+        QCOMPARE(profile.metadata(), int(ImageProfile::MetadataWithoutPlace));
+        QCOMPARE(profile.resizeFilter(), int(ImageProfile::AreaFilter));
+        QCOMPARE(profile.resizeInLinearLight(), false);
+        QCOMPARE(profile.deepColours(), false);
         QCOMPARE(profile.cropBlackEdges(), false);
     }
 
@@ -49,7 +53,9 @@ private slots:
                          QStringLiteral("sameSizeAsVideo"), QStringLiteral("imageWidth"),
                          QStringLiteral("imageHeight"), QStringLiteral("maintainAspectRatio"),
                          QStringLiteral("imageContrast"), QStringLiteral("imageBrightness"),
-                         QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId")}));
+                         QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId"),
+                         QStringLiteral("metadata"), QStringLiteral("resizeFilter"),
+                         QStringLiteral("resizeInLinearLight"), QStringLiteral("deepColours")}));
         QCOMPARE(ImageProfile::staticMetaObject.indexOfProperty("cropBlackEdges"), -1);
     }
 
@@ -76,6 +82,10 @@ private slots:
         saved.setImageBrightness(55);
         saved.setImageQuality(150);
         saved.setWatermarkProfileId(QStringLiteral("3F2504E0-4F89-41D3-9A0C-0305E82C3301"));
+        saved.setMetadata(ImageProfile::NoMetadata);
+        saved.setResizeFilter(ImageProfile::NearestFilter);
+        saved.setResizeInLinearLight(true);
+        saved.setDeepColours(true);
         saved.setCropBlackEdges(true);
         writer.addProfile(&saved);
         writer.saveProfiles();
@@ -93,6 +103,10 @@ private slots:
         QCOMPARE(loaded->imageBrightness(), 55);
         QCOMPARE(loaded->imageQuality(), 150);
         QCOMPARE(loaded->watermarkProfileId(), saved.watermarkProfileId());
+        QCOMPARE(loaded->metadata(), int(ImageProfile::NoMetadata));
+        QCOMPARE(loaded->resizeFilter(), int(ImageProfile::NearestFilter));
+        QCOMPARE(loaded->resizeInLinearLight(), true);
+        QCOMPARE(loaded->deepColours(), true);
         QCOMPARE(loaded->cropBlackEdges(), false);
     }
 
@@ -166,7 +180,7 @@ private slots:
         settings.beginGroup(profile->id());
         QCOMPARE(settings.value(QStringLiteral("sortOrder")), QVariant(0));
         QCOMPARE(settings.value(QStringLiteral("imageQuality")), QVariant(90));
-        QCOMPARE(settings.allKeys().size(), 12);
+        QCOMPARE(settings.allKeys().size(), 16);
 
         const std::unique_ptr<BaseProfile> made(manager->createProfile());
         QVERIFY(qobject_cast<ImageProfile*>(made.get()));

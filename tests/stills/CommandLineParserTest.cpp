@@ -50,6 +50,7 @@ private Q_SLOTS:
     void values_mayBeAttached();
     void wrongUsage_isOneLine_thatNamesTheMistake_data();
     void wrongUsage_isOneLine_thatNamesTheMistake();
+    void like_needsNoVideo_andNoPositions();
     void everyOption_isUnderstood();
 };
 
@@ -157,6 +158,10 @@ void CommandLineParserTest::wrongUsage_isOneLine_thatNamesTheMistake_data()
     row("--enlarge a", "--size");
     row("--format gif a", "'gif'");
     row("--quality 101 a", "'101'");
+    row("--filter sinc a", "lanczos");
+    row("--metadata some a", "without-place");
+    row("--like a.jpg --profile x", "--like and --profile");
+    row("--like a.jpg --skip-end 3", "--skip-start");
     row("--names {foo} a", "{stem}");
     row("--names x --name-profile y a", "--names and --name-profile");
     row("--skip-existing --overwrite a", "--skip-existing and --overwrite");
@@ -185,6 +190,16 @@ void CommandLineParserTest::wrongUsage_isOneLine_thatNamesTheMistake()
     const QByteArray text = QByteArray::fromStdString(line.text);
     QVERIFY2(text.contains(named), text.constData());
     QVERIFY(!text.contains('\n'));
+}
+
+void CommandLineParserTest::like_needsNoVideo_andNoPositions()
+{
+    const Options options = optionsOf({"--like", "a.jpg"});
+    QCOMPARE(*options.like, std::string("a.jpg"));
+    QVERIFY(options.videos.empty());
+    QVERIFY(!options.choosesPositions);
+    QVERIFY(optionsOf({"--like", "a.jpg", "--at", "5"}).choosesPositions);
+    QVERIFY(optionsOf({"--like", "a.jpg", "--scenes"}).choosesPositions);
 }
 
 void CommandLineParserTest::everyOption_isUnderstood()

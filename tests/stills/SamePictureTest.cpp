@@ -1,8 +1,9 @@
 #include "batch/BatchWorker.h"
 #include "batch/BatchWorkerConfig.h"
-#include "imaging/ImageProcessingManager.h"
+#include "imaging/Rendering.h"
 #include "tests/stills/StillsProgram.h"
 #include "tests/support/Samples.h"
+#include "tests/support/TaggedSample.h"
 #include "tests/support/TestDir.h"
 #include "video/FrameGrabber.h"
 
@@ -84,7 +85,6 @@ QByteArray bySnapshot(const QString& video, qint64 ms, const QSize& size)
 {
     const TestDir dir;
     const std::unique_ptr<ImageProfile> profile = profileFor(size);
-    FileNameProfile names;
     FrameGrabber grabber;
     grabber.setSource(video);
     grabber.setPrecision(0);
@@ -92,12 +92,16 @@ QByteArray bySnapshot(const QString& video, qint64 ms, const QSize& size)
     QObject::connect(&grabber, &FrameGrabber::frameExtracted, &grabber,
                      [&frame](const QtAV::VideoFrame& found) { frame = found; });
     grabber.extractInternal(ms);
-    ImageProcessingManager& manager = *ImageProcessingManager::instance();
-    const QImage picture =
-        manager.processImage(frame.toImage(frame.imageFormat()), profile.get(), nullptr);
-    const bool isSaved = manager.saveImage(dir.filePath(QStringLiteral("snapshot.jpeg")), picture,
-                                           profile.get(), &names);
-    return isSaved ? onlyContent(dir.path()) : QByteArray();
+    const QtAV::MediaFacts& facts = grabber.facts();
+    const PictureSource source =
+        PictureSource::of(video, facts.tags, facts.tickNumerator, facts.tickDenominator)
+            .at(frame.timestamp(), frame.displaySize());
+    const ImageRecipe recipe = recipes::of(*profile);
+    const imaging::Rendering made = imaging::render(frame.toImage(frame.imageFormat()), recipe);
+    const WriteResult result =
+        imaging::save(dir.filePath(QStringLiteral("snapshot.jpeg")), made.image, recipe,
+                      QStringLiteral("jpeg"), source, ExistingFile::Keep);
+    return result == WriteResult::Written ? onlyContent(dir.path()) : QByteArray();
 }
 
 } // namespace
@@ -110,6 +114,7 @@ class SamePictureTest : public QObject
 private Q_SLOTS:
     void stillsBatchJobsAndSnapshots_giveTheSameBytes_data();
     void stillsBatchJobsAndSnapshots_giveTheSameBytes();
+    void metadata_isTheSame_whateverTookThePicture();
 };
 
 void SamePictureTest::stillsBatchJobsAndSnapshots_giveTheSameBytes_data()
@@ -135,6 +140,21 @@ void SamePictureTest::stillsBatchJobsAndSnapshots_giveTheSameBytes()
     QVERIFY(!bytes.isEmpty());
     QVERIFY(byBatchJob(video, ms, size) == bytes);
     QVERIFY(bySnapshot(video, ms, size) == bytes);
+}
+
+void SamePictureTest::metadata_isTheSame_whateverTookThePicture()
+{
+    const TestDir dir;
+    const QString video = dir.filePath(QStringLiteral("tagged.mov"));
+    QVERIFY(testsupport::tagSample(
+        QStringLiteral("h264_bframes.mp4"), video,
+        {QStringLiteral("com.apple.quicktime.creationdate=2024-05-06T12:34:56+0200"),
+         QStringLiteral("com.apple.quicktime.location.ISO6709=+48.2+016.3/"),
+         QStringLiteral("artist=Zoë")}));
+    const QByteArray bytes = byStills(video, 1000, QSize());
+    QVERIFY(bytes.contains("2024:05:06 12:34:57"));
+    QVERIFY(byBatchJob(video, 1000, QSize()) == bytes);
+    QVERIFY(bySnapshot(video, 1000, QSize()) == bytes);
 }
 
 QTEST_MAIN(SamePictureTest)

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void framesThatThereAreNot_areErrors();
     void size_makesPicturesSmaller_neverLarger_data();
     void size_makesPicturesSmaller_neverLarger();
+    void filter_decidesHowTheSizeChanges();
     void format_decidesTheType_data();
     void format_decidesTheType();
     void standardOutput_takesThePictures();
@@ -239,6 +240,35 @@ void StillsFramesTest::size_makesPicturesSmaller_neverLarger()
                                      QStringLiteral("-o"), dir.path()});
     QVERIFY2(result.succeeded(), result.standardError.constData());
     QCOMPARE(QImage(dir.filePath(filesIn(dir.path()).constFirst())).size(), size);
+}
+
+void StillsFramesTest::filter_decidesHowTheSizeChanges()
+{
+    const auto made = [](const char* options) {
+        const TestDir dir;
+        const ProgramResult result = stillsprogram::run(
+            words(QString::fromLatin1(options)) +
+            QStringList{samplePath(shortSample), QStringLiteral("--at"), QStringLiteral("1"),
+                        QStringLiteral("--size"), QStringLiteral("700x525"),
+                        QStringLiteral("--enlarge"), QStringLiteral("--format"),
+                        QStringLiteral("png"), QStringLiteral("-o"), dir.path()});
+        return result.succeeded() ? QImage(dir.filePath(filesIn(dir.path()).constFirst()))
+                                  : QImage();
+    };
+    const QImage area = made("");
+    QCOMPARE(area.size(), QSize(700, 525));
+    QCOMPARE(made("--filter area"), area);
+    const QImage nearest = made("--filter nearest");
+    const QImage lanczos = made("--filter lanczos");
+    const QImage bicubic = made("--filter=bicubic");
+    const QImage light = made("--filter lanczos --linear-light");
+    for (const QImage& image : {nearest, lanczos, bicubic, light}) {
+        QCOMPARE(image.size(), area.size());
+        QVERIFY(image != area);
+        QCOMPARE(testsupport::frameNumber(image).value_or(-1), 25);
+    }
+    QVERIFY(lanczos != bicubic);
+    QVERIFY(lanczos != light);
 }
 
 void StillsFramesTest::format_decidesTheType_data()

@@ -1,5 +1,6 @@
 #include "ui/dialogs/FileNameProfileDialog.h"
 
+#include "imaging/ImageFormats.h"
 #include "profiles/FileNameProfile.h"
 #include "profiles/ProfileManager.h"
 #include "ui/widgets/EqualWidths.h"
@@ -106,8 +107,12 @@ void FileNameProfileDialog::on_saveButton_clicked()
 
 void FileNameProfileDialog::fillTypes()
 {
-    for (const char* const type : {"jpg", "jpeg", "png", "tif", "tiff"}) {
-        const QString extension = QLatin1String(type);
+    const QStringList types = ImageFormats::suffixes();
+    for (const QString& extension : types) {
+        // Bitmaps are large and hold no metadata.
+        if (extension == QLatin1String("bmp")) {
+            continue;
+        }
         m_ui->formatFileExtensionComboBox->addItem(QLatin1Char('.') + extension, extension);
     }
 }

@@ -34,6 +34,8 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     connect(m_ui->profileSelector, &ProfileSelector::profileNameTextChanged, this,
             &ImageProfileDialog::profileNameTextChanged);
     setupWatermarkProfileComboBox();
+    setupResizeFilterComboBox();
+    setupMetadataComboBox();
     connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, MinAdjustment, MaxAdjustment);
     connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
     setupProfileSelector();
@@ -100,6 +102,8 @@ void ImageProfileDialog::on_sameSizeAsVideoCheckbox_toggled(bool checked)
         swap(*m_videoHeightDisplay, *m_ui->imageHeightLineEdit);
     }
     m_ui->maintainAspectRatioCheckbox->setEnabled(!checked);
+    m_ui->resizeFilterComboBox->setEnabled(!checked);
+    m_ui->resizeInLinearLightCheckbox->setEnabled(!checked);
 }
 
 void ImageProfileDialog::on_watermarkProfileEditButton_clicked()
@@ -156,6 +160,21 @@ void ImageProfileDialog::setupWatermarkProfileComboBox()
         m_ui->watermarkProfileComboBox->addItem(profile->name(), profile->id());
 }
 
+void ImageProfileDialog::setupResizeFilterComboBox()
+{
+    m_ui->resizeFilterComboBox->addItem(tr("Area"), ImageProfile::AreaFilter);
+    m_ui->resizeFilterComboBox->addItem(tr("Lanczos"), ImageProfile::LanczosFilter);
+    m_ui->resizeFilterComboBox->addItem(tr("Bicubic"), ImageProfile::BicubicFilter);
+    m_ui->resizeFilterComboBox->addItem(tr("Nearest"), ImageProfile::NearestFilter);
+}
+
+void ImageProfileDialog::setupMetadataComboBox()
+{
+    m_ui->metadataComboBox->addItem(tr("All"), ImageProfile::MetadataAll);
+    m_ui->metadataComboBox->addItem(tr("Without Place"), ImageProfile::MetadataWithoutPlace);
+    m_ui->metadataComboBox->addItem(tr("None"), ImageProfile::NoMetadata);
+}
+
 void ImageProfileDialog::connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max)
 {
     slider->setRange(min, max);
@@ -170,10 +189,14 @@ void ImageProfileDialog::setupProfileSelector()
     addField("imageWidth", m_ui->imageWidthLineEdit);
     addField("imageHeight", m_ui->imageHeightLineEdit);
     addField("maintainAspectRatio", m_ui->maintainAspectRatioCheckbox);
+    addField("resizeFilter", m_ui->resizeFilterComboBox);
+    addField("resizeInLinearLight", m_ui->resizeInLinearLightCheckbox);
     addField("watermarkProfileId", m_ui->watermarkProfileComboBox);
     addField("imageBrightness", m_ui->brightnessSpinBox);
     addField("imageContrast", m_ui->contrastSpinBox);
     addField("imageQuality", m_ui->jpegQualitySpinBox);
+    addField("metadata", m_ui->metadataComboBox);
+    addField("deepColours", m_ui->deepColoursCheckbox);
 
     ProfileSelector* const selector = m_ui->profileSelector;
     selector->loadProfiles(ImageProfile::profileManager());

@@ -18,7 +18,7 @@ namespace Ui {
 class ImageProfileDialog;
 }
 
-/// Edits image profiles: size, corrections, JPEG quality and the watermark.
+/// Edits image profiles: size, corrections, JPEG quality, metadata and the watermark.
 ///
 /// Every edit is handed to the preview, a moment after the last one. The caller sets up the dialog,
 /// runs it and asks for selectedProfile(). User-interface thread only.
@@ -66,6 +66,8 @@ private Q_SLOTS:
 private:
     void setupButtons();
     void setupWatermarkProfileComboBox();
+    void setupResizeFilterComboBox();
+    void setupMetadataComboBox();
     void connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max);
     void setupProfileSelector();
     void addField(const char* propertyName, QWidget* widget);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "imaging/FilePublisher.h"
+#include "imaging/ImageRecipe.h"
+#include "imaging/PictureSource.h"
 #include "ui/mainwindow/CaptureTickets.h"
 
 #include <QDir>
@@ -180,6 +182,8 @@ private:
     void resetSnapshot();
     [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
     [[nodiscard]] WriteResult saveNewSnapshot(const QString& path);
+    [[nodiscard]] PictureSource sourceOfCapture(const QImage& image) const;
+    [[nodiscard]] WriteResult writeSnapshot(const QString& path, ExistingFile existing);
     void reportSaving(const QString& path, bool success);
     void saveAs(const QString& chosen);
     [[nodiscard]] bool isReplacingWanted(const QString& path);
@@ -188,8 +192,12 @@ private:
     QSettings m_settings;
     /// As processed; null until the first capture.
     QImage m_snapshotImage;
+    /// What m_snapshotImage was made by.
+    ImageRecipe m_snapshotRecipe;
     /// As captured.
     QImage m_fullFrameImage;
+    /// The frame of m_fullFrameImage.
+    PictureSource m_capturedSource;
     /// The file and the time of the last capture, for messages.
     QString m_capturedPlace;
     QString m_currentVideoPath;

@@ -1,6 +1,7 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include "imaging/ImageProcessingManager.h"
+#include "imaging/Rendering.h"
 #include "profiles/FileNameProfile.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
@@ -74,12 +75,25 @@ void MainWindow::snapshotCaptured(const QImage& image)
         return;
     }
     m_fullFrameImage = image.copy();
+    m_capturedSource = sourceOfCapture(image);
     const QString error = makeSnapshot(nullptr);
     // Without a snapshot as well: the profile may be to blame, and is edited there.
     setSnapshotControlsEnabled(true);
     if (!error.isEmpty()) {
         warnOfCapture(error);
     }
+}
+
+/// What matters of the captures is of the video that is open.
+PictureSource MainWindow::sourceOfCapture(const QImage& image) const
+{
+    if (!isVideoLoaded()) {
+        return {};
+    }
+    const QtAV::MediaFacts facts = m_player->facts();
+    const PictureSource video =
+        PictureSource::of(m_player->file(), facts.tags, facts.tickNumerator, facts.tickDenominator);
+    return video.at(m_player->videoCapture()->capturedSeconds(), image.size());
 }
 
 void MainWindow::onCaptureError()
@@ -115,11 +129,11 @@ void MainWindow::processFullFrameImage(ImageProfile* profile)
 /// Makes the snapshot from the full frame, and shows it. Gives the reason where there is none.
 QString MainWindow::makeSnapshot(ImageProfile* profile)
 {
-    QString error;
-    m_snapshotImage = ImageProcessingManager::instance()->processImage(
-        m_fullFrameImage, profile == nullptr ? m_imageProfile : profile, nullptr, &error);
+    m_snapshotRecipe = recipes::of(profile == nullptr ? *m_imageProfile : *profile);
+    const imaging::Rendering made = imaging::render(m_fullFrameImage, m_snapshotRecipe);
+    m_snapshotImage = made.image;
     m_ui->snapshotImageView->setImage(m_snapshotImage);
-    return error;
+    return made.error;
 }
 
 void MainWindow::imageProfileUpdated(ImageProfile* profile)
@@ -133,6 +147,7 @@ void MainWindow::resetSnapshot()
 {
     m_fullFrameImage = QImage();
     m_snapshotImage = QImage();
+    m_capturedSource = PictureSource();
     m_ui->snapshotImageView->setImage(m_snapshotImage);
 }
 
@@ -162,10 +177,20 @@ void MainWindow::on_actionSaveSnapshot_triggered()
     saveButtonPressed();
 }
 
+/// What belongs to the file, and not to the picture, is up to the profile that is chosen now.
+WriteResult MainWindow::writeSnapshot(const QString& path, ExistingFile existing)
+{
+    const ImageRecipe chosen = recipes::of(*m_imageProfile);
+    ImageRecipe recipe = m_snapshotRecipe;
+    recipe.jpegQuality = chosen.jpegQuality;
+    recipe.metadata = chosen.metadata;
+    return imaging::save(path, m_snapshotImage, recipe, m_fileNameProfile->fileOutputType(),
+                         m_capturedSource, existing);
+}
+
 bool MainWindow::saveSnapshot(QString path)
 {
-    const bool success = ImageProcessingManager::instance()->saveImage(
-        path, m_snapshotImage, m_imageProfile, m_fileNameProfile);
+    const bool success = writeSnapshot(path, ExistingFile::Replace) == WriteResult::Written;
     reportSaving(path, success);
     return success;
 }
@@ -173,8 +198,7 @@ bool MainWindow::saveSnapshot(QString path)
 /// The same, but never in place of another file.
 WriteResult MainWindow::saveNewSnapshot(const QString& path)
 {
-    const WriteResult result = ImageProcessingManager::instance()->saveNewImage(
-        path, m_snapshotImage, m_imageProfile, m_fileNameProfile);
+    const WriteResult result = writeSnapshot(path, ExistingFile::Keep);
     reportSaving(path, result == WriteResult::Written);
     return result;
 }

@@ -1,5 +1,7 @@
 #include "ui/mainwindow/SavePath.h"
 
+#include "imaging/ImageFormats.h"
+
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -21,8 +23,17 @@ QStringList suffixesIn(const QString& nameFilters)
 
 QStringList SavePath::nameFilters()
 {
-    return {QStringLiteral("JPEG (*.jpg *.jpeg)"), QStringLiteral("PNG (*.png)"),
-            QStringLiteral("BMP (*.bmp)"), QStringLiteral("TIFF (*.tif *.tiff)")};
+    QStringList filters{QStringLiteral("JPEG (*.jpg *.jpeg)"), QStringLiteral("PNG (*.png)"),
+                        QStringLiteral("BMP (*.bmp)"), QStringLiteral("TIFF (*.tif *.tiff)")};
+    const auto addIfWritable = [&filters](const char* name, const QString& suffix) {
+        if (ImageFormats::canWrite(suffix)) {
+            filters += QStringLiteral("%1 (*.%2)").arg(QString::fromLatin1(name), suffix);
+        }
+    };
+    addIfWritable("WebP", QStringLiteral("webp"));
+    addIfWritable("AVIF", QStringLiteral("avif"));
+    addIfWritable("JPEG XL", QStringLiteral("jxl"));
+    return filters;
 }
 
 QString SavePath::completed(const QString& path, const QString& nameFilter)

@@ -6,7 +6,7 @@
 /// What the save dialog offers, and what becomes of the name chosen in it.
 namespace SavePath {
 
-/// The image types, in the order in which they are offered.
+/// The image types that this machine can write, in the order in which they are offered.
 [[nodiscard]] QStringList nameFilters();
 
 /// The path, which ends in the first suffix of the name filter unless it ends in one of an image

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtAV/FrameResult.h>
+#include <QtAV/MediaFacts.h>
 #include <QtAV/Packet.h>
 #include <QtAV/VideoCodecContext.h>
 
@@ -100,6 +101,9 @@ public:
     /// Facts of the selected video stream, owned by the demuxer until it is unloaded or another
     /// stream is selected; null without one.
     const VideoCodecContext* videoCodecContext() const;
+
+    /// What the file says of itself, as far as it was read so far; nothing when none is loaded.
+    MediaFacts facts() const;
 
     /// Where the key frames of the video stream lie, in milliseconds in rising order, as far as the
     /// file's index tells without reading the file: good for planning, since the index may leave

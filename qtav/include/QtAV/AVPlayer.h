@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtAV/AudioOutput.h>
+#include <QtAV/MediaFacts.h>
 #include <QtAV/Statistics.h>
 #include <QtAV/VideoCapture.h>
 #include <QtAV/VideoFrame.h>
@@ -70,6 +71,9 @@ public:
     /// In milliseconds, 0 while no file is loaded. It grows, with a durationChanged(), when frames
     /// show up behind the end that the file states.
     qint64 duration() const;
+
+    /// What the file says of itself; nothing while none is loaded.
+    MediaFacts facts() const;
 
     /// Where the player is: the target of a seek that runs, else displayPosition().
     qint64 position() const;

@@ -21,7 +21,11 @@ public:
     void setTaker(std::function<void()> take);
 
     /// For the player: answers a capture(); a null image when there is none.
-    void deliver(const QImage& image);
+    /// @param seconds  the time of its frame
+    void deliver(const QImage& image, double seconds);
+
+    /// The time in seconds of the frame that was captured last: for the slots of imageCaptured().
+    double capturedSeconds() const { return m_seconds; }
 
 public Q_SLOTS:
     /// Takes the frame that is on screen now. Each call is answered by one signal, later, from the
@@ -37,6 +41,7 @@ Q_SIGNALS:
 
 private:
     std::function<void()> m_take;
+    double m_seconds = 0.0;
 };
 
 } // namespace QtAV

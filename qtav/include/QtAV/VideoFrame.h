@@ -65,6 +65,10 @@ public:
     /// works on alpha like on colours would make it see-through. Format_Invalid when not valid.
     QImage::Format imageFormat() const;
 
+    /// The same, with 16 bits a channel where the picture has more than 8: Format_RGBA64 where the
+    /// pixel format has alpha, else Format_RGBX64.
+    QImage::Format deepImageFormat() const;
+
     /// The picture as it is meant to be seen: upright, with square pixels, in full-range sRGB
     /// values, converted by the frame's own matrix and range, with its alpha where it has one.
     ///

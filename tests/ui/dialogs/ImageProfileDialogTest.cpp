@@ -41,6 +41,10 @@ void fillForm(ImageProfileDialog& dialog)
     child<QSlider>(dialog, "brightnessSlider").setValue(11);
     child<QSlider>(dialog, "contrastSlider").setValue(-12);
     child<QSpinBox>(dialog, "jpegQualitySpinBox").setValue(13);
+    child<QComboBox>(dialog, "metadataComboBox").setCurrentIndex(2);
+    child<QComboBox>(dialog, "resizeFilterComboBox").setCurrentIndex(1);
+    child<QCheckBox>(dialog, "resizeInLinearLightCheckbox").setChecked(true);
+    child<QCheckBox>(dialog, "deepColoursCheckbox").setChecked(true);
     auto& watermarks = child<QComboBox>(dialog, "watermarkProfileComboBox");
     watermarks.setCurrentIndex(watermarks.count() - 1);
 }
@@ -54,6 +58,10 @@ void compareWithFilledForm(const ImageProfile& profile, const QString& watermark
     QCOMPARE(profile.imageBrightness(), 11);
     QCOMPARE(profile.imageContrast(), -12);
     QCOMPARE(profile.imageQuality(), 13);
+    QCOMPARE(profile.metadata(), int(ImageProfile::NoMetadata));
+    QCOMPARE(profile.resizeFilter(), int(ImageProfile::LanczosFilter));
+    QVERIFY(profile.resizeInLinearLight());
+    QVERIFY(profile.deepColours());
     QCOMPARE(profile.watermarkProfileId(), watermarkId);
 }
 
@@ -130,6 +138,8 @@ void ImageProfileDialogTest::form_hasItsTexts()
     const QList<QPair<const char*, const char*>> buttons{
         {"sameSizeAsVideoCheckbox", "Same Size as Video"},
         {"maintainAspectRatioCheckbox", "Maintain Aspect Ratio"},
+        {"resizeInLinearLightCheckbox", "Resize in Linear Light"},
+        {"deepColoursCheckbox", "16-Bit PNG and TIFF"},
         {"watermarkProfileEditButton", "Edit"},
         {"resetToDefaultsButton", "Reset to Defaults"},
         {"saveButton", "Save"},
@@ -170,10 +180,14 @@ void ImageProfileDialogTest::fields_areTheseInThisOrder()
                           textOf("imageWidth imageWidthLineEdit -1"),
                           textOf("imageHeight imageHeightLineEdit -1"),
                           textOf("maintainAspectRatio maintainAspectRatioCheckbox -1"),
+                          textOf("resizeFilter resizeFilterComboBox -1"),
+                          textOf("resizeInLinearLight resizeInLinearLightCheckbox -1"),
                           textOf("watermarkProfileId watermarkProfileComboBox -1"),
                           textOf("imageBrightness brightnessSpinBox -1"),
                           textOf("imageContrast contrastSpinBox -1"),
-                          textOf("imageQuality jpegQualitySpinBox -1")}));
+                          textOf("imageQuality jpegQualitySpinBox -1"),
+                          textOf("metadata metadataComboBox -1"),
+                          textOf("deepColours deepColoursCheckbox -1")}));
 }
 
 void ImageProfileDialogTest::groupBoxes_shareTheirMargins()
@@ -199,11 +213,13 @@ void ImageProfileDialogTest::everyLabel_belongsToItsInput()
 {
     const TestProfiles profiles;
     const ImageProfileDialog dialog(nullptr);
-    const QStringList texts{textOf("Image Width:"), textOf("Image Height:"), textOf("Brightness:"),
-                            textOf("Contrast:"), textOf("JPEG Quality:")};
-    const QStringList inputs{textOf("imageWidthLineEdit"), textOf("imageHeightLineEdit"),
-                             textOf("brightnessSlider"), textOf("contrastSlider"),
-                             textOf("jpegQualitySpinBox")};
+    const QStringList texts{
+        textOf("Image Width:"), textOf("Image Height:"), textOf("Filter:"),  textOf("Brightness:"),
+        textOf("Contrast:"),    textOf("JPEG Quality:"), textOf("Metadata:")};
+    const QStringList inputs{textOf("imageWidthLineEdit"),   textOf("imageHeightLineEdit"),
+                             textOf("resizeFilterComboBox"), textOf("brightnessSlider"),
+                             textOf("contrastSlider"),       textOf("jpegQualitySpinBox"),
+                             textOf("metadataComboBox")};
     QStringList found;
     const auto labels = dialog.findChildren<QLabel*>();
     for (const QLabel* const label : labels) {
@@ -226,6 +242,8 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
                             textOf("contrastSlider"),
                             textOf("contrastSpinBox"),
                             textOf("jpegQualitySpinBox"),
+                            textOf("metadataComboBox"),
+                            textOf("deepColoursCheckbox"),
                             textOf("watermarkProfileComboBox"),
                             textOf("watermarkProfileEditButton"),
                             textOf("resetToDefaultsButton"),
@@ -233,7 +251,8 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
                             textOf("cancelButton")};
     const QStringList before{textOf("profileComboBox"), textOf("sameSizeAsVideoCheckbox")};
     const QStringList size{textOf("imageWidthLineEdit"), textOf("imageHeightLineEdit"),
-                           textOf("maintainAspectRatioCheckbox")};
+                           textOf("maintainAspectRatioCheckbox"), textOf("resizeFilterComboBox"),
+                           textOf("resizeInLinearLightCheckbox")};
     QCOMPARE(testsupport::tabOrder(dialog), before + size + after);
     setSameSize(dialog, true);
     QCOMPARE(testsupport::tabOrder(dialog), before + after);

@@ -1,6 +1,12 @@
 #include "tests/ui/mainwindow/OpenWindow.h"
 
+#include "imaging/Metadata.h"
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
 #include "tests/support/Samples.h"
+#include "ui/mainwindow/SavePath.h"
+
+#include <QtAV/AVPlayer.h>
 
 #include <QApplication>
 #include <QDir>
@@ -42,6 +48,7 @@ private Q_SLOTS:
     void saveDialog_asksBeforeReplacing_whenItCompletesTheName();
     void savedElsewhere_staysThere_whenAnotherVideoIsOpened();
     void saveSnapshot_writesTheFile_orSaysThatItCouldNot();
+    void savedFile_tellsWhichFrameItIs_andWhatMadeIt();
 };
 
 namespace {
@@ -248,7 +255,8 @@ void MainWindowSavingTest::saveDialog_offersTheImageTypes()
     OpenWindow window;
     const QFileDialog& dialog = window.find<QFileDialog>("saveDialog");
     QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
-    QCOMPARE(dialog.nameFilters().join(QLatin1Char(';')),
+    QCOMPARE(dialog.nameFilters(), SavePath::nameFilters());
+    QCOMPARE(dialog.nameFilters().mid(0, 4).join(QLatin1Char(';')),
              QStringLiteral("JPEG (*.jpg *.jpeg);PNG (*.png);BMP (*.bmp);TIFF (*.tif *.tiff)"));
 }
 
@@ -349,6 +357,33 @@ void MainWindowSavingTest::saveSnapshot_writesTheFile_orSaysThatItCouldNot()
     QVERIFY(window->statusBar()->currentMessage().startsWith(QStringLiteral("Saved ")));
     QVERIFY(!window->saveSnapshot(window.dir().filePath(QStringLiteral("none/a.png"))));
     QVERIFY(window->statusBar()->currentMessage().startsWith(QStringLiteral("Could not save ")));
+}
+
+void MainWindowSavingTest::savedFile_tellsWhichFrameItIs_andWhatMadeIt()
+{
+    OpenWindow window;
+    ImageProfile& profile =
+        *qobject_cast<ImageProfile*>(ImageProfile::profileManager()->profiles().constFirst());
+    profile.setImageContrast(17);
+    profile.setMetadata(ImageProfile::MetadataAll);
+    const QString video = window.copyOf(clip, QStringLiteral("clip.mp4"));
+    QVERIFY(window.openPaused(video));
+    window.player().setPosition(1500);
+    QTRY_COMPARE(window.player().displayPosition(), 1520);
+    QVERIFY(window.takeSnapshot());
+    // What the snapshot was made by is not what its profile says by now.
+    profile.setImageContrast(3);
+    const QString path = window.dir().filePath(QStringLiteral("a.jpg"));
+    QVERIFY(window->saveSnapshot(path));
+    QString error;
+    const auto origin = imaging::readOrigin(path, error);
+    QVERIFY2(origin, qPrintable(error));
+    QCOMPARE(origin->positionMs, 1520);
+    QCOMPARE(origin->videoPath, video);
+    QCOMPARE(origin->recipe.contrast, 17);
+    profile.setMetadata(ImageProfile::NoMetadata);
+    QVERIFY(window->saveSnapshot(path));
+    QVERIFY(!imaging::readOrigin(path, error));
 }
 
 QTEST_MAIN(MainWindowSavingTest)

@@ -1,6 +1,9 @@
 #include "ui/mainwindow/SavePath.h"
 
+#include <QImageWriter>
 #include <QTest>
+
+#include <utility>
 
 class SavePathTest : public QObject
 {
@@ -14,9 +17,17 @@ private Q_SLOTS:
 
 void SavePathTest::nameFilters_areTheImageTypesInOrder()
 {
-    QCOMPARE(SavePath::nameFilters(),
-             (QStringList{QStringLiteral("JPEG (*.jpg *.jpeg)"), QStringLiteral("PNG (*.png)"),
-                          QStringLiteral("BMP (*.bmp)"), QStringLiteral("TIFF (*.tif *.tiff)")}));
+    QStringList expected{QStringLiteral("JPEG (*.jpg *.jpeg)"), QStringLiteral("PNG (*.png)"),
+                         QStringLiteral("BMP (*.bmp)"), QStringLiteral("TIFF (*.tif *.tiff)")};
+    const auto writable = QImageWriter::supportedImageFormats();
+    for (const auto& [suffix, filter] :
+         {std::pair("webp", "WebP (*.webp)"), std::pair("avif", "AVIF (*.avif)"),
+          std::pair("jxl", "JPEG XL (*.jxl)")}) {
+        if (writable.contains(suffix)) {
+            expected += QString::fromLatin1(filter);
+        }
+    }
+    QCOMPARE(SavePath::nameFilters(), expected);
 }
 
 void SavePathTest::path_isCompleted_unlessItIsAnImagesAlready_data()
@@ -44,5 +55,5 @@ void SavePathTest::path_isCompleted_unlessItIsAnImagesAlready()
     QTEST(SavePath::completed(path, SavePath::nameFilters().at(filter)), "completed");
 }
 
-QTEST_APPLESS_MAIN(SavePathTest)
+QTEST_GUILESS_MAIN(SavePathTest)
 #include "SavePathTest.moc"

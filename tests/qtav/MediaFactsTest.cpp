@@ -1,0 +1,97 @@
+#include <QtAV/AVDemuxer.h>
+
+#include "tests/support/Samples.h"
+#include "tests/support/TaggedSample.h"
+#include "tests/support/TestDir.h"
+
+#include <QTest>
+
+using QtAV::AVDemuxer;
+using QtAV::MediaFacts;
+using testsupport::samplePath;
+using testsupport::tagSample;
+using testsupport::TestDir;
+
+namespace {
+
+/// The facts of a file; ends the case's checks with none where it cannot be opened.
+MediaFacts factsOf(const QString& path)
+{
+    AVDemuxer demuxer;
+    demuxer.setMedia(path);
+    return demuxer.load() ? demuxer.facts() : MediaFacts();
+}
+
+} // namespace
+
+class MediaFactsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void facts_areThoseOfTheFile_beforeThoseOfTheVideo()
+    {
+        const TestDir dir;
+        const QString path = dir.filePath(QStringLiteral("a.mkv"));
+        QVERIFY(tagSample(QStringLiteral("h264_bframes.mkv"), path,
+                          {QStringLiteral("creation_time=2024-05-06T10:34:56.25Z"),
+                           QStringLiteral("ARTIST=Zoë"), QStringLiteral("MAKE=of the file"),
+                           QStringLiteral("s:make=of the video"),
+                           QStringLiteral("s:model=of the video")}));
+        const MediaFacts facts = factsOf(path);
+        QCOMPARE(facts.tags.value(QStringLiteral("creation_time")),
+                 QStringLiteral("2024-05-06T10:34:56.250000Z"));
+        QCOMPARE(facts.tags.value(QStringLiteral("artist")), QStringLiteral("Zoë"));
+        QCOMPARE(facts.tags.value(QStringLiteral("make")), QStringLiteral("of the file"));
+        QCOMPARE(facts.tags.value(QStringLiteral("model")), QStringLiteral("of the video"));
+        QCOMPARE(facts.tickNumerator, 1);
+        QCOMPARE(facts.tickDenominator, 1000);
+    }
+
+    void facts_tellWhatCamerasWrite()
+    {
+        const TestDir dir;
+        const QString path = dir.filePath(QStringLiteral("a.mov"));
+        QVERIFY(tagSample(QStringLiteral("h264_bframes.mp4"), path,
+                          {QStringLiteral("com.apple.quicktime.model=Camera"),
+                           QStringLiteral("com.apple.quicktime.location.ISO6709=+48.2+016.3/")}));
+        const MediaFacts facts = factsOf(path);
+        QCOMPARE(facts.tags.value(QStringLiteral("com.apple.quicktime.model")),
+                 QStringLiteral("Camera"));
+        QCOMPARE(facts.tags.value(QStringLiteral("com.apple.quicktime.location.iso6709")),
+                 QStringLiteral("+48.2+016.3/"));
+    }
+
+    void longTags_areCut_andVeryManyLeftOut()
+    {
+        const TestDir dir;
+        const QString path = dir.filePath(QStringLiteral("a.mkv"));
+        QStringList tags{QStringLiteral("comment=") + QString(100000, QLatin1Char('x'))};
+        for (int i = 0; i < 400; ++i) {
+            tags += QStringLiteral("key%1=value").arg(i);
+        }
+        QVERIFY(tagSample(QStringLiteral("h264_bframes.mkv"), path, tags));
+        const MediaFacts facts = factsOf(path);
+        QCOMPARE(facts.tags.size(), 256);
+        for (const QString& value : facts.tags) {
+            QVERIFY(value.size() <= 4096);
+        }
+    }
+
+    void nothing_isKnown_withoutAFile()
+    {
+        const AVDemuxer demuxer;
+        QVERIFY(demuxer.facts().tags.isEmpty());
+        QCOMPARE(demuxer.facts().tickNumerator, 0);
+        QVERIFY(factsOf(samplePath(QStringLiteral("random_bytes.mp4"))).tags.isEmpty());
+    }
+
+    void noTicks_areKnown_withoutAVideo()
+    {
+        const MediaFacts facts = factsOf(samplePath(QStringLiteral("sound_only.mp4")));
+        QCOMPARE(facts.tickNumerator, 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(MediaFactsTest)
+#include "MediaFactsTest.moc"
