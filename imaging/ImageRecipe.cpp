@@ -19,6 +19,7 @@ const WatermarkProfile* ownWatermark(const ImageProfile& profile)
 ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* watermark)
 {
     ImageRecipe recipe;
+    recipe.deinterlacing = profile.deinterlacing();
     recipe.keepsSize = profile.sameSizeAsVideo();
     recipe.bounds = QSize(profile.imageWidth(), profile.imageHeight());
     recipe.keepsAspectRatio = profile.maintainAspectRatio();

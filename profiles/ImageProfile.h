@@ -28,6 +28,9 @@ class ImageProfile : public BaseProfile
     Q_PROPERTY(int imageQuality READ imageQuality WRITE setImageQuality)
     /// The id of the watermark profile to draw; empty for none. It may belong to no profile.
     Q_PROPERTY(QString watermarkProfileId READ watermarkProfileId WRITE setWatermarkProfileId)
+    /// What becomes of interlaced video: "auto" makes the pictures that comb whole, "on" takes each
+    /// for one that does, "off" leaves all as they are.
+    Q_PROPERTY(QString deinterlacing READ deinterlacing WRITE setDeinterlacing)
 
 public:
     /// A profile named "Image Profile" with a fresh id and default values; the argument is ignored.
@@ -45,6 +48,9 @@ public:
 
     bool maintainAspectRatio() const { return m_maintainAspectRatio; }
     void setMaintainAspectRatio(bool maintain) { m_maintainAspectRatio = maintain; }
+
+    QString deinterlacing() const { return m_deinterlacing; }
+    void setDeinterlacing(const QString& deinterlacing) { m_deinterlacing = deinterlacing; }
 
     int imageContrast() const { return m_imageContrast; }
     void setImageContrast(int contrast) { m_imageContrast = contrast; }
@@ -71,6 +77,7 @@ private:
     int m_imageWidth = 640;
     int m_imageHeight = 480;
     bool m_maintainAspectRatio = true;
+    QString m_deinterlacing = QStringLiteral("auto");
     int m_imageContrast = 0;
     int m_imageBrightness = 0;
     int m_imageQuality = 90;

@@ -28,6 +28,7 @@ struct TypedOptions
     bool enlarge = false;
     Value format;
     Value quality;
+    Value deinterlace;
     Value profile;
     Value watermark;
 
@@ -112,6 +113,9 @@ struct OptionEntry
 
 /// The heading of a section, such as "Which frames".
 [[nodiscard]] const char* headingOf(Section section);
+
+/// The words that --deinterlace takes, separated by spaces.
+[[nodiscard]] const char* deinterlacingNames();
 
 /// The suffixes of the pictures that can be asked for, separated by spaces.
 [[nodiscard]] const char* pictureFormats();

@@ -83,8 +83,9 @@ struct Options
     bool writesToStandardOutput = false;
     std::optional<Size> size;
     bool enlarges = false;
-    std::optional<std::string> format; ///< a suffix without dot, in small letters
-    std::optional<int> quality;        ///< 0 to 100
+    std::optional<std::string> format;        ///< a suffix without dot, in small letters
+    std::optional<int> quality;               ///< 0 to 100
+    std::optional<std::string> deinterlacing; ///< auto, on or off
     std::optional<std::string> profile;
     std::optional<std::string> nameProfile;
     std::optional<std::string> watermark;

@@ -26,6 +26,7 @@ private slots:
         QCOMPARE(profile.imageBrightness(), 0);
         QCOMPARE(profile.imageQuality(), 90);
         QCOMPARE(profile.watermarkProfileId(), QString());
+        QCOMPARE(profile.deinterlacing(), QStringLiteral("auto"));
         QCOMPARE(profile.cropBlackEdges(), false);
     }
 
@@ -49,7 +50,8 @@ private slots:
                          QStringLiteral("sameSizeAsVideo"), QStringLiteral("imageWidth"),
                          QStringLiteral("imageHeight"), QStringLiteral("maintainAspectRatio"),
                          QStringLiteral("imageContrast"), QStringLiteral("imageBrightness"),
-                         QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId")}));
+                         QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId"),
+                         QStringLiteral("deinterlacing")}));
         QCOMPARE(ImageProfile::staticMetaObject.indexOfProperty("cropBlackEdges"), -1);
     }
 
@@ -166,7 +168,7 @@ private slots:
         settings.beginGroup(profile->id());
         QCOMPARE(settings.value(QStringLiteral("sortOrder")), QVariant(0));
         QCOMPARE(settings.value(QStringLiteral("imageQuality")), QVariant(90));
-        QCOMPARE(settings.allKeys().size(), 12);
+        QCOMPARE(settings.allKeys().size(), 13);
 
         const std::unique_ptr<BaseProfile> made(manager->createProfile());
         QVERIFY(qobject_cast<ImageProfile*>(made.get()));

@@ -157,6 +157,7 @@ void CommandLineParserTest::wrongUsage_isOneLine_thatNamesTheMistake_data()
     row("--enlarge a", "--size");
     row("--format gif a", "'gif'");
     row("--quality 101 a", "'101'");
+    row("--deinterlace sometimes a", "'sometimes'");
     row("--names {foo} a", "{stem}");
     row("--names x --name-profile y a", "--names and --name-profile");
     row("--skip-existing --overwrite a", "--skip-existing and --overwrite");
