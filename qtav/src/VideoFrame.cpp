@@ -61,13 +61,27 @@ FramePtr sharedPicture(const VideoFramePrivate* data)
     return data ? shared(data->frame) : nullptr;
 }
 
+/// A time in seconds that is not cut off to the millisecond before because halves are not exact.
+double withoutShortfall(double seconds)
+{
+    constexpr double shortfall = 1e-6;
+    const double whole = std::round(seconds * 1000.0);
+    if (whole / 1000.0 - seconds > shortfall || seconds * 1000.0 >= whole)
+        return seconds;
+    double result = whole / 1000.0;
+    while (result * 1000.0 < whole)
+        result = std::nextafter(result, whole);
+    return result;
+}
+
 /// The time in seconds in the middle between a frame and the next one, as far as that is known.
 double secondMoment(const VideoFramePrivate& frame, const VideoFramePrivate* before,
                     const VideoFramePrivate* after)
 {
     if (after)
-        return (frame.seconds + after->seconds) / 2.0;
-    return before ? frame.seconds + (frame.seconds - before->seconds) / 2.0 : frame.seconds;
+        return withoutShortfall((frame.seconds + after->seconds) / 2.0);
+    return before ? withoutShortfall(frame.seconds + (frame.seconds - before->seconds) / 2.0)
+                  : frame.seconds;
 }
 
 } // namespace
