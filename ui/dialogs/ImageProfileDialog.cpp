@@ -34,6 +34,7 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     connect(m_ui->profileSelector, &ProfileSelector::profileNameTextChanged, this,
             &ImageProfileDialog::profileNameTextChanged);
     setupWatermarkProfileComboBox();
+    setupDeinterlacingComboBox();
     connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, MinAdjustment, MaxAdjustment);
     connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
     setupProfileSelector();
@@ -156,6 +157,13 @@ void ImageProfileDialog::setupWatermarkProfileComboBox()
         m_ui->watermarkProfileComboBox->addItem(profile->name(), profile->id());
 }
 
+void ImageProfileDialog::setupDeinterlacingComboBox()
+{
+    m_ui->deinterlacingComboBox->addItem(tr("Automatic"), QStringLiteral("auto"));
+    m_ui->deinterlacingComboBox->addItem(tr("On"), QStringLiteral("on"));
+    m_ui->deinterlacingComboBox->addItem(tr("Off"), QStringLiteral("off"));
+}
+
 void ImageProfileDialog::connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max)
 {
     slider->setRange(min, max);
@@ -173,6 +181,7 @@ void ImageProfileDialog::setupProfileSelector()
     addField("watermarkProfileId", m_ui->watermarkProfileComboBox);
     addField("imageBrightness", m_ui->brightnessSpinBox);
     addField("imageContrast", m_ui->contrastSpinBox);
+    addField("deinterlacing", m_ui->deinterlacingComboBox);
     addField("imageQuality", m_ui->jpegQualitySpinBox);
 
     ProfileSelector* const selector = m_ui->profileSelector;

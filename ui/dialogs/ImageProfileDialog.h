@@ -66,6 +66,7 @@ private Q_SLOTS:
 private:
     void setupButtons();
     void setupWatermarkProfileComboBox();
+    void setupDeinterlacingComboBox();
     void connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max);
     void setupProfileSelector();
     void addField(const char* propertyName, QWidget* widget);

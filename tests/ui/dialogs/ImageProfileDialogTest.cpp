@@ -173,6 +173,7 @@ void ImageProfileDialogTest::fields_areTheseInThisOrder()
                           textOf("watermarkProfileId watermarkProfileComboBox -1"),
                           textOf("imageBrightness brightnessSpinBox -1"),
                           textOf("imageContrast contrastSpinBox -1"),
+                          textOf("deinterlacing deinterlacingComboBox -1"),
                           textOf("imageQuality jpegQualitySpinBox -1")}));
 }
 
@@ -199,11 +200,12 @@ void ImageProfileDialogTest::everyLabel_belongsToItsInput()
 {
     const TestProfiles profiles;
     const ImageProfileDialog dialog(nullptr);
-    const QStringList texts{textOf("Image Width:"), textOf("Image Height:"), textOf("Brightness:"),
-                            textOf("Contrast:"), textOf("JPEG Quality:")};
-    const QStringList inputs{textOf("imageWidthLineEdit"), textOf("imageHeightLineEdit"),
-                             textOf("brightnessSlider"), textOf("contrastSlider"),
-                             textOf("jpegQualitySpinBox")};
+    const QStringList texts{textOf("Image Width:"), textOf("Image Height:"),
+                            textOf("Brightness:"),  textOf("Contrast:"),
+                            textOf("Deinterlace:"), textOf("JPEG Quality:")};
+    const QStringList inputs{textOf("imageWidthLineEdit"),    textOf("imageHeightLineEdit"),
+                             textOf("brightnessSlider"),      textOf("contrastSlider"),
+                             textOf("deinterlacingComboBox"), textOf("jpegQualitySpinBox")};
     QStringList found;
     const auto labels = dialog.findChildren<QLabel*>();
     for (const QLabel* const label : labels) {
@@ -225,6 +227,7 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
                             textOf("brightnessSpinBox"),
                             textOf("contrastSlider"),
                             textOf("contrastSpinBox"),
+                            textOf("deinterlacingComboBox"),
                             textOf("jpegQualitySpinBox"),
                             textOf("watermarkProfileComboBox"),
                             textOf("watermarkProfileEditButton"),
