@@ -8,6 +8,7 @@
 
 extern "C" {
 #include <libavcodec/version.h>
+#include <libavfilter/version.h>
 #include <libavutil/version.h>
 }
 
@@ -27,6 +28,9 @@ extern "C" {
 #define QTAV_FFMPEG_HAS_CODED_SIDE_DATA (LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(60, 31, 102))
 
 namespace QtAV {
+
+/// Which version of the library of filters these headers belong to, as its file's name has it.
+constexpr int filterLibraryVersion = LIBAVFILTER_VERSION_MAJOR;
 
 /// How long a decoded frame is shown, in ticks of its packet; 0 where the file does not say.
 inline qint64 durationTicks(const AVFrame& frame)

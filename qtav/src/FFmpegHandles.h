@@ -6,9 +6,6 @@
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavcodec/bsf.h>
-#include <libavfilter/avfilter.h>
-#include <libavfilter/buffersink.h>
-#include <libavfilter/buffersrc.h>
 #include <libavformat/avformat.h>
 #include <libavutil/display.h>
 #include <libavutil/frame.h>
@@ -51,7 +48,6 @@ using CodecContextPtr = std::unique_ptr<AVCodecContext, FreeByAddress<avcodec_fr
 using CodecParametersPtr =
     std::unique_ptr<AVCodecParameters, FreeByAddress<avcodec_parameters_free>>;
 using PacketPtr = std::unique_ptr<AVPacket, FreeByAddress<av_packet_free>>;
-using FilterGraphPtr = std::unique_ptr<AVFilterGraph, FreeByAddress<avfilter_graph_free>>;
 using FramePtr = std::unique_ptr<AVFrame, FreeByAddress<av_frame_free>>;
 using BitstreamFilterPtr = std::unique_ptr<AVBSFContext, FreeByAddress<av_bsf_free>>;
 using BufferPoolPtr = std::unique_ptr<AVBufferPool, FreeByAddress<av_buffer_pool_uninit>>;

@@ -11,11 +11,12 @@ namespace {
 constexpr AVRational tick{1, 25};
 constexpr AVRational halfTick{1, 50};
 
-AVFilterContext* makeSource(AVFilterGraph& graph, const FieldFilter::Task& task)
+AVFilterContext* makeSource(const FilterLibrary& library, AVFilterGraph& graph,
+                            const FieldFilter::Task& task)
 {
     AVFilterContext* source =
-        avfilter_graph_alloc_filter(&graph, avfilter_get_by_name("buffer"), "source");
-    AVBufferSrcParameters* parameters = av_buffersrc_parameters_alloc();
+        library.graphAllocFilter(&graph, library.getByName("buffer"), "source");
+    AVBufferSrcParameters* parameters = library.sourceParametersAlloc();
     if (!source || !parameters) {
         av_free(parameters);
         return nullptr;
@@ -24,17 +25,18 @@ AVFilterContext* makeSource(AVFilterGraph& graph, const FieldFilter::Task& task)
     parameters->width = task.size.width();
     parameters->height = task.size.height();
     parameters->time_base = tick;
-    const int result = av_buffersrc_parameters_set(source, parameters);
+    const int result = library.sourceParametersSet(source, parameters);
     av_free(parameters);
-    return result < 0 || avfilter_init_str(source, nullptr) < 0 ? nullptr : source;
+    return result < 0 || library.initStr(source, nullptr) < 0 ? nullptr : source;
 }
 
-AVFilterContext* makeFilter(AVFilterGraph& graph, const char* name, const char* options)
+AVFilterContext* makeFilter(const FilterLibrary& library, AVFilterGraph& graph, const char* name,
+                            const char* options)
 {
     AVFilterContext* filter = nullptr;
-    const AVFilter* kind = avfilter_get_by_name(name);
+    const AVFilter* kind = library.getByName(name);
     const bool isMade =
-        kind && avfilter_graph_create_filter(&filter, kind, name, options, nullptr, &graph) >= 0;
+        kind && library.graphCreateFilter(&filter, kind, name, options, nullptr, &graph) >= 0;
     return isMade ? filter : nullptr;
 }
 
@@ -50,18 +52,19 @@ FieldFilter::FieldFilter(Task task, FilterGraphPtr graph, AVFilterContext* sourc
 
 std::optional<FieldFilter> FieldFilter::make(const Task& task)
 {
-    FilterGraphPtr graph(avfilter_graph_alloc());
+    const FilterLibrary* library = FilterLibrary::get();
+    FilterGraphPtr graph(library ? library->graphAlloc() : nullptr);
     if (!graph)
         return std::nullopt;
     graph->nb_threads = 1;
     // Only what is marked as interlaced is filtered, the neighbours go through as they are.
     const char* options = task.moment == Moment::First ? "mode=send_frame:deint=interlaced"
                                                        : "mode=send_field:deint=interlaced";
-    AVFilterContext* source = makeSource(*graph, task);
-    AVFilterContext* filter = makeFilter(*graph, "bwdif", options);
-    AVFilterContext* sink = makeFilter(*graph, "buffersink", nullptr);
-    if (!source || !filter || !sink || avfilter_link(source, 0, filter, 0) < 0 ||
-        avfilter_link(filter, 0, sink, 0) < 0 || avfilter_graph_config(graph.get(), nullptr) < 0)
+    AVFilterContext* source = makeSource(*library, *graph, task);
+    AVFilterContext* filter = makeFilter(*library, *graph, "bwdif", options);
+    AVFilterContext* sink = makeFilter(*library, *graph, "buffersink", nullptr);
+    if (!source || !filter || !sink || library->link(source, 0, filter, 0) < 0 ||
+        library->link(filter, 0, sink, 0) < 0 || library->graphConfig(graph.get(), nullptr) < 0)
         return std::nullopt;
     return FieldFilter(task, std::move(graph), source, sink);
 }
@@ -97,17 +100,18 @@ bool FieldFilter::push(const AVFrame& picture, bool isFiltered, bool isTopFirst)
     // The graph knows of no colours, and need not: they are those of the picture in any case.
     pushed->colorspace = AVCOL_SPC_UNSPECIFIED;
     pushed->color_range = AVCOL_RANGE_UNSPECIFIED;
-    return av_buffersrc_add_frame_flags(m_source, pushed.get(),
-                                        AV_BUFFERSRC_FLAG_NO_CHECK_FORMAT |
-                                            AV_BUFFERSRC_FLAG_PUSH) >= 0;
+    return FilterLibrary::get()->sourceAddFrame(m_source, pushed.get(),
+                                                AV_BUFFERSRC_FLAG_NO_CHECK_FORMAT |
+                                                    AV_BUFFERSRC_FLAG_PUSH) >= 0;
 }
 
 /// What has come out for a time in halves of a tick; all else that has come out is dropped.
 FramePtr FieldFilter::pull(qint64 halfTicks)
 {
-    const AVRational base = av_buffersink_get_time_base(m_sink);
+    const FilterLibrary& library = *FilterLibrary::get();
+    const AVRational base = library.sinkTimeBase(m_sink);
     FramePtr found;
-    for (FramePtr frame = makeFrame(); av_buffersink_get_frame(m_sink, frame.get()) >= 0;
+    for (FramePtr frame = makeFrame(); library.sinkGetFrame(m_sink, frame.get()) >= 0;
          frame = makeFrame()) {
         if (av_rescale_q(frame->pts, base, halfTick) == halfTicks)
             found = std::move(frame);

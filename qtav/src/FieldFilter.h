@@ -2,6 +2,7 @@
 
 #include "qtav/src/Combing.h"
 #include "qtav/src/FFmpegHandles.h"
+#include "qtav/src/FilterLibrary.h"
 
 #include <QSize>
 

@@ -6,6 +6,7 @@
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
 
+#include <QFile>
 #include <QTest>
 
 #include <cmath>
@@ -106,6 +107,8 @@ class DeinterlacerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // First, for what is loaded stays.
+    void filters_areLoaded_onlyForPicturesThatComb();
     void toImage_isAsGoodAsFiltering_whenFieldsAreApart_data();
     void toImage_isAsGoodAsFiltering_whenFieldsAreApart();
     void toImage_givesThePicturesOfTheFilm_whenTheyWereSpread_data();
@@ -117,6 +120,29 @@ private Q_SLOTS:
     void secondField_isAsGoodAsTheFirst_whenFieldsAreApart();
     void secondField_isInvalid_whenPicturesAreWhole();
 };
+
+void DeinterlacerTest::filters_areLoaded_onlyForPicturesThatComb()
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    if (!maps.exists()) {
+        QSKIP("This system does not tell which libraries are loaded.");
+    }
+    const auto areLoaded = [&maps] {
+        const bool isOpen = maps.open(QIODevice::ReadOnly);
+        const QByteArray libraries = isOpen ? maps.readAll() : QByteArray();
+        maps.close();
+        return libraries.contains("libavfilter");
+    };
+    for (const char* file : {"h264_bframes.mp4", "segmented_mpeg2.ts", "telecine_mpeg2.ts"}) {
+        QVERIFY(!grey::picturesOf(samplePath(QString::fromLatin1(file)), Deinterlacing::Automatic)
+                     .isEmpty());
+        QVERIFY2(!areLoaded(), file);
+    }
+    QVERIFY(!grey::picturesOf(samplePath(QStringLiteral("fields_mpeg2_tff.ts")),
+                              Deinterlacing::Automatic)
+                 .isEmpty());
+    QVERIFY(areLoaded());
+}
 
 void DeinterlacerTest::toImage_isAsGoodAsFiltering_whenFieldsAreApart_data()
 {
