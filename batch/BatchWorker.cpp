@@ -110,11 +110,16 @@ void BatchWorker::registerMetaTypes()
 
 void BatchWorker::prepare()
 {
-    if (m_config == nullptr || !m_config->exactFrames()) {
+    const ImageProfile* const profile = m_config != nullptr ? m_config->imageProfile() : nullptr;
+    if (profile == nullptr) {
+        return;
+    }
+    if (!m_config->exactFrames()) {
+        m_frameGrabber->setDeinterlacing(QtAV::deinterlacingNamed(profile->deinterlacing()));
         return;
     }
     m_series = std::make_unique<const Series>(
-        Series{recipes::of(*m_config->imageProfile()), m_config->filenameProfile()->naming()});
+        Series{recipes::of(*profile), m_config->filenameProfile()->naming()});
 }
 
 void BatchWorker::loadFile()

@@ -52,6 +52,7 @@ ImageRecipe forType(ImageRecipe recipe, const QString& type)
 ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* watermark)
 {
     ImageRecipe recipe;
+    recipe.deinterlacing = profile.deinterlacing();
     recipe.keepsSize = profile.sameSizeAsVideo();
     recipe.bounds = QSize(profile.imageWidth(), profile.imageHeight());
     recipe.keepsAspectRatio = profile.maintainAspectRatio();

@@ -59,10 +59,12 @@ enum class PictureMetadata {
     None
 };
 
-/// What imaging::render() makes of a frame. A plain value that knows no profile: it may be copied
-/// to any thread, and profiles may change meanwhile.
+/// What becomes of a frame: what imaging::render() makes of it, and before that, how there is a
+/// picture where its lines belong to two moments. A plain value that knows no profile: it may be
+/// copied to any thread, and profiles may change meanwhile.
 struct ImageRecipe
 {
+    QString deinterlacing = QStringLiteral("auto"); ///< as ImageProfile has it
     bool keepsSize = true;         ///< else the result has the size `bounds`, or fits into it
     QSize bounds;                  ///< in pixels
     bool keepsAspectRatio = false; ///< fits into the bounds; else it fills them and is cut

@@ -36,6 +36,9 @@ class ImageProfile : public BaseProfile
     Q_PROPERTY(bool resizeInLinearLight READ resizeInLinearLight WRITE setResizeInLinearLight)
     /// PNG and TIFF files have 16 bits a channel where the frame has more than 8.
     Q_PROPERTY(bool deepColours READ deepColours WRITE setDeepColours)
+    /// What becomes of interlaced video: "auto" makes the pictures that comb whole, "on" takes each
+    /// for one that does, "off" leaves all as they are.
+    Q_PROPERTY(QString deinterlacing READ deinterlacing WRITE setDeinterlacing)
 
 public:
     /// The values of metadata(); any other one means MetadataWithoutPlace.
@@ -68,6 +71,9 @@ public:
 
     bool maintainAspectRatio() const { return m_maintainAspectRatio; }
     void setMaintainAspectRatio(bool maintain) { m_maintainAspectRatio = maintain; }
+
+    QString deinterlacing() const { return m_deinterlacing; }
+    void setDeinterlacing(const QString& deinterlacing) { m_deinterlacing = deinterlacing; }
 
     int imageContrast() const { return m_imageContrast; }
     void setImageContrast(int contrast) { m_imageContrast = contrast; }
@@ -106,6 +112,7 @@ private:
     int m_imageWidth = 640;
     int m_imageHeight = 480;
     bool m_maintainAspectRatio = true;
+    QString m_deinterlacing = QStringLiteral("auto");
     int m_imageContrast = 0;
     int m_imageBrightness = 0;
     int m_imageQuality = 90;

@@ -109,6 +109,7 @@ bool SeriesLane::open(int video, QString& error)
     m_video = -1;
     // walk() sets the number for the task before it decodes.
     m_reader.setThreads(1);
+    m_reader.setDeinterlacing(QtAV::deinterlacingNamed(m_jobs.at(video).recipe.deinterlacing));
     if (!m_reader.open(m_jobs.at(video).video, m_isCancelled, error)) {
         return false;
     }

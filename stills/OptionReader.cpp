@@ -18,6 +18,13 @@ constexpr std::int64_t highestColumns = 100;
 constexpr std::int64_t widestGap = 500;
 constexpr std::int64_t highestJobs = 256;
 
+bool isOneOf(const std::string& word, const char* words)
+{
+    std::istringstream known{std::string(words)};
+    return std::any_of(std::istream_iterator<std::string>(known), {},
+                       [&word](const std::string& candidate) { return candidate == word; });
+}
+
 /// Reads values one after another, and keeps the first error.
 class Reader
 {
@@ -187,10 +194,7 @@ void Reader::readPictures()
         std::transform(format.begin(), format.end(), format.begin(), [](char c) {
             return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
         });
-        std::istringstream known{std::string(pictureFormats())};
-        const bool isKnown = std::any_of(std::istream_iterator<std::string>(known), {},
-                                         [&format](const std::string& f) { return f == format; });
-        if (!isKnown) {
+        if (!isOneOf(format, pictureFormats())) {
             fail("--format: " + quoted(*m_typed.format) + " is none of " + pictureFormats());
         }
         m_options.format = format;
@@ -198,6 +202,11 @@ void Reader::readPictures()
     if (m_typed.quality) {
         m_options.quality = number("--quality", *m_typed.quality, 0, 100);
     }
+    if (m_typed.deinterlace && !isOneOf(*m_typed.deinterlace, deinterlacingNames())) {
+        fail("--deinterlace: " + quoted(*m_typed.deinterlace) + " is none of " +
+             deinterlacingNames());
+    }
+    m_options.deinterlacing = m_typed.deinterlace;
     m_options.profile = m_typed.profile;
     m_options.watermark = m_typed.watermark;
     allowOne({{"--like", m_typed.like.has_value()}, {"--profile", m_typed.profile.has_value()}});

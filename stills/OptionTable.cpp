@@ -6,6 +6,7 @@ namespace {
 
 using T = TypedOptions;
 
+constexpr const char* deinterlacings = "auto on off";
 constexpr const char* formats = "jpg jpeg png bmp tif tiff webp avif jxl";
 
 std::vector<OptionEntry> framesOptions()
@@ -77,6 +78,11 @@ std::vector<OptionEntry> pictureOptions()
          "The quality of JPEG, WebP, AVIF and JPEG XL pictures, 0 to 100; 90 unless a profile or "
          "you say otherwise.",
          nullptr, Completes::Nothing, nullptr},
+        {section, "--deinterlace", "WHEN", &T::deinterlace,
+         "What becomes of interlaced video: auto makes the pictures that comb whole, on takes each "
+         "picture for one that does, off leaves all as they are stored. The default is auto, or "
+         "what --profile says.",
+         nullptr, Completes::Words, deinterlacings},
         {section, "-p,--profile", "NAME", &T::profile,
          "Size, brightness, contrast, quality and watermark of an image profile that was made in "
          "the window. Other options change what they name.",
@@ -283,6 +289,11 @@ const char* headingOf(Section section)
         break;
     }
     return "";
+}
+
+const char* deinterlacingNames()
+{
+    return deinterlacings;
 }
 
 const char* pictureFormats()

@@ -31,6 +31,7 @@ struct TypedOptions
     Value format;
     bool deepColours = false;
     Value quality;
+    Value deinterlace;
     Value profile;
     Value watermark;
     Value like;
@@ -117,6 +118,9 @@ struct OptionEntry
 
 /// The heading of a section, such as "Which frames".
 [[nodiscard]] const char* headingOf(Section section);
+
+/// The words that --deinterlace takes, separated by spaces.
+[[nodiscard]] const char* deinterlacingNames();
 
 /// The suffixes of the pictures that can be asked for, separated by spaces.
 [[nodiscard]] const char* pictureFormats();

@@ -65,7 +65,8 @@ struct Options
     bool isInLinearLight = false;
     std::optional<std::string> format; ///< a suffix without dot, in small letters
     bool keepsDeepColours = false;
-    std::optional<int> quality; ///< 0 to 100
+    std::optional<int> quality;               ///< 0 to 100
+    std::optional<std::string> deinterlacing; ///< auto, on or off
     std::optional<std::string> profile;
     std::optional<std::string> nameProfile;
     std::optional<std::string> watermark;

@@ -130,6 +130,9 @@ Result<Look> lookOf(const Options& options, const imaging::StillOrigin* like)
         look.recipe.keepsAspectRatio = true;
         look.recipe.enlarges = options.enlarges;
     }
+    if (options.deinterlacing) {
+        look.recipe.deinterlacing = pathOf(*options.deinterlacing);
+    }
     if (options.quality) {
         look.recipe.jpegQuality = *options.quality;
     }

@@ -54,6 +54,12 @@ public:
     int getPrecision() const { return m_precision; }
     void setPrecision(int value);
 
+    /// What becomes of interlaced pictures, from the next extraction on.
+    void setDeinterlacing(QtAV::Deinterlacing deinterlacing)
+    {
+        m_reader.setDeinterlacing(deinterlacing);
+    }
+
     /// Makes a running extraction end with aborted() at its next packet, also while the disk does
     /// not answer. Without one it does nothing, since every extraction starts by forgetting earlier
     /// requests. From any thread.

@@ -105,6 +105,11 @@ void AVPlayer::setRenderer(VideoRenderer* renderer)
     d->renderer->present(d->frame);
 }
 
+void AVPlayer::setDeinterlacing(Deinterlacing deinterlacing)
+{
+    d->engine.setDeinterlacing(deinterlacing);
+}
+
 VideoRenderer* AVPlayer::renderer() const
 {
     return d->renderer;
@@ -197,6 +202,16 @@ void AVPlayer::stepForward()
 void AVPlayer::stepBackward()
 {
     d->step(PlaybackEngine::Direction::Backward);
+}
+
+void AVPlayer::stepFieldForward()
+{
+    d->stepField(PlaybackEngine::Direction::Forward);
+}
+
+void AVPlayer::stepFieldBackward()
+{
+    d->stepField(PlaybackEngine::Direction::Backward);
 }
 
 void AVPlayer::handleEngine()

@@ -75,6 +75,7 @@ void AVPlayer::Private::close(MediaStatus statusAfterwards)
     isLoaded = false;
     hasSound = false;
     facts = MediaFacts();
+    isFieldStepUnderWay = false;
     soughtMs.reset();
     const quint64 serial = openSerial;
     show(VideoFrame());
@@ -109,6 +110,7 @@ void AVPlayer::Private::seek(qint64 ms)
 {
     haltTime();
     startsOverAtEnd = false;
+    isFieldStepUnderWay = false;
     soughtMs = clamped(ms);
     seekSerial = engine.seek(*soughtMs);
     if (isLoaded)
@@ -121,6 +123,31 @@ void AVPlayer::Private::step(PlaybackEngine::Direction direction)
         return;
     q->pause();
     engine.step(direction);
+    isFieldStepUnderWay = false;
+}
+
+void AVPlayer::Private::stepField(PlaybackEngine::Direction direction)
+{
+    if (state == StoppedState || isFieldStepUnderWay)
+        return;
+    q->pause();
+    if (showOtherField(direction))
+        return;
+    wantsSecondField = direction == PlaybackEngine::Direction::Backward;
+    fieldStepSerial = engine.step(direction);
+    isFieldStepUnderWay = true;
+}
+
+/// Goes to the other moment of the frame on screen, where that lies in this direction.
+bool AVPlayer::Private::showOtherField(PlaybackEngine::Direction direction)
+{
+    const bool goesBack = direction == PlaybackEngine::Direction::Backward;
+    if (goesBack != frame.isSecondField())
+        return false;
+    const VideoFrame other = goesBack ? frame.firstField() : frame.secondField();
+    if (other.isValid())
+        show(other);
+    return other.isValid();
 }
 
 void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
@@ -140,6 +167,7 @@ void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
         isFrame ? sought(answer) : fail(AVPlayer::tr("The file cannot be read any more."));
         break;
     case Kind::Stepped:
+        isFieldStepUnderWay = isFieldStepUnderWay && answer.serial < fieldStepSerial;
         if (answer.serial < seekSerial)
             break;
         if (isFrame)
@@ -148,7 +176,7 @@ void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
             halt(answer.result.error);
         break;
     case Kind::Refined:
-        if (answer.result.frame.timestamp() == frame.timestamp() && frame.isScaledDown())
+        if (answer.result.frame.timestamp() == frame.timestamp())
             show(answer.result.frame);
         break;
     case Kind::Captured:
@@ -195,8 +223,12 @@ void AVPlayer::Private::stepped(const PlaybackEngine::Answer& answer)
     setDuration(answer.duration);
     setStatus(LoadedMedia);
     // A connected slot may have closed the file, or sought.
-    if (isLoaded && answer.serial >= seekSerial && openSerial <= answer.serial)
-        show(answer.result.frame);
+    if (!isLoaded || answer.serial < seekSerial || openSerial > answer.serial)
+        return;
+    const VideoFrame& given = answer.result.frame;
+    const bool goesToSecond = wantsSecondField && answer.serial == fieldStepSerial;
+    const VideoFrame second = goesToSecond ? given.secondField() : VideoFrame();
+    show(second.isValid() ? second : given);
 }
 
 void AVPlayer::Private::fail(const QString& reason)

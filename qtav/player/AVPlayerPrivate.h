@@ -34,6 +34,8 @@ public:
     qint64 clamped(qint64 ms) const;
     void seek(qint64 ms);
     void step(PlaybackEngine::Direction direction);
+    void stepField(PlaybackEngine::Direction direction);
+    [[nodiscard]] bool showOtherField(PlaybackEngine::Direction direction);
 
     void resumeTime();
     void haltTime();
@@ -66,7 +68,10 @@ public:
 
     std::optional<qint64> soughtMs; ///< the target of the seek that runs
     quint64 seekSerial = 0;         ///< of the newest seek; older seeks and steps come too late
-    quint64 openSerial = 0;         ///< of opening or closing; all that is older comes too late
+    quint64 fieldStepSerial = 0;    ///< of the newest step by fields that went to another frame
+    bool isFieldStepUnderWay = false;
+    bool wantsSecondField = false; ///< of the frame that this step gives
+    quint64 openSerial = 0;        ///< of opening or closing; all that is older comes too late
 
     PlaybackClock clock;
     QTimer timer;

@@ -97,6 +97,19 @@ void FrameSource::setFocus(double seconds)
     m_cache.setFocus(seconds);
 }
 
+void FrameSource::setDeinterlacing(Deinterlacing deinterlacing)
+{
+    if (deinterlacing == m_deinterlacing)
+        return;
+    m_deinterlacing = deinterlacing;
+    m_reader.setDeinterlacing(deinterlacing);
+    // The reader must not go on with frames of the old kind either.
+    leaveBackgroundWork();
+    m_reader.seek(toMilliseconds(m_focus));
+    m_cache.clear();
+    m_cache.setFocus(m_focus);
+}
+
 /// Frames with others left out between them answer no question: they would only take the memory of
 /// those that do.
 void FrameSource::keep()

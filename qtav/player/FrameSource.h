@@ -74,6 +74,11 @@ public:
     /// The size in pixels of the screen that frames are shown on; ignored when empty.
     void setScreen(const QSize& size) { m_cache.setScreen(size); }
 
+    /// What becomes of interlaced pictures. Another choice drops what is cached: decodeAnew() gives
+    /// the frame on screen as it is to be.
+    void setDeinterlacing(Deinterlacing deinterlacing);
+    Deinterlacing deinterlacing() const { return m_deinterlacing; }
+
     /// While frames pass by in playback, those far from the focus are not kept.
     void setFarFrames(FrameCache::FarFrames farFrames) { m_cache.setFarFrames(farFrames); }
 
@@ -114,6 +119,7 @@ private:
     void keep();
     qint64 lengthOf(qint64 frames) const { return frames * m_longestGapMs; }
 
+    Deinterlacing m_deinterlacing = Deinterlacing::Automatic;
     FrameCache m_cache;
     FrameReader m_reader;
     BackwardFill m_fill;

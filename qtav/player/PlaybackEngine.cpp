@@ -100,6 +100,17 @@ void PlaybackEngine::setScreen(const QSize& size)
     m_screen = size;
 }
 
+void PlaybackEngine::setDeinterlacing(Deinterlacing deinterlacing)
+{
+    const std::lock_guard lock(m_mutex);
+    if (deinterlacing == m_deinterlacing)
+        return;
+    m_deinterlacing = deinterlacing;
+    m_isCurrentOutdated = m_current.isValid();
+    forgetQueue();
+    m_changed.notify_one();
+}
+
 std::vector<PlaybackEngine::Answer> PlaybackEngine::takeAnswers()
 {
     const std::lock_guard lock(m_mutex);
@@ -117,8 +128,10 @@ PlaybackEngine::Due PlaybackEngine::takeDue(double seconds, CatchUp catchUp)
         due.frame = m_queue.front();
         m_queue.pop_front();
     }
-    if (due.frame.isValid())
+    if (due.frame.isValid()) {
         m_current = due.frame;
+        m_isCurrentOutdated = false;
+    }
     if (!m_queue.empty())
         due.next = m_queue.front().timestamp();
     due.isEnded = m_ended && m_queue.empty();
@@ -160,6 +173,7 @@ bool PlaybackEngine::workOnce(Lock& lock)
     m_source.setScreen(m_screen);
     m_source.setFarFrames(m_playing ? FrameCache::FarFrames::Drop
                                     : FrameCache::FarFrames::ScaleDown);
+    m_source.setDeinterlacing(m_deinterlacing);
     if (m_commands.hasCapture())
         carryOutCapture(lock);
     else if (m_commands.hasFile())
@@ -170,6 +184,8 @@ bool PlaybackEngine::workOnce(Lock& lock)
         prepareForStep(lock);
     else if (m_commands.nextStep())
         carryOutStep(lock);
+    else if (m_isCurrentOutdated && m_current.isValid())
+        makeAnew(lock);
     else if (wantsFrames())
         decodeAhead(lock);
     else if (m_mayPrepare && !m_playing && m_current.isValid())
@@ -229,6 +245,7 @@ void PlaybackEngine::replaceFile(Lock& lock)
 void PlaybackEngine::becomeCurrent(const VideoFrame& frame, quint64 serial)
 {
     m_current = frame;
+    m_isCurrentOutdated = false;
     m_currentSerial = serial;
     m_currentSince = std::chrono::steady_clock::now();
     m_noStepBackBefore = m_currentSince;
@@ -372,6 +389,27 @@ void PlaybackEngine::prepare(Lock& lock)
         m_changed.wait_until(lock, since + *next);
     else
         m_mayPrepare = false;
+}
+
+/// Gives the current frame once more, as it is to be deinterlaced now.
+void PlaybackEngine::makeAnew(Lock& lock)
+{
+    const double seconds = m_current.timestamp();
+    const quint64 generation = m_queueGeneration;
+    lock.unlock();
+    m_source.setFocus(seconds);
+    const FrameResult found =
+        m_source.decodeAnew(seconds, [this] { return m_commands.hasArrived(); });
+    lock.lock();
+    // What has come meanwhile may have made it another frame, or have interrupted this.
+    if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled)
+        return;
+    m_isCurrentOutdated = false;
+    if (found.answer != FrameAnswer::Frame)
+        return;
+    m_current = found.frame;
+    m_mayPrepare = true;
+    answer({Answer::Kind::Refined, m_currentSerial, found});
 }
 
 /// Gives the current frame once more when it has come in full size meanwhile.

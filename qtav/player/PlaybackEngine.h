@@ -41,8 +41,8 @@ public:
         /// Opened: Frame when the file plays, else Failed. Sought: Frame, or Failed when no frame
         /// can be had from the file any more. Stepped: End where there is none in that direction,
         /// Failed where it cannot be read. All of these may give frames that are scaled down.
-        /// Refined: Frame, the one that was given last, in full size; the serial number is that of
-        /// its command. Captured: no frame, but image.
+        /// Refined: Frame, the one that was given last, in full size or deinterlaced as it is to be
+        /// from now on; the serial number is that of its command. Captured: no frame, but image.
         FrameResult result = {};
         QImage image = {};   ///< Captured: the picture, null when it cannot be had
         qint64 duration = 0; ///< as far as it is known, in milliseconds; it may grow
@@ -96,6 +96,9 @@ public:
     /// The size in pixels of the screen on which frames are shown; ignored when empty.
     void setScreen(const QSize& size);
 
+    /// What becomes of interlaced pictures, from now on; the current frame is given anew.
+    void setDeinterlacing(Deinterlacing deinterlacing);
+
     /// The answers since the last call, in order.
     std::vector<Answer> takeAnswers();
 
@@ -120,6 +123,7 @@ private:
     void prepareForStep(Lock& lock);
     void prepare(Lock& lock);
     void refine();
+    void makeAnew(Lock& lock);
 
     quint64 posted(quint64 serial);
     void forgetQueue();
@@ -140,10 +144,12 @@ private:
     quint64 m_queueGeneration = 0; ///< changes when what is being decoded no longer belongs there
     double m_catchUpTo = 0.0;      ///< the time of the sound in seconds; 0 for none to follow
     QSize m_screen;
-    quint64 m_currentSerial = 0; ///< of the command that made the current frame so
-    Time m_currentSince;         ///< when that became so
-    Time m_noStepBackBefore;     ///< when the next step back may be answered
-    qint64 m_duration = 0;       ///< of the open file, in milliseconds
+    Deinterlacing m_deinterlacing = Deinterlacing::Automatic;
+    bool m_isCurrentOutdated = false; ///< m_current was deinterlaced otherwise
+    quint64 m_currentSerial = 0;      ///< of the command that made the current frame so
+    Time m_currentSince;              ///< when that became so
+    Time m_noStepBackBefore;          ///< when the next step back may be answered
+    qint64 m_duration = 0;            ///< of the open file, in milliseconds
     bool m_playing = false;
     bool m_ended = false;             ///< the last frame is in the queue, or was
     std::optional<QString> m_failure; ///< why nothing can be decoded behind the queue

@@ -8,6 +8,7 @@
 
 extern "C" {
 #include <libavcodec/version.h>
+#include <libavfilter/version.h>
 #include <libavutil/version.h>
 }
 
@@ -20,12 +21,16 @@ extern "C" {
 /// av_chroma_location_enum_to_pos(), which replaced avcodec_enum_to_chroma_pos(): 6.0.
 #define QTAV_FFMPEG_HAS_CHROMA_LOCATION_POSITION                                                   \
     (LIBAVUTIL_VERSION_INT >= AV_VERSION_INT(58, 2, 100))
-/// AV_FRAME_FLAG_INTERLACED, which replaced AVFrame::interlaced_frame: 6.1.
+/// AV_FRAME_FLAG_INTERLACED and its neighbour for the order of the fields, which replaced
+/// AVFrame::interlaced_frame and top_field_first: 6.1.
 #define QTAV_FFMPEG_HAS_INTERLACED_FLAG (LIBAVUTIL_VERSION_INT >= AV_VERSION_INT(58, 29, 100))
 /// AVCodecParameters::coded_side_data, which replaced AVStream's side data: 6.1.
 #define QTAV_FFMPEG_HAS_CODED_SIDE_DATA (LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(60, 31, 102))
 
 namespace QtAV {
+
+/// Which version of the library of filters these headers belong to, as its file's name has it.
+constexpr int filterLibraryVersion = LIBAVFILTER_VERSION_MAJOR;
 
 /// How long a decoded frame is shown, in ticks of its packet; 0 where the file does not say.
 inline qint64 durationTicks(const AVFrame& frame)
@@ -44,6 +49,30 @@ inline bool isInterlaced(const AVFrame& frame)
     return frame.flags & AV_FRAME_FLAG_INTERLACED;
 #else
     return frame.interlaced_frame;
+#endif
+}
+
+/// Whether the upper lines of such a picture are the earlier ones. Where nobody says they are,
+/// since that is usual.
+inline bool isTopFieldFirst(const AVFrame& frame)
+{
+#if QTAV_FFMPEG_HAS_INTERLACED_FLAG
+    return !isInterlaced(frame) || (frame.flags & AV_FRAME_FLAG_TOP_FIELD_FIRST);
+#else
+    return !isInterlaced(frame) || frame.top_field_first;
+#endif
+}
+
+/// Makes a picture say that its lines belong to two moments in turn, or to one.
+inline void setInterlaced(AVFrame& frame, bool isInterlaced, bool isTopFirst)
+{
+#if QTAV_FFMPEG_HAS_INTERLACED_FLAG
+    frame.flags &= ~(AV_FRAME_FLAG_INTERLACED | AV_FRAME_FLAG_TOP_FIELD_FIRST);
+    if (isInterlaced)
+        frame.flags |= AV_FRAME_FLAG_INTERLACED | (isTopFirst ? AV_FRAME_FLAG_TOP_FIELD_FIRST : 0);
+#else
+    frame.interlaced_frame = isInterlaced;
+    frame.top_field_first = isInterlaced && isTopFirst;
 #endif
 }
 

@@ -2,6 +2,10 @@
 
 #include <QtAV/Times.h>
 
+#include "qtav/src/Deinterlacer.h"
+#include "qtav/src/StreamParameters.h"
+#include "qtav/src/VideoFramePrivate.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -11,10 +15,11 @@ namespace QtAV {
 
 namespace {
 
-constexpr qint64 SmallestStepBackMs = 500;
-
 /// Most of what readAhead() keeps while no key frame comes.
 constexpr qint64 MostAheadBytes = 64 * 1024 * 1024;
+
+/// Packets within which the frame behind a key frame comes out.
+constexpr size_t MostPacketsToNeighbour = 32;
 
 QVariantHash decoderOptions(bool skips, bool hurries)
 {
@@ -40,6 +45,19 @@ public:
 private:
     AVDemuxer& m_demuxer;
 };
+
+bool isMarkedInterlaced(const StreamParameters& parameters)
+{
+    switch (parameters.codec->field_order) {
+    case AV_FIELD_TT:
+    case AV_FIELD_BB:
+    case AV_FIELD_TB:
+    case AV_FIELD_BT:
+        return true;
+    default:
+        return false;
+    }
+}
 
 QString tr(const char* text)
 {
@@ -72,6 +90,8 @@ bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QStr
         close();
         return false;
     }
+    m_deinterlacer = std::make_shared<Deinterlacer>();
+    m_isInterlaced = isMarkedInterlaced(*context->parameters());
     seek(0);
     return true;
 }
@@ -119,6 +139,9 @@ void FrameReader::restart()
     m_isInSequence = false;
     m_isAtFirst = false;
     m_isAtLanding = false;
+    m_decoded.clear();
+    m_newest.reset();
+    m_deinterlacing = m_wantedDeinterlacing;
 }
 
 FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
@@ -150,7 +173,7 @@ FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
     return answer;
 }
 
-/// Where reading was interrupted it begins anew at the last frame that came out.
+/// Where reading was interrupted it begins anew at the last frame that was given.
 FrameAnswer FrameReader::lost(const IsCancelled& isCancelled)
 {
     if (!isCancelled()) {
@@ -160,6 +183,8 @@ FrameAnswer FrameReader::lost(const IsCancelled& isCancelled)
     }
     m_target = m_last ? toMilliseconds(*m_last) : m_origin;
     m_resumes = m_last.has_value();
+    m_decoded.clear();
+    m_newest = m_last;
     return FrameAnswer::Cancelled;
 }
 
@@ -194,6 +219,23 @@ FrameAnswer FrameReader::readFromFile(Packet& packet, const IsCancelled& isCance
 
 FrameResult FrameReader::next(const IsCancelled& isCancelled)
 {
+    const auto isNeighbourMissing = [this] {
+        return m_decoded.size() == 1 && m_decoded.front().result.answer == FrameAnswer::Frame &&
+               wantsNeighbours(m_decoded.front().result.frame);
+    };
+    while (m_decoded.empty() || isNeighbourMissing()) {
+        Decoded decoded = decodeNext(isCancelled);
+        if (decoded.result.answer == FrameAnswer::Cancelled)
+            return std::move(decoded.result);
+        m_decoded.push_back(std::move(decoded));
+    }
+    Decoded decoded = std::move(m_decoded.front());
+    m_decoded.pop_front();
+    return give(std::move(decoded));
+}
+
+FrameReader::Decoded FrameReader::decodeNext(const IsCancelled& isCancelled)
+{
     FrameAnswer answer = land(isCancelled);
     const Interruptible interruptible(m_demuxer, isCancelled);
     while (answer == FrameAnswer::Frame) {
@@ -207,13 +249,13 @@ FrameResult FrameReader::next(const IsCancelled& isCancelled)
         const bool isDecoded = m_decoder->decode(packet);
         // Without the picture that it began with a search starts further back.
         if (!isDecoded && !isLanding)
-            return {FrameAnswer::Failed, {}, tr("The picture is damaged.")};
+            return {{FrameAnswer::Failed, {}, tr("The picture is damaged.")}};
         const VideoFrame frame = m_decoder->frame();
-        const bool isLater = frame.isValid() && (!m_last || frame.timestamp() > *m_last);
+        const bool isLater = frame.isValid() && (!m_newest || frame.timestamp() > *m_newest);
         if (isLater)
-            return arriveAt(frame, isLanding);
+            return arrived(frame, isLanding);
     }
-    return {answer, {}, answer == FrameAnswer::Failed ? failureText() : QString()};
+    return {{answer, {}, answer == FrameAnswer::Failed ? failureText() : QString()}};
 }
 
 FrameAnswer FrameReader::readAhead(qint64 ms, const IsCancelled& isCancelled)
@@ -308,12 +350,47 @@ FrameResult FrameReader::nextKeyFrame(qint64 beforeMs, const IsCancelled& isCanc
             return {FrameAnswer::Failed, {}, tr("The picture is damaged.")};
         if (frame.isValid() && (!m_last || frame.timestamp() > *m_last)) {
             m_skippedUpTo = frame.timestamp();
-            FrameResult result = arriveAt(frame, true);
-            m_predecessor.reset();
+            Decoded decoded = arrived(frame, true);
+            decoded.predecessor.reset();
+            if (decodeBehindKeyFrame(frame, isCancelled) == FrameAnswer::Cancelled) {
+                m_first = std::move(packet);
+                return {FrameAnswer::Cancelled};
+            }
+            FrameResult result = give(std::move(decoded));
+            m_decoded.clear();
             return result;
         }
     }
     return {answer, {}, answer == FrameAnswer::Failed ? failureText() : QString()};
+}
+
+/// Makes the frame behind a key frame m_decoded's where the key frame wants it. All packets that
+/// this takes are there again afterwards.
+FrameAnswer FrameReader::decodeBehindKeyFrame(const VideoFrame& keyFrame,
+                                              const IsCancelled& isCancelled)
+{
+    const VideoFramePrivate& data = *VideoFramePrivate::of(keyFrame);
+    if (!wantsNeighbours(keyFrame) || !Deinterlacer::combsByItself(*data.frame))
+        return FrameAnswer::Frame;
+    std::deque<Packet> packets;
+    FrameAnswer answer = FrameAnswer::Frame;
+    while (answer == FrameAnswer::Frame && packets.size() < MostPacketsToNeighbour) {
+        Packet packet;
+        answer = readPacket(packet, isCancelled);
+        if (answer != FrameAnswer::Frame)
+            break;
+        packets.push_back(packet);
+        const bool isDecoded = m_decoder->decode(packet);
+        const VideoFrame frame = m_decoder->frame();
+        if (!isDecoded || packet.isDrain())
+            break;
+        if (frame.isValid() && frame.timestamp() > keyFrame.timestamp()) {
+            m_decoded.push_back({{FrameAnswer::Frame, frame}, keyFrame.timestamp()});
+            break;
+        }
+    }
+    m_ahead.insert(m_ahead.begin(), packets.begin(), packets.end());
+    return answer == FrameAnswer::Cancelled ? answer : FrameAnswer::Frame;
 }
 
 QString FrameReader::failureText() const
@@ -324,7 +401,8 @@ QString FrameReader::failureText() const
 
 void FrameReader::chooseSkipping(const Packet& packet)
 {
-    const bool skips = !packet.isDrain() && toMilliseconds(packet.pts) < m_completeFrom;
+    const qint64 completeFrom = m_completeFrom - (wantsPredecessors() ? NeighbourMs : 0);
+    const bool skips = !packet.isDrain() && toMilliseconds(packet.pts) < completeFrom;
     if (skips)
         m_skippedUpTo = std::max(m_skippedUpTo, packet.pts);
     // Where frames are skipped, the key frame is not looked at either.
@@ -336,91 +414,58 @@ void FrameReader::chooseSkipping(const Packet& packet)
     m_decoder->setOptions(decoderOptions(skips, hurries));
 }
 
-FrameResult FrameReader::arriveAt(const VideoFrame& frame, bool isLanding)
+/// A frame that came out of the decoder, with what is known of it.
+FrameReader::Decoded FrameReader::arrived(const VideoFrame& frame, bool isLanding)
 {
-    m_predecessor.reset();
+    Decoded decoded{{FrameAnswer::Frame, frame}};
     // What was interrupted may begin behind frames that cannot be decoded any more.
-    m_isInSequence = m_last && !std::exchange(m_resumes, false);
-    if (m_isInSequence && *m_last >= m_skippedUpTo)
-        m_predecessor = m_last;
-    m_isAtLanding = isLanding;
-    m_isAtFirst = !m_last && m_startedAtZero;
-    m_last = frame.timestamp();
-    m_lastFrame = frame;
-    return {FrameAnswer::Frame, frame};
+    decoded.isInSequence = m_newest && !std::exchange(m_resumes, false);
+    if (decoded.isInSequence && *m_newest >= m_skippedUpTo)
+        decoded.predecessor = m_newest;
+    decoded.isAtLanding = isLanding;
+    decoded.isAtFirst = !m_newest && m_startedAtZero;
+    m_newest = frame.timestamp();
+    m_isInterlaced = m_isInterlaced || wantsNeighbours(frame);
+    return decoded;
 }
 
-/// True when no frame that was not skipped can be missing directly before last(). Once one has come
-/// out, all do.
-bool FrameReader::isCertain() const
+FrameResult FrameReader::give(Decoded decoded)
 {
-    return m_isInSequence || m_isAtFirst || (m_landing && *m_last <= *m_landing);
+    if (decoded.result.answer != FrameAnswer::Frame)
+        return std::move(decoded.result);
+    decoded.result.frame = withNeighbours(decoded);
+    m_predecessor = decoded.predecessor;
+    m_isInSequence = decoded.isInSequence;
+    m_isAtLanding = decoded.isAtLanding;
+    m_isAtFirst = decoded.isAtFirst;
+    m_lastFrame = decoded.result.frame;
+    m_last = m_lastFrame.timestamp();
+    return std::move(decoded.result);
 }
 
-FrameReader::Way FrameReader::walk(const Search& search, const IsCancelled& isCancelled)
+bool FrameReader::wantsPredecessors() const
 {
-    if (m_last && search.isReached(m_lastFrame))
-        return {{FrameAnswer::Frame, m_lastFrame}, isCertain()};
-    for (;;) {
-        FrameResult step = next(isCancelled);
-        if (step.answer == FrameAnswer::Failed && search.damage == Damage::Skip && canGoOn())
-            continue;
-        if (step.answer != FrameAnswer::Frame)
-            return {std::move(step)};
-        if (search.onFrame)
-            search.onFrame(step.frame);
-        if (search.isReached(step.frame))
-            return {std::move(step), isCertain()};
-    }
+    return m_isInterlaced && m_wantedDeinterlacing != Deinterlacing::Off;
 }
 
-FrameResult FrameReader::find(const Search& search, const IsCancelled& isCancelled)
+bool FrameReader::wantsNeighbours(const VideoFrame& frame) const
 {
-    return findFrom(search, isCancelled);
+    return Deinterlacer::mayTake(*VideoFramePrivate::of(frame)->frame, m_deinterlacing);
 }
 
-FrameResult FrameReader::findOn(const Search& search, const IsCancelled& isCancelled)
+/// The frame with the pictures around it, as far as it wants and they are known.
+VideoFrame FrameReader::withNeighbours(const Decoded& decoded) const
 {
-    setCompleteFrom(search.completeFrom);
-    Way way = walk(search, isCancelled);
-    if (way.result.answer == FrameAnswer::Frame && !way.isCertain) {
-        Search complete = search;
-        complete.completeFrom = 0;
-        return findFrom(complete, isCancelled);
-    }
-    return way.result.answer == FrameAnswer::End && m_last ? lastOfVideo(search, isCancelled)
-                                                           : std::move(way.result);
-}
-
-FrameResult FrameReader::findFrom(Search search, const IsCancelled& isCancelled)
-{
-    for (qint64 stepBackMs = 0;;) {
-        const qint64 landing = std::max<qint64>(0, search.ms - stepBackMs);
-        seek(landing);
-        setCompleteFrom(search.completeFrom);
-        Way way = walk(search, isCancelled);
-        const bool isEnd = way.result.answer == FrameAnswer::End;
-        if (isEnd && m_last)
-            return lastOfVideo(search, isCancelled);
-        const bool isNothing = isEnd && landing == 0 && search.completeFrom <= 0;
-        if (isNothing || (!isEnd && way.isCertain))
-            return std::move(way.result);
-        if (search.completeFrom <= 0)
-            stepBackMs = std::max(SmallestStepBackMs, 2 * stepBackMs);
-        search.completeFrom = 0;
-    }
-}
-
-/// The video's last frame, once the reader has come to the end.
-FrameResult FrameReader::lastOfVideo(const Search& search, const IsCancelled& isCancelled)
-{
-    if (!skippedSinceLast())
-        return {FrameAnswer::Frame, m_lastFrame};
-    Search complete = search;
-    complete.ms = toMilliseconds(*m_last);
-    complete.completeFrom = 0;
-    complete.isReached = [](const VideoFrame&) { return false; };
-    return findFrom(complete, isCancelled);
+    const VideoFrame& frame = decoded.result.frame;
+    if (!wantsNeighbours(frame))
+        return frame;
+    const bool isBeforeKnown = decoded.predecessor && decoded.predecessor == m_last;
+    const bool isAfterKnown =
+        !m_decoded.empty() && m_decoded.front().predecessor == frame.timestamp();
+    return VideoFrame(new VideoFramePrivate(
+        *VideoFramePrivate::of(frame), isBeforeKnown ? m_lastFrame : VideoFrame(),
+        isAfterKnown ? m_decoded.front().result.frame : VideoFrame(),
+        {m_deinterlacing, m_deinterlacer}));
 }
 
 } // namespace QtAV

@@ -1,5 +1,6 @@
 #include <QtAV/VideoFrame.h>
 
+#include "qtav/src/Deinterlacer.h"
 #include "qtav/src/PictureConverter.h"
 #include "qtav/src/StreamParameters.h"
 #include "qtav/src/VideoFramePrivate.h"
@@ -69,6 +70,47 @@ QSize squareSizeOf(const AVFrame& frame, AVRational sampleAspectRatio)
     return {frame.width, static_cast<int>(std::lround(frame.height / ratio))};
 }
 
+/// In images of at most so small a part of the lines, nobody sees the moments of two fields.
+constexpr int fewLines = 8;
+
+/// The same picture in the same memory; null for none.
+FramePtr shared(const FramePtr& picture)
+{
+    if (!picture)
+        return nullptr;
+    FramePtr same(av_frame_clone(picture.get()));
+    Q_CHECK_PTR(same.get());
+    return same;
+}
+
+FramePtr sharedPicture(const VideoFramePrivate* data)
+{
+    return data ? shared(data->frame) : nullptr;
+}
+
+/// A time in seconds that is not cut off to the millisecond before because halves are not exact.
+double withoutShortfall(double seconds)
+{
+    constexpr double shortfall = 1e-6;
+    const double whole = std::round(seconds * 1000.0);
+    if (whole / 1000.0 - seconds > shortfall || seconds * 1000.0 >= whole)
+        return seconds;
+    double result = whole / 1000.0;
+    while (result * 1000.0 < whole)
+        result = std::nextafter(result, whole);
+    return result;
+}
+
+/// The time in seconds in the middle between a frame and the next one, as far as that is known.
+double secondMoment(const VideoFramePrivate& frame, const VideoFramePrivate* before,
+                    const VideoFramePrivate* after)
+{
+    if (after)
+        return withoutShortfall((frame.seconds + after->seconds) / 2.0);
+    return before ? withoutShortfall(frame.seconds + (frame.seconds - before->seconds) / 2.0)
+                  : frame.seconds;
+}
+
 } // namespace
 
 VideoFramePrivate::VideoFramePrivate(FramePtr picture, qint64 ticks,
@@ -79,6 +121,8 @@ VideoFramePrivate::VideoFramePrivate(FramePtr picture, qint64 ticks,
     , orientation(orientationOf(*frame, *parameters))
     , squareSize(squareSizeOf(*frame, sampleAspectRatioOf(*frame, *parameters)))
     , converter(std::move(pictureConverter))
+    , firstSeconds(seconds)
+    , secondSeconds(seconds)
 {}
 
 VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& whole, FramePtr smaller)
@@ -88,7 +132,60 @@ VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& whole, FramePtr sm
     , squareSize(whole.squareSize)
     , isScaledDown(true)
     , converter(whole.converter)
+    , firstSeconds(whole.firstSeconds)
+    , secondSeconds(whole.secondSeconds)
 {}
+
+VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& alone, const VideoFrame& frameBefore,
+                                     const VideoFrame& frameAfter, FieldSettings fieldSettings)
+    : QSharedData()
+    , frame(sharedPicture(&alone))
+    , seconds(alone.seconds)
+    , orientation(alone.orientation)
+    , squareSize(alone.squareSize)
+    , isScaledDown(alone.isScaledDown)
+    , converter(alone.converter)
+    , fields(std::move(fieldSettings))
+    , firstSeconds(alone.seconds)
+    , secondSeconds(secondMoment(alone, of(frameBefore), of(frameAfter)))
+    , before(sharedPicture(of(frameBefore)))
+    , after(sharedPicture(of(frameAfter)))
+{}
+
+VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& other, FieldFilter::Moment moment)
+    : QSharedData()
+    , frame(shared(other.frame))
+    , seconds(moment == FieldFilter::Moment::First ? other.firstSeconds : other.secondSeconds)
+    , orientation(other.orientation)
+    , squareSize(other.squareSize)
+    , isScaledDown(other.isScaledDown)
+    , converter(other.converter)
+    , fields{other.fields.deinterlacing, other.fields.deinterlacer, moment}
+    , firstSeconds(other.firstSeconds)
+    , secondSeconds(other.secondSeconds)
+    , before(shared(other.before))
+    , after(shared(other.after))
+{}
+
+const VideoFramePrivate* VideoFramePrivate::of(const VideoFrame& frame)
+{
+    return frame.d.constData();
+}
+
+bool VideoFramePrivate::isOfTwoMoments() const
+{
+    return fields.deinterlacer &&
+           Deinterlacer::isOfTwoMoments({before.get(), frame.get(), after.get()},
+                                        fields.deinterlacing);
+}
+
+FramePtr VideoFramePrivate::deinterlaced() const
+{
+    if (!fields.deinterlacer)
+        return nullptr;
+    return fields.deinterlacer->deinterlaced({before.get(), frame.get(), after.get()},
+                                             fields.deinterlacing, fields.moment);
+}
 
 VideoFrame::VideoFrame() = default;
 VideoFrame::~VideoFrame() = default;
@@ -136,8 +233,27 @@ VideoFrame VideoFrame::scaledDown(const QSize& size) const
     if (!d || !isSmaller || !PictureConverter::isOpaqueYuv(*d->frame))
         return *this;
     const QSize stored = swapsSides(d->orientation) ? size.transposed() : size;
-    FramePtr smaller = d->converter->scaled(*d->frame, stored);
+    const FramePtr deinterlaced = d->deinterlaced();
+    FramePtr smaller = d->converter->scaled(deinterlaced ? *deinterlaced : *d->frame, stored);
     return smaller ? VideoFrame(new VideoFramePrivate(*d, std::move(smaller))) : *this;
+}
+
+VideoFrame VideoFrame::secondField() const
+{
+    if (!d || isSecondField() || !d->isOfTwoMoments())
+        return {};
+    return VideoFrame(new VideoFramePrivate(*d, FieldFilter::Moment::Second));
+}
+
+VideoFrame VideoFrame::firstField() const
+{
+    return isSecondField() ? VideoFrame(new VideoFramePrivate(*d, FieldFilter::Moment::First))
+                           : *this;
+}
+
+bool VideoFrame::isSecondField() const
+{
+    return d && d->moment() == FieldFilter::Moment::Second;
 }
 
 bool VideoFrame::isScaledDown() const
@@ -190,13 +306,16 @@ try {
     const QSize whole = displaySize();
     const bool isReduced = region.isNull() && !size.isEmpty() && size.width() <= whole.width() &&
                            size.height() <= whole.height();
+    const bool isTiny = isReduced && size.height() * fewLines <= whole.height();
+    const FramePtr deinterlaced = isTiny ? nullptr : d->deinterlaced();
+    const AVFrame& picture = deinterlaced ? *deinterlaced : *d->frame;
     // What was scaled down may have another format, but has no alpha either.
-    const bool isOpaque = d->isScaledDown || PictureConverter::isOpaqueYuv(*d->frame);
+    const bool isOpaque = d->isScaledDown || PictureConverter::isOpaqueYuv(picture);
     const QSize upright = isReduced && isOpaque ? size : whole;
     const QSize stored = swapsSides(d->orientation) ? upright.transposed() : upright;
     const bool isScaledLater = !size.isEmpty() && (size != upright || !region.isNull());
     QImage image =
-        oriented(d->converter->convert(*d->frame, stored, convertedFormat(wanted, isScaledLater)),
+        oriented(d->converter->convert(picture, stored, convertedFormat(wanted, isScaledLater)),
                  d->orientation);
     if (!region.isNull()) {
         const QRect part = region.toAlignedRect() & image.rect();

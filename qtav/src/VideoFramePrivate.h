@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QtAV/Deinterlacing.h>
+
 #include "qtav/src/FFmpegHandles.h"
+#include "qtav/src/FieldFilter.h"
 #include "qtav/src/Orientation.h"
 
 #include <QSharedData>
@@ -10,8 +13,18 @@
 
 namespace QtAV {
 
+class Deinterlacer;
 class PictureConverter;
 class StreamParameters;
+class VideoFrame;
+
+/// What makes a whole picture of one that combs.
+struct FieldSettings
+{
+    Deinterlacing deinterlacing = Deinterlacing::Off;
+    std::shared_ptr<Deinterlacer> deinterlacer; ///< never null, unless it is off
+    FieldFilter::Moment moment = FieldFilter::Moment::First;
+};
 
 /// What the copies of one VideoFrame share. Immutable.
 class VideoFramePrivate : public QSharedData
@@ -24,12 +37,37 @@ public:
     /// The same frame with a smaller picture.
     VideoFramePrivate(const VideoFramePrivate& whole, FramePtr smaller);
 
-    const FramePtr frame;
+    /// The same frame with the pictures around it, of which the whole one is made. They belong to
+    /// frames that may be invalid where they are not known.
+    VideoFramePrivate(const VideoFramePrivate& alone, const VideoFrame& before,
+                      const VideoFrame& after, FieldSettings fieldSettings);
+
+    /// The frame of one moment of a frame that has the pictures around it.
+    VideoFramePrivate(const VideoFramePrivate& other, FieldFilter::Moment moment);
+
+    /// What a frame holds; null for an invalid one.
+    static const VideoFramePrivate* of(const VideoFrame& frame);
+
+    /// Whether the picture shows two moments, see Deinterlacer.
+    [[nodiscard]] bool isOfTwoMoments() const;
+    FieldFilter::Moment moment() const { return fields.moment; }
+
+    /// The picture that is shown: null where that is `frame` itself. Made anew by each call.
+    [[nodiscard]] FramePtr deinterlaced() const;
+
+    const FramePtr frame; ///< as it was decoded
     const double seconds;
     const Orientation orientation;
     const QSize squareSize; ///< of the decoded picture, with square pixels
     const bool isScaledDown = false;
     const std::shared_ptr<PictureConverter> converter;
+
+private:
+    const FieldSettings fields;
+    const double firstSeconds;
+    const double secondSeconds; ///< of the later moment
+    const FramePtr before;      ///< null where it is not known or not needed
+    const FramePtr after;       ///< likewise
 };
 
 } // namespace QtAV

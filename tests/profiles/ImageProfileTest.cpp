@@ -30,6 +30,7 @@ private slots:
         QCOMPARE(profile.resizeFilter(), int(ImageProfile::AreaFilter));
         QCOMPARE(profile.resizeInLinearLight(), false);
         QCOMPARE(profile.deepColours(), false);
+        QCOMPARE(profile.deinterlacing(), QStringLiteral("auto"));
         QCOMPARE(profile.cropBlackEdges(), false);
     }
 
@@ -55,7 +56,8 @@ private slots:
                          QStringLiteral("imageContrast"), QStringLiteral("imageBrightness"),
                          QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId"),
                          QStringLiteral("metadata"), QStringLiteral("resizeFilter"),
-                         QStringLiteral("resizeInLinearLight"), QStringLiteral("deepColours")}));
+                         QStringLiteral("resizeInLinearLight"), QStringLiteral("deepColours"),
+                         QStringLiteral("deinterlacing")}));
         QCOMPARE(ImageProfile::staticMetaObject.indexOfProperty("cropBlackEdges"), -1);
     }
 
@@ -180,7 +182,7 @@ private slots:
         settings.beginGroup(profile->id());
         QCOMPARE(settings.value(QStringLiteral("sortOrder")), QVariant(0));
         QCOMPARE(settings.value(QStringLiteral("imageQuality")), QVariant(90));
-        QCOMPARE(settings.allKeys().size(), 16);
+        QCOMPARE(settings.allKeys().size(), 17);
 
         const std::unique_ptr<BaseProfile> made(manager->createProfile());
         QVERIFY(qobject_cast<ImageProfile*>(made.get()));

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QMap>
 #include <QTest>
 
 #include <memory>
@@ -21,12 +22,14 @@ namespace {
 
 constexpr int quality = 77;
 constexpr QSize smaller{101, 67};
+const QString usual = QStringLiteral("auto");
 
 /// Like the window's profiles; full size for an empty one.
-std::unique_ptr<ImageProfile> profileFor(const QSize& size)
+std::unique_ptr<ImageProfile> profileFor(const QSize& size, const QString& deinterlacing)
 {
     auto profile = std::make_unique<ImageProfile>();
     profile->setImageQuality(quality);
+    profile->setDeinterlacing(deinterlacing);
     profile->setSameSizeAsVideo(size.isEmpty());
     if (!size.isEmpty()) {
         profile->setImageWidth(size.width());
@@ -44,7 +47,8 @@ QByteArray onlyContent(const QString& folder)
     return files.size() == 1 && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QByteArray byStills(const QString& video, qint64 ms, const QSize& size)
+QByteArray byStills(const QString& video, qint64 ms, const QSize& size,
+                    const QString& deinterlacing = usual)
 {
     const TestDir dir;
     QStringList arguments{video,
@@ -52,6 +56,8 @@ QByteArray byStills(const QString& video, qint64 ms, const QSize& size)
                           QStringLiteral("%1ms").arg(ms),
                           QStringLiteral("--quality"),
                           QString::number(quality),
+                          QStringLiteral("--deinterlace"),
+                          deinterlacing,
                           QStringLiteral("-o"),
                           dir.path()};
     if (!size.isEmpty()) {
@@ -61,14 +67,17 @@ QByteArray byStills(const QString& video, qint64 ms, const QSize& size)
     return stillsprogram::run(arguments).succeeded() ? onlyContent(dir.path()) : QByteArray();
 }
 
-QByteArray byBatchJob(const QString& video, qint64 ms, const QSize& size)
+enum class Frames { Exact, Near };
+
+QByteArray byBatchJob(const QString& video, qint64 ms, const QSize& size,
+                      const QString& deinterlacing = usual, Frames frames = Frames::Exact)
 {
     const TestDir dir;
-    const std::unique_ptr<ImageProfile> profile = profileFor(size);
+    const std::unique_ptr<ImageProfile> profile = profileFor(size, deinterlacing);
     BatchWorkerConfig config;
     config.setSource(video);
     config.setFileOutputPath(dir.path());
-    config.setExactFrames(true);
+    config.setExactFrames(frames == Frames::Exact);
     config.setImageProfile(profile.get());
     config.setIntervalType(BatchWorkerConfig::SingleShot);
     config.setIntervalSingleShot(BatchWorkerConfig::Front);
@@ -81,13 +90,15 @@ QByteArray byBatchJob(const QString& video, qint64 ms, const QSize& size)
 }
 
 /// What the window does with the frame on screen.
-QByteArray bySnapshot(const QString& video, qint64 ms, const QSize& size)
+QByteArray bySnapshot(const QString& video, qint64 ms, const QSize& size,
+                      const QString& deinterlacing = usual)
 {
     const TestDir dir;
-    const std::unique_ptr<ImageProfile> profile = profileFor(size);
+    const std::unique_ptr<ImageProfile> profile = profileFor(size, deinterlacing);
     FrameGrabber grabber;
     grabber.setSource(video);
     grabber.setPrecision(0);
+    grabber.setDeinterlacing(QtAV::deinterlacingNamed(deinterlacing));
     QtAV::VideoFrame frame;
     QObject::connect(&grabber, &FrameGrabber::frameExtracted, &grabber,
                      [&frame](const QtAV::VideoFrame& found) { frame = found; });
@@ -115,6 +126,7 @@ private Q_SLOTS:
     void stillsBatchJobsAndSnapshots_giveTheSameBytes_data();
     void stillsBatchJobsAndSnapshots_giveTheSameBytes();
     void metadata_isTheSame_whateverTookThePicture();
+    void deinterlacing_isTheSame_forStillsBatchJobsAndSnapshots();
 };
 
 void SamePictureTest::stillsBatchJobsAndSnapshots_giveTheSameBytes_data()
@@ -155,6 +167,29 @@ void SamePictureTest::metadata_isTheSame_whateverTookThePicture()
     QVERIFY(bytes.contains("2024:05:06 12:34:57"));
     QVERIFY(byBatchJob(video, 1000, QSize()) == bytes);
     QVERIFY(bySnapshot(video, 1000, QSize()) == bytes);
+}
+
+/// Of a picture that combs.
+void SamePictureTest::deinterlacing_isTheSame_forStillsBatchJobsAndSnapshots()
+{
+    const QString video = samplePath(QStringLiteral("fields_mpeg2_tff.ts"));
+    constexpr qint64 ms = 400;
+    QMap<QString, QByteArray> exact;
+    QMap<QString, QByteArray> near;
+    for (const char* const name : {"auto", "on", "off"}) {
+        const QString deinterlacing = QString::fromLatin1(name);
+        const QByteArray bytes = byStills(video, ms, {}, deinterlacing);
+        QVERIFY(!bytes.isEmpty());
+        QVERIFY(byBatchJob(video, ms, {}, deinterlacing) == bytes);
+        QVERIFY(bySnapshot(video, ms, {}, deinterlacing) == bytes);
+        exact[deinterlacing] = bytes;
+        near[deinterlacing] = byBatchJob(video, ms, {}, deinterlacing, Frames::Near);
+        QVERIFY(!near[deinterlacing].isEmpty());
+    }
+    for (const auto& outcome : {exact, near}) {
+        QVERIFY(outcome[QStringLiteral("auto")] == outcome[QStringLiteral("on")]);
+        QVERIFY(outcome[QStringLiteral("auto")] != outcome[QStringLiteral("off")]);
+    }
 }
 
 QTEST_MAIN(SamePictureTest)

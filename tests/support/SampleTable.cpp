@@ -195,6 +195,12 @@ QList<Sample> geometrySamples()
         Entry("h264_interlaced.mp4", 50).with(Trait::Interlaced),
         Entry("mpeg2_interlaced.ts", 50)
             .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("fields_mpeg2_tff.ts", 25, pal, {352, 288})
+            .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("fields_h264_bff.ts", 25, pal, {352, 288})
+            .with(Trait::Interlaced | Trait::NoStatedDuration),
+        Entry("fields_dv_pal.avi", 12, pal, palSize)
+            .with(Trait::Interlaced | Trait::NoPresentationTimes),
         Entry("odd_size_420.mkv", 20, pal, oddSize),
         Entry("odd_size_444.mkv", 20, pal, oddSize),
         Entry("odd_size_444.mp4", 20, pal, oddSize),

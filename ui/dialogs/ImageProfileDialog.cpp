@@ -36,6 +36,7 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     setupWatermarkProfileComboBox();
     setupResizeFilterComboBox();
     setupMetadataComboBox();
+    setupDeinterlacingComboBox();
     connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, MinAdjustment, MaxAdjustment);
     connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
     setupProfileSelector();
@@ -175,6 +176,13 @@ void ImageProfileDialog::setupMetadataComboBox()
     m_ui->metadataComboBox->addItem(tr("None"), ImageProfile::NoMetadata);
 }
 
+void ImageProfileDialog::setupDeinterlacingComboBox()
+{
+    m_ui->deinterlacingComboBox->addItem(tr("Automatic"), QStringLiteral("auto"));
+    m_ui->deinterlacingComboBox->addItem(tr("On"), QStringLiteral("on"));
+    m_ui->deinterlacingComboBox->addItem(tr("Off"), QStringLiteral("off"));
+}
+
 void ImageProfileDialog::connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max)
 {
     slider->setRange(min, max);
@@ -194,6 +202,7 @@ void ImageProfileDialog::setupProfileSelector()
     addField("watermarkProfileId", m_ui->watermarkProfileComboBox);
     addField("imageBrightness", m_ui->brightnessSpinBox);
     addField("imageContrast", m_ui->contrastSpinBox);
+    addField("deinterlacing", m_ui->deinterlacingComboBox);
     addField("imageQuality", m_ui->jpegQualitySpinBox);
     addField("metadata", m_ui->metadataComboBox);
     addField("deepColours", m_ui->deepColoursCheckbox);

@@ -68,6 +68,7 @@ private:
     void setupWatermarkProfileComboBox();
     void setupResizeFilterComboBox();
     void setupMetadataComboBox();
+    void setupDeinterlacingComboBox();
     void connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max);
     void setupProfileSelector();
     void addField(const char* propertyName, QWidget* widget);

@@ -82,6 +82,7 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     connectPlayer();
     connectTransport();
     alignControls();
+    setupDeinterlaceMenu();
     loadImageProfileComboBox();
     loadFileNameProfileComboBox();
     setupFileDialogs();
@@ -137,6 +138,10 @@ void MainWindow::connectTransport()
     connect(m_ui->actionSkipForward, &QAction::triggered, this, &MainWindow::skipForward);
     connect(m_ui->actionStepBackward, &QAction::triggered, this, &MainWindow::stepBackward);
     connect(m_ui->actionStepForward, &QAction::triggered, this, &MainWindow::stepForward);
+    connect(m_ui->actionStepFieldForward, &QAction::triggered, m_player,
+            &QtAV::AVPlayer::stepFieldForward);
+    connect(m_ui->actionStepFieldBackward, &QAction::triggered, m_player,
+            &QtAV::AVPlayer::stepFieldBackward);
     connect(m_ui->snapshotButton, &QPushButton::clicked, this, &MainWindow::snapshotButtonPressed);
     connect(m_ui->saveButton, &QPushButton::clicked, this, &MainWindow::saveButtonPressed);
     // Not at every key: each folder on the way to the one that is meant would raise the counter.

@@ -167,6 +167,9 @@ private:
     void connectPlayer();
     void connectTransport();
     void alignControls();
+    void setupDeinterlaceMenu();
+    void chooseDeinterlacing(const QString& name);
+    void followDeinterlacing();
     void shareSpaceKey();
     void quit();
 

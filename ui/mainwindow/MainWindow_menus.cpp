@@ -9,9 +9,11 @@
 #include "ui/dialogs/ImageFiltersDialog.h"
 #include "ui/dialogs/ImageProfileDialog.h"
 #include "ui/mainwindow/UserGuide.h"
+#include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
 
+#include <QActionGroup>
 #include <QDesktopServices>
 
 namespace {
@@ -72,6 +74,39 @@ void MainWindow::on_actionImage_Filters_Test_triggered()
     pause();
     ImageFiltersDialog(this).exec();
     retakeFocusAfterDialog();
+}
+
+/// The menu shows and changes what the selected image profile says.
+void MainWindow::setupDeinterlaceMenu()
+{
+    auto* const group = new QActionGroup(this);
+    const auto add = [this, group](QAction* action, const QString& name) {
+        action->setData(name);
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, name] { chooseDeinterlacing(name); });
+    };
+    add(m_ui->actionDeinterlaceAutomatic, QStringLiteral("auto"));
+    add(m_ui->actionDeinterlaceOn, QStringLiteral("on"));
+    add(m_ui->actionDeinterlaceOff, QStringLiteral("off"));
+}
+
+void MainWindow::chooseDeinterlacing(const QString& name)
+{
+    m_imageProfile->setDeinterlacing(name);
+    ImageProfile::profileManager()->saveProfiles();
+    followDeinterlacing();
+}
+
+/// Has the player and the menu follow the selected image profile.
+void MainWindow::followDeinterlacing()
+{
+    const QString name = m_imageProfile->deinterlacing();
+    const QtAV::Deinterlacing deinterlacing = QtAV::deinterlacingNamed(name);
+    m_player->setDeinterlacing(deinterlacing);
+    const QList<QAction*> actions = m_ui->menuDeinterlace->actions();
+    for (QAction* const action : actions) {
+        action->setChecked(QtAV::deinterlacingNamed(action->data().toString()) == deinterlacing);
+    }
 }
 
 void MainWindow::on_actionAbout_triggered()

@@ -355,6 +355,7 @@ void MainWindow::loadImageProfileComboBox()
 {
     m_imageProfile = static_cast<ImageProfile*>(
         fillProfiles(*m_ui->imageProfileComboBox, *ImageProfile::profileManager()));
+    followDeinterlacing();
 }
 
 void MainWindow::loadFileNameProfileComboBox()
@@ -370,6 +371,7 @@ void MainWindow::on_imageProfileComboBox_activated(int index)
         chooseProfile(*m_ui->imageProfileComboBox, *ImageProfile::profileManager());
     if (chosen != nullptr) {
         m_imageProfile = static_cast<ImageProfile*>(chosen);
+        followDeinterlacing();
     }
 }
 

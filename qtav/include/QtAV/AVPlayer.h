@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtAV/AudioOutput.h>
+#include <QtAV/Deinterlacing.h>
 #include <QtAV/MediaFacts.h>
 #include <QtAV/Statistics.h>
 #include <QtAV/VideoCapture.h>
@@ -93,6 +94,10 @@ public:
     void setFrameCacheSize(qint64 bytes);
     qint64 frameCacheSize() const;
 
+    /// What becomes of interlaced pictures, on screen and captured; the frame on screen is shown
+    /// anew.
+    void setDeinterlacing(Deinterlacing deinterlacing);
+
     /// Where frames are shown; not owned, and may go before the player. Null for nowhere.
     void setRenderer(VideoRenderer* renderer);
     VideoRenderer* renderer() const;
@@ -127,6 +132,12 @@ public Q_SLOTS:
     /// the next frame cannot be read.
     void stepForward();
     void stepBackward();
+
+    /// The same by single moments: an interlaced picture that combs shows two. Where one has no
+    /// second moment, and where frames are kept at the size of the screen only, these go by frames.
+    /// A step that comes while one to another frame is under way is dropped.
+    void stepFieldForward();
+    void stepFieldBackward();
 
 Q_SIGNALS:
     /// The first frame is on screen and playback begins.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtAV/AVDemuxer.h>
+#include <QtAV/Deinterlacing.h>
 #include <QtAV/FrameResult.h>
 #include <QtAV/VideoDecoder.h>
 #include <QtAV/VideoFrame.h>
@@ -15,11 +16,20 @@
 
 namespace QtAV {
 
+class Deinterlacer;
+
 /// The one way to decoded frames: gives those of a file's first video stream in the order in which
 /// they are shown, from any key frame on. The times of the frames that it gives rise strictly.
 ///
 /// It says what it knows of the frame before each one, so that callers can tell whether the first
 /// frame that they see at a position is the first one there is.
+///
+/// Frames of interlaced video bear the pictures around them, of which whole ones are made. For that
+/// it decodes one frame further than the one that it gives, and begins to skip nothing a little
+/// sooner. Everything that is said of last() and the frames before it is said of the frame given.
+///
+/// Its sources are split: how frames come one after another in FrameReader.cpp, how one is found in
+/// FrameReader_search.cpp.
 ///
 /// Not thread-safe, but tied to no thread: one thread at a time may use it.
 class FrameReader
@@ -50,6 +60,9 @@ public:
 
     /// How many threads decode, from the next open() or seek() on; 0, as at first, for one a core.
     void setThreads(int threads) { m_threads = threads; }
+
+    /// What becomes of interlaced pictures, from the next open() or seek() on.
+    void setDeinterlacing(Deinterlacing deinterlacing) { m_wantedDeinterlacing = deinterlacing; }
 
     /// Opens a file and stands at its start. False, with a text for people, when it cannot be
     /// opened, has no video or none that can be decoded, or when opening was cancelled. A file
@@ -110,7 +123,7 @@ public:
     [[nodiscard]] FrameResult findOn(const Search& search, const IsCancelled& isCancelled);
 
     /// False once the file cannot be read any more: until the next seek(), every next() fails.
-    bool canGoOn() const { return !m_isLost; }
+    bool canGoOn() const { return !m_isLost || !m_decoded.empty(); }
 
     /// The time in seconds of the frame that next() gave last; nothing since seek().
     std::optional<double> last() const { return m_last; }
@@ -144,26 +157,48 @@ public:
     bool skippedSinceLast() const { return m_last && *m_last < m_skippedUpTo; }
 
 private:
-    /// How far one attempt of a search came, and whether an earlier frame may have been missed.
+    /// The frame before an interlaced one is wanted, too: more than one lasts, and less than two.
+    static constexpr qint64 NeighbourMs = 60;
+
+    /// How far one attempt of a search came, and whether no earlier frame can be missing that there
+    /// is or that the frame needs.
     struct Way
     {
         FrameResult result;
         bool isCertain = true;
     };
 
+    /// What came out of the decoder, and what was known of the frame when it did.
+    struct Decoded
+    {
+        FrameResult result;
+        std::optional<double> predecessor = {}; ///< time of the frame directly before it
+        bool isInSequence = false;              ///< one came out before it, without an interruption
+        bool isAtFirst = false;
+        bool isAtLanding = false;
+    };
+
     void restart();
     [[nodiscard]] bool openDecoder();
+    [[nodiscard]] Decoded decodeNext(const IsCancelled& isCancelled);
+    [[nodiscard]] Decoded arrived(const VideoFrame& frame, bool isLanding);
+    [[nodiscard]] FrameResult give(Decoded decoded);
+    [[nodiscard]] bool wantsNeighbours(const VideoFrame& frame) const;
+    [[nodiscard]] VideoFrame withNeighbours(const Decoded& decoded) const;
+    [[nodiscard]] FrameAnswer decodeBehindKeyFrame(const VideoFrame& keyFrame,
+                                                   const IsCancelled& isCancelled);
     void landOnAhead(size_t index);
     [[nodiscard]] FrameAnswer readFromFile(Packet& packet, const IsCancelled& isCancelled);
     [[nodiscard]] Way walk(const Search& search, const IsCancelled& isCancelled);
     [[nodiscard]] FrameResult findFrom(Search search, const IsCancelled& isCancelled);
     [[nodiscard]] FrameResult lastOfVideo(const Search& search, const IsCancelled& isCancelled);
     [[nodiscard]] bool isCertain() const;
+    [[nodiscard]] bool hasPredecessor() const;
+    [[nodiscard]] bool wantsPredecessors() const;
     [[nodiscard]] FrameAnswer lost(const IsCancelled& isCancelled);
     QString failureText() const;
     [[nodiscard]] FrameAnswer readPacket(Packet& packet, const IsCancelled& isCancelled);
     void chooseSkipping(const Packet& packet);
-    [[nodiscard]] FrameResult arriveAt(const VideoFrame& frame, bool isLanding);
 
     AVDemuxer m_demuxer;
     std::unique_ptr<VideoDecoder> m_decoder;
@@ -174,6 +209,12 @@ private:
     bool m_resumes = false;         ///< m_target is to get back to where reading was interrupted
     Packet m_first;                 ///< read by land(), not decoded yet
     std::deque<Packet> m_ahead;     ///< read after that by readAhead()
+    Deinterlacing m_wantedDeinterlacing = Deinterlacing::Automatic;
+    Deinterlacing m_deinterlacing = Deinterlacing::Automatic; ///< since seek()
+    std::shared_ptr<Deinterlacer> m_deinterlacer;             ///< of the open file
+    bool m_isInterlaced = false;    ///< neighbours may be wanted in the open file
+    std::deque<Decoded> m_decoded;  ///< not given yet
+    std::optional<double> m_newest; ///< the time of the frame that was decoded last
     qint64 m_completeFrom = 0;
     double m_skippedUpTo = -1.0; ///< frames up to this time may be missing
     bool m_skips = false;

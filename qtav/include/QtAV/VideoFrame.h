@@ -13,6 +13,9 @@ class VideoFramePrivate;
 
 /// One decoded picture and its time: an implicitly shared, immutable value that may travel between
 /// threads and outlive the decoder.
+///
+/// Where the picture combs, images are made of what the frames around it make it, see
+/// Deinterlacing: toImage() and scaledDown() do so, each time anew.
 class VideoFrame
 {
 public:
@@ -54,6 +57,15 @@ public:
     /// True for what scaledDown() made: not what was decoded.
     bool isScaledDown() const;
 
+    /// The later one of the two moments that an interlaced picture shows, as a frame of its own;
+    /// its time is in the middle between this one and the next. The frame itself stands for the
+    /// earlier moment. Invalid where the picture is not one of two moments, and for a frame that is
+    /// scaled down. Has to look at the picture for that, which takes some milliseconds.
+    [[nodiscard]] VideoFrame secondField() const;
+    /// The frame that secondField() was made of; else the frame itself.
+    [[nodiscard]] VideoFrame firstField() const;
+    bool isSecondField() const;
+
     /// The memory that the stored picture takes, in bytes; 0 when not valid.
     qint64 byteCount() const;
 
@@ -84,6 +96,8 @@ public:
                                  const QRectF& region = QRectF()) const;
 
 private:
+    friend class VideoFramePrivate;
+
     QSharedDataPointer<VideoFramePrivate> d;
 };
 

@@ -185,6 +185,7 @@ void ImageProfileDialogTest::fields_areTheseInThisOrder()
                           textOf("watermarkProfileId watermarkProfileComboBox -1"),
                           textOf("imageBrightness brightnessSpinBox -1"),
                           textOf("imageContrast contrastSpinBox -1"),
+                          textOf("deinterlacing deinterlacingComboBox -1"),
                           textOf("imageQuality jpegQualitySpinBox -1"),
                           textOf("metadata metadataComboBox -1"),
                           textOf("deepColours deepColoursCheckbox -1")}));
@@ -213,13 +214,14 @@ void ImageProfileDialogTest::everyLabel_belongsToItsInput()
 {
     const TestProfiles profiles;
     const ImageProfileDialog dialog(nullptr);
-    const QStringList texts{
-        textOf("Image Width:"), textOf("Image Height:"), textOf("Filter:"),  textOf("Brightness:"),
-        textOf("Contrast:"),    textOf("JPEG Quality:"), textOf("Metadata:")};
+    const QStringList texts{textOf("Image Width:"),  textOf("Image Height:"),
+                            textOf("Filter:"),       textOf("Brightness:"),
+                            textOf("Contrast:"),     textOf("Deinterlace:"),
+                            textOf("JPEG Quality:"), textOf("Metadata:")};
     const QStringList inputs{textOf("imageWidthLineEdit"),   textOf("imageHeightLineEdit"),
                              textOf("resizeFilterComboBox"), textOf("brightnessSlider"),
-                             textOf("contrastSlider"),       textOf("jpegQualitySpinBox"),
-                             textOf("metadataComboBox")};
+                             textOf("contrastSlider"),       textOf("deinterlacingComboBox"),
+                             textOf("jpegQualitySpinBox"),   textOf("metadataComboBox")};
     QStringList found;
     const auto labels = dialog.findChildren<QLabel*>();
     for (const QLabel* const label : labels) {
@@ -241,6 +243,7 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
                             textOf("brightnessSpinBox"),
                             textOf("contrastSlider"),
                             textOf("contrastSpinBox"),
+                            textOf("deinterlacingComboBox"),
                             textOf("jpegQualitySpinBox"),
                             textOf("metadataComboBox"),
                             textOf("deepColoursCheckbox"),

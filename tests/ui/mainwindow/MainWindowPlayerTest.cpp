@@ -1,5 +1,7 @@
 #include "tests/ui/mainwindow/OpenWindow.h"
 
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
 #include "tests/support/Samples.h"
 #include "ui/widgets/VolumePopup.h"
 
@@ -26,6 +28,8 @@ private Q_SLOTS:
     void playButton_showsWhatItDoes();
     void space_pressesTheControlReachedByTab_elseItPlays();
     void step_showsTheNextAndThePreviousFrame();
+    void stepField_goesToTheOtherMoment_ofAnInterlacedPicture();
+    void deinterlacing_isThatOfTheSelectedProfile();
     void skip_goesASecondAndPauses();
     void skip_endsAtTheStart_whenThereIsNoWholeSecond();
     void slider_goesInStepsOf30Milliseconds();
@@ -43,6 +47,8 @@ namespace {
 constexpr int limitMs = 30000;
 
 const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
+
+const QString interlacedClip = QStringLiteral("fields_mpeg2_tff.ts"); // 25 pictures a second
 
 bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
 {
@@ -115,6 +121,45 @@ void MainWindowPlayerTest::step_showsTheNextAndThePreviousFrame()
     QVERIFY(waitForPosition(window.player(), 360));
     window.find<QAction>("actionStepForward").trigger();
     QVERIFY(waitForPosition(window.player(), 400));
+}
+
+void MainWindowPlayerTest::stepField_goesToTheOtherMoment_ofAnInterlacedPicture()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(interlacedClip)));
+    window->seekRelative(400);
+    QVERIFY(waitForPosition(window.player(), 400));
+    window.find<QAction>("actionStepFieldForward").trigger();
+    QVERIFY(waitForPosition(window.player(), 420));
+    window.find<QAction>("actionStepFieldBackward").trigger();
+    QVERIFY(waitForPosition(window.player(), 400));
+}
+
+/// The menu shows it and changes it, also in the file of the profiles.
+void MainWindowPlayerTest::deinterlacing_isThatOfTheSelectedProfile()
+{
+    ProfileManager& manager = *ImageProfile::profileManager();
+    auto* const profile = static_cast<ImageProfile*>(manager.profiles().constFirst());
+    OpenWindow window;
+    auto& automatic = window.find<QAction>("actionDeinterlaceAutomatic");
+    auto& off = window.find<QAction>("actionDeinterlaceOff");
+    QVERIFY(automatic.isChecked());
+    QVERIFY(window.openPaused(samplePath(interlacedClip)));
+    window->seekRelative(400);
+    QVERIFY(waitForPosition(window.player(), 400));
+    const QImage whole = window.player().displayedFrame().toImage();
+
+    off.trigger();
+    QVERIFY(off.isChecked() && !automatic.isChecked());
+    QCOMPARE(profile->deinterlacing(), QStringLiteral("off"));
+    QTRY_VERIFY(window.player().displayedFrame().toImage() != whole);
+    manager.loadProfilesFromFile();
+    window->loadImageProfileComboBox();
+    QVERIFY(off.isChecked());
+
+    automatic.trigger();
+    QTRY_VERIFY(window.player().displayedFrame().toImage() == whole);
+    QVERIFY(automatic.isChecked() && !off.isChecked());
 }
 
 void MainWindowPlayerTest::skip_goesASecondAndPauses()

@@ -1,0 +1,95 @@
+#include <QtAV/FrameReader.h>
+#include <QtAV/Times.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace QtAV {
+
+namespace {
+
+constexpr qint64 SmallestStepBackMs = 500;
+
+} // namespace
+
+/// True when no frame that was not skipped can be missing directly before last(). Once one has come
+/// out, all do.
+bool FrameReader::isCertain() const
+{
+    return m_isInSequence || m_isAtFirst || (m_landing && *m_last <= *m_landing);
+}
+
+/// True unless the picture before last() is wanted and not known though there is one. Then the same
+/// frame would not look the same on each way to it.
+bool FrameReader::hasPredecessor() const
+{
+    return m_predecessor || m_isAtFirst || !wantsNeighbours(m_lastFrame);
+}
+
+FrameReader::Way FrameReader::walk(const Search& search, const IsCancelled& isCancelled)
+{
+    if (m_last && search.isReached(m_lastFrame))
+        return {{FrameAnswer::Frame, m_lastFrame}, isCertain() && hasPredecessor()};
+    for (;;) {
+        FrameResult step = next(isCancelled);
+        if (step.answer == FrameAnswer::Failed && search.damage == Damage::Skip && canGoOn())
+            continue;
+        if (step.answer != FrameAnswer::Frame)
+            return {std::move(step)};
+        if (search.onFrame)
+            search.onFrame(step.frame);
+        if (search.isReached(step.frame))
+            return {std::move(step), isCertain() && hasPredecessor()};
+    }
+}
+
+FrameResult FrameReader::find(const Search& search, const IsCancelled& isCancelled)
+{
+    return findFrom(search, isCancelled);
+}
+
+FrameResult FrameReader::findOn(const Search& search, const IsCancelled& isCancelled)
+{
+    setCompleteFrom(search.completeFrom);
+    Way way = walk(search, isCancelled);
+    if (way.result.answer == FrameAnswer::Frame && !way.isCertain) {
+        Search complete = search;
+        complete.completeFrom = 0;
+        return findFrom(complete, isCancelled);
+    }
+    return way.result.answer == FrameAnswer::End && m_last ? lastOfVideo(search, isCancelled)
+                                                           : std::move(way.result);
+}
+
+FrameResult FrameReader::findFrom(Search search, const IsCancelled& isCancelled)
+{
+    for (qint64 stepBackMs = wantsPredecessors() ? NeighbourMs : 0;;) {
+        const qint64 landing = std::max<qint64>(0, search.ms - stepBackMs);
+        seek(landing);
+        setCompleteFrom(search.completeFrom);
+        Way way = walk(search, isCancelled);
+        const bool isEnd = way.result.answer == FrameAnswer::End;
+        if (isEnd && m_last)
+            return lastOfVideo(search, isCancelled);
+        const bool isNothing = isEnd && landing == 0 && search.completeFrom <= 0;
+        if (isNothing || (!isEnd && way.isCertain))
+            return std::move(way.result);
+        if (search.completeFrom <= 0)
+            stepBackMs = std::max(SmallestStepBackMs, 2 * stepBackMs);
+        search.completeFrom = 0;
+    }
+}
+
+/// The video's last frame, once the reader has come to the end.
+FrameResult FrameReader::lastOfVideo(const Search& search, const IsCancelled& isCancelled)
+{
+    if (!skippedSinceLast())
+        return {FrameAnswer::Frame, m_lastFrame};
+    Search complete = search;
+    complete.ms = toMilliseconds(*m_last);
+    complete.completeFrom = 0;
+    complete.isReached = [](const VideoFrame&) { return false; };
+    return findFrom(complete, isCancelled);
+}
+
+} // namespace QtAV
