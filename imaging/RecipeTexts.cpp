@@ -56,6 +56,12 @@ bool isYes(const Texts& texts, const char* name)
     return texts.value(nameOf(name)) == nameOf(yes);
 }
 
+/// Whether it is not left to the pictures themselves.
+bool isForced(const QString& deinterlacing)
+{
+    return deinterlacing == nameOf("on") || deinterlacing == nameOf("off");
+}
+
 void addSize(Texts& texts, const ImageRecipe& recipe, const QSize& frame)
 {
     const bool fits =
@@ -158,6 +164,9 @@ RecipeTexts::Texts RecipeTexts::of(const ImageRecipe& recipe, const QSize& frame
     if (recipe.keepsDeepColours) {
         texts.insert(nameOf("DeepColours"), nameOf(yes));
     }
+    if (isForced(recipe.deinterlacing)) {
+        texts.insert(nameOf("Deinterlacing"), recipe.deinterlacing);
+    }
     if (keepsQuality) {
         texts.insert(nameOf("Quality"), QString::number(recipe.jpegQuality));
     }
@@ -176,6 +185,10 @@ ImageRecipe RecipeTexts::recipeFrom(const Texts& texts)
         numberFrom(texts, "Brightness", -largestAdjustment, largestAdjustment, recipe.brightness);
     recipe.jpegQuality = numberFrom(texts, "Quality", 0, highestQuality, recipe.jpegQuality);
     recipe.keepsDeepColours = isYes(texts, "DeepColours");
+    const QString deinterlacing = texts.value(nameOf("Deinterlacing"));
+    if (isForced(deinterlacing)) {
+        recipe.deinterlacing = deinterlacing;
+    }
     recipe.resampling = resamplingFrom(texts);
     const std::optional<QPoint> size = pairFrom(texts.value(nameOf("Size")), 'x');
     if (size && size->x() > 0 && size->y() > 0) {

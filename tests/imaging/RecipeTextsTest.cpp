@@ -52,6 +52,7 @@ private Q_SLOTS:
         recipe.brightness = 31;
         recipe.jpegQuality = 83;
         recipe.keepsDeepColours = true;
+        recipe.deinterlacing = QStringLiteral("off");
         recipe.resampling = {ResizeFilter::Bicubic, ResizeLight::Linear};
         recipe.watermark = textWatermark();
         const ImageRecipe back = RecipeTexts::recipeFrom(textsOf(recipe));
@@ -62,6 +63,7 @@ private Q_SLOTS:
         QCOMPARE(back.brightness, 31);
         QCOMPARE(back.jpegQuality, 83);
         QVERIFY(back.keepsDeepColours);
+        QCOMPARE(back.deinterlacing, QStringLiteral("off"));
         QVERIFY(back.resampling.filter == ResizeFilter::Bicubic);
         QVERIFY(back.resampling.light == ResizeLight::Linear);
         QVERIFY(back.watermark);
