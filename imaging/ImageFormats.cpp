@@ -30,6 +30,14 @@ bool is(const QString& suffix, bool Format::*property)
     });
 }
 
+/// Comes with Qt itself, so that no plugin need be asked: all would be loaded for the answer, and
+/// with them libraries for vector graphics and widgets.
+bool isAlwaysWritable(const QString& suffix)
+{
+    return suffix == QLatin1String("jpg") || suffix == QLatin1String("jpeg") ||
+           suffix == QLatin1String("png") || suffix == QLatin1String("bmp");
+}
+
 const QList<QByteArray>& writable()
 {
     static const QList<QByteArray> list = QImageWriter::supportedImageFormats();
@@ -51,7 +59,8 @@ QStringList ImageFormats::suffixes()
 
 bool ImageFormats::canWrite(const QString& suffix)
 {
-    return writable().contains(suffix.toLower().toUtf8());
+    const QString lower = suffix.toLower();
+    return isAlwaysWritable(lower) || writable().contains(lower.toUtf8());
 }
 
 bool ImageFormats::hasQuality(const QString& suffix)

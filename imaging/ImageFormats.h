@@ -6,7 +6,7 @@
 /// Which files pictures can be written to on this machine. Some formats come with plugins that may
 /// be missing: WebP, AVIF and JPEG XL.
 ///
-/// Callable from any thread; the first call loads the plugins' descriptions.
+/// Callable from any thread. Asking for others than JPEG, PNG and BMP loads all plugins, once.
 namespace ImageFormats {
 
 /// The suffixes that are offered, such as "jpg", as far as they can be written: those of JPEG, PNG,

@@ -264,7 +264,10 @@ bool FrameGrabber::takeKeyFrame(Extraction& extraction)
 /// The key frame will do on either side of the target, but no frame that came out instead of it.
 bool FrameGrabber::isKeyFrameNearEnough(const Extraction& extraction) const
 {
-    return m_frame.isValid() && m_reader.isAtLanding() && m_reader.landedOnKeyFrame() &&
+    // Where exactly the frame at the position is wanted, it has to look as on any other way to it.
+    const bool looksRight = extraction.range > 0 || !m_frame.isValid() || m_reader.looksAsEver();
+    return m_frame.isValid() && looksRight && m_reader.isAtLanding() &&
+           m_reader.landedOnKeyFrame() &&
            std::abs(extraction.distanceOf(m_frame.timestamp())) <= extraction.range;
 }
 

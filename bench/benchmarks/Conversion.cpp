@@ -16,16 +16,17 @@ QString stillPath(const std::string& name)
     return mediaPath(QString::fromStdString(name + ".nut"));
 }
 
-void toImage(benchmark::State& state, const std::string& still)
+/// Conversion of a frame of a video, to its own size for an empty one.
+void toImage(benchmark::State& state, const QString& video, qint64 position, const QSize& size)
 {
-    FrameSource source(stillPath(still));
-    const QtAV::VideoFrame frame = source.frameAt(0);
+    FrameSource source(video, 0);
+    const QtAV::VideoFrame frame = source.frameAt(position);
     if (!frame.isValid()) {
         state.SkipWithError(qPrintable(source.error()));
         return;
     }
     for ([[maybe_unused]] auto _ : state) {
-        QImage image = frame.toImage(QImage::Format_ARGB32, QSize(), QRectF());
+        QImage image = frame.toImage(QImage::Format_ARGB32, size, QRectF());
         benchmark::DoNotOptimize(image.constBits());
     }
 }
@@ -55,6 +56,28 @@ void add(const std::string& name, Function function)
         ->UseRealTime();
 }
 
+/// High dynamic range, at its own size and at that of a window.
+void registerHdr(const std::string& size)
+{
+    constexpr QSize window(1280, 720);
+    for (const char* const transfer : {"smpte2084", "arib-std-b67"}) {
+        const std::string still = size + '_' + transfer;
+        const QString video = mediaPath(QString::fromStdString(still + ".mkv"));
+        add("ToImage/" + still,
+            [video](benchmark::State& state) { toImage(state, video, 0, QSize()); });
+        add("ToImageOfWindow/" + still,
+            [video, window](benchmark::State& state) { toImage(state, video, 0, window); });
+    }
+}
+
+/// A picture that combs, made whole of those around it.
+void registerInterlaced()
+{
+    const QString video = mediaPath(QStringLiteral("1080i_mpeg2.ts"));
+    add("ToImage/1080i_deinterlaced",
+        [video](benchmark::State& state) { toImage(state, video, 1000, QSize()); });
+}
+
 } // namespace
 
 void registerConversion()
@@ -62,7 +85,8 @@ void registerConversion()
     for (const char* const size : {"1080p", "2160p"}) {
         for (const char* const format : {"yuv420p", "nv12", "yuv420p10le"}) {
             const std::string still = std::string(size) + '_' + format;
-            add("ToImage/" + still, [still](benchmark::State& state) { toImage(state, still); });
+            add("ToImage/" + still,
+                [still](benchmark::State& state) { toImage(state, stillPath(still), 0, QSize()); });
             add("BareSwsScale/" + still, [still](benchmark::State& state) {
                 bareConversion(state, still, ScalerFlags::Default);
             });
@@ -70,7 +94,9 @@ void registerConversion()
                 bareConversion(state, still, ScalerFlags::Exact);
             });
         }
+        registerHdr(size);
     }
+    registerInterlaced();
 }
 
 } // namespace bench

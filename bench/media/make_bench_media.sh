@@ -109,7 +109,30 @@ still() {
     publish "$name"
 }
 
+# hdr_still VIDEO TRANSFER NAME: the same in ten bits, tagged as high dynamic range.
+hdr_still() {
+    local video=$1 transfer=$2 name=$3
+    missing "$name" || return 0
+    "${ffmpeg[@]}" -ss 5 -i "$folder/$video" -map 0:v -frames:v 1 -pix_fmt yuv420p10le \
+        -vf "setparams=colorspace=bt2020nc:color_primaries=bt2020:color_trc=$transfer:range=tv" \
+        -colorspace bt2020nc -color_primaries bt2020 -color_trc "$transfer" -color_range tv \
+        -c:v ffv1 "$work/$name"
+    publish "$name"
+}
+
+if missing 1080i_mpeg2.ts; then
+    # Fields of 50 moments a second, as broadcast has them.
+    "${ffmpeg[@]}" -filter_complex "$(scene 1920 1080),setpts=PTS/2,fps=50,tinterlace=interleave_top,fieldorder=tff[v]" \
+        -map '[v]' -c:v mpeg2video -flags +ilme+ildct -b:v 20M -maxrate 25M -bufsize 8M -g 12 -bf 2 \
+        -t 4 "$work/1080i_mpeg2.ts"
+    publish 1080i_mpeg2.ts
+fi
+
 for format in yuv420p nv12 yuv420p10le; do
     still 1080p_h264_gop250.mp4 "$format" "1080p_$format.nut"
     still 2160p_hevc_gop120.mp4 "$format" "2160p_$format.nut"
+done
+for transfer in smpte2084 arib-std-b67; do
+    hdr_still 1080p_h264_gop250.mp4 "$transfer" "1080p_$transfer.mkv"
+    hdr_still 2160p_hevc_gop120.mp4 "$transfer" "2160p_$transfer.mkv"
 done

@@ -94,11 +94,12 @@ std::optional<FrameResult> BackwardFill::walkOn(const IsCancelled& isCancelled)
         m_onFrame();
     if (isFrame && step.frame.timestamp() < m_pass->target) {
         m_pass->previous = step.frame;
+        m_pass->isPreviousAsEver = m_reader.looksAsEver();
         return std::nullopt;
     }
     const bool isComplete =
         isFrame ? m_reader.predecessor().has_value() : !m_reader.skippedSinceLast();
-    if (m_pass->previous.isValid() && isComplete)
+    if (m_pass->previous.isValid() && m_pass->isPreviousAsEver && isComplete)
         return end({FrameAnswer::Frame, m_pass->previous});
     const bool isAtStart = m_pass->stepBackMs >= toMilliseconds(m_pass->target);
     const bool isFirst = isFrame && m_reader.isAtFirstOfVideo();

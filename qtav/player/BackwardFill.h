@@ -84,7 +84,8 @@ private:
         std::optional<double> cameFrom = {};
         qint64 completeFrom = 0;
         qint64 stepBackMs = 0;
-        VideoFrame previous = {}; ///< the last frame before the target
+        VideoFrame previous = {};      ///< the last frame before the target
+        bool isPreviousAsEver = false; ///< see FrameReader
     };
 
     void land();

@@ -122,7 +122,7 @@ void FrameSource::keep()
         m_cache.setFirst(time);
     if (predecessor)
         m_longestGapMs = std::max(m_longestGapMs, toMilliseconds(time - *predecessor));
-    if (toMilliseconds(time) >= m_reader.completeFrom())
+    if (toMilliseconds(time) >= m_reader.completeFrom() && m_reader.looksAsEver())
         m_cache.insert(frame, predecessor);
 }
 

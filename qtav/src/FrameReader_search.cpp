@@ -19,9 +19,7 @@ bool FrameReader::isCertain() const
     return m_isInSequence || m_isAtFirst || (m_landing && *m_last <= *m_landing);
 }
 
-/// True unless the picture before last() is wanted and not known though there is one. Then the same
-/// frame would not look the same on each way to it.
-bool FrameReader::hasPredecessor() const
+bool FrameReader::looksAsEver() const
 {
     return m_predecessor || m_isAtFirst || !wantsNeighbours(m_lastFrame);
 }
@@ -29,7 +27,7 @@ bool FrameReader::hasPredecessor() const
 FrameReader::Way FrameReader::walk(const Search& search, const IsCancelled& isCancelled)
 {
     if (m_last && search.isReached(m_lastFrame))
-        return {{FrameAnswer::Frame, m_lastFrame}, isCertain() && hasPredecessor()};
+        return {{FrameAnswer::Frame, m_lastFrame}, isCertain() && looksAsEver()};
     for (;;) {
         FrameResult step = next(isCancelled);
         if (step.answer == FrameAnswer::Failed && search.damage == Damage::Skip && canGoOn())
@@ -39,7 +37,7 @@ FrameReader::Way FrameReader::walk(const Search& search, const IsCancelled& isCa
         if (search.onFrame)
             search.onFrame(step.frame);
         if (search.isReached(step.frame))
-            return {std::move(step), isCertain() && hasPredecessor()};
+            return {std::move(step), isCertain() && looksAsEver()};
     }
 }
 
@@ -69,26 +67,34 @@ FrameResult FrameReader::findFrom(Search search, const IsCancelled& isCancelled)
         setCompleteFrom(search.completeFrom);
         Way way = walk(search, isCancelled);
         const bool isEnd = way.result.answer == FrameAnswer::End;
-        if (isEnd && m_last)
-            return lastOfVideo(search, isCancelled);
-        const bool isNothing = isEnd && landing == 0 && search.completeFrom <= 0;
-        if (isNothing || (!isEnd && way.isCertain))
+        const bool isAll = landing == 0 && search.completeFrom <= 0;
+        if (isEnd && m_last) {
+            if (isAll || isWholeLast())
+                return {FrameAnswer::Frame, m_lastFrame};
+            search.ms = std::min(search.ms, toMilliseconds(*m_last));
+        } else if (isEnd ? isAll : way.isCertain) {
             return std::move(way.result);
+        }
         if (search.completeFrom <= 0)
             stepBackMs = std::max(SmallestStepBackMs, 2 * stepBackMs);
         search.completeFrom = 0;
     }
 }
 
+/// Whether last() is the video's last frame and looks as ever, once the reader is at the end.
+bool FrameReader::isWholeLast() const
+{
+    return !skippedSinceLast() && looksAsEver();
+}
+
 /// The video's last frame, once the reader has come to the end.
 FrameResult FrameReader::lastOfVideo(const Search& search, const IsCancelled& isCancelled)
 {
-    if (!skippedSinceLast())
+    if (isWholeLast())
         return {FrameAnswer::Frame, m_lastFrame};
     Search complete = search;
     complete.ms = toMilliseconds(*m_last);
     complete.completeFrom = 0;
-    complete.isReached = [](const VideoFrame&) { return false; };
     return findFrom(complete, isCancelled);
 }
 

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void help_goesToStandardOutput();
     void program_needsNoLargeLibrary_untilThereIsWork();
     void module_needsNoWidgets();
+    void run_loadsNoPluginsForNothing();
     void run_complainsOfNothing_inABareSession();
     void manualPage_isWritten();
     void bash_completesOptionsAndValues_data();
@@ -68,6 +69,24 @@ void StillsStartTest::module_needsNoWidgets()
     QVERIFY(libraries.contains("Qt5Core"));
     QVERIFY(!libraries.contains("Qt5Widgets"));
     QVERIFY(!libraries.contains("Qt5Multimedia"));
+}
+
+void StillsStartTest::run_loadsNoPluginsForNothing()
+{
+    const testsupport::TestDir dir;
+    QProcessEnvironment environment = stillsprogram::environment();
+    environment.insert(QStringLiteral("LD_DEBUG"), QStringLiteral("files"));
+    const ProgramResult result =
+        runProgram(stillsprogram::program(),
+                   {QStringLiteral("--count=1"), QStringLiteral("-o"), dir.path(),
+                    testsupport::samplePath(QStringLiteral("h264_bframes.mp4"))},
+                   60000, environment);
+    QVERIFY(result.succeeded());
+    QVERIFY(result.standardError.contains("libQt5Gui"));
+    // Libraries of the plugins for vector graphics, and of those for TIFF.
+    for (const char* const name : {"Qt5Widgets", "Qt5Svg", "libqtiff"}) {
+        QVERIFY2(!result.standardError.contains(name), name);
+    }
 }
 
 void StillsStartTest::run_complainsOfNothing_inABareSession()

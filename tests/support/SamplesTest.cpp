@@ -33,12 +33,13 @@ QList<QImage> decodedByFfmpeg(const Sample& sample)
     const bool sideways = sample.has(Trait::Sideways);
     const QSize size = sideways ? sample.codedSize.transposed() : sample.codedSize;
     const QStringList arguments{
-        QStringLiteral("-v"),    QStringLiteral("error"),  QStringLiteral("-nostdin"),
-        QStringLiteral("-i"),    samplePath(sample.file),  QStringLiteral("-map"),
-        QStringLiteral("0:V:0"), QStringLiteral("-vsync"), QStringLiteral("passthrough"),
-        QStringLiteral("-vf"),   shownPart(sample),        QStringLiteral("-pix_fmt"),
-        QStringLiteral("gray"),  QStringLiteral("-f"),     QStringLiteral("rawvideo"),
-        QStringLiteral("-")};
+        QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-nostdin"),
+        // Else it crops the left to a multiple of what its memory likes.
+        QStringLiteral("-flags"), QStringLiteral("unaligned"), QStringLiteral("-i"),
+        samplePath(sample.file), QStringLiteral("-map"), QStringLiteral("0:V:0"),
+        QStringLiteral("-vsync"), QStringLiteral("passthrough"), QStringLiteral("-vf"),
+        shownPart(sample), QStringLiteral("-pix_fmt"), QStringLiteral("gray"), QStringLiteral("-f"),
+        QStringLiteral("rawvideo"), QStringLiteral("-")};
     const auto result = runProgram(QStringLiteral("ffmpeg"), arguments);
     if (!result.succeeded() && !sample.has(Trait::Damaged))
         qWarning("%s", result.standardError.constData());

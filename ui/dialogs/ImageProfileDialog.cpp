@@ -187,7 +187,7 @@ void ImageProfileDialog::setupDeinterlacingComboBox()
 void ImageProfileDialog::setupHdrComboBox()
 {
     m_ui->hdrComboBox->addItem(tr("Tone-Mapped"), ImageProfile::ToneMapped);
-    m_ui->hdrComboBox->addItem(tr("As Stored, in PNG and TIFF"), ImageProfile::HdrAsStored);
+    m_ui->hdrComboBox->addItem(tr("As Stored"), ImageProfile::HdrAsStored);
 }
 
 void ImageProfileDialog::connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max)

@@ -136,6 +136,11 @@ public:
     /// No frame comes before last().
     bool isAtFirstOfVideo() const { return m_isAtFirst; }
 
+    /// False where a whole picture would be made of last() and the one before it, and that is not
+    /// known though there is one: then it would look another way than by a search. Only once a
+    /// frame has come.
+    [[nodiscard]] bool looksAsEver() const;
+
     /// last() is the very picture of the packet where the last seek landed.
     bool isAtLanding() const { return m_isAtLanding; }
 
@@ -193,7 +198,7 @@ private:
     [[nodiscard]] FrameResult findFrom(Search search, const IsCancelled& isCancelled);
     [[nodiscard]] FrameResult lastOfVideo(const Search& search, const IsCancelled& isCancelled);
     [[nodiscard]] bool isCertain() const;
-    [[nodiscard]] bool hasPredecessor() const;
+    [[nodiscard]] bool isWholeLast() const;
     [[nodiscard]] bool wantsPredecessors() const;
     [[nodiscard]] FrameAnswer lost(const IsCancelled& isCancelled);
     QString failureText() const;

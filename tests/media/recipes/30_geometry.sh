@@ -26,12 +26,18 @@ sample anamorphic_4_3.mkv encode_filtered 240x240 25 25 setsar=4/3 "${X264[@]}"
 # What lies beside the picture is stored with it, and not to be shown.
 readonly BESIDE="pad=352:256:20:8:red"
 
-sample h264_cropped.mp4 encode_filtered 320x240 25 25 "$BESIDE" "${X264[@]}" \
-    -x264-params keyint=10:bframes=2 \
-    -bsf:v h264_metadata=crop_left=20:crop_right=12:crop_top=8:crop_bottom=8
-sample hevc_cropped.mp4 encode_filtered 320x240 25 25 "$BESIDE" "${X265[@]}" -tag:v hvc1 \
-    -x265-params "$X265_PARAMS:keyint=10" \
-    -bsf:v hevc_metadata=crop_left=20:crop_right=12:crop_top=8:crop_bottom=8
+# cropped FILE FILTER ARG…: the stream says so, on all four sides, and the container states the size
+# that is left, as an encoder that crops would write it.
+cropped() {
+    local file=$1 filter=$2 whole=${1%.*}.mkv
+    shift 2
+    encode_filtered "$whole" 320x240 25 25 "$BESIDE" "$@" \
+        -bsf:v "$filter=crop_left=20:crop_right=12:crop_top=8:crop_bottom=8"
+    ff -flags unaligned -i "$whole" -c copy "${EXACT[@]}" "$file"
+}
+sample h264_cropped.mp4 cropped h264_metadata "${X264[@]}" -x264-params keyint=10:bframes=2
+sample hevc_cropped.mp4 cropped hevc_metadata "${X265[@]}" -tag:v hvc1 \
+    -x265-params "$X265_PARAMS:keyint=10"
 
 # clean_aperture FILE: the file says so, as cameras and capture cards write it: 320x240, its middle 4
 # to the right of the stored one's.

@@ -131,9 +131,9 @@ void ImageProfileDialogTest::form_hasItsTexts()
     for (const QGroupBox* const group : groups)
         titles += group->title();
     titles.sort();
-    QCOMPARE(titles,
-             (QStringList{textOf("File Settings"), textOf("Image Adjustments"),
-                          textOf("Image Size"), textOf("Select Profile"), textOf("Watermark")}));
+    QCOMPARE(titles, (QStringList{textOf("File Settings"), textOf("Image Adjustments"),
+                                  textOf("Image Size"), textOf("Select Profile"), textOf("Video"),
+                                  textOf("Watermark")}));
 
     const QList<QPair<const char*, const char*>> buttons{
         {"sameSizeAsVideoCheckbox", "Same Size as Video"},
@@ -215,14 +215,15 @@ void ImageProfileDialogTest::everyLabel_belongsToItsInput()
 {
     const TestProfiles profiles;
     const ImageProfileDialog dialog(nullptr);
-    const QStringList texts{textOf("Image Width:"), textOf("Image Height:"), textOf("Filter:"),
-                            textOf("Brightness:"),  textOf("Contrast:"),     textOf("Deinterlace:"),
-                            textOf("HDR:"),         textOf("JPEG Quality:"), textOf("Metadata:")};
+    const QStringList texts{
+        textOf("Image Width:"), textOf("Image Height:"), textOf("Filter:"),
+        textOf("Deinterlace:"), textOf("HDR:"),          textOf("JPEG Quality:"),
+        textOf("Metadata:"),    textOf("Brightness:"),   textOf("Contrast:")};
     const QStringList inputs{textOf("imageWidthLineEdit"),   textOf("imageHeightLineEdit"),
-                             textOf("resizeFilterComboBox"), textOf("brightnessSlider"),
-                             textOf("contrastSlider"),       textOf("deinterlacingComboBox"),
+                             textOf("resizeFilterComboBox"), textOf("deinterlacingComboBox"),
                              textOf("hdrComboBox"),          textOf("jpegQualitySpinBox"),
-                             textOf("metadataComboBox")};
+                             textOf("metadataComboBox"),     textOf("brightnessSlider"),
+                             textOf("contrastSlider")};
     QStringList found;
     const auto labels = dialog.findChildren<QLabel*>();
     for (const QLabel* const label : labels) {
@@ -240,15 +241,15 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
     ImageProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
     QVERIFY(showActive(dialog));
-    const QStringList after{textOf("brightnessSlider"),
-                            textOf("brightnessSpinBox"),
-                            textOf("contrastSlider"),
-                            textOf("contrastSpinBox"),
-                            textOf("deinterlacingComboBox"),
+    const QStringList after{textOf("deinterlacingComboBox"),
                             textOf("hdrComboBox"),
                             textOf("jpegQualitySpinBox"),
                             textOf("metadataComboBox"),
                             textOf("deepColoursCheckbox"),
+                            textOf("brightnessSlider"),
+                            textOf("brightnessSpinBox"),
+                            textOf("contrastSlider"),
+                            textOf("contrastSpinBox"),
                             textOf("watermarkProfileComboBox"),
                             textOf("watermarkProfileEditButton"),
                             textOf("resetToDefaultsButton"),

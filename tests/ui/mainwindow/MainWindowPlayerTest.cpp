@@ -58,6 +58,15 @@ bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
     return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
 }
 
+/// Reads the profiles anew, as another start would.
+void reloadProfiles(ProfileManager& manager, OpenWindow& window)
+{
+    const QList<BaseProfile*> old = manager.profiles();
+    manager.loadProfilesFromFile();
+    window->loadImageProfileComboBox();
+    qDeleteAll(old);
+}
+
 } // namespace
 
 void MainWindowPlayerTest::playPause_goesBothWays()
@@ -156,8 +165,7 @@ void MainWindowPlayerTest::deinterlacing_isThatOfTheSelectedProfile()
     QVERIFY(off.isChecked() && !automatic.isChecked());
     QCOMPARE(profile->deinterlacing(), QStringLiteral("off"));
     QTRY_VERIFY(window.player().displayedFrame().toImage() != whole);
-    manager.loadProfilesFromFile();
-    window->loadImageProfileComboBox();
+    reloadProfiles(manager, window);
     QVERIFY(off.isChecked());
 
     automatic.trigger();
@@ -176,8 +184,7 @@ void MainWindowPlayerTest::hdr_isThatOfTheSelectedProfile()
     asStored.trigger();
     QVERIFY(asStored.isChecked() && !toneMapped.isChecked());
     QCOMPARE(profile->hdr(), int(ImageProfile::HdrAsStored));
-    manager.loadProfilesFromFile();
-    window->loadImageProfileComboBox();
+    reloadProfiles(manager, window);
     QVERIFY(asStored.isChecked());
     toneMapped.trigger();
     QVERIFY(toneMapped.isChecked() && !asStored.isChecked());
