@@ -21,8 +21,10 @@ constexpr Format formats[] = {
     {"webp", true, false, false}, {"avif", true, true, false},  {"jxl", true, true, false},
 };
 
+using Property = decltype(&Format::hasQuality);
+
 /// Whether it is a known format of which that is true.
-bool is(const QString& suffix, bool Format::*property)
+bool is(const QString& suffix, Property property)
 {
     const QString lower = suffix.toLower();
     return std::any_of(std::begin(formats), std::end(formats), [&](const Format& format) {
