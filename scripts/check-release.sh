@@ -40,17 +40,18 @@ fields() {
     awk -v name="$1:" '$1 == name { on = 1; next } /^[^ ]/ { on = 0 } on { print $1 }' "$control" |
         tr -d ,
 }
-for package in $(packages_in run); do
+listed=$(packages_in run)
+for package in $listed; do
     case $package in
     g++) continue ;;
     *-dev | cmake | ninja-build | pkgconf) field=Build-Depends ;;
     *) field=Depends ;;
     esac
-    fields "$field" | grep -qxF -- "$package" ||
+    grep -qxF -- "$package" <(fields "$field") ||
         complain "$control: no $field on $package, which packages.txt lists"
 done
 for package in $(fields Build-Depends); do
-    [[ $package == debhelper-compat ]] || packages_in run | grep -qxF -- "$package" ||
+    [[ $package == debhelper-compat ]] || grep -qxF -- "$package" <<<"$listed" ||
         complain "packages.txt: no $package, which $control builds with"
 done
 exit "$status"
