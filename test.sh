@@ -45,4 +45,4 @@ mkdir -p "$suite"
 } >"$suite/CTestTestfile.cmake"
 release_build_folder
 ctest --test-dir "$suite" --output-on-failure --no-tests=error --timeout 900 \
-    -j $(($(nproc) * 2)) # many of them wait more than they compute
+    -j $(($(nproc) * 3)) # many of them wait more than they compute

@@ -4,6 +4,7 @@
 #include "batch/FreePaths.h"
 #include "batch/SamplingPlan.h"
 #include "batch/SeriesSaver.h"
+#include "imaging/FramePicture.h"
 #include "imaging/Rendering.h"
 #include "profiles/FileNameProfile.h"
 #include "video/FrameGrabber.h"
@@ -169,6 +170,7 @@ void BatchWorker::runInternal()
     const SamplingPlan plan = SamplingPlan::make(*m_config, duration);
     qDebug("skipAmount: %lld", plan.step);
     m_frameCounter = 1;
+    m_hasAnnouncedBaseLayer = false;
     m_stepsTaken = 0;
     m_stepCount = qint64(plan.expectedImages) * ticksPerFrame;
     if (isInterruptionRequested()) {
@@ -215,6 +217,9 @@ SeriesSaver::Listener BatchWorker::Series::listenerOf(BatchWorker& worker)
         worker.tickProgress();
         worker.tickProgress();
         ++worker.m_frameCounter;
+    };
+    listener.showing = [&worker](QtAV::BaseLayer layer) {
+        worker.tell([&worker, layer] { worker.announceBaseLayer(layer); });
     };
     listener.saving = [&worker](const QString& path) {
         worker.tell([&worker, path] { worker.announceSaving(path); });
@@ -343,19 +348,26 @@ void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
         extractorError(tr("no picture found at position %1").arg(position));
         return;
     }
+    announceBaseLayer(frame.baseLayer());
     const QString path = m_paths->first(m_config->intervalType() == BatchWorkerConfig::SingleShot);
     announceSaving(path);
     const ImageRecipe recipe = forType(recipes::of(*m_config->imageProfile()),
                                        m_config->filenameProfile()->fileOutputType());
-    const QImage::Format format =
-        recipe.keepsDeepColours ? frame.deepImageFormat() : frame.imageFormat();
-    imaging::Rendering made = imaging::render(frame.toImage(format), recipe);
+    imaging::Rendering made = imaging::render(imaging::pictureOf(frame, recipe), recipe);
     const PictureSource source =
         m_source ? m_source->at(frame.timestamp(), frame.displaySize()) : PictureSource();
     if (made.image.isNull()) {
         reportUnmadeImage(path, position, made.error);
     } else if (saveImage(path, made.image, recipe, source)) {
         Q_EMIT imageReady(this, made.image);
+    }
+}
+
+/// Once a job, unless it is the whole.
+void BatchWorker::announceBaseLayer(QtAV::BaseLayer layer)
+{
+    if (layer != QtAV::BaseLayer::Whole && !std::exchange(m_hasAnnouncedBaseLayer, true)) {
+        Q_EMIT statusUpdate(this, QtAV::textOf(layer), Normal);
     }
 }
 

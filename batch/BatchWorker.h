@@ -96,6 +96,7 @@ private:
     void passOn(const QtAV::VideoFrame& frame);
 
     void announceSaving(const QString& path);
+    void announceBaseLayer(QtAV::BaseLayer layer);
     [[nodiscard]] bool saveImage(QString path, const QImage& image, const ImageRecipe& recipe,
                                  const PictureSource& source);
     void reportUnsavedImage(const QString& path);
@@ -114,6 +115,7 @@ private:
     std::deque<std::function<void()>> m_news;
     /// Number of the frame to request next.
     int m_frameCounter = 0;
+    bool m_hasAnnouncedBaseLayer = false;
     /// Of the images of a job without exact frames. Profiles that change meanwhile count from the
     /// next image on.
     std::unique_ptr<FreePaths> m_paths;

@@ -22,6 +22,7 @@ void SeriesSaver::take(SeriesPicture picture)
         m_listener.failed(picture.error);
         return;
     }
+    m_listener.showing(picture.baseLayer);
     QString path = m_paths.first(m_isSingle);
     WriteResult result = WriteResult::AlreadyExists;
     for (;; path = m_paths.next()) {

@@ -19,6 +19,7 @@ public:
     {
         std::function<void(int pictures)> expecting;
         std::function<void()> beforePicture;
+        std::function<void(QtAV::BaseLayer layer)> showing; ///< of each picture that could be made
         std::function<void(const QString& path)> saving;
         std::function<void(const QString& path)> notSaved;
         std::function<void(const QImage& image)> saved;

@@ -1,5 +1,6 @@
 #include "imaging/ImageFileWriter.h"
 
+#include "imaging/HdrColours.h"
 #include "imaging/JpegEncoder.h"
 
 #include <QBuffer>
@@ -123,8 +124,12 @@ QByteArray encoded(const QImage& image, const QByteArray& format, int quality)
 {
     const bool keepsChroma = quality >= WholeChromaQuality && JpegEncoder::hasChroma(image);
     const QImage tagged = withColorSpace(image);
-    return isJpeg(format) && keepsChroma ? encodedWithWholeChroma(tagged, quality)
-                                         : encodedByQt(tagged, format, quality);
+    if (isJpeg(format) && keepsChroma) {
+        return encodedWithWholeChroma(tagged, quality);
+    }
+    const QByteArray content = encodedByQt(tagged, format, quality);
+    const auto hdr = HdrColours::of(image);
+    return hdr && format == "png" ? HdrColours::withCodePoints(content, *hdr) : content;
 }
 
 } // namespace

@@ -12,12 +12,13 @@ struct Format
     const char* suffix;
     bool hasQuality;
     bool hasDepth;
+    bool hasHdr;
 };
 
 constexpr Format formats[] = {
-    {"jpg", true, false},  {"jpeg", true, false}, {"png", false, true},
-    {"tif", false, true},  {"tiff", false, true}, {"bmp", false, false},
-    {"webp", true, false}, {"avif", true, true},  {"jxl", true, true},
+    {"jpg", true, false, false},  {"jpeg", true, false, false}, {"png", false, true, true},
+    {"tif", false, true, true},   {"tiff", false, true, true},  {"bmp", false, false, false},
+    {"webp", true, false, false}, {"avif", true, true, false},  {"jxl", true, true, false},
 };
 
 /// Whether it is a known format of which that is true.
@@ -61,4 +62,9 @@ bool ImageFormats::hasQuality(const QString& suffix)
 bool ImageFormats::hasDepth(const QString& suffix)
 {
     return is(suffix, &Format::hasDepth);
+}
+
+bool ImageFormats::hasHdr(const QString& suffix)
+{
+    return is(suffix, &Format::hasHdr);
 }

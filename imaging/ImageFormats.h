@@ -22,4 +22,7 @@ namespace ImageFormats {
 /// Files with this suffix, in capitals or not, can have more than 8 bits a channel.
 [[nodiscard]] bool hasDepth(const QString& suffix);
 
+/// Files with this suffix, in capitals or not, can hold high dynamic range as it is stored.
+[[nodiscard]] bool hasHdr(const QString& suffix);
+
 } // namespace ImageFormats

@@ -46,6 +46,7 @@ PictureMetadata metadataOf(const ImageProfile& profile)
 ImageRecipe forType(ImageRecipe recipe, const QString& type)
 {
     recipe.keepsDeepColours = recipe.keepsDeepColours && ImageFormats::hasDepth(type);
+    recipe.keepsHdr = recipe.keepsHdr && ImageFormats::hasHdr(type);
     return recipe;
 }
 
@@ -64,6 +65,7 @@ ImageRecipe recipes::of(const ImageProfile& profile, const WatermarkProfile* wat
     recipe.jpegQuality = profile.imageQuality();
     recipe.metadata = metadataOf(profile);
     recipe.keepsDeepColours = profile.deepColours();
+    recipe.keepsHdr = profile.hdr() == ImageProfile::HdrAsStored;
     if (watermark == nullptr) {
         watermark = ownWatermark(profile);
     }

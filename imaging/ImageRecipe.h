@@ -75,12 +75,15 @@ struct ImageRecipe
     int jpegQuality = 100;         ///< 0 to 100
     /// Images of 16 bits a channel stay so; else they become images of 8. See forType().
     bool keepsDeepColours = false;
+    /// Pictures of high dynamic range keep their own values, in 16 bits; else they come to sRGB.
+    /// See forType().
+    bool keepsHdr = false;
     std::optional<WatermarkRecipe> watermark = {};
     PictureMetadata metadata = PictureMetadata::WithoutPlace; ///< of its file
 };
 
 /// The recipe as it can be carried out for files of a type, which is a suffix: without deep
-/// colours where these cannot hold them.
+/// colours or high dynamic range where these cannot hold them.
 [[nodiscard]] ImageRecipe forType(ImageRecipe recipe, const QString& type);
 
 /// The recipes that profiles stand for. They look up watermarks and read their pictures, through

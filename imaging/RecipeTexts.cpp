@@ -18,6 +18,7 @@ constexpr int largestOpacity = 255;
 constexpr int largestFont = 2000;
 
 constexpr const char* yes = "True";
+constexpr const char* asStored = "AsStored";
 
 /// In the order of ResizeFilter.
 constexpr std::array<const char*, 4> filterNames{"Area", "Lanczos", "Bicubic", "Nearest"};
@@ -164,6 +165,9 @@ RecipeTexts::Texts RecipeTexts::of(const ImageRecipe& recipe, const QSize& frame
     if (recipe.keepsDeepColours) {
         texts.insert(nameOf("DeepColours"), nameOf(yes));
     }
+    if (recipe.keepsHdr) {
+        texts.insert(nameOf("Hdr"), nameOf(asStored));
+    }
     if (isForced(recipe.deinterlacing)) {
         texts.insert(nameOf("Deinterlacing"), recipe.deinterlacing);
     }
@@ -185,6 +189,7 @@ ImageRecipe RecipeTexts::recipeFrom(const Texts& texts)
         numberFrom(texts, "Brightness", -largestAdjustment, largestAdjustment, recipe.brightness);
     recipe.jpegQuality = numberFrom(texts, "Quality", 0, highestQuality, recipe.jpegQuality);
     recipe.keepsDeepColours = isYes(texts, "DeepColours");
+    recipe.keepsHdr = texts.value(nameOf("Hdr")) == nameOf(asStored);
     const QString deinterlacing = texts.value(nameOf("Deinterlacing"));
     if (isForced(deinterlacing)) {
         recipe.deinterlacing = deinterlacing;

@@ -1,11 +1,13 @@
 #include "imaging/Rendering.h"
 
+#include "imaging/HdrColours.h"
 #include "imaging/ImageFileWriter.h"
 #include "imaging/ImageFormats.h"
 #include "imaging/Metadata.h"
 #include "imaging/QtOcv.h"
 #include "imaging/Resizing.h"
 
+#include <QColorSpace>
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFileInfo>
@@ -55,7 +57,7 @@ QImage withDepth(QImage image, const ImageRecipe& recipe)
         return image;
     }
     const bool hasAlpha = image.hasAlphaChannel();
-    if (recipe.keepsDeepColours) {
+    if (recipe.keepsDeepColours || HdrColours::of(image)) {
         return std::move(image).convertToFormat(hasAlpha ? QImage::Format_RGBA64
                                                          : QImage::Format_RGBX64);
     }
@@ -173,8 +175,12 @@ QImage corrected(QImage image, const ImageRecipe& recipe)
     Picture picture = pictureOf(image);
     if (!keepsColours)
         picture.mat = adjusted(picture.mat, recipe.contrast, recipe.brightness);
-    picture.mat = resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio,
-                          recipe.resampling);
+    Resampling resampling = recipe.resampling;
+    // Mixing in proportion to light is made for sRGB's curve.
+    if (HdrColours::of(image))
+        resampling.light = ResizeLight::AsCoded;
+    picture.mat =
+        resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio, resampling);
     return imageOf(picture);
 }
 
@@ -185,7 +191,9 @@ QImage rendered(QImage image, const ImageRecipe& recipe)
     if (result.isNull()) {
         return result;
     }
+    const QColorSpace colorSpace = result.colorSpace();
     result = corrected(std::move(result), recipe);
+    result.setColorSpace(colorSpace);
     result.setDotsPerMeterX(dotsPerMeter);
     result.setDotsPerMeterY(dotsPerMeter);
     result.setDevicePixelRatio(1.0);

@@ -31,7 +31,8 @@ struct Rendering
 ///
 /// An image of 16 bits a channel becomes one of 8, unless the recipe keeps deep colours: then an
 /// opaque one gives Format_RGBX64, whose fourth channel no correction touches, and one with alpha
-/// Format_RGBA64. Brightness means the same as with 8 bits.
+/// Format_RGBA64. Brightness means the same as with 8 bits. What keeps the values of high dynamic
+/// range stays so too, and corrections are applied to these values.
 ///
 /// A null image is a failure, and so is a lack of memory: no exception leaves this function. An
 /// image that is moved in, and of which nothing changes, is not copied.

@@ -1,3 +1,4 @@
+#include "imaging/HdrColours.h"
 #include "imaging/Rendering.h"
 
 #include <QFontMetrics>
@@ -56,6 +57,14 @@ void drawPicture(QImage& image, const WatermarkRecipe& recipe)
     painter.drawImage(QPointF(position), picture);
 }
 
+void draw(QImage& image, const WatermarkRecipe& recipe)
+{
+    if (recipe.kind == WatermarkRecipe::Kind::Text)
+        drawText(image, recipe);
+    else
+        drawPicture(image, recipe);
+}
+
 /// Painting with opacity 0 is left out: on images with alpha it is not without effect, since every
 /// touched pixel goes through premultiplied colours and back.
 bool isVisible(const WatermarkRecipe& recipe)
@@ -72,10 +81,19 @@ QImage imaging::watermarked(const QImage& image, const WatermarkRecipe& recipe)
     QImage result = paintableCopy(image);
     if (result.isNull() || !isVisible(recipe))
         return result;
-    if (recipe.kind == WatermarkRecipe::Kind::Text)
-        drawText(result, recipe);
-    else
-        drawPicture(result, recipe);
+    const auto hdr = HdrColours::of(image);
+    if (!hdr) {
+        draw(result, recipe);
+        return result;
+    }
+    QImage layer(image.size(), QImage::Format_ARGB32_Premultiplied);
+    layer.fill(Qt::transparent);
+    layer.setDotsPerMeterX(image.dotsPerMeterX());
+    layer.setDotsPerMeterY(image.dotsPerMeterY());
+    if (layer.isNull())
+        return layer;
+    draw(layer, recipe);
+    HdrColours::drawOver(result, layer, *hdr);
     return result;
 }
 

@@ -40,7 +40,16 @@ class ImageProfile : public BaseProfile
     /// for one that does, "off" leaves all as they are.
     Q_PROPERTY(QString deinterlacing READ deinterlacing WRITE setDeinterlacing)
 
+    /// What becomes of high dynamic range: one of Hdr.
+    Q_PROPERTY(int hdr READ hdr WRITE setHdr)
+
 public:
+    /// The values of hdr(); any other one means ToneMapped.
+    enum Hdr {
+        ToneMapped = 0,  ///< sRGB, as on the screen
+        HdrAsStored = 1, ///< PNG and TIFF files keep the video's values, in 16 bits
+    };
+
     /// The values of metadata(); any other one means MetadataWithoutPlace.
     enum Metadata {
         MetadataAll = 0,          ///< also where the video was recorded and where it lies
@@ -74,6 +83,9 @@ public:
 
     QString deinterlacing() const { return m_deinterlacing; }
     void setDeinterlacing(const QString& deinterlacing) { m_deinterlacing = deinterlacing; }
+
+    int hdr() const { return m_hdr; }
+    void setHdr(int hdr) { m_hdr = hdr; }
 
     int imageContrast() const { return m_imageContrast; }
     void setImageContrast(int contrast) { m_imageContrast = contrast; }
@@ -113,6 +125,7 @@ private:
     int m_imageHeight = 480;
     bool m_maintainAspectRatio = true;
     QString m_deinterlacing = QStringLiteral("auto");
+    int m_hdr = ToneMapped;
     int m_imageContrast = 0;
     int m_imageBrightness = 0;
     int m_imageQuality = 90;

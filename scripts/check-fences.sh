@@ -78,7 +78,7 @@ found=$(includes_of '([^/"]+\.h"|\.\.?/)' "${FOLDERS[@]}" tests bench | grep -vE
 
 # The benchmarks call the bare library for comparison; its tests let it see other machines.
 fence FFmpeg 'lib(av|sw)[a-z]*/' qtav tests/qtav bench/bare
-fence QtAV 'QtAV' qtav video series batch ui app stills tests bench
+fence QtAV 'QtAV' qtav video imaging series batch ui app stills tests bench
 fence OpenCV 'opencv2/' imaging tests/imaging bench
 fence Exiv2 'exiv2/' imaging tests/imaging
 

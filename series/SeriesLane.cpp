@@ -1,5 +1,6 @@
 #include "series/SeriesLane.h"
 
+#include "imaging/FramePicture.h"
 #include "imaging/Rendering.h"
 #include "series/SceneDetector.h"
 
@@ -46,9 +47,7 @@ void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::Video
                  const PictureSource& source)
 {
     const ImageRecipe recipe = forType(job.recipe, job.type);
-    const QImage::Format format =
-        recipe.keepsDeepColours ? frame.deepImageFormat() : frame.imageFormat();
-    const imaging::Rendering made = imaging::render(frame.toImage(format), recipe);
+    const imaging::Rendering made = imaging::render(imaging::pictureOf(frame, recipe), recipe);
     picture.size = made.image.size();
     picture.error = made.error;
     if (made.image.isNull()) {
@@ -357,6 +356,7 @@ bool SeriesLane::deliver(const Task& task, Delivery delivery, const FrameResult&
     SeriesPicture& picture = delivery.picture;
     if (found.answer == FrameAnswer::Frame) {
         delivery.seconds = found.frame.timestamp();
+        picture.baseLayer = found.frame.baseLayer();
         if (std::exchange(m_lastSeconds, delivery.seconds) == delivery.seconds) {
             return true;
         }

@@ -50,7 +50,8 @@ struct SeriesPicture
     QByteArray content = {};            ///< the encoded picture; empty after an error
     QImage image = {};                  ///< null unless asked for
     QImage thumbnail = {};              ///< null unless asked for
-    QString error = {};                 ///< for people; empty after a success
+    QtAV::BaseLayer baseLayer = QtAV::BaseLayer::Whole; ///< what the frame is
+    QString error = {};                                 ///< for people; empty after a success
 };
 
 /// Takes what a series gives. All is given in order: the videos in that of the jobs, their pictures

@@ -207,6 +207,10 @@ void Reader::readPictures()
              deinterlacingNames());
     }
     m_options.deinterlacing = m_typed.deinterlace;
+    if (m_typed.hdr && !isOneOf(*m_typed.hdr, hdrNames())) {
+        fail("--hdr: " + quoted(*m_typed.hdr) + " is none of " + hdrNames());
+    }
+    m_options.keepsHdr = m_typed.hdr ? std::make_optional(*m_typed.hdr == "stored") : std::nullopt;
     m_options.profile = m_typed.profile;
     m_options.watermark = m_typed.watermark;
     allowOne({{"--like", m_typed.like.has_value()}, {"--profile", m_typed.profile.has_value()}});

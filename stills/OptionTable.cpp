@@ -6,6 +6,7 @@ namespace {
 
 using T = TypedOptions;
 
+constexpr const char* hdrs = "tone-mapped stored";
 constexpr const char* deinterlacings = "auto on off";
 constexpr const char* formats = "jpg jpeg png bmp tif tiff webp avif jxl";
 
@@ -83,6 +84,11 @@ std::vector<OptionEntry> pictureOptions()
          "picture for one that does, off leaves all as they are stored. The default is auto, or "
          "what --profile says.",
          nullptr, Completes::Words, deinterlacings},
+        {section, "--hdr", "HOW", &T::hdr,
+         "What becomes of high dynamic range: tone-mapped brings it to sRGB, as the screen shows "
+         "it; stored keeps the video's own values in PNG and TIFF pictures of 16 bits a channel, "
+         "for grading. The default is tone-mapped, or what --profile says.",
+         nullptr, Completes::Words, hdrs},
         {section, "-p,--profile", "NAME", &T::profile,
          "Size, brightness, contrast, quality and watermark of an image profile that was made in "
          "the window. Other options change what they name.",
@@ -289,6 +295,11 @@ const char* headingOf(Section section)
         break;
     }
     return "";
+}
+
+const char* hdrNames()
+{
+    return hdrs;
 }
 
 const char* deinterlacingNames()

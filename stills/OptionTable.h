@@ -32,6 +32,7 @@ struct TypedOptions
     bool deepColours = false;
     Value quality;
     Value deinterlace;
+    Value hdr;
     Value profile;
     Value watermark;
     Value like;
@@ -118,6 +119,9 @@ struct OptionEntry
 
 /// The heading of a section, such as "Which frames".
 [[nodiscard]] const char* headingOf(Section section);
+
+/// The words that --hdr takes, separated by spaces.
+[[nodiscard]] const char* hdrNames();
 
 /// The words that --deinterlace takes, separated by spaces.
 [[nodiscard]] const char* deinterlacingNames();

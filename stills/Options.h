@@ -67,6 +67,7 @@ struct Options
     bool keepsDeepColours = false;
     std::optional<int> quality;               ///< 0 to 100
     std::optional<std::string> deinterlacing; ///< auto, on or off
+    std::optional<bool> keepsHdr;             ///< in PNG and TIFF
     std::optional<std::string> profile;
     std::optional<std::string> nameProfile;
     std::optional<std::string> watermark;

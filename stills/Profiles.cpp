@@ -133,6 +133,13 @@ Result<Look> lookOf(const Options& options, const imaging::StillOrigin* like)
     if (options.deinterlacing) {
         look.recipe.deinterlacing = pathOf(*options.deinterlacing);
     }
+    if (options.keepsHdr) {
+        look.recipe.keepsHdr = *options.keepsHdr;
+    }
+    if (options.keepsHdr.value_or(false) && !ImageFormats::hasHdr(look.suffix)) {
+        return Result<Look>::failure("--hdr stored needs pictures that can hold it; choose "
+                                     "--format png or tiff");
+    }
     if (options.quality) {
         look.recipe.jpegQuality = *options.quality;
     }

@@ -96,6 +96,7 @@ void Report::beginVideo(int video, const QString& path)
 {
     m_path = path;
     m_video = Tally();
+    m_hasNote = false;
     m_durationMs.reset();
     m_state.video = video + 1;
     m_state.name = QFileInfo(path).fileName();
@@ -168,6 +169,15 @@ void Report::addError(std::optional<qint64> askedMs, const QString& message)
     ++m_video.failed;
     ++m_total.failed;
     writeError(m_path, askedMs, message);
+}
+
+void Report::noteOnce(const QString& text)
+{
+    if (text.isEmpty() || m_hasNote || m_style.isQuiet) {
+        return;
+    }
+    m_hasNote = true;
+    writeLine("stills: " + oneLine(m_path + QStringLiteral(": ") + text));
 }
 
 void Report::addProblem(const QString& path, const QString& message)

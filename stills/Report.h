@@ -72,6 +72,9 @@ public:
     /// What is known of it once it is open.
     void describeVideo(std::optional<int> expected, qint64 durationMs);
     void addPicture(const Picture& picture);
+    /// What people may want to know of the video at work, once for each, in a line like an error's.
+    /// Nothing for an empty text.
+    void noteOnce(const QString& text);
     /// Pictures that exist already.
     void addSkipped(int count);
     void addSheet(const QString& path, QSize size, int pictures);
@@ -104,6 +107,7 @@ private:
     Tally m_total;
     Tally m_video;
     QString m_path;
+    bool m_hasNote = false;
     std::optional<qint64> m_durationMs;
     ProgressState m_state;
     QElapsedTimer m_clock;

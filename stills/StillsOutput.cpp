@@ -143,6 +143,7 @@ void StillsOutput::take(SeriesPicture picture)
         return;
     }
     m_pictureSize = picture.size;
+    m_report.noteOnce(QtAV::textOf(picture.baseLayer));
     if (m_sheet && !m_sheet->add(picture.thumbnail, picture.timeMs.value_or(0))) {
         failVideo(tr("More than %1 pictures have no place on a contact sheet.")
                       .arg(ContactSheet::mostPictures));

@@ -180,7 +180,7 @@ void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
             show(answer.result.frame);
         break;
     case Kind::Captured:
-        capture->deliver(answer.image, answer.seconds);
+        capture->deliver(answer.image, answer.result.frame);
         break;
     }
 }

@@ -211,8 +211,8 @@ void PlaybackEngine::carryOutCapture(Lock& lock)
     lock.lock();
     m_mayPrepare = true;
     Answer result{Answer::Kind::Captured, capture.serial};
+    result.result.frame = std::move(capture.frame);
     result.image = std::move(image);
-    result.seconds = capture.frame.timestamp();
     answer(std::move(result));
 }
 
@@ -239,6 +239,7 @@ void PlaybackEngine::replaceFile(Lock& lock)
     result.frameInterval = m_source.frameInterval();
     result.hasSound = m_source.hasSound();
     result.facts = m_source.facts();
+    result.facts.baseLayer = first.frame.baseLayer();
     answer(std::move(result));
 }
 

@@ -42,14 +42,13 @@ public:
         /// can be had from the file any more. Stepped: End where there is none in that direction,
         /// Failed where it cannot be read. All of these may give frames that are scaled down.
         /// Refined: Frame, the one that was given last, in full size or deinterlaced as it is to be
-        /// from now on; the serial number is that of its command. Captured: no frame, but image.
+        /// from now on; the serial number is that of its command. Captured: the frame of the image.
         FrameResult result = {};
         QImage image = {};   ///< Captured: the picture, null when it cannot be had
         qint64 duration = 0; ///< as far as it is known, in milliseconds; it may grow
         int frameInterval = 0;
         bool hasSound = false;
         MediaFacts facts = {}; ///< Opened: what the file says of itself
-        double seconds = 0.0;  ///< Captured: the time of the picture
     };
 
     /// What the queue holds for a moment of playback.

@@ -21,13 +21,15 @@ void VideoCapture::capture()
         QMetaObject::invokeMethod(this, &VideoCapture::failed, Qt::QueuedConnection);
 }
 
-void VideoCapture::deliver(const QImage& image, double seconds)
+void VideoCapture::deliver(const QImage& image, const VideoFrame& frame)
 {
-    m_seconds = seconds;
-    if (image.isNull())
+    if (image.isNull()) {
         Q_EMIT failed();
-    else
-        Q_EMIT imageCaptured(image);
+        return;
+    }
+    m_frame = frame;
+    Q_EMIT imageCaptured(image);
+    m_frame = VideoFrame();
 }
 
 } // namespace QtAV

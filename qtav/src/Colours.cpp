@@ -27,6 +27,15 @@ constexpr double C1 = 3424.0 / 4096.0;
 constexpr double C2 = 2413.0 / 4096.0 * 32.0;
 constexpr double C3 = 2392.0 / 4096.0 * 32.0;
 
+// ITU-R BT.2100.
+constexpr double HlgA = 0.17883277;
+constexpr double HlgB = 1.0 - 4.0 * HlgA;
+
+double hlgC()
+{
+    return 0.5 - HlgA * std::log(4.0 * HlgA);
+}
+
 /// Copies a statement of the stream for a picture; without memory it goes without.
 void addSideData(AVFrame& frame, AVFrameSideDataType type, const SideData& data)
 {
@@ -111,7 +120,7 @@ bool Colours::isStandard() const
 
 bool Colours::operator==(const Colours& other) const
 {
-    return transfer == other.transfer && primaries == other.primaries && peakNits == other.peakNits;
+    return StoredColours::operator==(other) && peakNits == other.peakNits;
 }
 
 FramePtr statedColours(const AVStream& stream)
@@ -170,6 +179,21 @@ std::array<double, 9> matrixToStandard(Colours::Primaries primaries)
     return {1.0, 0.0, 0.0, 0.0, 1.0, 0.0, 0.0, 0.0, 1.0};
 }
 
+std::array<double, 9> matrixFromStandard(Colours::Primaries primaries)
+{
+    switch (primaries) {
+    case Colours::Primaries::P3:
+        return {0.8224619687, 0.1775380313, 0.0,          0.0331941989, 0.9668058011,
+                0.0,          0.0170826307, 0.0723974407, 0.9105199286};
+    case Colours::Primaries::Bt2020:
+        return {0.6274038959, 0.3292830384, 0.0433130657, 0.0690972894, 0.9195403951,
+                0.0113623156, 0.0163914389, 0.0880133079, 0.8955952532};
+    case Colours::Primaries::Standard:
+        break;
+    }
+    return {1.0, 0.0, 0.0, 0.0, 1.0, 0.0, 0.0, 0.0, 1.0};
+}
+
 double pqToNits(double value)
 {
     const double power = std::pow(std::clamp(value, 0.0, 1.0), 1.0 / M2);
@@ -184,11 +208,14 @@ double nitsToPq(double nits)
 
 double hlgToScene(double value)
 {
-    constexpr double A = 0.17883277;
-    constexpr double B = 1.0 - 4.0 * A;
-    const double c = 0.5 - A * std::log(4.0 * A);
     const double v = std::clamp(value, 0.0, 1.0);
-    return v <= 0.5 ? v * v / 3.0 : (std::exp((v - c) / A) + B) / 12.0;
+    return v <= 0.5 ? v * v / 3.0 : (std::exp((v - hlgC()) / HlgA) + HlgB) / 12.0;
+}
+
+double sceneToHlg(double light)
+{
+    const double l = std::clamp(light, 0.0, 1.0);
+    return l <= 1.0 / 12.0 ? std::sqrt(3.0 * l) : HlgA * std::log(12.0 * l - HlgB) + hlgC();
 }
 
 double linearToSrgb(double light)

@@ -1,27 +1,16 @@
 #pragma once
 
+#include <QtAV/StoredColours.h>
+
 #include "qtav/src/FFmpegHandles.h"
 
 #include <array>
 
 namespace QtAV {
 
-/// What the R'G'B' values of a picture stand for, as far as it is not taken for sRGB.
-struct Colours
+/// What a picture's values stand for, and how bright they become.
+struct Colours : StoredColours
 {
-    enum class Transfer {
-        Standard, ///< as sRGB's
-        Pq,       ///< of SMPTE ST 2084: absolute light
-        Hlg,      ///< hybrid log-gamma
-    };
-    enum class Primaries {
-        Standard, ///< as sRGB's, or so near that all players take them for these
-        P3,       ///< of displays and cameras, white as sRGB's
-        Bt2020,
-    };
-
-    Transfer transfer = Transfer::Standard;
-    Primaries primaries = Primaries::Standard;
     /// The brightest light of a picture with high dynamic range, in cd/m²; of no meaning for
     /// others.
     double peakNits = 0.0;
@@ -45,12 +34,16 @@ void completeColours(AVFrame& frame, const AVFrame& stated);
 /// The matrix by which linear light with the primaries becomes that with sRGB's; three rows.
 [[nodiscard]] std::array<double, 9> matrixToStandard(Colours::Primaries primaries);
 
+/// The other way round.
+[[nodiscard]] std::array<double, 9> matrixFromStandard(Colours::Primaries primaries);
+
 /// Light in cd/m² for a PQ value of 0 to 1, and back.
 [[nodiscard]] double pqToNits(double value);
 [[nodiscard]] double nitsToPq(double nits);
 
-/// Light of the scene, 0 to 1, for an HLG value of 0 to 1.
+/// Light of the scene, 0 to 1, for an HLG value of 0 to 1, and back.
 [[nodiscard]] double hlgToScene(double value);
+[[nodiscard]] double sceneToHlg(double light);
 
 /// sRGB's transfer of linear light, 0 to 1, and back.
 [[nodiscard]] double linearToSrgb(double light);

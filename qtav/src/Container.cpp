@@ -1,6 +1,7 @@
 #include "qtav/src/Container.h"
 
 #include "qtav/src/CleanAperture.h"
+#include "qtav/src/DynamicMetadata.h"
 #include "qtav/src/FFmpegLog.h"
 
 #include <QCoreApplication>
@@ -267,6 +268,7 @@ MediaFacts Container::facts(int stream) const
         addTags(facts.tags, described.metadata);
         facts.tickNumerator = described.time_base.num;
         facts.tickDenominator = described.time_base.den;
+        facts.baseLayer = baseLayerOf(described);
     }
     return facts;
 }

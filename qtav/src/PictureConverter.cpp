@@ -117,18 +117,32 @@ bool PictureConverter::isOpaqueYuv(const AVFrame& frame)
     return descriptor && !isRgb(*descriptor) && !isXyz(format) && !hasAlpha(frame);
 }
 
-QImage PictureConverter::convert(const AVFrame& frame, const QSize& size, QImage::Format wanted)
+QImage PictureConverter::convert(const AVFrame& frame, const QSize& size, QImage::Format format)
+{
+    return convertFrom(coloursOf(frame), frame, size, format);
+}
+
+QImage PictureConverter::convertAsStored(const AVFrame& frame, const QSize& size)
+{
+    return convertFrom({}, frame, size,
+                       hasAlpha(frame) ? QImage::Format_RGBA64 : QImage::Format_RGBX64);
+}
+
+/// Brings colours that are not standard ones to those of sRGB.
+QImage PictureConverter::convertFrom(const Colours& colours, const AVFrame& frame,
+                                     const QSize& size, QImage::Format wanted)
 {
     const auto format = static_cast<AVPixelFormat>(frame.format);
     if (!av_pix_fmt_desc_get(format) || size.isEmpty())
         return {};
-    const Colours colours = coloursOf(frame);
     const bool isStored = size == QSize(frame.width, frame.height);
     if (isStored && (YuvToRgb::reads(format) || TrueColours::isNeededFor(frame, colours)))
         return imageOf(frame, colours, wanted);
     if (isStored || !hasFieldChroma(frame))
         return scaledImage(frame, colours, size, wanted);
-    const FramePtr picture = withoutFields(frame);
+    const bool isDeep = wanted == QImage::Format_RGBX64 || wanted == QImage::Format_RGBA64;
+    const FramePtr picture =
+        withoutFields(colours, frame, isDeep ? AV_PIX_FMT_RGBA64 : AV_PIX_FMT_BGRA);
     return picture ? scaledImage(*picture, {}, size, wanted) : QImage();
 }
 
@@ -154,7 +168,8 @@ FramePtr PictureConverter::scaled(const AVFrame& frame, const QSize& size)
     const auto format = static_cast<AVPixelFormat>(frame.format);
     if (!av_pix_fmt_desc_get(format) || size.isEmpty())
         return nullptr;
-    const FramePtr whole = hasFieldChroma(frame) ? withoutFields(frame) : nullptr;
+    const FramePtr whole =
+        hasFieldChroma(frame) ? withoutFields(coloursOf(frame), frame, AV_PIX_FMT_BGRA) : nullptr;
     const AVFrame& source = whole ? *whole : frame;
     const auto sourceFormat = static_cast<AVPixelFormat>(source.format);
     const AVPixelFormat target =
@@ -172,17 +187,22 @@ FramePtr PictureConverter::scaled(const AVFrame& frame, const QSize& size)
     return picture;
 }
 
-/// An interlaced picture in sRGB, in which no chroma belongs to a field any more. Null when memory
-/// runs out.
-FramePtr PictureConverter::withoutFields(const AVFrame& frame)
+/// An interlaced picture in red, green and blue, in which no chroma belongs to a field any more.
+/// Null when memory runs out.
+///
+/// @param format  AV_PIX_FMT_BGRA or, for 16 bits, AV_PIX_FMT_RGBA64
+FramePtr PictureConverter::withoutFields(const Colours& colours, const AVFrame& frame,
+                                         AVPixelFormat format)
 {
     const QSize size(frame.width, frame.height);
-    const QImage image = convert(frame, size);
-    FramePtr picture = makePicture(taskFor(frame, size, AV_PIX_FMT_BGRA));
+    const bool isDeep = format == AV_PIX_FMT_RGBA64;
+    const QImage image =
+        convertFrom(colours, frame, size, isDeep ? QImage::Format_RGBA64 : QImage::Format_ARGB32);
+    FramePtr picture = makePicture(taskFor(frame, size, format));
     if (image.isNull() || !picture)
         return nullptr;
     av_image_copy_plane(picture->data[0], picture->linesize[0], image.constBits(),
-                        image.bytesPerLine(), frame.width * 4, frame.height);
+                        image.bytesPerLine(), frame.width * image.depth() / 8, frame.height);
     return picture;
 }
 

@@ -31,6 +31,9 @@ public:
     [[nodiscard]] QImage convert(const AVFrame& frame, const QSize& size,
                                  QImage::Format format = QImage::Format_ARGB32);
 
+    /// The same in the picture's own R'G'B' instead of sRGB's, see coloursOf(); in 16 bits.
+    [[nodiscard]] QImage convertAsStored(const AVFrame& frame, const QSize& size);
+
     /// True when the picture's format has alpha, be all of it opaque or not.
     static bool hasAlpha(const AVFrame& frame);
 
@@ -70,7 +73,10 @@ private:
     [[nodiscard]] QImage imageOf(const AVFrame& picture, const Colours& colours,
                                  QImage::Format format);
     [[nodiscard]] std::shared_ptr<const ColourMap> mapFor(const Colours& colours);
-    [[nodiscard]] FramePtr withoutFields(const AVFrame& frame);
+    [[nodiscard]] QImage convertFrom(const Colours& colours, const AVFrame& frame,
+                                     const QSize& size, QImage::Format format);
+    [[nodiscard]] FramePtr withoutFields(const Colours& colours, const AVFrame& frame,
+                                         AVPixelFormat format);
     [[nodiscard]] QImage scaledImage(const AVFrame& frame, const Colours& colours,
                                      const QSize& size, QImage::Format format);
     static Task taskFor(const AVFrame& frame, const QSize& size, AVPixelFormat target);

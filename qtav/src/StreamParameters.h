@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtAV/BaseLayer.h>
+
 #include "qtav/src/FFmpegHandles.h"
 #include "qtav/src/Orientation.h"
 #include "qtav/src/Timeline.h"
@@ -26,6 +28,8 @@ public:
     /// A picture without pixels that bears what the container says of the colours; see
     /// completeColours().
     FramePtr statedColours;
+    /// What the container says of instructions for each picture.
+    BaseLayer baseLayer = BaseLayer::Whole;
     /// The container announces an alpha channel beside the pictures (VP8, VP9).
     bool hasAlphaLayer = false;
 };

@@ -1,6 +1,8 @@
 #include <QtAV/VideoFrame.h>
 
+#include "qtav/src/Colours.h"
 #include "qtav/src/Deinterlacer.h"
+#include "qtav/src/DynamicMetadata.h"
 #include "qtav/src/PictureConverter.h"
 #include "qtav/src/StreamParameters.h"
 #include "qtav/src/VideoFramePrivate.h"
@@ -120,6 +122,7 @@ VideoFramePrivate::VideoFramePrivate(FramePtr picture, qint64 ticks,
     , seconds(parameters->timeline.seconds(ticks))
     , orientation(orientationOf(*frame, *parameters))
     , squareSize(squareSizeOf(*frame, sampleAspectRatioOf(*frame, *parameters)))
+    , baseLayer(baseLayerOf(*frame, parameters->baseLayer))
     , converter(std::move(pictureConverter))
     , firstSeconds(seconds)
     , secondSeconds(seconds)
@@ -130,6 +133,7 @@ VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& whole, FramePtr sm
     , seconds(whole.seconds)
     , orientation(whole.orientation)
     , squareSize(whole.squareSize)
+    , baseLayer(whole.baseLayer)
     , isScaledDown(true)
     , converter(whole.converter)
     , firstSeconds(whole.firstSeconds)
@@ -143,6 +147,7 @@ VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& alone, const Video
     , seconds(alone.seconds)
     , orientation(alone.orientation)
     , squareSize(alone.squareSize)
+    , baseLayer(alone.baseLayer)
     , isScaledDown(alone.isScaledDown)
     , converter(alone.converter)
     , fields(std::move(fieldSettings))
@@ -158,6 +163,7 @@ VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& other, FieldFilter
     , seconds(moment == FieldFilter::Moment::First ? other.firstSeconds : other.secondSeconds)
     , orientation(other.orientation)
     , squareSize(other.squareSize)
+    , baseLayer(other.baseLayer)
     , isScaledDown(other.isScaledDown)
     , converter(other.converter)
     , fields{other.fields.deinterlacing, other.fields.deinterlacer, moment}
@@ -331,6 +337,28 @@ try {
     if (image.format() == QImage::Format_ARGB32 && wanted == QImage::Format_RGB888)
         return withoutAlpha(image);
     return image.format() == wanted ? image : std::move(image).convertToFormat(wanted);
+} catch (const std::bad_alloc&) {
+    return {};
+}
+
+BaseLayer VideoFrame::baseLayer() const
+{
+    return d ? d->baseLayer : BaseLayer::Whole;
+}
+
+StoredColours VideoFrame::storedColours() const
+{
+    return d ? coloursOf(*d->frame) : StoredColours();
+}
+
+QImage VideoFrame::toStoredImage() const
+try {
+    if (!d)
+        return {};
+    const FramePtr deinterlaced = d->deinterlaced();
+    return oriented(
+        d->converter->convertAsStored(deinterlaced ? *deinterlaced : *d->frame, d->squareSize),
+        d->orientation);
 } catch (const std::bad_alloc&) {
     return {};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtAV/BaseLayer.h>
 #include <QtAV/Deinterlacing.h>
 
 #include "qtav/src/FFmpegHandles.h"
@@ -58,7 +59,8 @@ public:
     const FramePtr frame; ///< as it was decoded
     const double seconds;
     const Orientation orientation;
-    const QSize squareSize; ///< of the decoded picture, with square pixels
+    const QSize squareSize;    ///< of the decoded picture, with square pixels
+    const BaseLayer baseLayer; ///< what it is, where there is more
     const bool isScaledDown = false;
     const std::shared_ptr<PictureConverter> converter;
 

@@ -1,6 +1,7 @@
 #include "qtav/src/VideoPackets.h"
 
 #include "qtav/src/Colours.h"
+#include "qtav/src/DynamicMetadata.h"
 #include "qtav/src/FFmpegCompat.h"
 #include "qtav/src/PacketHandle.h"
 
@@ -64,6 +65,7 @@ void VideoPackets::describeStream()
     parameters->orientation = orientationFromDisplayMatrix(displayMatrixOf(stream));
     parameters->cleanAperture = m_container.cleanAperture(m_stream);
     parameters->statedColours = statedColours(stream);
+    parameters->baseLayer = baseLayerOf(stream);
     const AVDictionaryEntry* alpha = av_dict_get(stream.metadata, "alpha_mode", nullptr, 0);
     parameters->hasAlphaLayer = alpha && std::strcmp(alpha->value, "1") == 0;
     m_parameters = std::move(parameters);

@@ -3,6 +3,7 @@
 #include "batch/BatchWorkerConfig.h"
 #include "tests/batch/WorkerEvents.h"
 #include "tests/support/FrameNumber.h"
+#include "tests/support/RunProgram.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
 
@@ -79,6 +80,7 @@ private Q_SLOTS:
     void profiles_areThoseOfTheStart();
     void interruption_endsTheJob();
     void unknownInterval_takesNothing();
+    void whatIsNotShown_isSaidOnce_inBothWays();
 };
 
 void BatchWorkerExactTest::images_areTheFramesAtTheirPositions_everySoOften()
@@ -284,6 +286,33 @@ void BatchWorkerExactTest::unknownInterval_takesNothing()
     job.config.setIntervalType(17);
     job.worker.run();
     QVERIFY(namesIn(dir.path()).isEmpty());
+}
+
+void BatchWorkerExactTest::whatIsNotShown_isSaidOnce_inBothWays()
+{
+    // Batch jobs take no video of less than half a second.
+    const TestDir videos;
+    const QString video = videos.filePath(QStringLiteral("longer.mkv"));
+    QVERIFY(testsupport::runProgram(QStringLiteral("ffmpeg"),
+                                    {QStringLiteral("-v"), QStringLiteral("error"),
+                                     QStringLiteral("-stream_loop"), QStringLiteral("4"),
+                                     QStringLiteral("-i"),
+                                     samplePath(QStringLiteral("colour_hdr10_plus.mkv")),
+                                     QStringLiteral("-c"), QStringLiteral("copy"), video})
+                .succeeded());
+    for (const bool isExact : {true, false}) {
+        const TestDir dir;
+        Job job(dir.path());
+        job.config.setSource(video);
+        job.config.setFileOutputPath(dir.path());
+        job.config.setExactFrames(isExact);
+        job.config.setIntervalMilliseconds(200);
+        job.worker.run();
+        QVERIFY(namesIn(dir.path()).size() > 1);
+        const QStringList told =
+            job.events.of(QStringLiteral("status")).filter(QStringLiteral("HDR10+"));
+        QCOMPARE(told.size(), 1);
+    }
 }
 
 QTEST_MAIN(BatchWorkerExactTest)

@@ -53,6 +53,7 @@ private Q_SLOTS:
         recipe.jpegQuality = 83;
         recipe.keepsDeepColours = true;
         recipe.deinterlacing = QStringLiteral("off");
+        recipe.keepsHdr = true;
         recipe.resampling = {ResizeFilter::Bicubic, ResizeLight::Linear};
         recipe.watermark = textWatermark();
         const ImageRecipe back = RecipeTexts::recipeFrom(textsOf(recipe));
@@ -63,6 +64,7 @@ private Q_SLOTS:
         QCOMPARE(back.brightness, 31);
         QCOMPARE(back.jpegQuality, 83);
         QVERIFY(back.keepsDeepColours);
+        QVERIFY(back.keepsHdr);
         QCOMPARE(back.deinterlacing, QStringLiteral("off"));
         QVERIFY(back.resampling.filter == ResizeFilter::Bicubic);
         QVERIFY(back.resampling.light == ResizeLight::Linear);

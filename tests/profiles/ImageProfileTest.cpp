@@ -31,6 +31,7 @@ private slots:
         QCOMPARE(profile.resizeInLinearLight(), false);
         QCOMPARE(profile.deepColours(), false);
         QCOMPARE(profile.deinterlacing(), QStringLiteral("auto"));
+        QCOMPARE(profile.hdr(), int(ImageProfile::ToneMapped));
         QCOMPARE(profile.cropBlackEdges(), false);
     }
 
@@ -57,7 +58,7 @@ private slots:
                          QStringLiteral("imageQuality"), QStringLiteral("watermarkProfileId"),
                          QStringLiteral("metadata"), QStringLiteral("resizeFilter"),
                          QStringLiteral("resizeInLinearLight"), QStringLiteral("deepColours"),
-                         QStringLiteral("deinterlacing")}));
+                         QStringLiteral("deinterlacing"), QStringLiteral("hdr")}));
         QCOMPARE(ImageProfile::staticMetaObject.indexOfProperty("cropBlackEdges"), -1);
     }
 
@@ -182,7 +183,7 @@ private slots:
         settings.beginGroup(profile->id());
         QCOMPARE(settings.value(QStringLiteral("sortOrder")), QVariant(0));
         QCOMPARE(settings.value(QStringLiteral("imageQuality")), QVariant(90));
-        QCOMPARE(settings.allKeys().size(), 17);
+        QCOMPARE(settings.allKeys().size(), 18);
 
         const std::unique_ptr<BaseProfile> made(manager->createProfile());
         QVERIFY(qobject_cast<ImageProfile*>(made.get()));

@@ -162,6 +162,7 @@ void CommandLineParserTest::wrongUsage_isOneLine_thatNamesTheMistake_data()
     row("--metadata some a", "without-place");
     row("--like a.jpg --profile x", "--like and --profile");
     row("--like a.jpg --skip-end 3", "--skip-start");
+    row("--hdr bright a", "'bright'");
     row("--deinterlace sometimes a", "'sometimes'");
     row("--names {foo} a", "{stem}");
     row("--names x --name-profile y a", "--names and --name-profile");

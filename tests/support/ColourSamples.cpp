@@ -45,6 +45,8 @@ QList<ColourSample> colourSampleTable()
                         transfer, Primaries::Bt2020, peakNits});
     };
     addHdr("colour_pq_sei.mp4", Transfer::Pq, 600.0);
+    addHdr("colour_dolby_vision.mp4", Transfer::Pq, 600.0);
+    addHdr("colour_hdr10_plus.mkv", Transfer::Pq, 600.0);
     addHdr("colour_pq_boxes.mp4", Transfer::Pq, 4000.0);
     addHdr("colour_pq_plain.mkv", Transfer::Pq, 1000.0);
     addHdr("colour_hlg.mkv", Transfer::Hlg, 1000.0);

@@ -37,6 +37,7 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     setupResizeFilterComboBox();
     setupMetadataComboBox();
     setupDeinterlacingComboBox();
+    setupHdrComboBox();
     connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, MinAdjustment, MaxAdjustment);
     connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
     setupProfileSelector();
@@ -183,6 +184,12 @@ void ImageProfileDialog::setupDeinterlacingComboBox()
     m_ui->deinterlacingComboBox->addItem(tr("Off"), QStringLiteral("off"));
 }
 
+void ImageProfileDialog::setupHdrComboBox()
+{
+    m_ui->hdrComboBox->addItem(tr("Tone-Mapped"), ImageProfile::ToneMapped);
+    m_ui->hdrComboBox->addItem(tr("As Stored, in PNG and TIFF"), ImageProfile::HdrAsStored);
+}
+
 void ImageProfileDialog::connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max)
 {
     slider->setRange(min, max);
@@ -203,6 +210,7 @@ void ImageProfileDialog::setupProfileSelector()
     addField("imageBrightness", m_ui->brightnessSpinBox);
     addField("imageContrast", m_ui->contrastSpinBox);
     addField("deinterlacing", m_ui->deinterlacingComboBox);
+    addField("hdr", m_ui->hdrComboBox);
     addField("imageQuality", m_ui->jpegQualitySpinBox);
     addField("metadata", m_ui->metadataComboBox);
     addField("deepColours", m_ui->deepColoursCheckbox);

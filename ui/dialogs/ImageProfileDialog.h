@@ -69,6 +69,7 @@ private:
     void setupResizeFilterComboBox();
     void setupMetadataComboBox();
     void setupDeinterlacingComboBox();
+    void setupHdrComboBox();
     void connectSlider(QSlider* slider, QSpinBox* spinBox, int min, int max);
     void setupProfileSelector();
     void addField(const char* propertyName, QWidget* widget);

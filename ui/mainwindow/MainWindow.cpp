@@ -82,7 +82,7 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     connectPlayer();
     connectTransport();
     alignControls();
-    setupDeinterlaceMenu();
+    setupProfileMenus();
     loadImageProfileComboBox();
     loadFileNameProfileComboBox();
     setupFileDialogs();
@@ -109,6 +109,7 @@ void MainWindow::connectPlayer()
     using QtAV::AVPlayer;
     const auto updateSliderNow = [this] { updateSlider(); };
     connect(m_player, &AVPlayer::started, this, updateSliderNow);
+    connect(m_player, &AVPlayer::started, this, &MainWindow::noticeBaseLayer);
     connect(m_player, &AVPlayer::durationChanged, this, &MainWindow::durationChanged);
     connect(m_player, &AVPlayer::positionChanged, this, &MainWindow::positionChanged);
     connect(m_player, &AVPlayer::notifyIntervalChanged, this, &MainWindow::updateSliderUnit);

@@ -5,6 +5,8 @@
 #include "imaging/PictureSource.h"
 #include "ui/mainwindow/CaptureTickets.h"
 
+#include <QtAV/VideoFrame.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
@@ -167,15 +169,17 @@ private:
     void connectPlayer();
     void connectTransport();
     void alignControls();
-    void setupDeinterlaceMenu();
+    void setupProfileMenus();
     void chooseDeinterlacing(const QString& name);
-    void followDeinterlacing();
+    void chooseHdr(int hdr);
+    void followImageProfile();
     void shareSpaceKey();
     void quit();
 
     void followVideoFolder(const QFileInfo& video);
     void proposeFileName(const QFileInfo& video);
     void noticeMediaStatus();
+    void noticeBaseLayer();
     void noticeFailedRead(const QString& reason);
     void showOpenButton(const QString& text);
 
@@ -199,8 +203,8 @@ private:
     ImageRecipe m_snapshotRecipe;
     /// As captured.
     QImage m_fullFrameImage;
-    /// The frame of m_fullFrameImage.
-    PictureSource m_capturedSource;
+    QtAV::VideoFrame m_capturedFrame; ///< of m_fullFrameImage
+    PictureSource m_capturedSource;   ///< likewise
     /// The file and the time of the last capture, for messages.
     QString m_capturedPlace;
     QString m_currentVideoPath;

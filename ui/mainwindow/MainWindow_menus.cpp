@@ -77,28 +77,44 @@ void MainWindow::on_actionImage_Filters_Test_triggered()
 }
 
 /// The menu shows and changes what the selected image profile says.
-void MainWindow::setupDeinterlaceMenu()
+/// The menus that show and change the selected image profile.
+void MainWindow::setupProfileMenus()
 {
-    auto* const group = new QActionGroup(this);
-    const auto add = [this, group](QAction* action, const QString& name) {
+    auto* const deinterlacing = new QActionGroup(this);
+    const auto addName = [&](QAction* action, const QString& name) {
         action->setData(name);
-        group->addAction(action);
+        deinterlacing->addAction(action);
         connect(action, &QAction::triggered, this, [this, name] { chooseDeinterlacing(name); });
     };
-    add(m_ui->actionDeinterlaceAutomatic, QStringLiteral("auto"));
-    add(m_ui->actionDeinterlaceOn, QStringLiteral("on"));
-    add(m_ui->actionDeinterlaceOff, QStringLiteral("off"));
+    addName(m_ui->actionDeinterlaceAutomatic, QStringLiteral("auto"));
+    addName(m_ui->actionDeinterlaceOn, QStringLiteral("on"));
+    addName(m_ui->actionDeinterlaceOff, QStringLiteral("off"));
+
+    auto* const hdrs = new QActionGroup(this);
+    const auto addHdr = [&](QAction* action, int hdr) {
+        hdrs->addAction(action);
+        connect(action, &QAction::triggered, this, [this, hdr] { chooseHdr(hdr); });
+    };
+    addHdr(m_ui->actionHdrToneMapped, ImageProfile::ToneMapped);
+    addHdr(m_ui->actionHdrAsStored, ImageProfile::HdrAsStored);
 }
 
 void MainWindow::chooseDeinterlacing(const QString& name)
 {
     m_imageProfile->setDeinterlacing(name);
     ImageProfile::profileManager()->saveProfiles();
-    followDeinterlacing();
+    followImageProfile();
 }
 
-/// Has the player and the menu follow the selected image profile.
-void MainWindow::followDeinterlacing()
+void MainWindow::chooseHdr(int hdr)
+{
+    m_imageProfile->setHdr(hdr);
+    ImageProfile::profileManager()->saveProfiles();
+    followImageProfile();
+}
+
+/// Has the player and the menus follow the selected image profile.
+void MainWindow::followImageProfile()
 {
     const QString name = m_imageProfile->deinterlacing();
     const QtAV::Deinterlacing deinterlacing = QtAV::deinterlacingNamed(name);
@@ -107,6 +123,8 @@ void MainWindow::followDeinterlacing()
     for (QAction* const action : actions) {
         action->setChecked(QtAV::deinterlacingNamed(action->data().toString()) == deinterlacing);
     }
+    const bool keepsHdr = m_imageProfile->hdr() == ImageProfile::HdrAsStored;
+    (keepsHdr ? m_ui->actionHdrAsStored : m_ui->actionHdrToneMapped)->setChecked(true);
 }
 
 void MainWindow::on_actionAbout_triggered()

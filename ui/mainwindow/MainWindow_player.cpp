@@ -197,6 +197,14 @@ void MainWindow::noticeMediaStatus()
     statusBar()->showMessage(m_player->errorString());
 }
 
+void MainWindow::noticeBaseLayer()
+{
+    const QString text = QtAV::textOf(m_player->facts().baseLayer);
+    if (!text.isEmpty()) {
+        statusBar()->showMessage(text, messageMs);
+    }
+}
+
 /// The picture that stays on screen does not tell why the video does not go on.
 void MainWindow::noticeFailedRead(const QString& reason)
 {

@@ -1,5 +1,6 @@
 #include "ui/mainwindow/MainWindow.h"
 
+#include "imaging/FramePicture.h"
 #include "imaging/ImageProcessingManager.h"
 #include "imaging/Rendering.h"
 #include "profiles/FileNameProfile.h"
@@ -75,6 +76,7 @@ void MainWindow::snapshotCaptured(const QImage& image)
         return;
     }
     m_fullFrameImage = image.copy();
+    m_capturedFrame = m_player->videoCapture()->capturedFrame();
     m_capturedSource = sourceOfCapture(image);
     const QString error = makeSnapshot(nullptr);
     // Without a snapshot as well: the profile may be to blame, and is edited there.
@@ -93,7 +95,7 @@ PictureSource MainWindow::sourceOfCapture(const QImage& image) const
     const QtAV::MediaFacts facts = m_player->facts();
     const PictureSource video =
         PictureSource::of(m_player->file(), facts.tags, facts.tickNumerator, facts.tickDenominator);
-    return video.at(m_player->videoCapture()->capturedSeconds(), image.size());
+    return video.at(m_capturedFrame.timestamp(), image.size());
 }
 
 void MainWindow::onCaptureError()
@@ -147,6 +149,7 @@ void MainWindow::resetSnapshot()
 {
     m_fullFrameImage = QImage();
     m_snapshotImage = QImage();
+    m_capturedFrame = QtAV::VideoFrame();
     m_capturedSource = PictureSource();
     m_ui->snapshotImageView->setImage(m_snapshotImage);
 }
@@ -184,8 +187,16 @@ WriteResult MainWindow::writeSnapshot(const QString& path, ExistingFile existing
     ImageRecipe recipe = m_snapshotRecipe;
     recipe.jpegQuality = chosen.jpegQuality;
     recipe.metadata = chosen.metadata;
-    return imaging::save(path, m_snapshotImage, recipe, m_fileNameProfile->fileOutputType(),
-                         m_capturedSource, existing);
+    recipe.keepsDeepColours = chosen.keepsDeepColours;
+    recipe.keepsHdr = chosen.keepsHdr;
+    recipe = forType(recipe, QFileInfo(path).suffix());
+    // The file may hold more than the screen.
+    const QImage image =
+        imaging::wantsMore(m_capturedFrame, recipe)
+            ? imaging::render(imaging::pictureOf(m_capturedFrame, recipe), recipe).image
+            : m_snapshotImage;
+    return imaging::save(path, image, recipe, m_fileNameProfile->fileOutputType(), m_capturedSource,
+                         existing);
 }
 
 bool MainWindow::saveSnapshot(QString path)
@@ -355,7 +366,7 @@ void MainWindow::loadImageProfileComboBox()
 {
     m_imageProfile = static_cast<ImageProfile*>(
         fillProfiles(*m_ui->imageProfileComboBox, *ImageProfile::profileManager()));
-    followDeinterlacing();
+    followImageProfile();
 }
 
 void MainWindow::loadFileNameProfileComboBox()
@@ -371,7 +382,7 @@ void MainWindow::on_imageProfileComboBox_activated(int index)
         chooseProfile(*m_ui->imageProfileComboBox, *ImageProfile::profileManager());
     if (chosen != nullptr) {
         m_imageProfile = static_cast<ImageProfile*>(chosen);
-        followDeinterlacing();
+        followImageProfile();
     }
 }
 

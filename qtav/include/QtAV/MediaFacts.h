@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtAV/BaseLayer.h>
+
 #include <QMap>
 #include <QString>
 
@@ -19,6 +21,9 @@ struct MediaFacts
     /// video stream.
     int tickNumerator = 0;
     int tickDenominator = 1;
+
+    /// Of the first picture, where the file has been decoded so far; what the container says else.
+    BaseLayer baseLayer = BaseLayer::Whole;
 };
 
 } // namespace QtAV

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtAV/VideoFrame.h>
+
 #include <QImage>
 #include <QObject>
 
@@ -21,11 +23,11 @@ public:
     void setTaker(std::function<void()> take);
 
     /// For the player: answers a capture(); a null image when there is none.
-    /// @param seconds  the time of its frame
-    void deliver(const QImage& image, double seconds);
+    void deliver(const QImage& image, const VideoFrame& frame);
 
-    /// The time in seconds of the frame that was captured last: for the slots of imageCaptured().
-    double capturedSeconds() const { return m_seconds; }
+    /// The frame that was captured last, of which there may be more than the image shows: for the
+    /// slots of imageCaptured(), and gone after them.
+    const VideoFrame& capturedFrame() const { return m_frame; }
 
 public Q_SLOTS:
     /// Takes the frame that is on screen now. Each call is answered by one signal, later, from the
@@ -41,7 +43,7 @@ Q_SIGNALS:
 
 private:
     std::function<void()> m_take;
-    double m_seconds = 0.0;
+    VideoFrame m_frame;
 };
 
 } // namespace QtAV

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QtAV/BaseLayer.h>
+#include <QtAV/StoredColours.h>
+
 #include <QImage>
 #include <QMetaType>
 #include <QRectF>
@@ -94,6 +97,17 @@ public:
     [[nodiscard]] QImage toImage(QImage::Format format = QImage::Format_ARGB32,
                                  const QSize& size = QSize(),
                                  const QRectF& region = QRectF()) const;
+
+    /// What the picture is where the video has more of high dynamic range than this shows.
+    BaseLayer baseLayer() const;
+
+    /// What the values of the stored picture stand for; sRGB's when not valid.
+    StoredColours storedColours() const;
+
+    /// The whole picture in the values as they are stored, see storedColours(), and 16 bits a
+    /// channel, for those who go on working with high dynamic range: Format_RGBA64 where the pixel
+    /// format has alpha, else Format_RGBX64. All else as toImage() does it.
+    [[nodiscard]] QImage toStoredImage() const;
 
 private:
     friend class VideoFramePrivate;

@@ -6,6 +6,10 @@ gi.require_version("Atspi", "2.0")
 # pylint: disable=wrong-import-position
 from gi.repository import Atspi, GLib  # noqa: E402
 
+# How long a program may take for an answer, and for its first one. A busy one, not a hanging one,
+# needs more than the usual 0.8 s at times.
+Atspi.set_timeout(10_000, 20_000)
+
 
 class Control:
     """A control of a program. What it says of itself is asked of the program each time.

@@ -90,10 +90,10 @@ sample h264_full_range.mp4 encode_filtered 320x240 25 50 scale=out_range=full,fo
 readonly HDR_X265="lossless=1:$X265_PARAMS"
 readonly MASTER_DISPLAY="G(13250,34500)B(7500,3000)R(34000,16000)WP(15635,16450)L(40000000,50)"
 
-# pq_from_encoder FILE: as x265 writes it, with what it knows of the light in the stream.
+# pq_from_encoder FILE [PARAMETERS]: as x265 writes it, with what it knows of the light in the stream.
 pq_from_encoder() {
     tagged_patches "$1" 10 bt2020nc bt2020 smpte2084 tv -c:v libx265 -preset ultrafast -tag:v hvc1 \
-        -x265-params "$HDR_X265:hdr10=1:repeat-headers=1:master-display=$MASTER_DISPLAY:max-cll=600,200"
+        -x265-params "$HDR_X265:${2-}hdr10=1:repeat-headers=1:master-display=$MASTER_DISPLAY:max-cll=600,200"
 }
 
 # pq_from_boxes FILE: a stream that says nothing; all stands in the boxes of its container: colr
@@ -105,7 +105,28 @@ pq_from_boxes() {
         mdcv:33c286c41d4c0bb884d03e803d13404202625a0000000032 clli:00000000
 }
 
+# with_dolby_vision FILE BOX: as a phone writes it, but for the instructions themselves, which nothing
+# here carries out: the container says that there are some.
+with_dolby_vision() {
+    pq_from_encoder "$1"
+    tool mp4_add_boxes "$1" "$2$(printf '00%.0s' {1..19})"
+}
+
+# with_hdr10_plus FILE: HDR10 with instructions beside it, as x265 writes them where it is built for
+# that.
+with_hdr10_plus() {
+    local plain=${1%.*}.mp4 raw=${1%.*}.hevc
+    pq_from_encoder "$plain" bframes=0:
+    ff -i "$plain" -c copy "$raw"
+    tool hevc_add_hdr10_plus "$raw"
+    ff -i "$raw" -c copy -bsf:v "setts=ts=N*40:time_base=1/1000" "${EXACT[@]}" "$1"
+}
+
 sample colour_pq_sei.mp4 pq_from_encoder
+# Its profile 8 has a base layer of HDR10, its profile 5 none that others could show.
+sample colour_dolby_vision.mp4 with_dolby_vision dvvC:0100100d10
+sample colour_dolby_vision_alone.mp4 with_dolby_vision dvcC:01000a0d00
+sample colour_hdr10_plus.mkv with_hdr10_plus
 sample colour_pq_boxes.mp4 pq_from_boxes
 sample colour_pq_plain.mkv tagged_patches 10 bt2020nc bt2020 smpte2084 tv "${LOSSLESS_10BIT[@]}"
 sample colour_hlg.mkv tagged_patches 10 bt2020nc bt2020 arib-std-b67 tv "${LOSSLESS_10BIT[@]}"

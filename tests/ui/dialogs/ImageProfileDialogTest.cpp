@@ -175,20 +175,21 @@ void ImageProfileDialogTest::fields_areTheseInThisOrder()
 {
     const TestProfiles profiles;
     const ImageProfileDialog dialog(nullptr);
-    QCOMPARE(testsupport::fieldsOf(dialog),
-             (QStringList{textOf("sameSizeAsVideo sameSizeAsVideoCheckbox -1"),
-                          textOf("imageWidth imageWidthLineEdit -1"),
-                          textOf("imageHeight imageHeightLineEdit -1"),
-                          textOf("maintainAspectRatio maintainAspectRatioCheckbox -1"),
-                          textOf("resizeFilter resizeFilterComboBox -1"),
-                          textOf("resizeInLinearLight resizeInLinearLightCheckbox -1"),
-                          textOf("watermarkProfileId watermarkProfileComboBox -1"),
-                          textOf("imageBrightness brightnessSpinBox -1"),
-                          textOf("imageContrast contrastSpinBox -1"),
-                          textOf("deinterlacing deinterlacingComboBox -1"),
-                          textOf("imageQuality jpegQualitySpinBox -1"),
-                          textOf("metadata metadataComboBox -1"),
-                          textOf("deepColours deepColoursCheckbox -1")}));
+    QCOMPARE(
+        testsupport::fieldsOf(dialog),
+        (QStringList{textOf("sameSizeAsVideo sameSizeAsVideoCheckbox -1"),
+                     textOf("imageWidth imageWidthLineEdit -1"),
+                     textOf("imageHeight imageHeightLineEdit -1"),
+                     textOf("maintainAspectRatio maintainAspectRatioCheckbox -1"),
+                     textOf("resizeFilter resizeFilterComboBox -1"),
+                     textOf("resizeInLinearLight resizeInLinearLightCheckbox -1"),
+                     textOf("watermarkProfileId watermarkProfileComboBox -1"),
+                     textOf("imageBrightness brightnessSpinBox -1"),
+                     textOf("imageContrast contrastSpinBox -1"),
+                     textOf("deinterlacing deinterlacingComboBox -1"), textOf("hdr hdrComboBox -1"),
+                     textOf("imageQuality jpegQualitySpinBox -1"),
+                     textOf("metadata metadataComboBox -1"),
+                     textOf("deepColours deepColoursCheckbox -1")}));
 }
 
 void ImageProfileDialogTest::groupBoxes_shareTheirMargins()
@@ -214,14 +215,14 @@ void ImageProfileDialogTest::everyLabel_belongsToItsInput()
 {
     const TestProfiles profiles;
     const ImageProfileDialog dialog(nullptr);
-    const QStringList texts{textOf("Image Width:"),  textOf("Image Height:"),
-                            textOf("Filter:"),       textOf("Brightness:"),
-                            textOf("Contrast:"),     textOf("Deinterlace:"),
-                            textOf("JPEG Quality:"), textOf("Metadata:")};
+    const QStringList texts{textOf("Image Width:"), textOf("Image Height:"), textOf("Filter:"),
+                            textOf("Brightness:"),  textOf("Contrast:"),     textOf("Deinterlace:"),
+                            textOf("HDR:"),         textOf("JPEG Quality:"), textOf("Metadata:")};
     const QStringList inputs{textOf("imageWidthLineEdit"),   textOf("imageHeightLineEdit"),
                              textOf("resizeFilterComboBox"), textOf("brightnessSlider"),
                              textOf("contrastSlider"),       textOf("deinterlacingComboBox"),
-                             textOf("jpegQualitySpinBox"),   textOf("metadataComboBox")};
+                             textOf("hdrComboBox"),          textOf("jpegQualitySpinBox"),
+                             textOf("metadataComboBox")};
     QStringList found;
     const auto labels = dialog.findChildren<QLabel*>();
     for (const QLabel* const label : labels) {
@@ -244,6 +245,7 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
                             textOf("contrastSlider"),
                             textOf("contrastSpinBox"),
                             textOf("deinterlacingComboBox"),
+                            textOf("hdrComboBox"),
                             textOf("jpegQualitySpinBox"),
                             textOf("metadataComboBox"),
                             textOf("deepColoursCheckbox"),

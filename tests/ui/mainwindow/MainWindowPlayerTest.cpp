@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
+#include <QStatusBar>
 #include <QTest>
 
 using namespace testsupport;
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void step_showsTheNextAndThePreviousFrame();
     void stepField_goesToTheOtherMoment_ofAnInterlacedPicture();
     void deinterlacing_isThatOfTheSelectedProfile();
+    void hdr_isThatOfTheSelectedProfile();
+    void whatIsNotShown_isSaidInTheStatusBar();
     void skip_goesASecondAndPauses();
     void skip_endsAtTheStart_whenThereIsNoWholeSecond();
     void slider_goesInStepsOf30Milliseconds();
@@ -160,6 +163,33 @@ void MainWindowPlayerTest::deinterlacing_isThatOfTheSelectedProfile()
     automatic.trigger();
     QTRY_VERIFY(window.player().displayedFrame().toImage() == whole);
     QVERIFY(automatic.isChecked() && !off.isChecked());
+}
+
+void MainWindowPlayerTest::hdr_isThatOfTheSelectedProfile()
+{
+    ProfileManager& manager = *ImageProfile::profileManager();
+    auto* const profile = static_cast<ImageProfile*>(manager.profiles().constFirst());
+    OpenWindow window;
+    auto& toneMapped = window.find<QAction>("actionHdrToneMapped");
+    auto& asStored = window.find<QAction>("actionHdrAsStored");
+    QVERIFY(toneMapped.isChecked() && !asStored.isChecked());
+    asStored.trigger();
+    QVERIFY(asStored.isChecked() && !toneMapped.isChecked());
+    QCOMPARE(profile->hdr(), int(ImageProfile::HdrAsStored));
+    manager.loadProfilesFromFile();
+    window->loadImageProfileComboBox();
+    QVERIFY(asStored.isChecked());
+    toneMapped.trigger();
+    QVERIFY(toneMapped.isChecked() && !asStored.isChecked());
+}
+
+void MainWindowPlayerTest::whatIsNotShown_isSaidInTheStatusBar()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(QStringLiteral("colour_hdr10_plus.mkv"))));
+    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("HDR10+")));
+    QVERIFY(window.openPaused(samplePath(QStringLiteral("colour_dolby_vision_alone.mp4"))));
+    QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("not right")));
 }
 
 void MainWindowPlayerTest::skip_goesASecondAndPauses()

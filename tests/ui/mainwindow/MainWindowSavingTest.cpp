@@ -9,6 +9,7 @@
 #include <QtAV/AVPlayer.h>
 
 #include <QApplication>
+#include <QColorSpace>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void savedElsewhere_staysThere_whenAnotherVideoIsOpened();
     void saveSnapshot_writesTheFile_orSaysThatItCouldNot();
     void savedFile_tellsWhichFrameItIs_andWhatMadeIt();
+    void savedFile_holdsMoreThanTheScreen_whereItsProfileSaysSo();
 };
 
 namespace {
@@ -384,6 +386,34 @@ void MainWindowSavingTest::savedFile_tellsWhichFrameItIs_andWhatMadeIt()
     profile.setMetadata(ImageProfile::NoMetadata);
     QVERIFY(window->saveSnapshot(path));
     QVERIFY(!imaging::readOrigin(path, error));
+}
+
+void MainWindowSavingTest::savedFile_holdsMoreThanTheScreen_whereItsProfileSaysSo()
+{
+    OpenWindow window;
+    ImageProfile& profile =
+        *qobject_cast<ImageProfile*>(ImageProfile::profileManager()->profiles().constFirst());
+    profile.setSameSizeAsVideo(true);
+    QVERIFY(window.openPaused(samplePath(QStringLiteral("colour_pq_plain.mkv"))));
+    QVERIFY(window.takeSnapshot());
+    const auto saved = [&](const char* name) {
+        const QString path = window.dir().filePath(QString::fromLatin1(name));
+        return window->saveSnapshot(path) ? QImage(path) : QImage();
+    };
+    const QImage usual = saved("usual.png");
+    QCOMPARE(usual.depth(), 32);
+    profile.setDeepColours(true);
+    const QImage deep = saved("deep.png");
+    QCOMPARE(deep.depth(), 64);
+    // Dithered there, and more exact here.
+    const QPoint middle(120, 120);
+    QVERIFY(std::abs(deep.pixelColor(middle).red() - usual.pixelColor(middle).red()) <= 1);
+    profile.setHdr(ImageProfile::HdrAsStored);
+    const QImage stored = saved("stored.png");
+    QCOMPARE(stored.depth(), 64);
+    QVERIFY(stored.colorSpace() != deep.colorSpace());
+    QVERIFY(stored != deep);
+    QCOMPARE(saved("usual.jpg").depth(), 32);
 }
 
 QTEST_MAIN(MainWindowSavingTest)

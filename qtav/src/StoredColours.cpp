@@ -1,0 +1,78 @@
+#include <QtAV/StoredColours.h>
+
+#include "qtav/src/Colours.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace QtAV {
+
+namespace {
+
+constexpr double WhiteNits = 203.0;
+constexpr double HlgNits = 1000.0;
+constexpr double HlgSystemGamma = 1.2;
+
+std::array<double, 3> toPrimaries(StoredColours::Primaries primaries,
+                                  const std::array<double, 3>& light)
+{
+    const std::array<double, 9> m = matrixFromStandard(primaries);
+    return {m[0] * light[0] + m[1] * light[1] + m[2] * light[2],
+            m[3] * light[0] + m[4] * light[1] + m[5] * light[2],
+            m[6] * light[0] + m[7] * light[1] + m[8] * light[2]};
+}
+
+/// HLG's values for light of the display, 0 to 1.
+std::array<double, 3> hlgValuesOf(const std::array<double, 3>& light)
+{
+    const double luminance = 0.2627 * light[0] + 0.6780 * light[1] + 0.0593 * light[2];
+    const double system =
+        luminance > 0.0 ? std::pow(luminance, (1.0 - HlgSystemGamma) / HlgSystemGamma) : 0.0;
+    return {sceneToHlg(light[0] * system), sceneToHlg(light[1] * system),
+            sceneToHlg(light[2] * system)};
+}
+
+} // namespace
+
+double StoredColours::brightestNits() const
+{
+    switch (transfer) {
+    case Transfer::Pq:
+        return pqToNits(1.0);
+    case Transfer::Hlg:
+        return HlgNits;
+    case Transfer::Standard:
+        break;
+    }
+    return WhiteNits;
+}
+
+double StoredColours::lightOf(double value) const
+{
+    switch (transfer) {
+    case Transfer::Pq:
+        return pqToNits(value) / pqToNits(1.0);
+    case Transfer::Hlg:
+        return std::pow(hlgToScene(value), HlgSystemGamma);
+    case Transfer::Standard:
+        break;
+    }
+    return srgbToLinear(value);
+}
+
+std::array<double, 3> StoredColours::valuesOf(const std::array<double, 3>& rgb) const
+{
+    std::array<double, 3> light{};
+    std::transform(rgb.begin(), rgb.end(), light.begin(), srgbToLinear);
+    light = toPrimaries(primaries, light);
+    for (double& channel : light)
+        channel = std::clamp(channel, 0.0, 1.0) * WhiteNits / brightestNits();
+    if (transfer == Transfer::Hlg)
+        return hlgValuesOf(light);
+    for (double& channel : light)
+        channel =
+            transfer == Transfer::Pq ? nitsToPq(channel * brightestNits()) : linearToSrgb(channel);
+    return light;
+}
+
+} // namespace QtAV
