@@ -38,7 +38,9 @@ suite=$root/build/suite
 mkdir -p "$suite"
 {
     printf 'add_test(source_format "%s/scripts/format.sh" --check)\n' "$root"
-    printf 'add_test(source_fences "%s/scripts/check-fences.sh")\n' "$root"
+    for check in fences release scripts spelling; do
+        printf 'add_test(source_%s "%s/scripts/check-%s.sh")\n' "$check" "$root" "$check"
+    done
     printf "subdirs(\"$root/build/%s\")\n" "${presets[@]}"
 } >"$suite/CTestTestfile.cmake"
 release_build_folder

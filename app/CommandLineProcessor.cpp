@@ -3,8 +3,8 @@
 #include "batch/BatchWorker.h"
 #include "batch/BatchWorkerConfig.h"
 
-#include <QApplication>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -162,7 +162,7 @@ QString applyArguments(const QStringList& arguments, BatchWorkerConfig& config)
 
 } // namespace
 
-void CommandLineProcessor::processCommandLine(QApplication& app)
+void CommandLineProcessor::processCommandLine(QCoreApplication& app)
 {
     QCommandLineParser parser;
     QString errorMessage;
@@ -180,7 +180,7 @@ void CommandLineProcessor::processCommandLine(QApplication& app)
 }
 
 CommandLineProcessor::ArgumentsResult
-CommandLineProcessor::processArguments(QApplication& app, QCommandLineParser& parser,
+CommandLineProcessor::processArguments(QCoreApplication& app, QCommandLineParser& parser,
                                        QString* errorMessage)
 {
     setUpParser(parser);
@@ -219,7 +219,7 @@ void CommandLineProcessor::threadStatusUpdate(QString status)
     std::cout << status << std::endl;
 }
 
-void processCommandLine(QApplication& app)
+void processCommandLine(QCoreApplication& app)
 {
     CommandLineProcessor processor;
     processor.processCommandLine(app);

@@ -6,12 +6,12 @@
 #include <iosfwd>
 
 class BatchWorkerConfig;
-class QApplication;
 class QCommandLineParser;
+class QCoreApplication;
 
 /// Runs one batch job from the command line's arguments, in the calling thread.
 ///
-/// User-interface thread only.
+/// User-interface thread only. Watermarks take a QGuiApplication; widgets are not needed.
 class CommandLineProcessor : public QObject
 {
     Q_OBJECT
@@ -32,13 +32,13 @@ public:
     /// Wrong arguments end the process with a message and the help on standard output, the version
     /// and help options with what they ask for; all with exit code 0. Only options that do not
     /// exist end it with another. A job's failures are not reported: it makes what it can.
-    void processCommandLine(QApplication& app);
+    void processCommandLine(QCoreApplication& app);
 
     /// Sets `parser` up, and parses, checks and runs. Options that do not exist end the process.
     ///
     /// @param errorMessage  says what is wrong after ArgumentsWrong
-    [[nodiscard]] ArgumentsResult processArguments(QApplication& app, QCommandLineParser& parser,
-                                                   QString* errorMessage);
+    [[nodiscard]] ArgumentsResult
+    processArguments(QCoreApplication& app, QCommandLineParser& parser, QString* errorMessage);
 
     /// Runs a job and returns when it is done. The job stays the caller's.
     void processBatch(BatchWorkerConfig* config);
@@ -49,7 +49,7 @@ private Q_SLOTS:
 };
 
 /// Runs the command line's job; see CommandLineProcessor::processCommandLine().
-void processCommandLine(QApplication& app);
+void processCommandLine(QCoreApplication& app);
 
 /// Writes the text as UTF-8.
 std::ostream& operator<<(std::ostream& stream, const QString& text);

@@ -1,18 +1,11 @@
 #include "app/Startup.h"
 
-#include "app/RuntimeFolder.h"
 #include "batch/BatchWorker.h"
 #include "product/ProductInfo.h"
 
 #include <QtAV/QtAV_Global.h>
 
-#include <QApplication>
-
-std::unique_ptr<QApplication> Startup::makeApplication(int& argc, char** argv)
-{
-    const RuntimeFolder folder;
-    return std::make_unique<QApplication>(argc, argv);
-}
+#include <QCoreApplication>
 
 void Startup::setIdentity()
 {

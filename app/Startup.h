@@ -1,15 +1,21 @@
 #pragma once
 
-#include <memory>
+#include "app/RuntimeFolder.h"
 
-class QApplication;
+#include <memory>
 
 /// The steps of start-up that the window and the command line share. User-interface thread only.
 namespace Startup {
 
-/// Makes the application object, which keeps the reference to `argc`. Before any thread starts,
-/// since it changes the environment for a moment.
-[[nodiscard]] std::unique_ptr<QApplication> makeApplication(int& argc, char** argv);
+/// Makes the application object, which keeps the reference to `argc`: a QApplication for windows, a
+/// QGuiApplication for a program without. Before any thread starts, since it changes the
+/// environment for a moment.
+template <typename Application>
+[[nodiscard]] std::unique_ptr<Application> makeApplication(int& argc, char** argv)
+{
+    const RuntimeFolder folder;
+    return std::make_unique<Application>(argc, argv);
+}
 
 /// Gives the application object its name, organisation, domain and version.
 void setIdentity();

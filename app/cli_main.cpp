@@ -3,7 +3,7 @@
 #include "app/CommandLineProcessor.h"
 #include "app/Startup.h"
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QLoggingCategory>
 
 namespace {
@@ -26,7 +26,7 @@ int main(int argc, char** argv)
 {
     needNoDisplay();
     hideDebugLines();
-    const auto app = Startup::makeApplication(argc, argv);
+    const auto app = Startup::makeApplication<QGuiApplication>(argc, argv);
     Startup::setIdentity();
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();

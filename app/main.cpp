@@ -19,7 +19,7 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     MemoryPolicy::returnFreedMemory();
     GraphicsPolicy::avoidImitatedOpenGL();
-    const auto app = Startup::makeApplication(argc, argv);
+    const auto app = Startup::makeApplication<QApplication>(argc, argv);
     Startup::setIdentity();
     if (!checkSupportedOS(*app)) {
         std::exit(-1);

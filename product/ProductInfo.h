@@ -2,23 +2,15 @@
 
 #include <QString>
 
-/// What the product is called and where it is found.
+/// What the product is called and where it is found. From any thread.
 namespace ProductInfo {
 
 /// The name of the application and of its organisation: together they fix where the settings are.
-inline QString name()
-{
-    return QStringLiteral("Morvantile");
-}
+QString name();
 
-inline QString version()
-{
-    return QStringLiteral("4.0.2");
-}
+/// The version of the release, such as "4.1.0": that of the CMake project.
+QString version();
 
-inline QString domain()
-{
-    return QStringLiteral("morvantile.example");
-}
+QString domain();
 
 } // namespace ProductInfo

@@ -73,6 +73,19 @@ std::string roff(const std::string& text)
     return result;
 }
 
+/// A paragraph for a manual page, in short lines that each end with a line break.
+std::string roffParagraph(const std::string& text)
+{
+    // Words that begin with a point, which would make a line a command.
+    std::string lines = wrapped(roff(text), 0);
+    for (std::size_t at = 0; at < lines.size(); at = lines.find('\n', at) + 1) {
+        if (lines[at] == '.') {
+            lines.insert(at, "\\&");
+        }
+    }
+    return lines;
+}
+
 std::string roffUsage(const OptionEntry& entry)
 {
     std::string text;
@@ -94,7 +107,7 @@ std::string roffOptions()
         text += std::string(".SS ") + headingOf(section) + "\n";
         for (const OptionEntry& entry : optionTable()) {
             if (entry.section == section) {
-                text += ".TP\n" + roffUsage(entry) + "\n" + roff(entry.text) + "\n";
+                text += ".TP\n" + roffUsage(entry) + "\n" + roffParagraph(entry.text);
             }
         }
     }
@@ -155,19 +168,21 @@ std::string versionText()
 
 std::string manualPage()
 {
-    std::string text = ".TH STILLS 1 \"\" \"Morvantile " MORVANTILE_VERSION "\" \"User Commands\"\n"
+    std::string text = ".TH STILLS 1 \"" MORVANTILE_RELEASE_DATE
+                       "\" \"Morvantile " MORVANTILE_VERSION "\" \"User Commands\"\n"
                        ".SH NAME\nstills \\- take still pictures out of videos\n"
                        ".SH SYNOPSIS\n.B stills\n[\\fIOPTION\\fR]... \\fIVIDEO\\fR...\n"
                        ".SH DESCRIPTION\n";
-    text += roff("Takes pictures out of videos: the first frame at or after each position, in its "
-                 "full size and true colours, upright and with square pixels. Ten, evenly spread, "
-                 "go beside each video unless options say otherwise. No existing file is replaced "
-                 "without --overwrite, and no half file is ever seen.\n");
+    text += roffParagraph(
+        "Takes pictures out of videos: the first frame at or after each position, in its "
+        "full size and true colours, upright and with square pixels. Ten, evenly spread, "
+        "go beside each video unless options say otherwise. No existing file is replaced "
+        "without --overwrite, and no half file is ever seen.");
     text += ".SH OPTIONS\n" + roffOptions();
     text +=
         ".SH EXIT STATUS\n.TP\n.B 0\nAll that was asked for is there.\n.TP\n.B 1\nSome of it is "
         "not; standard error says why.\n.TP\n.B 2\nThe arguments are wrong.\n.TP\n.B 130, "
-        "143\nInterrupted by Ctrl+C or ended by SIGTERM. What was written is whole.\n";
+        "143\nInterrupted by Ctrl+C or ended by SIGTERM.\nWhat was written is whole.\n";
     text += ".SH EXAMPLES\n" + roffExamples();
     return text;
 }

@@ -1,3 +1,4 @@
+#include "product/ProductInfo.h"
 #include "tests/app/CommandLine.h"
 #include "tests/support/ResourceLimits.h"
 #include "tests/support/Samples.h"
@@ -70,6 +71,7 @@ private Q_SLOTS:
     void version_isPrinted_data();
     void version_isPrinted();
     void displayless_platformsAreNotNeeded();
+    void program_needsNoWidgetsAndNoSound();
     void unopenableFile_givesNothing_data();
     void unopenableFile_givesNothing();
     void brokenFile_endsInTime_withCompleteImages_data();
@@ -188,7 +190,7 @@ void CommandLineFailuresTest::version_isPrinted()
     QFETCH(const QString, option);
     const ProgramResult result = commandline::run({option});
     QVERIFY(result.succeeded());
-    QCOMPARE(result.standardOutput, QByteArray("Morvantile 4.0.2\n"));
+    QCOMPARE(result.standardOutput, "Morvantile " + ProductInfo::version().toUtf8() + "\n");
 }
 
 /// The other runs have no display either; here the environment asks for one all the same.
@@ -201,6 +203,18 @@ void CommandLineFailuresTest::displayless_platformsAreNotNeeded()
                                     60000, environment)
                 .succeeded());
     QCOMPARE(imagesIn(dir.path()).size(), 4);
+}
+
+/// Servers install it without the libraries of a desktop.
+void CommandLineFailuresTest::program_needsNoWidgetsAndNoSound()
+{
+    const ProgramResult result =
+        testsupport::runProgram(QStringLiteral("ldd"), {commandline::program()});
+    QVERIFY(result.succeeded());
+    QVERIFY(result.standardOutput.contains("Qt5Gui"));
+    for (const char* const library : {"Qt5Widgets", "Qt5Svg", "Qt5OpenGL", "Qt5Multimedia"}) {
+        QVERIFY2(!result.standardOutput.contains(library), library);
+    }
 }
 
 void CommandLineFailuresTest::unopenableFile_givesNothing_data()

@@ -1,5 +1,7 @@
 #include "app/Startup.h"
 
+#include "product/ProductInfo.h"
+
 #include <QtAV/QtAV_Global.h>
 
 #include <QCoreApplication>
@@ -23,7 +25,7 @@ void StartupTest::identity_isTheProducts()
     QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("Morvantile"));
     QCOMPARE(QCoreApplication::organizationName(), QStringLiteral("Morvantile"));
     QCOMPARE(QCoreApplication::organizationDomain(), QStringLiteral("morvantile.example"));
-    QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("4.0.2"));
+    QCOMPARE(QCoreApplication::applicationVersion(), ProductInfo::version());
     QVERIFY(QSettings().fileName().contains(QStringLiteral("/Morvantile/Morvantile")));
 }
 

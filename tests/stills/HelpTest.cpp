@@ -64,6 +64,7 @@ void HelpTest::manualPage_hasEveryOption()
         QCOMPARE(page.contains(name), entry.section != stills::Section::Hidden);
     }
     for (const QByteArray& line : page.split('\n')) {
+        QVERIFY2(line.size() <= 80, line.constData());
         // A point or an apostrophe at the start of a line is a command.
         QVERIFY2(!line.startsWith('\''), line.constData());
     }

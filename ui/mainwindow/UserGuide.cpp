@@ -13,8 +13,8 @@ namespace {
 QStringList installedFolders()
 {
     const QDir programs(QCoreApplication::applicationDirPath());
-    return {programs.filePath(QStringLiteral("../share/doc/morvantile")),
-            programs.filePath(QStringLiteral("../Resources/doc"))};
+    return {programs.filePath(QStringLiteral("../share/morvantile/user-guide")),
+            programs.filePath(QStringLiteral("../Resources/user-guide"))};
 }
 
 QUrl withSection(QUrl guide, const QString& section)

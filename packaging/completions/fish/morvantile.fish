@@ -1,0 +1,2 @@
+# fish completion for morvantile
+complete -c morvantile -F

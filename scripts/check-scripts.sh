@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Fails where shellcheck finds something in a script; .shellcheckrc says what it does not look for.
+set -euo pipefail
+cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
+
+mapfile -t scripts < <(
+    find . \( -path ./build -o -path ./out -o -path ./.git \) -prune \
+        -o \( -name '*.sh' -o -name '*.sbatch' -o -path './.ci/*' \) -type f -print \
+        -o -path './packaging/completions/bash/*' -print | sort)
+((${#scripts[@]} > 20)) || {
+    printf 'Only %s scripts were found.\n' "${#scripts[@]}" >&2
+    exit 1
+}
+shellcheck --shell=bash "${scripts[@]}"
