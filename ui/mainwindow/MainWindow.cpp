@@ -111,6 +111,8 @@ void MainWindow::connectPlayer()
     connect(m_player, &AVPlayer::started, this, updateSliderNow);
     connect(m_player, &AVPlayer::durationChanged, this, &MainWindow::durationChanged);
     connect(m_player, &AVPlayer::positionChanged, this, &MainWindow::positionChanged);
+    // The frame at the place sought may be the one that was on screen, and lie beside it.
+    connect(m_player, &AVPlayer::seekFinished, this, updateSliderNow);
     connect(m_player, &AVPlayer::notifyIntervalChanged, this, &MainWindow::updateSliderUnit);
     connect(m_player, &AVPlayer::stateChanged, this, &MainWindow::updatePlayButton);
     connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::updatePlayButton);
@@ -128,6 +130,7 @@ void MainWindow::connectTransport()
     connect(m_ui->videoSlider, &QSlider::sliderMoved, this,
             [this](int value) { seekBySlider(value); });
     connect(m_ui->videoSlider, &QSlider::sliderPressed, this, [this] { seekBySlider(); });
+    connect(m_ui->videoSlider, &QSlider::sliderReleased, this, [this] { updateSlider(); });
     connect(m_ui->playButton, &QPushButton::clicked, this, &MainWindow::playPause);
     connect(m_ui->stepBackwardButton, &QPushButton::clicked, this, &MainWindow::stepBackward);
     connect(m_ui->stepForwardButton, &QPushButton::clicked, this, &MainWindow::stepForward);

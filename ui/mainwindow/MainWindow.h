@@ -103,11 +103,13 @@ public Q_SLOTS:
     void updateSlider(qint64 position);
     void durationChanged(qint64 duration);
     void positionChanged(qint64 position);
+    /// Go where the slider stands, or would stand at this value; plays on if it was playing.
     void seekBySlider(int value);
     void seekBySlider();
     void skipBackward();
     void skipForward();
-    /// Pauses and goes `ms` milliseconds on, or back where it is negative.
+    /// Pauses and goes `ms` milliseconds on, or back where it is negative, from where the player is
+    /// going: calls that come before a frame does add up.
     void seekRelative(qint64 ms);
     void stepBackward();
     void stepForward();

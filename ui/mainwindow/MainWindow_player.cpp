@@ -241,7 +241,7 @@ void MainWindow::updateSlider()
         return;
     }
     m_ui->videoSlider->setRange(0, sliderSteps(m_player->duration(), m_sliderUnit));
-    m_ui->videoSlider->setValue(sliderSteps(m_player->displayPosition(), m_sliderUnit));
+    m_ui->videoSlider->setValue(sliderSteps(m_player->position(), m_sliderUnit));
 }
 
 void MainWindow::updateSlider(qint64 position)
@@ -265,9 +265,7 @@ void MainWindow::positionChanged(qint64 position)
 
 void MainWindow::seekBySlider(int value)
 {
-    if (m_player->isPlaying()) {
-        m_player->seek(value * m_sliderUnit);
-    }
+    m_player->seek(value * m_sliderUnit);
 }
 
 void MainWindow::seekBySlider()
@@ -288,7 +286,7 @@ void MainWindow::skipForward()
 void MainWindow::seekRelative(qint64 ms)
 {
     m_player->pause();
-    m_player->setPosition(m_player->displayPosition() + ms);
+    m_player->setPosition(m_player->position() + ms);
 }
 
 void MainWindow::stepBackward()
