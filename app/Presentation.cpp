@@ -1,5 +1,6 @@
 #include "app/Presentation.h"
 
+#include "profiles/ReadyProfiles.h"
 #include "ui/mainwindow/MainWindow.h"
 
 #include <QApplication>
@@ -46,6 +47,7 @@ void showMainWindow(QApplication& app)
 {
     Presentation::applyStyleSheet(app, QStringLiteral(":/Styles.qss"));
     QApplication::setWindowIcon(applicationIcon());
+    ReadyProfiles::addOnFirstStart();
     // Gone before the application object is: the player's threads end with it.
     const auto window = std::make_unique<MainWindow>();
     window->resize(800, 600);

@@ -135,7 +135,10 @@ public Q_SLOTS:
     void on_actionTake_Snapshot_triggered();
     void on_actionCopy_Snapshot_triggered();
     void on_actionCopy_Full_Frame_triggered();
+    /// The chosen profile is used from now on, also for the snapshot that is there.
     void on_imageProfileComboBox_activated(int index);
+    /// Selects a profile like the selected one, but in the video's own size; makes it if need be.
+    void on_originalSizeButton_clicked();
     void on_filenameProfileComboBox_activated(int index);
     void on_selectOutputFolderButton_clicked();
     void on_automaticFileNameGroupBox_toggled(bool on);
@@ -185,6 +188,9 @@ private:
     [[nodiscard]] QString makeSnapshot(ImageProfile* profile);
     void warnOfCapture(const QString& reason);
     void resetSnapshot();
+    void selectImageProfile(ImageProfile& profile);
+    [[nodiscard]] QString typeToSave() const;
+    void showSnapshotSummary();
     [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
     [[nodiscard]] WriteResult saveNewSnapshot(const QString& path);
     [[nodiscard]] PictureSource sourceOfCapture(const QImage& image) const;

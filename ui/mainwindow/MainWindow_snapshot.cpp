@@ -133,6 +133,7 @@ QString MainWindow::makeSnapshot(ImageProfile* profile)
     const imaging::Rendering made = imaging::render(m_fullFrameImage, m_snapshotRecipe);
     m_snapshotImage = made.image;
     m_ui->snapshotImageView->setImage(m_snapshotImage);
+    showSnapshotSummary();
     return made.error;
 }
 
@@ -149,6 +150,7 @@ void MainWindow::resetSnapshot()
     m_snapshotImage = QImage();
     m_capturedSource = PictureSource();
     m_ui->snapshotImageView->setImage(m_snapshotImage);
+    showSnapshotSummary();
 }
 
 void MainWindow::setSnapshotControlsEnabled(bool on)
@@ -271,6 +273,7 @@ void MainWindow::updateAutomaticFileNameDisplay()
     if (isShown) {
         m_ui->nextFileNameLabel->setText(automaticFileName(folderIn(*m_ui->outputFolderLineEdit)));
     }
+    showSnapshotSummary();
 }
 
 void MainWindow::on_automaticFileNameGroupBox_toggled(bool on)
@@ -325,6 +328,7 @@ void MainWindow::saveAs(const QString& chosen)
         m_saveDialogDir = m_saveDialog->directory();
         m_saveDialogFileName = QFileInfo(path).fileName();
         m_saveDialogNameFilter = m_saveDialog->selectedNameFilter();
+        showSnapshotSummary();
     }
 }
 
@@ -370,8 +374,7 @@ void MainWindow::on_imageProfileComboBox_activated(int index)
     BaseProfile* const chosen =
         chooseProfile(*m_ui->imageProfileComboBox, *ImageProfile::profileManager());
     if (chosen != nullptr) {
-        m_imageProfile = static_cast<ImageProfile*>(chosen);
-        followDeinterlacing();
+        selectImageProfile(*static_cast<ImageProfile*>(chosen));
     }
 }
 
