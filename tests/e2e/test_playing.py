@@ -31,6 +31,16 @@ class PlayingTest(MorvantileCase):
         self.program.click("push button", "Play/Pause")
         self.wait_for_standstill(self.program)
 
+    def test_click_on_the_video_pauses_and_plays(self):
+        self.open_long_video()
+        self.desktop.click(*self.program.open_button().middle)
+        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+        self.desktop.click(*self.program.open_button().middle)
+        self.wait_for_standstill(self.program)
+        # The keys stay the video's.
+        self.desktop.key("space")
+        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+
     def test_step_keys_go_one_frame(self):
         number = self.open_long_video()
         for key, change in (("Right", 1), ("Right", 1), ("Left", -1), ("Left", -1), ("Left", -1)):

@@ -160,6 +160,9 @@ void MainWindow::alignControls()
     m_ui->splitter->setChildrenCollapsible(false);
     m_ui->playerLayout->setAlignment(m_ui->videoControlsFrame, Qt::AlignHCenter);
     m_ui->snapshotLayout->setAlignment(m_ui->snapshotControlsFrame, Qt::AlignHCenter);
+    // Two lines of it, so that the snapshot keeps its size when its line comes up.
+    m_ui->snapshotSummaryLabel->setFixedHeight(
+        2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());
     reserveTimeWidth(*m_ui->positionLabel);
     reserveTimeWidth(*m_ui->durationLabel);
 }

@@ -91,6 +91,7 @@ public:
 
 public Q_SLOTS:
     // The player.
+    /// Plays and pauses the video that is shown; where there is none, asks for one.
     void openVideoLabelClicked();
     void showSelectVideoDialog();
     void openVideo(QString path);
@@ -183,6 +184,8 @@ private:
     void noticeMediaStatus();
     void noticeFailedRead(const QString& reason);
     void showOpenButton(const QString& text);
+    void hideOpenButton();
+    [[nodiscard]] bool isVideoShown() const;
 
     void capture();
     [[nodiscard]] QString makeSnapshot(ImageProfile* profile);

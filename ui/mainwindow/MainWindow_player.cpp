@@ -95,7 +95,17 @@ void MainWindow::on_actionOpen_triggered()
 
 void MainWindow::openVideoLabelClicked()
 {
-    showSelectVideoDialog();
+    if (isVideoShown()) {
+        playPause();
+    } else {
+        showSelectVideoDialog();
+    }
+}
+
+/// A video is open, and nothing says that it cannot be played.
+bool MainWindow::isVideoShown() const
+{
+    return isVideoLoaded() && m_player->mediaStatus() != QtAV::InvalidMedia;
 }
 
 void MainWindow::showSelectVideoDialog()
@@ -126,8 +136,7 @@ void MainWindow::openVideo(QString path)
     proposeFileName(video);
     followVideoFolder(video);
     m_ui->outputFolderLineEdit->setText(QDir::toNativeSeparators(video.absolutePath()));
-    m_videoOutput->widget()->raise();
-    m_ui->openVideoLabel->setFocusPolicy(Qt::NoFocus);
+    hideOpenButton();
     // The keys are the video's, and no button asks for them.
     m_ui->videoFrame->setFocus();
     setVideoControlsEnabled(true);
@@ -177,8 +186,22 @@ void MainWindow::closeVideo()
 void MainWindow::showOpenButton(const QString& text)
 {
     m_ui->openVideoLabel->setText(text);
+    m_ui->openVideoLabel->setAccessibleName(QString());
+    m_ui->openVideoLabel->setAccessibleDescription(QString());
+    m_ui->openVideoLabel->setToolTip(tr("Open a video, or drop one here"));
     m_ui->openVideoLabel->setFocusPolicy(Qt::TabFocus);
     m_ui->openVideoLabel->raise();
+}
+
+/// Behind the video, the button still takes the clicks on it. It has no tool tip there, which would
+/// cover the picture.
+void MainWindow::hideOpenButton()
+{
+    m_videoOutput->widget()->raise();
+    m_ui->openVideoLabel->setAccessibleName(tr("Video"));
+    m_ui->openVideoLabel->setAccessibleDescription(tr("Plays and pauses"));
+    m_ui->openVideoLabel->setToolTip(QString());
+    m_ui->openVideoLabel->setFocusPolicy(Qt::NoFocus);
 }
 
 /// What cannot be played would leave a black screen, and nobody would know why.

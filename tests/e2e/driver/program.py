@@ -190,7 +190,13 @@ class Program:
 
     def open_button(self):
         """The button in the place of the video, which also lies behind a video that is shown."""
-        return self.find("push button", description="Open a video, or drop one here")
+        wanted = ("Open a video, or drop one here", "Plays and pauses")
+
+        def found():
+            buttons = self._controls("push button", None, None)
+            return next((button for button in buttons if button.description in wanted), None)
+
+        return wait_until(found, "neither a video nor a button that opens one")
 
     def open_with_dialog(self, path):
         """Opens the video as a user does, and waits until it is on the screen."""

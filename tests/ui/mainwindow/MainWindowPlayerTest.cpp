@@ -25,6 +25,7 @@ class MainWindowPlayerTest : public QObject
 
 private Q_SLOTS:
     void playPause_goesBothWays();
+    void click_playsAndPausesTheVideo();
     void playButton_showsWhatItDoes();
     void space_pressesTheControlReachedByTab_elseItPlays();
     void step_showsTheNextAndThePreviousFrame();
@@ -69,6 +70,22 @@ void MainWindowPlayerTest::playPause_goesBothWays()
     QTRY_VERIFY(window.player().isPaused());
     window.find<QAction>("actionPlayPause").trigger();
     QTRY_VERIFY(window.player().isPlaying());
+}
+
+void MainWindowPlayerTest::click_playsAndPausesTheVideo()
+{
+    OpenWindow window;
+    auto& area = window.find<QPushButton>("openVideoLabel");
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QCOMPARE(area.accessibleName(), QStringLiteral("Video"));
+    QCOMPARE(area.toolTip(), QString());
+    area.click();
+    QTRY_VERIFY(window.player().isPlaying());
+    area.click();
+    QTRY_VERIFY(window.player().isPaused());
+    window->closeVideo();
+    QCOMPARE(area.accessibleName(), QString());
+    QVERIFY(!area.toolTip().isEmpty());
 }
 
 void MainWindowPlayerTest::playButton_showsWhatItDoes()
