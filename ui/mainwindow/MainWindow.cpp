@@ -1,6 +1,5 @@
 #include "ui/mainwindow/MainWindow.h"
 
-#include "ui/mainwindow/DroppedVideo.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui_MainWindow.h"
 
@@ -8,15 +7,10 @@
 #include <QtAV/VideoOutput.h>
 
 #include <QAbstractButton>
-#include <QCloseEvent>
 #include <QComboBox>
-#include <QCoreApplication>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QMimeData>
 
 namespace {
 
@@ -191,53 +185,8 @@ bool MainWindow::event(QEvent* event)
     return QMainWindow::event(event);
 }
 
-void MainWindow::on_actionExit_triggered()
-{
-    quit();
-}
-
-void MainWindow::confirmQuit()
-{
-    quit();
-}
-
-void MainWindow::closeEvent(QCloseEvent* event)
-{
-    event->ignore();
-    quit();
-}
-
-void MainWindow::quit()
-{
-    if (m_videoOutput != nullptr) {
-        m_videoOutput->deleteLater();
-    }
-    QCoreApplication::quit();
-}
-
 void MainWindow::retakeFocusAfterDialog()
 {
     raise();
     activateWindow();
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!DroppedVideo::pathIn(*event->mimeData()).isEmpty()) {
-        event->setDropAction(Qt::CopyAction);
-        event->accept();
-    }
-}
-
-void MainWindow::dropEvent(QDropEvent* event)
-{
-    const QString path = DroppedVideo::pathIn(*event->mimeData());
-    if (path.isEmpty()) {
-        return;
-    }
-    // Never a move: the program where the file comes from would delete it.
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    openVideo(path);
-    retakeFocusAfterDialog();
 }

@@ -34,8 +34,9 @@ class MainWindow;
 /// The application's one window: on the left a video player, on the right the snapshot taken from
 /// it, which is saved or copied.
 ///
-/// Its sources are split by topic: construction and ending in MainWindow.cpp, the player in
-/// MainWindow_player.cpp, the snapshot in MainWindow_snapshot.cpp, the menus in
+/// Its sources are split by topic: construction in MainWindow.cpp, videos from outside and ending
+/// in MainWindow_files.cpp, the player in MainWindow_player.cpp, the snapshot in
+/// MainWindow_snapshot.cpp and what is told of it in MainWindow_summary.cpp, the menus in
 /// MainWindow_menus.cpp.
 ///
 /// Settings: "lastOpenDir", the folder that the save dialog starts in. User-interface thread only.
@@ -156,10 +157,13 @@ public Q_SLOTS:
 
     /// Ends the application, without a question.
     void confirmQuit();
+    /// Opens what another program passed on, when a snapshot that is not saved may go.
+    void openFromOutside(const QString& path);
     void retakeFocusAfterDialog();
 
 protected:
     bool event(QEvent* event) override;
+    /// Asks about a snapshot that was not saved; then ends the application.
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -187,6 +191,7 @@ private:
     void hideOpenButton();
     [[nodiscard]] bool isVideoShown() const;
 
+    [[nodiscard]] bool maySnapshotGo();
     void capture();
     [[nodiscard]] QString makeSnapshot(ImageProfile* profile);
     void warnOfCapture(const QString& reason);
@@ -206,6 +211,8 @@ private:
     QSettings m_settings;
     /// As processed; null until the first capture.
     QImage m_snapshotImage;
+    /// There is none, or it was saved or copied.
+    bool m_isSnapshotKept = true;
     /// What m_snapshotImage was made by.
     ImageRecipe m_snapshotRecipe;
     /// As captured.

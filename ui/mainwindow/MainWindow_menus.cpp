@@ -61,11 +61,13 @@ void MainWindow::on_editFileNameProfileButton_clicked()
 
 void MainWindow::on_actionBatch_Mode_triggered()
 {
-    closeVideo();
+    pause();
     BatchModeDialog(this).exec();
     // Profiles may have been added, renamed and chosen there.
     loadImageProfileComboBox();
     loadFileNameProfileComboBox();
+    imageProfileUpdated(m_imageProfile);
+    updateAutomaticFileNameDisplay();
     retakeFocusAfterDialog();
 }
 

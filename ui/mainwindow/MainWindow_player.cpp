@@ -118,7 +118,7 @@ void MainWindow::showSelectVideoDialog()
         return;
     }
     const QString file = dialog.selectedFiles().value(0);
-    if (!file.isEmpty()) {
+    if (!file.isEmpty() && maySnapshotGo()) {
         openVideo(file);
     }
 }
@@ -218,6 +218,8 @@ void MainWindow::noticeMediaStatus()
     showOpenButton(fitting(name) + QLatin1Char('\n') + tr("cannot be played as a video.") +
                    QLatin1String("\n\n") + tr("Click to open another video"));
     statusBar()->showMessage(m_player->errorString());
+    // A snapshot that was taken before stays.
+    setVideoControlsEnabled(false);
 }
 
 /// The picture that stays on screen does not tell why the video does not go on.

@@ -77,6 +77,7 @@ void MainWindow::snapshotCaptured(const QImage& image)
     m_fullFrameImage = image.copy();
     m_capturedSource = sourceOfCapture(image);
     const QString error = makeSnapshot(nullptr);
+    m_isSnapshotKept = m_snapshotImage.isNull();
     // Without a snapshot as well: the profile may be to blame, and is edited there.
     setSnapshotControlsEnabled(true);
     if (!error.isEmpty()) {
@@ -149,6 +150,7 @@ void MainWindow::resetSnapshot()
     m_fullFrameImage = QImage();
     m_snapshotImage = QImage();
     m_capturedSource = PictureSource();
+    m_isSnapshotKept = true;
     m_ui->snapshotImageView->setImage(m_snapshotImage);
     showSnapshotSummary();
 }
@@ -208,6 +210,7 @@ WriteResult MainWindow::saveNewSnapshot(const QString& path)
 void MainWindow::reportSaving(const QString& path, bool success)
 {
     qDebug() << (success ? "Save success" : "Save failure") << path;
+    m_isSnapshotKept = m_isSnapshotKept || success;
     const QString shownPath = QDir::toNativeSeparators(path);
     statusBar()->showMessage((success ? tr("Saved %1") : tr("Could not save %1")).arg(shownPath),
                              messageMs);
@@ -345,6 +348,7 @@ void MainWindow::on_actionCopy_Snapshot_triggered()
 {
     if (!m_snapshotImage.isNull()) {
         ImageProcessingManager::instance()->setToClipboard(m_snapshotImage.copy());
+        m_isSnapshotKept = true;
     }
 }
 
@@ -352,6 +356,7 @@ void MainWindow::on_actionCopy_Full_Frame_triggered()
 {
     if (!m_fullFrameImage.isNull()) {
         ImageProcessingManager::instance()->setToClipboard(m_fullFrameImage.copy());
+        m_isSnapshotKept = true;
     }
 }
 
