@@ -92,11 +92,12 @@ class BatchTest(MorvantileCase):
         count = len(images_in(self.pictures))
         wait_until(lambda: len(images_in(self.pictures)) > count, "it does not go on")
         self.answer_cancelling("Yes")
-        self.wait_for_completion()
+        outcome = self.wait_for_completion("Cancelled after ")
         self.assertLess(self.program.find("progress bar", "Progress of all videos").value, 50)
 
         names = sorted(file.name for file in self.pictures.iterdir())
         new = [f"a-{i:05}.jpeg" for i in range(5, len(names) - 3)]
+        self.assertEqual(outcome, f"Cancelled after {len(new)} images")
         self.assertEqual(names, sorted([*first, *new]))
         numbers = [frame_in(self.pictures / name) for name in new]
         self.assertNotIn(None, numbers)
@@ -155,17 +156,21 @@ class BatchTest(MorvantileCase):
     def run_to_its_end(self):
         self.program.click("push button", "Start")
         self.program.window(RUN)
-        self.wait_for_completion()
+        self.wait_for_completion("Finished: ")
         for name in ("Progress of the current video", "Progress of all videos"):
             self.assertEqual(self.program.find("progress bar", name).value, 100, name)
         self.program.click_in(RUN, "Done")
         self.program.window(MODE)
 
-    def wait_for_completion(self):
+    def wait_for_completion(self, outcome):
+        """Waits until the log says how the batch ended and nothing else; gives what it says."""
         self.program.find("push button", "Done")
         log = self.program.find("text", "Log")
-        wait_until(lambda: log.text.strip() == "Processing Complete", lambda: f"log: {log.text}")
-        self.program.find("label", "Processing Complete", "Status")
+        wait_until(lambda: log.text.startswith(outcome), lambda: f"log: {log.text}")
+        text = log.text.strip()
+        self.assertNotIn("\n", text)
+        self.program.find("label", text, "Status")
+        return text
 
     def answer_cancelling(self, answer):
         self.program.click_in(RUN, "Cancel")

@@ -365,7 +365,8 @@ void BatchModeDialogFilesTest::start_runsAllJobs_andKeepsTheList()
     QVERIFY(script.isDone());
     QCOMPARE(QDir(mode.dir().path()).entryList({QStringLiteral("*.jpeg")}),
              (QStringList{QStringLiteral("h264_bframes-.jpeg"), QStringLiteral("mpeg4-.jpeg")}));
-    QCOMPARE(log, mode.file(2) + QStringLiteral(": Could not open file\nProcessing Complete\n"));
+    QCOMPARE(log, mode.file(2) +
+                      QStringLiteral(": Could not open file\nFinished: 2 images, 1 failed\n"));
     QCOMPARE(mode.model().rowCount(), 3);
     QCOMPARE(mode.selectedRows(), QList<int>{0});
 }
