@@ -13,6 +13,8 @@ from tests.e2e.driver.waiting import LIMIT_S, wait_until
 CLI = pathlib.Path(os.environ.get("MORVANTILE_CLI", "build/release/app/morvantile-cli")).absolute()
 
 MODE = "Morvantile Batch Mode"
+# Of the list: file name, destination, interval, output example, images.
+COLUMNS = 5
 RUN = "Batch Processing"
 
 # One every 2000 ms, from 600 ms to 600 ms before the end of 20.8 and of 4 seconds; and one every
@@ -112,6 +114,60 @@ class BatchTest(MorvantileCase):
         self.assertTrue(self.program.find("push button", "Play/Pause").is_enabled)
         self.program.open_with_dialog(videos[1])
 
+    def test_failed_video_is_marked_and_retried_alone(self):
+        good = self.sample("h264_gop250.mp4", "good.mp4")
+        broken = self.sample("random_bytes.mp4", "broken.mp4")
+        self.open_batch_mode()
+        self.load(good, broken)
+        self.assertEqual(self.column(4), ["4", "?"])
+        folder = self.pictures / "new"
+        self.program.fill("Folder", str(folder))
+        self.program.click("push button", "Start")
+        self.program.click_in("Folder does not exist", "Yes")
+        self.program.window(RUN)
+        self.program.find("push button", "Done")
+        log = self.program.find("text", "Log")
+        wait_until(lambda: "Finished" in log.text, lambda: f"log: {log.text}")
+        self.assertEqual(
+            log.text.splitlines(), [f"{broken}: Could not open file", "Finished: 4 images, 1 failed"]
+        )
+        self.program.click_in(RUN, "Done")
+        self.program.window(MODE)
+        self.assertEqual([cell.description for cell in self.cells(0)], ["", "Failed"])
+
+        broken.write_bytes(good.read_bytes())
+        self.program.click("push button", "Retry Failed")
+        self.program.window(RUN)
+        self.wait_for_completion("Finished: 4 images")
+        self.program.click_in(RUN, "Done")
+        self.program.window(MODE)
+        self.assertEqual([cell.description for cell in self.cells(0)], ["", ""])
+        self.assertFalse(self.program.has("push button", "Retry Failed"))
+        self.assertEqual(
+            sorted(images_in(folder)),
+            [f"{name}-{i:05}.jpeg" for name in ("broken", "good") for i in range(1, 5)],
+        )
+
+    def test_list_comes_back_after_a_restart(self):
+        videos = [self.sample("h264_gop250.mp4", name) for name in ("a.mp4", "b.mp4")]
+        self.open_batch_mode()
+        self.load(*videos)
+        self.select("b")
+        self.program.fill("Milliseconds from image to image", "2000")
+        self.program.fill("Folder", str(self.pictures))
+        self.program.find("label", "About 13 images of 2 videos")
+        self.desktop.key("Escape")
+        self.program.window("Morvantile")
+        self.desktop.key("alt+F4")
+        self.assertEqual(self.program.wait_for_end(), 0)
+
+        self.program = self.start()
+        self.open_batch_mode()
+        wait_until(lambda: self.column(0) == ["a", "b"], lambda: f"listed: {self.column(0)}")
+        self.assertEqual(self.column(1), [str(self.videos), str(self.pictures)])
+        self.assertEqual(self.column(2), ["Every 5000ms", "Every 2000ms"])
+        self.assertEqual(self.column(4), ["4", "9"])
+
     # --- what the cases are made of ------------------------------------------------------------
 
     def open_batch_mode(self):
@@ -131,7 +187,7 @@ class BatchTest(MorvantileCase):
 
     def cells(self, column):
         cells = self.program.find("table", "Files").all("table cell")
-        return [cell for i, cell in enumerate(cells) if i % 4 == column]
+        return [cell for i, cell in enumerate(cells) if i % COLUMNS == column]
 
     def column(self, column):
         """What the column of the list of videos says, row by row."""

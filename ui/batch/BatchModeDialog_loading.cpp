@@ -53,12 +53,11 @@ void BatchModeDialog::setupLoading()
     connect(&m_loadingDelay, &QTimer::timeout, &widget, &QWidget::show);
     connect(m_loader, &VideoInfoLoader::loaded, this, &BatchModeDialog::listJob);
     connect(m_loader, &VideoInfoLoader::finished, this, &BatchModeDialog::endLoading);
-    connect(this, &QDialog::finished, this, &BatchModeDialog::on_stopLoadingButton_clicked);
+    connect(this, &QDialog::finished, this, &BatchModeDialog::endList);
 }
 
 void BatchModeDialog::on_loadVideoButton_clicked()
 {
-    saveBatchWorkerConfigDefault();
     SmartFileDialog dialog(this, QStringLiteral("openDialog"));
     dialog.setFiltersToVideo();
     dialog.setFileMode(QFileDialog::ExistingFiles);
@@ -70,7 +69,6 @@ void BatchModeDialog::on_loadVideoButton_clicked()
 
 void BatchModeDialog::loadVideos(const QStringList& files)
 {
-    saveBatchWorkerConfigDefault();
     addVideos(files);
 }
 
@@ -79,12 +77,8 @@ bool BatchModeDialog::isLoading() const
     return m_loader->isLoading();
 }
 
-/// The selection is cleared first: what a person selects before all is read stays selected then.
 void BatchModeDialog::addVideos(const QStringList& files)
 {
-    if (files.isEmpty()) {
-        return;
-    }
     QList<BatchWorkerConfig*> jobs;
     for (const QString& file : files) {
         auto* const config = new BatchWorkerConfig(this);
@@ -93,6 +87,15 @@ void BatchModeDialog::addVideos(const QStringList& files)
         config->loadFromLastUsed();
         config->setSource(file);
         jobs.append(config);
+    }
+    read(jobs);
+}
+
+/// The selection is cleared first: what a person selects before all is read stays selected then.
+void BatchModeDialog::read(const QList<BatchWorkerConfig*>& jobs)
+{
+    if (jobs.isEmpty()) {
+        return;
     }
     m_newJobs = QSet<BatchWorkerConfig*>(jobs.cbegin(), jobs.cend());
     m_ui->filesTableView->clearSelection();

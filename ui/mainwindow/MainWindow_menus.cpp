@@ -62,7 +62,9 @@ void MainWindow::on_editFileNameProfileButton_clicked()
 void MainWindow::on_actionBatch_Mode_triggered()
 {
     pause();
-    BatchModeDialog(this).exec();
+    BatchModeDialog dialog(this);
+    dialog.keepList();
+    dialog.exec();
     // Profiles may have been added, renamed and chosen there.
     loadImageProfileComboBox();
     loadFileNameProfileComboBox();
