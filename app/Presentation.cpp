@@ -68,6 +68,7 @@ void showMainWindow(QApplication& app, const QStringList& files)
     const auto window = std::make_unique<MainWindow>();
     window->resize(800, 600);
     Presentation::centre(*window, QGuiApplication::primaryScreen()->geometry());
+    window->restoreLayout();
     window->show();
     RunningInstance instance(openerIn(*window));
     if (!instance.listen(RunningInstance::meetingPlace())) {

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QItemSelection>
 #include <QMimeData>
+#include <QSettings>
 #include <QUrl>
 
 #include <chrono>
@@ -79,6 +80,11 @@ bool BatchModeDialog::isLoading() const
 
 void BatchModeDialog::addVideos(const QStringList& files)
 {
+    if (!files.isEmpty()) {
+        // Also where they were dropped, or typed with their folder.
+        QSettings().setValue(QStringLiteral("openDialog_dialogPath"),
+                             QFileInfo(files.constLast()).absolutePath());
+    }
     QList<BatchWorkerConfig*> jobs;
     for (const QString& file : files) {
         auto* const config = new BatchWorkerConfig(this);

@@ -84,6 +84,7 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     setSnapshotControlsEnabled(false);
     updateAutomaticFileNameDisplay();
     setupVolumePopup();
+    setupShowInFolder();
 }
 
 /// Says that there is nothing to show videos with, and leaves only what works without.
@@ -142,8 +143,10 @@ void MainWindow::connectTransport()
     connect(m_ui->snapshotButton, &QPushButton::clicked, this, &MainWindow::snapshotButtonPressed);
     connect(m_ui->saveButton, &QPushButton::clicked, this, &MainWindow::saveButtonPressed);
     // Not at every key: each folder on the way to the one that is meant would raise the counter.
-    connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this,
-            &MainWindow::updateAutomaticFileNameDisplay);
+    connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this, [this] {
+        noteOutputFolder();
+        updateAutomaticFileNameDisplay();
+    });
     // The field has uses of its own for Space and the keys that take, copy and step.
     connect(m_ui->outputFolderLineEdit, &QLineEdit::returnPressed, this,
             [this] { m_ui->videoFrame->setFocus(); });

@@ -20,6 +20,7 @@
 class FileNameProfile;
 class ImageProfile;
 class QFileDialog;
+class QPushButton;
 class VolumePopup;
 
 namespace QtAV {
@@ -35,11 +36,14 @@ class MainWindow;
 /// it, which is saved or copied.
 ///
 /// Its sources are split by topic: construction in MainWindow.cpp, videos from outside and ending
-/// in MainWindow_files.cpp, the player in MainWindow_player.cpp, the snapshot in
+/// in MainWindow_files.cpp, what is remembered in MainWindow_memory.cpp, the player in
+/// MainWindow_player.cpp, the snapshot in
 /// MainWindow_snapshot.cpp and what is told of it in MainWindow_summary.cpp, the menus in
 /// MainWindow_menus.cpp.
 ///
-/// Settings: "lastOpenDir", the folder that the save dialog starts in. User-interface thread only.
+/// Settings: "lastOpenDir", the folder that the save dialog starts in, and "lastSaveDir" in place
+/// of it where the user saved elsewhere; "outputFolder" of the automatic names,
+/// "automaticFileName", "windowGeometry", "splitterState". User-interface thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -90,6 +94,10 @@ public:
     /// Makes the save dialog; to be called once.
     void setupFileDialogs();
 
+    /// Gives the window the size, the place and all else that the last one kept at its end. Before
+    /// it is shown, and before a video is opened.
+    void restoreLayout();
+
 public Q_SLOTS:
     // The player.
     /// Plays and pauses the video that is shown; where there is none, asks for one.
@@ -132,6 +140,8 @@ public Q_SLOTS:
     void imageProfileUpdated(ImageProfile* profile);
     void saveButtonPressed();
     void on_actionSaveSnapshot_triggered();
+    /// Shows the file that was saved last in the file manager.
+    void on_actionShow_in_Folder_triggered();
     void saveWithAutomaticFileName();
     void showSaveDialog();
     void on_actionTake_Snapshot_triggered();
@@ -182,7 +192,14 @@ private:
     void followDeinterlacing();
     void shareSpaceKey();
     void quit();
+    void saveLayout();
+    void setupShowInFolder();
+    void offerToShowSavedFile();
 
+    void showOutputFolder(const QFileInfo& video);
+    void noteOutputFolder();
+    void noteSaveFolder();
+    void noteOpenFolder(const QFileInfo& video);
     void followVideoFolder(const QFileInfo& video);
     void proposeFileName(const QFileInfo& video);
     void noticeMediaStatus();
@@ -227,6 +244,10 @@ private:
     QPointer<QtAV::VideoOutput> m_videoOutput;
     QDir m_lastOpenDir;
     QDir m_saveDialogDir;
+    /// Of the automatic names, as the user chose it; empty for that of the video.
+    QString m_outputFolder;
+    QString m_lastSavedFile;
+    QPushButton* m_showInFolderButton = nullptr;
     QString m_saveDialogFileName;
     QString m_saveDialogNameFilter;
     QFileDialog* m_saveDialog = nullptr;

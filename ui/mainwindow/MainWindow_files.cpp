@@ -3,6 +3,8 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include "ui/mainwindow/DroppedVideo.h"
+#include "ui/mainwindow/FileManager.h"
+#include "ui_MainWindow.h"
 
 #include <QtAV/VideoOutput.h>
 
@@ -12,6 +14,8 @@
 #include <QDropEvent>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
+#include <QStatusBar>
 
 /// Asks about a snapshot that was neither saved nor copied. False where it must stay.
 bool MainWindow::maySnapshotGo()
@@ -92,8 +96,34 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::quit()
 {
+    saveLayout();
     if (m_videoOutput != nullptr) {
         m_videoOutput->deleteLater();
     }
     QCoreApplication::quit();
+}
+
+/// Beside the message on what was saved, and there after it is gone.
+void MainWindow::setupShowInFolder()
+{
+    m_showInFolderButton = new QPushButton(tr("Show in Folder"), this);
+    m_showInFolderButton->setObjectName(QStringLiteral("showInFolderButton"));
+    m_showInFolderButton->setToolTip(tr("Show the file that was saved last in its folder"));
+    m_showInFolderButton->setFocusPolicy(Qt::TabFocus);
+    m_showInFolderButton->hide();
+    statusBar()->addPermanentWidget(m_showInFolderButton);
+    m_ui->actionShow_in_Folder->setEnabled(false);
+    connect(m_showInFolderButton, &QPushButton::clicked, this,
+            &MainWindow::on_actionShow_in_Folder_triggered);
+}
+
+void MainWindow::offerToShowSavedFile()
+{
+    m_showInFolderButton->show();
+    m_ui->actionShow_in_Folder->setEnabled(true);
+}
+
+void MainWindow::on_actionShow_in_Folder_triggered()
+{
+    FileManager::show(m_lastSavedFile);
 }

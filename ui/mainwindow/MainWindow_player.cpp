@@ -135,7 +135,8 @@ void MainWindow::openVideo(QString path)
     volumeChanged(m_volumePopup->volume());
     proposeFileName(video);
     followVideoFolder(video);
-    m_ui->outputFolderLineEdit->setText(QDir::toNativeSeparators(video.absolutePath()));
+    showOutputFolder(video);
+    noteOpenFolder(video);
     hideOpenButton();
     // The keys are the video's, and no button asks for them.
     m_ui->videoFrame->setFocus();
@@ -167,6 +168,7 @@ void MainWindow::followVideoFolder(const QFileInfo& video)
     m_lastOpenDir = video.absoluteDir();
     m_saveDialogDir = m_lastOpenDir;
     m_settings.setValue(QStringLiteral("lastOpenDir"), m_lastOpenDir.absolutePath());
+    noteSaveFolder();
 }
 
 void MainWindow::closeVideo()

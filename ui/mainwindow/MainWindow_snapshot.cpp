@@ -212,6 +212,10 @@ void MainWindow::reportSaving(const QString& path, bool success)
     qDebug() << (success ? "Save success" : "Save failure") << path;
     m_isSnapshotKept = m_isSnapshotKept || success;
     const QString shownPath = QDir::toNativeSeparators(path);
+    if (success) {
+        m_lastSavedFile = QFileInfo(path).absoluteFilePath();
+        offerToShowSavedFile();
+    }
     statusBar()->showMessage((success ? tr("Saved %1") : tr("Could not save %1")).arg(shownPath),
                              messageMs);
 }
@@ -294,6 +298,7 @@ void MainWindow::on_selectOutputFolderButton_clicked()
         QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     if (!folder.isEmpty() && QDir(folder).exists()) {
         m_ui->outputFolderLineEdit->setText(QDir::toNativeSeparators(folder));
+        noteOutputFolder();
         updateAutomaticFileNameDisplay();
     }
 }
@@ -313,7 +318,9 @@ void MainWindow::showSaveDialog()
     if (!m_saveDialogNameFilter.isEmpty()) {
         m_saveDialog->selectNameFilter(m_saveDialogNameFilter);
     }
-    m_saveDialog->selectFile(m_saveDialogFileName);
+    m_saveDialog->selectFile(SavePath::nextFree(m_saveDialogDir, m_saveDialogFileName,
+                                                m_saveDialog->selectedNameFilter(),
+                                                QFileInfo(m_currentVideoPath).completeBaseName()));
     if (m_saveDialog->exec() == QDialog::Accepted) {
         saveAs(m_saveDialog->selectedFiles().value(0));
     }
@@ -328,9 +335,11 @@ void MainWindow::saveAs(const QString& chosen)
         return;
     }
     if (saveSnapshot(path)) {
-        m_saveDialogDir = m_saveDialog->directory();
+        // Not the one that the dialog shows: the name may have been typed with another.
+        m_saveDialogDir = QFileInfo(path).absoluteDir();
         m_saveDialogFileName = QFileInfo(path).fileName();
         m_saveDialogNameFilter = m_saveDialog->selectedNameFilter();
+        noteSaveFolder();
         showSnapshotSummary();
     }
 }
