@@ -108,11 +108,20 @@ void BatchModeDialog::on_filenameProfileEditButton_clicked()
     showJobsAnew();
 }
 
-/// For changes that come from elsewhere, and may concern jobs that are not selected.
+/// For changes that come from elsewhere, and may concern jobs that are not selected. In the place
+/// of a profile that was deleted comes the one used last.
 void BatchModeDialog::showJobsAnew()
 {
+    ProfileManager& images = *ImageProfile::profileManager();
+    ProfileManager& names = *FileNameProfile::profileManager();
     const QList<BatchWorkerConfig*> configs = m_model->getConfigs();
     for (BatchWorkerConfig* const config : configs) {
+        if (images.profileForId(config->imageProfileId()) == nullptr) {
+            config->setImageProfile(qobject_cast<ImageProfile*>(images.lastUsedProfile()));
+        }
+        if (names.profileForId(config->filenameProfileId()) == nullptr) {
+            config->setFileNameProfile(qobject_cast<FileNameProfile*>(names.lastUsedProfile()));
+        }
         m_model->configUpdated(config);
     }
     loadFormValues();
