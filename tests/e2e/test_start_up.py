@@ -114,7 +114,7 @@ class StartUpTest(MorvantileCase):
         program = self.start()
         for menu, entry, title in (
             ("Help", "About", "About Morvantile"),
-            ("Tools", "Image Filters Test", "Dialog"),
+            ("Tools", "Compare Filters", "Compare Filters"),
         ):
             with self.subTest(entry):
                 program.click("menu item", menu)

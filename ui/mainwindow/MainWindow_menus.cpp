@@ -76,7 +76,12 @@ void MainWindow::on_actionBatch_Mode_triggered()
 void MainWindow::on_actionImage_Filters_Test_triggered()
 {
     pause();
-    ImageFiltersDialog(this).exec();
+    ImageFiltersDialog dialog(this);
+    dialog.setFrame(m_fullFrameImage.isNull() ? m_player->displayedFrame().toImage()
+                                              : m_fullFrameImage);
+    dialog.setProfile(m_imageProfile);
+    dialog.exec();
+    imageProfileUpdated(m_imageProfile);
     retakeFocusAfterDialog();
 }
 
