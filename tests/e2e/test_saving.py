@@ -38,6 +38,21 @@ class SavingTest(MorvantileCase):
         self.program.click("push button", "Take Snapshot")
         wait_until(lambda: self.program.shown_snapshot() == number + 1, "the old frame is shown")
 
+    def test_chosen_profile_and_original_size_are_shown_and_saved(self):
+        self.open_video()
+        self.take_snapshot(self.program)
+        self.program.find("label", "640 × 480 of 160 × 120 · JPEG 90")
+        self.program.choose("Image profile", "Thumbnail 320")
+        self.program.find("label", "320 × 240 of 160 × 120 · JPEG 90")
+        with Image.open(self.save_as(self.program, self.pictures / "small.jpg")) as picture:
+            self.assertEqual(picture.size, (320, 240))
+        self.program.click("push button", "Original Size")
+        self.program.find("label", "160 × 120 · JPEG 90")
+        self.program.find("combo box", "Original size")
+        with Image.open(self.save_as(self.program, self.pictures / "original.png")) as picture:
+            self.assertEqual(picture.size, (160, 120))
+        self.program.find("label", "160 × 120 · PNG")
+
     def test_dialog_saves_in_all_formats(self):
         number = self.open_video()
         self.take_snapshot(self.program)
