@@ -1,5 +1,7 @@
 #include "app/Presentation.h"
 
+#include "app/RunningInstance.h"
+#include "profiles/ReadyProfiles.h"
 #include "ui/mainwindow/MainWindow.h"
 
 #include <QApplication>
@@ -23,6 +25,21 @@ QIcon applicationIcon()
     return icon;
 }
 
+/// Opens files that another program passes on, unless a dialog is open: there is no way past it.
+RunningInstance::Opener openerIn(MainWindow& window)
+{
+    return [&window](const QStringList& files) {
+        if (QApplication::activeModalWidget() != nullptr) {
+            return false;
+        }
+        // The other program waits for the answer, and should not for one of the user's.
+        QMetaObject::invokeMethod(
+            &window, [&window, file = files.constFirst()] { window.openFromOutside(file); },
+            Qt::QueuedConnection);
+        return true;
+    };
+}
+
 } // namespace
 
 void Presentation::applyStyleSheet(QApplication& app, const QString& path)
@@ -42,14 +59,23 @@ void Presentation::centre(QWidget& widget, const QRect& screen)
     widget.move((screen.width() - widget.width()) / 2, (screen.height() - widget.height()) / 2);
 }
 
-void showMainWindow(QApplication& app)
+void showMainWindow(QApplication& app, const QStringList& files)
 {
     Presentation::applyStyleSheet(app, QStringLiteral(":/Styles.qss"));
     QApplication::setWindowIcon(applicationIcon());
+    ReadyProfiles::addOnFirstStart();
     // Gone before the application object is: the player's threads end with it.
     const auto window = std::make_unique<MainWindow>();
     window->resize(800, 600);
     Presentation::centre(*window, QGuiApplication::primaryScreen()->geometry());
+    window->restoreLayout();
     window->show();
+    RunningInstance instance(openerIn(*window));
+    if (!instance.listen(RunningInstance::meetingPlace())) {
+        qDebug() << "Another window takes the files that are passed on";
+    }
+    if (!files.isEmpty()) {
+        window->openVideo(files.constFirst());
+    }
     QApplication::exec();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QApplication;
 class QRect;
@@ -20,6 +21,7 @@ void centre(QWidget& widget, const QRect& screen);
 
 } // namespace Presentation
 
-/// Shows the main window, 800 by 600 and in the middle of the primary screen, and returns when the
-/// event loop ends.
-void showMainWindow(QApplication& app);
+/// Shows the main window as the last one was left, the first one 800 by 600 and in the middle of
+/// the primary screen; opens the first of the files, and returns when the event loop ends.
+/// Meanwhile other programs of the same user can pass files to it, see RunningInstance.
+void showMainWindow(QApplication& app, const QStringList& files = {});

@@ -1,8 +1,10 @@
-// The window. Its arguments mean nothing to it: morvantile-cli is the command line.
+// The window. Its arguments are videos to open; morvantile-cli and stills are the command lines.
 
+#include "app/FileArguments.h"
 #include "app/GraphicsPolicy.h"
 #include "app/MemoryPolicy.h"
 #include "app/Presentation.h"
+#include "app/RunningInstance.h"
 #include "app/Startup.h"
 #include "app/SupportedOS.h"
 
@@ -24,11 +26,15 @@ int main(int argc, char** argv)
     if (!checkSupportedOS(*app)) {
         std::exit(-1);
     }
+    const QStringList files = FileArguments::in(QCoreApplication::arguments().mid(1));
+    if (!files.isEmpty() && RunningInstance::passOn(files, RunningInstance::meetingPlace())) {
+        return 0;
+    }
     QtAV::Widgets::registerRenderers();
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();
     // Kept for the whole run: settings objects that come and go then share its open file.
     const QSettings settings;
-    showMainWindow(*app);
+    showMainWindow(*app, files);
     return 0;
 }

@@ -4,20 +4,26 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QIcon>
+#include <QLocale>
 
 #include <vector>
 
 namespace {
 
-enum Column { FileName = 0, Destination = 1, Interval = 2, OutputExample = 3, ColumnCount = 4 };
+enum Column {
+    FileName = 0,
+    Destination = 1,
+    Interval = 2,
+    OutputExample = 3,
+    Images = 4,
+    ColumnCount = 5
+};
 
 QString unknown()
 {
     return QStringLiteral("Unknown!");
 }
-
-/// The first image, which every interval takes.
-constexpr int exampleCounter = 1;
 
 } // namespace
 
@@ -55,6 +61,29 @@ void BatchModeListModel::removeRows(const QList<QModelIndex>& indexes)
     }
 }
 
+void BatchModeListModel::setFailure(BatchWorkerConfig* config, const QString& reasons)
+{
+    if (reasons.isEmpty()) {
+        m_failures.remove(config);
+    } else {
+        m_failures.insert(config, reasons);
+    }
+    if (m_configs.contains(config)) {
+        configUpdated(config);
+    }
+}
+
+QList<BatchWorkerConfig*> BatchModeListModel::failedConfigs() const
+{
+    QList<BatchWorkerConfig*> failed;
+    for (BatchWorkerConfig* const config : m_configs) {
+        if (m_failures.contains(config)) {
+            failed += config;
+        }
+    }
+    return failed;
+}
+
 void BatchModeListModel::configUpdated(BatchWorkerConfig* config)
 {
     const int row = m_configs.indexOf(config);
@@ -73,19 +102,40 @@ int BatchModeListModel::columnCount(const QModelIndex& /*parent*/) const
 
 QVariant BatchModeListModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || role != Qt::DisplayRole) {
+    if (!index.isValid()) {
         return {};
     }
     const BatchWorkerConfig* const config = getConfig(index.row());
-    switch (index.column()) {
+    const bool isMarked = index.column() == FileName && m_failures.contains(config);
+    switch (role) {
+    case Qt::DisplayRole:
+        return textIn(index.column(), *config);
+    case Qt::DecorationRole:
+        return isMarked ? QVariant(QIcon(QStringLiteral(":/Images/Failed.svg"))) : QVariant();
+    case Qt::AccessibleDescriptionRole:
+        return isMarked ? QVariant(tr("Failed")) : QVariant();
+    case Qt::ToolTipRole:
+        return m_failures.contains(config) ? QVariant(m_failures.value(config)) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QVariant BatchModeListModel::textIn(int column, const BatchWorkerConfig& config) const
+{
+    switch (column) {
     case FileName:
-        return config->sourceFileName();
+        return config.sourceFileName();
     case Destination:
-        return config->fileOutputPath();
+        return config.fileOutputPath();
     case Interval:
-        return config->intervalDisplay();
+        return config.intervalDisplay();
     case OutputExample:
-        return config->filenameForCounter(exampleCounter);
+        return config.filenameExample();
+    case Images: {
+        const std::optional<int> images = config.expectedImages();
+        return images ? QLocale().toString(*images) : QStringLiteral("?");
+    }
     default:
         return unknown();
     }
@@ -105,6 +155,8 @@ QVariant BatchModeListModel::headerData(int section, Qt::Orientation orientation
         return tr("Interval");
     case OutputExample:
         return tr("Output Example");
+    case Images:
+        return tr("Images");
     default:
         return unknown();
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QList>
 #include <QModelIndex>
 #include <QString>
@@ -8,7 +9,8 @@
 
 class BatchWorkerConfig;
 
-/// Batch jobs as a table: a row for each, and columns that sum it up. Nothing is edited in it.
+/// Batch jobs as a table: a row for each, and columns that sum it up. Nothing is edited in it. Jobs
+/// that failed bear a mark, and their tool tip tells why.
 ///
 /// The jobs belong to someone else and must live as long as they are listed. User-interface thread
 /// only.
@@ -34,6 +36,11 @@ public:
     void removeRows(const QList<QModelIndex>& indexes);
     using QAbstractTableModel::removeRows;
 
+    /// Marks the job as one that failed, for these reasons; an empty text takes the mark away.
+    void setFailure(BatchWorkerConfig* config, const QString& reasons);
+    /// The jobs marked so, in the order of the rows.
+    QList<BatchWorkerConfig*> failedConfigs() const;
+
     /// Has the job's row shown anew after its settings have changed.
     void configUpdated(BatchWorkerConfig* config);
 
@@ -44,5 +51,8 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
+    QVariant textIn(int column, const BatchWorkerConfig& config) const;
+
     QList<BatchWorkerConfig*> m_configs;
+    QHash<const BatchWorkerConfig*, QString> m_failures;
 };

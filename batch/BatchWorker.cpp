@@ -231,6 +231,7 @@ SeriesSaver::Listener BatchWorker::Series::listenerOf(BatchWorker& worker)
         worker.tell([&worker, message] { worker.extractorError(message); });
     };
     listener.saved = [&worker](const QImage& image) {
+        ++worker.m_savedImages;
         ++worker.m_waitingFrames;
         worker.tell([&worker, image] { worker.showSaved(image); });
     };
@@ -416,5 +417,7 @@ bool BatchWorker::saveImage(QString path, const QImage& image, const ImageRecipe
     if (result == WriteResult::Failed) {
         reportUnsavedImage(path);
     }
-    return result == WriteResult::Written;
+    const bool isSaved = result == WriteResult::Written;
+    m_savedImages += isSaved ? 1 : 0;
+    return isSaved;
 }

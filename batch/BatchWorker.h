@@ -62,6 +62,10 @@ public:
     /// Tells the frame grabber which video the job is about; nothing is opened yet.
     void loadFile();
 
+    /// How many images of the job have been saved so far, told or not: after an interruption the
+    /// signals stop before the last ones are told. From any thread.
+    int savedImages() const { return m_savedImages; }
+
     /// Runs the job to its end or to the next step after an interruption. Once for each worker.
     void run() override;
 
@@ -105,6 +109,7 @@ private:
     /// Frames whose images are still to be made. Counted up in the thread of run(), down in the
     /// worker's own.
     std::atomic<int> m_waitingFrames{0};
+    std::atomic<int> m_savedImages{0};
     BatchWorkerConfig* m_config = nullptr;
     FrameGrabber* m_frameGrabber;
     std::unique_ptr<const PictureSource> m_source; ///< the video; null until run() has opened it

@@ -1,5 +1,7 @@
 #include "batch/BatchWorkerConfig.h"
 
+#include "batch/SamplingPlan.h"
+#include "profiles/OutputNaming.h"
 #include "profiles/ProfileManager.h"
 
 #include <QFileInfo>
@@ -108,7 +110,7 @@ QString BatchWorkerConfig::filenameForCounter(int counter) const
 
 QString BatchWorkerConfig::filenameExample() const
 {
-    return filenameForCounter(1);
+    return filenameForCounter(SamplingPlan::isSingleShot(*this) ? OutputNaming::noCounter : 1);
 }
 
 QString BatchWorkerConfig::intervalDisplay() const
@@ -134,6 +136,14 @@ QString BatchWorkerConfig::intervalDisplay() const
     default:
         return single;
     }
+}
+
+std::optional<int> BatchWorkerConfig::expectedImages() const
+{
+    if (!m_videoInfo.loaded) {
+        return std::nullopt;
+    }
+    return SamplingPlan::imageCount(*this, m_videoInfo.duration);
 }
 
 void BatchWorkerConfig::loadVideoInfo()

@@ -10,6 +10,7 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 
 /// One batch job: a video, the folder for its images, which positions to take, and the profiles
 /// that make and name the images.
@@ -85,7 +86,7 @@ public:
 
     /// The name without folder of the image with that number; -1 asks for a name without number.
     QString filenameForCounter(int counter) const;
-    /// The first image's name.
+    /// The first image's name; that of a single shot bears no number.
     QString filenameExample() const;
 
     /// Milliseconds at the front and at the back of the video that give no images.
@@ -110,6 +111,10 @@ public:
     void setExactFrames(bool exact) { m_exactFrames = exact; }
     /// The interval in a few words, for lists.
     QString intervalDisplay() const;
+
+    /// How many images the job will make, as far as can be told beforehand: frames that are shown
+    /// longer than the interval give fewer. Nothing while nothing is known about the source.
+    std::optional<int> expectedImages() const;
 
     /// What is known about the source; nothing before loadVideoInfo() or setVideoFacts().
     const VideoInfo& videoInfo() const { return m_videoInfo; }

@@ -5,6 +5,7 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -86,6 +87,33 @@ SamplingPlan SamplingPlan::make(BatchWorkerConfig& config, qint64 duration)
     }
     plan.start = std::min(plan.end, std::max(plan.start, front));
     return plan;
+}
+
+int SamplingPlan::imageCount(const BatchWorkerConfig& config, qint64 duration)
+{
+    if (isSingleShot(config)) {
+        return 1;
+    }
+    switch (config.intervalType()) {
+    case BatchWorkerConfig::EveryMilliseconds: {
+        const int given = config.intervalMilliseconds();
+        const qint64 step = given < 1 ? fallbackMilliseconds : given;
+        const qint64 sampled = duration - config.skipFront() - config.skipBack();
+        const qint64 most = std::numeric_limits<int>::max();
+        return static_cast<int>(std::clamp<qint64>((sampled + step - 1) / step, 0, most));
+    }
+    case BatchWorkerConfig::SpreadImages:
+        return config.intervalImages();
+    default:
+        return 0;
+    }
+}
+
+bool SamplingPlan::isSingleShot(const BatchWorkerConfig& config)
+{
+    return config.intervalType() == BatchWorkerConfig::SingleShot ||
+           (config.intervalType() == BatchWorkerConfig::SpreadImages &&
+            config.intervalImages() <= 1);
 }
 
 bool SamplingPlan::takes(qint64 position, int number) const

@@ -12,6 +12,12 @@ struct SamplingPlan
     /// spread images turn the job into a single shot.
     static SamplingPlan make(BatchWorkerConfig& config, qint64 duration);
 
+    /// How many images the job takes of a video of that length, without a change to it.
+    [[nodiscard]] static int imageCount(const BatchWorkerConfig& config, qint64 duration);
+
+    /// Whether the job ends up with a single image, also where that is a correction.
+    [[nodiscard]] static bool isSingleShot(const BatchWorkerConfig& config);
+
     /// Whether the plan takes an image at `position` as its image number `number`, from 1 up.
     bool takes(qint64 position, int number) const;
 

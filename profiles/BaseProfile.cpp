@@ -35,6 +35,16 @@ void BaseProfile::save(QSettings& settings) const
         settings.setValue(QLatin1String(property.name()), property.read(this));
 }
 
+void BaseProfile::takeValuesOf(const BaseProfile& other)
+{
+    const int ownCount = BaseProfile::staticMetaObject.propertyCount();
+    for (const QMetaProperty& property : persistedProperties(*metaObject())) {
+        const QVariant value = other.property(property.name());
+        if (property.propertyIndex() >= ownCount && value.isValid())
+            property.write(this, value);
+    }
+}
+
 void BaseProfile::load(const QSettings& settings)
 {
     for (const QMetaProperty& property : persistedProperties(*metaObject())) {

@@ -45,6 +45,10 @@ public:
     /// conversion at all, such as a list for a number, leaves the property as it is.
     void load(const QSettings& settings);
 
+    /// Sets every stored, writable property that the other profile has to its value there, but not
+    /// who this profile is: name, id and objectName stay.
+    void takeValuesOf(const BaseProfile& other);
+
 private:
     QString m_name;
     QString m_id;

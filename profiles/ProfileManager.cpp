@@ -122,6 +122,22 @@ void ProfileManager::addProfile(BaseProfile* profile)
     m_profiles.append(profile);
 }
 
+bool ProfileManager::removeProfile(BaseProfile* profile)
+{
+    if (m_profiles.size() < 2 || !m_profiles.contains(profile))
+        return false;
+    m_profiles.removeAll(profile);
+    if (m_lastUsedProfile == profile)
+        m_lastUsedProfile = m_profiles.first();
+    {
+        QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
+        settings.beginGroup(profilesGroup);
+        settings.remove(profile->id());
+    }
+    saveProfiles();
+    return true;
+}
+
 BaseProfile* ProfileManager::profileForId(const QString& id) const
 {
     if (id.isEmpty())

@@ -11,8 +11,8 @@
 /// All profiles of one kind, in display order, and the one used last, kept in one INI file.
 ///
 /// Each kind has one manager, reached through the static `profileManager()` of its class; it is
-/// made on first use and lives until the program ends, and so do the profiles in its list: nothing
-/// is ever removed from the list or from the file, and the manager deletes no profile, not even in
+/// made on first use and lives until the program ends, and so do the profiles that are or were in
+/// its list: those that hold one need not fear for it. The manager deletes no profile, not even in
 /// its destructor.
 ///
 /// A profile's values reach the file only through saveProfiles(). Failures to read count as an
@@ -54,6 +54,11 @@ public:
 
     /// Appends `profile`, which must not be null and stays alive for good, without saving.
     void addProfile(BaseProfile* profile);
+
+    /// Takes a profile out of the list and out of the file, and saves. Where it was the one used
+    /// last, the first one is that then. False, with nothing changed, for the only profile and for
+    /// one that is not listed.
+    [[nodiscard]] bool removeProfile(BaseProfile* profile);
 
     /// The profiles in display order.
     QList<BaseProfile*> profiles() const { return m_profiles; }

@@ -116,8 +116,8 @@ def choose_in_menu(program, menu, item):
 
 def take_filters(photographer):
     program = photographer.program
-    choose_in_menu(program, "Tools", "Image Filters Test")
-    photographer.take("image-filters", "Dialog")
+    choose_in_menu(program, "Tools", "Compare Filters")
+    photographer.take("image-filters", "Compare Filters")
     photographer.desktop.key("Escape")
 
 

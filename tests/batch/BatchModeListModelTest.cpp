@@ -67,6 +67,7 @@ private Q_SLOTS:
     void emptyModel_hasColumnsAndNoRows();
     void headers_nameTheColumns();
     void row_sumsUpItsJob();
+    void failedJob_bearsItsMarkAndReasons();
     void data_isThereForDisplayAlone();
     void data_isUnknown_beyondTheLastColumn();
     void addConfig_appendsARow();
@@ -86,7 +87,7 @@ void BatchModeListModelTest::emptyModel_hasColumnsAndNoRows()
     Model model(nullptr);
     watch(model);
     QCOMPARE(model.rowCount(), 0);
-    QCOMPARE(model.columnCount(), 4);
+    QCOMPARE(model.columnCount(), 5);
     QVERIFY(model.getConfigs().isEmpty());
     QVERIFY(!model.data(QModelIndex()).isValid());
 }
@@ -100,7 +101,7 @@ void BatchModeListModelTest::headers_nameTheColumns()
     }
     QCOMPARE(headers, (QStringList{QStringLiteral("File Name"), QStringLiteral("Destination"),
                                    QStringLiteral("Interval"), QStringLiteral("Output Example"),
-                                   QStringLiteral("Unknown!"), QStringLiteral("Unknown!")}));
+                                   QStringLiteral("Images"), QStringLiteral("Unknown!")}));
     QVERIFY(!model.headerData(0, Qt::Vertical).isValid());
     QVERIFY(!model.headerData(5, Qt::Vertical).isValid());
     QVERIFY(!model.headerData(0, Qt::Horizontal, Qt::ToolTipRole).isValid());
@@ -118,6 +119,31 @@ void BatchModeListModelTest::row_sumsUpItsJob()
     QCOMPARE(text(model.index(0, 1).data()), QStringLiteral("/pictures/clips"));
     QCOMPARE(text(model.index(0, 2).data()), QStringLiteral("Every 5000ms"));
     QCOMPARE(text(model.index(0, 3).data()), QStringLiteral("clip.final-00001.jpeg"));
+    QCOMPARE(text(model.index(0, 4).data()), QStringLiteral("?"));
+    VideoFacts facts;
+    facts.duration = 24000;
+    facts.loaded = true;
+    config.setVideoFacts(facts);
+    QCOMPARE(text(model.index(0, 4).data()), QStringLiteral("4"));
+    config.setIntervalType(BatchWorkerConfig::SingleShot);
+    QCOMPARE(text(model.index(0, 3).data()), QStringLiteral("clip.final-.jpeg"));
+    QCOMPARE(text(model.index(0, 4).data()), QStringLiteral("1"));
+}
+
+void BatchModeListModelTest::failedJob_bearsItsMarkAndReasons()
+{
+    Jobs jobs;
+    watch(jobs.model);
+    const QModelIndex name = jobs.model.index(1, 0);
+    jobs.model.setFailure(&jobs.configs[1], QStringLiteral("because"));
+    QCOMPARE(jobs.model.failedConfigs(), QList<BatchWorkerConfig*>{&jobs.configs[1]});
+    QVERIFY(name.data(Qt::DecorationRole).isValid());
+    QCOMPARE(text(name.data(Qt::AccessibleDescriptionRole)), QStringLiteral("Failed"));
+    QCOMPARE(text(jobs.model.index(1, 3).data(Qt::ToolTipRole)), QStringLiteral("because"));
+    QVERIFY(!jobs.model.index(0, 0).data(Qt::DecorationRole).isValid());
+    jobs.model.setFailure(&jobs.configs[1], QString());
+    QVERIFY(jobs.model.failedConfigs().isEmpty());
+    QVERIFY(!name.data(Qt::DecorationRole).isValid());
 }
 
 void BatchModeListModelTest::data_isThereForDisplayAlone()
@@ -131,7 +157,7 @@ void BatchModeListModelTest::data_isThereForDisplayAlone()
 void BatchModeListModelTest::data_isUnknown_beyondTheLastColumn()
 {
     const Jobs jobs;
-    QCOMPARE(text(jobs.model.data(jobs.model.createIndex(0, 4))), QStringLiteral("Unknown!"));
+    QCOMPARE(text(jobs.model.data(jobs.model.createIndex(0, 5))), QStringLiteral("Unknown!"));
     QCOMPARE(text(jobs.model.data(jobs.model.createIndex(2, 9))), QStringLiteral("Unknown!"));
 }
 
@@ -234,7 +260,7 @@ void BatchModeListModelTest::configUpdated_hasTheRowShownAnew()
     jobs.model.configUpdated(&jobs.configs[1]);
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.at(0).at(0).toModelIndex(), jobs.model.index(1, 0));
-    QCOMPARE(changed.at(0).at(1).toModelIndex(), jobs.model.index(1, 3));
+    QCOMPARE(changed.at(0).at(1).toModelIndex(), jobs.model.index(1, 4));
     QVERIFY(changed.at(0).at(2).value<QVector<int>>().isEmpty());
     QCOMPARE(text(jobs.model.index(1, 2).data()), QStringLiteral("Every 250ms"));
 }

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void unknownType_takesNothing();
     void otherSettings_stayAsTheyAre();
     void expectedImages_stayAWholeNumber_forAbsurdSkips();
+    void imageCount_isWhatIsTaken_andChangesNothing_data();
+    void imageCount_isWhatIsTaken_andChangesNothing();
 };
 
 void SamplingPlanTest::everyMilliseconds_startsBehindTheFrontSkip_andStopsBeforeTheBackSkip()
@@ -256,6 +258,41 @@ void SamplingPlanTest::expectedImages_stayAWholeNumber_forAbsurdSkips()
     const SamplingPlan none = SamplingPlan::make(config, minute);
     QVERIFY(none.expectedImages < -2000000000);
     QVERIFY(!none.takes(none.start, 1));
+}
+
+void SamplingPlanTest::imageCount_isWhatIsTaken_andChangesNothing_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<qint64>("skip");
+    QTest::newRow("every 5 s") << 0 << 5000 << qint64(2000);
+    QTest::newRow("fits exactly") << 0 << 1000 << qint64(0);
+    QTest::newRow("longer than the video") << 0 << 100000 << qint64(0);
+    QTest::newRow("corrected") << 0 << 0 << qint64(0);
+    QTest::newRow("skips meet") << 0 << 100 << minute / 2;
+    QTest::newRow("skips cross") << 0 << 100 << minute;
+    QTest::newRow("spread") << 1 << 7 << qint64(2000);
+    QTest::newRow("one, spread") << 1 << 1 << qint64(2000);
+    QTest::newRow("single") << 2 << 7 << qint64(0);
+    QTest::newRow("unknown") << 3 << 7 << qint64(0);
+}
+
+void SamplingPlanTest::imageCount_isWhatIsTaken_andChangesNothing()
+{
+    QFETCH(const int, type);
+    QFETCH(const int, number);
+    QFETCH(const qint64, skip);
+    BatchWorkerConfig config;
+    config.setIntervalType(type);
+    config.setIntervalMilliseconds(number);
+    config.setIntervalImages(number);
+    config.setSkipFront(skip);
+    config.setSkipBack(skip);
+    const int count = SamplingPlan::imageCount(config, minute);
+    QCOMPARE(config.intervalType(), type);
+    QCOMPARE(config.intervalMilliseconds(), number);
+    const SamplingPlan plan = SamplingPlan::make(config, minute);
+    QCOMPARE(count, positions(plan).size());
 }
 
 QTEST_GUILESS_MAIN(SamplingPlanTest)

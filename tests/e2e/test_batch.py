@@ -13,6 +13,8 @@ from tests.e2e.driver.waiting import LIMIT_S, wait_until
 CLI = pathlib.Path(os.environ.get("MORVANTILE_CLI", "build/release/app/morvantile-cli")).absolute()
 
 MODE = "Morvantile Batch Mode"
+# Of the list: file name, destination, interval, output example, images.
+COLUMNS = 5
 RUN = "Batch Processing"
 
 # One every 2000 ms, from 600 ms to 600 ms before the end of 20.8 and of 4 seconds; and one every
@@ -92,11 +94,12 @@ class BatchTest(MorvantileCase):
         count = len(images_in(self.pictures))
         wait_until(lambda: len(images_in(self.pictures)) > count, "it does not go on")
         self.answer_cancelling("Yes")
-        self.wait_for_completion()
+        outcome = self.wait_for_completion("Cancelled after ")
         self.assertLess(self.program.find("progress bar", "Progress of all videos").value, 50)
 
         names = sorted(file.name for file in self.pictures.iterdir())
         new = [f"a-{i:05}.jpeg" for i in range(5, len(names) - 3)]
+        self.assertEqual(outcome, f"Cancelled after {len(new)} images")
         self.assertEqual(names, sorted([*first, *new]))
         numbers = [frame_in(self.pictures / name) for name in new]
         self.assertNotIn(None, numbers)
@@ -104,13 +107,66 @@ class BatchTest(MorvantileCase):
         for name, content in first.items():
             self.assertEqual((self.pictures / name).read_bytes(), content)
 
-        # The video that played is gone since batch mode was opened.
+        # The video that was open still is.
         self.program.click_in(RUN, "Done")
         self.program.click_in(MODE, "Cancel")
-        self.program.window("Morvantile")
-        self.assertFalse(self.program.find("push button", "Play/Pause").is_enabled)
-        self.assertEqual(self.program.open_button().name, "Click to open video")
+        self.program.window(f"Morvantile - {videos[0].name}")
+        self.assertTrue(self.program.find("push button", "Play/Pause").is_enabled)
         self.program.open_with_dialog(videos[1])
+
+    def test_failed_video_is_marked_and_retried_alone(self):
+        good = self.sample("h264_gop250.mp4", "good.mp4")
+        broken = self.sample("random_bytes.mp4", "broken.mp4")
+        self.open_batch_mode()
+        self.load(good, broken)
+        self.assertEqual(self.column(4), ["4", "?"])
+        folder = self.pictures / "new"
+        self.program.fill("Folder", str(folder))
+        self.program.click("push button", "Start")
+        self.program.click_in("Folder does not exist", "Yes")
+        self.program.window(RUN)
+        self.program.find("push button", "Done")
+        log = self.program.find("text", "Log")
+        wait_until(lambda: "Finished" in log.text, lambda: f"log: {log.text}")
+        self.assertEqual(
+            log.text.splitlines(), [f"{broken}: Could not open file", "Finished: 4 images, 1 failed"]
+        )
+        self.program.click_in(RUN, "Done")
+        self.program.window(MODE)
+        self.assertEqual([cell.description for cell in self.cells(0)], ["", "Failed"])
+
+        broken.write_bytes(good.read_bytes())
+        self.program.click("push button", "Retry Failed")
+        self.program.window(RUN)
+        self.wait_for_completion("Finished: 4 images")
+        self.program.click_in(RUN, "Done")
+        self.program.window(MODE)
+        self.assertEqual([cell.description for cell in self.cells(0)], ["", ""])
+        self.assertFalse(self.program.has("push button", "Retry Failed"))
+        self.assertEqual(
+            sorted(images_in(folder)),
+            [f"{name}-{i:05}.jpeg" for name in ("broken", "good") for i in range(1, 5)],
+        )
+
+    def test_list_comes_back_after_a_restart(self):
+        videos = [self.sample("h264_gop250.mp4", name) for name in ("a.mp4", "b.mp4")]
+        self.open_batch_mode()
+        self.load(*videos)
+        self.select("b")
+        self.program.fill("Milliseconds from image to image", "2000")
+        self.program.fill("Folder", str(self.pictures))
+        self.program.find("label", "About 13 images of 2 videos")
+        self.desktop.key("Escape")
+        self.program.window("Morvantile")
+        self.desktop.key("alt+F4")
+        self.assertEqual(self.program.wait_for_end(), 0)
+
+        self.program = self.start()
+        self.open_batch_mode()
+        wait_until(lambda: self.column(0) == ["a", "b"], lambda: f"listed: {self.column(0)}")
+        self.assertEqual(self.column(1), [str(self.videos), str(self.pictures)])
+        self.assertEqual(self.column(2), ["Every 5000ms", "Every 2000ms"])
+        self.assertEqual(self.column(4), ["4", "9"])
 
     # --- what the cases are made of ------------------------------------------------------------
 
@@ -131,7 +187,7 @@ class BatchTest(MorvantileCase):
 
     def cells(self, column):
         cells = self.program.find("table", "Files").all("table cell")
-        return [cell for i, cell in enumerate(cells) if i % 4 == column]
+        return [cell for i, cell in enumerate(cells) if i % COLUMNS == column]
 
     def column(self, column):
         """What the column of the list of videos says, row by row."""
@@ -156,17 +212,21 @@ class BatchTest(MorvantileCase):
     def run_to_its_end(self):
         self.program.click("push button", "Start")
         self.program.window(RUN)
-        self.wait_for_completion()
+        self.wait_for_completion("Finished: ")
         for name in ("Progress of the current video", "Progress of all videos"):
             self.assertEqual(self.program.find("progress bar", name).value, 100, name)
         self.program.click_in(RUN, "Done")
         self.program.window(MODE)
 
-    def wait_for_completion(self):
+    def wait_for_completion(self, outcome):
+        """Waits until the log says how the batch ended and nothing else; gives what it says."""
         self.program.find("push button", "Done")
         log = self.program.find("text", "Log")
-        wait_until(lambda: log.text.strip() == "Processing Complete", lambda: f"log: {log.text}")
-        self.program.find("label", "Processing Complete", "Status")
+        wait_until(lambda: log.text.startswith(outcome), lambda: f"log: {log.text}")
+        text = log.text.strip()
+        self.assertNotIn("\n", text)
+        self.program.find("label", text, "Status")
+        return text
 
     def answer_cancelling(self, answer):
         self.program.click_in(RUN, "Cancel")

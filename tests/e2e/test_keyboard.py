@@ -15,6 +15,7 @@ STOPS = [
     ("push button", "Skip forward a bit"),
     ("push button", "Volume Control"),
     ("push button", "Take Snapshot"),
+    ("push button", "Original Size"),
     ("combo box", "Image profile"),
     ("push button", "Edit image profiles"),
     ("check box", "Automatic File Name"),

@@ -34,6 +34,7 @@ class OpeningTest(MorvantileCase):
         program = self.start()
         self.open_paused(program, self.sample("h264_bframes.mp4"))
         self.take_snapshot(program)
+        self.save_as(program, self.folder / "one.png")
         program.open_with_dialog(self.sample("h264_gop250.mp4"))
         wait_until(lambda: program.duration == 520 * 40, "still the first video's duration")
         self.assertFalse(program.find("push button", "Save").is_enabled)

@@ -31,6 +31,16 @@ class PlayingTest(MorvantileCase):
         self.program.click("push button", "Play/Pause")
         self.wait_for_standstill(self.program)
 
+    def test_click_on_the_video_pauses_and_plays(self):
+        self.open_long_video()
+        self.desktop.click(*self.program.open_button().middle)
+        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+        self.desktop.click(*self.program.open_button().middle)
+        self.wait_for_standstill(self.program)
+        # The keys stay the video's.
+        self.desktop.key("space")
+        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+
     def test_step_keys_go_one_frame(self):
         number = self.open_long_video()
         for key, change in (("Right", 1), ("Right", 1), ("Left", -1), ("Left", -1), ("Left", -1)):
@@ -75,6 +85,13 @@ class PlayingTest(MorvantileCase):
         self.program.click("push button", "Skip back a bit")
         self.wait_for_frame(self.program, number)
 
+    def test_quick_skips_add_up(self):
+        number = self.open_long_video()
+        self.desktop.key(*["ctrl+Up"] * 5)
+        self.wait_for_frame(self.program, number + 5 * FRAMES_A_SECOND)
+        self.desktop.key(*["ctrl+Down"] * 3)
+        self.wait_for_frame(self.program, number + 2 * FRAMES_A_SECOND)
+
     def test_video_stops_at_its_last_frame_and_plays_again_from_the_start(self):
         video = self.sample("h264_bframes.mp4")
         self.program.open_with_dialog(video)
@@ -96,22 +113,28 @@ class PlayingTest(MorvantileCase):
         wait_until(lambda: self.program.shown_frame() is not None, "no frame on the screen")
         self.assertFalse(self.program.offers_to_play())
 
-    def test_dragged_slider_does_not_seek_while_paused(self):
-        number = self.open_long_video()
+    def test_dragged_slider_seeks_while_paused(self):
+        self.open_long_video()
         self.grab_slider()
         self.desktop.drag(*self.slider_place(0.8))
-        slider = self.slider()
-        wait_until(lambda: slider.value > slider.maximum / 2, "the slider does not move")
+        wait_until(lambda: (self.program.shown_frame() or 0) > 300, "it did not go there")
         self.desktop.release()
-        self.assertTrue(
-            holds_for(lambda: self.program.shown_frame() == number, 0.5), "the picture moves"
-        )
+        number = self.wait_for_standstill(self.program)
+        self.assertAlmostEqual(number, 0.8 * 520, delta=15)
+        self.wait_for_slider_at(number)
         self.desktop.key("ctrl+Right")
         self.wait_for_frame(self.program, number + 1)
-        wait_until(
-            lambda: slider.value == (number + 1) * FRAME_MS // SLIDER_STEP_MS,
-            lambda: f"the slider stands at {slider.value}",
-        )
+        self.wait_for_slider_at(number + 1)
+
+    def test_click_beside_the_handle_seeks_while_paused(self):
+        self.open_long_video()
+        for part in (0.7, 0.2):
+            self.desktop.click(*self.slider_place(part))
+            wait_until(
+                lambda: abs((self.program.shown_frame() or 0) - part * 520) < 15,
+                lambda: f"frame {self.program.shown_frame()} is shown",
+            )
+            self.wait_for_slider_at(self.wait_for_standstill(self.program))
 
     def test_click_beside_the_handle_seeks_while_playing(self):
         self.open_long_video()
@@ -130,6 +153,14 @@ class PlayingTest(MorvantileCase):
 
     def slider(self):
         return self.program.find("slider", "Position")
+
+    def wait_for_slider_at(self, number):
+        """Waits until the handle is where the frame is."""
+        slider = self.slider()
+        wait_until(
+            lambda: slider.value == number * FRAME_MS // SLIDER_STEP_MS,
+            lambda: f"the slider stands at {slider.value}, the video at frame {number}",
+        )
 
     def slider_place(self, part):
         left, top, right, bottom = self.slider().area

@@ -70,6 +70,7 @@ class ProfilesTest(MorvantileCase):
         self.save_dialog("Image Profile Settings")
         self.expect_profile("Kept")
         self.desktop.key("alt+F4")
+        self.program.click_in("Unsaved Snapshot", "Discard")
         self.assertEqual(self.program.wait_for_end(), 0)
 
         self.program = self.start()
@@ -96,6 +97,41 @@ class ProfilesTest(MorvantileCase):
         with Image.open(self.snap_and_save("as before.png")) as picture:
             self.assertEqual(picture.size, (640, 480))
             self.assertEqual(brightest(picture), 255)
+
+    def test_profiles_are_duplicated_renamed_and_deleted(self):
+        self.open_with_snapshot()
+        self.edit_image_profile()
+        self.use_profile_menu("Duplicate")
+        self.expect_name("[Unnamed Settings] copy")
+        self.use_profile_menu("Rename")
+        self.program.window("Rename Profile")
+        self.program.enter("Mine")
+        self.desktop.key("Return")
+        self.program.window("Image Profile Settings")
+        self.expect_name("Mine")
+        self.save_dialog("Image Profile Settings")
+        self.expect_profile("Mine")
+
+        # A name that is another profile's is asked about.
+        self.edit_image_profile()
+        self.program.enter("full hd")
+        self.program.click_in("Image Profile Settings", "Save")
+        self.program.click_in("Replace Profile", "No")
+        self.program.window("Image Profile Settings")
+        self.program.click("push button", "Cancel")
+        self.program.window(WINDOW)
+
+        self.edit_image_profile()
+        self.use_profile_menu("Delete")
+        self.program.click_in("Delete Profile", "Yes")
+        self.program.window("Image Profile Settings")
+        self.program.click("push button", "Cancel")
+        self.program.window(WINDOW)
+        self.expect_profile("[Unnamed Settings]")
+        box = self.program.find("combo box", description="Image profile")
+        names = [entry.name for entry in box.children[0].children]
+        self.assertNotIn("Mine", names)
+        self.assertIn("Full HD", names)
 
     def test_new_picture_watermark_is_put_where_it_belongs(self):
         color = (255, 0, 200)
@@ -189,6 +225,24 @@ class ProfilesTest(MorvantileCase):
         """Clicks on the button of the dialog, not on the one of the main window."""
         self.program.click_in(title, "Save")
         wait_until(lambda: self.program.window().name != title, "the dialog stays open")
+
+    def use_profile_menu(self, entry):
+        """Chooses an entry of the menu for the profile in the dialog."""
+        left, _, right, bottom = self.program.find(
+            name="Rename, duplicate or delete this profile"
+        ).area
+        # Assistive technology is not told of the menu.
+        place = (left, bottom + 4, right, bottom + 64)
+        before = self.desktop.picture(place).tobytes()
+        self.desktop.click((left + right) // 2, bottom - 8)
+        wait_until(lambda: self.desktop.picture(place).tobytes() != before, "no menu comes up")
+        steps = ("Rename", "Duplicate", "Delete").index(entry) + 1
+        self.desktop.key(*["Down"] * steps, "Return")
+
+    def expect_name(self, name):
+        """Waits until the dialog shows the name of the profile."""
+        field = self.program.find("text", "Profile")
+        wait_until(lambda: field.text == name, lambda: f"it shows {field.text}")
 
     def expect_profile(self, name):
         box = self.program.find("combo box", description="Image profile")

@@ -1,7 +1,12 @@
 """Taking snapshots and saving them."""
 
+import contextlib
+import subprocess
+import sys
+
 from PIL import Image
 
+from tests.e2e.driver import processes
 from tests.e2e.driver.case import MorvantileCase
 from tests.e2e.driver.frames import frame_number
 from tests.e2e.driver.waiting import holds_for, wait_until
@@ -32,6 +37,21 @@ class SavingTest(MorvantileCase):
         self.assertEqual(self.program.shown_snapshot(), number)
         self.program.click("push button", "Take Snapshot")
         wait_until(lambda: self.program.shown_snapshot() == number + 1, "the old frame is shown")
+
+    def test_chosen_profile_and_original_size_are_shown_and_saved(self):
+        self.open_video()
+        self.take_snapshot(self.program)
+        self.program.find("label", "640 × 480 of 160 × 120 · JPEG 90")
+        self.program.choose("Image profile", "Thumbnail 320")
+        self.program.find("label", "320 × 240 of 160 × 120 · JPEG 90")
+        with Image.open(self.save_as(self.program, self.pictures / "small.jpg")) as picture:
+            self.assertEqual(picture.size, (320, 240))
+        self.program.click("push button", "Original Size")
+        self.program.find("label", "160 × 120 · JPEG 90")
+        self.program.find("combo box", "Original size")
+        with Image.open(self.save_as(self.program, self.pictures / "original.png")) as picture:
+            self.assertEqual(picture.size, (160, 120))
+        self.program.find("label", "160 × 120 · PNG")
 
     def test_dialog_saves_in_all_formats(self):
         number = self.open_video()
@@ -119,8 +139,8 @@ class SavingTest(MorvantileCase):
         number = self.open_paused(self.program, self.sample("h264_bframes.mp4"))
         self.take_snapshot(self.program)
         self.program.click("push button", "Save")
-        # Where the video is, for that folder was proposed when it was opened.
-        file = self.videos / "h264_bframes-00001.jpeg"
+        # In the folder that was chosen, not where the video is.
+        file = self.pictures / "h264_bframes-00001.jpeg"
         wait_until(file.exists, "nothing was saved")
         with Image.open(file) as picture:
             self.assertEqual(frame_number(picture), number)
@@ -139,7 +159,53 @@ class SavingTest(MorvantileCase):
                 self.assertTrue(holds_for(lambda: not new.exists(), 0.3))
         wait_until((new / "h264_gop250-00001.jpeg").exists, "nothing was saved")
 
+    def test_dialog_proposes_the_next_free_name(self):
+        number = self.open_video()
+        self.take_snapshot(self.program)
+        first = self.save_as(self.program, self.pictures / "shot.png")
+        content = first.read_bytes()
+        for step, name in ((1, "shot-2.png"), (2, "shot-3.png")):
+            self.desktop.key("ctrl+Right")
+            self.wait_for_frame(self.program, number + step)
+            self.desktop.key("ctrl+a")
+            wait_until(lambda: self.program.shown_snapshot() == number + step, "the old frame")
+            self.desktop.key("ctrl+s")
+            self.program.window("Save As")
+            self.desktop.key("Return")
+            self.program.window("Morvantile - h264_gop250.mp4")
+            file = self.pictures / name
+            wait_until(file.exists, lambda: f"only {list(self.pictures.iterdir())}")
+            with Image.open(file) as picture:
+                self.assertEqual(frame_number(picture), number + step)
+        self.assertEqual(first.read_bytes(), content)
+
+    def test_saved_file_is_shown_in_the_file_manager(self):
+        shown = self.folder / "shown"
+        self.enterContext(self.file_manager(shown))
+        self.open_video()
+        self.assertFalse(self.program.has("push button", "Show in Folder"))
+        self.take_snapshot(self.program)
+        file = self.save_as(self.program, self.pictures / "100% ü #1.png")
+        self.program.click("push button", "Show in Folder")
+        wait_until(shown.exists, "the file manager was not asked")
+        wait_until(lambda: shown.read_text().splitlines() == [file.as_uri()], shown.read_text)
+
     # --- what the cases are made of ------------------------------------------------------------
+
+    @contextlib.contextmanager
+    def file_manager(self, shown):
+        """One that writes what it shows into the file."""
+        process = processes.start(
+            [sys.executable, "-m", "tests.e2e.driver.file_manager", shown],
+            env={**self.desktop.environment, "PYTHONDONTWRITEBYTECODE": "1"},
+            stdout=subprocess.PIPE,
+        )
+        try:
+            self.assertEqual(process.stdout.readline(), b"ready\n")
+            yield
+        finally:
+            processes.stop(process)
+            process.stdout.close()
 
     def open_video(self):
         """Paused; gives the frame at which it stands."""

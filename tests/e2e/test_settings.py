@@ -4,6 +4,11 @@ from tests.e2e.driver.case import MorvantileCase
 from tests.e2e.driver.waiting import wait_until
 
 
+def _size(control):
+    left, top, right, bottom = control.area
+    return right - left, bottom - top
+
+
 class SettingsTest(MorvantileCase):
 
     def test_volume_and_mute_are_remembered(self):
@@ -39,6 +44,32 @@ class SettingsTest(MorvantileCase):
             lambda: self.handle_height(popup) == height and self.is_ticked(popup),
             lambda: f"after the restart the handle is at {self.handle_height(popup)}, not {height}",
         )
+
+    def test_window_and_automatic_names_are_remembered(self):
+        pictures = self.folder / "pictures"
+        pictures.mkdir()
+        program = self.start()
+        self.open_paused(program, self.sample("h264_bframes.mp4"))
+        self.take_snapshot(program)
+        self.name_automatically(program)
+        program.fill("Output folder", str(pictures))
+        self.desktop.key("Return", "ctrl+s")
+        wait_until((pictures / "h264_bframes-00001.jpeg").exists, "nothing was saved")
+        self.desktop.resize_window(960, 700)
+        wait_until(lambda: _size(program.window()) == (960, 700), "it keeps its size")
+        left, top, _, _ = program.window().area
+        self.close(program)
+
+        program = self.start()
+        wait_until(
+            lambda: _size(program.window()) == (960, 700), lambda: f"{_size(program.window())}"
+        )
+        self.assertAlmostEqual(program.window().area[0], left, delta=5)
+        self.assertAlmostEqual(program.window().area[1], top, delta=30)
+        self.open_paused(program, self.sample("h264_gop250.mp4"))
+        self.take_snapshot(program)
+        self.desktop.key("ctrl+s")
+        wait_until((pictures / "h264_gop250-00001.jpeg").exists, "nothing was saved")
 
     def test_folder_of_the_videos_is_remembered(self):
         self.sample("h264_baseline.mp4")

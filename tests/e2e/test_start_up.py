@@ -2,6 +2,7 @@
 
 from tests.e2e.driver.case import MorvantileCase
 from tests.e2e.driver.desktop import SIZE
+from tests.e2e.driver.program import Program
 from tests.e2e.driver.waiting import wait_until
 
 
@@ -18,13 +19,45 @@ class StartUpTest(MorvantileCase):
         for name in ("Play/Pause", "Step forward one frame", "Take Snapshot", "Save"):
             self.assertFalse(program.find("push button", name).is_enabled, name)
 
-    def test_arguments_mean_nothing_to_the_window(self):
-        video = self.sample("h264_bframes.mp4")
-        program = self.start(["--help", str(video), str(self.folder), "--ms", "10", "--nonsense"])
-        self.assertEqual(program.window().name, "Morvantile")
-        program.open_with_dialog(video)
-        wait_until(lambda: program.shown_frame() is not None, "no frame on the screen")
-        self.assertEqual([file.name for file in self.videos.iterdir()], [video.name])
+    def test_first_file_among_the_arguments_is_opened(self):
+        videos = [self.sample("h264_gop250.mp4", "a b.mp4"), self.sample("h264_bframes.mp4")]
+        program = self.start(["--nonsense", *map(str, videos)])
+        program.window("Morvantile - a b.mp4")
+        wait_until(lambda: (program.shown_frame() or 0) > 0, "it does not play")
+
+    def test_file_goes_to_the_window_that_runs(self):
+        first = self.start()
+        number = self.open_paused(first, self.sample("h264_gop250.mp4"))
+        self.take_snapshot(first)
+        other = self.sample("h264_bframes.mp4")
+        for answer in ("Cancel", "Discard"):
+            self.assertEqual(self.run_with(other), 0)
+            first.click_in("Unsaved Snapshot", answer)
+            if answer == "Cancel":
+                first.window("Morvantile - h264_gop250.mp4")
+                self.assertEqual(first.shown_snapshot(), number)
+        first.window("Morvantile - h264_bframes.mp4")
+        wait_until(lambda: first.duration == 100 * 40, "still the first video's duration")
+
+    def test_file_opens_a_window_of_its_own_while_a_dialog_is_open(self):
+        first = self.start()
+        first.click("menu item", "Help")
+        first.click("menu item", "About")
+        first.window("About Morvantile")
+        second = self.start([str(self.sample("h264_bframes.mp4"))])
+        second.window("Morvantile - h264_bframes.mp4")
+
+    def test_file_opens_a_window_after_one_that_was_killed(self):
+        first = self.start()
+        first.kill()
+        second = self.start([str(self.sample("h264_bframes.mp4"))])
+        second.window("Morvantile - h264_bframes.mp4")
+        self.assertEqual(self.run_with(self.sample("h264_gop250.mp4")), 0)
+        second.window("Morvantile - h264_gop250.mp4")
+
+    def run_with(self, *files):
+        """Starts the program once more and waits until it has passed the files on; its exit code."""
+        return Program(self.desktop, self.home, map(str, files)).run()
 
     def test_video_plays_without_opengl(self):
         program = self.start(
@@ -81,7 +114,7 @@ class StartUpTest(MorvantileCase):
         program = self.start()
         for menu, entry, title in (
             ("Help", "About", "About Morvantile"),
-            ("Tools", "Image Filters Test", "Dialog"),
+            ("Tools", "Compare Filters", "Compare Filters"),
         ):
             with self.subTest(entry):
                 program.click("menu item", menu)

@@ -94,7 +94,7 @@ void BatchModeDialog::setupFilesTable()
     table.setItemDelegate(new NoFocusItemDelegate(&table));
     const int letter = fontMetrics().averageCharWidth();
     int column = 0;
-    for (const int letters : {30, 42, 18}) {
+    for (const int letters : {24, 30, 16, 28}) {
         table.setColumnWidth(column++, letters * letter);
     }
     const int rowHeight = fontMetrics().height() + 8;
@@ -102,6 +102,9 @@ void BatchModeDialog::setupFilesTable()
     table.setMinimumHeight(4 * rowHeight);
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &BatchModeDialog::loadFormValues);
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, &BatchModeDialog::showImageSum);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &BatchModeDialog::showImageSum);
+    connect(m_model, &QAbstractItemModel::dataChanged, this, &BatchModeDialog::showImageSum);
     for (const int key : {Qt::Key_Delete, Qt::Key_Backspace}) {
         auto* const shortcut = new QShortcut(key, &table);
         shortcut->setContext(Qt::WidgetShortcut);
@@ -214,6 +217,9 @@ void BatchModeDialog::updateFieldsEnabled()
     m_ui->startButton->setToolTip(
         isLoading() ? tr("The batch can start when all videos have been read") : QString());
     m_ui->selectAllVideoButton->setEnabled(hasRows);
+    m_ui->retryFailedButton->setVisible(!m_model->failedConfigs().isEmpty());
+    m_ui->retryFailedButton->setEnabled(!isLoading());
+    m_ui->useForNewVideosButton->setEnabled(hasSelection);
     if (!hasSelection) {
         m_ui->selectedVideoFileNameLabel->setText(tr("[No Video Selected]"));
     }

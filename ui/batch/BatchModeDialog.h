@@ -29,10 +29,15 @@ class BatchModeDialog;
 ///
 /// What is typed or chosen goes into the selected jobs at once, but for numbers that make no sense:
 /// these are taken back when their field is left. Where the selected jobs differ, the form shows
-/// "[Multiple]". New jobs begin with the settings of the one edited last, also in the next dialog.
+/// "[Multiple]". New jobs begin with the settings that "Use for New Videos" kept last, also in the
+/// next dialog.
 ///
 /// Videos are read in the background, and each one's job is listed when it has been read. The batch
-/// can start when all are. Closing the dialog drops those that have not been read.
+/// can start when all are. Closing the dialog drops those that have not been read, unless the list
+/// is kept.
+///
+/// Before a batch starts, missing folders are made if the user agrees, and large numbers of images
+/// are asked about. Jobs for which something failed are marked and can be run again alone.
 ///
 /// The jobs live as long as the dialog, removed ones too. User-interface thread only.
 class BatchModeDialog : public QDialog
@@ -44,9 +49,14 @@ public:
     ~BatchModeDialog() override;
 
     /// Begins to read the videos, behind those being read, and returns at once. They are listed in
-    /// this order, unreadable ones too, each with a job like the one edited last. When all are,
+    /// this order, unreadable ones too, each with a job of the settings for new ones. When all are,
     /// they become selected alone, unless other jobs were selected meanwhile.
     void loadVideos(const QStringList& files);
+
+    /// Brings back the list of the last dialog that did so, and keeps the one of this dialog for
+    /// the next, from each start of a batch and from the end of the dialog on. To be called once,
+    /// while the list is empty.
+    void keepList();
 
     /// Whether videos are still being read.
     bool isLoading() const;
@@ -73,6 +83,8 @@ private Q_SLOTS:
     void loadSingleShotComboBox();
     void on_cancelButton_clicked();
     void on_startButton_clicked();
+    void on_retryFailedButton_clicked();
+    void on_useForNewVideosButton_clicked();
     void on_intervalMillisecondsTextEdit_textChanged(QString const& arg1);
     void on_intervalImagesTextEdit_textChanged(QString const& arg1);
     void on_intervalMillisecondsTextEdit_editingFinished();
@@ -91,6 +103,7 @@ private Q_SLOTS:
 private:
     void setupLoading();
     void addVideos(const QStringList& files);
+    void read(const QList<BatchWorkerConfig*>& jobs);
     void listJob(BatchWorkerConfig* job);
     void showLoading();
     void endLoading();
@@ -107,6 +120,12 @@ private:
     void useInterval(QRadioButton& radioButton, QLineEdit& edit, const QString& text);
     void takeBackUnlessSensible(QLineEdit& edit);
     void showJobsAnew();
+    void showImageSum();
+    [[nodiscard]] bool areFoldersUsable(const QList<BatchWorkerConfig*>& jobs);
+    [[nodiscard]] bool isNumberWanted(const QList<BatchWorkerConfig*>& jobs);
+    void run(const QList<BatchWorkerConfig*>& jobs);
+    void saveList(const QList<BatchWorkerConfig*>& unread = {}) const;
+    void endList();
 
     const std::unique_ptr<Ui::BatchModeDialog> m_ui;
     BatchModeListModel* const m_model;
@@ -120,4 +139,5 @@ private:
     QList<Field*> m_fields;
     /// True while the program fills the form, so that nothing of it is taken for the user's wish.
     bool m_isLoading = false;
+    bool m_keepsList = false;
 };

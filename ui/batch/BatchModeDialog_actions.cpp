@@ -5,7 +5,6 @@
 #include "batch/BatchModeListModel.h"
 #include "batch/BatchWorkerConfig.h"
 #include "profiles/ProfileManager.h"
-#include "ui/batch/BatchProcessingDialog.h"
 #include "ui/dialogs/FileNameProfileDialog.h"
 #include "ui/dialogs/ImageProfileDialog.h"
 #include "ui/widgets/SmartFileDialog.h"
@@ -27,12 +26,6 @@ auto common(const QList<BatchWorkerConfig*>& configs, Getter profileOf)
         std::all_of(configs.cbegin(), configs.cend(),
                     [&](const BatchWorkerConfig* config) { return profileOf(*config) == first; });
     return isCommon ? first : nullptr;
-}
-
-/// The profile of the combo box's item; null for none.
-BaseProfile* profileAt(const QComboBox& comboBox, int index, const ProfileManager& manager)
-{
-    return index > 0 ? manager.profileForId(comboBox.itemData(index).toString()) : nullptr;
 }
 
 } // namespace
@@ -71,19 +64,11 @@ void BatchModeDialog::on_fileOutputFolderSelectButton_clicked()
 void BatchModeDialog::on_imageProfileComboBox_currentIndexChanged(int index)
 {
     m_ui->imageProfileEditButton->setEnabled(index != 0);
-    ProfileManager& manager = *ImageProfile::profileManager();
-    if (auto* const profile = profileAt(*m_ui->imageProfileComboBox, index, manager)) {
-        manager.setLastUsedProfile(profile);
-    }
 }
 
 void BatchModeDialog::on_filenameProfileComboBox_currentIndexChanged(int index)
 {
     m_ui->filenameProfileEditButton->setEnabled(index != 0);
-    ProfileManager& manager = *FileNameProfile::profileManager();
-    if (auto* const profile = profileAt(*m_ui->filenameProfileComboBox, index, manager)) {
-        manager.setLastUsedProfile(profile);
-    }
 }
 
 void BatchModeDialog::on_filenameProfileComboBox_activated(QString const& /*text*/)
@@ -123,11 +108,20 @@ void BatchModeDialog::on_filenameProfileEditButton_clicked()
     showJobsAnew();
 }
 
-/// For changes that come from elsewhere, and may concern jobs that are not selected.
+/// For changes that come from elsewhere, and may concern jobs that are not selected. In the place
+/// of a profile that was deleted comes the one used last.
 void BatchModeDialog::showJobsAnew()
 {
+    ProfileManager& images = *ImageProfile::profileManager();
+    ProfileManager& names = *FileNameProfile::profileManager();
     const QList<BatchWorkerConfig*> configs = m_model->getConfigs();
     for (BatchWorkerConfig* const config : configs) {
+        if (images.profileForId(config->imageProfileId()) == nullptr) {
+            config->setImageProfile(qobject_cast<ImageProfile*>(images.lastUsedProfile()));
+        }
+        if (names.profileForId(config->filenameProfileId()) == nullptr) {
+            config->setFileNameProfile(qobject_cast<FileNameProfile*>(names.lastUsedProfile()));
+        }
         m_model->configUpdated(config);
     }
     loadFormValues();
@@ -142,19 +136,6 @@ void BatchModeDialog::saveBatchWorkerConfigDefault()
     if (!configs.isEmpty()) {
         configs.last()->saveAsDefault();
     }
-}
-
-void BatchModeDialog::on_startButton_clicked()
-{
-    saveBatchWorkerConfigDefault();
-    BatchProcessingDialog dialog(this);
-    const QList<BatchWorkerConfig*> configs = m_model->getConfigs();
-    for (BatchWorkerConfig* const config : configs) {
-        dialog.addWorkerWithConfig(config);
-    }
-    dialog.exec();
-    // The workers may have corrected intervals.
-    showJobsAnew();
 }
 
 void BatchModeDialog::on_cancelButton_clicked()

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QItemSelection>
 #include <QMimeData>
+#include <QSettings>
 #include <QUrl>
 
 #include <chrono>
@@ -53,12 +54,11 @@ void BatchModeDialog::setupLoading()
     connect(&m_loadingDelay, &QTimer::timeout, &widget, &QWidget::show);
     connect(m_loader, &VideoInfoLoader::loaded, this, &BatchModeDialog::listJob);
     connect(m_loader, &VideoInfoLoader::finished, this, &BatchModeDialog::endLoading);
-    connect(this, &QDialog::finished, this, &BatchModeDialog::on_stopLoadingButton_clicked);
+    connect(this, &QDialog::finished, this, &BatchModeDialog::endList);
 }
 
 void BatchModeDialog::on_loadVideoButton_clicked()
 {
-    saveBatchWorkerConfigDefault();
     SmartFileDialog dialog(this, QStringLiteral("openDialog"));
     dialog.setFiltersToVideo();
     dialog.setFileMode(QFileDialog::ExistingFiles);
@@ -70,7 +70,6 @@ void BatchModeDialog::on_loadVideoButton_clicked()
 
 void BatchModeDialog::loadVideos(const QStringList& files)
 {
-    saveBatchWorkerConfigDefault();
     addVideos(files);
 }
 
@@ -79,11 +78,12 @@ bool BatchModeDialog::isLoading() const
     return m_loader->isLoading();
 }
 
-/// The selection is cleared first: what a person selects before all is read stays selected then.
 void BatchModeDialog::addVideos(const QStringList& files)
 {
-    if (files.isEmpty()) {
-        return;
+    if (!files.isEmpty()) {
+        // Also where they were dropped, or typed with their folder.
+        QSettings().setValue(QStringLiteral("openDialog_dialogPath"),
+                             QFileInfo(files.constLast()).absolutePath());
     }
     QList<BatchWorkerConfig*> jobs;
     for (const QString& file : files) {
@@ -93,6 +93,15 @@ void BatchModeDialog::addVideos(const QStringList& files)
         config->loadFromLastUsed();
         config->setSource(file);
         jobs.append(config);
+    }
+    read(jobs);
+}
+
+/// The selection is cleared first: what a person selects before all is read stays selected then.
+void BatchModeDialog::read(const QList<BatchWorkerConfig*>& jobs)
+{
+    if (jobs.isEmpty()) {
+        return;
     }
     m_newJobs = QSet<BatchWorkerConfig*>(jobs.cbegin(), jobs.cend());
     m_ui->filesTableView->clearSelection();

@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QMessageBox>
+#include <QTextBlock>
 #include <QTextCursor>
 
 namespace {
@@ -91,7 +92,7 @@ void BatchProcessingDialog::closeEvent(QCloseEvent* event)
         return;
     }
     event->ignore();
-    if (confirmAbort()) {
+    if (!m_thread->isInterruptionRequested() && confirmAbort()) {
         abort();
     }
 }
@@ -107,12 +108,32 @@ void BatchProcessingDialog::workerStatusUpdate(BatchWorker* worker, QString text
     showCurrentVideo(*worker);
     m_ui->statusLabel->setText(text);
     if (type == BatchWorker::Error) {
-        logMessage(text, worker);
+        logFailure(worker->config(), text);
     }
 }
 
-void BatchProcessingDialog::workerImageReady(BatchWorker* /*worker*/, QImage& image)
+void BatchProcessingDialog::logFailure(BatchWorkerConfig* job, const QString& message)
 {
+    const BatchReport::Line line = m_report.addFailure(job, message);
+    if (line.isNew) {
+        logMessage(line.text, nullptr);
+        // Behind the line there is an empty block.
+        m_causeBlocks.append(m_ui->logTextEdit->document()->blockCount() - 2);
+    } else {
+        replaceLogLine(m_causeBlocks.at(line.cause), line.text);
+    }
+}
+
+void BatchProcessingDialog::replaceLogLine(int block, const QString& text)
+{
+    QTextCursor cursor(m_ui->logTextEdit->document()->findBlockByNumber(block));
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    cursor.insertText(text);
+}
+
+void BatchProcessingDialog::workerImageReady(BatchWorker* worker, QImage& image)
+{
+    ++m_images[worker];
     m_ui->previewImageView->setImage(image);
 }
 
@@ -127,9 +148,25 @@ void BatchProcessingDialog::threadDone()
     // The signal is the thread's last act but not yet its end, after which the button goes.
     m_thread->wait();
     updateDoneButton();
-    logMessage(tr("Processing Complete"), nullptr);
+    const QString outcome = m_report.outcome(savedImages(), m_thread->isInterruptionRequested());
+    logMessage(outcome, nullptr);
     m_ui->currentVideoLabel->clear();
-    m_ui->statusLabel->setText(tr("Processing Complete"));
+    m_ui->statusLabel->setText(outcome);
+}
+
+/// A worker that was interrupted has not told of all, but is still there.
+int BatchProcessingDialog::savedImages() const
+{
+    QHash<const BatchWorker*, int> images = m_images;
+    const auto workers = m_thread->findChildren<BatchWorker*>();
+    for (const BatchWorker* const worker : workers) {
+        images[worker] = worker->savedImages();
+    }
+    int sum = 0;
+    for (const int count : qAsConst(images)) {
+        sum += count;
+    }
+    return sum;
 }
 
 void BatchProcessingDialog::showCurrentVideo(const BatchWorker& worker)
@@ -140,7 +177,11 @@ void BatchProcessingDialog::showCurrentVideo(const BatchWorker& worker)
 void BatchProcessingDialog::updateDoneButton()
 {
     const bool isFinished = m_thread->isFinished();
-    m_ui->doneButton->setText(isFinished ? tr("Done") : tr("Cancel"));
+    const bool isStopping = !isFinished && m_thread->isInterruptionRequested();
+    m_ui->doneButton->setText(isFinished   ? tr("Done")
+                              : isStopping ? tr("Stopping\u2026")
+                                           : tr("Cancel"));
+    m_ui->doneButton->setEnabled(!isStopping);
     // The return key shall close what is done, and not cancel what runs.
     m_ui->doneButton->setDefault(isFinished);
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "batch/BatchReport.h"
 #include "batch/BatchWorker.h"
 
 #include <QDialog>
+#include <QHash>
 #include <QString>
 
 #include <memory>
@@ -17,7 +19,8 @@ class BatchProcessingDialog;
 }
 
 /// Runs a batch and shows how it goes: the video, the last image, the progress, and a log of what
-/// went wrong. Errors of a job never stop the batch.
+/// went wrong, one line a cause. Errors of a job never stop the batch. At the end it says how many
+/// images there are and how much failed.
 ///
 /// Add the jobs, then exec(). While jobs run, the dialog closes for nobody: whoever tries to is
 /// asked whether to cancel the batch. User-interface thread only.
@@ -39,6 +42,9 @@ public:
 
     /// Appends a line to the log, headed by the path of the worker's video; null for none.
     void logMessage(const QString& message, BatchWorker* worker);
+
+    /// What became of the batch so far.
+    const BatchReport& report() const { return m_report; }
 
     /// Asks the user whether to cancel the batch.
     [[nodiscard]] bool confirmAbort();
@@ -64,7 +70,15 @@ private Q_SLOTS:
 private:
     void showCurrentVideo(const BatchWorker& worker);
     void updateDoneButton();
+    void logFailure(BatchWorkerConfig* job, const QString& message);
+    void replaceLogLine(int block, const QString& text);
+    [[nodiscard]] int savedImages() const;
 
     const std::unique_ptr<Ui::BatchProcessingDialog> m_ui;
     BatchThread* const m_thread;
+    BatchReport m_report;
+    /// The blocks of the log that tell of the causes in m_report.
+    QList<int> m_causeBlocks;
+    /// Of the workers that have told of images. They may be gone.
+    QHash<const BatchWorker*, int> m_images;
 };

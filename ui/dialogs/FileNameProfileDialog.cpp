@@ -28,6 +28,11 @@ FileNameProfileDialog::FileNameProfileDialog(QWidget* parent)
     connect(m_ui->profileSelector, &ProfileSelector::fieldChanged, this,
             &FileNameProfileDialog::fieldChanged);
     fillTypes();
+    connect(m_ui->profileSelector, &ProfileSelector::profileDeleted, this,
+            [this](BaseProfile* profile) {
+                if (profile == m_selectedProfile)
+                    m_selectedProfile = nullptr;
+            });
     loadProfiles();
 }
 
@@ -101,6 +106,8 @@ void FileNameProfileDialog::on_cancelButton_clicked()
 
 void FileNameProfileDialog::on_saveButton_clicked()
 {
+    if (!m_ui->profileSelector->maySave())
+        return;
     m_selectedProfile = qobject_cast<FileNameProfile*>(m_ui->profileSelector->saveProfile());
     accept();
 }

@@ -32,7 +32,7 @@ public:
     /// new profile, without a name.
     void setSelectedProfile(FileNameProfile* profile);
 
-    /// The profile that was saved, or else the one set; null at first.
+    /// The profile that was saved, or else the one set; null at first. Null once that was deleted.
     FileNameProfile* selectedProfile() const { return m_selectedProfile; }
 
     /// The name of the video that the examples are for, "MyVideo.mpeg" unless set. Its base name is

@@ -1,23 +1,113 @@
 #include "ui/dialogs/ImageFiltersDialog.h"
 
+#include "imaging/ImageRecipe.h"
+#include "imaging/Rendering.h"
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
 #include "ui_ImageFiltersDialog.h"
+
+#include <chrono>
 
 namespace {
 /// Where the sliders of both values leave an image as it is.
 constexpr int NeutralPosition = 100;
+
+/// Slider movements that come faster are shown together.
+constexpr std::chrono::milliseconds UpdateDelay{30};
+
+/// Corrections treat a fourth channel like a colour: an opaque picture goes without it, as frames
+/// do.
+QImage withoutUnusedChannel(const QImage& image)
+{
+    return image.format() == QImage::Format_RGB32 ? image.convertToFormat(QImage::Format_RGB888)
+                                                  : image;
+}
+
 } // namespace
 
 ImageFiltersDialog::ImageFiltersDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ImageFiltersDialog>())
+    , m_frame(withoutUnusedChannel(QImage(QStringLiteral(":/Images/watermarkBackground.jpg"))))
 {
     m_ui->setupUi(this);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    m_ui->filterComboBox->addItem(tr("Area"), ImageProfile::AreaFilter);
+    m_ui->filterComboBox->addItem(tr("Lanczos"), ImageProfile::LanczosFilter);
+    m_ui->filterComboBox->addItem(tr("Bicubic"), ImageProfile::BicubicFilter);
+    m_ui->filterComboBox->addItem(tr("Nearest"), ImageProfile::NearestFilter);
+    m_ui->applyButton->setEnabled(false);
+    connectControls();
+    updateImages();
 }
 
 ImageFiltersDialog::~ImageFiltersDialog() = default;
 
+void ImageFiltersDialog::connectControls()
+{
+    m_updateTimer.setSingleShot(true);
+    m_updateTimer.setInterval(UpdateDelay);
+    connect(&m_updateTimer, &QTimer::timeout, this, &ImageFiltersDialog::updateImages);
+    const auto showNumber = [this](QLabel& label, int position) {
+        label.setText(QString::number(position - NeutralPosition));
+        m_updateTimer.start();
+    };
+    connect(m_ui->brightnessSlider, &QSlider::valueChanged, this,
+            [this, showNumber](int value) { showNumber(*m_ui->brightnessValueLabel, value); });
+    connect(m_ui->contrastSlider, &QSlider::valueChanged, this,
+            [this, showNumber](int value) { showNumber(*m_ui->contrastValueLabel, value); });
+    connect(m_ui->filterComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged),
+            &m_updateTimer, QOverload<>::of(&QTimer::start));
+    connect(m_ui->closeButton, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void ImageFiltersDialog::setFrame(const QImage& frame)
+{
+    if (!frame.isNull()) {
+        m_frame = withoutUnusedChannel(frame);
+        updateImages();
+    }
+}
+
+void ImageFiltersDialog::setProfile(ImageProfile* profile)
+{
+    m_profile = profile;
+    m_ui->applyButton->setEnabled(profile != nullptr);
+    if (profile != nullptr) {
+        m_ui->applyButton->setToolTip(tr("Put these values into the image profile \u201c%1\u201d")
+                                          .arg(profile->name().toHtmlEscaped()));
+        m_ui->brightnessSlider->setValue(NeutralPosition + profile->imageBrightness());
+        m_ui->contrastSlider->setValue(NeutralPosition + profile->imageContrast());
+        m_ui->filterComboBox->setCurrentIndex(
+            m_ui->filterComboBox->findData(profile->resizeFilter()));
+    }
+    updateImages();
+}
+
+/// The values of the controls.
+void ImageFiltersDialog::enter(ImageProfile& profile) const
+{
+    profile.setImageBrightness(m_ui->brightnessSlider->value() - NeutralPosition);
+    profile.setImageContrast(m_ui->contrastSlider->value() - NeutralPosition);
+    profile.setResizeFilter(m_ui->filterComboBox->currentData().toInt());
+}
+
 void ImageFiltersDialog::updateImages()
-{}
+{
+    ImageProfile profile;
+    if (m_profile != nullptr) {
+        profile.takeValuesOf(*m_profile);
+    } else {
+        profile.setSameSizeAsVideo(true);
+    }
+    profile.setWatermarkProfileId(QString());
+    enter(profile);
+    const QImage after = imaging::render(m_frame, recipes::of(profile)).image;
+    profile.setImageBrightness(0);
+    profile.setImageContrast(0);
+    profile.setResizeFilter(ImageProfile::AreaFilter);
+    m_ui->comparisonView->setPictures(imaging::render(m_frame, recipes::of(profile)).image, after);
+}
 
 void ImageFiltersDialog::on_contrastSlider_sliderMoved(int value)
 {
@@ -29,11 +119,9 @@ void ImageFiltersDialog::on_brightnessSlider_sliderMoved(int value)
     brightness = static_cast<float>(value - NeutralPosition);
 }
 
-void ImageFiltersDialog::on_gammaSlider_sliderMoved(int /*value*/)
-{}
-
-void ImageFiltersDialog::on_sharpenslider_sliderMoved(int /*value*/)
-{}
-
-void ImageFiltersDialog::on_pushButton_clicked()
-{}
+void ImageFiltersDialog::on_applyButton_clicked()
+{
+    enter(*m_profile);
+    ImageProfile::profileManager()->saveProfiles();
+    accept();
+}

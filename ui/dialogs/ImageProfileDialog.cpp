@@ -136,6 +136,8 @@ void ImageProfileDialog::on_resetToDefaultsButton_clicked()
 
 void ImageProfileDialog::on_saveButton_clicked()
 {
+    if (!m_ui->profileSelector->maySave())
+        return;
     m_selectedProfile = qobject_cast<ImageProfile*>(m_ui->profileSelector->saveProfile());
     accept();
 }
@@ -218,6 +220,10 @@ void ImageProfileDialog::setupProfileSelector()
     ProfileSelector* const selector = m_ui->profileSelector;
     selector->loadProfiles(ImageProfile::profileManager());
     connect(selector, &ProfileSelector::fieldChanged, this, &ImageProfileDialog::fieldChanged);
+    connect(selector, &ProfileSelector::profileDeleted, this, [this](BaseProfile* profile) {
+        if (profile == m_selectedProfile)
+            m_selectedProfile = nullptr;
+    });
     // Another profile in the form is reported by no field, but is as much to be seen.
     connect(selector, &ProfileSelector::profileSelected, this, &ImageProfileDialog::updateImage);
 }

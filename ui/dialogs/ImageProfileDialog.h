@@ -34,7 +34,7 @@ public:
     void setSelectedProfile(ImageProfile* profile);
 
     /// The profile that was saved, else the one given to setSelectedProfile(); null before. Its
-    /// manager owns it.
+    /// manager owns it. Null once that was deleted.
     ImageProfile* selectedProfile() const { return m_selectedProfile; }
 
     /// The size of the current video in pixels, shown in place of the entered one where the

@@ -208,6 +208,8 @@ void WatermarkProfileDialog::on_shadowColorButton_clicked()
 
 void WatermarkProfileDialog::on_saveButton_clicked()
 {
+    if (!m_ui->profileSelector->maySave())
+        return;
     {
         // A new profile is selected on the way, which would ask for its picture in between.
         const QSignalBlocker blocker(m_ui->profileSelector);
@@ -248,6 +250,10 @@ void WatermarkProfileDialog::setupProfileSelector()
     connect(selector, &ProfileSelector::fieldChanged, this, &WatermarkProfileDialog::fieldChanged);
     connect(selector, &ProfileSelector::profileSelected, this,
             &WatermarkProfileDialog::profileSelected);
+    connect(selector, &ProfileSelector::profileDeleted, this, [this](BaseProfile* profile) {
+        if (profile == m_selectedProfile)
+            m_selectedProfile = nullptr;
+    });
     m_ui->profileSelector->loadProfiles(WatermarkProfile::profileManager());
 }
 

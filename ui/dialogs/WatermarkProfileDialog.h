@@ -34,7 +34,7 @@ public:
     void setSelectedProfile(WatermarkProfile* profile);
 
     /// The profile that was saved, else the one given to setSelectedProfile(); may be null. Its
-    /// manager owns it.
+    /// manager owns it. Null once that was deleted.
     WatermarkProfile* selectedProfile() const { return m_selectedProfile; }
 
     /// What the preview shows: `image`, as `imageProfile` makes it, with the watermark. Without

@@ -1,6 +1,5 @@
 #include "ui/mainwindow/MainWindow.h"
 
-#include "ui/mainwindow/DroppedVideo.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui_MainWindow.h"
 
@@ -8,15 +7,10 @@
 #include <QtAV/VideoOutput.h>
 
 #include <QAbstractButton>
-#include <QCloseEvent>
 #include <QComboBox>
-#include <QCoreApplication>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QMimeData>
 
 namespace {
 
@@ -90,6 +84,7 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     setSnapshotControlsEnabled(false);
     updateAutomaticFileNameDisplay();
     setupVolumePopup();
+    setupShowInFolder();
 }
 
 /// Says that there is nothing to show videos with, and leaves only what works without.
@@ -112,6 +107,8 @@ void MainWindow::connectPlayer()
     connect(m_player, &AVPlayer::started, this, &MainWindow::noticeBaseLayer);
     connect(m_player, &AVPlayer::durationChanged, this, &MainWindow::durationChanged);
     connect(m_player, &AVPlayer::positionChanged, this, &MainWindow::positionChanged);
+    // The frame at the place sought may be the one that was on screen, and lie beside it.
+    connect(m_player, &AVPlayer::seekFinished, this, updateSliderNow);
     connect(m_player, &AVPlayer::notifyIntervalChanged, this, &MainWindow::updateSliderUnit);
     connect(m_player, &AVPlayer::stateChanged, this, &MainWindow::updatePlayButton);
     connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::updatePlayButton);
@@ -129,6 +126,7 @@ void MainWindow::connectTransport()
     connect(m_ui->videoSlider, &QSlider::sliderMoved, this,
             [this](int value) { seekBySlider(value); });
     connect(m_ui->videoSlider, &QSlider::sliderPressed, this, [this] { seekBySlider(); });
+    connect(m_ui->videoSlider, &QSlider::sliderReleased, this, [this] { updateSlider(); });
     connect(m_ui->playButton, &QPushButton::clicked, this, &MainWindow::playPause);
     connect(m_ui->stepBackwardButton, &QPushButton::clicked, this, &MainWindow::stepBackward);
     connect(m_ui->stepForwardButton, &QPushButton::clicked, this, &MainWindow::stepForward);
@@ -146,8 +144,10 @@ void MainWindow::connectTransport()
     connect(m_ui->snapshotButton, &QPushButton::clicked, this, &MainWindow::snapshotButtonPressed);
     connect(m_ui->saveButton, &QPushButton::clicked, this, &MainWindow::saveButtonPressed);
     // Not at every key: each folder on the way to the one that is meant would raise the counter.
-    connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this,
-            &MainWindow::updateAutomaticFileNameDisplay);
+    connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this, [this] {
+        noteOutputFolder();
+        updateAutomaticFileNameDisplay();
+    });
     // The field has uses of its own for Space and the keys that take, copy and step.
     connect(m_ui->outputFolderLineEdit, &QLineEdit::returnPressed, this,
             [this] { m_ui->videoFrame->setFocus(); });
@@ -158,6 +158,9 @@ void MainWindow::alignControls()
     m_ui->splitter->setChildrenCollapsible(false);
     m_ui->playerLayout->setAlignment(m_ui->videoControlsFrame, Qt::AlignHCenter);
     m_ui->snapshotLayout->setAlignment(m_ui->snapshotControlsFrame, Qt::AlignHCenter);
+    // Two lines of it, so that the snapshot keeps its size when its line comes up.
+    m_ui->snapshotSummaryLabel->setFixedHeight(
+        2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());
     reserveTimeWidth(*m_ui->positionLabel);
     reserveTimeWidth(*m_ui->durationLabel);
 }
@@ -186,53 +189,8 @@ bool MainWindow::event(QEvent* event)
     return QMainWindow::event(event);
 }
 
-void MainWindow::on_actionExit_triggered()
-{
-    quit();
-}
-
-void MainWindow::confirmQuit()
-{
-    quit();
-}
-
-void MainWindow::closeEvent(QCloseEvent* event)
-{
-    event->ignore();
-    quit();
-}
-
-void MainWindow::quit()
-{
-    if (m_videoOutput != nullptr) {
-        m_videoOutput->deleteLater();
-    }
-    QCoreApplication::quit();
-}
-
 void MainWindow::retakeFocusAfterDialog()
 {
     raise();
     activateWindow();
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!DroppedVideo::pathIn(*event->mimeData()).isEmpty()) {
-        event->setDropAction(Qt::CopyAction);
-        event->accept();
-    }
-}
-
-void MainWindow::dropEvent(QDropEvent* event)
-{
-    const QString path = DroppedVideo::pathIn(*event->mimeData());
-    if (path.isEmpty()) {
-        return;
-    }
-    // Never a move: the program where the file comes from would delete it.
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    openVideo(path);
-    retakeFocusAfterDialog();
 }

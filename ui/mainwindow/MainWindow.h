@@ -22,6 +22,7 @@
 class FileNameProfile;
 class ImageProfile;
 class QFileDialog;
+class QPushButton;
 class VolumePopup;
 
 namespace QtAV {
@@ -36,11 +37,15 @@ class MainWindow;
 /// The application's one window: on the left a video player, on the right the snapshot taken from
 /// it, which is saved or copied.
 ///
-/// Its sources are split by topic: construction and ending in MainWindow.cpp, the player in
-/// MainWindow_player.cpp, the snapshot in MainWindow_snapshot.cpp, the menus in
+/// Its sources are split by topic: construction in MainWindow.cpp, videos from outside and ending
+/// in MainWindow_files.cpp, what is remembered in MainWindow_memory.cpp, the player in
+/// MainWindow_player.cpp, the snapshot in
+/// MainWindow_snapshot.cpp and what is told of it in MainWindow_summary.cpp, the menus in
 /// MainWindow_menus.cpp.
 ///
-/// Settings: "lastOpenDir", the folder that the save dialog starts in. User-interface thread only.
+/// Settings: "lastOpenDir", the folder that the save dialog starts in, and "lastSaveDir" in place
+/// of it where the user saved elsewhere; "outputFolder" of the automatic names,
+/// "automaticFileName", "windowGeometry", "splitterState". User-interface thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -91,8 +96,13 @@ public:
     /// Makes the save dialog; to be called once.
     void setupFileDialogs();
 
+    /// Gives the window the size, the place and all else that the last one kept at its end. Before
+    /// it is shown, and before a video is opened.
+    void restoreLayout();
+
 public Q_SLOTS:
     // The player.
+    /// Plays and pauses the video that is shown; where there is none, asks for one.
     void openVideoLabelClicked();
     void showSelectVideoDialog();
     void openVideo(QString path);
@@ -105,11 +115,13 @@ public Q_SLOTS:
     void updateSlider(qint64 position);
     void durationChanged(qint64 duration);
     void positionChanged(qint64 position);
+    /// Go where the slider stands, or would stand at this value; plays on if it was playing.
     void seekBySlider(int value);
     void seekBySlider();
     void skipBackward();
     void skipForward();
-    /// Pauses and goes `ms` milliseconds on, or back where it is negative.
+    /// Pauses and goes `ms` milliseconds on, or back where it is negative, from where the player is
+    /// going: calls that come before a frame does add up.
     void seekRelative(qint64 ms);
     void stepBackward();
     void stepForward();
@@ -130,12 +142,17 @@ public Q_SLOTS:
     void imageProfileUpdated(ImageProfile* profile);
     void saveButtonPressed();
     void on_actionSaveSnapshot_triggered();
+    /// Shows the file that was saved last in the file manager.
+    void on_actionShow_in_Folder_triggered();
     void saveWithAutomaticFileName();
     void showSaveDialog();
     void on_actionTake_Snapshot_triggered();
     void on_actionCopy_Snapshot_triggered();
     void on_actionCopy_Full_Frame_triggered();
+    /// The chosen profile is used from now on, also for the snapshot that is there.
     void on_imageProfileComboBox_activated(int index);
+    /// Selects a profile like the selected one, but in the video's own size; makes it if need be.
+    void on_originalSizeButton_clicked();
     void on_filenameProfileComboBox_activated(int index);
     void on_selectOutputFolderButton_clicked();
     void on_automaticFileNameGroupBox_toggled(bool on);
@@ -152,10 +169,13 @@ public Q_SLOTS:
 
     /// Ends the application, without a question.
     void confirmQuit();
+    /// Opens what another program passed on, when a snapshot that is not saved may go.
+    void openFromOutside(const QString& path);
     void retakeFocusAfterDialog();
 
 protected:
     bool event(QEvent* event) override;
+    /// Asks about a snapshot that was not saved; then ends the application.
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -175,18 +195,31 @@ private:
     void followImageProfile();
     void shareSpaceKey();
     void quit();
+    void saveLayout();
+    void setupShowInFolder();
+    void offerToShowSavedFile();
 
+    void showOutputFolder(const QFileInfo& video);
+    void noteOutputFolder();
+    void noteSaveFolder();
+    void noteOpenFolder(const QFileInfo& video);
     void followVideoFolder(const QFileInfo& video);
     void proposeFileName(const QFileInfo& video);
     void noticeMediaStatus();
     void noticeBaseLayer();
     void noticeFailedRead(const QString& reason);
     void showOpenButton(const QString& text);
+    void hideOpenButton();
+    [[nodiscard]] bool isVideoShown() const;
 
+    [[nodiscard]] bool maySnapshotGo();
     void capture();
     [[nodiscard]] QString makeSnapshot(ImageProfile* profile);
     void warnOfCapture(const QString& reason);
     void resetSnapshot();
+    void selectImageProfile(ImageProfile& profile);
+    [[nodiscard]] QString typeToSave() const;
+    void showSnapshotSummary();
     [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
     [[nodiscard]] WriteResult saveNewSnapshot(const QString& path);
     [[nodiscard]] PictureSource sourceOfCapture(const QImage& image) const;
@@ -199,6 +232,8 @@ private:
     QSettings m_settings;
     /// As processed; null until the first capture.
     QImage m_snapshotImage;
+    /// There is none, or it was saved or copied.
+    bool m_isSnapshotKept = true;
     /// What m_snapshotImage was made by.
     ImageRecipe m_snapshotRecipe;
     /// As captured.
@@ -213,6 +248,10 @@ private:
     QPointer<QtAV::VideoOutput> m_videoOutput;
     QDir m_lastOpenDir;
     QDir m_saveDialogDir;
+    /// Of the automatic names, as the user chose it; empty for that of the video.
+    QString m_outputFolder;
+    QString m_lastSavedFile;
+    QPushButton* m_showInFolderButton = nullptr;
     QString m_saveDialogFileName;
     QString m_saveDialogNameFilter;
     QFileDialog* m_saveDialog = nullptr;

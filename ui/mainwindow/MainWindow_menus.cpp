@@ -61,18 +61,27 @@ void MainWindow::on_editFileNameProfileButton_clicked()
 
 void MainWindow::on_actionBatch_Mode_triggered()
 {
-    closeVideo();
-    BatchModeDialog(this).exec();
+    pause();
+    BatchModeDialog dialog(this);
+    dialog.keepList();
+    dialog.exec();
     // Profiles may have been added, renamed and chosen there.
     loadImageProfileComboBox();
     loadFileNameProfileComboBox();
+    imageProfileUpdated(m_imageProfile);
+    updateAutomaticFileNameDisplay();
     retakeFocusAfterDialog();
 }
 
 void MainWindow::on_actionImage_Filters_Test_triggered()
 {
     pause();
-    ImageFiltersDialog(this).exec();
+    ImageFiltersDialog dialog(this);
+    dialog.setFrame(m_fullFrameImage.isNull() ? m_player->displayedFrame().toImage()
+                                              : m_fullFrameImage);
+    dialog.setProfile(m_imageProfile);
+    dialog.exec();
+    imageProfileUpdated(m_imageProfile);
     retakeFocusAfterDialog();
 }
 

@@ -95,7 +95,17 @@ void MainWindow::on_actionOpen_triggered()
 
 void MainWindow::openVideoLabelClicked()
 {
-    showSelectVideoDialog();
+    if (isVideoShown()) {
+        playPause();
+    } else {
+        showSelectVideoDialog();
+    }
+}
+
+/// A video is open, and nothing says that it cannot be played.
+bool MainWindow::isVideoShown() const
+{
+    return isVideoLoaded() && m_player->mediaStatus() != QtAV::InvalidMedia;
 }
 
 void MainWindow::showSelectVideoDialog()
@@ -108,7 +118,7 @@ void MainWindow::showSelectVideoDialog()
         return;
     }
     const QString file = dialog.selectedFiles().value(0);
-    if (!file.isEmpty()) {
+    if (!file.isEmpty() && maySnapshotGo()) {
         openVideo(file);
     }
 }
@@ -125,9 +135,9 @@ void MainWindow::openVideo(QString path)
     volumeChanged(m_volumePopup->volume());
     proposeFileName(video);
     followVideoFolder(video);
-    m_ui->outputFolderLineEdit->setText(QDir::toNativeSeparators(video.absolutePath()));
-    m_videoOutput->widget()->raise();
-    m_ui->openVideoLabel->setFocusPolicy(Qt::NoFocus);
+    showOutputFolder(video);
+    noteOpenFolder(video);
+    hideOpenButton();
     // The keys are the video's, and no button asks for them.
     m_ui->videoFrame->setFocus();
     setVideoControlsEnabled(true);
@@ -158,6 +168,7 @@ void MainWindow::followVideoFolder(const QFileInfo& video)
     m_lastOpenDir = video.absoluteDir();
     m_saveDialogDir = m_lastOpenDir;
     m_settings.setValue(QStringLiteral("lastOpenDir"), m_lastOpenDir.absolutePath());
+    noteSaveFolder();
 }
 
 void MainWindow::closeVideo()
@@ -177,8 +188,22 @@ void MainWindow::closeVideo()
 void MainWindow::showOpenButton(const QString& text)
 {
     m_ui->openVideoLabel->setText(text);
+    m_ui->openVideoLabel->setAccessibleName(QString());
+    m_ui->openVideoLabel->setAccessibleDescription(QString());
+    m_ui->openVideoLabel->setToolTip(tr("Open a video, or drop one here"));
     m_ui->openVideoLabel->setFocusPolicy(Qt::TabFocus);
     m_ui->openVideoLabel->raise();
+}
+
+/// Behind the video, the button still takes the clicks on it. It has no tool tip there, which would
+/// cover the picture.
+void MainWindow::hideOpenButton()
+{
+    m_videoOutput->widget()->raise();
+    m_ui->openVideoLabel->setAccessibleName(tr("Video"));
+    m_ui->openVideoLabel->setAccessibleDescription(tr("Plays and pauses"));
+    m_ui->openVideoLabel->setToolTip(QString());
+    m_ui->openVideoLabel->setFocusPolicy(Qt::NoFocus);
 }
 
 /// What cannot be played would leave a black screen, and nobody would know why.
@@ -195,6 +220,8 @@ void MainWindow::noticeMediaStatus()
     showOpenButton(fitting(name) + QLatin1Char('\n') + tr("cannot be played as a video.") +
                    QLatin1String("\n\n") + tr("Click to open another video"));
     statusBar()->showMessage(m_player->errorString());
+    // A snapshot that was taken before stays.
+    setVideoControlsEnabled(false);
 }
 
 void MainWindow::noticeBaseLayer()
@@ -249,7 +276,7 @@ void MainWindow::updateSlider()
         return;
     }
     m_ui->videoSlider->setRange(0, sliderSteps(m_player->duration(), m_sliderUnit));
-    m_ui->videoSlider->setValue(sliderSteps(m_player->displayPosition(), m_sliderUnit));
+    m_ui->videoSlider->setValue(sliderSteps(m_player->position(), m_sliderUnit));
 }
 
 void MainWindow::updateSlider(qint64 position)
@@ -273,9 +300,7 @@ void MainWindow::positionChanged(qint64 position)
 
 void MainWindow::seekBySlider(int value)
 {
-    if (m_player->isPlaying()) {
-        m_player->seek(value * m_sliderUnit);
-    }
+    m_player->seek(value * m_sliderUnit);
 }
 
 void MainWindow::seekBySlider()
@@ -296,7 +321,7 @@ void MainWindow::skipForward()
 void MainWindow::seekRelative(qint64 ms)
 {
     m_player->pause();
-    m_player->setPosition(m_player->displayPosition() + ms);
+    m_player->setPosition(m_player->position() + ms);
 }
 
 void MainWindow::stepBackward()

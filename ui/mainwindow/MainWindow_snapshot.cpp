@@ -79,6 +79,7 @@ void MainWindow::snapshotCaptured(const QImage& image)
     m_capturedFrame = m_player->videoCapture()->capturedFrame();
     m_capturedSource = sourceOfCapture(image);
     const QString error = makeSnapshot(nullptr);
+    m_isSnapshotKept = m_snapshotImage.isNull();
     // Without a snapshot as well: the profile may be to blame, and is edited there.
     setSnapshotControlsEnabled(true);
     if (!error.isEmpty()) {
@@ -135,6 +136,7 @@ QString MainWindow::makeSnapshot(ImageProfile* profile)
     const imaging::Rendering made = imaging::render(m_fullFrameImage, m_snapshotRecipe);
     m_snapshotImage = made.image;
     m_ui->snapshotImageView->setImage(m_snapshotImage);
+    showSnapshotSummary();
     return made.error;
 }
 
@@ -151,7 +153,9 @@ void MainWindow::resetSnapshot()
     m_snapshotImage = QImage();
     m_capturedFrame = QtAV::VideoFrame();
     m_capturedSource = PictureSource();
+    m_isSnapshotKept = true;
     m_ui->snapshotImageView->setImage(m_snapshotImage);
+    showSnapshotSummary();
 }
 
 void MainWindow::setSnapshotControlsEnabled(bool on)
@@ -217,7 +221,12 @@ WriteResult MainWindow::saveNewSnapshot(const QString& path)
 void MainWindow::reportSaving(const QString& path, bool success)
 {
     qDebug() << (success ? "Save success" : "Save failure") << path;
+    m_isSnapshotKept = m_isSnapshotKept || success;
     const QString shownPath = QDir::toNativeSeparators(path);
+    if (success) {
+        m_lastSavedFile = QFileInfo(path).absoluteFilePath();
+        offerToShowSavedFile();
+    }
     statusBar()->showMessage((success ? tr("Saved %1") : tr("Could not save %1")).arg(shownPath),
                              messageMs);
 }
@@ -282,6 +291,7 @@ void MainWindow::updateAutomaticFileNameDisplay()
     if (isShown) {
         m_ui->nextFileNameLabel->setText(automaticFileName(folderIn(*m_ui->outputFolderLineEdit)));
     }
+    showSnapshotSummary();
 }
 
 void MainWindow::on_automaticFileNameGroupBox_toggled(bool on)
@@ -299,6 +309,7 @@ void MainWindow::on_selectOutputFolderButton_clicked()
         QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     if (!folder.isEmpty() && QDir(folder).exists()) {
         m_ui->outputFolderLineEdit->setText(QDir::toNativeSeparators(folder));
+        noteOutputFolder();
         updateAutomaticFileNameDisplay();
     }
 }
@@ -318,7 +329,9 @@ void MainWindow::showSaveDialog()
     if (!m_saveDialogNameFilter.isEmpty()) {
         m_saveDialog->selectNameFilter(m_saveDialogNameFilter);
     }
-    m_saveDialog->selectFile(m_saveDialogFileName);
+    m_saveDialog->selectFile(SavePath::nextFree(m_saveDialogDir, m_saveDialogFileName,
+                                                m_saveDialog->selectedNameFilter(),
+                                                QFileInfo(m_currentVideoPath).completeBaseName()));
     if (m_saveDialog->exec() == QDialog::Accepted) {
         saveAs(m_saveDialog->selectedFiles().value(0));
     }
@@ -333,9 +346,12 @@ void MainWindow::saveAs(const QString& chosen)
         return;
     }
     if (saveSnapshot(path)) {
-        m_saveDialogDir = m_saveDialog->directory();
+        // Not the one that the dialog shows: the name may have been typed with another.
+        m_saveDialogDir = QFileInfo(path).absoluteDir();
         m_saveDialogFileName = QFileInfo(path).fileName();
         m_saveDialogNameFilter = m_saveDialog->selectedNameFilter();
+        noteSaveFolder();
+        showSnapshotSummary();
     }
 }
 
@@ -352,6 +368,7 @@ void MainWindow::on_actionCopy_Snapshot_triggered()
 {
     if (!m_snapshotImage.isNull()) {
         ImageProcessingManager::instance()->setToClipboard(m_snapshotImage.copy());
+        m_isSnapshotKept = true;
     }
 }
 
@@ -359,6 +376,7 @@ void MainWindow::on_actionCopy_Full_Frame_triggered()
 {
     if (!m_fullFrameImage.isNull()) {
         ImageProcessingManager::instance()->setToClipboard(m_fullFrameImage.copy());
+        m_isSnapshotKept = true;
     }
 }
 
@@ -381,8 +399,7 @@ void MainWindow::on_imageProfileComboBox_activated(int index)
     BaseProfile* const chosen =
         chooseProfile(*m_ui->imageProfileComboBox, *ImageProfile::profileManager());
     if (chosen != nullptr) {
-        m_imageProfile = static_cast<ImageProfile*>(chosen);
-        followImageProfile();
+        selectImageProfile(*static_cast<ImageProfile*>(chosen));
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QString>
 #include <QStringList>
 
@@ -12,5 +13,11 @@ namespace SavePath {
 /// The path, which ends in the first suffix of the name filter unless it ends in one of an image
 /// already. A video's name often has dots of its own, so that any suffix does not do.
 [[nodiscard]] QString completed(const QString& path, const QString& nameFilter);
+
+/// The name itself if the folder has no such file, else the next one that is free: a number at its
+/// end counts on, any other name gets one. The number that a video's own name ends in is none.
+/// Whether there is a file is asked for the name as the name filter completes it.
+[[nodiscard]] QString nextFree(const QDir& folder, const QString& name, const QString& nameFilter,
+                               const QString& videoBaseName);
 
 } // namespace SavePath

@@ -25,6 +25,7 @@ ProfileSelector::ProfileSelector(QWidget* parent)
     // would load the profile of a typed name over the form before that could be saved under it.
     m_ui->profileComboBox->setCompleter(nullptr);
     disconnect(nameEdit, &QLineEdit::editingFinished, m_ui->profileComboBox, nullptr);
+    setupMenu();
 }
 
 ProfileSelector::~ProfileSelector() = default;

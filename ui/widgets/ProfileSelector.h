@@ -18,7 +18,8 @@ class ProfileSelector;
 }
 
 /// The strip on top of every profile dialog: a combo box with the profiles of one kind, to pick one
-/// or to type the name of a new one; and the values between the dialog's form and the profiles.
+/// or to type the name of a new one; a menu that renames, duplicates and deletes; and the values
+/// between the dialog's form and the profiles.
 ///
 /// The dialog adds a Field for each property, connects the signals, calls loadProfiles() and then
 /// loadProfile() with the one to begin with. A typed name neither adds nor chooses a profile before
@@ -72,6 +73,13 @@ public:
     /// changes. Does nothing before loadProfiles().
     void loadDefaultValues();
 
+    /// The profile of the list that was chosen last, whatever has been typed since; null for none.
+    BaseProfile* selectedProfile() const;
+
+    /// Whether saveProfile() may be called: asks the user where that would change another profile
+    /// than the selected one, whose name was typed.
+    [[nodiscard]] bool maySave();
+
     /// Saves the form in the current listed profile, or, if there is none, in a new one, which gets
     /// the text in the combo box for its name and is listed and selected (profileSelected()).
     /// Writes the file of the kind. Gives the profile, which the manager owns; null, with nothing
@@ -85,6 +93,10 @@ Q_SIGNALS:
     /// The text in the combo box changed, by typing or by selecting.
     void profileNameTextChanged(const QString& name);
 
+    /// The user deleted the profile, which lives on for those that hold it but is in no list any
+    /// more. Another one becomes selected next.
+    void profileDeleted(BaseProfile* profile);
+
     /// What a bound widget holds changed other than by loading a profile. Colour and font labels do
     /// not report.
     void fieldChanged(Field* field);
@@ -94,6 +106,11 @@ private Q_SLOTS:
     void on_profileComboBox_currentIndexChanged(int index);
 
 private:
+    void setupMenu();
+    void renameProfile();
+    void duplicateProfile();
+    void deleteProfile();
+    bool isNameTaken(const QString& name, const BaseProfile* exceptFor) const;
     BaseProfile* addTypedProfile();
 
     std::unique_ptr<Ui::ProfileSelector> m_ui;

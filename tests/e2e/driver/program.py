@@ -28,15 +28,7 @@ class Program:
         self._process = None
 
     def __enter__(self):
-        self._home.mkdir(parents=True, exist_ok=True)
-        with open(self.log_file, "ab") as log:
-            self._process = processes.start(
-                [BINARY, *self._arguments],
-                env=self._all_environment(),
-                cwd=self._home,
-                stdout=log,
-                stderr=log,
-            )
+        self._start()
         try:
             self.window()
         except BaseException:
@@ -46,6 +38,30 @@ class Program:
 
     def __exit__(self, *error):
         processes.stop(self._process)
+
+    def _start(self):
+        self._home.mkdir(parents=True, exist_ok=True)
+        with open(self.log_file, "ab") as log:
+            self._process = processes.start(
+                [BINARY, *self._arguments],
+                env=self._all_environment(),
+                cwd=self._home,
+                stdout=log,
+                stderr=log,
+            )
+
+    def run(self):
+        """Runs it in place of a `with`, where it shows no window; gives its exit code."""
+        self._start()
+        try:
+            return self.wait_for_end()
+        finally:
+            processes.stop(self._process)
+
+    def kill(self):
+        """Ends it in a way that leaves it no time for anything."""
+        self._process.kill()
+        self._process.wait()
 
     def _all_environment(self):
         sanitizers = {key: os.environ[key] for key in os.environ if key.endswith("SAN_OPTIONS")}
@@ -190,7 +206,13 @@ class Program:
 
     def open_button(self):
         """The button in the place of the video, which also lies behind a video that is shown."""
-        return self.find("push button", description="Open a video, or drop one here")
+        wanted = ("Open a video, or drop one here", "Plays and pauses")
+
+        def found():
+            buttons = self._controls("push button", None, None)
+            return next((button for button in buttons if button.description in wanted), None)
+
+        return wait_until(found, "neither a video nor a button that opens one")
 
     def open_with_dialog(self, path):
         """Opens the video as a user does, and waits until it is on the screen."""

@@ -82,7 +82,6 @@ private Q_SLOTS:
     void loadedVideos_areSelectedAlone();
     void loadedVideo_isProbed();
     void cancelledLoading_addsNothing();
-    void loadedVideos_beginLikeTheOneEditedLast();
     void droppedFiles_areLoaded_andFoldersAreNot();
     void removal_takesTheSelectedOnes_data();
     void removal_takesTheSelectedOnes();
@@ -95,7 +94,6 @@ private Q_SLOTS:
     void savedImageProfile_goesIntoTheSelectedJobs();
     void cancelledImageProfile_changesNothing_whereJobsDiffer();
     void start_runsAllJobs_andKeepsTheList();
-    void start_savesTheDefaults_ofTheLastSelectedJob();
     void start_showsIntervalsThatWereCorrected();
     void cancel_closesTheDialog();
 };
@@ -151,20 +149,6 @@ void BatchModeDialogFilesTest::cancelledLoading_addsNothing()
     QVERIFY(script.isDone());
     QCOMPARE(mode.model().rowCount(), 1);
     QCOMPARE(mode.selectedRows(), QList<int>{0});
-}
-
-void BatchModeDialogFilesTest::loadedVideos_beginLikeTheOneEditedLast()
-{
-    ModeDialog mode;
-    mode.load(3);
-    mode.select({0, 1});
-    mode.enter("skipFrontTextEdit", QStringLiteral("123"));
-    mode.click("intervalSingleShotRadioButton");
-    mode.load(1);
-    QCOMPARE(mode.job(3).skipFront(), 123);
-    QCOMPARE(mode.job(3).intervalType(), 2);
-    QCOMPARE(mode.job(3).fileOutputPath(), mode.dir().path());
-    QCOMPARE(mode.job(2).skipFront(), 2000);
 }
 
 void BatchModeDialogFilesTest::droppedFiles_areLoaded_andFoldersAreNot()
@@ -365,31 +349,10 @@ void BatchModeDialogFilesTest::start_runsAllJobs_andKeepsTheList()
     QVERIFY(script.isDone());
     QCOMPARE(QDir(mode.dir().path()).entryList({QStringLiteral("*.jpeg")}),
              (QStringList{QStringLiteral("h264_bframes-.jpeg"), QStringLiteral("mpeg4-.jpeg")}));
-    QCOMPARE(log, mode.file(2) + QStringLiteral(": Could not open file\nProcessing Complete\n"));
+    QCOMPARE(log, mode.file(2) +
+                      QStringLiteral(": Could not open file\nFinished: 2 images, 1 failed\n"));
     QCOMPARE(mode.model().rowCount(), 3);
     QCOMPARE(mode.selectedRows(), QList<int>{0});
-}
-
-void BatchModeDialogFilesTest::start_savesTheDefaults_ofTheLastSelectedJob()
-{
-    ModeDialog mode;
-    mode.load(3);
-    for (const int row : {0, 1, 2}) {
-        mode.job(row).setSkipBack(100 + row);
-    }
-    const auto startAndEnd = [&mode] {
-        ModalScript script;
-        script.expect<BatchProcessingDialog>(endBatch);
-        mode.click("startButton");
-        QVERIFY(script.isDone());
-    };
-    mode.select({0, 1});
-    startAndEnd();
-    QCOMPARE(mode.defaults().value(QStringLiteral("skipBack")).toInt(), 101);
-    mode.select({});
-    startAndEnd();
-    QCOMPARE(mode.defaults().value(QStringLiteral("skipBack")).toInt(), 102);
-    QVERIFY(!mode.defaults().contains(QStringLiteral("source")));
 }
 
 /// One image of many is a single shot, which the worker makes of it.

@@ -23,9 +23,9 @@ using testsupport::TestDir;
 
 namespace {
 
-QString complete()
+QString finished(const QString& images)
 {
-    return QStringLiteral("Processing Complete");
+    return QStringLiteral("Finished: ") + images;
 }
 
 /// 20.8 seconds: every quarter of a second makes a job that does not end by itself soon.
@@ -60,13 +60,15 @@ private Q_SLOTS:
     void video_isNamed_beforeItsFirstImage();
     void status_isShown_andOnlyErrorsAreLogged();
     void failedJob_isLoggedWithItsVideo();
+    void failuresOfOneCause_shareALine_withTheirCount();
     void errors_keepTheirPlaceBehindOthers_whereverTheCursorIs();
     void lastImage_isShown();
     void progress_isShownInWholePercent_data();
     void progress_isShownInWholePercent();
     void cancelling_isAskedFor_andNoChangesNothing_data();
     void cancelling_isAskedFor_andNoChangesNothing();
-    void cancelling_endsTheBatch();
+    void cancelling_endsTheBatch_andCountsItsImages_data();
+    void cancelling_endsTheBatch_andCountsItsImages();
     void returnKey_closesWhatIsDone_andCancelsNothing();
     void batch_isStopped_whenTheDialogEnds();
     void largeFonts_areNotCutOff();
@@ -109,9 +111,11 @@ void BatchProcessingDialogTest::batch_endsComplete_withItsImagesAndItsBarsFull()
     QVERIFY(batch.execToItsEnd());
     QCOMPARE(filesIn(dir.path()),
              (QStringList{QStringLiteral("h264_bframes-.jpeg"), QStringLiteral("mjpeg-.jpeg")}));
-    QCOMPARE(batch.log(), complete() + QLatin1Char('\n'));
+    const QString outcome = finished(QStringLiteral("2 images"));
+    QCOMPARE(batch.log(), outcome + QLatin1Char('\n'));
     QCOMPARE(batch.labelText("currentVideoLabel"), QString());
-    QCOMPARE(batch.labelText("statusLabel"), complete());
+    QCOMPARE(batch.labelText("statusLabel"), outcome);
+    QVERIFY(batch.dialog().report().failedJobs().isEmpty());
     QCOMPARE(batch.percent("progressBarCurrent"), 100);
     QCOMPARE(batch.percent("progressBarTotal"), 100);
     QVERIFY(!batch.dialog().isVisible());
@@ -121,7 +125,7 @@ void BatchProcessingDialogTest::emptyBatch_isCompleteAtOnce()
 {
     RunningBatch batch;
     QVERIFY(batch.execToItsEnd());
-    QCOMPARE(batch.log(), complete() + QLatin1Char('\n'));
+    QCOMPARE(batch.log(), finished(QStringLiteral("0 images\n")));
     QCOMPARE(batch.percent("progressBarTotal"), 0);
 }
 
@@ -166,12 +170,35 @@ void BatchProcessingDialogTest::failedJob_isLoggedWithItsVideo()
     const TestDir dir;
     RunningBatch batch;
     const QString missing = dir.filePath(QStringLiteral("missing.mp4"));
-    batch.addJob(missing, dir.path());
+    BatchWorkerConfig& job = batch.addJob(missing, dir.path());
     QVERIFY(batch.execToItsEnd());
-    QCOMPARE(batch.log(),
-             missing + QStringLiteral(": Could not open file\n") + complete() + QLatin1Char('\n'));
+    QCOMPARE(batch.log(), missing + QStringLiteral(": Could not open file\n") +
+                              finished(QStringLiteral("0 images, 1 failed\n")));
+    QCOMPARE(batch.dialog().report().failedJobs(), QList<BatchWorkerConfig*>{&job});
     QCOMPARE(batch.percent("progressBarTotal"), 100);
     QVERIFY(filesIn(dir.path()).isEmpty());
+}
+
+void BatchProcessingDialogTest::failuresOfOneCause_shareALine_withTheirCount()
+{
+    const TestDir dir;
+    RunningBatch batch;
+    const QString folder = dir.filePath(QStringLiteral("not a folder"));
+    QFile file(folder);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const QString missing = dir.filePath(QStringLiteral("missing.mp4"));
+    batch.addJob(missing, dir.path());
+    BatchWorkerConfig& job = batch.addJob(goodVideo(), folder);
+    job.setIntervalType(BatchWorkerConfig::SpreadImages);
+    job.setIntervalImages(5);
+    QVERIFY(batch.execToItsEnd());
+    const QString image = QDir(folder).filePath(QStringLiteral("h264_bframes-00001.jpeg"));
+    QCOMPARE(batch.logLines(),
+             QStringList({missing + QStringLiteral(": Could not open file"),
+                          goodVideo() + QStringLiteral(": Could not save ") + image +
+                              QStringLiteral(" (and 4 more of this kind)"),
+                          finished(QStringLiteral("0 images, 6 failed"))}));
+    QCOMPARE(batch.dialog().report().failedJobs().size(), 2);
 }
 
 void BatchProcessingDialogTest::errors_keepTheirPlaceBehindOthers_whereverTheCursorIs()
@@ -257,22 +284,45 @@ void BatchProcessingDialogTest::cancelling_isAskedFor_andNoChangesNothing()
     });
 }
 
-void BatchProcessingDialogTest::cancelling_endsTheBatch()
+void BatchProcessingDialogTest::cancelling_endsTheBatch_andCountsItsImages_data()
 {
+    QTest::addColumn<bool>("exact");
+    QTest::newRow("one after another") << false;
+    QTest::newRow("on all cores") << true;
+}
+
+void BatchProcessingDialogTest::cancelling_endsTheBatch_andCountsItsImages()
+{
+    QFETCH(const bool, exact);
     const TestDir dir;
     RunningBatch batch;
-    addLongJob(batch, dir.path());
+    BatchWorkerConfig& job = addLongJob(batch, dir.path());
+    job.setExactFrames(exact);
+    job.setIntervalMilliseconds(exact ? 40 : 250);
+    job.imageProfile()->setImageWidth(exact ? 1600 : 160);
+    job.imageProfile()->setImageHeight(exact ? 1200 : 120);
+    batch.thread().findChild<BatchWorker*>()->prepare();
     batch.addJob(goodVideo(), dir.path());
     batch.exec([&] {
+        QTRY_VERIFY_WITH_TIMEOUT(!filesIn(dir.path()).isEmpty(), 60000);
         SeenBox box;
         answerNextBox(QMessageBox::Yes, box);
         batch.button().click();
         QVERIFY(batch.thread().isInterruptionRequested());
         QVERIFY(batch.dialog().isVisible());
+        QCOMPARE(batch.button().text(), QStringLiteral("Stopping…"));
+        QVERIFY(!batch.button().isEnabled());
+        // Closing once more neither asks nor closes.
+        QVERIFY(!batch.dialog().close());
         QVERIFY(batch.waitForEnd());
+        QVERIFY(batch.button().isEnabled());
         QVERIFY(batch.dialog().isVisible());
-        QCOMPARE(batch.log(), complete() + QLatin1Char('\n'));
-        QCOMPARE(batch.labelText("statusLabel"), complete());
+        const int images = filesIn(dir.path()).size();
+        const QString outcome = QStringLiteral("Cancelled after %1 image%2")
+                                    .arg(images)
+                                    .arg(images == 1 ? QString() : QStringLiteral("s"));
+        QCOMPARE(batch.log(), outcome + QLatin1Char('\n'));
+        QCOMPARE(batch.labelText("statusLabel"), outcome);
         QVERIFY(batch.percent("progressBarTotal") < 50);
         batch.button().click();
         QVERIFY(!batch.dialog().isVisible());

@@ -1,13 +1,17 @@
 #include "tests/ui/dialogs/NameDialog.h"
 
+#include "tests/ui/support/NextBox.h"
+
 #include <QFile>
 
 #include <memory>
 
 using testsupport::addProfile;
+using testsupport::answerNextBox;
 using testsupport::manager;
 using testsupport::NameDialog;
 using testsupport::nameProfilesFile;
+using testsupport::SeenBox;
 
 class FileNameProfileDialogSavingTest : public QObject
 {
@@ -21,7 +25,7 @@ private Q_SLOTS:
     void save_isEnabled_exactlyWithAName();
     void save_overwritesProfile_keepsItsPadding_andCloses();
     void save_makesProfile_forNewName();
-    void save_takesTheOneWhoseNameIsTyped();
+    void save_takesTheOneWhoseNameIsTyped_onceThatIsConfirmed();
     void cancel_savesNothing_andCloses();
     void reset_showsDefaults_butSavesNothing();
     void returnKey_saves_data();
@@ -115,13 +119,20 @@ void FileNameProfileDialogSavingTest::save_makesProfile_forNewName()
     QCOMPARE(profile->fileOutputPrefix(), QStringLiteral("a-"));
 }
 
-void FileNameProfileDialogSavingTest::save_takesTheOneWhoseNameIsTyped()
+void FileNameProfileDialogSavingTest::save_takesTheOneWhoseNameIsTyped_onceThatIsConfirmed()
 {
     FileNameProfile* const first = addProfile(QStringLiteral("A"), QStringLiteral("a-"));
     FileNameProfile* const second = addProfile(QStringLiteral("My Profile"));
     NameDialog names;
     names->setSelectedProfile(first);
     names.typeName(QStringLiteral("my profile"));
+    SeenBox box;
+    answerNextBox(QMessageBox::No, box);
+    names.save().click();
+    QVERIFY(box.text.contains(QStringLiteral("My Profile")));
+    QCOMPARE(names->selectedProfile(), first);
+    QCOMPARE(second->fileOutputPrefix(), QString());
+    answerNextBox(QMessageBox::Yes, box);
     names.save().click();
     QCOMPARE(names->selectedProfile(), second);
     QCOMPARE(second->fileOutputPrefix(), QStringLiteral("a-"));

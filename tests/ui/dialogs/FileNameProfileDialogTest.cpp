@@ -151,10 +151,10 @@ void FileNameProfileDialogTest::tabKey_goesThroughTheForm_inOrder()
     QVERIFY(names.show());
     names.profiles().setFocus();
     // The buttons stand in the order of the platform.
-    QStringList expected{QStringLiteral("profileComboBox"), QStringLiteral("formatPrefixLineEdit"),
-                         QStringLiteral("formatBasenameLineEdit"),
-                         QStringLiteral("formatSuffixLineEdit"),
-                         QStringLiteral("formatFileExtensionComboBox")};
+    QStringList expected{
+        QStringLiteral("profileComboBox"),      QStringLiteral("profileMenuButton"),
+        QStringLiteral("formatPrefixLineEdit"), QStringLiteral("formatBasenameLineEdit"),
+        QStringLiteral("formatSuffixLineEdit"), QStringLiteral("formatFileExtensionComboBox")};
     QMap<int, QString> buttons;
     for (const QPushButton* const button : {&names.reset(), &names.save(), &names.cancel()})
         buttons.insert(button->x(), button->objectName());

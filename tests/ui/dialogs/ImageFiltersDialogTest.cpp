@@ -1,19 +1,43 @@
 #include "ui/dialogs/ImageFiltersDialog.h"
 
-#include <QLabel>
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
+#include "tests/ui/dialogs/support/TestProfiles.h"
+#include "ui/widgets/ComparisonView.h"
+
+#include <QComboBox>
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
 
+using testsupport::TestProfiles;
+
 namespace {
 
-/// Moves the handle as a drag does: sliders that the program sets do not count as moved.
+/// Moves the handle as a drag does.
 void drag(const ImageFiltersDialog& dialog, const char* name, int position)
 {
     auto* slider = dialog.findChild<QSlider*>(QLatin1String(name));
     slider->setSliderDown(true);
     slider->setSliderPosition(position);
     slider->setSliderDown(false);
+}
+
+QImage grey()
+{
+    QImage image(64, 48, QImage::Format_RGB32);
+    image.fill(QColor(100, 100, 100));
+    return image;
+}
+
+/// The brightness of the picture shown, left (0) to right (1) in the middle of its height.
+int shownAt(const ImageFiltersDialog& dialog, double place)
+{
+    auto* const view = dialog.findChild<ComparisonView*>();
+    const QImage shown = view->grab().toImage();
+    const int width = shown.height() * 64 / 48;
+    const int left = (shown.width() - width) / 2;
+    return qGray(shown.pixel(left + int(place * width), shown.height() / 2));
 }
 
 } // namespace
@@ -25,15 +49,12 @@ class ImageFiltersDialogTest : public QObject
 private Q_SLOTS:
     void init();
     void form_hasItsTexts();
-    void sliders_haveNames_withoutSeeingThem();
-    void values_areNeutral_whereSlidersStart();
-    void brightness_followsItsSlider_data();
-    void brightness_followsItsSlider();
-    void contrast_followsItsSlider_data();
-    void contrast_followsItsSlider();
-    void values_stay_whenProgramSetsSliders();
-    void values_outliveTheDialog();
-    void otherControls_changeNothing();
+    void controls_haveNames_withoutSeeingThem();
+    void picture_isDivided_beforeAndAfter();
+    void values_beginAsInTheProfile();
+    void values_goIntoTheProfile_onlyWhenApplied();
+    void nothingCanBeApplied_withoutAProfile();
+    void draggedValues_outliveTheDialog();
 };
 
 void ImageFiltersDialogTest::init()
@@ -45,111 +66,98 @@ void ImageFiltersDialogTest::init()
 void ImageFiltersDialogTest::form_hasItsTexts()
 {
     const ImageFiltersDialog dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Dialog"));
-    QStringList texts;
-    const auto labels = dialog.findChildren<QLabel*>();
-    for (const QLabel* label : labels) {
-        texts += label->text();
-    }
-    QCOMPARE(texts, (QStringList{QStringLiteral("Brightness"), QStringLiteral("Contrast"),
-                                 QStringLiteral("Gamma"), QStringLiteral("Sharpen")}));
-    QCOMPARE(dialog.findChild<QPushButton*>(QStringLiteral("pushButton"))->text(),
-             QStringLiteral("PushButton"));
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Compare Filters"));
+    QCOMPARE(dialog.findChild<QPushButton*>(QStringLiteral("applyButton"))->text(),
+             QStringLiteral("Apply to Profile"));
 }
 
-void ImageFiltersDialogTest::sliders_haveNames_withoutSeeingThem()
+void ImageFiltersDialogTest::controls_haveNames_withoutSeeingThem()
 {
     const ImageFiltersDialog dialog(nullptr);
-    const auto sliders = dialog.findChildren<QSlider*>();
-    QCOMPARE(sliders.size(), 4);
-    for (const QSlider* slider : sliders) {
-        QVERIFY2(!slider->accessibleName().isEmpty(), qPrintable(slider->objectName()));
+    for (const char* name :
+         {"comparisonView", "brightnessSlider", "contrastSlider", "filterComboBox"}) {
+        QVERIFY2(!dialog.findChild<QWidget*>(QLatin1String(name))->accessibleName().isEmpty(),
+                 name);
     }
 }
 
-void ImageFiltersDialogTest::values_areNeutral_whereSlidersStart()
+void ImageFiltersDialogTest::picture_isDivided_beforeAndAfter()
 {
-    const ImageFiltersDialog dialog(nullptr);
-    for (const char* name : {"brightnessSlider", "contrastSlider"}) {
-        drag(dialog, name, 0);
-        drag(dialog, name, 100);
-        QCOMPARE(dialog.findChild<QSlider*>(QLatin1String(name))->value(), 100);
+    ImageFiltersDialog dialog(nullptr);
+    dialog.setFrame(grey());
+    dialog.resize(500, 600);
+    dialog.show();
+    QCOMPARE(shownAt(dialog, 0.25), 100);
+    QCOMPARE(shownAt(dialog, 0.75), 100);
+    drag(dialog, "brightnessSlider", 140);
+    QTRY_COMPARE(shownAt(dialog, 0.75), 140);
+    QCOMPARE(shownAt(dialog, 0.25), 100);
+    auto* const view = dialog.findChild<ComparisonView*>();
+    view->setDivider(0.1);
+    QCOMPARE(shownAt(dialog, 0.25), 140);
+}
+
+void ImageFiltersDialogTest::values_beginAsInTheProfile()
+{
+    ImageProfile profile;
+    profile.setSameSizeAsVideo(true);
+    profile.setImageBrightness(-30);
+    profile.setResizeFilter(ImageProfile::LanczosFilter);
+    ImageFiltersDialog dialog(nullptr);
+    dialog.setFrame(grey());
+    dialog.setProfile(&profile);
+    QCOMPARE(dialog.findChild<QSlider*>(QStringLiteral("brightnessSlider"))->value(), 70);
+    QCOMPARE(dialog.findChild<QComboBox*>()->currentText(), QStringLiteral("Lanczos"));
+    dialog.resize(500, 600);
+    dialog.show();
+    QCOMPARE(shownAt(dialog, 0.75), 70);
+    QCOMPARE(shownAt(dialog, 0.25), 100);
+}
+
+void ImageFiltersDialogTest::values_goIntoTheProfile_onlyWhenApplied()
+{
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(QStringLiteral("mine"));
+    {
+        ImageFiltersDialog dialog(nullptr);
+        dialog.setProfile(&profile);
+        drag(dialog, "brightnessSlider", 120);
+        dialog.findChild<QPushButton*>(QStringLiteral("closeButton"))->click();
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        QCOMPARE(profile.imageBrightness(), 0);
     }
-    QCOMPARE(ImageFiltersDialog::brightness, 0.0F);
-    QCOMPARE(ImageFiltersDialog::contrast, 1.0);
-    const ImageFiltersDialog fresh(nullptr);
-    QCOMPARE(fresh.findChild<QSlider*>(QStringLiteral("brightnessSlider"))->value(), 100);
-    QCOMPARE(fresh.findChild<QSlider*>(QStringLiteral("contrastSlider"))->value(), 100);
+    ImageFiltersDialog dialog(nullptr);
+    dialog.setProfile(&profile);
+    drag(dialog, "brightnessSlider", 120);
+    drag(dialog, "contrastSlider", 90);
+    dialog.findChild<QComboBox*>()->setCurrentIndex(2);
+    dialog.findChild<QPushButton*>(QStringLiteral("applyButton"))->click();
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(profile.imageBrightness(), 20);
+    QCOMPARE(profile.imageContrast(), -10);
+    QCOMPARE(profile.resizeFilter(), int(ImageProfile::BicubicFilter));
+    ImageProfile::profileManager()->loadProfilesFromFile();
+    const auto* const stored = static_cast<const ImageProfile*>(
+        ImageProfile::profileManager()->profileForId(profile.id()));
+    QCOMPARE(stored->imageBrightness(), 20);
 }
 
-void ImageFiltersDialogTest::brightness_followsItsSlider_data()
-{
-    QTest::addColumn<int>("position");
-    QTest::addColumn<float>("brightness");
-    QTest::newRow("darkest") << 0 << -100.0F;
-    QTest::newRow("darker") << 63 << -37.0F;
-    QTest::newRow("brightest") << 200 << 100.0F;
-}
-
-void ImageFiltersDialogTest::brightness_followsItsSlider()
-{
-    QFETCH(int, position);
-    QFETCH(float, brightness);
-    const ImageFiltersDialog dialog(nullptr);
-    drag(dialog, "brightnessSlider", position);
-    QCOMPARE(ImageFiltersDialog::brightness, brightness);
-    QCOMPARE(ImageFiltersDialog::contrast, 1.0);
-}
-
-void ImageFiltersDialogTest::contrast_followsItsSlider_data()
-{
-    QTest::addColumn<int>("position");
-    QTest::addColumn<double>("contrast");
-    QTest::newRow("none") << 0 << 0.0;
-    QTest::newRow("more") << 150 << 1.5;
-    QTest::newRow("fraction") << 33 << 0.33;
-}
-
-void ImageFiltersDialogTest::contrast_followsItsSlider()
-{
-    QFETCH(int, position);
-    QFETCH(double, contrast);
-    const ImageFiltersDialog dialog(nullptr);
-    drag(dialog, "contrastSlider", position);
-    QCOMPARE(ImageFiltersDialog::contrast, contrast);
-    QCOMPARE(ImageFiltersDialog::brightness, 0.0F);
-}
-
-void ImageFiltersDialogTest::values_stay_whenProgramSetsSliders()
+void ImageFiltersDialogTest::nothingCanBeApplied_withoutAProfile()
 {
     const ImageFiltersDialog dialog(nullptr);
-    dialog.findChild<QSlider*>(QStringLiteral("brightnessSlider"))->setValue(0);
-    dialog.findChild<QSlider*>(QStringLiteral("contrastSlider"))->setValue(150);
-    QCOMPARE(ImageFiltersDialog::brightness, 0.0F);
-    QCOMPARE(ImageFiltersDialog::contrast, 1.0);
+    QVERIFY(!dialog.findChild<QPushButton*>(QStringLiteral("applyButton"))->isEnabled());
 }
 
-void ImageFiltersDialogTest::values_outliveTheDialog()
+void ImageFiltersDialogTest::draggedValues_outliveTheDialog()
 {
     {
         const ImageFiltersDialog dialog(nullptr);
-        drag(dialog, "brightnessSlider", 120);
+        drag(dialog, "brightnessSlider", 63);
+        drag(dialog, "contrastSlider", 150);
+        dialog.findChild<QSlider*>(QStringLiteral("contrastSlider"))->setValue(10);
     }
-    QCOMPARE(ImageFiltersDialog::brightness, 20.0F);
-    const ImageFiltersDialog next(nullptr);
-    QCOMPARE(ImageFiltersDialog::brightness, 20.0F);
-}
-
-void ImageFiltersDialogTest::otherControls_changeNothing()
-{
-    ImageFiltersDialog dialog(nullptr);
-    drag(dialog, "gammaSlider", 7);
-    drag(dialog, "sharpenslider", 7);
-    dialog.findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
-    dialog.updateImages();
-    QCOMPARE(ImageFiltersDialog::brightness, 0.0F);
-    QCOMPARE(ImageFiltersDialog::contrast, 1.0);
-    QCOMPARE(dialog.result(), 0);
+    QCOMPARE(ImageFiltersDialog::brightness, -37.0F);
+    QCOMPARE(ImageFiltersDialog::contrast, 1.5);
 }
 
 QTEST_MAIN(ImageFiltersDialogTest)

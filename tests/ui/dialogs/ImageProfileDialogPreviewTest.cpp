@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
@@ -335,6 +336,7 @@ void ImageProfileDialogPreviewTest::renamedAndOtherWatermarks_areListed()
     watermarks(dialog).setCurrentIndex(1);
     ModalScript script;
     saveWatermarkAs(script, textOf("SECOND"));
+    script.expect<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
     first.setName(textOf("renamed"));
     clickEdit(dialog);
     QVERIFY(script.isDone());

@@ -255,7 +255,8 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
                             textOf("resetToDefaultsButton"),
                             textOf("saveButton"),
                             textOf("cancelButton")};
-    const QStringList before{textOf("profileComboBox"), textOf("sameSizeAsVideoCheckbox")};
+    const QStringList before{textOf("profileComboBox"), textOf("profileMenuButton"),
+                             textOf("sameSizeAsVideoCheckbox")};
     const QStringList size{textOf("imageWidthLineEdit"), textOf("imageHeightLineEdit"),
                            textOf("maintainAspectRatioCheckbox"), textOf("resizeFilterComboBox"),
                            textOf("resizeInLinearLightCheckbox")};

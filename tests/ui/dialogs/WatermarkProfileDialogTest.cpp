@@ -235,7 +235,8 @@ void WatermarkProfileDialogTest::tabulator_leadsThroughTheForm()
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(nullptr);
     QVERIFY(showActive(dialog));
-    const QStringList before{textOf("profileComboBox"), textOf("qt_tabwidget_tabbar")};
+    const QStringList before{textOf("profileComboBox"), textOf("profileMenuButton"),
+                             textOf("qt_tabwidget_tabbar")};
     const QStringList after{textOf("alignmentComboBox"), textOf("xMarginSpinBox"),
                             textOf("yMarginSpinBox"), textOf("saveButton"), textOf("cancelButton")};
     const QStringList type{textOf("watermarkTypeTextRadioButton"), textOf("textTextEdit"),

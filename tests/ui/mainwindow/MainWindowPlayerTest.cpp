@@ -26,6 +26,7 @@ class MainWindowPlayerTest : public QObject
 
 private Q_SLOTS:
     void playPause_goesBothWays();
+    void click_playsAndPausesTheVideo();
     void playButton_showsWhatItDoes();
     void space_pressesTheControlReachedByTab_elseItPlays();
     void step_showsTheNextAndThePreviousFrame();
@@ -34,9 +35,11 @@ private Q_SLOTS:
     void hdr_isThatOfTheSelectedProfile();
     void whatIsNotShown_isSaidInTheStatusBar();
     void skip_goesASecondAndPauses();
+    void skips_addUp_whenTheyComeBeforeAFrame();
     void skip_endsAtTheStart_whenThereIsNoWholeSecond();
     void slider_goesInStepsOf30Milliseconds();
-    void slider_doesNotSeek_whenPaused();
+    void slider_seeks_whenPaused();
+    void slider_goesBackToTheFrame_whenTheFrameOnScreenIsTheOneSought();
     void slider_seeks_whenPlaying();
     void slider_staysInTheHand_whileTheVideoGoesOn();
     void duration_dropsDays();
@@ -79,6 +82,22 @@ void MainWindowPlayerTest::playPause_goesBothWays()
     QTRY_VERIFY(window.player().isPaused());
     window.find<QAction>("actionPlayPause").trigger();
     QTRY_VERIFY(window.player().isPlaying());
+}
+
+void MainWindowPlayerTest::click_playsAndPausesTheVideo()
+{
+    OpenWindow window;
+    auto& area = window.find<QPushButton>("openVideoLabel");
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QCOMPARE(area.accessibleName(), QStringLiteral("Video"));
+    QCOMPARE(area.toolTip(), QString());
+    area.click();
+    QTRY_VERIFY(window.player().isPlaying());
+    area.click();
+    QTRY_VERIFY(window.player().isPaused());
+    window->closeVideo();
+    QCOMPARE(area.accessibleName(), QString());
+    QVERIFY(!area.toolTip().isEmpty());
 }
 
 void MainWindowPlayerTest::playButton_showsWhatItDoes()
@@ -217,6 +236,21 @@ void MainWindowPlayerTest::skip_goesASecondAndPauses()
     QTRY_VERIFY(window.player().isPaused());
 }
 
+void MainWindowPlayerTest::skips_addUp_whenTheyComeBeforeAFrame()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window.player().setPosition(400);
+    QVERIFY(waitForPosition(window.player(), 400));
+    window->skipForward();
+    window->skipForward();
+    window->skipForward();
+    QVERIFY(waitForPosition(window.player(), 3400));
+    window->skipBackward();
+    window->skipBackward();
+    QVERIFY(waitForPosition(window.player(), 1400));
+}
+
 void MainWindowPlayerTest::skip_endsAtTheStart_whenThereIsNoWholeSecond()
 {
     OpenWindow window;
@@ -236,17 +270,35 @@ void MainWindowPlayerTest::slider_goesInStepsOf30Milliseconds()
     QTRY_COMPARE(window.find<QSlider>("videoSlider").value(), 1000 / 30);
 }
 
-void MainWindowPlayerTest::slider_doesNotSeek_whenPaused()
+void MainWindowPlayerTest::slider_seeks_whenPaused()
 {
     OpenWindow window;
     QVERIFY(window.openPaused(samplePath(clip)));
-    const qint64 before = window.player().position();
     QSlider& slider = window.find<QSlider>("videoSlider");
     slider.setSliderDown(true);
-    slider.setSliderPosition(100);
+    slider.setSliderPosition(100); // 3 seconds
+    QVERIFY(waitForPosition(window.player(), 3000));
+    QVERIFY(window.player().isPaused());
+    slider.setSliderPosition(50);
     slider.setSliderDown(false);
-    QCOMPARE(slider.value(), 100);
-    QCOMPARE(window.player().position(), before);
+    // Where the video is going, before its frame is there.
+    QCOMPARE(slider.value(), 50);
+    QVERIFY(waitForPosition(window.player(), 1520));
+    QTRY_COMPARE(slider.value(), 1520 / 30);
+}
+
+void MainWindowPlayerTest::slider_goesBackToTheFrame_whenTheFrameOnScreenIsTheOneSought()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(QStringLiteral("h264_1fps.mp4"))));
+    window.player().setPosition(5000);
+    QVERIFY(waitForPosition(window.player(), 5000));
+    QSlider& slider = window.find<QSlider>("videoSlider");
+    slider.setSliderDown(true);
+    slider.setSliderPosition(4500 / 30);
+    slider.setSliderDown(false);
+    QTRY_COMPARE(slider.value(), 5000 / 30);
+    QCOMPARE(window.player().displayPosition(), 5000);
 }
 
 void MainWindowPlayerTest::slider_seeks_whenPlaying()

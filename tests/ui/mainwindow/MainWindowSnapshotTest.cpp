@@ -15,6 +15,8 @@
 #include <QComboBox>
 #include <QFile>
 #include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
@@ -40,7 +42,9 @@ private Q_SLOTS:
     void snapshot_keepsAlpha_whenTheVideoHasIt();
 
     void profiles_areListed_theLastUsedOneIsCurrent();
-    void chosenImageProfile_appliesFromTheNextSnapshotOn();
+    void chosenImageProfile_makesTheSnapshotAnew();
+    void summary_tellsWhatWillBeSaved();
+    void originalSize_isOneClickAway_andKeepsTheOtherSettings();
     void chosenFileNameProfile_isRemembered();
 
 private:
@@ -69,6 +73,13 @@ ImageProfile* addImageProfile(const QString& name, int width)
     profile->setImageWidth(width);
     ImageProfile::profileManager()->addProfile(profile);
     return profile;
+}
+
+void chooseImageProfile(OpenWindow& window, const QString& name)
+{
+    QComboBox& box = window.find<QComboBox>("imageProfileComboBox");
+    box.setCurrentIndex(box.findText(name));
+    window->on_imageProfileComboBox_activated(box.currentIndex());
 }
 
 } // namespace
@@ -253,21 +264,75 @@ void MainWindowSnapshotTest::profiles_areListed_theLastUsedOneIsCurrent()
     QCOMPARE(box.currentData().toString(), ImageProfile::profileManager()->lastUsedProfile()->id());
 }
 
-void MainWindowSnapshotTest::chosenImageProfile_appliesFromTheNextSnapshotOn()
+void MainWindowSnapshotTest::chosenImageProfile_makesTheSnapshotAnew()
 {
     OpenWindow window;
     QVERIFY(window.openPaused(samplePath(clip)));
     QVERIFY(window.takeSnapshot());
     BaseProfile* const before = ImageProfile::profileManager()->lastUsedProfile();
-    QComboBox& box = window.find<QComboBox>("imageProfileComboBox");
-    box.setCurrentIndex(box.findText(QStringLiteral("Small")));
-    window->on_imageProfileComboBox_activated(box.currentIndex());
-    BaseProfile* const chosen = ImageProfile::profileManager()->lastUsedProfile();
     QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 640);
-    window->snapshotButtonPressed();
-    QTRY_COMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 64);
+    chooseImageProfile(window, QStringLiteral("Small"));
+    BaseProfile* const chosen = ImageProfile::profileManager()->lastUsedProfile();
+    QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 64);
+    const QString path = window.dir().filePath(QStringLiteral("small.png"));
+    QVERIFY(window->saveSnapshot(path));
+    QCOMPARE(QImage(path).width(), 64);
     ImageProfile::profileManager()->setLastUsedProfile(before);
     QCOMPARE(chosen->name(), QStringLiteral("Small"));
+}
+
+void MainWindowSnapshotTest::summary_tellsWhatWillBeSaved()
+{
+    OpenWindow window;
+    const QLabel& summary = window.find<QLabel>("snapshotSummaryLabel");
+    QVERIFY(window.openPaused(samplePath(QStringLiteral("h264_1080p.mp4"))));
+    QCOMPARE(summary.text(), QString());
+    QVERIFY(window.takeSnapshot());
+    QCOMPARE(summary.text(), QStringLiteral("640 × 360 of 1920 × 1080 · JPEG 90"));
+    ImageProfile edited;
+    edited.setSameSizeAsVideo(true);
+    edited.setImageQuality(75);
+    window->imageProfileUpdated(&edited);
+    QCOMPARE(summary.text(), QStringLiteral("1920 × 1080 · JPEG 75"));
+    auto& names =
+        *static_cast<FileNameProfile*>(FileNameProfile::profileManager()->lastUsedProfile());
+    const QString type = names.fileOutputType();
+    names.setFileOutputType(QStringLiteral("png"));
+    window.find<QGroupBox>("automaticFileNameGroupBox").setChecked(true);
+    names.setFileOutputType(type);
+    QCOMPARE(summary.text(), QStringLiteral("1920 × 1080 · PNG"));
+    window->closeVideo();
+    QCOMPARE(summary.text(), QString());
+}
+
+void MainWindowSnapshotTest::originalSize_isOneClickAway_andKeepsTheOtherSettings()
+{
+    ProfileManager& manager = *ImageProfile::profileManager();
+    BaseProfile* const before = manager.lastUsedProfile();
+    ImageProfile& dark = *addImageProfile(QStringLiteral("Dark"), 100);
+    dark.setImageBrightness(-50);
+    OpenWindow window;
+    auto& button = window.find<QPushButton>("originalSizeButton");
+    QVERIFY(!button.isEnabled());
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QVERIFY(window.takeSnapshot());
+    chooseImageProfile(window, dark.name());
+    QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 100);
+    const int count = manager.profiles().size();
+    button.click();
+    QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").size(), sampleNamed(clip).displaySize);
+    QVERIFY(!button.isEnabled());
+    const auto& chosen = *static_cast<ImageProfile*>(manager.lastUsedProfile());
+    QCOMPARE(chosen.name(), QStringLiteral("Dark, original size"));
+    QCOMPARE(chosen.imageBrightness(), -50);
+    QCOMPARE(window.find<QComboBox>("imageProfileComboBox").currentText(), chosen.name());
+    QCOMPARE(dark.sameSizeAsVideo(), false);
+    // The next time, there is one.
+    chooseImageProfile(window, dark.name());
+    button.click();
+    QCOMPARE(manager.lastUsedProfile(), &chosen);
+    QCOMPARE(manager.profiles().size(), count + 1);
+    manager.setLastUsedProfile(before);
 }
 
 void MainWindowSnapshotTest::chosenFileNameProfile_isRemembered()

@@ -1,5 +1,8 @@
 #include "ui/mainwindow/SavePath.h"
 
+#include "tests/support/TestDir.h"
+
+#include <QFile>
 #include <QImageWriter>
 #include <QTest>
 
@@ -13,6 +16,8 @@ private Q_SLOTS:
     void nameFilters_areTheImageTypesInOrder();
     void path_isCompleted_unlessItIsAnImagesAlready_data();
     void path_isCompleted_unlessItIsAnImagesAlready();
+    void nextFree_countsOn_data();
+    void nextFree_countsOn();
 };
 
 void SavePathTest::nameFilters_areTheImageTypesInOrder()
@@ -53,6 +58,59 @@ void SavePathTest::path_isCompleted_unlessItIsAnImagesAlready()
     QFETCH(const QString, path);
     QFETCH(const int, filter);
     QTEST(SavePath::completed(path, SavePath::nameFilters().at(filter)), "completed");
+}
+
+void SavePathTest::nextFree_countsOn_data()
+{
+    QTest::addColumn<QString>("files");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("next");
+    QTest::newRow("free") << "other.jpg"
+                          << "film"
+                          << "film";
+    QTest::newRow("another type") << "film.png"
+                                  << "film"
+                                  << "film";
+    QTest::newRow("taken") << "film.jpg"
+                           << "film"
+                           << "film-2";
+    QTest::newRow("taken with its type") << "one.png"
+                                         << "one.png"
+                                         << "one-2.png";
+    QTest::newRow("twice") << "one.png one-2.png"
+                           << "one.png"
+                           << "one-3.png";
+    QTest::newRow("counted") << "one-2.png"
+                             << "one-2.png"
+                             << "one-3.png";
+    QTest::newRow("zeros") << "a_0099.png"
+                           << "a_0099.png"
+                           << "a_0100.png";
+    QTest::newRow("no counter") << "take7.png"
+                                << "take7.png"
+                                << "take7-2.png";
+    QTest::newRow("dots") << "a.b.jpg"
+                          << "a.b"
+                          << "a.b-2";
+    QTest::newRow("the video's number") << "film-2024.jpg"
+                                        << "film-2024"
+                                        << "film-2024-2";
+}
+
+void SavePathTest::nextFree_countsOn()
+{
+    QFETCH(const QString, files);
+    QFETCH(const QString, name);
+    QFETCH(const QString, next);
+    const testsupport::TestDir dir;
+    const QStringList names = files.split(QLatin1Char(' '));
+    for (const QString& file : names) {
+        QFile made(dir.filePath(file));
+        QVERIFY(made.open(QIODevice::WriteOnly));
+    }
+    QCOMPARE(SavePath::nextFree(QDir(dir.path()), name, QStringLiteral("JPEG (*.jpg *.jpeg)"),
+                                QStringLiteral("film-2024")),
+             next);
 }
 
 QTEST_GUILESS_MAIN(SavePathTest)

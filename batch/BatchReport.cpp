@@ -1,0 +1,80 @@
+#include "batch/BatchReport.h"
+
+#include "batch/BatchWorkerConfig.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("BatchReport", text);
+}
+
+/// The same for all failures of a job that differ in numbers alone.
+QString keyOf(const BatchWorkerConfig* job, QString message)
+{
+    static const QRegularExpression numbers(QStringLiteral("\\d+"));
+    return QString::number(quintptr(job)) + QLatin1Char(' ') +
+           message.replace(numbers, QStringLiteral("0"));
+}
+
+QString imagesText(int images)
+{
+    return images == 1 ? translated(QT_TRANSLATE_NOOP("BatchReport", "1 image"))
+                       : translated(QT_TRANSLATE_NOOP("BatchReport", "%1 images")).arg(images);
+}
+
+} // namespace
+
+BatchReport::Line BatchReport::addFailure(BatchWorkerConfig* job, const QString& message)
+{
+    ++m_failures;
+    if (!m_failedJobs.contains(job)) {
+        m_failedJobs.append(job);
+    }
+    const QString key = keyOf(job, message);
+    const bool isNew = !m_places.contains(key);
+    if (isNew) {
+        m_places.insert(key, m_causes.size());
+        m_causes.append(Cause{job, message, 0});
+    }
+    const int place = m_places.value(key);
+    Cause& cause = m_causes[place];
+    ++cause.count;
+    return {place, isNew, textOf(cause)};
+}
+
+QString BatchReport::textOf(const Cause& cause)
+{
+    QString line = cause.job->source() + QStringLiteral(": ") + cause.first;
+    line.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return cause.count == 1
+               ? line
+               : translated(QT_TRANSLATE_NOOP("BatchReport", "%1 (and %2 more of this kind)"))
+                     .arg(line, QString::number(cause.count - 1));
+}
+
+QStringList BatchReport::causesOf(const BatchWorkerConfig* job) const
+{
+    QStringList causes;
+    for (const Cause& cause : m_causes) {
+        if (cause.job == job) {
+            causes += textOf(cause);
+        }
+    }
+    return causes;
+}
+
+QString BatchReport::outcome(int images, bool isCancelled) const
+{
+    const QString done =
+        (isCancelled ? translated(QT_TRANSLATE_NOOP("BatchReport", "Cancelled after %1"))
+                     : translated(QT_TRANSLATE_NOOP("BatchReport", "Finished: %1")))
+            .arg(imagesText(images));
+    return m_failures == 0 ? done
+                           : translated(QT_TRANSLATE_NOOP("BatchReport", "%1, %2 failed"))
+                                 .arg(done, QString::number(m_failures));
+}

@@ -1,0 +1,261 @@
+#include "ui/batch/BatchModeDialog.h"
+
+#include "tests/support/Samples.h"
+#include "tests/ui/batch/ModeDialog.h"
+#include "tests/ui/dialogs/support/DialogDriving.h"
+#include "tests/ui/dialogs/support/ModalScript.h"
+#include "ui/batch/BatchProcessingDialog.h"
+
+#include <QDir>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTextEdit>
+
+using testsupport::child;
+using testsupport::ModalScript;
+using testsupport::ModeDialog;
+using testsupport::samplePath;
+
+/// What happens around a batch: what it is asked about, and what stays of it.
+class BatchModeDialogRunTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void images_areEstimated_inTheListAndInSum();
+    void manyImages_areAskedAbout();
+    void missingFolder_isMade_whenWanted();
+    void missingFolder_keepsTheBatchFromStarting_whenNotWanted();
+    void failedJobs_areMarked_andCanBeRetriedAlone();
+    void outputExample_hasNoNumber_ofASingleShot();
+    void editedJob_isNoDefault_untilItIsSaidSo();
+    void list_comesBack_alsoWhatWasNotRead();
+    void list_isNotKept_unlessAsked();
+};
+
+namespace {
+
+const QString clip = QStringLiteral("h264_bframes.mp4"); // 4 seconds
+
+void endBatch(BatchProcessingDialog& dialog)
+{
+    auto& button = child<QPushButton>(dialog, "doneButton");
+    QTRY_COMPARE_WITH_TIMEOUT(button.text(), QStringLiteral("Done"), 60000);
+    button.click();
+}
+
+QString cell(const ModeDialog& mode, int row, int column)
+{
+    return mode.model().index(row, column).data().toString();
+}
+
+bool isMarked(const ModeDialog& mode, int row)
+{
+    return mode.model().index(row, 0).data(Qt::AccessibleDescriptionRole).toString() ==
+           QLatin1String("Failed");
+}
+
+/// Expects a question, and gives what it says when it is answered.
+void answer(ModalScript& script, QMessageBox::StandardButton button, QString& said)
+{
+    script.expect<QMessageBox>([button, &said](QMessageBox& box) {
+        said = box.text() + QLatin1Char('\n') + box.informativeText();
+        box.button(button)->click();
+    });
+}
+
+} // namespace
+
+void BatchModeDialogRunTest::images_areEstimated_inTheListAndInSum()
+{
+    ModeDialog mode;
+    QCOMPARE(mode.labelText("imageSumLabel"), QString());
+    mode.load({samplePath(clip)});
+    mode.enter("skipFrontTextEdit", QStringLiteral("500"));
+    mode.enter("skipBackTextEdit", QStringLiteral("500"));
+    mode.enter("intervalMillisecondsTextEdit", QStringLiteral("1000"));
+    QCOMPARE(cell(mode, 0, 4), QStringLiteral("3"));
+    QCOMPARE(mode.labelText("imageSumLabel"), QStringLiteral("About 3 images of 1 video"));
+    mode.load(1);
+    QCOMPARE(cell(mode, 1, 4), QStringLiteral("?"));
+    mode.load({samplePath(QStringLiteral("mpeg4.mp4"))});
+    mode.enter("intervalImagesTextEdit", QStringLiteral("7"));
+    QCOMPARE(cell(mode, 2, 4), QStringLiteral("7"));
+    QCOMPARE(mode.labelText("imageSumLabel"), QStringLiteral("About 10 images of 3 videos"));
+    mode.click("intervalSingleShotRadioButton");
+    QCOMPARE(cell(mode, 2, 4), QStringLiteral("1"));
+}
+
+void BatchModeDialogRunTest::manyImages_areAskedAbout()
+{
+    ModeDialog mode;
+    mode.load({samplePath(clip)});
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(mode.dir().path());
+    mode.enter("intervalImagesTextEdit", QStringLiteral("2001"));
+    QString said;
+    ModalScript script;
+    answer(script, QMessageBox::No, said);
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    QVERIFY2(said.contains(QStringLiteral("about 2,001 images")), qPrintable(said));
+    QVERIFY(QDir(mode.dir().path()).entryList({QStringLiteral("*.jpeg")}).isEmpty());
+}
+
+void BatchModeDialogRunTest::missingFolder_isMade_whenWanted()
+{
+    ModeDialog mode;
+    mode.load({samplePath(clip)});
+    const QString folder = mode.dir().filePath(QStringLiteral("new/deep"));
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(folder);
+    mode.click("intervalSingleShotRadioButton");
+    QString said;
+    ModalScript script;
+    answer(script, QMessageBox::Yes, said);
+    script.expect<BatchProcessingDialog>(endBatch);
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    QVERIFY2(said.contains(folder), qPrintable(said));
+    QCOMPARE(QDir(folder).entryList(QDir::Files),
+             QStringList(QStringLiteral("h264_bframes-.jpeg")));
+}
+
+void BatchModeDialogRunTest::missingFolder_keepsTheBatchFromStarting_whenNotWanted()
+{
+    ModeDialog mode;
+    mode.load({samplePath(clip)});
+    const QString folder = mode.dir().filePath(QStringLiteral("new"));
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(folder);
+    QString said;
+    {
+        ModalScript script;
+        answer(script, QMessageBox::No, said);
+        mode.click("startButton");
+        QVERIFY(script.isDone());
+        QVERIFY(!QDir(folder).exists());
+    }
+    // One that cannot be made is told of in place of hundreds of failures.
+    QFile file(folder);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    ModalScript script;
+    answer(script, QMessageBox::Yes, said);
+    answer(script, QMessageBox::Ok, said);
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    QVERIFY2(said.contains(QStringLiteral("could not be created")), qPrintable(said));
+}
+
+void BatchModeDialogRunTest::failedJobs_areMarked_andCanBeRetriedAlone()
+{
+    ModeDialog mode;
+    mode.load({samplePath(clip)});
+    mode.load(1);
+    mode.click("selectAllVideoButton");
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(mode.dir().path());
+    mode.click("intervalSingleShotRadioButton");
+    QVERIFY(!mode.find<QPushButton>("retryFailedButton").isVisibleTo(&mode.dialog()));
+    const auto runBy = [&mode](const char* button) {
+        QString log;
+        ModalScript script;
+        script.expect<BatchProcessingDialog>([&log](BatchProcessingDialog& dialog) {
+            endBatch(dialog);
+            log = child<QTextEdit>(dialog, "logTextEdit").toPlainText();
+        });
+        mode.click(button);
+        return script.isDone() ? log : QStringLiteral("no batch");
+    };
+    QVERIFY(runBy("startButton").endsWith(QStringLiteral("Finished: 1 image, 1 failed\n")));
+    QVERIFY(!isMarked(mode, 0));
+    QVERIFY(isMarked(mode, 1));
+    const QModelIndex failed = mode.model().index(1, 2);
+    QVERIFY(
+        failed.data(Qt::ToolTipRole).toString().contains(QStringLiteral("Could not open file")));
+    QVERIFY(mode.find<QPushButton>("retryFailedButton").isVisibleTo(&mode.dialog()));
+
+    QVERIFY(QFile::remove(mode.job(1).source()));
+    QVERIFY(QFile::copy(samplePath(clip), mode.job(1).source()));
+    QCOMPARE(runBy("retryFailedButton"), QStringLiteral("Finished: 1 image\n"));
+    QVERIFY(!isMarked(mode, 1));
+    QVERIFY(!mode.find<QPushButton>("retryFailedButton").isVisibleTo(&mode.dialog()));
+    QCOMPARE(QDir(mode.dir().path()).entryList({QStringLiteral("*.jpeg")}),
+             (QStringList{QStringLiteral("b-.jpeg"), QStringLiteral("h264_bframes-.jpeg")}));
+}
+
+void BatchModeDialogRunTest::outputExample_hasNoNumber_ofASingleShot()
+{
+    ModeDialog mode;
+    mode.load(1);
+    QCOMPARE(cell(mode, 0, 3), QStringLiteral("a-00001.jpeg"));
+    mode.click("intervalSingleShotRadioButton");
+    QCOMPARE(cell(mode, 0, 3), QStringLiteral("a-.jpeg"));
+    QCOMPARE(mode.labelText("filenameOutputExampleLabel"), QStringLiteral("a-.jpeg"));
+    mode.enter("intervalImagesTextEdit", QStringLiteral("2"));
+    QCOMPARE(mode.labelText("filenameOutputExampleLabel"), QStringLiteral("a-00001.jpeg"));
+}
+
+void BatchModeDialogRunTest::editedJob_isNoDefault_untilItIsSaidSo()
+{
+    ModeDialog mode;
+    mode.load(3);
+    mode.select({0, 1});
+    mode.enter("skipFrontTextEdit", QStringLiteral("123"));
+    mode.click("intervalSingleShotRadioButton");
+    mode.choose("imageProfileComboBox", 2);
+    mode.load(1);
+    QCOMPARE(mode.job(3).skipFront(), 2000);
+    QCOMPARE(mode.job(3).intervalType(), 0);
+    QCOMPARE(mode.job(3).imageProfile()->name(), QStringLiteral("One"));
+    mode.select({1});
+    mode.click("useForNewVideosButton");
+    QVERIFY(!mode.defaults().contains(QStringLiteral("source")));
+    mode.load(1);
+    QCOMPARE(mode.job(4).skipFront(), 123);
+    QCOMPARE(mode.job(4).intervalType(), 2);
+    QCOMPARE(mode.job(4).imageProfile()->name(), QStringLiteral("Two"));
+    QCOMPARE(mode.job(4).fileOutputPath(), mode.dir().path());
+    mode.select({});
+    QVERIFY(!mode.find<QPushButton>("useForNewVideosButton").isEnabled());
+}
+
+void BatchModeDialogRunTest::list_comesBack_alsoWhatWasNotRead()
+{
+    ModeDialog mode;
+    mode.dialog().keepList();
+    mode.load({samplePath(clip)});
+    mode.load(2);
+    mode.select({1});
+    mode.enter("skipFrontTextEdit", QStringLiteral("123"));
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(QStringLiteral("/some/where"));
+    mode.choose("imageProfileComboBox", 2);
+    const QString unread = samplePath(QStringLiteral("mpeg4.mp4"));
+    mode.dialog().loadVideos({unread});
+    mode.dialog().done(QDialog::Rejected);
+
+    BatchModeDialog next;
+    next.keepList();
+    QTRY_VERIFY(!next.isLoading());
+    const auto& model = *static_cast<const BatchModeListModel*>(
+        next.findChild<QTableView*>(QStringLiteral("filesTableView"))->model());
+    QCOMPARE(model.rowCount(), 4);
+    QCOMPARE(model.getConfig(0)->source(), samplePath(clip));
+    QCOMPARE(model.getConfig(0)->videoInfo().duration, 4000);
+    QCOMPARE(model.getConfig(1)->skipFront(), 123);
+    QCOMPARE(model.getConfig(1)->fileOutputPath(), QStringLiteral("/some/where"));
+    QCOMPARE(model.getConfig(1)->imageProfile()->name(), QStringLiteral("Two"));
+    QCOMPARE(model.getConfig(2)->skipFront(), 2000);
+    QCOMPARE(model.getConfig(3)->source(), unread);
+}
+
+void BatchModeDialogRunTest::list_isNotKept_unlessAsked()
+{
+    ModeDialog mode;
+    mode.load(1);
+    mode.dialog().done(QDialog::Rejected);
+    BatchModeDialog next;
+    next.keepList();
+    QVERIFY(!next.isLoading());
+}
+
+QTEST_MAIN(BatchModeDialogRunTest)
+#include "BatchModeDialogRunTest.moc"

@@ -1,0 +1,201 @@
+#include "tests/ui/mainwindow/OpenWindow.h"
+
+#include "tests/support/Samples.h"
+#include "tests/ui/dialogs/support/ModalScript.h"
+#include "ui/batch/BatchModeDialog.h"
+
+#include <QtAV/AVPlayer.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QSlider>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+using namespace testsupport;
+
+/// What a person would lose by mistake, and what asks or stays in place of that.
+class MainWindowLosingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void unsavedSnapshot_staysWithItsVideo_whenTheQuestionIsCancelled();
+    void unsavedSnapshot_isSavedFirst_whenWanted();
+    void unsavedSnapshot_goes_whenDiscarded();
+    void snapshot_isNotAskedAbout_onceSavedOrCopied_data();
+    void snapshot_isNotAskedAbout_onceSavedOrCopied();
+    void closing_asksAboutAnUnsavedSnapshot();
+    void batchMode_keepsVideoAndSnapshot();
+    void fileThatIsNoVideo_disablesWhatNeedsOne();
+    void fileThatIsNoVideo_isExplainedInWordsForPeople_data();
+    void fileThatIsNoVideo_isExplainedInWordsForPeople();
+};
+
+namespace {
+
+constexpr int limitMs = 30000;
+
+const QString clip = QStringLiteral("h264_bframes.mp4");
+
+/// A window with a snapshot of a paused video.
+class Snapshot : public OpenWindow
+{
+public:
+    Snapshot()
+    {
+        video = copyOf(clip, QStringLiteral("clip.mp4"));
+        next = copyOf(clip, QStringLiteral("next.mp4"));
+        if (!openPaused(video) || !takeSnapshot()) {
+            qFatal("no snapshot");
+        }
+    }
+
+    bool hasSnapshot() { return find<QAction>("actionCopy_Snapshot").isEnabled(); }
+
+    QString video;
+    QString next;
+};
+
+} // namespace
+
+void MainWindowLosingTest::unsavedSnapshot_staysWithItsVideo_whenTheQuestionIsCancelled()
+{
+    Snapshot window;
+    SeenBox box;
+    answerNextBox(QMessageBox::Cancel, box);
+    window->openFromOutside(window.next);
+    QCOMPARE(box.text, QStringLiteral("The snapshot has not been saved."));
+    QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Save | QMessageBox::Discard |
+                                                       QMessageBox::Cancel));
+    QCOMPARE(box.defaultButton, QMessageBox::Save);
+    QCOMPARE(window->currentVideoFilePath(), window.video);
+    QVERIFY(window.hasSnapshot());
+}
+
+void MainWindowLosingTest::unsavedSnapshot_isSavedFirst_whenWanted()
+{
+    Snapshot window;
+    window.find<QGroupBox>("automaticFileNameGroupBox").setChecked(true);
+    SeenBox box;
+    answerNextBox(QMessageBox::Save, box);
+    window->openFromOutside(window.next);
+    QVERIFY(QFile::exists(window.dir().filePath(QStringLiteral("clip-00001.jpeg"))));
+    QCOMPARE(window->currentVideoFilePath(), window.next);
+}
+
+void MainWindowLosingTest::unsavedSnapshot_goes_whenDiscarded()
+{
+    Snapshot window;
+    SeenBox box;
+    answerNextBox(QMessageBox::Discard, box);
+    window->openFromOutside(window.next);
+    QCOMPARE(window->currentVideoFilePath(), window.next);
+    QVERIFY(!window.hasSnapshot());
+}
+
+void MainWindowLosingTest::snapshot_isNotAskedAbout_onceSavedOrCopied_data()
+{
+    using Action = std::function<void(Snapshot&)>;
+    QTest::addColumn<Action>("keep");
+    QTest::newRow("saved") << Action([](Snapshot& window) {
+        QVERIFY(window->saveSnapshot(window.dir().filePath(QStringLiteral("a.png"))));
+    });
+    QTest::newRow("copied") << Action(
+        [](Snapshot& window) { window.find<QAction>("actionCopy_Snapshot").trigger(); });
+    QTest::newRow("copied in full") << Action(
+        [](Snapshot& window) { window.find<QAction>("actionCopy_Full_Frame").trigger(); });
+}
+
+void MainWindowLosingTest::snapshot_isNotAskedAbout_onceSavedOrCopied()
+{
+    QFETCH(std::function<void(Snapshot&)>, keep);
+    Snapshot window;
+    keep(window);
+    window->openFromOutside(window.next);
+    QCOMPARE(window->currentVideoFilePath(), window.next);
+    // The next one is asked about again.
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), limitMs);
+    QVERIFY(window.takeSnapshot());
+    SeenBox box;
+    answerNextBox(QMessageBox::Cancel, box);
+    window->openFromOutside(window.video);
+    QVERIFY(!box.text.isEmpty());
+}
+
+void MainWindowLosingTest::closing_asksAboutAnUnsavedSnapshot()
+{
+    Snapshot window;
+    SeenBox box;
+    bool hasEnded = false;
+    connect(qApp, &QCoreApplication::aboutToQuit, &window.window(), [&] { hasEnded = true; });
+    answerNextBox(QMessageBox::Cancel, box);
+    window->close();
+    QVERIFY(!box.text.isEmpty());
+    box = {};
+    answerNextBox(QMessageBox::Cancel, box);
+    window.find<QAction>("actionExit").trigger();
+    QVERIFY(!box.text.isEmpty());
+    QCoreApplication::processEvents();
+    QVERIFY(!hasEnded);
+    QVERIFY(window.hasSnapshot());
+}
+
+void MainWindowLosingTest::batchMode_keepsVideoAndSnapshot()
+{
+    Snapshot window;
+    const qint64 position = window.player().displayPosition();
+    ModalScript script;
+    script.expect<BatchModeDialog>([](BatchModeDialog& dialog) { dialog.close(); });
+    window.find<QAction>("actionBatch_Mode").trigger();
+    QVERIFY(script.isDone());
+    QCOMPARE(window->currentVideoFilePath(), window.video);
+    QCOMPARE(window.player().displayPosition(), position);
+    QVERIFY(window.hasSnapshot());
+}
+
+void MainWindowLosingTest::fileThatIsNoVideo_disablesWhatNeedsOne()
+{
+    OpenWindow window;
+    window->openVideo(samplePath(QStringLiteral("random_bytes.mp4")));
+    QTRY_COMPARE_WITH_TIMEOUT(window.player().mediaStatus(), QtAV::InvalidMedia, limitMs);
+    QVERIFY(!window.find<QPushButton>("snapshotButton").isEnabled());
+    QVERIFY(!window.find<QAction>("actionTake_Snapshot").isEnabled());
+    QVERIFY(!window.find<QAction>("actionPlayPause").isEnabled());
+    QVERIFY(!window.find<QSlider>("videoSlider").isEnabled());
+    QVERIFY(!window.find<QWidget>("videoControlsFrame").isEnabled());
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QVERIFY(window.find<QPushButton>("snapshotButton").isEnabled());
+    QVERIFY(window.find<QAction>("actionPlayPause").isEnabled());
+}
+
+void MainWindowLosingTest::fileThatIsNoVideo_isExplainedInWordsForPeople_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("random") << samplePath(QStringLiteral("random_bytes.mp4"))
+                            << QStringLiteral("The file is damaged, or no video.");
+    QTest::newRow("sound") << samplePath(QStringLiteral("sound_only.mp4"))
+                           << QStringLiteral("There is no video in the file.");
+    QTest::newRow("missing") << QStringLiteral("/nowhere/film.mp4")
+                             << QStringLiteral("The file does not exist.");
+}
+
+void MainWindowLosingTest::fileThatIsNoVideo_isExplainedInWordsForPeople()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, text);
+    OpenWindow window;
+    window->openVideo(file);
+    QTRY_COMPARE_WITH_TIMEOUT(window->statusBar()->currentMessage(), text, limitMs);
+}
+
+Q_DECLARE_METATYPE(std::function<void(Snapshot&)>)
+
+QTEST_MAIN(MainWindowLosingTest)
+#include "MainWindowLosingTest.moc"

@@ -1,0 +1,169 @@
+// How a batch starts: what it will make, where that goes, and what it is asked about before.
+
+#include "ui/batch/BatchModeDialog.h"
+
+#include "batch/BatchListFile.h"
+#include "batch/BatchModeListModel.h"
+#include "batch/BatchWorkerConfig.h"
+#include "batch/VideoInfoLoader.h"
+#include "ui/batch/BatchProcessingDialog.h"
+#include "ui_BatchModeDialog.h"
+
+#include <QDir>
+#include <QLocale>
+#include <QMessageBox>
+
+namespace {
+
+/// More images are asked about: they are rarely meant.
+constexpr int manyImages = 2000;
+
+/// So many folders are named in a question.
+constexpr int mostNamedFolders = 8;
+
+/// The folders of the jobs that are not there, each once.
+QStringList missingFolders(const QList<BatchWorkerConfig*>& jobs)
+{
+    QStringList missing;
+    for (const BatchWorkerConfig* const job : jobs) {
+        const QString folder = job->outputDir().absolutePath();
+        if (!missing.contains(folder) && !QDir(folder).exists()) {
+            missing += folder;
+        }
+    }
+    return missing;
+}
+
+QString namesOf(const QStringList& folders)
+{
+    QStringList names;
+    for (const QString& folder : folders.mid(0, mostNamedFolders)) {
+        names += QDir::toNativeSeparators(folder);
+    }
+    if (folders.size() > mostNamedFolders) {
+        names += QStringLiteral("\u2026");
+    }
+    return names.join(QLatin1Char('\n'));
+}
+
+struct ImageSum
+{
+    qint64 images = 0;
+    bool isComplete = true; ///< what all the jobs make is known
+};
+
+ImageSum sumOf(const QList<BatchWorkerConfig*>& jobs)
+{
+    ImageSum sum;
+    for (const BatchWorkerConfig* const job : jobs) {
+        const std::optional<int> images = job->expectedImages();
+        sum.images += images.value_or(0);
+        sum.isComplete = sum.isComplete && images.has_value();
+    }
+    return sum;
+}
+
+} // namespace
+
+void BatchModeDialog::showImageSum()
+{
+    const QList<BatchWorkerConfig*> jobs = m_model->getConfigs();
+    const QString images = QLocale().toString(sumOf(jobs).images);
+    m_ui->imageSumLabel->setText(
+        jobs.isEmpty() ? QString()
+        : jobs.size() == 1
+            ? tr("About %1 images of 1 video").arg(images)
+            : tr("About %1 images of %2 videos").arg(images, QLocale().toString(jobs.size())));
+}
+
+/// Makes folders that are missing, if the user agrees. False where the batch cannot start.
+bool BatchModeDialog::areFoldersUsable(const QList<BatchWorkerConfig*>& jobs)
+{
+    const QStringList missing = missingFolders(jobs);
+    if (missing.isEmpty()) {
+        return true;
+    }
+    const QString question = missing.size() == 1
+                                 ? tr("The folder for the images does not exist. Create it?")
+                                 : tr("These folders for the images do not exist. Create them?");
+    QMessageBox box(QMessageBox::Question, tr("Folder does not exist"), question,
+                    QMessageBox::Yes | QMessageBox::No, this);
+    box.setInformativeText(namesOf(missing));
+    box.setDefaultButton(QMessageBox::Yes);
+    if (box.exec() != QMessageBox::Yes) {
+        return false;
+    }
+    for (const QString& folder : missing) {
+        if (!QDir().mkpath(folder)) {
+            QMessageBox::warning(
+                this, tr("Folder does not exist"),
+                tr("%1 could not be created.").arg(QDir::toNativeSeparators(folder)));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool BatchModeDialog::isNumberWanted(const QList<BatchWorkerConfig*>& jobs)
+{
+    const qint64 images = sumOf(jobs).images;
+    return images <= manyImages ||
+           QMessageBox::question(
+               this, tr("Many Images"),
+               tr("This makes about %1 images. Start?").arg(QLocale().toString(images)),
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+void BatchModeDialog::run(const QList<BatchWorkerConfig*>& jobs)
+{
+    if (!isNumberWanted(jobs) || !areFoldersUsable(jobs)) {
+        return;
+    }
+    saveList();
+    BatchProcessingDialog dialog(this);
+    for (BatchWorkerConfig* const job : jobs) {
+        dialog.addWorkerWithConfig(job);
+    }
+    dialog.exec();
+    for (BatchWorkerConfig* const job : jobs) {
+        m_model->setFailure(job, dialog.report().causesOf(job).join(QLatin1Char('\n')));
+    }
+    // The workers may have corrected intervals.
+    showJobsAnew();
+}
+
+void BatchModeDialog::on_startButton_clicked()
+{
+    run(m_model->getConfigs());
+}
+
+void BatchModeDialog::on_retryFailedButton_clicked()
+{
+    run(m_model->failedConfigs());
+}
+
+void BatchModeDialog::on_useForNewVideosButton_clicked()
+{
+    saveBatchWorkerConfigDefault();
+}
+
+void BatchModeDialog::keepList()
+{
+    m_keepsList = true;
+    read(BatchListFile::load(this));
+}
+
+void BatchModeDialog::saveList(const QList<BatchWorkerConfig*>& unread) const
+{
+    if (m_keepsList) {
+        BatchListFile::save(m_model->getConfigs() + unread);
+    }
+}
+
+/// What has not been read yet is read when the list comes back.
+void BatchModeDialog::endList()
+{
+    const QList<BatchWorkerConfig*> unread = m_loader->cancel();
+    saveList(unread);
+    qDeleteAll(unread);
+}

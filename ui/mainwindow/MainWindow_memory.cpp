@@ -1,0 +1,66 @@
+// What the next window finds as this one left it.
+
+#include "ui/mainwindow/MainWindow.h"
+
+#include "ui_MainWindow.h"
+
+namespace {
+
+const QString geometryKey = QStringLiteral("windowGeometry");
+const QString splitterKey = QStringLiteral("splitterState");
+const QString automaticKey = QStringLiteral("automaticFileName");
+const QString outputFolderKey = QStringLiteral("outputFolder");
+const QString saveFolderKey = QStringLiteral("lastSaveDir");
+// That of the dialog for videos: see SmartFileDialog.
+const QString openFolderKey = QStringLiteral("openDialog_dialogPath");
+
+} // namespace
+
+void MainWindow::restoreLayout()
+{
+    restoreGeometry(m_settings.value(geometryKey).toByteArray());
+    m_ui->splitter->restoreState(m_settings.value(splitterKey).toByteArray());
+    m_ui->automaticFileNameGroupBox->setChecked(m_settings.value(automaticKey).toBool());
+    m_outputFolder = m_settings.value(outputFolderKey).toString();
+    const QString saveFolder = m_settings.value(saveFolderKey).toString();
+    if (!saveFolder.isEmpty() && QDir(saveFolder).exists()) {
+        m_saveDialogDir = QDir(saveFolder);
+    }
+}
+
+void MainWindow::saveLayout()
+{
+    m_settings.setValue(geometryKey, saveGeometry());
+    m_settings.setValue(splitterKey, m_ui->splitter->saveState());
+    m_settings.setValue(automaticKey, m_ui->automaticFileNameGroupBox->isChecked());
+}
+
+/// Unless the user chose one that is still there, it is the video's own.
+void MainWindow::showOutputFolder(const QFileInfo& video)
+{
+    const bool isChosen = !m_outputFolder.isEmpty() && QDir(m_outputFolder).exists();
+    m_ui->outputFolderLineEdit->setText(
+        QDir::toNativeSeparators(isChosen ? m_outputFolder : video.absolutePath()));
+}
+
+/// An empty field, and the video's own folder, give the choice up.
+void MainWindow::noteOutputFolder()
+{
+    const QString typed = m_ui->outputFolderLineEdit->text();
+    const QString videoFolder = QFileInfo(m_currentVideoPath).absolutePath();
+    const bool isChosen =
+        QDir::isAbsolutePath(typed) && QDir(typed) != QDir(videoFolder) && isVideoLoaded();
+    m_outputFolder = isChosen ? QDir(typed).absolutePath() : QString();
+    m_settings.setValue(outputFolderKey, m_outputFolder);
+}
+
+void MainWindow::noteSaveFolder()
+{
+    const bool isChosen = m_saveDialogDir != m_lastOpenDir;
+    m_settings.setValue(saveFolderKey, isChosen ? m_saveDialogDir.absolutePath() : QString());
+}
+
+void MainWindow::noteOpenFolder(const QFileInfo& video)
+{
+    m_settings.setValue(openFolderKey, video.absolutePath());
+}

@@ -1,0 +1,56 @@
+// What will be saved: the line under the snapshot, and the way to the video's own size.
+
+#include "ui/mainwindow/MainWindow.h"
+
+#include "imaging/ImageFormats.h"
+#include "profiles/FileNameProfile.h"
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
+#include "profiles/ReadyProfiles.h"
+#include "ui/mainwindow/SavePath.h"
+#include "ui/mainwindow/SnapshotSummary.h"
+#include "ui_MainWindow.h"
+
+/// What is shown is what is saved.
+void MainWindow::selectImageProfile(ImageProfile& profile)
+{
+    m_imageProfile = &profile;
+    followImageProfile();
+    imageProfileUpdated(m_imageProfile);
+}
+
+void MainWindow::on_originalSizeButton_clicked()
+{
+    ProfileManager& manager = *ImageProfile::profileManager();
+    manager.setLastUsedProfile(ReadyProfiles::inOriginalSize(*m_imageProfile, manager));
+    loadImageProfileComboBox();
+    imageProfileUpdated(m_imageProfile);
+    m_ui->videoFrame->setFocus();
+}
+
+/// The suffix that the next saved file will have, as far as is known before a name is chosen.
+QString MainWindow::typeToSave() const
+{
+    if (m_ui->automaticFileNameGroupBox->isChecked()) {
+        return m_fileNameProfile->fileOutputType();
+    }
+    const QString suffix = QFileInfo(m_saveDialogFileName).suffix();
+    if (ImageFormats::canWrite(suffix)) {
+        return suffix;
+    }
+    const QString filter = m_saveDialogNameFilter.isEmpty() ? SavePath::nameFilters().constFirst()
+                                                            : m_saveDialogNameFilter;
+    return QFileInfo(SavePath::completed(QStringLiteral("a"), filter)).suffix();
+}
+
+void MainWindow::showSnapshotSummary()
+{
+    const bool isShown = !m_snapshotImage.isNull();
+    const bool hasOtherSize = m_snapshotImage.size() != m_fullFrameImage.size();
+    // Its place stays, so that the picture above keeps its size.
+    m_ui->originalSizeButton->setEnabled(isShown && hasOtherSize);
+    m_ui->snapshotSummaryLabel->setText(
+        isShown ? SnapshotSummary::text(m_snapshotImage.size(), m_fullFrameImage.size(),
+                                        typeToSave(), m_snapshotRecipe)
+                : QString());
+}
