@@ -56,7 +56,7 @@ void BatchReportTest::failures_ofOtherVideosAndCauses_haveLinesOfTheirOwn()
     const QString message = QStringLiteral("Could not open file");
     QCOMPARE(report.addFailure(&a, message).cause, 0);
     QCOMPARE(report.addFailure(&b, message).cause, 1);
-    QCOMPARE(report.addFailure(&a, QStringLiteral("something else\nin two lines")).cause, 2);
+    QCOMPARE(report.addFailure(&a, QStringLiteral("something else\n(in two lines)")).cause, 2);
     QCOMPARE(report.causesOf(&a).size(), 2);
     QVERIFY(!report.causesOf(&a).last().contains(QLatin1Char('\n')));
     QCOMPARE(report.addFailure(&b, message).cause, 1);
