@@ -70,8 +70,8 @@ void MainWindow::dropEvent(QDropEvent* event)
         return;
     }
     // The program where the file comes from waits for the end of the drop, not for an answer here.
-    QMetaObject::invokeMethod(
-        this, [this, path] { openFromOutside(path); }, Qt::QueuedConnection);
+    const auto open = [this, path] { openFromOutside(path); };
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
 void MainWindow::on_actionExit_triggered()
