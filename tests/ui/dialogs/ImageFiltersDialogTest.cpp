@@ -136,10 +136,13 @@ void ImageFiltersDialogTest::values_goIntoTheProfile_onlyWhenApplied()
     QCOMPARE(profile.imageBrightness(), 20);
     QCOMPARE(profile.imageContrast(), -10);
     QCOMPARE(profile.resizeFilter(), int(ImageProfile::BicubicFilter));
-    ImageProfile::profileManager()->loadProfilesFromFile();
-    const auto* const stored = static_cast<const ImageProfile*>(
-        ImageProfile::profileManager()->profileForId(profile.id()));
-    QCOMPARE(stored->imageBrightness(), 20);
+    ProfileManager& manager = *ImageProfile::profileManager();
+    const QList<BaseProfile*> old = manager.profiles();
+    manager.loadProfilesFromFile();
+    const auto* const stored = static_cast<const ImageProfile*>(manager.profileForId(profile.id()));
+    const int brightness = stored->imageBrightness();
+    qDeleteAll(old);
+    QCOMPARE(brightness, 20);
 }
 
 void ImageFiltersDialogTest::nothingCanBeApplied_withoutAProfile()
