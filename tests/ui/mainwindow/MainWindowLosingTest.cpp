@@ -64,6 +64,8 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(Snapshot&)>)
+
 void MainWindowLosingTest::unsavedSnapshot_staysWithItsVideo_whenTheQuestionIsCancelled()
 {
     Snapshot window;
@@ -194,8 +196,6 @@ void MainWindowLosingTest::fileThatIsNoVideo_isExplainedInWordsForPeople()
     window->openVideo(file);
     QTRY_COMPARE_WITH_TIMEOUT(window->statusBar()->currentMessage(), text, limitMs);
 }
-
-Q_DECLARE_METATYPE(std::function<void(Snapshot&)>)
 
 QTEST_MAIN(MainWindowLosingTest)
 #include "MainWindowLosingTest.moc"
