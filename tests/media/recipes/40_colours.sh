@@ -119,7 +119,7 @@ with_hdr10_plus() {
     pq_from_encoder "$plain" bframes=0:
     ff -i "$plain" -c copy "$raw"
     tool hevc_add_hdr10_plus "$raw"
-    ff -i "$raw" -c copy -bsf:v "setts=ts=N*40:time_base=1/1000" "${EXACT[@]}" "$1"
+    ff -framerate 25 -i "$raw" -c copy "${EXACT[@]}" "$1"
 }
 
 sample colour_pq_sei.mp4 pq_from_encoder
