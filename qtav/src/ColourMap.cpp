@@ -54,11 +54,12 @@ void lookUp(const float* __restrict table, float* __restrict values, size_t coun
         values[i] = table[entryFor(values[i])];
 }
 
+/// Apart from the look-up, so that several are taken at once.
 FOR_SEVERAL_PROCESSORS
-void lookUpByRoot(const float* __restrict table, float* __restrict values, size_t count)
+void takeRoots(float* __restrict values, size_t count)
 {
     for (size_t i = 0; i < count; ++i)
-        values[i] = table[entryFor(std::sqrt(std::max(values[i], 0.0F)))];
+        values[i] = std::sqrt(std::max(values[i], 0.0F));
 }
 
 FOR_SEVERAL_PROCESSORS
@@ -179,8 +180,10 @@ void ColourMap::apply(RgbLine& line) const
         applyMatrix(m_matrix, red, green, blue, count);
     if (m_isHdr)
         cutSoftly(red, green, blue, count);
-    for (float* const channel : {red, green, blue})
-        lookUpByRoot(m_values.data(), channel, count);
+    for (float* const channel : {red, green, blue}) {
+        takeRoots(channel, count);
+        lookUp(m_values.data(), channel, count);
+    }
 }
 
 } // namespace QtAV
