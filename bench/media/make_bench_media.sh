@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the videos that the benchmarks run on, about 280 MB, in three minutes on two idle cores.
+# Makes the videos that the benchmarks run on, about 300 MB, in three minutes on two idle cores.
 #
 #   make_bench_media.sh [FOLDER]     default: build/bench-media in the project's folder
 #
