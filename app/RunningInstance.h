@@ -23,7 +23,7 @@ public:
     [[nodiscard]] static QString meetingPlace();
 
     /// Asks the program that listens at the place to open the files, absolute paths. False when
-    /// nobody listens, or who does cannot now, and after two seconds without an answer. Blocks
+    /// no program listens, when it refuses, and when no answer comes within two seconds; blocks
     /// until then. From any thread.
     [[nodiscard]] static bool passOn(const QStringList& files, const QString& place);
 

@@ -219,7 +219,9 @@ SeriesSaver::Listener BatchWorker::Series::listenerOf(BatchWorker& worker)
         ++worker.m_frameCounter;
     };
     listener.showing = [&worker](QtAV::BaseLayer layer) {
-        worker.tell([&worker, layer] { worker.announceBaseLayer(layer); });
+        if (layer != QtAV::BaseLayer::Whole) {
+            worker.tell([&worker, layer] { worker.announceBaseLayer(layer); });
+        }
     };
     listener.saving = [&worker](const QString& path) {
         worker.tell([&worker, path] { worker.announceSaving(path); });

@@ -3,7 +3,7 @@
 class ImageProfile;
 class ProfileManager;
 
-/// Image profiles that nobody has to set up. User-interface thread only.
+/// Image profiles that are there without being set up. User-interface thread only.
 namespace ReadyProfiles {
 
 /// Appends "Original size", "Full HD", "Web 1280" and "Thumbnail 320" to the manager of image

@@ -18,6 +18,7 @@ using stillsprogram::filesIn;
 using stillsprogram::InterruptibleProcess;
 using stillsprogram::numbersIn;
 using stillsprogram::objects;
+using stillsprogram::words;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
 using testsupport::TestDir;
@@ -26,11 +27,6 @@ namespace {
 
 const QString shortSample = QStringLiteral("h264_bframes.mp4");
 const QString largeSample = QStringLiteral("h264_2160p.mp4");
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
 
 /// Whether every file is a whole picture, and none is one that was begun.
 bool areWhole(const QString& folder)

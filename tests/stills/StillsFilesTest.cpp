@@ -13,6 +13,7 @@
 using stillsprogram::filesIn;
 using stillsprogram::numbersIn;
 using stillsprogram::objects;
+using stillsprogram::words;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
 using testsupport::TestDir;
@@ -21,11 +22,6 @@ namespace {
 
 /// 4 seconds, 25 frames a second.
 const QString shortSample = QStringLiteral("h264_bframes.mp4");
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
 
 QString copySample(const QString& to, const QString& sample = shortSample)
 {

@@ -6,7 +6,6 @@
 
 #include <QColorSpace>
 #include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QRgba64>
 #include <QTest>
@@ -14,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 
+using stillsprogram::contentOf;
 using stillsprogram::filesIn;
 using testsupport::ColourSample;
 using testsupport::ProgramResult;
@@ -42,12 +42,6 @@ QString takeFirst(const QString& video, const QStringList& options, const QStrin
         return {};
     }
     return folder + QLatin1Char('/') + filesIn(folder).value(0);
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QStringList storedAs(const QString& type)

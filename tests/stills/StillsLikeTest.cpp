@@ -8,8 +8,10 @@
 #include <QImage>
 #include <QTest>
 
+using stillsprogram::contentOf;
 using stillsprogram::filesIn;
 using stillsprogram::numbersIn;
+using stillsprogram::words;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
 using testsupport::TestDir;
@@ -17,17 +19,6 @@ using testsupport::TestDir;
 namespace {
 
 const QString shortSample = QStringLiteral("h264_bframes.mp4");
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// A folder with a copy of the sample and a folder "out" with one still of it.
 struct Studio

@@ -4,13 +4,13 @@
 #include "tests/support/TaggedSample.h"
 #include "tests/support/TestDir.h"
 
-#include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTest>
 
 using stillsprogram::filesIn;
+using stillsprogram::words;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
 using testsupport::tagSample;
@@ -19,11 +19,6 @@ using testsupport::TestDir;
 namespace {
 
 const QString shortSample = QStringLiteral("h264_bframes.mp4");
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
 
 /// What another program reads in a picture, by group and name as in "EXIF:Make".
 QJsonObject tagsOf(const QString& path)

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QImage>
 #include <QJsonDocument>
 #include <QThread>
@@ -67,6 +68,17 @@ QList<QJsonObject> stillsprogram::objects(const QByteArray& output, const QStrin
 QStringList stillsprogram::filesIn(const QString& folder)
 {
     return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+QByteArray stillsprogram::contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList stillsprogram::words(const char* text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 QList<int> stillsprogram::numbersIn(const QString& folder)

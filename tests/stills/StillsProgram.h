@@ -2,6 +2,7 @@
 
 #include "tests/support/RunProgram.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 #include <QList>
 #include <QProcess>
@@ -32,6 +33,12 @@ namespace stillsprogram {
 
 /// The names of all files in the folder, hidden ones too, in order.
 [[nodiscard]] QStringList filesIn(const QString& folder);
+
+/// The bytes of a file; none where it cannot be read.
+[[nodiscard]] QByteArray contentOf(const QString& path);
+
+/// The words of a text, as arguments.
+[[nodiscard]] QStringList words(const char* text);
 
 /// The numbers in the pictures of a folder, by name; -1 for a picture without a readable one.
 [[nodiscard]] QList<int> numbersIn(const QString& folder);

@@ -9,6 +9,7 @@
 
 using stillsprogram::filesIn;
 using stillsprogram::objects;
+using stillsprogram::words;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
 using testsupport::TestDir;
@@ -17,11 +18,6 @@ namespace {
 
 /// 4 seconds, 25 frames a second, 320x240.
 const QString sample = QStringLiteral("h264_bframes.mp4");
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
 
 } // namespace
 
