@@ -158,18 +158,24 @@ function(morvantile_run_moc target test)
   endforeach()
 endfunction()
 
-# morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [EXHAUSTIVE] [CORE_ONLY]
-#                     [LABELS label…] [TIMEOUT s])
+# morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [EXHAUSTIVE] [OPTIMISED]
+#                     [CORE_ONLY] [LABELS label…] [TIMEOUT s])
 # One Qt Test program for one class: FOLDER/NAME.cpp. MEDIA makes the sample videos first.
 # EXHAUSTIVE is a test that asks for the frames of all samples one by one. Sanitizers do without it:
 # for the time it takes they would see nothing that the tests beside it do not show them.
+# OPTIMISED is one that has to run in a release build as well: the optimiser may change its outcome,
+# it measures time or limits memory, or it does less under sanitizers. Without MORVANTILE_ALL_TESTS a
+# release build has these and the exhaustive ones alone.
 # CORE_ONLY is one that is built without Qt5::Gui, and so without the precompiled headers.
 # It runs on the offscreen platform, in no country's language, with a home of its own.
 # The label `threads` marks a test of what runs in several threads: thread sanitizer runs these
 # alone, for Qt's own libraries are not built for it and the other tests would tell it nothing.
 function(morvantile_add_test path)
-  cmake_parse_arguments(ARG "MEDIA;EXHAUSTIVE;CORE_ONLY" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "MEDIA;EXHAUSTIVE;OPTIMISED;CORE_ONLY" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   if(MORVANTILE_SANITIZE AND ARG_EXHAUSTIVE)
+    return()
+  endif()
+  if(NOT MORVANTILE_SANITIZE AND NOT MORVANTILE_ALL_TESTS AND NOT (ARG_EXHAUSTIVE OR ARG_OPTIMISED))
     return()
   endif()
   if(MORVANTILE_SANITIZE MATCHES "thread" AND NOT "threads" IN_LIST ARG_LABELS)
