@@ -8,7 +8,10 @@
 #include <QRgba64>
 
 #include <algorithm>
+#include <future>
+#include <thread>
 #include <utility>
+#include <vector>
 
 namespace QtAV {
 
@@ -80,33 +83,82 @@ private:
     RgbLine m_line;
 };
 
-void fillBytes(const AVFrame& frame, MappedLines& lines, QImage& image)
+/// Lines of the picture and of the image, from the first to before the end.
+struct Band
+{
+    int first;
+    int end;
+};
+
+/// The memory of an image, which is written by several threads.
+class Target
+{
+public:
+    explicit Target(QImage& image)
+        : m_format(image.format())
+        , m_bits(image.bits())
+        , m_bytesPerLine(image.bytesPerLine())
+    {}
+
+    QImage::Format format() const { return m_format; }
+    uchar* line(int y) const { return m_bits + y * ptrdiff_t(m_bytesPerLine); }
+
+private:
+    QImage::Format m_format;
+    uchar* m_bits;
+    int m_bytesPerLine;
+};
+
+void fillBytes(const AVFrame& frame, MappedLines& lines, const Target& target, Band band)
 {
     const Dither<float> dither = ditherFor(frame);
-    const bool hasAlpha = image.format() == QImage::Format_ARGB32;
+    const bool hasAlpha = target.format() == QImage::Format_ARGB32;
     std::vector<QRgb> own(hasAlpha ? 0 : static_cast<size_t>(frame.width));
-    for (int y = 0; y < frame.height; ++y) {
+    for (int y = band.first; y < band.end; ++y) {
         const RgbLine& line = lines.read(y);
-        QRgb* const pixels = hasAlpha ? reinterpret_cast<QRgb*>(image.scanLine(y)) : own.data();
+        QRgb* const pixels = hasAlpha ? reinterpret_cast<QRgb*>(target.line(y)) : own.data();
         storeBytes(line.red.data(), line.green.data(), line.blue.data(), dither.line(y), pixels,
                    line.red.size());
         if (!hasAlpha)
-            dropAlpha(pixels, image.scanLine(y), frame.width);
+            dropAlpha(pixels, target.line(y), frame.width);
         else if (lines.hasAlpha())
             setAlpha(lines.alpha(), pixels);
     }
 }
 
-void fillWords(const AVFrame& frame, MappedLines& lines, QImage& image)
+void fillWords(MappedLines& lines, const Target& target, Band band)
 {
-    const bool hasAlpha = image.format() == QImage::Format_RGBA64 && lines.hasAlpha();
-    for (int y = 0; y < frame.height; ++y) {
+    const bool hasAlpha = target.format() == QImage::Format_RGBA64 && lines.hasAlpha();
+    for (int y = band.first; y < band.end; ++y) {
         const RgbLine& line = lines.read(y);
-        auto* const pixels = reinterpret_cast<QRgba64*>(image.scanLine(y));
+        auto* const pixels = reinterpret_cast<QRgba64*>(target.line(y));
         for (size_t x = 0; x < line.red.size(); ++x)
             pixels[x] = qRgba64(toWord(line.red[x]), toWord(line.green[x]), toWord(line.blue[x]),
                                 hasAlpha ? toWord(lines.alpha()[x]) : quint16(65535));
     }
+}
+
+void fill(const AVFrame& frame, const ColourMap* map, const Target& target, Band band)
+{
+    MappedLines lines(frame, map);
+    if (target.format() == QImage::Format_RGBX64 || target.format() == QImage::Format_RGBA64)
+        fillWords(lines, target, band);
+    else
+        fillBytes(frame, lines, target, band);
+}
+
+/// A band for each core, unless starting a thread for it takes longer than what it would save.
+std::vector<Band> bandsOf(const AVFrame& frame)
+{
+    constexpr qint64 FewestPixels = 250'000;
+    const qint64 cores = std::max(1U, std::thread::hardware_concurrency());
+    const qint64 count =
+        std::clamp(qint64(frame.width) * frame.height / FewestPixels, qint64(1), cores);
+    std::vector<Band> bands;
+    for (qint64 i = 0; i < count; ++i)
+        bands.push_back({static_cast<int>(frame.height * i / count),
+                         static_cast<int>(frame.height * (i + 1) / count)});
+    return bands;
 }
 
 } // namespace
@@ -128,13 +180,18 @@ bool TrueColours::isNeededFor(const AVFrame& frame, const Colours& colours)
 
 void TrueColours::convert(const AVFrame& frame, QImage& image) const
 {
-    MappedLines lines(frame, m_map.get());
-    const bool isDeep =
-        image.format() == QImage::Format_RGBX64 || image.format() == QImage::Format_RGBA64;
-    if (isDeep)
-        fillWords(frame, lines, image);
-    else
-        fillBytes(frame, lines, image);
+    const Target target(image);
+    const std::vector<Band> bands = bandsOf(frame);
+    const auto fillBand = [&](Band band) { fill(frame, m_map.get(), target, band); };
+    std::vector<std::future<void>> others;
+    for (size_t i = 1; i < bands.size(); ++i) {
+        // Where the system gives no thread, the band is filled when it is asked for.
+        const auto policy = std::launch::async | std::launch::deferred;
+        others.push_back(std::async(policy, fillBand, bands[i]));
+    }
+    fillBand(bands.front());
+    for (std::future<void>& other : others)
+        other.get();
 }
 
 } // namespace QtAV
