@@ -35,6 +35,14 @@ void BaseProfile::save(QSettings& settings) const
         settings.setValue(QLatin1String(property.name()), property.read(this));
 }
 
+QVariantMap BaseProfile::values() const
+{
+    QVariantMap values;
+    for (const QMetaProperty& property : persistedProperties(*metaObject()))
+        values.insert(QLatin1String(property.name()), property.read(this));
+    return values;
+}
+
 void BaseProfile::takeValuesOf(const BaseProfile& other)
 {
     const int ownCount = BaseProfile::staticMetaObject.propertyCount();
