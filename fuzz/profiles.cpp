@@ -36,7 +36,10 @@ void useProfiles(const char* data, std::size_t size)
         std::abort();
     }
     file.close();
-    static_cast<void>(SettingsFile::isDamaged(file.fileName()));
+    // As the programs do at their start.
+    if (SettingsFile::isDamaged(file.fileName())) {
+        return;
+    }
     ProfileManager manager(
         fileName, [] { return new Profile(nullptr); }, true);
     const QList<BaseProfile*> profiles = manager.profiles();

@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
@@ -48,6 +49,18 @@ bool isSettings(const QByteArray& content)
     return true;
 }
 
+/// A value may say that it is a list of two thousand million entries: Qt takes memory for them
+/// first, and throws where there is none.
+bool canBeParsed(const QString& path)
+{
+    try {
+        static_cast<void>(QSettings(path, QSettings::IniFormat).allKeys());
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
 /// Where settings are: the application's own file, and those of the profiles and of batch mode.
 QStringList allFiles()
 {
@@ -77,7 +90,10 @@ bool SettingsFile::isDamaged(const QString& path)
         return true;
     }
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) && !isSettings(file.read(largestFile + 1));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    return !isSettings(file.read(largestFile + 1)) || !canBeParsed(path);
 }
 
 QString SettingsFile::putAsideIfDamaged(const QString& path)

@@ -98,6 +98,19 @@ private Q_SLOTS:
         }
     }
 
+    void listsThatDeclareTooMuch_areDamage()
+    {
+        // Qt would throw while it reads the value.
+        const QByteArray text = "[profiles]\nA\\id=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n";
+        QVERIFY(m_home->writeSettingsFile(fileName, text));
+        QCOMPARE(SettingsFile::putDamagedAside().size(), 1);
+        QSettings settings(path(), QSettings::IniFormat);
+        QCOMPARE(settings.allKeys(), QStringList());
+        settings.setValue(QStringLiteral("a"), 1);
+        settings.sync();
+        QCOMPARE(contentOf(path()), QByteArray("[General]\na=1\n"));
+    }
+
     void ownSettings_areLookedAtToo()
     {
         const QString own = QSettings().fileName();
