@@ -40,7 +40,7 @@ bool isLeftOver(const QByteArray& path)
     }
     struct stat facts = {};
     const bool isOld = ::fstat(file, &facts) == 0 && S_ISREG(facts.st_mode) &&
-                       facts.st_nlink == 1 && std::time(nullptr) - facts.st_mtime > oldSeconds;
+                       std::time(nullptr) - facts.st_mtime > oldSeconds;
     const bool isFree = isOld && ::flock(file, LOCK_EX | LOCK_NB) == 0;
     ::close(file);
     return isFree;

@@ -192,6 +192,7 @@ class Killing(FaultCase):
     def test_left_over_files_go_with_the_next_run_unless_somebody_writes_them(self):
         old = time.time() - 7200
         names = {"old": ".morvantile-0123456789abcdef.part",
+                 "linked": ".morvantile-0123456789abcde2.part",
                  "new": ".morvantile-0123456789abcde0.part",
                  "locked": ".morvantile-0123456789abcde1.part",
                  "other": ".morvantile-of-somebody.part"}
@@ -199,11 +200,14 @@ class Killing(FaultCase):
             (self.out / name).write_bytes(b"half")
             if what != "new":
                 os.utime(self.out / name, (old, old))
+        # A kill between the final name and the end of the hidden one leaves both.
+        os.link(self.out / names["linked"], self.folder / "final")
         with open(self.out / names["locked"], "rb") as locked:
             fcntl.flock(locked, fcntl.LOCK_EX)
             self.assertEqual(self.stills(VIDEO, "-c1", "-o", self.out).status, 0)
         left = {path.name for path in self.out.iterdir() if path.name.startswith(".")}
         self.assertEqual(left, {names["new"], names["locked"], names["other"]})
+        self.assertEqual((self.folder / "final").read_bytes(), b"half")
         for name in left:
             (self.out / name).unlink()
         self.check_clean()
