@@ -1,5 +1,6 @@
 #include "profiles/BaseProfile.h"
 
+#include <QColor>
 #include <QMetaProperty>
 #include <QSettings>
 #include <QUuid>
@@ -19,6 +20,14 @@ std::vector<QMetaProperty> persistedProperties(const QMetaObject& type)
             properties.push_back(property);
     }
     return properties;
+}
+
+/// A colour in a model that there is: a damaged file may name one that there is not.
+QVariant withKnownColour(const QVariant& value)
+{
+    if (value.userType() != QMetaType::QColor)
+        return value;
+    return static_cast<const QColor*>(value.constData())->toRgb();
 }
 
 } // namespace
@@ -64,6 +73,6 @@ void BaseProfile::load(const QSettings& settings)
         QVariant value = settings.value(key);
         if (value.canConvert(property.userType()))
             value.convert(property.userType());
-        property.write(this, value);
+        property.write(this, withKnownColour(value));
     }
 }

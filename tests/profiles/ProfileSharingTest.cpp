@@ -2,6 +2,7 @@
 
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "profiles/WatermarkProfile.h"
 #include "tests/profiles/ProfileTestSupport.h"
 
 #include <QSettings>
@@ -153,6 +154,19 @@ private Q_SLOTS:
             named(*manager, QStringLiteral("mine")).setImageQuality(40 + start);
             manager->saveProfiles();
         }
+    }
+
+    void colourOfAnUnknownModel_becomesARealOne()
+    {
+        // A brush whose colour says 255 where its model belongs.
+        QVERIFY(m_home->writeSettingsFile(
+            QStringLiteral("Marks.ini"),
+            "[profiles]\nB\\id=B\nB\\textColor=@Variant(\\0\\0\\0\\x42\\x1\\xff\\xff\\xff\\xff"
+            "\\xff\\xff\\xff\\xff\\0\\0)\n"));
+        const ProfileManager manager(QStringLiteral("Marks.ini"),
+                                     m_keeper->factory<WatermarkProfile>(), false);
+        const auto* const mark = qobject_cast<WatermarkProfile*>(manager.profiles().constFirst());
+        QVERIFY(mark->textColor().spec() == QColor::Rgb);
     }
 
     void groupsWithOneId_areOneProfile()
