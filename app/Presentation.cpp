@@ -8,6 +8,7 @@
 #include <QDebug>
 #include <QFile>
 #include <QIcon>
+#include <QMessageBox>
 #include <QScreen>
 #include <QWidget>
 
@@ -40,6 +41,19 @@ RunningInstance::Opener openerIn(MainWindow& window)
     };
 }
 
+/// What the user should know before he goes on. The window can be used meanwhile.
+void tell(MainWindow& window, const QStringList& news)
+{
+    if (news.isEmpty()) {
+        return;
+    }
+    auto* const box = new QMessageBox(QMessageBox::Warning, window.windowTitle(),
+                                      news.join(QLatin1Char('\n')), QMessageBox::Ok, &window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setModal(false);
+    box->show();
+}
+
 } // namespace
 
 void Presentation::applyStyleSheet(QApplication& app, const QString& path)
@@ -59,7 +73,7 @@ void Presentation::centre(QWidget& widget, const QRect& screen)
     widget.move((screen.width() - widget.width()) / 2, (screen.height() - widget.height()) / 2);
 }
 
-void showMainWindow(QApplication& app, const QStringList& files)
+void showMainWindow(QApplication& app, const QStringList& files, const QStringList& news)
 {
     Presentation::applyStyleSheet(app, QStringLiteral(":/Styles.qss"));
     QApplication::setWindowIcon(applicationIcon());
@@ -70,6 +84,7 @@ void showMainWindow(QApplication& app, const QStringList& files)
     Presentation::centre(*window, QGuiApplication::primaryScreen()->geometry());
     window->restoreLayout();
     window->show();
+    tell(*window, news);
     RunningInstance instance(openerIn(*window));
     if (!instance.listen(RunningInstance::meetingPlace())) {
         qDebug() << "Another window takes the files that are passed on";

@@ -23,5 +23,6 @@ void centre(QWidget& widget, const QRect& screen);
 
 /// Shows the main window as the last one was left, the first one 800 by 600 and in the middle of
 /// the primary screen; opens the first of the files, and returns when the event loop ends.
-/// Meanwhile other programs of the same user can pass files to it, see RunningInstance.
-void showMainWindow(QApplication& app, const QStringList& files = {});
+/// Meanwhile other programs of the same user can pass files to it, see RunningInstance. The news,
+/// if there are any, are told in a box beside it.
+void showMainWindow(QApplication& app, const QStringList& files = {}, const QStringList& news = {});

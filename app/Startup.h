@@ -20,6 +20,10 @@ template <typename Application>
 /// Gives the application object its name, organisation, domain and version.
 void setIdentity();
 
+/// Makes writing beyond a limit on the size of files, or to a reader that is gone, an error of that
+/// file instead of the end of the program.
+void makeSignalsErrors();
+
 /// Makes the video library write critical and fatal messages only.
 void quietVideoLibrary();
 

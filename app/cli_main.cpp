@@ -2,7 +2,9 @@
 
 #include "app/CommandLineProcessor.h"
 #include "app/Startup.h"
+#include "profiles/SettingsFile.h"
 
+#include <QDebug>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 
@@ -26,8 +28,12 @@ int main(int argc, char** argv)
 {
     needNoDisplay();
     hideDebugLines();
+    Startup::makeSignalsErrors();
     const auto app = Startup::makeApplication<QGuiApplication>(argc, argv);
     Startup::setIdentity();
+    for (const QString& text : SettingsFile::putDamagedAside()) {
+        qWarning().noquote() << text;
+    }
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();
     processCommandLine(*app);

@@ -7,6 +7,7 @@
 #include "app/RunningInstance.h"
 #include "app/Startup.h"
 #include "app/SupportedOS.h"
+#include "profiles/SettingsFile.h"
 
 #include <QtAVWidgets>
 
@@ -21,6 +22,7 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
     MemoryPolicy::returnFreedMemory();
     GraphicsPolicy::avoidImitatedOpenGL();
+    Startup::makeSignalsErrors();
     const auto app = Startup::makeApplication<QApplication>(argc, argv);
     Startup::setIdentity();
     if (!checkSupportedOS(*app)) {
@@ -33,8 +35,9 @@ int main(int argc, char** argv)
     QtAV::Widgets::registerRenderers();
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();
+    const QStringList damage = SettingsFile::putDamagedAside();
     // Kept for the whole run: settings objects that come and go then share its open file.
     const QSettings settings;
-    showMainWindow(*app, files);
+    showMainWindow(*app, files, damage);
     return 0;
 }

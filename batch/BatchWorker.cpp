@@ -4,14 +4,16 @@
 #include "batch/FreePaths.h"
 #include "batch/SamplingPlan.h"
 #include "batch/SeriesSaver.h"
-#include "imaging/FramePicture.h"
+#include "imaging/FilePublisher.h"
 #include "imaging/Rendering.h"
 #include "profiles/FileNameProfile.h"
 #include "video/FrameGrabber.h"
+#include "video/ReadingLimits.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QElapsedTimer>
+#include <QSettings>
 #include <QThread>
 
 #include <algorithm>
@@ -80,6 +82,7 @@ struct BatchWorker::Series
 {
     ImageRecipe recipe;
     OutputNaming naming;
+    SeriesOptions resources;
 
     static SeriesSaver::Listener listenerOf(BatchWorker& worker);
 };
@@ -115,12 +118,18 @@ void BatchWorker::prepare()
     if (profile == nullptr) {
         return;
     }
+    const ReadingLimits limits = ReadingLimits::of(QSettings());
+    m_frameGrabber->setPictureMemory(limits.pictureBytes);
+    m_frameGrabber->setPositionTimeout(limits.positionTimeout);
     if (!m_config->exactFrames()) {
         m_frameGrabber->setDeinterlacing(QtAV::deinterlacingNamed(profile->deinterlacing()));
         return;
     }
+    SeriesOptions resources;
+    resources.pictureBytes = limits.pictureBytes;
+    resources.positionTimeout = limits.positionTimeout;
     m_series = std::make_unique<const Series>(
-        Series{recipes::of(*profile), m_config->filenameProfile()->naming()});
+        Series{recipes::of(*profile), m_config->filenameProfile()->naming(), resources});
 }
 
 void BatchWorker::loadFile()
@@ -134,7 +143,9 @@ void BatchWorker::run()
     if (QThread::currentThread() == thread()) {
         prepare();
     }
+    FilePublisher::sweep(m_config->outputDir().absolutePath());
     runInternal();
+    waitForAnswer();
     m_frameGrabber->disconnect();
     m_frameGrabber->abort();
 }
@@ -200,7 +211,8 @@ void BatchWorker::takeSeries(const SamplingPlan& plan, qint64 duration)
     SeriesSaver saver(FreePaths(pathOf), plan.intervalType == BatchWorkerConfig::SingleShot,
                       Series::listenerOf(*this));
     const auto isCancelled = [this] { return isInterruptionRequested(); };
-    runSeries([&] { static_cast<void>(series::run({job}, saver, isCancelled)); });
+    runSeries(
+        [&] { static_cast<void>(series::run({job}, saver, isCancelled, m_series->resources)); });
 }
 
 /// What is told comes from the threads of the engine, in order: progress from there, all else in
@@ -226,8 +238,11 @@ SeriesSaver::Listener BatchWorker::Series::listenerOf(BatchWorker& worker)
     listener.saving = [&worker](const QString& path) {
         worker.tell([&worker, path] { worker.announceSaving(path); });
     };
-    listener.notSaved = [&worker](const QString& path) {
-        worker.tell([&worker, path] { worker.reportUnsavedImage(path); });
+    listener.notSaved = [&worker](const WriteFailure& failure) {
+        worker.tell([&worker, failure] { worker.reportUnsavedImage(failure); });
+    };
+    listener.lacksRoom = [&worker](const WriteFailure& failure) {
+        return worker.waitForRoom(failure);
     };
     listener.failed = [&worker](const QString& message) {
         worker.tell([&worker, message] { worker.extractorError(message); });
@@ -305,7 +320,7 @@ void BatchWorker::waitForImages() const
     QElapsedTimer waited;
     waited.start();
     while (m_waitingFrames >= mostWaitingFrames && !isInterruptionRequested() &&
-           !waited.hasExpired(longestWaitMilliseconds)) {
+           (m_isAsking || !waited.hasExpired(longestWaitMilliseconds))) {
         QThread::msleep(lookMilliseconds);
     }
 }
@@ -341,31 +356,6 @@ void BatchWorker::passOn(const QtAV::VideoFrame& frame)
                               Q_ARG(qint64, m_frameGrabber->getPosition()));
 }
 
-void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
-{
-    --m_waitingFrames;
-    if (isInterruptionRequested()) {
-        return;
-    }
-    if (!frame.isValid()) {
-        extractorError(tr("no picture found at position %1").arg(position));
-        return;
-    }
-    announceBaseLayer(frame.baseLayer());
-    const QString path = m_paths->first(m_config->intervalType() == BatchWorkerConfig::SingleShot);
-    announceSaving(path);
-    const ImageRecipe recipe = forType(recipes::of(*m_config->imageProfile()),
-                                       m_config->filenameProfile()->fileOutputType());
-    imaging::Rendering made = imaging::render(imaging::pictureOf(frame, recipe), recipe);
-    const PictureSource source =
-        m_source ? m_source->at(frame.timestamp(), frame.displaySize()) : PictureSource();
-    if (made.image.isNull()) {
-        reportUnmadeImage(path, position, made.error);
-    } else if (saveImage(path, made.image, recipe, source)) {
-        Q_EMIT imageReady(this, made.image);
-    }
-}
-
 /// Once a job, unless it is the whole.
 void BatchWorker::announceBaseLayer(QtAV::BaseLayer layer)
 {
@@ -374,52 +364,9 @@ void BatchWorker::announceBaseLayer(QtAV::BaseLayer layer)
     }
 }
 
-/// Also on the debug stream, for those who run jobs without listening.
-void BatchWorker::reportUnmadeImage(const QString& path, qint64 position, const QString& reason)
-{
-    const QString message =
-        tr("Could not make %1 from position %2: %3").arg(path, QString::number(position), reason);
-    qWarning().noquote() << m_config->source() + QStringLiteral(": ") + message;
-    Q_EMIT statusUpdate(this, message, Error);
-}
-
-void BatchWorker::reportUnsavedImage(const QString& path)
-{
-    Q_EMIT statusUpdate(this, tr("Could not save %1").arg(path), Error);
-}
-
 void BatchWorker::extractorError(QString message)
 {
     if (!isInterruptionRequested()) {
         Q_EMIT statusUpdate(this, tr("Frame extraction error ") + message, Error);
     }
-}
-
-void BatchWorker::announceSaving(const QString& path)
-{
-    Q_EMIT statusUpdate(this, tr("Saving: ") + path, Normal);
-    qDebug().noquote() << QStringLiteral("Saving image ") + path;
-}
-
-/// Saves under the given name or, while others take the names at the same moment, under the next
-/// free one. False when that failed, which has been told then.
-bool BatchWorker::saveImage(QString path, const QImage& image, const ImageRecipe& recipe,
-                            const PictureSource& source)
-{
-    const QString type = m_config->filenameProfile()->fileOutputType();
-    const auto save = [&](const QString& target) {
-        return imaging::save(target, image, recipe, type, source, ExistingFile::Keep);
-    };
-    WriteResult result = save(path);
-    while (result == WriteResult::AlreadyExists) {
-        path = m_paths->next();
-        announceSaving(path);
-        result = save(path);
-    }
-    if (result == WriteResult::Failed) {
-        reportUnsavedImage(path);
-    }
-    const bool isSaved = result == WriteResult::Written;
-    m_savedImages += isSaved ? 1 : 0;
-    return isSaved;
 }

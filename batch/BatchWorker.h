@@ -1,6 +1,7 @@
 #pragma once
 
 #include "batch/Worker.h"
+#include "imaging/WriteFailure.h"
 
 #include <QtAV/VideoFrame.h>
 
@@ -13,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <utility>
 
 class BatchWorkerConfig;
 class FrameGrabber;
@@ -54,6 +56,12 @@ public:
     /// saved after it.
     BatchWorkerConfig* config() const { return m_config; }
     void setConfig(BatchWorkerConfig* config) { m_config = config; }
+
+    /// Asked where there is no room for an image, in the worker's own thread, while the job waits:
+    /// true to try again. It may show a dialog. Without one, as at first, the image is an error
+    /// like any other. Before run().
+    using RoomQuestion = std::function<bool(const WriteFailure& failure)>;
+    void setRoomQuestion(RoomQuestion question) { m_roomQuestion = std::move(question); }
 
     /// Resolves the profiles of a job with exact frames, which may not change from then on. In the
     /// worker's own thread, before run(); run() does so itself when it is called there.
@@ -99,17 +107,26 @@ private:
     void waitForImages() const;
     void passOn(const QtAV::VideoFrame& frame);
 
+    void saveFrame(const QtAV::VideoFrame& frame, qint64 position);
     void announceSaving(const QString& path);
     void announceBaseLayer(QtAV::BaseLayer layer);
     [[nodiscard]] bool saveImage(QString path, const QImage& image, const ImageRecipe& recipe,
                                  const PictureSource& source);
-    void reportUnsavedImage(const QString& path);
+    void reportUnsavedImage(const WriteFailure& failure);
+    void takePostponed();
+    void waitForAnswer() const;
+    [[nodiscard]] bool askForRoom(const WriteFailure& failure);
+    [[nodiscard]] bool waitForRoom(const WriteFailure& failure);
     void reportUnmadeImage(const QString& path, qint64 position, const QString& reason);
 
     /// Frames whose images are still to be made. Counted up in the thread of run(), down in the
     /// worker's own.
     std::atomic<int> m_waitingFrames{0};
     std::atomic<int> m_savedImages{0};
+    RoomQuestion m_roomQuestion;
+    std::atomic<bool> m_isAsking{false}; ///< the question is being answered
+    /// Frames that came meanwhile, with their positions.
+    std::deque<std::pair<QtAV::VideoFrame, qint64>> m_postponed;
     BatchWorkerConfig* m_config = nullptr;
     FrameGrabber* m_frameGrabber;
     std::unique_ptr<const PictureSource> m_source; ///< the video; null until run() has opened it

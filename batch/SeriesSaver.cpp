@@ -1,7 +1,5 @@
 #include "batch/SeriesSaver.h"
 
-#include "imaging/FilePublisher.h"
-
 #include <utility>
 
 SeriesSaver::SeriesSaver(FreePaths paths, bool isSingle, Listener listener)
@@ -24,18 +22,27 @@ void SeriesSaver::take(SeriesPicture picture)
     }
     m_listener.showing(picture.baseLayer);
     QString path = m_paths.first(m_isSingle);
-    WriteResult result = WriteResult::AlreadyExists;
-    for (;; path = m_paths.next()) {
-        m_listener.saving(path);
-        result = FilePublisher::publish(path, picture.content, ExistingFile::Keep);
-        if (result != WriteResult::AlreadyExists) {
-            break;
-        }
-    }
-    if (result == WriteResult::Written) {
+    WriteFailure failure;
+    if (save(path, picture.content, failure) == WriteResult::Written) {
         m_listener.saved(picture.image);
     } else {
-        m_listener.notSaved(path);
+        m_listener.notSaved(failure);
+    }
+}
+
+/// Under the next free name while others take the names, and once more when there may be room.
+WriteResult SeriesSaver::save(QString& path, const QByteArray& content, WriteFailure& failure)
+{
+    m_listener.saving(path);
+    for (;;) {
+        const auto result = FilePublisher::publish(path, content, ExistingFile::Keep, &failure);
+        if (result == WriteResult::AlreadyExists) {
+            path = m_paths.next();
+            m_listener.saving(path);
+        } else if (result == WriteResult::Written || !failure.isLackOfRoom() ||
+                   !m_listener.lacksRoom(failure)) {
+            return result;
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "batch/FreePaths.h"
+#include "imaging/FilePublisher.h"
 #include "series/SeriesRunner.h"
 
 #include <QImage>
@@ -21,7 +22,9 @@ public:
         std::function<void()> beforePicture;
         std::function<void(QtAV::BaseLayer layer)> showing; ///< of each picture that could be made
         std::function<void(const QString& path)> saving;
-        std::function<void(const QString& path)> notSaved;
+        std::function<void(const WriteFailure& failure)> notSaved;
+        /// There is no room for a picture: true to try again. May wait.
+        std::function<bool(const WriteFailure& failure)> lacksRoom;
         std::function<void(const QImage& image)> saved;
         std::function<void(const QString& message)> failed;
     };
@@ -33,6 +36,8 @@ public:
     void end(int video, const QString& error) override;
 
 private:
+    [[nodiscard]] WriteResult save(QString& path, const QByteArray& content, WriteFailure& failure);
+
     FreePaths m_paths;
     const bool m_isSingle;
     const Listener m_listener;

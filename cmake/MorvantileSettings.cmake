@@ -6,6 +6,7 @@ option(MORVANTILE_ALL_TESTS
   "Build the tests that a build with sanitizers runs as well; off, only those marked for release" ON)
 option(MORVANTILE_QUICK_BUILD "Build with precompiled headers, a quicker linker and plain tests" OFF)
 option(MORVANTILE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(MORVANTILE_BUILD_FUZZERS "Build the harnesses of fuzz/ with libFuzzer; needs clang" OFF)
 option(MORVANTILE_WERROR "Treat warnings as errors" OFF)
 set(MORVANTILE_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 

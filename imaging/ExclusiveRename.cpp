@@ -57,7 +57,9 @@ Outcome byClaiming(const QByteArray& from, const QByteArray& to)
     ::close(claim);
     if (std::rename(from.constData(), to.constData()) == 0)
         return Outcome::Done;
+    const int error = errno;
     ::unlink(to.constData());
+    errno = error;
     return Outcome::Failed;
 }
 

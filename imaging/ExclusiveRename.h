@@ -13,7 +13,8 @@ enum class Outcome {
     Done,         ///< The file has its new name, and no longer the old one.
     NameTaken,    ///< Another file has the name. Nothing changed.
     NotSupported, ///< Not possible this way on this system or disk. Nothing changed.
-    Failed        ///< Not possible at all (a missing folder, no permission). Nothing changed.
+    Failed        ///< Not possible at all (a missing folder, no permission), for the reason in
+                  ///< errno. Nothing changed.
 };
 
 /// Renames by the first of the ways below that is supported. Never gives NotSupported.

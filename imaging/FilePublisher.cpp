@@ -1,93 +1,102 @@
 #include "imaging/FilePublisher.h"
 
 #include "imaging/ExclusiveRename.h"
+#include "imaging/HiddenFile.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/types.h>
+#include <unistd.h>
 
 namespace {
 
-constexpr int NameAttempts = 16;
+/// How writing ended, with the system's number for why it failed.
+struct Ending
+{
+    WriteResult result = WriteResult::Failed;
+    int error = 0;
 
-/// A hidden file that is removed again, unless it has got another name in the meantime.
-class HiddenFile
+    static Ending written() { return {WriteResult::Written, 0}; }
+    static Ending failed(int error) { return {WriteResult::Failed, error}; }
+};
+
+/// A file that is open for reading and writing.
+class OpenFile
 {
 public:
-    HiddenFile() = default;
-    ~HiddenFile()
+    explicit OpenFile(int file)
+        : m_file(file)
+    {}
+    ~OpenFile()
     {
-        if (m_exists)
-            QFile::remove(m_file.fileName());
-    }
-    HiddenFile(const HiddenFile&) = delete;
-    HiddenFile& operator=(const HiddenFile&) = delete;
-
-    /// Makes a new, empty file of a name that nobody else has in the folder.
-    bool create(const QString& folder)
-    {
-        for (int attempt = 0; attempt < NameAttempts && !m_exists; ++attempt) {
-            const quint64 number = QRandomGenerator::system()->generate64();
-            m_file.setFileName(
-                folder +
-                QStringLiteral("/.morvantile-%1.part").arg(number, 16, 16, QLatin1Char('0')));
-            m_exists =
-                m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered);
+        if (m_file >= 0) {
+            ::close(m_file);
         }
-        return m_exists;
     }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
 
-    /// Writes all of the content and closes the file; some file systems tell of a full disk or
-    /// quota no sooner than then.
-    bool fill(const QByteArray& content)
+    [[nodiscard]] bool isOpen() const { return m_file >= 0; }
+    [[nodiscard]] qint64 size() const { return ::lseek(m_file, 0, SEEK_END); }
+
+    /// Writes the part of the content between two places to where it belongs.
+    [[nodiscard]] bool write(const QByteArray& content, qint64 from, qint64 to) const
     {
-        const bool isWritten = m_file.write(content) == content.size();
-        m_file.close();
-        return isWritten && m_file.error() == QFileDevice::NoError;
+        while (from < to) {
+            const ssize_t written = ::pwrite(m_file, content.constData() + from,
+                                             static_cast<std::size_t>(to - from), from);
+            if (written < 0 && errno == EINTR) {
+                continue;
+            }
+            if (written <= 0) {
+                return false;
+            }
+            from += written;
+        }
+        return true;
     }
 
-    bool setPermissions(QFileDevice::Permissions permissions)
+    [[nodiscard]] bool resize(qint64 size) const { return ::ftruncate(m_file, size) == 0; }
+
+    /// False where the system tells only now that something was not written.
+    [[nodiscard]] bool close()
     {
-        return m_file.setPermissions(permissions);
+        const int result = ::close(m_file);
+        m_file = -1;
+        return result == 0;
     }
-
-    QByteArray path() const { return QFile::encodeName(m_file.fileName()); }
 
 private:
-    QFile m_file;
-    bool m_exists = false;
+    int m_file;
 };
 
 /// Writes into the file itself. What needs room is written first, behind the old content, and cut
 /// off again where there is none: a full disk then costs nothing.
-WriteResult overwriting(const QString& target, const QByteArray& content)
+Ending overwriting(const QString& target, const QByteArray& content)
 {
     // Links have been followed before: one that is there now was put there by somebody else.
-    const int descriptor =
-        ::open(QFile::encodeName(target).constData(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
-    QFile file;
-    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadWrite | QIODevice::Unbuffered,
-                                     QFileDevice::AutoCloseHandle))
-        return WriteResult::Failed;
-    const auto write = [&file, &content](qint64 from, qint64 to) {
-        return file.seek(from) && file.write(content.constData() + from, to - from) == to - from;
-    };
+    OpenFile file(::open(QFile::encodeName(target).constData(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
+    if (!file.isOpen()) {
+        return Ending::failed(errno);
+    }
     const qint64 oldSize = file.size();
     const qint64 newSize = content.size();
     const qint64 shared = std::min(oldSize, newSize);
-    if (!write(shared, newSize)) {
-        file.resize(oldSize);
-        return WriteResult::Failed;
+    if (oldSize < 0) {
+        return Ending::failed(errno);
     }
-    const bool isWritten = write(0, shared) && file.resize(newSize);
-    file.close();
-    const bool isWhole = isWritten && file.error() == QFileDevice::NoError;
-    return isWhole ? WriteResult::Written : WriteResult::Failed;
+    if (!file.write(content, shared, newSize)) {
+        const int error = errno;
+        static_cast<void>(file.resize(oldSize));
+        return Ending::failed(error);
+    }
+    const bool isWritten = file.write(content, 0, shared) && file.resize(newSize) && file.close();
+    return isWritten ? Ending::written() : Ending::failed(errno);
 }
 
 /// Whether that is why a file could not be renamed: the folder is protected, or the target is
@@ -97,60 +106,81 @@ bool isTargetFixed(int error)
     return error == EACCES || error == EPERM || error == EBUSY;
 }
 
-WriteResult replacing(const QByteArray& file, const QFileInfo& target, const QByteArray& content)
+Ending replacing(const QByteArray& file, const QFileInfo& target, const QByteArray& content)
 {
     const QString path = target.absoluteFilePath();
-    if (std::rename(file.constData(), QFile::encodeName(path).constData()) == 0)
-        return WriteResult::Written;
-    const bool mayOverwrite = isTargetFixed(errno) && target.exists();
-    return mayOverwrite ? overwriting(path, content) : WriteResult::Failed;
+    if (std::rename(file.constData(), QFile::encodeName(path).constData()) == 0) {
+        return Ending::written();
+    }
+    const int error = errno;
+    const bool mayOverwrite = isTargetFixed(error) && target.exists();
+    return mayOverwrite ? overwriting(path, content) : Ending::failed(error);
 }
 
-WriteResult keeping(const QByteArray& file, const QByteArray& target)
+Ending keeping(const QByteArray& file, const QByteArray& target)
 {
     switch (ExclusiveRename::rename(file, target)) {
     case ExclusiveRename::Outcome::Done:
-        return WriteResult::Written;
+        return Ending::written();
     case ExclusiveRename::Outcome::NameTaken:
-        return WriteResult::AlreadyExists;
+        return {WriteResult::AlreadyExists, 0};
     case ExclusiveRename::Outcome::NotSupported:
     case ExclusiveRename::Outcome::Failed:
         break;
     }
-    return WriteResult::Failed;
+    return Ending::failed(errno);
 }
 
 /// The file that replacing `fileName` is about: the one at the end of a chain of symbolic links.
 QString withoutLinks(const QString& fileName)
 {
     const QFileInfo info(fileName);
-    if (!info.isSymLink())
+    if (!info.isSymLink()) {
         return fileName;
+    }
     return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
 }
 
-} // namespace
-
-WriteResult FilePublisher::publish(const QString& fileName, const QByteArray& content,
-                                   ExistingFile existing)
+Ending published(const QString& fileName, const QByteArray& content, ExistingFile existing)
 {
     const bool isReplacing = existing == ExistingFile::Replace;
     const QFileInfo target(isReplacing ? withoutLinks(fileName) : fileName);
-    if (isReplacing && target.exists() && (!target.isFile() || !target.isWritable()))
-        return WriteResult::Failed;
-
+    if (isReplacing && target.exists() && (!target.isFile() || !target.isWritable())) {
+        return Ending::failed(target.isDir() ? EISDIR : EACCES);
+    }
     const bool isOldFile = isReplacing && target.exists();
     const QString folder = target.absolutePath();
     HiddenFile file;
     if (!file.create(folder)) {
         const bool mayOverwrite = isOldFile && !QFileInfo(folder).isWritable();
-        return mayOverwrite ? overwriting(target.absoluteFilePath(), content) : WriteResult::Failed;
+        return mayOverwrite ? overwriting(target.absoluteFilePath(), content)
+                            : Ending::failed(file.error());
     }
-    if (!file.fill(content))
-        return WriteResult::Failed;
-    if (!isReplacing)
+    if (!file.fill(content)) {
+        return Ending::failed(file.error());
+    }
+    if (!isReplacing) {
         return keeping(file.path(), QFile::encodeName(target.absoluteFilePath()));
-    if (isOldFile && !file.setPermissions(target.permissions()))
-        return WriteResult::Failed;
+    }
+    if (isOldFile && !QFile::setPermissions(QFile::decodeName(file.path()), target.permissions())) {
+        return Ending::failed(errno);
+    }
     return replacing(file.path(), target, content);
+}
+
+} // namespace
+
+WriteResult FilePublisher::publish(const QString& fileName, const QByteArray& content,
+                                   ExistingFile existing, WriteFailure* failure)
+{
+    const Ending ending = published(fileName, content, existing);
+    if (failure != nullptr && ending.result == WriteResult::Failed) {
+        *failure = WriteFailure::of(fileName, content.size(), ending.error);
+    }
+    return ending.result;
+}
+
+int FilePublisher::sweep(const QString& folder)
+{
+    return HiddenFile::sweep(folder);
 }

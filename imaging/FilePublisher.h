@@ -1,5 +1,7 @@
 #pragma once
 
+#include "imaging/WriteFailure.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -21,7 +23,8 @@ enum class WriteResult {
 /// The content goes into a hidden file in the same folder first, which takes its final name only
 /// when it is complete. Whatever happens on the way (a full disk, the end of the process), nobody
 /// ever sees half a file under the final name. The hidden file is removed on every failure; only
-/// a process that is killed in the middle leaves one behind, named ".morvantile-….part".
+/// a process that is killed in the middle leaves one behind, named ".morvantile-….part", which
+/// sweep() removes.
 ///
 /// The exception is overwriting: with ExistingFile::Replace, a file that may be written but not
 /// replaced by another one (its folder is write-protected, it is another user's in a folder for
@@ -45,7 +48,14 @@ namespace FilePublisher {
 /// With ExistingFile::Keep, of any number of writers of one name exactly one gets Written, and the
 /// others AlreadyExists. On file systems that can neither rename without replacing nor make hard
 /// links, the name is claimed by an empty file for the moment before the content takes its place.
+///
+/// @param failure  why, where the result is Failed; may be null
 [[nodiscard]] WriteResult publish(const QString& fileName, const QByteArray& content,
-                                  ExistingFile existing);
+                                  ExistingFile existing, WriteFailure* failure = nullptr);
+
+/// Removes the hidden files in a folder that programs which were killed have left there: those of
+/// our names that are older than an hour and that no living program writes. Before a run writes
+/// there. How many were removed; what cannot be is left.
+int sweep(const QString& folder);
 
 } // namespace FilePublisher

@@ -244,14 +244,20 @@ QByteArray imaging::encode(const QImage& image, const ImageRecipe& recipe, const
 }
 
 WriteResult imaging::save(const QString& fileName, const QImage& image, const ImageRecipe& recipe,
-                          const QString& type, const PictureSource& source, ExistingFile existing)
+                          const QString& type, const PictureSource& source, ExistingFile existing,
+                          WriteFailure* failure)
 {
     const QString format = QFileInfo(fileName).suffix();
     const int quality = qualityFor(type, recipe.jpegQuality);
     const QByteArray content =
         withMetadata(ImageFileWriter::encode(image, format, quality), format, recipe, source);
-    return content.isEmpty() ? WriteResult::Failed
-                             : FilePublisher::publish(fileName, content, existing);
+    if (!content.isEmpty()) {
+        return FilePublisher::publish(fileName, content, existing, failure);
+    }
+    if (failure != nullptr) {
+        *failure = WriteFailure::of(fileName, 0, 0);
+    }
+    return WriteResult::Failed;
 }
 
 bool imaging::usesQuality(const QString& type)

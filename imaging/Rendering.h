@@ -58,7 +58,8 @@ struct Rendering
                                 const PictureSource& source);
 [[nodiscard]] WriteResult save(const QString& fileName, const QImage& image,
                                const ImageRecipe& recipe, const QString& type,
-                               const PictureSource& source, ExistingFile existing);
+                               const PictureSource& source, ExistingFile existing,
+                               WriteFailure* failure = nullptr);
 
 /// A recipe's quality matters for files of this type: a suffix, in capitals or not.
 [[nodiscard]] bool usesQuality(const QString& type);

@@ -1,5 +1,6 @@
 #include "profiles/BaseProfile.h"
 
+#include <QColor>
 #include <QMetaProperty>
 #include <QSettings>
 #include <QUuid>
@@ -21,6 +22,14 @@ std::vector<QMetaProperty> persistedProperties(const QMetaObject& type)
     return properties;
 }
 
+/// A colour in a model that there is: a damaged file may name one that there is not.
+QVariant withKnownColour(const QVariant& value)
+{
+    if (value.userType() != QMetaType::QColor)
+        return value;
+    return static_cast<const QColor*>(value.constData())->toRgb();
+}
+
 } // namespace
 
 BaseProfile::BaseProfile(BaseProfile* /*ignored*/)
@@ -33,6 +42,14 @@ void BaseProfile::save(QSettings& settings) const
 {
     for (const QMetaProperty& property : persistedProperties(*metaObject()))
         settings.setValue(QLatin1String(property.name()), property.read(this));
+}
+
+QVariantMap BaseProfile::values() const
+{
+    QVariantMap values;
+    for (const QMetaProperty& property : persistedProperties(*metaObject()))
+        values.insert(QLatin1String(property.name()), property.read(this));
+    return values;
 }
 
 void BaseProfile::takeValuesOf(const BaseProfile& other)
@@ -56,6 +73,6 @@ void BaseProfile::load(const QSettings& settings)
         QVariant value = settings.value(key);
         if (value.canConvert(property.userType()))
             value.convert(property.userType());
-        property.write(this, value);
+        property.write(this, withKnownColour(value));
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QVariantMap>
 
 class QSettings;
 
@@ -38,6 +39,9 @@ public:
     /// Writes every stored, writable property, `objectName` included, into the current group of
     /// `settings`, each under its own name. Other keys of the group stay as they are.
     void save(QSettings& settings) const;
+
+    /// What save() writes, by key.
+    [[nodiscard]] QVariantMap values() const;
 
     /// Sets every stored, writable property of which the current group of `settings` has the key;
     /// the others keep their values. Values are neither validated nor clamped: one of another type

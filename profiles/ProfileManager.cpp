@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -14,6 +15,7 @@ namespace {
 
 const QLatin1String profilesGroup("profiles");
 const QLatin1String sortOrderKey("sortOrder");
+const QLatin1String idKey("id");
 // Misspelled in every settings file there is: correcting it would forget the users' choice.
 const QLatin1String lastUsedProfileKey("lastUsedPofileId");
 
@@ -23,16 +25,26 @@ struct LoadedProfile
     std::unique_ptr<BaseProfile> profile;
 };
 
-LoadedProfile loadProfile(QSettings& settings, const QString& group,
-                          std::unique_ptr<BaseProfile> profile)
+bool containsId(const QStringList& ids, const QString& id)
 {
-    settings.beginGroup(group);
-    profile->load(settings);
-    const int sortOrder = settings.value(sortOrderKey, 0).toInt();
-    settings.endGroup();
+    return ids.contains(id, Qt::CaseInsensitive);
+}
 
-    qDebug() << "Loaded Profile" << profile->name();
-    return {sortOrder, std::move(profile)};
+/// The parts of `values` whose keys stand in the current group.
+QVariantMap storedPart(const QSettings& settings, QVariantMap values)
+{
+    for (auto value = values.begin(); value != values.end();) {
+        value = settings.contains(value.key()) ? std::next(value) : values.erase(value);
+    }
+    return values;
+}
+
+/// What differs from `known`, sortOrder aside.
+bool isChanged(QVariantMap values, QVariantMap known)
+{
+    values.remove(sortOrderKey);
+    known.remove(sortOrderKey);
+    return values != known;
 }
 
 /// QSettings writes no file while there is nothing to store, but the file has to exist. That this
@@ -69,11 +81,31 @@ void ProfileManager::loadProfilesFromFile()
     QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
 
     std::vector<LoadedProfile> loaded;
+    QHash<const BaseProfile*, QVariantMap> stored;
+    QStringList ids;
     settings.beginGroup(profilesGroup);
     const QStringList groups = settings.childGroups();
     for (const QString& group : groups) {
-        std::unique_ptr<BaseProfile> profile(createProfile());
-        loaded.push_back(loadProfile(settings, group, std::move(profile)));
+        LoadedProfile entry{0, std::unique_ptr<BaseProfile>(createProfile())};
+        settings.beginGroup(group);
+        entry.profile->load(settings);
+        entry.sortOrder = settings.value(sortOrderKey, 0).toInt();
+        const QString storedId = settings.value(idKey).toString();
+        // A group that an editor has left without an id is who its name says. It would get another
+        // id at each start else, and another group.
+        entry.profile->setId(storedId.isEmpty() ? group : storedId);
+        QVariantMap values = entry.profile->values();
+        values.insert(sortOrderKey, entry.sortOrder);
+        values = storedPart(settings, values);
+        settings.endGroup();
+        const QString id = entry.profile->id();
+        const bool isCopy = id.compare(group, Qt::CaseInsensitive) != 0 && containsId(groups, id);
+        if (isCopy || containsId(ids, id))
+            continue;
+        qDebug() << "Loaded Profile" << entry.profile->name();
+        ids.append(id);
+        stored.insert(entry.profile.get(), values);
+        loaded.push_back(std::move(entry));
     }
     settings.endGroup();
 
@@ -81,34 +113,53 @@ void ProfileManager::loadProfilesFromFile()
         return a.sortOrder < b.sortOrder;
     });
 
+    m_stored = stored;
     m_profiles.clear();
     for (LoadedProfile& entry : loaded)
         addProfile(entry.profile.release());
 
     const QString lastUsedId = settings.value(lastUsedProfileKey).toString();
+    m_storedLastUsed = lastUsedId;
     if (!lastUsedId.isEmpty())
         m_lastUsedProfile = profileForId(lastUsedId);
 }
 
+/// Only what has changed here is written: another program may have changed all else meanwhile.
 void ProfileManager::saveProfiles()
 {
     QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
 
     settings.beginGroup(profilesGroup);
     int sortOrder = 0;
-    for (const BaseProfile* profile : qAsConst(m_profiles)) {
-        settings.beginGroup(profile->id());
-        profile->save(settings);
-        settings.setValue(sortOrderKey, sortOrder);
-        settings.endGroup();
-        ++sortOrder;
-    }
+    for (const BaseProfile* profile : qAsConst(m_profiles))
+        saveProfile(settings, *profile, sortOrder++);
     settings.endGroup();
 
-    if (m_lastUsedProfile)
-        settings.setValue(lastUsedProfileKey, m_lastUsedProfile->id());
+    if (m_lastUsedProfile && m_lastUsedProfile->id() != m_storedLastUsed) {
+        m_storedLastUsed = m_lastUsedProfile->id();
+        settings.setValue(lastUsedProfileKey, m_storedLastUsed);
+    }
     settings.sync();
     createFileIfMissing(settings.fileName());
+}
+
+void ProfileManager::saveProfile(QSettings& settings, const BaseProfile& profile, int sortOrder)
+{
+    QVariantMap values = profile.values();
+    values.insert(sortOrderKey, sortOrder);
+    const QVariantMap known = m_stored.value(&profile);
+    settings.beginGroup(profile.id());
+    // A profile that was removed by another program comes back if it was changed here.
+    const bool isGone = !known.isEmpty() && settings.childKeys().isEmpty();
+    if (!isGone || isChanged(values, known)) {
+        for (auto value = values.cbegin(); value != values.cend(); ++value) {
+            const bool isStored = known.contains(value.key()) && known[value.key()] == *value;
+            if (isGone || !isStored)
+                settings.setValue(value.key(), *value);
+        }
+        m_stored.insert(&profile, values);
+    }
+    settings.endGroup();
 }
 
 BaseProfile* ProfileManager::createProfile() const

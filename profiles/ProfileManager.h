@@ -2,11 +2,15 @@
 
 #include "profiles/BaseProfile.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QVariantMap>
 
 #include <functional>
+
+class QSettings;
 
 /// All profiles of one kind, in display order, and the one used last, kept in one INI file.
 ///
@@ -44,8 +48,14 @@ public:
     /// there is no factory.
     void loadProfilesFromFile();
 
-    /// Writes every profile and the id of the last used one to the file, which exists afterwards
-    /// even if there is nothing to write. Without a last used profile the stored id stays as it is.
+    /// Writes what has changed in the profiles and of the last used one to the file, which exists
+    /// afterwards even if there is nothing to write. Without a last used profile the stored id
+    /// stays as it is.
+    ///
+    /// What has not changed here since it was read or written stays as it is in the file, so that
+    /// programs that run at once keep each other's changes: another program's values, new profiles
+    /// and removals. Of two that change one value the later one counts; a profile that was removed
+    /// there and changed here is there again.
     void saveProfiles();
 
     /// A new profile from the factory, neither listed nor saved; the caller owns it until it is
@@ -80,7 +90,12 @@ public:
     static QString getSettingsPath(const QString& fileName);
 
 private:
+    void saveProfile(QSettings& settings, const BaseProfile& profile, int sortOrder);
+
     QList<BaseProfile*> m_profiles;
+    /// What the file holds of each as far as is known here, by key.
+    QHash<const BaseProfile*, QVariantMap> m_stored;
+    QString m_storedLastUsed;
     BaseProfile* m_lastUsedProfile = nullptr;
     Factory m_factory;
     QString m_fileName;

@@ -3,9 +3,27 @@
 #include "profiles/ProfileManager.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
 #include <QStandardPaths>
 
 #include <array>
+
+namespace {
+
+/// Null for what is no file, since a pipe would be waited for, and for what declares more than
+/// memory is taken for.
+QImage readPicture(const QString& path)
+{
+    if (!QFileInfo(path).isFile())
+        return {};
+    QImageReader reader(path);
+    const QSize size = reader.size();
+    const bool isTooLarge = qint64{size.width()} * size.height() > WatermarkProfile::mostPixels;
+    return size.isValid() && isTooLarge ? QImage() : reader.read();
+}
+
+} // namespace
 
 WatermarkProfile::WatermarkProfile(WatermarkProfile* ignored)
     : BaseProfile(ignored)
@@ -16,7 +34,7 @@ WatermarkProfile::~WatermarkProfile() = default;
 QImage WatermarkProfile::image() const
 {
     if (m_imageFile != s_loadedImageFileName) {
-        s_loadedImage = QImage(pathForImage(m_imageFile));
+        s_loadedImage = readPicture(pathForImage(m_imageFile));
         s_loadedImageFileName = m_imageFile;
     }
     return s_loadedImage;

@@ -81,7 +81,10 @@ public:
     QString imageFile() const { return m_imageFile; }
     void setImageFile(const QString& fileName) { m_imageFile = fileName; }
 
-    /// The picture named by imageFile(); null if it cannot be read.
+    /// What a picture may hold: it is drawn pixel by pixel, and takes 4 bytes for each.
+    static constexpr qint64 mostPixels = 64LL * 1024 * 1024;
+
+    /// The picture named by imageFile(); null if it cannot be read or is too large.
     ///
     /// All profiles share a cache of one picture, which goes by the name alone: a file replaced
     /// under the same name is not read again while its name stays cached, and a failure is cached

@@ -8,6 +8,7 @@
 #include <QtAV/Times.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <iterator>
@@ -30,6 +31,12 @@ constexpr qint64 indexErrorMs = 1000;
 
 /// So much before a part of a video is decoded, so that its first frame has one to compare with.
 constexpr qint64 beforeScenesMs = 2000;
+
+/// So many positions of a video may take too long; all others are given up then.
+constexpr int mostOverdue = 3;
+
+/// What a file is read through with at least: a slow network share.
+constexpr qint64 slowestBytesPerMs = 1000;
 
 QString tr(const char* text)
 {
@@ -70,13 +77,18 @@ void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::Video
 
 } // namespace
 
-SeriesLane::SeriesLane(SeriesBoard& board, const QVector<SeriesJob>& jobs, int lanes,
-                       const QtAV::IsCancelled& isCancelled)
+SeriesLane::SeriesLane(SeriesBoard& board, const QVector<SeriesJob>& jobs,
+                       const SeriesOptions& options, const QtAV::IsCancelled& isCancelled)
     : m_board(board)
     , m_jobs(jobs)
-    , m_lanes(lanes)
+    , m_options(options)
     , m_isCancelled(isCancelled)
-{}
+    , m_deadline(std::make_shared<QtAV::Deadline>())
+    , m_isCancelledOrLate([this] { return m_deadline->hasPassed() || m_isCancelled(); })
+{
+    m_reader.setPictureMemory(options.pictureBytes);
+    m_reader.setDeadline(m_deadline);
+}
 
 void SeriesLane::run()
 {
@@ -109,7 +121,10 @@ bool SeriesLane::open(int video, QString& error)
     // walk() sets the number for the task before it decodes.
     m_reader.setThreads(1);
     m_reader.setDeinterlacing(QtAV::deinterlacingNamed(m_jobs.at(video).recipe.deinterlacing));
-    if (!m_reader.open(m_jobs.at(video).video, m_isCancelled, error)) {
+    m_overdue = 0;
+    beginPosition();
+    if (!m_reader.open(m_jobs.at(video).video, m_isCancelledOrLate, error)) {
+        error = m_deadline->hasPassed() ? overdueText() : error;
         return false;
     }
     m_video = video;
@@ -131,7 +146,11 @@ SeriesBoard::Task SeriesLane::plan(const Task& task)
     SeriesLength length;
     length.durationMs = m_reader.demuxer().duration();
     if (job.numbersFrames || asksForNumbers(positions)) {
-        length.frameTimesMs = m_reader.readFrameTimes(m_isCancelled);
+        readThrough(length);
+    }
+    if (isGivenUp()) {
+        m_board.failed(task.video, overdueText());
+        return {};
     }
     QVector<qint64> keyFrames = m_reader.indexedKeyFrames();
     SeriesFacts facts{task.video, length.durationMs};
@@ -141,11 +160,11 @@ SeriesBoard::Task SeriesLane::plan(const Task& task)
         positions.kind == FramePositions::Kind::Scenes) {
         plan = planPart(msOf(positions.front, length.durationMs),
                         length.durationMs - msOf(positions.back, length.durationMs) + 1,
-                        std::move(keyFrames), m_lanes);
+                        std::move(keyFrames), m_options.lanes);
     } else {
         QVector<SeriesTarget> targets = neededTargets(task.video, length, failures);
         facts.expected = targets.size() + static_cast<int>(failures.size());
-        plan = planTargets(std::move(targets), std::move(keyFrames), m_lanes);
+        plan = planTargets(std::move(targets), std::move(keyFrames), m_options.lanes);
     }
     plan.frameTimesMs = std::move(length.frameTimesMs);
     return m_board.planned(task.video, std::move(plan), facts, std::move(failures));
@@ -173,10 +192,51 @@ QVector<SeriesTarget> SeriesLane::neededTargets(int video, const SeriesLength& l
     return needed;
 }
 
+/// The times of all frames take longer the longer the file is.
+void SeriesLane::readThrough(SeriesLength& length)
+{
+    const qint64 bytes = QFileInfo(m_jobs.at(m_video).video).size();
+    const std::chrono::milliseconds reading(bytes / slowestBytesPerMs);
+    const auto limit = m_options.positionTimeout;
+    m_deadline->start(limit.count() > 0 ? limit + reading : limit);
+    length.frameTimesMs = m_reader.readFrameTimes(m_isCancelledOrLate);
+    m_overdue = m_deadline->hasPassed() ? mostOverdue : m_overdue;
+}
+
+void SeriesLane::beginPosition()
+{
+    m_deadline->start(m_options.positionTimeout);
+}
+
+/// What took too long is a failure, and not what the user cancelled. What comes next may take any
+/// time until another position begins: the decoder's threads may be ahead.
+FrameResult SeriesLane::inTime(FrameResult result)
+{
+    m_deadline->start(std::chrono::milliseconds(0));
+    if (result.answer != FrameAnswer::Cancelled || m_isCancelled()) {
+        return result;
+    }
+    ++m_overdue;
+    m_startsAnew = true;
+    return {FrameAnswer::Failed, {}, overdueText()};
+}
+
+QString SeriesLane::overdueText() const
+{
+    const auto seconds = static_cast<double>(m_options.positionTimeout.count()) / 1000.0;
+    return tr("Given up after %1 seconds.").arg(seconds);
+}
+
+bool SeriesLane::isGivenUp() const
+{
+    return m_overdue >= mostOverdue;
+}
+
 void SeriesLane::walk(const Task& task)
 {
     QString error;
     if (open(task.video, error)) {
+        beginPosition();
         m_reader.setThreads(task.threads);
         m_knowsKeyFrames = !m_board.plan(task.video).keyFramesMs.isEmpty();
         m_lastSeconds.reset();
@@ -216,7 +276,7 @@ void SeriesLane::begin(const Task& task)
     }
     const qint64 ms = plan.targets.at(first).ms;
     m_reader.seek(ms);
-    if (m_reader.land(m_isCancelled) != FrameAnswer::Frame || !m_reader.landing()) {
+    if (m_reader.land(m_isCancelledOrLate) != FrameAnswer::Frame || !m_reader.landing()) {
         return;
     }
     const qint64 landing = toMilliseconds(*m_reader.landing());
@@ -237,7 +297,11 @@ bool SeriesLane::walkTarget(const Task& task, int index)
         delivery.picture.askedMs = target.ms;
     }
     delivery.picture.frame = target.frame;
-    return deliver(task, std::move(delivery), find(target));
+    if (isGivenUp()) {
+        return deliver(task, std::move(delivery), {FrameAnswer::Failed, {}, overdueText()});
+    }
+    beginPosition();
+    return deliver(task, std::move(delivery), inTime(find(target)));
 }
 
 FrameResult SeriesLane::find(const SeriesTarget& target)
@@ -253,11 +317,12 @@ FrameResult SeriesLane::find(const SeriesTarget& target)
             return toMilliseconds(frame.timestamp()) >= ms;
         };
     }
-    if (!m_reader.canGoOn()) {
-        return m_reader.find(search, m_isCancelled);
+    // Pictures that were not begun are missing behind what took too long.
+    if (std::exchange(m_startsAnew, false) || !m_reader.canGoOn()) {
+        return m_reader.find(search, m_isCancelledOrLate);
     }
     approach(ms);
-    return m_reader.findOn(search, m_isCancelled);
+    return m_reader.findOn(search, m_isCancelledOrLate);
 }
 
 /// Starts at a key frame where one lies between the frame before and the position.
@@ -271,7 +336,7 @@ void SeriesLane::approach(qint64 ms)
         m_reader.seek(ms);
     } else if (!m_knowsKeyFrames && ms - lastMs > worthStartingMs) {
         // What could not be read is told by the search that follows.
-        static_cast<void>(m_reader.readAhead(ms, m_isCancelled));
+        static_cast<void>(m_reader.readAhead(ms, m_isCancelledOrLate));
     }
 }
 
@@ -290,7 +355,11 @@ QString SeriesLane::walkPart(const Task& task, const SeriesPlan::Stretch& part, 
                              const IsWanted& isWanted)
 {
     for (;;) {
-        const FrameResult found = next();
+        beginPosition();
+        const FrameResult found = inTime(next());
+        if (m_overdue > 0) {
+            return found.error;
+        }
         if (found.answer == FrameAnswer::Failed && m_reader.canGoOn()) {
             continue;
         }
@@ -313,7 +382,7 @@ QString SeriesLane::walkKeyFrames(const Task& task)
     m_reader.seek(part.fromMs);
     m_reader.setKeyFrameAtOnce(true);
     return walkPart(
-        task, part, [&] { return m_reader.nextKeyFrame(part.toMs, m_isCancelled); },
+        task, part, [&] { return m_reader.nextKeyFrame(part.toMs, m_isCancelledOrLate); },
         [&part](const QtAV::VideoFrame&, qint64 ms) { return ms >= part.fromMs; });
 }
 
@@ -336,7 +405,7 @@ QString SeriesLane::walkScenes(const Task& task)
             detector.add(frame.toImage(QImage::Format_Grayscale8, SceneDetector::pictureSize));
         return ms >= part.fromMs && (std::exchange(isFirst, false) || score >= threshold);
     };
-    const auto next = [this] { return m_reader.next(m_isCancelled); };
+    const auto next = [this] { return m_reader.next(m_isCancelledOrLate); };
     return walkPart(task, part, next, isScene);
 }
 

@@ -3,8 +3,10 @@
 #include "imaging/PictureSource.h"
 #include "series/SeriesBoard.h"
 
+#include <QtAV/Deadline.h>
 #include <QtAV/FrameReader.h>
 
+#include <memory>
 #include <optional>
 
 /// One of the workers of a series: decodes with a reader of its own, makes the pictures and encodes
@@ -12,7 +14,8 @@
 class SeriesLane
 {
 public:
-    SeriesLane(SeriesBoard& board, const QVector<SeriesJob>& jobs, int lanes,
+    /// With the number of lanes said in the options.
+    SeriesLane(SeriesBoard& board, const QVector<SeriesJob>& jobs, const SeriesOptions& options,
                const QtAV::IsCancelled& isCancelled);
 
     /// Works until nothing is left to do, or all is cancelled.
@@ -26,6 +29,11 @@ private:
     [[nodiscard]] QVector<SeriesTarget> neededTargets(int video, const SeriesLength& length,
                                                       std::deque<Delivery>& failures) const;
     [[nodiscard]] bool open(int video, QString& error);
+    void readThrough(SeriesLength& length);
+    void beginPosition();
+    [[nodiscard]] QtAV::FrameResult inTime(QtAV::FrameResult result);
+    [[nodiscard]] QString overdueText() const;
+    [[nodiscard]] bool isGivenUp() const;
 
     void walk(const Task& task);
     void walkTargets(const Task& task);
@@ -45,12 +53,16 @@ private:
 
     SeriesBoard& m_board;
     const QVector<SeriesJob>& m_jobs;
-    const int m_lanes;
-    const QtAV::IsCancelled& m_isCancelled;
+    const SeriesOptions& m_options;
+    const QtAV::IsCancelled& m_isCancelled; ///< the series
+    const std::shared_ptr<QtAV::Deadline> m_deadline;
+    const QtAV::IsCancelled m_isCancelledOrLate;
 
     QtAV::FrameReader m_reader;
     int m_video = -1;                    ///< what the reader has open
     PictureSource m_source;              ///< that video
+    int m_overdue = 0;                   ///< positions of that video that took too long
+    bool m_startsAnew = false;           ///< the next search
     int m_readied = -1;                  ///< opened ahead of its plan last
     bool m_knowsKeyFrames = false;       ///< by the index, which can be wrong
     std::optional<double> m_lastSeconds; ///< of the frame delivered last in a stretch

@@ -78,8 +78,10 @@ bool series::run(const QVector<SeriesJob>& jobs, SeriesOutput& output,
     const int lanes = options.lanes > 0 ? options.lanes : coreCount();
     const qint64 memory = options.memoryBytes > 0 ? options.memoryBytes : defaultMemoryBytes();
     SeriesBoard board(jobs, output, isCancelled, lanes, memory);
-    const auto work = [&board, &jobs, &isCancelled, lanes] {
-        SeriesLane(board, jobs, lanes, isCancelled).run();
+    SeriesOptions resources = options;
+    resources.lanes = lanes;
+    const auto work = [&board, &jobs, &isCancelled, &resources] {
+        SeriesLane(board, jobs, resources, isCancelled).run();
     };
     {
         Threads others;

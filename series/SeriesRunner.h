@@ -4,6 +4,7 @@
 #include "series/SeriesTargets.h"
 
 #include <QtAV/FrameResult.h>
+#include <QtAV/PictureMemory.h>
 
 #include <QByteArray>
 #include <QImage>
@@ -11,6 +12,7 @@
 #include <QString>
 #include <QVector>
 
+#include <chrono>
 #include <optional>
 
 /// One video of a series: what is taken out of it and what becomes of it.
@@ -84,10 +86,23 @@ public:
     virtual void end(int video, const QString& error);
 };
 
+namespace series {
+
+/// Long enough for a position a few thousand frames behind a key frame of a large video.
+constexpr std::chrono::milliseconds usualPositionTimeout{60000};
+
+} // namespace series
+
 struct SeriesOptions
 {
     int lanes = 0;          ///< how many decoders work side by side; 0 for one a core
     qint64 memoryBytes = 0; ///< for pictures that wait for their turn; 0 for the default
+    /// What one picture of a video may take, see QtAV::usualPictureBytes.
+    qint64 pictureBytes = QtAV::usualPictureBytes;
+    /// How long one position may take, or the opening of a video; 0 for any time. Reading a video
+    /// through may take longer for each megabyte of its file. A video with several such positions
+    /// is given up.
+    std::chrono::milliseconds positionTimeout = series::usualPositionTimeout;
 };
 
 /// Takes series of pictures out of videos, on all cores. Each of its lanes decodes with a reader of

@@ -18,6 +18,9 @@ constexpr std::int64_t highestColumns = 100;
 constexpr std::int64_t widestGap = 500;
 constexpr std::int64_t highestJobs = 256;
 
+/// A year: more is for ever, too.
+constexpr double longestMs = 365.0 * 24 * 3600 * 1000;
+
 bool isOneOf(const std::string& word, const char* words)
 {
     std::istringstream known{std::string(words)};
@@ -342,6 +345,13 @@ void Reader::readReporting()
     }
     if (m_typed.memory) {
         m_options.memoryBytes = good("--memory", parseMemory(*m_typed.memory));
+    }
+    if (m_typed.pictureMemory) {
+        m_options.pictureBytes = good("--picture-memory", parseMemory(*m_typed.pictureMemory));
+    }
+    if (m_typed.positionTimeout) {
+        const double ms = good("--position-timeout", parseTime(*m_typed.positionTimeout));
+        m_options.positionTimeoutMs = static_cast<std::int64_t>(std::min(std::ceil(ms), longestMs));
     }
 }
 

@@ -219,6 +219,16 @@ std::vector<OptionEntry> otherOptions()
          "How much memory pictures may take that wait for their turn, such as 800M or 2G; a "
          "quarter of the machine's and 2G at most unless you say otherwise.",
          nullptr, Completes::Nothing, nullptr},
+        {Section::Running, "--picture-memory", "SIZE", &T::pictureMemory,
+         "How much memory one picture of a video may take, decoded and converted, such as 500M; 1G "
+         "unless you say otherwise. A video that declares larger ones is an error.",
+         nullptr, Completes::Nothing, nullptr},
+        {Section::Running, "--position-timeout", "TIME", &T::positionTimeout,
+         "How long one position may take, or the opening of a video, such as 10s or 5m; 0 for any "
+         "time, 60s unless you say otherwise. It is an error then, and the run goes on. After "
+         "three "
+         "of them the rest of the video is given up.",
+         nullptr, Completes::Nothing, nullptr},
         {Section::Information, "-h,--help", nullptr, &T::help, "Show the most useful options.",
          nullptr, Completes::Nothing, nullptr},
         {Section::Information, "--help-all", nullptr, &T::helpAll, "Show all options.",

@@ -65,6 +65,8 @@ struct TypedOptions
 
     Value jobs;
     Value memory;
+    Value pictureMemory;
+    Value positionTimeout;
 
     bool help = false;
     bool helpAll = false;

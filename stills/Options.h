@@ -86,6 +86,8 @@ struct Options
     bool failsFast = false;
     int jobs = 0;                 ///< 0: one for each core
     std::int64_t memoryBytes = 0; ///< 0: the usual
+    std::optional<std::int64_t> pictureBytes;
+    std::optional<std::int64_t> positionTimeoutMs; ///< 0: any time
 };
 
 } // namespace stills

@@ -6,7 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStorageInfo>
+
+#include <cerrno>
 
 namespace stills {
 
@@ -33,25 +34,11 @@ QString tr(const char* text)
     return QCoreApplication::translate("stills", text);
 }
 
-/// Why a file could not be written, as far as that can be seen afterwards.
-PictureFiles::Outcome failure(const QString& path, qint64 bytes)
+/// Whether no other picture could be written there either.
+bool isHopeless(const WriteFailure& failure)
 {
-    const QFileInfo folder(QFileInfo(path).absolutePath());
-    if (!folder.isDir()) {
-        return {Kind::NoRoom, path, tr("The folder is gone: %1").arg(folder.filePath())};
-    }
-    if (!folder.isWritable()) {
-        return {Kind::NoRoom, path,
-                tr("The folder does not let you write: %1").arg(folder.filePath())};
-    }
-    const QStorageInfo disk(folder.filePath());
-    if (disk.isValid() && disk.isReadOnly()) {
-        return {Kind::NoRoom, path, tr("The disk is read-only: %1").arg(disk.rootPath())};
-    }
-    if (disk.isValid() && disk.bytesAvailable() >= 0 && disk.bytesAvailable() < bytes) {
-        return {Kind::NoRoom, path, tr("The disk is full: %1").arg(disk.rootPath())};
-    }
-    return {Kind::Failed, path, tr("Cannot be written: %1").arg(path)};
+    return failure.isLackOfRoom() || failure.error == EACCES || failure.error == EPERM ||
+           failure.error == EROFS || !QFileInfo(failure.path).absoluteDir().exists();
 }
 
 } // namespace
@@ -64,8 +51,9 @@ bool PictureFiles::exists(const QString& folder, const QByteArray& name)
 PictureFiles::Outcome PictureFiles::writeUnder(const QString& path, const QByteArray& content,
                                                bool replaces)
 {
-    switch (FilePublisher::publish(path, content,
-                                   replaces ? ExistingFile::Replace : ExistingFile::Keep)) {
+    WriteFailure failure;
+    const auto existing = replaces ? ExistingFile::Replace : ExistingFile::Keep;
+    switch (FilePublisher::publish(path, content, existing, &failure)) {
     case WriteResult::Written:
         if (m_existing != Existing::NextName) {
             m_written.insert(path);
@@ -76,12 +64,17 @@ PictureFiles::Outcome PictureFiles::writeUnder(const QString& path, const QByteA
     case WriteResult::Failed:
         break;
     }
-    return failure(path, content.size());
+    return {isHopeless(failure) ? Kind::NoRoom : Kind::Failed, path, failure.text(),
+            failure.missing};
 }
 
 PictureFiles::Outcome PictureFiles::write(const QString& folder, const NameForAttempt& name,
                                           const QByteArray& content)
 {
+    if (folder != m_sweptFolder) {
+        FilePublisher::sweep(folder);
+        m_sweptFolder = folder;
+    }
     for (int attempt = 1; attempt <= mostAttempts; ++attempt) {
         const QString path = pathIn(folder, name(attempt));
         // What this run has written is another picture, whatever the rule for older files.

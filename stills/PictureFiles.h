@@ -29,14 +29,17 @@ public:
         };
 
         Kind kind = Kind::Failed;
-        QString path;  ///< of the file that was written or that exists
-        QString error; ///< for people
+        QString path;            ///< of the file that was written or that exists
+        QString error;           ///< for people
+        qint64 missingBytes = 0; ///< that there is no room for, where that is the reason
     };
 
     explicit PictureFiles(Existing existing)
         : m_existing(existing)
     {}
 
+    /// Removes what killed programs have left in the folder first, see FilePublisher::sweep().
+    ///
     /// @param folder  exists
     [[nodiscard]] Outcome write(const QString& folder, const NameForAttempt& name,
                                 const QByteArray& content);
@@ -49,6 +52,7 @@ private:
 
     Existing m_existing;
     QSet<QString> m_written;
+    QString m_sweptFolder; ///< from which what killed programs left was removed last
 };
 
 } // namespace stills

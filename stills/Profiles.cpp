@@ -34,6 +34,12 @@ Result<const Profile*> profileNamed(const char* option, const std::string& name)
                                            quoted(name) + "; " + there);
 }
 
+/// Whether the watermark is a picture that is not there.
+bool lacksPicture(const WatermarkRecipe& recipe)
+{
+    return recipe.kind == WatermarkRecipe::Kind::Picture && recipe.picture.isNull();
+}
+
 std::string applyImageProfile(const Options& options, const imaging::StillOrigin* like,
                               ImageRecipe& recipe)
 {
@@ -45,6 +51,10 @@ std::string applyImageProfile(const Options& options, const imaging::StillOrigin
             return profile.error;
         }
         recipe = recipes::of(**profile.value);
+        if (!options.watermark && recipe.watermark && lacksPicture(*recipe.watermark)) {
+            return "--profile: the picture of the watermark of " + quoted(*options.profile) +
+                   " cannot be read, or is too large";
+        }
     } else {
         recipe.jpegQuality = usualQuality;
     }
@@ -54,6 +64,10 @@ std::string applyImageProfile(const Options& options, const imaging::StillOrigin
             return watermark.error;
         }
         recipe.watermark = recipes::of(**watermark.value);
+        if (lacksPicture(*recipe.watermark)) {
+            return "--watermark: the picture of " + quoted(*options.watermark) +
+                   " cannot be read, or is too large";
+        }
     } else if (like != nullptr && like->hadPictureWatermark) {
         return "--like: " + quoted(*options.like) +
                " has a picture as its watermark, which its file does not hold; name that with "

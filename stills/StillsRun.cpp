@@ -3,6 +3,7 @@
 #include "app/MemoryPolicy.h"
 #include "app/RuntimeFolder.h"
 #include "product/ProductInfo.h"
+#include "profiles/SettingsFile.h"
 #include "stills/FileNameCodec.h"
 #include "stills/Interruption.h"
 #include "stills/Like.h"
@@ -21,6 +22,7 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <memory>
 
@@ -177,6 +179,12 @@ bool Run::work(const std::vector<VideoTask>& tasks, Report& report) const
     SeriesOptions resources;
     resources.lanes = m_options.jobs;
     resources.memoryBytes = m_options.memoryBytes;
+    if (m_options.pictureBytes) {
+        resources.pictureBytes = *m_options.pictureBytes;
+    }
+    if (m_options.positionTimeoutMs) {
+        resources.positionTimeout = std::chrono::milliseconds(*m_options.positionTimeoutMs);
+    }
     static_cast<void>(series::run(jobs, output, isCancelled, resources));
     return !output.wantsToStop();
 }
@@ -215,6 +223,14 @@ int refuse(const std::string& error)
     return wrongUsage;
 }
 
+/// Settings that cannot be read are put aside and told once.
+void tellDamagedSettings()
+{
+    for (const QString& text : SettingsFile::putDamagedAside()) {
+        std::fprintf(stderr, "stills: %s\n", bytesOf(text).c_str());
+    }
+}
+
 int runWith(const Options& options, const imaging::StillOrigin* like)
 {
     const Result<Look> look = lookOf(options, like);
@@ -243,6 +259,9 @@ int run(const Options& options)
     QCoreApplication::setOrganizationDomain(ProductInfo::domain());
     QCoreApplication::setApplicationVersion(ProductInfo::version());
     QtAV::setLogLevel(QtAV::LogCritical);
+    if (options.profile || options.nameProfile || options.watermark) {
+        tellDamagedSettings();
+    }
     return options.like ? runLike(options) : runWith(options, nullptr);
 }
 

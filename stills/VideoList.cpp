@@ -1,15 +1,11 @@
 #include "stills/VideoList.h"
 
+#include "stills/ListFile.h"
 #include "stills/Result.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <iterator>
 #include <optional>
 #include <string_view>
 #include <unordered_set>
@@ -97,27 +93,6 @@ private:
     std::unordered_set<std::string> m_known;
 };
 
-Result<std::string> contentOf(const std::string& path)
-{
-    std::ifstream file;
-    if (path != "-") {
-        std::error_code error;
-        if (fs::is_directory(path, error)) {
-            return Result<std::string>::failure("is a folder; --files-from takes a list of videos");
-        }
-        errno = 0;
-        file.open(path, std::ios::binary);
-        if (!file) {
-            return Result<std::string>::failure(std::string("cannot be read: ") +
-                                                std::strerror(errno));
-        }
-    }
-    std::istream& stream = path == "-" ? std::cin : file;
-    std::string content{std::istreambuf_iterator<char>(stream), {}};
-    return stream.bad() ? Result<std::string>::failure("cannot be read")
-                        : Result<std::string>::of(std::move(content));
-}
-
 /// The lines, or what stands between NUL characters where there are any; empty ones left out.
 std::vector<std::string> namesIn(const std::string& content)
 {
@@ -167,7 +142,7 @@ VideoList findVideos(const Options& options)
         collector.add(video);
     }
     if (options.listFile) {
-        const Result<std::string> content = contentOf(*options.listFile);
+        const Result<std::string> content = readList(*options.listFile);
         if (content.isGood()) {
             for (const std::string& name : namesIn(*content.value)) {
                 collector.add(name);

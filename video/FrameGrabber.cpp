@@ -51,9 +51,12 @@ struct FrameGrabber::Extraction
 
 FrameGrabber::FrameGrabber(QObject* parent)
     : QObject(parent)
+    , m_deadline(std::make_shared<QtAV::Deadline>())
     , m_position(startPosition)
     , m_precision(defaultPrecision)
-{}
+{
+    m_reader.setDeadline(m_deadline);
+}
 
 FrameGrabber::~FrameGrabber()
 {
@@ -129,6 +132,7 @@ bool FrameGrabber::open()
 {
     m_abort = false;
     m_seekCount = 0;
+    m_deadline->start(m_positionTimeout);
     QString reason;
     const bool isOpen = m_reader.open(m_source, isCancelled(), reason);
     const QtAV::AVDemuxer& demuxer = m_reader.demuxer();
@@ -154,7 +158,7 @@ void FrameGrabber::choosePrecision()
 
 QtAV::IsCancelled FrameGrabber::isCancelled() const
 {
-    return [this] { return m_abort.load(); };
+    return [this] { return m_abort || m_deadline->hasPassed(); };
 }
 
 void FrameGrabber::extract()
@@ -195,7 +199,10 @@ bool FrameGrabber::extractInPrecision(qint64 value, int range, QString& err, boo
     m_frame = QtAV::VideoFrame();
     const qint64 start = m_reader.demuxer().startTime();
     Extraction extraction{value < start ? value + start : value, range};
+    m_deadline->start(m_positionTimeout);
     const bool extracted = land(extraction) && (takeKeyFrame(extraction) || takeFrame(extraction));
+    // The decoder's threads may be ahead when the next extraction comes.
+    m_deadline->start(std::chrono::milliseconds(0));
     err = extraction.err;
     aborted = extraction.aborted;
     return extracted;
@@ -213,6 +220,17 @@ bool FrameGrabber::isAbortedAt(Extraction& extraction, const char* checkpoint) c
     return true;
 }
 
+/// True, with the reason noted, when the time for the extraction is over.
+bool FrameGrabber::isOverdue(Extraction& extraction) const
+{
+    if (!m_deadline->hasPassed()) {
+        return false;
+    }
+    const auto seconds = static_cast<double>(m_positionTimeout.count()) / 1000.0;
+    extraction.err = QStringLiteral("given up after %1 seconds").arg(seconds);
+    return true;
+}
+
 bool FrameGrabber::failed(Extraction& extraction, const QString& reason) const
 {
     extraction.err = reason;
@@ -224,7 +242,8 @@ bool FrameGrabber::land(Extraction& extraction)
 {
     m_reader.seek(extraction.target());
     const QtAV::FrameAnswer answer = m_reader.land(isCancelled());
-    if (answer == QtAV::FrameAnswer::Cancelled && isAbortedAt(extraction, beforeRead)) {
+    if (answer == QtAV::FrameAnswer::Cancelled &&
+        (isAbortedAt(extraction, beforeRead) || isOverdue(extraction))) {
         return false;
     }
     if (answer != QtAV::FrameAnswer::Frame) {
@@ -290,7 +309,8 @@ bool FrameGrabber::takeFrame(Extraction& extraction)
     const QtAV::FrameResult found = m_reader.findOn(search, isCancelled());
     logInvalidPackets(invalidPackets);
 
-    if (found.answer == QtAV::FrameAnswer::Cancelled && isAbortedAt(extraction, afterKeyFrame)) {
+    if (found.answer == QtAV::FrameAnswer::Cancelled &&
+        (isAbortedAt(extraction, afterKeyFrame) || isOverdue(extraction))) {
         return false;
     }
     if (found.answer == QtAV::FrameAnswer::Failed) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtAV/Deadline.h>
 #include <QtAV/FrameReader.h>
 #include <QtAV/VideoFrame.h>
 
@@ -7,6 +8,8 @@
 #include <QString>
 
 #include <atomic>
+#include <chrono>
+#include <memory>
 
 /// Takes single frames out of a video file at positions in milliseconds.
 ///
@@ -59,6 +62,13 @@ public:
     {
         m_reader.setDeinterlacing(deinterlacing);
     }
+
+    /// What one picture may take in memory, in bytes, from the next opening on.
+    void setPictureMemory(qint64 bytes) { m_reader.setPictureMemory(bytes); }
+
+    /// How long opening or one extraction may take; error() says so then. 0, as at first, for any
+    /// time.
+    void setPositionTimeout(std::chrono::milliseconds limit) { m_positionTimeout = limit; }
 
     /// Makes a running extraction end with aborted() at its next packet, also while the disk does
     /// not answer. Without one it does nothing, since every extraction starts by forgetting earlier
@@ -113,12 +123,15 @@ private:
     [[nodiscard]] bool isKeyFrameNearEnough(const Extraction& extraction) const;
     void logFrame(const Extraction& extraction) const;
     void logInvalidPackets(int before) const;
+    bool isOverdue(Extraction& extraction) const;
     bool failed(Extraction& extraction, const QString& reason) const;
     void closeAtEnd();
     bool isAbortedAt(Extraction& extraction, const char* checkpoint) const;
     QtAV::IsCancelled isCancelled() const;
 
     std::atomic<bool> m_abort{false};
+    std::chrono::milliseconds m_positionTimeout{0};
+    const std::shared_ptr<QtAV::Deadline> m_deadline;
     bool m_hasVideo = true;
     bool m_autoPrecision = true;
     /// Extractions completed by decoding forward since the decoder was opened.

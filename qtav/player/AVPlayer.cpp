@@ -83,6 +83,11 @@ void AVPlayer::setFrameCacheSize(qint64 bytes)
     d->cacheBytes = std::max<qint64>(0, bytes);
 }
 
+void AVPlayer::setPictureMemory(qint64 bytes)
+{
+    d->engine.setPictureMemory(bytes);
+}
+
 qint64 AVPlayer::frameCacheSize() const
 {
     return d->cacheBytes;

@@ -79,6 +79,9 @@ public:
     void setDeinterlacing(Deinterlacing deinterlacing);
     Deinterlacing deinterlacing() const { return m_deinterlacing; }
 
+    /// What one picture may take in memory, from the next open() on.
+    void setPictureMemory(qint64 bytes) { m_reader.setPictureMemory(bytes); }
+
     /// While frames pass by in playback, those far from the focus are not kept.
     void setFarFrames(FrameCache::FarFrames farFrames) { m_cache.setFarFrames(farFrames); }
 

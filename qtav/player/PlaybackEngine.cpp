@@ -100,6 +100,12 @@ void PlaybackEngine::setScreen(const QSize& size)
     m_screen = size;
 }
 
+void PlaybackEngine::setPictureMemory(qint64 bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    m_pictureMemory = bytes;
+}
+
 void PlaybackEngine::setDeinterlacing(Deinterlacing deinterlacing)
 {
     const std::lock_guard lock(m_mutex);
@@ -174,6 +180,7 @@ bool PlaybackEngine::workOnce(Lock& lock)
     m_source.setFarFrames(m_playing ? FrameCache::FarFrames::Drop
                                     : FrameCache::FarFrames::ScaleDown);
     m_source.setDeinterlacing(m_deinterlacing);
+    m_source.setPictureMemory(m_pictureMemory);
     if (m_commands.hasCapture())
         carryOutCapture(lock);
     else if (m_commands.hasFile())

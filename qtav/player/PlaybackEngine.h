@@ -98,6 +98,9 @@ public:
     /// What becomes of interlaced pictures, from now on; the current frame is given anew.
     void setDeinterlacing(Deinterlacing deinterlacing);
 
+    /// What one picture may take in memory, from the next file that is opened on.
+    void setPictureMemory(qint64 bytes);
+
     /// The answers since the last call, in order.
     std::vector<Answer> takeAnswers();
 
@@ -143,6 +146,7 @@ private:
     quint64 m_queueGeneration = 0; ///< changes when what is being decoded no longer belongs there
     double m_catchUpTo = 0.0;      ///< the time of the sound in seconds; 0 for none to follow
     QSize m_screen;
+    qint64 m_pictureMemory = usualPictureBytes;
     Deinterlacing m_deinterlacing = Deinterlacing::Automatic;
     bool m_isCurrentOutdated = false; ///< m_current was deinterlaced otherwise
     quint64 m_currentSerial = 0;      ///< of the command that made the current frame so

@@ -6,6 +6,7 @@
 #include "qtav/src/DurationProbe.h"
 #include "qtav/src/KeyFrameSearch.h"
 #include "qtav/src/PacketHandle.h"
+#include "qtav/src/PictureLimit.h"
 #include "qtav/src/VideoPackets.h"
 
 #include <QCoreApplication>
@@ -54,6 +55,7 @@ public:
     QString fileName;
     QString error;
     IsCancelled interrupt;
+    PictureLimit pictureLimit;
     std::unique_ptr<Container> container;
     std::unique_ptr<VideoPackets> video; ///< null without a selected video stream
     std::unique_ptr<VideoCodecContext> codecContext;
@@ -90,7 +92,7 @@ void AVDemuxer::Private::unload()
 bool AVDemuxer::Private::load()
 {
     const auto asksInterrupt = [this] { return isCancelled(); };
-    container = Container::open(fileName, asksInterrupt, error);
+    container = Container::open(fileName, asksInterrupt, error, pictureLimit);
     if (!container)
         return false;
     if (!container->videoStreams().isEmpty())
@@ -236,6 +238,11 @@ void AVDemuxer::setMedia(const QString& fileName)
 void AVDemuxer::setInterrupt(IsCancelled isCancelled)
 {
     d->interrupt = std::move(isCancelled);
+}
+
+void AVDemuxer::setPictureMemory(qint64 bytes)
+{
+    d->pictureLimit = PictureLimit(bytes);
 }
 
 bool AVDemuxer::load()

@@ -3,6 +3,7 @@
 #include "qtav/src/CleanAperture.h"
 #include "qtav/src/DynamicMetadata.h"
 #include "qtav/src/FFmpegLog.h"
+#include "qtav/src/Mp4Boxes.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -66,7 +67,7 @@ bool describesItsStreams(const AVFormatContext& format)
 
 /// Finds out what the streams are like, for which FFmpeg decodes some pictures unless it is denied
 /// all decoders. Nobody sees those pictures: they need not be filtered.
-int findStreamInfo(AVFormatContext& format)
+int findStreamInfo(AVFormatContext& format, const PictureLimit& limit)
 {
     std::optional<FFmpegLogPause> expectedErrors;
     if (describesItsStreams(format)) {
@@ -75,8 +76,10 @@ int findStreamInfo(AVFormatContext& format)
         expectedErrors.emplace();
     }
     std::vector<AVDictionary*> options(format.nb_streams, nullptr);
-    for (AVDictionary*& ofStream : options)
+    for (AVDictionary*& ofStream : options) {
         av_dict_set(&ofStream, "skip_loop_filter", "all", 0);
+        av_dict_set_int(&ofStream, "max_pixels", limit.mostPixels(), 0);
+    }
     const int result =
         avformat_find_stream_info(&format, options.empty() ? nullptr : options.data());
     for (AVDictionary*& ofStream : options)
@@ -119,11 +122,14 @@ Container::Container(QString path)
 Container::~Container() = default;
 
 std::unique_ptr<Container> Container::open(const QString& path, const IsCancelled& isCancelled,
-                                           QString& error)
+                                           QString& error, const PictureLimit& limit)
 {
     routeFFmpegLog();
+    // For the whole process: what is declared in other ways than those that are looked for.
+    av_max_alloc(limit.mostAtOnce());
     std::unique_ptr<Container> container(new Container(path));
     container->m_isCancelled = isCancelled;
+    container->m_limit = limit;
     container->m_input = FileInput::open(path, isCancelled, error);
     if (!container->m_input)
         return nullptr;
@@ -160,6 +166,10 @@ std::optional<Container::View> Container::makeView(QString& error)
         error = tr("This is a list of files, not a video.");
         return std::nullopt;
     }
+    if (result >= 0 && isMp4(*format) && declaresTooManyPictures(*m_input)) {
+        error = tr("The file is damaged: it declares more pictures than it can hold.");
+        return std::nullopt;
+    }
     if (result >= 0) {
         // It frees the context where it fails.
         AVFormatContext* opened = view.format.release();
@@ -167,7 +177,7 @@ std::optional<Container::View> Container::makeView(QString& error)
         view.format.reset(opened);
     }
     if (result >= 0)
-        result = findStreamInfo(*view.format);
+        result = findStreamInfo(*view.format, m_limit);
     if (result >= 0 && m_input->error() == 0 && !m_wasInterrupted)
         return view;
     error = ffmpegErrorText(m_input->error() != 0 ? m_input->error() : result);

@@ -2,6 +2,7 @@
 
 #include "qtav/src/FFmpegHandles.h"
 #include "qtav/src/FileInput.h"
+#include "qtav/src/PictureLimit.h"
 #include "qtav/src/Timeline.h"
 
 #include <QtAV/MediaFacts.h>
@@ -37,9 +38,11 @@ public:
     /// So many failures in a row count as the end of a file whose bytes can be read.
     static constexpr int MaximumFailures = 64;
 
-    /// Null, with a text for people in `error`, for what cannot be opened.
+    /// Null, with a text for people in `error`, for what cannot be opened. Pictures beyond the
+    /// limit are not decoded where FFmpeg wants to know what a stream is like.
     [[nodiscard]] static std::unique_ptr<Container>
-    open(const QString& path, const IsCancelled& isCancelled, QString& error);
+    open(const QString& path, const IsCancelled& isCancelled, QString& error,
+         const PictureLimit& limit = PictureLimit());
     ~Container();
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
@@ -154,6 +157,7 @@ private:
     [[nodiscard]] PacketAnswer failed(int result);
 
     QString m_path;
+    PictureLimit m_limit;
     IsCancelled m_isCancelled;
     Patience m_patience = Patience::None;
     std::chrono::steady_clock::time_point m_began;

@@ -27,10 +27,28 @@ extern "C" {
 /// AVCodecParameters::coded_side_data, which replaced AVStream's side data: 6.1.
 #define QTAV_FFMPEG_HAS_CODED_SIDE_DATA (LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(60, 31, 102))
 
+/// Callbacks of a decoder are always called from its threads, and the field that says that they may
+/// be is gone: 6.0.
+#define QTAV_FFMPEG_HAS_THREAD_SAFE_CALLBACKS (LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(60, 0, 100))
+
 namespace QtAV {
 
 /// Which version of the library of filters these headers belong to, as its file's name has it.
 constexpr int filterLibraryVersion = LIBAVFILTER_VERSION_MAJOR;
+
+/// Lets a decoder with several threads call what it asks for memory from each of them. Without that
+/// they would wait for each other.
+inline void allowCallsFromThreads(AVCodecContext& context)
+{
+#if QTAV_FFMPEG_HAS_THREAD_SAFE_CALLBACKS
+    Q_UNUSED(context)
+#else
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    context.thread_safe_callbacks = 1;
+    QT_WARNING_POP
+#endif
+}
 
 /// How long a decoded frame is shown, in ticks of its packet; 0 where the file does not say.
 inline qint64 durationTicks(const AVFrame& frame)

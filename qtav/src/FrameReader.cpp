@@ -74,6 +74,7 @@ bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QStr
     close();
     const Interruptible interruptible(m_demuxer, isCancelled);
     m_demuxer.setMedia(path);
+    m_demuxer.setPictureMemory(m_pictureMemory);
     if (!m_demuxer.load()) {
         error = m_demuxer.errorString();
         return false;
@@ -85,8 +86,11 @@ bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QStr
     }
     m_decoder.reset(VideoDecoder::create("FFmpeg"));
     m_decoder->setCodecContext(context);
+    m_decoder->setPictureMemory(m_pictureMemory);
+    m_decoder->setDeadline(m_deadline);
     if (!openDecoder()) {
-        error = tr("The video cannot be decoded.");
+        const QString refusal = m_decoder->errorString();
+        error = refusal.isEmpty() ? tr("The video cannot be decoded.") : refusal;
         close();
         return false;
     }
@@ -247,9 +251,12 @@ FrameReader::Decoded FrameReader::decodeNext(const IsCancelled& isCancelled)
             break;
         chooseSkipping(packet);
         const bool isDecoded = m_decoder->decode(packet);
+        // All others are as large.
+        const bool isRefused = !isDecoded && !m_decoder->errorString().isEmpty();
+        m_isLost = m_isLost || isRefused;
         // Without the picture that it began with a search starts further back.
-        if (!isDecoded && !isLanding)
-            return {{FrameAnswer::Failed, {}, tr("The picture is damaged.")}};
+        if (!isDecoded && (!isLanding || isRefused))
+            return {{FrameAnswer::Failed, {}, damageText()}};
         const VideoFrame frame = m_decoder->frame();
         const bool isLater = frame.isValid() && (!m_newest || frame.timestamp() > *m_newest);
         if (isLater)
@@ -347,7 +354,7 @@ FrameResult FrameReader::nextKeyFrame(qint64 beforeMs, const IsCancelled& isCanc
         const bool isDecoded = m_decoder->decode(packet);
         const VideoFrame frame = m_decoder->frame();
         if (!isDecoded)
-            return {FrameAnswer::Failed, {}, tr("The picture is damaged.")};
+            return {FrameAnswer::Failed, {}, damageText()};
         if (frame.isValid() && (!m_last || frame.timestamp() > *m_last)) {
             m_skippedUpTo = frame.timestamp();
             Decoded decoded = arrived(frame, true);
@@ -397,6 +404,13 @@ QString FrameReader::failureText() const
 {
     const QString reason = m_demuxer.errorString();
     return reason.isEmpty() ? tr("The file cannot be read any more.") : reason;
+}
+
+/// Why a picture cannot be decoded.
+QString FrameReader::damageText() const
+{
+    const QString refusal = m_decoder->errorString();
+    return refusal.isEmpty() ? tr("The picture is damaged.") : refusal;
 }
 
 void FrameReader::chooseSkipping(const Packet& packet)

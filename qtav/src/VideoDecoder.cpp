@@ -7,12 +7,14 @@
 #include "qtav/src/HevcLayers.h"
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/PictureConverter.h"
+#include "qtav/src/PictureLimit.h"
 #include "qtav/src/SequenceChange.h"
 #include "qtav/src/StreamParameters.h"
 #include "qtav/src/UnreferencedPictures.h"
 #include "qtav/src/VideoFramePrivate.h"
 
 #include <deque>
+#include <mutex>
 #include <utility>
 
 namespace QtAV {
@@ -48,6 +50,11 @@ bool isIntraOnly(AVCodecID codec)
     return descriptor && (descriptor->props & AV_CODEC_PROP_INTRA_ONLY);
 }
 
+AVRational sampleAspectRatioOf(const StreamParameters& parameters, AVRational ofPicture)
+{
+    return parameters.sampleAspectRatio.num > 0 ? parameters.sampleAspectRatio : ofPicture;
+}
+
 static_assert(int(VideoDecoder::DiscardDefault) == int(AVDISCARD_DEFAULT));
 static_assert(int(VideoDecoder::DiscardNonReference) == int(AVDISCARD_NONREF));
 
@@ -77,7 +84,14 @@ public:
     bool leavesOut(const AVPacket& packet) const;
     bool leadsUpToKeyFrame(const AVPacket& packet);
 
+    bool allows(const QSize& stored, AVPixelFormat format, AVRational sampleAspectRatio);
+    static int takeMemory(AVCodecContext* context, AVFrame* frame, int flags);
+
     std::shared_ptr<const StreamParameters> parameters;
+    PictureLimit limit;
+    std::shared_ptr<const Deadline> deadline;
+    std::mutex refusalMutex;
+    QString refusal; ///< guarded by refusalMutex: the decoder's threads set it
     CodecContextPtr context;
     QVariantHash options;
     std::shared_ptr<PictureConverter> converter;
@@ -117,21 +131,70 @@ void VideoDecoder::setCodecContext(const VideoCodecContext* context)
     d->parameters = context ? context->parameters() : nullptr;
 }
 
+void VideoDecoder::setPictureMemory(qint64 bytes)
+{
+    d->limit = PictureLimit(bytes);
+}
+
+void VideoDecoder::setDeadline(std::shared_ptr<const Deadline> deadline)
+{
+    d->deadline = std::move(deadline);
+}
+
+QString VideoDecoder::errorString() const
+{
+    const std::lock_guard lock(d->refusalMutex);
+    return d->refusal;
+}
+
+/// Whether a picture is small enough; notes why not.
+bool VideoDecoder::Private::allows(const QSize& stored, AVPixelFormat format,
+                                   AVRational sampleAspectRatio)
+{
+    const QSize shown = squareSizeOf(stored, sampleAspectRatioOf(*parameters, sampleAspectRatio));
+    const qint64 bytes = PictureLimit::bytesOf(format, stored, shown);
+    if (limit.allows(bytes))
+        return true;
+    const std::lock_guard lock(refusalMutex);
+    refusal = limit.refusal(stored, bytes);
+    return false;
+}
+
+/// Called for each picture that is begun, from any of the decoder's threads.
+int VideoDecoder::Private::takeMemory(AVCodecContext* context, AVFrame* frame, int flags)
+{
+    auto& self = *static_cast<Private*>(context->opaque);
+    const QSize stored(frame->width, frame->height);
+    const auto format = static_cast<AVPixelFormat>(frame->format);
+    if (!self.allows(stored, format, context->sample_aspect_ratio))
+        return AVERROR(ENOMEM);
+    if (self.deadline && self.deadline->hasPassed())
+        return AVERROR_EXIT;
+    return avcodec_default_get_buffer2(context, frame, flags);
+}
+
 bool VideoDecoder::open()
 {
     close();
     if (!d->parameters)
         return false;
     routeFFmpegLog();
+    const AVCodecParameters& stream = *d->parameters->codec;
+    const QSize stored(stream.width, stream.height);
+    const auto format = static_cast<AVPixelFormat>(stream.format);
+    if (!d->allows(stored, format, stream.sample_aspect_ratio))
+        return false;
     const AVCodec* codec = decoderFor(*d->parameters);
     CodecContextPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);
     if (!context || avcodec_parameters_to_context(context.get(), d->parameters->codec.get()) < 0)
         return false;
     context->pkt_timebase = d->parameters->timeline.timeBase();
-    context->thread_count = d->options.value(QStringLiteral("avcodec"))
-                                .toHash()
-                                .value(QStringLiteral("threads"), 0)
-                                .toInt();
+    const QVariantHash section = d->options.value(QStringLiteral("avcodec")).toHash();
+    const int threads = section.value(QStringLiteral("threads"), 0).toInt();
+    context->thread_count = d->limit.threadsFor(format, stored, threads);
+    context->opaque = d.get();
+    context->get_buffer2 = &Private::takeMemory;
+    allowCallsFromThreads(*context);
     // Pictures that are cut at the left or the top are else cut at a column that suits the
     // processor.
     context->flags |= AV_CODEC_FLAG_UNALIGNED;
@@ -139,11 +202,10 @@ bool VideoDecoder::open()
         return false;
     d->context = std::move(context);
     d->converter = std::make_shared<PictureConverter>();
-    const AVCodecParameters& parameters = *d->parameters->codec;
-    d->hasSubLayers = parameters.codec_id == AV_CODEC_ID_HEVC &&
-                      hevcHasSubLayers(parameters.extradata, parameters.extradata_size);
-    d->unreferenced = UnreferencedPictures(parameters);
-    d->sequenceChange = SequenceChange(parameters);
+    d->hasSubLayers = stream.codec_id == AV_CODEC_ID_HEVC &&
+                      hevcHasSubLayers(stream.extradata, stream.extradata_size);
+    d->unreferenced = UnreferencedPictures(stream);
+    d->sequenceChange = SequenceChange(stream);
     d->applySkipOptions();
     return true;
 }
@@ -223,6 +285,10 @@ void VideoDecoder::flush()
 
 void VideoDecoder::Private::restart()
 {
+    {
+        const std::lock_guard lock(refusalMutex);
+        refusal.clear();
+    }
     start = Start::NeedsKeyFrame;
     keyPacket.reset();
     repeatedTicks = AV_NOPTS_VALUE;

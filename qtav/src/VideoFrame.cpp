@@ -61,17 +61,6 @@ QImage::Format convertedFormat(QImage::Format wanted, bool isScaledLater)
 /// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
 constexpr double WidestPixel = 16.0;
 
-/// The stored size with square pixels.
-QSize squareSizeOf(const AVFrame& frame, AVRational sampleAspectRatio)
-{
-    const double ratio = av_q2d(sampleAspectRatio);
-    if (ratio > WidestPixel || ratio < 1.0 / WidestPixel)
-        return {frame.width, frame.height};
-    if (ratio >= 1.0)
-        return {static_cast<int>(std::lround(frame.width * ratio)), frame.height};
-    return {frame.width, static_cast<int>(std::lround(frame.height / ratio))};
-}
-
 /// In images of at most so small a part of the lines, nobody sees the moments of two fields.
 constexpr int fewLines = 8;
 
@@ -115,13 +104,26 @@ double secondMoment(const VideoFramePrivate& frame, const VideoFramePrivate* bef
 
 } // namespace
 
+QSize squareSizeOf(const QSize& stored, AVRational sampleAspectRatio)
+{
+    if (sampleAspectRatio.num <= 0 || sampleAspectRatio.den <= 0)
+        return stored;
+    const double ratio = av_q2d(sampleAspectRatio);
+    if (ratio > WidestPixel || ratio < 1.0 / WidestPixel)
+        return stored;
+    if (ratio >= 1.0)
+        return {static_cast<int>(std::lround(stored.width() * ratio)), stored.height()};
+    return {stored.width(), static_cast<int>(std::lround(stored.height() / ratio))};
+}
+
 VideoFramePrivate::VideoFramePrivate(FramePtr picture, qint64 ticks,
                                      const std::shared_ptr<const StreamParameters>& parameters,
                                      std::shared_ptr<PictureConverter> pictureConverter)
     : frame(std::move(picture))
     , seconds(parameters->timeline.seconds(ticks))
     , orientation(orientationOf(*frame, *parameters))
-    , squareSize(squareSizeOf(*frame, sampleAspectRatioOf(*frame, *parameters)))
+    , squareSize(
+          squareSizeOf({frame->width, frame->height}, sampleAspectRatioOf(*frame, *parameters)))
     , baseLayer(baseLayerOf(*frame, parameters->baseLayer))
     , converter(std::move(pictureConverter))
     , firstSeconds(seconds)

@@ -27,6 +27,9 @@ struct FieldSettings
     FieldFilter::Moment moment = FieldFilter::Moment::First;
 };
 
+/// The stored size of a picture with square pixels.
+[[nodiscard]] QSize squareSizeOf(const QSize& stored, AVRational sampleAspectRatio);
+
 /// What the copies of one VideoFrame share. Immutable.
 class VideoFramePrivate : public QSharedData
 {

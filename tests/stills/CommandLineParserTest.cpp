@@ -178,6 +178,8 @@ void CommandLineParserTest::wrongUsage_isOneLine_thatNamesTheMistake_data()
     row("--fail-fast --keep-going a", "--fail-fast");
     row("--jobs 0 a", "--jobs");
     row("--memory 5 a", "--memory");
+    row("--picture-memory 5 a", "--picture-memory");
+    row("--position-timeout soon a", "--position-timeout");
     row("-o - --json a", "--json");
     row("-", "--files-from -");
     row("--print foo", "'foo'");

@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTextBlock>
 #include <QTextCursor>
 
@@ -41,6 +42,7 @@ void BatchProcessingDialog::addWorkerWithConfig(BatchWorkerConfig* config)
 {
     auto* const worker = new BatchWorker(this);
     worker->setConfig(config);
+    worker->setRoomQuestion([this](const WriteFailure& failure) { return askForRoom(failure); });
     connect(worker, &BatchWorker::statusUpdate, this, &BatchProcessingDialog::workerStatusUpdate);
     connect(worker, &BatchWorker::imageReady, this, &BatchProcessingDialog::workerImageReady);
     // A job says what it does only when it has its first frame, which may take a while.
@@ -72,6 +74,21 @@ bool BatchProcessingDialog::confirmAbort()
                                  tr("Are you sure you want to cancel batch processing?\n"),
                                  QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::Yes) == QMessageBox::Yes;
+}
+
+bool BatchProcessingDialog::askForRoom(const WriteFailure& failure)
+{
+    QMessageBox box(QMessageBox::Warning, tr("No Room for the Images"), failure.text(),
+                    QMessageBox::NoButton, this);
+    box.setInformativeText(tr("Make room and try again, or stop. What was saved stays."));
+    const QPushButton* const retry = box.addButton(tr("Try Again"), QMessageBox::AcceptRole);
+    box.addButton(tr("Stop"), QMessageBox::RejectRole);
+    box.exec();
+    const bool triesAgain = box.clickedButton() == retry;
+    if (!triesAgain) {
+        abort();
+    }
+    return triesAgain;
 }
 
 void BatchProcessingDialog::abort()

@@ -49,6 +49,10 @@ public:
     /// Asks the user whether to cancel the batch.
     [[nodiscard]] bool confirmAbort();
 
+    /// Tells that there is no room for an image and asks whether to try again, for which it gives
+    /// true, or to cancel the batch.
+    [[nodiscard]] bool askForRoom(const WriteFailure& failure);
+
     /// Cancels the batch, which ends after the running job's next step.
     void abort();
 

@@ -22,11 +22,14 @@ bool isTooLarge(QSize size)
 
 bool WatermarkPicture::isTooLarge(const QString& path)
 {
-    return ::isTooLarge(QImageReader(path).size());
+    return QFileInfo(path).isFile() && ::isTooLarge(QImageReader(path).size());
 }
 
 QImage WatermarkPicture::readForDisplay(const QString& path)
 {
+    // A pipe would be waited for.
+    if (!QFileInfo(path).isFile())
+        return {};
     QImageReader reader(path);
     const QSize size = reader.size();
     if (::isTooLarge(size))
@@ -43,6 +46,7 @@ QString WatermarkPicture::addCopyOf(const QString& path)
 {
     const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() +
                          QLatin1Char('.') + QFileInfo(path).completeSuffix();
-    QFile::copy(path, WatermarkProfile::pathForImage(name));
+    if (QFileInfo(path).isFile())
+        QFile::copy(path, WatermarkProfile::pathForImage(name));
     return name;
 }

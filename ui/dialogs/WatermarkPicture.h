@@ -1,5 +1,7 @@
 #pragma once
 
+#include "profiles/WatermarkProfile.h"
+
 #include <QImage>
 #include <QString>
 
@@ -9,7 +11,7 @@ namespace WatermarkPicture {
 /// What a picture may hold. A watermark is drawn pixel by pixel, so one this large covers any image
 /// many times over; reading it would take more memory than it is worth (4 bytes a pixel), and
 /// seconds.
-constexpr qint64 MaxPixels = 64LL * 1024 * 1024;
+constexpr qint64 MaxPixels = WatermarkProfile::mostPixels;
 
 /// Whether the file states more than MaxPixels. Reads no more than its header; false for a file
 /// that is no picture.

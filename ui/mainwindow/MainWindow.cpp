@@ -2,6 +2,7 @@
 
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui_MainWindow.h"
+#include "video/ReadingLimits.h"
 
 #include <QtAV/AVPlayer.h>
 #include <QtAV/VideoOutput.h>
@@ -62,6 +63,7 @@ MainWindow::~MainWindow() = default;
 void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
 {
     m_player = new QtAV::AVPlayer(this);
+    m_player->setPictureMemory(ReadingLimits::of(m_settings).pictureBytes);
     m_videoOutput = makeVideoOutput(this);
     QWidget* const screen = m_videoOutput->widget();
     if (screen == nullptr) {

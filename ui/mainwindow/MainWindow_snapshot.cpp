@@ -1,5 +1,6 @@
 #include "ui/mainwindow/MainWindow.h"
 
+#include "imaging/FilePublisher.h"
 #include "imaging/FramePicture.h"
 #include "imaging/ImageProcessingManager.h"
 #include "imaging/Rendering.h"
@@ -199,6 +200,7 @@ WriteResult MainWindow::writeSnapshot(const QString& path, ExistingFile existing
         imaging::wantsMore(m_capturedFrame, recipe)
             ? imaging::render(imaging::pictureOf(m_capturedFrame, recipe), recipe).image
             : m_snapshotImage;
+    FilePublisher::sweep(QFileInfo(path).absolutePath());
     return imaging::save(path, image, recipe, m_fileNameProfile->fileOutputType(), m_capturedSource,
                          existing);
 }

@@ -54,6 +54,10 @@ public:
     /// first, for none.
     void setInterrupt(IsCancelled isCancelled);
 
+    /// What one picture may take in memory, in bytes, where opening has to decode some to find out
+    /// what the streams are like; from the next load() on.
+    void setPictureMemory(qint64 bytes);
+
     /// Opens the file and selects its first video stream and no audio stream. False, with
     /// errorString() set, for what cannot be opened; a file without video opens.
     [[nodiscard]] bool load();

@@ -94,6 +94,10 @@ public:
     void setFrameCacheSize(qint64 bytes);
     qint64 frameCacheSize() const;
 
+    /// What one picture may take in memory, in bytes, see usualPictureBytes. Holds from the next
+    /// file that is opened on.
+    void setPictureMemory(qint64 bytes);
+
     /// What becomes of interlaced pictures, on screen and captured; the frame on screen is shown
     /// anew.
     void setDeinterlacing(Deinterlacing deinterlacing);

@@ -64,6 +64,13 @@ public:
     /// What becomes of interlaced pictures, from the next open() or seek() on.
     void setDeinterlacing(Deinterlacing deinterlacing) { m_wantedDeinterlacing = deinterlacing; }
 
+    /// What one picture may take in memory, in bytes, from the next open() on.
+    void setPictureMemory(qint64 bytes) { m_pictureMemory = bytes; }
+
+    /// Once it has passed no picture is decoded any more, however many a packet holds; from the
+    /// next open() on. It ends no waiting for the disk: that is for IsCancelled.
+    void setDeadline(std::shared_ptr<const Deadline> deadline) { m_deadline = std::move(deadline); }
+
     /// Opens a file and stands at its start. False, with a text for people, when it cannot be
     /// opened, has no video or none that can be decoded, or when opening was cancelled. A file
     /// without video stays loaded in the demuxer.
@@ -202,11 +209,14 @@ private:
     [[nodiscard]] bool wantsPredecessors() const;
     [[nodiscard]] FrameAnswer lost(const IsCancelled& isCancelled);
     QString failureText() const;
+    QString damageText() const;
     [[nodiscard]] FrameAnswer readPacket(Packet& packet, const IsCancelled& isCancelled);
     void chooseSkipping(const Packet& packet);
 
     AVDemuxer m_demuxer;
     std::unique_ptr<VideoDecoder> m_decoder;
+    qint64 m_pictureMemory = usualPictureBytes;
+    std::shared_ptr<const Deadline> m_deadline;
     int m_threads = 0;
     int m_decoderThreads = 0;       ///< those of m_decoder
     std::optional<qint64> m_target; ///< of a seek that has not landed yet, in milliseconds

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QtAV/Deadline.h>
 #include <QtAV/Packet.h>
+#include <QtAV/PictureMemory.h>
 #include <QtAV/VideoCodecContext.h>
 #include <QtAV/VideoFrame.h>
 
@@ -31,6 +33,13 @@ public:
     /// Says which stream open() is for. The decoder keeps what it needs: the context may go.
     void setCodecContext(const VideoCodecContext* context);
 
+    /// What one picture may take in memory, in bytes (see usualPictureBytes), from the next open()
+    /// on. Larger pictures are refused, where the stream declares them by open() itself.
+    void setPictureMemory(qint64 bytes);
+
+    /// No picture is begun after it: decode() fails then. Null for none; from the next open() on.
+    void setDeadline(std::shared_ptr<const Deadline> deadline);
+
     /// False where no decoder exists for the codec or the stream's parameters are refused.
     [[nodiscard]] bool open();
     void close();
@@ -51,6 +60,10 @@ public:
     /// only later frames matter, the option "key_frame_at_once" saves what that costs. False for a
     /// packet that is damaged; the decoder stays usable.
     [[nodiscard]] bool decode(const Packet& packet);
+
+    /// Why a picture was refused since the last open() or flush(), or by open() itself, for people;
+    /// empty where none was.
+    [[nodiscard]] QString errorString() const;
 
     /// The frame of the last decode(), taken away by this call: at most one a packet, in the
     /// order of presentation, each once.

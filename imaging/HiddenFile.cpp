@@ -1,0 +1,115 @@
+#include "imaging/HiddenFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+
+#include <cerrno>
+#include <ctime>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int nameAttempts = 16;
+constexpr std::time_t oldSeconds = 60 * 60;
+
+QByteArray newPath(const QString& folder)
+{
+    const quint64 number = QRandomGenerator::system()->generate64();
+    const QString name =
+        QStringLiteral(".morvantile-%1.part").arg(number, 16, 16, QLatin1Char('0'));
+    return QFile::encodeName(folder + QLatin1Char('/') + name);
+}
+
+bool isOurName(const QString& name)
+{
+    static const QRegularExpression ours(QStringLiteral("^\\.morvantile-[0-9a-f]{16}\\.part$"));
+    return ours.match(name).hasMatch();
+}
+
+/// Whether the file is an old one of ours that no program has locked, as its maker does.
+bool isLeftOver(const QByteArray& path)
+{
+    const int file = ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0) {
+        return false;
+    }
+    struct stat facts = {};
+    const bool isOld = ::fstat(file, &facts) == 0 && S_ISREG(facts.st_mode) &&
+                       std::time(nullptr) - facts.st_mtime > oldSeconds;
+    const bool isFree = isOld && ::flock(file, LOCK_EX | LOCK_NB) == 0;
+    ::close(file);
+    return isFree;
+}
+
+} // namespace
+
+HiddenFile::~HiddenFile()
+{
+    if (m_file >= 0) {
+        ::close(m_file);
+    }
+    if (!m_path.isEmpty()) {
+        ::unlink(m_path.constData());
+    }
+}
+
+bool HiddenFile::failed()
+{
+    m_error = errno;
+    return false;
+}
+
+bool HiddenFile::create(const QString& folder)
+{
+    for (int attempt = 0; attempt < nameAttempts; ++attempt) {
+        const QByteArray path = newPath(folder);
+        m_file = ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (m_file >= 0) {
+            m_path = path;
+            // File systems without locks go by the age alone.
+            static_cast<void>(::flock(m_file, LOCK_EX | LOCK_NB));
+            return true;
+        }
+        if (errno != EEXIST && errno != EINTR) {
+            break;
+        }
+    }
+    return failed();
+}
+
+bool HiddenFile::fill(const QByteArray& content)
+{
+    for (qint64 done = 0; done < content.size();) {
+        const ssize_t written = ::write(m_file, content.constData() + done,
+                                        static_cast<std::size_t>(content.size() - done));
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            return failed();
+        }
+        done += written;
+    }
+    const int result = ::close(m_file);
+    m_file = -1;
+    return result == 0 || failed();
+}
+
+int HiddenFile::sweep(const QString& folder)
+{
+    int removed = 0;
+    const QStringList names =
+        QDir(folder).entryList({QStringLiteral(".morvantile-*.part")}, QDir::Files | QDir::Hidden);
+    for (const QString& name : names) {
+        const QByteArray path = QFile::encodeName(folder + QLatin1Char('/') + name);
+        if (isOurName(name) && isLeftOver(path) && ::unlink(path.constData()) == 0) {
+            ++removed;
+        }
+    }
+    return removed;
+}

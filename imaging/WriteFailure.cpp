@@ -1,0 +1,68 @@
+#include "imaging/WriteFailure.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLocale>
+#include <QStorageInfo>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("imaging", text);
+}
+
+QString causeOf(int error)
+{
+    return error != 0 ? QString::fromLocal8Bit(std::strerror(error))
+                      : tr("the picture cannot be encoded");
+}
+
+/// At least one byte: what is counted may have been given back meanwhile.
+qint64 missingBytes(const QString& path, qint64 bytes)
+{
+    const QStorageInfo disk(QFileInfo(path).absolutePath());
+    const qint64 available = disk.isValid() ? std::max<qint64>(0, disk.bytesAvailable()) : 0;
+    return std::max<qint64>(1, bytes - available);
+}
+
+QString folderOf(const QString& path)
+{
+    return QFileInfo(path).absolutePath();
+}
+
+} // namespace
+
+WriteFailure WriteFailure::of(const QString& path, qint64 bytes, int error)
+{
+    WriteFailure failure{error, path, bytes};
+    if (error == ENOSPC || error == EDQUOT) {
+        failure.missing = missingBytes(path, bytes);
+    }
+    return failure;
+}
+
+QString WriteFailure::text() const
+{
+    const QFileInfo folder(folderOf(path));
+    if (isLackOfRoom()) {
+        const QString size = QLocale::c().formattedDataSize(missing, 1, QLocale::DataSizeSIFormat);
+        const QString reason = error == EDQUOT ? tr("Your quota is used up: %1 are missing for %2")
+                                               : tr("The disk is full: %1 are missing for %2");
+        return reason.arg(size, path);
+    }
+    if (!folder.isDir()) {
+        return tr("The folder is gone: %1").arg(folder.filePath());
+    }
+    if (error == EACCES || error == EPERM) {
+        return tr("The folder does not let you write: %1").arg(folder.filePath());
+    }
+    if (error == EROFS) {
+        return tr("The disk is read-only: %1").arg(folder.filePath());
+    }
+    return tr("Cannot be written: %1 (%2)").arg(path, causeOf(error));
+}

@@ -1,0 +1,128 @@
+#include "profiles/SettingsFile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <new>
+
+namespace {
+
+/// More than a thousand profiles.
+constexpr qint64 largestFile = 16 * 1024 * 1024;
+constexpr int mostNames = 1000;
+
+/// Tabs are the only control characters in a line; carriage returns come from other systems.
+bool isText(const QByteArray& content)
+{
+    return std::all_of(content.cbegin(), content.cend(), [](char c) {
+        return static_cast<unsigned char>(c) >= 0x20 || c == '\n' || c == '\r' || c == '\t';
+    });
+}
+
+/// A section, a key with its value, a comment, or nothing.
+bool isLine(const QByteArray& line)
+{
+    const QByteArray text = line.trimmed();
+    const bool isSection = text.startsWith('[') && text.endsWith(']');
+    return text.isEmpty() || text.startsWith(';') || text.startsWith('#') || isSection ||
+           (!text.startsWith('[') && text.contains('='));
+}
+
+bool isSettings(const QByteArray& content)
+{
+    if (!isText(content)) {
+        return false;
+    }
+    bool goesOn = false;
+    const QList<QByteArray> lines = content.split('\n');
+    for (const QByteArray& line : lines) {
+        if (!goesOn && !isLine(line)) {
+            return false;
+        }
+        goesOn = line.trimmed().endsWith('\\');
+    }
+    return true;
+}
+
+/// A value may say that it is a list of two thousand million entries: Qt takes memory for them
+/// first, and throws where there is none.
+bool canBeParsed(const QString& path)
+{
+    try {
+        static_cast<void>(QSettings(path, QSettings::IniFormat).allKeys());
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+/// Where settings are: the application's own file, and those of the profiles and of batch mode.
+QStringList allFiles()
+{
+    QStringList files;
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+    const QStringList names =
+        folder.entryList({QStringLiteral("*.ini")}, QDir::AllEntries | QDir::System, QDir::Name);
+    for (const QString& name : names) {
+        files += folder.filePath(name);
+    }
+    // Named without an object of settings, which would read it.
+    const QDir ownFolder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    files += ownFolder.filePath(QCoreApplication::organizationName() + QLatin1Char('/') +
+                                QCoreApplication::applicationName() + QStringLiteral(".conf"));
+    return files;
+}
+
+} // namespace
+
+bool SettingsFile::isDamaged(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        return false;
+    }
+    if (!info.isFile() || info.size() > largestFile) {
+        return true;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    return !isSettings(file.read(largestFile + 1)) || !canBeParsed(path);
+}
+
+QString SettingsFile::putAsideIfDamaged(const QString& path)
+{
+    if (!isDamaged(path)) {
+        return {};
+    }
+    for (int number = 1; number <= mostNames; ++number) {
+        const QString aside =
+            path + QStringLiteral(".bad") + (number > 1 ? QString::number(number) : QString());
+        // It replaces nothing.
+        if (QFile::rename(path, aside)) {
+            return QCoreApplication::translate(
+                       "SettingsFile", "The settings in %1 cannot be read. They are kept as %2.")
+                .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(aside));
+        }
+    }
+    return {};
+}
+
+QStringList SettingsFile::putDamagedAside()
+{
+    QStringList texts;
+    const QStringList files = allFiles();
+    for (const QString& file : files) {
+        const QString text = putAsideIfDamaged(file);
+        if (!text.isEmpty()) {
+            texts += text;
+        }
+    }
+    return texts;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+
+namespace QtAV {
+
+/// The end of the time that something may take. Without start() it never comes. Thread-safe.
+class Deadline
+{
+public:
+    /// Lets so much time pass from now on; 0 or less for any.
+    void start(std::chrono::milliseconds limit)
+    {
+        m_end = limit.count() > 0 ? (Clock::now() + limit).time_since_epoch().count() : never;
+    }
+
+    [[nodiscard]] bool hasPassed() const
+    {
+        const Clock::rep end = m_end;
+        return end != never && Clock::now().time_since_epoch().count() >= end;
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    static constexpr Clock::rep never = Clock::duration::max().count();
+
+    std::atomic<Clock::rep> m_end{never};
+};
+
+} // namespace QtAV

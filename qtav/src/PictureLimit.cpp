@@ -1,0 +1,78 @@
+#include "qtav/src/PictureLimit.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <algorithm>
+#include <climits>
+#include <thread>
+
+namespace QtAV {
+
+namespace {
+
+/// Of the images that are made: red, green, blue and one byte beside them.
+constexpr qint64 ImagePixelBytes = 4;
+
+/// Luma alone is the least that a decoded pixel takes in common formats.
+constexpr qint64 LeastPixelBytes = 1;
+
+/// What is read of files of all kinds fits into this.
+constexpr qint64 LeastBlock = qint64(256) << 20;
+
+qint64 pixelsOf(const QSize& size)
+{
+    return qint64(size.width()) * size.height();
+}
+
+/// Of a picture as it is decoded. The format that most videos have stands for an unknown one.
+qint64 decodedBytes(AVPixelFormat format, const QSize& stored)
+{
+    const AVPixFmtDescriptor* const known = av_pix_fmt_desc_get(format);
+    const AVPixFmtDescriptor* const description =
+        known ? known : av_pix_fmt_desc_get(AV_PIX_FMT_YUV420P);
+    return pixelsOf(stored) * av_get_padded_bits_per_pixel(description) / 8;
+}
+
+QString sizeText(qint64 bytes)
+{
+    return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
+}
+
+} // namespace
+
+qint64 PictureLimit::bytesOf(AVPixelFormat format, const QSize& stored, const QSize& shown)
+{
+    return decodedBytes(format, stored) + pixelsOf(shown) * ImagePixelBytes;
+}
+
+/// The deepest pictures take twice of what their images do.
+size_t PictureLimit::mostAtOnce() const
+{
+    return static_cast<size_t>(std::clamp<qint64>(m_bytes / 4 * 3, LeastBlock, INT_MAX));
+}
+
+qint64 PictureLimit::mostPixels() const
+{
+    return m_bytes / (ImagePixelBytes + LeastPixelBytes);
+}
+
+int PictureLimit::threadsFor(AVPixelFormat format, const QSize& stored, int wanted) const
+{
+    const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    const int threads = wanted > 0 ? wanted : cores;
+    const qint64 room = m_bytes / std::max<qint64>(1, decodedBytes(format, stored));
+    return room >= threads ? wanted : static_cast<int>(std::max<qint64>(1, room));
+}
+
+QString PictureLimit::refusal(const QSize& stored, qint64 bytes) const
+{
+    return QCoreApplication::translate(
+               "QtAV::VideoDecoder",
+               "The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.")
+        .arg(stored.width())
+        .arg(stored.height())
+        .arg(sizeText(bytes), sizeText(m_bytes));
+}
+
+} // namespace QtAV

@@ -1,0 +1,92 @@
+#!/usr/bin/env bash
+# Gives the program inputs that are made up, and looks for crashes, leaks and endless work.
+#   scripts/fuzz.sh MINUTES [HARNESS…]   so many minutes for each of video, player, profiles,
+#                                        arguments and metadata, or for those that are named
+#   scripts/fuzz.sh --seeds [HARNESS…]   only the stored inputs, in the build of the sanitizers
+# Needs the packages [run] and [fuzz] of packages.txt, and the sample videos of the tests, whose
+# place MORVANTILE_MEDIA names where it is not build/media. What is found stands in
+# build/fuzz/findings; make a file of fuzz/seeds and a test of it.
+set -euo pipefail
+root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
+source "$root/scripts/setup.sh"
+
+media=${MORVANTILE_MEDIA:-$root/build/media}
+largest_sample=64k
+
+# seeds_of HARNESS: stored inputs, each in a line.
+seeds_of() {
+    find "$root/fuzz/seeds/$1" -type f 2>/dev/null
+    case $1 in
+        video | player) find -L "$media" -maxdepth 1 -type f -size "-$largest_sample" ! -name '.*' ;;
+        metadata) find -L "$media" -maxdepth 1 -type f -name '*.jpg' ;;
+    esac
+}
+
+replay() {
+    local name files
+    for name in "$@"; do
+        mapfile -t files < <(seeds_of "$name" | sort)
+        ((${#files[@]})) || die "there are no seeds for $name"
+        "$build/fuzz/fuzz_$name" "${files[@]}" >"$build/fuzz/$name.log" 2>&1 ||
+            { tail -n 40 "$build/fuzz/$name.log" >&2; die "$name fails"; }
+        say "$name: ${#files[@]} inputs"
+    done
+}
+
+fuzz() {
+    local name files corpus dictionary=()
+    for name in "$@"; do
+        corpus=$build/corpus/$name
+        mkdir -p "$corpus" "$build/findings/$name"
+        mapfile -t files < <(seeds_of "$name")
+        ((${#files[@]} == 0)) || cp -n -- "${files[@]}" "$corpus/"
+        dictionary=()
+        [[ ! -e $root/fuzz/$name.dict ]] || dictionary=("-dict=$root/fuzz/$name.dict")
+        say "== $name: $minutes minutes"
+        (
+            cd -- "$build/findings/$name"
+            # A position may take three seconds, and each input has several.
+            TIMEFORMAT="$name: %U s of processor time"
+            time "$build/fuzz/fuzz_$name" "$corpus" "${dictionary[@]}" \
+                -max_total_time="$((minutes * 60))" -timeout=25 -rss_limit_mb=2500 \
+                -max_len=131072 -print_final_stats=1 >"$build/fuzz/$name.log" 2>&1
+        ) || {
+            tail -n 40 "$build/fuzz/$name.log" >&2
+            say "$name: a finding in build/fuzz/findings/$name"
+            failed=1
+        }
+        grep -h -E 'stat::number_of_executed_units|DONE' "$build/fuzz/$name.log" | tail -n 2 >&2 || true
+    done
+}
+
+all=(video player profiles arguments metadata)
+(($#)) || die "say how many minutes, or --seeds"
+minutes=$1
+shift
+harnesses=("$@")
+(($#)) || harnesses=("${all[@]}")
+for name in "${harnesses[@]}"; do
+    [[ " ${all[*]} " == *" $name "* ]] || die "there is no harness $name: ${all[*]}"
+done
+failed=0
+export QT_QPA_PLATFORM=offscreen
+export ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1
+export LSAN_OPTIONS=suppressions=$root/tests/support/lsan.supp:print_suppressions=0
+
+if [[ $minutes == --seeds ]]; then
+    build=${MORVANTILE_FUZZ_BUILD:-$root/build/asan}
+    [[ -e $build/build.ninja ]] ||
+        cmake --preset asan -S "$root" -DMORVANTILE_QUICK_BUILD=ON >/dev/null
+    ninja -C "$build" "${harnesses[@]/#/fuzz_}" >&2
+    replay "${harnesses[@]}"
+    exit 0
+fi
+[[ $minutes =~ ^[1-9][0-9]*$ ]] || die "no number of minutes: $minutes"
+build=$root/build/fuzz
+cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ -DMORVANTILE_BUILD_TESTS=OFF \
+    -DMORVANTILE_BUILD_FUZZERS=ON \
+    -DMORVANTILE_SANITIZE=address,undefined,fuzzer-no-link >/dev/null
+ninja -C "$build" "${harnesses[@]/#/fuzz_}" >&2
+fuzz "${harnesses[@]}"
+exit "$failed"

@@ -1,0 +1,102 @@
+#include "stills/ListFile.h"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace stills {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Text = Result<std::string>;
+
+/// How often a pipe without a writer is looked at.
+constexpr std::chrono::milliseconds lookInterval{20};
+
+Text failure()
+{
+    return Text::failure(std::string("cannot be read: ") + std::strerror(errno));
+}
+
+/// A file that is closed again, unless it is standard input.
+class Input
+{
+public:
+    explicit Input(const std::string& path)
+        : m_isOwn(path != "-")
+        // A pipe without a writer would hold up the program in opening it.
+        , m_file(m_isOwn ? ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC) : STDIN_FILENO)
+    {}
+    ~Input()
+    {
+        if (m_isOwn && m_file >= 0) {
+            ::close(m_file);
+        }
+    }
+    Input(const Input&) = delete;
+    Input& operator=(const Input&) = delete;
+
+    [[nodiscard]] int file() const { return m_file; }
+    [[nodiscard]] bool is(mode_t kind) const
+    {
+        struct stat facts = {};
+        return ::fstat(m_file, &facts) == 0 && (facts.st_mode & S_IFMT) == kind;
+    }
+
+private:
+    const bool m_isOwn;
+    const int m_file;
+};
+
+/// Waits for more from a writer that is there; false when a signal came between.
+bool waitForMore(int file)
+{
+    pollfd question{file, POLLIN, 0};
+    return ::poll(&question, 1, -1) >= 0;
+}
+
+} // namespace
+
+Text readList(const std::string& path, std::chrono::milliseconds patience, std::size_t longest)
+{
+    const Input input(path);
+    if (input.file() < 0) {
+        return failure();
+    }
+    if (input.is(S_IFDIR)) {
+        return Text::failure("is a folder; --files-from takes a list of videos");
+    }
+    bool awaitsWriter = path != "-" && input.is(S_IFIFO);
+    const Clock::time_point end = Clock::now() + patience;
+    std::string content;
+    std::array<char, 65536> buffer{};
+    while (content.size() <= longest) {
+        const ssize_t count = ::read(input.file(), buffer.data(), buffer.size());
+        if (count > 0) {
+            content.append(buffer.data(), static_cast<std::size_t>(count));
+            awaitsWriter = false;
+        } else if (count < 0 && errno == EAGAIN) {
+            awaitsWriter = false;
+            if (!waitForMore(input.file())) {
+                return failure();
+            }
+        } else if (count < 0) {
+            return failure();
+        } else if (count == 0 && !awaitsWriter) {
+            return Text::of(std::move(content));
+        } else if (count == 0 && Clock::now() >= end) {
+            return Text::failure("cannot be read: nobody writes into this pipe");
+        } else {
+            std::this_thread::sleep_for(lookInterval);
+        }
+    }
+    return Text::failure("is too long for a list of videos");
+}
+
+} // namespace stills

@@ -1,0 +1,192 @@
+// A batch whose disk is full: it waits, asks, and goes on or stops.
+
+#include "batch/BatchThread.h"
+#include "batch/BatchWorker.h"
+#include "batch/BatchWorkerConfig.h"
+#include "tests/batch/WorkerEvents.h"
+#include "tests/support/Samples.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <sys/mount.h>
+
+using testsupport::samplePath;
+
+namespace {
+
+constexpr int patienceMs = 30000;
+
+/// A folder that is a disk of a megabyte, all but filled.
+class SmallDisk
+{
+public:
+    SmallDisk()
+        : m_isMounted(::mount("tmpfs", QFile::encodeName(m_folder.path()).constData(), "tmpfs", 0,
+                              "size=1m") == 0)
+    {
+        QFile filler(path(QStringLiteral("filler")));
+        if (m_isMounted && filler.open(QIODevice::WriteOnly)) {
+            filler.write(QByteArray(1000 * 1024, 'x'));
+        }
+    }
+    ~SmallDisk()
+    {
+        if (m_isMounted) {
+            ::umount2(QFile::encodeName(m_folder.path()).constData(), MNT_DETACH);
+        }
+    }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+    [[nodiscard]] bool isThere() const { return m_isMounted; }
+    [[nodiscard]] QString path(const QString& name = {}) const { return m_folder.filePath(name); }
+    void makeRoom() const { QFile::remove(path(QStringLiteral("filler"))); }
+
+    /// How many pictures are there; -1 where one is not whole, or something else is there.
+    [[nodiscard]] int pictures() const
+    {
+        const QStringList names = QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
+        int count = 0;
+        for (const QString& name : names) {
+            if (name == QStringLiteral("filler")) {
+                continue;
+            }
+            if (QImage(path(name)).isNull()) {
+                return -1;
+            }
+            ++count;
+        }
+        return count;
+    }
+
+private:
+    QTemporaryDir m_folder;
+    const bool m_isMounted;
+};
+
+/// A batch of one job of six images.
+struct Batch
+{
+    Batch(const SmallDisk& disk, bool isExact)
+        : worker(new BatchWorker)
+        , events(*worker)
+    {
+        config.setSource(samplePath(QStringLiteral("h264_gop250.mp4")));
+        config.setFileOutputPath(disk.path());
+        config.setExactFrames(isExact);
+        config.setIntervalType(BatchWorkerConfig::SpreadImages);
+        config.setIntervalImages(6);
+        worker->setConfig(&config);
+    }
+
+    void run()
+    {
+        QSignalSpy done(&thread, &BatchThread::threadDone);
+        thread.addWorker(worker);
+        thread.start();
+        QVERIFY(done.wait(patienceMs));
+        QVERIFY(thread.wait(patienceMs));
+        QCoreApplication::processEvents();
+    }
+
+    BatchWorkerConfig config;
+    BatchThread thread;
+    BatchWorker* worker; ///< the thread's, once added
+    WorkerEvents events;
+};
+
+} // namespace
+
+class BatchRoomTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void addBothWays()
+    {
+        QTest::addColumn<bool>("isExact");
+        QTest::newRow("exact frames") << true;
+        QTest::newRow("key frames") << false;
+    }
+
+private Q_SLOTS:
+    void fullDisk_isAskedAbout_andTheImageSavedAfterwards_data() { addBothWays(); }
+    void fullDisk_isAskedAbout_andTheImageSavedAfterwards()
+    {
+        QFETCH(const bool, isExact);
+        const SmallDisk disk;
+        if (!disk.isThere()) {
+            QSKIP("Mounting a small disk needs root's rights.");
+        }
+        Batch batch(disk, isExact);
+        int questions = 0;
+        bool isInOwnThread = true;
+        qint64 missing = 0;
+        batch.worker->setRoomQuestion([&](const WriteFailure& failure) {
+            ++questions;
+            isInOwnThread = isInOwnThread && QThread::currentThread() == thread();
+            missing = failure.missing;
+            // As a dialog does, while the user looks for what may go.
+            QTest::qWait(300);
+            if (questions == 2) {
+                disk.makeRoom();
+            }
+            if (questions > 2) {
+                batch.thread.requestInterruption();
+            }
+            return questions <= 2;
+        });
+        batch.run();
+        QCOMPARE(questions, 2);
+        QVERIFY(isInOwnThread);
+        QVERIFY(missing > 0);
+        QCOMPARE(disk.pictures(), 6);
+        QCOMPARE(batch.events.of(QStringLiteral("error")), QStringList());
+        QCOMPARE(batch.events.of(QStringLiteral("image")).size(), 6);
+    }
+
+    void stopping_endsTheBatch_withWholeImages_data() { addBothWays(); }
+    void stopping_endsTheBatch_withWholeImages()
+    {
+        QFETCH(const bool, isExact);
+        const SmallDisk disk;
+        if (!disk.isThere()) {
+            QSKIP("Mounting a small disk needs root's rights.");
+        }
+        Batch batch(disk, isExact);
+        int questions = 0;
+        batch.worker->setRoomQuestion([&](const WriteFailure&) {
+            ++questions;
+            QTest::qWait(100);
+            batch.thread.requestInterruption();
+            return false;
+        });
+        batch.run();
+        QCOMPARE(questions, 1);
+        QVERIFY(disk.pictures() >= 0);
+        QVERIFY(disk.pictures() < 6);
+    }
+
+    void withoutAQuestion_eachImageIsAnError()
+    {
+        const SmallDisk disk;
+        if (!disk.isThere()) {
+            QSKIP("Mounting a small disk needs root's rights.");
+        }
+        Batch batch(disk, true);
+        batch.run();
+        const int saved = disk.pictures();
+        QVERIFY(saved >= 0);
+        QCOMPARE(batch.events.of(QStringLiteral("error")).size(), 6 - saved);
+    }
+};
+
+QTEST_GUILESS_MAIN(BatchRoomTest)
+
+#include "BatchRoomTest.moc"

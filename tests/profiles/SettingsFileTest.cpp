@@ -1,0 +1,136 @@
+#include "profiles/SettingsFile.h"
+
+#include "tests/profiles/ProfileTestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTest>
+
+#include <sys/stat.h>
+
+/// Has the address sanitizer answer as the system does when so much memory is asked for.
+extern "C" const char* __asan_default_options();
+extern "C" const char* __asan_default_options()
+{
+    return "allocator_may_return_null=1";
+}
+
+namespace {
+
+const QString fileName = QStringLiteral("Test.ini");
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class SettingsFileTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<TestHome> m_home;
+
+    [[nodiscard]] QString path() const { return m_home->settingsFile(fileName); }
+
+private Q_SLOTS:
+    void init() { m_home = std::make_unique<TestHome>(); }
+    void cleanup() { m_home.reset(); }
+
+    void damage_isSeen_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isDamaged");
+        const auto row = [](const char* name, const QByteArray& content, bool isDamaged) {
+            QTest::newRow(name) << content << isDamaged;
+        };
+        row("empty", "", false);
+        row("usual", "[profiles]\nA\\name=x\nA\\size=@Size(1 2)\n\n[General]\nlast=\n", false);
+        row("of an editor on Windows", "; note\r\n# note\r\n[a]\r\n\tx = 1 \r\n", false);
+        row("a line that goes on", "[a]\nx=1, \\\n2\ny=3\n", false);
+        row("zeros", QByteArray(400, '\0'), true);
+        row("zeros behind the start", "[a]\nx=1\n" + QByteArray(40, '\0'), true);
+        row("random bytes", "\x7f\x45LF\x02\x01\x01\x03 = \xff\x00\n", true);
+        row("cut in a key", "[a]\nx=1\nlastUsed", true);
+        row("cut in a section", "[a]\nx=1\n[Gene", true);
+        row("a picture", "\x89PNG\r\n\x1a\n=", true);
+        row("endless", QByteArray("x=1\n").repeated(5 << 20), true);
+    }
+    void damage_isSeen()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const bool, isDamaged);
+        QVERIFY(m_home->writeSettingsFile(fileName, content));
+        QCOMPARE(SettingsFile::isDamaged(path()), isDamaged);
+    }
+
+    void missingFiles_areNotDamaged() { QVERIFY(!SettingsFile::isDamaged(path())); }
+
+    void whatIsNoFile_isDamaged()
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path()).absolutePath()));
+        QCOMPARE(::mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+        QVERIFY(SettingsFile::isDamaged(path()));
+    }
+
+    void whatQtWrites_isNotDamaged()
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path()).absolutePath()));
+        {
+            QSettings settings(path(), QSettings::IniFormat);
+            settings.setValue(QStringLiteral("bytes"), QByteArray("\0\1\n\r=[;\\", 9));
+            settings.setValue(QStringLiteral("profiles/[ä;\n]/名"), QStringLiteral("a\nb\\"));
+            settings.setValue(QStringLiteral("list"), QStringList{QStringLiteral("a, b"), {}});
+            settings.setValue(QStringLiteral("size"), QVariant(QSizeF(1.5, 2.5)));
+        }
+        QVERIFY2(!SettingsFile::isDamaged(path()), contentOf(path()).constData());
+    }
+
+    void damagedFile_isKeptAside_andToldOnce()
+    {
+        const QByteArray damage(100, '\0');
+        for (const char* const aside : {".bad", ".bad2"}) {
+            QVERIFY(m_home->writeSettingsFile(fileName, damage));
+            const QStringList texts = SettingsFile::putDamagedAside();
+            QCOMPARE(texts.size(), 1);
+            QVERIFY(texts.first().contains(path() + QString::fromLatin1(aside)));
+            QVERIFY(!QFile::exists(path()));
+            QCOMPARE(contentOf(path() + QString::fromLatin1(aside)), damage);
+            QCOMPARE(SettingsFile::putDamagedAside(), QStringList());
+        }
+    }
+
+    void listsThatDeclareTooMuch_areDamage()
+    {
+        // Qt would throw while it reads the value.
+        const QByteArray text = "[profiles]\nA\\id=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n";
+        QVERIFY(m_home->writeSettingsFile(fileName, text));
+        QCOMPARE(SettingsFile::putDamagedAside().size(), 1);
+        QSettings settings(path(), QSettings::IniFormat);
+        QCOMPARE(settings.allKeys(), QStringList());
+        settings.setValue(QStringLiteral("a"), 1);
+        settings.sync();
+        QCOMPARE(contentOf(path()), QByteArray("[General]\na=1\n"));
+    }
+
+    void ownSettings_areLookedAtToo()
+    {
+        const QString own = QSettings().fileName();
+        QVERIFY(QDir().mkpath(QFileInfo(own).absolutePath()));
+        QFile file(own);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray(10, '\0'));
+        file.close();
+        QCOMPARE(SettingsFile::putDamagedAside().size(), 1);
+        QVERIFY(QFile::exists(own + QStringLiteral(".bad")));
+    }
+};
+
+QTEST_GUILESS_MAIN(SettingsFileTest)
+
+#include "SettingsFileTest.moc"
