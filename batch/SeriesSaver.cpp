@@ -2,6 +2,8 @@
 
 #include "imaging/FilePublisher.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 SeriesSaver::SeriesSaver(FreePaths paths, bool isSingle, Listener listener)
@@ -9,6 +11,13 @@ SeriesSaver::SeriesSaver(FreePaths paths, bool isSingle, Listener listener)
     , m_isSingle(isSingle)
     , m_listener(std::move(listener))
 {}
+
+void SeriesSaver::announce(int /*video*/, const QVector<SeriesTarget>& targets)
+{
+    for (const SeriesTarget& target : targets) {
+        m_asked.append(target.ms);
+    }
+}
 
 void SeriesSaver::begin(const SeriesFacts& facts)
 {
@@ -18,9 +27,18 @@ void SeriesSaver::begin(const SeriesFacts& facts)
 void SeriesSaver::take(SeriesPicture picture)
 {
     m_listener.beforePicture();
+    const qint64 asked = picture.askedMs.value_or(m_reachedMs);
+    m_reachedMs = std::max({m_reachedMs, asked, picture.timeMs.value_or(asked)});
+    if (!save(picture)) {
+        m_failed.append(asked);
+    }
+}
+
+bool SeriesSaver::save(const SeriesPicture& picture)
+{
     if (!picture.error.isEmpty()) {
         m_listener.failed(picture.error);
-        return;
+        return false;
     }
     m_listener.showing(picture.baseLayer);
     QString path = m_paths.first(m_isSingle);
@@ -37,11 +55,23 @@ void SeriesSaver::take(SeriesPicture picture)
     } else {
         m_listener.notSaved(path);
     }
+    return result == WriteResult::Written;
 }
 
 void SeriesSaver::end(int /*video*/, const QString& error)
 {
-    if (!error.isEmpty()) {
+    m_isComplete = error.isEmpty();
+    if (!m_isComplete) {
         m_listener.failed(error);
     }
+}
+
+QVector<qint64> SeriesSaver::missed() const
+{
+    QVector<qint64> missed = m_failed;
+    const auto isUnreached = [this](qint64 ms) { return ms > m_reachedMs; };
+    if (!m_isComplete) {
+        std::copy_if(m_asked.cbegin(), m_asked.cend(), std::back_inserter(missed), isUnreached);
+    }
+    return missed;
 }
