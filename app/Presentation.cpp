@@ -1,14 +1,18 @@
 #include "app/Presentation.h"
 
 #include "app/RunningInstance.h"
+#include "app/TerminationSignals.h"
 #include "profiles/ReadyProfiles.h"
 #include "ui/mainwindow/MainWindow.h"
 
 #include <QApplication>
 #include <QDebug>
+#include <QDir>
 #include <QFile>
 #include <QIcon>
 #include <QScreen>
+#include <QSessionManager>
+#include <QStandardPaths>
 #include <QWidget>
 
 #include <algorithm>
@@ -40,6 +44,31 @@ RunningInstance::Opener openerIn(MainWindow& window)
     };
 }
 
+/// Where unsaved snapshots wait for the next start.
+QString snapshotFolder()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
+        .filePath(QStringLiteral("snapshots"));
+}
+
+/// Keeps what can be kept when the desktop's session ends. Qt itself would close the window for
+/// that, which asks questions.
+void followSession(MainWindow& window)
+{
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    const auto commit = [&window](QSessionManager& session) {
+        const bool mayAsk = session.allowsInteraction();
+        if (!window.prepareForSessionEnd(mayAsk)) {
+            session.cancel();
+        }
+        if (mayAsk) {
+            session.release();
+        }
+    };
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window, commit,
+                     Qt::DirectConnection);
+}
+
 } // namespace
 
 void Presentation::applyStyleSheet(QApplication& app, const QString& path)
@@ -69,7 +98,10 @@ void showMainWindow(QApplication& app, const QStringList& files)
     window->resize(800, 600);
     Presentation::centre(*window, QGuiApplication::primaryScreen()->geometry());
     window->restoreLayout();
+    window->keepSnapshots(snapshotFolder());
     window->show();
+    followSession(*window);
+    const TerminationSignals termination([&window] { window->quitWhenKept(); });
     RunningInstance instance(openerIn(*window));
     if (!instance.listen(RunningInstance::meetingPlace())) {
         qDebug() << "Another window takes the files that are passed on";

@@ -58,6 +58,10 @@ class Program:
         finally:
             processes.stop(self._process)
 
+    def terminate(self):
+        """Asks it to end, as the system does when it shuts down."""
+        self._process.terminate()
+
     def kill(self):
         """Ends it in a way that leaves it no time for anything."""
         self._process.kill()
