@@ -29,17 +29,23 @@ QIcon applicationIcon()
     return icon;
 }
 
-/// Opens files that another program passes on, unless a dialog is open: there is no way past it.
+/// Opens files that another program passes on, or comes to the front for one without files, unless
+/// a dialog is open: there is no way past it.
 RunningInstance::Opener openerIn(MainWindow& window)
 {
     return [&window](const QStringList& files) {
-        if (QApplication::activeModalWidget() != nullptr) {
+        if (!files.isEmpty() && QApplication::activeModalWidget() != nullptr) {
             return false;
         }
         // The other program waits for the answer, and should not for one of the user's.
-        QMetaObject::invokeMethod(
-            &window, [&window, file = files.constFirst()] { window.openFromOutside(file); },
-            Qt::QueuedConnection);
+        const auto open = [&window, file = files.value(0)] {
+            if (file.isEmpty()) {
+                window.comeToFront();
+            } else {
+                window.openFromOutside(file);
+            }
+        };
+        QMetaObject::invokeMethod(&window, open, Qt::QueuedConnection);
         return true;
     };
 }

@@ -108,12 +108,11 @@ void Filmstrip::layOut()
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    // Always there, so that the video keeps its size when the strip gets longer than the window.
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     m_list->setMouseTracking(true);
     m_list->setFocusPolicy(Qt::TabFocus);
     QStyleOptionViewItem option;
     option.fontMetrics = m_list->fontMetrics();
+    // With the scroll bar, so that the video keeps its size when the strip gets longer.
     m_list->setFixedHeight(delegate->sizeHint(option, {}).height() +
                            m_list->horizontalScrollBar()->sizeHint().height() +
                            2 * m_list->frameWidth());

@@ -57,7 +57,8 @@ void BestFramesDialog::layOut()
     m_list->setGridSize(cellSize);
     m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const int frame = 2 * m_list->frameWidth() + 4;
-    m_list->setMinimumSize(proposals * cellSize.width() + frame, cellSize.height() + frame);
+    m_list->setMinimumWidth(proposals * cellSize.width() + frame);
+    m_list->setFixedHeight(cellSize.height() + frame);
     m_takeButton->setObjectName(QStringLiteral("takeBestButton"));
     m_takeButton->setToolTip(tr("Take a snapshot of the selected frame"));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);

@@ -54,6 +54,7 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     shareSpaceKey();
     updateWindowTitle();
     setupFilmstrip();
+    setupRecentFiles();
     setupBestFrames();
     setupZoom();
     setupPlayer(makeVideoOutput);

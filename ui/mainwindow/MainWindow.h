@@ -25,6 +25,7 @@ class FileNameProfile;
 class Filmstrip;
 class ImageProfile;
 class QFileDialog;
+class QMenu;
 class QPushButton;
 class SnapshotSaver;
 class VolumePopup;
@@ -50,7 +51,8 @@ class MainWindow;
 ///
 /// Settings: "lastOpenDir", the folder that the save dialog starts in, and "lastSaveDir" in place
 /// of it where the user saved elsewhere; "outputFolder" of the automatic names,
-/// "automaticFileName", "windowGeometry", "splitterState". User-interface thread only.
+/// "automaticFileName", "recentFiles", "windowGeometry", "splitterState". User-interface thread
+/// only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -210,6 +212,8 @@ public Q_SLOTS:
     /// Opens what another program passed on, when a snapshot that is not saved may go.
     void openFromOutside(const QString& path);
     void retakeFocusAfterDialog();
+    /// Shows the window above all others, also where it was minimised.
+    void comeToFront();
 
 protected:
     bool event(QEvent* event) override;
@@ -257,6 +261,9 @@ private:
     [[nodiscard]] bool mayAllGo();
     [[nodiscard]] int askAboutSnapshots(int count);
 
+    void setupRecentFiles();
+    void fillRecentMenu();
+    void noteRecentFile(const QString& path);
     void setupZoom();
     void followZoom();
     void noteVideoSize();
@@ -306,7 +313,8 @@ private:
     QString m_shownSnapshot;                  ///< its name in the filmstrip; empty for none there
     QString m_wantedSnapshot;                 ///< to be shown when it has been read
     QVector<qint64> m_toldSnapshotTimes;
-    ZoomGestures* m_videoZoom = nullptr;      ///< made first
+    QMenu* m_recentMenu = nullptr;            ///< made first
+    ZoomGestures* m_videoZoom = nullptr;      ///< likewise
     BestFramesDialog* m_bestFrames = nullptr; ///< likewise
     QAction* m_bestFramesAction = nullptr;    ///< likewise
     std::optional<qint64> m_takenWhenShown;   ///< a snapshot is taken as soon as this one is

@@ -9,6 +9,7 @@
 
 #include <QtAV/VideoOutput.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDragEnterEvent>
@@ -81,6 +82,16 @@ int MainWindow::askAboutSnapshots(int count)
                                       : tr("They will be lost unless you save them."));
     box.setDefaultButton(QMessageBox::Save);
     return box.exec();
+}
+
+void MainWindow::comeToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    retakeFocusAfterDialog();
+    if (QWidget* const dialog = QApplication::activeModalWidget()) {
+        dialog->raise();
+        dialog->activateWindow();
+    }
 }
 
 void MainWindow::openFromOutside(const QString& path)

@@ -140,6 +140,7 @@ void MainWindow::openVideo(QString path)
     followVideoFolder(video);
     showOutputFolder(video);
     noteOpenFolder(video);
+    noteRecentFile(path);
     hideOpenButton();
     // The keys are the video's, and no button asks for them.
     m_ui->videoFrame->setFocus();
