@@ -180,6 +180,12 @@ QStringList Filmstrip::selected() const
     return ids;
 }
 
+void Filmstrip::comeAfter(QWidget& control)
+{
+    setTabOrder(&control, m_list);
+    setTabOrder(m_list, m_saveAllButton);
+}
+
 void Filmstrip::deleteSelected()
 {
     const QModelIndexList indexes = m_list->selectionModel()->selectedIndexes();

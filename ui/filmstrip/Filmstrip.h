@@ -38,6 +38,9 @@ public:
 
     [[nodiscard]] QStringList selected() const;
 
+    /// Has Tab come here from another control of the same window.
+    void comeAfter(QWidget& control);
+
 public Q_SLOTS:
     /// Deletes the selected snapshots, which can be undone.
     void deleteSelected();

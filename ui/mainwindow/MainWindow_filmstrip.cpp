@@ -31,6 +31,7 @@ void MainWindow::setupFilmstrip()
 {
     m_filmstrip = new Filmstrip(m_ui->playerPane);
     m_ui->playerLayout->addWidget(m_filmstrip);
+    m_filmstrip->comeAfter(*m_ui->volumeButton);
     SnapshotShelf& shelf = m_filmstrip->shelf();
     m_snapshotSaver = new SnapshotSaver(shelf, m_filmstrip);
 

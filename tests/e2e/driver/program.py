@@ -195,7 +195,9 @@ class Program:
 
     def focused(self):
         """The control that has the keyboard, or none."""
-        return next((control for control in self.find_all() if control.is_focused), None)
+        controls = [control for control in self.find_all() if control.is_focused]
+        # The current item of a list says so even while another control has the keyboard.
+        return next((c for c in controls if c.role != "list item"), next(iter(controls), None))
 
     # --- the main window -----------------------------------------------------------------------
 
