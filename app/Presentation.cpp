@@ -1,15 +1,19 @@
 #include "app/Presentation.h"
 
 #include "app/RunningInstance.h"
+#include "app/TerminationSignals.h"
 #include "profiles/ReadyProfiles.h"
 #include "ui/mainwindow/MainWindow.h"
 
 #include <QApplication>
 #include <QDebug>
+#include <QDir>
 #include <QFile>
 #include <QIcon>
 #include <QMessageBox>
 #include <QScreen>
+#include <QSessionManager>
+#include <QStandardPaths>
 #include <QWidget>
 
 #include <algorithm>
@@ -26,17 +30,23 @@ QIcon applicationIcon()
     return icon;
 }
 
-/// Opens files that another program passes on, unless a dialog is open: there is no way past it.
+/// Opens files that another program passes on, or comes to the front for one without files, unless
+/// a dialog is open: there is no way past it.
 RunningInstance::Opener openerIn(MainWindow& window)
 {
     return [&window](const QStringList& files) {
-        if (QApplication::activeModalWidget() != nullptr) {
+        if (!files.isEmpty() && QApplication::activeModalWidget() != nullptr) {
             return false;
         }
         // The other program waits for the answer, and should not for one of the user's.
-        QMetaObject::invokeMethod(
-            &window, [&window, file = files.constFirst()] { window.openFromOutside(file); },
-            Qt::QueuedConnection);
+        const auto open = [&window, file = files.value(0)] {
+            if (file.isEmpty()) {
+                window.comeToFront();
+            } else {
+                window.openFromOutside(file);
+            }
+        };
+        QMetaObject::invokeMethod(&window, open, Qt::QueuedConnection);
         return true;
     };
 }
@@ -52,6 +62,31 @@ void tell(MainWindow& window, const QStringList& news)
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setModal(false);
     box->show();
+}
+
+/// Where unsaved snapshots wait for the next start.
+QString snapshotFolder()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
+        .filePath(QStringLiteral("snapshots"));
+}
+
+/// Keeps what can be kept when the desktop's session ends. Qt itself would close the window for
+/// that, which asks questions.
+void followSession(MainWindow& window)
+{
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    const auto commit = [&window](QSessionManager& session) {
+        const bool mayAsk = session.allowsInteraction();
+        if (!window.prepareForSessionEnd(mayAsk)) {
+            session.cancel();
+        }
+        if (mayAsk) {
+            session.release();
+        }
+    };
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window, commit,
+                     Qt::DirectConnection);
 }
 
 } // namespace
@@ -83,8 +118,11 @@ void showMainWindow(QApplication& app, const QStringList& files, const QStringLi
     window->resize(800, 600);
     Presentation::centre(*window, QGuiApplication::primaryScreen()->geometry());
     window->restoreLayout();
+    window->keepSnapshots(snapshotFolder());
     window->show();
     tell(*window, news);
+    followSession(*window);
+    const TerminationSignals termination([&window] { window->quitWhenKept(); });
     RunningInstance instance(openerIn(*window));
     if (!instance.listen(RunningInstance::meetingPlace())) {
         qDebug() << "Another window takes the files that are passed on";

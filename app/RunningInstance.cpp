@@ -122,7 +122,7 @@ void RunningInstance::answer(QLocalSocket& socket)
     socket.skip(sizeof head);
     const QByteArray bytes = socket.read(length);
     const QString paths = QString::fromUtf8(bytes.constData(), bytes.size());
-    const bool isAccepted = !paths.isEmpty() && m_open(paths.split(QChar(u'\0')));
+    const bool isAccepted = m_open(paths.isEmpty() ? QStringList() : paths.split(QChar(u'\0')));
     socket.putChar(isAccepted ? accepted : refused);
     socket.disconnectFromServer();
 }

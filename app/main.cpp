@@ -29,7 +29,7 @@ int main(int argc, char** argv)
         std::exit(-1);
     }
     const QStringList files = FileArguments::in(QCoreApplication::arguments().mid(1));
-    if (!files.isEmpty() && RunningInstance::passOn(files, RunningInstance::meetingPlace())) {
+    if (RunningInstance::passOn(files, RunningInstance::meetingPlace())) {
         return 0;
     }
     QtAV::Widgets::registerRenderers();

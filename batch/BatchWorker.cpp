@@ -45,12 +45,23 @@ constexpr qint64 longestWaitMilliseconds = 5000;
 /// How long news of a series may wait where the thread that they are for runs the job.
 constexpr std::chrono::milliseconds newsWait{10};
 
+FramePositions listOf(const QVector<qint64>& milliseconds)
+{
+    FramePositions positions;
+    positions.kind = FramePositions::Kind::List;
+    for (const qint64 ms : milliseconds) {
+        positions.list.push_back({FramePosition::Kind::Milliseconds, static_cast<double>(ms)});
+    }
+    return positions;
+}
+
 /// The positions that a job with exact frames takes. A single image's are those of the plan, but
 /// for the middle, which is that of the stretch between the skips.
 FramePositions positionsOf(const BatchWorkerConfig& config, const SamplingPlan& plan,
                            qint64 duration)
 {
     FramePositions positions;
+    positions.kind = FramePositions::Kind::List;
     positions.front.value = static_cast<double>(config.skipFront());
     positions.back.value = static_cast<double>(config.skipBack());
     switch (plan.intervalType) {
@@ -65,7 +76,6 @@ FramePositions positionsOf(const BatchWorkerConfig& config, const SamplingPlan& 
     default:
         break;
     }
-    positions.kind = FramePositions::Kind::List;
     if (plan.intervalType == BatchWorkerConfig::SingleShot) {
         const bool isMiddle = config.intervalSingleShot() == BatchWorkerConfig::Middle;
         const qint64 ms = isMiddle ? (config.skipFront() + plan.end) / 2 : plan.start;
@@ -98,6 +108,8 @@ BatchWorker::BatchWorker(QObject* parent)
     connect(m_frameGrabber, &FrameGrabber::frameExtracted, this, &BatchWorker::passOn,
             Qt::DirectConnection);
     connect(m_frameGrabber, &FrameGrabber::error, this, &BatchWorker::extractorError);
+    const auto noteFailure = [this] { noteMissed(m_frameGrabber->getPosition()); };
+    connect(m_frameGrabber, &FrameGrabber::error, this, noteFailure, Qt::DirectConnection);
 }
 
 BatchWorker::~BatchWorker()
@@ -171,6 +183,9 @@ void BatchWorker::runInternal()
     }
     const qint64 duration = m_frameGrabber->getDuration();
     if (duration < shortestVideo) {
+        // Nothing is known about positions in it.
+        const std::lock_guard<std::mutex> lock(m_missedMutex);
+        m_missed.reset();
         // The file's name is not part of the message: receivers know the worker.
         Q_EMIT statusUpdate(this, tr("Could not open file"), Error);
         return;
@@ -189,9 +204,32 @@ void BatchWorker::runInternal()
     }
     if (m_config->exactFrames()) {
         takeSeries(plan, duration);
+    } else if (m_positions) {
+        takeListedFrames();
     } else {
-        takeFrames(plan);
+        takePlannedFrames(plan);
     }
+    tell([this] { Q_EMIT jobDone(this); });
+}
+
+void BatchWorker::noteMissed(qint64 position)
+{
+    const std::lock_guard<std::mutex> lock(m_missedMutex);
+    if (!m_missed) {
+        m_missed.emplace();
+    }
+    m_missed->append(position);
+}
+
+std::optional<QVector<qint64>> BatchWorker::missedPositions() const
+{
+    const std::lock_guard<std::mutex> lock(m_missedMutex);
+    std::optional<QVector<qint64>> missed = m_missed;
+    if (missed) {
+        std::sort(missed->begin(), missed->end());
+        missed->erase(std::unique(missed->begin(), missed->end()), missed->end());
+    }
+    return missed;
 }
 
 void BatchWorker::takeSeries(const SamplingPlan& plan, qint64 duration)
@@ -200,7 +238,7 @@ void BatchWorker::takeSeries(const SamplingPlan& plan, qint64 duration)
     m_frameGrabber->safeReleaseResource();
     SeriesJob job;
     job.video = m_config->source();
-    job.positions = positionsOf(*m_config, plan, duration);
+    job.positions = m_positions ? listOf(*m_positions) : positionsOf(*m_config, plan, duration);
     job.recipe = m_series->recipe;
     job.type = m_series->naming.type;
     job.keepsImage = true;
@@ -213,6 +251,10 @@ void BatchWorker::takeSeries(const SamplingPlan& plan, qint64 duration)
     const auto isCancelled = [this] { return isInterruptionRequested(); };
     runSeries(
         [&] { static_cast<void>(series::run({job}, saver, isCancelled, m_series->resources)); });
+    const QVector<qint64> missed = saver.missed();
+    for (const qint64 position : missed) {
+        noteMissed(position);
+    }
 }
 
 /// What is told comes from the threads of the engine, in order: progress from there, all else in
@@ -300,18 +342,40 @@ void BatchWorker::showSaved(QImage image)
     Q_EMIT imageReady(this, image);
 }
 
-void BatchWorker::takeFrames(const SamplingPlan& plan)
+/// In the order of the positions, until there is none.
+void BatchWorker::takeFrames(const std::function<std::optional<qint64>()>& nextPosition)
 {
-    qint64 position = plan.start;
-    while (plan.takes(position, m_frameCounter) && takeFrame(position)) {
-        position += plan.step;
+    while (const std::optional<qint64> position = nextPosition()) {
+        if (!takeFrame(*position)) {
+            continue;
+        }
         QThread::msleep(pauseMilliseconds);
         QCoreApplication::processEvents();
         waitForImages();
-        if (isInterruptionRequested()) {
-            return;
-        }
     }
+}
+
+void BatchWorker::takePlannedFrames(const SamplingPlan& plan)
+{
+    qint64 position = plan.start;
+    int number = 1;
+    takeFrames([&]() -> std::optional<qint64> {
+        if (!plan.takes(position, number)) {
+            return std::nullopt;
+        }
+        ++number;
+        return std::exchange(position, position + plan.step);
+    });
+}
+
+void BatchWorker::takeListedFrames()
+{
+    m_stepCount = std::max<qint64>(1, qint64(m_positions->size()) * ticksPerFrame);
+    int place = 0;
+    takeFrames([&]() -> std::optional<qint64> {
+        const bool isOver = place == m_positions->size();
+        return isOver ? std::nullopt : std::optional<qint64>(m_positions->at(place++));
+    });
 }
 
 /// Keeps the frames from piling up where images take longer than frames.
@@ -328,10 +392,15 @@ void BatchWorker::waitForImages() const
 /// Requests one frame; false once interrupted.
 bool BatchWorker::takeFrame(qint64 position)
 {
+    if (isInterruptionRequested()) {
+        noteMissed(position);
+        return false;
+    }
     qDebug("Frame");
     m_frameGrabber->setPosition(position);
     tickProgress();
     if (isInterruptionRequested()) {
+        noteMissed(position);
         return false;
     }
     m_frameGrabber->extract();

@@ -8,12 +8,14 @@
 #include <QImage>
 #include <QMetaType>
 #include <QString>
+#include <QVector>
 
 #include <atomic>
 #include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 class BatchWorkerConfig;
@@ -70,6 +72,16 @@ public:
     /// Tells the frame grabber which video the job is about; nothing is opened yet.
     void loadFile();
 
+    /// Takes these positions only, in milliseconds and rising order, in place of those that the job
+    /// says. Before run().
+    void setPositions(const QVector<qint64>& positions) { m_positions = positions; }
+
+    /// The positions, in milliseconds and rising order, of which no image has been saved: those
+    /// that failed and, after an interruption, those that were not reached. Nothing where the
+    /// worker cannot tell, as for a video that it could not open. When run() has ended and what it
+    /// left to the worker's own thread is done. From any thread.
+    [[nodiscard]] std::optional<QVector<qint64>> missedPositions() const;
+
     /// How many images of the job have been saved so far, told or not: after an interruption the
     /// signals stop before the last ones are told. From any thread.
     int savedImages() const { return m_savedImages; }
@@ -89,6 +101,8 @@ Q_SIGNALS:
     /// How much of the job is done, from 0 to 1. The last one may fall short of 1, since the
     /// number of images is an estimate.
     void progressUpdate(BatchWorker* worker, float progress);
+    /// The job is done to its end, and missedPositions() is known: the last signal.
+    void jobDone(BatchWorker* worker);
 
 private Q_SLOTS:
     void frameExtracted(QtAV::VideoFrame frame, qint64 position);
@@ -97,7 +111,10 @@ private Q_SLOTS:
 
 private:
     void runInternal();
-    void takeFrames(const SamplingPlan& plan);
+    void takeFrames(const std::function<std::optional<qint64>()>& nextPosition);
+    void takePlannedFrames(const SamplingPlan& plan);
+    void takeListedFrames();
+    void noteMissed(qint64 position);
     void takeSeries(const SamplingPlan& plan, qint64 duration);
     void runSeries(const std::function<void()>& work);
     void tell(std::function<void()> news);
@@ -127,6 +144,10 @@ private:
     std::atomic<bool> m_isAsking{false}; ///< the question is being answered
     /// Frames that came meanwhile, with their positions.
     std::deque<std::pair<QtAV::VideoFrame, qint64>> m_postponed;
+    std::optional<QVector<qint64>> m_positions; ///< in place of the job's
+    mutable std::mutex m_missedMutex;
+    /// Nothing until they can be told. Guarded by m_missedMutex.
+    std::optional<QVector<qint64>> m_missed;
     BatchWorkerConfig* m_config = nullptr;
     FrameGrabber* m_frameGrabber;
     std::unique_ptr<const PictureSource> m_source; ///< the video; null until run() has opened it

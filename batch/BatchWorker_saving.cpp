@@ -51,9 +51,11 @@ void BatchWorker::takePostponed()
 void BatchWorker::saveFrame(const QtAV::VideoFrame& frame, qint64 position)
 {
     if (isInterruptionRequested()) {
+        noteMissed(position);
         return;
     }
     if (!frame.isValid()) {
+        noteMissed(position);
         extractorError(tr("no picture found at position %1").arg(position));
         return;
     }
@@ -65,10 +67,14 @@ void BatchWorker::saveFrame(const QtAV::VideoFrame& frame, qint64 position)
     imaging::Rendering made = imaging::render(imaging::pictureOf(frame, recipe), recipe);
     const PictureSource source =
         m_source ? m_source->at(frame.timestamp(), frame.displaySize()) : PictureSource();
+    const QPointer<BatchWorker> self(this);
     if (made.image.isNull()) {
+        noteMissed(position);
         reportUnmadeImage(path, position, made.error);
     } else if (saveImage(path, made.image, recipe, source)) {
         Q_EMIT imageReady(this, made.image);
+    } else if (self) {
+        noteMissed(position);
     }
 }
 

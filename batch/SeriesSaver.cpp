@@ -1,5 +1,9 @@
 #include "batch/SeriesSaver.h"
 
+#include "imaging/FilePublisher.h"
+
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 SeriesSaver::SeriesSaver(FreePaths paths, bool isSingle, Listener listener)
@@ -7,6 +11,13 @@ SeriesSaver::SeriesSaver(FreePaths paths, bool isSingle, Listener listener)
     , m_isSingle(isSingle)
     , m_listener(std::move(listener))
 {}
+
+void SeriesSaver::announce(int /*video*/, const QVector<SeriesTarget>& targets)
+{
+    for (const SeriesTarget& target : targets) {
+        m_asked.append(target.ms);
+    }
+}
 
 void SeriesSaver::begin(const SeriesFacts& facts)
 {
@@ -16,22 +27,33 @@ void SeriesSaver::begin(const SeriesFacts& facts)
 void SeriesSaver::take(SeriesPicture picture)
 {
     m_listener.beforePicture();
+    const qint64 asked = picture.askedMs.value_or(m_reachedMs);
+    m_reachedMs = std::max({m_reachedMs, asked, picture.timeMs.value_or(asked)});
+    if (!save(picture)) {
+        m_failed.append(asked);
+    }
+}
+
+bool SeriesSaver::save(const SeriesPicture& picture)
+{
     if (!picture.error.isEmpty()) {
         m_listener.failed(picture.error);
-        return;
+        return false;
     }
     m_listener.showing(picture.baseLayer);
     QString path = m_paths.first(m_isSingle);
     WriteFailure failure;
-    if (save(path, picture.content, failure) == WriteResult::Written) {
+    const WriteResult result = write(path, picture.content, failure);
+    if (result == WriteResult::Written) {
         m_listener.saved(picture.image);
     } else {
         m_listener.notSaved(failure);
     }
+    return result == WriteResult::Written;
 }
 
 /// Under the next free name while others take the names, and once more when there may be room.
-WriteResult SeriesSaver::save(QString& path, const QByteArray& content, WriteFailure& failure)
+WriteResult SeriesSaver::write(QString& path, const QByteArray& content, WriteFailure& failure)
 {
     m_listener.saving(path);
     for (;;) {
@@ -48,7 +70,18 @@ WriteResult SeriesSaver::save(QString& path, const QByteArray& content, WriteFai
 
 void SeriesSaver::end(int /*video*/, const QString& error)
 {
-    if (!error.isEmpty()) {
+    m_isComplete = error.isEmpty();
+    if (!m_isComplete) {
         m_listener.failed(error);
     }
+}
+
+QVector<qint64> SeriesSaver::missed() const
+{
+    QVector<qint64> missed = m_failed;
+    const auto isUnreached = [this](qint64 ms) { return ms > m_reachedMs; };
+    if (!m_isComplete) {
+        std::copy_if(m_asked.cbegin(), m_asked.cend(), std::back_inserter(missed), isUnreached);
+    }
+    return missed;
 }

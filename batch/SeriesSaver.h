@@ -6,6 +6,7 @@
 
 #include <QImage>
 #include <QString>
+#include <QVector>
 
 #include <functional>
 
@@ -31,14 +32,26 @@ public:
 
     SeriesSaver(FreePaths paths, bool isSingle, Listener listener);
 
+    void announce(int video, const QVector<SeriesTarget>& targets) override;
     void begin(const SeriesFacts& facts) override;
     void take(SeriesPicture picture) override;
     void end(int video, const QString& error) override;
 
+    /// The positions, in milliseconds and rising order, of which there is no saved picture: failed
+    /// ones, and those that were not reached. After the run.
+    [[nodiscard]] QVector<qint64> missed() const;
+
 private:
-    [[nodiscard]] WriteResult save(QString& path, const QByteArray& content, WriteFailure& failure);
+    [[nodiscard]] bool save(const SeriesPicture& picture);
+    [[nodiscard]] WriteResult write(QString& path, const QByteArray& content,
+                                    WriteFailure& failure);
 
     FreePaths m_paths;
     const bool m_isSingle;
     const Listener m_listener;
+    QVector<qint64> m_asked;  ///< in rising order
+    QVector<qint64> m_failed; ///< likewise
+    /// Up to here positions were answered, or mean the frame that was taken last.
+    qint64 m_reachedMs = -1;
+    bool m_isComplete = false; ///< the video was read to the last position
 };

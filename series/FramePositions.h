@@ -36,6 +36,7 @@ struct FramePositions
         List,      ///< those of `list`
         KeyFrames, ///< all key frames
         Scenes,    ///< the first frame of each scene
+        Best,      ///< `count` of them: the sharpest of as many equal parts, see FrameQuality
     };
 
     Kind kind = Kind::Spread;

@@ -2,6 +2,7 @@
 
 #include "imaging/FramePicture.h"
 #include "imaging/Rendering.h"
+#include "series/BestFrames.h"
 #include "series/SceneDetector.h"
 
 #include <QtAV/AVDemuxer.h>
@@ -142,9 +143,16 @@ SeriesBoard::Task SeriesLane::plan(const Task& task)
         return {};
     }
     const SeriesJob& job = m_jobs.at(task.video);
-    const FramePositions& positions = job.positions;
+    FramePositions positions = job.positions;
     SeriesLength length;
     length.durationMs = m_reader.demuxer().duration();
+    if (positions.kind == FramePositions::Kind::Best) {
+        positions = bestPositions(job.positions, length.durationMs, error);
+        if (!error.isEmpty()) {
+            m_board.failed(task.video, error);
+            return {};
+        }
+    }
     if (job.numbersFrames || asksForNumbers(positions)) {
         readThrough(length);
     }
@@ -162,7 +170,7 @@ SeriesBoard::Task SeriesLane::plan(const Task& task)
                         length.durationMs - msOf(positions.back, length.durationMs) + 1,
                         std::move(keyFrames), m_options.lanes);
     } else {
-        QVector<SeriesTarget> targets = neededTargets(task.video, length, failures);
+        QVector<SeriesTarget> targets = neededTargets(task.video, positions, length, failures);
         facts.expected = targets.size() + static_cast<int>(failures.size());
         plan = planTargets(std::move(targets), std::move(keyFrames), m_options.lanes);
     }
@@ -170,12 +178,33 @@ SeriesBoard::Task SeriesLane::plan(const Task& task)
     return m_board.planned(task.video, std::move(plan), facts, std::move(failures));
 }
 
+/// Looks at all frames by itself, with as many decoding threads as there are lanes.
+FramePositions SeriesLane::bestPositions(const FramePositions& wanted, qint64 durationMs,
+                                         QString& error)
+{
+    const VideoStretch stretch{msOf(wanted.front, durationMs),
+                               durationMs - msOf(wanted.back, durationMs) + 1};
+    m_reader.setThreads(m_lanes);
+    FramePositions best;
+    best.kind = FramePositions::Kind::List;
+    const QVector<qint64> times =
+        series::findBest(m_reader, stretch, wanted.count, m_isCancelled, error);
+    for (const qint64 ms : times) {
+        best.list.push_back({FramePosition::Kind::Milliseconds, static_cast<double>(ms)});
+    }
+    if (times.isEmpty() && error.isEmpty()) {
+        error = tr("All frames are black, blurred or at a cut.");
+    }
+    return best;
+}
+
 /// Also gives an error for each frame that there is not.
-QVector<SeriesTarget> SeriesLane::neededTargets(int video, const SeriesLength& length,
+QVector<SeriesTarget> SeriesLane::neededTargets(int video, const FramePositions& positions,
+                                                const SeriesLength& length,
                                                 std::deque<Delivery>& failures) const
 {
     std::vector<FramePosition> missing;
-    const QVector<SeriesTarget> all = targetsOf(m_jobs.at(video).positions, length, &missing);
+    const QVector<SeriesTarget> all = targetsOf(positions, length, &missing);
     m_board.announce(video, all);
     QVector<SeriesTarget> needed;
     std::copy_if(

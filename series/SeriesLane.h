@@ -26,7 +26,10 @@ private:
     using Delivery = SeriesBoard::Delivery;
 
     [[nodiscard]] Task plan(const Task& task);
-    [[nodiscard]] QVector<SeriesTarget> neededTargets(int video, const SeriesLength& length,
+    [[nodiscard]] FramePositions bestPositions(const FramePositions& wanted, qint64 durationMs,
+                                               QString& error);
+    [[nodiscard]] QVector<SeriesTarget> neededTargets(int video, const FramePositions& positions,
+                                                      const SeriesLength& length,
                                                       std::deque<Delivery>& failures) const;
     [[nodiscard]] bool open(int video, QString& error);
     void readThrough(SeriesLength& length);

@@ -72,7 +72,8 @@ public:
     virtual void announce(int video, const QVector<SeriesTarget>& targets);
 
     /// Whether a position is needed at all; asked before anything is decoded for it, from any
-    /// thread at any time, also at once with the other calls. Not asked for key frames and scenes.
+    /// thread at any time, also at once with the other calls. Not asked for key frames and scenes;
+    /// for best frames when they have been found.
     virtual bool needs(int video, const SeriesTarget& target);
 
     /// Before the first picture of a video that could be opened.

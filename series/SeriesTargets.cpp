@@ -101,6 +101,7 @@ QVector<SeriesTarget> targetsOf(const FramePositions& positions, const SeriesLen
         return listTargets(positions.list, length, missing);
     case FramePositions::Kind::KeyFrames:
     case FramePositions::Kind::Scenes:
+    case FramePositions::Kind::Best:
         break;
     }
     return {};

@@ -28,8 +28,9 @@ struct SeriesLength
     QVector<qint64> frameTimesMs = {};
 };
 
-/// The targets in rising order, none of them twice; none for KeyFrames and Scenes, which the video
-/// itself has to tell. Numbers of frames that there are not are left out and given in `missing`.
+/// The targets in rising order, none of them twice; none for KeyFrames, Scenes and Best, which the
+/// video itself has to tell. Numbers of frames that there are not are left out and given in
+/// `missing`.
 [[nodiscard]] QVector<SeriesTarget> targetsOf(const FramePositions& positions,
                                               const SeriesLength& length,
                                               std::vector<FramePosition>* missing = nullptr);

@@ -106,9 +106,11 @@ void Reader::readPositions()
               {"--at", !m_typed.at.empty()},
               {"--frames", !m_typed.frames.empty()},
               {"--keyframes", m_typed.keyFrames},
-              {"--scenes", m_typed.scenes.has_value()}});
+              {"--scenes", m_typed.scenes.has_value()},
+              {"--best", m_typed.best.has_value()}});
     m_options.choosesPositions = m_typed.count || m_typed.every || !m_typed.at.empty() ||
-                                 !m_typed.frames.empty() || m_typed.keyFrames || m_typed.scenes;
+                                 !m_typed.frames.empty() || m_typed.keyFrames || m_typed.scenes ||
+                                 m_typed.best;
     readKind();
     readLists();
     readSkips();
@@ -127,6 +129,9 @@ void Reader::readKind()
                  " is not a whole number of milliseconds from 1 on; write 5s or 40ms");
         }
         positions.everyMs = static_cast<std::int64_t>(ms);
+    } else if (m_typed.best) {
+        positions.kind = FramePositions::Kind::Best;
+        positions.count = number("--best", *m_typed.best, 1, highestCount);
     } else if (m_typed.keyFrames) {
         positions.kind = FramePositions::Kind::KeyFrames;
     } else if (m_typed.scenes) {

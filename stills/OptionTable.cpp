@@ -37,6 +37,11 @@ std::vector<OptionEntry> framesOptions()
          "The first frame of each scene. The threshold, above 0 and up to 1, says how different "
          "it has to be from the frame before; 0.3 unless you say otherwise.",
          "the first frame of each scene", Completes::Nothing, nullptr},
+        {section, "--best", "N", &T::best,
+         "The N best frames, well spread: in each of N equal parts the sharpest one that is not "
+         "black, not blurred by motion and not next to a cut. All frames are decoded to find "
+         "them. There may be fewer.",
+         nullptr, Completes::Nothing, nullptr},
         {section, "--skip-start", "TIME", &T::skipStart,
          "Leave out the start of each video: a time or a part of its length, such as 30s or 5%. "
          "Not together with --at and --frames.",

@@ -21,6 +21,7 @@ struct TypedOptions
     Values frames;
     bool keyFrames = false;
     Value scenes; ///< empty where it came without a value
+    Value best;
     Value skipStart;
     Value skipEnd;
 

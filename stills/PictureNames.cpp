@@ -17,6 +17,7 @@ bool asksForTimes(const FramePositions& positions)
     switch (positions.kind) {
     case FramePositions::Kind::Spread:
     case FramePositions::Kind::Every:
+    case FramePositions::Kind::Best:
         return true;
     case FramePositions::Kind::KeyFrames:
     case FramePositions::Kind::Scenes:

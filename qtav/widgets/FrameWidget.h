@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QRect>
+#include <QRectF>
 #include <QSize>
 
 #include <functional>
@@ -14,9 +15,21 @@ class FrameWidget
 public:
     virtual ~FrameWidget() = default;
 
-    /// Shows a picture from the next repaint on, in the proportions of a size; a null one for
-    /// black. One of another size than that at which it is shown is scaled in the quickest way.
-    virtual void setPicture(const QImage& picture, const QSize& proportions) = 0;
+    /// A picture of a frame, or of a part of it.
+    struct Picture
+    {
+        QImage image;
+        QSize proportions;               ///< of the whole frame
+        QRectF part{0.0, 0.0, 1.0, 1.0}; ///< of the frame that it shows, 0 to 1 both ways
+    };
+
+    /// Shows a picture from the next repaint on; a null one for black. One of another size than
+    /// that at which it is shown is scaled in the quickest way.
+    virtual void setPicture(const Picture& picture) = 0;
+
+    /// Shows the whole frame there from the next repaint on, in the screen's pixels; fitted for a
+    /// null rectangle.
+    void setPlace(const QRect& place);
 
     /// The format in which pictures can be shown without being converted; an opaque one.
     virtual QImage::Format pictureFormat() const = 0;
@@ -29,11 +42,18 @@ public:
 
 protected:
     void noteScreen(const QSize& screen);
+    /// Where a picture goes, in the screen's pixels; empty for one of nothing.
+    [[nodiscard]] QRect target(const Picture& picture) const;
+    virtual void repaintAll() = 0;
 
 private:
     std::function<void()> m_handleScreen;
     QSize m_screen;
+    QRect m_place; ///< null for fitted
 };
+
+/// The rectangle that a part of another one is, in whole pixels.
+[[nodiscard]] QRect partOf(const QRect& whole, const QRectF& part);
 
 /// Where a picture goes on a screen of the same unit: in the middle, as large as fits, with its own
 /// proportions. Empty when either is.

@@ -44,10 +44,9 @@ OpenGLWidget::~OpenGLWidget()
     releaseResources();
 }
 
-void OpenGLWidget::setPicture(const QImage& picture, const QSize& proportions)
+void OpenGLWidget::setPicture(const Picture& picture)
 {
     m_picture = picture;
-    m_proportions = proportions;
     m_isUploaded = false;
     update();
 }
@@ -85,23 +84,24 @@ void OpenGLWidget::releaseResources()
 void OpenGLWidget::upload()
 {
     m_isUploaded = true;
-    if (m_picture.isNull()) {
+    const QImage& image = m_picture.image;
+    if (image.isNull()) {
         m_texture.reset();
         return;
     }
-    const bool fits = m_texture && m_texture->width() == m_picture.width() &&
-                      m_texture->height() == m_picture.height();
+    const bool fits =
+        m_texture && m_texture->width() == image.width() && m_texture->height() == image.height();
     if (!fits) {
         m_texture = std::make_unique<QOpenGLTexture>(QOpenGLTexture::Target2D);
         m_texture->setFormat(QOpenGLTexture::RGBA8_UNorm);
-        m_texture->setSize(m_picture.width(), m_picture.height());
+        m_texture->setSize(image.width(), image.height());
         m_texture->setMipLevels(1);
         m_texture->setAutoMipMapGenerationEnabled(false);
         m_texture->allocateStorage(QOpenGLTexture::RGBA, QOpenGLTexture::UInt8);
         m_texture->setMinMagFilters(QOpenGLTexture::Linear, QOpenGLTexture::Linear);
         m_texture->setWrapMode(QOpenGLTexture::ClampToEdge);
     }
-    m_texture->setData(QOpenGLTexture::RGBA, QOpenGLTexture::UInt8, m_picture.constBits());
+    m_texture->setData(QOpenGLTexture::RGBA, QOpenGLTexture::UInt8, image.constBits());
 }
 
 void OpenGLWidget::resizeGL(int, int)
@@ -117,7 +117,7 @@ void OpenGLWidget::paintGL()
     if (!m_isUploaded)
         upload();
     noteScreen(size() * devicePixelRatioF());
-    const QRect place = letterboxed(m_proportions, screenSize());
+    const QRect place = target(m_picture);
     if (m_texture && m_program && m_program->isLinked() && !place.isEmpty())
         drawInto(place, screenSize());
 }

@@ -21,12 +21,13 @@ public:
     explicit OpenGLWidget(QWidget* parent = nullptr);
     ~OpenGLWidget() override;
 
-    void setPicture(const QImage& picture, const QSize& proportions) override;
+    void setPicture(const Picture& picture) override;
     /// Byte order R, G, B, X, which every OpenGL takes.
     QImage::Format pictureFormat() const override { return QImage::Format_RGBX8888; }
     QSize sizeHint() const override;
 
 protected:
+    void repaintAll() override { update(); }
     void initializeGL() override;
     void resizeGL(int width, int height) override;
     void paintGL() override;
@@ -36,8 +37,7 @@ private:
     void upload();
     void drawInto(const QRect& place, const QSize& whole);
 
-    QImage m_picture;
-    QSize m_proportions;
+    Picture m_picture;
     bool m_isUploaded = true;
     std::unique_ptr<QOpenGLTexture> m_texture;
     std::unique_ptr<QOpenGLShaderProgram> m_program;

@@ -1,14 +1,36 @@
 #include "qtav/widgets/PictureMaker.h"
 
+#include <QPainter>
+
 #include <utility>
 
 namespace QtAV {
 
 namespace {
 
+constexpr auto madeFormat = QImage::Format_ARGB32_Premultiplied;
+
+/// Enlarged so that each pixel of the frame stays a rectangle.
+QImage enlarged(const PictureMaker::Request& request)
+{
+    const QRect whole(QPoint(), request.frame.displaySize());
+    const QRect around = request.region.toAlignedRect().intersected(whole);
+    const QImage stored = request.frame.toImage(madeFormat, around.size(), around);
+    QImage image(request.size, madeFormat);
+    if (stored.isNull() || image.isNull())
+        return {};
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(QRectF(image.rect()), stored, request.region.translated(-around.topLeft()));
+    return image;
+}
+
 QImage make(const PictureMaker::Request& request)
 {
-    QImage image = request.frame.toImage(QImage::Format_ARGB32_Premultiplied, request.size);
+    const bool enlarges =
+        !request.region.isNull() && request.size.width() > request.region.width() + 0.5;
+    QImage image = enlarges ? enlarged(request)
+                            : request.frame.toImage(madeFormat, request.size, request.region);
     // What is multiplied by its alpha is what it looks like on black.
     image.reinterpretAsFormat(QImage::Format_RGB32);
     return std::move(image).convertToFormat(request.format);
@@ -63,7 +85,7 @@ void PictureMaker::run()
             return;
         const Request request = *std::exchange(m_request, std::nullopt);
         lock.unlock();
-        Picture picture{make(request), request.serial};
+        Picture picture{make(request), request.serial, request.frame.displaySize(), request.region};
         lock.lock();
         m_picture = std::move(picture);
         m_wake();

@@ -3,6 +3,7 @@
 #include <QtAV/VideoFrame.h>
 
 #include <QImage>
+#include <QRectF>
 #include <QSize>
 
 #include <condition_variable>
@@ -26,12 +27,15 @@ public:
         QSize size;            ///< of the picture in pixels, not empty
         QImage::Format format; ///< an opaque one
         quint64 serial;        ///< repeated by the picture
+        QRectF region = {};    ///< of the frame at displaySize(); null for all of it
     };
 
     struct Picture
     {
         QImage image; ///< transparent parts lie on black; null when memory ran out
         quint64 serial;
+        QSize frame = {};   ///< displaySize() of the frame
+        QRectF region = {}; ///< as it was requested
     };
 
     /// @param wake  called on the maker's thread when a picture can be taken. Must not call the

@@ -14,10 +14,9 @@ RasterWidget::RasterWidget(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void RasterWidget::setPicture(const QImage& picture, const QSize& proportions)
+void RasterWidget::setPicture(const Picture& picture)
 {
     m_picture = picture;
-    m_proportions = proportions;
     update();
 }
 
@@ -36,19 +35,20 @@ void RasterWidget::paintEvent(QPaintEvent*)
     const qreal ratio = devicePixelRatioF();
     noteScreen(size() * ratio);
     QPainter painter(this);
-    const QRect place = m_picture.isNull() ? QRect() : letterboxed(m_proportions, screenSize());
-    const QRectF target(QPointF(place.topLeft()) / ratio, QSizeF(place.size()) / ratio);
+    const QRect place = target(m_picture);
+    QImage& image = m_picture.image;
+    const QRectF area(QPointF(place.topLeft()) / ratio, QSizeF(place.size()) / ratio);
     // Only the border: filling what is painted over costs as much as painting it.
-    for (const QRect& border : QRegion(rect()) - QRegion(target.toRect().intersected(rect())))
+    for (const QRect& border : QRegion(rect()) - QRegion(area.toRect().intersected(rect())))
         painter.fillRect(border, Qt::black);
     if (place.isEmpty())
         return;
-    if (m_picture.size() == place.size()) {
-        m_picture.setDevicePixelRatio(ratio);
-        painter.drawImage(target.topLeft(), m_picture);
+    if (image.size() == place.size()) {
+        image.setDevicePixelRatio(ratio);
+        painter.drawImage(area.topLeft(), image);
     } else {
-        m_picture.setDevicePixelRatio(1.0);
-        painter.drawImage(target, m_picture);
+        image.setDevicePixelRatio(1.0);
+        painter.drawImage(area, image);
     }
 }
 

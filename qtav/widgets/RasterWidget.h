@@ -15,17 +15,17 @@ class RasterWidget : public QWidget, public FrameWidget
 public:
     explicit RasterWidget(QWidget* parent = nullptr);
 
-    void setPicture(const QImage& picture, const QSize& proportions) override;
+    void setPicture(const Picture& picture) override;
     QImage::Format pictureFormat() const override { return QImage::Format_RGB32; }
     QSize sizeHint() const override;
 
 protected:
+    void repaintAll() override { update(); }
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QImage m_picture;
-    QSize m_proportions;
+    Picture m_picture;
 };
 
 } // namespace QtAV

@@ -25,6 +25,17 @@ bool usesOpenGL(VideoOutput::Drawing drawing)
     return false;
 }
 
+/// The part of the frame that a picture is of, 0 to 1 both ways.
+QRectF partShown(const PictureMaker::Picture& picture)
+{
+    if (picture.region.isNull() || picture.frame.isEmpty())
+        return {0.0, 0.0, 1.0, 1.0};
+    const qreal width = picture.frame.width();
+    const qreal height = picture.frame.height();
+    return {picture.region.x() / width, picture.region.y() / height, picture.region.width() / width,
+            picture.region.height() / height};
+}
+
 QWidget* makeWidget(VideoOutput::Drawing drawing)
 {
     if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
@@ -48,8 +59,10 @@ public:
     /// Null when there is no widget.
     FrameWidget* shown() const { return dynamic_cast<FrameWidget*>(widget.data()); }
     void request();
+    void requestPart(const QSize& screen);
 
     QPointer<QWidget> widget;
+    QRect place; ///< of the whole picture; null for fitted
     VideoFrame frame;
     quint64 serial = 0;      ///< of the newest picture that was asked for
     quint64 firstSerial = 1; ///< of the first one after the screen was black
@@ -64,9 +77,27 @@ void VideoOutput::Private::request()
     if (!target || !frame.isValid())
         return;
     const QSize screen = widget->size() * widget->devicePixelRatioF();
-    const QRect place = letterboxed(frame.displaySize(), screen);
-    if (!place.isEmpty())
-        maker.request({frame, place.size(), target->pictureFormat(), ++serial});
+    if (!place.isNull()) {
+        requestPart(screen);
+        return;
+    }
+    const QRect fitted = letterboxed(frame.displaySize(), screen);
+    if (!fitted.isEmpty())
+        maker.request({frame, fitted.size(), target->pictureFormat(), ++serial});
+}
+
+/// What is seen of a picture that lies anywhere.
+void VideoOutput::Private::requestPart(const QSize& screen)
+{
+    const QRect seen = place.intersected(QRect(QPoint(), screen));
+    if (seen.isEmpty())
+        return;
+    const QSizeF whole = frame.displaySize();
+    const qreal across = whole.width() / place.width();
+    const qreal down = whole.height() / place.height();
+    const QRectF region((seen.x() - place.x()) * across, (seen.y() - place.y()) * down,
+                        seen.width() * across, seen.height() * down);
+    maker.request({frame, seen.size(), shown()->pictureFormat(), ++serial, region});
 }
 
 VideoOutput::VideoOutput(QObject* parent)
@@ -104,6 +135,17 @@ bool VideoOutput::isUpToDate() const
     return d->shownSerial == d->serial;
 }
 
+/// The picture that is there moves at once; the one made for the place follows.
+void VideoOutput::setPlace(const QRect& place)
+{
+    if (place == d->place)
+        return;
+    d->place = place;
+    if (FrameWidget* const shown = d->shown())
+        shown->setPlace(place);
+    d->request();
+}
+
 void VideoOutput::present(const VideoFrame& frame)
 {
     d->frame = frame;
@@ -115,7 +157,7 @@ void VideoOutput::present(const VideoFrame& frame)
     d->firstSerial = d->serial + 1;
     d->shownSerial = d->serial;
     if (FrameWidget* const shown = d->shown())
-        shown->setPicture(QImage(), QSize());
+        shown->setPicture({});
 }
 
 void VideoOutput::showPicture()
@@ -125,7 +167,7 @@ void VideoOutput::showPicture()
         return;
     d->shownSerial = picture->serial;
     if (FrameWidget* const shown = d->shown())
-        shown->setPicture(picture->image, d->frame.displaySize());
+        shown->setPicture({picture->image, picture->frame, partShown(*picture)});
 }
 
 } // namespace QtAV

@@ -20,6 +20,7 @@ class RunningInstanceTest : public QObject
 
 private Q_SLOTS:
     void files_reachTheOneThatListens();
+    void programWithoutFiles_isAnswered_too();
     void passingOn_fails_whenNobodyListens();
     void passingOn_fails_whenTheOtherRefuses();
     void second_doesNotListen_whileTheFirstDoes();
@@ -72,6 +73,20 @@ void RunningInstanceTest::files_reachTheOneThatListens()
         QStringLiteral("/a/long/path/to/a/file.mp4,").repeated(5000).split(QLatin1Char(','));
     QVERIFY(passOn(many, place));
     QCOMPARE(opened, many);
+}
+
+void RunningInstanceTest::programWithoutFiles_isAnswered_too()
+{
+    const TestDir dir;
+    const QString place = dir.filePath(QStringLiteral("s"));
+    QList<QStringList> asked;
+    RunningInstance instance([&asked](const QStringList& files) {
+        asked.append(files);
+        return true;
+    });
+    QVERIFY(instance.listen(place));
+    QVERIFY(passOn({}, place));
+    QCOMPARE(asked, QList<QStringList>{QStringList()});
 }
 
 void RunningInstanceTest::passingOn_fails_whenNobodyListens()

@@ -7,6 +7,7 @@ from tests.e2e.driver.frames import frame_number
 from tests.e2e.driver.waiting import wait_until
 
 # In the order of reading. Those of a role alone are known by what they hold.
+SNAPSHOT = ("list item", "in the filmstrip")
 STOPS = [
     ("push button", "Skip back a bit"),
     ("push button", "Step back one frame"),
@@ -14,6 +15,9 @@ STOPS = [
     ("push button", "Step forward one frame"),
     ("push button", "Skip forward a bit"),
     ("push button", "Volume Control"),
+    # With the keyboard in the filmstrip, its snapshot has it.
+    SNAPSHOT,
+    ("push button", "Save All"),
     ("push button", "Take Snapshot"),
     ("push button", "Original Size"),
     ("combo box", "Image profile"),
@@ -95,11 +99,15 @@ class KeyboardTest(MorvantileCase):
         control = self.program.focused()
         if control is None:
             return None
+        if control.role == SNAPSHOT[0]:
+            return SNAPSHOT
         is_named_by_content = control.role == "combo box"
         return control.role, control.description if is_named_by_content else control.name
 
     def is_there(self, stop):
         role, name = stop
+        if stop == SNAPSHOT:
+            return self.program.has(role)
         if role == "combo box":
             return self.program.has(role, description=name)
         return self.program.has(role, name)

@@ -32,14 +32,31 @@ class PlayingTest(MorvantileCase):
         self.wait_for_standstill(self.program)
 
     def test_click_on_the_video_pauses_and_plays(self):
-        self.open_long_video()
+        number = self.open_long_video()
         self.desktop.click(*self.program.open_button().middle)
-        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+        # Two clicks within less would be a double click, which zooms.
+        wait_until(lambda: (self.program.shown_frame() or 0) > number + 25, "it does not play")
         self.desktop.click(*self.program.open_button().middle)
         self.wait_for_standstill(self.program)
         # The keys stay the video's.
         self.desktop.key("space")
         wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+
+    def test_double_click_zooms_and_leaves_the_frame_alone(self):
+        number = self.open_long_video()
+        place = self.program.open_button().middle
+        before = self.program.position
+        for zooms in (True, False):
+            self.desktop.click(*place)
+            self.desktop.click(*place)
+            # In full size only a part of the number can be seen.
+            wait_until(
+                lambda: (self.program.shown_frame() is None) == zooms,
+                lambda: f"frame {self.program.shown_frame()} is to be seen",
+            )
+            wait_until(self.program.offers_to_play, "it goes on")
+            wait_until(lambda: self.program.position == before, "another frame is shown")
+        self.wait_for_frame(self.program, number)
 
     def test_step_keys_go_one_frame(self):
         number = self.open_long_video()

@@ -58,6 +58,9 @@ private slots:
     void tinyWidget_paintsWithoutHarm();
     void output_goesOn_withoutItsWidget();
     void openGL_drawsWhatRasterDraws();
+    void enlargedFrame_hasSharpPixels_inItsPlace();
+    void frameInFullSize_isShownPixelByPixel_inItsPlace();
+    void picture_movesAtOnce_whenItsPlaceDoes();
     void player_showsItsFrames_inTheWidget();
     void oldPicture_staysScaled_untilTheNewOneComes();
     void present_returnsAtOnce_andOnlyTheNewestFrameIsShown();
@@ -184,8 +187,10 @@ void VideoOutputTest::openGL_drawsWhatRasterDraws()
     VideoOutput output(VideoOutput::Drawing::OpenGL);
     QCOMPARE(QByteArray(output.widget()->metaObject()->className()), "QtAV::OpenGLWidget");
     VideoOutput raster(VideoOutput::Drawing::Raster);
-    for (const char* file : {"h264_bframes.mp4", "turned_90_anamorphic.mp4", "vp9_alpha.webm"}) {
+    for (const char* file :
+         {"h264_bframes.mp4", "turned_90_anamorphic.mp4", "vp9_alpha.webm", "h264_baseline.mp4"}) {
         const QtAV::VideoFrame frame = firstFrame(QString::fromLatin1(file));
+        const bool zooms = qstrcmp(file, "h264_baseline.mp4") == 0;
         const QSize size = frame.displaySize() + QSize(41, 0);
         QImage images[2];
         for (VideoOutput* each : {&output, &raster}) {
@@ -193,6 +198,8 @@ void VideoOutputTest::openGL_drawsWhatRasterDraws()
             each->widget()->show();
             QVERIFY(QTest::qWaitForWindowExposed(each->widget()));
             each->present(frame);
+            // Fitted, and then enlarged by three.
+            each->setPlace(zooms ? QRect(QPoint(-size.width(), -70), size * 3) : QRect());
             images[each == &raster] = shownBy(*each);
         }
         QCOMPARE(images[0].size(), images[1].size());
@@ -209,6 +216,51 @@ void VideoOutputTest::openGL_drawsWhatRasterDraws()
         output.present(QtAV::VideoFrame());
         QCOMPARE(shownBy(output).pixel(size.width() / 2, size.height() / 2), black);
     }
+}
+
+/// Each pixel of the frame is sixteen of the screen.
+void VideoOutputTest::enlargedFrame_hasSharpPixels_inItsPlace()
+{
+    const QtAV::VideoFrame frame = firstFrame(QStringLiteral("h264_bframes.mp4")); // 320 x 240
+    const QImage whole = frame.toImage(QImage::Format_RGB32);
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.widget()->resize(200, 100);
+    output.present(frame);
+    output.setPlace({-406, -202, 1280, 960});
+    const QImage image = shownBy(output);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            QCOMPARE(image.pixel(x, y), whole.pixel((x + 406) / 4, (y + 202) / 4));
+        }
+    }
+}
+
+void VideoOutputTest::frameInFullSize_isShownPixelByPixel_inItsPlace()
+{
+    const QtAV::VideoFrame frame = firstFrame(QStringLiteral("h264_bframes.mp4"));
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.widget()->resize(100, 80);
+    output.present(frame);
+    output.setPlace({-110, -80, 320, 240});
+    QCOMPARE(shownBy(output), frame.toImage(QImage::Format_RGB32).copy(110, 80, 100, 80));
+    // Back to the whole.
+    output.setPlace({});
+    QCOMPARE(testsupport::frameNumber(shownBy(output).copy(0, 2, 100, 75)).value_or(-1), 0);
+}
+
+void VideoOutputTest::picture_movesAtOnce_whenItsPlaceDoes()
+{
+    const QtAV::VideoFrame frame = firstFrame(QStringLiteral("h264_bframes.mp4"));
+    VideoOutput output(VideoOutput::Drawing::Raster);
+    output.widget()->resize(320, 240);
+    output.present(frame);
+    const QImage before = shownBy(output);
+    output.setPlace({40, 30, 320, 240});
+    // No event loop runs here, so that no picture can come.
+    const QImage moved = grabbed(*output.widget());
+    QVERIFY(!output.isUpToDate());
+    QCOMPARE(moved.copy(40, 30, 280, 210), before.copy(0, 0, 280, 210));
+    QCOMPARE(moved.pixel(39, 100), black);
 }
 
 void VideoOutputTest::player_showsItsFrames_inTheWidget()

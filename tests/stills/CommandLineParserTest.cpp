@@ -45,6 +45,7 @@ private Q_SLOTS:
     void videos_mayStandAnywhere();
     void everythingBehindTheMark_isAVideo();
     void optionalValues_areTaken_withAnEqualsSignOnly();
+    void best_takesANumber_andSkips();
     void positions_mayBeGiven_inSeveralOptions();
     void hyphen_isStandardOutput();
     void values_mayBeAttached();
@@ -95,6 +96,15 @@ void CommandLineParserTest::optionalValues_areTaken_withAnEqualsSignOnly()
     QVERIFY(optionsOf({"--sheet", "--with-pictures", "a"}).makesPictures);
     const Options titled = optionsOf({"--sheet", "--sheet-title=", "a"});
     QCOMPARE(*titled.sheet->title, std::string());
+}
+
+void CommandLineParserTest::best_takesANumber_andSkips()
+{
+    const Options options = optionsOf({"--best", "7", "--skip-start", "5s", "film.mkv"});
+    QVERIFY(options.positions.kind == FramePositions::Kind::Best);
+    QCOMPARE(options.positions.count, 7);
+    QCOMPARE(options.positions.front.value, 5000.0);
+    QVERIFY(options.choosesPositions);
 }
 
 void CommandLineParserTest::positions_mayBeGiven_inSeveralOptions()
@@ -152,6 +162,9 @@ void CommandLineParserTest::wrongUsage_isOneLine_thatNamesTheMistake_data()
     row("--count 5 --every 3 a", "--count and --every");
     row("--keyframes --scenes a", "--keyframes and --scenes");
     row("--at 5 --frames 3 a", "--at and --frames");
+    row("--best 5 --scenes a", "--scenes and --best");
+    row("--best 0 a", "'0'");
+    row("--best five a", "'five'");
     row("--at 5 --skip-start 3 a", "--skip-start");
     row("--skip-start 50% --skip-end 50% a", "--skip-start");
     row("--size 10 a", "1920x1080");

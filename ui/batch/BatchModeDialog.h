@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QDialog>
+#include <QHash>
 #include <QList>
 #include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
+#include <QVariantList>
+#include <QVector>
 
 #include <memory>
 
@@ -123,7 +126,10 @@ private:
     void showImageSum();
     [[nodiscard]] bool areFoldersUsable(const QList<BatchWorkerConfig*>& jobs);
     [[nodiscard]] bool isNumberWanted(const QList<BatchWorkerConfig*>& jobs);
-    void run(const QList<BatchWorkerConfig*>& jobs);
+    /// What a batch does with jobs of which something failed before.
+    enum class Extent { WholeJobs, WhatFailed };
+    void run(const QList<BatchWorkerConfig*>& jobs, Extent extent);
+    [[nodiscard]] QVector<qint64> positionsToRetry(const BatchWorkerConfig& job) const;
     void saveList(const QList<BatchWorkerConfig*>& unread = {}) const;
     void endList();
 
@@ -137,6 +143,13 @@ private:
     /// Shown in the list as long as it is empty.
     QLabel* m_emptyListHint = nullptr;
     QList<Field*> m_fields;
+    /// What is left to do of a job for which something failed, as long as it asks for the same.
+    struct Rest
+    {
+        QVector<qint64> positions; ///< in milliseconds; empty where they are not known
+        QVariantList settings;     ///< which say the positions of the whole job
+    };
+    QHash<const BatchWorkerConfig*, Rest> m_rests;
     /// True while the program fills the form, so that nothing of it is taken for the user's wish.
     bool m_isLoading = false;
     bool m_keepsList = false;

@@ -63,6 +63,14 @@ ImageSum sumOf(const QList<BatchWorkerConfig*>& jobs)
     return sum;
 }
 
+/// What the positions of a job follow from.
+QVariantList samplingOf(const BatchWorkerConfig& job)
+{
+    return {job.source(),       job.skipFront(),         job.skipBack(),
+            job.intervalType(), job.intervalImages(),    job.intervalMilliseconds(),
+            job.exactFrames(),  job.intervalSingleShot()};
+}
+
 } // namespace
 
 void BatchModeDialog::showImageSum()
@@ -114,7 +122,14 @@ bool BatchModeDialog::isNumberWanted(const QList<BatchWorkerConfig*>& jobs)
                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
-void BatchModeDialog::run(const QList<BatchWorkerConfig*>& jobs)
+/// Empty where all of the job is to be done again.
+QVector<qint64> BatchModeDialog::positionsToRetry(const BatchWorkerConfig& job) const
+{
+    const Rest rest = m_rests.value(&job);
+    return rest.settings == samplingOf(job) ? rest.positions : QVector<qint64>();
+}
+
+void BatchModeDialog::run(const QList<BatchWorkerConfig*>& jobs, Extent extent)
 {
     if (!isNumberWanted(jobs) || !areFoldersUsable(jobs)) {
         return;
@@ -122,10 +137,18 @@ void BatchModeDialog::run(const QList<BatchWorkerConfig*>& jobs)
     saveList();
     BatchProcessingDialog dialog(this);
     for (BatchWorkerConfig* const job : jobs) {
-        dialog.addWorkerWithConfig(job);
+        const QVector<qint64> positions =
+            extent == Extent::WhatFailed ? positionsToRetry(*job) : QVector<qint64>();
+        if (positions.isEmpty()) {
+            dialog.addWorkerWithConfig(job);
+        } else {
+            dialog.addWorkerForPositions(job, positions);
+        }
     }
     dialog.exec();
     for (BatchWorkerConfig* const job : jobs) {
+        m_rests.insert(job,
+                       {dialog.missedPositions(job).value_or(QVector<qint64>()), samplingOf(*job)});
         m_model->setFailure(job, dialog.report().causesOf(job).join(QLatin1Char('\n')));
     }
     // The workers may have corrected intervals.
@@ -134,12 +157,12 @@ void BatchModeDialog::run(const QList<BatchWorkerConfig*>& jobs)
 
 void BatchModeDialog::on_startButton_clicked()
 {
-    run(m_model->getConfigs());
+    run(m_model->getConfigs(), Extent::WholeJobs);
 }
 
 void BatchModeDialog::on_retryFailedButton_clicked()
 {
-    run(m_model->failedConfigs());
+    run(m_model->failedConfigs(), Extent::WhatFailed);
 }
 
 void BatchModeDialog::on_useForNewVideosButton_clicked()

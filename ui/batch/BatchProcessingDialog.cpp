@@ -40,6 +40,19 @@ BatchProcessingDialog::~BatchProcessingDialog() = default;
 
 void BatchProcessingDialog::addWorkerWithConfig(BatchWorkerConfig* config)
 {
+    m_thread->addWorker(addWorker(config));
+}
+
+void BatchProcessingDialog::addWorkerForPositions(BatchWorkerConfig* config,
+                                                  const QVector<qint64>& positions)
+{
+    BatchWorker* const worker = addWorker(config);
+    worker->setPositions(positions);
+    m_thread->addWorker(worker);
+}
+
+BatchWorker* BatchProcessingDialog::addWorker(BatchWorkerConfig* config)
+{
     auto* const worker = new BatchWorker(this);
     worker->setConfig(config);
     worker->setRoomQuestion([this](const WriteFailure& failure) { return askForRoom(failure); });
@@ -48,7 +61,22 @@ void BatchProcessingDialog::addWorkerWithConfig(BatchWorkerConfig* config)
     // A job says what it does only when it has its first frame, which may take a while.
     connect(worker, &BatchWorker::progressUpdate, this,
             [this](BatchWorker* running) { showCurrentVideo(*running); });
-    m_thread->addWorker(worker);
+    connect(worker, &BatchWorker::jobDone, this, [this](BatchWorker* done) { noteMissed(*done); });
+    return worker;
+}
+
+void BatchProcessingDialog::noteMissed(const BatchWorker& worker)
+{
+    const std::optional<QVector<qint64>> missed = worker.missedPositions();
+    if (missed) {
+        m_missed.insert(worker.config(), *missed);
+    }
+}
+
+std::optional<QVector<qint64>> BatchProcessingDialog::missedPositions(BatchWorkerConfig* job) const
+{
+    const auto found = m_missed.constFind(job);
+    return found == m_missed.cend() ? std::nullopt : std::optional<QVector<qint64>>(*found);
 }
 
 int BatchProcessingDialog::exec()
@@ -165,6 +193,11 @@ void BatchProcessingDialog::threadDone()
     // The signal is the thread's last act but not yet its end, after which the button goes.
     m_thread->wait();
     updateDoneButton();
+    // One that was interrupted has not said that it is done, but is still there.
+    const auto left = m_thread->findChildren<BatchWorker*>();
+    for (const BatchWorker* const worker : left) {
+        noteMissed(*worker);
+    }
     const QString outcome = m_report.outcome(savedImages(), m_thread->isInterruptionRequested());
     logMessage(outcome, nullptr);
     m_ui->currentVideoLabel->clear();

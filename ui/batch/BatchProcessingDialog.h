@@ -6,8 +6,10 @@
 #include <QDialog>
 #include <QHash>
 #include <QString>
+#include <QVector>
 
 #include <memory>
+#include <optional>
 
 class BatchThread;
 class BatchWorkerConfig;
@@ -35,6 +37,8 @@ public:
 
     /// Adds a job, before exec(). The job is not owned and must outlive the dialog.
     void addWorkerWithConfig(BatchWorkerConfig* config);
+    /// The same for these positions alone, in milliseconds and rising order.
+    void addWorkerForPositions(BatchWorkerConfig* config, const QVector<qint64>& positions);
 
     /// Shows the dialog, runs the jobs in the order in which they were added, and returns when the
     /// user has closed the dialog. Once for each dialog.
@@ -45,6 +49,10 @@ public:
 
     /// What became of the batch so far.
     const BatchReport& report() const { return m_report; }
+
+    /// The positions of a job, in milliseconds, of which there is no image; nothing where that is
+    /// not known. When exec() has returned.
+    [[nodiscard]] std::optional<QVector<qint64>> missedPositions(BatchWorkerConfig* job) const;
 
     /// Asks the user whether to cancel the batch.
     [[nodiscard]] bool confirmAbort();
@@ -72,6 +80,8 @@ private Q_SLOTS:
     void threadDone();
 
 private:
+    [[nodiscard]] BatchWorker* addWorker(BatchWorkerConfig* config);
+    void noteMissed(const BatchWorker& worker);
     void showCurrentVideo(const BatchWorker& worker);
     void updateDoneButton();
     void logFailure(BatchWorkerConfig* job, const QString& message);
@@ -85,4 +95,5 @@ private:
     QList<int> m_causeBlocks;
     /// Of the workers that have told of images. They may be gone.
     QHash<const BatchWorker*, int> m_images;
+    QHash<BatchWorkerConfig*, QVector<qint64>> m_missed; ///< of the jobs of which it is known
 };

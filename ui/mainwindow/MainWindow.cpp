@@ -54,6 +54,10 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     GroupBoxMargins::apply(*this);
     shareSpaceKey();
     updateWindowTitle();
+    setupFilmstrip();
+    setupRecentFiles();
+    setupBestFrames();
+    setupZoom();
     setupPlayer(makeVideoOutput);
     updatePlayButton();
 }
@@ -111,6 +115,7 @@ void MainWindow::connectPlayer()
     connect(m_player, &AVPlayer::positionChanged, this, &MainWindow::positionChanged);
     // The frame at the place sought may be the one that was on screen, and lie beside it.
     connect(m_player, &AVPlayer::seekFinished, this, updateSliderNow);
+    connect(m_player, &AVPlayer::seekFinished, this, &MainWindow::takeWhenShown);
     connect(m_player, &AVPlayer::notifyIntervalChanged, this, &MainWindow::updateSliderUnit);
     connect(m_player, &AVPlayer::stateChanged, this, &MainWindow::updatePlayButton);
     connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::updatePlayButton);

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "imaging/CapturedPicture.h"
 #include "imaging/FilePublisher.h"
 #include "imaging/ImageRecipe.h"
 #include "imaging/PictureSource.h"
 #include "ui/mainwindow/CaptureTickets.h"
-
-#include <QtAV/VideoFrame.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,15 +14,22 @@
 #include <QPointer>
 #include <QSettings>
 #include <QString>
+#include <QVector>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
+class BestFramesDialog;
 class FileNameProfile;
+class Filmstrip;
 class ImageProfile;
 class QFileDialog;
+class QMenu;
 class QPushButton;
+class SnapshotSaver;
 class VolumePopup;
+class ZoomGestures;
 
 namespace QtAV {
 class AVPlayer;
@@ -40,12 +46,13 @@ class MainWindow;
 /// Its sources are split by topic: construction in MainWindow.cpp, videos from outside and ending
 /// in MainWindow_files.cpp, what is remembered in MainWindow_memory.cpp, the player in
 /// MainWindow_player.cpp, the snapshot in
-/// MainWindow_snapshot.cpp and what is told of it in MainWindow_summary.cpp, the menus in
-/// MainWindow_menus.cpp.
+/// MainWindow_snapshot.cpp and what is told of it in MainWindow_summary.cpp, those that were taken
+/// before in MainWindow_filmstrip.cpp, the menus in MainWindow_menus.cpp.
 ///
 /// Settings: "lastOpenDir", the folder that the save dialog starts in, and "lastSaveDir" in place
 /// of it where the user saved elsewhere; "outputFolder" of the automatic names,
-/// "automaticFileName", "windowGeometry", "splitterState". User-interface thread only.
+/// "automaticFileName", "recentFiles", "windowGeometry", "splitterState". User-interface thread
+/// only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -100,7 +107,38 @@ public:
     /// it is shown, and before a video is opened.
     void restoreLayout();
 
+    /// Brings back the unsaved snapshots of the window before, and keeps those of this one in the
+    /// folder from now on. Once. A window that does not do so asks about each at its end.
+    void keepSnapshots(const QString& folder);
+
+    /// Where in the open video snapshots were taken that are in the filmstrip: milliseconds, in
+    /// rising order, each once.
+    [[nodiscard]] QVector<qint64> snapshotTimes() const;
+
+    /// The desktop's session ends, or the system asks the program to: keeps all that can be kept,
+    /// and waits until that is written.
+    /// @param mayAsk  about what cannot be kept
+    /// @return false where the user wants to stay
+    [[nodiscard]] bool prepareForSessionEnd(bool mayAsk);
+
+Q_SIGNALS:
+    /// snapshotTimes() is another one.
+    void snapshotTimesChanged(const QVector<qint64>& ms);
+
 public Q_SLOTS:
+    /// Proposes the best frames of a stretch of the open video: those at `fromMs` or later and
+    /// before `toMs`.
+    void proposeBestFrames(qint64 fromMs, qint64 toMs);
+    /// The same a second before and behind the frame on screen.
+    void proposeBestFramesHere();
+
+    /// Fits the video into its pane, shows it in full size (a pixel of the video is one of the
+    /// screen) or four times that.
+    void fitVideo();
+    void showActualSize();
+    void showFourfold();
+    /// Full size, or fitted where it is in full size.
+    void toggleActualSize();
     // The player.
     /// Plays and pauses the video that is shown; where there is none, asks for one.
     void openVideoLabelClicked();
@@ -169,13 +207,17 @@ public Q_SLOTS:
 
     /// Ends the application, without a question.
     void confirmQuit();
+    /// Ends the application without a question, once what can be kept is written.
+    void quitWhenKept();
     /// Opens what another program passed on, when a snapshot that is not saved may go.
     void openFromOutside(const QString& path);
     void retakeFocusAfterDialog();
+    /// Shows the window above all others, also where it was minimised.
+    void comeToFront();
 
 protected:
     bool event(QEvent* event) override;
-    /// Asks about a snapshot that was not saved; then ends the application.
+    /// Asks about what would be lost; then ends the application.
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -195,6 +237,7 @@ private:
     void followImageProfile();
     void shareSpaceKey();
     void quit();
+    void endWhenSafe();
     void saveLayout();
     void setupShowInFolder();
     void offerToShowSavedFile();
@@ -213,6 +256,33 @@ private:
     [[nodiscard]] bool isVideoShown() const;
 
     [[nodiscard]] bool maySnapshotGo();
+    [[nodiscard]] bool isSnapshotAtRisk() const;
+    [[nodiscard]] int snapshotsAtRisk() const;
+    [[nodiscard]] bool mayAllGo();
+    [[nodiscard]] int askAboutSnapshots(int count);
+
+    void setupRecentFiles();
+    void fillRecentMenu();
+    void noteRecentFile(const QString& path);
+    void setupZoom();
+    void followZoom();
+    void noteVideoSize();
+    void setupBestFrames();
+    void takeSnapshotAt(qint64 ms);
+    void takeWhenShown();
+
+    void setupFilmstrip();
+    void addToFilmstrip();
+    void returnToSnapshot(const QString& id);
+    void returnToFrame(const PictureSource& source);
+    void showKeptSnapshot(const QString& id, const CapturedPicture& picture);
+    void followShownSnapshot();
+    void noteProfileOfSnapshot();
+    void tellSnapshotTimes();
+    void saveSnapshots(const QStringList& ids);
+    void reportSavedSnapshots(int saved, int failed, const QString& lastFile);
+    [[nodiscard]] QString folderForSnapshots();
+
     void capture();
     [[nodiscard]] QString makeSnapshot(ImageProfile* profile);
     void warnOfCapture(const QString& reason);
@@ -236,10 +306,24 @@ private:
     bool m_isSnapshotKept = true;
     /// What m_snapshotImage was made by.
     ImageRecipe m_snapshotRecipe;
-    /// As captured.
-    QImage m_fullFrameImage;
-    QtAV::VideoFrame m_capturedFrame; ///< of m_fullFrameImage
-    PictureSource m_capturedSource;   ///< likewise
+    /// What m_snapshotImage was made of.
+    CapturedPicture m_captured;
+    Filmstrip* m_filmstrip = nullptr;         ///< made first
+    SnapshotSaver* m_snapshotSaver = nullptr; ///< likewise
+    QString m_shownSnapshot;                  ///< its name in the filmstrip; empty for none there
+    QString m_wantedSnapshot;                 ///< to be shown when it has been read
+    QVector<qint64> m_toldSnapshotTimes;
+    QMenu* m_recentMenu = nullptr;            ///< made first
+    ZoomGestures* m_videoZoom = nullptr;      ///< likewise
+    BestFramesDialog* m_bestFrames = nullptr; ///< likewise
+    QAction* m_bestFramesAction = nullptr;    ///< likewise
+    std::optional<qint64> m_takenWhenShown;   ///< a snapshot is taken as soon as this one is
+    /// Where the video stood, and whether it played, when a click began: a double click is to leave
+    /// both alone.
+    qint64 m_pressedAtMs = 0;
+    bool m_playedWhenPressed = false;
+    bool m_isEnding = false;    ///< as soon as all is written
+    bool m_endsUnasked = false; ///< likewise
     /// The file and the time of the last capture, for messages.
     QString m_capturedPlace;
     QString m_currentVideoPath;

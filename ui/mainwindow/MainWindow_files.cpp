@@ -2,34 +2,38 @@
 
 #include "ui/mainwindow/MainWindow.h"
 
+#include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/DroppedVideo.h"
 #include "ui/mainwindow/FileManager.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/VideoOutput.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
 #include <QStatusBar>
 
-/// Asks about a snapshot that was neither saved nor copied. False where it must stay.
+namespace {
+
+/// What is written when the session ends; then it ends all the same.
+constexpr qint64 longestWaitMs = 10000;
+
+} // namespace
+
+/// Asks about a snapshot that would be lost with its video. False where it must stay.
 bool MainWindow::maySnapshotGo()
 {
-    if (m_isSnapshotKept) {
+    if (!isSnapshotAtRisk()) {
         return true;
     }
-    pause();
-    QMessageBox box(QMessageBox::Question, tr("Unsaved Snapshot"),
-                    tr("The snapshot has not been saved."),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    box.setInformativeText(tr("It will be lost unless you save it."));
-    box.setDefaultButton(QMessageBox::Save);
-    switch (box.exec()) {
+    switch (askAboutSnapshots(1)) {
     case QMessageBox::Save:
         saveButtonPressed();
         return m_isSnapshotKept;
@@ -37,6 +41,56 @@ bool MainWindow::maySnapshotGo()
         return true;
     default:
         return false;
+    }
+}
+
+/// Asks about all snapshots that the end would lose. False where it must wait.
+bool MainWindow::mayAllGo()
+{
+    const int count = snapshotsAtRisk();
+    if (count == 0) {
+        return true;
+    }
+    const bool isShownOne = count == 1 && !m_isSnapshotKept;
+    switch (askAboutSnapshots(count)) {
+    case QMessageBox::Save:
+        if (isShownOne || isSnapshotAtRisk()) {
+            saveButtonPressed();
+        }
+        if (isShownOne || isSnapshotAtRisk()) {
+            return m_isSnapshotKept;
+        }
+        // The end comes when these are written, or there is another question.
+        m_isEnding = true;
+        saveSnapshots(m_filmstrip->shelf().unsaved());
+        return false;
+    case QMessageBox::Discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+int MainWindow::askAboutSnapshots(int count)
+{
+    pause();
+    QMessageBox box(QMessageBox::Question, tr("Unsaved Snapshot"),
+                    count == 1 ? tr("The snapshot has not been saved.")
+                               : tr("%1 snapshots have not been saved.").arg(count),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    box.setInformativeText(count == 1 ? tr("It will be lost unless you save it.")
+                                      : tr("They will be lost unless you save them."));
+    box.setDefaultButton(QMessageBox::Save);
+    return box.exec();
+}
+
+void MainWindow::comeToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    retakeFocusAfterDialog();
+    if (QWidget* const dialog = QApplication::activeModalWidget()) {
+        dialog->raise();
+        dialog->activateWindow();
     }
 }
 
@@ -65,7 +119,7 @@ void MainWindow::dropEvent(QDropEvent* event)
     // Never a move: the program where the file comes from would delete it.
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    if (m_isSnapshotKept) {
+    if (!isSnapshotAtRisk()) {
         openFromOutside(path);
         return;
     }
@@ -76,9 +130,7 @@ void MainWindow::dropEvent(QDropEvent* event)
 
 void MainWindow::on_actionExit_triggered()
 {
-    if (maySnapshotGo()) {
-        quit();
-    }
+    endWhenSafe();
 }
 
 void MainWindow::confirmQuit()
@@ -89,9 +141,38 @@ void MainWindow::confirmQuit()
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->ignore();
-    if (maySnapshotGo()) {
+    endWhenSafe();
+}
+
+/// What is being written is waited for; the window stays alive meanwhile.
+void MainWindow::endWhenSafe()
+{
+    if (!m_filmstrip->shelf().isSettled()) {
+        m_isEnding = true;
+        statusBar()->showMessage(tr("Waiting until snapshots are written\u2026"));
+        return;
+    }
+    m_isEnding = false;
+    if (m_endsUnasked || mayAllGo()) {
         quit();
     }
+}
+
+void MainWindow::quitWhenKept()
+{
+    m_endsUnasked = true;
+    endWhenSafe();
+}
+
+bool MainWindow::prepareForSessionEnd(bool mayAsk)
+{
+    saveLayout();
+    QElapsedTimer waited;
+    waited.start();
+    while (!m_filmstrip->shelf().isSettled() && !waited.hasExpired(longestWaitMs)) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 50);
+    }
+    return !mayAsk || mayAllGo();
 }
 
 void MainWindow::quit()

@@ -36,7 +36,7 @@ void MainWindow::on_editImageProfileButton_clicked()
     dialog.setPreview([this](ImageProfile* edited) { imageProfileUpdated(edited); });
     const QtAV::Statistics& video = m_player->statistics();
     dialog.setVideoDimensions(video.video_only.width, video.video_only.height);
-    dialog.setExampleImage(m_fullFrameImage);
+    dialog.setExampleImage(m_captured.image);
     dialog.setSelectedProfile(m_imageProfile);
     dialog.exec();
     adopt(*ImageProfile::profileManager(), dialog.selectedProfile());
@@ -77,15 +77,14 @@ void MainWindow::on_actionImage_Filters_Test_triggered()
 {
     pause();
     ImageFiltersDialog dialog(this);
-    dialog.setFrame(m_fullFrameImage.isNull() ? m_player->displayedFrame().toImage()
-                                              : m_fullFrameImage);
+    dialog.setFrame(m_captured.image.isNull() ? m_player->displayedFrame().toImage()
+                                              : m_captured.image);
     dialog.setProfile(m_imageProfile);
     dialog.exec();
     imageProfileUpdated(m_imageProfile);
     retakeFocusAfterDialog();
 }
 
-/// The menu shows and changes what the selected image profile says.
 /// The menus that show and change the selected image profile.
 void MainWindow::setupProfileMenus()
 {
@@ -125,6 +124,7 @@ void MainWindow::chooseHdr(int hdr)
 /// Has the player and the menus follow the selected image profile.
 void MainWindow::followImageProfile()
 {
+    noteProfileOfSnapshot();
     const QString name = m_imageProfile->deinterlacing();
     const QtAV::Deinterlacing deinterlacing = QtAV::deinterlacingNamed(name);
     m_player->setDeinterlacing(deinterlacing);

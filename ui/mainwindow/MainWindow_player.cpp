@@ -1,7 +1,9 @@
 #include "ui/mainwindow/MainWindow.h"
 
+#include "ui/mainwindow/BestFramesDialog.h"
 #include "ui/widgets/SmartFileDialog.h"
 #include "ui/widgets/VolumePopup.h"
+#include "ui/widgets/ZoomGestures.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
@@ -76,6 +78,7 @@ void MainWindow::setVideoControlsEnabled(bool on)
 {
     m_ui->actionTake_Snapshot->setEnabled(on);
     m_ui->snapshotButton->setEnabled(on);
+    m_bestFramesAction->setEnabled(on);
     m_ui->videoSlider->setEnabled(on);
     m_ui->videoControlsFrame->setEnabled(on);
     const QList<QAction*> actions = m_ui->menuVideoControls->actions();
@@ -137,6 +140,7 @@ void MainWindow::openVideo(QString path)
     followVideoFolder(video);
     showOutputFolder(video);
     noteOpenFolder(video);
+    noteRecentFile(path);
     hideOpenButton();
     // The keys are the video's, and no button asks for them.
     m_ui->videoFrame->setFocus();
@@ -146,6 +150,7 @@ void MainWindow::openVideo(QString path)
     updateWindowTitle();
     updatePlayButton();
     updateSliderUnit();
+    tellSnapshotTimes();
     noticeMediaStatus();
 }
 
@@ -177,10 +182,14 @@ void MainWindow::closeVideo()
     m_player->setFile(QString());
     m_currentVideoPath.clear();
     m_captures.forgetAll();
+    m_bestFrames->reset();
+    m_videoZoom->fit();
+    m_takenWhenShown.reset();
     updateWindowTitle();
     setVideoControlsEnabled(false);
     setSnapshotControlsEnabled(false);
     resetSnapshot();
+    tellSnapshotTimes();
     statusBar()->clearMessage();
     showOpenButton(tr("Click to open video"));
 }
@@ -295,6 +304,7 @@ void MainWindow::positionChanged(qint64 position)
 {
     Q_UNUSED(position)
     m_ui->positionLabel->setText(timeText(m_player->displayPosition()));
+    noteVideoSize();
     updateSlider();
 }
 

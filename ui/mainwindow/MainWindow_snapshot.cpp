@@ -1,12 +1,12 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include "imaging/FilePublisher.h"
-#include "imaging/FramePicture.h"
 #include "imaging/ImageProcessingManager.h"
 #include "imaging/Rendering.h"
 #include "profiles/FileNameProfile.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/SavePath.h"
 #include "ui_MainWindow.h"
 
@@ -64,6 +64,9 @@ void MainWindow::on_actionTake_Snapshot_triggered()
 
 void MainWindow::capture()
 {
+    if (!maySnapshotGo()) {
+        return;
+    }
     m_captures.ask();
     m_capturedPlace = isVideoLoaded()
                           ? tr("%1 at %2").arg(currentVideoFileName(), m_ui->positionLabel->text())
@@ -76,11 +79,13 @@ void MainWindow::snapshotCaptured(const QImage& image)
     if (!m_captures.answer()) {
         return;
     }
-    m_fullFrameImage = image.copy();
-    m_capturedFrame = m_player->videoCapture()->capturedFrame();
-    m_capturedSource = sourceOfCapture(image);
+    m_captured = CapturedPicture();
+    m_captured.image = image.copy();
+    m_captured.frame = m_player->videoCapture()->capturedFrame();
+    m_captured.source = sourceOfCapture(image);
     const QString error = makeSnapshot(nullptr);
     m_isSnapshotKept = m_snapshotImage.isNull();
+    addToFilmstrip();
     // Without a snapshot as well: the profile may be to blame, and is edited there.
     setSnapshotControlsEnabled(true);
     if (!error.isEmpty()) {
@@ -97,7 +102,7 @@ PictureSource MainWindow::sourceOfCapture(const QImage& image) const
     const QtAV::MediaFacts facts = m_player->facts();
     const PictureSource video =
         PictureSource::of(m_player->file(), facts.tags, facts.tickNumerator, facts.tickDenominator);
-    return video.at(m_capturedFrame.timestamp(), image.size());
+    return video.at(m_captured.frame.timestamp(), image.size());
 }
 
 void MainWindow::onCaptureError()
@@ -125,7 +130,7 @@ void MainWindow::warnOfCapture(const QString& reason)
 void MainWindow::processFullFrameImage(ImageProfile* profile)
 {
     const QString error = makeSnapshot(profile);
-    if (!error.isEmpty() && !m_fullFrameImage.isNull()) {
+    if (!error.isEmpty() && !m_captured.image.isNull()) {
         statusBar()->showMessage(tr("No image of %1: %2").arg(m_capturedPlace, error), messageMs);
     }
 }
@@ -134,7 +139,7 @@ void MainWindow::processFullFrameImage(ImageProfile* profile)
 QString MainWindow::makeSnapshot(ImageProfile* profile)
 {
     m_snapshotRecipe = recipes::of(profile == nullptr ? *m_imageProfile : *profile);
-    const imaging::Rendering made = imaging::render(m_fullFrameImage, m_snapshotRecipe);
+    const imaging::Rendering made = imaging::render(m_captured.image, m_snapshotRecipe);
     m_snapshotImage = made.image;
     m_ui->snapshotImageView->setImage(m_snapshotImage);
     showSnapshotSummary();
@@ -143,18 +148,19 @@ QString MainWindow::makeSnapshot(ImageProfile* profile)
 
 void MainWindow::imageProfileUpdated(ImageProfile* profile)
 {
-    if (!m_fullFrameImage.isNull()) {
+    if (!m_captured.image.isNull()) {
         processFullFrameImage(profile);
     }
 }
 
 void MainWindow::resetSnapshot()
 {
-    m_fullFrameImage = QImage();
+    m_captured = CapturedPicture();
     m_snapshotImage = QImage();
-    m_capturedFrame = QtAV::VideoFrame();
-    m_capturedSource = PictureSource();
     m_isSnapshotKept = true;
+    m_shownSnapshot.clear();
+    m_wantedSnapshot.clear();
+    m_filmstrip->setCurrent({});
     m_ui->snapshotImageView->setImage(m_snapshotImage);
     showSnapshotSummary();
 }
@@ -196,13 +202,12 @@ WriteResult MainWindow::writeSnapshot(const QString& path, ExistingFile existing
     recipe.keepsHdr = chosen.keepsHdr;
     recipe = forType(recipe, QFileInfo(path).suffix());
     // The file may hold more than the screen.
-    const QImage image =
-        imaging::wantsMore(m_capturedFrame, recipe)
-            ? imaging::render(imaging::pictureOf(m_capturedFrame, recipe), recipe).image
-            : m_snapshotImage;
+    const QImage image = imaging::wantsMore(m_captured, recipe)
+                             ? imaging::render(imaging::pictureOf(m_captured, recipe), recipe).image
+                             : m_snapshotImage;
     FilePublisher::sweep(QFileInfo(path).absolutePath());
-    return imaging::save(path, image, recipe, m_fileNameProfile->fileOutputType(), m_capturedSource,
-                         existing);
+    return imaging::save(path, image, recipe, m_fileNameProfile->fileOutputType(),
+                         m_captured.source, existing);
 }
 
 bool MainWindow::saveSnapshot(QString path)
@@ -226,6 +231,7 @@ void MainWindow::reportSaving(const QString& path, bool success)
     m_isSnapshotKept = m_isSnapshotKept || success;
     const QString shownPath = QDir::toNativeSeparators(path);
     if (success) {
+        m_filmstrip->shelf().markSaved(m_shownSnapshot);
         m_lastSavedFile = QFileInfo(path).absoluteFilePath();
         offerToShowSavedFile();
     }
@@ -376,8 +382,8 @@ void MainWindow::on_actionCopy_Snapshot_triggered()
 
 void MainWindow::on_actionCopy_Full_Frame_triggered()
 {
-    if (!m_fullFrameImage.isNull()) {
-        ImageProcessingManager::instance()->setToClipboard(m_fullFrameImage.copy());
+    if (!m_captured.image.isNull()) {
+        ImageProcessingManager::instance()->setToClipboard(m_captured.image.copy());
         m_isSnapshotKept = true;
     }
 }

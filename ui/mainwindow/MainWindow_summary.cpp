@@ -46,11 +46,11 @@ QString MainWindow::typeToSave() const
 void MainWindow::showSnapshotSummary()
 {
     const bool isShown = !m_snapshotImage.isNull();
-    const bool hasOtherSize = m_snapshotImage.size() != m_fullFrameImage.size();
+    const bool hasOtherSize = m_snapshotImage.size() != m_captured.image.size();
     // Its place stays, so that the picture above keeps its size.
     m_ui->originalSizeButton->setEnabled(isShown && hasOtherSize);
     m_ui->snapshotSummaryLabel->setText(
-        isShown ? SnapshotSummary::text(m_snapshotImage.size(), m_fullFrameImage.size(),
+        isShown ? SnapshotSummary::text(m_snapshotImage.size(), m_captured.image.size(),
                                         typeToSave(), m_snapshotRecipe)
                 : QString());
 }

@@ -1,15 +1,24 @@
 #include "ui/widgets/ImageView.h"
 
+#include "ui/widgets/ZoomGestures.h"
+
 #include <QPainter>
 
 ImageView::ImageView(QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
-{}
+    , m_zoom(new ZoomGestures(*this))
+{
+    connect(m_zoom, &ZoomGestures::changed, this, [this] { update(); });
+}
 
 void ImageView::setImage(const QImage& image)
 {
+    if (image.size() != m_image.size()) {
+        m_zoom->fit();
+    }
     m_image = image;
     m_smallImage = QImage();
+    m_zoom->setPicture(image.size());
     update();
 }
 
@@ -18,20 +27,33 @@ void ImageView::paintEvent(QPaintEvent* /*event*/)
     if (m_image.isNull()) {
         return;
     }
-    const QRect target = targetRect();
     QPainter painter(this);
+    const double ratio = devicePixelRatioF();
+    const QRect place = m_zoom->zoom().place();
+    if (!m_zoom->zoom().isFitted()) {
+        painter.scale(1.0 / ratio, 1.0 / ratio);
+        paintZoomed(painter, place);
+        return;
+    }
+    // Fitted in whole points, so that the edges are sharp.
+    const QSize size = m_image.size().scaled(this->size(), Qt::KeepAspectRatio);
+    const QRect target(QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QImage& image = imageFor(target.size() * devicePixelRatioF());
-    painter.drawImage(QRectF(target), image, QRectF(image.rect()));
+    const QImage& fitted = imageFor(target.size() * ratio);
+    painter.drawImage(QRectF(target), fitted, QRectF(fitted.rect()));
 }
 
-/// Where the image goes, in the widget's coordinates; empty where a very flat or narrow image has
-/// no whole pixel.
-QRect ImageView::targetRect() const
+/// In the screen's pixels.
+void ImageView::paintZoomed(QPainter& painter, const QRect& place)
 {
-    const QSize frame = frameSize();
-    const QSize size = m_image.size().scaled(frame, Qt::KeepAspectRatio);
-    return {QPoint((frame.width() - size.width()) / 2, (frame.height() - size.height()) / 2), size};
+    const QImage& image = imageFor(place.size());
+    const QRectF visible =
+        QRectF(place).intersected(QRectF(QPointF(), QSizeF(size()) * devicePixelRatioF()));
+    const double across = static_cast<double>(image.width()) / place.width();
+    const double down = static_cast<double>(image.height()) / place.height();
+    const QRectF source((visible.x() - place.x()) * across, (visible.y() - place.y()) * down,
+                        visible.width() * across, visible.height() * down);
+    painter.drawImage(visible, image, source);
 }
 
 /// The image to draw into so many pixels of the screen.

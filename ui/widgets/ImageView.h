@@ -3,7 +3,11 @@
 #include <QImage>
 #include <QWidget>
 
-/// Shows one image as large as fits, centred, in its own proportions.
+class QPainter;
+class ZoomGestures;
+
+/// Shows one image as large as fits, centred, in its own proportions; the mouse zooms it, see
+/// ZoomGestures. Above its full size its pixels are sharp, below that it is smooth.
 ///
 /// Around the picture, and where there is none, the parent's background shows. User-interface
 /// thread only.
@@ -14,16 +18,21 @@ class ImageView : public QWidget
 public:
     explicit ImageView(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
 
-    /// Shows the image from the next repaint on; a null image shows nothing.
+    /// Shows the image from the next repaint on; a null image shows nothing. One of the size of the
+    /// last one keeps its zoom, else it is fitted.
     void setImage(const QImage& image);
+
+    /// How the image lies, and the way to change that. Owned by the view.
+    [[nodiscard]] ZoomGestures& zoom() { return *m_zoom; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QRect targetRect() const;
     const QImage& imageFor(QSize pixels);
+    void paintZoomed(QPainter& painter, const QRect& place);
 
+    ZoomGestures* const m_zoom;
     QImage m_image;
     /// m_image made smaller for the screen; null until it is painted at a smaller size.
     QImage m_smallImage;

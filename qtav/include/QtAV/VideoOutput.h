@@ -2,6 +2,8 @@
 
 #include <QtAV/VideoRenderer.h>
 
+#include <QRect>
+
 #include <memory>
 
 class QWidget;
@@ -33,6 +35,11 @@ public:
     /// Where the frames are shown, to be put into a layout, which may own and delete it from then
     /// on. Null after that, and where no widget can be made: without a widget application.
     QWidget* widget() const;
+
+    /// Where the whole picture lies, in the screen's pixels from the widget's upper left corner: it
+    /// may be larger than the widget, and only what is seen of it is made. Enlarged beyond its full
+    /// size it has sharp pixels. A null rectangle, as at first, fits it into the widget.
+    void setPlace(const QRect& place);
 
     void present(const VideoFrame& frame) override;
     QSize screenSize() const override;

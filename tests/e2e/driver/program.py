@@ -58,6 +58,10 @@ class Program:
         finally:
             processes.stop(self._process)
 
+    def terminate(self):
+        """Asks it to end, as the system does when it shuts down."""
+        self._process.terminate()
+
     def kill(self):
         """Ends it in a way that leaves it no time for anything."""
         self._process.kill()
@@ -191,7 +195,9 @@ class Program:
 
     def focused(self):
         """The control that has the keyboard, or none."""
-        return next((control for control in self.find_all() if control.is_focused), None)
+        controls = [control for control in self.find_all() if control.is_focused]
+        # The current item of a list says so even while another control has the keyboard.
+        return next((c for c in controls if c.role != "list item"), next(iter(controls), None))
 
     # --- the main window -----------------------------------------------------------------------
 

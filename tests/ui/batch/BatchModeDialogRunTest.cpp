@@ -29,6 +29,8 @@ private Q_SLOTS:
     void missingFolder_isMade_whenWanted();
     void missingFolder_keepsTheBatchFromStarting_whenNotWanted();
     void failedJobs_areMarked_andCanBeRetriedAlone();
+    void retry_makesFailedPositionsAlone_data();
+    void retry_makesFailedPositionsAlone();
     void outputExample_hasNoNumber_ofASingleShot();
     void editedJob_isNoDefault_untilItIsSaidSo();
     void list_comesBack_alsoWhatWasNotRead();
@@ -180,6 +182,49 @@ void BatchModeDialogRunTest::failedJobs_areMarked_andCanBeRetriedAlone()
     QVERIFY(!mode.find<QPushButton>("retryFailedButton").isVisibleTo(&mode.dialog()));
     QCOMPARE(QDir(mode.dir().path()).entryList({QStringLiteral("*.jpeg")}),
              (QStringList{QStringLiteral("b-.jpeg"), QStringLiteral("h264_bframes-.jpeg")}));
+}
+
+/// The images that had come out are not made again.
+void BatchModeDialogRunTest::retry_makesFailedPositionsAlone_data()
+{
+    QTest::addColumn<bool>("isExact");
+    QTest::newRow("exact") << true;
+    QTest::newRow("one after another") << false;
+}
+
+void BatchModeDialogRunTest::retry_makesFailedPositionsAlone()
+{
+    QFETCH(bool, isExact);
+    ModeDialog mode;
+    mode.load({samplePath(clip)});
+    mode.click("selectAllVideoButton");
+    const QString folder = mode.dir().filePath(QStringLiteral("images"));
+    const QString hidden = folder + QStringLiteral("-gone");
+    QVERIFY(QDir().mkpath(folder));
+    mode.job(0).setOutputDir(QDir(folder));
+    mode.job(0).setExactFrames(isExact);
+    mode.job(0).setIntervalType(BatchWorkerConfig::SpreadImages);
+    mode.job(0).setIntervalImages(4);
+    mode.job(0).setSkipFront(0);
+    mode.job(0).setSkipBack(0);
+    ModalScript script;
+    script.expect<BatchProcessingDialog>([&](BatchProcessingDialog& dialog) {
+        const auto workers = dialog.findChildren<BatchWorker*>();
+        // The folder vanishes after the first image.
+        connect(workers.first(), &BatchWorker::imageReady, &dialog,
+                [&] { static_cast<void>(QDir().rename(folder, hidden)); });
+        endBatch(dialog);
+    });
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    QVERIFY(QDir().rename(hidden, folder));
+    const auto images = [&folder] { return QDir(folder).entryList(QDir::Files).size(); };
+    QVERIFY(images() >= 1 && images() < 4);
+    script.expect<BatchProcessingDialog>(endBatch);
+    mode.click("retryFailedButton");
+    QVERIFY(script.isDone());
+    QCOMPARE(images(), 4);
+    QVERIFY(!isMarked(mode, 0));
 }
 
 void BatchModeDialogRunTest::outputExample_hasNoNumber_ofASingleShot()

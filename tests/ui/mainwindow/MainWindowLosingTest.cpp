@@ -3,6 +3,7 @@
 #include "tests/support/Samples.h"
 #include "tests/ui/dialogs/support/ModalScript.h"
 #include "ui/batch/BatchModeDialog.h"
+#include "ui/filmstrip/Filmstrip.h"
 
 #include <QtAV/AVPlayer.h>
 
@@ -19,7 +20,8 @@
 
 using namespace testsupport;
 
-/// What a person would lose by mistake, and what asks or stays in place of that.
+/// What a person would lose by mistake, and what asks or stays in place of that. What the filmstrip
+/// does about it is tested with that.
 class MainWindowLosingTest : public QObject
 {
     Q_OBJECT
@@ -43,7 +45,7 @@ constexpr int limitMs = 30000;
 
 const QString clip = QStringLiteral("h264_bframes.mp4");
 
-/// A window with a snapshot of a paused video.
+/// A window with a snapshot of a paused video, for which there is no room in the filmstrip.
 class Snapshot : public OpenWindow
 {
 public:
@@ -51,6 +53,9 @@ public:
     {
         video = copyOf(clip, QStringLiteral("clip.mp4"));
         next = copyOf(clip, QStringLiteral("next.mp4"));
+        SnapshotShelf::Limits limits;
+        limits.count = 0;
+        window().findChild<Filmstrip*>()->shelf().setLimits(limits);
         if (!openPaused(video) || !takeSnapshot()) {
             qFatal("no snapshot");
         }

@@ -1,9 +1,12 @@
 #include "ui/widgets/ImageView.h"
 
 #include "tests/ui/support/Painting.h"
+#include "ui/widgets/ZoomGestures.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <cstdlib>
 
@@ -48,6 +51,12 @@ private Q_SLOTS:
     void surroundings_showParentsBackground();
     void fineDetail_isAveraged_whenMadeSmaller();
     void settingImage_repaints();
+    void fullSize_showsPixelsAsTheyAre();
+    void enlargedImage_hasSharpPixels();
+    void wheel_zoomsAtThePointer();
+    void drag_movesAnEnlargedImage();
+    void doubleClick_changesBetweenFullSizeAndFitted();
+    void otherImage_isFitted_oneOfTheSameSizeKeepsItsZoom();
 };
 
 void ImageViewTest::picture_isFittedAndCentred_data()
@@ -185,6 +194,92 @@ void ImageViewTest::settingImage_repaints()
     const testsupport::EventCounter paints(view, QEvent::Paint);
     view.setImage(filled({10, 10}, Qt::red));
     QTRY_COMPARE(paints.count(), 1);
+}
+
+void ImageViewTest::fullSize_showsPixelsAsTheyAre()
+{
+    ImageView view;
+    view.resize(100, 100);
+    const QImage image = stripes({400, 400});
+    view.setImage(image);
+    view.zoom().showActualSize();
+    QCOMPARE(paintedBy(view).convertToFormat(QImage::Format_RGB32), image.copy(150, 150, 100, 100));
+}
+
+void ImageViewTest::enlargedImage_hasSharpPixels()
+{
+    ImageView view;
+    view.resize(80, 40);
+    view.setImage(stripes({400, 400}));
+    view.zoom().setScale(4.0);
+    const QImage painted = paintedBy(view);
+    for (int x = 0; x < 80; ++x) {
+        QCOMPARE(painted.pixelColor(x, 20), painted.pixelColor(x / 4 * 4, 20));
+        QVERIFY(qRed(painted.pixel(x, 20)) == 0 || qRed(painted.pixel(x, 20)) == 255);
+    }
+    QVERIFY(painted.pixel(0, 20) != painted.pixel(4, 20));
+}
+
+void ImageViewTest::wheel_zoomsAtThePointer()
+{
+    ImageView view;
+    view.resize(100, 100);
+    QImage image = filled({400, 400}, Qt::blue);
+    QPainter(&image).fillRect(300, 300, 8, 8, Qt::red);
+    view.setImage(image);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    const QPointF pointer(76.0, 76.0);
+    for (int i = 0; i < 9; ++i) {
+        QWheelEvent turn(pointer, view.mapToGlobal(pointer.toPoint()), {}, {0, 120}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&view, &turn);
+    }
+    QVERIFY(!view.zoom().zoom().isFitted());
+    QCOMPARE(paintedBy(view).pixelColor(76, 76), QColor(Qt::red));
+    QWheelEvent back(pointer, view.mapToGlobal(pointer.toPoint()), {}, {0, -1200}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&view, &back);
+    QVERIFY(view.zoom().zoom().isFitted());
+}
+
+void ImageViewTest::drag_movesAnEnlargedImage()
+{
+    ImageView view;
+    view.resize(100, 100);
+    view.setImage(filled({400, 400}, Qt::red));
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    view.zoom().showActualSize();
+    const QRect before = view.zoom().zoom().place();
+    QTest::mousePress(&view, Qt::LeftButton, {}, {50, 50});
+    QMouseEvent move(QEvent::MouseMove, {20.0, 30.0}, Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&view, &move);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, {20, 30});
+    QCOMPARE(view.zoom().zoom().place(), before.translated(-30, -20));
+}
+
+void ImageViewTest::doubleClick_changesBetweenFullSizeAndFitted()
+{
+    ImageView view;
+    view.resize(100, 100);
+    view.setImage(filled({400, 400}, Qt::red));
+    QTest::mouseDClick(&view, Qt::LeftButton, {}, {50, 50});
+    QCOMPARE(view.zoom().zoom().scale(), 1.0);
+    QTest::mouseDClick(&view, Qt::LeftButton, {}, {50, 50});
+    QVERIFY(view.zoom().zoom().isFitted());
+}
+
+void ImageViewTest::otherImage_isFitted_oneOfTheSameSizeKeepsItsZoom()
+{
+    ImageView view;
+    view.resize(100, 100);
+    view.setImage(filled({400, 400}, Qt::red));
+    view.zoom().showActualSize();
+    view.setImage(filled({400, 400}, Qt::blue));
+    QVERIFY(!view.zoom().zoom().isFitted());
+    view.setImage(filled({300, 400}, Qt::blue));
+    QVERIFY(view.zoom().zoom().isFitted());
 }
 
 QTEST_MAIN(ImageViewTest)

@@ -1,0 +1,360 @@
+#include "tests/ui/mainwindow/OpenWindow.h"
+
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
+#include "tests/support/FrameNumber.h"
+#include "tests/support/ResourceLimits.h"
+#include "tests/support/Samples.h"
+#include "ui/filmstrip/Filmstrip.h"
+
+#include <QtAV/AVPlayer.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+using namespace testsupport;
+
+/// Snapshots that were taken before: the way back to them, and what is never lost.
+class MainWindowFilmstripTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void chosenSnapshot_isShown_atItsFrame();
+    void chosenSnapshot_opensItsVideo_atItsFrame();
+    void chosenSnapshot_isShown_whenItsVideoIsGone();
+    void snapshot_outlivesItsWindow_withAllItsBits();
+    void saveAll_savesEachWithItsProfile_underFreeNames();
+    void deletedSnapshot_comesBack_andIsNotAskedAbout();
+    void otherVideo_isOpenedWithoutAQuestion_whileTheStripHoldsTheSnapshot();
+    void nextSnapshot_isAskedAbout_whenTheStripIsFull();
+    void closing_asksNothing_whenAllIsKept();
+    void closing_asksOnce_whatTheDiskDoesNotTake();
+    void snapshotTimes_areThoseOfTheOpenVideo();
+    void snapshots_areWritten_whenTheSessionEnds();
+
+private:
+    TestDir m_config;
+};
+
+namespace {
+
+constexpr int limitMs = 30000;
+
+const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
+
+/// A window that keeps its snapshots in the case's folder.
+class Window : public OpenWindow
+{
+public:
+    explicit Window(const TestDir& kept)
+    {
+        window().keepSnapshots(kept.filePath(QStringLiteral("kept")));
+    }
+
+    Filmstrip& strip() { return *window().findChild<Filmstrip*>(); }
+    SnapshotShelf& shelf() { return strip().shelf(); }
+
+    [[nodiscard]] bool settle()
+    {
+        return QTest::qWaitFor([this] { return shelf().isSettled(); }, limitMs);
+    }
+
+    /// Goes to the frame and takes it; gives the snapshot's name.
+    QString takeAt(qint64 ms)
+    {
+        player().setPosition(ms);
+        const int before = shelf().rowCount();
+        const auto isThere = [this, ms] { return player().displayPosition() == ms; };
+        const auto isTaken = [this, before] { return shelf().rowCount() > before; };
+        if (!QTest::qWaitFor(isThere, limitMs)) {
+            qFatal("the frame is not shown");
+        }
+        window().snapshotButtonPressed();
+        if (!QTest::qWaitFor(isTaken, limitMs)) {
+            qFatal("no snapshot");
+        }
+        return shelf().index(before).data(SnapshotShelf::IdRole).toString();
+    }
+
+    void choose(const QString& id) { Q_EMIT strip().chosen(id); }
+
+    /// The number in the full frame of the snapshot that is shown.
+    std::optional<int> shownFrame()
+    {
+        QApplication::clipboard()->clear();
+        find<QAction>("actionCopy_Full_Frame").trigger();
+        return frameNumber(QApplication::clipboard()->image());
+    }
+
+    void saveInto(const QString& folder)
+    {
+        find<QGroupBox>("automaticFileNameGroupBox").setChecked(true);
+        find<QLineEdit>("outputFolderLineEdit").setText(folder);
+    }
+};
+
+ImageProfile* addImageProfile(const QString& name, int width)
+{
+    auto* const profile =
+        static_cast<ImageProfile*>(ImageProfile::profileManager()->createProfile());
+    profile->setName(name);
+    profile->setImageWidth(width);
+    ImageProfile::profileManager()->addProfile(profile);
+    return profile;
+}
+
+void chooseImageProfile(OpenWindow& window, const QString& name)
+{
+    QComboBox& box = window.find<QComboBox>("imageProfileComboBox");
+    box.setCurrentIndex(box.findText(name));
+    window->on_imageProfileComboBox_activated(box.currentIndex());
+}
+
+} // namespace
+
+/// The profiles of the test program are the same for all cases: they live as long as the process.
+void MainWindowFilmstripTest::initTestCase()
+{
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_config.path()));
+}
+
+void MainWindowFilmstripTest::chosenSnapshot_isShown_atItsFrame()
+{
+    const TestDir kept;
+    Window window(kept);
+    QVERIFY(window.openPaused(samplePath(clip)));
+    const QString first = window.takeAt(1000);
+    static_cast<void>(window.takeAt(2000));
+    QCOMPARE(window.shownFrame(), std::optional<int>(50));
+    window.choose(first);
+    QTRY_COMPARE_WITH_TIMEOUT(window.player().displayPosition(), 1000, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), limitMs);
+    QCOMPARE(window.strip().selected(), QStringList(first));
+    QVERIFY(window.player().isPaused());
+}
+
+void MainWindowFilmstripTest::chosenSnapshot_opensItsVideo_atItsFrame()
+{
+    const TestDir kept;
+    Window window(kept);
+    const QString video = window.copyOf(clip, QStringLiteral("first.mp4"));
+    QVERIFY(window.openPaused(video));
+    const QString id = window.takeAt(1000);
+    QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("second.mp4"))));
+    window.choose(id);
+    QCOMPARE(window->currentVideoFilePath(), video);
+    QTRY_COMPARE_WITH_TIMEOUT(window.player().displayPosition(), 1000, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), limitMs);
+    QVERIFY(window.player().isPaused());
+    QTest::qWait(100);
+    QCOMPARE(window.player().displayPosition(), 1000);
+}
+
+void MainWindowFilmstripTest::chosenSnapshot_isShown_whenItsVideoIsGone()
+{
+    const TestDir kept;
+    Window window(kept);
+    const QString video = window.copyOf(clip, QStringLiteral("first.mp4"));
+    QVERIFY(window.openPaused(video));
+    const QString id = window.takeAt(1000);
+    window->closeVideo();
+    QVERIFY(QFile::remove(video));
+    window.choose(id);
+    const QAction& copy = window.find<QAction>("actionCopy_Full_Frame");
+    QTRY_VERIFY_WITH_TIMEOUT(copy.isEnabled(), limitMs);
+    QCOMPARE(window.shownFrame(), std::optional<int>(25));
+    QVERIFY(!window->isVideoLoaded());
+}
+
+/// Deep colours, too: the file is the same as one that is saved at once.
+void MainWindowFilmstripTest::snapshot_outlivesItsWindow_withAllItsBits()
+{
+    const TestDir kept;
+    const QString direct = kept.filePath(QStringLiteral("direct.png"));
+    const QString later = kept.filePath(QStringLiteral("later.png"));
+    ImageProfile* const profile = addImageProfile(QStringLiteral("Deep"), 0);
+    profile->setSameSizeAsVideo(true);
+    profile->setDeepColours(true);
+    ImageProfile::profileManager()->setLastUsedProfile(profile);
+    QString id;
+    {
+        Window window(kept);
+        QVERIFY(window.openPaused(samplePath(QStringLiteral("hevc_10bit.mkv"))));
+        id = window.takeAt(1000);
+        QVERIFY(window.settle());
+        // Saved aside, so that the strip knows nothing of it.
+        window.shelf().setProfile(id, profile->id(), profile->name());
+        QVERIFY(window->saveSnapshot(direct));
+    }
+    QVERIFY(QImage(direct).depth() == 64);
+    {
+        // Saved ones do not come back.
+        Window window(kept);
+        QVERIFY(window.settle());
+        QCOMPARE(window.shelf().rowCount(), 0);
+        QVERIFY(window.openPaused(samplePath(QStringLiteral("hevc_10bit.mkv"))));
+        id = window.takeAt(1000);
+    }
+    Window window(kept);
+    QVERIFY(window.settle());
+    QCOMPARE(window.shelf().rowCount(), 1);
+    window.choose(id);
+    const QAction& copy = window.find<QAction>("actionCopy_Full_Frame");
+    QTRY_VERIFY_WITH_TIMEOUT(copy.isEnabled(), limitMs);
+    QVERIFY(window->saveSnapshot(later));
+    QCOMPARE(QImage(later), QImage(direct));
+    ImageProfile::profileManager()->setLastUsedProfile(
+        ImageProfile::profileManager()->profiles().first());
+}
+
+void MainWindowFilmstripTest::saveAll_savesEachWithItsProfile_underFreeNames()
+{
+    const TestDir kept;
+    addImageProfile(QStringLiteral("Small"), 64);
+    Window window(kept);
+    QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("clip.mp4"))));
+    const QString folder = window.dir().filePath(QStringLiteral("out"));
+    QVERIFY(QDir().mkpath(folder));
+    window.saveInto(folder);
+    static_cast<void>(window.takeAt(1000));
+    static_cast<void>(window.takeAt(2000));
+    // That of the snapshot that is shown, and no other.
+    chooseImageProfile(window, QStringLiteral("Small"));
+    window.choose(window.shelf().index(0).data(SnapshotShelf::IdRole).toString());
+    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), limitMs);
+    QVERIFY(QFile::copy(samplePath(clip), folder + QStringLiteral("/clip-00001.jpeg")));
+    window.find<QPushButton>("saveAllButton").click();
+    QTRY_VERIFY_WITH_TIMEOUT(window.shelf().unsaved().isEmpty(), limitMs);
+    const QImage first(folder + QStringLiteral("/clip-00002.jpeg"));
+    const QImage second(folder + QStringLiteral("/clip-00003.jpeg"));
+    QCOMPARE(first.width(), 640);
+    QCOMPARE(frameNumber(first), std::optional<int>(25));
+    QCOMPARE(second.width(), 64);
+    QCOMPARE(frameNumber(second), std::optional<int>(50));
+    QVERIFY(window.find<QPushButton>("showInFolderButton").isVisible());
+}
+
+void MainWindowFilmstripTest::deletedSnapshot_comesBack_andIsNotAskedAbout()
+{
+    const TestDir kept;
+    Window window(kept);
+    QVERIFY(window.openPaused(samplePath(clip)));
+    const QString id = window.takeAt(1000);
+    window.strip().deleteSelected();
+    QCOMPARE(window.shelf().rowCount(), 0);
+    QVERIFY(window.settle());
+    window.find<QAction>("actionUndo").trigger();
+    window.choose(id);
+    QVERIFY(window.settle());
+    QCOMPARE(window.shownFrame(), std::optional<int>(25));
+    window.strip().deleteSelected();
+    window->openFromOutside(window.copyOf(clip, QStringLiteral("next.mp4")));
+    QVERIFY(window->currentVideoFilePath().endsWith(QLatin1String("next.mp4")));
+}
+
+void MainWindowFilmstripTest::otherVideo_isOpenedWithoutAQuestion_whileTheStripHoldsTheSnapshot()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QVERIFY(window.takeSnapshot());
+    const QString next = window.copyOf(clip, QStringLiteral("next.mp4"));
+    window->openFromOutside(next);
+    QCOMPARE(window->currentVideoFilePath(), next);
+    QCOMPARE(window->findChild<Filmstrip*>()->shelf().rowCount(), 1);
+}
+
+void MainWindowFilmstripTest::nextSnapshot_isAskedAbout_whenTheStripIsFull()
+{
+    const TestDir kept;
+    Window window(kept);
+    SnapshotShelf::Limits limits;
+    limits.count = 0;
+    window.shelf().setLimits(limits);
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QVERIFY(window.takeSnapshot());
+    QCOMPARE(window.shelf().rowCount(), 0);
+    SeenBox box;
+    answerNextBox(QMessageBox::Cancel, box);
+    window->snapshotButtonPressed();
+    QCOMPARE(box.text, QStringLiteral("The snapshot has not been saved."));
+}
+
+void MainWindowFilmstripTest::closing_asksNothing_whenAllIsKept()
+{
+    const TestDir kept;
+    Window window(kept);
+    QVERIFY(window.openPaused(samplePath(clip)));
+    static_cast<void>(window.takeAt(1000));
+    static_cast<void>(window.takeAt(2000));
+    QSignalSpy ended(qApp, &QCoreApplication::aboutToQuit);
+    // An application ends in its own loop.
+    QTimer::singleShot(0, &window.window(), [&] { window->close(); });
+    QCOMPARE(QApplication::exec(), 0);
+    QCOMPARE(ended.size(), 1);
+    QCOMPARE(window.shelf().unsafeCount(), 0);
+}
+
+void MainWindowFilmstripTest::closing_asksOnce_whatTheDiskDoesNotTake()
+{
+    const TestDir kept;
+    Window window(kept);
+    QVERIFY(window.openPaused(samplePath(clip)));
+    QVERIFY(window.settle());
+    const FileSizeLimit limit(1000);
+    static_cast<void>(window.takeAt(1000));
+    static_cast<void>(window.takeAt(2000));
+    QVERIFY(window.settle());
+    SeenBox box;
+    answerNextBox(QMessageBox::Cancel, box);
+    window->close();
+    QCOMPARE(box.text, QStringLiteral("2 snapshots have not been saved."));
+    // What was copied is in the user's hands.
+    window.find<QAction>("actionCopy_Snapshot").trigger();
+    box = {};
+    answerNextBox(QMessageBox::Cancel, box);
+    window->close();
+    QCOMPARE(box.text, QStringLiteral("The snapshot has not been saved."));
+}
+
+void MainWindowFilmstripTest::snapshotTimes_areThoseOfTheOpenVideo()
+{
+    const TestDir kept;
+    Window window(kept);
+    QSignalSpy told(&window.window(), &MainWindow::snapshotTimesChanged);
+    QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("first.mp4"))));
+    static_cast<void>(window.takeAt(2000));
+    static_cast<void>(window.takeAt(1000));
+    QCOMPARE(window->snapshotTimes(), (QVector<qint64>{1000, 2000}));
+    QCOMPARE(told.size(), 2);
+    QCOMPARE(told.last().first().value<QVector<qint64>>(), window->snapshotTimes());
+    QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("second.mp4"))));
+    QVERIFY(window->snapshotTimes().isEmpty());
+    QCOMPARE(told.size(), 3);
+    QVERIFY(window.openPaused(window.dir().filePath(QStringLiteral("first.mp4"))));
+    QCOMPARE(window->snapshotTimes().size(), 2);
+}
+
+void MainWindowFilmstripTest::snapshots_areWritten_whenTheSessionEnds()
+{
+    const TestDir kept;
+    Window window(kept);
+    QVERIFY(window.openPaused(samplePath(clip)));
+    static_cast<void>(window.takeAt(1000));
+    QVERIFY(window->prepareForSessionEnd(true));
+    QCOMPARE(window.shelf().unsafeCount(), 0);
+}
+
+QTEST_MAIN(MainWindowFilmstripTest)
+#include "MainWindowFilmstripTest.moc"

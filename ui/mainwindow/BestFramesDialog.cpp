@@ -1,0 +1,127 @@
+#include "ui/mainwindow/BestFramesDialog.h"
+
+#include "ui/mainwindow/BestFramesFinder.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTime>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize pictureSize{144, 81};
+constexpr QSize cellSize{156, 112};
+
+QString timeText(qint64 ms)
+{
+    // Only the time of day is shown, so that whole days may go before the conversion to int.
+    constexpr qint64 dayMs = 24 * 60 * 60 * 1000;
+    return QTime(0, 0, 0, 0).addMSecs(int(ms % dayMs)).toString(QStringLiteral("hh:mm:ss.zzz"));
+}
+
+} // namespace
+
+BestFramesDialog::BestFramesDialog(QWidget* parent)
+    : QDialog(parent)
+    , m_finder(new BestFramesFinder(this))
+    , m_label(new QLabel(this))
+    , m_list(new QListWidget(this))
+    , m_takeButton(new QPushButton(tr("Take Snapshot"), this))
+{
+    setWindowTitle(tr("Best of These"));
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    layOut();
+    connect(m_finder, &BestFramesFinder::found, this, &BestFramesDialog::showProposals);
+    connect(m_list, &QListWidget::itemClicked, this,
+            [this] { Q_EMIT frameChosen(currentMs().value_or(0)); });
+    connect(m_list, &QListWidget::itemActivated, this, &BestFramesDialog::takeCurrent);
+    connect(m_takeButton, &QPushButton::clicked, this, &BestFramesDialog::takeCurrent);
+    connect(m_list, &QListWidget::currentRowChanged, this,
+            [this](int row) { m_takeButton->setEnabled(row >= 0); });
+    reset();
+}
+
+BestFramesDialog::~BestFramesDialog() = default;
+
+void BestFramesDialog::layOut()
+{
+    m_list->setObjectName(QStringLiteral("bestFramesList"));
+    m_list->setAccessibleName(tr("Best frames"));
+    m_list->setViewMode(QListView::IconMode);
+    m_list->setMovement(QListView::Static);
+    m_list->setWrapping(false);
+    m_list->setFlow(QListView::LeftToRight);
+    m_list->setIconSize(pictureSize);
+    m_list->setGridSize(cellSize);
+    m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int frame = 2 * m_list->frameWidth() + 4;
+    m_list->setMinimumWidth(proposals * cellSize.width() + frame);
+    m_list->setFixedHeight(cellSize.height() + frame);
+    m_takeButton->setObjectName(QStringLiteral("takeBestButton"));
+    m_takeButton->setToolTip(tr("Take a snapshot of the selected frame"));
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    buttons->addButton(m_takeButton, QDialogButtonBox::ActionRole);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(m_label);
+    layout->addWidget(m_list, 1);
+    layout->addWidget(buttons);
+}
+
+void BestFramesDialog::propose(const QString& video, QtAV::Deinterlacing deinterlacing,
+                               const VideoStretch& stretch)
+{
+    reset();
+    m_label->setText(tr("Looking for the sharpest frames from %1 to %2\u2026")
+                         .arg(timeText(stretch.fromMs), timeText(stretch.toMs)));
+    m_finder->search(video, deinterlacing, stretch, proposals, pictureSize * devicePixelRatioF());
+    show();
+    raise();
+}
+
+void BestFramesDialog::reset()
+{
+    m_finder->cancel();
+    m_list->clear();
+    m_takeButton->setEnabled(false);
+    m_label->clear();
+}
+
+void BestFramesDialog::showProposals(const BestFrames& best)
+{
+    for (const BestFrame& frame : best.frames) {
+        const QPixmap pixmap = QPixmap::fromImage(frame.picture);
+        auto* const item = new QListWidgetItem(QIcon(pixmap), timeText(frame.ms), m_list);
+        item->setData(Qt::UserRole, frame.ms);
+    }
+    if (!best.error.isEmpty()) {
+        m_label->setText(best.error);
+    } else if (best.frames.isEmpty()) {
+        m_label->setText(tr("All frames here are black, blurred or at a cut."));
+    } else {
+        m_label->setText(tr("A click goes to the frame, a double click takes it."));
+    }
+}
+
+void BestFramesDialog::takeCurrent()
+{
+    if (const std::optional<qint64> ms = currentMs()) {
+        Q_EMIT snapshotWanted(*ms);
+    }
+}
+
+std::optional<qint64> BestFramesDialog::currentMs() const
+{
+    const QListWidgetItem* const item = m_list->currentItem();
+    return item == nullptr ? std::nullopt
+                           : std::optional<qint64>(item->data(Qt::UserRole).toLongLong());
+}
+
+/// Nobody waits for what is still being looked for.
+void BestFramesDialog::hideEvent(QHideEvent* event)
+{
+    m_finder->cancel();
+    QDialog::hideEvent(event);
+}
