@@ -66,7 +66,7 @@ layer imaging imaging/ profiles/ utils/ product/
 layer series series/ imaging/
 layer ui/batch batch/ ui/ video/ profiles/ imaging/
 layer batch batch/ series/ video/ profiles/ imaging/
-layer ui/mainwindow ui/ batch/ video/ profiles/ imaging/ product/
+layer ui/mainwindow ui/ batch/ series/ video/ profiles/ imaging/ product/
 layer ui ui/ profiles/ imaging/ product/
 layer stills stills/ series/ imaging/ profiles/ product/ app/MemoryPolicy.h \
     app/RuntimeFolder.h

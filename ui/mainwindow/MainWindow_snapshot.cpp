@@ -6,10 +6,12 @@
 #include "profiles/FileNameProfile.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/SavePath.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
+#include <QtAV/Times.h>
 
 #include <QDebug>
 #include <QFileDialog>
@@ -64,10 +66,28 @@ void MainWindow::on_actionTake_Snapshot_triggered()
 void MainWindow::capture()
 {
     m_captures.ask();
+    m_savesCapture.push_back(false);
     m_capturedPlace = isVideoLoaded()
-                          ? tr("%1 at %2").arg(currentVideoFileName(), m_ui->positionLabel->text())
+                          ? tr("%1 at %2").arg(currentVideoFileName(), m_ui->timecodeField->time())
                           : QString();
     m_player->videoCapture()->capture();
+}
+
+void MainWindow::takeAndSave()
+{
+    capture();
+    m_savesCapture.back() = true;
+}
+
+/// Whether the capture that has just been answered is to be saved at once.
+bool MainWindow::takeSaving()
+{
+    if (m_savesCapture.empty()) {
+        return false;
+    }
+    const bool saves = m_savesCapture.front();
+    m_savesCapture.pop_front();
+    return saves;
 }
 
 void MainWindow::snapshotCaptured(const QImage& image)
@@ -75,6 +95,7 @@ void MainWindow::snapshotCaptured(const QImage& image)
     if (!m_captures.answer()) {
         return;
     }
+    const bool isToBeSaved = takeSaving();
     m_fullFrameImage = image.copy();
     m_capturedFrame = m_player->videoCapture()->capturedFrame();
     m_capturedSource = sourceOfCapture(image);
@@ -84,6 +105,11 @@ void MainWindow::snapshotCaptured(const QImage& image)
     setSnapshotControlsEnabled(true);
     if (!error.isEmpty()) {
         warnOfCapture(error);
+        return;
+    }
+    m_steering->noteSnapshot(QtAV::toMilliseconds(m_capturedFrame.timestamp()));
+    if (isToBeSaved) {
+        saveWithAutomaticFileName();
     }
 }
 
@@ -102,6 +128,7 @@ PictureSource MainWindow::sourceOfCapture(const QImage& image) const
 void MainWindow::onCaptureError()
 {
     if (m_captures.answer()) {
+        (void)takeSaving();
         warnOfCapture(QString());
     }
 }
