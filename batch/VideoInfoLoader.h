@@ -41,6 +41,9 @@ public:
     int loadedCount() const { return m_loadedCount; }
     int jobCount() const { return m_loadedCount + m_waiting.size(); }
 
+    /// The jobs whose videos have not been read, in their order.
+    const QList<BatchWorkerConfig*>& waitingJobs() const { return m_waiting; }
+
     /// The job whose video is being read; null for none.
     BatchWorkerConfig* currentJob() const { return m_waiting.value(0); }
 

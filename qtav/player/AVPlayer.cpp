@@ -5,6 +5,7 @@
 #include "qtav/player/AVPlayerPrivate.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace QtAV {
 
@@ -66,6 +67,24 @@ qint64 AVPlayer::displayPosition() const
 int AVPlayer::notifyInterval() const
 {
     return d->interval;
+}
+
+qreal AVPlayer::speed() const
+{
+    return d->speed;
+}
+
+void AVPlayer::setSpeed(qreal speed)
+{
+    const qreal wanted = std::clamp(speed, slowest, fastest);
+    if (!(std::abs(wanted - d->speed) > 0.0))
+        return;
+    // The time goes on from the frame on screen, for the sound as well.
+    d->haltTime();
+    d->speed = wanted;
+    d->clock.setSpeed(wanted);
+    d->resumeTime();
+    Q_EMIT speedChanged(wanted);
 }
 
 void AVPlayer::setMediaEndAction(MediaEndAction action)

@@ -244,8 +244,8 @@ void AVPlayer::Private::resumeTime()
         return;
     clock.set(frame.timestamp());
     clock.start();
-    if (hasSound)
-        sound.play(frame.timestamp());
+    if (playsSound())
+        sound.play(frame.timestamp(), speed);
     schedule(0.0);
     if (!hasStarted) {
         hasStarted = true;
@@ -268,9 +268,16 @@ double AVPlayer::Private::now()
     return clock.now();
 }
 
-void AVPlayer::Private::schedule(double secondsFromNow)
+bool AVPlayer::Private::playsSound() const
 {
-    timer.start(static_cast<int>(std::ceil(std::clamp(secondsFromNow, 0.0, 1.0) * 1000.0)));
+    return hasSound && speed >= slowestSound && speed <= fastestSound;
+}
+
+/// @param playedSeconds  how much of the video is to be played until then
+void AVPlayer::Private::schedule(double playedSeconds)
+{
+    const double seconds = std::clamp(playedSeconds / speed, 0.0, 1.0);
+    timer.start(static_cast<int>(std::ceil(seconds * 1000.0)));
 }
 
 void AVPlayer::Private::presentDue()
@@ -285,7 +292,7 @@ void AVPlayer::Private::presentDue()
     setDuration(due.duration);
     if (due.frame.isValid()) {
         startsOverAtEnd = false;
-        if (!soundLeads && time - due.frame.timestamp() > MostLatenessSeconds)
+        if (!soundLeads && time - due.frame.timestamp() > MostLatenessSeconds * speed)
             clock.set(due.frame.timestamp());
         show(due.frame);
     }

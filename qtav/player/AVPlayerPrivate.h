@@ -42,7 +42,8 @@ public:
     double now();
     bool plays() const { return state == PlayingState && isLoaded && !soughtMs; }
     double endTime(bool hasSound) const;
-    void schedule(double secondsFromNow);
+    void schedule(double playedSeconds);
+    bool playsSound() const;
     void presentDue();
     void finish();
     void halt(const QString& reason);
@@ -61,6 +62,7 @@ public:
     bool startsOverAtEnd = false;
     qint64 duration = 0;
     int interval = 0;
+    qreal speed = 1.0;
     MediaFacts facts;
     VideoFrame frame;
     QPointer<VideoRenderer> renderer;

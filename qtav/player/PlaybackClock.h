@@ -5,7 +5,7 @@
 namespace QtAV {
 
 /// The time of playback in seconds, by a monotonic clock: what the pictures follow where no sound
-/// leads. Stands still until it is started.
+/// leads. Stands still until it is started. Goes as fast as real time times a speed.
 class PlaybackClock
 {
 public:
@@ -25,13 +25,19 @@ public:
         if (m_timer.isValid())
             m_timer.restart();
     }
+    void setSpeed(double speed)
+    {
+        set(now());
+        m_speed = speed;
+    }
     double now() const
     {
-        return m_timer.isValid() ? m_base + double(m_timer.nsecsElapsed()) / 1e9 : m_base;
+        return m_timer.isValid() ? m_base + m_speed * double(m_timer.nsecsElapsed()) / 1e9 : m_base;
     }
 
 private:
     double m_base = 0.0;
+    double m_speed = 1.0;
     QElapsedTimer m_timer;
 };
 

@@ -50,10 +50,11 @@ bool SoundFile::open(const QString& path, QString& error)
     return true;
 }
 
-void SoundFile::setFormat(int sampleRate, int channels)
+void SoundFile::setFormat(int sampleRate, int channels, double speed)
 {
     m_rate = sampleRate;
     m_channels = channels;
+    m_speed = speed;
     m_resampler.reset();
 }
 
@@ -155,11 +156,18 @@ void SoundFile::take(const AVFrame& frame)
     convert(&frame);
 }
 
+/// How many samples that are given last as long as a stretch of the file.
+qint64 SoundFile::samplesFor(double fileSeconds) const
+{
+    return std::llround(fileSeconds * m_rate / m_speed);
+}
+
 /// Puts what is converted next where its time says: behind silence, or cut off at its beginning.
 void SoundFile::placeAt(double seconds)
 {
     const bool isFirst = m_made < 0;
-    const double reached = m_start + double(std::max<qint64>(0, m_made) - m_toSkip) / m_rate;
+    const auto given = double(std::max<qint64>(0, m_made) - m_toSkip);
+    const double reached = m_start + m_speed * given / m_rate;
     const double offset = seconds - reached;
     if (isFirst)
         m_made = 0;
@@ -167,14 +175,14 @@ void SoundFile::placeAt(double seconds)
         return;
     if (offset > 0.0) {
         const double silence = std::min(offset, LongestSilenceSeconds);
-        qint64 samples = std::llround(silence * m_rate);
+        qint64 samples = samplesFor(silence);
         const qint64 skipped = std::min(samples, m_toSkip);
         m_toSkip -= skipped;
         samples -= skipped;
         m_ready.append(int(samples) * bytesPerFrame(), '\0');
         m_made += samples;
     } else {
-        m_toSkip += std::llround(-offset * m_rate);
+        m_toSkip += samplesFor(-offset);
     }
 }
 
@@ -210,9 +218,11 @@ bool SoundFile::prepareResampler(const AVFrame& frame)
     AVChannelLayout out{};
     av_channel_layout_default(&out, m_channels);
     SwrContext* context = nullptr;
-    const int result = swr_alloc_set_opts2(&context, &out, AV_SAMPLE_FMT_S16, m_rate, &in,
-                                           static_cast<AVSampleFormat>(frame.format),
-                                           frame.sample_rate, 0, nullptr);
+    // Samples that are taken to come faster than they do are given in less time.
+    const auto inputRate = static_cast<int>(std::lround(frame.sample_rate * m_speed));
+    const int result =
+        swr_alloc_set_opts2(&context, &out, AV_SAMPLE_FMT_S16, m_rate, &in,
+                            static_cast<AVSampleFormat>(frame.format), inputRate, 0, nullptr);
     m_resampler.reset(context);
     if (result < 0 || swr_init(m_resampler.get()) < 0) {
         m_resampler.reset();

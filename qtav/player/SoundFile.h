@@ -27,8 +27,9 @@ public:
     /// The stream's own, which need no conversion.
     int sampleRate() const { return m_decoder->sample_rate; }
 
-    /// What read() gives from the next seek on.
-    void setFormat(int sampleRate, int channels);
+    /// What read() gives from the next seek on: so many seconds of the file in one second of
+    /// samples. The pitch goes with the speed, as that of a tape does.
+    void setFormat(int sampleRate, int channels, double speed = 1.0);
 
     /// The next sample that read() gives is the one at this time in seconds; silence where the
     /// sound begins later. False when the file cannot be read.
@@ -45,6 +46,7 @@ private:
     void placeAt(double seconds);
     void convert(const AVFrame* frame);
     [[nodiscard]] bool prepareResampler(const AVFrame& frame);
+    qint64 samplesFor(double fileSeconds) const;
     int bytesPerFrame() const { return m_channels * int(sizeof(qint16)); }
 
     std::unique_ptr<Container> m_file;
@@ -57,6 +59,7 @@ private:
     int m_inputChannels = 0;
     int m_rate = 48000;
     int m_channels = 2;
+    double m_speed = 1.0;
     double m_start = 0.0; ///< what was sought, in seconds
     qint64 m_made = 0;    ///< samples of a channel since then
     qint64 m_toSkip = 0;  ///< samples of a channel that come before it

@@ -33,10 +33,11 @@ void SoundPlayer::close()
     tellWish();
 }
 
-void SoundPlayer::play(double seconds)
+void SoundPlayer::play(double seconds, double speed)
 {
     m_wish.plays = true;
     m_wish.from = seconds;
+    m_wish.speed = speed;
     ++m_wish.playSerial;
     ensureThread();
     tellWish();

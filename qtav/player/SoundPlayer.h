@@ -26,8 +26,9 @@ public:
     void open(const QString& path);
     void close();
 
-    /// Plays from a time in seconds on.
-    void play(double seconds);
+    /// Plays from a time in seconds on, so many seconds of the file in one; the pitch goes with the
+    /// speed.
+    void play(double seconds, double speed = 1.0);
     void pause();
 
     /// From 0 to 1; 0 is silence.

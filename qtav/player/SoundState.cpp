@@ -97,7 +97,7 @@ std::optional<double> SoundState::heard() const
     if (!m_wish.plays || m_heardSerial != m_wish.playSerial || !m_heard)
         return std::nullopt;
     const std::chrono::duration<double> since = Clock::now() - m_heardAt;
-    return *m_heard + std::min(since.count(), LongestSilentSeconds);
+    return *m_heard + m_wish.speed * std::min(since.count(), LongestSilentSeconds);
 }
 
 } // namespace QtAV

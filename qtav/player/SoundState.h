@@ -20,7 +20,8 @@ public:
         QString path;           ///< empty for no file
         quint64 playSerial = 0; ///< changes with every play() and pause()
         bool plays = false;
-        double from = 0.0; ///< in seconds
+        double from = 0.0;  ///< in seconds
+        double speed = 1.0; ///< how many seconds of the file are heard in one
         qreal volume = 1.0;
     };
 

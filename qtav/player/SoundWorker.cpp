@@ -115,7 +115,7 @@ void SoundWorker::start(const SoundState::Wish& wish)
     if (!m_device)
         return;
     m_device->setVolume(wish.volume);
-    m_file->setFormat(m_device->sampleRate(), m_device->channels());
+    m_file->setFormat(m_device->sampleRate(), m_device->channels(), wish.speed);
     if (!m_file->seek(wish.from))
         return;
     m_source = std::make_unique<Source>(*m_file);
@@ -140,7 +140,7 @@ void SoundWorker::tellTime()
 {
     const double heard = m_device->heardSeconds();
     if (m_device->isRunning() && !isOver(heard))
-        m_state.setHeard(m_done.playSerial, m_done.from + heard);
+        m_state.setHeard(m_done.playSerial, m_done.from + m_done.speed * heard);
     else
         stopDevice();
 }

@@ -87,7 +87,8 @@ int findStreamInfo(AVFormatContext& format, const PictureLimit& limit)
     return result;
 }
 
-/// More of either is no description of a video.
+/// More of any of these is no description of a video.
+constexpr int MostChapters = 1000;
 constexpr int MostTags = 256;
 constexpr int LongestTagBytes = 4096;
 
@@ -273,14 +274,39 @@ MediaFacts Container::facts(int stream) const
 {
     MediaFacts facts;
     addTags(facts.tags, m_format->metadata);
+    facts.chapters = chapters();
     if (stream >= 0) {
         const AVStream& described = *m_format->streams[stream];
         addTags(facts.tags, described.metadata);
         facts.tickNumerator = described.time_base.num;
         facts.tickDenominator = described.time_base.den;
         facts.baseLayer = baseLayerOf(described);
+        const AVRational rate = frameRate(stream);
+        facts.rateNumerator = rate.num;
+        facts.rateDenominator = rate.den;
+        facts.codec = QString::fromLatin1(avcodec_get_name(described.codecpar->codec_id));
     }
     return facts;
+}
+
+QVector<Chapter> Container::chapters() const
+{
+    QVector<Chapter> chapters;
+    const unsigned count = std::min<unsigned>(m_format->nb_chapters, MostChapters);
+    for (unsigned i = 0; i < count; ++i) {
+        const AVChapter& marked = *m_format->chapters[i];
+        const bool isTimed = marked.time_base.num > 0 && marked.time_base.den > 0;
+        if (!isTimed || marked.start == AV_NOPTS_VALUE)
+            continue;
+        const Timeline timeline(marked.time_base, m_startTicks, m_startTimeBase);
+        const qint64 startMs = timeline.milliseconds(marked.start);
+        QMap<QString, QString> tags;
+        addTags(tags, marked.metadata);
+        chapters.append({startMs, tags.value(QStringLiteral("title"))});
+    }
+    const auto isEarlier = [](const Chapter& a, const Chapter& b) { return a.startMs < b.startMs; };
+    std::stable_sort(chapters.begin(), chapters.end(), isEarlier);
+    return chapters;
 }
 
 AVRational Container::frameRate(int stream) const

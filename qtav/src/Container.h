@@ -150,6 +150,7 @@ private:
     static QVector<StreamFacts> factsOf(const AVFormatContext& format);
     void findStreams();
     void findStart();
+    QVector<Chapter> chapters() const;
     void begin(Patience patience);
     bool isInterrupted();
     static int interrupt(void* container);

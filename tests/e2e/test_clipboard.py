@@ -40,7 +40,7 @@ class ClipboardTest(MorvantileCase):
         self.assertEqual(frame_number(picture), self.number)
 
     def test_copy_keeps_the_frame_while_the_video_goes_on(self):
-        self.desktop.key("ctrl+Right")
+        self.desktop.key("Right")
         self.wait_for_frame(self.program, self.number + 1)
         self.desktop.key("ctrl+x")
         self.assertEqual(frame_number(self.wait_for_picture((160, 120))), self.number)

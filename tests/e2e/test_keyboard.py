@@ -6,9 +6,13 @@ from tests.e2e.driver.case import MorvantileCase
 from tests.e2e.driver.frames import frame_number
 from tests.e2e.driver.waiting import wait_until
 
+# A label until it has the keyboard.
+TIME = ("text", "Go to time")
+
 # In the order of reading. Those of a role alone are known by what they hold.
 SNAPSHOT = ("list item", "in the filmstrip")
 STOPS = [
+    TIME,
     ("push button", "Skip back a bit"),
     ("push button", "Step back one frame"),
     ("push button", "Play/Pause"),
@@ -40,8 +44,7 @@ class KeyboardTest(MorvantileCase):
     def test_tab_reaches_every_control_in_the_order_of_reading(self):
         self.open_paused(self.program, self.sample("h264_gop250.mp4"))
         self.take_snapshot(self.program)
-        self.go_to("check box", "Automatic File Name")
-        self.desktop.key("space")
+        self.press("check box", "Automatic File Name")
         box = self.program.find("check box", "Automatic File Name")
         wait_until(lambda: box.is_checked, "it is not checked")
         expected = [stop for stop in STOPS if self.is_there(stop)]
@@ -74,12 +77,21 @@ class KeyboardTest(MorvantileCase):
         with Image.open(file) as picture:
             self.assertEqual(frame_number(picture), number + 1)
 
-    def test_space_is_the_videos_after_a_click_on_a_button(self):
+    def test_space_is_the_videos_wherever_the_keyboard_is(self):
         number = self.open_paused(self.program, self.sample("h264_gop250.mp4"))
         self.program.click("push button", "Step forward one frame")
         self.wait_for_frame(self.program, number + 1)
         self.desktop.key("space")
         wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+        self.desktop.key("k")
+        number = self.wait_for_standstill(self.program)
+        self.go_to("push button", "Step forward one frame")
+        self.desktop.key("space")
+        wait_until(lambda: not self.program.offers_to_play(), "it does not play")
+        self.desktop.key("space")
+        number = self.wait_for_standstill(self.program)
+        self.press("push button", "Step forward one frame")
+        self.wait_for_frame(self.program, number + 1)
 
     def test_volume_is_set_by_keys(self):
         self.open_paused(self.program, self.sample("h264_gop250.mp4"))
@@ -108,6 +120,8 @@ class KeyboardTest(MorvantileCase):
         role, name = stop
         if stop == SNAPSHOT:
             return self.program.has(role)
+        if stop == TIME:
+            return True
         if role == "combo box":
             return self.program.has(role, description=name)
         return self.program.has(role, name)
@@ -124,4 +138,4 @@ class KeyboardTest(MorvantileCase):
 
     def press(self, role, name):
         self.go_to(role, name)
-        self.desktop.key("space")
+        self.desktop.key("Return")

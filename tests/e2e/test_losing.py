@@ -56,7 +56,7 @@ class LosingTest(MorvantileCase):
         self.program.window(f"Morvantile - {self.video.name}")
         self.assertEqual(self.program.shown_snapshot(), self.number)
         self.wait_for_frame(self.program, self.number)
-        self.desktop.key("ctrl+Right")
+        self.desktop.key("Right")
         self.wait_for_frame(self.program, self.number + 1)
 
     def test_file_that_is_no_video_leaves_nothing_to_press(self):

@@ -62,7 +62,7 @@ class PlayingTest(MorvantileCase):
         number = self.open_long_video()
         for key, change in (("Right", 1), ("Right", 1), ("Left", -1), ("Left", -1), ("Left", -1)):
             number += change
-            self.desktop.key(f"ctrl+{key}")
+            self.desktop.key(key)
             self.wait_for_frame(self.program, number)
 
     def test_step_buttons_go_one_frame(self):
@@ -74,16 +74,16 @@ class PlayingTest(MorvantileCase):
 
     def test_many_steps_at_once_lose_none(self):
         number = self.open_long_video()
-        self.desktop.key(*["ctrl+Right"] * 20)
+        self.desktop.key(*["Right"] * 20)
         self.wait_for_frame(self.program, number + 20)
-        self.desktop.key(*["ctrl+Left"] * 15)
+        self.desktop.key(*["Left"] * 15)
         self.wait_for_frame(self.program, number + 5)
 
     def test_step_pauses_a_video_that_plays(self):
         self.open_long_video()
         self.desktop.key("space")
         wait_until(lambda: not self.program.offers_to_play(), "it does not play")
-        self.desktop.key("ctrl+Right")
+        self.desktop.key("Right")
         self.wait_for_standstill(self.program)
 
     def test_skip_keys_go_a_second(self):
@@ -139,7 +139,7 @@ class PlayingTest(MorvantileCase):
         number = self.wait_for_standstill(self.program)
         self.assertAlmostEqual(number, 0.8 * 520, delta=15)
         self.wait_for_slider_at(number)
-        self.desktop.key("ctrl+Right")
+        self.desktop.key("Right")
         self.wait_for_frame(self.program, number + 1)
         self.wait_for_slider_at(number + 1)
 

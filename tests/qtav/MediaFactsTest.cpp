@@ -1,9 +1,11 @@
 #include <QtAV/AVDemuxer.h>
 
+#include "tests/support/RunProgram.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TaggedSample.h"
 #include "tests/support/TestDir.h"
 
+#include <QFile>
 #include <QTest>
 
 using QtAV::AVDemuxer;
@@ -60,6 +62,51 @@ private Q_SLOTS:
                  QStringLiteral("Camera"));
         QCOMPARE(facts.tags.value(QStringLiteral("com.apple.quicktime.location.iso6709")),
                  QStringLiteral("+48.2+016.3/"));
+    }
+
+    void facts_tellTheRateAndTheCodec()
+    {
+        const MediaFacts facts = factsOf(samplePath(QStringLiteral("h264_bframes.mp4")));
+        QCOMPARE(facts.rateNumerator, 25 * facts.rateDenominator);
+        QCOMPARE(facts.codec, QStringLiteral("h264"));
+        QVERIFY(facts.chapters.isEmpty());
+    }
+
+    void chapters_areInTheOrderOfTheirStarts_onTheTimelineOfTheFile_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::newRow("Matroska") << QStringLiteral("mkv");
+        QTest::newRow("MP4") << QStringLiteral("mp4");
+    }
+
+    void chapters_areInTheOrderOfTheirStarts_onTheTimelineOfTheFile()
+    {
+        QFETCH(const QString, suffix);
+        const TestDir dir;
+        const QString list = dir.filePath(QStringLiteral("chapters.txt"));
+        QFile file(list);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(";FFMETADATA1\n"
+                   "[CHAPTER]\nTIMEBASE=1/1000\nSTART=0\nEND=1000\ntitle=One\n"
+                   "[CHAPTER]\nTIMEBASE=1/1000\nSTART=1000\nEND=2500\ntitle=Two ä\n"
+                   "[CHAPTER]\nTIMEBASE=1/1000\nSTART=2500\nEND=4000\n");
+        file.close();
+        const QString path = dir.filePath(QStringLiteral("a.") + suffix);
+        const auto made = testsupport::runProgram(
+            QStringLiteral("ffmpeg"),
+            {QStringLiteral("-nostdin"), QStringLiteral("-loglevel"), QStringLiteral("error"),
+             QStringLiteral("-i"), samplePath(QStringLiteral("h264_bframes.mp4")),
+             QStringLiteral("-i"), list, QStringLiteral("-map_metadata"), QStringLiteral("1"),
+             QStringLiteral("-c"), QStringLiteral("copy"), path});
+        QVERIFY2(made.succeeded(), made.standardError.constData());
+        const auto chapters = factsOf(path).chapters;
+        QCOMPARE(chapters.size(), 3);
+        QCOMPARE(chapters.at(0).startMs, 0);
+        QCOMPARE(chapters.at(0).title, QStringLiteral("One"));
+        QCOMPARE(chapters.at(1).startMs, 1000);
+        QCOMPARE(chapters.at(1).title, QStringLiteral("Two ä"));
+        QCOMPARE(chapters.at(2).startMs, 2500);
+        QCOMPARE(chapters.at(2).title, QString());
     }
 
     void longTags_areCut_andVeryManyLeftOut()

@@ -95,6 +95,7 @@ class SoundFileTest : public QObject
 private slots:
     void samples_areThoseOfTheFile_atEachPosition();
     void samples_areAsManyAsTheFormatWants();
+    void speed_givesTheFileInLessTime_orInMore();
     void lateSound_isPrecededBySilence_data();
     void lateSound_isPrecededBySilence();
     void sound_endsWhereTheFileEndsIt();
@@ -137,6 +138,26 @@ void SoundFileTest::samples_areAsManyAsTheFormatWants()
     sound.setFormat(rate / 2, 1);
     QVERIFY(sound.seek(0.0));
     QVERIFY(std::abs(readRest(sound).size() - stored.size() / 2) < 50);
+}
+
+void SoundFileTest::speed_givesTheFileInLessTime_orInMore()
+{
+    const int stored = 2 * rate;
+    SoundFile sound;
+    QVERIFY(openMono(sound, samplePath(QStringLiteral("sound_only.wav"))));
+    for (const double speed : {0.5, 1.25, 2.0}) {
+        sound.setFormat(rate, 1, speed);
+        QVERIFY(sound.seek(0.0));
+        QVERIFY(std::abs(readRest(sound).size() - stored / speed) < 50);
+        QVERIFY(sound.seek(1.5));
+        QVERIFY(std::abs(readRest(sound).size() - stored / speed / 4.0) < 50);
+    }
+    // The silence before a sound that starts later is shortened as well.
+    SoundFile late;
+    QVERIFY(openMono(late, samplePath(QStringLiteral("sound_later.mkv"))));
+    late.setFormat(rate, 1, 2.0);
+    QVERIFY(late.seek(0.0));
+    QVERIFY(std::abs(firstLoudSecond(readRest(late)) - 0.24) < 0.01);
 }
 
 void SoundFileTest::lateSound_isPrecededBySilence_data()

@@ -61,6 +61,11 @@ public:
     /// while the list is empty.
     void keepList();
 
+    /// Has the job of a video take the images of one stretch of it alone, with so many milliseconds
+    /// skipped at both ends: the first job of that video in the list, or else a new one, which is
+    /// read as in loadVideos().
+    void loadStretch(const QString& video, qint64 skipFront, qint64 skipBack);
+
     /// Whether videos are still being read.
     bool isLoading() const;
 
@@ -106,6 +111,8 @@ private Q_SLOTS:
 private:
     void setupLoading();
     void addVideos(const QStringList& files);
+    [[nodiscard]] BatchWorkerConfig* jobOf(const QString& video) const;
+    [[nodiscard]] BatchWorkerConfig* newJob(const QString& video);
     void read(const QList<BatchWorkerConfig*>& jobs);
     void listJob(BatchWorkerConfig* job);
     void showLoading();

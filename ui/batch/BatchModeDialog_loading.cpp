@@ -16,6 +16,7 @@
 #include <QSettings>
 #include <QUrl>
 
+#include <algorithm>
 #include <chrono>
 
 namespace {
@@ -78,6 +79,44 @@ bool BatchModeDialog::isLoading() const
     return m_loader->isLoading();
 }
 
+void BatchModeDialog::loadStretch(const QString& video, qint64 skipFront, qint64 skipBack)
+{
+    BatchWorkerConfig* job = jobOf(video);
+    const bool isNew = job == nullptr;
+    if (isNew) {
+        job = newJob(video);
+    }
+    job->setSkipFront(skipFront);
+    job->setSkipBack(skipBack);
+    if (isNew) {
+        read({job});
+    } else {
+        showJobsAnew();
+    }
+}
+
+/// The first one of the video, listed or being read; null for none.
+BatchWorkerConfig* BatchModeDialog::jobOf(const QString& video) const
+{
+    const QFileInfo wanted(video);
+    const auto isOfVideo = [&wanted](const BatchWorkerConfig* job) {
+        return QFileInfo(job->source()) == wanted;
+    };
+    const QList<BatchWorkerConfig*> jobs = m_model->getConfigs() + m_loader->waitingJobs();
+    const auto found = std::find_if(jobs.cbegin(), jobs.cend(), isOfVideo);
+    return found == jobs.cend() ? nullptr : *found;
+}
+
+BatchWorkerConfig* BatchModeDialog::newJob(const QString& video)
+{
+    auto* const config = new BatchWorkerConfig(this);
+    // The choice of the user, once there is one.
+    config->setExactFrames(true);
+    config->loadFromLastUsed();
+    config->setSource(video);
+    return config;
+}
+
 void BatchModeDialog::addVideos(const QStringList& files)
 {
     if (!files.isEmpty()) {
@@ -87,12 +126,7 @@ void BatchModeDialog::addVideos(const QStringList& files)
     }
     QList<BatchWorkerConfig*> jobs;
     for (const QString& file : files) {
-        auto* const config = new BatchWorkerConfig(this);
-        // The choice of the user, once there is one.
-        config->setExactFrames(true);
-        config->loadFromLastUsed();
-        config->setSource(file);
-        jobs.append(config);
+        jobs.append(newJob(file));
     }
     read(jobs);
 }

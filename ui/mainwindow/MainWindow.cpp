@@ -1,5 +1,6 @@
 #include "ui/mainwindow/MainWindow.h"
 
+#include "ui/mainwindow/ReturnKey.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui_MainWindow.h"
 #include "video/ReadingLimits.h"
@@ -10,7 +11,6 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QMessageBox>
 
 namespace {
@@ -21,9 +21,9 @@ QDir storedOpenDir(const QSettings& settings)
 }
 
 /// Room for the widest time, so that the row does not shake while the digits change.
-void reserveTimeWidth(QLabel& label)
+int widestTime(const QWidget& widget)
 {
-    label.setMinimumWidth(label.fontMetrics().horizontalAdvance(QStringLiteral("00:00:00.000")));
+    return widget.fontMetrics().horizontalAdvance(QStringLiteral("00:00:00.000"));
 }
 
 /// A control that the space key presses.
@@ -52,7 +52,7 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     // to screen readers they would then stay what they were at that moment, plain areas.
     m_ui->automaticFileNameGroupBox->setChecked(false);
     GroupBoxMargins::apply(*this);
-    shareSpaceKey();
+    keepKeysForVideo();
     updateWindowTitle();
     setupFilmstrip();
     setupRecentFiles();
@@ -62,7 +62,13 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     updatePlayButton();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // The control that has the keyboard tells when it loses it, and while all is there still.
+    if (QWidget* const control = focusWidget()) {
+        control->clearFocus();
+    }
+}
 
 void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
 {
@@ -91,6 +97,7 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     updateAutomaticFileNameDisplay();
     setupVolumePopup();
     setupShowInFolder();
+    setupSteering();
 }
 
 /// Says that there is nothing to show videos with, and leaves only what works without.
@@ -168,32 +175,23 @@ void MainWindow::alignControls()
     // Two lines of it, so that the snapshot keeps its size when its line comes up.
     m_ui->snapshotSummaryLabel->setFixedHeight(
         2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());
-    reserveTimeWidth(*m_ui->positionLabel);
-    reserveTimeWidth(*m_ui->durationLabel);
+    constexpr int frameOfField = 20;
+    m_ui->timecodeField->setFixedWidth(widestTime(*m_ui->timecodeField) + frameOfField);
+    m_ui->durationLabel->setMinimumWidth(widestTime(*m_ui->durationLabel));
 }
 
-/// Space plays and pauses, but presses the control that somebody went to by Tab. So that a click
-/// never takes the key from the video, it does not take the keyboard along.
-void MainWindow::shareSpaceKey()
+/// The keys are the video's wherever the keyboard is, except while somebody types: Return, and not
+/// Space, presses the control that somebody went to by Tab. A click does not take the keyboard
+/// along.
+void MainWindow::keepKeysForVideo()
 {
+    ReturnKey::pressControls(*m_ui->centralWidget);
     const auto controls = m_ui->centralWidget->findChildren<QWidget*>();
     for (QWidget* const control : controls) {
         if (isPressedBySpace(control)) {
             control->setFocusPolicy(Qt::TabFocus);
         }
     }
-}
-
-bool MainWindow::event(QEvent* event)
-{
-    if (event->type() == QEvent::ShortcutOverride && isPressedBySpace(focusWidget())) {
-        const auto& key = *static_cast<const QKeyEvent*>(event);
-        if (key.key() == Qt::Key_Space && key.modifiers() == Qt::NoModifier) {
-            event->accept();
-            return true;
-        }
-    }
-    return QMainWindow::event(event);
 }
 
 void MainWindow::retakeFocusAfterDialog()

@@ -16,14 +16,18 @@
 #include <QString>
 #include <QVector>
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
 
+class BatchModeDialog;
 class BestFramesDialog;
 class FileNameProfile;
 class Filmstrip;
+class FullScreen;
 class ImageProfile;
+class PlayerSteering;
 class QFileDialog;
 class QMenu;
 class QPushButton;
@@ -47,7 +51,8 @@ class MainWindow;
 /// in MainWindow_files.cpp, what is remembered in MainWindow_memory.cpp, the player in
 /// MainWindow_player.cpp, the snapshot in
 /// MainWindow_snapshot.cpp and what is told of it in MainWindow_summary.cpp, those that were taken
-/// before in MainWindow_filmstrip.cpp, the menus in MainWindow_menus.cpp.
+/// before in MainWindow_filmstrip.cpp, the menus in MainWindow_menus.cpp, and the ways to a frame
+/// that PlayerSteering adds, with the keys, in MainWindow_steering.cpp.
 ///
 /// Settings: "lastOpenDir", the folder that the save dialog starts in, and "lastSaveDir" in place
 /// of it where the user saved elsewhere; "outputFolder" of the automatic names,
@@ -185,6 +190,8 @@ public Q_SLOTS:
     void saveWithAutomaticFileName();
     void showSaveDialog();
     void on_actionTake_Snapshot_triggered();
+    /// Takes a snapshot and saves it without asking, under the next automatic name.
+    void takeAndSave();
     void on_actionCopy_Snapshot_triggered();
     void on_actionCopy_Full_Frame_triggered();
     /// The chosen profile is used from now on, also for the snapshot that is there.
@@ -235,7 +242,16 @@ private:
     void chooseDeinterlacing(const QString& name);
     void chooseHdr(int hdr);
     void followImageProfile();
-    void shareSpaceKey();
+    void keepKeysForVideo();
+    void setupSteering();
+    void connectSteering();
+    void connectStretch();
+    void connectMute();
+    void setupFullScreen();
+    void setupKeyTips();
+    void setSteeringEnabled(bool on);
+    void giveKeyboardToVideo();
+    void loadMarkedStretch(BatchModeDialog& dialog) const;
     void quit();
     void endWhenSafe();
     void saveLayout();
@@ -283,7 +299,8 @@ private:
     void reportSavedSnapshots(int saved, int failed, const QString& lastFile);
     [[nodiscard]] QString folderForSnapshots();
 
-    void capture();
+    void capture(bool isToBeSaved = false);
+    [[nodiscard]] bool takeSaving();
     [[nodiscard]] QString makeSnapshot(ImageProfile* profile);
     void warnOfCapture(const QString& reason);
     void resetSnapshot();
@@ -350,4 +367,9 @@ private:
     ImageProfile* m_imageProfile = nullptr;
     FileNameProfile* m_fileNameProfile = nullptr;
     CaptureTickets m_captures;
+    /// Of the captures that are still to come, which are to be saved at once.
+    std::deque<bool> m_savesCapture;
+    /// Null in a window without a player, as is m_fullScreen.
+    PlayerSteering* m_steering = nullptr;
+    FullScreen* m_fullScreen = nullptr;
 };

@@ -4,6 +4,7 @@
 
 #include "profiles/ImageProfile.h"
 #include "ui/mainwindow/BestFramesDialog.h"
+#include "ui/mainwindow/PlayerSteering.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
@@ -37,6 +38,11 @@ void MainWindow::setupBestFrames()
 
 void MainWindow::proposeBestFramesHere()
 {
+    const MarkedStretch& marked = m_steering->stretch();
+    if (marked.fromMs && marked.toMs) {
+        proposeBestFrames(*marked.fromMs, *marked.toMs + 1);
+        return;
+    }
     const qint64 here = m_player->displayPosition();
     proposeBestFrames(std::max<qint64>(0, here - aroundMs), here + aroundMs + 1);
 }

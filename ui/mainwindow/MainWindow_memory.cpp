@@ -2,6 +2,7 @@
 
 #include "ui/mainwindow/MainWindow.h"
 
+#include "ui/mainwindow/FullScreen.h"
 #include "ui_MainWindow.h"
 
 namespace {
@@ -30,6 +31,9 @@ void MainWindow::restoreLayout()
 
 void MainWindow::saveLayout()
 {
+    if (m_fullScreen != nullptr) {
+        m_fullScreen->setOn(false);
+    }
     m_settings.setValue(geometryKey, saveGeometry());
     m_settings.setValue(splitterKey, m_ui->splitter->saveState());
     m_settings.setValue(automaticKey, m_ui->automaticFileNameGroupBox->isChecked());

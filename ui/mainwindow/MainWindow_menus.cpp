@@ -64,6 +64,7 @@ void MainWindow::on_actionBatch_Mode_triggered()
     pause();
     BatchModeDialog dialog(this);
     dialog.keepList();
+    loadMarkedStretch(dialog);
     dialog.exec();
     // Profiles may have been added, renamed and chosen there.
     loadImageProfileComboBox();

@@ -1,6 +1,7 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include "ui/mainwindow/BestFramesDialog.h"
+#include "ui/mainwindow/TimeText.h"
 #include "ui/widgets/SmartFileDialog.h"
 #include "ui/widgets/VolumePopup.h"
 #include "ui/widgets/ZoomGestures.h"
@@ -10,7 +11,6 @@
 #include <QtAV/VideoOutput.h>
 
 #include <QDebug>
-#include <QTime>
 
 #include <algorithm>
 #include <limits>
@@ -22,13 +22,6 @@ constexpr qint64 skipMs = 1000;
 
 /// How precise the slider is: finer than a frame of most videos.
 constexpr qint64 sliderUnitMs = 30;
-
-QString timeText(qint64 ms)
-{
-    // Only the time of day is shown, so that whole days may go before the conversion to int.
-    constexpr qint64 dayMs = 24 * 60 * 60 * 1000;
-    return QTime(0, 0, 0, 0).addMSecs(int(ms % dayMs)).toString(QStringLiteral("hh:mm:ss.zzz"));
-}
 
 int sliderSteps(qint64 ms, qint64 unit)
 {
@@ -81,10 +74,12 @@ void MainWindow::setVideoControlsEnabled(bool on)
     m_bestFramesAction->setEnabled(on);
     m_ui->videoSlider->setEnabled(on);
     m_ui->videoControlsFrame->setEnabled(on);
+    m_ui->timecodeField->setEnabled(on);
     const QList<QAction*> actions = m_ui->menuVideoControls->actions();
     for (QAction* const action : actions) {
         action->setEnabled(on);
     }
+    setSteeringEnabled(on);
     if (!on) {
         durationChanged(0);
         positionChanged(0);
@@ -185,6 +180,7 @@ void MainWindow::closeVideo()
     m_bestFrames->reset();
     m_videoZoom->fit();
     m_takenWhenShown.reset();
+    m_savesCapture.clear();
     updateWindowTitle();
     setVideoControlsEnabled(false);
     setSnapshotControlsEnabled(false);
@@ -275,6 +271,7 @@ void MainWindow::updatePlayButton()
 void MainWindow::updateSliderUnit()
 {
     m_sliderUnit = sliderUnitMs;
+    m_ui->videoSlider->setStepMs(m_sliderUnit);
     qDebug() << "updateSliderUnit: " << m_sliderUnit;
     updateSlider();
 }
@@ -303,7 +300,7 @@ void MainWindow::durationChanged(qint64 duration)
 void MainWindow::positionChanged(qint64 position)
 {
     Q_UNUSED(position)
-    m_ui->positionLabel->setText(timeText(m_player->displayPosition()));
+    m_ui->timecodeField->setTime(timeText(m_player->displayPosition()));
     noteVideoSize();
     updateSlider();
 }

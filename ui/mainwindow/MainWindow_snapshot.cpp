@@ -7,10 +7,12 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "ui/filmstrip/Filmstrip.h"
+#include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/SavePath.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
+#include <QtAV/Times.h>
 
 #include <QDebug>
 #include <QFileDialog>
@@ -62,16 +64,33 @@ void MainWindow::on_actionTake_Snapshot_triggered()
     capture();
 }
 
-void MainWindow::capture()
+void MainWindow::capture(bool isToBeSaved)
 {
     if (!maySnapshotGo()) {
         return;
     }
     m_captures.ask();
+    m_savesCapture.push_back(isToBeSaved);
     m_capturedPlace = isVideoLoaded()
-                          ? tr("%1 at %2").arg(currentVideoFileName(), m_ui->positionLabel->text())
+                          ? tr("%1 at %2").arg(currentVideoFileName(), m_ui->timecodeField->time())
                           : QString();
     m_player->videoCapture()->capture();
+}
+
+void MainWindow::takeAndSave()
+{
+    capture(true);
+}
+
+/// Whether the capture that has just been answered is to be saved at once.
+bool MainWindow::takeSaving()
+{
+    if (m_savesCapture.empty()) {
+        return false;
+    }
+    const bool saves = m_savesCapture.front();
+    m_savesCapture.pop_front();
+    return saves;
 }
 
 void MainWindow::snapshotCaptured(const QImage& image)
@@ -79,6 +98,7 @@ void MainWindow::snapshotCaptured(const QImage& image)
     if (!m_captures.answer()) {
         return;
     }
+    const bool isToBeSaved = takeSaving();
     m_captured = CapturedPicture();
     m_captured.image = image.copy();
     m_captured.frame = m_player->videoCapture()->capturedFrame();
@@ -90,6 +110,10 @@ void MainWindow::snapshotCaptured(const QImage& image)
     setSnapshotControlsEnabled(true);
     if (!error.isEmpty()) {
         warnOfCapture(error);
+        return;
+    }
+    if (isToBeSaved) {
+        saveWithAutomaticFileName();
     }
 }
 
@@ -108,6 +132,7 @@ PictureSource MainWindow::sourceOfCapture(const QImage& image) const
 void MainWindow::onCaptureError()
 {
     if (m_captures.answer()) {
+        (void)takeSaving();
         warnOfCapture(QString());
     }
 }

@@ -44,6 +44,18 @@ int VolumePopup::volume()
     return m_ui->muteCheckBox->isChecked() ? 0 : m_ui->volumeSlider->value();
 }
 
+bool VolumePopup::isMuted() const
+{
+    return m_ui->muteCheckBox->isChecked();
+}
+
+void VolumePopup::setMuted(bool muted)
+{
+    if (muted != isMuted()) {
+        m_ui->muteCheckBox->click();
+    }
+}
+
 void VolumePopup::on_volumeSlider_valueChanged(int value)
 {
     m_settings.setValue(volumeKey(), value);

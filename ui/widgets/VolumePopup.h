@@ -25,6 +25,10 @@ public:
     /// The volume to play at, 0 to 100: 0 while muted, whatever the slider shows.
     int volume();
 
+    bool isMuted() const;
+    /// As if the user had set or taken away the check mark.
+    void setMuted(bool muted);
+
 Q_SIGNALS:
     /// The user changed the volume or muted it; `volume` is what volume() gives.
     void volumeChanged(int volume);

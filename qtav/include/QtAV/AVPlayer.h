@@ -52,6 +52,12 @@ public:
     };
     Q_ENUM(State)
 
+    /// The limits of the speed, and those within which there is sound; its pitch goes with it.
+    static constexpr qreal slowest = 0.1;
+    static constexpr qreal fastest = 8.0;
+    static constexpr qreal slowestSound = 0.5;
+    static constexpr qreal fastestSound = 2.0;
+
     explicit AVPlayer(QObject* parent = nullptr);
     ~AVPlayer() override;
 
@@ -84,6 +90,10 @@ public:
 
     /// How far apart two frames are, in milliseconds: how often positionChanged() may be expected.
     int notifyInterval() const;
+
+    /// How many seconds of the video are played in one, from slowest to fastest; 1 at first. It
+    /// holds for every file that is played.
+    qreal speed() const;
 
     void setMediaEndAction(MediaEndAction action);
     MediaEndAction mediaEndAction() const;
@@ -132,6 +142,10 @@ public Q_SLOTS:
     void setPosition(qint64 ms);
     void seek(qint64 ms) { setPosition(ms); }
 
+    /// Plays faster or slower from now on; what lies outside of the limits is clamped. A machine
+    /// that cannot decode so fast leaves frames out, or plays slower.
+    void setSpeed(qreal speed);
+
     /// Show the very next frame or the one before, and pause. Stay at the video's ends, and where
     /// the next frame cannot be read.
     void stepForward();
@@ -154,6 +168,7 @@ Q_SIGNALS:
     /// Another frame is on screen; its time.
     void positionChanged(qint64 ms);
     void notifyIntervalChanged();
+    void speedChanged(qreal speed);
     /// The newest seek's frame is on screen; its time.
     void seekFinished(qint64 ms);
     /// The next frame, or the one before, cannot be read: the player pauses and the frame on screen

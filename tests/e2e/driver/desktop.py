@@ -142,6 +142,10 @@ class Desktop:
         finally:
             self._do("keyup", key)
 
+    def turn_wheel(self, notches):
+        """Away from the user, or towards them where it is negative."""
+        self._do("click", "--repeat", str(abs(notches)), "4" if notches > 0 else "5")
+
     def click(self, x, y):
         # In one go: held long, as on a busy machine, a button means something else to lists.
         self._do("mousemove", str(int(x)), str(int(y)), "click", "1")

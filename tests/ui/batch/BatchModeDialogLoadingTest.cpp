@@ -70,6 +70,8 @@ private Q_SLOTS:
     void removedVideo_isNotSelected_whenAllAreRead();
     void start_isDisabled_withAReason_untilAllAreRead();
     void start_readsNoVideoAgain();
+    void stretch_becomesTheSkips_ofTheJobOfTheVideo();
+    void stretch_isThatOfANewJob_whereTheVideoHasNone();
     void closing_stopsReading_data();
     void closing_stopsReading();
     void dialog_canBeDestroyed_whileItReads();
@@ -224,6 +226,35 @@ void BatchModeDialogLoadingTest::start_readsNoVideoAgain()
     QVERIFY(QFile::exists(mode.dir().filePath(QStringLiteral("h264_bframes-.jpeg"))));
     QCOMPARE(mode.job(0).videoInfo().duration, 1);
     QCOMPARE(mode.job(0).videoInfo().width, 2);
+}
+
+void BatchModeDialogLoadingTest::stretch_becomesTheSkips_ofTheJobOfTheVideo()
+{
+    ModeDialog mode;
+    const QString other = samplePath(QStringLiteral("mpeg4.mp4"));
+    mode.load({goodVideo(), other});
+    mode.select({1});
+    mode.dialog().loadStretch(other, 400, 1200);
+    QVERIFY(!mode.dialog().isLoading());
+    QCOMPARE(mode.model().rowCount(), 2);
+    QCOMPARE(mode.job(0).skipFront(), 2000);
+    QCOMPARE(mode.job(1).skipFront(), 400);
+    QCOMPARE(mode.job(1).skipBack(), 1200);
+    QCOMPARE(mode.text("skipFrontTextEdit"), QStringLiteral("400"));
+    QCOMPARE(mode.text("skipBackTextEdit"), QStringLiteral("1200"));
+}
+
+void BatchModeDialogLoadingTest::stretch_isThatOfANewJob_whereTheVideoHasNone()
+{
+    ModeDialog mode;
+    mode.dialog().loadStretch(goodVideo(), 400, 1200);
+    // It is there though it has not been read yet.
+    mode.dialog().loadStretch(goodVideo(), 500, 1300);
+    mode.waitUntilLoaded();
+    QCOMPARE(names(mode), QStringList{QStringLiteral("h264_bframes")});
+    QCOMPARE(mode.selectedRows(), QList<int>{0});
+    QCOMPARE(mode.job(0).skipFront(), 500);
+    QCOMPARE(mode.job(0).skipBack(), 1300);
 }
 
 void BatchModeDialogLoadingTest::closing_stopsReading_data()

@@ -116,8 +116,8 @@ void MainWindowOpeningTest::newWindow_hasTheTextsAndShortcuts()
     QCOMPARE(shortcut(window, "actionTake_Snapshot"), QKeySequence(Qt::CTRL + Qt::Key_A));
     QCOMPARE(shortcut(window, "actionCopy_Snapshot"), QKeySequence(Qt::CTRL + Qt::Key_C));
     QCOMPARE(shortcut(window, "actionCopy_Full_Frame"), QKeySequence(Qt::CTRL + Qt::Key_X));
-    QCOMPARE(shortcut(window, "actionStepForward"), QKeySequence(Qt::CTRL + Qt::Key_Right));
-    QCOMPARE(shortcut(window, "actionStepBackward"), QKeySequence(Qt::CTRL + Qt::Key_Left));
+    QCOMPARE(shortcut(window, "actionStepForward"), QKeySequence(Qt::Key_Right));
+    QCOMPARE(shortcut(window, "actionStepBackward"), QKeySequence(Qt::Key_Left));
     QCOMPARE(shortcut(window, "actionStepFieldForward"), QKeySequence(Qt::ALT + Qt::Key_Right));
     QCOMPARE(shortcut(window, "actionStepFieldBackward"), QKeySequence(Qt::ALT + Qt::Key_Left));
     QCOMPARE(shortcut(window, "actionSkipForward"), QKeySequence(Qt::CTRL + Qt::Key_Up));

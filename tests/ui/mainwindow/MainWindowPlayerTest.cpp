@@ -28,7 +28,7 @@ private Q_SLOTS:
     void playPause_goesBothWays();
     void click_playsAndPausesTheVideo();
     void playButton_showsWhatItDoes();
-    void space_pressesTheControlReachedByTab_elseItPlays();
+    void click_leavesTheKeyboardWithTheVideo();
     void step_showsTheNextAndThePreviousFrame();
     void stepField_goesToTheOtherMoment_ofAnInterlacedPicture();
     void deinterlacing_isThatOfTheSelectedProfile();
@@ -115,21 +115,12 @@ void MainWindowPlayerTest::playButton_showsWhatItDoes()
     QTRY_COMPARE(looks(), play);
 }
 
-void MainWindowPlayerTest::space_pressesTheControlReachedByTab_elseItPlays()
+void MainWindowPlayerTest::click_leavesTheKeyboardWithTheVideo()
 {
     OpenWindow window;
-    QVERIFY(window.openPaused(
-        window.copyOf(QStringLiteral("h264_gop250.mp4"), QStringLiteral("a.mp4"))));
+    QVERIFY(window.openPaused(samplePath(clip)));
     QApplication::setActiveWindow(&window.window());
-    auto& box = window.find<QGroupBox>("automaticFileNameGroupBox");
     auto& step = window.find<QPushButton>("stepForwardButton");
-    QVERIFY(window.takeSnapshot());
-
-    box.setFocus(Qt::TabFocusReason);
-    QTest::keyClick(&box, Qt::Key_Space);
-    QVERIFY(box.isChecked());
-    QVERIFY(!window.player().isPlaying());
-
     window.find<QWidget>("videoFrame").setFocus();
     QTest::mouseClick(&step, Qt::LeftButton);
     QVERIFY(!step.hasFocus());
