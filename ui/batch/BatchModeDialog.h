@@ -1,5 +1,7 @@
 #pragma once
 
+#include "batch/BatchWorkerConfig.h"
+
 #include <QDialog>
 #include <QList>
 #include <QSet>
@@ -10,7 +12,6 @@
 #include <memory>
 
 class BatchModeListModel;
-class BatchWorkerConfig;
 class Field;
 class ProfileManager;
 class QComboBox;
