@@ -18,8 +18,10 @@
 
 int main(int argc, char** argv)
 {
+#if QT_VERSION_MAJOR < 6 // where screens of many pixels are no matter of course
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
+#endif
     MemoryPolicy::returnFreedMemory();
     GraphicsPolicy::avoidImitatedOpenGL();
     Startup::makeSignalsErrors();

@@ -28,7 +28,7 @@ void forEachDefault(const QObject& config, const std::function<void(const char*)
     const QMetaObject* const meta = config.metaObject();
     for (int i = 0; i < meta->propertyCount(); ++i) {
         const QMetaProperty property = meta->property(i);
-        const bool persistent = property.isStored(&config) && property.isWritable();
+        const bool persistent = property.isStored() && property.isWritable();
         if (persistent && !ignored.contains(QString::fromLatin1(property.name()))) {
             use(property.name());
         }

@@ -8,6 +8,8 @@ option(MORVANTILE_QUICK_BUILD "Build with precompiled headers, a quicker linker 
 option(MORVANTILE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(MORVANTILE_BUILD_FUZZERS "Build the harnesses of fuzz/ with libFuzzer; needs clang" OFF)
 option(MORVANTILE_WERROR "Treat warnings as errors" OFF)
+set(MORVANTILE_QT 5 CACHE STRING "Major version of Qt to build with: 5 or 6")
+set_property(CACHE MORVANTILE_QT PROPERTY STRINGS 5 6)
 set(MORVANTILE_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
@@ -30,6 +32,21 @@ set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# Which version `Qt::Core` is, and who makes its metaobjects.
+set(QT_DEFAULT_MAJOR_VERSION ${MORVANTILE_QT})
+
+# morvantile_find_qt(MODULE…): finds modules of the chosen version, as the targets Qt::MODULE.
+# A macro, since Qt leaves variables behind that its functions need.
+set(MORVANTILE_OLDEST_QT_5 5.15)
+set(MORVANTILE_OLDEST_QT_6 6.4)
+if(NOT DEFINED MORVANTILE_OLDEST_QT_${MORVANTILE_QT})
+  message(FATAL_ERROR "MORVANTILE_QT is ${MORVANTILE_QT}, and must be 5 or 6")
+endif()
+macro(morvantile_find_qt)
+  find_package(Qt${MORVANTILE_QT} ${MORVANTILE_OLDEST_QT_${MORVANTILE_QT}} REQUIRED
+    COMPONENTS ${ARGN})
+endmacro()
 
 add_library(morvantile_settings INTERFACE)
 target_compile_definitions(morvantile_settings INTERFACE

@@ -125,7 +125,7 @@ SeriesBoard::Task SeriesBoard::planned(int video, SeriesPlan plan, const SeriesF
     const bool hasStretch = !state.stretches.empty();
     if (!failures.empty()) {
         StretchState last;
-        last.part = {plan.targets.size(), plan.targets.size()};
+        last.part = {int(plan.targets.size()), int(plan.targets.size())};
         last.next = last.part.end;
         last.waiting = std::move(failures);
         state.stretches.push_back(std::move(last));

@@ -1,5 +1,7 @@
 #include "stills/FileNameCodec.h"
 
+#if QT_VERSION_MAJOR < 6
+
 #include <array>
 
 namespace stills {
@@ -121,3 +123,5 @@ QByteArray FileNameCodec::convertFromUnicode(const QChar* text, int length,
 }
 
 } // namespace stills
+
+#endif

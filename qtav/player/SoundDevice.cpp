@@ -2,8 +2,14 @@
 
 #include "qtav/player/SoundClock.h"
 
+#if QT_VERSION_MAJOR >= 6
+#include <QAudioDevice>
+#include <QAudioSink>
+#include <QMediaDevices>
+#else
 #include <QAudioDeviceInfo>
 #include <QAudioOutput>
+#endif
 
 #include <algorithm>
 
@@ -11,11 +17,66 @@ namespace QtAV {
 
 namespace {
 
+// What Qt Multimedia calls a device and its output, and which samples of 16 bits it takes.
+#if QT_VERSION_MAJOR >= 6
+using DeviceInfo = QAudioDevice;
+using Output = QAudioSink;
+
+DeviceInfo defaultDevice()
+{
+    return QMediaDevices::defaultAudioOutput();
+}
+
+bool hasWordSamples(const QAudioFormat& format)
+{
+    return format.isValid() && format.sampleFormat() == QAudioFormat::Int16;
+}
+
+QAudioFormat formatFor(const DeviceInfo& info, int preferredRate)
+{
+    QAudioFormat format;
+    format.setSampleFormat(QAudioFormat::Int16);
+    format.setChannelCount(2);
+    format.setSampleRate(preferredRate);
+    if (info.isFormatSupported(format))
+        return format;
+    format = info.preferredFormat();
+    format.setSampleFormat(QAudioFormat::Int16);
+    return format;
+}
+#else
+using DeviceInfo = QAudioDeviceInfo;
+using Output = QAudioOutput;
+
+DeviceInfo defaultDevice()
+{
+    return DeviceInfo::defaultOutputDevice();
+}
+
+bool hasWordSamples(const QAudioFormat& format)
+{
+    return format.isValid() && format.sampleSize() == 16 &&
+           format.sampleType() == QAudioFormat::SignedInt;
+}
+
+QAudioFormat formatFor(const DeviceInfo& info, int preferredRate)
+{
+    QAudioFormat format;
+    format.setCodec(QStringLiteral("audio/pcm"));
+    format.setByteOrder(static_cast<QAudioFormat::Endian>(QSysInfo::ByteOrder));
+    format.setSampleType(QAudioFormat::SignedInt);
+    format.setSampleSize(16);
+    format.setChannelCount(2);
+    format.setSampleRate(preferredRate);
+    return info.isFormatSupported(format) ? format : info.nearestFormat(format);
+}
+#endif
+
 /// A device of Qt Multimedia's.
 class SystemDevice : public SoundDevice
 {
 public:
-    SystemDevice(const QAudioDeviceInfo& info, const QAudioFormat& format)
+    SystemDevice(const DeviceInfo& info, const QAudioFormat& format)
         : m_format(format)
         , m_output(info, format)
     {}
@@ -26,7 +87,7 @@ public:
     bool start(QIODevice* source) override
     {
         m_output.start(source);
-        const qint64 bufferUs = m_format.durationForBytes(m_output.bufferSize());
+        const qint64 bufferUs = m_format.durationForBytes(static_cast<int>(m_output.bufferSize()));
         m_clock.reset(double(bufferUs) / 1e6, std::chrono::steady_clock::now());
         return m_output.error() == QAudio::NoError;
     }
@@ -44,7 +105,8 @@ public:
     double heardSeconds() override
     {
         // What was read from the source less what still waits for the device to take it.
-        const int buffered = std::max(0, m_output.bufferSize() - m_output.bytesFree());
+        const auto buffered =
+            std::max(0, static_cast<int>(m_output.bufferSize() - m_output.bytesFree()));
         const qint64 us = m_output.processedUSecs() - m_format.durationForBytes(buffered);
         return m_clock.heard(std::max(0.0, double(us) / 1e6), std::chrono::steady_clock::now());
     }
@@ -54,20 +116,8 @@ public:
 private:
     SoundClock m_clock;
     QAudioFormat m_format;
-    QAudioOutput m_output;
+    Output m_output;
 };
-
-QAudioFormat formatFor(const QAudioDeviceInfo& info, int preferredRate)
-{
-    QAudioFormat format;
-    format.setCodec(QStringLiteral("audio/pcm"));
-    format.setByteOrder(static_cast<QAudioFormat::Endian>(QSysInfo::ByteOrder));
-    format.setSampleType(QAudioFormat::SignedInt);
-    format.setSampleSize(16);
-    format.setChannelCount(2);
-    format.setSampleRate(preferredRate);
-    return info.isFormatSupported(format) ? format : info.nearestFormat(format);
-}
 
 SoundDevice::Factory& factoryInUse()
 {
@@ -79,13 +129,11 @@ SoundDevice::Factory& factoryInUse()
 
 std::unique_ptr<SoundDevice> SoundDevice::openDefault(int preferredRate)
 {
-    const QAudioDeviceInfo info = QAudioDeviceInfo::defaultOutputDevice();
+    const DeviceInfo info = defaultDevice();
     if (info.isNull())
         return nullptr;
     const QAudioFormat format = formatFor(info, preferredRate);
-    const bool isUsable = format.isValid() && format.sampleSize() == 16 &&
-                          format.sampleType() == QAudioFormat::SignedInt;
-    return isUsable ? std::make_unique<SystemDevice>(info, format) : nullptr;
+    return hasWordSamples(format) ? std::make_unique<SystemDevice>(info, format) : nullptr;
 }
 
 void SoundDevice::setFactory(Factory factory)

@@ -121,8 +121,8 @@ void BatchWorkerConfigTest::properties_areStoredAndDesignable()
         const bool isExample = qstrcmp(property.name(), "filenameExample") == 0;
         QVERIFY(property.isReadable());
         QCOMPARE(property.isWritable(), !isExample);
-        QVERIFY(property.isStored(&config));
-        QVERIFY(property.isDesignable(&config));
+        QVERIFY(property.isStored());
+        QVERIFY(property.isDesignable());
     }
 }
 

@@ -1,5 +1,6 @@
 #include "imaging/ImageFileWriter.h"
 
+#include "tests/support/Pixels.h"
 #include "tests/support/ResourceLimits.h"
 
 #include <QColorSpace>
@@ -15,6 +16,7 @@
 #include <memory>
 
 using testsupport::MemoryLimit;
+using testsupport::pixelsOf;
 
 namespace {
 
@@ -94,7 +96,7 @@ private slots:
         const QImage image = reader.read();
         QCOMPARE(image.size(), picture().size());
         if (format != "jpeg")
-            QCOMPARE(image.convertToFormat(QImage::Format_ARGB32), picture());
+            QCOMPARE(pixelsOf(image, QImage::Format_ARGB32), picture());
     }
 
     void write_givesWhatQtsWriterGives_data()
@@ -159,7 +161,7 @@ private slots:
             const QByteArray content =
                 ImageFileWriter::encode(image, QStringLiteral("png"), quality);
             const QImage decoded = QImage::fromData(content);
-            return decoded.convertToFormat(image.format()) == image ? content.size() : -1;
+            return pixelsOf(decoded, image.format()) == image ? int(content.size()) : -1;
         };
         for (const int quality : {-1, 0, 50, 89, 90, 100, 150}) {
             QVERIFY2(size(quality) > 0, qPrintable(QString::number(quality)));
@@ -198,8 +200,7 @@ private slots:
         const QImage decoded = QImage::fromData(content);
         QCOMPARE(decoded.colorTable(), image.colorTable());
         QCOMPARE(decoded.text(QStringLiteral("Title")), QStringLiteral("a title"));
-        QCOMPARE(decoded.convertToFormat(QImage::Format_RGB32),
-                 image.convertToFormat(QImage::Format_RGB32));
+        QCOMPARE(pixelsOf(decoded, QImage::Format_RGB32), pixelsOf(image, QImage::Format_RGB32));
     }
 
     void write_failsWithoutATrace_data()
@@ -272,9 +273,9 @@ private slots:
         };
         QCOMPARE(write(picture(), ExistingFile::Keep), WriteResult::Written);
         QCOMPARE(write(other, ExistingFile::Keep), WriteResult::AlreadyExists);
-        QCOMPARE(QImage(path).convertToFormat(QImage::Format_ARGB32), picture());
+        QCOMPARE(pixelsOf(QImage(path), QImage::Format_ARGB32), picture());
         QCOMPARE(write(other, ExistingFile::Replace), WriteResult::Written);
-        QCOMPARE(QImage(path).convertToFormat(QImage::Format_ARGB32), other);
+        QCOMPARE(pixelsOf(QImage(path), QImage::Format_ARGB32), other);
     }
 };
 

@@ -416,8 +416,7 @@ private slots:
             QTest::addRow("four, order %d, RGBA64 by way of ARGB32", order)
                 << CV_8UC4 << order << QImage::Format_RGBA64 << QImage::Format_RGBA64 << straight;
             QTest::addRow("four, order %d, no format", order)
-                << CV_8UC4 << order << static_cast<QImage::Format>(31) << QImage::Format_ARGB32
-                << straight;
+                << CV_8UC4 << order << QImage::NImageFormats << QImage::Format_ARGB32 << straight;
         }
         for (const int order : {bgr, argb}) {
             QTest::addRow("four, order %d, RGB888", order)

@@ -267,7 +267,7 @@ private slots:
         QCOMPARE(loaded->yMargin(), 5000);
         QCOMPARE(loaded->alpha(), 128);
         QCOMPARE(loaded->text(), saved.text());
-        QCOMPARE(loaded->textFont(), font);
+        QCOMPARE(loaded->textFont().toString(), font.toString());
         QCOMPARE(loaded->textColor(), QColor(1, 2, 3, 4));
         QCOMPARE(loaded->textShadowColor(), QColor(250, 251, 252, 253));
         QCOMPARE(loaded->textShadowOffset(), QPoint(-2, 9));

@@ -173,7 +173,7 @@ void NalUnitsTest::damagedLength_endsTheUnits()
     const NalUnits units = madeFor<NalUnits>(static_cast<AVCodecID>(codec), lengthBytes);
     NalUnits::Cursor cursor = units.of(bytes.data(), qsizetype(bytes.size()));
     const Walk walk = walkThrough(cursor);
-    QTEST(walk.types.size(), "units");
+    QTEST(int(walk.types.size()), "units");
     QVERIFY(!walk.isWhole);
     for (int i = 0; i < walk.types.size(); ++i) {
         QVERIFY(cursor.next());

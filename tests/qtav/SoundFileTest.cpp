@@ -75,7 +75,7 @@ double strength(const QVector<qint16>& samples, double from, double to)
     for (const qint16 sample : part) {
         energy += double(sample) * sample;
     }
-    return std::sqrt(energy / std::max(1, part.size()));
+    return std::sqrt(energy / std::max(1, int(part.size())));
 }
 
 double firstLoudSecond(const QVector<qint16>& samples)

@@ -3,6 +3,7 @@
 #include "imaging/Rendering.h"
 #include "tests/support/FrameNumber.h"
 #include "tests/support/FramePositions.h"
+#include "tests/support/Pixels.h"
 #include "tests/support/Samples.h"
 #include "tests/support/Sanitizers.h"
 #include "tests/support/TestDir.h"
@@ -13,6 +14,7 @@
 #include <atomic>
 #include <functional>
 
+using testsupport::pixelsOf;
 using testsupport::Sample;
 using testsupport::samplePath;
 using testsupport::Trait;
@@ -393,8 +395,9 @@ void SeriesRunnerTest::encodedPictures_areThoseOfTheRecipe()
     QCOMPARE(record.pictures.size(), 3);
     for (const SeriesPicture& picture : record.pictures) {
         QCOMPARE(picture.size, QSize(100, 75));
-        QCOMPARE(QImage::fromData(picture.content, "png").convertToFormat(QImage::Format_RGB888),
-                 picture.image.convertToFormat(QImage::Format_RGB888));
+        const QImage decoded = QImage::fromData(picture.content, "png");
+        QCOMPARE(pixelsOf(decoded, QImage::Format_RGB888),
+                 pixelsOf(picture.image, QImage::Format_RGB888));
     }
     job.type = QStringLiteral("nonsense");
     Record failing;

@@ -47,6 +47,9 @@ void FileNameCodecTest::text_isReadAsUtf8()
 
 void FileNameCodecTest::bytesThatAreNoText_becomeLoneSurrogates()
 {
+    if (!stills::FileNameCodec::isWhole) {
+        QSKIP("This version of Qt takes all names for UTF-8.");
+    }
     const QString text = QFile::decodeName(QByteArray("a\xff"
                                                       "b\xc3"));
     QCOMPARE(text.size(), 4);
@@ -56,6 +59,9 @@ void FileNameCodecTest::bytesThatAreNoText_becomeLoneSurrogates()
 
 void FileNameCodecTest::allBytes_comeBack()
 {
+    if (!stills::FileNameCodec::isWhole) {
+        QSKIP("This version of Qt takes all names for UTF-8.");
+    }
     // Each pair of bytes, and what UTF-8 forbids: long forms, surrogates, beyond the last
     // character.
     QList<QByteArray> names{"\xc0\x80",         "\xed\xa0\x80\xed\xb0\x80",
@@ -73,6 +79,9 @@ void FileNameCodecTest::allBytes_comeBack()
 
 void FileNameCodecTest::folders_listNamesThatAreNoText()
 {
+    if (!stills::FileNameCodec::isWhole) {
+        QSKIP("This version of Qt takes all names for UTF-8.");
+    }
     const TestDir dir;
     const QString name = QFile::decodeName(QByteArray("bad\xff.mp4"));
     QFile file(dir.filePath(name));

@@ -330,6 +330,9 @@ void StillsFilesTest::lists_areRead()
 
 void StillsFilesTest::namesThatAreNoText_work()
 {
+    if (!stills::FileNameCodec::isWhole) {
+        QSKIP("This version of Qt takes all names for UTF-8.");
+    }
     const TestDir dir;
     const QString name = QFile::decodeName(QByteArray("in/bad\xff.mp4"));
     const QString video = copySample(dir.filePath(name));

@@ -93,6 +93,8 @@ QList<int> stillsprogram::numbersIn(const QString& folder)
 
 stillsprogram::InterruptibleProcess::InterruptibleProcess(const QStringList& arguments)
 {
+    // Shells start what runs in the background with this one ignored, and so would the program be.
+    static_cast<void>(std::signal(SIGINT, SIG_DFL));
     setProcessEnvironment(stillsprogram::environment());
     start(stillsprogram::program(), arguments);
     if (!waitForStarted()) {
@@ -116,10 +118,4 @@ bool stillsprogram::InterruptibleProcess::waitForFileIn(const QString& folder)
         QThread::msleep(1);
     }
     return !filesIn(folder).isEmpty();
-}
-
-void stillsprogram::InterruptibleProcess::setupChildProcess()
-{
-    // Shells start what runs in the background with this one ignored.
-    static_cast<void>(std::signal(SIGINT, SIG_DFL));
 }

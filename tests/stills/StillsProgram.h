@@ -53,9 +53,6 @@ public:
 
     /// Waits until a file is in the folder; false after a while.
     [[nodiscard]] bool waitForFileIn(const QString& folder);
-
-protected:
-    void setupChildProcess() override;
 };
 
 } // namespace stillsprogram

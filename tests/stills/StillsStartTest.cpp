@@ -10,6 +10,9 @@
 using testsupport::ProgramResult;
 using testsupport::runProgram;
 
+// How the names of the libraries begin.
+#define QT "Qt" QT_STRINGIFY(QT_VERSION_MAJOR)
+
 namespace {
 
 /// The libraries that a file needs at its start, by the dynamic linker's own account.
@@ -58,7 +61,7 @@ void StillsStartTest::program_needsNoLargeLibrary_untilThereIsWork()
 {
     const QByteArray libraries = librariesOf(stillsprogram::program());
     QVERIFY(libraries.contains("libc.so"));
-    for (const char* const name : {"Qt5", "libav", "opencv"}) {
+    for (const char* const name : {QT, "libav", "opencv"}) {
         QVERIFY2(!libraries.contains(name), libraries.constData());
     }
 }
@@ -66,8 +69,8 @@ void StillsStartTest::program_needsNoLargeLibrary_untilThereIsWork()
 void StillsStartTest::module_needsNoWidgets()
 {
     const QByteArray libraries = librariesOf(QStringLiteral(MORVANTILE_STILLS_MODULE));
-    QVERIFY(libraries.contains("Qt5Core"));
-    for (const char* const name : {"Qt5Widgets", "Qt5Svg", "Qt5OpenGL", "Qt5Multimedia"}) {
+    QVERIFY(libraries.contains(QT "Core"));
+    for (const char* const name : {QT "Widgets", QT "Svg", QT "OpenGL", QT "Multimedia"}) {
         QVERIFY2(!libraries.contains(name), libraries.constData());
     }
 }
@@ -83,9 +86,9 @@ void StillsStartTest::run_loadsNoPluginsForNothing()
                     testsupport::samplePath(QStringLiteral("h264_bframes.mp4"))},
                    60000, environment);
     QVERIFY(result.succeeded());
-    QVERIFY(result.standardError.contains("libQt5Gui"));
+    QVERIFY(result.standardError.contains("lib" QT "Gui"));
     // Libraries of the plugins for vector graphics, and of those for TIFF.
-    for (const char* const name : {"Qt5Widgets", "Qt5Svg", "libqtiff"}) {
+    for (const char* const name : {QT "Widgets", QT "Svg", "libqtiff"}) {
         QVERIFY2(!result.standardError.contains(name), name);
     }
 }

@@ -73,7 +73,7 @@ QList<int> interestingFrames(const Sample& sample)
     QSet<int> frames{0, 1, sample.frames / 2, sample.frames - 2, sample.frames - 1};
     const QList<int> keys = testsupport::keyFrames(sample);
     const bool isSlow = sample.has(Trait::Large);
-    const int stride = std::max(1, keys.size() / (isSlow ? 1 : 3));
+    const int stride = std::max(1, int(keys.size()) / (isSlow ? 1 : 3));
     const QList<int> offsets = isSlow ? QList<int>{1} : QList<int>{-1, 0, 1, 7, 13};
     for (int i = 0; i < keys.size(); i += stride) {
         for (const int offset : offsets) {

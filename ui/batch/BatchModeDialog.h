@@ -1,5 +1,7 @@
 #pragma once
 
+#include "batch/BatchWorkerConfig.h"
+
 #include <QDialog>
 #include <QHash>
 #include <QList>
@@ -13,7 +15,6 @@
 #include <memory>
 
 class BatchModeListModel;
-class BatchWorkerConfig;
 class Field;
 class ProfileManager;
 class QComboBox;

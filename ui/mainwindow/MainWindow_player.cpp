@@ -365,7 +365,7 @@ void MainWindow::on_volumeButton_clicked()
 {
     // Showing would widen it, once it stands.
     m_volumePopup->resize(m_volumePopup->size().expandedTo(m_volumePopup->minimumSizeHint()));
-    const QPoint button = m_ui->volumeButton->mapToGlobal({0, 0});
+    const QPoint button = m_ui->volumeButton->mapToGlobal(QPoint(0, 0));
     const int x = button.x() + (m_ui->volumeButton->width() - m_volumePopup->width()) / 2;
     const int y = int(button.y() - m_volumePopup->height() * 1.1);
     m_volumePopup->move(x, y);

@@ -129,5 +129,5 @@ void ProfileSelector::deleteProfile()
         m_ui->profileComboBox->setCurrentIndex(-1);
     }
     Q_EMIT profileDeleted(profile);
-    m_ui->profileComboBox->setCurrentIndex(std::min(index, m_profiles.size() - 1));
+    m_ui->profileComboBox->setCurrentIndex(std::min(index, int(m_profiles.size()) - 1));
 }

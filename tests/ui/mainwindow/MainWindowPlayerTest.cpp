@@ -338,7 +338,7 @@ void MainWindowPlayerTest::volumePopup_standsAboveItsButton()
     button.click();
     auto* const popup = window.window().findChild<VolumePopup*>();
     QVERIFY(popup->isVisible());
-    const QPoint at = button.mapToGlobal({0, 0});
+    const QPoint at = button.mapToGlobal(QPoint{0, 0});
     QCOMPARE(popup->x(), at.x() + (button.width() - popup->width()) / 2);
     QCOMPARE(popup->y(), int(at.y() - popup->height() * 1.1));
     popup->close();

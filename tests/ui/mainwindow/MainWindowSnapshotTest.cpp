@@ -4,6 +4,7 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "tests/support/FrameNumber.h"
+#include "tests/support/Pixels.h"
 #include "tests/support/ResourceLimits.h"
 #include "tests/support/Samples.h"
 
@@ -236,8 +237,8 @@ void MainWindowSnapshotTest::darkSnapshot_staysOpaque_whenTheVideoHasNoAlpha()
     const QImage saved(path);
     QVERIFY(!saved.hasAlphaChannel());
     QVERIFY(frameNumber(saved).has_value());
-    QCOMPARE(saved.convertToFormat(QImage::Format_RGB32),
-             clipboardAfter(window, "actionCopy_Snapshot").convertToFormat(QImage::Format_RGB32));
+    const QImage copied = clipboardAfter(window, "actionCopy_Snapshot");
+    QCOMPARE(pixelsOf(saved, QImage::Format_RGB32), pixelsOf(copied, QImage::Format_RGB32));
 }
 
 void MainWindowSnapshotTest::snapshot_keepsAlpha_whenTheVideoHasIt()
