@@ -1,26 +1,28 @@
-#!/ usr / bin / env bash
-#Installs what is missing, then builds and runs all tests : of the sources themselves, under the
-#sanitizers and in release.Ends with CTest's summary; fails when anything failed.
-#Where address sanitizer runs a test, release runs it too only if the optimiser could matter to it.
-#./ test.sh everything
-#./ test.sh PRESET… only these of release, asan, tsan and qt6(which is
-#release with Qt 6, and is not among everything)
-#./ test.sh -- without - desktop[PRESET…] without the tests that need a desktop
-set - euo pipefail root =
-    $(dirname-- "$(readlink -f -- " $ { BASH_SOURCE[0] } ")") source "$root/scripts/setup.sh"
+#!/usr/bin/env bash
+# Installs what is missing, then builds and runs all tests: of the sources themselves, under the
+# sanitizers and in release. Ends with CTest's summary; fails when anything failed.
+# Where address sanitizer runs a test, release runs it too only if the optimiser could matter to it.
+#   ./test.sh                              everything
+#   ./test.sh PRESET…                      only these of release, asan, tsan and qt6 (which is
+#                                          release with Qt 6, and is not among everything)
+#   ./test.sh --without-desktop [PRESET…]  without the tests that need a desktop
+set -euo pipefail
+root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
+source "$root/scripts/setup.sh"
 
-    sections = (run test desktop)desktop_tests = ON if [[${1 - } == --without - desktop]]; then
+sections=(run test desktop)
+desktop_tests=ON
+if [[ ${1-} == --without-desktop ]]; then
     shift
     sections=(run test)
     desktop_tests=OFF
 fi
 presets=("$@")
 (($#)) || presets=(release asan tsan)
-for preset in "${presets[@]}";
-do
+for preset in "${presets[@]}"; do
     [[ $preset == @(release|asan|tsan|qt6) ]] ||
         die "no such preset: $preset (release, asan, tsan or qt6)"
-    [[ $preset == qt6 ]] && sections+=(qt6)
+    [[ $preset != qt6 ]] || sections+=(qt6)
 done
 
 all_tests=ON
@@ -29,33 +31,26 @@ all_tests=ON
 ensure_build_folder
 ensure_packages "${sections[@]}"
 
-for preset in "${presets[@]}";
-do
+for preset in "${presets[@]}"; do
     say "== Building: $preset"
-#Without precompiled headers a file has to include what it uses : the shorter run sees to that.
-        configure "$preset" -
-        DMORVANTILE_BUILD_TESTS = ON - DMORVANTILE_WERROR =
-                                      ON - DMORVANTILE_DESKTOP_TESTS =
-                                          $desktop_tests - DMORVANTILE_QUICK_BUILD =
-                                              $desktop_tests - DMORVANTILE_ALL_TESTS = $all_tests
-#Thread sanitizer runs few of the tests, and they need few of the libraries.
-        if [[$preset == tsan]];
-then build tsan tests / all;
-else build "$preset" all;
-fi done
+    # Without precompiled headers a file has to include what it uses: the shorter run sees to that.
+    configure "$preset" -DMORVANTILE_BUILD_TESTS=ON -DMORVANTILE_WERROR=ON \
+        -DMORVANTILE_DESKTOP_TESTS=$desktop_tests -DMORVANTILE_QUICK_BUILD=$desktop_tests \
+        -DMORVANTILE_ALL_TESTS=$all_tests
+    # Thread sanitizer runs few of the tests, and they need few of the libraries.
+    if [[ $preset == tsan ]]; then build tsan tests/all; else build "$preset" all; fi
+done
 
-#One CTest run over all build folders, so that one summary tells of them all.
-    suite = $root / build / suite mkdir - p "$suite"
+# One CTest run over all build folders, so that one summary tells of them all.
+suite=$root/build/suite
+mkdir -p "$suite"
 {
     printf 'add_test(source_format "%s/scripts/format.sh" --check)\n' "$root"
-    for check in fences release scripts spelling;
-    do
-        printf 'add_test(source_%s "%s/scripts/check-%s.sh")\n' "$check"
-                                                                "$root"
-                                                                "$check" done printf
-                                                                "subdirs(\"$root/build/%s\")\n"
-                                                                "${presets[@]}"
-}
-> "$suite/CTestTestfile.cmake" release_build_folder ctest-- test - dir "$suite" --output - on -
-        failure-- no -
-        tests = error-- timeout 900 - j $(($(nproc) * 3)) #many of them wait more than they compute
+    for check in fences release scripts spelling; do
+        printf 'add_test(source_%s "%s/scripts/check-%s.sh")\n' "$check" "$root" "$check"
+    done
+    printf "subdirs(\"$root/build/%s\")\n" "${presets[@]}"
+} >"$suite/CTestTestfile.cmake"
+release_build_folder
+ctest --test-dir "$suite" --output-on-failure --no-tests=error --timeout 900 \
+    -j $(($(nproc) * 3)) # many of them wait more than they compute

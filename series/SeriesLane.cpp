@@ -184,7 +184,7 @@ FramePositions SeriesLane::bestPositions(const FramePositions& wanted, qint64 du
 {
     const VideoStretch stretch{msOf(wanted.front, durationMs),
                                durationMs - msOf(wanted.back, durationMs) + 1};
-    m_reader.setThreads(m_lanes);
+    m_reader.setThreads(m_options.lanes);
     FramePositions best;
     best.kind = FramePositions::Kind::List;
     const QVector<qint64> times =

@@ -223,7 +223,6 @@ public Q_SLOTS:
     void comeToFront();
 
 protected:
-    bool event(QEvent* event) override;
     /// Asks about what would be lost; then ends the application.
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
