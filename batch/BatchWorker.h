@@ -1,7 +1,6 @@
 #pragma once
 
 #include "batch/Worker.h"
-#include "imaging/WriteFailure.h"
 
 #include <QtAV/VideoFrame.h>
 
@@ -24,6 +23,7 @@ class FreePaths;
 struct ImageRecipe;
 struct PictureSource;
 struct SamplingPlan;
+struct WriteFailure;
 
 /// Runs one batch job: takes the frames, makes the images and saves them.
 ///

@@ -3,6 +3,7 @@
 #include "batch/BatchThread.h"
 #include "batch/BatchWorker.h"
 #include "batch/BatchWorkerConfig.h"
+#include "imaging/WriteFailure.h"
 #include "tests/batch/WorkerEvents.h"
 #include "tests/support/Samples.h"
 

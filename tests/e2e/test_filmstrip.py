@@ -28,7 +28,7 @@ class FilmstripTest(MorvantileCase):
         self.program.window(f"Morvantile - {FIRST}")
         self.wait_for_frame(self.program, first)
         wait_until(lambda: self.program.shown_snapshot() == first, "another snapshot is shown")
-        self.desktop.key("ctrl+Right")
+        self.desktop.key("Right")
         self.wait_for_frame(self.program, first + 1)
 
         self.choose(1)

@@ -2,6 +2,7 @@
 
 #include "batch/BatchThread.h"
 #include "batch/BatchWorkerConfig.h"
+#include "imaging/WriteFailure.h"
 #include "ui_BatchProcessingDialog.h"
 
 #include <QCloseEvent>

@@ -1,5 +1,7 @@
 #include "ui/batch/BatchProcessingDialog.h"
 
+#include "imaging/WriteFailure.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
