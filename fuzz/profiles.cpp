@@ -40,8 +40,8 @@ void useProfiles(const char* data, std::size_t size)
     if (SettingsFile::isDamaged(file.fileName())) {
         return;
     }
-    ProfileManager manager(
-        fileName, [] { return new Profile(nullptr); }, true);
+    const auto make = [] { return new Profile(nullptr); };
+    ProfileManager manager(fileName, make, true);
     const QList<BaseProfile*> profiles = manager.profiles();
     for (BaseProfile* const profile : profiles) {
         static_cast<void>(recipes::of(*static_cast<Profile*>(profile)));
