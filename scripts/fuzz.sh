@@ -15,7 +15,7 @@ largest_sample=64k
 
 # seeds_of HARNESS: stored inputs, each in a line.
 seeds_of() {
-    find "$root/fuzz/seeds/$1" -type f 2>/dev/null
+    [[ ! -d $root/fuzz/seeds/$1 ]] || find "$root/fuzz/seeds/$1" -type f
     case $1 in
         video | player) find -L "$media" -maxdepth 1 -type f -size "-$largest_sample" ! -name '.*' ;;
         metadata) find -L "$media" -maxdepth 1 -type f -name '*.jpg' ;;

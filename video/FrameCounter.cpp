@@ -61,11 +61,12 @@ void FrameCounter::count()
     if (isCounted() || isCounting() || m_path.isEmpty()) {
         return;
     }
+    qRegisterMetaType<QVector<qint64>>("QVector<qint64>");
     m_isCancelled = std::make_shared<std::atomic<bool>>(false);
     const auto work = [this, run = m_run, path = m_path, cancelled = m_isCancelled] {
         const auto times = readTimes(path, [cancelled] { return cancelled->load(); });
-        const auto arrive = [this, run, times] { take(run, times); };
-        QMetaObject::invokeMethod(this, arrive, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, run),
+                                  Q_ARG(QVector<qint64>, times));
     };
     m_thread.reset(QThread::create(work));
     m_thread->start(QThread::IdlePriority);

@@ -50,7 +50,7 @@ Q_SIGNALS:
 
 private:
     void drop();
-    void take(int run, const QVector<qint64>& times);
+    Q_INVOKABLE void take(int run, const QVector<qint64>& times);
 
     QString m_path;
     QVector<qint64> m_times; ///< in rising order

@@ -57,6 +57,8 @@ public:
         }
         m_changed.notify_one();
         m_thread->wait();
+        // Thread sanitizer does not see Qt's wait, but that the thread has let the lock go.
+        const std::lock_guard lock(m_mutex);
     }
 
     Maker(const Maker&) = delete;
@@ -192,8 +194,8 @@ Thumbnails::Thumbnails(QObject* parent)
     , m_pictures(mostBytes)
 {
     const auto deliver = [this](int source, qint64 ms, const QImage& picture) {
-        const auto arrive = [this, source, ms, picture] { take(source, ms, picture); };
-        QMetaObject::invokeMethod(this, arrive, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, source),
+                                  Q_ARG(qint64, ms), Q_ARG(QImage, picture));
     };
     m_maker = std::make_unique<Maker>(deliver);
 }

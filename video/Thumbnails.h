@@ -47,7 +47,7 @@ Q_SIGNALS:
 private:
     class Maker;
 
-    void take(int source, qint64 ms, const QImage& picture);
+    Q_INVOKABLE void take(int source, qint64 ms, const QImage& picture);
 
     QCache<qint64, QImage> m_pictures; ///< by what was asked for, at a cost in bytes
     int m_source = 0;                  ///< changes with the video
