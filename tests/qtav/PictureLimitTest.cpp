@@ -1,16 +1,17 @@
 #include "qtav/src/PictureLimit.h"
 
 #include "tests/qtav/Decoding.h"
+#include "tests/support/GrowingVideo.h"
 
 #include <QtAV/FrameReader.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
 using QtAV::FrameAnswer;
 using QtAV::PictureLimit;
 using testsupport::samplePath;
+using testsupport::writeGrowingVideo;
 
 namespace {
 
@@ -20,28 +21,6 @@ bool never()
 }
 
 constexpr qint64 megabyte = 1 << 20;
-
-/// Writes a video of JPEG pictures in which all from a number on declare 1000 by 1000 pixels.
-bool growFrom(int number, const QString& path)
-{
-    QFile sample(samplePath(QStringLiteral("mjpeg.avi")));
-    if (!sample.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    QByteArray content = sample.readAll();
-    const QByteArray startOfFrame("\xff\xc0\x00\x11\x08", 5);
-    const QByteArray size("\x03\xe8\x03\xe8", 4);
-    int count = 0;
-    for (int at = content.indexOf(startOfFrame); at >= 0;
-         at = content.indexOf(startOfFrame, at + 1), ++count) {
-        if (count >= number) {
-            content.replace(at + startOfFrame.size(), size.size(), size);
-        }
-    }
-    QFile file(path);
-    return count > number && file.open(QIODevice::WriteOnly) &&
-           file.write(content) == content.size();
-}
 
 /// What a search for the first frame gives.
 QtAV::FrameResult firstFrame(QtAV::FrameReader& reader)
@@ -105,7 +84,7 @@ private Q_SLOTS:
     {
         QFETCH(const int, threads);
         const QString path = m_folder.filePath(QStringLiteral("video.avi"));
-        QVERIFY(growFrom(10, path));
+        QVERIFY(writeGrowingVideo(10, path));
         QtAV::FrameReader reader;
         reader.setThreads(threads);
         reader.setPictureMemory(2 * megabyte);

@@ -1,22 +1,15 @@
 #include "ui/filmstrip/SnapshotShelf.h"
 
 #include "ui/filmstrip/SnapshotFolder.h"
+#include "ui/widgets/TimeText.h"
 
 #include <QFileInfo>
-#include <QTime>
 #include <QUuid>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
-
-QString timeText(qint64 ms)
-{
-    // Only the time of day is shown, so that whole days may go before the conversion to int.
-    constexpr qint64 dayMs = 24 * 60 * 60 * 1000;
-    return QTime(0, 0, 0, 0).addMSecs(int(ms % dayMs)).toString(QStringLiteral("hh:mm:ss.zzz"));
-}
 
 /// Made smaller in two steps, of which the first is quick: fine detail needs no more here.
 QImage thumbnailOf(const QImage& image)

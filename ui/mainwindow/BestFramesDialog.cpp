@@ -1,25 +1,18 @@
 #include "ui/mainwindow/BestFramesDialog.h"
 
 #include "ui/mainwindow/BestFramesFinder.h"
+#include "ui/widgets/TimeText.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTime>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr QSize pictureSize{144, 81};
 constexpr QSize cellSize{156, 112};
-
-QString timeText(qint64 ms)
-{
-    // Only the time of day is shown, so that whole days may go before the conversion to int.
-    constexpr qint64 dayMs = 24 * 60 * 60 * 1000;
-    return QTime(0, 0, 0, 0).addMSecs(int(ms % dayMs)).toString(QStringLiteral("hh:mm:ss.zzz"));
-}
 
 } // namespace
 

@@ -1,8 +1,8 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include "ui/mainwindow/BestFramesDialog.h"
-#include "ui/mainwindow/TimeText.h"
 #include "ui/widgets/SmartFileDialog.h"
+#include "ui/widgets/TimeText.h"
 #include "ui/widgets/VolumePopup.h"
 #include "ui/widgets/ZoomGestures.h"
 #include "ui_MainWindow.h"

@@ -2,8 +2,8 @@
 
 #include "ui/mainwindow/PlaybackSpeeds.h"
 #include "ui/mainwindow/TimeSlider.h"
-#include "ui/mainwindow/TimeText.h"
 #include "ui/mainwindow/VideoFactsText.h"
+#include "ui/widgets/TimeText.h"
 #include "ui/widgets/TimecodeField.h"
 
 #include <QtAV/AVPlayer.h>

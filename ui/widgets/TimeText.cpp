@@ -1,4 +1,4 @@
-#include "ui/mainwindow/TimeText.h"
+#include "ui/widgets/TimeText.h"
 
 #include <QTime>
 
