@@ -203,7 +203,7 @@ void BatchModeDialogRunTest::retry_makesFailedPositionsAlone()
     const QString video = mode.dir().filePath(QStringLiteral("video.avi"));
     const QString folder = mode.dir().filePath(QStringLiteral("images"));
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(writeGrowingVideo(30, video));
+    QVERIFY(writeGrowingVideo(20, video));
     mode.load({video});
     mode.click("selectAllVideoButton");
     mode.job(0).setOutputDir(QDir(folder));
