@@ -6,12 +6,13 @@
 #include <malloc.h>
 #endif
 
-void MemoryPolicy::returnFreedMemory()
+void MemoryPolicy::returnFreedMemory(int largeBytes)
 {
 #ifdef __GLIBC__
     // The library would raise this by itself whenever a large block is freed.
-    constexpr int largeBytes = 1 << 20;
     mallopt(M_MMAP_THRESHOLD, largeBytes);
+#else
+    static_cast<void>(largeBytes);
 #endif
 }
 

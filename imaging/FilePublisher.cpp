@@ -168,16 +168,45 @@ Ending published(const QString& fileName, const QByteArray& content, ExistingFil
     return replacing(file.path(), target, content);
 }
 
+WriteResult told(const Ending& ending, const QString& fileName, qint64 bytes, WriteFailure* failure)
+{
+    if (failure != nullptr && ending.result == WriteResult::Failed) {
+        *failure = WriteFailure::of(fileName, bytes, ending.error);
+    }
+    return ending.result;
+}
+
 } // namespace
 
 WriteResult FilePublisher::publish(const QString& fileName, const QByteArray& content,
                                    ExistingFile existing, WriteFailure* failure)
 {
     const Ending ending = published(fileName, content, existing);
-    if (failure != nullptr && ending.result == WriteResult::Failed) {
-        *failure = WriteFailure::of(fileName, content.size(), ending.error);
+    return told(ending, fileName, content.size(), failure);
+}
+
+std::shared_ptr<HiddenFile> FilePublisher::prepare(const QString& folder, const QByteArray& content)
+{
+    auto file = std::make_shared<HiddenFile>();
+    return file->create(folder) && file->fill(content) ? file : nullptr;
+}
+
+WriteResult FilePublisher::publishPrepared(const QString& fileName, const HiddenFile& prepared,
+                                           ExistingFile existing, WriteFailure* failure)
+{
+    const QFileInfo file(QFile::decodeName(prepared.path()));
+    if (existing == ExistingFile::Keep) {
+        const QByteArray target = QFile::encodeName(QFileInfo(fileName).absoluteFilePath());
+        return told(keeping(prepared.path(), target), fileName, file.size(), failure);
     }
-    return ending.result;
+    QFile content(file.filePath());
+    if (!content.open(QIODevice::ReadOnly)) {
+        return told(Ending::failed(errno), fileName, file.size(), failure);
+    }
+    // What a file has to be replaced by may be in the way of the room for it.
+    const QByteArray bytes = content.readAll();
+    content.remove();
+    return publish(fileName, bytes, existing, failure);
 }
 
 int FilePublisher::sweep(const QString& folder)

@@ -5,6 +5,10 @@
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
+
+class HiddenFile;
+
 /// What to do with a file that already bears the name of a new one.
 enum class ExistingFile {
     Replace, ///< The new file takes its place, in one step wherever the folder allows that.
@@ -52,6 +56,16 @@ namespace FilePublisher {
 /// @param failure  why, where the result is Failed; may be null
 [[nodiscard]] WriteResult publish(const QString& fileName, const QByteArray& content,
                                   ExistingFile existing, WriteFailure* failure = nullptr);
+
+/// Puts content into a hidden file of a folder before it has a name, so that it needs no memory
+/// until then. The file is removed with the object unless it was published. Null where that fails:
+/// publishing the content itself then tells why.
+[[nodiscard]] std::shared_ptr<HiddenFile> prepare(const QString& folder, const QByteArray& content);
+
+/// As publish(), for content that is prepared, in the folder of `fileName`, or in another one
+/// of the same file system. May be called once for a file.
+[[nodiscard]] WriteResult publishPrepared(const QString& fileName, const HiddenFile& prepared,
+                                          ExistingFile existing, WriteFailure* failure = nullptr);
 
 /// Removes the hidden files in a folder that programs which were killed have left there: those of
 /// our names that are older than an hour and that no living program writes. Before a run writes

@@ -76,8 +76,10 @@ QImage withColorSpace(const QImage& image)
     if (image.colorSpace().isValid()) {
         return image;
     }
-    QImage tagged(image.constBits(), image.width(), image.height(), image.bytesPerLine(),
-                  image.format());
+    // Whatever is set in an image of constant pixels, Qt copies the pixels first. Nobody writes
+    // them.
+    QImage tagged(const_cast<uchar*>(image.constBits()), image.width(), image.height(),
+                  image.bytesPerLine(), image.format());
     tagged.setColorTable(image.colorTable());
     tagged.setDotsPerMeterX(image.dotsPerMeterX());
     tagged.setDotsPerMeterY(image.dotsPerMeterY());

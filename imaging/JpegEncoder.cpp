@@ -107,13 +107,17 @@ QByteArray JpegEncoder::encode(const QImage& image, int quality)
     if (source.isNull() || !compressor) {
         return {};
     }
-    unsigned char* memory = nullptr;
-    unsigned long size = 0;
+    // Room for the worst case takes no memory where it stays untouched; growing takes it twice.
+    unsigned long size = tjBufSize(source.width(), source.height(), TJSAMP_444);
+    const BytesPtr bytes(tjAlloc(static_cast<int>(size)));
+    if (!bytes) {
+        return {};
+    }
+    unsigned char* memory = bytes.get();
     const int result =
         tjCompress2(compressor.get(), source.constBits(), source.width(), source.bytesPerLine(),
                     source.height(), *pixelFormatOf(source.format()), &memory, &size, TJSAMP_444,
-                    quality, TJFLAG_ACCURATEDCT);
-    const BytesPtr bytes(memory);
+                    quality, TJFLAG_ACCURATEDCT | TJFLAG_NOREALLOC);
     constexpr auto mostBytes = static_cast<unsigned long>(std::numeric_limits<int>::max() / 2);
     if (result != 0 || size < firstSegmentEnd || size > mostBytes) {
         return {};

@@ -205,8 +205,13 @@ bool SeriesBoard::isAtHead(int video, int stretch) const
 
 bool SeriesBoard::deliver(int video, int stretch, Delivery delivery)
 {
-    const qint64 bytes = bytesOf(delivery.picture);
     std::unique_lock<std::mutex> lock(m_mutex);
+    if (!isAtHead(video, stretch)) {
+        lock.unlock();
+        m_output.store(delivery.picture);
+        lock.lock();
+    }
+    const qint64 bytes = bytesOf(delivery.picture);
     while (!isAtHead(video, stretch) && m_waitingBytes > 0 &&
            m_waitingBytes + bytes > m_memoryBytes) {
         m_changed.wait_for(lock, patience);

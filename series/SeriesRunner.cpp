@@ -59,6 +59,9 @@ bool SeriesOutput::needs(int, const SeriesTarget&)
     return true;
 }
 
+void SeriesOutput::store(SeriesPicture&)
+{}
+
 void SeriesOutput::begin(const SeriesFacts&)
 {}
 

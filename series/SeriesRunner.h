@@ -13,7 +13,10 @@
 #include <QVector>
 
 #include <chrono>
+#include <memory>
 #include <optional>
+
+class HiddenFile;
 
 /// One video of a series: what is taken out of it and what becomes of it.
 struct SeriesJob
@@ -43,15 +46,16 @@ struct SeriesFacts
 /// What became of one position.
 struct SeriesPicture
 {
-    int video = 0;                      ///< its place among the jobs, from 0
-    int number = 0;                     ///< of the position within its video, from 1
-    std::optional<qint64> askedMs = {}; ///< not where the video itself tells the position
-    std::optional<qint64> timeMs = {};  ///< of the frame; nothing after an error
-    std::optional<qint64> frame = {};   ///< its number, where known
-    QSize size = {};                    ///< of the picture, in pixels
-    QByteArray content = {};            ///< the encoded picture; empty after an error
-    QImage image = {};                  ///< null unless asked for
-    QImage thumbnail = {};              ///< null unless asked for
+    int video = 0;                         ///< its place among the jobs, from 0
+    int number = 0;                        ///< of the position within its video, from 1
+    std::optional<qint64> askedMs = {};    ///< not where the video itself tells the position
+    std::optional<qint64> timeMs = {};     ///< of the frame; nothing after an error
+    std::optional<qint64> frame = {};      ///< its number, where known
+    QSize size = {};                       ///< of the picture, in pixels
+    QByteArray content = {};               ///< the encoded picture; empty after an error
+    std::shared_ptr<HiddenFile> file = {}; ///< holds it instead, if SeriesOutput::store() says so
+    QImage image = {};                     ///< null unless asked for
+    QImage thumbnail = {};                 ///< null unless asked for
     QtAV::BaseLayer baseLayer = QtAV::BaseLayer::Whole; ///< what the frame is
     QString error = {};                                 ///< for people; empty after a success
 };
@@ -75,6 +79,10 @@ public:
     /// thread at any time, also at once with the other calls. Not asked for key frames and scenes;
     /// for best frames when they have been found.
     virtual bool needs(int video, const SeriesTarget& target);
+
+    /// A picture will have to wait for those before it. Its content may be put into its file
+    /// meanwhile, so that it takes no memory. From any thread, also at once with the other calls.
+    virtual void store(SeriesPicture& picture);
 
     /// Before the first picture of a video that could be opened.
     virtual void begin(const SeriesFacts& facts);

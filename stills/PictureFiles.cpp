@@ -48,12 +48,15 @@ bool PictureFiles::exists(const QString& folder, const QByteArray& name)
     return isThere(pathIn(folder, name));
 }
 
-PictureFiles::Outcome PictureFiles::writeUnder(const QString& path, const QByteArray& content,
+PictureFiles::Outcome PictureFiles::writeUnder(const QString& path, const Content& content,
                                                bool replaces)
 {
     WriteFailure failure;
     const auto existing = replaces ? ExistingFile::Replace : ExistingFile::Keep;
-    switch (FilePublisher::publish(path, content, existing, &failure)) {
+    const auto result =
+        content.file ? FilePublisher::publishPrepared(path, *content.file, existing, &failure)
+                     : FilePublisher::publish(path, content.bytes, existing, &failure);
+    switch (result) {
     case WriteResult::Written:
         if (m_existing != Existing::NextName) {
             m_written.insert(path);
@@ -69,7 +72,7 @@ PictureFiles::Outcome PictureFiles::writeUnder(const QString& path, const QByteA
 }
 
 PictureFiles::Outcome PictureFiles::write(const QString& folder, const NameForAttempt& name,
-                                          const QByteArray& content)
+                                          const Content& content)
 {
     if (folder != m_sweptFolder) {
         FilePublisher::sweep(folder);

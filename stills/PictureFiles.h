@@ -7,6 +7,10 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
+#include <utility>
+
+class HiddenFile;
 
 namespace stills {
 
@@ -34,6 +38,18 @@ public:
         qint64 missingBytes = 0; ///< that there is no room for, where that is the reason
     };
 
+    /// An encoded picture, or the file that FilePublisher::prepare() has put it into.
+    struct Content
+    {
+        Content(QByteArray encoded, std::shared_ptr<HiddenFile> prepared = {})
+            : bytes(std::move(encoded))
+            , file(std::move(prepared))
+        {}
+
+        QByteArray bytes;
+        std::shared_ptr<HiddenFile> file;
+    };
+
     explicit PictureFiles(Existing existing)
         : m_existing(existing)
     {}
@@ -42,13 +58,13 @@ public:
     ///
     /// @param folder  exists
     [[nodiscard]] Outcome write(const QString& folder, const NameForAttempt& name,
-                                const QByteArray& content);
+                                const Content& content);
 
     /// Something has that name.
     [[nodiscard]] static bool exists(const QString& folder, const QByteArray& name);
 
 private:
-    [[nodiscard]] Outcome writeUnder(const QString& path, const QByteArray& content, bool replaces);
+    [[nodiscard]] Outcome writeUnder(const QString& path, const Content& content, bool replaces);
 
     Existing m_existing;
     QSet<QString> m_written;

@@ -1,5 +1,6 @@
 #include "stills/StillsOutput.h"
 
+#include "imaging/FilePublisher.h"
 #include "imaging/Rendering.h"
 #include "stills/Texts.h"
 
@@ -99,6 +100,20 @@ void StillsOutput::beginVideo(int video)
     m_report.beginVideo(video, pathOf(m_tasks[static_cast<std::size_t>(video)].path));
 }
 
+/// Where there is no room for it, writing it in its turn says so.
+void StillsOutput::store(SeriesPicture& picture)
+{
+    const bool hasFile = m_options.makesPictures && !m_options.writesToStandardOutput;
+    if (!hasFile || picture.content.isEmpty()) {
+        return;
+    }
+    const QString folder = pathOf(m_tasks[static_cast<std::size_t>(picture.video)].folder);
+    picture.file = FilePublisher::prepare(folder, picture.content);
+    if (picture.file) {
+        picture.content.clear();
+    }
+}
+
 void StillsOutput::begin(const SeriesFacts& facts)
 {
     beginVideo(facts.video);
@@ -170,7 +185,7 @@ void StillsOutput::writePicture(const SeriesPicture& picture, int number)
     const auto outcome = m_files.write(
         pathOf(task.folder),
         [&](int attempt) { return m_names.name(task, picture, number, m_isOnly, attempt); },
-        picture.content);
+        {picture.content, picture.file});
     switch (outcome.kind) {
     case PictureFiles::Outcome::Kind::Written:
         written.path = outcome.path;

@@ -32,6 +32,7 @@ public:
 
     void announce(int video, const QVector<SeriesTarget>& targets) override;
     bool needs(int video, const SeriesTarget& target) override;
+    void store(SeriesPicture& picture) override;
     void begin(const SeriesFacts& facts) override;
     void take(SeriesPicture picture) override;
     void end(int video, const QString& error) override;

@@ -120,6 +120,17 @@ QString prepareFolder(const Options& options)
                                           : QStringLiteral("This folder does not let you write");
 }
 
+/// Encoded pictures of one video come in all sizes, between which freed memory would stay.
+void chooseMemoryPolicy(int videos)
+{
+    constexpr int encodedPictureBytes = 128 << 10;
+    if (videos > 1) {
+        MemoryPolicy::keepFreedMemory();
+    } else {
+        MemoryPolicy::returnFreedMemory(encodedPictureBytes);
+    }
+}
+
 /// One run, once the application object is there.
 class Run
 {
@@ -173,6 +184,7 @@ bool Run::work(const std::vector<VideoTask>& tasks, Report& report) const
 {
     StillsOutput output(m_options, m_look, tasks, report);
     const QVector<SeriesJob> jobs = jobsOf(m_options, m_look, tasks);
+    chooseMemoryPolicy(jobs.size());
     const auto isCancelled = [&output] {
         return output.wantsToStop() || Interruption::signalNumber() != 0;
     };
@@ -248,7 +260,6 @@ int runLike(const Options& options)
 
 int run(const Options& options)
 {
-    MemoryPolicy::keepFreedMemory();
     Interruption::install();
     FileNameCodec::install();
     hideDebugLines();

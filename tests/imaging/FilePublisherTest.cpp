@@ -272,6 +272,64 @@ private slots:
 #endif
     }
 
+    void preparedFile_isHidden_andGoesUnlessPublished()
+    {
+        auto file = FilePublisher::prepare(m_folder->path(), "content");
+        QVERIFY(file);
+        QCOMPARE(files().size(), 1);
+        QVERIFY(files().first().startsWith(QLatin1Char('.')));
+        file.reset();
+        QVERIFY(files().isEmpty());
+    }
+
+    void preparedFile_isNull_whereItCannotBeWritten()
+    {
+        QVERIFY(!FilePublisher::prepare(path("nowhere"), "content"));
+        const FileSizeLimit limit(1000);
+        QVERIFY(!FilePublisher::prepare(m_folder->path(), QByteArray(LargeSize, 'x')));
+        QVERIFY(files().isEmpty());
+    }
+
+    void publishPrepared_givesTheNextName_whenOneIsTaken()
+    {
+        QVERIFY(put(path("taken"), "old"));
+        auto file = FilePublisher::prepare(m_folder->path(), "new");
+        QVERIFY(file);
+        QCOMPARE(FilePublisher::publishPrepared(path("taken"), *file, ExistingFile::Keep),
+                 WriteResult::AlreadyExists);
+        QCOMPARE(FilePublisher::publishPrepared(path("free"), *file, ExistingFile::Keep),
+                 WriteResult::Written);
+        file.reset();
+        QCOMPARE(files(), (QStringList{QStringLiteral("free"), QStringLiteral("taken")}));
+        QCOMPARE(read(path("taken")), QByteArray("old"));
+        QCOMPARE(read(path("free")), QByteArray("new"));
+    }
+
+    void publishPrepared_replaces_alsoBehindALink()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("other")));
+        QVERIFY(put(path("other/file"), "old"));
+        QVERIFY(QFile::link(path("other/file"), path("link")));
+        const auto file = FilePublisher::prepare(m_folder->path(), "new");
+        QVERIFY(file);
+        QCOMPARE(FilePublisher::publishPrepared(path("link"), *file, ExistingFile::Replace),
+                 WriteResult::Written);
+        QCOMPARE(read(path("other/file")), QByteArray("new"));
+        QVERIFY(QFileInfo(path("link")).isSymLink());
+        QCOMPARE(files(), (QStringList{QStringLiteral("link")}));
+    }
+
+    void publishPrepared_tellsWhy_whenTheNameCannotBeHad()
+    {
+        const auto file = FilePublisher::prepare(m_folder->path(), "new");
+        QVERIFY(file);
+        WriteFailure failure;
+        QCOMPARE(FilePublisher::publishPrepared(path("nowhere/file"), *file, ExistingFile::Keep,
+                                                &failure),
+                 WriteResult::Failed);
+        QCOMPARE(failure.error, ENOENT);
+    }
+
     void publish_hasOneWinner_whenManyProcessesRace()
     {
         constexpr int processes = 8;

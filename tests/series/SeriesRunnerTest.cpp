@@ -8,9 +8,12 @@
 #include "tests/support/Sanitizers.h"
 #include "tests/support/TestDir.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QTest>
+#include <QThread>
 
+#include <algorithm>
 #include <atomic>
 #include <functional>
 
@@ -31,6 +34,13 @@ public:
     }
 
     void begin(const SeriesFacts& facts) override { begun.append(facts); }
+
+    void store(SeriesPicture& picture) override
+    {
+        if (onWaiting) {
+            onWaiting(picture);
+        }
+    }
 
     void take(SeriesPicture picture) override
     {
@@ -58,6 +68,7 @@ public:
     }
 
     std::function<bool(int, const SeriesTarget&)> isNeeded;
+    std::function<void(SeriesPicture&)> onWaiting;
     std::function<void()> onPicture;
     QList<SeriesFacts> begun;
     QList<SeriesPicture> pictures;
@@ -188,6 +199,7 @@ private Q_SLOTS:
     void vanishingVideos_failTheirPictures_andOthersGoOn();
     void cancelling_endsAtOnce_withoutAnotherPicture();
     void nothing_isTaken_whenCancelledBefore();
+    void contentOfWaitingPictures_canBeStored();
 
 private:
     static void addSamples();
@@ -478,6 +490,38 @@ void SeriesRunnerTest::nothing_isTaken_whenCancelledBefore()
         !series::run({jobFor(QStringLiteral("mpeg2.ts"), every(40))}, record, [] { return true; }));
     QVERIFY(record.begun.isEmpty());
     QVERIFY(record.pictures.isEmpty());
+}
+
+/// The first picture holds up all that come after it in another lane.
+void SeriesRunnerTest::contentOfWaitingPictures_canBeStored()
+{
+    const QByteArray mark("stored");
+    std::atomic<int> stored{0};
+    Record record;
+    record.onWaiting = [&](SeriesPicture& picture) {
+        if (!picture.content.isEmpty()) {
+            picture.content = mark;
+            ++stored;
+        }
+    };
+    record.onPicture = [&] {
+        QDeadlineTimer patience(20000);
+        while (stored == 0 && !patience.hasExpired()) {
+            QThread::msleep(1);
+        }
+    };
+    SeriesJob job = jobFor(QStringLiteral("h264_bframes.mp4"), every(200));
+    job.type = QStringLiteral("jpeg");
+    QVERIFY(series::run({job}, record, neverCancelled, {2}));
+    QVERIFY(stored > 0);
+    QVERIFY(record.pictures.first().content != mark);
+    const auto marked =
+        std::count_if(record.pictures.cbegin(), record.pictures.cend(),
+                      [&](const SeriesPicture& picture) { return picture.content == mark; });
+    QCOMPARE(static_cast<int>(marked), stored.load());
+    for (int i = 0; i < record.pictures.size(); ++i) {
+        QCOMPARE(record.pictures.at(i).number, i + 1);
+    }
 }
 
 QTEST_GUILESS_MAIN(SeriesRunnerTest)

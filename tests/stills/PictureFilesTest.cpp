@@ -52,7 +52,8 @@ void PictureFilesTest::takenNames_giveWayToTheNextFreeOne()
     const TestDir dir;
     put(dir.filePath(QStringLiteral("a.jpg")), "old");
     put(dir.filePath(QStringLiteral("a-2.jpg")), "old");
-    const auto outcome = PictureFiles(Existing::NextName).write(dir.path(), nameFor, "new");
+    const auto outcome =
+        PictureFiles(Existing::NextName).write(dir.path(), nameFor, QByteArray("new"));
     QVERIFY(outcome.kind == Kind::Written);
     QCOMPARE(outcome.path, dir.filePath(QStringLiteral("a-3.jpg")));
     QCOMPARE(contentOf(outcome.path), QByteArray("new"));
@@ -63,7 +64,8 @@ void PictureFilesTest::linksThatLeadNowhere_areTakenNames()
 {
     const TestDir dir;
     QVERIFY(QFile::link(QStringLiteral("/nowhere/at/all"), dir.filePath(QStringLiteral("a.jpg"))));
-    const auto outcome = PictureFiles(Existing::NextName).write(dir.path(), nameFor, "new");
+    const auto outcome =
+        PictureFiles(Existing::NextName).write(dir.path(), nameFor, QByteArray("new"));
     QCOMPARE(outcome.path, dir.filePath(QStringLiteral("a-2.jpg")));
 }
 
@@ -71,7 +73,7 @@ void PictureFilesTest::existingFiles_areSkipped_onRequest()
 {
     const TestDir dir;
     put(dir.filePath(QStringLiteral("a.jpg")), "old");
-    const auto outcome = PictureFiles(Existing::Skip).write(dir.path(), nameFor, "new");
+    const auto outcome = PictureFiles(Existing::Skip).write(dir.path(), nameFor, QByteArray("new"));
     QVERIFY(outcome.kind == Kind::Skipped);
     QCOMPARE(contentOf(dir.filePath(QStringLiteral("a.jpg"))), QByteArray("old"));
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{QStringLiteral("a.jpg")});
@@ -81,7 +83,8 @@ void PictureFilesTest::existingFiles_areOverwritten_onRequest()
 {
     const TestDir dir;
     put(dir.filePath(QStringLiteral("a.jpg")), "old");
-    const auto outcome = PictureFiles(Existing::Overwrite).write(dir.path(), nameFor, "new");
+    const auto outcome =
+        PictureFiles(Existing::Overwrite).write(dir.path(), nameFor, QByteArray("new"));
     QVERIFY(outcome.kind == Kind::Written);
     QCOMPARE(contentOf(dir.filePath(QStringLiteral("a.jpg"))), QByteArray("new"));
 }
@@ -91,8 +94,8 @@ void PictureFilesTest::filesOfThisRun_areNeverOverwritten()
     for (const Existing existing : {Existing::NextName, Existing::Skip, Existing::Overwrite}) {
         const TestDir dir;
         PictureFiles files(existing);
-        QVERIFY(files.write(dir.path(), nameFor, "first").kind == Kind::Written);
-        const auto second = files.write(dir.path(), nameFor, "second");
+        QVERIFY(files.write(dir.path(), nameFor, QByteArray("first")).kind == Kind::Written);
+        const auto second = files.write(dir.path(), nameFor, QByteArray("second"));
         QVERIFY(second.kind == Kind::Written);
         QCOMPARE(contentOf(dir.filePath(QStringLiteral("a.jpg"))), QByteArray("first"));
         QCOMPARE(contentOf(dir.filePath(QStringLiteral("a-2.jpg"))), QByteArray("second"));
@@ -103,7 +106,7 @@ void PictureFilesTest::missingFolder_isAnError_thatNamesIt()
 {
     const TestDir dir;
     const QString folder = dir.filePath(QStringLiteral("gone"));
-    const auto outcome = PictureFiles(Existing::NextName).write(folder, nameFor, "new");
+    const auto outcome = PictureFiles(Existing::NextName).write(folder, nameFor, QByteArray("new"));
     QVERIFY(outcome.kind == Kind::NoRoom);
     QVERIFY(outcome.error.contains(folder));
 }
