@@ -119,6 +119,7 @@ bool SeriesLane::open(int video, QString& error)
         return true;
     }
     m_video = -1;
+    m_second.reset();
     // walk() sets the number for the task before it decodes.
     m_reader.setThreads(1);
     m_reader.setDeinterlacing(QtAV::deinterlacingNamed(m_jobs.at(video).recipe.deinterlacing));
@@ -411,8 +412,47 @@ QString SeriesLane::walkKeyFrames(const Task& task)
     m_reader.seek(part.fromMs);
     m_reader.setKeyFrameAtOnce(true);
     return walkPart(
-        task, part, [&] { return m_reader.nextKeyFrame(part.toMs, m_isCancelledOrLate); },
+        task, part, [&] { return nextKeyFrame(part.toMs); },
         [&part](const QtAV::VideoFrame&, qint64 ms) { return ms >= part.fromMs; });
+}
+
+/// The picture that any other way to the frame gives, too.
+FrameResult SeriesLane::nextKeyFrame(qint64 beforeMs)
+{
+    FrameResult found = m_reader.nextKeyFrame(beforeMs, m_isCancelledOrLate);
+    if (found.answer != FrameAnswer::Frame || !m_reader.wantsNeighbours()) {
+        return found;
+    }
+    FrameResult again = findAgain(found.frame);
+    const bool isFailed = again.answer == FrameAnswer::Failed || again.answer == FrameAnswer::End;
+    return isFailed ? found : again;
+}
+
+/// By a reader of its own, so that the first one stays where it is.
+FrameResult SeriesLane::findAgain(const QtAV::VideoFrame& frame)
+{
+    if (!m_second) {
+        auto second = std::make_unique<QtAV::FrameReader>();
+        second->setPictureMemory(m_options.pictureBytes);
+        second->setDeadline(m_deadline);
+        second->setThreads(1);
+        const SeriesJob& job = m_jobs.at(m_video);
+        second->setDeinterlacing(QtAV::deinterlacingNamed(job.recipe.deinterlacing));
+        QString error;
+        if (!second->open(job.video, m_isCancelledOrLate, error)) {
+            const bool isOver = m_isCancelledOrLate();
+            return {isOver ? FrameAnswer::Cancelled : FrameAnswer::Failed, {}, error};
+        }
+        m_second = std::move(second);
+    }
+    const double seconds = frame.timestamp();
+    QtAV::FrameReader::Search search;
+    search.ms = toMilliseconds(seconds);
+    search.completeFrom = search.ms;
+    search.isReached = [seconds](const QtAV::VideoFrame& other) {
+        return other.timestamp() >= seconds;
+    };
+    return m_second->find(search, m_isCancelledOrLate);
 }
 
 /// The first frame of the video, and each that differs from the one before it like another scene.

@@ -49,6 +49,8 @@ private:
     [[nodiscard]] QString walkPart(const Task& task, const SeriesPlan::Stretch& part,
                                    const Next& next, const IsWanted& isWanted);
     [[nodiscard]] QString walkKeyFrames(const Task& task);
+    [[nodiscard]] QtAV::FrameResult nextKeyFrame(qint64 beforeMs);
+    [[nodiscard]] QtAV::FrameResult findAgain(const QtAV::VideoFrame& frame);
     [[nodiscard]] QString walkScenes(const Task& task);
 
     [[nodiscard]] bool deliver(const Task& task, Delivery delivery, const QtAV::FrameResult& found);
@@ -62,11 +64,12 @@ private:
     const QtAV::IsCancelled m_isCancelledOrLate;
 
     QtAV::FrameReader m_reader;
-    int m_video = -1;                    ///< what the reader has open
-    PictureSource m_source;              ///< that video
-    int m_overdue = 0;                   ///< positions of that video that took too long
-    bool m_startsAnew = false;           ///< the next search
-    int m_readied = -1;                  ///< opened ahead of its plan last
-    bool m_knowsKeyFrames = false;       ///< by the index, which can be wrong
-    std::optional<double> m_lastSeconds; ///< of the frame delivered last in a stretch
+    int m_video = -1;                            ///< what the reader has open
+    std::unique_ptr<QtAV::FrameReader> m_second; ///< has the same open; null unless needed
+    PictureSource m_source;                      ///< that video
+    int m_overdue = 0;                           ///< positions of that video that took too long
+    bool m_startsAnew = false;                   ///< the next search
+    int m_readied = -1;                          ///< opened ahead of its plan last
+    bool m_knowsKeyFrames = false;               ///< by the index, which can be wrong
+    std::optional<double> m_lastSeconds;         ///< of the frame delivered last in a stretch
 };

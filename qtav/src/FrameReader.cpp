@@ -18,9 +18,6 @@ namespace {
 /// Most of what readAhead() keeps while no key frame comes.
 constexpr qint64 MostAheadBytes = 64 * 1024 * 1024;
 
-/// Packets within which the frame behind a key frame comes out.
-constexpr size_t MostPacketsToNeighbour = 32;
-
 QVariantHash decoderOptions(bool skips, bool hurries)
 {
     const int discard = skips ? VideoDecoder::DiscardNonReference : VideoDecoder::DiscardDefault;
@@ -359,45 +356,10 @@ FrameResult FrameReader::nextKeyFrame(qint64 beforeMs, const IsCancelled& isCanc
             m_skippedUpTo = frame.timestamp();
             Decoded decoded = arrived(frame, true);
             decoded.predecessor.reset();
-            if (decodeBehindKeyFrame(frame, isCancelled) == FrameAnswer::Cancelled) {
-                m_first = std::move(packet);
-                return {FrameAnswer::Cancelled};
-            }
-            FrameResult result = give(std::move(decoded));
-            m_decoded.clear();
-            return result;
+            return give(std::move(decoded));
         }
     }
     return {answer, {}, answer == FrameAnswer::Failed ? failureText() : QString()};
-}
-
-/// Makes the frame behind a key frame m_decoded's where the key frame wants it. All packets that
-/// this takes are there again afterwards.
-FrameAnswer FrameReader::decodeBehindKeyFrame(const VideoFrame& keyFrame,
-                                              const IsCancelled& isCancelled)
-{
-    const VideoFramePrivate& data = *VideoFramePrivate::of(keyFrame);
-    if (!wantsNeighbours(keyFrame) || !Deinterlacer::combsByItself(*data.frame))
-        return FrameAnswer::Frame;
-    std::deque<Packet> packets;
-    FrameAnswer answer = FrameAnswer::Frame;
-    while (answer == FrameAnswer::Frame && packets.size() < MostPacketsToNeighbour) {
-        Packet packet;
-        answer = readPacket(packet, isCancelled);
-        if (answer != FrameAnswer::Frame)
-            break;
-        packets.push_back(packet);
-        const bool isDecoded = m_decoder->decode(packet);
-        const VideoFrame frame = m_decoder->frame();
-        if (!isDecoded || packet.isDrain())
-            break;
-        if (frame.isValid() && frame.timestamp() > keyFrame.timestamp()) {
-            m_decoded.push_back({{FrameAnswer::Frame, frame}, keyFrame.timestamp()});
-            break;
-        }
-    }
-    m_ahead.insert(m_ahead.begin(), packets.begin(), packets.end());
-    return answer == FrameAnswer::Cancelled ? answer : FrameAnswer::Frame;
 }
 
 QString FrameReader::failureText() const

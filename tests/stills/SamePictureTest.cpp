@@ -39,6 +39,14 @@ std::unique_ptr<ImageProfile> profileFor(const QSize& size, const QString& deint
     return profile;
 }
 
+/// What to ask for to get the picture of a file whose name is its time.
+QString timeIn(const QString& file)
+{
+    const QStringList parts = file.split(QLatin1Char('.'));
+    return QStringLiteral("%1:%2:%3.%4")
+        .arg(parts.value(0), parts.value(1), parts.value(2), parts.value(3));
+}
+
 /// The only file in a folder.
 QByteArray onlyContent(const QString& folder)
 {
@@ -127,6 +135,7 @@ private Q_SLOTS:
     void stillsBatchJobsAndSnapshots_giveTheSameBytes();
     void metadata_isTheSame_whateverTookThePicture();
     void deinterlacing_isTheSame_forStillsBatchJobsAndSnapshots();
+    void combingKeyFrames_areTheSame_byThemselvesAndByTheirTimes();
 };
 
 void SamePictureTest::stillsBatchJobsAndSnapshots_giveTheSameBytes_data()
@@ -167,6 +176,32 @@ void SamePictureTest::metadata_isTheSame_whateverTookThePicture()
     QVERIFY(bytes.contains("2024:05:06 12:34:57"));
     QVERIFY(byBatchJob(video, 1000, QSize()) == bytes);
     QVERIFY(bySnapshot(video, 1000, QSize()) == bytes);
+}
+
+/// What makes a whole picture of one is the frame before it, too, in another group of pictures.
+void SamePictureTest::combingKeyFrames_areTheSame_byThemselvesAndByTheirTimes()
+{
+    for (const char* const name : {"fields_mpeg2_tff.ts", "fields_h264_tff.mp4"}) {
+        const QString file = QString::fromLatin1(name);
+        const TestDir dir;
+        QVERIFY(stillsprogram::run({samplePath(file), QStringLiteral("--keyframes"),
+                                    QStringLiteral("--names"), QStringLiteral("{time}"),
+                                    QStringLiteral("--format"), QStringLiteral("png"),
+                                    QStringLiteral("-o"), dir.path()})
+                    .succeeded());
+        const QStringList pictures = stillsprogram::filesIn(dir.path());
+        QVERIFY(pictures.size() >= 2);
+        for (const QString& picture : pictures) {
+            const TestDir other;
+            QVERIFY(stillsprogram::run({samplePath(file), QStringLiteral("--at"), timeIn(picture),
+                                        QStringLiteral("--format"), QStringLiteral("png"),
+                                        QStringLiteral("-o"), other.path()})
+                        .succeeded());
+            const QImage byTime = QImage::fromData(onlyContent(other.path()));
+            QVERIFY(!byTime.isNull());
+            QVERIFY2(byTime == QImage(dir.filePath(picture)), qPrintable(picture));
+        }
+    }
 }
 
 /// Of a picture that combs.

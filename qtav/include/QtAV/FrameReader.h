@@ -103,7 +103,8 @@ public:
     [[nodiscard]] FrameAnswer readAhead(qint64 ms, const IsCancelled& isCancelled);
 
     /// The next key frame before a time in milliseconds, without the frames between; End where
-    /// there is none. Only after seek() or another nextKeyFrame(). Its predecessor() is unknown.
+    /// there is none. Only after seek() or another nextKeyFrame(). The frames around it are
+    /// unknown: where wantsNeighbours(), a search for its time gives a better picture.
     [[nodiscard]] FrameResult nextKeyFrame(qint64 beforeMs, const IsCancelled& isCancelled);
 
     /// Whether the key frame where a seek lands comes out at once, as at first. That is quicker,
@@ -139,6 +140,9 @@ public:
 
     /// The time of the frame directly before last(); nothing where it was not seen.
     std::optional<double> predecessor() const { return m_predecessor; }
+
+    /// Whether last() may comb, so that its picture may be made of the frames around it, too.
+    [[nodiscard]] bool wantsNeighbours() const { return m_last && wantsNeighbours(m_lastFrame); }
 
     /// No frame comes before last().
     bool isAtFirstOfVideo() const { return m_isAtFirst; }
@@ -197,8 +201,6 @@ private:
     [[nodiscard]] FrameResult give(Decoded decoded);
     [[nodiscard]] bool wantsNeighbours(const VideoFrame& frame) const;
     [[nodiscard]] VideoFrame withNeighbours(const Decoded& decoded) const;
-    [[nodiscard]] FrameAnswer decodeBehindKeyFrame(const VideoFrame& keyFrame,
-                                                   const IsCancelled& isCancelled);
     void landOnAhead(size_t index);
     [[nodiscard]] FrameAnswer readFromFile(Packet& packet, const IsCancelled& isCancelled);
     [[nodiscard]] Way walk(const Search& search, const IsCancelled& isCancelled);
