@@ -56,6 +56,7 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     updateWindowTitle();
     setupFilmstrip();
     setupRecentFiles();
+    setupThemeMenu();
     setupBestFrames();
     setupZoom();
     setupPlayer(makeVideoOutput);

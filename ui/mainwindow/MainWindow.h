@@ -238,6 +238,7 @@ private:
     void connectTransport();
     void alignControls();
     void setupProfileMenus();
+    void setupThemeMenu();
     void chooseDeinterlacing(const QString& name);
     void chooseHdr(int hdr);
     void followImageProfile();

@@ -1,6 +1,7 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include "ui/mainwindow/BestFramesDialog.h"
+#include "ui/theme/Icons.h"
 #include "ui/widgets/SmartFileDialog.h"
 #include "ui/widgets/TimeText.h"
 #include "ui/widgets/VolumePopup.h"
@@ -261,8 +262,8 @@ void MainWindow::updatePlayButton()
 {
     qDebug() << "updatePlayButton: " << m_player->state();
     if (m_playIcon.isNull()) {
-        m_playIcon = QIcon(QStringLiteral(":/Images/Play.svg"));
-        m_pauseIcon = QIcon(QStringLiteral(":/Images/Pause.svg"));
+        m_playIcon = theme::icon(QStringLiteral("Play"));
+        m_pauseIcon = theme::icon(QStringLiteral("Pause"));
     }
     const bool isPlaying = isVideoLoaded() && m_player->state() == QtAV::AVPlayer::PlayingState;
     m_ui->playButton->setIcon(isPlaying ? m_pauseIcon : m_playIcon);
