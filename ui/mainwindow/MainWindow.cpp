@@ -99,6 +99,7 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     setupVolumePopup();
     setupShowInFolder();
     setupSteering();
+    setupLooks();
 }
 
 /// Says that there is nothing to show videos with, and leaves only what works without.
@@ -171,8 +172,6 @@ void MainWindow::connectTransport()
 void MainWindow::alignControls()
 {
     m_ui->splitter->setChildrenCollapsible(false);
-    m_ui->playerLayout->setAlignment(m_ui->videoControlsFrame, Qt::AlignHCenter);
-    m_ui->snapshotLayout->setAlignment(m_ui->snapshotControlsFrame, Qt::AlignHCenter);
     // Two lines of it, so that the snapshot keeps its size when its line comes up.
     m_ui->snapshotSummaryLabel->setFixedHeight(
         2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());

@@ -30,7 +30,6 @@ class ImageProfile;
 class PlayerSteering;
 class QFileDialog;
 class QMenu;
-class QPushButton;
 class SnapshotSaver;
 class VolumePopup;
 class ZoomGestures;
@@ -239,6 +238,9 @@ private:
     void alignControls();
     void setupProfileMenus();
     void setupThemeMenu();
+    void setupLooks();
+    void showRecentFiles();
+    void showWhatIsNext();
     void chooseDeinterlacing(const QString& name);
     void chooseHdr(int hdr);
     void followImageProfile();
@@ -256,7 +258,7 @@ private:
     void endWhenSafe();
     void saveLayout();
     void setupShowInFolder();
-    void offerToShowSavedFile();
+    void offerToShowSavedFile(const QString& text);
 
     void showOutputFolder(const QFileInfo& video);
     void noteOutputFolder();
@@ -352,7 +354,6 @@ private:
     /// Of the automatic names, as the user chose it; empty for that of the video.
     QString m_outputFolder;
     QString m_lastSavedFile;
-    QPushButton* m_showInFolderButton = nullptr;
     QString m_saveDialogFileName;
     QString m_saveDialogNameFilter;
     QFileDialog* m_saveDialog = nullptr;

@@ -193,7 +193,8 @@ void MainWindow::closeVideo()
 
 void MainWindow::showOpenButton(const QString& text)
 {
-    m_ui->openVideoLabel->setText(text);
+    m_ui->openVideoLabel->invite(text);
+    showRecentFiles();
     m_ui->openVideoLabel->setAccessibleName(QString());
     m_ui->openVideoLabel->setAccessibleDescription(QString());
     m_ui->openVideoLabel->setToolTip(tr("Open a video, or drop one here"));
@@ -205,6 +206,7 @@ void MainWindow::showOpenButton(const QString& text)
 /// cover the picture.
 void MainWindow::hideOpenButton()
 {
+    m_ui->openVideoLabel->withdraw();
     m_videoOutput->widget()->raise();
     m_ui->openVideoLabel->setAccessibleName(tr("Video"));
     m_ui->openVideoLabel->setAccessibleDescription(tr("Plays and pauses"));
