@@ -240,6 +240,7 @@ private:
     void setupThemeMenu();
     void setupLooks();
     void showRecentFiles();
+    void showSpeed(qreal speed);
     void showWhatIsNext();
     void chooseDeinterlacing(const QString& name);
     void chooseHdr(int hdr);

@@ -33,8 +33,7 @@ void MainWindow::setupLooks()
     m_ui->snapshotImageView->setPlaceholder(theme::icon(QStringLiteral("Image"), theme::Ink::Quiet),
                                             tr("No snapshot yet"));
     m_ui->speedButton->setMenu(m_ui->menuSpeed);
-    connect(m_player, &QtAV::AVPlayer::speedChanged, m_ui->speedButton,
-            [this](qreal speed) { m_ui->speedButton->setText(PlaybackSpeeds::text(speed)); });
+    connect(m_player, &QtAV::AVPlayer::speedChanged, this, &MainWindow::showSpeed);
     const auto keyOf = [](const QAction& action) {
         return action.shortcut().toString(QKeySequence::NativeText);
     };
@@ -52,6 +51,13 @@ void MainWindow::showRecentFiles()
 {
     m_ui->openVideoLabel->setRecentFiles(isVideoLoaded() ? QStringList()
                                                          : RecentFiles::in(m_settings));
+}
+
+void MainWindow::showSpeed(qreal speed)
+{
+    const QString text = PlaybackSpeeds::text(speed);
+    m_ui->speedButton->setText(text);
+    m_ui->speedButton->setAccessibleDescription(text);
 }
 
 /// One button stands out: to save, while there is something that is not saved, else to take.
