@@ -18,7 +18,7 @@ STOPS = [
     ("push button", "Play/Pause"),
     ("push button", "Step forward one frame"),
     ("push button", "Skip forward a bit"),
-    ("push button menu", "Speed"),
+    ("push button", "Speed"),
     ("push button", "Volume Control"),
     ("push button", "Take Snapshot"),
     # With the keyboard in the filmstrip, its snapshot has it.
