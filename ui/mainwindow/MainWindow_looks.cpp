@@ -13,8 +13,8 @@
 namespace {
 
 /// Of the width of the window, as long as nobody moved the bar between.
-constexpr int playerShare = 745;
-constexpr int snapshotShare = 255;
+constexpr int playerShare = 735;
+constexpr int snapshotShare = 265;
 
 } // namespace
 
