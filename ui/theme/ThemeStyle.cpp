@@ -35,11 +35,19 @@ QString lineIconOf(QStyle::StandardPixmap pixmap)
         return QStringLiteral("List");
     case QStyle::SP_FileDialogDetailedView:
         return QStringLiteral("Details");
-    case QStyle::SP_DialogSaveButton:
-        return QStringLiteral("Save");
-    case QStyle::SP_DialogDiscardButton:
-    case QStyle::SP_TrashIcon:
-        return QStringLiteral("Delete");
+    case QStyle::SP_DirIcon:
+    case QStyle::SP_DirOpenIcon:
+    case QStyle::SP_DirClosedIcon:
+    case QStyle::SP_DirLinkIcon:
+    case QStyle::SP_DirHomeIcon:
+        return QStringLiteral("Folder");
+    case QStyle::SP_FileIcon:
+    case QStyle::SP_FileLinkIcon:
+        return QStringLiteral("File");
+    case QStyle::SP_ComputerIcon:
+    case QStyle::SP_DesktopIcon:
+    case QStyle::SP_DriveHDIcon:
+        return QStringLiteral("Computer");
     default:
         return {};
     }
@@ -93,6 +101,16 @@ QPixmap ThemeStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* op
     }
     const int edge = pixelMetric(PM_LargeIconSize, option, widget);
     return icon.pixmap(edge, edge);
+}
+
+/// In dialogs, the text of a button says it all.
+int ThemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* returnData) const
+{
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+        return 0;
+    }
+    return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 
 QPalette ThemeStyle::standardPalette() const

@@ -21,5 +21,7 @@ public:
                        const QWidget* widget) const override;
     QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption* option,
                            const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override;
     QPalette standardPalette() const override;
 };
