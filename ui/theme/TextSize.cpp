@@ -1,6 +1,7 @@
 #include "ui/theme/TextSize.h"
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QVariant>
 #include <QWidget>
 
@@ -54,6 +55,21 @@ std::optional<theme::TextSize> theme::textSizeNamed(const QString& name)
         return TextSize::Title;
     }
     return std::nullopt;
+}
+
+void theme::applyHeading(QWidget& widget)
+{
+    QFont font; // of which only what is set here counts
+    if (qobject_cast<QGroupBox*>(&widget) != nullptr) {
+        font.setWeight(QFont::DemiBold);
+        widget.setFont(font);
+        return;
+    }
+    const bool isInGroup = qobject_cast<QGroupBox*>(widget.parentWidget()) != nullptr;
+    if (isInGroup && !widget.testAttribute(Qt::WA_SetFont)) {
+        font.setWeight(QFont::Normal);
+        widget.setFont(font);
+    }
 }
 
 void theme::applyTextSize(QWidget& widget)

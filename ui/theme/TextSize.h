@@ -28,6 +28,10 @@ constexpr char textSizeProperty[] = "textSize";
 /// A form marks a label that matters less by setting this dynamic property to true.
 constexpr char quietProperty[] = "quiet";
 
+/// Makes the title of a group box a heading; what is inside keeps its weight by itself, for fonts
+/// come down from parents. For each widget of a window, parents first.
+void applyHeading(QWidget& widget);
+
 /// Gives the widget the size that its property names, from the application's font for its class.
 /// Without such a property, nothing happens.
 void applyTextSize(QWidget& widget);

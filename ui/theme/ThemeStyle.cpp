@@ -62,6 +62,7 @@ ThemeStyle::ThemeStyle()
 void ThemeStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
+    theme::applyHeading(*widget);
     theme::applyTextSize(*widget);
     if (widget->property(theme::quietProperty).toBool()) {
         widget->setForegroundRole(theme::quietTextRole);

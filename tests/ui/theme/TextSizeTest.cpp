@@ -2,6 +2,7 @@
 #include "ui/theme/ThemeStyle.h"
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QLabel>
 #include <QTest>
 
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void sizes_areRelative_whenTheBaseIsInPixels();
     void headings_areBold();
     void style_givesALabelTheSizeThatItsFormNames();
+    void style_makesTheTitleOfAGroupAHeading_andNothingInIt();
     void style_leavesOtherLabelsAlone();
 };
 
@@ -64,6 +66,27 @@ void TextSizeTest::style_givesALabelTheSizeThatItsFormNames()
     QCOMPARE(label.font().pointSizeF(), QApplication::font().pointSizeF() * 1.3);
     QCOMPARE(label.foregroundRole(), QPalette::PlaceholderText);
     label.setStyle(nullptr);
+}
+
+void TextSizeTest::style_makesTheTitleOfAGroupAHeading_andNothingInIt()
+{
+    ThemeStyle style;
+    QGroupBox group;
+    QLabel label(&group);
+    QLabel chosen(&group);
+    QFont own(QStringLiteral("Courier"), 14, QFont::Black);
+    chosen.setFont(own);
+    for (QWidget* const widget : {static_cast<QWidget*>(&group), static_cast<QWidget*>(&label),
+                                  static_cast<QWidget*>(&chosen)}) {
+        style.polish(widget);
+    }
+    QVERIFY(group.font().weight() > QFont::Normal);
+    QCOMPARE(int(label.font().weight()), int(QFont::Normal));
+    QCOMPARE(chosen.font().toString(), own.toString());
+    QFont larger = group.font();
+    larger.setPointSize(23);
+    group.setFont(larger);
+    QCOMPARE(label.font().pointSize(), 23);
 }
 
 void TextSizeTest::style_leavesOtherLabelsAlone()
