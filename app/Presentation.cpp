@@ -4,6 +4,7 @@
 #include "app/TerminationSignals.h"
 #include "profiles/ReadyProfiles.h"
 #include "ui/mainwindow/MainWindow.h"
+#include "ui/theme/Theme.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -13,6 +14,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QSessionManager>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QWidget>
 
@@ -110,6 +112,7 @@ void Presentation::centre(QWidget& widget, const QRect& screen)
 
 void showMainWindow(QApplication& app, const QStringList& files, const QStringList& news)
 {
+    Theme::instance().apply(Theme::storedIn(QSettings()));
     Presentation::applyStyleSheet(app, QStringLiteral(":/Styles.qss"));
     QApplication::setWindowIcon(applicationIcon());
     ReadyProfiles::addOnFirstStart();

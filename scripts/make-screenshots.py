@@ -1,10 +1,14 @@
 #!/usr/bin/python3
-"""Takes the pictures of the user guide from the running program, by keys and mouse.
+"""Takes pictures of the running program, by keys and mouse.
 
 To be run by hand after a window changed, from any folder; takes a release build, and the packages
-that packages.txt lists for the tests. The pictures are written into docs/user-guide.
+that packages.txt lists for the tests. Without arguments these are the pictures of the user guide,
+which are written into docs/user-guide. `--matrix FOLDER` takes the main window in both themes, in
+several sizes, with larger fonts and from right to left, to be looked at.
 """
 
+import argparse
+import itertools
 import os
 import pathlib
 import shutil
@@ -25,14 +29,23 @@ from tests.e2e.driver.waiting import wait_until  # noqa: E402
 
 # Of the main window with a video.
 SIZE = (1120, 700)
+# What the matrix is made of: themes, sizes of the window, of fonts, and directions of writing.
+THEMES = ("dark", "light")
+SIZES = ((800, 600), (1280, 800), (2560, 1600))
+FONT_SCALES = (1, 1.5)
+DIRECTIONS = {"": (), "-reverse": ("-reverse",)}
+USUAL_DPI = 96
+# Larger than the largest window.
+MATRIX_SCREEN = (2600, 1700)
 # Two pictures of a window are the same when it has stopped moving.
 STILL_TIMES = 15
 
 
 class Photographer:
-    def __init__(self, desktop, program):
+    def __init__(self, desktop, program, folder=PICTURES):
         self.desktop = desktop
         self.program = program
+        self.folder = folder
 
     def take(self, name, title):
         """The window of the title, once nothing in it moves any more."""
@@ -44,9 +57,8 @@ class Photographer:
         """The window of the title as it is just now."""
         self._save(name, self.desktop.picture(self.program.window(title).area))
 
-    @staticmethod
-    def _save(name, picture):
-        picture.save(PICTURES / f"{name}.png", optimize=True)
+    def _save(self, name, picture):
+        picture.save(self.folder / f"{name}.png", optimize=True)
         print(name, picture.size)
 
     def _settled(self, window):
@@ -73,9 +85,7 @@ def take_main_window(photographer, video):
     wait_until(program.offers_to_play, "the video goes on")
     desktop.key("ctrl+a")
     wait_until(lambda: program.find("push button", "Save").is_enabled, "no snapshot was taken")
-    left, top, _, _ = program.find("check box", "Automatic File Name").area
-    desktop.click(left + 12, top + 8)
-    wait_until(lambda: program.has("label", description="Next file name"), "no automatic names")
+    tick_automatic_names(program)
     photographer.take("window", title)
 
 
@@ -153,7 +163,82 @@ def take_all(photographer, video):
     take_batch(photographer, video)
 
 
+class MatrixEntry:
+    """The main window in one theme, size, scale of fonts and direction of writing."""
+
+    def __init__(self, theme, size, scale, direction):
+        self.theme = theme
+        self.size = size
+        self.scale = scale
+        self.direction = direction
+
+    @property
+    def name(self):
+        width, height = self.size
+        large = "-large" if self.scale > 1 else ""
+        return f"{self.theme}-{width}x{height}{large}{self.direction}"
+
+    def start(self, desktop, home, recent):
+        """A program with these settings, not yet of this size."""
+        folder = pathlib.Path(home, "config/Morvantile")
+        folder.mkdir(parents=True)
+        files = ", ".join(str(file) for file in recent)
+        settings = f"[General]\ntheme={self.theme}\nrecentFiles={files}\n"
+        (folder / "Morvantile.conf").write_text(settings, encoding="utf-8")
+        # Of the fonts alone: by itself, Qt would take a finer screen for one of more pixels.
+        dpi = str(round(USUAL_DPI * self.scale))
+        environment = {"QT_FONT_DPI": dpi, "QT_ENABLE_HIGHDPI_SCALING": "0"}
+        return Program(desktop, home, DIRECTIONS[self.direction], environment)
+
+
+def take_matrix_entry(desktop, entry, folder):
+    with tempfile.TemporaryDirectory() as home:
+        video, *others = [
+            pathlib.Path(shutil.copy(SAMPLE, pathlib.Path(home, name)))
+            for name in ("sunrise.mp4", "Harbour in the Morning.mp4", "Lighthouse.mp4")
+        ]
+        with entry.start(desktop, home, [video, *others]) as program:
+            photographer = Photographer(desktop, program, folder)
+            desktop.resize_window(*entry.size)
+            photographer.take(f"{entry.name}-empty", "Morvantile")
+            program.open_with_dialog(video)
+            title = f"Morvantile - {video.name}"
+            wait_until(lambda: program.position > 2500, "the video does not play")
+            desktop.key("space")
+            photographer.take(f"{entry.name}-open", title)
+            desktop.key("ctrl+a")
+            save = program.find("push button", "Save")
+            wait_until(lambda: save.is_enabled, "no snapshot was taken")
+            photographer.take(f"{entry.name}-taken", title)
+            tick_automatic_names(program, from_right=bool(entry.direction))
+            desktop.key("ctrl+s")
+            photographer.take(f"{entry.name}-saved", title)
+
+
+def tick_automatic_names(program, from_right=False):
+    left, top, right, _ = program.find("check box", "Automatic File Name").area
+    program.desktop.click(right - 12 if from_right else left + 12, top + 8)
+    wait_until(lambda: program.has("label", description="Next file name"), "no automatic names")
+
+
+def take_matrix(folder):
+    folder.mkdir(parents=True, exist_ok=True)
+    with Desktop(MATRIX_SCREEN) as desktop:
+        for parts in itertools.product(THEMES, SIZES, FONT_SCALES, DIRECTIONS):
+            take_matrix_entry(desktop, MatrixEntry(*parts), folder)
+
+
 def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--matrix", metavar="FOLDER", type=pathlib.Path)
+    folder = parser.parse_args().matrix
+    if folder is None:
+        take_guide()
+    else:
+        take_matrix(folder)
+
+
+def take_guide():
     desktop = Desktop.shared()
     # Seen in the pictures, so it bears a name for people.
     videos = pathlib.Path(tempfile.gettempdir(), "Videos")

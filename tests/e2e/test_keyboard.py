@@ -18,11 +18,12 @@ STOPS = [
     ("push button", "Play/Pause"),
     ("push button", "Step forward one frame"),
     ("push button", "Skip forward a bit"),
+    ("push button", "Speed"),
     ("push button", "Volume Control"),
+    ("push button", "Take Snapshot"),
     # With the keyboard in the filmstrip, its snapshot has it.
     SNAPSHOT,
     ("push button", "Save All"),
-    ("push button", "Take Snapshot"),
     ("push button", "Original Size"),
     ("combo box", "Image profile"),
     ("push button", "Edit image profiles"),

@@ -4,15 +4,14 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 /// In which every small picture finds room, in its own proportions.
 constexpr QSize pictureArea{112, 63};
 constexpr int margin = 5;
 constexpr int tickSize = 15;
-
-/// Text and ground of the profile's line are mixed so: it is the less important one.
-constexpr qreal fadedOpacity = 0.65;
 
 QRect centred(const QSize& size, const QRect& area)
 {
@@ -31,7 +30,8 @@ FilmstripDelegate::FilmstripDelegate(QObject* parent)
 
 QSize FilmstripDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const
 {
-    return {pictureArea.width() + 2 * margin,
+    const int time = option.fontMetrics.horizontalAdvance(QStringLiteral("00:00:00.000"));
+    return {std::max(pictureArea.width(), time) + 2 * margin,
             pictureArea.height() + 2 * option.fontMetrics.lineSpacing() + 2 * margin + 2};
 }
 
@@ -51,15 +51,17 @@ void FilmstripDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     painter->drawRoundedRect(frame, 5, 5);
     if (option.state.testFlag(QStyle::State_HasFocus)) {
         painter->setBrush(Qt::NoBrush);
-        painter->setPen(QPen(option.palette.color(QPalette::Text), 1, Qt::DotLine));
+        painter->setPen(QPen(option.palette.color(QPalette::Link), 2));
         painter->drawRoundedRect(frame, 5, 5);
     }
 
     const QRect inner = option.rect.adjusted(margin, margin, -margin, -margin);
-    const QRect picture(inner.topLeft(), pictureArea);
+    QRect picture(inner.topLeft(), pictureArea);
+    picture.moveLeft(inner.left() + (inner.width() - picture.width()) / 2);
+    painter->fillRect(picture, option.palette.color(QPalette::Shadow));
     paintPicture(*painter, picture, index);
     if (index.data(SnapshotShelf::IsSavedRole).toBool()) {
-        paintSavedMark(*painter, picture, option.palette.color(QPalette::Highlight));
+        paintSavedMark(*painter, picture, option.palette);
     }
 
     const QPalette::ColorRole role = isSelected ? QPalette::HighlightedText : QPalette::Text;
@@ -68,7 +70,9 @@ void FilmstripDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     QRect line(inner.left(), picture.bottom() + 3, inner.width(), lineHeight);
     painter->drawText(line, Qt::AlignCenter, index.data(SnapshotShelf::TimeRole).toString());
     line.translate(0, lineHeight);
-    painter->setOpacity(fadedOpacity);
+    if (!isSelected) {
+        painter->setPen(option.palette.color(QPalette::PlaceholderText));
+    }
     const QString profile = index.data(SnapshotShelf::ProfileRole).toString();
     painter->drawText(line, Qt::AlignCenter,
                       option.fontMetrics.elidedText(profile, Qt::ElideRight, line.width()));
@@ -78,7 +82,6 @@ void FilmstripDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
 void FilmstripDelegate::paintPicture(QPainter& painter, const QRect& area,
                                      const QModelIndex& index) const
 {
-    painter.fillRect(area, QColor(0x1d, 0x23, 0x2a));
     const QImage thumbnail = index.data(SnapshotShelf::ThumbnailRole).value<QImage>();
     if (!thumbnail.isNull()) {
         painter.drawImage(centred(thumbnail.size(), area), thumbnail);
@@ -86,11 +89,11 @@ void FilmstripDelegate::paintPicture(QPainter& painter, const QRect& area,
 }
 
 void FilmstripDelegate::paintSavedMark(QPainter& painter, const QRect& picture,
-                                       const QColor& colour) const
+                                       const QPalette& palette) const
 {
     const QRect mark(picture.right() - tickSize - 2, picture.top() + 3, tickSize, tickSize);
-    painter.setPen(QPen(Qt::white, 1.5));
-    painter.setBrush(colour);
+    painter.setPen(QPen(palette.color(QPalette::HighlightedText), 1.5));
+    painter.setBrush(palette.color(QPalette::Highlight));
     painter.drawEllipse(mark);
     m_tick.paint(&painter, mark.adjusted(2, 2, -2, -2));
 }

@@ -20,7 +20,7 @@ public:
 
 private:
     void paintPicture(QPainter& painter, const QRect& area, const QModelIndex& index) const;
-    void paintSavedMark(QPainter& painter, const QRect& picture, const QColor& colour) const;
+    void paintSavedMark(QPainter& painter, const QRect& picture, const QPalette& palette) const;
 
     const QIcon m_tick;
 };

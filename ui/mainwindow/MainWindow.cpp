@@ -56,6 +56,7 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     updateWindowTitle();
     setupFilmstrip();
     setupRecentFiles();
+    setupThemeMenu();
     setupBestFrames();
     setupZoom();
     setupPlayer(makeVideoOutput);
@@ -98,6 +99,7 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     setupVolumePopup();
     setupShowInFolder();
     setupSteering();
+    setupLooks();
 }
 
 /// Says that there is nothing to show videos with, and leaves only what works without.
@@ -170,8 +172,6 @@ void MainWindow::connectTransport()
 void MainWindow::alignControls()
 {
     m_ui->splitter->setChildrenCollapsible(false);
-    m_ui->playerLayout->setAlignment(m_ui->videoControlsFrame, Qt::AlignHCenter);
-    m_ui->snapshotLayout->setAlignment(m_ui->snapshotControlsFrame, Qt::AlignHCenter);
     // Two lines of it, so that the snapshot keeps its size when its line comes up.
     m_ui->snapshotSummaryLabel->setFixedHeight(
         2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());

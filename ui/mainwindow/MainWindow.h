@@ -30,7 +30,6 @@ class ImageProfile;
 class PlayerSteering;
 class QFileDialog;
 class QMenu;
-class QPushButton;
 class SnapshotSaver;
 class VolumePopup;
 class ZoomGestures;
@@ -238,6 +237,11 @@ private:
     void connectTransport();
     void alignControls();
     void setupProfileMenus();
+    void setupThemeMenu();
+    void setupLooks();
+    void showRecentFiles();
+    void showSpeed(qreal speed);
+    void showWhatIsNext();
     void chooseDeinterlacing(const QString& name);
     void chooseHdr(int hdr);
     void followImageProfile();
@@ -255,7 +259,7 @@ private:
     void endWhenSafe();
     void saveLayout();
     void setupShowInFolder();
-    void offerToShowSavedFile();
+    void offerToShowSavedFile(const QString& text);
 
     void showOutputFolder(const QFileInfo& video);
     void noteOutputFolder();
@@ -351,7 +355,6 @@ private:
     /// Of the automatic names, as the user chose it; empty for that of the video.
     QString m_outputFolder;
     QString m_lastSavedFile;
-    QPushButton* m_showInFolderButton = nullptr;
     QString m_saveDialogFileName;
     QString m_saveDialogNameFilter;
     QFileDialog* m_saveDialog = nullptr;

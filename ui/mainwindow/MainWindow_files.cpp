@@ -184,23 +184,17 @@ void MainWindow::quit()
     QCoreApplication::quit();
 }
 
-/// Beside the message on what was saved, and there after it is gone.
 void MainWindow::setupShowInFolder()
 {
-    m_showInFolderButton = new QPushButton(tr("Show in Folder"), this);
-    m_showInFolderButton->setObjectName(QStringLiteral("showInFolderButton"));
-    m_showInFolderButton->setToolTip(tr("Show the file that was saved last in its folder"));
-    m_showInFolderButton->setFocusPolicy(Qt::TabFocus);
-    m_showInFolderButton->hide();
-    statusBar()->addPermanentWidget(m_showInFolderButton);
     m_ui->actionShow_in_Folder->setEnabled(false);
-    connect(m_showInFolderButton, &QPushButton::clicked, this,
+    connect(&m_ui->savedNotice->folderButton(), &QPushButton::clicked, this,
             &MainWindow::on_actionShow_in_Folder_triggered);
 }
 
-void MainWindow::offerToShowSavedFile()
+/// Where the eye is after saving; the text is that of what was saved.
+void MainWindow::offerToShowSavedFile(const QString& text)
 {
-    m_showInFolderButton->show();
+    m_ui->savedNotice->tellSaved(text);
     m_ui->actionShow_in_Folder->setEnabled(true);
 }
 

@@ -31,7 +31,7 @@ void MainWindow::setupFilmstrip()
 {
     m_filmstrip = new Filmstrip(m_ui->playerPane);
     m_ui->playerLayout->addWidget(m_filmstrip);
-    m_filmstrip->comeAfter(*m_ui->volumeButton);
+    m_filmstrip->comeAfter(*m_ui->snapshotButton);
     SnapshotShelf& shelf = m_filmstrip->shelf();
     m_snapshotSaver = new SnapshotSaver(shelf, m_filmstrip);
 
@@ -132,7 +132,9 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
                  m_filmstrip->shelf().indexOf(id).data(SnapshotShelf::TimeRole).toString());
     m_isSnapshotKept = snapshot->isSaved;
     m_shownSnapshot = id;
+    m_ui->savedNotice->clear();
     processFullFrameImage(nullptr);
+    showWhatIsNext();
     m_filmstrip->setCurrent(id);
     setSnapshotControlsEnabled(true);
 }
@@ -148,6 +150,7 @@ void MainWindow::followShownSnapshot()
         m_shownSnapshot.clear();
         m_isSnapshotKept = true;
     }
+    showWhatIsNext();
     tellSnapshotTimes();
 }
 
@@ -230,15 +233,17 @@ void MainWindow::saveSnapshots(const QStringList& ids)
 
 void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& lastFile)
 {
-    if (!lastFile.isEmpty()) {
-        m_lastSavedFile = QFileInfo(lastFile).absoluteFilePath();
-        offerToShowSavedFile();
-        updateAutomaticFileNameDisplay();
-    }
     // An end that waited for them should not go on without them.
     m_isEnding = m_isEnding && failed == 0;
     const QString count = saved == 1 ? tr("Saved 1 snapshot") : tr("Saved %1 snapshots").arg(saved);
     const QString text =
         failed == 0 ? count : tr("%1, %2 could not be saved").arg(count).arg(failed);
+    if (!lastFile.isEmpty()) {
+        m_lastSavedFile = QFileInfo(lastFile).absoluteFilePath();
+        offerToShowSavedFile(text);
+        updateAutomaticFileNameDisplay();
+    } else {
+        m_ui->savedNotice->tellFailed(text);
+    }
     statusBar()->showMessage(text, messageMs);
 }

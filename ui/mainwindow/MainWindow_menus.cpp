@@ -8,6 +8,7 @@
 #include "ui/dialogs/FileNameProfileDialog.h"
 #include "ui/dialogs/ImageFiltersDialog.h"
 #include "ui/dialogs/ImageProfileDialog.h"
+#include "ui/mainwindow/ThemeMenu.h"
 #include "ui/mainwindow/UserGuide.h"
 #include "ui_MainWindow.h"
 
@@ -106,6 +107,12 @@ void MainWindow::setupProfileMenus()
     };
     addHdr(m_ui->actionHdrToneMapped, ImageProfile::ToneMapped);
     addHdr(m_ui->actionHdrAsStored, ImageProfile::HdrAsStored);
+}
+
+void MainWindow::setupThemeMenu()
+{
+    m_ui->menuView->addSeparator();
+    m_ui->menuView->addMenu(new ThemeMenu(m_settings, this));
 }
 
 void MainWindow::chooseDeinterlacing(const QString& name)

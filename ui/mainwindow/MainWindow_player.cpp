@@ -1,6 +1,7 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include "ui/mainwindow/BestFramesDialog.h"
+#include "ui/theme/Icons.h"
 #include "ui/widgets/SmartFileDialog.h"
 #include "ui/widgets/TimeText.h"
 #include "ui/widgets/VolumePopup.h"
@@ -192,7 +193,8 @@ void MainWindow::closeVideo()
 
 void MainWindow::showOpenButton(const QString& text)
 {
-    m_ui->openVideoLabel->setText(text);
+    m_ui->openVideoLabel->invite(text);
+    showRecentFiles();
     m_ui->openVideoLabel->setAccessibleName(QString());
     m_ui->openVideoLabel->setAccessibleDescription(QString());
     m_ui->openVideoLabel->setToolTip(tr("Open a video, or drop one here"));
@@ -204,6 +206,7 @@ void MainWindow::showOpenButton(const QString& text)
 /// cover the picture.
 void MainWindow::hideOpenButton()
 {
+    m_ui->openVideoLabel->withdraw();
     m_videoOutput->widget()->raise();
     m_ui->openVideoLabel->setAccessibleName(tr("Video"));
     m_ui->openVideoLabel->setAccessibleDescription(tr("Plays and pauses"));
@@ -261,8 +264,8 @@ void MainWindow::updatePlayButton()
 {
     qDebug() << "updatePlayButton: " << m_player->state();
     if (m_playIcon.isNull()) {
-        m_playIcon = QIcon(QStringLiteral(":/Images/Play.svg"));
-        m_pauseIcon = QIcon(QStringLiteral(":/Images/Pause.svg"));
+        m_playIcon = theme::icon(QStringLiteral("Play"));
+        m_pauseIcon = theme::icon(QStringLiteral("Pause"));
     }
     const bool isPlaying = isVideoLoaded() && m_player->state() == QtAV::AVPlayer::PlayingState;
     m_ui->playButton->setIcon(isPlaying ? m_pauseIcon : m_playIcon);

@@ -105,6 +105,8 @@ void MainWindow::snapshotCaptured(const QImage& image)
     m_captured.source = sourceOfCapture(image);
     const QString error = makeSnapshot(nullptr);
     m_isSnapshotKept = m_snapshotImage.isNull();
+    m_ui->savedNotice->clear();
+    showWhatIsNext();
     addToFilmstrip();
     // Without a snapshot as well: the profile may be to blame, and is edited there.
     setSnapshotControlsEnabled(true);
@@ -187,7 +189,9 @@ void MainWindow::resetSnapshot()
     m_wantedSnapshot.clear();
     m_filmstrip->setCurrent({});
     m_ui->snapshotImageView->setImage(m_snapshotImage);
+    m_ui->savedNotice->clear();
     showSnapshotSummary();
+    showWhatIsNext();
 }
 
 void MainWindow::setSnapshotControlsEnabled(bool on)
@@ -258,8 +262,11 @@ void MainWindow::reportSaving(const QString& path, bool success)
     if (success) {
         m_filmstrip->shelf().markSaved(m_shownSnapshot);
         m_lastSavedFile = QFileInfo(path).absoluteFilePath();
-        offerToShowSavedFile();
+        offerToShowSavedFile(tr("Saved %1").arg(QFileInfo(path).fileName()));
+    } else {
+        m_ui->savedNotice->tellFailed(tr("Could not save %1").arg(QFileInfo(path).fileName()));
     }
+    showWhatIsNext();
     statusBar()->showMessage((success ? tr("Saved %1") : tr("Could not save %1")).arg(shownPath),
                              messageMs);
 }
@@ -402,6 +409,7 @@ void MainWindow::on_actionCopy_Snapshot_triggered()
     if (!m_snapshotImage.isNull()) {
         ImageProcessingManager::instance()->setToClipboard(m_snapshotImage.copy());
         m_isSnapshotKept = true;
+        showWhatIsNext();
     }
 }
 
@@ -410,6 +418,7 @@ void MainWindow::on_actionCopy_Full_Frame_triggered()
     if (!m_captured.image.isNull()) {
         ImageProcessingManager::instance()->setToClipboard(m_captured.image.copy());
         m_isSnapshotKept = true;
+        showWhatIsNext();
     }
 }
 

@@ -53,4 +53,5 @@ void MainWindow::showSnapshotSummary()
         isShown ? SnapshotSummary::text(m_snapshotImage.size(), m_captured.image.size(),
                                         typeToSave(), m_snapshotRecipe)
                 : QString());
+    m_ui->originalSizeButton->fit();
 }

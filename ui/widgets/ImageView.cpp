@@ -22,12 +22,20 @@ void ImageView::setImage(const QImage& image)
     update();
 }
 
+void ImageView::setPlaceholder(const QIcon& icon, const QString& text)
+{
+    m_placeholderIcon = icon;
+    m_placeholderText = text;
+    update();
+}
+
 void ImageView::paintEvent(QPaintEvent* /*event*/)
 {
+    QPainter painter(this);
     if (m_image.isNull()) {
+        paintPlaceholder(painter);
         return;
     }
-    QPainter painter(this);
     const double ratio = devicePixelRatioF();
     const QRect place = m_zoom->zoom().place();
     if (!m_zoom->zoom().isFitted()) {
@@ -41,6 +49,22 @@ void ImageView::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QImage& fitted = imageFor(target.size() * ratio);
     painter.drawImage(QRectF(target), fitted, QRectF(fitted.rect()));
+}
+
+void ImageView::paintPlaceholder(QPainter& painter) const
+{
+    if (m_placeholderText.isEmpty()) {
+        return;
+    }
+    constexpr int edge = 40;
+    constexpr int gap = 8;
+    const int textHeight = fontMetrics().height();
+    const int top = (height() - edge - gap - textHeight) / 2;
+    m_placeholderIcon.paint(&painter, QRect((width() - edge) / 2, top, edge, edge));
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const QRect line(0, top + edge + gap, width(), textHeight);
+    painter.drawText(line, Qt::AlignHCenter | Qt::AlignTop,
+                     fontMetrics().elidedText(m_placeholderText, Qt::ElideRight, width()));
 }
 
 /// In the screen's pixels.

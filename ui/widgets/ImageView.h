@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QIcon>
 #include <QImage>
+#include <QString>
 #include <QWidget>
 
 class QPainter;
@@ -22,6 +24,9 @@ public:
     /// last one keeps its zoom, else it is fitted.
     void setImage(const QImage& image);
 
+    /// What is shown, quietly and in the middle, while there is no image; nothing by default.
+    void setPlaceholder(const QIcon& icon, const QString& text);
+
     /// How the image lies, and the way to change that. Owned by the view.
     [[nodiscard]] ZoomGestures& zoom() { return *m_zoom; }
 
@@ -30,10 +35,13 @@ protected:
 
 private:
     const QImage& imageFor(QSize pixels);
+    void paintPlaceholder(QPainter& painter) const;
     void paintZoomed(QPainter& painter, const QRect& place);
 
     ZoomGestures* const m_zoom;
     QImage m_image;
+    QIcon m_placeholderIcon;
+    QString m_placeholderText;
     /// m_image made smaller for the screen; null until it is painted at a smaller size.
     QImage m_smallImage;
 };

@@ -242,10 +242,13 @@ class Program:
 
     def offers_to_play(self):
         """Whether the play button shows the triangle, not the two bars."""
-        x, y = self.find("push button", "Play/Pause").middle
-        # The middle is inside the triangle, and between the bars.
-        brightness = self.desktop.picture((x, y, x + 1, y + 1)).convert("L").getpixel((0, 0))
-        return brightness < 128
+        button = self.find("push button", "Play/Pause")
+        picture = self.desktop.picture(button.area).convert("L")
+        # The middle is inside the triangle, and between the bars, where the ground shows; beside
+        # the ring of the focus there is nothing but ground.
+        middle = picture.getpixel((picture.width // 2, picture.height // 2))
+        ground = picture.getpixel((4, picture.height // 2))
+        return abs(middle - ground) > 64
 
     def _frame_in(self, control):
         # The samples that tests look at on the screen have pictures of four to three.

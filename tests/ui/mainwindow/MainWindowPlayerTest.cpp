@@ -105,8 +105,8 @@ void MainWindowPlayerTest::playButton_showsWhatItDoes()
     OpenWindow window;
     QPushButton& button = window.find<QPushButton>("playButton");
     const auto looks = [&button] { return button.icon().pixmap(22, 22).toImage(); };
-    const QImage play = QIcon(QStringLiteral(":/Images/Play.svg")).pixmap(22, 22).toImage();
-    const QImage pause = QIcon(QStringLiteral(":/Images/Pause.svg")).pixmap(22, 22).toImage();
+    const QImage play = QIcon(QStringLiteral(":/Icons/Play.icon")).pixmap(22, 22).toImage();
+    const QImage pause = QIcon(QStringLiteral(":/Icons/Pause.icon")).pixmap(22, 22).toImage();
     QVERIFY(play != pause);
     QCOMPARE(looks(), play);
     window->openVideo(samplePath(clip));

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void picture_follows_whenViewIsResized();
     void nothing_isPainted_withoutImage();
     void nothing_isPainted_whenImageIsSetToNull();
+    void placeholder_isPaintedQuietlyInTheMiddle_untilThereIsAnImage();
     void alpha_showsWhatIsBehind();
     void surroundings_showParentsBackground();
     void fineDetail_isAveraged_whenMadeSmaller();
@@ -142,6 +143,19 @@ void ImageViewTest::nothing_isPainted_whenImageIsSetToNull()
     QVERIFY(!paintedBounds(paintedBy(view)).isNull());
     view.setImage(QImage());
     QVERIFY(paintedBounds(paintedBy(view)).isNull());
+}
+
+void ImageViewTest::placeholder_isPaintedQuietlyInTheMiddle_untilThereIsAnImage()
+{
+    ImageView view;
+    view.resize(300, 200);
+    view.setPlaceholder(QIcon(), QStringLiteral("Nothing yet"));
+    const QRect bounds = paintedBounds(paintedBy(view));
+    QVERIFY(!bounds.isEmpty());
+    QVERIFY(std::abs(bounds.center().x() - 150) <= 3);
+    view.setImage(filled({300, 200}, Qt::red));
+    const QImage shown = paintedBy(view);
+    QCOMPARE(shown.pixelColor(bounds.center()), QColor(Qt::red));
 }
 
 void ImageViewTest::alpha_showsWhatIsBehind()

@@ -1,0 +1,69 @@
+// How the window guides the eye: what is said where nothing is open, and which button comes next.
+
+#include "ui/mainwindow/MainWindow.h"
+
+#include "ui/mainwindow/PlaybackSpeeds.h"
+#include "ui/mainwindow/RecentFiles.h"
+#include "ui/theme/Icons.h"
+#include "ui/theme/Theme.h"
+#include "ui_MainWindow.h"
+
+#include <QtAV/AVPlayer.h>
+
+namespace {
+
+/// Of the width of the window, as long as nobody moved the bar between.
+constexpr int playerShare = 735;
+constexpr int snapshotShare = 265;
+
+} // namespace
+
+void MainWindow::setupLooks()
+{
+    m_ui->videoControlsFrame->setParts(*m_ui->timePart, *m_ui->transportPart,
+                                       *m_ui->videoFactsLabel, *m_ui->snapshotButton);
+    m_ui->originalSizeButton->giveWayTo(*m_ui->snapshotSummaryLabel, 2);
+    m_ui->splitter->setSizes({playerShare, snapshotShare});
+    if (layoutDirection() == Qt::RightToLeft) {
+        // The pane that has a margin of its own is at the other edge.
+        const QMargins margins = m_ui->centralLayout->contentsMargins();
+        m_ui->centralLayout->setContentsMargins(margins.right(), margins.top(), margins.left(),
+                                                margins.bottom());
+    }
+    m_ui->snapshotImageView->setPlaceholder(theme::icon(QStringLiteral("Image"), theme::Ink::Quiet),
+                                            tr("No snapshot yet"));
+    m_ui->speedButton->setMenu(m_ui->menuSpeed);
+    connect(m_player, &QtAV::AVPlayer::speedChanged, this, &MainWindow::showSpeed);
+    const auto keyOf = [](const QAction& action) {
+        return action.shortcut().toString(QKeySequence::NativeText);
+    };
+    m_ui->snapshotButton->setKeys(keyOf(*m_ui->actionTake_Snapshot));
+    m_ui->saveButton->setKeys(keyOf(*m_ui->actionSaveSnapshot));
+    connect(m_ui->openVideoLabel, &OpenVideoButton::fileChosen, this, &MainWindow::openFromOutside);
+    // Its list may have been cleared.
+    connect(m_ui->menuFile, &QMenu::aboutToHide, this, &MainWindow::showRecentFiles,
+            Qt::QueuedConnection);
+    showOpenButton(m_ui->openVideoLabel->text());
+    showWhatIsNext();
+}
+
+void MainWindow::showRecentFiles()
+{
+    m_ui->openVideoLabel->setRecentFiles(isVideoLoaded() ? QStringList()
+                                                         : RecentFiles::in(m_settings));
+}
+
+void MainWindow::showSpeed(qreal speed)
+{
+    const QString text = PlaybackSpeeds::text(speed);
+    m_ui->speedButton->setText(text);
+    m_ui->speedButton->setAccessibleDescription(text);
+}
+
+/// One button stands out: to save, while there is something that is not saved, else to take.
+void MainWindow::showWhatIsNext()
+{
+    const bool isToBeSaved = !m_snapshotImage.isNull() && !m_isSnapshotKept;
+    Theme::setPrimary(*m_ui->saveButton, isToBeSaved);
+    Theme::setPrimary(*m_ui->snapshotButton, !isToBeSaved);
+}

@@ -1,0 +1,12 @@
+#include "ui/theme/IconPlugin.h"
+
+#include "ui/theme/LineIconEngine.h"
+
+#include <memory>
+
+QIconEngine* LineIconPlugin::create(const QString& fileName)
+{
+    Q_UNUSED(fileName)
+    // QIcon takes it over, and names the file by addFile().
+    return std::make_unique<LineIconEngine>().release();
+}

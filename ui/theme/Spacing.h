@@ -1,0 +1,12 @@
+#pragma once
+
+/// Distances in device-independent pixels, on a grid of four. Layouts whose form sets no margin and
+/// no spacing get `wide` and `normal` from ThemeStyle.
+namespace theme::spacing {
+
+constexpr int tight = 4;    ///< between parts of one control
+constexpr int normal = 8;   ///< between controls
+constexpr int wide = 12;    ///< between groups, and around the content of a window
+constexpr int section = 20; ///< between sections that have headings
+
+} // namespace theme::spacing

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// Qt's Fusion style with the program's distances, text sizes and icons. Colours come from the
+/// palette, and the shapes of most controls from the style sheet. User-interface thread only.
+class ThemeStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    ThemeStyle();
+
+    using QProxyStyle::polish;
+    /// Gives a widget what its properties ask for: see theme::textSizeProperty.
+    void polish(QWidget* widget) override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
+    /// Those of message boxes and of the file dialog are line icons too.
+    QIcon standardIcon(StandardPixmap pixmap, const QStyleOption* option,
+                       const QWidget* widget) const override;
+    QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption* option,
+                           const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override;
+    QPalette standardPalette() const override;
+};
