@@ -23,12 +23,25 @@ AboutDialog::AboutDialog(QWidget* parent)
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 
+    enlargeHeading();
     fillLinks();
     m_ui->versionLabel->setText(tr("Version: ") + ProductInfo::version());
     m_ui->iconLabel->setPixmap(QPixmap(QStringLiteral(":/Images/MVIcon1024.png")));
 }
 
 AboutDialog::~AboutDialog() = default;
+
+/// By as much as suits the system's letters, whatever their size.
+void AboutDialog::enlargeHeading()
+{
+    constexpr double factor = 1.4;
+    constexpr int leastLetters = 24;
+    QFont font = m_ui->headingLabel->font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(true);
+    m_ui->headingLabel->setFont(font);
+    m_ui->headingLabel->setMinimumWidth(leastLetters * QFontMetrics(font).averageCharWidth());
+}
 
 void AboutDialog::fillLinks()
 {

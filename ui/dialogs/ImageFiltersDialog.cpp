@@ -4,6 +4,7 @@
 #include "imaging/Rendering.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "ui/dialogs/SamplePicture.h"
 #include "ui_ImageFiltersDialog.h"
 
 #include <chrono>
@@ -28,7 +29,7 @@ QImage withoutUnusedChannel(const QImage& image)
 ImageFiltersDialog::ImageFiltersDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ImageFiltersDialog>())
-    , m_frame(withoutUnusedChannel(QImage(QStringLiteral(":/Images/watermarkBackground.jpg"))))
+    , m_frame(SamplePicture::image())
 {
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);

@@ -15,8 +15,8 @@ class QWidget;
 /// stands for.
 ///
 /// Kinds of widgets that can be bound: line edits, text edits, combo boxes (by their items' data),
-/// check boxes, sliders, spin boxes, radio buttons, `ColorLabel` and `FontLabel`; other labels can
-/// be written but not read. User-interface thread only.
+/// check boxes, sliders, spin boxes, radio buttons, group boxes with a check mark, `ColorLabel` and
+/// `FontLabel`; other labels can be written but not read. User-interface thread only.
 class Field : public QObject
 {
     Q_OBJECT

@@ -16,6 +16,8 @@ ProfileSelector::ProfileSelector(QWidget* parent)
 {
     m_ui->setupUi(this);
     setFocusProxy(m_ui->profileComboBox);
+    // The least size of the combo box is for small letters only.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     QLineEdit* const nameEdit = m_ui->profileComboBox->lineEdit();
     nameEdit->setPlaceholderText(tr("[Type to Name Profile]"));

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QSize>
+
+class QWidget;
+
+/// How large a dialog opens. User-interface thread only.
+namespace DialogSize {
+
+/// Gives the dialog the size that it asks for, or this one in average letters and lines of its font
+/// where that is larger, but never more than its screen has room for. To be called once the form is
+/// built.
+void open(QWidget& dialog, const QSize& letters);
+
+} // namespace DialogSize
