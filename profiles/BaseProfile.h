@@ -33,6 +33,9 @@ public:
     QString name() const { return m_name; }
     void setName(const QString& name) { m_name = name; }
 
+    /// The name as people see it, see ProfileNames.
+    QString shownName() const;
+
     QString id() const { return m_id; }
     void setId(const QString& id) { m_id = id; }
 

@@ -101,9 +101,12 @@ void BatchModeDialog::setupFilesTable()
     table.setItemDelegate(new NoFocusItemDelegate(&table));
     const int letter = fontMetrics().averageCharWidth();
     int column = 0;
-    for (const int letters : {24, 30, 16, 28}) {
+    for (const int letters : {22, 30, 14, 28, 9}) {
         table.setColumnWidth(column++, letters * letter);
     }
+    // What each video gives is seen first, where it goes may be scrolled to.
+    table.horizontalHeader()->moveSection(BatchModeListModel::Images, 1);
+    table.horizontalHeader()->moveSection(BatchModeListModel::Interval + 1, 2);
     const int rowHeight = fontMetrics().height() + 8;
     table.verticalHeader()->setDefaultSectionSize(rowHeight);
     table.setMinimumHeight(4 * rowHeight);
@@ -180,7 +183,7 @@ void BatchModeDialog::loadProfileComboBox(QComboBox* comboBox, ProfileManager* m
     comboBox->addItem(noChoice(), noChoice());
     const QList<BaseProfile*> profiles = manager->profiles();
     for (const BaseProfile* const profile : profiles) {
-        comboBox->addItem(profile->name(), profile->id());
+        comboBox->addItem(profile->shownName(), profile->id());
     }
     setupComboBox(comboBox);
 }
@@ -231,6 +234,7 @@ void BatchModeDialog::updateFieldsEnabled()
     const bool hasRows = m_model->rowCount() > 0;
     const bool hasSelection = m_ui->filesTableView->selectionModel()->hasSelection();
     m_emptyListHint->setVisible(!hasRows && !isLoading());
+    m_ui->filesTableView->horizontalHeader()->setVisible(hasRows);
     m_ui->startButton->setEnabled(hasRows && !isLoading());
     m_ui->startButton->setToolTip(
         isLoading() ? tr("The batch can start when all videos have been read") : QString());

@@ -76,7 +76,7 @@ void ImageFiltersDialog::setProfile(ImageProfile* profile)
     m_ui->applyButton->setEnabled(profile != nullptr);
     if (profile != nullptr) {
         m_ui->applyButton->setToolTip(tr("Put these values into the image profile \u201c%1\u201d")
-                                          .arg(profile->name().toHtmlEscaped()));
+                                          .arg(profile->shownName().toHtmlEscaped()));
         m_ui->brightnessSlider->setValue(NeutralPosition + profile->imageBrightness());
         m_ui->contrastSlider->setValue(NeutralPosition + profile->imageContrast());
         m_ui->filterComboBox->setCurrentIndex(

@@ -211,7 +211,7 @@ void ImageProfileDialog::setupWatermarkProfileComboBox()
     m_ui->watermarkProfileComboBox->addItem(QStringLiteral("[No Watermark]"), QString());
     const QList<BaseProfile*> profiles = WatermarkProfile::profileManager()->profiles();
     for (const BaseProfile* const profile : profiles)
-        m_ui->watermarkProfileComboBox->addItem(profile->name(), profile->id());
+        m_ui->watermarkProfileComboBox->addItem(profile->shownName(), profile->id());
 }
 
 void ImageProfileDialog::setupResizeFilterComboBox()

@@ -55,13 +55,13 @@ void ProfileSelector::addProfile(BaseProfile* profile)
 
     QComboBox& box = *m_ui->profileComboBox;
     if (box.count() > 0) {
-        box.addItem(profile->name());
+        box.addItem(profile->shownName());
         return;
     }
     // A combo box selects its first item by itself.
     const QSignalBlocker noSelection(box);
     const QString typed = box.currentText();
-    box.addItem(profile->name());
+    box.addItem(profile->shownName());
     box.setCurrentIndex(-1);
     box.setEditText(typed);
 }
