@@ -13,6 +13,9 @@ FLAT_WHITE = 204
 # The contrast goes for the opacity too, so that the window's light grey shines through.
 SHOWN_WHITE = 210
 
+# Leaves room for the snapshot beside it.
+DIALOG_SIZE = (700, 640)
+
 WINDOW = "Morvantile - h264_gop250.mp4"
 
 
@@ -150,6 +153,8 @@ class ProfilesTest(MorvantileCase):
         self.program.choose("Alignment", "Top Right")
         self.program.set_number("X Margin", 20)
         self.program.set_number("Y Margin", 10)
+        # In its own pixels.
+        self.program.click("check box", "Scale with Picture")
         preview = self.program.find(name="Preview")
         wait_until(lambda: color in colors(self.desktop.picture(preview.area)), "no preview")
         self.save_dialog("Watermark Settings")
@@ -203,9 +208,11 @@ class ProfilesTest(MorvantileCase):
         return number
 
     def edit_image_profile(self):
-        """Opens the dialog and moves it off the snapshot behind it."""
+        """Opens the dialog, makes it smaller and moves it off the snapshot behind it."""
         self.program.click("push button", "Edit image profiles")
         dialog = self.program.window("Image Profile Settings")
+        self.desktop.resize_window(*DIALOG_SIZE)
+        wait_until(lambda: dialog.area[2] - dialog.area[0] == DIALOG_SIZE[0], "it keeps its size")
         left, top, right, _ = dialog.area
         self.desktop.move((left + right) // 2, top - 10)
         self.desktop.press()

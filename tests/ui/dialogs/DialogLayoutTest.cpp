@@ -94,6 +94,7 @@ void DialogLayoutTest::watermarkDialog_keepsItsSize_whateverTheType()
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
     QVERIFY(testsupport::showActive(dialog));
+    QCoreApplication::processEvents();
     const QSize least = dialog.minimumSizeHint();
     const QRect tabs = child<QTabWidget>(dialog, "tabWidget").geometry();
     child<QAbstractButton>(dialog, "watermarkTypeImageRadioButton").click();

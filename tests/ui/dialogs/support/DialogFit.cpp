@@ -42,6 +42,12 @@ bool isCut(const QWidget& widget)
                          qobject_cast<const QComboBox*>(&widget) != nullptr ||
                          qobject_cast<const QLineEdit*>(&widget) != nullptr;
     const auto* const group = qobject_cast<const QGroupBox*>(&widget);
+    const auto* const comboBox = qobject_cast<const QComboBox*>(&widget);
+    // Names that people give are shortened, what we offer is not.
+    const bool isItemCut =
+        comboBox != nullptr && !comboBox->isEditable() &&
+        comboBox->sizeAdjustPolicy() != QComboBox::AdjustToMinimumContentsLengthWithIcon &&
+        comboBox->width() < comboBox->sizeHint().width();
     const bool isHeadingCut =
         group != nullptr && group->width() < group->fontMetrics().horizontalAdvance(group->title());
     const bool isTooNarrow = isText && widget.width() < textWidth(widget);
@@ -49,7 +55,7 @@ bool isCut(const QWidget& widget)
     // The button that clears a field and the like have no text.
     const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
     const bool isBare = button != nullptr && button->text().isEmpty();
-    return !isBare && (isTooNarrow || isTooLow || isHeadingCut);
+    return !isBare && (isTooNarrow || isTooLow || isHeadingCut || isItemCut);
 }
 
 } // namespace
