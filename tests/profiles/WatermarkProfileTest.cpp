@@ -80,17 +80,16 @@ private slots:
 
     void properties_areStoredInDeclaredOrderWithoutTheImage()
     {
-        QCOMPARE(
-            persistedPropertyNames(WatermarkProfile::staticMetaObject),
-            QStringList({QStringLiteral("objectName"), QStringLiteral("name"), QStringLiteral("id"),
-                         QStringLiteral("watermarkType"), QStringLiteral("alignmentIndex"),
-                         QStringLiteral("xMargin"), QStringLiteral("yMargin"),
-                         QStringLiteral("alpha"), QStringLiteral("text"),
-                         QStringLiteral("textFont"), QStringLiteral("textColor"),
-                         QStringLiteral("textShadowColor"), QStringLiteral("textShadowXOffset"),
-                         QStringLiteral("textShadowYOffset"), QStringLiteral("imageFile"),
-                         QStringLiteral("textShadow"), QStringLiteral("relativeSize"),
-                         QStringLiteral("relativeWidth")}));
+        QCOMPARE(persistedPropertyNames(WatermarkProfile::staticMetaObject),
+                 QStringList(
+                     {QStringLiteral("objectName"), QStringLiteral("name"), QStringLiteral("id"),
+                      QStringLiteral("watermarkType"), QStringLiteral("alignmentIndex"),
+                      QStringLiteral("xMargin"), QStringLiteral("yMargin"), QStringLiteral("alpha"),
+                      QStringLiteral("text"), QStringLiteral("textFont"),
+                      QStringLiteral("textColor"), QStringLiteral("textShadowColor"),
+                      QStringLiteral("textShadowXOffset"), QStringLiteral("textShadowYOffset"),
+                      QStringLiteral("imageFile"), QStringLiteral("textShadow"),
+                      QStringLiteral("relativeSize"), QStringLiteral("relativeWidth")}));
         QVERIFY(WatermarkProfile::staticMetaObject.indexOfProperty("image") >= 0);
     }
 
