@@ -4,6 +4,7 @@
 #include "ui_AboutDialog.h"
 
 #include <QPixmap>
+#include <QPushButton>
 
 namespace {
 
@@ -25,6 +26,8 @@ AboutDialog::AboutDialog(QWidget* parent)
 
     enlargeHeading();
     fillLinks();
+    m_ui->buttonBox->button(QDialogButtonBox::Close)->setDefault(true);
+    m_ui->buttonBox->button(QDialogButtonBox::Close)->setFocus();
     m_ui->versionLabel->setText(tr("Version: ") + ProductInfo::version());
     m_ui->iconLabel->setPixmap(QPixmap(QStringLiteral(":/Images/MVIcon1024.png")));
 }

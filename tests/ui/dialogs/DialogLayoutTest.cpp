@@ -11,10 +11,13 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 
 #include <algorithm>
+#include <memory>
+#include <vector>
 
 using testsupport::child;
 using testsupport::misfits;
@@ -38,6 +41,7 @@ class DialogLayoutTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyDialog_hasOneDefaultButton_andEndsByEscape();
     void smallDialogs_fitASmallScreen_data();
     void smallDialogs_fitASmallScreen();
     void watermarkDialog_showsEverything_atItsLeastSize_data();
@@ -47,6 +51,29 @@ private Q_SLOTS:
     void imageProfileDialog_showsEverything_atItsLeastSize();
     void imageProfileDialog_keepsItsSize_withTheVideosSize();
 };
+
+void DialogLayoutTest::everyDialog_hasOneDefaultButton_andEndsByEscape()
+{
+    const TestProfiles profiles;
+    std::vector<std::unique_ptr<QDialog>> dialogs;
+    dialogs.push_back(std::make_unique<AboutDialog>(nullptr));
+    dialogs.push_back(std::make_unique<FileNameProfileDialog>(nullptr));
+    dialogs.push_back(std::make_unique<ImageFiltersDialog>(nullptr));
+    dialogs.push_back(std::make_unique<ImageProfileDialog>(nullptr));
+    dialogs.push_back(std::make_unique<WatermarkProfileDialog>(nullptr));
+    for (const auto& dialog : dialogs) {
+        const char* const name = dialog->metaObject()->className();
+        QVERIFY2(testsupport::showActive(*dialog), name);
+        const auto buttons = dialog->findChildren<QPushButton*>();
+        const auto defaults =
+            std::count_if(buttons.cbegin(), buttons.cend(),
+                          [](const QPushButton* button) { return button->isDefault(); });
+        QVERIFY2(defaults == 1, name);
+        QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        QVERIFY2(!dialog->isVisible(), name);
+        QCOMPARE(dialog->result(), int(QDialog::Rejected));
+    }
+}
 
 void DialogLayoutTest::smallDialogs_fitASmallScreen_data()
 {
