@@ -11,15 +11,6 @@
 
 namespace {
 
-enum Column {
-    FileName = 0,
-    Destination = 1,
-    Interval = 2,
-    OutputExample = 3,
-    Images = 4,
-    ColumnCount = 5
-};
-
 QString unknown()
 {
     return QStringLiteral("Unknown!");

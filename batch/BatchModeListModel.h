@@ -17,6 +17,15 @@ class BatchWorkerConfig;
 class BatchModeListModel : public QAbstractTableModel
 {
 public:
+    enum Column {
+        FileName = 0,
+        Destination = 1,
+        Interval = 2,
+        OutputExample = 3,
+        Images = 4,
+        ColumnCount = 5
+    };
+
     explicit BatchModeListModel(QObject* parent = nullptr);
 
     /// Lists one more job, as the last one.

@@ -1,6 +1,7 @@
 #include "batch/BatchWorkerConfig.h"
 
 #include "batch/SamplingPlan.h"
+#include "batch/SecondsText.h"
 #include "profiles/OutputNaming.h"
 #include "profiles/ProfileManager.h"
 
@@ -117,7 +118,7 @@ QString BatchWorkerConfig::intervalDisplay() const
 {
     switch (intervalType()) {
     case EveryMilliseconds:
-        return tr("Every %1ms").arg(intervalMilliseconds());
+        return tr("Every %1 s").arg(secondsText(intervalMilliseconds()));
     case SpreadImages:
         return tr("%1 images").arg(intervalImages());
     case SingleShot:

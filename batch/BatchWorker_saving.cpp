@@ -4,6 +4,7 @@
 
 #include "batch/BatchWorkerConfig.h"
 #include "batch/FreePaths.h"
+#include "batch/SecondsText.h"
 #include "imaging/FilePublisher.h"
 #include "imaging/FramePicture.h"
 #include "imaging/Rendering.h"
@@ -56,7 +57,7 @@ void BatchWorker::saveFrame(const QtAV::VideoFrame& frame, qint64 position)
     }
     if (!frame.isValid()) {
         noteMissed(position);
-        extractorError(tr("no picture found at position %1").arg(position));
+        extractorError(tr("no picture found at %1 s").arg(secondsText(position)));
         return;
     }
     announceBaseLayer(frame.baseLayer());
@@ -82,7 +83,7 @@ void BatchWorker::saveFrame(const QtAV::VideoFrame& frame, qint64 position)
 void BatchWorker::reportUnmadeImage(const QString& path, qint64 position, const QString& reason)
 {
     const QString message =
-        tr("Could not make %1 from position %2: %3").arg(path, QString::number(position), reason);
+        tr("Could not make %1 from %2 s: %3").arg(path, secondsText(position), reason);
     qWarning().noquote() << m_config->source() + QStringLiteral(": ") + message;
     Q_EMIT statusUpdate(this, message, Error);
 }

@@ -5,6 +5,8 @@
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int textType = 0;
@@ -89,6 +91,7 @@ WatermarkRecipe recipes::of(const WatermarkProfile& profile, WatermarkRecipe::Ki
     recipe.xMargin = profile.xMargin();
     recipe.yMargin = profile.yMargin();
     recipe.opacity = profile.alpha();
+    recipe.widthPercent = profile.relativeSize() ? std::clamp(profile.relativeWidth(), 1, 100) : 0;
     if (kind == WatermarkRecipe::Kind::Picture) {
         recipe.picture = profile.image();
         return recipe;
@@ -96,6 +99,7 @@ WatermarkRecipe recipes::of(const WatermarkProfile& profile, WatermarkRecipe::Ki
     recipe.text = profile.text();
     recipe.font = profile.textFont();
     recipe.textColor = profile.textColor();
+    recipe.hasShadow = profile.textShadow();
     recipe.shadowColor = profile.textShadowColor();
     recipe.shadowOffset = profile.textShadowOffset();
     return recipe;

@@ -22,10 +22,15 @@ struct WatermarkRecipe
     int xMargin = 0;   ///< from the edges that it is aligned to, in pixels
     int yMargin = 0;   ///< likewise
     int opacity = 255; ///< 0 (invisible) to 255 (opaque)
+    /// How much of the picture's width the watermark takes, in per cent from 1 to 100; it is made
+    /// smaller where it would be higher than the picture. 0 for its own size: that of the font, or
+    /// of the picture that is drawn.
+    int widthPercent = 0;
 
     QString text;
     QFont font;
     QColor textColor;
+    bool hasShadow = true; ///< else its colour and offset do not matter
     QColor shadowColor;
     QPoint shadowOffset; ///< to the right of the text and below it, in pixels
 

@@ -18,6 +18,7 @@ constexpr int largestOpacity = 255;
 constexpr int largestFont = 2000;
 
 constexpr const char* yes = "True";
+constexpr const char* no = "False";
 constexpr const char* asStored = "AsStored";
 
 /// In the order of ResizeFilter.
@@ -107,6 +108,9 @@ void addWatermark(Texts& texts, const WatermarkRecipe& watermark)
                  QString::number(static_cast<int>(watermark.alignment)));
     texts.insert(nameOf("WatermarkMargins"), pairText(watermark.xMargin, watermark.yMargin, ','));
     texts.insert(nameOf("WatermarkOpacity"), QString::number(watermark.opacity));
+    if (watermark.widthPercent > 0) {
+        texts.insert(nameOf("WatermarkWidthPercent"), QString::number(watermark.widthPercent));
+    }
     if (!isText) {
         return;
     }
@@ -114,6 +118,10 @@ void addWatermark(Texts& texts, const WatermarkRecipe& watermark)
     texts.insert(nameOf("WatermarkText"), plainLines(watermark.text));
     texts.insert(nameOf("WatermarkFont"), plainText(watermark.font.toString()));
     texts.insert(nameOf("WatermarkColor"), watermark.textColor.name(QColor::HexArgb));
+    if (!watermark.hasShadow) {
+        texts.insert(nameOf("WatermarkShadow"), nameOf(no));
+        return;
+    }
     texts.insert(nameOf("WatermarkShadowColor"), watermark.shadowColor.name(QColor::HexArgb));
     texts.insert(nameOf("WatermarkShadowOffset"), pairText(offset.x(), offset.y(), ','));
 }
@@ -145,6 +153,8 @@ WatermarkRecipe watermarkFrom(const Texts& texts)
     watermark.xMargin = margins.x();
     watermark.yMargin = margins.y();
     watermark.opacity = numberFrom(texts, "WatermarkOpacity", 0, largestOpacity, watermark.opacity);
+    watermark.widthPercent = numberFrom(texts, "WatermarkWidthPercent", 1, 100, 0);
+    watermark.hasShadow = texts.value(nameOf("WatermarkShadow")) != nameOf(no);
     watermark.text = plainLines(texts.value(nameOf("WatermarkText")));
     watermark.font = fontFrom(texts.value(nameOf("WatermarkFont")));
     watermark.textColor = colorFrom(texts.value(nameOf("WatermarkColor")));

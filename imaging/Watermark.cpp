@@ -6,6 +6,8 @@
 #include <QPen>
 #include <QTextOption>
 
+#include <algorithm>
+
 namespace {
 
 constexpr float opaque = 255.0F;
@@ -27,6 +29,58 @@ qreal opacityOf(const WatermarkRecipe& recipe)
     return static_cast<qreal>(static_cast<float>(recipe.opacity) / opaque);
 }
 
+void drawTextAndShadow(QPainter& painter, const QFont& font, const QRectF& textRect,
+                       const QTextOption& option, const WatermarkRecipe& recipe)
+{
+    painter.setOpacity(opacityOf(recipe));
+    painter.setFont(font);
+    if (recipe.hasShadow) {
+        painter.setPen(QPen(recipe.shadowColor));
+        painter.drawText(textRect.translated(recipe.shadowOffset), recipe.text, option);
+    }
+    painter.setPen(QPen(recipe.textColor));
+    painter.drawText(textRect, recipe.text, option);
+}
+
+/// The font in the size at which the widest line of the text takes its part of the image's width,
+/// or the whole text the image's height, if that is less. A text without a width, such as one of
+/// nothing but line breaks, leaves the font as it is.
+QFont fittedFont(const QImage& image, const WatermarkRecipe& recipe)
+{
+    constexpr int measuredSize = 100;
+    QFont font = recipe.font;
+    // Hinted letters do not grow in proportion.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setPixelSize(measuredSize);
+    const QSizeF measured = QFontMetricsF(font, &image).size(0, recipe.text);
+    if (measured.isEmpty()) {
+        return recipe.font;
+    }
+    const double width = image.width() * recipe.widthPercent / 100.0;
+    const double factor =
+        std::min(width / measured.width(), static_cast<double>(image.height()) / measured.height());
+    constexpr double pointsPerInch = 72.0;
+    // Only points may have a fraction.
+    font.setPointSizeF(measuredSize * factor * pointsPerInch / image.logicalDpiY());
+    return font;
+}
+
+void drawFittedText(QImage& image, const WatermarkRecipe& recipe)
+{
+    const QFont font = fittedFont(image, recipe);
+    const QRectF area =
+        QRectF(image.rect())
+            .adjusted(recipe.xMargin, recipe.yMargin, -recipe.xMargin, -recipe.yMargin);
+    QPainter painter(&image);
+    const QFontMetricsF metrics(font, painter.device());
+    const QRectF textRect =
+        metrics.boundingRect(area, static_cast<int>(recipe.alignment), recipe.text);
+    QTextOption option(recipe.alignment);
+    // The rectangle is exactly as wide as the text: no line breaks for a fraction of a pixel.
+    option.setWrapMode(QTextOption::ManualWrap);
+    drawTextAndShadow(painter, font, textRect, option, recipe);
+}
+
 void drawText(QImage& image, const WatermarkRecipe& recipe)
 {
     const QRect area =
@@ -37,19 +91,29 @@ void drawText(QImage& image, const WatermarkRecipe& recipe)
         metrics.boundingRect(area, static_cast<int>(recipe.alignment), recipe.text);
     const QTextOption option(recipe.alignment);
 
-    painter.setOpacity(opacityOf(recipe));
-    painter.setFont(recipe.font);
-    painter.setPen(QPen(recipe.shadowColor));
-    painter.drawText(textRect.translated(recipe.shadowOffset), recipe.text, option);
-    painter.setPen(QPen(recipe.textColor));
-    painter.drawText(textRect, recipe.text, option);
+    drawTextAndShadow(painter, recipe.font, textRect, option, recipe);
 }
 
-void drawPicture(QImage& image, const WatermarkRecipe& recipe)
+/// The picture in the size that the recipe asks for; never null, and never larger than the image
+/// unless that is its own size.
+QImage sizedPicture(const QSize& image, const WatermarkRecipe& recipe)
 {
     QImage picture = recipe.picture;
     // A picture named like "logo@2x.png" is loaded with a pixel ratio that would shrink it.
     picture.setDevicePixelRatio(1.0);
+    if (recipe.widthPercent <= 0) {
+        return picture;
+    }
+    const double width = image.width() * recipe.widthPercent / 100.0;
+    const double factor =
+        std::min(width / picture.width(), static_cast<double>(image.height()) / picture.height());
+    const QSize size(qRound(picture.width() * factor), qRound(picture.height() * factor));
+    return picture.scaled(size.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+void drawPicture(QImage& image, const WatermarkRecipe& recipe)
+{
+    const QImage picture = sizedPicture(image.size(), recipe);
     const QPoint position = imaging::alignedPoint(image.size(), picture.size(), recipe.alignment,
                                                   recipe.xMargin, recipe.yMargin);
     QPainter painter(&image);
@@ -59,10 +123,13 @@ void drawPicture(QImage& image, const WatermarkRecipe& recipe)
 
 void draw(QImage& image, const WatermarkRecipe& recipe)
 {
-    if (recipe.kind == WatermarkRecipe::Kind::Text)
-        drawText(image, recipe);
-    else
+    if (recipe.kind == WatermarkRecipe::Kind::Picture) {
         drawPicture(image, recipe);
+    } else if (recipe.widthPercent > 0) {
+        drawFittedText(image, recipe);
+    } else {
+        drawText(image, recipe);
+    }
 }
 
 /// Painting with opacity 0 is left out: on images with alpha it is not without effect, since every

@@ -1,5 +1,7 @@
 #include "profiles/BaseProfile.h"
 
+#include "profiles/ProfileNames.h"
+
 #include <QColor>
 #include <QMetaProperty>
 #include <QSettings>
@@ -37,6 +39,11 @@ BaseProfile::BaseProfile(BaseProfile* /*ignored*/)
 {}
 
 BaseProfile::~BaseProfile() = default;
+
+QString BaseProfile::shownName() const
+{
+    return ProfileNames::shown(m_name);
+}
 
 void BaseProfile::save(QSettings& settings) const
 {

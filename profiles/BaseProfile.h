@@ -33,6 +33,9 @@ public:
     QString name() const { return m_name; }
     void setName(const QString& name) { m_name = name; }
 
+    /// The name as people see it, see ProfileNames.
+    QString shownName() const;
+
     QString id() const { return m_id; }
     void setId(const QString& id) { m_id = id; }
 
@@ -47,7 +50,7 @@ public:
     /// the others keep their values. Values are neither validated nor clamped: one of another type
     /// becomes what converting it yields (0 for a word where a number belongs), and one that has no
     /// conversion at all, such as a list for a number, leaves the property as it is.
-    void load(const QSettings& settings);
+    virtual void load(const QSettings& settings);
 
     /// Sets every stored, writable property that the other profile has to its value there, but not
     /// who this profile is: name, id and objectName stay.

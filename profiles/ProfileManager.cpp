@@ -1,5 +1,7 @@
 #include "profiles/ProfileManager.h"
 
+#include "profiles/ProfileNames.h"
+
 #include <QDebug>
 #include <QDir>
 #include <QFile>
@@ -65,7 +67,7 @@ ProfileManager::ProfileManager(const QString& fileName, const Factory& factory,
 
     if (createDefaultIfEmpty && m_profiles.isEmpty()) {
         BaseProfile* const profile = createProfile();
-        profile->setName(QLatin1Char('[') + tr("Unnamed Settings") + QLatin1Char(']'));
+        profile->setName(ProfileNames::storedStandard());
         addProfile(profile);
     }
     if (!m_lastUsedProfile && !m_profiles.isEmpty())

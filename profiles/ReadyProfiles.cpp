@@ -87,8 +87,8 @@ ImageProfile* ReadyProfiles::inOriginalSize(ImageProfile& profile, ProfileManage
     }
     auto* const made = new ImageProfile;
     made->takeValuesOf(profile);
-    made->setName(
-        translated(QT_TRANSLATE_NOOP("ReadyProfiles", "%1, original size")).arg(profile.name()));
+    made->setName(translated(QT_TRANSLATE_NOOP("ReadyProfiles", "%1, original size"))
+                      .arg(profile.shownName()));
     made->setSameSizeAsVideo(true);
     manager.addProfile(made);
     manager.saveProfiles();

@@ -23,6 +23,13 @@ QImage readPicture(const QString& path)
     return size.isValid() && isTooLarge ? QImage() : reader.read();
 }
 
+BaseProfile* newProfile()
+{
+    auto* const profile = new WatermarkProfile(nullptr);
+    profile->setRelativeSize(true);
+    return profile;
+}
+
 } // namespace
 
 WatermarkProfile::WatermarkProfile(WatermarkProfile* ignored)
@@ -30,6 +37,12 @@ WatermarkProfile::WatermarkProfile(WatermarkProfile* ignored)
 {}
 
 WatermarkProfile::~WatermarkProfile() = default;
+
+void WatermarkProfile::load(const QSettings& settings)
+{
+    m_relativeSize = false;
+    BaseProfile::load(settings);
+}
 
 QImage WatermarkProfile::image() const
 {
@@ -69,9 +82,8 @@ ProfileManager* WatermarkProfile::profileManager()
 {
     if (!s_profileManager) {
         constexpr bool createDefaultIfEmpty = false;
-        s_profileManager = new ProfileManager(
-            QStringLiteral("WatermarkProfiles.ini"), [] { return new WatermarkProfile(nullptr); },
-            createDefaultIfEmpty);
+        s_profileManager = new ProfileManager(QStringLiteral("WatermarkProfiles.ini"), newProfile,
+                                              createDefaultIfEmpty);
     }
     return s_profileManager;
 }

@@ -11,7 +11,8 @@
 class ProfileManager;
 
 /// One watermark: a line of text with a drop shadow, or a picture, anchored to one of nine places
-/// of the output image.
+/// of the output image. A profile that the manager makes anew is sized by the picture it is drawn
+/// on; one that was stored before there was a choice has its own size.
 ///
 /// Pictures are copies in a folder of the application's own; a profile knows only the name inside
 /// that folder. The setters store any value.
@@ -39,6 +40,13 @@ class WatermarkProfile : public BaseProfile
     Q_PROPERTY(QString imageFile READ imageFile WRITE setImageFile)
     /// The picture itself; derived, and read-only so that it is never persisted.
     Q_PROPERTY(QImage image READ image)
+    /// Without it the shadow's colour and offset are kept, but nothing is drawn.
+    Q_PROPERTY(bool textShadow READ textShadow WRITE setTextShadow)
+    /// Whether the watermark takes a part of the output image's width, else it has its own size:
+    /// that of the font, or the pixels of the picture.
+    Q_PROPERTY(bool relativeSize READ relativeSize WRITE setRelativeSize)
+    /// This part, in per cent from 1 to 100.
+    Q_PROPERTY(int relativeWidth READ relativeWidth WRITE setRelativeWidth)
 
 public:
     /// A profile without a name, with a fresh id and default values; the argument is ignored.
@@ -78,8 +86,21 @@ public:
     int textShadowYOffset() const { return m_textShadowYOffset; }
     void setTextShadowYOffset(int offset) { m_textShadowYOffset = offset; }
 
+    bool textShadow() const { return m_textShadow; }
+    void setTextShadow(bool isOn) { m_textShadow = isOn; }
+
+    bool relativeSize() const { return m_relativeSize; }
+    void setRelativeSize(bool isRelative) { m_relativeSize = isRelative; }
+
+    int relativeWidth() const { return m_relativeWidth; }
+    void setRelativeWidth(int percent) { m_relativeWidth = percent; }
+
     QString imageFile() const { return m_imageFile; }
     void setImageFile(const QString& fileName) { m_imageFile = fileName; }
+
+    /// As in the base class; a group without the key for it was stored by a version that knew no
+    /// relative size.
+    void load(const QSettings& settings) override;
 
     /// What a picture may hold: it is drawn pixel by pixel, and takes 4 bytes for each.
     static constexpr qint64 mostPixels = 64LL * 1024 * 1024;
@@ -121,6 +142,9 @@ private:
     QColor m_textShadowColor{0, 0, 0, 175};
     int m_textShadowXOffset = 0;
     int m_textShadowYOffset = 0;
+    bool m_textShadow = true;
+    bool m_relativeSize = false;
+    int m_relativeWidth = 20;
     QString m_imageFile;
 
     static inline ProfileManager* s_profileManager = nullptr;

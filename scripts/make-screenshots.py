@@ -115,7 +115,7 @@ def take_profiles(photographer):
         desktop.key("Escape")
 
     program.click("push button", "Edit file-name profiles")
-    photographer.take("file-name-profile", "FileName Profile Settings")
+    photographer.take("file-name-profile", "File Name Profile Settings")
     desktop.key("Escape")
 
 

@@ -22,10 +22,11 @@ Result<const Profile*> profileNamed(const char* option, const std::string& name)
     const QString wanted = pathOf(name);
     QStringList known;
     for (const BaseProfile* profile : Profile::profileManager()->profiles()) {
-        if (profile->name().compare(wanted, Qt::CaseInsensitive) == 0) {
+        if (profile->name().compare(wanted, Qt::CaseInsensitive) == 0 ||
+            profile->shownName().compare(wanted, Qt::CaseInsensitive) == 0) {
             return Result<const Profile*>::of(qobject_cast<const Profile*>(profile));
         }
-        known += profile->name();
+        known += profile->shownName();
     }
     const std::string there = known.isEmpty()
                                   ? "there is none yet; make one in the window"

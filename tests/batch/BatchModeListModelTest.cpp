@@ -117,7 +117,7 @@ void BatchModeListModelTest::row_sumsUpItsJob()
     model.addConfig(&config);
     QCOMPARE(text(model.index(0, 0).data()), QStringLiteral("clip.final"));
     QCOMPARE(text(model.index(0, 1).data()), QStringLiteral("/pictures/clips"));
-    QCOMPARE(text(model.index(0, 2).data()), QStringLiteral("Every 5000ms"));
+    QCOMPARE(text(model.index(0, 2).data()), QStringLiteral("Every 5 s"));
     QCOMPARE(text(model.index(0, 3).data()), QStringLiteral("clip.final-00001.jpeg"));
     QCOMPARE(text(model.index(0, 4).data()), QStringLiteral("?"));
     VideoFacts facts;
@@ -262,7 +262,7 @@ void BatchModeListModelTest::configUpdated_hasTheRowShownAnew()
     QCOMPARE(changed.at(0).at(0).toModelIndex(), jobs.model.index(1, 0));
     QCOMPARE(changed.at(0).at(1).toModelIndex(), jobs.model.index(1, 4));
     QVERIFY(changed.at(0).at(2).value<QVector<int>>().isEmpty());
-    QCOMPARE(text(jobs.model.index(1, 2).data()), QStringLiteral("Every 250ms"));
+    QCOMPARE(text(jobs.model.index(1, 2).data()), QStringLiteral("Every 0.25 s"));
 }
 
 void BatchModeListModelTest::rows_haveNoChildren()

@@ -210,7 +210,7 @@ void BatchWorkerConfigTest::intervalDisplay_saysTheInterval_data()
     QTest::addColumn<int>("type");
     QTest::addColumn<int>("place");
     QTest::addColumn<QString>("text");
-    QTest::newRow("every") << 0 << 1 << "Every 5000ms";
+    QTest::newRow("every") << 0 << 1 << "Every 5 s";
     QTest::newRow("images") << 1 << 1 << "10 images";
     QTest::newRow("front") << 2 << 0 << "Single front";
     QTest::newRow("middle") << 2 << 1 << "Single middle";

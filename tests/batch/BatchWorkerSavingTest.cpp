@@ -320,7 +320,7 @@ void BatchWorkerSavingTest::imageBeyondTheMemory_isAnError_andTheJobGoesOn()
         job.worker.run();
     }
     QCOMPARE(job.events.of(QStringLiteral("error")),
-             QStringList{QStringLiteral("Could not make %1 from position 2000: Not enough memory")
+             QStringList{QStringLiteral("Could not make %1 from 2 s: Not enough memory")
                              .arg(dir.filePath(numbered("-00001.jpeg")))});
     QCOMPARE(filesIn(dir.path()), QStringList{numbered("-00002.jpeg")});
     QCOMPARE(numberIn(dir.filePath(numbered("-00002.jpeg"))), 300);
@@ -346,11 +346,10 @@ void BatchWorkerSavingTest::frameBeyondTheMemory_isAnError_andNoFile()
         const MemoryLimit limit(1024 * 1024);
         Q_EMIT job.grabber()->frameExtracted(frame);
     }
-    QCOMPARE(
-        job.events.of(QStringLiteral("error")),
-        QStringList{QStringLiteral("Could not make %1 from position 1500: There is no picture, "
-                                   "perhaps for a lack of memory")
-                        .arg(dir.filePath(numbered("-00001.jpeg")))});
+    QCOMPARE(job.events.of(QStringLiteral("error")),
+             QStringList{QStringLiteral("Could not make %1 from 1.5 s: There is no picture, "
+                                        "perhaps for a lack of memory")
+                             .arg(dir.filePath(numbered("-00001.jpeg")))});
     QVERIFY(filesIn(dir.path()).isEmpty());
 }
 
@@ -361,8 +360,7 @@ void BatchWorkerSavingTest::missingPicture_isAnError_andNoFile()
     job.grabber()->setPosition(2000);
     Q_EMIT job.grabber()->frameExtracted(QtAV::VideoFrame());
     QCOMPARE(job.events.all,
-             QStringList{
-                 QStringLiteral("error Frame extraction error no picture found at position 2000")});
+             QStringList{QStringLiteral("error Frame extraction error no picture found at 2 s")});
     QVERIFY(filesIn(dir.path()).isEmpty());
 }
 

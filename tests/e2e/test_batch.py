@@ -45,12 +45,12 @@ class BatchTest(MorvantileCase):
         self.load(*videos.values())
         self.select("a", "c")
         self.program.find("label", "[Multiple]")
-        self.program.fill("Milliseconds from image to image", "2000")
-        self.program.fill("Milliseconds to skip at the front", "600")
-        self.program.fill("Milliseconds to skip at the back", "600")
+        self.program.fill("Seconds from image to image", "2")
+        self.program.fill("Seconds to skip at the front", "0.6")
+        self.program.fill("Seconds to skip at the back", "0.6")
         self.program.fill("Folder", str(self.pictures))
         wait_until(
-            lambda: self.column(2) == ["Every 2000ms", "Every 5000ms", "Every 2000ms"],
+            lambda: self.column(2) == ["Every 2 s", "Every 5 s", "Every 2 s"],
             lambda: f"intervals: {self.column(2)}",
         )
         self.assertEqual(
@@ -88,7 +88,7 @@ class BatchTest(MorvantileCase):
 
         # 168 images of each video, with a pause after each: it does not end by itself soon.
         self.program.click("check box", "Exact frames")
-        self.program.fill("Milliseconds from image to image", "100")
+        self.program.fill("Seconds from image to image", "0.1")
         self.program.click("push button", "Start")
         self.answer_cancelling("No")
         count = len(images_in(self.pictures))
@@ -153,7 +153,7 @@ class BatchTest(MorvantileCase):
         self.open_batch_mode()
         self.load(*videos)
         self.select("b")
-        self.program.fill("Milliseconds from image to image", "2000")
+        self.program.fill("Seconds from image to image", "2")
         self.program.fill("Folder", str(self.pictures))
         self.program.find("label", "About 13 images of 2 videos")
         self.desktop.key("Escape")
@@ -165,7 +165,7 @@ class BatchTest(MorvantileCase):
         self.open_batch_mode()
         wait_until(lambda: self.column(0) == ["a", "b"], lambda: f"listed: {self.column(0)}")
         self.assertEqual(self.column(1), [str(self.videos), str(self.pictures)])
-        self.assertEqual(self.column(2), ["Every 5000ms", "Every 2000ms"])
+        self.assertEqual(self.column(2), ["Every 5 s", "Every 2 s"])
         self.assertEqual(self.column(4), ["4", "9"])
 
     # --- what the cases are made of ------------------------------------------------------------

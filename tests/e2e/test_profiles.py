@@ -13,6 +13,9 @@ FLAT_WHITE = 204
 # The contrast goes for the opacity too, so that the window's light grey shines through.
 SHOWN_WHITE = 210
 
+# Leaves room for the snapshot beside it.
+DIALOG_SIZE = (700, 640)
+
 WINDOW = "Morvantile - h264_gop250.mp4"
 
 
@@ -91,7 +94,7 @@ class ProfilesTest(MorvantileCase):
         wait_until(lambda: self.fills_its_part((400, 100)), "no preview")
         self.program.click("push button", "Cancel")
         self.program.window(WINDOW)
-        self.expect_profile("[Unnamed Settings]")
+        self.expect_profile("Standard")
         wait_until(lambda: self.snapshot_pixels() == before, "the preview stays")
         with Image.open(self.snap_and_save("as before.png")) as picture:
             self.assertEqual(picture.size, (640, 480))
@@ -101,7 +104,7 @@ class ProfilesTest(MorvantileCase):
         self.open_with_snapshot()
         self.edit_image_profile()
         self.use_profile_menu("Duplicate")
-        self.expect_name("[Unnamed Settings] copy")
+        self.expect_name("Standard copy")
         self.use_profile_menu("Rename")
         self.program.window("Rename Profile")
         self.program.enter("Mine")
@@ -126,7 +129,7 @@ class ProfilesTest(MorvantileCase):
         self.program.window("Image Profile Settings")
         self.program.click("push button", "Cancel")
         self.program.window(WINDOW)
-        self.expect_profile("[Unnamed Settings]")
+        self.expect_profile("Standard")
         box = self.program.find("combo box", description="Image profile")
         names = [entry.name for entry in box.children[0].children]
         self.assertNotIn("Mine", names)
@@ -150,6 +153,8 @@ class ProfilesTest(MorvantileCase):
         self.program.choose("Alignment", "Top Right")
         self.program.set_number("X Margin", 20)
         self.program.set_number("Y Margin", 10)
+        # In its own pixels.
+        self.program.click("check box", "Scale with Picture")
         preview = self.program.find(name="Preview")
         wait_until(lambda: color in colors(self.desktop.picture(preview.area)), "no preview")
         self.save_dialog("Watermark Settings")
@@ -171,14 +176,14 @@ class ProfilesTest(MorvantileCase):
         pictures.mkdir()
         self.name_automatically(self.program)
         self.program.click("push button", "Edit file-name profiles")
-        self.program.window("FileName Profile Settings")
+        self.program.window("File Name Profile Settings")
         self.program.enter("Numbered")
         self.program.fill("Prefix", "shot_")
         self.program.fill("Suffix", "_no")
         self.program.choose("Type", ".png")
         self.program.find("label", "shot_h264_gop250_no00001.png")
         self.program.find("label", "shot_h264_gop250_no.png")
-        self.save_dialog("FileName Profile Settings")
+        self.save_dialog("File Name Profile Settings")
         self.program.window(WINDOW)
         self.program.find("combo box", "Numbered", "File-name profile")
         self.program.fill("Output folder", str(pictures))
@@ -203,9 +208,11 @@ class ProfilesTest(MorvantileCase):
         return number
 
     def edit_image_profile(self):
-        """Opens the dialog and moves it off the snapshot behind it."""
+        """Opens the dialog, makes it smaller and moves it off the snapshot behind it."""
         self.program.click("push button", "Edit image profiles")
         dialog = self.program.window("Image Profile Settings")
+        self.desktop.resize_window(*DIALOG_SIZE)
+        wait_until(lambda: dialog.area[2] - dialog.area[0] == DIALOG_SIZE[0], "it keeps its size")
         left, top, right, _ = dialog.area
         self.desktop.move((left + right) // 2, top - 10)
         self.desktop.press()

@@ -87,7 +87,7 @@ class SteeringTest(MorvantileCase):
         self.program.window("Morvantile Batch Mode")
         texts = [field.text for field in self.program.find_all("text")]
         wait_until(
-            lambda: {"2000", "17800"} <= {field.text for field in self.program.find_all("text")},
+            lambda: {"2", "17.8"} <= {field.text for field in self.program.find_all("text")},
             lambda: f"{texts}",
         )
 

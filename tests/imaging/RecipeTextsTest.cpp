@@ -20,6 +20,7 @@ WatermarkRecipe textWatermark()
     watermark.textColor = QColor(1, 2, 3, 4);
     watermark.shadowColor = QColor(250, 251, 252, 253);
     watermark.shadowOffset = QPoint(2, -5);
+    watermark.widthPercent = 35;
     return watermark;
 }
 
@@ -79,6 +80,21 @@ private Q_SLOTS:
         QCOMPARE(back.watermark->textColor, recipe.watermark->textColor);
         QCOMPARE(back.watermark->shadowColor, recipe.watermark->shadowColor);
         QCOMPARE(back.watermark->shadowOffset, recipe.watermark->shadowOffset);
+        QCOMPARE(back.watermark->widthPercent, 35);
+        QVERIFY(back.watermark->hasShadow);
+    }
+
+    void watermarkWithoutShadow_comesBackWithout()
+    {
+        ImageRecipe recipe;
+        recipe.watermark = textWatermark();
+        recipe.watermark->hasShadow = false;
+        recipe.watermark->widthPercent = 0;
+        const Texts texts = textsOf(recipe);
+        QVERIFY(!RecipeTexts::recipeFrom(texts).watermark->hasShadow);
+        QCOMPARE(RecipeTexts::recipeFrom(texts).watermark->widthPercent, 0);
+        recipe.watermark->shadowColor = Qt::red;
+        QCOMPARE(textsOf(recipe), texts);
     }
 
     void recipesOfTheSameEffect_haveTheSameTexts()

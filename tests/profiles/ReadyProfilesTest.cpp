@@ -110,7 +110,7 @@ void ReadyProfilesTest::originalSize_isAListedProfile_onlyWhenAllElseIsTheSame()
     profile.setWatermarkProfileId(QStringLiteral("mine"));
     const int count = manager.profiles().size();
     ImageProfile* const made = ReadyProfiles::inOriginalSize(profile, manager);
-    QCOMPARE(made->name(), QStringLiteral("[Unnamed Settings], original size"));
+    QCOMPARE(made->name(), QStringLiteral("Standard, original size"));
     QCOMPARE(made->watermarkProfileId(), profile.watermarkProfileId());
     QVERIFY(made->id() != profile.id());
     QVERIFY(made->sameSizeAsVideo());

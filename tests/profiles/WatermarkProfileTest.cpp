@@ -63,6 +63,9 @@ private slots:
         QCOMPARE(profile.textShadowYOffset(), 0);
         QCOMPARE(profile.textShadowOffset(), QPoint(0, 0));
         QCOMPARE(profile.imageFile(), QString());
+        QCOMPARE(profile.textShadow(), true);
+        QCOMPARE(profile.relativeSize(), false);
+        QCOMPARE(profile.relativeWidth(), 20);
     }
 
     void constructor_ignoresItsArgument()
@@ -77,15 +80,16 @@ private slots:
 
     void properties_areStoredInDeclaredOrderWithoutTheImage()
     {
-        QCOMPARE(
-            persistedPropertyNames(WatermarkProfile::staticMetaObject),
-            QStringList({QStringLiteral("objectName"), QStringLiteral("name"), QStringLiteral("id"),
-                         QStringLiteral("watermarkType"), QStringLiteral("alignmentIndex"),
-                         QStringLiteral("xMargin"), QStringLiteral("yMargin"),
-                         QStringLiteral("alpha"), QStringLiteral("text"),
-                         QStringLiteral("textFont"), QStringLiteral("textColor"),
-                         QStringLiteral("textShadowColor"), QStringLiteral("textShadowXOffset"),
-                         QStringLiteral("textShadowYOffset"), QStringLiteral("imageFile")}));
+        QCOMPARE(persistedPropertyNames(WatermarkProfile::staticMetaObject),
+                 QStringList(
+                     {QStringLiteral("objectName"), QStringLiteral("name"), QStringLiteral("id"),
+                      QStringLiteral("watermarkType"), QStringLiteral("alignmentIndex"),
+                      QStringLiteral("xMargin"), QStringLiteral("yMargin"), QStringLiteral("alpha"),
+                      QStringLiteral("text"), QStringLiteral("textFont"),
+                      QStringLiteral("textColor"), QStringLiteral("textShadowColor"),
+                      QStringLiteral("textShadowXOffset"), QStringLiteral("textShadowYOffset"),
+                      QStringLiteral("imageFile"), QStringLiteral("textShadow"),
+                      QStringLiteral("relativeSize"), QStringLiteral("relativeWidth")}));
         QVERIFY(WatermarkProfile::staticMetaObject.indexOfProperty("image") >= 0);
     }
 
@@ -280,7 +284,7 @@ private slots:
         QSettings settings(home.path(QStringLiteral("a.ini")), QSettings::IniFormat);
         WatermarkProfile().save(settings);
         QVERIFY(!settings.contains(QStringLiteral("image")));
-        QCOMPARE(settings.allKeys().size(), 15);
+        QCOMPARE(settings.allKeys().size(), 18);
     }
 
     void load_takesColourNames_whenTypedByHand()

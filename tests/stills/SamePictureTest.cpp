@@ -1,6 +1,9 @@
 #include "batch/BatchWorker.h"
 #include "batch/BatchWorkerConfig.h"
 #include "imaging/Rendering.h"
+#include "product/ProductInfo.h"
+#include "profiles/ProfileManager.h"
+#include "profiles/WatermarkProfile.h"
 #include "tests/stills/StillsProgram.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TaggedSample.h"
@@ -25,9 +28,11 @@ constexpr QSize smaller{101, 67};
 const QString usual = QStringLiteral("auto");
 
 /// Like the window's profiles; full size for an empty one.
-std::unique_ptr<ImageProfile> profileFor(const QSize& size, const QString& deinterlacing)
+std::unique_ptr<ImageProfile> profileFor(const QSize& size, const QString& deinterlacing,
+                                         const WatermarkProfile* mark)
 {
     auto profile = std::make_unique<ImageProfile>();
+    profile->setWatermarkProfileId(mark == nullptr ? QString() : mark->id());
     profile->setImageQuality(quality);
     profile->setDeinterlacing(deinterlacing);
     profile->setSameSizeAsVideo(size.isEmpty());
@@ -56,7 +61,7 @@ QByteArray onlyContent(const QString& folder)
 }
 
 QByteArray byStills(const QString& video, qint64 ms, const QSize& size,
-                    const QString& deinterlacing = usual)
+                    const QString& deinterlacing = usual, const WatermarkProfile* mark = nullptr)
 {
     const TestDir dir;
     QStringList arguments{video,
@@ -72,16 +77,20 @@ QByteArray byStills(const QString& video, qint64 ms, const QSize& size,
         arguments << QStringLiteral("--size")
                   << QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
     }
+    if (mark != nullptr) {
+        arguments << QStringLiteral("--watermark") << mark->name();
+    }
     return stillsprogram::run(arguments).succeeded() ? onlyContent(dir.path()) : QByteArray();
 }
 
 enum class Frames { Exact, Near };
 
 QByteArray byBatchJob(const QString& video, qint64 ms, const QSize& size,
-                      const QString& deinterlacing = usual, Frames frames = Frames::Exact)
+                      const QString& deinterlacing = usual, Frames frames = Frames::Exact,
+                      const WatermarkProfile* mark = nullptr)
 {
     const TestDir dir;
-    const std::unique_ptr<ImageProfile> profile = profileFor(size, deinterlacing);
+    const std::unique_ptr<ImageProfile> profile = profileFor(size, deinterlacing, mark);
     BatchWorkerConfig config;
     config.setSource(video);
     config.setFileOutputPath(dir.path());
@@ -99,10 +108,10 @@ QByteArray byBatchJob(const QString& video, qint64 ms, const QSize& size,
 
 /// What the window does with the frame on screen.
 QByteArray bySnapshot(const QString& video, qint64 ms, const QSize& size,
-                      const QString& deinterlacing = usual)
+                      const QString& deinterlacing = usual, const WatermarkProfile* mark = nullptr)
 {
     const TestDir dir;
-    const std::unique_ptr<ImageProfile> profile = profileFor(size, deinterlacing);
+    const std::unique_ptr<ImageProfile> profile = profileFor(size, deinterlacing, mark);
     FrameGrabber grabber;
     grabber.setSource(video);
     grabber.setPrecision(0);
@@ -135,7 +144,12 @@ private Q_SLOTS:
     void stillsBatchJobsAndSnapshots_giveTheSameBytes();
     void metadata_isTheSame_whateverTookThePicture();
     void deinterlacing_isTheSame_forStillsBatchJobsAndSnapshots();
+<<<<<<< HEAD
     void combingKeyFrames_areTheSame_byThemselvesAndByTheirTimes();
+=======
+    void watermark_isTheSame_forStillsBatchJobsAndSnapshots_data();
+    void watermark_isTheSame_forStillsBatchJobsAndSnapshots();
+>>>>>>> dialogs
 };
 
 void SamePictureTest::stillsBatchJobsAndSnapshots_giveTheSameBytes_data()
@@ -227,6 +241,48 @@ void SamePictureTest::deinterlacing_isTheSame_forStillsBatchJobsAndSnapshots()
         QVERIFY(!automatic.isNull());
         QVERIFY(automatic == QImage::fromData(outcome[QStringLiteral("on")]));
         QVERIFY(automatic != QImage::fromData(outcome[QStringLiteral("off")]));
+    }
+}
+
+void SamePictureTest::watermark_isTheSame_forStillsBatchJobsAndSnapshots_data()
+{
+    QTest::addColumn<bool>("isText");
+    QTest::addColumn<bool>("isRelative");
+    QTest::newRow("text, relative") << true << true;
+    QTest::newRow("text, own size") << true << false;
+    QTest::newRow("picture, relative") << false << true;
+}
+
+/// The profile is read from its file, as users have it.
+void SamePictureTest::watermark_isTheSame_forStillsBatchJobsAndSnapshots()
+{
+    QFETCH(bool, isText);
+    QFETCH(bool, isRelative);
+    QCoreApplication::setOrganizationName(ProductInfo::name());
+    QCoreApplication::setApplicationName(ProductInfo::name());
+    const QString picture = QStringLiteral("mark.png");
+    QImage mark(30, 20, QImage::Format_RGB32);
+    mark.fill(Qt::magenta);
+    QVERIFY(mark.save(WatermarkProfile::pathForImage(picture)));
+    ProfileManager& manager = *WatermarkProfile::profileManager();
+    auto* const profile = qobject_cast<WatermarkProfile*>(manager.createProfile());
+    profile->setName(QString::fromLatin1(QTest::currentDataTag()));
+    profile->setWatermarkType(isText ? 0 : 1);
+    profile->setText(QStringLiteral("Harbour"));
+    profile->setTextFont(QFont(QStringLiteral("DejaVu Sans"), 12));
+    profile->setImageFile(picture);
+    profile->setRelativeSize(isRelative);
+    profile->setRelativeWidth(40);
+    manager.addProfile(profile);
+    manager.saveProfiles();
+
+    const QString video = samplePath(QStringLiteral("h264_bframes.mp4"));
+    for (const QSize& size : {QSize(), smaller}) {
+        const QByteArray bytes = byStills(video, 1000, size, usual, profile);
+        QVERIFY(!bytes.isEmpty());
+        QVERIFY(bytes != byStills(video, 1000, size));
+        QVERIFY(byBatchJob(video, 1000, size, usual, Frames::Exact, profile) == bytes);
+        QVERIFY(bySnapshot(video, 1000, size, usual, profile) == bytes);
     }
 }
 

@@ -359,8 +359,8 @@ void StillsFilesTest::profiles_areUsed()
     const TestDir dir;
     const QStringList start{samplePath(shortSample), QStringLiteral("--at"), QStringLiteral("1,2"),
                             QStringLiteral("-o"), dir.path()};
-    QVERIFY(stillsprogram::run(start + QStringList{QStringLiteral("--name-profile"),
-                                                   QStringLiteral("[unnamed settings]")})
+    QVERIFY(stillsprogram::run(
+                start + QStringList{QStringLiteral("--name-profile"), QStringLiteral("standard")})
                 .succeeded());
     QCOMPARE(filesIn(dir.path()), words("h264_bframes-00001.jpeg h264_bframes-00002.jpeg"));
     QVERIFY(stillsprogram::run(start + QStringList{QStringLiteral("--profile"),

@@ -2,9 +2,12 @@
 
 #include "batch/BatchModeListModel.h"
 #include "batch/BatchWorkerConfig.h"
+#include "batch/SecondsText.h"
 #include "batch/VideoInfoLoader.h"
 #include "profiles/ProfileManager.h"
 #include "ui/batch/MergedField.h"
+#include "ui/batch/SecondsField.h"
+#include "ui/widgets/DialogSize.h"
 #include "ui/widgets/EqualWidths.h"
 #include "ui/widgets/Field.h"
 #include "ui/widgets/GroupBoxMargins.h"
@@ -19,8 +22,13 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
+#include <optional>
 
 namespace {
+
+/// Room for the names of videos and folders.
+constexpr QSize openLetters{150, 42};
 
 /// The data of the first item of each combo box, which stands for no choice.
 QString noChoice()
@@ -49,7 +57,6 @@ BatchModeDialog::BatchModeDialog(QWidget* parent)
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     arrangeButtons();
     alignCaptions();
-    growWithFont();
     setupFilesTable();
     setupLoading();
     loadProfileComboBox(m_ui->imageProfileComboBox, ImageProfile::profileManager());
@@ -57,6 +64,8 @@ BatchModeDialog::BatchModeDialog(QWidget* parent)
     loadSingleShotComboBox();
     setupPropertyFields();
     loadFormValues();
+    wrapButtonsOnNarrowScreens();
+    DialogSize::open(*this, openLetters);
 }
 
 BatchModeDialog::~BatchModeDialog() = default;
@@ -71,20 +80,18 @@ void BatchModeDialog::arrangeButtons()
 /// The groups stand one above the other and read as one form.
 void BatchModeDialog::alignCaptions()
 {
-    const QList<QWidget*> captions{m_ui->imageProfileLabel, m_ui->filenameProfileLabel,
-                                   m_ui->filenameOutputExampleCaption, m_ui->fileOutputFolderLabel};
-    const QList<QWidget*> buttons{m_ui->imageProfileEditButton, m_ui->filenameProfileEditButton,
-                                  m_ui->fileOutputFolderSelectButton};
-    EqualWidths::apply(captions);
-    EqualWidths::apply(buttons);
+    EqualWidths::apply({m_ui->imageProfileEditButton, m_ui->filenameProfileEditButton});
+    EqualWidths::apply({m_ui->intervalImagesRadioButton, m_ui->intervalMillisecondsRadioButton,
+                        m_ui->skipFrontLabel, m_ui->skipBackLabel});
 }
 
-/// The size that the form asks for is for the usual font.
-void BatchModeDialog::growWithFont()
+void BatchModeDialog::wrapButtonsOnNarrowScreens()
 {
-    const QFontMetrics metrics = fontMetrics();
-    const QSize wanted(122 * metrics.averageCharWidth(), 40 * metrics.height());
-    resize(size().expandedTo(wanted.boundedTo(screen()->availableSize() * 9 / 10)));
+    DialogSize::polish(*this);
+    if (minimumSizeHint().width() > screen()->availableSize().width()) {
+        m_ui->filesButtonsLayout->removeWidget(m_ui->selectAllVideoButton);
+        m_ui->filesLayout->addWidget(m_ui->selectAllVideoButton, 0, Qt::AlignLeft);
+    }
 }
 
 void BatchModeDialog::setupFilesTable()
@@ -94,9 +101,12 @@ void BatchModeDialog::setupFilesTable()
     table.setItemDelegate(new NoFocusItemDelegate(&table));
     const int letter = fontMetrics().averageCharWidth();
     int column = 0;
-    for (const int letters : {24, 30, 16, 28}) {
+    for (const int letters : {22, 30, 14, 28, 9}) {
         table.setColumnWidth(column++, letters * letter);
     }
+    // What each video gives is seen first, where it goes may be scrolled to.
+    table.horizontalHeader()->moveSection(BatchModeListModel::Images, 1);
+    table.horizontalHeader()->moveSection(BatchModeListModel::Interval + 1, 2);
     const int rowHeight = fontMetrics().height() + 8;
     table.verticalHeader()->setDefaultSectionSize(rowHeight);
     table.setMinimumHeight(4 * rowHeight);
@@ -111,9 +121,15 @@ void BatchModeDialog::setupFilesTable()
         connect(shortcut, &QShortcut::activated, m_ui->removeVideoButton, &QPushButton::click);
     }
 
-    m_emptyListHint = new QLabel(tr("Load videos, or drop them here"), table.viewport());
+    m_emptyListHint = new QLabel(table.viewport());
     m_emptyListHint->setAlignment(Qt::AlignCenter);
-    m_emptyListHint->setEnabled(false);
+    m_emptyListHint->setWordWrap(true);
+    m_emptyListHint->setTextFormat(Qt::RichText);
+    m_emptyListHint->setText(
+        QStringLiteral("<p><b>%1</b></p><p>%2</p>")
+            .arg(tr("No Videos Yet").toHtmlEscaped(),
+                 tr("Load videos, or drop them here. Then choose which images to take of each.")
+                     .toHtmlEscaped()));
     auto* const layout = new QVBoxLayout(table.viewport());
     layout->addWidget(m_emptyListHint);
 }
@@ -129,12 +145,12 @@ void BatchModeDialog::setupPropertyFields()
              BatchWorkerConfig::EveryMilliseconds);
     addField("intervalType", m_ui->intervalImagesRadioButton, BatchWorkerConfig::SpreadImages);
     addField("intervalType", m_ui->intervalSingleShotRadioButton, BatchWorkerConfig::SingleShot);
-    addField("intervalMilliseconds", m_ui->intervalMillisecondsTextEdit, Field::NoChoice);
+    addSecondsField("intervalMilliseconds", m_ui->intervalMillisecondsTextEdit);
     addField("intervalImages", m_ui->intervalImagesTextEdit, Field::NoChoice);
     addField("intervalSingleShot", m_ui->intervalSingleShotComboBox, Field::NoChoice);
     addField("exactFrames", m_ui->exactFramesCheckBox, Field::NoChoice);
-    addField("skipFront", m_ui->skipFrontTextEdit, Field::NoChoice);
-    addField("skipBack", m_ui->skipBackTextEdit, Field::NoChoice);
+    addSecondsField("skipFront", m_ui->skipFrontTextEdit);
+    addSecondsField("skipBack", m_ui->skipBackTextEdit);
 
     for (Field* const field : qAsConst(m_fields)) {
         field->whenChanged(field->widget(), [this, field] {
@@ -155,6 +171,11 @@ void BatchModeDialog::addField(char const* property, QWidget* widget, int value)
     m_fields.append(new Field(property, widget, value, this));
 }
 
+void BatchModeDialog::addSecondsField(char const* property, QLineEdit* edit)
+{
+    m_fields.append(new SecondsField(property, edit, this));
+}
+
 void BatchModeDialog::loadProfileComboBox(QComboBox* comboBox, ProfileManager* manager)
 {
     const QScopedValueRollback<bool> loading(m_isLoading, true);
@@ -162,7 +183,7 @@ void BatchModeDialog::loadProfileComboBox(QComboBox* comboBox, ProfileManager* m
     comboBox->addItem(noChoice(), noChoice());
     const QList<BaseProfile*> profiles = manager->profiles();
     for (const BaseProfile* const profile : profiles) {
-        comboBox->addItem(profile->name(), profile->id());
+        comboBox->addItem(profile->shownName(), profile->id());
     }
     setupComboBox(comboBox);
 }
@@ -213,6 +234,7 @@ void BatchModeDialog::updateFieldsEnabled()
     const bool hasRows = m_model->rowCount() > 0;
     const bool hasSelection = m_ui->filesTableView->selectionModel()->hasSelection();
     m_emptyListHint->setVisible(!hasRows && !isLoading());
+    m_ui->filesTableView->horizontalHeader()->setVisible(hasRows);
     m_ui->startButton->setEnabled(hasRows && !isLoading());
     m_ui->startButton->setToolTip(
         isLoading() ? tr("The batch can start when all videos have been read") : QString());
@@ -266,10 +288,14 @@ bool BatchModeDialog::isSensible(const QLineEdit& edit) const
     if (&edit == m_ui->fileOutputFolderTextEdit) {
         return true;
     }
+    if (&edit == m_ui->intervalImagesTextEdit) {
+        bool isNumber = false;
+        const int number = edit.text().toInt(&isNumber);
+        return isNumber && number >= 1;
+    }
     const bool mayBeZero = &edit == m_ui->skipFrontTextEdit || &edit == m_ui->skipBackTextEdit;
-    bool isNumber = false;
-    const int number = edit.text().toInt(&isNumber);
-    return isNumber && number >= (mayBeZero ? 0 : 1);
+    const std::optional<qint64> time = millisecondsOf(edit.text());
+    return time && *time >= (mayBeZero ? 0 : 1) && *time <= std::numeric_limits<int>::max();
 }
 
 /// What was typed meant this kind of interval.

@@ -123,8 +123,9 @@ private:
     void setupPropertyFields();
     void arrangeButtons();
     void alignCaptions();
-    void growWithFont();
+    void wrapButtonsOnNarrowScreens();
     void addField(char const* property, QWidget* widget, int value);
+    void addSecondsField(char const* property, QLineEdit* edit);
     void loadProfileComboBox(QComboBox* comboBox, ProfileManager* manager);
     void setupComboBox(QComboBox* comboBox);
     bool isSensible(const QLineEdit& edit) const;

@@ -44,12 +44,8 @@ QStringList localFiles(const QMimeData& data)
 void BatchModeDialog::setupLoading()
 {
     QWidget& widget = *m_ui->loadingWidget;
-    // Its place also keeps the buttons beside it apart.
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
     widget.hide();
-    m_ui->loadingProgressBar->setFixedWidth(progressBarWidth * fontMetrics().averageCharWidth());
+    m_ui->loadingProgressBar->setMinimumWidth(progressBarWidth * fontMetrics().averageCharWidth());
     m_loadingDelay.setSingleShot(true);
     m_loadingDelay.setInterval(longestUnseenLoading);
     connect(&m_loadingDelay, &QTimer::timeout, &widget, &QWidget::show);

@@ -116,10 +116,11 @@ bool BatchModeDialog::isNumberWanted(const QList<BatchWorkerConfig*>& jobs)
 {
     const qint64 images = sumOf(jobs).images;
     return images <= manyImages ||
-           QMessageBox::question(
-               this, tr("Many Images"),
-               tr("This makes about %1 images. Start?").arg(QLocale().toString(images)),
-               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+           QMessageBox::question(this, tr("Many Images"),
+                                 tr("This batch will make about %1 images. Start it?")
+                                     .arg(QLocale().toString(images)),
+                                 QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
 }
 
 /// Empty where all of the job is to be done again.

@@ -107,9 +107,10 @@ bool BatchProcessingDialog::confirmAbort()
 
 bool BatchProcessingDialog::askForRoom(const WriteFailure& failure)
 {
-    QMessageBox box(QMessageBox::Warning, tr("No Room for the Images"), failure.text(),
+    QMessageBox box(QMessageBox::Warning, tr("Images Cannot Be Saved"), failure.text(),
                     QMessageBox::NoButton, this);
-    box.setInformativeText(tr("Make room and try again, or stop. What was saved stays."));
+    box.setInformativeText(
+        tr("Free some space and try again, or stop. Images that are saved already are kept."));
     const QPushButton* const retry = box.addButton(tr("Try Again"), QMessageBox::AcceptRole);
     box.addButton(tr("Stop"), QMessageBox::RejectRole);
     box.exec();

@@ -46,7 +46,7 @@ void MergedField::show(Field& field, const Value& value)
         label->setText(value.isMultiple ? placeholder : value.value.toString());
     } else if (auto* const edit = qobject_cast<QLineEdit*>(widget)) {
         edit->setPlaceholderText(placeholder);
-        edit->setText(value.value.toString());
+        field.setValue(value.value);
     } else if (auto* const comboBox = qobject_cast<QComboBox*>(widget)) {
         comboBox->setItemText(0, value.isMultiple ? placeholder : nothingChosen());
         if (value.isMultiple) {

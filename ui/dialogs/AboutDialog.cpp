@@ -4,6 +4,7 @@
 #include "ui_AboutDialog.h"
 
 #include <QPixmap>
+#include <QPushButton>
 
 namespace {
 
@@ -23,12 +24,27 @@ AboutDialog::AboutDialog(QWidget* parent)
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 
+    enlargeHeading();
     fillLinks();
+    m_ui->buttonBox->button(QDialogButtonBox::Close)->setDefault(true);
+    m_ui->buttonBox->button(QDialogButtonBox::Close)->setFocus();
     m_ui->versionLabel->setText(tr("Version: ") + ProductInfo::version());
     m_ui->iconLabel->setPixmap(QPixmap(QStringLiteral(":/Images/MVIcon1024.png")));
 }
 
 AboutDialog::~AboutDialog() = default;
+
+/// By as much as suits the system's letters, whatever their size.
+void AboutDialog::enlargeHeading()
+{
+    constexpr double factor = 1.4;
+    constexpr int leastLetters = 24;
+    QFont font = m_ui->headingLabel->font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(true);
+    m_ui->headingLabel->setFont(font);
+    m_ui->headingLabel->setMinimumWidth(leastLetters * QFontMetrics(font).averageCharWidth());
+}
 
 void AboutDialog::fillLinks()
 {

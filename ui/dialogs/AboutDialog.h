@@ -19,6 +19,7 @@ public:
     ~AboutDialog() override;
 
 private:
+    void enlargeHeading();
     void fillLinks();
 
     std::unique_ptr<Ui::AboutDialog> m_ui;

@@ -3,6 +3,7 @@
 #include "imaging/ImageFormats.h"
 #include "profiles/FileNameProfile.h"
 #include "profiles/ProfileManager.h"
+#include "ui/widgets/DialogSize.h"
 #include "ui/widgets/EqualWidths.h"
 #include "ui/widgets/Field.h"
 #include "ui/widgets/GroupBoxMargins.h"
@@ -10,6 +11,12 @@
 
 #include <QFileInfo>
 #include <QFormLayout>
+
+namespace {
+
+constexpr QSize openLetters{72, 22};
+
+} // namespace
 
 FileNameProfileDialog::FileNameProfileDialog(QWidget* parent)
     : QDialog(parent)
@@ -34,6 +41,7 @@ FileNameProfileDialog::FileNameProfileDialog(QWidget* parent)
                     m_selectedProfile = nullptr;
             });
     loadProfiles();
+    DialogSize::open(*this, openLetters);
 }
 
 FileNameProfileDialog::~FileNameProfileDialog() = default;

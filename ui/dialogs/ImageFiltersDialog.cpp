@@ -4,6 +4,7 @@
 #include "imaging/Rendering.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "ui/dialogs/SamplePicture.h"
 #include "ui_ImageFiltersDialog.h"
 
 #include <chrono>
@@ -28,7 +29,7 @@ QImage withoutUnusedChannel(const QImage& image)
 ImageFiltersDialog::ImageFiltersDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ImageFiltersDialog>())
-    , m_frame(withoutUnusedChannel(QImage(QStringLiteral(":/Images/watermarkBackground.jpg"))))
+    , m_frame(SamplePicture::image())
 {
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -75,7 +76,7 @@ void ImageFiltersDialog::setProfile(ImageProfile* profile)
     m_ui->applyButton->setEnabled(profile != nullptr);
     if (profile != nullptr) {
         m_ui->applyButton->setToolTip(tr("Put these values into the image profile \u201c%1\u201d")
-                                          .arg(profile->name().toHtmlEscaped()));
+                                          .arg(profile->shownName().toHtmlEscaped()));
         m_ui->brightnessSlider->setValue(NeutralPosition + profile->imageBrightness());
         m_ui->contrastSlider->setValue(NeutralPosition + profile->imageContrast());
         m_ui->filterComboBox->setCurrentIndex(

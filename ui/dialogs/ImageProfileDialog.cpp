@@ -1,12 +1,19 @@
 #include "ui/dialogs/ImageProfileDialog.h"
 
+#include "imaging/ImageRecipe.h"
+#include "imaging/Rendering.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
+#include "ui/dialogs/SamplePicture.h"
 #include "ui/dialogs/WatermarkProfileDialog.h"
+#include "ui/widgets/DialogSize.h"
+#include "ui/widgets/EqualWidths.h"
 #include "ui/widgets/Field.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui_ImageProfileDialog.h"
+
+#include <QShowEvent>
 
 #include <chrono>
 
@@ -16,6 +23,9 @@ namespace {
 
 constexpr auto UpdateDelay = 50ms;
 
+/// Room for a preview that shows something.
+constexpr QSize openLetters{140, 38};
+
 constexpr int MinAdjustment = -100;
 constexpr int MaxAdjustment = 100;
 
@@ -24,12 +34,14 @@ constexpr int MaxAdjustment = 100;
 ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ImageProfileDialog>())
+    , m_exampleImage(SamplePicture::image())
 {
     m_ui->setupUi(this);
     m_updateTimer.setSingleShot(true);
     GroupBoxMargins::apply(*this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setupButtons();
+    alignCaptions();
 
     connect(m_ui->profileSelector, &ProfileSelector::profileNameTextChanged, this,
             &ImageProfileDialog::profileNameTextChanged);
@@ -42,6 +54,7 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
     setupProfileSelector();
     connect(&m_updateTimer, &QTimer::timeout, this, &ImageProfileDialog::updateImageTimerFired);
+    DialogSize::open(*this, openLetters);
 }
 
 ImageProfileDialog::~ImageProfileDialog() = default;
@@ -61,7 +74,18 @@ void ImageProfileDialog::setVideoDimensions(int width, int height)
 
 void ImageProfileDialog::setExampleImage(const QImage& image)
 {
-    m_exampleImage = image;
+    m_exampleImage = image.isNull() ? SamplePicture::image() : image;
+    m_beforeSize.clear();
+}
+
+void ImageProfileDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        ImageProfile entered(nullptr);
+        m_ui->profileSelector->loadFormIntoProfile(&entered);
+        showComparison(entered);
+    }
 }
 
 void ImageProfileDialog::updateImage()
@@ -81,11 +105,29 @@ void ImageProfileDialog::fieldChanged(Field* /*field*/)
 
 void ImageProfileDialog::updateImageTimerFired()
 {
-    if (!m_preview)
-        return;
     ImageProfile profile(nullptr);
     m_ui->profileSelector->loadFormIntoProfile(&profile);
-    m_preview(&profile);
+    if (isVisible())
+        showComparison(profile);
+    if (m_preview)
+        m_preview(&profile);
+}
+
+/// Both pictures have the size of the output, so that the watermark has its true proportion.
+void ImageProfileDialog::showComparison(const ImageProfile& entered)
+{
+    const QVariantList size{entered.sameSizeAsVideo(), entered.imageWidth(), entered.imageHeight(),
+                            entered.maintainAspectRatio()};
+    if (m_beforeSize != size) {
+        ImageRecipe plain;
+        plain.keepsSize = entered.sameSizeAsVideo();
+        plain.bounds = QSize(entered.imageWidth(), entered.imageHeight());
+        plain.keepsAspectRatio = entered.maintainAspectRatio();
+        m_before = imaging::render(m_exampleImage, plain).image;
+        m_beforeSize = size;
+    }
+    m_ui->comparisonView->setPictures(m_before,
+                                      imaging::render(m_exampleImage, recipes::of(entered)).image);
 }
 
 void ImageProfileDialog::on_sameSizeAsVideoCheckbox_toggled(bool checked)
@@ -155,13 +197,21 @@ void ImageProfileDialog::setupButtons()
     m_ui->buttonBox->addButton(m_ui->cancelButton, QDialogButtonBox::RejectRole);
 }
 
+/// The sections stand one above the other and read as one form.
+void ImageProfileDialog::alignCaptions()
+{
+    EqualWidths::apply({m_ui->imageWidthLabel, m_ui->imageHeightLabel, m_ui->resizeFilterLabel,
+                        m_ui->brightnessLabel, m_ui->contrastLabel, m_ui->deinterlacingLabel,
+                        m_ui->hdrLabel, m_ui->jpegQualityLabel, m_ui->metadataLabel});
+}
+
 void ImageProfileDialog::setupWatermarkProfileComboBox()
 {
     m_ui->watermarkProfileComboBox->clear();
     m_ui->watermarkProfileComboBox->addItem(QStringLiteral("[No Watermark]"), QString());
     const QList<BaseProfile*> profiles = WatermarkProfile::profileManager()->profiles();
     for (const BaseProfile* const profile : profiles)
-        m_ui->watermarkProfileComboBox->addItem(profile->name(), profile->id());
+        m_ui->watermarkProfileComboBox->addItem(profile->shownName(), profile->id());
 }
 
 void ImageProfileDialog::setupResizeFilterComboBox()

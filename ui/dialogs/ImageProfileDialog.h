@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QImage>
 #include <QTimer>
+#include <QVariantList>
 
 #include <functional>
 #include <memory>
@@ -20,7 +21,8 @@ class ImageProfileDialog;
 
 /// Edits image profiles: size, corrections, JPEG quality, metadata and the watermark.
 ///
-/// Every edit is handed to the preview, a moment after the last one. The caller sets up the dialog,
+/// Shows an example frame before and after, and hands every edit to the preview as well, a moment
+/// after the last one. The caller sets up the dialog,
 /// runs it and asks for selectedProfile(). User-interface thread only.
 class ImageProfileDialog : public QDialog
 {
@@ -41,8 +43,8 @@ public:
     /// profile keeps it; nothing is shown while a side is 0.
     void setVideoDimensions(int width, int height);
 
-    /// The frame on which the watermark dialog shows its preview. It has a picture of its own where
-    /// there is none.
+    /// The frame of which before and after are shown, also in the watermark dialog; a sample
+    /// picture where there is none.
     void setExampleImage(const QImage& image);
 
     /// What shows the picture as a profile makes it. The profile that it is given is not null,
@@ -52,6 +54,9 @@ public:
 
     /// Has the preview updated in a moment; every call puts it off again.
     void updateImage();
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private Q_SLOTS:
     void profileNameTextChanged(const QString& name);
@@ -65,6 +70,8 @@ private Q_SLOTS:
 
 private:
     void setupButtons();
+    void alignCaptions();
+    void showComparison(const ImageProfile& entered);
     void setupWatermarkProfileComboBox();
     void setupResizeFilterComboBox();
     void setupMetadataComboBox();
@@ -85,6 +92,9 @@ private:
     QLineEdit* m_videoWidthDisplay = nullptr;
     QLineEdit* m_videoHeightDisplay = nullptr;
     QImage m_exampleImage;
+    /// The example in the size that the profile asks for, and what that followed from.
+    QImage m_before;
+    QVariantList m_beforeSize;
     Preview m_preview;
     QTimer m_updateTimer;
 };

@@ -3,7 +3,10 @@
 #include "imaging/ImageProcessingManager.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
+#include "ui/dialogs/SamplePicture.h"
 #include "ui/dialogs/WatermarkPicture.h"
+#include "ui/widgets/DialogSize.h"
+#include "ui/widgets/EqualWidths.h"
 #include "ui/widgets/Field.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui/widgets/SmartFileDialog.h"
@@ -22,6 +25,9 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto PreviewDelay = 200ms;
+
+/// Room for a preview that shows something.
+constexpr QSize openLetters{140, 38};
 
 constexpr int TextType = 0;
 constexpr int ImageType = 1;
@@ -49,8 +55,7 @@ void pickColor(ColorLabel& label, QWidget* parent)
 WatermarkProfileDialog::WatermarkProfileDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::WatermarkProfileDialog>())
-    , m_exampleImage(QImage(QStringLiteral(":/Images/watermarkBackground.jpg"))
-                         .convertToFormat(QImage::Format_RGB888)) // opaque, as frames of videos are
+    , m_exampleImage(SamplePicture::image())
 {
     m_ui->setupUi(this);
     GroupBoxMargins::apply(*this);
@@ -60,6 +65,7 @@ WatermarkProfileDialog::WatermarkProfileDialog(QWidget* parent)
     keepPlaceWhenHidden(*m_ui->textFormatGroupBox);
     keepPlaceWhenHidden(*m_ui->textShadowGroupBox);
     setupButtons();
+    setupEffects();
     // Not in the form: a frame that is off disables its children while they are still being made,
     // and to screen readers they would then stay what they were at that moment, plain areas.
     showType();
@@ -69,6 +75,7 @@ WatermarkProfileDialog::WatermarkProfileDialog(QWidget* parent)
             &WatermarkProfileDialog::profileNameTextChanged);
     setupProfileSelector();
 
+    DialogSize::open(*this, openLetters);
     m_previewTimer.setSingleShot(true);
     connect(&m_previewTimer, &QTimer::timeout, this,
             &WatermarkProfileDialog::updateWatermarkTimerFired);
@@ -82,11 +89,12 @@ void WatermarkProfileDialog::setSelectedProfile(WatermarkProfile* profile)
     m_selectedProfile = profile;
 
     const QList<BaseProfile*> profiles = WatermarkProfile::profileManager()->profiles();
-    WatermarkProfile defaults(nullptr);
     BaseProfile* shown = profile;
-    if (!shown)
-        shown = profiles.isEmpty() ? &defaults : profiles.first();
+    if (!shown && !profiles.isEmpty())
+        shown = profiles.first();
     m_ui->profileSelector->loadProfile(shown);
+    if (!shown)
+        m_ui->profileSelector->loadDefaultValues();
 
     // Nothing is reported about a profile that is selected already or not listed.
     showType();
@@ -230,6 +238,25 @@ void WatermarkProfileDialog::setupButtons()
     m_ui->buttonBox->addButton(m_ui->cancelButton, QDialogButtonBox::RejectRole);
 }
 
+void WatermarkProfileDialog::setupEffects()
+{
+    QSlider& slider = *m_ui->alphaSlider;
+    QLabel& value = *m_ui->opacityValueLabel;
+    const auto show = [&slider, &value] {
+        const int percent = qRound(100.0 * slider.value() / slider.maximum());
+        value.setText(tr("%1 %").arg(percent));
+    };
+    slider.setValue(slider.maximum());
+    show();
+    // It shall not move with its digits.
+    value.setMinimumWidth(value.sizeHint().width());
+    connect(&slider, &QSlider::valueChanged, &value, show);
+    EqualWidths::apply({m_ui->textFontButton, m_ui->textColorButton});
+    connect(m_ui->relativeSizeCheckBox, &QCheckBox::toggled, m_ui->relativeWidthSpinBox,
+            &QWidget::setEnabled);
+    m_ui->relativeWidthSpinBox->setEnabled(m_ui->relativeSizeCheckBox->isChecked());
+}
+
 void WatermarkProfileDialog::setupProfileSelector()
 {
     addField("text", m_ui->textTextEdit);
@@ -245,6 +272,9 @@ void WatermarkProfileDialog::setupProfileSelector()
     addChoice("watermarkType", m_ui->watermarkTypeTextRadioButton, TextType);
     addChoice("watermarkType", m_ui->watermarkTypeImageRadioButton, ImageType);
     addField("imageFile", m_ui->imageFileNameLineEdit);
+    addField("textShadow", m_ui->textShadowGroupBox);
+    addField("relativeSize", m_ui->relativeSizeCheckBox);
+    addField("relativeWidth", m_ui->relativeWidthSpinBox);
 
     const ProfileSelector* const selector = m_ui->profileSelector;
     connect(selector, &ProfileSelector::fieldChanged, this, &WatermarkProfileDialog::fieldChanged);

@@ -66,6 +66,7 @@ private Q_SLOTS:
 
 private:
     void setupButtons();
+    void setupEffects();
     void setupProfileSelector();
     void setupAlignmentComboBox();
     void addField(const char* propertyName, QWidget* widget);

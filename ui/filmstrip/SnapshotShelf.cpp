@@ -1,5 +1,6 @@
 #include "ui/filmstrip/SnapshotShelf.h"
 
+#include "profiles/ProfileNames.h"
 #include "ui/filmstrip/SnapshotFolder.h"
 #include "ui/widgets/TimeText.h"
 
@@ -442,12 +443,13 @@ QVariant SnapshotShelf::data(const QModelIndex& index, int role) const
     const QString time = timeText(entry.note.source.positionMs());
     const QString state = entry.note.isSaved ? tr("saved") : tr("not saved");
     const QString video = QFileInfo(entry.note.source.video).fileName();
+    const QString profileName = ProfileNames::shown(entry.note.profileName);
     switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
-        return tr("%1, %2, %3, %4").arg(time, entry.note.profileName, video, state);
+        return tr("%1, %2, %3, %4").arg(time, profileName, video, state);
     case Qt::ToolTipRole:
-        return tr("%1 at %2\n%3, %4").arg(video, time, entry.note.profileName, state);
+        return tr("%1 at %2\n%3, %4").arg(video, time, profileName, state);
     case ThumbnailRole:
         return entry.thumbnail;
     case IdRole:
@@ -455,7 +457,7 @@ QVariant SnapshotShelf::data(const QModelIndex& index, int role) const
     case TimeRole:
         return time;
     case ProfileRole:
-        return entry.note.profileName;
+        return profileName;
     case IsSavedRole:
         return entry.note.isSaved;
     default:

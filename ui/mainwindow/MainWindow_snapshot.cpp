@@ -27,7 +27,7 @@ BaseProfile* fillProfiles(QComboBox& box, const ProfileManager& manager)
     box.clear();
     const QList<BaseProfile*> profiles = manager.profiles();
     for (const BaseProfile* const profile : profiles) {
-        box.addItem(profile->name(), profile->id());
+        box.addItem(profile->shownName(), profile->id());
     }
     BaseProfile* const lastUsed = manager.lastUsedProfile();
     if (lastUsed == nullptr) {
@@ -294,7 +294,7 @@ bool MainWindow::isOutputFolderUsable(const QDir& folder)
     if (folder.isRelative()) {
         QMessageBox::warning(
             this, tr("Unknown Folder"),
-            tr("Please enter a valid output folder in the Automatic FileName section."),
+            tr("Please enter a valid output folder in the Automatic File Name section."),
             QMessageBox::Ok);
         m_ui->outputFolderLineEdit->setFocus();
         return false;

@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QComboBox>
 #include <QFont>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -92,6 +93,8 @@ QVariant Field::value() const
         return spinBox->value();
     if (const auto* const button = qobject_cast<QRadioButton*>(m_widget))
         return button->isChecked() ? m_choiceValue : NoChoice;
+    if (const auto* const groupBox = qobject_cast<QGroupBox*>(m_widget))
+        return groupBox->isChecked();
     return {};
 }
 
@@ -113,6 +116,8 @@ void Field::setValue(const QVariant& value)
         spinBox->setValue(value.toInt());
     else if (auto* const button = qobject_cast<QRadioButton*>(m_widget))
         check(*button, value.isValid() && value.toInt() == m_choiceValue);
+    else if (auto* const groupBox = qobject_cast<QGroupBox*>(m_widget))
+        groupBox->setChecked(value.toBool());
 }
 
 void Field::whenChanged(const QObject* context, const std::function<void()>& handler) const
@@ -131,4 +136,6 @@ void Field::whenChanged(const QObject* context, const std::function<void()>& han
         connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), context, handler);
     else if (const auto* const button = qobject_cast<QRadioButton*>(m_widget))
         connect(button, &QRadioButton::clicked, context, handler);
+    else if (const auto* const groupBox = qobject_cast<QGroupBox*>(m_widget))
+        connect(groupBox, &QGroupBox::toggled, context, handler);
 }

@@ -15,8 +15,8 @@ class QWidget;
 /// stands for.
 ///
 /// Kinds of widgets that can be bound: line edits, text edits, combo boxes (by their items' data),
-/// check boxes, sliders, spin boxes, radio buttons, `ColorLabel` and `FontLabel`; other labels can
-/// be written but not read. User-interface thread only.
+/// check boxes, sliders, spin boxes, radio buttons, group boxes with a check mark, `ColorLabel` and
+/// `FontLabel`; other labels can be written but not read. User-interface thread only.
 class Field : public QObject
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ public:
     /// (`Qt::UserRole`), whether it is fully checked, or a number. A radio button holds the choice
     /// value, or NoChoice while it is not checked. Invalid for widgets of other kinds, for none,
     /// and for a combo box without a current item.
-    QVariant value() const;
+    virtual QVariant value() const;
 
     /// Shows the value in the widget, converted to what the widget takes. A combo box selects the
     /// item whose data is the value as text, in the same letter case, or else no item; a radio
@@ -49,7 +49,7 @@ public:
     /// several is checked for a value that none stands for. An invalid
     /// value shows as an empty text, 0, unchecked or no item. Texts are never taken for mark-up.
     /// Widgets of other kinds stay as they are.
-    void setValue(const QVariant& value);
+    virtual void setValue(const QVariant& value);
 
     /// Calls `handler` whenever what the widget holds changes, through the user or the program; for
     /// radio buttons only when the user clicks them. It ends when `context` is destroyed. Labels

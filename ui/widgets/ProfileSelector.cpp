@@ -16,6 +16,8 @@ ProfileSelector::ProfileSelector(QWidget* parent)
 {
     m_ui->setupUi(this);
     setFocusProxy(m_ui->profileComboBox);
+    // The least size of the combo box is for small letters only.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     QLineEdit* const nameEdit = m_ui->profileComboBox->lineEdit();
     nameEdit->setPlaceholderText(tr("[Type to Name Profile]"));
@@ -53,13 +55,13 @@ void ProfileSelector::addProfile(BaseProfile* profile)
 
     QComboBox& box = *m_ui->profileComboBox;
     if (box.count() > 0) {
-        box.addItem(profile->name());
+        box.addItem(profile->shownName());
         return;
     }
     // A combo box selects its first item by itself.
     const QSignalBlocker noSelection(box);
     const QString typed = box.currentText();
-    box.addItem(profile->name());
+    box.addItem(profile->shownName());
     box.setCurrentIndex(-1);
     box.setEditText(typed);
 }

@@ -50,15 +50,15 @@ bool ProfileSelector::maySave()
     }
     return QMessageBox::question(
                this, tr("Replace Profile"),
-               tr("There is a profile \u201c%1\u201d already. Replace its settings by these?")
-                   .arg(target->name()),
+               tr("A profile \u201c%1\u201d exists already. Replace its settings with these?")
+                   .arg(target->shownName()),
                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 bool ProfileSelector::isNameTaken(const QString& name, const BaseProfile* exceptFor) const
 {
     return std::any_of(m_profiles.cbegin(), m_profiles.cend(), [&](const BaseProfile* profile) {
-        return profile != exceptFor && profile->name().compare(name, Qt::CaseInsensitive) == 0;
+        return profile != exceptFor && profile->shownName().compare(name, Qt::CaseInsensitive) == 0;
     });
 }
 
@@ -70,14 +70,14 @@ void ProfileSelector::renameProfile()
     }
     bool isAccepted = false;
     const QString name = QInputDialog::getText(this, tr("Rename Profile"), tr("New name:"),
-                                               QLineEdit::Normal, profile->name(), &isAccepted)
+                                               QLineEdit::Normal, profile->shownName(), &isAccepted)
                              .trimmed();
-    if (!isAccepted || name.isEmpty()) {
+    if (!isAccepted || name.isEmpty() || name == profile->shownName()) {
         return;
     }
     if (isNameTaken(name, profile)) {
         QMessageBox::warning(this, tr("Rename Profile"),
-                             tr("There is a profile \u201c%1\u201d already.").arg(name));
+                             tr("A profile \u201c%1\u201d exists already.").arg(name));
         return;
     }
     profile->setName(name);
@@ -96,9 +96,9 @@ void ProfileSelector::duplicateProfile()
     BaseProfile* const copy = m_profileManager->createProfile();
     copy->takeValuesOf(*profile);
     loadFormIntoProfile(copy);
-    QString name = tr("%1 copy").arg(profile->name());
+    QString name = tr("%1 copy").arg(profile->shownName());
     for (int number = 2; isNameTaken(name, nullptr); ++number) {
-        name = tr("%1 copy %2").arg(profile->name(), QString::number(number));
+        name = tr("%1 copy %2").arg(profile->shownName(), QString::number(number));
     }
     copy->setName(name);
     m_profileManager->addProfile(copy);
@@ -112,7 +112,7 @@ void ProfileSelector::deleteProfile()
     BaseProfile* const profile = selectedProfile();
     if (profile == nullptr || m_profiles.size() < 2 ||
         QMessageBox::question(this, tr("Delete Profile"),
-                              tr("Delete the profile \u201c%1\u201d?").arg(profile->name()),
+                              tr("Delete the profile \u201c%1\u201d?").arg(profile->shownName()),
                               QMessageBox::Yes | QMessageBox::No,
                               QMessageBox::No) != QMessageBox::Yes) {
         return;

@@ -122,10 +122,10 @@ void BatchModeDialogLoadingTest::listedVideos_canBeEdited_whileOthersAreRead()
     QTRY_COMPARE_WITH_TIMEOUT(mode.model().rowCount(), 2, 30000);
     QCOMPARE(mode.selectedRows(), QList<int>());
     mode.select({0});
-    mode.enter("skipFrontTextEdit", QStringLiteral("77"));
+    mode.enter("skipFrontTextEdit", QStringLiteral("0.077"));
     mode.click("stopLoadingButton");
     QCOMPARE(mode.selectedRows(), QList<int>{0});
-    QCOMPARE(mode.text("skipFrontTextEdit"), QStringLiteral("77"));
+    QCOMPARE(mode.text("skipFrontTextEdit"), QStringLiteral("0.077"));
     QCOMPARE(mode.job(0).skipFront(), 77);
     QCOMPARE(mode.job(1).skipFront(), 2000);
 }
@@ -240,8 +240,8 @@ void BatchModeDialogLoadingTest::stretch_becomesTheSkips_ofTheJobOfTheVideo()
     QCOMPARE(mode.job(0).skipFront(), 2000);
     QCOMPARE(mode.job(1).skipFront(), 400);
     QCOMPARE(mode.job(1).skipBack(), 1200);
-    QCOMPARE(mode.text("skipFrontTextEdit"), QStringLiteral("400"));
-    QCOMPARE(mode.text("skipBackTextEdit"), QStringLiteral("1200"));
+    QCOMPARE(mode.text("skipFrontTextEdit"), QStringLiteral("0.4"));
+    QCOMPARE(mode.text("skipBackTextEdit"), QStringLiteral("1.2"));
 }
 
 void BatchModeDialogLoadingTest::stretch_isThatOfANewJob_whereTheVideoHasNone()

@@ -54,8 +54,7 @@ void BatchModeDialogNumbersTest::typedInterval_choosesItsKind_data()
     QTest::addColumn<QByteArray>("edit");
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("display");
-    QTest::newRow("milliseconds") << QByteArray("intervalMillisecondsTextEdit") << 0
-                                  << "Every 250ms";
+    QTest::newRow("seconds") << QByteArray("intervalMillisecondsTextEdit") << 0 << "Every 250 s";
     QTest::newRow("images") << QByteArray("intervalImagesTextEdit") << 1 << "250 images";
 }
 
@@ -83,9 +82,9 @@ void BatchModeDialogNumbersTest::typedInterval_goesIntoJobsThatDiffered()
     mode.job(1).setIntervalType(BatchWorkerConfig::SpreadImages);
     mode.select({0, 1});
     QCOMPARE(mode.placeholder("intervalMillisecondsTextEdit"), multiple());
-    mode.type("intervalMillisecondsTextEdit", QStringLiteral("40"));
+    mode.type("intervalMillisecondsTextEdit", QStringLiteral("0.04"));
     QVERIFY(mode.isChecked("intervalMillisecondsRadioButton"));
-    QCOMPARE(mode.text("intervalMillisecondsTextEdit"), QStringLiteral("40"));
+    QCOMPARE(mode.text("intervalMillisecondsTextEdit"), QStringLiteral("0.04"));
     for (const int row : {0, 1}) {
         QCOMPARE(mode.job(row).intervalType(), 0);
         QCOMPARE(mode.job(row).intervalMilliseconds(), 40);
@@ -102,7 +101,9 @@ void BatchModeDialogNumbersTest::invalidNumber_isTakenBack_data()
             QTest::addRow("%s %s", edit, typed) << QByteArray(edit) << QString::fromLatin1(typed);
         }
     }
-    QTest::newRow("no milliseconds") << QByteArray("intervalMillisecondsTextEdit") << "0";
+    QTest::newRow("no seconds") << QByteArray("intervalMillisecondsTextEdit") << "0";
+    QTest::newRow("less than there is") << QByteArray("intervalMillisecondsTextEdit") << "0.0004";
+    QTest::newRow("two points") << QByteArray("skipFrontTextEdit") << "1.2.3";
     QTest::newRow("no images") << QByteArray("intervalImagesTextEdit") << "0";
 }
 

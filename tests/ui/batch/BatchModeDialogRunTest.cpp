@@ -78,9 +78,9 @@ void BatchModeDialogRunTest::images_areEstimated_inTheListAndInSum()
     ModeDialog mode;
     QCOMPARE(mode.labelText("imageSumLabel"), QString());
     mode.load({samplePath(clip)});
-    mode.enter("skipFrontTextEdit", QStringLiteral("500"));
-    mode.enter("skipBackTextEdit", QStringLiteral("500"));
-    mode.enter("intervalMillisecondsTextEdit", QStringLiteral("1000"));
+    mode.enter("skipFrontTextEdit", QStringLiteral("0.5"));
+    mode.enter("skipBackTextEdit", QStringLiteral("0.5"));
+    mode.enter("intervalMillisecondsTextEdit", QStringLiteral("1"));
     QCOMPARE(cell(mode, 0, 4), QStringLiteral("3"));
     QCOMPARE(mode.labelText("imageSumLabel"), QStringLiteral("About 3 images of 1 video"));
     mode.load(1);
@@ -246,7 +246,7 @@ void BatchModeDialogRunTest::editedJob_isNoDefault_untilItIsSaidSo()
     ModeDialog mode;
     mode.load(3);
     mode.select({0, 1});
-    mode.enter("skipFrontTextEdit", QStringLiteral("123"));
+    mode.enter("skipFrontTextEdit", QStringLiteral("0.123"));
     mode.click("intervalSingleShotRadioButton");
     mode.choose("imageProfileComboBox", 2);
     mode.load(1);
@@ -272,7 +272,7 @@ void BatchModeDialogRunTest::list_comesBack_alsoWhatWasNotRead()
     mode.load({samplePath(clip)});
     mode.load(2);
     mode.select({1});
-    mode.enter("skipFrontTextEdit", QStringLiteral("123"));
+    mode.enter("skipFrontTextEdit", QStringLiteral("0.123"));
     mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(QStringLiteral("/some/where"));
     mode.choose("imageProfileComboBox", 2);
     const QString unread = samplePath(QStringLiteral("mpeg4.mp4"));

@@ -71,10 +71,10 @@ void BatchModeDialogTest::form_isReadyForVideos()
                                    "fileOutputGroupBox", "intervalGroupBox", "skipGroupBox"}) {
         titles.append(mode.find<QGroupBox>(name).title());
     }
-    QCOMPARE(titles, (QStringList{QStringLiteral("Files"), QStringLiteral("Selected Video File"),
-                                  QStringLiteral("Image Settings"), QStringLiteral("File Output"),
-                                  QStringLiteral("Snapshot Interval"),
-                                  QStringLiteral("Skip Milliseconds")}));
+    QCOMPARE(titles,
+             (QStringList{QStringLiteral("Files"), QStringLiteral("Selected Video File"),
+                          QStringLiteral("Image Settings"), QStringLiteral("File Output"),
+                          QStringLiteral("Snapshot Interval"), QStringLiteral("Skip Seconds")}));
     QStringList buttons;
     for (const char* const name :
          {"loadVideoButton", "removeVideoButton", "selectAllVideoButton", "imageProfileEditButton",
@@ -84,8 +84,8 @@ void BatchModeDialogTest::form_isReadyForVideos()
         buttons.append(mode.find<QAbstractButton>(name).text());
     }
     QCOMPARE(buttons.join(QLatin1Char('|')),
-             QStringLiteral("Load Video|Remove|Select All|Edit|Edit|Select|Make|Every|"
-                            "Single shot at|Start|Cancel"));
+             QStringLiteral("Load Video|Remove|Select All|Edit|Edit|Choose Folder|Make|"
+                            "Every|Single shot at|Start|Cancel"));
 }
 
 void BatchModeDialogTest::fields_bindTheJobsProperties()
@@ -197,9 +197,9 @@ void BatchModeDialogTest::selection_fillsTheForm()
     QVERIFY(mode.isChecked("intervalSingleShotRadioButton"));
     QCOMPARE(mode.comboText("intervalSingleShotComboBox"), QStringLiteral("back"));
     QCOMPARE(mode.text("intervalImagesTextEdit"), number(7));
-    QCOMPARE(mode.text("intervalMillisecondsTextEdit"), number(5000));
-    QCOMPARE(mode.text("skipFrontTextEdit"), number(5000000000));
-    QCOMPARE(mode.text("skipBackTextEdit"), number(2000));
+    QCOMPARE(mode.text("intervalMillisecondsTextEdit"), number(5));
+    QCOMPARE(mode.text("skipFrontTextEdit"), number(5000000));
+    QCOMPARE(mode.text("skipBackTextEdit"), number(2));
     mode.select({});
     QCOMPARE(mode.labelText("selectedVideoFileNameLabel"), QStringLiteral("[No Video Selected]"));
     QCOMPARE(mode.enabledOnes(), QStringList());
@@ -231,7 +231,7 @@ void BatchModeDialogTest::differences_areShownAsMultiple()
         QCOMPARE(mode.text(edit), QString());
         QCOMPARE(mode.placeholder(edit), multiple());
     }
-    QCOMPARE(mode.text("skipFrontTextEdit"), number(2000));
+    QCOMPARE(mode.text("skipFrontTextEdit"), number(2));
     QCOMPARE(mode.placeholder("skipFrontTextEdit"), QString());
     QCOMPARE(mode.find<QComboBox>("intervalSingleShotComboBox").currentIndex(), 0);
     QCOMPARE(mode.comboText("intervalSingleShotComboBox"), multiple());
@@ -291,7 +291,7 @@ void BatchModeDialogTest::edits_goIntoAllSelectedJobs()
     ModeDialog mode;
     mode.load(3);
     mode.select({0, 2});
-    mode.type("skipFrontTextEdit", QStringLiteral("17"));
+    mode.type("skipFrontTextEdit", QStringLiteral("0.017"));
     mode.type("fileOutputFolderTextEdit", QStringLiteral("/tmp"));
     mode.choose("intervalSingleShotComboBox", 3);
     for (const int row : {0, 2}) {
@@ -311,7 +311,7 @@ void BatchModeDialogTest::edits_replaceWhatDiffered()
     mode.load(2);
     mode.job(0).setSkipBack(1);
     mode.select({0, 1});
-    mode.type("skipBackTextEdit", QStringLiteral("3"));
+    mode.type("skipBackTextEdit", QStringLiteral("0,003"));
     QCOMPARE(mode.placeholder("skipBackTextEdit"), QString());
     QCOMPARE(mode.job(0).skipBack(), 3);
     QCOMPARE(mode.job(1).skipBack(), 3);
@@ -394,7 +394,7 @@ void BatchModeDialogTest::manyJobs_areFilledInOnce_whenSelected()
     const QSignalSpy changes(&mode.model(), &BatchModeListModel::dataChanged);
     mode.type("skipFrontTextEdit", QStringLiteral("7"));
     QCOMPARE(changes.size(), 500);
-    QCOMPARE(mode.job(499).skipFront(), 7);
+    QCOMPARE(mode.job(499).skipFront(), 7000);
     selections.clear();
     mode.click("removeVideoButton");
     QCOMPARE(selections.size(), 1);

@@ -1,64 +1,36 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/WatermarkProfile.h"
 #include "tests/ui/dialogs/support/DialogDriving.h"
+#include "tests/ui/dialogs/support/DialogFit.h"
 #include "tests/ui/dialogs/support/TestProfiles.h"
+#include "ui/dialogs/AboutDialog.h"
+#include "ui/dialogs/FileNameProfileDialog.h"
+#include "ui/dialogs/ImageFiltersDialog.h"
 #include "ui/dialogs/ImageProfileDialog.h"
 #include "ui/dialogs/WatermarkProfileDialog.h"
 
 #include <QAbstractButton>
-#include <QAbstractSpinBox>
-#include <QApplication>
-#include <QComboBox>
-#include <QFile>
-#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 
 #include <algorithm>
+#include <memory>
+#include <vector>
 
 using testsupport::child;
+using testsupport::misfits;
+using testsupport::ProgramLook;
 using testsupport::TestProfiles;
 
 namespace {
-
-/// A small screen less a title bar.
-constexpr QSize SmallScreen{1024, 728};
-
-/// From the top of the highest letter to the bottom of the lowest, in the widget's font: less than
-/// a line, which has empty rows above and below.
-int glyphHeight(const QWidget& widget)
-{
-    return widget.fontMetrics().tightBoundingRect(QStringLiteral("Ågq|")).height();
-}
-
-/// What cannot show its whole text in the room that it has.
-QStringList cutOff(const QDialog& dialog)
-{
-    QStringList found;
-    const auto widgets = dialog.findChildren<QWidget*>();
-    for (const QWidget* const widget : widgets) {
-        if (!widget->isVisible())
-            continue;
-        const auto* const label = qobject_cast<const QLabel*>(widget);
-        const bool isText = (label && !label->wordWrap() && !label->text().isEmpty()) ||
-                            qobject_cast<const QAbstractButton*>(widget);
-        const bool isField = qobject_cast<const QAbstractSpinBox*>(widget) ||
-                             qobject_cast<const QComboBox*>(widget) ||
-                             qobject_cast<const QLineEdit*>(widget);
-        const bool tooNarrow = isText && widget->width() < widget->sizeHint().width();
-        const bool tooLow = (isText || isField) && widget->height() < glyphHeight(*widget);
-        if (tooNarrow || tooLow)
-            found += widget->objectName();
-    }
-    return found;
-}
 
 void addFontSizes()
 {
     QTest::addColumn<double>("factor");
     QTest::newRow("normal font") << 1.0;
-    QTest::newRow("large font") << 1.5;
+    QTest::newRow("large font") << testsupport::largeFont;
 }
 
 } // namespace
@@ -69,39 +41,56 @@ class DialogLayoutTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
+    void everyDialog_hasOneDefaultButton_andEndsByEscape();
+    void smallDialogs_fitASmallScreen_data();
+    void smallDialogs_fitASmallScreen();
     void watermarkDialog_showsEverything_atItsLeastSize_data();
     void watermarkDialog_showsEverything_atItsLeastSize();
     void watermarkDialog_keepsItsSize_whateverTheType();
     void imageProfileDialog_showsEverything_atItsLeastSize_data();
     void imageProfileDialog_showsEverything_atItsLeastSize();
     void imageProfileDialog_keepsItsSize_withTheVideosSize();
-
-private:
-    void enlargeFont(double factor);
-
-    QFont m_font;
 };
 
-void DialogLayoutTest::initTestCase()
+void DialogLayoutTest::everyDialog_hasOneDefaultButton_andEndsByEscape()
 {
-    QFile style(QStringLiteral(":/Styles.qss"));
-    QVERIFY(style.open(QIODevice::ReadOnly));
-    qApp->setStyleSheet(QString::fromLatin1(style.readAll()));
-    m_font = QApplication::font();
+    const TestProfiles profiles;
+    std::vector<std::unique_ptr<QDialog>> dialogs;
+    dialogs.push_back(std::make_unique<AboutDialog>(nullptr));
+    dialogs.push_back(std::make_unique<FileNameProfileDialog>(nullptr));
+    dialogs.push_back(std::make_unique<ImageFiltersDialog>(nullptr));
+    dialogs.push_back(std::make_unique<ImageProfileDialog>(nullptr));
+    dialogs.push_back(std::make_unique<WatermarkProfileDialog>(nullptr));
+    for (const auto& dialog : dialogs) {
+        const char* const name = dialog->metaObject()->className();
+        QVERIFY2(testsupport::showActive(*dialog), name);
+        const auto buttons = dialog->findChildren<QPushButton*>();
+        const auto defaults =
+            std::count_if(buttons.cbegin(), buttons.cend(),
+                          [](const QPushButton* button) { return button->isDefault(); });
+        QVERIFY2(defaults == 1, name);
+        QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        QVERIFY2(!dialog->isVisible(), name);
+        QCOMPARE(dialog->result(), int(QDialog::Rejected));
+    }
 }
 
-void DialogLayoutTest::cleanup()
+void DialogLayoutTest::smallDialogs_fitASmallScreen_data()
 {
-    QApplication::setFont(m_font);
+    addFontSizes();
 }
 
-void DialogLayoutTest::enlargeFont(double factor)
+void DialogLayoutTest::smallDialogs_fitASmallScreen()
 {
-    QFont font = m_font;
-    font.setPointSizeF(m_font.pointSizeF() * factor);
-    QApplication::setFont(font);
+    QFETCH(double, factor);
+    const ProgramLook look(factor);
+    const TestProfiles profiles;
+    AboutDialog about(nullptr);
+    QCOMPARE(misfits(about), QString());
+    FileNameProfileDialog names(nullptr);
+    QCOMPARE(misfits(names), QString());
+    ImageFiltersDialog filters(nullptr);
+    QCOMPARE(misfits(filters), QString());
 }
 
 void DialogLayoutTest::watermarkDialog_showsEverything_atItsLeastSize_data()
@@ -112,32 +101,27 @@ void DialogLayoutTest::watermarkDialog_showsEverything_atItsLeastSize_data()
 void DialogLayoutTest::watermarkDialog_showsEverything_atItsLeastSize()
 {
     QFETCH(double, factor);
-    enlargeFont(factor);
+    const ProgramLook look(factor);
     const TestProfiles profiles;
     auto& profile = profiles.add<WatermarkProfile>(QStringLiteral("mine"));
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
-    QVERIFY(testsupport::showActive(dialog));
-    const QSize least = dialog.minimumSizeHint();
-    QVERIFY(least.width() <= SmallScreen.width());
-    QVERIFY(least.height() <= SmallScreen.height());
-    dialog.resize(least);
     for (const int tab : {0, 1}) {
         child<QTabWidget>(dialog, "tabWidget").setCurrentIndex(tab);
-        QCoreApplication::processEvents();
-        QCOMPARE(dialog.size(), least);
-        QCOMPARE(cutOff(dialog), QStringList());
+        QCOMPARE(misfits(dialog), QString());
     }
 }
 
 void DialogLayoutTest::watermarkDialog_keepsItsSize_whateverTheType()
 {
+    const ProgramLook look(1.0);
     const TestProfiles profiles;
     auto& profile = profiles.add<WatermarkProfile>(QStringLiteral("mine"));
     profile.setImageFile(QStringLiteral("some.png"));
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
     QVERIFY(testsupport::showActive(dialog));
+    QCoreApplication::processEvents();
     const QSize least = dialog.minimumSizeHint();
     const QRect tabs = child<QTabWidget>(dialog, "tabWidget").geometry();
     child<QAbstractButton>(dialog, "watermarkTypeImageRadioButton").click();
@@ -154,28 +138,24 @@ void DialogLayoutTest::imageProfileDialog_showsEverything_atItsLeastSize_data()
 void DialogLayoutTest::imageProfileDialog_showsEverything_atItsLeastSize()
 {
     QFETCH(double, factor);
-    enlargeFont(factor);
+    const ProgramLook look(factor);
     const TestProfiles profiles;
     auto& profile = profiles.add<ImageProfile>(QStringLiteral("mine"));
     ImageProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
-    QVERIFY(testsupport::showActive(dialog));
-    const QSize least = dialog.minimumSizeHint();
-    QVERIFY(least.width() <= SmallScreen.width());
-    QVERIFY(least.height() <= SmallScreen.height());
-    dialog.resize(least);
-    QCoreApplication::processEvents();
-    QCOMPARE(cutOff(dialog), QStringList());
+    QCOMPARE(misfits(dialog), QString());
 }
 
 void DialogLayoutTest::imageProfileDialog_keepsItsSize_withTheVideosSize()
 {
+    const ProgramLook look(1.0);
     const TestProfiles profiles;
     auto& profile = profiles.add<ImageProfile>(QStringLiteral("mine"));
     ImageProfileDialog dialog(nullptr);
     dialog.setVideoDimensions(1920, 1080);
     dialog.setSelectedProfile(&profile);
     QVERIFY(testsupport::showActive(dialog));
+    QCoreApplication::processEvents();
     const QSize least = dialog.minimumSizeHint();
     const QRect editor = child<QLineEdit>(dialog, "imageWidthLineEdit").geometry();
     child<QAbstractButton>(dialog, "sameSizeAsVideoCheckbox").click();

@@ -67,16 +67,16 @@ void FileNameProfileDialogTest::init()
 void FileNameProfileDialogTest::form_hasItsTexts()
 {
     NameDialog names;
-    QCOMPARE(names->windowTitle(), QStringLiteral("FileName Profile Settings"));
+    QCOMPARE(names->windowTitle(), QStringLiteral("File Name Profile Settings"));
     QStringList groups;
     const auto boxes = names->findChildren<QGroupBox*>();
     for (const QGroupBox* const box : boxes)
         groups += box->title();
     QCOMPARE(groups,
-             (QStringList{QStringLiteral("Select Profile"), QStringLiteral("FileName Format"),
+             (QStringList{QStringLiteral("Select Profile"), QStringLiteral("File Name Format"),
                           QStringLiteral("Example Output")}));
     QCOMPARE(labelTexts(*boxes.at(1)),
-             (QStringList{QStringLiteral("Prefix:"), QStringLiteral("FileName:"),
+             (QStringList{QStringLiteral("Prefix:"), QStringLiteral("File Name:"),
                           QStringLiteral("Suffix:"), QStringLiteral("Type:")}));
     QCOMPARE(labelTexts(*boxes.at(2)),
              (QStringList{QStringLiteral("Example Video:"), QStringLiteral("video.mpeg"),
@@ -140,7 +140,7 @@ void FileNameProfileDialogTest::inputs_haveNames_withoutSeeingThem()
     QStringList found;
     for (const QWidget* const input : inputs)
         found += input->accessibleName();
-    QCOMPARE(found, QStringLiteral("Profile Prefix FileName Suffix Type").split(QLatin1Char(' ')));
+    QCOMPARE(found, QStringLiteral("Profile|Prefix|File Name|Suffix|Type").split(QLatin1Char('|')));
 }
 
 void FileNameProfileDialogTest::tabKey_goesThroughTheForm_inOrder()

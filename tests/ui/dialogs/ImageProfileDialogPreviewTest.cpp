@@ -8,6 +8,7 @@
 #include "tests/ui/dialogs/support/TestProfiles.h"
 #include "tests/ui/support/Painting.h"
 #include "ui/dialogs/WatermarkProfileDialog.h"
+#include "ui/widgets/ComparisonView.h"
 #include "ui/widgets/ImageView.h"
 
 #include <QCheckBox>
@@ -80,6 +81,7 @@ private Q_SLOTS:
     void preview_followsTheProfile();
     void preview_followsTheReset();
     void preview_isLeftOut_whereThereIsNone();
+    void comparison_showsTheFrame_beforeAndAfter();
     void watermarks_areNoneAndTheProfiles();
     void watermarks_areNone_whenThereIsNoProfile();
     void watermark_isThatOfTheProfile_data();
@@ -214,6 +216,29 @@ void ImageProfileDialogPreviewTest::preview_isLeftOut_whereThereIsNone()
     dialog.updateImage();
     QTest::qWait(AWhileMs);
     QCOMPARE(child<QSlider>(dialog, "brightnessSlider").value(), 9);
+}
+
+void ImageProfileDialogPreviewTest::comparison_showsTheFrame_beforeAndAfter()
+{
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(textOf("mine"));
+    profile.setImageBrightness(40);
+    ImageProfileDialog dialog(nullptr);
+    dialog.setSelectedProfile(&profile);
+    QImage frame(320, 240, QImage::Format_RGB888);
+    frame.fill(QColor(100, 100, 100));
+    dialog.setExampleImage(frame);
+    QVERIFY(testsupport::showActive(dialog));
+    auto& view = child<ComparisonView>(dialog, "comparisonView");
+    const auto greyAt = [&view](double part) {
+        const QImage shown = view.grab().toImage();
+        return qRed(shown.pixel(int(part * shown.width()), shown.height() / 2));
+    };
+    QCOMPARE(greyAt(0.2), 100);
+    QCOMPARE(greyAt(0.8), 140);
+    child<QSpinBox>(dialog, "brightnessSpinBox").setValue(-50);
+    QTRY_COMPARE(greyAt(0.8), 50);
+    QCOMPARE(greyAt(0.2), 100);
 }
 
 void ImageProfileDialogPreviewTest::watermarks_areNoneAndTheProfiles()

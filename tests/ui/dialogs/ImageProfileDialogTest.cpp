@@ -215,15 +215,14 @@ void ImageProfileDialogTest::everyLabel_belongsToItsInput()
 {
     const TestProfiles profiles;
     const ImageProfileDialog dialog(nullptr);
-    const QStringList texts{
-        textOf("Image Width:"), textOf("Image Height:"), textOf("Filter:"),
-        textOf("Deinterlace:"), textOf("HDR:"),          textOf("JPEG Quality:"),
-        textOf("Metadata:"),    textOf("Brightness:"),   textOf("Contrast:")};
+    const QStringList texts{textOf("Image Width:"), textOf("Image Height:"), textOf("Filter:"),
+                            textOf("Brightness:"),  textOf("Contrast:"),     textOf("Deinterlace:"),
+                            textOf("HDR:"),         textOf("JPEG Quality:"), textOf("Metadata:")};
     const QStringList inputs{textOf("imageWidthLineEdit"),   textOf("imageHeightLineEdit"),
-                             textOf("resizeFilterComboBox"), textOf("deinterlacingComboBox"),
+                             textOf("resizeFilterComboBox"), textOf("brightnessSlider"),
+                             textOf("contrastSlider"),       textOf("deinterlacingComboBox"),
                              textOf("hdrComboBox"),          textOf("jpegQualitySpinBox"),
-                             textOf("metadataComboBox"),     textOf("brightnessSlider"),
-                             textOf("contrastSlider")};
+                             textOf("metadataComboBox")};
     QStringList found;
     const auto labels = dialog.findChildren<QLabel*>();
     for (const QLabel* const label : labels) {
@@ -241,17 +240,18 @@ void ImageProfileDialogTest::tabulator_leadsThroughTheForm()
     ImageProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
     QVERIFY(showActive(dialog));
-    const QStringList after{textOf("deinterlacingComboBox"),
-                            textOf("hdrComboBox"),
-                            textOf("jpegQualitySpinBox"),
-                            textOf("metadataComboBox"),
-                            textOf("deepColoursCheckbox"),
-                            textOf("brightnessSlider"),
+    const QStringList after{textOf("brightnessSlider"),
                             textOf("brightnessSpinBox"),
                             textOf("contrastSlider"),
                             textOf("contrastSpinBox"),
                             textOf("watermarkProfileComboBox"),
                             textOf("watermarkProfileEditButton"),
+                            textOf("deinterlacingComboBox"),
+                            textOf("hdrComboBox"),
+                            textOf("jpegQualitySpinBox"),
+                            textOf("metadataComboBox"),
+                            textOf("deepColoursCheckbox"),
+                            textOf("comparisonView"),
                             textOf("resetToDefaultsButton"),
                             textOf("saveButton"),
                             textOf("cancelButton")};

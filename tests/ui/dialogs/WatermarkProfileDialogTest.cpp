@@ -8,6 +8,7 @@
 #include "ui/widgets/FontLabel.h"
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QGroupBox>
@@ -102,6 +103,8 @@ private Q_SLOTS:
     void returnKey_saves();
     void returnKey_doesNothing_withoutAName();
     void returnKey_breaksLine_inTheText();
+    void relativeWidth_isTheDefaultOfNewOnes();
+    void opacity_isShownInPercent();
     void uncheckedShadow_isSavedAllTheSame();
 };
 
@@ -117,9 +120,9 @@ void WatermarkProfileDialogTest::form_hasItsTexts()
     for (const QGroupBox* const group : groups)
         titles += group->title();
     titles.sort();
-    QCOMPARE(titles, (QStringList{textOf("Position"), textOf("Position + Preview"),
-                                  textOf("Select Profile"), textOf("Text Format"),
-                                  textOf("Text Shadow"), textOf("Transparency")}));
+    QCOMPARE(titles,
+             (QStringList{textOf("Opacity"), textOf("Position"), textOf("Position + Preview"),
+                          textOf("Select Profile"), textOf("Text Format"), textOf("Text Shadow")}));
 
     const auto& tabs = child<QTabWidget>(dialog, "tabWidget");
     QCOMPARE(tabs.count(), 2);
@@ -190,7 +193,10 @@ void WatermarkProfileDialogTest::fields_areTheseInThisOrder()
                      textOf("xMargin xMarginSpinBox -1"), textOf("yMargin yMarginSpinBox -1"),
                      textOf("watermarkType watermarkTypeTextRadioButton 0"),
                      textOf("watermarkType watermarkTypeImageRadioButton 1"),
-                     textOf("imageFile imageFileNameLineEdit -1")}));
+                     textOf("imageFile imageFileNameLineEdit -1"),
+                     textOf("textShadow textShadowGroupBox -1"),
+                     textOf("relativeSize relativeSizeCheckBox -1"),
+                     textOf("relativeWidth relativeWidthSpinBox -1")}));
 }
 
 void WatermarkProfileDialogTest::groupBoxes_shareTheirMargins()
@@ -238,7 +244,8 @@ void WatermarkProfileDialogTest::tabulator_leadsThroughTheForm()
     const QStringList before{textOf("profileComboBox"), textOf("profileMenuButton"),
                              textOf("qt_tabwidget_tabbar")};
     const QStringList after{textOf("alignmentComboBox"), textOf("xMarginSpinBox"),
-                            textOf("yMarginSpinBox"), textOf("saveButton"), textOf("cancelButton")};
+                            textOf("yMarginSpinBox"),    textOf("relativeSizeCheckBox"),
+                            textOf("saveButton"),        textOf("cancelButton")};
     const QStringList type{textOf("watermarkTypeTextRadioButton"), textOf("textTextEdit"),
                            textOf("watermarkTypeImageRadioButton")};
     QCOMPARE(testsupport::tabOrder(dialog), before + type + after);
@@ -445,6 +452,34 @@ void WatermarkProfileDialogTest::returnKey_breaksLine_inTheText()
     QCOMPARE(text.toPlainText(), textOf("a\nb"));
 }
 
+void WatermarkProfileDialogTest::relativeWidth_isTheDefaultOfNewOnes()
+{
+    const TestProfiles profiles;
+    WatermarkProfileDialog dialog(nullptr);
+    dialog.setSelectedProfile(nullptr);
+    auto& isRelative = child<QCheckBox>(dialog, "relativeSizeCheckBox");
+    QVERIFY(isRelative.isChecked());
+    child<QSpinBox>(dialog, "relativeWidthSpinBox").setValue(35);
+    testsupport::typeProfileName(dialog, textOf("new"));
+    saveButton(dialog).click();
+    QVERIFY(dialog.selectedProfile()->relativeSize());
+    QCOMPARE(dialog.selectedProfile()->relativeWidth(), 35);
+
+    auto& old = profiles.add<WatermarkProfile>(textOf("old"));
+    WatermarkProfileDialog other(nullptr);
+    other.setSelectedProfile(&old);
+    QVERIFY(!child<QCheckBox>(other, "relativeSizeCheckBox").isChecked());
+    QVERIFY(!child<QSpinBox>(other, "relativeWidthSpinBox").isEnabled());
+}
+
+void WatermarkProfileDialogTest::opacity_isShownInPercent()
+{
+    const TestProfiles profiles;
+    const WatermarkProfileDialog dialog(nullptr);
+    child<QSlider>(dialog, "alphaSlider").setValue(51);
+    QCOMPARE(child<QLabel>(dialog, "opacityValueLabel").text(), textOf("20 %"));
+}
+
 void WatermarkProfileDialogTest::uncheckedShadow_isSavedAllTheSame()
 {
     const TestProfiles profiles;
@@ -455,6 +490,7 @@ void WatermarkProfileDialogTest::uncheckedShadow_isSavedAllTheSame()
     child<QGroupBox>(dialog, "textShadowGroupBox").setChecked(false);
     QVERIFY(!child<QSpinBox>(dialog, "xOffsetSpinBox").isEnabled());
     saveButton(dialog).click();
+    QVERIFY(!profile.textShadow());
     QCOMPARE(profile.textShadowXOffset(), 3);
     QCOMPARE(profile.textShadowColor(), QColor(0, 0, 0, 175));
 }

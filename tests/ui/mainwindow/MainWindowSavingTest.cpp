@@ -182,7 +182,7 @@ void MainWindowSavingTest::automaticSaving_asksForAFolder_whenThereIsNone()
         QCOMPARE(box.title, QStringLiteral("Unknown Folder"));
         QCOMPARE(box.text,
                  QStringLiteral(
-                     "Please enter a valid output folder in the Automatic FileName section."));
+                     "Please enter a valid output folder in the Automatic File Name section."));
         QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
         QCOMPARE(box.parent, &window.window());
         QLineEdit& edit = window.find<QLineEdit>("outputFolderLineEdit");

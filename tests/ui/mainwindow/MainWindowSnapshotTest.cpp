@@ -259,7 +259,7 @@ void MainWindowSnapshotTest::profiles_areListed_theLastUsedOneIsCurrent()
     const auto profiles = ImageProfile::profileManager()->profiles();
     QCOMPARE(box.count(), profiles.size());
     for (int i = 0; i < profiles.size(); ++i) {
-        QCOMPARE(box.itemText(i), profiles.at(i)->name());
+        QCOMPARE(box.itemText(i), profiles.at(i)->shownName());
         QCOMPARE(box.itemData(i).toString(), profiles.at(i)->id());
     }
     QCOMPARE(box.currentData().toString(), ImageProfile::profileManager()->lastUsedProfile()->id());

@@ -318,8 +318,8 @@ void MainWindowSteeringTest::batchMode_takesTheMarkedStretch()
         dialog->close();
     });
     window.find<QAction>("actionBatch_Mode").trigger();
-    QCOMPARE(front, QStringLiteral("4000"));
-    QCOMPARE(back, QStringLiteral("8800"));
+    QCOMPARE(front, QStringLiteral("4"));
+    QCOMPARE(back, QStringLiteral("8.8"));
 }
 
 QTEST_MAIN(MainWindowSteeringTest)

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QScrollArea>
+
+/// A form that scrolls up and down where a screen is too low for it; it is never narrower than its
+/// widgets need. What gets the keyboard comes into view. User-interface thread only.
+class FormScrollArea : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit FormScrollArea(QWidget* parent = nullptr);
+
+    /// All of the form, with room for the scroll bar.
+    QSize sizeHint() const override;
+    /// As wide as the form, and some lines high.
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    [[nodiscard]] int formWidth() const;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QGroupBox>
+
+/// A group of a form that is set apart by a heading and space instead of a frame. To screen readers
+/// and in all else it is a group box. User-interface thread only.
+class SectionBox : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit SectionBox(QWidget* parent = nullptr);
+    explicit SectionBox(const QString& title, QWidget* parent = nullptr);
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] QFont headingFont() const;
+};
