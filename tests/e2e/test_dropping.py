@@ -37,6 +37,23 @@ class DroppingTest(MorvantileCase):
         wait_until(lambda: self.program.duration == 100 * 40, "still the first video's duration")
         self.assertTrue((self.videos / "h264_bframes.mp4").exists())
 
+    def test_dropped_folder_goes_to_batch_mode(self):
+        folder = self.folder / "day"
+        folder.mkdir()
+        for name in ("take 9.mp4", "take 10.mp4"):
+            self.sample("h264_gop250.mp4", copy=folder / name)
+        (folder / "notes.txt").write_text("no video")
+        self.start_source(folder)
+        self.drag_to(self.program.open_button())
+        self.program.find("label", "Drop to open")
+        self.desktop.release()
+        self.program.window("Several Videos")
+        wait_until(lambda: not self.program.has("label", "Drop to open"), "still highlighted")
+        self.program.click_in("Several Videos", "Batch")
+        self.program.window("Batch Mode")
+        for name in ("take 9.mp4", "take 10.mp4"):
+            wait_until(lambda: self.program.has("table cell", str(folder / name)), f"no {name}")
+
     # --- what the cases are made of ------------------------------------------------------------
 
     def start_source(self, *files):

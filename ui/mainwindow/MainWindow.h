@@ -14,26 +14,29 @@
 #include <QPointer>
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <deque>
 #include <functional>
 #include <memory>
-#include <optional>
 
 class BatchModeDialog;
-class BestFramesDialog;
+class DropZone;
 class FileNameProfile;
 class Filmstrip;
+class FolderSteps;
+class FolderSweeper;
+class FrameProposals;
 class FullScreen;
 class ImageProfile;
 class PlayerSteering;
 class QFileDialog;
-class QMenu;
 class QPushButton;
+class RecentMenu;
 class SnapshotSaver;
+class VideoZoom;
 class VolumePopup;
-class ZoomGestures;
 
 namespace QtAV {
 class AVPlayer;
@@ -226,6 +229,7 @@ protected:
     /// Asks about what would be lost; then ends the application.
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
@@ -276,15 +280,12 @@ private:
     [[nodiscard]] bool mayAllGo();
     [[nodiscard]] int askAboutSnapshots(int count);
 
-    void setupRecentFiles();
-    void fillRecentMenu();
-    void noteRecentFile(const QString& path);
+    void setupFileMenu();
+    void setupDrops();
+    void openDropped(const QStringList& videos);
+    void runBatchMode(const QStringList& videos);
     void setupZoom();
-    void followZoom();
-    void noteVideoSize();
     void setupBestFrames();
-    void takeSnapshotAt(qint64 ms);
-    void takeWhenShown();
 
     void setupFilmstrip();
     void addToFilmstrip();
@@ -329,15 +330,13 @@ private:
     QString m_shownSnapshot;                  ///< its name in the filmstrip; empty for none there
     QString m_wantedSnapshot;                 ///< to be shown when it has been read
     QVector<qint64> m_toldSnapshotTimes;
-    QMenu* m_recentMenu = nullptr;            ///< made first
-    ZoomGestures* m_videoZoom = nullptr;      ///< likewise
-    BestFramesDialog* m_bestFrames = nullptr; ///< likewise
-    QAction* m_bestFramesAction = nullptr;    ///< likewise
-    std::optional<qint64> m_takenWhenShown;   ///< a snapshot is taken as soon as this one is
-    /// Where the video stood, and whether it played, when a click began: a double click is to leave
-    /// both alone.
-    qint64 m_pressedAtMs = 0;
-    bool m_playedWhenPressed = false;
+    RecentMenu* m_recentMenu = nullptr;    ///< made first
+    FolderSteps* m_folderSteps = nullptr;  ///< likewise
+    DropZone* m_dropZone = nullptr;        ///< likewise
+    VideoZoom* m_videoZoom = nullptr;      ///< likewise
+    FrameProposals* m_proposals = nullptr; ///< likewise
+    QAction* m_bestFramesAction = nullptr; ///< likewise
+    const std::unique_ptr<FolderSweeper> m_sweeper;
     bool m_isEnding = false;    ///< as soon as all is written
     bool m_endsUnasked = false; ///< likewise
     /// The file and the time of the last capture, for messages.

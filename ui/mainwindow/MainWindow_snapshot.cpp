@@ -7,6 +7,7 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "ui/filmstrip/Filmstrip.h"
+#include "ui/mainwindow/FolderSweeper.h"
 #include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/SavePath.h"
 #include "ui_MainWindow.h"
@@ -230,7 +231,7 @@ WriteResult MainWindow::writeSnapshot(const QString& path, ExistingFile existing
     const QImage image = imaging::wantsMore(m_captured, recipe)
                              ? imaging::render(imaging::pictureOf(m_captured, recipe), recipe).image
                              : m_snapshotImage;
-    FilePublisher::sweep(QFileInfo(path).absolutePath());
+    m_sweeper->sweep(QFileInfo(path).absolutePath());
     return imaging::save(path, image, recipe, m_fileNameProfile->fileOutputType(),
                          m_captured.source, existing);
 }
