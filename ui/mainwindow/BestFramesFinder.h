@@ -1,7 +1,7 @@
 #pragma once
 
 #include "series/BestFrames.h"
-#include "ui/mainwindow/NewestTask.h"
+#include "ui/widgets/NewestTask.h"
 
 #include <QMetaType>
 #include <QObject>

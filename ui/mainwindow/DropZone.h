@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/mainwindow/NewestTask.h"
+#include "ui/widgets/NewestTask.h"
 
 #include <QObject>
 #include <QPointer>

@@ -34,7 +34,9 @@ class PlayerSteering;
 class QFileDialog;
 class QPushButton;
 class RecentMenu;
+class SnapshotMaker;
 class SnapshotSaver;
+struct MadeSnapshot;
 class VideoZoom;
 class VolumePopup;
 
@@ -301,7 +303,9 @@ private:
 
     void capture(bool isToBeSaved = false);
     [[nodiscard]] bool takeSaving();
-    [[nodiscard]] QString makeSnapshot(ImageProfile* profile);
+    void takeCapture(const MadeSnapshot& made);
+    void takeRemade(const MadeSnapshot& made);
+    void showSnapshot(const MadeSnapshot& made);
     void warnOfCapture(const QString& reason);
     void resetSnapshot();
     void selectImageProfile(ImageProfile& profile);
@@ -309,8 +313,9 @@ private:
     void showSnapshotSummary();
     [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
     [[nodiscard]] WriteResult saveNewSnapshot(const QString& path);
-    [[nodiscard]] PictureSource sourceOfCapture(const QImage& image) const;
+    [[nodiscard]] PictureSource sourceOfCapture(const CapturedPicture& picture) const;
     [[nodiscard]] WriteResult writeSnapshot(const QString& path, ExistingFile existing);
+    [[nodiscard]] WriteResult save(const QString& path, ExistingFile existing);
     void reportSaving(const QString& path, bool success);
     void saveAs(const QString& chosen);
     [[nodiscard]] bool isReplacingWanted(const QString& path);
@@ -327,6 +332,7 @@ private:
     CapturedPicture m_captured;
     Filmstrip* m_filmstrip = nullptr;         ///< made first
     SnapshotSaver* m_snapshotSaver = nullptr; ///< likewise
+    SnapshotMaker* m_snapshotMaker = nullptr; ///< likewise
     QString m_shownSnapshot;                  ///< its name in the filmstrip; empty for none there
     QString m_wantedSnapshot;                 ///< to be shown when it has been read
     QVector<qint64> m_toldSnapshotTimes;

@@ -10,6 +10,8 @@
 #include "ui/mainwindow/FolderSweeper.h"
 #include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/SavePath.h"
+#include "ui/mainwindow/SnapshotMaker.h"
+#include "ui/widgets/ResponsiveWait.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
@@ -96,21 +98,28 @@ bool MainWindow::takeSaving()
 
 void MainWindow::snapshotCaptured(const QImage& image)
 {
+    CapturedPicture picture;
+    picture.image = image;
+    picture.frame = m_player->videoCapture()->capturedFrame();
+    picture.source = sourceOfCapture(picture);
+    m_snapshotMaker->capture(picture, recipes::of(*m_imageProfile));
+}
+
+/// The video may have been closed since.
+void MainWindow::takeCapture(const MadeSnapshot& made)
+{
     if (!m_captures.answer()) {
         return;
     }
     const bool isToBeSaved = takeSaving();
-    m_captured = CapturedPicture();
-    m_captured.image = image.copy();
-    m_captured.frame = m_player->videoCapture()->capturedFrame();
-    m_captured.source = sourceOfCapture(image);
-    const QString error = makeSnapshot(nullptr);
+    m_captured = made.picture;
+    showSnapshot(made);
     m_isSnapshotKept = m_snapshotImage.isNull();
     addToFilmstrip();
     // Without a snapshot as well: the profile may be to blame, and is edited there.
     setSnapshotControlsEnabled(true);
-    if (!error.isEmpty()) {
-        warnOfCapture(error);
+    if (!made.rendering.error.isEmpty()) {
+        warnOfCapture(made.rendering.error);
         return;
     }
     if (isToBeSaved) {
@@ -119,7 +128,7 @@ void MainWindow::snapshotCaptured(const QImage& image)
 }
 
 /// What matters of the captures is of the video that is open.
-PictureSource MainWindow::sourceOfCapture(const QImage& image) const
+PictureSource MainWindow::sourceOfCapture(const CapturedPicture& picture) const
 {
     if (!isVideoLoaded()) {
         return {};
@@ -127,7 +136,7 @@ PictureSource MainWindow::sourceOfCapture(const QImage& image) const
     const QtAV::MediaFacts facts = m_player->facts();
     const PictureSource video =
         PictureSource::of(m_player->file(), facts.tags, facts.tickNumerator, facts.tickDenominator);
-    return video.at(m_captured.frame.timestamp(), image.size());
+    return video.at(picture.frame.timestamp(), picture.image.size());
 }
 
 void MainWindow::onCaptureError()
@@ -155,21 +164,25 @@ void MainWindow::warnOfCapture(const QString& reason)
 
 void MainWindow::processFullFrameImage(ImageProfile* profile)
 {
-    const QString error = makeSnapshot(profile);
-    if (!error.isEmpty() && !m_captured.image.isNull()) {
-        statusBar()->showMessage(tr("No image of %1: %2").arg(m_capturedPlace, error), messageMs);
+    m_snapshotMaker->remake(m_captured,
+                            recipes::of(profile == nullptr ? *m_imageProfile : *profile));
+}
+
+void MainWindow::takeRemade(const MadeSnapshot& made)
+{
+    showSnapshot(made);
+    if (!made.rendering.error.isEmpty() && !m_captured.image.isNull()) {
+        statusBar()->showMessage(
+            tr("No image of %1: %2").arg(m_capturedPlace, made.rendering.error), messageMs);
     }
 }
 
-/// Makes the snapshot from the full frame, and shows it. Gives the reason where there is none.
-QString MainWindow::makeSnapshot(ImageProfile* profile)
+void MainWindow::showSnapshot(const MadeSnapshot& made)
 {
-    m_snapshotRecipe = recipes::of(profile == nullptr ? *m_imageProfile : *profile);
-    const imaging::Rendering made = imaging::render(m_captured.image, m_snapshotRecipe);
-    m_snapshotImage = made.image;
+    m_snapshotRecipe = made.recipe;
+    m_snapshotImage = made.rendering.image;
     m_ui->snapshotImageView->setImage(m_snapshotImage);
     showSnapshotSummary();
-    return made.error;
 }
 
 void MainWindow::imageProfileUpdated(ImageProfile* profile)
@@ -181,6 +194,7 @@ void MainWindow::imageProfileUpdated(ImageProfile* profile)
 
 void MainWindow::resetSnapshot()
 {
+    m_snapshotMaker->forgetRemaking();
     m_captured = CapturedPicture();
     m_snapshotImage = QImage();
     m_isSnapshotKept = true;
@@ -220,6 +234,7 @@ void MainWindow::on_actionSaveSnapshot_triggered()
 /// What belongs to the file, and not to the picture, is up to the profile that is chosen now.
 WriteResult MainWindow::writeSnapshot(const QString& path, ExistingFile existing)
 {
+    m_snapshotMaker->finishRemaking();
     const ImageRecipe chosen = recipes::of(*m_imageProfile);
     ImageRecipe recipe = m_snapshotRecipe;
     recipe.jpegQuality = chosen.jpegQuality;
@@ -227,37 +242,54 @@ WriteResult MainWindow::writeSnapshot(const QString& path, ExistingFile existing
     recipe.keepsDeepColours = chosen.keepsDeepColours;
     recipe.keepsHdr = chosen.keepsHdr;
     recipe = forType(recipe, QFileInfo(path).suffix());
-    // The file may hold more than the screen.
-    const QImage image = imaging::wantsMore(m_captured, recipe)
-                             ? imaging::render(imaging::pictureOf(m_captured, recipe), recipe).image
-                             : m_snapshotImage;
     m_sweeper->sweep(QFileInfo(path).absolutePath());
-    return imaging::save(path, image, recipe, m_fileNameProfile->fileOutputType(),
-                         m_captured.source, existing);
+    auto result = WriteResult::Failed;
+    const auto write = [&result, path, existing, recipe, captured = m_captured,
+                        shown = m_snapshotImage, type = m_fileNameProfile->fileOutputType()] {
+        // The file may hold more than the screen.
+        const QImage image =
+            imaging::wantsMore(captured, recipe)
+                ? imaging::render(imaging::pictureOf(captured, recipe), recipe).image
+                : shown;
+        result = imaging::save(path, image, recipe, type, captured.source, existing);
+    };
+    ResponsiveWait::run(write);
+    return result;
 }
 
 bool MainWindow::saveSnapshot(QString path)
 {
-    const bool success = writeSnapshot(path, ExistingFile::Replace) == WriteResult::Written;
-    reportSaving(path, success);
-    return success;
+    return save(path, ExistingFile::Replace) == WriteResult::Written;
 }
 
 /// The same, but never in place of another file.
 WriteResult MainWindow::saveNewSnapshot(const QString& path)
 {
-    const WriteResult result = writeSnapshot(path, ExistingFile::Keep);
-    reportSaving(path, result == WriteResult::Written);
+    return save(path, ExistingFile::Keep);
+}
+
+WriteResult MainWindow::save(const QString& path, ExistingFile existing)
+{
+    const QString id = m_shownSnapshot;
+    const qint64 picture = m_captured.image.cacheKey();
+    const WriteResult result = writeSnapshot(path, existing);
+    const bool success = result == WriteResult::Written;
+    // Another one may have come while it was written.
+    if (success && picture == m_captured.image.cacheKey()) {
+        m_isSnapshotKept = true;
+    }
+    if (success) {
+        m_filmstrip->shelf().markSaved(id);
+    }
+    reportSaving(path, success);
     return result;
 }
 
 void MainWindow::reportSaving(const QString& path, bool success)
 {
     qDebug() << (success ? "Save success" : "Save failure") << path;
-    m_isSnapshotKept = m_isSnapshotKept || success;
     const QString shownPath = QDir::toNativeSeparators(path);
     if (success) {
-        m_filmstrip->shelf().markSaved(m_shownSnapshot);
         m_lastSavedFile = QFileInfo(path).absoluteFilePath();
         offerToShowSavedFile();
     }
@@ -400,6 +432,7 @@ bool MainWindow::isReplacingWanted(const QString& path)
 
 void MainWindow::on_actionCopy_Snapshot_triggered()
 {
+    m_snapshotMaker->finishRemaking();
     if (!m_snapshotImage.isNull()) {
         ImageProcessingManager::instance()->setToClipboard(m_snapshotImage.copy());
         m_isSnapshotKept = true;

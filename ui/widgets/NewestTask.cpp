@@ -1,4 +1,4 @@
-#include "ui/mainwindow/NewestTask.h"
+#include "ui/widgets/NewestTask.h"
 
 #include <system_error>
 #include <utility>
