@@ -54,10 +54,11 @@ class MainWindow;
 ///
 /// Its sources are split by topic: construction in MainWindow.cpp, videos from outside and ending
 /// in MainWindow_files.cpp, what is remembered in MainWindow_memory.cpp, the player in
-/// MainWindow_player.cpp, the snapshot in
+/// MainWindow_player.cpp and how large it shows the video in MainWindow_zoom.cpp, the snapshot in
 /// MainWindow_snapshot.cpp and what is told of it in MainWindow_summary.cpp, those that were taken
-/// before in MainWindow_filmstrip.cpp, the menus in MainWindow_menus.cpp, and the ways to a frame
-/// that PlayerSteering adds, with the keys, in MainWindow_steering.cpp.
+/// before in MainWindow_filmstrip.cpp, the best frames in MainWindow_best.cpp, the menus in
+/// MainWindow_menus.cpp, and the ways to a frame that PlayerSteering adds, with the keys, in
+/// MainWindow_steering.cpp.
 ///
 /// Settings: "lastOpenDir", the folder that the save dialog starts in, and "lastSaveDir" in place
 /// of it where the user saved elsewhere; "outputFolder" of the automatic names,
@@ -312,10 +313,13 @@ private:
     [[nodiscard]] QString typeToSave() const;
     void showSnapshotSummary();
     [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
-    [[nodiscard]] WriteResult saveNewSnapshot(const QString& path);
     [[nodiscard]] PictureSource sourceOfCapture(const CapturedPicture& picture) const;
-    [[nodiscard]] WriteResult writeSnapshot(const QString& path, ExistingFile existing);
-    [[nodiscard]] WriteResult save(const QString& path, ExistingFile existing);
+    struct Saving;
+    [[nodiscard]] Saving savingNow();
+    [[nodiscard]] WriteResult write(const Saving& saving, const QString& path,
+                                    ExistingFile existing);
+    [[nodiscard]] WriteResult save(const Saving& saving, const QString& path,
+                                   ExistingFile existing);
     void reportSaving(const QString& path, bool success);
     void saveAs(const QString& chosen);
     [[nodiscard]] bool isReplacingWanted(const QString& path);

@@ -231,58 +231,63 @@ void MainWindow::on_actionSaveSnapshot_triggered()
     saveButtonPressed();
 }
 
+/// What is saved stays the same while it is written, whatever is shown by then.
+struct MainWindow::Saving
+{
+    CapturedPicture captured;
+    QImage shown;
+    ImageRecipe recipe;
+    QString type; ///< of files whose names have none
+    QString id;   ///< in the filmstrip
+};
+
 /// What belongs to the file, and not to the picture, is up to the profile that is chosen now.
-WriteResult MainWindow::writeSnapshot(const QString& path, ExistingFile existing)
+MainWindow::Saving MainWindow::savingNow()
 {
     m_snapshotMaker->finishRemaking();
     const ImageRecipe chosen = recipes::of(*m_imageProfile);
-    ImageRecipe recipe = m_snapshotRecipe;
-    recipe.jpegQuality = chosen.jpegQuality;
-    recipe.metadata = chosen.metadata;
-    recipe.keepsDeepColours = chosen.keepsDeepColours;
-    recipe.keepsHdr = chosen.keepsHdr;
-    recipe = forType(recipe, QFileInfo(path).suffix());
+    Saving saving{m_captured, m_snapshotImage, m_snapshotRecipe,
+                  m_fileNameProfile->fileOutputType(), m_shownSnapshot};
+    saving.recipe.jpegQuality = chosen.jpegQuality;
+    saving.recipe.metadata = chosen.metadata;
+    saving.recipe.keepsDeepColours = chosen.keepsDeepColours;
+    saving.recipe.keepsHdr = chosen.keepsHdr;
+    return saving;
+}
+
+WriteResult MainWindow::write(const Saving& saving, const QString& path, ExistingFile existing)
+{
     m_sweeper->sweep(QFileInfo(path).absolutePath());
     auto result = WriteResult::Failed;
-    const auto write = [&result, path, existing, recipe, captured = m_captured,
-                        shown = m_snapshotImage, type = m_fileNameProfile->fileOutputType()] {
+    ResponsiveWait::run([&] {
+        const ImageRecipe recipe = forType(saving.recipe, QFileInfo(path).suffix());
+        const CapturedPicture& captured = saving.captured;
         // The file may hold more than the screen.
         const QImage image =
             imaging::wantsMore(captured, recipe)
                 ? imaging::render(imaging::pictureOf(captured, recipe), recipe).image
-                : shown;
-        result = imaging::save(path, image, recipe, type, captured.source, existing);
-    };
-    ResponsiveWait::run(write);
+                : saving.shown;
+        result = imaging::save(path, image, recipe, saving.type, captured.source, existing);
+    });
+    return result;
+}
+
+WriteResult MainWindow::save(const Saving& saving, const QString& path, ExistingFile existing)
+{
+    const WriteResult result = write(saving, path, existing);
+    if (result == WriteResult::Written) {
+        m_filmstrip->shelf().markSaved(saving.id);
+        // Another one may be shown by now.
+        const bool isShown = saving.captured.image.cacheKey() == m_captured.image.cacheKey();
+        m_isSnapshotKept = m_isSnapshotKept || isShown;
+    }
+    reportSaving(path, result == WriteResult::Written);
     return result;
 }
 
 bool MainWindow::saveSnapshot(QString path)
 {
-    return save(path, ExistingFile::Replace) == WriteResult::Written;
-}
-
-/// The same, but never in place of another file.
-WriteResult MainWindow::saveNewSnapshot(const QString& path)
-{
-    return save(path, ExistingFile::Keep);
-}
-
-WriteResult MainWindow::save(const QString& path, ExistingFile existing)
-{
-    const QString id = m_shownSnapshot;
-    const qint64 picture = m_captured.image.cacheKey();
-    const WriteResult result = writeSnapshot(path, existing);
-    const bool success = result == WriteResult::Written;
-    // Another one may have come while it was written.
-    if (success && picture == m_captured.image.cacheKey()) {
-        m_isSnapshotKept = true;
-    }
-    if (success) {
-        m_filmstrip->shelf().markSaved(id);
-    }
-    reportSaving(path, success);
-    return result;
+    return save(savingNow(), path, ExistingFile::Replace) == WriteResult::Written;
 }
 
 void MainWindow::reportSaving(const QString& path, bool success)
@@ -303,9 +308,11 @@ void MainWindow::saveWithAutomaticFileName()
     if (!isOutputFolderUsable(folder)) {
         return;
     }
+    const Saving saving = savingNow();
     auto result = WriteResult::AlreadyExists;
     while (result == WriteResult::AlreadyExists) {
-        result = saveNewSnapshot(folder.absoluteFilePath(automaticFileName(folder)));
+        const QString path = folder.absoluteFilePath(automaticFileName(folder));
+        result = save(saving, path, ExistingFile::Keep);
         // The number is used up, also by a file that came in between.
         if (result != WriteResult::Failed) {
             ++m_fileCounter;
