@@ -90,8 +90,9 @@ public:
         doing("zoom the snapshot", [this] { turnWheel("snapshotImageView"); });
         doing("resize the window", [this] { resize(); });
         doing("go back to a snapshot", [this] {
-            const QModelIndex first = strip().shelf().index(0);
-            Q_EMIT strip().chosen(first.data(SnapshotShelf::IdRole).toString());
+            // The last but one, which is in the video's own size, as what is saved then.
+            const QModelIndex index = strip().shelf().index(strip().shelf().rowCount() - 2);
+            Q_EMIT strip().chosen(index.data(SnapshotShelf::IdRole).toString());
             wait(2000);
         });
         doing("save as JPEG", [this] { saveAutomatically(); });
