@@ -1,20 +1,8 @@
 #include "ui/filmstrip/FilmstripList.h"
 
-#include <QEvent>
-
 FilmstripList::FilmstripList(QWidget* parent)
     : QListView(parent)
 {}
-
-/// The view claims the arrow keys before shortcuts get them.
-bool FilmstripList::event(QEvent* event)
-{
-    if (event->type() == QEvent::ShortcutOverride) {
-        event->ignore();
-        return false;
-    }
-    return QListView::event(event);
-}
 
 QModelIndex FilmstripList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {

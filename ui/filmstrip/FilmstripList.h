@@ -2,8 +2,8 @@
 
 #include <QListView>
 
-/// The list of a filmstrip. Up and Down go from one snapshot to another, so that Left and Right can
-/// be those of the window, which steps through the video by them; where the window has no use for
+/// The list of a filmstrip. Up and Down go from one snapshot to another, since Left and Right are
+/// shortcuts of the window, which steps through the video by them; where the window has no use for
 /// them, they go from one snapshot to another, too. User-interface thread only.
 class FilmstripList : public QListView
 {
@@ -13,6 +13,5 @@ public:
     explicit FilmstripList(QWidget* parent = nullptr);
 
 protected:
-    bool event(QEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 };
