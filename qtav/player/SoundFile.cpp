@@ -1,5 +1,6 @@
 #include "qtav/player/SoundFile.h"
 
+#include "qtav/src/FFmpegLog.h"
 #include "qtav/src/PacketHandle.h"
 
 #include <QCoreApplication>
@@ -56,6 +57,16 @@ void SoundFile::setFormat(int sampleRate, int channels, double speed)
     m_channels = channels;
     m_speed = speed;
     m_resampler.reset();
+    makeTempo();
+}
+
+/// A new one knows nothing of what was heard before.
+void SoundFile::makeTempo()
+{
+    const bool isWanted = m_speed != 1.0 && m_speed >= SoundTempo::SlowestSpeed &&
+                          m_speed <= SoundTempo::FastestSpeed;
+    m_tempo = isWanted ? SoundTempo::make(m_rate, m_channels, m_speed) : nullptr;
+    m_tapeSpeed = m_tempo ? 1.0 : m_speed;
 }
 
 bool SoundFile::seek(double seconds)
@@ -67,6 +78,8 @@ bool SoundFile::seek(double seconds)
             continue;
         avcodec_flush_buffers(m_decoder.get());
         m_resampler.reset();
+        makeTempo();
+        m_placed.clear();
         m_ready.clear();
         m_readyFrom = 0;
         m_made = -1; // the first frame places itself
@@ -95,7 +108,7 @@ qint64 SoundFile::read(char* data, qint64 bytes)
     while (done < bytes) {
         const qint64 available = m_ready.size() - m_readyFrom;
         if (available == 0) {
-            if (!decodeMore())
+            if (!makeMore())
                 break;
             continue;
         }
@@ -105,6 +118,16 @@ qint64 SoundFile::read(char* data, qint64 bytes)
         done += part;
     }
     return done;
+}
+
+/// False at the end.
+bool SoundFile::makeMore()
+{
+    if (decodeMore())
+        return true;
+    if (m_tempo)
+        m_tempo->finish(m_ready);
+    return m_readyFrom < m_ready.size();
 }
 
 /// Decodes one more frame; false at the end.
@@ -119,6 +142,7 @@ bool SoundFile::decodeMore()
         const int result = avcodec_receive_frame(m_decoder.get(), frame.get());
         if (result >= 0) {
             take(*frame);
+            passOn();
             return true;
         }
         if (result == AVERROR_EOF || m_isDrained)
@@ -145,6 +169,16 @@ bool SoundFile::sendPacket()
     }
 }
 
+void SoundFile::passOn()
+{
+    // Without the tempo's sound there is none, but the next seek makes another one.
+    if (!m_tempo)
+        m_ready.append(m_placed);
+    else if (!m_tempo->put(m_placed, m_ready))
+        qCWarning(lcQtAV, "No memory for sound at another speed.");
+    m_placed.clear();
+}
+
 void SoundFile::take(const AVFrame& frame)
 {
     if (!prepareResampler(frame))
@@ -159,7 +193,7 @@ void SoundFile::take(const AVFrame& frame)
 /// How many samples that are given last as long as a stretch of the file.
 qint64 SoundFile::samplesFor(double fileSeconds) const
 {
-    return std::llround(fileSeconds * m_rate / m_speed);
+    return std::llround(fileSeconds * m_rate / m_tapeSpeed);
 }
 
 /// Puts what is converted next where its time says: behind silence, or cut off at its beginning.
@@ -167,7 +201,7 @@ void SoundFile::placeAt(double seconds)
 {
     const bool isFirst = m_made < 0;
     const auto given = double(std::max<qint64>(0, m_made) - m_toSkip);
-    const double reached = m_start + m_speed * given / m_rate;
+    const double reached = m_start + m_tapeSpeed * given / m_rate;
     const double offset = seconds - reached;
     if (isFirst)
         m_made = 0;
@@ -179,7 +213,7 @@ void SoundFile::placeAt(double seconds)
         const qint64 skipped = std::min(samples, m_toSkip);
         m_toSkip -= skipped;
         samples -= skipped;
-        m_ready.append(int(samples) * bytesPerFrame(), '\0');
+        m_placed.append(int(samples) * bytesPerFrame(), '\0');
         m_made += samples;
     } else {
         m_toSkip += samplesFor(-offset);
@@ -201,8 +235,8 @@ void SoundFile::convert(const AVFrame* frame)
     const qint64 skipped = std::min<qint64>(m_toSkip, made);
     m_toSkip -= skipped;
     m_made += made - skipped;
-    m_ready.append(samples.constData() + skipped * bytesPerFrame(),
-                   int(made - skipped) * bytesPerFrame());
+    m_placed.append(samples.constData() + skipped * bytesPerFrame(),
+                    int(made - skipped) * bytesPerFrame());
 }
 
 bool SoundFile::prepareResampler(const AVFrame& frame)
@@ -219,7 +253,7 @@ bool SoundFile::prepareResampler(const AVFrame& frame)
     av_channel_layout_default(&out, m_channels);
     SwrContext* context = nullptr;
     // Samples that are taken to come faster than they do are given in less time.
-    const auto inputRate = static_cast<int>(std::lround(frame.sample_rate * m_speed));
+    const auto inputRate = static_cast<int>(std::lround(frame.sample_rate * m_tapeSpeed));
     const int result =
         swr_alloc_set_opts2(&context, &out, AV_SAMPLE_FMT_S16, m_rate, &in,
                             static_cast<AVSampleFormat>(frame.format), inputRate, 0, nullptr);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qtav/player/SoundTempo.h"
 #include "qtav/src/Container.h"
 #include "qtav/src/FFmpegHandles.h"
 
@@ -28,7 +29,8 @@ public:
     int sampleRate() const { return m_decoder->sample_rate; }
 
     /// What read() gives from the next seek on: so many seconds of the file in one second of
-    /// samples. The pitch goes with the speed, as that of a tape does.
+    /// samples. The pitch stays; where FFmpeg has no filter for that, and beyond what SoundTempo
+    /// makes, it goes with the speed, as that of a tape does.
     void setFormat(int sampleRate, int channels, double speed = 1.0);
 
     /// The next sample that read() gives is the one at this time in seconds; silence where the
@@ -40,7 +42,10 @@ public:
 
 private:
     [[nodiscard]] bool goTo(double seconds);
+    [[nodiscard]] bool makeMore();
     [[nodiscard]] bool decodeMore();
+    void makeTempo();
+    void passOn();
     [[nodiscard]] bool sendPacket();
     void take(const AVFrame& frame);
     void placeAt(double seconds);
@@ -60,11 +65,14 @@ private:
     int m_rate = 48000;
     int m_channels = 2;
     double m_speed = 1.0;
-    double m_start = 0.0; ///< what was sought, in seconds
-    qint64 m_made = 0;    ///< samples of a channel since then
-    qint64 m_toSkip = 0;  ///< samples of a channel that come before it
+    double m_tapeSpeed = 1.0;            ///< what of that changes the pitch
+    std::unique_ptr<SoundTempo> m_tempo; ///< makes the rest of it; null for none
+    double m_start = 0.0;                ///< what was sought, in seconds
+    qint64 m_made = 0;                   ///< samples of a channel placed since then
+    qint64 m_toSkip = 0;                 ///< samples of a channel that come before it
     bool m_isDrained = false;
-    QByteArray m_ready;  ///< converted and not yet read
+    QByteArray m_placed; ///< converted, and in its place in time
+    QByteArray m_ready;  ///< the same at the speed that is wanted, and not yet read
     int m_readyFrom = 0; ///< in bytes
 };
 

@@ -26,8 +26,8 @@ public:
     void open(const QString& path);
     void close();
 
-    /// Plays from a time in seconds on, so many seconds of the file in one; the pitch goes with the
-    /// speed.
+    /// Plays from a time in seconds on, so many seconds of the file in one; the pitch stays, see
+    /// SoundFile::setFormat().
     void play(double seconds, double speed = 1.0);
     void pause();
 

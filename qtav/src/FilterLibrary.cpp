@@ -38,7 +38,9 @@ std::optional<FilterLibrary> loaded()
         resolve(library, "av_buffersink_get_frame", found.sinkGetFrame);
     if (isComplete)
         return found;
-    qWarning().noquote() << "Interlaced pictures stay as they are:" << library.errorString();
+    qWarning().noquote()
+        << "Interlaced pictures, and the pitch of sound at other speeds, are not mended:"
+        << library.errorString();
     return std::nullopt;
 }
 

@@ -6,16 +6,14 @@
 #include "imaging/WriteFailure.h"
 #include "tests/batch/WorkerEvents.h"
 #include "tests/support/Samples.h"
+#include "tests/support/SmallDisk.h"
 
 #include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
-#include <sys/mount.h>
 
 using testsupport::samplePath;
 
@@ -23,39 +21,19 @@ namespace {
 
 constexpr int patienceMs = 30000;
 
-/// A folder that is a disk of a megabyte, all but filled.
-class SmallDisk
+/// A disk of a megabyte, all but filled.
+class FullDisk : public testsupport::SmallDisk
 {
 public:
-    SmallDisk()
-        : m_isMounted(::mount("tmpfs", QFile::encodeName(m_folder.path()).constData(), "tmpfs", 0,
-                              "size=1m") == 0)
-    {
-        QFile filler(path(QStringLiteral("filler")));
-        if (m_isMounted && filler.open(QIODevice::WriteOnly)) {
-            filler.write(QByteArray(1000 * 1024, 'x'));
-        }
-    }
-    ~SmallDisk()
-    {
-        if (m_isMounted) {
-            ::umount2(QFile::encodeName(m_folder.path()).constData(), MNT_DETACH);
-        }
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-
-    [[nodiscard]] bool isThere() const { return m_isMounted; }
-    [[nodiscard]] QString path(const QString& name = {}) const { return m_folder.filePath(name); }
-    void makeRoom() const { QFile::remove(path(QStringLiteral("filler"))); }
+    FullDisk() { fill(); }
 
     /// How many pictures are there; -1 where one is not whole, or something else is there.
     [[nodiscard]] int pictures() const
     {
-        const QStringList names = QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
+        const QStringList names = QDir(path()).entryList(QDir::Files | QDir::Hidden);
         int count = 0;
         for (const QString& name : names) {
-            if (name == QStringLiteral("filler")) {
+            if (name == fillerName()) {
                 continue;
             }
             if (QImage(path(name)).isNull()) {
@@ -65,16 +43,12 @@ public:
         }
         return count;
     }
-
-private:
-    QTemporaryDir m_folder;
-    const bool m_isMounted;
 };
 
 /// A batch of one job of six images.
 struct Batch
 {
-    Batch(const SmallDisk& disk, bool isExact)
+    Batch(const FullDisk& disk, bool isExact)
         : worker(new BatchWorker)
         , events(*worker)
     {
@@ -121,7 +95,7 @@ private Q_SLOTS:
     void fullDisk_isAskedAbout_andTheImageSavedAfterwards()
     {
         QFETCH(const bool, isExact);
-        const SmallDisk disk;
+        const FullDisk disk;
         if (!disk.isThere()) {
             QSKIP("Mounting a small disk needs root's rights.");
         }
@@ -156,7 +130,7 @@ private Q_SLOTS:
     void stopping_endsTheBatch_withWholeImages()
     {
         QFETCH(const bool, isExact);
-        const SmallDisk disk;
+        const FullDisk disk;
         if (!disk.isThere()) {
             QSKIP("Mounting a small disk needs root's rights.");
         }
@@ -176,7 +150,7 @@ private Q_SLOTS:
 
     void withoutAQuestion_eachImageIsAnError()
     {
-        const SmallDisk disk;
+        const FullDisk disk;
         if (!disk.isThere()) {
             QSKIP("Mounting a small disk needs root's rights.");
         }

@@ -2,6 +2,7 @@
 
 import os
 import pathlib
+import shutil
 
 from tests.e2e.driver import processes
 from tests.e2e.driver.case import MorvantileCase
@@ -37,7 +38,29 @@ class DroppingTest(MorvantileCase):
         wait_until(lambda: self.program.duration == 100 * 40, "still the first video's duration")
         self.assertTrue((self.videos / "h264_bframes.mp4").exists())
 
+    def test_dropped_folder_goes_to_batch_mode(self):
+        folder = self.folder / "day"
+        folder.mkdir()
+        for name in ("take 9.mp4", "take 10.mp4"):
+            shutil.copy(self.sample("h264_gop250.mp4"), folder / name)
+        (folder / "notes.txt").write_text("no video")
+        self.start_source(folder)
+        self.drag_to(self.program.open_button())
+        self.program.find("label", "Drop to open")
+        self.desktop.release()
+        self.program.window("Several Videos")
+        wait_until(lambda: not self.program.has("label", "Drop to open"), "still highlighted")
+        self.program.click_in("Several Videos", "Batch")
+        self.program.window("Morvantile Batch Mode")
+        wait_until(lambda: len(self.listed()) == 2, lambda: f"listed: {self.listed()}")
+        self.assertEqual(self.listed(), ["take 9", "take 10"])
+
     # --- what the cases are made of ------------------------------------------------------------
+
+    def listed(self):
+        """The names of the videos in the list of batch mode."""
+        cells = self.program.find("table", "Files").all("table cell")
+        return [cell.name for cell in cells if cell.name in ("take 9", "take 10")]
 
     def start_source(self, *files):
         """Starts the other program, a window in the corner."""

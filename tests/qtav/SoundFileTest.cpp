@@ -78,6 +78,54 @@ double strength(const QVector<qint16>& samples, double from, double to)
     return std::sqrt(energy / std::max(1, int(part.size())));
 }
 
+void append(QByteArray& bytes, quint32 number, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        bytes.append(char(number >> (8 * i) & 0xff));
+    }
+}
+
+/// A WAV file of one channel with a tone of that frequency.
+QByteArray toneOf(double hertz, int samples)
+{
+    QByteArray wav("RIFF");
+    append(wav, quint32(36 + 2 * samples), 4);
+    wav += "WAVEfmt ";
+    append(wav, 16, 4);
+    append(wav, 1, 2);
+    append(wav, 1, 2);
+    append(wav, rate, 4);
+    append(wav, 2 * rate, 4);
+    append(wav, 2, 2);
+    append(wav, 16, 2);
+    wav += "data";
+    append(wav, quint32(2 * samples), 4);
+    for (int i = 0; i < samples; ++i) {
+        constexpr double turn = 6.283185307179586;
+        const double value = 10000.0 * std::sin(turn * hertz * i / rate);
+        append(wav, quint32(std::lround(value)), 2);
+    }
+    return wav;
+}
+
+/// How often a second the samples rise through zero; their ends do not count.
+double frequencyOf(const QVector<qint16>& samples)
+{
+    const int from = rate / 10;
+    const int to = samples.size() - rate / 10;
+    int first = -1;
+    int last = -1;
+    int count = -1;
+    for (int i = from; i < to; ++i) {
+        if (samples.at(i - 1) < 0 && samples.at(i) >= 0) {
+            first = first < 0 ? i : first;
+            last = i;
+            ++count;
+        }
+    }
+    return double(count) * rate / (last - first);
+}
+
 double firstLoudSecond(const QVector<qint16>& samples)
 {
     const auto isLoud = [](qint16 sample) { return std::abs(int(sample)) > 100; };
@@ -96,6 +144,8 @@ private slots:
     void samples_areThoseOfTheFile_atEachPosition();
     void samples_areAsManyAsTheFormatWants();
     void speed_givesTheFileInLessTime_orInMore();
+    void speed_keepsThePitch_data();
+    void speed_keepsThePitch();
     void lateSound_isPrecededBySilence_data();
     void lateSound_isPrecededBySilence();
     void sound_endsWhereTheFileEndsIt();
@@ -148,16 +198,50 @@ void SoundFileTest::speed_givesTheFileInLessTime_orInMore()
     for (const double speed : {0.5, 1.25, 2.0}) {
         sound.setFormat(rate, 1, speed);
         QVERIFY(sound.seek(0.0));
-        QVERIFY(std::abs(readRest(sound).size() - stored / speed) < 50);
+        // Sound that keeps its pitch is made of pieces some hundredths of a second long.
+        QVERIFY(std::abs(readRest(sound).size() - stored / speed) < 0.03 * rate);
         QVERIFY(sound.seek(1.5));
-        QVERIFY(std::abs(readRest(sound).size() - stored / speed / 4.0) < 50);
+        QVERIFY(std::abs(readRest(sound).size() - stored / speed / 4.0) < 0.03 * rate);
     }
     // The silence before a sound that starts later is shortened as well.
     SoundFile late;
     QVERIFY(openMono(late, samplePath(QStringLiteral("sound_later.mkv"))));
     late.setFormat(rate, 1, 2.0);
     QVERIFY(late.seek(0.0));
-    QVERIFY(std::abs(firstLoudSecond(readRest(late)) - 0.24) < 0.01);
+    QVERIFY(std::abs(firstLoudSecond(readRest(late)) - 0.24) < 0.03);
+}
+
+void SoundFileTest::speed_keepsThePitch_data()
+{
+    QTest::addColumn<double>("speed");
+    for (const double speed : {0.5, 0.75, 1.0, 1.25, 1.5, 2.0}) {
+        QTest::newRow(qPrintable(QString::number(speed))) << speed;
+    }
+}
+
+void SoundFileTest::speed_keepsThePitch()
+{
+    QFETCH(const double, speed);
+    const TestDir dir;
+    const QString path = dir.filePath(QStringLiteral("tone.wav"));
+    write(path, toneOf(440.0, 3 * rate));
+    SoundFile sound;
+    QVERIFY(openMono(sound, path));
+    sound.setFormat(rate, 1, speed);
+    // From a place inside, too: nothing is heard of what lies before it.
+    for (const double from : {0.0, 1.0}) {
+        QVERIFY(sound.seek(from));
+        const QVector<qint16> samples = readRest(sound);
+        const double seconds = double(samples.size()) / rate;
+        const double wanted = (3.0 - from) / speed;
+        QVERIFY2(std::abs(seconds - wanted) < 0.03, qPrintable(QString::number(seconds)));
+        const double hertz = frequencyOf(samples);
+        QVERIFY2(std::abs(hertz - 440.0) < 3.0, qPrintable(QString::number(hertz)));
+        // As loud as ever, without gaps.
+        for (double at = 0.1; at + 0.1 < seconds; at += 0.1) {
+            QVERIFY(std::abs(strength(samples, at, at + 0.1) - 10000.0 / std::sqrt(2.0)) < 1500.0);
+        }
+    }
 }
 
 void SoundFileTest::lateSound_isPrecededBySilence_data()

@@ -1,12 +1,13 @@
 #include "series/BestFrames.h"
 
 #include "series/SeriesRunner.h"
-#include "tests/support/RunProgram.h"
 #include "tests/support/Samples.h"
+#include "tests/support/SharpFrames.h"
 #include "tests/support/TestDir.h"
 
 #include <QTest>
 
+using testsupport::makeVideoOfSharpFrames;
 using testsupport::TestDir;
 
 namespace {
@@ -14,26 +15,6 @@ namespace {
 constexpr qint64 frameMs = 40;
 
 const auto never = [] { return false; };
-
-/// Four seconds of things that move: every tenth frame from the fifth on is sharp, the others are
-/// blurred by motion. Frames 40 to 59 are black, and at frame 75 there is a cut.
-QString makeVideo(const TestDir& dir)
-{
-    const QString path = dir.filePath(QStringLiteral("made.mkv"));
-    const testsupport::ProgramResult made = testsupport::runProgram(
-        QStringLiteral("ffmpeg"),
-        {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-f"),
-         QStringLiteral("lavfi"), QStringLiteral("-i"),
-         QStringLiteral("testsrc2=size=320x180:rate=25:duration=4"), QStringLiteral("-vf"),
-         QStringLiteral("negate=enable='gte(n,75)',"
-                        "avgblur=sizeX=9:sizeY=1:enable='not(eq(mod(n,10),5))',"
-                        "drawbox=color=black:thickness=fill:enable='between(n,40,59)'"),
-         QStringLiteral("-c:v"), QStringLiteral("ffv1"), path});
-    if (!made.succeeded()) {
-        qFatal("no video: %s", made.standardError.constData());
-    }
-    return path;
-}
 
 QList<int> numbersOf(const QVector<BestFrame>& frames)
 {
@@ -83,7 +64,7 @@ private Q_SLOTS:
 void BestFramesTest::wholeVideo_givesSharpFrames_spread()
 {
     const TestDir dir;
-    const QList<int> numbers = numbersOf(bestIn(makeVideo(dir), 0, 4001, 4).frames);
+    const QList<int> numbers = numbersOf(bestIn(makeVideoOfSharpFrames(dir), 0, 4001, 4).frames);
     QCOMPARE(numbers.size(), 4);
     for (int part = 0; part < 4; ++part) {
         const int number = numbers.at(part);
@@ -96,7 +77,7 @@ void BestFramesTest::wholeVideo_givesSharpFrames_spread()
 void BestFramesTest::stretch_givesItsOwnFrames_withPictures()
 {
     const TestDir dir;
-    const BestFrames best = bestIn(makeVideo(dir), 400, 1200, 5);
+    const BestFrames best = bestIn(makeVideoOfSharpFrames(dir), 400, 1200, 5);
     QCOMPARE(numbersOf(best.frames), (QList<int>{15, 25}));
     QCOMPARE(best.frames.first().picture.size(), QSize(160, 90));
     QVERIFY(best.error.isEmpty());
@@ -105,7 +86,7 @@ void BestFramesTest::stretch_givesItsOwnFrames_withPictures()
 void BestFramesTest::blackStretch_givesNone()
 {
     const TestDir dir;
-    const BestFrames best = bestIn(makeVideo(dir), 1600, 2400, 5);
+    const BestFrames best = bestIn(makeVideoOfSharpFrames(dir), 1600, 2400, 5);
     QVERIFY(best.frames.isEmpty());
     QVERIFY(best.error.isEmpty());
 }
@@ -114,7 +95,7 @@ void BestFramesTest::series_givesTheSame_withinItsSkips()
 {
     const TestDir dir;
     SeriesJob job;
-    job.video = makeVideo(dir);
+    job.video = makeVideoOfSharpFrames(dir);
     job.positions.kind = FramePositions::Kind::Best;
     job.positions.count = 2;
     job.positions.front.value = 400;
@@ -129,7 +110,7 @@ void BestFramesTest::series_saysSo_whenNoFrameIsGood()
 {
     const TestDir dir;
     SeriesJob job;
-    job.video = makeVideo(dir);
+    job.video = makeVideoOfSharpFrames(dir);
     job.positions.kind = FramePositions::Kind::Best;
     job.positions.front.value = 1600;
     job.positions.back.value = 1601;
@@ -148,7 +129,7 @@ void BestFramesTest::brokenFile_isAnError()
 void BestFramesTest::cancelled_endsWithoutAnError()
 {
     const TestDir dir;
-    const QString video = makeVideo(dir);
+    const QString video = makeVideoOfSharpFrames(dir);
     int asked = 0;
     const auto soon = [&asked] { return ++asked > 5; };
     const BestFrames best =

@@ -144,12 +144,9 @@ private Q_SLOTS:
     void stillsBatchJobsAndSnapshots_giveTheSameBytes();
     void metadata_isTheSame_whateverTookThePicture();
     void deinterlacing_isTheSame_forStillsBatchJobsAndSnapshots();
-<<<<<<< HEAD
     void combingKeyFrames_areTheSame_byThemselvesAndByTheirTimes();
-=======
     void watermark_isTheSame_forStillsBatchJobsAndSnapshots_data();
     void watermark_isTheSame_forStillsBatchJobsAndSnapshots();
->>>>>>> dialogs
 };
 
 void SamePictureTest::stillsBatchJobsAndSnapshots_giveTheSameBytes_data()

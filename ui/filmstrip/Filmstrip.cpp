@@ -1,6 +1,7 @@
 #include "ui/filmstrip/Filmstrip.h"
 
 #include "ui/filmstrip/FilmstripDelegate.h"
+#include "ui/filmstrip/FilmstripList.h"
 
 #include <QAction>
 #include <QApplication>
@@ -70,7 +71,7 @@ private:
 Filmstrip::Filmstrip(QWidget* parent)
     : QWidget(parent)
     , m_shelf(new SnapshotShelf(this))
-    , m_list(new QListView(this))
+    , m_list(new FilmstripList(this))
     , m_countLabel(new QLabel(this))
     , m_saveAllButton(new QPushButton(tr("Save All"), this))
     , m_undoStack(new QUndoStack(this))

@@ -56,6 +56,9 @@ void BestFramesDialog::layOut()
     m_takeButton->setToolTip(tr("Take a snapshot of the selected frame"));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     buttons->addButton(m_takeButton, QDialogButtonBox::ActionRole);
+    // Return is the list's: a button that takes it as well would take a second snapshot.
+    m_takeButton->setAutoDefault(false);
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(m_label);

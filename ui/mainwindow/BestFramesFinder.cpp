@@ -2,38 +2,34 @@
 
 BestFramesFinder::BestFramesFinder(QObject* parent)
     : QObject(parent)
-{}
-
-BestFramesFinder::~BestFramesFinder()
 {
-    cancel();
+    qRegisterMetaType<BestFrames>("BestFrames");
 }
+
+BestFramesFinder::~BestFramesFinder() = default;
 
 void BestFramesFinder::search(const QString& video, QtAV::Deinterlacing deinterlacing,
                               const VideoStretch& stretch, int count, const QSize& pictureSize)
 {
-    cancel();
-    m_isCancelled = std::make_shared<std::atomic<bool>>(false);
-    const auto flag = m_isCancelled;
-    m_thread = std::thread([=] {
-        const auto isCancelled = [flag] { return flag->load(); };
+    const int search = ++m_search;
+    m_task.start([=](const NewestTask::IsCancelled& isCancelled) {
         const BestFrames best =
             series::findBest(video, deinterlacing, stretch, count, pictureSize, isCancelled);
-        const auto tell = [this, flag, best] {
-            if (!*flag) {
-                Q_EMIT found(best);
-            }
-        };
-        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, search),
+                                  Q_ARG(BestFrames, best));
     });
 }
 
 void BestFramesFinder::cancel()
 {
-    if (m_isCancelled != nullptr) {
-        *m_isCancelled = true;
-    }
-    if (m_thread.joinable()) {
-        m_thread.join();
+    ++m_search;
+    m_task.cancel();
+}
+
+void BestFramesFinder::take(int search, const BestFrames& best)
+{
+    // It may have been cancelled while its result was on its way here.
+    if (search == m_search) {
+        Q_EMIT found(best);
     }
 }

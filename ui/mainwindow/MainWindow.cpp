@@ -1,5 +1,6 @@
 #include "ui/mainwindow/MainWindow.h"
 
+#include "ui/mainwindow/FolderSweeper.h"
 #include "ui/mainwindow/ReturnKey.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui_MainWindow.h"
@@ -44,6 +45,7 @@ MainWindow::MainWindow(QWidget* parent)
 MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutput)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
+    , m_sweeper(std::make_unique<FolderSweeper>())
     , m_lastOpenDir(storedOpenDir(m_settings))
     , m_saveDialogDir(m_lastOpenDir)
 {
@@ -55,10 +57,9 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     keepKeysForVideo();
     updateWindowTitle();
     setupFilmstrip();
-    setupRecentFiles();
     setupThemeMenu();
-    setupBestFrames();
-    setupZoom();
+    setupFileMenu();
+    setupDrops();
     setupPlayer(makeVideoOutput);
     updatePlayButton();
 }
@@ -76,6 +77,8 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     m_player = new QtAV::AVPlayer(this);
     m_player->setPictureMemory(ReadingLimits::of(m_settings).pictureBytes);
     m_videoOutput = makeVideoOutput(this);
+    setupBestFrames();
+    setupZoom();
     QWidget* const screen = m_videoOutput->widget();
     if (screen == nullptr) {
         refusePlayer();
@@ -124,7 +127,6 @@ void MainWindow::connectPlayer()
     connect(m_player, &AVPlayer::positionChanged, this, &MainWindow::positionChanged);
     // The frame at the place sought may be the one that was on screen, and lie beside it.
     connect(m_player, &AVPlayer::seekFinished, this, updateSliderNow);
-    connect(m_player, &AVPlayer::seekFinished, this, &MainWindow::takeWhenShown);
     connect(m_player, &AVPlayer::notifyIntervalChanged, this, &MainWindow::updateSliderUnit);
     connect(m_player, &AVPlayer::stateChanged, this, &MainWindow::updatePlayButton);
     connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::updatePlayButton);

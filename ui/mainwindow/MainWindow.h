@@ -14,25 +14,31 @@
 #include <QPointer>
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <deque>
 #include <functional>
 #include <memory>
-#include <optional>
 
 class BatchModeDialog;
-class BestFramesDialog;
+class DropZone;
 class FileNameProfile;
 class Filmstrip;
+class FolderSteps;
+class FolderSweeper;
+class FrameProposals;
 class FullScreen;
 class ImageProfile;
 class PlayerSteering;
 class QFileDialog;
-class QMenu;
+class QPushButton;
+class RecentMenu;
+class SnapshotMaker;
 class SnapshotSaver;
+struct MadeSnapshot;
+class VideoZoom;
 class VolumePopup;
-class ZoomGestures;
 
 namespace QtAV {
 class AVPlayer;
@@ -48,10 +54,11 @@ class MainWindow;
 ///
 /// Its sources are split by topic: construction in MainWindow.cpp, videos from outside and ending
 /// in MainWindow_files.cpp, what is remembered in MainWindow_memory.cpp, the player in
-/// MainWindow_player.cpp, the snapshot in
+/// MainWindow_player.cpp and how large it shows the video in MainWindow_zoom.cpp, the snapshot in
 /// MainWindow_snapshot.cpp and what is told of it in MainWindow_summary.cpp, those that were taken
-/// before in MainWindow_filmstrip.cpp, the menus in MainWindow_menus.cpp, and the ways to a frame
-/// that PlayerSteering adds, with the keys, in MainWindow_steering.cpp.
+/// before in MainWindow_filmstrip.cpp, the best frames in MainWindow_best.cpp, the menus in
+/// MainWindow_menus.cpp, and the ways to a frame that PlayerSteering adds, with the keys, in
+/// MainWindow_steering.cpp.
 ///
 /// Settings: "lastOpenDir", the folder that the save dialog starts in, and "lastSaveDir" in place
 /// of it where the user saved elsewhere; "outputFolder" of the automatic names,
@@ -225,6 +232,7 @@ protected:
     /// Asks about what would be lost; then ends the application.
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
@@ -280,15 +288,12 @@ private:
     [[nodiscard]] bool mayAllGo();
     [[nodiscard]] int askAboutSnapshots(int count);
 
-    void setupRecentFiles();
-    void fillRecentMenu();
-    void noteRecentFile(const QString& path);
+    void setupFileMenu();
+    void setupDrops();
+    void openDropped(const QStringList& videos);
+    void runBatchMode(const QStringList& videos);
     void setupZoom();
-    void followZoom();
-    void noteVideoSize();
     void setupBestFrames();
-    void takeSnapshotAt(qint64 ms);
-    void takeWhenShown();
 
     void setupFilmstrip();
     void addToFilmstrip();
@@ -304,16 +309,22 @@ private:
 
     void capture(bool isToBeSaved = false);
     [[nodiscard]] bool takeSaving();
-    [[nodiscard]] QString makeSnapshot(ImageProfile* profile);
+    void takeCapture(const MadeSnapshot& made);
+    void takeRemade(const MadeSnapshot& made);
+    void showSnapshot(const MadeSnapshot& made);
     void warnOfCapture(const QString& reason);
     void resetSnapshot();
     void selectImageProfile(ImageProfile& profile);
     [[nodiscard]] QString typeToSave() const;
     void showSnapshotSummary();
     [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
-    [[nodiscard]] WriteResult saveNewSnapshot(const QString& path);
-    [[nodiscard]] PictureSource sourceOfCapture(const QImage& image) const;
-    [[nodiscard]] WriteResult writeSnapshot(const QString& path, ExistingFile existing);
+    [[nodiscard]] PictureSource sourceOfCapture(const CapturedPicture& picture) const;
+    struct Saving;
+    [[nodiscard]] Saving savingNow();
+    [[nodiscard]] WriteResult write(const Saving& saving, const QString& path,
+                                    ExistingFile existing);
+    [[nodiscard]] WriteResult save(const Saving& saving, const QString& path,
+                                   ExistingFile existing);
     void reportSaving(const QString& path, bool success);
     void saveAs(const QString& chosen);
     [[nodiscard]] bool isReplacingWanted(const QString& path);
@@ -330,18 +341,17 @@ private:
     CapturedPicture m_captured;
     Filmstrip* m_filmstrip = nullptr;         ///< made first
     SnapshotSaver* m_snapshotSaver = nullptr; ///< likewise
+    SnapshotMaker* m_snapshotMaker = nullptr; ///< likewise
     QString m_shownSnapshot;                  ///< its name in the filmstrip; empty for none there
     QString m_wantedSnapshot;                 ///< to be shown when it has been read
     QVector<qint64> m_toldSnapshotTimes;
-    QMenu* m_recentMenu = nullptr;            ///< made first
-    ZoomGestures* m_videoZoom = nullptr;      ///< likewise
-    BestFramesDialog* m_bestFrames = nullptr; ///< likewise
-    QAction* m_bestFramesAction = nullptr;    ///< likewise
-    std::optional<qint64> m_takenWhenShown;   ///< a snapshot is taken as soon as this one is
-    /// Where the video stood, and whether it played, when a click began: a double click is to leave
-    /// both alone.
-    qint64 m_pressedAtMs = 0;
-    bool m_playedWhenPressed = false;
+    RecentMenu* m_recentMenu = nullptr;    ///< made first
+    FolderSteps* m_folderSteps = nullptr;  ///< likewise
+    DropZone* m_dropZone = nullptr;        ///< likewise
+    VideoZoom* m_videoZoom = nullptr;      ///< likewise
+    FrameProposals* m_proposals = nullptr; ///< likewise
+    QAction* m_bestFramesAction = nullptr; ///< likewise
+    const std::unique_ptr<FolderSweeper> m_sweeper;
     bool m_isEnding = false;    ///< as soon as all is written
     bool m_endsUnasked = false; ///< likewise
     /// The file and the time of the last capture, for messages.

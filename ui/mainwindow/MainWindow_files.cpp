@@ -2,9 +2,12 @@
 
 #include "ui/mainwindow/MainWindow.h"
 
+#include "ui/batch/BatchModeDialog.h"
 #include "ui/filmstrip/Filmstrip.h"
-#include "ui/mainwindow/DroppedVideo.h"
+#include "ui/mainwindow/DropZone.h"
 #include "ui/mainwindow/FileManager.h"
+#include "ui/mainwindow/FolderSteps.h"
+#include "ui/mainwindow/RecentMenu.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/VideoOutput.h>
@@ -16,7 +19,6 @@
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPushButton>
 #include <QStatusBar>
 
@@ -102,30 +104,65 @@ void MainWindow::openFromOutside(const QString& path)
     }
 }
 
+void MainWindow::setupFileMenu()
+{
+    m_recentMenu = new RecentMenu(m_settings, this);
+    const QList<QAction*> actions = m_ui->menuFile->actions();
+    m_ui->menuFile->insertMenu(actions.value(actions.indexOf(m_ui->actionOpen) + 1), m_recentMenu);
+    connect(m_recentMenu, &RecentMenu::chosen, this, &MainWindow::openFromOutside);
+    m_folderSteps = new FolderSteps(*m_ui->actionNextVideo, *m_ui->actionPreviousVideo, this);
+    connect(m_folderSteps, &FolderSteps::chosen, this, &MainWindow::openFromOutside);
+}
+
+void MainWindow::setupDrops()
+{
+    m_dropZone = new DropZone(*this);
+    connect(m_dropZone, &DropZone::dropped, this, &MainWindow::openDropped);
+    connect(m_dropZone, &DropZone::nothingFound, this,
+            [this] { statusBar()->showMessage(tr("No video was dropped."), messageMs); });
+}
+
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!DroppedVideo::pathIn(*event->mimeData()).isEmpty()) {
-        event->setDropAction(Qt::CopyAction);
-        event->accept();
-    }
+    m_dropZone->enter(*event);
+}
+
+void MainWindow::dragLeaveEvent(QDragLeaveEvent* event)
+{
+    Q_UNUSED(event)
+    m_dropZone->leave();
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    const QString path = DroppedVideo::pathIn(*event->mimeData());
-    if (path.isEmpty()) {
+    m_dropZone->drop(*event);
+}
+
+/// One is opened. Of several, the user may want pictures without opening them.
+void MainWindow::openDropped(const QStringList& videos)
+{
+    if (videos.size() == 1) {
+        openFromOutside(videos.first());
         return;
     }
-    // Never a move: the program where the file comes from would delete it.
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    if (!isSnapshotAtRisk()) {
-        openFromOutside(path);
-        return;
+    retakeFocusAfterDialog();
+    pause();
+    QMessageBox box(QMessageBox::Question, tr("Several Videos"),
+                    tr("%n video(s) were dropped.", nullptr, videos.size()), QMessageBox::Cancel,
+                    this);
+    box.setObjectName(QStringLiteral("severalVideosBox"));
+    box.setInformativeText(
+        tr("Open the first one, %1, or put all of them into the list of batch mode?")
+            .arg(QFileInfo(videos.first()).fileName()));
+    QPushButton* const open = box.addButton(tr("Open"), QMessageBox::AcceptRole);
+    QPushButton* const batch = box.addButton(tr("Batch"), QMessageBox::AcceptRole);
+    box.setDefaultButton(open);
+    box.exec();
+    if (box.clickedButton() == open) {
+        openFromOutside(videos.first());
+    } else if (box.clickedButton() == batch) {
+        runBatchMode(videos);
     }
-    // The program where the file comes from waits for the end of the drop, not for an answer here.
-    const auto open = [this, path] { openFromOutside(path); };
-    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
 void MainWindow::on_actionExit_triggered()

@@ -7,6 +7,7 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "ui/filmstrip/Filmstrip.h"
+#include "ui/mainwindow/SnapshotMaker.h"
 #include "ui/mainwindow/SnapshotSaver.h"
 #include "ui_MainWindow.h"
 
@@ -34,6 +35,9 @@ void MainWindow::setupFilmstrip()
     m_filmstrip->comeAfter(*m_ui->snapshotButton);
     SnapshotShelf& shelf = m_filmstrip->shelf();
     m_snapshotSaver = new SnapshotSaver(shelf, m_filmstrip);
+    m_snapshotMaker = new SnapshotMaker(this);
+    connect(m_snapshotMaker, &SnapshotMaker::captured, this, &MainWindow::takeCapture);
+    connect(m_snapshotMaker, &SnapshotMaker::remade, this, &MainWindow::takeRemade);
 
     QAction* const first = m_ui->menuEdit->actions().value(0);
     m_ui->menuEdit->insertAction(first, m_filmstrip->undoAction());

@@ -62,10 +62,17 @@ void MainWindow::on_editFileNameProfileButton_clicked()
 
 void MainWindow::on_actionBatch_Mode_triggered()
 {
+    runBatchMode({});
+}
+
+/// Adds these to the list first.
+void MainWindow::runBatchMode(const QStringList& videos)
+{
     pause();
     BatchModeDialog dialog(this);
     dialog.keepList();
     loadMarkedStretch(dialog);
+    dialog.loadVideos(videos);
     dialog.exec();
     // Profiles may have been added, renamed and chosen there.
     loadImageProfileComboBox();

@@ -1,11 +1,13 @@
 #include "ui/mainwindow/MainWindow.h"
 
-#include "ui/mainwindow/BestFramesDialog.h"
+#include "ui/mainwindow/FolderSteps.h"
+#include "ui/mainwindow/FrameProposals.h"
+#include "ui/mainwindow/RecentMenu.h"
+#include "ui/mainwindow/VideoZoom.h"
 #include "ui/theme/Icons.h"
 #include "ui/widgets/SmartFileDialog.h"
 #include "ui/widgets/TimeText.h"
 #include "ui/widgets/VolumePopup.h"
-#include "ui/widgets/ZoomGestures.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
@@ -136,7 +138,8 @@ void MainWindow::openVideo(QString path)
     followVideoFolder(video);
     showOutputFolder(video);
     noteOpenFolder(video);
-    noteRecentFile(path);
+    m_recentMenu->note(path);
+    m_folderSteps->setVideo(path);
     hideOpenButton();
     // The keys are the video's, and no button asks for them.
     m_ui->videoFrame->setFocus();
@@ -178,9 +181,9 @@ void MainWindow::closeVideo()
     m_player->setFile(QString());
     m_currentVideoPath.clear();
     m_captures.forgetAll();
-    m_bestFrames->reset();
+    m_folderSteps->setVideo({});
+    m_proposals->reset();
     m_videoZoom->fit();
-    m_takenWhenShown.reset();
     m_savesCapture.clear();
     updateWindowTitle();
     setVideoControlsEnabled(false);
@@ -304,7 +307,7 @@ void MainWindow::positionChanged(qint64 position)
 {
     Q_UNUSED(position)
     m_ui->timecodeField->setTime(timeText(m_player->displayPosition()));
-    noteVideoSize();
+    m_videoZoom->followFrame();
     updateSlider();
 }
 

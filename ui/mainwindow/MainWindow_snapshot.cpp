@@ -7,8 +7,11 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "ui/filmstrip/Filmstrip.h"
+#include "ui/mainwindow/FolderSweeper.h"
 #include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/SavePath.h"
+#include "ui/mainwindow/SnapshotMaker.h"
+#include "ui/widgets/ResponsiveWait.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
@@ -95,23 +98,30 @@ bool MainWindow::takeSaving()
 
 void MainWindow::snapshotCaptured(const QImage& image)
 {
+    CapturedPicture picture;
+    picture.image = image;
+    picture.frame = m_player->videoCapture()->capturedFrame();
+    picture.source = sourceOfCapture(picture);
+    m_snapshotMaker->capture(picture, recipes::of(*m_imageProfile));
+}
+
+/// The video may have been closed since.
+void MainWindow::takeCapture(const MadeSnapshot& made)
+{
     if (!m_captures.answer()) {
         return;
     }
     const bool isToBeSaved = takeSaving();
-    m_captured = CapturedPicture();
-    m_captured.image = image.copy();
-    m_captured.frame = m_player->videoCapture()->capturedFrame();
-    m_captured.source = sourceOfCapture(image);
-    const QString error = makeSnapshot(nullptr);
+    m_captured = made.picture;
+    showSnapshot(made);
     m_isSnapshotKept = m_snapshotImage.isNull();
     m_ui->savedNotice->clear();
     showWhatIsNext();
     addToFilmstrip();
     // Without a snapshot as well: the profile may be to blame, and is edited there.
     setSnapshotControlsEnabled(true);
-    if (!error.isEmpty()) {
-        warnOfCapture(error);
+    if (!made.rendering.error.isEmpty()) {
+        warnOfCapture(made.rendering.error);
         return;
     }
     if (isToBeSaved) {
@@ -120,7 +130,7 @@ void MainWindow::snapshotCaptured(const QImage& image)
 }
 
 /// What matters of the captures is of the video that is open.
-PictureSource MainWindow::sourceOfCapture(const QImage& image) const
+PictureSource MainWindow::sourceOfCapture(const CapturedPicture& picture) const
 {
     if (!isVideoLoaded()) {
         return {};
@@ -128,7 +138,7 @@ PictureSource MainWindow::sourceOfCapture(const QImage& image) const
     const QtAV::MediaFacts facts = m_player->facts();
     const PictureSource video =
         PictureSource::of(m_player->file(), facts.tags, facts.tickNumerator, facts.tickDenominator);
-    return video.at(m_captured.frame.timestamp(), image.size());
+    return video.at(picture.frame.timestamp(), picture.image.size());
 }
 
 void MainWindow::onCaptureError()
@@ -156,21 +166,25 @@ void MainWindow::warnOfCapture(const QString& reason)
 
 void MainWindow::processFullFrameImage(ImageProfile* profile)
 {
-    const QString error = makeSnapshot(profile);
-    if (!error.isEmpty() && !m_captured.image.isNull()) {
-        statusBar()->showMessage(tr("No image of %1: %2").arg(m_capturedPlace, error), messageMs);
+    m_snapshotMaker->remake(m_captured,
+                            recipes::of(profile == nullptr ? *m_imageProfile : *profile));
+}
+
+void MainWindow::takeRemade(const MadeSnapshot& made)
+{
+    showSnapshot(made);
+    if (!made.rendering.error.isEmpty() && !m_captured.image.isNull()) {
+        statusBar()->showMessage(
+            tr("No image of %1: %2").arg(m_capturedPlace, made.rendering.error), messageMs);
     }
 }
 
-/// Makes the snapshot from the full frame, and shows it. Gives the reason where there is none.
-QString MainWindow::makeSnapshot(ImageProfile* profile)
+void MainWindow::showSnapshot(const MadeSnapshot& made)
 {
-    m_snapshotRecipe = recipes::of(profile == nullptr ? *m_imageProfile : *profile);
-    const imaging::Rendering made = imaging::render(m_captured.image, m_snapshotRecipe);
-    m_snapshotImage = made.image;
+    m_snapshotRecipe = made.recipe;
+    m_snapshotImage = made.rendering.image;
     m_ui->snapshotImageView->setImage(m_snapshotImage);
     showSnapshotSummary();
-    return made.error;
 }
 
 void MainWindow::imageProfileUpdated(ImageProfile* profile)
@@ -182,6 +196,7 @@ void MainWindow::imageProfileUpdated(ImageProfile* profile)
 
 void MainWindow::resetSnapshot()
 {
+    m_snapshotMaker->forgetRemaking();
     m_captured = CapturedPicture();
     m_snapshotImage = QImage();
     m_isSnapshotKept = true;
@@ -220,47 +235,70 @@ void MainWindow::on_actionSaveSnapshot_triggered()
     saveButtonPressed();
 }
 
-/// What belongs to the file, and not to the picture, is up to the profile that is chosen now.
-WriteResult MainWindow::writeSnapshot(const QString& path, ExistingFile existing)
+/// What is saved stays the same while it is written, whatever is shown by then.
+struct MainWindow::Saving
 {
+    CapturedPicture captured;
+    QImage shown;
+    ImageRecipe recipe;
+    QString type; ///< of files whose names have none
+    QString id;   ///< in the filmstrip
+};
+
+/// What belongs to the file, and not to the picture, is up to the profile that is chosen now.
+MainWindow::Saving MainWindow::savingNow()
+{
+    m_snapshotMaker->finishRemaking();
     const ImageRecipe chosen = recipes::of(*m_imageProfile);
-    ImageRecipe recipe = m_snapshotRecipe;
-    recipe.jpegQuality = chosen.jpegQuality;
-    recipe.metadata = chosen.metadata;
-    recipe.keepsDeepColours = chosen.keepsDeepColours;
-    recipe.keepsHdr = chosen.keepsHdr;
-    recipe = forType(recipe, QFileInfo(path).suffix());
-    // The file may hold more than the screen.
-    const QImage image = imaging::wantsMore(m_captured, recipe)
-                             ? imaging::render(imaging::pictureOf(m_captured, recipe), recipe).image
-                             : m_snapshotImage;
-    FilePublisher::sweep(QFileInfo(path).absolutePath());
-    return imaging::save(path, image, recipe, m_fileNameProfile->fileOutputType(),
-                         m_captured.source, existing);
+    Saving saving{m_captured, m_snapshotImage, m_snapshotRecipe,
+                  m_fileNameProfile->fileOutputType(), m_shownSnapshot};
+    saving.recipe.jpegQuality = chosen.jpegQuality;
+    saving.recipe.metadata = chosen.metadata;
+    saving.recipe.keepsDeepColours = chosen.keepsDeepColours;
+    saving.recipe.keepsHdr = chosen.keepsHdr;
+    return saving;
+}
+
+WriteResult MainWindow::write(const Saving& saving, const QString& path, ExistingFile existing)
+{
+    m_sweeper->sweep(QFileInfo(path).absolutePath());
+    auto result = WriteResult::Failed;
+    ResponsiveWait::run([&] {
+        const ImageRecipe recipe = forType(saving.recipe, QFileInfo(path).suffix());
+        const CapturedPicture& captured = saving.captured;
+        // The file may hold more than the screen.
+        const QImage image =
+            imaging::wantsMore(captured, recipe)
+                ? imaging::render(imaging::pictureOf(captured, recipe), recipe).image
+                : saving.shown;
+        result = imaging::save(path, image, recipe, saving.type, captured.source, existing);
+    });
+    return result;
+}
+
+WriteResult MainWindow::save(const Saving& saving, const QString& path, ExistingFile existing)
+{
+    const WriteResult result = write(saving, path, existing);
+    if (result == WriteResult::Written) {
+        m_filmstrip->shelf().markSaved(saving.id);
+        // Another one may be shown by now.
+        const bool isShown = saving.captured.image.cacheKey() == m_captured.image.cacheKey();
+        m_isSnapshotKept = m_isSnapshotKept || isShown;
+    }
+    reportSaving(path, result == WriteResult::Written);
+    return result;
 }
 
 bool MainWindow::saveSnapshot(QString path)
 {
-    const bool success = writeSnapshot(path, ExistingFile::Replace) == WriteResult::Written;
-    reportSaving(path, success);
-    return success;
-}
-
-/// The same, but never in place of another file.
-WriteResult MainWindow::saveNewSnapshot(const QString& path)
-{
-    const WriteResult result = writeSnapshot(path, ExistingFile::Keep);
-    reportSaving(path, result == WriteResult::Written);
-    return result;
+    return save(savingNow(), path, ExistingFile::Replace) == WriteResult::Written;
 }
 
 void MainWindow::reportSaving(const QString& path, bool success)
 {
     qDebug() << (success ? "Save success" : "Save failure") << path;
-    m_isSnapshotKept = m_isSnapshotKept || success;
     const QString shownPath = QDir::toNativeSeparators(path);
     if (success) {
-        m_filmstrip->shelf().markSaved(m_shownSnapshot);
         m_lastSavedFile = QFileInfo(path).absoluteFilePath();
         offerToShowSavedFile(tr("Saved %1").arg(QFileInfo(path).fileName()));
     } else {
@@ -277,9 +315,11 @@ void MainWindow::saveWithAutomaticFileName()
     if (!isOutputFolderUsable(folder)) {
         return;
     }
+    const Saving saving = savingNow();
     auto result = WriteResult::AlreadyExists;
     while (result == WriteResult::AlreadyExists) {
-        result = saveNewSnapshot(folder.absoluteFilePath(automaticFileName(folder)));
+        const QString path = folder.absoluteFilePath(automaticFileName(folder));
+        result = save(saving, path, ExistingFile::Keep);
         // The number is used up, also by a file that came in between.
         if (result != WriteResult::Failed) {
             ++m_fileCounter;
@@ -406,6 +446,7 @@ bool MainWindow::isReplacingWanted(const QString& path)
 
 void MainWindow::on_actionCopy_Snapshot_triggered()
 {
+    m_snapshotMaker->finishRemaking();
     if (!m_snapshotImage.isNull()) {
         ImageProcessingManager::instance()->setToClipboard(m_snapshotImage.copy());
         m_isSnapshotKept = true;

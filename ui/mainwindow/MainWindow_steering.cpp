@@ -53,7 +53,6 @@ void MainWindow::connectSteering()
     on(m_ui->actionLeapBackward, [this] { seekRelative(-leapMs); });
     on(m_ui->actionGoToStart, [this] { m_steering->goToStart(); });
     on(m_ui->actionGoToEnd, [this] { m_steering->goToEnd(); });
-    on(m_ui->actionActualSize, [this] { toggleActualSize(); });
     on(m_ui->actionGoToTime, [this] { m_ui->timecodeField->type(); });
     on(m_ui->actionTakeAndSave, [this] { takeAndSave(); });
     on(m_ui->actionShortcuts, [this] {
@@ -118,7 +117,10 @@ void MainWindow::setSteeringEnabled(bool on)
         action->setEnabled(on);
     }
     m_ui->actionTakeAndSave->setEnabled(on);
-    m_ui->actionActualSize->setEnabled(on);
+    for (QAction* const action :
+         {m_ui->actionFitVideo, m_ui->actionActualSize, m_ui->actionFourfold}) {
+        action->setEnabled(on);
+    }
 }
 
 void MainWindow::giveKeyboardToVideo()

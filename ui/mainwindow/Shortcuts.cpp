@@ -78,7 +78,7 @@ QString titleRow(const QString& title)
 
 QString mouseRows()
 {
-    const std::array<std::array<const char*, 2>, 4> ways{{
+    const std::array<std::array<const char*, 2>, 7> ways{{
         {QT_TRANSLATE_NOOP("Shortcuts", "Click on the slider"),
          QT_TRANSLATE_NOOP("Shortcuts", "Go there")},
         {QT_TRANSLATE_NOOP("Shortcuts", "Shift and drag on the slider"),
@@ -87,6 +87,12 @@ QString mouseRows()
          QT_TRANSLATE_NOOP("Shortcuts", "Go frame by frame")},
         {QT_TRANSLATE_NOOP("Shortcuts", "Click on the time"),
          QT_TRANSLATE_NOOP("Shortcuts", "Type another one: 1:02:03.5, +10s, -2s, f1234 or 75%")},
+        {QT_TRANSLATE_NOOP("Shortcuts", "Wheel over the picture"),
+         QT_TRANSLATE_NOOP("Shortcuts", "Zoom at the pointer")},
+        {QT_TRANSLATE_NOOP("Shortcuts", "Drag the zoomed picture"),
+         QT_TRANSLATE_NOOP("Shortcuts", "Show another part of it")},
+        {QT_TRANSLATE_NOOP("Shortcuts", "Double click on the picture"),
+         QT_TRANSLATE_NOOP("Shortcuts", "Actual size, or fitted again")},
     }};
     QString rows;
     for (const auto& way : ways) {

@@ -4,12 +4,31 @@
 
 #include <QPainter>
 
+namespace {
+
+/// Making a larger image smaller would keep events waiting.
+constexpr qint64 mostAtOnce = 1920 * 1088;
+
+qint64 area(const QSize& size)
+{
+    return qint64(size.width()) * size.height();
+}
+
+QImage averaged(const QImage& image, const QSize& size)
+{
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
 ImageView::ImageView(QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
     , m_zoom(new ZoomGestures(*this))
 {
     connect(m_zoom, &ZoomGestures::changed, this, [this] { update(); });
 }
+
+ImageView::~ImageView() = default;
 
 void ImageView::setImage(const QImage& image)
 {
@@ -18,6 +37,9 @@ void ImageView::setImage(const QImage& image)
     }
     m_image = image;
     m_smallImage = QImage();
+    m_wantedSize = QSize();
+    ++m_request;
+    m_task.cancel();
     m_zoom->setPicture(image.size());
     update();
 }
@@ -90,8 +112,37 @@ const QImage& ImageView::imageFor(QSize pixels)
         pixels.height() >= m_image.height()) {
         return m_image;
     }
-    if (m_smallImage.size() != pixels) {
-        m_smallImage = m_image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (m_smallImage.size() == pixels) {
+        return m_smallImage;
     }
+    if (area(m_image.size()) > mostAtOnce) {
+        request(pixels);
+        // That of another size till then; at first the whole one, as well as the painter can.
+        return m_smallImage.isNull() ? m_image : m_smallImage;
+    }
+    m_smallImage = averaged(m_image, pixels);
     return m_smallImage;
+}
+
+void ImageView::request(const QSize& pixels)
+{
+    if (pixels == m_wantedSize) {
+        return;
+    }
+    m_wantedSize = pixels;
+    const int request = ++m_request;
+    m_task.start([this, request, pixels, image = m_image](const NewestTask::IsCancelled&) {
+        const QImage made = averaged(image, pixels);
+        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, request),
+                                  Q_ARG(QImage, made));
+    });
+}
+
+void ImageView::take(int request, const QImage& image)
+{
+    // Another image, or another size, may be wanted by now.
+    if (request == m_request) {
+        m_smallImage = image;
+        update();
+    }
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-QString videoPatterns()
+QString patternsOfVideos()
 {
     return QStringLiteral(
         "*.avi *.mpeg *.mp4 *.mov *.3g2 *.3gp *.3gp2 *.3gpp *.amv *.asf *.bik *.bin *.crf *.divx "
@@ -45,9 +45,14 @@ SmartFileDialog::SmartFileDialog(QWidget* parent, QString name)
     connect(this, &QDialog::finished, this, &SmartFileDialog::dialogFinished);
 }
 
+QStringList SmartFileDialog::videoPatterns()
+{
+    return patternsOfVideos().split(QLatin1Char(' '));
+}
+
 void SmartFileDialog::setFiltersToVideo()
 {
-    setNameFilters(filters(tr("Video Files"), videoPatterns()));
+    setNameFilters(filters(tr("Video Files"), patternsOfVideos()));
 }
 
 void SmartFileDialog::setFiltersToImage()

@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QString>
+#include <QStringList>
 
 /// A file dialog that opens as its user left it: it remembers its state (view, columns, history)
 /// and its folder from one accepted run to the next, also between runs of the application.
@@ -17,6 +18,9 @@ public:
     /// Restores what was remembered under `name`. Where nothing was, the dialog starts as the
     /// platform's file dialogs do, and says so on the debug stream.
     SmartFileDialog(QWidget* parent, QString name);
+
+    /// The names of files that are offered as videos, as patterns in any case.
+    [[nodiscard]] static QStringList videoPatterns();
 
     /// Offers video files first, then all files.
     void setFiltersToVideo();

@@ -12,7 +12,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
 #include <QDir>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -104,23 +103,6 @@ public:
         find<QLineEdit>("outputFolderLineEdit").setText(folder);
     }
 };
-
-ImageProfile* addImageProfile(const QString& name, int width)
-{
-    auto* const profile =
-        static_cast<ImageProfile*>(ImageProfile::profileManager()->createProfile());
-    profile->setName(name);
-    profile->setImageWidth(width);
-    ImageProfile::profileManager()->addProfile(profile);
-    return profile;
-}
-
-void chooseImageProfile(OpenWindow& window, const QString& name)
-{
-    QComboBox& box = window.find<QComboBox>("imageProfileComboBox");
-    box.setCurrentIndex(box.findText(name));
-    window->on_imageProfileComboBox_activated(box.currentIndex());
-}
 
 } // namespace
 
@@ -231,7 +213,7 @@ void MainWindowFilmstripTest::saveAll_savesEachWithItsProfile_underFreeNames()
     static_cast<void>(window.takeAt(1000));
     static_cast<void>(window.takeAt(2000));
     // That of the snapshot that is shown, and no other.
-    chooseImageProfile(window, QStringLiteral("Small"));
+    window.chooseImageProfile(QStringLiteral("Small"));
     window.choose(window.shelf().index(0).data(SnapshotShelf::IdRole).toString());
     QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), limitMs);
     QVERIFY(QFile::copy(samplePath(clip), folder + QStringLiteral("/clip-00001.jpeg")));

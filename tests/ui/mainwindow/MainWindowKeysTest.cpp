@@ -151,6 +151,10 @@ void MainWindowKeysTest::page_tellsEachKey_ofEachAction()
     QCOMPARE(told.value(QStringLiteral("Play / Pause")), QStringLiteral("Space or K"));
     const QString page = Shortcuts::pageOf(sections);
     QVERIFY(page.contains(QStringLiteral("Space or K")));
+    for (const char* way :
+         {"Wheel over the picture", "Drag the zoomed picture", "Double click on the picture"}) {
+        QVERIFY2(page.contains(QLatin1String(way)), way);
+    }
     QVERIFY(Shortcuts::pageOf({{QStringLiteral("<b>"), {{QStringLiteral("<i>"), {}}}}})
                 .contains(QStringLiteral("&lt;i&gt;")));
 }

@@ -3,6 +3,7 @@
 #include "imaging/Metadata.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "tests/support/FrameNumber.h"
 #include "tests/support/Samples.h"
 #include "ui/mainwindow/SavePath.h"
 
@@ -23,6 +24,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 using namespace testsupport;
 
@@ -33,6 +35,7 @@ class MainWindowSavingTest : public QObject
 private Q_SLOTS:
     void automaticSaving_countsOn();
     void automaticSaving_takesTheFirstFreeNumber_andReplacesNothing();
+    void automaticSaving_savesTheSnapshotItBeganWith_whenAnotherComesMeanwhile();
     void automaticSaving_startsOverWithTheNextVideo();
     void automaticSaving_stepsOverALinkThatLeadsNowhere();
     void automaticSaving_keepsItsNumber_whenItFails();
@@ -133,6 +136,25 @@ void MainWindowSavingTest::automaticSaving_takesTheFirstFreeNumber_andReplacesNo
     QCOMPARE(window.images().size(), 4);
     QCOMPARE(window.nextName(), QStringLiteral("clip-00005.jpeg"));
     QCOMPARE(QFileInfo(window.dir().filePath(QStringLiteral("clip-00003.jpeg"))).size(), 4);
+}
+
+/// The window goes on while a file is written: another frame may be captured then.
+void MainWindowSavingTest::automaticSaving_savesTheSnapshotItBeganWith_whenAnotherComesMeanwhile()
+{
+    Snapshot window;
+    window.setAutomatic();
+    const std::optional<int> first = frameNumber(window.player().displayedFrame().toImage());
+    QImage other(320, 240, QImage::Format_RGB888);
+    other.fill(Qt::red);
+    QTimer::singleShot(0, &window.window(), [&] {
+        window->snapshotButtonPressed();
+        window->snapshotCaptured(other);
+    });
+    window->saveButtonPressed();
+    QTRY_COMPARE(window.images(), QStringList(QStringLiteral("clip-00001.jpeg")));
+    const QImage saved(window.dir().filePath(QStringLiteral("clip-00001.jpeg")));
+    QVERIFY(first.has_value());
+    QCOMPARE(frameNumber(saved), first);
 }
 
 void MainWindowSavingTest::automaticSaving_startsOverWithTheNextVideo()

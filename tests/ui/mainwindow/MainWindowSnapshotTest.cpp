@@ -66,23 +66,6 @@ QImage clipboardAfter(OpenWindow& window, const char* action)
     return QApplication::clipboard()->image();
 }
 
-ImageProfile* addImageProfile(const QString& name, int width)
-{
-    auto* const profile =
-        static_cast<ImageProfile*>(ImageProfile::profileManager()->createProfile());
-    profile->setName(name);
-    profile->setImageWidth(width);
-    ImageProfile::profileManager()->addProfile(profile);
-    return profile;
-}
-
-void chooseImageProfile(OpenWindow& window, const QString& name)
-{
-    QComboBox& box = window.find<QComboBox>("imageProfileComboBox");
-    box.setCurrentIndex(box.findText(name));
-    window->on_imageProfileComboBox_activated(box.currentIndex());
-}
-
 } // namespace
 
 /// The profiles of the test program are the same for all cases: they live as long as the process.
@@ -272,7 +255,7 @@ void MainWindowSnapshotTest::chosenImageProfile_makesTheSnapshotAnew()
     QVERIFY(window.takeSnapshot());
     BaseProfile* const before = ImageProfile::profileManager()->lastUsedProfile();
     QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 640);
-    chooseImageProfile(window, QStringLiteral("Small"));
+    window.chooseImageProfile(QStringLiteral("Small"));
     BaseProfile* const chosen = ImageProfile::profileManager()->lastUsedProfile();
     QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 64);
     const QString path = window.dir().filePath(QStringLiteral("small.png"));
@@ -317,7 +300,7 @@ void MainWindowSnapshotTest::originalSize_isOneClickAway_andKeepsTheOtherSetting
     QVERIFY(!button.isEnabled());
     QVERIFY(window.openPaused(samplePath(clip)));
     QVERIFY(window.takeSnapshot());
-    chooseImageProfile(window, dark.name());
+    window.chooseImageProfile(dark.name());
     QCOMPARE(clipboardAfter(window, "actionCopy_Snapshot").width(), 100);
     const int count = manager.profiles().size();
     button.click();
@@ -329,7 +312,7 @@ void MainWindowSnapshotTest::originalSize_isOneClickAway_andKeepsTheOtherSetting
     QCOMPARE(window.find<QComboBox>("imageProfileComboBox").currentText(), chosen.name());
     QCOMPARE(dark.sameSizeAsVideo(), false);
     // The next time, there is one.
-    chooseImageProfile(window, dark.name());
+    window.chooseImageProfile(dark.name());
     button.click();
     QCOMPARE(manager.lastUsedProfile(), &chosen);
     QCOMPARE(manager.profiles().size(), count + 1);

@@ -1,10 +1,13 @@
 #include "tests/ui/mainwindow/OpenWindow.h"
 
+#include "profiles/ImageProfile.h"
+#include "profiles/ProfileManager.h"
 #include "tests/support/Samples.h"
 
 #include <QtAV/AVPlayer.h>
 
 #include <QAction>
+#include <QComboBox>
 #include <QFile>
 #include <QTest>
 
@@ -52,6 +55,23 @@ bool OpenWindow::takeSnapshot()
     m_window.snapshotButtonPressed();
     const QAction& copy = find<QAction>("actionCopy_Snapshot");
     return QTest::qWaitFor([&copy] { return copy.isEnabled(); }, limitMs);
+}
+
+void OpenWindow::chooseImageProfile(const QString& name)
+{
+    auto& box = find<QComboBox>("imageProfileComboBox");
+    box.setCurrentIndex(box.findText(name));
+    m_window.on_imageProfileComboBox_activated(box.currentIndex());
+}
+
+ImageProfile* addImageProfile(const QString& name, int width)
+{
+    ProfileManager& manager = *ImageProfile::profileManager();
+    auto* const profile = static_cast<ImageProfile*>(manager.createProfile());
+    profile->setName(name);
+    profile->setImageWidth(width);
+    manager.addProfile(profile);
+    return profile;
 }
 
 } // namespace testsupport

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+class ImageProfile;
+
 namespace QtAV {
 class AVPlayer;
 } // namespace QtAV
@@ -46,9 +48,15 @@ public:
     /// Takes a snapshot and waits for it. False when none comes.
     [[nodiscard]] bool takeSnapshot();
 
+    /// Chooses the image profile of that name, as a user does.
+    void chooseImageProfile(const QString& name);
+
 private:
     TestSettings m_settings;
     MainWindow m_window;
 };
+
+/// Adds an image profile of that name and width to those of all windows, which own it.
+ImageProfile* addImageProfile(const QString& name, int width);
 
 } // namespace testsupport

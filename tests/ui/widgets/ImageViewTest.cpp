@@ -51,6 +51,7 @@ private Q_SLOTS:
     void alpha_showsWhatIsBehind();
     void surroundings_showParentsBackground();
     void fineDetail_isAveraged_whenMadeSmaller();
+    void fineDetailOfALargeImage_isAveraged_inTheBackground();
     void settingImage_repaints();
     void fullSize_showsPixelsAsTheyAre();
     void enlargedImage_hasSharpPixels();
@@ -196,6 +197,29 @@ void ImageViewTest::fineDetail_isAveraged_whenMadeSmaller()
         const int value = qRed(painted.pixel(x, 30));
         QVERIFY2(std::abs(value - Grey) <= OneStripeOfSeven, qPrintable(QString::number(value)));
     }
+}
+
+/// And what is shown afterwards is of the image that was set last.
+void ImageViewTest::fineDetailOfALargeImage_isAveraged_inTheBackground()
+{
+    ImageView view;
+    view.resize(150, 100);
+    view.setImage(filled({3000, 2000}, Qt::red));
+    static_cast<void>(paintedBy(view));
+    view.setImage(stripes({3000, 2000}));
+    const auto isGrey = [&view] {
+        const QImage painted = paintedBy(view);
+        for (int x = 1; x < 149; ++x) {
+            const QRgb pixel = painted.pixel(x, 50);
+            if (std::abs(qRed(pixel) - 127) > 12 || qRed(pixel) != qBlue(pixel)) {
+                return false;
+            }
+        }
+        return true;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isGrey(), 10000);
+    view.resize(75, 50);
+    QTRY_COMPARE_WITH_TIMEOUT(paintedBounds(paintedBy(view)), QRect(0, 0, 75, 50), 10000);
 }
 
 void ImageViewTest::settingImage_repaints()

@@ -1,0 +1,219 @@
+#include "ui/mainwindow/DropZone.h"
+
+#include "tests/support/TestDir.h"
+
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFile>
+#include <QLabel>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUrl>
+#include <QWidget>
+
+#include <cmath>
+
+using testsupport::TestDir;
+
+class DropZoneTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void highlight_isShown_whileFilesAreOverTheWindow();
+    void highlight_isReadable();
+    void textThatIsDragged_isRefused();
+    void oneFile_isDropped_asACopy();
+    void folder_isSearched_andItsVideosDropped();
+    void dropWithoutVideos_saysSo();
+    void newerDrop_takesThePlaceOfTheOlder();
+};
+
+namespace {
+
+constexpr int limitMs = 10000;
+
+QString fileIn(const TestDir& dir, const QString& name)
+{
+    QDir().mkpath(QFileInfo(dir.filePath(name)).path());
+    QFile file(dir.filePath(name));
+    if (!file.open(QIODevice::WriteOnly)) {
+        qFatal("cannot write %s", qPrintable(name));
+    }
+    return file.fileName();
+}
+
+struct Zone
+{
+    Zone()
+    {
+        window.resize(300, 200);
+        window.show();
+    }
+
+    void offer(const QStringList& paths)
+    {
+        QList<QUrl> urls;
+        for (const QString& path : paths) {
+            urls.append(QUrl::fromLocalFile(path));
+        }
+        data.setUrls(urls);
+    }
+
+    bool enter()
+    {
+        QDragEnterEvent event({50, 50}, actions, &data, Qt::LeftButton, {});
+        event.ignore();
+        zone.enter(event);
+        return event.isAccepted();
+    }
+
+    Qt::DropAction drop()
+    {
+        QDropEvent event({50, 50}, actions, &data, Qt::LeftButton, {});
+        event.ignore();
+        zone.drop(event);
+        return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
+    }
+
+    [[nodiscard]] QWidget& highlight() const
+    {
+        return *window.findChild<QWidget*>(QStringLiteral("dropHighlight"));
+    }
+
+    const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+    QMimeData data;
+    QWidget window;
+    DropZone& zone = *new DropZone(window);
+    QSignalSpy dropped{&zone, &DropZone::dropped};
+    QSignalSpy nothing{&zone, &DropZone::nothingFound};
+};
+
+/// Of a colour, by WCAG.
+double luminance(const QColor& colour)
+{
+    const auto linear = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b)
+{
+    const double lighter = std::max(luminance(a), luminance(b));
+    const double darker = std::min(luminance(a), luminance(b));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+} // namespace
+
+void DropZoneTest::highlight_isShown_whileFilesAreOverTheWindow()
+{
+    const TestDir dir;
+    Zone zone;
+    QLabel beside(QStringLiteral("beside"), &zone.window);
+    beside.move(20, 20);
+    beside.show();
+    const QRect before = beside.geometry();
+    zone.offer({fileIn(dir, QStringLiteral("a.mp4"))});
+    QVERIFY(!zone.highlight().isVisible());
+    QVERIFY(zone.enter());
+    QVERIFY(zone.highlight().isVisible());
+    QCOMPARE(zone.highlight().geometry(), zone.window.rect());
+    QCOMPARE(beside.geometry(), before);
+    zone.zone.leave();
+    QVERIFY(!zone.highlight().isVisible());
+    QVERIFY(zone.enter());
+    static_cast<void>(zone.drop());
+    QVERIFY(!zone.highlight().isVisible());
+}
+
+/// One line of the frame is seen on any ground. Looked at as it is painted.
+void DropZoneTest::highlight_isReadable()
+{
+    const TestDir dir;
+    for (const Qt::GlobalColor ground : {Qt::black, Qt::white, Qt::gray}) {
+        Zone zone;
+        QPalette palette = zone.window.palette();
+        palette.setColor(QPalette::Window, ground);
+        zone.window.setPalette(palette);
+        zone.offer({fileIn(dir, QStringLiteral("a.mp4"))});
+        QVERIFY(zone.enter());
+        const QImage picture = zone.window.grab().toImage();
+        const double seen = std::max(contrast(picture.pixelColor(1, 100), ground),
+                                     contrast(picture.pixelColor(7, 100), ground));
+        QVERIFY2(seen >= 4.5, qPrintable(QString::number(seen)));
+    }
+}
+
+void DropZoneTest::textThatIsDragged_isRefused()
+{
+    Zone zone;
+    zone.data.setText(QStringLiteral("film.mp4"));
+    QVERIFY(!zone.enter());
+    QVERIFY(!zone.highlight().isVisible());
+    QCOMPARE(zone.drop(), Qt::IgnoreAction);
+    QVERIFY(!zone.zone.isSearching());
+}
+
+/// Never moved: the program where it comes from would delete it.
+void DropZoneTest::oneFile_isDropped_asACopy()
+{
+    const TestDir dir;
+    Zone zone;
+    const QString video = fileIn(dir, QStringLiteral("a.mp4"));
+    zone.offer({video});
+    QCOMPARE(zone.drop(), Qt::CopyAction);
+    // The other program does not wait for what is made of it.
+    QVERIFY(zone.dropped.isEmpty());
+    QVERIFY(zone.dropped.wait(limitMs));
+    QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(video));
+}
+
+void DropZoneTest::folder_isSearched_andItsVideosDropped()
+{
+    const TestDir dir;
+    Zone zone;
+    const QString ninth = fileIn(dir, QStringLiteral("day/9.mp4"));
+    const QString tenth = fileIn(dir, QStringLiteral("day/10.mp4"));
+    fileIn(dir, QStringLiteral("day/notes.txt"));
+    zone.offer({dir.filePath(QStringLiteral("day"))});
+    QVERIFY(zone.enter());
+    QCOMPARE(zone.drop(), Qt::CopyAction);
+    QVERIFY(zone.zone.isSearching());
+    QVERIFY(zone.dropped.wait(limitMs));
+    QVERIFY(!zone.zone.isSearching());
+    QCOMPARE(zone.dropped.first().first().toStringList(), (QStringList{ninth, tenth}));
+}
+
+void DropZoneTest::dropWithoutVideos_saysSo()
+{
+    const TestDir dir;
+    Zone zone;
+    fileIn(dir, QStringLiteral("day/notes.txt"));
+    zone.offer({dir.filePath(QStringLiteral("day"))});
+    QCOMPARE(zone.drop(), Qt::CopyAction);
+    QVERIFY(zone.nothing.wait(limitMs));
+    QVERIFY(zone.dropped.isEmpty());
+}
+
+void DropZoneTest::newerDrop_takesThePlaceOfTheOlder()
+{
+    const TestDir dir;
+    Zone zone;
+    const QString second = fileIn(dir, QStringLiteral("b.mp4"));
+    zone.offer({fileIn(dir, QStringLiteral("a.mp4"))});
+    static_cast<void>(zone.drop());
+    zone.offer({second});
+    static_cast<void>(zone.drop());
+    QVERIFY(zone.dropped.wait(limitMs));
+    QTest::qWait(50);
+    QCOMPARE(zone.dropped.size(), 1);
+    QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(second));
+}
+
+QTEST_MAIN(DropZoneTest)
+#include "DropZoneTest.moc"

@@ -1,0 +1,130 @@
+#include "ui/mainwindow/FolderSteps.h"
+
+#include "tests/support/TestDir.h"
+#include "ui/mainwindow/VideoNames.h"
+
+#include <QAction>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+
+using testsupport::TestDir;
+
+/// The next and the previous video of a folder.
+class FolderStepsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void neighbours_areThoseInNaturalOrder_amongVideos();
+    void neighbours_ofAVideoThatIsGone_areThoseAroundItsPlace();
+    void actions_areEnabled_whileThereIsAVideo_andTellIt();
+    void newFile_isNoticed();
+    void closedVideo_hasNoNeighbours();
+};
+
+namespace {
+
+constexpr int limitMs = 10000;
+
+QString fileIn(const TestDir& dir, const QString& name)
+{
+    QFile file(dir.filePath(name));
+    if (!file.open(QIODevice::WriteOnly)) {
+        qFatal("cannot write %s", qPrintable(name));
+    }
+    return file.fileName();
+}
+
+struct Steps
+{
+    QAction next{nullptr};
+    QAction previous{nullptr};
+    FolderSteps steps{next, previous, nullptr};
+};
+
+} // namespace
+
+void FolderStepsTest::neighbours_areThoseInNaturalOrder_amongVideos()
+{
+    const TestDir dir;
+    const QString ninth = fileIn(dir, QStringLiteral("take 9.mp4"));
+    const QString tenth = fileIn(dir, QStringLiteral("Take 10.MKV"));
+    const QString last = fileIn(dir, QStringLiteral("take 11.webm"));
+    fileIn(dir, QStringLiteral("take 9.5.txt"));
+    fileIn(dir, QStringLiteral("take 10.mkv.part"));
+    QCOMPARE(VideoNames::neighboursOf(tenth).previous, ninth);
+    QCOMPARE(VideoNames::neighboursOf(tenth).next, last);
+    QCOMPARE(VideoNames::neighboursOf(ninth).previous, QString());
+    QCOMPARE(VideoNames::neighboursOf(ninth).next, tenth);
+    QCOMPARE(VideoNames::neighboursOf(last).next, QString());
+}
+
+void FolderStepsTest::neighbours_ofAVideoThatIsGone_areThoseAroundItsPlace()
+{
+    const TestDir dir;
+    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
+    const QString c = fileIn(dir, QStringLiteral("c.mp4"));
+    const VideoNames::Neighbours around =
+        VideoNames::neighboursOf(dir.filePath(QStringLiteral("b.mp4")));
+    QCOMPARE(around.previous, a);
+    QCOMPARE(around.next, c);
+    const VideoNames::Neighbours none = VideoNames::neighboursOf(QStringLiteral("/gone/b.mp4"));
+    QVERIFY(none.previous.isEmpty() && none.next.isEmpty());
+}
+
+void FolderStepsTest::actions_areEnabled_whileThereIsAVideo_andTellIt()
+{
+    const TestDir dir;
+    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
+    const QString b = fileIn(dir, QStringLiteral("b.mp4"));
+    Steps steps;
+    QSignalSpy chosen(&steps.steps, &FolderSteps::chosen);
+    QVERIFY(!steps.next.isEnabled() && !steps.previous.isEnabled());
+    steps.steps.setVideo(a);
+    QTRY_VERIFY_WITH_TIMEOUT(steps.next.isEnabled(), limitMs);
+    QVERIFY(!steps.previous.isEnabled());
+    steps.next.trigger();
+    QCOMPARE(chosen.takeFirst().first().toString(), b);
+    steps.steps.setVideo(b);
+    QTRY_VERIFY_WITH_TIMEOUT(steps.previous.isEnabled(), limitMs);
+    QVERIFY(!steps.next.isEnabled());
+    steps.previous.trigger();
+    QCOMPARE(chosen.takeFirst().first().toString(), a);
+}
+
+void FolderStepsTest::newFile_isNoticed()
+{
+    const TestDir dir;
+    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
+    const QString c = fileIn(dir, QStringLiteral("c.mp4"));
+    Steps steps;
+    QSignalSpy chosen(&steps.steps, &FolderSteps::chosen);
+    steps.steps.setVideo(a);
+    QTRY_VERIFY_WITH_TIMEOUT(steps.next.isEnabled(), limitMs);
+    const QString b = fileIn(dir, QStringLiteral("b.mp4"));
+    const auto next = [&] {
+        steps.next.trigger();
+        return chosen.takeLast().first().toString();
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(next(), b, limitMs);
+    QVERIFY(QFile::remove(b));
+    QVERIFY(QFile::remove(c));
+    QTRY_VERIFY_WITH_TIMEOUT(!steps.next.isEnabled(), limitMs);
+}
+
+void FolderStepsTest::closedVideo_hasNoNeighbours()
+{
+    const TestDir dir;
+    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
+    fileIn(dir, QStringLiteral("b.mp4"));
+    Steps steps;
+    steps.steps.setVideo(a);
+    // Also when the folder has been looked at already, but not been told.
+    steps.steps.setVideo({});
+    QTest::qWait(50);
+    QVERIFY(!steps.next.isEnabled());
+}
+
+QTEST_GUILESS_MAIN(FolderStepsTest)
+#include "FolderStepsTest.moc"

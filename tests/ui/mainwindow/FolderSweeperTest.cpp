@@ -1,0 +1,58 @@
+#include "ui/mainwindow/FolderSweeper.h"
+
+#include "tests/support/TestDir.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QTest>
+
+using testsupport::TestDir;
+
+class FolderSweeperTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void leftOverFile_goes_onceForEachFolder();
+};
+
+namespace {
+
+constexpr int limitMs = 10000;
+
+/// As a killed program has left it there two hours ago; gives its path.
+QString leaveFileIn(const TestDir& dir)
+{
+    QFile file(dir.filePath(QStringLiteral(".morvantile-0123456789abcdef.part")));
+    const QDateTime then = QDateTime::currentDateTime().addSecs(-2 * 3600);
+    if (!file.open(QIODevice::WriteOnly) ||
+        !file.setFileTime(then, QFileDevice::FileModificationTime)) {
+        qFatal("no file is left");
+    }
+    return file.fileName();
+}
+
+} // namespace
+
+void FolderSweeperTest::leftOverFile_goes_onceForEachFolder()
+{
+    const TestDir dir;
+    const QString path = leaveFileIn(dir);
+    {
+        FolderSweeper sweeper;
+        sweeper.sweep(dir.path());
+        QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(path), limitMs);
+        static_cast<void>(leaveFileIn(dir));
+        sweeper.sweep(dir.path());
+    }
+    // The end has waited for all that was begun.
+    QVERIFY(QFile::exists(path));
+    {
+        FolderSweeper sweeper;
+        sweeper.sweep(dir.path());
+    }
+    QVERIFY(!QFile::exists(path));
+}
+
+QTEST_GUILESS_MAIN(FolderSweeperTest)
+#include "FolderSweeperTest.moc"

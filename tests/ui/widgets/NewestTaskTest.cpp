@@ -1,0 +1,104 @@
+#include "ui/widgets/NewestTask.h"
+
+#include <QSemaphore>
+#include <QTest>
+
+#include <atomic>
+
+class NewestTaskTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void task_runsInAnotherThread();
+    void newerTask_cancelsTheRunningOne_andReplacesTheWaitingOne();
+    void cancel_returnsAtOnce_whileTheTaskRunsOn();
+    void end_waitsForTheTask();
+};
+
+namespace {
+
+constexpr int limitMs = 10000;
+
+} // namespace
+
+void NewestTaskTest::task_runsInAnotherThread()
+{
+    QSemaphore done;
+    std::thread::id runner;
+    NewestTask tasks;
+    tasks.start([&](const NewestTask::IsCancelled&) {
+        runner = std::this_thread::get_id();
+        done.release();
+    });
+    QVERIFY(done.tryAcquire(1, limitMs));
+    QVERIFY(runner != std::this_thread::get_id());
+}
+
+void NewestTaskTest::newerTask_cancelsTheRunningOne_andReplacesTheWaitingOne()
+{
+    QSemaphore begun;
+    QSemaphore mayEnd;
+    QSemaphore done;
+    std::atomic<bool> firstWasCancelled{false};
+    std::atomic<bool> secondRan{false};
+    NewestTask tasks;
+    tasks.start([&](const NewestTask::IsCancelled& isCancelled) {
+        begun.release();
+        mayEnd.tryAcquire(1, limitMs);
+        firstWasCancelled = isCancelled();
+    });
+    QVERIFY(begun.tryAcquire(1, limitMs));
+    tasks.start([&](const NewestTask::IsCancelled&) { secondRan = true; });
+    tasks.start([&](const NewestTask::IsCancelled& isCancelled) {
+        if (!isCancelled()) {
+            done.release();
+        }
+    });
+    mayEnd.release();
+    QVERIFY(done.tryAcquire(1, limitMs));
+    QVERIFY(firstWasCancelled);
+    QVERIFY(!secondRan);
+}
+
+void NewestTaskTest::cancel_returnsAtOnce_whileTheTaskRunsOn()
+{
+    QSemaphore begun;
+    QSemaphore mayEnd;
+    std::atomic<bool> wasCancelled{false};
+    {
+        NewestTask tasks;
+        tasks.start([&](const NewestTask::IsCancelled& isCancelled) {
+            begun.release();
+            mayEnd.tryAcquire(1, limitMs);
+            wasCancelled = isCancelled();
+        });
+        QVERIFY(begun.tryAcquire(1, limitMs));
+        // Would never return if it waited for the task.
+        tasks.cancel();
+        QVERIFY(!wasCancelled);
+        mayEnd.release();
+    }
+    QVERIFY(wasCancelled);
+}
+
+void NewestTaskTest::end_waitsForTheTask()
+{
+    std::atomic<bool> isOver{false};
+    QSemaphore begun;
+    {
+        NewestTask tasks;
+        tasks.start([&](const NewestTask::IsCancelled& isCancelled) {
+            begun.release();
+            while (!isCancelled()) {
+                std::this_thread::yield();
+            }
+            isOver = true;
+        });
+        QVERIFY(begun.tryAcquire(1, limitMs));
+    }
+    QVERIFY(isOver);
+}
+
+QTEST_GUILESS_MAIN(NewestTaskTest)
+#include "NewestTaskTest.moc"

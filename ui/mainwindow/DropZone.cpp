@@ -1,0 +1,102 @@
+#include "ui/mainwindow/DropZone.h"
+
+#include "ui/mainwindow/DropHighlight.h"
+#include "ui/mainwindow/DroppedVideos.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QProgressDialog>
+#include <QTimer>
+
+namespace {
+
+/// A search that takes no longer needs no dialog.
+constexpr int patienceMs = 500;
+
+} // namespace
+
+DropZone::DropZone(QWidget& window)
+    : QObject(&window)
+    , m_window(window)
+    , m_highlight(new DropHighlight(window))
+{}
+
+DropZone::~DropZone() = default;
+
+void DropZone::enter(QDragEnterEvent& event)
+{
+    if (!DroppedVideos::pathsIn(*event.mimeData()).isEmpty()) {
+        // Never a move: the program where the file comes from would delete it.
+        event.setDropAction(Qt::CopyAction);
+        event.accept();
+        m_highlight->appear();
+    }
+}
+
+void DropZone::leave()
+{
+    m_highlight->hide();
+}
+
+void DropZone::drop(QDropEvent& event)
+{
+    m_highlight->hide();
+    const QStringList paths = DroppedVideos::pathsIn(*event.mimeData());
+    if (paths.isEmpty()) {
+        return;
+    }
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+    search(paths);
+}
+
+void DropZone::search(const QStringList& paths)
+{
+    m_isSearching = true;
+    const int search = ++m_search;
+    m_task.start([this, search, paths](const NewestTask::IsCancelled& isCancelled) {
+        const QStringList videos = DroppedVideos::among(paths, isCancelled);
+        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, search),
+                                  Q_ARG(QStringList, videos));
+    });
+    QTimer::singleShot(patienceMs, this, [this, search] { showProgress(search); });
+}
+
+void DropZone::showProgress(int search)
+{
+    if (!m_isSearching || search != m_search || m_progress != nullptr) {
+        return;
+    }
+    m_progress = new QProgressDialog(tr("Looking for videos\u2026"), tr("Cancel"), 0, 0, &m_window);
+    m_progress->setObjectName(QStringLiteral("dropProgress"));
+    m_progress->setAttribute(Qt::WA_DeleteOnClose);
+    m_progress->setWindowModality(Qt::WindowModal);
+    connect(m_progress, &QProgressDialog::canceled, this, &DropZone::cancel);
+    m_progress->show();
+}
+
+void DropZone::cancel()
+{
+    ++m_search;
+    m_isSearching = false;
+    m_task.cancel();
+}
+
+void DropZone::take(int search, const QStringList& videos)
+{
+    if (search != m_search) {
+        return;
+    }
+    m_isSearching = false;
+    if (m_progress != nullptr) {
+        // Closing it would cancel.
+        m_progress->disconnect(this);
+        m_progress->close();
+    }
+    if (videos.isEmpty()) {
+        Q_EMIT nothingFound();
+    } else {
+        Q_EMIT dropped(videos);
+    }
+}

@@ -1,0 +1,77 @@
+#include "ui/mainwindow/FolderSteps.h"
+
+#include "ui/mainwindow/VideoNames.h"
+
+#include <QAction>
+#include <QFileInfo>
+
+namespace {
+
+constexpr int settlingMs = 300;
+
+} // namespace
+
+FolderSteps::FolderSteps(QAction& next, QAction& previous, QObject* parent)
+    : QObject(parent)
+    , m_nextAction(next)
+    , m_previousAction(previous)
+{
+    show({}, {});
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(settlingMs);
+    connect(&m_settling, &QTimer::timeout, this, &FolderSteps::look);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, [this] {
+        // Not started anew by each change: a folder that never rests is to be looked at, too.
+        if (!m_settling.isActive()) {
+            m_settling.start();
+        }
+    });
+    connect(&next, &QAction::triggered, this, [this] { Q_EMIT chosen(m_next); });
+    connect(&previous, &QAction::triggered, this, [this] { Q_EMIT chosen(m_previous); });
+}
+
+FolderSteps::~FolderSteps() = default;
+
+void FolderSteps::setVideo(const QString& path)
+{
+    m_video = path;
+    const QStringList watched = m_watcher.directories();
+    if (!watched.isEmpty()) {
+        m_watcher.removePaths(watched);
+    }
+    show({}, {});
+    if (!path.isEmpty()) {
+        m_watcher.addPath(QFileInfo(path).absolutePath());
+    }
+    look();
+}
+
+void FolderSteps::look()
+{
+    const int look = ++m_look;
+    if (m_video.isEmpty()) {
+        m_task.cancel();
+        return;
+    }
+    m_task.start([this, look, video = m_video](const NewestTask::IsCancelled&) {
+        const VideoNames::Neighbours found = VideoNames::neighboursOf(video);
+        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, look),
+                                  Q_ARG(QString, found.previous), Q_ARG(QString, found.next));
+    });
+}
+
+void FolderSteps::take(int look, const QString& previous, const QString& next)
+{
+    // Another video may have been opened while this was on its way here.
+    if (look == m_look) {
+        show(previous, next);
+    }
+}
+
+void FolderSteps::show(const QString& previous, const QString& next)
+{
+    m_previous = previous;
+    m_next = next;
+    m_previousAction.setEnabled(!previous.isEmpty());
+    m_nextAction.setEnabled(!next.isEmpty());
+}

@@ -1,0 +1,91 @@
+#include "ui/mainwindow/SnapshotMaker.h"
+
+#include <utility>
+
+namespace {
+
+/// What is larger than full HD takes too long for an event.
+constexpr qint64 mostAtOnce = 1920 * 1088;
+
+bool isLarge(const CapturedPicture& picture)
+{
+    return qint64(picture.image.width()) * picture.image.height() > mostAtOnce;
+}
+
+MadeSnapshot made(const CapturedPicture& picture, const ImageRecipe& recipe)
+{
+    return {picture, recipe, imaging::render(picture.image, recipe)};
+}
+
+} // namespace
+
+SnapshotMaker::SnapshotMaker(QObject* parent)
+    : QObject(parent)
+{
+    qRegisterMetaType<MadeSnapshot>("MadeSnapshot");
+}
+
+SnapshotMaker::~SnapshotMaker() = default;
+
+void SnapshotMaker::capture(const CapturedPicture& picture, const ImageRecipe& recipe)
+{
+    // What comes later must not be shown earlier.
+    if (m_capturesToCome == 0 && !isLarge(picture)) {
+        Q_EMIT captured(made(picture, recipe));
+        return;
+    }
+    ++m_capturesToCome;
+    m_captures.post([this, picture, recipe] {
+        const MadeSnapshot result = made(picture, recipe);
+        QMetaObject::invokeMethod(this, "takeCaptured", Qt::QueuedConnection,
+                                  Q_ARG(MadeSnapshot, result));
+    });
+}
+
+void SnapshotMaker::takeCaptured(const MadeSnapshot& made)
+{
+    --m_capturesToCome;
+    // That would be one of the frame before.
+    forgetRemaking();
+    Q_EMIT captured(made);
+}
+
+void SnapshotMaker::remake(const CapturedPicture& picture, const ImageRecipe& recipe)
+{
+    forgetRemaking();
+    if (!isLarge(picture)) {
+        Q_EMIT remade(made(picture, recipe));
+        return;
+    }
+    m_pending = MadeSnapshot{picture, recipe, {}};
+    const int request = m_request;
+    m_remaking.start([this, request, picture, recipe](const NewestTask::IsCancelled&) {
+        const MadeSnapshot result = made(picture, recipe);
+        QMetaObject::invokeMethod(this, "takeRemade", Qt::QueuedConnection, Q_ARG(int, request),
+                                  Q_ARG(MadeSnapshot, result));
+    });
+}
+
+void SnapshotMaker::takeRemade(int request, const MadeSnapshot& made)
+{
+    if (request == m_request) {
+        m_pending.reset();
+        Q_EMIT remade(made);
+    }
+}
+
+void SnapshotMaker::finishRemaking()
+{
+    if (m_pending) {
+        const MadeSnapshot wanted = *m_pending;
+        forgetRemaking();
+        Q_EMIT remade(made(wanted.picture, wanted.recipe));
+    }
+}
+
+void SnapshotMaker::forgetRemaking()
+{
+    ++m_request;
+    m_pending.reset();
+    m_remaking.cancel();
+}
