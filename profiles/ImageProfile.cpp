@@ -5,7 +5,7 @@
 ImageProfile::ImageProfile(ImageProfile* ignored)
     : BaseProfile(ignored)
 {
-    setName(tr("Image Profile"));
+    setName(QStringLiteral("Image Profile"));
 }
 
 ImageProfile::~ImageProfile() = default;

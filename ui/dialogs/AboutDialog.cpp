@@ -24,7 +24,7 @@ AboutDialog::AboutDialog(QWidget* parent)
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 
     fillLinks();
-    m_ui->versionLabel->setText(tr("Version: ") + ProductInfo::version());
+    m_ui->versionLabel->setText(tr("Version: %1").arg(ProductInfo::version()));
     m_ui->iconLabel->setPixmap(QPixmap(QStringLiteral(":/Images/MVIcon1024.png")));
 }
 

@@ -233,6 +233,7 @@ private:
     static constexpr int messageMs = 8000;
 
     void setupPlayer(const VideoOutputFactory& makeVideoOutput);
+    void setupLanguages();
     void refusePlayer();
     void connectPlayer();
     void connectTransport();

@@ -140,7 +140,7 @@ void MainWindow::onCaptureError()
 /// Says what could not be captured and, where that is known, why not.
 void MainWindow::warnOfCapture(const QString& reason)
 {
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("Morvantile video capture"),
+    QMessageBox box(QMessageBox::Warning, tr("Morvantile video capture"),
                     tr("Failed to capture video frame"), QMessageBox::Ok);
     QStringList details{m_capturedPlace.toHtmlEscaped(), reason.toHtmlEscaped()};
     details.removeAll(QString());
@@ -260,8 +260,8 @@ void MainWindow::reportSaving(const QString& path, bool success)
         m_lastSavedFile = QFileInfo(path).absoluteFilePath();
         offerToShowSavedFile();
     }
-    statusBar()->showMessage((success ? tr("Saved %1") : tr("Could not save %1")).arg(shownPath),
-                             messageMs);
+    const QString text = success ? tr("Saved %1") : tr("Could not save %1");
+    statusBar()->showMessage(text.arg(shownPath), messageMs);
 }
 
 void MainWindow::saveWithAutomaticFileName()
@@ -297,7 +297,7 @@ bool MainWindow::isOutputFolderUsable(const QDir& folder)
     }
     const QString question = tr("Create folder?") + QLatin1String("\r\n") +
                              QDir::toNativeSeparators(folder.absolutePath());
-    if (QMessageBox::question(this, QStringLiteral("Folder does not exist"), question,
+    if (QMessageBox::question(this, tr("Folder does not exist"), question,
                               QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
         return false;
     }
