@@ -5,474 +5,475 @@
     <name>AboutDialog</name>
     <message>
         <source>About Morvantile</source>
-        <translation type="unfinished"></translation>
+        <translation>حول Morvantile</translation>
     </message>
     <message>
         <source>Morvantile icon</source>
-        <translation type="unfinished"></translation>
+        <translation>أيقونة Morvantile</translation>
     </message>
     <message>
         <source>Morvantile - Video Frame Capture Software</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – برنامج التقاط إطارات الفيديو</translation>
     </message>
     <message>
         <source>Please send me your questions or feature suggestions!</source>
-        <translation type="unfinished"></translation>
+        <translation>أرسل إليّ أسئلتك أو اقتراحاتك للميزات!</translation>
     </message>
     <message>
         <source>Version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الإصدار: %1</translation>
     </message>
 </context>
 <context>
     <name>BatchModeDialog</name>
     <message>
         <source>Morvantile Batch Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – وضع الدفعات</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>الملفات</translation>
     </message>
     <message>
         <source>Load Video</source>
-        <translation type="unfinished"></translation>
+        <translation>تحميل فيديو</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة</translation>
     </message>
     <message>
         <source>Progress of reading the videos</source>
-        <translation type="unfinished"></translation>
+        <translation>تقدم قراءة الفيديوهات</translation>
     </message>
     <message>
         <source>Stop Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف القراءة</translation>
     </message>
     <message>
         <source>Keep the videos that have been read and drop the others</source>
-        <translation type="unfinished"></translation>
+        <translation>الاحتفاظ بالفيديوهات المقروءة وإسقاط الباقي</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد الكل</translation>
     </message>
     <message>
         <source>Selected Video File</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف الفيديو المحدد</translation>
     </message>
     <message>
         <source>[No Video Selected]</source>
-        <translation type="unfinished"></translation>
+        <translation>[لم يُحدد أي فيديو]</translation>
     </message>
     <message>
         <source>Image Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات الصورة</translation>
     </message>
     <message>
         <source>Image Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط الصورة:</translation>
     </message>
     <message>
         <source>Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط الصورة</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير</translation>
     </message>
     <message>
         <source>Edit Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير نمط الصورة</translation>
     </message>
     <message>
         <source>Edit the image profile</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير نمط الصورة</translation>
     </message>
     <message>
         <source>File Output</source>
-        <translation type="unfinished"></translation>
+        <translation>إخراج الملفات</translation>
     </message>
     <message>
         <source>FileName Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط اسم الملف:</translation>
     </message>
     <message>
         <source>FileName Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط اسم الملف</translation>
     </message>
     <message>
         <source>Edit FileName Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير نمط اسم الملف</translation>
     </message>
     <message>
         <source>Edit the file name profile</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير نمط اسم الملف</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>مثال:</translation>
     </message>
     <message>
         <source>Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>المجلد:</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>المجلد</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار</translation>
     </message>
     <message>
         <source>Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار المجلد</translation>
     </message>
     <message>
         <source>Select the folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار مجلد الصور</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>فاصل الالتقاط</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>إنشاء</translation>
     </message>
     <message>
         <source>Make a number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>إنشاء عدد من الصور</translation>
     </message>
     <message>
         <source>Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>عدد الصور</translation>
     </message>
     <message>
         <source>images</source>
-        <translation type="unfinished"></translation>
+        <translation>صور</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation type="unfinished"></translation>
+        <translation>كل</translation>
     </message>
     <message>
         <source>Make an image every so many milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>إنشاء صورة كل عدد من الأجزاء من الألف من الثانية</translation>
     </message>
     <message>
         <source>Milliseconds from image to image</source>
-        <translation type="unfinished"></translation>
+        <translation>الأجزاء من الألف من الثانية بين صورة وأخرى</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>جزء من الألف من الثانية</translation>
     </message>
     <message>
         <source>Single shot at</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة واحدة عند</translation>
     </message>
     <message>
         <source>Make a single image</source>
-        <translation type="unfinished"></translation>
+        <translation>إنشاء صورة واحدة</translation>
     </message>
     <message>
         <source>Place of the single image</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع الصورة الواحدة</translation>
     </message>
     <message>
         <source>Takes exactly the frames at these positions, on all processor cores. Without it, a key frame near a position is taken instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>يأخذ الإطارات عند هذه المواضع بالضبط، على جميع أنوية المعالج. وإلا يؤخذ إطار مفتاحي قريب من الموضع بدلاً منها.</translation>
     </message>
     <message>
         <source>Exact frames</source>
-        <translation type="unfinished"></translation>
+        <translation>إطارات دقيقة</translation>
     </message>
     <message>
         <source>Skip Milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>الأجزاء من الألف من الثانية المتخطاة</translation>
     </message>
     <message>
         <source>Skip front</source>
-        <translation type="unfinished"></translation>
+        <translation>تخطي البداية</translation>
     </message>
     <message>
         <source>Milliseconds to skip at the front</source>
-        <translation type="unfinished"></translation>
+        <translation>الأجزاء من الألف من الثانية المتخطاة في البداية</translation>
     </message>
     <message>
         <source>Skip back</source>
-        <translation type="unfinished"></translation>
+        <translation>تخطي النهاية</translation>
     </message>
     <message>
         <source>Milliseconds to skip at the back</source>
-        <translation type="unfinished"></translation>
+        <translation>الأجزاء من الألف من الثانية المتخطاة في النهاية</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>بدء</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Use for New Videos</source>
-        <translation type="unfinished"></translation>
+        <translation>استخدام للفيديوهات الجديدة</translation>
     </message>
     <message>
         <source>Videos that are added later begin with the settings of the selected one</source>
-        <translation type="unfinished"></translation>
+        <translation>الفيديوهات التي تضاف لاحقًا تبدأ بإعدادات الفيديو المحدد</translation>
     </message>
     <message>
         <source>What the batch will make</source>
-        <translation type="unfinished"></translation>
+        <translation>ما ستنشئه الدفعة</translation>
     </message>
     <message>
         <source>Retry Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة محاولة ما فشل</translation>
     </message>
     <message>
         <source>Run the videos for which something failed once more</source>
-        <translation type="unfinished"></translation>
+        <translation>معالجة الفيديوهات التي فشل فيها شيء مرة أخرى</translation>
     </message>
     <message>
         <source>Load videos, or drop them here</source>
-        <translation type="unfinished"></translation>
+        <translation>حمّل فيديوهات أو أفلتها هنا</translation>
     </message>
     <message>
         <source>front</source>
-        <translation type="unfinished"></translation>
+        <translation>البداية</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>الوسط</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished"></translation>
+        <translation>النهاية</translation>
     </message>
     <message>
         <source>The batch can start when all videos have been read</source>
-        <translation type="unfinished"></translation>
+        <translation>يمكن بدء الدفعة بعد قراءة جميع الفيديوهات</translation>
     </message>
     <message>
         <source>Reading video %1 of %2:</source>
-        <translation type="unfinished"></translation>
+        <translation>قراءة الفيديو %1 من %2:</translation>
     </message>
     <message numerus="yes">
         <source>%1 images</source>
         <comment>in: About %1 of %n videos</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 صورة</numerusform>
+            <numerusform>%1 صورة</numerusform>
+            <numerusform>%1 صورة</numerusform>
+            <numerusform>%1 صور</numerusform>
+            <numerusform>%1 صورة</numerusform>
+            <numerusform>%1 صورة</numerusform>
         </translation>
     </message>
     <message>
         <source>About %1 of 1 video</source>
-        <translation type="unfinished"></translation>
+        <translation>نحو %1 من فيديو واحد</translation>
     </message>
     <message numerus="yes">
         <source>About %1 of %n videos</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>نحو %1 من %n فيديو</numerusform>
+            <numerusform>نحو %1 من فيديو واحد (%n)</numerusform>
+            <numerusform>نحو %1 من فيديوهين (%n)</numerusform>
+            <numerusform>نحو %1 من %n فيديوهات</numerusform>
+            <numerusform>نحو %1 من %n فيديو</numerusform>
+            <numerusform>نحو %1 من %n فيديو</numerusform>
         </translation>
     </message>
     <message>
         <source>The folder for the images does not exist. Create it?</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد الصور غير موجود. هل تريد إنشاءه؟</translation>
     </message>
     <message>
         <source>These folders for the images do not exist. Create them?</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلدات الصور هذه غير موجودة. هل تريد إنشاءها؟</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>المجلد غير موجود</translation>
     </message>
     <message>
         <source>%1 could not be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر إنشاء %1.</translation>
     </message>
     <message>
         <source>Many Images</source>
-        <translation type="unfinished"></translation>
+        <translation>صور كثيرة</translation>
     </message>
     <message numerus="yes">
         <source>This makes about %1 images. Start?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
+            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
+            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
+            <numerusform>سينشئ هذا نحو %1 صور. هل تريد البدء؟</numerusform>
+            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
+            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
         </translation>
     </message>
     <message>
         <source>Multiple</source>
-        <translation type="unfinished"></translation>
+        <translation>قيم متعددة</translation>
     </message>
 </context>
 <context>
     <name>BatchModeListModel</name>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الملف</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>الوجهة</translation>
     </message>
     <message>
         <source>Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>الفاصل</translation>
     </message>
     <message>
         <source>Output Example</source>
-        <translation type="unfinished"></translation>
+        <translation>مثال الإخراج</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور</translation>
     </message>
 </context>
 <context>
     <name>BatchProcessingDialog</name>
     <message>
         <source>Batch Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>معالجة الدفعات</translation>
     </message>
     <message>
         <source>Current video</source>
-        <translation type="unfinished"></translation>
+        <translation>الفيديو الحالي</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة</translation>
     </message>
     <message>
         <source>Progress of the current video</source>
-        <translation type="unfinished"></translation>
+        <translation>تقدم الفيديو الحالي</translation>
     </message>
     <message>
         <source>This video: %p%</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا الفيديو: %p%</translation>
     </message>
     <message>
         <source>Progress of all videos</source>
-        <translation type="unfinished"></translation>
+        <translation>تقدم جميع الفيديوهات</translation>
     </message>
     <message>
         <source>All videos: %p%</source>
-        <translation type="unfinished"></translation>
+        <translation>جميع الفيديوهات: %p%</translation>
     </message>
     <message>
         <source>Last image</source>
-        <translation type="unfinished"></translation>
+        <translation>آخر صورة</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>السجل</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>تم</translation>
     </message>
     <message>
         <source>Cancel Batch Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء معالجة الدفعات</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel batch processing?
 </source>
-        <translation type="unfinished"></translation>
+        <translation>هل أنت متأكد من إلغاء معالجة الدفعات؟
+</translation>
     </message>
     <message>
         <source>No Room for the Images</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مساحة للصور</translation>
     </message>
     <message>
         <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>أفرغ مساحة ثم حاول مجددًا، أو أوقف العملية. ما حُفظ يبقى.</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>المحاولة مجددًا</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف</translation>
     </message>
     <message>
         <source>Stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الإيقاف…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
 </context>
 <context>
     <name>BatchReport</name>
     <message>
         <source>1 image</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة واحدة (1)</translation>
     </message>
     <message numerus="yes">
         <source>%n images</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n صورة</numerusform>
+            <numerusform>صورة واحدة (%n)</numerusform>
+            <numerusform>صورتان (%n)</numerusform>
+            <numerusform>%n صور</numerusform>
+            <numerusform>%n صورة</numerusform>
+            <numerusform>%n صورة</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancelled after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>أُلغي بعد %1</translation>
     </message>
     <message>
         <source>Finished: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>انتهى: %1</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1، فشل %n</numerusform>
+            <numerusform>%1، فشل %n</numerusform>
+            <numerusform>%1، فشل %n</numerusform>
+            <numerusform>%1، فشل %n</numerusform>
+            <numerusform>%1، فشل %n</numerusform>
+            <numerusform>%1، فشل %n</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (and %n more of this kind)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (و%n غيره من هذا النوع)</numerusform>
+            <numerusform>%1 (و%n غيره من هذا النوع)</numerusform>
+            <numerusform>%1 (و%n غيره من هذا النوع)</numerusform>
+            <numerusform>%1 (و%n غيره من هذا النوع)</numerusform>
+            <numerusform>%1 (و%n غيره من هذا النوع)</numerusform>
+            <numerusform>%1 (و%n غيره من هذا النوع)</numerusform>
         </translation>
     </message>
 </context>
@@ -480,250 +481,250 @@
     <name>BatchWorker</name>
     <message>
         <source>Could not open file</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر فتح الملف</translation>
     </message>
     <message>
         <source>Frame extraction error %1</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في استخراج الإطار: %1</translation>
     </message>
     <message>
         <source>no picture found at position %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُعثر على صورة عند الموضع %1</translation>
     </message>
     <message>
         <source>Could not make %1 from position %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر إنشاء %1 من الموضع %2: %3</translation>
     </message>
     <message>
         <source>Could not save %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر حفظ %1</translation>
     </message>
     <message>
         <source>Saving: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ: %1</translation>
     </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
     <message>
         <source>Every %1ms</source>
-        <translation type="unfinished"></translation>
+        <translation>كل %1 م.ث</translation>
     </message>
     <message numerus="yes">
         <source>%n images</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n صورة</numerusform>
+            <numerusform>صورة واحدة (%n)</numerusform>
+            <numerusform>صورتان (%n)</numerusform>
+            <numerusform>%n صور</numerusform>
+            <numerusform>%n صورة</numerusform>
+            <numerusform>%n صورة</numerusform>
         </translation>
     </message>
     <message>
         <source>Single front</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة واحدة، البداية</translation>
     </message>
     <message>
         <source>Single middle</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة واحدة، الوسط</translation>
     </message>
     <message>
         <source>Single back</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة واحدة، النهاية</translation>
     </message>
     <message>
         <source>Single </source>
-        <translation type="unfinished"></translation>
+        <translation>صورة واحدة </translation>
     </message>
 </context>
 <context>
     <name>BestFramesDialog</name>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>أخذ لقطة</translation>
     </message>
     <message>
         <source>Best of These</source>
-        <translation type="unfinished"></translation>
+        <translation>أفضل الإطارات</translation>
     </message>
     <message>
         <source>Best frames</source>
-        <translation type="unfinished"></translation>
+        <translation>أفضل الإطارات</translation>
     </message>
     <message>
         <source>Take a snapshot of the selected frame</source>
-        <translation type="unfinished"></translation>
+        <translation>أخذ لقطة للإطار المحدد</translation>
     </message>
     <message>
         <source>Looking for the sharpest frames from %1 to %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث عن أوضح الإطارات من %1 إلى %2…</translation>
     </message>
     <message>
         <source>All frames here are black, blurred or at a cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>جميع الإطارات هنا سوداء أو ضبابية أو عند قطع.</translation>
     </message>
     <message>
         <source>A click goes to the frame, a double click takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>النقر ينتقل إلى الإطار، والنقر المزدوج يلتقطه.</translation>
     </message>
 </context>
 <context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>قبل</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>بعد</translation>
     </message>
 </context>
 <context>
     <name>FileNameProfileDialog</name>
     <message>
         <source>FileName Profile Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات نمط اسم الملف</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار النمط</translation>
     </message>
     <message>
         <source>FileName Format</source>
-        <translation type="unfinished"></translation>
+        <translation>صيغة اسم الملف</translation>
     </message>
     <message>
         <source>Prefix:</source>
-        <translation type="unfinished"></translation>
+        <translation>البادئة:</translation>
     </message>
     <message>
         <source>Prefix</source>
-        <translation type="unfinished"></translation>
+        <translation>البادئة</translation>
     </message>
     <message>
         <source>FileName:</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الملف:</translation>
     </message>
     <message>
         <source>FileName</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الملف</translation>
     </message>
     <message>
         <source>Suffix:</source>
-        <translation type="unfinished"></translation>
+        <translation>اللاحقة:</translation>
     </message>
     <message>
         <source>Suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>اللاحقة</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع:</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع</translation>
     </message>
     <message>
         <source>Example Output</source>
-        <translation type="unfinished"></translation>
+        <translation>مثال الإخراج</translation>
     </message>
     <message>
         <source>Example Video:</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو المثال:</translation>
     </message>
     <message>
         <source>Example Output:</source>
-        <translation type="unfinished"></translation>
+        <translation>مثال الإخراج:</translation>
     </message>
     <message>
         <source>For Batch Mode when only a single image is requested.</source>
-        <translation type="unfinished"></translation>
+        <translation>لوضع الدفعات عند طلب صورة واحدة فقط.</translation>
     </message>
     <message>
         <source>Single Shot:</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة واحدة:</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>استعادة الإعدادات الافتراضية</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
 </context>
 <context>
     <name>Filmstrip</name>
     <message>
         <source>Delete 1 Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف لقطة واحدة</translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>حذف %n لقطة</numerusform>
+            <numerusform>حذف لقطة واحدة (%n)</numerusform>
+            <numerusform>حذف لقطتين (%n)</numerusform>
+            <numerusform>حذف %n لقطات</numerusform>
+            <numerusform>حذف %n لقطة</numerusform>
+            <numerusform>حذف %n لقطة</numerusform>
         </translation>
     </message>
     <message>
         <source>Save All</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ الكل</translation>
     </message>
     <message>
         <source>Filmstrip</source>
-        <translation type="unfinished"></translation>
+        <translation>شريط اللقطات</translation>
     </message>
     <message>
         <source>Save all snapshots that are not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ جميع اللقطات التي لم تُحفظ بعد</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة</translation>
     </message>
     <message>
         <source>Delete Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف اللقطات</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد الكل</translation>
     </message>
     <message>
         <source>All saved</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظ الكل</translation>
     </message>
     <message numerus="yes">
         <source>%n not saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n غير محفوظة</numerusform>
+            <numerusform>%n غير محفوظة</numerusform>
+            <numerusform>%n غير محفوظتين</numerusform>
+            <numerusform>%n غير محفوظة</numerusform>
+            <numerusform>%n غير محفوظة</numerusform>
+            <numerusform>%n غير محفوظة</numerusform>
         </translation>
     </message>
 </context>
@@ -731,254 +732,254 @@
     <name>ImageFiltersDialog</name>
     <message>
         <source>Compare Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>مقارنة المرشحات</translation>
     </message>
     <message>
         <source>Before and after</source>
-        <translation type="unfinished"></translation>
+        <translation>قبل وبعد</translation>
     </message>
     <message>
         <source>Drag the line to compare</source>
-        <translation type="unfinished"></translation>
+        <translation>اسحب الخط للمقارنة</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>السطوع</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>التباين</translation>
     </message>
     <message>
         <source>Filter for another size</source>
-        <translation type="unfinished"></translation>
+        <translation>مرشح تغيير الحجم</translation>
     </message>
     <message>
         <source>Apply to Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>تطبيق على النمط</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>المساحة</translation>
     </message>
     <message>
         <source>Lanczos</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanczos</translation>
     </message>
     <message>
         <source>Bicubic</source>
-        <translation type="unfinished"></translation>
+        <translation>ثنائي التكعيب</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>أقرب جار</translation>
     </message>
     <message>
         <source>Put these values into the image profile “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع هذه القيم في نمط الصورة «%1»</translation>
     </message>
 </context>
 <context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات نمط الصورة</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار النمط</translation>
     </message>
     <message>
         <source>Image Size</source>
-        <translation type="unfinished"></translation>
+        <translation>حجم الصورة</translation>
     </message>
     <message>
         <source>Same Size as Video</source>
-        <translation type="unfinished"></translation>
+        <translation>نفس حجم الفيديو</translation>
     </message>
     <message>
         <source>Image Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الصورة:</translation>
     </message>
     <message>
         <source>Image Width</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الصورة</translation>
     </message>
     <message>
         <source>Image Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>ارتفاع الصورة:</translation>
     </message>
     <message>
         <source>Image Height</source>
-        <translation type="unfinished"></translation>
+        <translation>ارتفاع الصورة</translation>
     </message>
     <message>
         <source>Maintain Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>الحفاظ على نسبة الأبعاد</translation>
     </message>
     <message>
         <source>Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>المرشح:</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>المرشح</translation>
     </message>
     <message>
         <source>Resize in Linear Light</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير الحجم في الضوء الخطي</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو</translation>
     </message>
     <message>
         <source>Deinterlace:</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة التشابك:</translation>
     </message>
     <message>
         <source>Deinterlace</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة التشابك</translation>
     </message>
     <message>
         <source>HDR:</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR:</translation>
     </message>
     <message>
         <source>What becomes of high dynamic range in PNG and TIFF files; other files and the screen show it tone-mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يحدث للمدى الديناميكي العالي في ملفات PNG وTIFF؛ الملفات الأخرى والشاشة تعرضه بتعيين الدرجات</translation>
     </message>
     <message>
         <source>HDR</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR</translation>
     </message>
     <message>
         <source>What becomes of high dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يحدث للمدى الديناميكي العالي</translation>
     </message>
     <message>
         <source>File Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات الملف</translation>
     </message>
     <message>
         <source>JPEG Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>جودة JPEG:</translation>
     </message>
     <message>
         <source>JPEG Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>جودة JPEG</translation>
     </message>
     <message>
         <source>Metadata:</source>
-        <translation type="unfinished"></translation>
+        <translation>البيانات الوصفية:</translation>
     </message>
     <message>
         <source>Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>البيانات الوصفية</translation>
     </message>
     <message>
         <source>16-Bit PNG and TIFF</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG وTIFF بعمق 16 بت</translation>
     </message>
     <message>
         <source>Image Adjustments</source>
-        <translation type="unfinished"></translation>
+        <translation>تعديلات الصورة</translation>
     </message>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>السطوع:</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>السطوع</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>التباين:</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>التباين</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>العلامة المائية</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير</translation>
     </message>
     <message>
         <source>Edit Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير العلامة المائية</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>استعادة الإعدادات الافتراضية</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>[No Watermark]</source>
-        <translation type="unfinished"></translation>
+        <translation>[بلا علامة مائية]</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>المساحة</translation>
     </message>
     <message>
         <source>Lanczos</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanczos</translation>
     </message>
     <message>
         <source>Bicubic</source>
-        <translation type="unfinished"></translation>
+        <translation>ثنائي التكعيب</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>أقرب جار</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>الكل</translation>
     </message>
     <message>
         <source>Without Place</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا المكان</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>تلقائي</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف التشغيل</translation>
     </message>
     <message>
         <source>Tone-Mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>بتعيين الدرجات</translation>
     </message>
     <message>
         <source>As Stored</source>
-        <translation type="unfinished"></translation>
+        <translation>كما هو مخزّن</translation>
     </message>
 </context>
 <context>
@@ -986,769 +987,773 @@
     <message>
         <source> or </source>
         <comment>between two keys</comment>
-        <translation type="unfinished"></translation>
+        <translation> أو </translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>tool tip and keys</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>LanguageMenu</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>اللغة</translation>
     </message>
     <message>
         <source>System Language</source>
-        <translation type="unfinished"></translation>
+        <translation>لغة النظام</translation>
     </message>
     <message>
         <source>%1 shows this language when it is started again.</source>
-        <translation type="unfinished"></translation>
+        <translation>سيظهر %1 بهذه اللغة عند تشغيله مجددًا.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Click to open video</source>
-        <translation type="unfinished"></translation>
+        <translation>انقر لفتح فيديو</translation>
     </message>
     <message>
         <source>Open a video, or drop one here</source>
-        <translation type="unfinished"></translation>
+        <translation>افتح فيديو أو أفلته هنا</translation>
     </message>
     <message>
         <source>Position in the video</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع في الفيديو</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع</translation>
     </message>
     <message>
         <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع. انقر لكتابة موضع آخر: 1:02:03.5, +10s, -2s, f1234 أو 75%</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>المدة</translation>
     </message>
     <message>
         <source>Frame, rate, size and codec</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم الإطار والمعدل والحجم والترميز</translation>
     </message>
     <message>
         <source>Skip back a bit</source>
-        <translation type="unfinished"></translation>
+        <translation>الرجوع قليلاً</translation>
     </message>
     <message>
         <source>Step back one frame</source>
-        <translation type="unfinished"></translation>
+        <translation>الرجوع إطارًا واحدًا</translation>
     </message>
     <message>
         <source>Play/Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل/إيقاف مؤقت</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
-        <translation type="unfinished"></translation>
+        <translation>التقدم إطارًا واحدًا</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
-        <translation type="unfinished"></translation>
+        <translation>التقدم قليلاً</translation>
     </message>
     <message>
         <source>Volume Control</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم في مستوى الصوت</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>أخذ لقطة</translation>
     </message>
     <message>
         <source>Take the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>التقاط الصورة المعروضة على الشاشة</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>اللقطة</translation>
     </message>
     <message>
         <source>What will be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>ما سيُحفظ</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم الأصلي</translation>
     </message>
     <message>
         <source>Save the snapshot in the size of the video</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ اللقطة بحجم الفيديو</translation>
     </message>
     <message>
         <source>Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط الصورة</translation>
     </message>
     <message>
         <source>Image profile</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط الصورة</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير</translation>
     </message>
     <message>
         <source>Edit image profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير أنماط الصورة</translation>
     </message>
     <message>
         <source>Automatic File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم ملف تلقائي</translation>
     </message>
     <message>
         <source>Save without asking, under the next free name</source>
-        <translation type="unfinished"></translation>
+        <translation>الحفظ دون سؤال، بالاسم التالي المتاح</translation>
     </message>
     <message>
         <source>File-name profile</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط اسم الملف</translation>
     </message>
     <message>
         <source>Edit file-name profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير أنماط اسم الملف</translation>
     </message>
     <message>
         <source>Folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد الصور</translation>
     </message>
     <message>
         <source>Output folder</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد الإخراج</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>استعراض</translation>
     </message>
     <message>
         <source>Choose the folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار مجلد الصور</translation>
     </message>
     <message>
         <source>Next:</source>
-        <translation type="unfinished"></translation>
+        <translation>التالي:</translation>
     </message>
     <message>
         <source>Next file name</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم الملف التالي</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ اللقطة</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض</translation>
     </message>
     <message>
         <source>Video Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>عناصر التحكم بالفيديو</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>السرعة</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>المقطع</translation>
     </message>
     <message>
         <source>Deinterlace</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة التشابك</translation>
     </message>
     <message>
         <source>HDR</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>أدوات</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>مساعدة</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح</translation>
     </message>
     <message>
         <source>Open a video</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح فيديو</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>خروج</translation>
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار في المجلد</translation>
     </message>
     <message>
         <source>Show the file that was saved last in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار آخر ملف حُفظ في مجلده</translation>
     </message>
     <message>
         <source>Copy Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ اللقطة</translation>
     </message>
     <message>
         <source>Copy the snapshot as it is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ اللقطة كما تظهر</translation>
     </message>
     <message>
         <source>Copy Full Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ الإطار الكامل</translation>
     </message>
     <message>
         <source>Copy the whole frame, unprocessed</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ الإطار كاملاً دون معالجة</translation>
     </message>
     <message>
         <source>Batch Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع الدفعات</translation>
     </message>
     <message>
         <source>Take series of images from many videos</source>
-        <translation type="unfinished"></translation>
+        <translation>أخذ سلاسل من الصور من فيديوهات كثيرة</translation>
     </message>
     <message>
         <source>Compare Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>مقارنة المرشحات</translation>
     </message>
     <message>
         <source>Documentation &amp;&amp; Support</source>
-        <translation type="unfinished"></translation>
+        <translation>الوثائق والدعم</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>حول</translation>
     </message>
     <message>
         <source>Command Line Options</source>
-        <translation type="unfinished"></translation>
+        <translation>خيارات سطر الأوامر</translation>
     </message>
     <message>
         <source>Step Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>الإطار التالي</translation>
     </message>
     <message>
         <source>Step Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>الإطار السابق</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>تلقائي</translation>
     </message>
     <message>
         <source>Make interlaced pictures that comb whole</source>
-        <translation type="unfinished"></translation>
+        <translation>إصلاح الصور المتشابكة التي تظهر فيها خطوط المشط</translation>
     </message>
     <message>
         <source>Tone-Mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>بتعيين الدرجات</translation>
     </message>
     <message>
         <source>Bring high dynamic range to what every screen shows</source>
-        <translation type="unfinished"></translation>
+        <translation>تحويل المدى الديناميكي العالي إلى ما تعرضه كل شاشة</translation>
     </message>
     <message>
         <source>As Stored</source>
-        <translation type="unfinished"></translation>
+        <translation>كما هو مخزّن</translation>
     </message>
     <message>
         <source>Keep the values of high dynamic range in files that can hold them, for grading</source>
-        <translation type="unfinished"></translation>
+        <translation>الاحتفاظ بقيم المدى الديناميكي العالي في الملفات التي تتسع لها، لتدريج الألوان</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل</translation>
     </message>
     <message>
         <source>Take each picture for an interlaced one that combs</source>
-        <translation type="unfinished"></translation>
+        <translation>معاملة كل صورة كصورة متشابكة تظهر فيها خطوط المشط</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف التشغيل</translation>
     </message>
     <message>
         <source>Leave pictures as they are stored</source>
-        <translation type="unfinished"></translation>
+        <translation>ترك الصور كما هي مخزّنة</translation>
     </message>
     <message>
         <source>Step Field Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>الحقل التالي</translation>
     </message>
     <message>
         <source>Step forward to the next moment of an interlaced video</source>
-        <translation type="unfinished"></translation>
+        <translation>التقدم إلى اللحظة التالية في فيديو متشابك</translation>
     </message>
     <message>
         <source>Step Field Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>الحقل السابق</translation>
     </message>
     <message>
         <source>Step back to the moment before of an interlaced video</source>
-        <translation type="unfinished"></translation>
+        <translation>الرجوع إلى اللحظة السابقة في فيديو متشابك</translation>
     </message>
     <message>
         <source>Skip Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>القفز إلى الأمام</translation>
     </message>
     <message>
         <source>Skip Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>القفز إلى الخلف</translation>
     </message>
     <message>
         <source>Play / Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل / إيقاف مؤقت</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل أو إيقاف مؤقت</translation>
     </message>
     <message>
         <source>Take Snapshot and Save</source>
-        <translation type="unfinished"></translation>
+        <translation>أخذ لقطة وحفظها</translation>
     </message>
     <message>
         <source>Take the picture on screen and save it at once, under the next automatic name</source>
-        <translation type="unfinished"></translation>
+        <translation>التقاط الصورة المعروضة وحفظها فورًا بالاسم التلقائي التالي</translation>
     </message>
     <message>
         <source>Actual Size</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم الفعلي</translation>
     </message>
     <message>
         <source>Show the picture pixel by pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الصورة بكسل ببكسل</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>ملء الشاشة</translation>
     </message>
     <message>
         <source>Show the player on the whole screen; Escape leaves it</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض المشغّل على كامل الشاشة؛ مفتاح Escape للخروج</translation>
     </message>
     <message>
         <source>Skip Forward 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>التقدم 10 ثوانٍ</translation>
     </message>
     <message>
         <source>Skip forward ten seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>التقدم عشر ثوانٍ</translation>
     </message>
     <message>
         <source>Skip Backward 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>الرجوع 10 ثوانٍ</translation>
     </message>
     <message>
         <source>Skip back ten seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>الرجوع عشر ثوانٍ</translation>
     </message>
     <message>
         <source>Go to First Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>الذهاب إلى أول إطار</translation>
     </message>
     <message>
         <source>Show the first frame</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض أول إطار</translation>
     </message>
     <message>
         <source>Go to Last Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>الذهاب إلى آخر إطار</translation>
     </message>
     <message>
         <source>Show the last frame</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض آخر إطار</translation>
     </message>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>الذهاب إلى وقت</translation>
     </message>
     <message>
         <source>Type the time or the frame to go to</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة الوقت أو الإطار المطلوب</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>أبطأ</translation>
     </message>
     <message>
         <source>Play slower, down to a tenth of the speed</source>
-        <translation type="unfinished"></translation>
+        <translation>التشغيل أبطأ، حتى عُشر السرعة</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>أسرع</translation>
     </message>
     <message>
         <source>Play faster, up to eight times</source>
-        <translation type="unfinished"></translation>
+        <translation>التشغيل أسرع، حتى ثمانية أضعاف</translation>
     </message>
     <message>
         <source>Normal Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>السرعة العادية</translation>
     </message>
     <message>
         <source>Play as fast as it was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>التشغيل بسرعة التسجيل</translation>
     </message>
     <message>
         <source>Mark Start of Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>تعليم بداية المقطع</translation>
     </message>
     <message>
         <source>The marked stretch starts with the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>يبدأ المقطع المعلّم بالصورة المعروضة</translation>
     </message>
     <message>
         <source>Mark End of Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>تعليم نهاية المقطع</translation>
     </message>
     <message>
         <source>The marked stretch ends with the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>ينتهي المقطع المعلّم بالصورة المعروضة</translation>
     </message>
     <message>
         <source>Loop Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار المقطع</translation>
     </message>
     <message>
         <source>Play the marked stretch over and over</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل المقطع المعلّم مرارًا</translation>
     </message>
     <message>
         <source>Clear Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح المقطع</translation>
     </message>
     <message>
         <source>Forget the marked stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>نسيان المقطع المعلّم</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>كتم الصوت</translation>
     </message>
     <message>
         <source>Silence the sound</source>
-        <translation type="unfinished"></translation>
+        <translation>إسكات الصوت</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>اختصارات لوحة المفاتيح</translation>
     </message>
     <message>
         <source>Show all keys</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض جميع المفاتيح</translation>
     </message>
     <message>
         <source>Save Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ اللقطة</translation>
     </message>
     <message>
         <source>Morvantile error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في Morvantile</translation>
     </message>
     <message>
         <source>Can not create video renderer</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر إنشاء عارض الفيديو</translation>
     </message>
     <message>
         <source>Best of These…</source>
-        <translation type="unfinished"></translation>
+        <translation>أفضل الإطارات…</translation>
     </message>
     <message>
         <source>Propose the sharpest frames around this one</source>
-        <translation type="unfinished"></translation>
+        <translation>اقتراح أوضح الإطارات حول هذا الإطار</translation>
     </message>
     <message>
         <source>Unsaved Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>لقطة غير محفوظة</translation>
     </message>
     <message>
         <source>The snapshot has not been saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُحفظ اللقطة.</translation>
     </message>
     <message numerus="yes">
         <source>%n snapshots have not been saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم تُحفظ %n لقطة.</numerusform>
+            <numerusform>لم تُحفظ لقطة واحدة (%n).</numerusform>
+            <numerusform>لم تُحفظ لقطتان (%n).</numerusform>
+            <numerusform>لم تُحفظ %n لقطات.</numerusform>
+            <numerusform>لم تُحفظ %n لقطة.</numerusform>
+            <numerusform>لم تُحفظ %n لقطة.</numerusform>
         </translation>
     </message>
     <message>
         <source>It will be lost unless you save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ستُفقد ما لم تحفظها.</translation>
     </message>
     <message>
         <source>They will be lost unless you save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>ستُفقد ما لم تحفظها.</translation>
     </message>
     <message>
         <source>Waiting until snapshots are written…</source>
-        <translation type="unfinished"></translation>
+        <translation>انتظار كتابة اللقطات…</translation>
     </message>
     <message>
         <source>The picture of this snapshot cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تعد صورة هذه اللقطة قابلة للقراءة.</translation>
     </message>
     <message>
         <source>Saved %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظ %1 من %2</translation>
     </message>
     <message>
         <source>The filmstrip is full: save or delete some of its snapshots.</source>
-        <translation type="unfinished"></translation>
+        <translation>شريط اللقطات ممتلئ: احفظ بعض لقطاته أو احذفها.</translation>
     </message>
     <message>
         <source>%1 is not there any more; this is its snapshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد %1 موجودًا؛ هذه لقطته.</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 عند %2</translation>
     </message>
     <message>
         <source>Save Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ اللقطات</translation>
     </message>
     <message>
         <source>Saved 1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظت لقطة واحدة</translation>
     </message>
     <message numerus="yes">
         <source>Saved %n snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>حُفظت %n لقطة</numerusform>
+            <numerusform>حُفظت لقطة واحدة (%n)</numerusform>
+            <numerusform>حُفظت لقطتان (%n)</numerusform>
+            <numerusform>حُفظت %n لقطات</numerusform>
+            <numerusform>حُفظت %n لقطة</numerusform>
+            <numerusform>حُفظت %n لقطة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %n could not be saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1، وتعذر حفظ %n</numerusform>
+            <numerusform>%1، وتعذر حفظ %n</numerusform>
+            <numerusform>%1، وتعذر حفظ %n</numerusform>
+            <numerusform>%1، وتعذر حفظ %n</numerusform>
+            <numerusform>%1، وتعذر حفظ %n</numerusform>
+            <numerusform>%1، وتعذر حفظ %n</numerusform>
         </translation>
     </message>
     <message>
         <source>Morvantile - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – %1</translation>
     </message>
     <message>
         <source>Morvantile</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>فيديو</translation>
     </message>
     <message>
         <source>Plays and pauses</source>
-        <translation type="unfinished"></translation>
+        <translation>يشغّل ويوقف مؤقتًا</translation>
     </message>
     <message>
         <source>%1
 cannot be played as a video.
 
 Click to open another video</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+لا يمكن تشغيله كفيديو.
+
+انقر لفتح فيديو آخر</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Open Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح الأخيرة</translation>
     </message>
     <message>
         <source>None of them is there</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء منها موجود</translation>
     </message>
     <message>
         <source>Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح القائمة</translation>
     </message>
     <message>
         <source>Morvantile video capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – التقاط الفيديو</translation>
     </message>
     <message>
         <source>Failed to capture video frame</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر التقاط إطار الفيديو</translation>
     </message>
     <message>
         <source>No image of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لا صورة من %1: %2</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظ %1</translation>
     </message>
     <message>
         <source>Could not save %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر حفظ %1</translation>
     </message>
     <message>
         <source>Unknown Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد غير معروف</translation>
     </message>
     <message>
         <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation type="unfinished"></translation>
+        <translation>أدخل مجلد إخراج صالحًا في قسم «اسم ملف تلقائي».</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>المجلد غير موجود</translation>
     </message>
     <message>
         <source>Open Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح مجلد</translation>
     </message>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 موجود بالفعل.
+هل تريد استبداله؟</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Create folder?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد إنشاء المجلد؟</translation>
     </message>
 </context>
 <context>
     <name>PlayerSteering</name>
     <message>
         <source>Speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>السرعة %1</translation>
     </message>
     <message>
         <source>The stretch starts at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يبدأ المقطع عند %1</translation>
     </message>
     <message>
         <source>The stretch ends at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ينتهي المقطع عند %1</translation>
     </message>
     <message>
         <source>write 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتب 1:02:03.5, +10s, -2s, f1234 أو 75%</translation>
     </message>
     <message>
         <source>Counting the frames…</source>
-        <translation type="unfinished"></translation>
+        <translation>عدّ الإطارات…</translation>
     </message>
     <message>
         <source>the frames cannot be counted</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن عدّ الإطارات</translation>
     </message>
     <message>
         <source>the video ends before it</source>
-        <translation type="unfinished"></translation>
+        <translation>ينتهي الفيديو قبله</translation>
     </message>
     <message>
         <source>No place in the video: “%1”; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لا موضع كهذا في الفيديو: «%1»؛ %2</translation>
     </message>
 </context>
 <context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>النمط</translation>
     </message>
     <message>
         <source>Rename, duplicate or delete this profile</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة تسمية هذا النمط أو تكراره أو حذفه</translation>
     </message>
     <message>
         <source>[Type to Name Profile]</source>
-        <translation type="unfinished"></translation>
+        <translation>[اكتب اسم النمط]</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة تسمية…</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار</translation>
     </message>
     <message>
         <source>Delete…</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف…</translation>
     </message>
     <message>
         <source>Replace Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>استبدال النمط</translation>
     </message>
     <message>
         <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجد نمط «%1» بالفعل. هل تريد استبدال إعداداته بهذه؟</translation>
     </message>
     <message>
         <source>Rename Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة تسمية النمط</translation>
     </message>
     <message>
         <source>New name:</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم الجديد:</translation>
     </message>
     <message>
         <source>There is a profile “%1” already.</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجد نمط «%1» بالفعل.</translation>
     </message>
     <message>
         <source>%1 copy</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخة من %1</translation>
     </message>
     <message>
         <source>%1 copy %2</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخة من %1 (%2)</translation>
     </message>
     <message>
         <source>Delete Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف النمط</translation>
     </message>
     <message>
         <source>Delete the profile “%1”?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد حذف النمط «%1»؟</translation>
     </message>
 </context>
 <context>
@@ -1757,520 +1762,523 @@ Do you want to replace it?</source>
         <source>I&apos;m sorry,
 
 Morvantile requires macOS 10.10 (Yosemite) or higher</source>
-        <translation type="unfinished"></translation>
+        <translation>عذرًا،
+
+يتطلب Morvantile نظام macOS 10.10 (Yosemite) أو أحدث</translation>
     </message>
     <message>
         <source>Unsupported OS</source>
-        <translation type="unfinished"></translation>
+        <translation>نظام غير مدعوم</translation>
     </message>
 </context>
 <context>
     <name>QtAV</name>
     <message>
         <source>The file is damaged, or no video.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف تالف أو ليس فيديو.</translation>
     </message>
     <message>
         <source>The file does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف غير موجود.</translation>
     </message>
     <message>
         <source>You are not allowed to read the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسمح لك بقراءة الملف.</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد ذاكرة كافية.</translation>
     </message>
     <message>
         <source>This kind of video is not supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا النوع من الفيديو غير مدعوم.</translation>
     </message>
     <message>
         <source>The file cannot be read (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن قراءة الملف (%1).</translation>
     </message>
 </context>
 <context>
     <name>QtAV::AVDemuxer</name>
     <message>
         <source>Opening was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُلغي الفتح.</translation>
     </message>
     <message>
         <source>This is a list of files, not a video.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذه قائمة ملفات وليست فيديو.</translation>
     </message>
     <message>
         <source>The file is damaged: it declares more pictures than it can hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف تالف: يعلن عن صور أكثر مما يمكن أن يحتويه.</translation>
     </message>
     <message>
         <source>The file was overwritten by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>استُبدل محتوى الملف بواسطة برنامج آخر.</translation>
     </message>
     <message>
         <source>The file does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف غير موجود.</translation>
     </message>
     <message>
         <source>This is not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا ليس ملفًا.</translation>
     </message>
 </context>
 <context>
     <name>QtAV::AVPlayer</name>
     <message>
         <source>The file cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد الملف قابلاً للقراءة.</translation>
     </message>
     <message>
         <source>The video cannot be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن فك ترميز الفيديو.</translation>
     </message>
     <message>
         <source>The frame cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد الإطار قابلاً للقراءة.</translation>
     </message>
     <message>
         <source>The sound cannot be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن فك ترميز الصوت.</translation>
     </message>
     <message>
         <source>There is no video in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد فيديو في الملف.</translation>
     </message>
     <message>
         <source>The picture is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>الصورة تالفة.</translation>
     </message>
 </context>
 <context>
     <name>QtAV::VideoDecoder</name>
     <message>
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور كبيرة جدًا: صورة بحجم %1 × %2 تحتاج إلى %3 من الذاكرة، والمسموح %4.</translation>
     </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>
     <message>
         <source>The video is HDR10+; its pictures are made of the HDR10 in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>الفيديو بصيغة HDR10+؛ تُنشأ صوره من HDR10 الذي يحتويه.</translation>
     </message>
     <message>
         <source>The video is Dolby Vision; its pictures are made of the base layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>الفيديو بصيغة Dolby Vision؛ تُنشأ صوره من الطبقة الأساسية.</translation>
     </message>
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
-        <translation type="unfinished"></translation>
+        <translation>الفيديو بصيغة Dolby Vision بلا طبقة أساسية يمكن لبرامج أخرى عرضها؛ ألوان صوره غير صحيحة.</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن قراءة الإعدادات في %1. حُفظت باسم %2.</translation>
     </message>
 </context>
 <context>
     <name>Shortcuts</name>
     <message>
         <source>Click on the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>النقر على شريط التمرير</translation>
     </message>
     <message>
         <source>Go there</source>
-        <translation type="unfinished"></translation>
+        <translation>الذهاب إلى هناك</translation>
     </message>
     <message>
         <source>Shift and drag on the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift والسحب على شريط التمرير</translation>
     </message>
     <message>
         <source>Go frame by frame</source>
-        <translation type="unfinished"></translation>
+        <translation>الانتقال إطارًا بإطار</translation>
     </message>
     <message>
         <source>Wheel over the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>العجلة فوق شريط التمرير</translation>
     </message>
     <message>
         <source>Click on the time</source>
-        <translation type="unfinished"></translation>
+        <translation>النقر على الوقت</translation>
     </message>
     <message>
         <source>Type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة وقت آخر: 1:02:03.5, +10s, -2s, f1234 أو 75%</translation>
     </message>
     <message>
         <source>Mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>الفأرة</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>اختصارات لوحة المفاتيح</translation>
     </message>
 </context>
 <context>
     <name>SmartFileDialog</name>
     <message>
         <source>All Files</source>
-        <translation type="unfinished"></translation>
+        <translation>جميع الملفات</translation>
     </message>
     <message>
         <source>Video Files</source>
-        <translation type="unfinished"></translation>
+        <translation>ملفات الفيديو</translation>
     </message>
     <message>
         <source>Image Files</source>
-        <translation type="unfinished"></translation>
+        <translation>ملفات الصور</translation>
     </message>
 </context>
 <context>
     <name>SnapshotShelf</name>
     <message>
         <source>Snapshots are not kept after this window is closed: another window, or the disk, does not let it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لن تبقى اللقطات بعد إغلاق هذه النافذة: نافذة أخرى أو القرص لا يسمح بذلك.</translation>
     </message>
     <message>
         <source>The list of unsaved snapshots was damaged. It is now, with its files, in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>كانت قائمة اللقطات غير المحفوظة تالفة. وهي الآن مع ملفاتها في %1</translation>
     </message>
     <message>
         <source>Unsaved snapshots could not be written to the disk, and are lost when the window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت كتابة اللقطات غير المحفوظة على القرص، وستُفقد عند إغلاق النافذة.</translation>
     </message>
     <message>
         <source>saved</source>
-        <translation type="unfinished"></translation>
+        <translation>محفوظة</translation>
     </message>
     <message>
         <source>not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>غير محفوظة</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2، %3، %4</translation>
     </message>
     <message>
         <source>%1 at %2
 %3, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 عند %2
+%3، %4</translation>
     </message>
 </context>
 <context>
     <name>SnapshotSummary</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 من %2</translation>
     </message>
     <message>
         <source>watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>علامة مائية</translation>
     </message>
 </context>
 <context>
     <name>TimecodeField</name>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع</translation>
     </message>
     <message>
         <source>Go to time</source>
-        <translation type="unfinished"></translation>
+        <translation>الذهاب إلى وقت</translation>
     </message>
 </context>
 <context>
     <name>VideoFactsText</name>
     <message>
         <source>%1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 إطار/ث</translation>
     </message>
     <message>
         <source>speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>السرعة %1</translation>
     </message>
 </context>
 <context>
     <name>VolumePopup</name>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>مستوى الصوت</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>كتم الصوت</translation>
     </message>
 </context>
 <context>
     <name>WatermarkProfileDialog</name>
     <message>
         <source>Watermark Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات العلامة المائية</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار النمط</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>النص</translation>
     </message>
     <message>
         <source>Watermark text</source>
-        <translation type="unfinished"></translation>
+        <translation>نص العلامة المائية</translation>
     </message>
     <message>
         <source>Text of the watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>النص الذي تعرضه العلامة المائية</translation>
     </message>
     <message>
         <source>Add Timestamp</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة طابع زمني</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة</translation>
     </message>
     <message>
         <source>Chosen picture</source>
-        <translation type="unfinished"></translation>
+        <translation>الصورة المختارة</translation>
     </message>
     <message>
         <source>Picture file</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف الصورة</translation>
     </message>
     <message>
         <source>No picture chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُختر صورة</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>استعراض</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>التأثيرات</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>الشفافية</translation>
     </message>
     <message>
         <source>Invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>غير مرئية</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>العتامة</translation>
     </message>
     <message>
         <source>Opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>معتمة</translation>
     </message>
     <message>
         <source>Text Format</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق النص</translation>
     </message>
     <message>
         <source>Text font</source>
-        <translation type="unfinished"></translation>
+        <translation>خط النص</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>الخط</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>لون النص</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون</translation>
     </message>
     <message>
         <source>Text Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>ظل النص</translation>
     </message>
     <message>
         <source>Shadow color</source>
-        <translation type="unfinished"></translation>
+        <translation>لون الظل</translation>
     </message>
     <message>
         <source>Shadow Color</source>
-        <translation type="unfinished"></translation>
+        <translation>لون الظل</translation>
     </message>
     <message>
         <source>X Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>إزاحة X</translation>
     </message>
     <message>
         <source>Shadow X Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>إزاحة الظل X</translation>
     </message>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation> px</translation>
     </message>
     <message>
         <source>Y Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>إزاحة Y</translation>
     </message>
     <message>
         <source>Shadow Y Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>إزاحة الظل Y</translation>
     </message>
     <message>
         <source>Position + Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع والمعاينة</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>معاينة</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>المحاذاة</translation>
     </message>
     <message>
         <source>X Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>هامش X</translation>
     </message>
     <message>
         <source>Y Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>هامش Y</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Invalid Image</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة غير صالحة</translation>
     </message>
     <message>
         <source>Could not open image. Please try another.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر فتح الصورة. جرّب صورة أخرى.</translation>
     </message>
     <message>
         <source>Top Left</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى اليسار</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى</translation>
     </message>
     <message>
         <source>Top Right</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى اليمين</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>وسط</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>يمين</translation>
     </message>
     <message>
         <source>Bottom Left</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل اليسار</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل</translation>
     </message>
     <message>
         <source>Bottom Right</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل اليمين</translation>
     </message>
 </context>
 <context>
     <name>imaging</name>
     <message>
         <source>There is no such picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد صورة كهذه.</translation>
     </message>
     <message>
         <source>The picture does not say which frame of which video it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تذكر الصورة من أي إطار ومن أي فيديو هي.</translation>
     </message>
     <message>
         <source>There is no picture, perhaps for a lack of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد صورة، ربما لنقص الذاكرة</translation>
     </message>
     <message>
         <source>Not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>الذاكرة غير كافية</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن ترميز الصورة</translation>
     </message>
     <message>
         <source>Your quota is used up: %1 are missing for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>استُنفدت حصتك: ينقص %1 من أجل %2</translation>
     </message>
     <message>
         <source>The disk is full: %1 are missing for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>القرص ممتلئ: ينقص %1 من أجل %2</translation>
     </message>
     <message>
         <source>The folder is gone: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد المجلد موجودًا: %1</translation>
     </message>
     <message>
         <source>The folder does not let you write: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يسمح لك المجلد بالكتابة: %1</translation>
     </message>
     <message>
         <source>The disk is read-only: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>القرص للقراءة فقط: %1</translation>
     </message>
     <message>
         <source>Cannot be written: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت الكتابة: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>series</name>
     <message>
         <source>The picture could not be encoded as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر ترميز الصورة بصيغة %1.</translation>
     </message>
     <message>
         <source>All frames are black, blurred or at a cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>جميع الإطارات سوداء أو ضبابية أو عند قطع.</translation>
     </message>
     <message>
         <source>The video has no frame %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحتوي الفيديو على الإطار %1.</translation>
     </message>
     <message>
         <source>Given up after %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>توقفت المحاولة بعد %1 ثانية.</translation>
     </message>
     <message>
         <source>There is no picture at this position.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد صورة عند هذا الموضع.</translation>
     </message>
 </context>
 </TS>

@@ -5,450 +5,451 @@
     <name>AboutDialog</name>
     <message>
         <source>About Morvantile</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Morvantile</translation>
     </message>
     <message>
         <source>Morvantile icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol von Morvantile</translation>
     </message>
     <message>
         <source>Morvantile - Video Frame Capture Software</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – Einzelbilder aus Videos aufnehmen</translation>
     </message>
     <message>
         <source>Please send me your questions or feature suggestions!</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragen und Vorschläge sind jederzeit willkommen!</translation>
     </message>
     <message>
         <source>Version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version: %1</translation>
     </message>
 </context>
 <context>
     <name>BatchModeDialog</name>
     <message>
         <source>Morvantile Batch Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – Stapelmodus</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>Load Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video laden</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Progress of reading the videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt beim Lesen der Videos</translation>
     </message>
     <message>
         <source>Stop Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen anhalten</translation>
     </message>
     <message>
         <source>Keep the videos that have been read and drop the others</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gelesenen Videos behalten und die übrigen verwerfen</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>Selected Video File</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewähltes Video</translation>
     </message>
     <message>
         <source>[No Video Selected]</source>
-        <translation type="unfinished"></translation>
+        <translation>[Kein Video ausgewählt]</translation>
     </message>
     <message>
         <source>Image Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildeinstellungen</translation>
     </message>
     <message>
         <source>Image Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildprofil:</translation>
     </message>
     <message>
         <source>Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildprofil</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Edit Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildprofil bearbeiten</translation>
     </message>
     <message>
         <source>Edit the image profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bildprofil bearbeiten</translation>
     </message>
     <message>
         <source>File Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiausgabe</translation>
     </message>
     <message>
         <source>FileName Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateinamenprofil:</translation>
     </message>
     <message>
         <source>FileName Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateinamenprofil</translation>
     </message>
     <message>
         <source>Edit FileName Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateinamenprofil bearbeiten</translation>
     </message>
     <message>
         <source>Edit the file name profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dateinamenprofil bearbeiten</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel:</translation>
     </message>
     <message>
         <source>Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner:</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner auswählen</translation>
     </message>
     <message>
         <source>Select the folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner für die Bilder auswählen</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmeabstand</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstelle</translation>
     </message>
     <message>
         <source>Make a number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Anzahl von Bildern erstellen</translation>
     </message>
     <message>
         <source>Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Bilder</translation>
     </message>
     <message>
         <source>images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Make an image every so many milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle so viele Millisekunden ein Bild erstellen</translation>
     </message>
     <message>
         <source>Milliseconds from image to image</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisekunden von Bild zu Bild</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisekunden</translation>
     </message>
     <message>
         <source>Single shot at</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelnes Bild</translation>
     </message>
     <message>
         <source>Make a single image</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein einzelnes Bild erstellen</translation>
     </message>
     <message>
         <source>Place of the single image</source>
-        <translation type="unfinished"></translation>
+        <translation>Stelle des einzelnen Bildes</translation>
     </message>
     <message>
         <source>Takes exactly the frames at these positions, on all processor cores. Without it, a key frame near a position is taken instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt genau die Einzelbilder an diesen Positionen, auf allen Prozessorkernen. Sonst wird stattdessen ein Schlüsselbild nahe der Position genommen.</translation>
     </message>
     <message>
         <source>Exact frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Exakte Einzelbilder</translation>
     </message>
     <message>
         <source>Skip Milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisekunden überspringen</translation>
     </message>
     <message>
         <source>Skip front</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Anfang</translation>
     </message>
     <message>
         <source>Milliseconds to skip at the front</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisekunden, die am Anfang übersprungen werden</translation>
     </message>
     <message>
         <source>Skip back</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Ende</translation>
     </message>
     <message>
         <source>Milliseconds to skip at the back</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisekunden, die am Ende übersprungen werden</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Use for New Videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Für neue Videos verwenden</translation>
     </message>
     <message>
         <source>Videos that are added later begin with the settings of the selected one</source>
-        <translation type="unfinished"></translation>
+        <translation>Später hinzugefügte Videos beginnen mit den Einstellungen des ausgewählten</translation>
     </message>
     <message>
         <source>What the batch will make</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Stapel erstellen wird</translation>
     </message>
     <message>
         <source>Retry Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagene wiederholen</translation>
     </message>
     <message>
         <source>Run the videos for which something failed once more</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Videos, bei denen etwas fehlgeschlagen ist, noch einmal verarbeiten</translation>
     </message>
     <message>
         <source>Load videos, or drop them here</source>
-        <translation type="unfinished"></translation>
+        <translation>Videos laden oder hier ablegen</translation>
     </message>
     <message>
         <source>front</source>
-        <translation type="unfinished"></translation>
+        <translation>am Anfang</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>in der Mitte</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished"></translation>
+        <translation>am Ende</translation>
     </message>
     <message>
         <source>The batch can start when all videos have been read</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stapel kann starten, sobald alle Videos gelesen sind</translation>
     </message>
     <message>
         <source>Reading video %1 of %2:</source>
-        <translation type="unfinished"></translation>
+        <translation>Video %1 von %2 wird gelesen:</translation>
     </message>
     <message numerus="yes">
         <source>%1 images</source>
         <comment>in: About %1 of %n videos</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Bild</numerusform>
+            <numerusform>%1 Bilder</numerusform>
         </translation>
     </message>
     <message>
         <source>About %1 of 1 video</source>
-        <translation type="unfinished"></translation>
+        <translation>Etwa %1 aus 1 Video</translation>
     </message>
     <message numerus="yes">
         <source>About %1 of %n videos</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Etwa %1 aus %n Video</numerusform>
+            <numerusform>Etwa %1 aus %n Videos</numerusform>
         </translation>
     </message>
     <message>
         <source>The folder for the images does not exist. Create it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner für die Bilder ist nicht vorhanden. Soll er erstellt werden?</translation>
     </message>
     <message>
         <source>These folders for the images do not exist. Create them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Ordner für die Bilder sind nicht vorhanden. Sollen sie erstellt werden?</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner nicht vorhanden</translation>
     </message>
     <message>
         <source>%1 could not be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht erstellt werden.</translation>
     </message>
     <message>
         <source>Many Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Viele Bilder</translation>
     </message>
     <message numerus="yes">
         <source>This makes about %1 images. Start?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das ergibt etwa %1 Bild. Starten?</numerusform>
+            <numerusform>Das ergibt etwa %1 Bilder. Starten?</numerusform>
         </translation>
     </message>
     <message>
         <source>Multiple</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere</translation>
     </message>
 </context>
 <context>
     <name>BatchModeListModel</name>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiname</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <source>Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand</translation>
     </message>
     <message>
         <source>Output Example</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabebeispiel</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
 </context>
 <context>
     <name>BatchProcessingDialog</name>
     <message>
         <source>Batch Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>Stapelverarbeitung</translation>
     </message>
     <message>
         <source>Current video</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelles Video</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Progress of the current video</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt des aktuellen Videos</translation>
     </message>
     <message>
         <source>This video: %p%</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Video: %p%</translation>
     </message>
     <message>
         <source>Progress of all videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt aller Videos</translation>
     </message>
     <message>
         <source>All videos: %p%</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Videos: %p%</translation>
     </message>
     <message>
         <source>Last image</source>
-        <translation type="unfinished"></translation>
+        <translation>Letztes Bild</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Cancel Batch Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>Stapelverarbeitung abbrechen</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel batch processing?
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Soll die Stapelverarbeitung wirklich abgebrochen werden?
+</translation>
     </message>
     <message>
         <source>No Room for the Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Platz für die Bilder</translation>
     </message>
     <message>
         <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaffen Sie Platz und versuchen Sie es noch einmal, oder brechen Sie ab. Was gespeichert ist, bleibt.</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch einmal versuchen</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten</translation>
     </message>
     <message>
         <source>Stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird angehalten …</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>BatchReport</name>
     <message>
         <source>1 image</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Bild</translation>
     </message>
     <message numerus="yes">
         <source>%n images</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancelled after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen nach %1</translation>
     </message>
     <message>
         <source>Finished: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig: %1</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n fehlgeschlagen</numerusform>
+            <numerusform>%1, %n fehlgeschlagen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (and %n more of this kind)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (und %n weiterer dieser Art)</numerusform>
+            <numerusform>%1 (und %n weitere dieser Art)</numerusform>
         </translation>
     </message>
 </context>
@@ -456,238 +457,238 @@
     <name>BatchWorker</name>
     <message>
         <source>Could not open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>Frame extraction error %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Entnehmen des Einzelbilds: %1</translation>
     </message>
     <message>
         <source>no picture found at position %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Bild an Position %1 gefunden</translation>
     </message>
     <message>
         <source>Could not make %1 from position %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte aus Position %2 nicht erstellt werden: %3</translation>
     </message>
     <message>
         <source>Could not save %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht gespeichert werden</translation>
     </message>
     <message>
         <source>Saving: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern: %1</translation>
     </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
     <message>
         <source>Every %1ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 ms</translation>
     </message>
     <message numerus="yes">
         <source>%n images</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
         </translation>
     </message>
     <message>
         <source>Single front</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzeln am Anfang</translation>
     </message>
     <message>
         <source>Single middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzeln in der Mitte</translation>
     </message>
     <message>
         <source>Single back</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzeln am Ende</translation>
     </message>
     <message>
         <source>Single </source>
-        <translation type="unfinished"></translation>
+        <translation>Einzeln </translation>
     </message>
 </context>
 <context>
     <name>BestFramesDialog</name>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschuss aufnehmen</translation>
     </message>
     <message>
         <source>Best of These</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste Bilder</translation>
     </message>
     <message>
         <source>Best frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste Einzelbilder</translation>
     </message>
     <message>
         <source>Take a snapshot of the selected frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ausgewählte Einzelbild aufnehmen</translation>
     </message>
     <message>
         <source>Looking for the sharpest frames from %1 to %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die schärfsten Einzelbilder von %1 bis %2 werden gesucht …</translation>
     </message>
     <message>
         <source>All frames here are black, blurred or at a cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einzelbilder hier sind schwarz, unscharf oder an einem Schnitt.</translation>
     </message>
     <message>
         <source>A click goes to the frame, a double click takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick geht zum Einzelbild, ein Doppelklick nimmt es auf.</translation>
     </message>
 </context>
 <context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachher</translation>
     </message>
 </context>
 <context>
     <name>FileNameProfileDialog</name>
     <message>
         <source>FileName Profile Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen der Dateinamenprofile</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil auswählen</translation>
     </message>
     <message>
         <source>FileName Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufbau des Dateinamens</translation>
     </message>
     <message>
         <source>Prefix:</source>
-        <translation type="unfinished"></translation>
+        <translation>Präfix:</translation>
     </message>
     <message>
         <source>Prefix</source>
-        <translation type="unfinished"></translation>
+        <translation>Präfix</translation>
     </message>
     <message>
         <source>FileName:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiname:</translation>
     </message>
     <message>
         <source>FileName</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiname</translation>
     </message>
     <message>
         <source>Suffix:</source>
-        <translation type="unfinished"></translation>
+        <translation>Suffix:</translation>
     </message>
     <message>
         <source>Suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>Suffix</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ:</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Example Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel</translation>
     </message>
     <message>
         <source>Example Video:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispielvideo:</translation>
     </message>
     <message>
         <source>Example Output:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe:</translation>
     </message>
     <message>
         <source>For Batch Mode when only a single image is requested.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für den Stapelmodus, wenn nur ein einzelnes Bild verlangt wird.</translation>
     </message>
     <message>
         <source>Single Shot:</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelnes Bild:</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Standard zurücksetzen</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>Filmstrip</name>
     <message>
         <source>Delete 1 Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Schnappschuss löschen</translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Schnappschuss löschen</numerusform>
+            <numerusform>%n Schnappschüsse löschen</numerusform>
         </translation>
     </message>
     <message>
         <source>Save All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle speichern</translation>
     </message>
     <message>
         <source>Filmstrip</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmstreifen</translation>
     </message>
     <message>
         <source>Save all snapshots that are not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle noch nicht gespeicherten Schnappschüsse speichern</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>Delete Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschüsse löschen</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>All saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle gespeichert</translation>
     </message>
     <message numerus="yes">
         <source>%n not saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nicht gespeichert</numerusform>
+            <numerusform>%n nicht gespeichert</numerusform>
         </translation>
     </message>
 </context>
@@ -695,254 +696,254 @@
     <name>ImageFiltersDialog</name>
     <message>
         <source>Compare Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter vergleichen</translation>
     </message>
     <message>
         <source>Before and after</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher und nachher</translation>
     </message>
     <message>
         <source>Drag the line to compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Linie ziehen, um zu vergleichen</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrast</translation>
     </message>
     <message>
         <source>Filter for another size</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter für eine andere Größe</translation>
     </message>
     <message>
         <source>Apply to Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>In das Profil übernehmen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Fläche</translation>
     </message>
     <message>
         <source>Lanczos</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanczos</translation>
     </message>
     <message>
         <source>Bicubic</source>
-        <translation type="unfinished"></translation>
+        <translation>Bikubisch</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Nachbar</translation>
     </message>
     <message>
         <source>Put these values into the image profile “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Werte in das Bildprofil „%1“ übernehmen</translation>
     </message>
 </context>
 <context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen der Bildprofile</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil auswählen</translation>
     </message>
     <message>
         <source>Image Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildgröße</translation>
     </message>
     <message>
         <source>Same Size as Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleiche Größe wie das Video</translation>
     </message>
     <message>
         <source>Image Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildbreite:</translation>
     </message>
     <message>
         <source>Image Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildbreite</translation>
     </message>
     <message>
         <source>Image Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildhöhe:</translation>
     </message>
     <message>
         <source>Image Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildhöhe</translation>
     </message>
     <message>
         <source>Maintain Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenverhältnis beibehalten</translation>
     </message>
     <message>
         <source>Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter:</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Resize in Linear Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe in linearem Licht ändern</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Deinterlace:</source>
-        <translation type="unfinished"></translation>
+        <translation>Deinterlacing:</translation>
     </message>
     <message>
         <source>Deinterlace</source>
-        <translation type="unfinished"></translation>
+        <translation>Deinterlacing</translation>
     </message>
     <message>
         <source>HDR:</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR:</translation>
     </message>
     <message>
         <source>What becomes of high dynamic range in PNG and TIFF files; other files and the screen show it tone-mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Was aus hohem Dynamikumfang in PNG- und TIFF-Dateien wird; andere Dateien und der Bildschirm zeigen ihn mit Tone-Mapping</translation>
     </message>
     <message>
         <source>HDR</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR</translation>
     </message>
     <message>
         <source>What becomes of high dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>Was aus hohem Dynamikumfang wird</translation>
     </message>
     <message>
         <source>File Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateieinstellungen</translation>
     </message>
     <message>
         <source>JPEG Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG-Qualität:</translation>
     </message>
     <message>
         <source>JPEG Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG-Qualität</translation>
     </message>
     <message>
         <source>Metadata:</source>
-        <translation type="unfinished"></translation>
+        <translation>Metadaten:</translation>
     </message>
     <message>
         <source>Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>Metadaten</translation>
     </message>
     <message>
         <source>16-Bit PNG and TIFF</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG und TIFF mit 16 Bit</translation>
     </message>
     <message>
         <source>Image Adjustments</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildkorrekturen</translation>
     </message>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit:</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrast:</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrast</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Edit Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen bearbeiten</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Standard zurücksetzen</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>[No Watermark]</source>
-        <translation type="unfinished"></translation>
+        <translation>[Kein Wasserzeichen]</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Fläche</translation>
     </message>
     <message>
         <source>Lanczos</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanczos</translation>
     </message>
     <message>
         <source>Bicubic</source>
-        <translation type="unfinished"></translation>
+        <translation>Bikubisch</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Nachbar</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Without Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Ort</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Tone-Mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Tone-Mapping</translation>
     </message>
     <message>
         <source>As Stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie gespeichert</translation>
     </message>
 </context>
 <context>
@@ -950,757 +951,761 @@
     <message>
         <source> or </source>
         <comment>between two keys</comment>
-        <translation type="unfinished"></translation>
+        <translation> oder </translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>tool tip and keys</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>LanguageMenu</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>System Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache des Systems</translation>
     </message>
     <message>
         <source>%1 shows this language when it is started again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 erscheint nach dem nächsten Start in dieser Sprache.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Click to open video</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken, um ein Video zu öffnen</translation>
     </message>
     <message>
         <source>Open a video, or drop one here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Video öffnen oder hier ablegen</translation>
     </message>
     <message>
         <source>Position in the video</source>
-        <translation type="unfinished"></translation>
+        <translation>Position im Video</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>Position. Klicken, um eine andere einzugeben: 1:02:03.5, +10s, -2s, f1234 oder 75%</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Frame, rate, size and codec</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildnummer, Bildrate, Größe und Codec</translation>
     </message>
     <message>
         <source>Skip back a bit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Stück zurückspringen</translation>
     </message>
     <message>
         <source>Step back one frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Einzelbild zurück</translation>
     </message>
     <message>
         <source>Play/Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe/Pause</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Einzelbild weiter</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Stück vorspringen</translation>
     </message>
     <message>
         <source>Volume Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautstärke regeln</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschuss aufnehmen</translation>
     </message>
     <message>
         <source>Take the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild auf dem Schirm aufnehmen</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschuss</translation>
     </message>
     <message>
         <source>What will be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Was gespeichert wird</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Originalgröße</translation>
     </message>
     <message>
         <source>Save the snapshot in the size of the video</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Schnappschuss in der Größe des Videos speichern</translation>
     </message>
     <message>
         <source>Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildprofil</translation>
     </message>
     <message>
         <source>Image profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildprofil</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Edit image profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildprofile bearbeiten</translation>
     </message>
     <message>
         <source>Automatic File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatischer Dateiname</translation>
     </message>
     <message>
         <source>Save without asking, under the next free name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Rückfrage unter dem nächsten freien Namen speichern</translation>
     </message>
     <message>
         <source>File-name profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateinamenprofil</translation>
     </message>
     <message>
         <source>Edit file-name profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateinamenprofile bearbeiten</translation>
     </message>
     <message>
         <source>Folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für die Bilder</translation>
     </message>
     <message>
         <source>Output folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabeordner</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchsuchen</translation>
     </message>
     <message>
         <source>Choose the folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner für die Bilder wählen</translation>
     </message>
     <message>
         <source>Next:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster:</translation>
     </message>
     <message>
         <source>Next file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Dateiname</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Schnappschuss speichern</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht</translation>
     </message>
     <message>
         <source>Video Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt</translation>
     </message>
     <message>
         <source>Deinterlace</source>
-        <translation type="unfinished"></translation>
+        <translation>Deinterlacing</translation>
     </message>
     <message>
         <source>HDR</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Open a video</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Video öffnen</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Ordner anzeigen</translation>
     </message>
     <message>
         <source>Show the file that was saved last in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Die zuletzt gespeicherte Datei in ihrem Ordner anzeigen</translation>
     </message>
     <message>
         <source>Copy Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschuss kopieren</translation>
     </message>
     <message>
         <source>Copy the snapshot as it is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Schnappschuss kopieren, wie er angezeigt wird</translation>
     </message>
     <message>
         <source>Copy Full Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzes Einzelbild kopieren</translation>
     </message>
     <message>
         <source>Copy the whole frame, unprocessed</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ganze Einzelbild unbearbeitet kopieren</translation>
     </message>
     <message>
         <source>Batch Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Stapelmodus</translation>
     </message>
     <message>
         <source>Take series of images from many videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildserien aus vielen Videos aufnehmen</translation>
     </message>
     <message>
         <source>Compare Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter vergleichen</translation>
     </message>
     <message>
         <source>Documentation &amp;&amp; Support</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumentation &amp;&amp; Unterstützung</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Über</translation>
     </message>
     <message>
         <source>Command Line Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen der Befehlszeile</translation>
     </message>
     <message>
         <source>Step Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt vor</translation>
     </message>
     <message>
         <source>Step Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt zurück</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>Make interlaced pictures that comb whole</source>
-        <translation type="unfinished"></translation>
+        <translation>Kämmende Halbbilder zu ganzen Bildern machen</translation>
     </message>
     <message>
         <source>Tone-Mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Tone-Mapping</translation>
     </message>
     <message>
         <source>Bring high dynamic range to what every screen shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Hohen Dynamikumfang so umsetzen, dass ihn jeder Bildschirm zeigt</translation>
     </message>
     <message>
         <source>As Stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie gespeichert</translation>
     </message>
     <message>
         <source>Keep the values of high dynamic range in files that can hold them, for grading</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werte des hohen Dynamikumfangs in Dateien behalten, die sie aufnehmen können, für die Farbkorrektur</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Take each picture for an interlaced one that combs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Bild als kämmendes Zeilensprungbild behandeln</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Leave pictures as they are stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder lassen, wie sie gespeichert sind</translation>
     </message>
     <message>
         <source>Step Field Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbbild vor</translation>
     </message>
     <message>
         <source>Step forward to the next moment of an interlaced video</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter zum nächsten Moment eines Zeilensprungvideos</translation>
     </message>
     <message>
         <source>Step Field Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbbild zurück</translation>
     </message>
     <message>
         <source>Step back to the moment before of an interlaced video</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zum vorigen Moment eines Zeilensprungvideos</translation>
     </message>
     <message>
         <source>Skip Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorspringen</translation>
     </message>
     <message>
         <source>Skip Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückspringen</translation>
     </message>
     <message>
         <source>Play / Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe / Pause</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergeben oder anhalten</translation>
     </message>
     <message>
         <source>Take Snapshot and Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschuss aufnehmen und speichern</translation>
     </message>
     <message>
         <source>Take the picture on screen and save it at once, under the next automatic name</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild auf dem Schirm aufnehmen und sofort unter dem nächsten automatischen Namen speichern</translation>
     </message>
     <message>
         <source>Actual Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tatsächliche Größe</translation>
     </message>
     <message>
         <source>Show the picture pixel by pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild Pixel für Pixel anzeigen</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild</translation>
     </message>
     <message>
         <source>Show the player on the whole screen; Escape leaves it</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Player auf dem ganzen Bildschirm zeigen; Escape beendet das</translation>
     </message>
     <message>
         <source>Skip Forward 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>10 Sekunden vorspringen</translation>
     </message>
     <message>
         <source>Skip forward ten seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Sekunden vorspringen</translation>
     </message>
     <message>
         <source>Skip Backward 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>10 Sekunden zurückspringen</translation>
     </message>
     <message>
         <source>Skip back ten seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Sekunden zurückspringen</translation>
     </message>
     <message>
         <source>Go to First Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum ersten Einzelbild</translation>
     </message>
     <message>
         <source>Show the first frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Das erste Einzelbild zeigen</translation>
     </message>
     <message>
         <source>Go to Last Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum letzten Einzelbild</translation>
     </message>
     <message>
         <source>Show the last frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Das letzte Einzelbild zeigen</translation>
     </message>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einer Zeit gehen</translation>
     </message>
     <message>
         <source>Type the time or the frame to go to</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit oder das Einzelbild eingeben, zu dem es gehen soll</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamer</translation>
     </message>
     <message>
         <source>Play slower, down to a tenth of the speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamer wiedergeben, bis zu einem Zehntel der Geschwindigkeit</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneller</translation>
     </message>
     <message>
         <source>Play faster, up to eight times</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneller wiedergeben, bis zu achtmal so schnell</translation>
     </message>
     <message>
         <source>Normal Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale Geschwindigkeit</translation>
     </message>
     <message>
         <source>Play as fast as it was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>So schnell wiedergeben, wie aufgenommen wurde</translation>
     </message>
     <message>
         <source>Mark Start of Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des Abschnitts markieren</translation>
     </message>
     <message>
         <source>The marked stretch starts with the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Der markierte Abschnitt beginnt mit dem Bild auf dem Schirm</translation>
     </message>
     <message>
         <source>Mark End of Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des Abschnitts markieren</translation>
     </message>
     <message>
         <source>The marked stretch ends with the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Der markierte Abschnitt endet mit dem Bild auf dem Schirm</translation>
     </message>
     <message>
         <source>Loop Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt wiederholen</translation>
     </message>
     <message>
         <source>Play the marked stretch over and over</source>
-        <translation type="unfinished"></translation>
+        <translation>Den markierten Abschnitt immer wieder abspielen</translation>
     </message>
     <message>
         <source>Clear Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt aufheben</translation>
     </message>
     <message>
         <source>Forget the marked stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Den markierten Abschnitt vergessen</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Stumm</translation>
     </message>
     <message>
         <source>Silence the sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ton stummschalten</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Show all keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Tasten zeigen</translation>
     </message>
     <message>
         <source>Save Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschuss speichern</translation>
     </message>
     <message>
         <source>Morvantile error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler in Morvantile</translation>
     </message>
     <message>
         <source>Can not create video renderer</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Videoausgabe konnte nicht erstellt werden</translation>
     </message>
     <message>
         <source>Best of These…</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste Bilder …</translation>
     </message>
     <message>
         <source>Propose the sharpest frames around this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Die schärfsten Einzelbilder um dieses herum vorschlagen</translation>
     </message>
     <message>
         <source>Unsaved Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gespeicherter Schnappschuss</translation>
     </message>
     <message>
         <source>The snapshot has not been saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schnappschuss ist nicht gespeichert.</translation>
     </message>
     <message numerus="yes">
         <source>%n snapshots have not been saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Schnappschuss ist nicht gespeichert.</numerusform>
+            <numerusform>%n Schnappschüsse sind nicht gespeichert.</numerusform>
         </translation>
     </message>
     <message>
         <source>It will be lost unless you save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er geht verloren, wenn Sie ihn nicht speichern.</translation>
     </message>
     <message>
         <source>They will be lost unless you save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie gehen verloren, wenn Sie sie nicht speichern.</translation>
     </message>
     <message>
         <source>Waiting until snapshots are written…</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschüsse werden noch geschrieben …</translation>
     </message>
     <message>
         <source>The picture of this snapshot cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild dieses Schnappschusses lässt sich nicht mehr lesen.</translation>
     </message>
     <message>
         <source>Saved %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 gespeichert</translation>
     </message>
     <message>
         <source>The filmstrip is full: save or delete some of its snapshots.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Filmstreifen ist voll: Speichern oder löschen Sie einige Schnappschüsse.</translation>
     </message>
     <message>
         <source>%1 is not there any more; this is its snapshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht mehr da; dies ist der Schnappschuss daraus.</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bei %2</translation>
     </message>
     <message>
         <source>Save Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschüsse speichern</translation>
     </message>
     <message>
         <source>Saved 1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Schnappschuss gespeichert</translation>
     </message>
     <message numerus="yes">
         <source>Saved %n snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Schnappschuss gespeichert</numerusform>
+            <numerusform>%n Schnappschüsse gespeichert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %n could not be saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n konnte nicht gespeichert werden</numerusform>
+            <numerusform>%1, %n konnten nicht gespeichert werden</numerusform>
         </translation>
     </message>
     <message>
         <source>Morvantile - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – %1</translation>
     </message>
     <message>
         <source>Morvantile</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Plays and pauses</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielt ab und hält an</translation>
     </message>
     <message>
         <source>%1
 cannot be played as a video.
 
 Click to open another video</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+lässt sich nicht als Video abspielen.
+
+Klicken, um ein anderes Video zu öffnen</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Open Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>None of them is there</source>
-        <translation type="unfinished"></translation>
+        <translation>Keines davon ist vorhanden</translation>
     </message>
     <message>
         <source>Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste leeren</translation>
     </message>
     <message>
         <source>Morvantile video capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – Aufnahme</translation>
     </message>
     <message>
         <source>Failed to capture video frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Einzelbild konnte nicht aufgenommen werden</translation>
     </message>
     <message>
         <source>No image of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild von %1: %2</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gespeichert</translation>
     </message>
     <message>
         <source>Could not save %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht gespeichert werden</translation>
     </message>
     <message>
         <source>Unknown Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannter Ordner</translation>
     </message>
     <message>
         <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie unter „Automatischer Dateiname“ einen gültigen Ausgabeordner ein.</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner nicht vorhanden</translation>
     </message>
     <message>
         <source>Open Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner öffnen</translation>
     </message>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist schon vorhanden.
+Möchten Sie die Datei ersetzen?</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Create folder?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner erstellen?</translation>
     </message>
 </context>
 <context>
     <name>PlayerSteering</name>
     <message>
         <source>Speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit %1</translation>
     </message>
     <message>
         <source>The stretch starts at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Abschnitt beginnt bei %1</translation>
     </message>
     <message>
         <source>The stretch ends at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Abschnitt endet bei %1</translation>
     </message>
     <message>
         <source>write 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>schreiben Sie 1:02:03.5, +10s, -2s, f1234 oder 75%</translation>
     </message>
     <message>
         <source>Counting the frames…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einzelbilder werden gezählt …</translation>
     </message>
     <message>
         <source>the frames cannot be counted</source>
-        <translation type="unfinished"></translation>
+        <translation>die Einzelbilder lassen sich nicht zählen</translation>
     </message>
     <message>
         <source>the video ends before it</source>
-        <translation type="unfinished"></translation>
+        <translation>das Video endet vorher</translation>
     </message>
     <message>
         <source>No place in the video: “%1”; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Stelle im Video: „%1“; %2</translation>
     </message>
 </context>
 <context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>Rename, duplicate or delete this profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Profil umbenennen, duplizieren oder löschen</translation>
     </message>
     <message>
         <source>[Type to Name Profile]</source>
-        <translation type="unfinished"></translation>
+        <translation>[Namen des Profils eingeben]</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen …</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>Delete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen …</translation>
     </message>
     <message>
         <source>Replace Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil ersetzen</translation>
     </message>
     <message>
         <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil „%1“ gibt es schon. Sollen seine Einstellungen durch diese ersetzt werden?</translation>
     </message>
     <message>
         <source>Rename Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil umbenennen</translation>
     </message>
     <message>
         <source>New name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Name:</translation>
     </message>
     <message>
         <source>There is a profile “%1” already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil „%1“ gibt es schon.</translation>
     </message>
     <message>
         <source>%1 copy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – Kopie</translation>
     </message>
     <message>
         <source>%1 copy %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – Kopie %2</translation>
     </message>
     <message>
         <source>Delete Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil löschen</translation>
     </message>
     <message>
         <source>Delete the profile “%1”?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil „%1“ löschen?</translation>
     </message>
 </context>
 <context>
@@ -1709,520 +1714,521 @@ Do you want to replace it?</source>
         <source>I&apos;m sorry,
 
 Morvantile requires macOS 10.10 (Yosemite) or higher</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile benötigt leider macOS 10.10 (Yosemite) oder neuer</translation>
     </message>
     <message>
         <source>Unsupported OS</source>
-        <translation type="unfinished"></translation>
+        <translation>System nicht unterstützt</translation>
     </message>
 </context>
 <context>
     <name>QtAV</name>
     <message>
         <source>The file is damaged, or no video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt oder kein Video.</translation>
     </message>
     <message>
         <source>The file does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
     <message>
         <source>You are not allowed to read the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie dürfen die Datei nicht lesen.</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
     </message>
     <message>
         <source>This kind of video is not supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Art von Video wird nicht unterstützt.</translation>
     </message>
     <message>
         <source>The file cannot be read (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei lässt sich nicht lesen (%1).</translation>
     </message>
 </context>
 <context>
     <name>QtAV::AVDemuxer</name>
     <message>
         <source>Opening was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Öffnen wurde abgebrochen.</translation>
     </message>
     <message>
         <source>This is a list of files, not a video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist eine Liste von Dateien, kein Video.</translation>
     </message>
     <message>
         <source>The file is damaged: it declares more pictures than it can hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt: Sie gibt mehr Bilder an, als sie enthalten kann.</translation>
     </message>
     <message>
         <source>The file was overwritten by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wurde von einem anderen Programm überschrieben.</translation>
     </message>
     <message>
         <source>The file does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht vorhanden.</translation>
     </message>
     <message>
         <source>This is not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist keine Datei.</translation>
     </message>
 </context>
 <context>
     <name>QtAV::AVPlayer</name>
     <message>
         <source>The file cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei lässt sich nicht mehr lesen.</translation>
     </message>
     <message>
         <source>The video cannot be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Video lässt sich nicht decodieren.</translation>
     </message>
     <message>
         <source>The frame cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Einzelbild lässt sich nicht mehr lesen.</translation>
     </message>
     <message>
         <source>The sound cannot be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ton lässt sich nicht decodieren.</translation>
     </message>
     <message>
         <source>There is no video in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei enthält kein Video.</translation>
     </message>
     <message>
         <source>The picture is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist beschädigt.</translation>
     </message>
 </context>
 <context>
     <name>QtAV::VideoDecoder</name>
     <message>
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bilder sind zu groß: Eines von %1 × %2 belegt %3 Arbeitsspeicher, und %4 sind erlaubt.</translation>
     </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>
     <message>
         <source>The video is HDR10+; its pictures are made of the HDR10 in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Video ist HDR10+; seine Bilder entstehen aus dem enthaltenen HDR10.</translation>
     </message>
     <message>
         <source>The video is Dolby Vision; its pictures are made of the base layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Video ist Dolby Vision; seine Bilder entstehen aus der Basisschicht.</translation>
     </message>
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Video ist Dolby Vision ohne Basisschicht, die andere Programme zeigen könnten; die Farben seiner Bilder stimmen nicht.</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen in %1 lassen sich nicht lesen. Sie werden als %2 aufbewahrt.</translation>
     </message>
 </context>
 <context>
     <name>Shortcuts</name>
     <message>
         <source>Click on the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Klick auf den Schieberegler</translation>
     </message>
     <message>
         <source>Go there</source>
-        <translation type="unfinished"></translation>
+        <translation>Dorthin gehen</translation>
     </message>
     <message>
         <source>Shift and drag on the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalttaste und Ziehen auf dem Schieberegler</translation>
     </message>
     <message>
         <source>Go frame by frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild für Bild gehen</translation>
     </message>
     <message>
         <source>Wheel over the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Mausrad über dem Schieberegler</translation>
     </message>
     <message>
         <source>Click on the time</source>
-        <translation type="unfinished"></translation>
+        <translation>Klick auf die Zeit</translation>
     </message>
     <message>
         <source>Type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine andere eingeben: 1:02:03.5, +10s, -2s, f1234 oder 75%</translation>
     </message>
     <message>
         <source>Mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Maus</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
 </context>
 <context>
     <name>SmartFileDialog</name>
     <message>
         <source>All Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien</translation>
     </message>
     <message>
         <source>Video Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Videodateien</translation>
     </message>
     <message>
         <source>Image Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilddateien</translation>
     </message>
 </context>
 <context>
     <name>SnapshotShelf</name>
     <message>
         <source>Snapshots are not kept after this window is closed: another window, or the disk, does not let it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnappschüsse bleiben nach dem Schließen dieses Fensters nicht erhalten: Ein anderes Fenster oder der Datenträger lässt es nicht zu.</translation>
     </message>
     <message>
         <source>The list of unsaved snapshots was damaged. It is now, with its files, in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste nicht gespeicherter Schnappschüsse war beschädigt. Sie liegt jetzt mit ihren Dateien in %1</translation>
     </message>
     <message>
         <source>Unsaved snapshots could not be written to the disk, and are lost when the window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gespeicherte Schnappschüsse konnten nicht auf den Datenträger geschrieben werden und gehen beim Schließen des Fensters verloren.</translation>
     </message>
     <message>
         <source>saved</source>
-        <translation type="unfinished"></translation>
+        <translation>gespeichert</translation>
     </message>
     <message>
         <source>not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht gespeichert</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3, %4</translation>
     </message>
     <message>
         <source>%1 at %2
 %3, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bei %2
+%3, %4</translation>
     </message>
 </context>
 <context>
     <name>SnapshotSummary</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen</translation>
     </message>
 </context>
 <context>
     <name>TimecodeField</name>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Go to time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einer Zeit gehen</translation>
     </message>
 </context>
 <context>
     <name>VideoFactsText</name>
     <message>
         <source>%1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fps</translation>
     </message>
     <message>
         <source>speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit %1</translation>
     </message>
 </context>
 <context>
     <name>VolumePopup</name>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautstärke</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Stumm</translation>
     </message>
 </context>
 <context>
     <name>WatermarkProfileDialog</name>
     <message>
         <source>Watermark Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen der Wasserzeichen</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil auswählen</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Watermark text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text des Wasserzeichens</translation>
     </message>
     <message>
         <source>Text of the watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text des Wasserzeichens</translation>
     </message>
     <message>
         <source>Add Timestamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitstempel hinzufügen</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Chosen picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewähltes Bild</translation>
     </message>
     <message>
         <source>Picture file</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilddatei</translation>
     </message>
     <message>
         <source>No picture chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild gewählt</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchsuchen</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz</translation>
     </message>
     <message>
         <source>Invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>Unsichtbar</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>Opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckend</translation>
     </message>
     <message>
         <source>Text Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Textformat</translation>
     </message>
     <message>
         <source>Text font</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift des Textes</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Textfarbe</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>Text Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Textschatten</translation>
     </message>
     <message>
         <source>Shadow color</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattenfarbe</translation>
     </message>
     <message>
         <source>Shadow Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Schattenfarbe</translation>
     </message>
     <message>
         <source>X Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Versatz</translation>
     </message>
     <message>
         <source>Shadow X Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Versatz des Schattens</translation>
     </message>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation> px</translation>
     </message>
     <message>
         <source>Y Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Y-Versatz</translation>
     </message>
     <message>
         <source>Shadow Y Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Y-Versatz des Schattens</translation>
     </message>
     <message>
         <source>Position + Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Position + Vorschau</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>X Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Rand</translation>
     </message>
     <message>
         <source>Y Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Y-Rand</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Invalid Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges Bild</translation>
     </message>
     <message>
         <source>Could not open image. Please try another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild konnte nicht geöffnet werden. Bitte versuchen Sie ein anderes.</translation>
     </message>
     <message>
         <source>Top Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben</translation>
     </message>
     <message>
         <source>Top Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben rechts</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Bottom Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten links</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten</translation>
     </message>
     <message>
         <source>Bottom Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten rechts</translation>
     </message>
 </context>
 <context>
     <name>imaging</name>
     <message>
         <source>There is no such picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein solches Bild.</translation>
     </message>
     <message>
         <source>The picture does not say which frame of which video it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild sagt nicht, aus welchem Einzelbild welches Videos es stammt.</translation>
     </message>
     <message>
         <source>There is no picture, perhaps for a lack of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Bild, vielleicht aus Mangel an Arbeitsspeicher</translation>
     </message>
     <message>
         <source>Not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenig Arbeitsspeicher</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished"></translation>
+        <translation>das Bild lässt sich nicht codieren</translation>
     </message>
     <message>
         <source>Your quota is used up: %1 are missing for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Kontingent ist ausgeschöpft: Es fehlen %1 für %2</translation>
     </message>
     <message>
         <source>The disk is full: %1 are missing for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger ist voll: Es fehlen %1 für %2</translation>
     </message>
     <message>
         <source>The folder is gone: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner ist nicht mehr da: %1</translation>
     </message>
     <message>
         <source>The folder does not let you write: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Ordner dürfen Sie nicht schreiben: %1</translation>
     </message>
     <message>
         <source>The disk is read-only: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger ist schreibgeschützt: %1</translation>
     </message>
     <message>
         <source>Cannot be written: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kann nicht geschrieben werden: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>series</name>
     <message>
         <source>The picture could not be encoded as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild konnte nicht als %1 codiert werden.</translation>
     </message>
     <message>
         <source>All frames are black, blurred or at a cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einzelbilder sind schwarz, unscharf oder an einem Schnitt.</translation>
     </message>
     <message>
         <source>The video has no frame %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Video hat kein Einzelbild %1.</translation>
     </message>
     <message>
         <source>Given up after %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach %1 Sekunden aufgegeben.</translation>
     </message>
     <message>
         <source>There is no picture at this position.</source>
-        <translation type="unfinished"></translation>
+        <translation>An dieser Position ist kein Bild.</translation>
     </message>
 </context>
 </TS>

@@ -5,450 +5,451 @@
     <name>AboutDialog</name>
     <message>
         <source>About Morvantile</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Morvantile</translation>
     </message>
     <message>
         <source>Morvantile icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icône de Morvantile</translation>
     </message>
     <message>
         <source>Morvantile - Video Frame Capture Software</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – Capture d’images de vidéos</translation>
     </message>
     <message>
         <source>Please send me your questions or feature suggestions!</source>
-        <translation type="unfinished"></translation>
+        <translation>N’hésitez pas à m’envoyer vos questions et vos suggestions !</translation>
     </message>
     <message>
         <source>Version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version : %1</translation>
     </message>
 </context>
 <context>
     <name>BatchModeDialog</name>
     <message>
         <source>Morvantile Batch Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – Traitement par lots</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers</translation>
     </message>
     <message>
         <source>Load Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger une vidéo</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Progress of reading the videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression de la lecture des vidéos</translation>
     </message>
     <message>
         <source>Stop Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter la lecture</translation>
     </message>
     <message>
         <source>Keep the videos that have been read and drop the others</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder les vidéos déjà lues et abandonner les autres</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>Selected Video File</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo sélectionnée</translation>
     </message>
     <message>
         <source>[No Video Selected]</source>
-        <translation type="unfinished"></translation>
+        <translation>[Aucune vidéo sélectionnée]</translation>
     </message>
     <message>
         <source>Image Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages de l’image</translation>
     </message>
     <message>
         <source>Image Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil d’image :</translation>
     </message>
     <message>
         <source>Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil d’image</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Edit Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le profil d’image</translation>
     </message>
     <message>
         <source>Edit the image profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le profil d’image</translation>
     </message>
     <message>
         <source>File Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers produits</translation>
     </message>
     <message>
         <source>FileName Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil de nom de fichier :</translation>
     </message>
     <message>
         <source>FileName Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil de nom de fichier</translation>
     </message>
     <message>
         <source>Edit FileName Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le profil de nom de fichier</translation>
     </message>
     <message>
         <source>Edit the file name profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le profil de nom de fichier</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemple :</translation>
     </message>
     <message>
         <source>Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier :</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir</translation>
     </message>
     <message>
         <source>Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un dossier</translation>
     </message>
     <message>
         <source>Select the folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le dossier des images</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalle des captures</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer</translation>
     </message>
     <message>
         <source>Make a number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un certain nombre d’images</translation>
     </message>
     <message>
         <source>Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’images</translation>
     </message>
     <message>
         <source>images</source>
-        <translation type="unfinished"></translation>
+        <translation>images</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les</translation>
     </message>
     <message>
         <source>Make an image every so many milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une image à intervalle fixe, en millisecondes</translation>
     </message>
     <message>
         <source>Milliseconds from image to image</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisecondes d’une image à l’autre</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>millisecondes</translation>
     </message>
     <message>
         <source>Single shot at</source>
-        <translation type="unfinished"></translation>
+        <translation>Image unique</translation>
     </message>
     <message>
         <source>Make a single image</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une seule image</translation>
     </message>
     <message>
         <source>Place of the single image</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement de l’image unique</translation>
     </message>
     <message>
         <source>Takes exactly the frames at these positions, on all processor cores. Without it, a key frame near a position is taken instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend exactement les images à ces positions, sur tous les cœurs du processeur. Sinon, une image clé proche de la position est prise à la place.</translation>
     </message>
     <message>
         <source>Exact frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Images exactes</translation>
     </message>
     <message>
         <source>Skip Milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisecondes à ignorer</translation>
     </message>
     <message>
         <source>Skip front</source>
-        <translation type="unfinished"></translation>
+        <translation>Au début</translation>
     </message>
     <message>
         <source>Milliseconds to skip at the front</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisecondes à ignorer au début</translation>
     </message>
     <message>
         <source>Skip back</source>
-        <translation type="unfinished"></translation>
+        <translation>À la fin</translation>
     </message>
     <message>
         <source>Milliseconds to skip at the back</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisecondes à ignorer à la fin</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Use for New Videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser pour les nouvelles vidéos</translation>
     </message>
     <message>
         <source>Videos that are added later begin with the settings of the selected one</source>
-        <translation type="unfinished"></translation>
+        <translation>Les vidéos ajoutées plus tard commencent avec les réglages de celle qui est sélectionnée</translation>
     </message>
     <message>
         <source>What the batch will make</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que le lot va créer</translation>
     </message>
     <message>
         <source>Retry Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Relancer les échecs</translation>
     </message>
     <message>
         <source>Run the videos for which something failed once more</source>
-        <translation type="unfinished"></translation>
+        <translation>Traiter encore une fois les vidéos pour lesquelles quelque chose a échoué</translation>
     </message>
     <message>
         <source>Load videos, or drop them here</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargez des vidéos ou déposez-les ici</translation>
     </message>
     <message>
         <source>front</source>
-        <translation type="unfinished"></translation>
+        <translation>au début</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>au milieu</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished"></translation>
+        <translation>à la fin</translation>
     </message>
     <message>
         <source>The batch can start when all videos have been read</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lot peut démarrer une fois toutes les vidéos lues</translation>
     </message>
     <message>
         <source>Reading video %1 of %2:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture de la vidéo %1 sur %2 :</translation>
     </message>
     <message numerus="yes">
         <source>%1 images</source>
         <comment>in: About %1 of %n videos</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 image</numerusform>
+            <numerusform>%1 images</numerusform>
         </translation>
     </message>
     <message>
         <source>About %1 of 1 video</source>
-        <translation type="unfinished"></translation>
+        <translation>Environ %1 de 1 vidéo</translation>
     </message>
     <message numerus="yes">
         <source>About %1 of %n videos</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Environ %1 de %n vidéo</numerusform>
+            <numerusform>Environ %1 de %n vidéos</numerusform>
         </translation>
     </message>
     <message>
         <source>The folder for the images does not exist. Create it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des images n’existe pas. Le créer ?</translation>
     </message>
     <message>
         <source>These folders for the images do not exist. Create them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces dossiers pour les images n’existent pas. Les créer ?</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier inexistant</translation>
     </message>
     <message>
         <source>%1 could not be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être créé.</translation>
     </message>
     <message>
         <source>Many Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Beaucoup d’images</translation>
     </message>
     <message numerus="yes">
         <source>This makes about %1 images. Start?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Cela produira environ %1 image. Démarrer ?</numerusform>
+            <numerusform>Cela produira environ %1 images. Démarrer ?</numerusform>
         </translation>
     </message>
     <message>
         <source>Multiple</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs</translation>
     </message>
 </context>
 <context>
     <name>BatchModeListModel</name>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de fichier</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Destination</translation>
     </message>
     <message>
         <source>Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalle</translation>
     </message>
     <message>
         <source>Output Example</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemple de nom</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Images</translation>
     </message>
 </context>
 <context>
     <name>BatchProcessingDialog</name>
     <message>
         <source>Batch Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>Traitement par lots</translation>
     </message>
     <message>
         <source>Current video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo en cours</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Progress of the current video</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression de la vidéo en cours</translation>
     </message>
     <message>
         <source>This video: %p%</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette vidéo : %p%</translation>
     </message>
     <message>
         <source>Progress of all videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression de toutes les vidéos</translation>
     </message>
     <message>
         <source>All videos: %p%</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les vidéos : %p%</translation>
     </message>
     <message>
         <source>Last image</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière image</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Cancel Batch Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le traitement par lots</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel batch processing?
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment annuler le traitement par lots ?
+</translation>
     </message>
     <message>
         <source>No Room for the Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas assez de place pour les images</translation>
     </message>
     <message>
         <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Libérez de la place et réessayez, ou arrêtez. Ce qui est enregistré est conservé.</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt en cours…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>BatchReport</name>
     <message>
         <source>1 image</source>
-        <translation type="unfinished"></translation>
+        <translation>1 image</translation>
     </message>
     <message numerus="yes">
         <source>%n images</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancelled after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé après %1</translation>
     </message>
     <message>
         <source>Finished: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé : %1</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n échec</numerusform>
+            <numerusform>%1, %n échecs</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (and %n more of this kind)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (et %n autre de ce type)</numerusform>
+            <numerusform>%1 (et %n autres de ce type)</numerusform>
         </translation>
     </message>
 </context>
@@ -456,238 +457,238 @@
     <name>BatchWorker</name>
     <message>
         <source>Could not open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le fichier</translation>
     </message>
     <message>
         <source>Frame extraction error %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur d’extraction d’image : %1</translation>
     </message>
     <message>
         <source>no picture found at position %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune image trouvée à la position %1</translation>
     </message>
     <message>
         <source>Could not make %1 from position %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer %1 depuis la position %2 : %3</translation>
     </message>
     <message>
         <source>Could not save %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer %1</translation>
     </message>
     <message>
         <source>Saving: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement : %1</translation>
     </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
     <message>
         <source>Every %1ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les %1 ms</translation>
     </message>
     <message numerus="yes">
         <source>%n images</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
         </translation>
     </message>
     <message>
         <source>Single front</source>
-        <translation type="unfinished"></translation>
+        <translation>Unique, au début</translation>
     </message>
     <message>
         <source>Single middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Unique, au milieu</translation>
     </message>
     <message>
         <source>Single back</source>
-        <translation type="unfinished"></translation>
+        <translation>Unique, à la fin</translation>
     </message>
     <message>
         <source>Single </source>
-        <translation type="unfinished"></translation>
+        <translation>Unique </translation>
     </message>
 </context>
 <context>
     <name>BestFramesDialog</name>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre une capture</translation>
     </message>
     <message>
         <source>Best of These</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleures images</translation>
     </message>
     <message>
         <source>Best frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleures images</translation>
     </message>
     <message>
         <source>Take a snapshot of the selected frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre une capture de l’image sélectionnée</translation>
     </message>
     <message>
         <source>Looking for the sharpest frames from %1 to %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche des images les plus nettes de %1 à %2…</translation>
     </message>
     <message>
         <source>All frames here are black, blurred or at a cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les images ici sont noires, floues ou sur une coupe.</translation>
     </message>
     <message>
         <source>A click goes to the frame, a double click takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic va à l’image, un double clic la capture.</translation>
     </message>
 </context>
 <context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Après</translation>
     </message>
 </context>
 <context>
     <name>FileNameProfileDialog</name>
     <message>
         <source>FileName Profile Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages du profil de nom de fichier</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un profil</translation>
     </message>
     <message>
         <source>FileName Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format du nom de fichier</translation>
     </message>
     <message>
         <source>Prefix:</source>
-        <translation type="unfinished"></translation>
+        <translation>Préfixe :</translation>
     </message>
     <message>
         <source>Prefix</source>
-        <translation type="unfinished"></translation>
+        <translation>Préfixe</translation>
     </message>
     <message>
         <source>FileName:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de fichier :</translation>
     </message>
     <message>
         <source>FileName</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de fichier</translation>
     </message>
     <message>
         <source>Suffix:</source>
-        <translation type="unfinished"></translation>
+        <translation>Suffixe :</translation>
     </message>
     <message>
         <source>Suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>Suffixe</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Type :</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Example Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemple</translation>
     </message>
     <message>
         <source>Example Video:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo d’exemple :</translation>
     </message>
     <message>
         <source>Example Output:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom obtenu :</translation>
     </message>
     <message>
         <source>For Batch Mode when only a single image is requested.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour le traitement par lots, quand une seule image est demandée.</translation>
     </message>
     <message>
         <source>Single Shot:</source>
-        <translation type="unfinished"></translation>
+        <translation>Image unique :</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir les valeurs par défaut</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>Filmstrip</name>
     <message>
         <source>Delete 1 Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer 1 capture</translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Supprimer %n capture</numerusform>
+            <numerusform>Supprimer %n captures</numerusform>
         </translation>
     </message>
     <message>
         <source>Save All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout enregistrer</translation>
     </message>
     <message>
         <source>Filmstrip</source>
-        <translation type="unfinished"></translation>
+        <translation>Bande de captures</translation>
     </message>
     <message>
         <source>Save all snapshots that are not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer toutes les captures qui ne le sont pas encore</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler l’action</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>Delete Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les captures</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>All saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout est enregistré</translation>
     </message>
     <message numerus="yes">
         <source>%n not saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n non enregistrée</numerusform>
+            <numerusform>%n non enregistrées</numerusform>
         </translation>
     </message>
 </context>
@@ -695,254 +696,254 @@
     <name>ImageFiltersDialog</name>
     <message>
         <source>Compare Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer les filtres</translation>
     </message>
     <message>
         <source>Before and after</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant et après</translation>
     </message>
     <message>
         <source>Drag the line to compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser la ligne pour comparer</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste</translation>
     </message>
     <message>
         <source>Filter for another size</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre pour une autre taille</translation>
     </message>
     <message>
         <source>Apply to Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer au profil</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Surface</translation>
     </message>
     <message>
         <source>Lanczos</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanczos</translation>
     </message>
     <message>
         <source>Bicubic</source>
-        <translation type="unfinished"></translation>
+        <translation>Bicubique</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus proche voisin</translation>
     </message>
     <message>
         <source>Put these values into the image profile “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre ces valeurs dans le profil d’image « %1 »</translation>
     </message>
 </context>
 <context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages du profil d’image</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un profil</translation>
     </message>
     <message>
         <source>Image Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille de l’image</translation>
     </message>
     <message>
         <source>Same Size as Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Même taille que la vidéo</translation>
     </message>
     <message>
         <source>Image Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de l’image :</translation>
     </message>
     <message>
         <source>Image Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de l’image</translation>
     </message>
     <message>
         <source>Image Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur de l’image :</translation>
     </message>
     <message>
         <source>Image Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur de l’image</translation>
     </message>
     <message>
         <source>Maintain Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver les proportions</translation>
     </message>
     <message>
         <source>Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre :</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre</translation>
     </message>
     <message>
         <source>Resize in Linear Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Redimensionner en lumière linéaire</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo</translation>
     </message>
     <message>
         <source>Deinterlace:</source>
-        <translation type="unfinished"></translation>
+        <translation>Désentrelacement :</translation>
     </message>
     <message>
         <source>Deinterlace</source>
-        <translation type="unfinished"></translation>
+        <translation>Désentrelacement</translation>
     </message>
     <message>
         <source>HDR:</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR :</translation>
     </message>
     <message>
         <source>What becomes of high dynamic range in PNG and TIFF files; other files and the screen show it tone-mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que devient la plage dynamique étendue dans les fichiers PNG et TIFF ; les autres fichiers et l’écran la montrent avec mappage tonal</translation>
     </message>
     <message>
         <source>HDR</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR</translation>
     </message>
     <message>
         <source>What becomes of high dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que devient la plage dynamique étendue</translation>
     </message>
     <message>
         <source>File Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages du fichier</translation>
     </message>
     <message>
         <source>JPEG Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualité JPEG :</translation>
     </message>
     <message>
         <source>JPEG Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualité JPEG</translation>
     </message>
     <message>
         <source>Metadata:</source>
-        <translation type="unfinished"></translation>
+        <translation>Métadonnées :</translation>
     </message>
     <message>
         <source>Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>Métadonnées</translation>
     </message>
     <message>
         <source>16-Bit PNG and TIFF</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG et TIFF en 16 bits</translation>
     </message>
     <message>
         <source>Image Adjustments</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrections de l’image</translation>
     </message>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité :</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste :</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Filigrane</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Edit Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le filigrane</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir les valeurs par défaut</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>[No Watermark]</source>
-        <translation type="unfinished"></translation>
+        <translation>[Sans filigrane]</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Surface</translation>
     </message>
     <message>
         <source>Lanczos</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanczos</translation>
     </message>
     <message>
         <source>Bicubic</source>
-        <translation type="unfinished"></translation>
+        <translation>Bicubique</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus proche voisin</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes</translation>
     </message>
     <message>
         <source>Without Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans le lieu</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatique</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>Tone-Mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappage tonal</translation>
     </message>
     <message>
         <source>As Stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs d’origine</translation>
     </message>
 </context>
 <context>
@@ -950,757 +951,761 @@
     <message>
         <source> or </source>
         <comment>between two keys</comment>
-        <translation type="unfinished"></translation>
+        <translation> ou </translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>tool tip and keys</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>LanguageMenu</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>System Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue du système</translation>
     </message>
     <message>
         <source>%1 shows this language when it is started again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s’affichera dans cette langue au prochain démarrage.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Click to open video</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour ouvrir une vidéo</translation>
     </message>
     <message>
         <source>Open a video, or drop one here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez une vidéo ou déposez-la ici</translation>
     </message>
     <message>
         <source>Position in the video</source>
-        <translation type="unfinished"></translation>
+        <translation>Position dans la vidéo</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>Position. Cliquez pour en saisir une autre : 1:02:03.5, +10s, -2s, f1234 ou 75%</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Frame, rate, size and codec</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro d’image, cadence, taille et codec</translation>
     </message>
     <message>
         <source>Skip back a bit</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer un peu</translation>
     </message>
     <message>
         <source>Step back one frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer d’une image</translation>
     </message>
     <message>
         <source>Play/Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture/Pause</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer d’une image</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer un peu</translation>
     </message>
     <message>
         <source>Volume Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglage du volume</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre une capture</translation>
     </message>
     <message>
         <source>Take the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Capturer l’image à l’écran</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture</translation>
     </message>
     <message>
         <source>What will be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui sera enregistré</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille d’origine</translation>
     </message>
     <message>
         <source>Save the snapshot in the size of the video</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la capture à la taille de la vidéo</translation>
     </message>
     <message>
         <source>Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil d’image</translation>
     </message>
     <message>
         <source>Image profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil d’image</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Edit image profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les profils d’image</translation>
     </message>
     <message>
         <source>Automatic File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de fichier automatique</translation>
     </message>
     <message>
         <source>Save without asking, under the next free name</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sans demander, sous le prochain nom libre</translation>
     </message>
     <message>
         <source>File-name profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil de nom de fichier</translation>
     </message>
     <message>
         <source>Edit file-name profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les profils de nom de fichier</translation>
     </message>
     <message>
         <source>Folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des images</translation>
     </message>
     <message>
         <source>Output folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier de sortie</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir</translation>
     </message>
     <message>
         <source>Choose the folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le dossier des images</translation>
     </message>
     <message>
         <source>Next:</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant :</translation>
     </message>
     <message>
         <source>Next file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de fichier suivant</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la capture</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage</translation>
     </message>
     <message>
         <source>Video Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes vidéo</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Segment</translation>
     </message>
     <message>
         <source>Deinterlace</source>
-        <translation type="unfinished"></translation>
+        <translation>Désentrelacement</translation>
     </message>
     <message>
         <source>HDR</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Open a video</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une vidéo</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher dans le dossier</translation>
     </message>
     <message>
         <source>Show the file that was saved last in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher dans son dossier le dernier fichier enregistré</translation>
     </message>
     <message>
         <source>Copy Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la capture</translation>
     </message>
     <message>
         <source>Copy the snapshot as it is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la capture telle qu’elle est affichée</translation>
     </message>
     <message>
         <source>Copy Full Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier l’image complète</translation>
     </message>
     <message>
         <source>Copy the whole frame, unprocessed</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier l’image entière, sans traitement</translation>
     </message>
     <message>
         <source>Batch Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Traitement par lots</translation>
     </message>
     <message>
         <source>Take series of images from many videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre des séries d’images dans de nombreuses vidéos</translation>
     </message>
     <message>
         <source>Compare Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer les filtres</translation>
     </message>
     <message>
         <source>Documentation &amp;&amp; Support</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation &amp;&amp; assistance</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Command Line Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options de la ligne de commande</translation>
     </message>
     <message>
         <source>Step Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Image suivante</translation>
     </message>
     <message>
         <source>Step Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>Image précédente</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatique</translation>
     </message>
     <message>
         <source>Make interlaced pictures that comb whole</source>
-        <translation type="unfinished"></translation>
+        <translation>Reconstituer les images entrelacées qui présentent un effet de peigne</translation>
     </message>
     <message>
         <source>Tone-Mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappage tonal</translation>
     </message>
     <message>
         <source>Bring high dynamic range to what every screen shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Ramener la plage dynamique étendue à ce que tout écran peut montrer</translation>
     </message>
     <message>
         <source>As Stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs d’origine</translation>
     </message>
     <message>
         <source>Keep the values of high dynamic range in files that can hold them, for grading</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder les valeurs de la plage dynamique étendue dans les fichiers qui le permettent, pour l’étalonnage</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>Take each picture for an interlaced one that combs</source>
-        <translation type="unfinished"></translation>
+        <translation>Traiter chaque image comme une image entrelacée à effet de peigne</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>Leave pictures as they are stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisser les images telles qu’elles sont stockées</translation>
     </message>
     <message>
         <source>Step Field Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Trame suivante</translation>
     </message>
     <message>
         <source>Step forward to the next moment of an interlaced video</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer à l’instant suivant d’une vidéo entrelacée</translation>
     </message>
     <message>
         <source>Step Field Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>Trame précédente</translation>
     </message>
     <message>
         <source>Step back to the moment before of an interlaced video</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer à l’instant précédent d’une vidéo entrelacée</translation>
     </message>
     <message>
         <source>Skip Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauter en avant</translation>
     </message>
     <message>
         <source>Skip Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauter en arrière</translation>
     </message>
     <message>
         <source>Play / Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture / Pause</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire ou mettre en pause</translation>
     </message>
     <message>
         <source>Take Snapshot and Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre une capture et l’enregistrer</translation>
     </message>
     <message>
         <source>Take the picture on screen and save it at once, under the next automatic name</source>
-        <translation type="unfinished"></translation>
+        <translation>Capturer l’image à l’écran et l’enregistrer aussitôt sous le prochain nom automatique</translation>
     </message>
     <message>
         <source>Actual Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille réelle</translation>
     </message>
     <message>
         <source>Show the picture pixel by pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’image pixel par pixel</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran</translation>
     </message>
     <message>
         <source>Show the player on the whole screen; Escape leaves it</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le lecteur sur tout l’écran ; Échap en sort</translation>
     </message>
     <message>
         <source>Skip Forward 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer de 10 secondes</translation>
     </message>
     <message>
         <source>Skip forward ten seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer de dix secondes</translation>
     </message>
     <message>
         <source>Skip Backward 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer de 10 secondes</translation>
     </message>
     <message>
         <source>Skip back ten seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer de dix secondes</translation>
     </message>
     <message>
         <source>Go to First Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à la première image</translation>
     </message>
     <message>
         <source>Show the first frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la première image</translation>
     </message>
     <message>
         <source>Go to Last Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à la dernière image</translation>
     </message>
     <message>
         <source>Show the last frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la dernière image</translation>
     </message>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à un instant</translation>
     </message>
     <message>
         <source>Type the time or the frame to go to</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir l’instant ou l’image où aller</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus lentement</translation>
     </message>
     <message>
         <source>Play slower, down to a tenth of the speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire plus lentement, jusqu’à un dixième de la vitesse</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus vite</translation>
     </message>
     <message>
         <source>Play faster, up to eight times</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire plus vite, jusqu’à huit fois</translation>
     </message>
     <message>
         <source>Normal Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse normale</translation>
     </message>
     <message>
         <source>Play as fast as it was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire à la vitesse d’enregistrement</translation>
     </message>
     <message>
         <source>Mark Start of Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer le début du segment</translation>
     </message>
     <message>
         <source>The marked stretch starts with the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Le segment marqué commence à l’image à l’écran</translation>
     </message>
     <message>
         <source>Mark End of Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer la fin du segment</translation>
     </message>
     <message>
         <source>The marked stretch ends with the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Le segment marqué se termine à l’image à l’écran</translation>
     </message>
     <message>
         <source>Loop Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire le segment en boucle</translation>
     </message>
     <message>
         <source>Play the marked stretch over and over</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire le segment marqué encore et encore</translation>
     </message>
     <message>
         <source>Clear Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer le segment</translation>
     </message>
     <message>
         <source>Forget the marked stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Oublier le segment marqué</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Muet</translation>
     </message>
     <message>
         <source>Silence the sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper le son</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>Show all keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher toutes les touches</translation>
     </message>
     <message>
         <source>Save Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la capture</translation>
     </message>
     <message>
         <source>Morvantile error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de Morvantile</translation>
     </message>
     <message>
         <source>Can not create video renderer</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer l’affichage de la vidéo</translation>
     </message>
     <message>
         <source>Best of These…</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleures images…</translation>
     </message>
     <message>
         <source>Propose the sharpest frames around this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Proposer les images les plus nettes autour de celle-ci</translation>
     </message>
     <message>
         <source>Unsaved Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture non enregistrée</translation>
     </message>
     <message>
         <source>The snapshot has not been saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capture n’a pas été enregistrée.</translation>
     </message>
     <message numerus="yes">
         <source>%n snapshots have not been saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n capture n’a pas été enregistrée.</numerusform>
+            <numerusform>%n captures n’ont pas été enregistrées.</numerusform>
         </translation>
     </message>
     <message>
         <source>It will be lost unless you save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elle sera perdue si vous ne l’enregistrez pas.</translation>
     </message>
     <message>
         <source>They will be lost unless you save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elles seront perdues si vous ne les enregistrez pas.</translation>
     </message>
     <message>
         <source>Waiting until snapshots are written…</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente de l’écriture des captures…</translation>
     </message>
     <message>
         <source>The picture of this snapshot cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image de cette capture ne peut plus être lue.</translation>
     </message>
     <message>
         <source>Saved %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2 enregistrées</translation>
     </message>
     <message>
         <source>The filmstrip is full: save or delete some of its snapshots.</source>
-        <translation type="unfinished"></translation>
+        <translation>La bande de captures est pleine : enregistrez ou supprimez-en quelques-unes.</translation>
     </message>
     <message>
         <source>%1 is not there any more; this is its snapshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est plus là ; voici sa capture.</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>Save Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les captures</translation>
     </message>
     <message>
         <source>Saved 1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>1 capture enregistrée</translation>
     </message>
     <message numerus="yes">
         <source>Saved %n snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n capture enregistrée</numerusform>
+            <numerusform>%n captures enregistrées</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %n could not be saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %n n’a pas pu être enregistrée</numerusform>
+            <numerusform>%1, %n n’ont pas pu être enregistrées</numerusform>
         </translation>
     </message>
     <message>
         <source>Morvantile - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – %1</translation>
     </message>
     <message>
         <source>Morvantile</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo</translation>
     </message>
     <message>
         <source>Plays and pauses</source>
-        <translation type="unfinished"></translation>
+        <translation>Lance la lecture et la met en pause</translation>
     </message>
     <message>
         <source>%1
 cannot be played as a video.
 
 Click to open another video</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+ne peut pas être lu comme une vidéo.
+
+Cliquez pour ouvrir une autre vidéo</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>Open Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier récent</translation>
     </message>
     <message>
         <source>None of them is there</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun d’eux n’est présent</translation>
     </message>
     <message>
         <source>Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer la liste</translation>
     </message>
     <message>
         <source>Morvantile video capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – Capture</translation>
     </message>
     <message>
         <source>Failed to capture video frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la capture de l’image</translation>
     </message>
     <message>
         <source>No image of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’image de %1 : %2</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistré</translation>
     </message>
     <message>
         <source>Could not save %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer %1</translation>
     </message>
     <message>
         <source>Unknown Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier inconnu</translation>
     </message>
     <message>
         <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez saisir un dossier de sortie valable sous « Nom de fichier automatique ».</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier inexistant</translation>
     </message>
     <message>
         <source>Open Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier</translation>
     </message>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 existe déjà.
+Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Create folder?</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer le dossier ?</translation>
     </message>
 </context>
 <context>
     <name>PlayerSteering</name>
     <message>
         <source>Speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse %1</translation>
     </message>
     <message>
         <source>The stretch starts at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le segment commence à %1</translation>
     </message>
     <message>
         <source>The stretch ends at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le segment se termine à %1</translation>
     </message>
     <message>
         <source>write 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>écrivez 1:02:03.5, +10s, -2s, f1234 ou 75%</translation>
     </message>
     <message>
         <source>Counting the frames…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comptage des images…</translation>
     </message>
     <message>
         <source>the frames cannot be counted</source>
-        <translation type="unfinished"></translation>
+        <translation>les images ne peuvent pas être comptées</translation>
     </message>
     <message>
         <source>the video ends before it</source>
-        <translation type="unfinished"></translation>
+        <translation>la vidéo se termine avant</translation>
     </message>
     <message>
         <source>No place in the video: “%1”; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas un endroit de la vidéo : « %1 » ; %2</translation>
     </message>
 </context>
 <context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>Rename, duplicate or delete this profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer, dupliquer ou supprimer ce profil</translation>
     </message>
     <message>
         <source>[Type to Name Profile]</source>
-        <translation type="unfinished"></translation>
+        <translation>[Saisissez un nom de profil]</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer…</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Dupliquer</translation>
     </message>
     <message>
         <source>Delete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer…</translation>
     </message>
     <message>
         <source>Replace Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer le profil</translation>
     </message>
     <message>
         <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation type="unfinished"></translation>
+        <translation>Il existe déjà un profil « %1 ». Remplacer ses réglages par ceux-ci ?</translation>
     </message>
     <message>
         <source>Rename Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer le profil</translation>
     </message>
     <message>
         <source>New name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau nom :</translation>
     </message>
     <message>
         <source>There is a profile “%1” already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il existe déjà un profil « %1 ».</translation>
     </message>
     <message>
         <source>%1 copy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – copie</translation>
     </message>
     <message>
         <source>%1 copy %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – copie %2</translation>
     </message>
     <message>
         <source>Delete Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le profil</translation>
     </message>
     <message>
         <source>Delete the profile “%1”?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le profil « %1 » ?</translation>
     </message>
 </context>
 <context>
@@ -1709,520 +1714,523 @@ Do you want to replace it?</source>
         <source>I&apos;m sorry,
 
 Morvantile requires macOS 10.10 (Yosemite) or higher</source>
-        <translation type="unfinished"></translation>
+        <translation>Désolé,
+
+Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</translation>
     </message>
     <message>
         <source>Unsupported OS</source>
-        <translation type="unfinished"></translation>
+        <translation>Système non pris en charge</translation>
     </message>
 </context>
 <context>
     <name>QtAV</name>
     <message>
         <source>The file is damaged, or no video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est endommagé ou n’est pas une vidéo.</translation>
     </message>
     <message>
         <source>The file does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’existe pas.</translation>
     </message>
     <message>
         <source>You are not allowed to read the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous n’avez pas le droit de lire le fichier.</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mémoire est insuffisante.</translation>
     </message>
     <message>
         <source>This kind of video is not supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce type de vidéo n’est pas pris en charge.</translation>
     </message>
     <message>
         <source>The file cannot be read (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne peut pas être lu (%1).</translation>
     </message>
 </context>
 <context>
     <name>QtAV::AVDemuxer</name>
     <message>
         <source>Opening was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ouverture a été annulée.</translation>
     </message>
     <message>
         <source>This is a list of files, not a video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ceci est une liste de fichiers, pas une vidéo.</translation>
     </message>
     <message>
         <source>The file is damaged: it declares more pictures than it can hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est endommagé : il déclare plus d’images qu’il ne peut en contenir.</translation>
     </message>
     <message>
         <source>The file was overwritten by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier a été écrasé par un autre programme.</translation>
     </message>
     <message>
         <source>The file does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’existe pas.</translation>
     </message>
     <message>
         <source>This is not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ceci n’est pas un fichier.</translation>
     </message>
 </context>
 <context>
     <name>QtAV::AVPlayer</name>
     <message>
         <source>The file cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne peut plus être lu.</translation>
     </message>
     <message>
         <source>The video cannot be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo ne peut pas être décodée.</translation>
     </message>
     <message>
         <source>The frame cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image ne peut plus être lue.</translation>
     </message>
     <message>
         <source>The sound cannot be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son ne peut pas être décodé.</translation>
     </message>
     <message>
         <source>There is no video in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne contient pas de vidéo.</translation>
     </message>
     <message>
         <source>The picture is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image est endommagée.</translation>
     </message>
 </context>
 <context>
     <name>QtAV::VideoDecoder</name>
     <message>
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images sont trop grandes : une image de %1 × %2 occupe %3 de mémoire, et %4 sont autorisés.</translation>
     </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>
     <message>
         <source>The video is HDR10+; its pictures are made of the HDR10 in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo est en HDR10+ ; ses images sont faites du HDR10 qu’elle contient.</translation>
     </message>
     <message>
         <source>The video is Dolby Vision; its pictures are made of the base layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo est en Dolby Vision ; ses images sont faites de la couche de base.</translation>
     </message>
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo est en Dolby Vision sans couche de base que d’autres programmes puissent montrer ; les couleurs de ses images ne sont pas justes.</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages dans %1 ne peuvent pas être lus. Ils sont conservés sous %2.</translation>
     </message>
 </context>
 <context>
     <name>Shortcuts</name>
     <message>
         <source>Click on the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic sur le curseur</translation>
     </message>
     <message>
         <source>Go there</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à cet endroit</translation>
     </message>
     <message>
         <source>Shift and drag on the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Maj et glisser sur le curseur</translation>
     </message>
     <message>
         <source>Go frame by frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer image par image</translation>
     </message>
     <message>
         <source>Wheel over the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette au-dessus du curseur</translation>
     </message>
     <message>
         <source>Click on the time</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic sur le temps</translation>
     </message>
     <message>
         <source>Type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>En saisir un autre : 1:02:03.5, +10s, -2s, f1234 ou 75%</translation>
     </message>
     <message>
         <source>Mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Souris</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis clavier</translation>
     </message>
 </context>
 <context>
     <name>SmartFileDialog</name>
     <message>
         <source>All Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers</translation>
     </message>
     <message>
         <source>Video Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers vidéo</translation>
     </message>
     <message>
         <source>Image Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers image</translation>
     </message>
 </context>
 <context>
     <name>SnapshotShelf</name>
     <message>
         <source>Snapshots are not kept after this window is closed: another window, or the disk, does not let it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les captures ne seront pas conservées après la fermeture de cette fenêtre : une autre fenêtre, ou le disque, ne le permet pas.</translation>
     </message>
     <message>
         <source>The list of unsaved snapshots was damaged. It is now, with its files, in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste des captures non enregistrées était endommagée. Elle se trouve maintenant, avec ses fichiers, dans %1</translation>
     </message>
     <message>
         <source>Unsaved snapshots could not be written to the disk, and are lost when the window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les captures non enregistrées n’ont pas pu être écrites sur le disque et seront perdues à la fermeture de la fenêtre.</translation>
     </message>
     <message>
         <source>saved</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrée</translation>
     </message>
     <message>
         <source>not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>non enregistrée</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2, %3, %4</translation>
     </message>
     <message>
         <source>%1 at %2
 %3, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2
+%3, %4</translation>
     </message>
 </context>
 <context>
     <name>SnapshotSummary</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>filigrane</translation>
     </message>
 </context>
 <context>
     <name>TimecodeField</name>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Go to time</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à un instant</translation>
     </message>
 </context>
 <context>
     <name>VideoFactsText</name>
     <message>
         <source>%1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 i/s</translation>
     </message>
     <message>
         <source>speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>vitesse %1</translation>
     </message>
 </context>
 <context>
     <name>VolumePopup</name>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>Muet</translation>
     </message>
 </context>
 <context>
     <name>WatermarkProfileDialog</name>
     <message>
         <source>Watermark Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages du filigrane</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un profil</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Watermark text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte du filigrane</translation>
     </message>
     <message>
         <source>Text of the watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte du filigrane</translation>
     </message>
     <message>
         <source>Add Timestamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter l’horodatage</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Chosen picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image choisie</translation>
     </message>
     <message>
         <source>Picture file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier image</translation>
     </message>
     <message>
         <source>No picture chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune image choisie</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effets</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparence</translation>
     </message>
     <message>
         <source>Invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>Invisible</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacité</translation>
     </message>
     <message>
         <source>Opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>Opaque</translation>
     </message>
     <message>
         <source>Text Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format du texte</translation>
     </message>
     <message>
         <source>Text font</source>
-        <translation type="unfinished"></translation>
+        <translation>Police du texte</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Police</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du texte</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur</translation>
     </message>
     <message>
         <source>Text Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Ombre du texte</translation>
     </message>
     <message>
         <source>Shadow color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de l’ombre</translation>
     </message>
     <message>
         <source>Shadow Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de l’ombre</translation>
     </message>
     <message>
         <source>X Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage X</translation>
     </message>
     <message>
         <source>Shadow X Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage X de l’ombre</translation>
     </message>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation> px</translation>
     </message>
     <message>
         <source>Y Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage Y</translation>
     </message>
     <message>
         <source>Shadow Y Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage Y de l’ombre</translation>
     </message>
     <message>
         <source>Position + Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Position + aperçu</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Alignement</translation>
     </message>
     <message>
         <source>X Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Marge X</translation>
     </message>
     <message>
         <source>Y Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Marge Y</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Invalid Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Image non valable</translation>
     </message>
     <message>
         <source>Could not open image. Please try another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir l’image. Veuillez en essayer une autre.</translation>
     </message>
     <message>
         <source>Top Left</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à gauche</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut</translation>
     </message>
     <message>
         <source>Top Right</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à droite</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>À gauche</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Au centre</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>À droite</translation>
     </message>
     <message>
         <source>Bottom Left</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à gauche</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas</translation>
     </message>
     <message>
         <source>Bottom Right</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à droite</translation>
     </message>
 </context>
 <context>
     <name>imaging</name>
     <message>
         <source>There is no such picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette image n’existe pas.</translation>
     </message>
     <message>
         <source>The picture does not say which frame of which video it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image ne dit pas de quelle image de quelle vidéo elle provient.</translation>
     </message>
     <message>
         <source>There is no picture, perhaps for a lack of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas d’image, peut-être par manque de mémoire</translation>
     </message>
     <message>
         <source>Not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished"></translation>
+        <translation>l’image ne peut pas être codée</translation>
     </message>
     <message>
         <source>Your quota is used up: %1 are missing for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre quota est épuisé : il manque %1 pour %2</translation>
     </message>
     <message>
         <source>The disk is full: %1 are missing for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est plein : il manque %1 pour %2</translation>
     </message>
     <message>
         <source>The folder is gone: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier n’est plus là : %1</translation>
     </message>
     <message>
         <source>The folder does not let you write: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce dossier ne vous permet pas d’écrire : %1</translation>
     </message>
     <message>
         <source>The disk is read-only: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est en lecture seule : %1</translation>
     </message>
     <message>
         <source>Cannot be written: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture impossible : %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>series</name>
     <message>
         <source>The picture could not be encoded as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image n’a pas pu être codée en %1.</translation>
     </message>
     <message>
         <source>All frames are black, blurred or at a cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les images sont noires, floues ou sur une coupe.</translation>
     </message>
     <message>
         <source>The video has no frame %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo n’a pas d’image %1.</translation>
     </message>
     <message>
         <source>Given up after %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonné après %1 secondes.</translation>
     </message>
     <message>
         <source>There is no picture at this position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas d’image à cette position.</translation>
     </message>
 </context>
 </TS>

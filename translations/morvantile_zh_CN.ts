@@ -5,444 +5,445 @@
     <name>AboutDialog</name>
     <message>
         <source>About Morvantile</source>
-        <translation type="unfinished"></translation>
+        <translation>关于 Morvantile</translation>
     </message>
     <message>
         <source>Morvantile icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile 图标</translation>
     </message>
     <message>
         <source>Morvantile - Video Frame Capture Software</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – 视频帧截取软件</translation>
     </message>
     <message>
         <source>Please send me your questions or feature suggestions!</source>
-        <translation type="unfinished"></translation>
+        <translation>欢迎提出问题或功能建议！</translation>
     </message>
     <message>
         <source>Version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>版本：%1</translation>
     </message>
 </context>
 <context>
     <name>BatchModeDialog</name>
     <message>
         <source>Morvantile Batch Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – 批处理模式</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Load Video</source>
-        <translation type="unfinished"></translation>
+        <translation>加载视频</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>移除</translation>
     </message>
     <message>
         <source>Progress of reading the videos</source>
-        <translation type="unfinished"></translation>
+        <translation>读取视频的进度</translation>
     </message>
     <message>
         <source>Stop Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>停止读取</translation>
     </message>
     <message>
         <source>Keep the videos that have been read and drop the others</source>
-        <translation type="unfinished"></translation>
+        <translation>保留已读取的视频，放弃其余视频</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>全选</translation>
     </message>
     <message>
         <source>Selected Video File</source>
-        <translation type="unfinished"></translation>
+        <translation>所选视频文件</translation>
     </message>
     <message>
         <source>[No Video Selected]</source>
-        <translation type="unfinished"></translation>
+        <translation>[未选择视频]</translation>
     </message>
     <message>
         <source>Image Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>图像设置</translation>
     </message>
     <message>
         <source>Image Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>图像配置：</translation>
     </message>
     <message>
         <source>Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>图像配置</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑</translation>
     </message>
     <message>
         <source>Edit Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑图像配置</translation>
     </message>
     <message>
         <source>Edit the image profile</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑图像配置</translation>
     </message>
     <message>
         <source>File Output</source>
-        <translation type="unfinished"></translation>
+        <translation>文件输出</translation>
     </message>
     <message>
         <source>FileName Profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名配置：</translation>
     </message>
     <message>
         <source>FileName Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名配置</translation>
     </message>
     <message>
         <source>Edit FileName Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑文件名配置</translation>
     </message>
     <message>
         <source>Edit the file name profile</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑文件名配置</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished"></translation>
+        <translation>示例：</translation>
     </message>
     <message>
         <source>Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹：</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>选择</translation>
     </message>
     <message>
         <source>Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>选择文件夹</translation>
     </message>
     <message>
         <source>Select the folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>选择存放图像的文件夹</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>截取间隔</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>生成</translation>
     </message>
     <message>
         <source>Make a number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>生成指定数量的图像</translation>
     </message>
     <message>
         <source>Number of images</source>
-        <translation type="unfinished"></translation>
+        <translation>图像数量</translation>
     </message>
     <message>
         <source>images</source>
-        <translation type="unfinished"></translation>
+        <translation>张图像</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation type="unfinished"></translation>
+        <translation>每隔</translation>
     </message>
     <message>
         <source>Make an image every so many milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>每隔指定的毫秒数生成一张图像</translation>
     </message>
     <message>
         <source>Milliseconds from image to image</source>
-        <translation type="unfinished"></translation>
+        <translation>两张图像之间的毫秒数</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>毫秒</translation>
     </message>
     <message>
         <source>Single shot at</source>
-        <translation type="unfinished"></translation>
+        <translation>单张，位于</translation>
     </message>
     <message>
         <source>Make a single image</source>
-        <translation type="unfinished"></translation>
+        <translation>只生成一张图像</translation>
     </message>
     <message>
         <source>Place of the single image</source>
-        <translation type="unfinished"></translation>
+        <translation>单张图像的位置</translation>
     </message>
     <message>
         <source>Takes exactly the frames at these positions, on all processor cores. Without it, a key frame near a position is taken instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>使用所有处理器核心，准确截取这些位置的帧。否则截取位置附近的关键帧。</translation>
     </message>
     <message>
         <source>Exact frames</source>
-        <translation type="unfinished"></translation>
+        <translation>精确帧</translation>
     </message>
     <message>
         <source>Skip Milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>跳过的毫秒数</translation>
     </message>
     <message>
         <source>Skip front</source>
-        <translation type="unfinished"></translation>
+        <translation>开头跳过</translation>
     </message>
     <message>
         <source>Milliseconds to skip at the front</source>
-        <translation type="unfinished"></translation>
+        <translation>在开头跳过的毫秒数</translation>
     </message>
     <message>
         <source>Skip back</source>
-        <translation type="unfinished"></translation>
+        <translation>结尾跳过</translation>
     </message>
     <message>
         <source>Milliseconds to skip at the back</source>
-        <translation type="unfinished"></translation>
+        <translation>在结尾跳过的毫秒数</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>开始</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Use for New Videos</source>
-        <translation type="unfinished"></translation>
+        <translation>用于新视频</translation>
     </message>
     <message>
         <source>Videos that are added later begin with the settings of the selected one</source>
-        <translation type="unfinished"></translation>
+        <translation>之后添加的视频将采用所选视频的设置</translation>
     </message>
     <message>
         <source>What the batch will make</source>
-        <translation type="unfinished"></translation>
+        <translation>批处理将生成的内容</translation>
     </message>
     <message>
         <source>Retry Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>重试失败项</translation>
     </message>
     <message>
         <source>Run the videos for which something failed once more</source>
-        <translation type="unfinished"></translation>
+        <translation>再次处理有失败的视频</translation>
     </message>
     <message>
         <source>Load videos, or drop them here</source>
-        <translation type="unfinished"></translation>
+        <translation>加载视频，或将视频拖放到此处</translation>
     </message>
     <message>
         <source>front</source>
-        <translation type="unfinished"></translation>
+        <translation>开头</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>中间</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished"></translation>
+        <translation>结尾</translation>
     </message>
     <message>
         <source>The batch can start when all videos have been read</source>
-        <translation type="unfinished"></translation>
+        <translation>读取完所有视频后即可开始批处理</translation>
     </message>
     <message>
         <source>Reading video %1 of %2:</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取第 %1 个视频，共 %2 个：</translation>
     </message>
     <message numerus="yes">
         <source>%1 images</source>
         <comment>in: About %1 of %n videos</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 张图像</numerusform>
         </translation>
     </message>
     <message>
         <source>About %1 of 1 video</source>
-        <translation type="unfinished"></translation>
+        <translation>1 个视频，约 %1</translation>
     </message>
     <message numerus="yes">
         <source>About %1 of %n videos</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 个视频，约 %1</numerusform>
         </translation>
     </message>
     <message>
         <source>The folder for the images does not exist. Create it?</source>
-        <translation type="unfinished"></translation>
+        <translation>存放图像的文件夹不存在。要创建吗？</translation>
     </message>
     <message>
         <source>These folders for the images do not exist. Create them?</source>
-        <translation type="unfinished"></translation>
+        <translation>以下存放图像的文件夹不存在。要创建吗？</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹不存在</translation>
     </message>
     <message>
         <source>%1 could not be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法创建 %1。</translation>
     </message>
     <message>
         <source>Many Images</source>
-        <translation type="unfinished"></translation>
+        <translation>图像很多</translation>
     </message>
     <message numerus="yes">
         <source>This makes about %1 images. Start?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>将生成约 %1 张图像。要开始吗？</numerusform>
         </translation>
     </message>
     <message>
         <source>Multiple</source>
-        <translation type="unfinished"></translation>
+        <translation>多个值</translation>
     </message>
 </context>
 <context>
     <name>BatchModeListModel</name>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>失败</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>目标位置</translation>
     </message>
     <message>
         <source>Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>间隔</translation>
     </message>
     <message>
         <source>Output Example</source>
-        <translation type="unfinished"></translation>
+        <translation>输出示例</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>图像</translation>
     </message>
 </context>
 <context>
     <name>BatchProcessingDialog</name>
     <message>
         <source>Batch Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>批处理</translation>
     </message>
     <message>
         <source>Current video</source>
-        <translation type="unfinished"></translation>
+        <translation>当前视频</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>状态</translation>
     </message>
     <message>
         <source>Progress of the current video</source>
-        <translation type="unfinished"></translation>
+        <translation>当前视频的进度</translation>
     </message>
     <message>
         <source>This video: %p%</source>
-        <translation type="unfinished"></translation>
+        <translation>当前视频：%p%</translation>
     </message>
     <message>
         <source>Progress of all videos</source>
-        <translation type="unfinished"></translation>
+        <translation>所有视频的进度</translation>
     </message>
     <message>
         <source>All videos: %p%</source>
-        <translation type="unfinished"></translation>
+        <translation>所有视频：%p%</translation>
     </message>
     <message>
         <source>Last image</source>
-        <translation type="unfinished"></translation>
+        <translation>最后一张图像</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>日志</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完成</translation>
     </message>
     <message>
         <source>Cancel Batch Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>取消批处理</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel batch processing?
 </source>
-        <translation type="unfinished"></translation>
+        <translation>确定要取消批处理吗？
+</translation>
     </message>
     <message>
         <source>No Room for the Images</source>
-        <translation type="unfinished"></translation>
+        <translation>没有空间存放图像</translation>
     </message>
     <message>
         <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>请腾出空间后重试，或者停止。已保存的内容会保留。</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>重试</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>停止</translation>
     </message>
     <message>
         <source>Stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在停止…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
     <name>BatchReport</name>
     <message>
         <source>1 image</source>
-        <translation type="unfinished"></translation>
+        <translation>1 张图像</translation>
     </message>
     <message numerus="yes">
         <source>%n images</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 张图像</numerusform>
         </translation>
     </message>
     <message>
         <source>Cancelled after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已取消，完成 %1</translation>
     </message>
     <message>
         <source>Finished: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>完成：%1</translation>
     </message>
     <message numerus="yes">
         <source>%1, %n failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1，%n 个失败</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 (and %n more of this kind)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1（另有 %n 个同类问题）</numerusform>
         </translation>
     </message>
 </context>
@@ -450,235 +451,235 @@
     <name>BatchWorker</name>
     <message>
         <source>Could not open file</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开文件</translation>
     </message>
     <message>
         <source>Frame extraction error %1</source>
-        <translation type="unfinished"></translation>
+        <translation>提取帧出错：%1</translation>
     </message>
     <message>
         <source>no picture found at position %1</source>
-        <translation type="unfinished"></translation>
+        <translation>在位置 %1 未找到画面</translation>
     </message>
     <message>
         <source>Could not make %1 from position %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>无法从位置 %2 生成 %1：%3</translation>
     </message>
     <message>
         <source>Could not save %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法保存 %1</translation>
     </message>
     <message>
         <source>Saving: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>正在保存：%1</translation>
     </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
     <message>
         <source>Every %1ms</source>
-        <translation type="unfinished"></translation>
+        <translation>每隔 %1 毫秒</translation>
     </message>
     <message numerus="yes">
         <source>%n images</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 张图像</numerusform>
         </translation>
     </message>
     <message>
         <source>Single front</source>
-        <translation type="unfinished"></translation>
+        <translation>单张，开头</translation>
     </message>
     <message>
         <source>Single middle</source>
-        <translation type="unfinished"></translation>
+        <translation>单张，中间</translation>
     </message>
     <message>
         <source>Single back</source>
-        <translation type="unfinished"></translation>
+        <translation>单张，结尾</translation>
     </message>
     <message>
         <source>Single </source>
-        <translation type="unfinished"></translation>
+        <translation>单张 </translation>
     </message>
 </context>
 <context>
     <name>BestFramesDialog</name>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>截取快照</translation>
     </message>
     <message>
         <source>Best of These</source>
-        <translation type="unfinished"></translation>
+        <translation>最佳帧</translation>
     </message>
     <message>
         <source>Best frames</source>
-        <translation type="unfinished"></translation>
+        <translation>最佳帧</translation>
     </message>
     <message>
         <source>Take a snapshot of the selected frame</source>
-        <translation type="unfinished"></translation>
+        <translation>截取所选帧的快照</translation>
     </message>
     <message>
         <source>Looking for the sharpest frames from %1 to %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在查找 %1 到 %2 之间最清晰的帧…</translation>
     </message>
     <message>
         <source>All frames here are black, blurred or at a cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>这里的所有帧都是黑色、模糊或位于剪辑点。</translation>
     </message>
     <message>
         <source>A click goes to the frame, a double click takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>单击转到该帧，双击截取。</translation>
     </message>
 </context>
 <context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>处理前</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>处理后</translation>
     </message>
 </context>
 <context>
     <name>FileNameProfileDialog</name>
     <message>
         <source>FileName Profile Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名配置设置</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>选择配置</translation>
     </message>
     <message>
         <source>FileName Format</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名格式</translation>
     </message>
     <message>
         <source>Prefix:</source>
-        <translation type="unfinished"></translation>
+        <translation>前缀：</translation>
     </message>
     <message>
         <source>Prefix</source>
-        <translation type="unfinished"></translation>
+        <translation>前缀</translation>
     </message>
     <message>
         <source>FileName:</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名：</translation>
     </message>
     <message>
         <source>FileName</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名</translation>
     </message>
     <message>
         <source>Suffix:</source>
-        <translation type="unfinished"></translation>
+        <translation>后缀：</translation>
     </message>
     <message>
         <source>Suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>后缀</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>类型：</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>类型</translation>
     </message>
     <message>
         <source>Example Output</source>
-        <translation type="unfinished"></translation>
+        <translation>输出示例</translation>
     </message>
     <message>
         <source>Example Video:</source>
-        <translation type="unfinished"></translation>
+        <translation>示例视频：</translation>
     </message>
     <message>
         <source>Example Output:</source>
-        <translation type="unfinished"></translation>
+        <translation>输出示例：</translation>
     </message>
     <message>
         <source>For Batch Mode when only a single image is requested.</source>
-        <translation type="unfinished"></translation>
+        <translation>用于批处理模式中只要一张图像的情况。</translation>
     </message>
     <message>
         <source>Single Shot:</source>
-        <translation type="unfinished"></translation>
+        <translation>单张：</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复默认值</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
     <name>Filmstrip</name>
     <message>
         <source>Delete 1 Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>删除 1 张快照</translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>删除 %n 张快照</numerusform>
         </translation>
     </message>
     <message>
         <source>Save All</source>
-        <translation type="unfinished"></translation>
+        <translation>全部保存</translation>
     </message>
     <message>
         <source>Filmstrip</source>
-        <translation type="unfinished"></translation>
+        <translation>胶片条</translation>
     </message>
     <message>
         <source>Save all snapshots that are not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>保存所有尚未保存的快照</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>撤销</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>重做</translation>
     </message>
     <message>
         <source>Delete Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>删除快照</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>显示</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>全选</translation>
     </message>
     <message>
         <source>All saved</source>
-        <translation type="unfinished"></translation>
+        <translation>已全部保存</translation>
     </message>
     <message numerus="yes">
         <source>%n not saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 张未保存</numerusform>
         </translation>
     </message>
 </context>
@@ -686,254 +687,254 @@
     <name>ImageFiltersDialog</name>
     <message>
         <source>Compare Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>比较滤镜</translation>
     </message>
     <message>
         <source>Before and after</source>
-        <translation type="unfinished"></translation>
+        <translation>处理前后</translation>
     </message>
     <message>
         <source>Drag the line to compare</source>
-        <translation type="unfinished"></translation>
+        <translation>拖动分隔线进行比较</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>亮度</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>对比度</translation>
     </message>
     <message>
         <source>Filter for another size</source>
-        <translation type="unfinished"></translation>
+        <translation>缩放用的滤镜</translation>
     </message>
     <message>
         <source>Apply to Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>应用到配置</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>区域平均</translation>
     </message>
     <message>
         <source>Lanczos</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanczos</translation>
     </message>
     <message>
         <source>Bicubic</source>
-        <translation type="unfinished"></translation>
+        <translation>双三次</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>最近邻</translation>
     </message>
     <message>
         <source>Put these values into the image profile “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>将这些值写入图像配置“%1”</translation>
     </message>
 </context>
 <context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>图像配置设置</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>选择配置</translation>
     </message>
     <message>
         <source>Image Size</source>
-        <translation type="unfinished"></translation>
+        <translation>图像尺寸</translation>
     </message>
     <message>
         <source>Same Size as Video</source>
-        <translation type="unfinished"></translation>
+        <translation>与视频尺寸相同</translation>
     </message>
     <message>
         <source>Image Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>图像宽度：</translation>
     </message>
     <message>
         <source>Image Width</source>
-        <translation type="unfinished"></translation>
+        <translation>图像宽度</translation>
     </message>
     <message>
         <source>Image Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>图像高度：</translation>
     </message>
     <message>
         <source>Image Height</source>
-        <translation type="unfinished"></translation>
+        <translation>图像高度</translation>
     </message>
     <message>
         <source>Maintain Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>保持宽高比</translation>
     </message>
     <message>
         <source>Filter:</source>
-        <translation type="unfinished"></translation>
+        <translation>滤镜：</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>滤镜</translation>
     </message>
     <message>
         <source>Resize in Linear Light</source>
-        <translation type="unfinished"></translation>
+        <translation>在线性光下缩放</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>视频</translation>
     </message>
     <message>
         <source>Deinterlace:</source>
-        <translation type="unfinished"></translation>
+        <translation>去隔行：</translation>
     </message>
     <message>
         <source>Deinterlace</source>
-        <translation type="unfinished"></translation>
+        <translation>去隔行</translation>
     </message>
     <message>
         <source>HDR:</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR：</translation>
     </message>
     <message>
         <source>What becomes of high dynamic range in PNG and TIFF files; other files and the screen show it tone-mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG 和 TIFF 文件中如何处理高动态范围；其他文件和屏幕以色调映射显示</translation>
     </message>
     <message>
         <source>HDR</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR</translation>
     </message>
     <message>
         <source>What becomes of high dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>如何处理高动态范围</translation>
     </message>
     <message>
         <source>File Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>文件设置</translation>
     </message>
     <message>
         <source>JPEG Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG 质量：</translation>
     </message>
     <message>
         <source>JPEG Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG 质量</translation>
     </message>
     <message>
         <source>Metadata:</source>
-        <translation type="unfinished"></translation>
+        <translation>元数据：</translation>
     </message>
     <message>
         <source>Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>元数据</translation>
     </message>
     <message>
         <source>16-Bit PNG and TIFF</source>
-        <translation type="unfinished"></translation>
+        <translation>16 位 PNG 和 TIFF</translation>
     </message>
     <message>
         <source>Image Adjustments</source>
-        <translation type="unfinished"></translation>
+        <translation>图像调整</translation>
     </message>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>亮度：</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>亮度</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>对比度：</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>对比度</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>水印</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑</translation>
     </message>
     <message>
         <source>Edit Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑水印</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复默认值</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>[No Watermark]</source>
-        <translation type="unfinished"></translation>
+        <translation>[无水印]</translation>
     </message>
     <message>
         <source>Area</source>
-        <translation type="unfinished"></translation>
+        <translation>区域平均</translation>
     </message>
     <message>
         <source>Lanczos</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanczos</translation>
     </message>
     <message>
         <source>Bicubic</source>
-        <translation type="unfinished"></translation>
+        <translation>双三次</translation>
     </message>
     <message>
         <source>Nearest</source>
-        <translation type="unfinished"></translation>
+        <translation>最近邻</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>全部</translation>
     </message>
     <message>
         <source>Without Place</source>
-        <translation type="unfinished"></translation>
+        <translation>不含地点</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>自动</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>关</translation>
     </message>
     <message>
         <source>Tone-Mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>色调映射</translation>
     </message>
     <message>
         <source>As Stored</source>
-        <translation type="unfinished"></translation>
+        <translation>按原样存储</translation>
     </message>
 </context>
 <context>
@@ -941,754 +942,758 @@
     <message>
         <source> or </source>
         <comment>between two keys</comment>
-        <translation type="unfinished"></translation>
+        <translation> 或 </translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>tool tip and keys</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>LanguageMenu</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>语言</translation>
     </message>
     <message>
         <source>System Language</source>
-        <translation type="unfinished"></translation>
+        <translation>系统语言</translation>
     </message>
     <message>
         <source>%1 shows this language when it is started again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 下次启动时将使用此语言。</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Click to open video</source>
-        <translation type="unfinished"></translation>
+        <translation>单击以打开视频</translation>
     </message>
     <message>
         <source>Open a video, or drop one here</source>
-        <translation type="unfinished"></translation>
+        <translation>打开视频，或将视频拖放到此处</translation>
     </message>
     <message>
         <source>Position in the video</source>
-        <translation type="unfinished"></translation>
+        <translation>在视频中的位置</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>位置。单击可输入其他位置：1:02:03.5, +10s, -2s, f1234 或 75%</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>时长</translation>
     </message>
     <message>
         <source>Frame, rate, size and codec</source>
-        <translation type="unfinished"></translation>
+        <translation>帧号、帧率、尺寸和编码</translation>
     </message>
     <message>
         <source>Skip back a bit</source>
-        <translation type="unfinished"></translation>
+        <translation>后退一小段</translation>
     </message>
     <message>
         <source>Step back one frame</source>
-        <translation type="unfinished"></translation>
+        <translation>后退一帧</translation>
     </message>
     <message>
         <source>Play/Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>播放/暂停</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
-        <translation type="unfinished"></translation>
+        <translation>前进一帧</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
-        <translation type="unfinished"></translation>
+        <translation>前进一小段</translation>
     </message>
     <message>
         <source>Volume Control</source>
-        <translation type="unfinished"></translation>
+        <translation>音量控制</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>截取快照</translation>
     </message>
     <message>
         <source>Take the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>截取屏幕上的画面</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>快照</translation>
     </message>
     <message>
         <source>What will be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>将要保存的内容</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>原始尺寸</translation>
     </message>
     <message>
         <source>Save the snapshot in the size of the video</source>
-        <translation type="unfinished"></translation>
+        <translation>以视频尺寸保存快照</translation>
     </message>
     <message>
         <source>Image Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>图像配置</translation>
     </message>
     <message>
         <source>Image profile</source>
-        <translation type="unfinished"></translation>
+        <translation>图像配置</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑</translation>
     </message>
     <message>
         <source>Edit image profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑图像配置</translation>
     </message>
     <message>
         <source>Automatic File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>自动文件名</translation>
     </message>
     <message>
         <source>Save without asking, under the next free name</source>
-        <translation type="unfinished"></translation>
+        <translation>不询问，直接以下一个可用的名称保存</translation>
     </message>
     <message>
         <source>File-name profile</source>
-        <translation type="unfinished"></translation>
+        <translation>文件名配置</translation>
     </message>
     <message>
         <source>Edit file-name profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑文件名配置</translation>
     </message>
     <message>
         <source>Folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>存放图像的文件夹</translation>
     </message>
     <message>
         <source>Output folder</source>
-        <translation type="unfinished"></translation>
+        <translation>输出文件夹</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览</translation>
     </message>
     <message>
         <source>Choose the folder for the images</source>
-        <translation type="unfinished"></translation>
+        <translation>选择存放图像的文件夹</translation>
     </message>
     <message>
         <source>Next:</source>
-        <translation type="unfinished"></translation>
+        <translation>下一个：</translation>
     </message>
     <message>
         <source>Next file name</source>
-        <translation type="unfinished"></translation>
+        <translation>下一个文件名</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>保存快照</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>视图</translation>
     </message>
     <message>
         <source>Video Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>视频控制</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>速度</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>片段</translation>
     </message>
     <message>
         <source>Deinterlace</source>
-        <translation type="unfinished"></translation>
+        <translation>去隔行</translation>
     </message>
     <message>
         <source>HDR</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>工具</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>帮助</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>Open a video</source>
-        <translation type="unfinished"></translation>
+        <translation>打开视频</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>退出</translation>
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>在文件夹中显示</translation>
     </message>
     <message>
         <source>Show the file that was saved last in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>在文件夹中显示最后保存的文件</translation>
     </message>
     <message>
         <source>Copy Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>复制快照</translation>
     </message>
     <message>
         <source>Copy the snapshot as it is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>按显示的样子复制快照</translation>
     </message>
     <message>
         <source>Copy Full Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>复制完整帧</translation>
     </message>
     <message>
         <source>Copy the whole frame, unprocessed</source>
-        <translation type="unfinished"></translation>
+        <translation>复制整帧，不作处理</translation>
     </message>
     <message>
         <source>Batch Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>批处理模式</translation>
     </message>
     <message>
         <source>Take series of images from many videos</source>
-        <translation type="unfinished"></translation>
+        <translation>从多个视频中截取一系列图像</translation>
     </message>
     <message>
         <source>Compare Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>比较滤镜</translation>
     </message>
     <message>
         <source>Documentation &amp;&amp; Support</source>
-        <translation type="unfinished"></translation>
+        <translation>文档与支持</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>关于</translation>
     </message>
     <message>
         <source>Command Line Options</source>
-        <translation type="unfinished"></translation>
+        <translation>命令行选项</translation>
     </message>
     <message>
         <source>Step Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>前进一帧</translation>
     </message>
     <message>
         <source>Step Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>后退一帧</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>自动</translation>
     </message>
     <message>
         <source>Make interlaced pictures that comb whole</source>
-        <translation type="unfinished"></translation>
+        <translation>修复出现梳状条纹的隔行画面</translation>
     </message>
     <message>
         <source>Tone-Mapped</source>
-        <translation type="unfinished"></translation>
+        <translation>色调映射</translation>
     </message>
     <message>
         <source>Bring high dynamic range to what every screen shows</source>
-        <translation type="unfinished"></translation>
+        <translation>将高动态范围转换为所有屏幕都能显示的范围</translation>
     </message>
     <message>
         <source>As Stored</source>
-        <translation type="unfinished"></translation>
+        <translation>按原样存储</translation>
     </message>
     <message>
         <source>Keep the values of high dynamic range in files that can hold them, for grading</source>
-        <translation type="unfinished"></translation>
+        <translation>在支持的文件中保留高动态范围的数值，用于调色</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>Take each picture for an interlaced one that combs</source>
-        <translation type="unfinished"></translation>
+        <translation>将每个画面都当作有梳状条纹的隔行画面处理</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>关</translation>
     </message>
     <message>
         <source>Leave pictures as they are stored</source>
-        <translation type="unfinished"></translation>
+        <translation>保持画面存储时的样子</translation>
     </message>
     <message>
         <source>Step Field Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>前进一场</translation>
     </message>
     <message>
         <source>Step forward to the next moment of an interlaced video</source>
-        <translation type="unfinished"></translation>
+        <translation>前进到隔行视频的下一时刻</translation>
     </message>
     <message>
         <source>Step Field Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>后退一场</translation>
     </message>
     <message>
         <source>Step back to the moment before of an interlaced video</source>
-        <translation type="unfinished"></translation>
+        <translation>后退到隔行视频的上一时刻</translation>
     </message>
     <message>
         <source>Skip Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>向前跳转</translation>
     </message>
     <message>
         <source>Skip Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>向后跳转</translation>
     </message>
     <message>
         <source>Play / Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>播放 / 暂停</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>播放或暂停</translation>
     </message>
     <message>
         <source>Take Snapshot and Save</source>
-        <translation type="unfinished"></translation>
+        <translation>截取快照并保存</translation>
     </message>
     <message>
         <source>Take the picture on screen and save it at once, under the next automatic name</source>
-        <translation type="unfinished"></translation>
+        <translation>截取屏幕上的画面，并立即以下一个自动名称保存</translation>
     </message>
     <message>
         <source>Actual Size</source>
-        <translation type="unfinished"></translation>
+        <translation>实际大小</translation>
     </message>
     <message>
         <source>Show the picture pixel by pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>逐像素显示画面</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>全屏</translation>
     </message>
     <message>
         <source>Show the player on the whole screen; Escape leaves it</source>
-        <translation type="unfinished"></translation>
+        <translation>全屏显示播放器；按 Escape 退出</translation>
     </message>
     <message>
         <source>Skip Forward 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>前进 10 秒</translation>
     </message>
     <message>
         <source>Skip forward ten seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>前进十秒</translation>
     </message>
     <message>
         <source>Skip Backward 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>后退 10 秒</translation>
     </message>
     <message>
         <source>Skip back ten seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>后退十秒</translation>
     </message>
     <message>
         <source>Go to First Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>转到第一帧</translation>
     </message>
     <message>
         <source>Show the first frame</source>
-        <translation type="unfinished"></translation>
+        <translation>显示第一帧</translation>
     </message>
     <message>
         <source>Go to Last Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>转到最后一帧</translation>
     </message>
     <message>
         <source>Show the last frame</source>
-        <translation type="unfinished"></translation>
+        <translation>显示最后一帧</translation>
     </message>
     <message>
         <source>Go to Time</source>
-        <translation type="unfinished"></translation>
+        <translation>转到时间</translation>
     </message>
     <message>
         <source>Type the time or the frame to go to</source>
-        <translation type="unfinished"></translation>
+        <translation>输入要转到的时间或帧号</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>减速</translation>
     </message>
     <message>
         <source>Play slower, down to a tenth of the speed</source>
-        <translation type="unfinished"></translation>
+        <translation>放慢播放，最低为十分之一速度</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>加速</translation>
     </message>
     <message>
         <source>Play faster, up to eight times</source>
-        <translation type="unfinished"></translation>
+        <translation>加快播放，最高为八倍速度</translation>
     </message>
     <message>
         <source>Normal Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>正常速度</translation>
     </message>
     <message>
         <source>Play as fast as it was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>按录制速度播放</translation>
     </message>
     <message>
         <source>Mark Start of Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>标记片段起点</translation>
     </message>
     <message>
         <source>The marked stretch starts with the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>标记的片段从屏幕上的画面开始</translation>
     </message>
     <message>
         <source>Mark End of Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>标记片段终点</translation>
     </message>
     <message>
         <source>The marked stretch ends with the picture on screen</source>
-        <translation type="unfinished"></translation>
+        <translation>标记的片段到屏幕上的画面结束</translation>
     </message>
     <message>
         <source>Loop Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>循环播放片段</translation>
     </message>
     <message>
         <source>Play the marked stretch over and over</source>
-        <translation type="unfinished"></translation>
+        <translation>反复播放标记的片段</translation>
     </message>
     <message>
         <source>Clear Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>清除片段</translation>
     </message>
     <message>
         <source>Forget the marked stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>取消标记的片段</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>静音</translation>
     </message>
     <message>
         <source>Silence the sound</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭声音</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>键盘快捷键</translation>
     </message>
     <message>
         <source>Show all keys</source>
-        <translation type="unfinished"></translation>
+        <translation>显示所有按键</translation>
     </message>
     <message>
         <source>Save Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>保存快照</translation>
     </message>
     <message>
         <source>Morvantile error</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile 错误</translation>
     </message>
     <message>
         <source>Can not create video renderer</source>
-        <translation type="unfinished"></translation>
+        <translation>无法创建视频渲染器</translation>
     </message>
     <message>
         <source>Best of These…</source>
-        <translation type="unfinished"></translation>
+        <translation>最佳帧…</translation>
     </message>
     <message>
         <source>Propose the sharpest frames around this one</source>
-        <translation type="unfinished"></translation>
+        <translation>推荐此帧附近最清晰的帧</translation>
     </message>
     <message>
         <source>Unsaved Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>未保存的快照</translation>
     </message>
     <message>
         <source>The snapshot has not been saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>快照尚未保存。</translation>
     </message>
     <message numerus="yes">
         <source>%n snapshots have not been saved.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 张快照尚未保存。</numerusform>
         </translation>
     </message>
     <message>
         <source>It will be lost unless you save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>如不保存，它将丢失。</translation>
     </message>
     <message>
         <source>They will be lost unless you save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>如不保存，它们将丢失。</translation>
     </message>
     <message>
         <source>Waiting until snapshots are written…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待快照写入…</translation>
     </message>
     <message>
         <source>The picture of this snapshot cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>此快照的图像已无法读取。</translation>
     </message>
     <message>
         <source>Saved %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>已保存 %1 / %2</translation>
     </message>
     <message>
         <source>The filmstrip is full: save or delete some of its snapshots.</source>
-        <translation type="unfinished"></translation>
+        <translation>胶片条已满：请保存或删除一些快照。</translation>
     </message>
     <message>
         <source>%1 is not there any more; this is its snapshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已不存在；这是它的快照。</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（%2）</translation>
     </message>
     <message>
         <source>Save Snapshots</source>
-        <translation type="unfinished"></translation>
+        <translation>保存快照</translation>
     </message>
     <message>
         <source>Saved 1 snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>已保存 1 张快照</translation>
     </message>
     <message numerus="yes">
         <source>Saved %n snapshots</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已保存 %n 张快照</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %n could not be saved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1，%n 张无法保存</numerusform>
         </translation>
     </message>
     <message>
         <source>Morvantile - %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – %1</translation>
     </message>
     <message>
         <source>Morvantile</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>视频</translation>
     </message>
     <message>
         <source>Plays and pauses</source>
-        <translation type="unfinished"></translation>
+        <translation>播放和暂停</translation>
     </message>
     <message>
         <source>%1
 cannot be played as a video.
 
 Click to open another video</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+无法作为视频播放。
+
+单击以打开其他视频</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>Open Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>打开最近的视频</translation>
     </message>
     <message>
         <source>None of them is there</source>
-        <translation type="unfinished"></translation>
+        <translation>均已不存在</translation>
     </message>
     <message>
         <source>Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation>清除列表</translation>
     </message>
     <message>
         <source>Morvantile video capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Morvantile – 视频截取</translation>
     </message>
     <message>
         <source>Failed to capture video frame</source>
-        <translation type="unfinished"></translation>
+        <translation>无法截取视频帧</translation>
     </message>
     <message>
         <source>No image of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有 %1 的图像：%2</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已保存 %1</translation>
     </message>
     <message>
         <source>Could not save %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法保存 %1</translation>
     </message>
     <message>
         <source>Unknown Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>未知文件夹</translation>
     </message>
     <message>
         <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation type="unfinished"></translation>
+        <translation>请在“自动文件名”部分输入有效的输出文件夹。</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹不存在</translation>
     </message>
     <message>
         <source>Open Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>打开文件夹</translation>
     </message>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已存在。
+要替换它吗？</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Create folder?</source>
-        <translation type="unfinished"></translation>
+        <translation>要创建文件夹吗？</translation>
     </message>
 </context>
 <context>
     <name>PlayerSteering</name>
     <message>
         <source>Speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>速度 %1</translation>
     </message>
     <message>
         <source>The stretch starts at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>片段从 %1 开始</translation>
     </message>
     <message>
         <source>The stretch ends at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>片段到 %1 结束</translation>
     </message>
     <message>
         <source>write 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>请输入 1:02:03.5, +10s, -2s, f1234 或 75%</translation>
     </message>
     <message>
         <source>Counting the frames…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在统计帧数…</translation>
     </message>
     <message>
         <source>the frames cannot be counted</source>
-        <translation type="unfinished"></translation>
+        <translation>无法统计帧数</translation>
     </message>
     <message>
         <source>the video ends before it</source>
-        <translation type="unfinished"></translation>
+        <translation>视频在此之前已结束</translation>
     </message>
     <message>
         <source>No place in the video: “%1”; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>视频中没有此位置：“%1”；%2</translation>
     </message>
 </context>
 <context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>配置</translation>
     </message>
     <message>
         <source>Rename, duplicate or delete this profile</source>
-        <translation type="unfinished"></translation>
+        <translation>重命名、复制或删除此配置</translation>
     </message>
     <message>
         <source>[Type to Name Profile]</source>
-        <translation type="unfinished"></translation>
+        <translation>[输入配置名称]</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>重命名…</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Delete…</source>
-        <translation type="unfinished"></translation>
+        <translation>删除…</translation>
     </message>
     <message>
         <source>Replace Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>替换配置</translation>
     </message>
     <message>
         <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation type="unfinished"></translation>
+        <translation>已有名为“%1”的配置。要用当前设置替换它吗？</translation>
     </message>
     <message>
         <source>Rename Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>重命名配置</translation>
     </message>
     <message>
         <source>New name:</source>
-        <translation type="unfinished"></translation>
+        <translation>新名称：</translation>
     </message>
     <message>
         <source>There is a profile “%1” already.</source>
-        <translation type="unfinished"></translation>
+        <translation>已有名为“%1”的配置。</translation>
     </message>
     <message>
         <source>%1 copy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 副本</translation>
     </message>
     <message>
         <source>%1 copy %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 副本 %2</translation>
     </message>
     <message>
         <source>Delete Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>删除配置</translation>
     </message>
     <message>
         <source>Delete the profile “%1”?</source>
-        <translation type="unfinished"></translation>
+        <translation>要删除配置“%1”吗？</translation>
     </message>
 </context>
 <context>
@@ -1697,520 +1702,523 @@ Do you want to replace it?</source>
         <source>I&apos;m sorry,
 
 Morvantile requires macOS 10.10 (Yosemite) or higher</source>
-        <translation type="unfinished"></translation>
+        <translation>抱歉，
+
+Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
     </message>
     <message>
         <source>Unsupported OS</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持的操作系统</translation>
     </message>
 </context>
 <context>
     <name>QtAV</name>
     <message>
         <source>The file is damaged, or no video.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏，或不是视频。</translation>
     </message>
     <message>
         <source>The file does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件不存在。</translation>
     </message>
     <message>
         <source>You are not allowed to read the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>您无权读取该文件。</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>内存不足。</translation>
     </message>
     <message>
         <source>This kind of video is not supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此类视频。</translation>
     </message>
     <message>
         <source>The file cannot be read (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取文件 (%1)。</translation>
     </message>
 </context>
 <context>
     <name>QtAV::AVDemuxer</name>
     <message>
         <source>Opening was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>已取消打开。</translation>
     </message>
     <message>
         <source>This is a list of files, not a video.</source>
-        <translation type="unfinished"></translation>
+        <translation>这是文件列表，不是视频。</translation>
     </message>
     <message>
         <source>The file is damaged: it declares more pictures than it can hold.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏：其声明的画面数超过可容纳的数量。</translation>
     </message>
     <message>
         <source>The file was overwritten by another program.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已被其他程序覆盖。</translation>
     </message>
     <message>
         <source>The file does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件不存在。</translation>
     </message>
     <message>
         <source>This is not a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是文件。</translation>
     </message>
 </context>
 <context>
     <name>QtAV::AVPlayer</name>
     <message>
         <source>The file cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已无法读取。</translation>
     </message>
     <message>
         <source>The video cannot be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法解码视频。</translation>
     </message>
     <message>
         <source>The frame cannot be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>该帧已无法读取。</translation>
     </message>
     <message>
         <source>The sound cannot be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法解码声音。</translation>
     </message>
     <message>
         <source>There is no video in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件中没有视频。</translation>
     </message>
     <message>
         <source>The picture is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>画面已损坏。</translation>
     </message>
 </context>
 <context>
     <name>QtAV::VideoDecoder</name>
     <message>
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>画面过大：一个 %1 × %2 的画面需要 %3 内存，而上限为 %4。</translation>
     </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>
     <message>
         <source>The video is HDR10+; its pictures are made of the HDR10 in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>该视频为 HDR10+；图像由其中的 HDR10 生成。</translation>
     </message>
     <message>
         <source>The video is Dolby Vision; its pictures are made of the base layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>该视频为杜比视界；图像由基础层生成。</translation>
     </message>
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
-        <translation type="unfinished"></translation>
+        <translation>该视频为杜比视界，没有其他程序可以显示的基础层；图像的颜色不正确。</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取 %1 中的设置。它们已保留为 %2。</translation>
     </message>
 </context>
 <context>
     <name>Shortcuts</name>
     <message>
         <source>Click on the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>单击滑块</translation>
     </message>
     <message>
         <source>Go there</source>
-        <translation type="unfinished"></translation>
+        <translation>转到该处</translation>
     </message>
     <message>
         <source>Shift and drag on the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>按住 Shift 在滑块上拖动</translation>
     </message>
     <message>
         <source>Go frame by frame</source>
-        <translation type="unfinished"></translation>
+        <translation>逐帧移动</translation>
     </message>
     <message>
         <source>Wheel over the slider</source>
-        <translation type="unfinished"></translation>
+        <translation>在滑块上滚动滚轮</translation>
     </message>
     <message>
         <source>Click on the time</source>
-        <translation type="unfinished"></translation>
+        <translation>单击时间</translation>
     </message>
     <message>
         <source>Type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation type="unfinished"></translation>
+        <translation>输入其他时间：1:02:03.5, +10s, -2s, f1234 或 75%</translation>
     </message>
     <message>
         <source>Mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>鼠标</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>键盘快捷键</translation>
     </message>
 </context>
 <context>
     <name>SmartFileDialog</name>
     <message>
         <source>All Files</source>
-        <translation type="unfinished"></translation>
+        <translation>所有文件</translation>
     </message>
     <message>
         <source>Video Files</source>
-        <translation type="unfinished"></translation>
+        <translation>视频文件</translation>
     </message>
     <message>
         <source>Image Files</source>
-        <translation type="unfinished"></translation>
+        <translation>图像文件</translation>
     </message>
 </context>
 <context>
     <name>SnapshotShelf</name>
     <message>
         <source>Snapshots are not kept after this window is closed: another window, or the disk, does not let it.</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭此窗口后快照不会保留：另一个窗口或磁盘不允许保留。</translation>
     </message>
     <message>
         <source>The list of unsaved snapshots was damaged. It is now, with its files, in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>未保存快照的列表已损坏。现已连同其文件移至 %1</translation>
     </message>
     <message>
         <source>Unsaved snapshots could not be written to the disk, and are lost when the window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>未保存的快照无法写入磁盘，关闭窗口后将丢失。</translation>
     </message>
     <message>
         <source>saved</source>
-        <translation type="unfinished"></translation>
+        <translation>已保存</translation>
     </message>
     <message>
         <source>not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>未保存</translation>
     </message>
     <message>
         <source>%1, %2, %3, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，%2，%3，%4</translation>
     </message>
     <message>
         <source>%1 at %2
 %3, %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（%2）
+%3，%4</translation>
     </message>
 </context>
 <context>
     <name>SnapshotSummary</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（原为 %2）</translation>
     </message>
     <message>
         <source>watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>水印</translation>
     </message>
 </context>
 <context>
     <name>TimecodeField</name>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Go to time</source>
-        <translation type="unfinished"></translation>
+        <translation>转到时间</translation>
     </message>
 </context>
 <context>
     <name>VideoFactsText</name>
     <message>
         <source>%1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fps</translation>
     </message>
     <message>
         <source>speed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>速度 %1</translation>
     </message>
 </context>
 <context>
     <name>VolumePopup</name>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>音量</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
+        <translation>静音</translation>
     </message>
 </context>
 <context>
     <name>WatermarkProfileDialog</name>
     <message>
         <source>Watermark Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>水印设置</translation>
     </message>
     <message>
         <source>Select Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>选择配置</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>类型</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>文字</translation>
     </message>
     <message>
         <source>Watermark text</source>
-        <translation type="unfinished"></translation>
+        <translation>水印文字</translation>
     </message>
     <message>
         <source>Text of the watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>水印的文字</translation>
     </message>
     <message>
         <source>Add Timestamp</source>
-        <translation type="unfinished"></translation>
+        <translation>添加时间戳</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>图像</translation>
     </message>
     <message>
         <source>Chosen picture</source>
-        <translation type="unfinished"></translation>
+        <translation>所选图片</translation>
     </message>
     <message>
         <source>Picture file</source>
-        <translation type="unfinished"></translation>
+        <translation>图片文件</translation>
     </message>
     <message>
         <source>No picture chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>未选择图片</translation>
     </message>
     <message>
         <source>Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>效果</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>透明度</translation>
     </message>
     <message>
         <source>Invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>不可见</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>不透明度</translation>
     </message>
     <message>
         <source>Opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>不透明</translation>
     </message>
     <message>
         <source>Text Format</source>
-        <translation type="unfinished"></translation>
+        <translation>文字格式</translation>
     </message>
     <message>
         <source>Text font</source>
-        <translation type="unfinished"></translation>
+        <translation>文字字体</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>字体</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>文字颜色</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>颜色</translation>
     </message>
     <message>
         <source>Text Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>文字阴影</translation>
     </message>
     <message>
         <source>Shadow color</source>
-        <translation type="unfinished"></translation>
+        <translation>阴影颜色</translation>
     </message>
     <message>
         <source>Shadow Color</source>
-        <translation type="unfinished"></translation>
+        <translation>阴影颜色</translation>
     </message>
     <message>
         <source>X Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>X 偏移</translation>
     </message>
     <message>
         <source>Shadow X Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>阴影 X 偏移</translation>
     </message>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation> px</translation>
     </message>
     <message>
         <source>Y Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Y 偏移</translation>
     </message>
     <message>
         <source>Shadow Y Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>阴影 Y 偏移</translation>
     </message>
     <message>
         <source>Position + Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>位置和预览</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>预览</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>对齐</translation>
     </message>
     <message>
         <source>X Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>X 边距</translation>
     </message>
     <message>
         <source>Y Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Y 边距</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Invalid Image</source>
-        <translation type="unfinished"></translation>
+        <translation>图像无效</translation>
     </message>
     <message>
         <source>Could not open image. Please try another.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开图像。请尝试其他图像。</translation>
     </message>
     <message>
         <source>Top Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左上</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>上</translation>
     </message>
     <message>
         <source>Top Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右上</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>居中</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>Bottom Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左下</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>下</translation>
     </message>
     <message>
         <source>Bottom Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右下</translation>
     </message>
 </context>
 <context>
     <name>imaging</name>
     <message>
         <source>There is no such picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有这张图片。</translation>
     </message>
     <message>
         <source>The picture does not say which frame of which video it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>该图片未说明来自哪个视频的哪一帧。</translation>
     </message>
     <message>
         <source>There is no picture, perhaps for a lack of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>没有画面，可能是内存不足</translation>
     </message>
     <message>
         <source>Not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>内存不足</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished"></translation>
+        <translation>无法编码该图片</translation>
     </message>
     <message>
         <source>Your quota is used up: %1 are missing for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>您的配额已用完：%2 还缺 %1</translation>
     </message>
     <message>
         <source>The disk is full: %1 are missing for %2</source>
-        <translation type="unfinished"></translation>
+        <translation>磁盘已满：%2 还缺 %1</translation>
     </message>
     <message>
         <source>The folder is gone: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹已不存在：%1</translation>
     </message>
     <message>
         <source>The folder does not let you write: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>您无权写入该文件夹：%1</translation>
     </message>
     <message>
         <source>The disk is read-only: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>磁盘为只读：%1</translation>
     </message>
     <message>
         <source>Cannot be written: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入：%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>series</name>
     <message>
         <source>The picture could not be encoded as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将图片编码为 %1。</translation>
     </message>
     <message>
         <source>All frames are black, blurred or at a cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>所有帧都是黑色、模糊或位于剪辑点。</translation>
     </message>
     <message>
         <source>The video has no frame %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>该视频没有第 %1 帧。</translation>
     </message>
     <message>
         <source>Given up after %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 秒后已放弃。</translation>
     </message>
     <message>
         <source>There is no picture at this position.</source>
-        <translation type="unfinished"></translation>
+        <translation>此位置没有画面。</translation>
     </message>
 </context>
 </TS>
