@@ -1657,6 +1657,18 @@ Do you want to replace it?</source>
         <source>Create folder?</source>
         <translation>هل تريد إنشاء المجلد؟</translation>
     </message>
+    <message>
+        <source>Snapshot taken: %1</source>
+        <translation>أُخذت اللقطة: %1</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>صورة الفيديو</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1، الإطار %2</translation>
+    </message>
 </context>
 <context>
     <name>PlayerSteering</name>

@@ -1609,6 +1609,18 @@ Möchten Sie die Datei ersetzen?</translation>
         <source>Create folder?</source>
         <translation>Ordner erstellen?</translation>
     </message>
+    <message>
+        <source>Snapshot taken: %1</source>
+        <translation>Schnappschuss aufgenommen: %1</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Bild des Videos</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1, Einzelbild %2</translation>
+    </message>
 </context>
 <context>
     <name>PlayerSteering</name>

@@ -1609,6 +1609,18 @@ Do you want to replace it?</source>
         <source>Create folder?</source>
         <translation>¿Crear la carpeta?</translation>
     </message>
+    <message>
+        <source>Snapshot taken: %1</source>
+        <translation>Captura tomada: %1</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Imagen del vídeo</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1, fotograma %2</translation>
+    </message>
 </context>
 <context>
     <name>PlayerSteering</name>

@@ -1609,6 +1609,18 @@ Voulez-vous le remplacer ?</translation>
         <source>Create folder?</source>
         <translation>Créer le dossier ?</translation>
     </message>
+    <message>
+        <source>Snapshot taken: %1</source>
+        <translation>Capture prise : %1</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Image de la vidéo</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1, image %2</translation>
+    </message>
 </context>
 <context>
     <name>PlayerSteering</name>

@@ -1597,6 +1597,18 @@ Do you want to replace it?</source>
         <source>Create folder?</source>
         <translation>フォルダーを作成しますか?</translation>
     </message>
+    <message>
+        <source>Snapshot taken: %1</source>
+        <translation>スナップショットを撮りました: %1</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>動画の画像</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1、フレーム %2</translation>
+    </message>
 </context>
 <context>
     <name>PlayerSteering</name>

@@ -1597,6 +1597,18 @@ Do you want to replace it?</source>
         <source>Create folder?</source>
         <translation>要创建文件夹吗？</translation>
     </message>
+    <message>
+        <source>Snapshot taken: %1</source>
+        <translation>已截取快照：%1</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>视频画面</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1，第 %2 帧</translation>
+    </message>
 </context>
 <context>
     <name>PlayerSteering</name>

@@ -182,6 +182,9 @@ void MainWindow::connectTransport()
 void MainWindow::alignControls()
 {
     m_ui->splitter->setChildrenCollapsible(false);
+    // Time runs to the right in all languages, as on every other player.
+    m_ui->videoSlider->setLayoutDirection(Qt::LeftToRight);
+    m_ui->videoControlsFrame->setLayoutDirection(Qt::LeftToRight);
     m_ui->playerLayout->setAlignment(m_ui->videoControlsFrame, Qt::AlignHCenter);
     m_ui->snapshotLayout->setAlignment(m_ui->snapshotControlsFrame, Qt::AlignHCenter);
     // Two lines of it, so that the snapshot keeps its size when its line comes up.

@@ -32,6 +32,7 @@ class QFileDialog;
 class QMenu;
 class QPushButton;
 class SnapshotSaver;
+class SpokenEvents;
 class VolumePopup;
 class ZoomGestures;
 
@@ -249,6 +250,8 @@ private:
     void connectMute();
     void setupFullScreen();
     void setupKeyTips();
+    void setupSpokenEvents();
+    [[nodiscard]] QString spokenPlace() const;
     void setSteeringEnabled(bool on);
     void giveKeyboardToVideo();
     void loadMarkedStretch(BatchModeDialog& dialog) const;
@@ -369,7 +372,8 @@ private:
     CaptureTickets m_captures;
     /// Of the captures that are still to come, which are to be saved at once.
     std::deque<bool> m_savesCapture;
-    /// Null in a window without a player, as is m_fullScreen.
+    /// Null in a window without a player, as are m_spoken and m_fullScreen.
     PlayerSteering* m_steering = nullptr;
+    SpokenEvents* m_spoken = nullptr; ///< likewise
     FullScreen* m_fullScreen = nullptr;
 };

@@ -9,6 +9,7 @@
 #include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/SavePath.h"
+#include "ui/mainwindow/SpokenEvents.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
@@ -112,6 +113,7 @@ void MainWindow::snapshotCaptured(const QImage& image)
         warnOfCapture(error);
         return;
     }
+    m_spoken->tell(tr("Snapshot taken: %1").arg(m_capturedPlace));
     if (isToBeSaved) {
         saveWithAutomaticFileName();
     }
