@@ -5,7 +5,7 @@
 ImageProfile::ImageProfile(ImageProfile* ignored)
     : BaseProfile(ignored)
 {
-    setName(QStringLiteral("Image Profile"));
+    setName(tr("Image Profile"));
 }
 
 ImageProfile::~ImageProfile() = default;

@@ -65,7 +65,7 @@ ProfileManager::ProfileManager(const QString& fileName, const Factory& factory,
 
     if (createDefaultIfEmpty && m_profiles.isEmpty()) {
         BaseProfile* const profile = createProfile();
-        profile->setName(QStringLiteral("[Unnamed Settings]"));
+        profile->setName(QLatin1Char('[') + tr("Unnamed Settings") + QLatin1Char(']'));
         addProfile(profile);
     }
     if (!m_lastUsedProfile && !m_profiles.isEmpty())

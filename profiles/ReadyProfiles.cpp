@@ -3,12 +3,18 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 
+#include <QCoreApplication>
 #include <QSettings>
 #include <QSize>
 
 #include <algorithm>
 
 namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("ReadyProfiles", text);
+}
 
 bool isNameTaken(const ProfileManager& manager, const QString& name)
 {
@@ -48,10 +54,11 @@ bool areAlikeButForSize(const ImageProfile& a, const ImageProfile& b)
 
 void ReadyProfiles::addTo(ProfileManager& manager)
 {
-    addProfile(manager, QStringLiteral("Original size"), {});
-    addProfile(manager, QStringLiteral("Full HD"), {1920, 1080});
-    addProfile(manager, QStringLiteral("Web 1280"), {1280, 1280});
-    addProfile(manager, QStringLiteral("Thumbnail 320"), {320, 320});
+    addProfile(manager, translated(QT_TRANSLATE_NOOP("ReadyProfiles", "Original size")), {});
+    addProfile(manager, translated(QT_TRANSLATE_NOOP("ReadyProfiles", "Full HD")), {1920, 1080});
+    addProfile(manager, translated(QT_TRANSLATE_NOOP("ReadyProfiles", "Web 1280")), {1280, 1280});
+    addProfile(manager, translated(QT_TRANSLATE_NOOP("ReadyProfiles", "Thumbnail 320")),
+               {320, 320});
     manager.saveProfiles();
 }
 
@@ -80,7 +87,8 @@ ImageProfile* ReadyProfiles::inOriginalSize(ImageProfile& profile, ProfileManage
     }
     auto* const made = new ImageProfile;
     made->takeValuesOf(profile);
-    made->setName(QStringLiteral("%1, original size").arg(profile.name()));
+    made->setName(
+        translated(QT_TRANSLATE_NOOP("ReadyProfiles", "%1, original size")).arg(profile.name()));
     made->setSameSizeAsVideo(true);
     manager.addProfile(made);
     manager.saveProfiles();

@@ -784,6 +784,13 @@
     </message>
 </context>
 <context>
+    <name>ImageProfile</name>
+    <message>
+        <source>Image Profile</source>
+        <translation>نمط الصورة</translation>
+    </message>
+</context>
+<context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
@@ -1706,6 +1713,13 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>ProfileManager</name>
+    <message>
+        <source>Unnamed Settings</source>
+        <translation>إعدادات بلا اسم</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1884,6 +1898,29 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
         <translation>الفيديو بصيغة Dolby Vision بلا طبقة أساسية يمكن لبرامج أخرى عرضها؛ ألوان صوره غير صحيحة.</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyProfiles</name>
+    <message>
+        <source>Original size</source>
+        <translation>الحجم الأصلي</translation>
+    </message>
+    <message>
+        <source>Full HD</source>
+        <translation>Full HD</translation>
+    </message>
+    <message>
+        <source>Web 1280</source>
+        <translation>ويب 1280</translation>
+    </message>
+    <message>
+        <source>Thumbnail 320</source>
+        <translation>صورة مصغرة 320</translation>
+    </message>
+    <message>
+        <source>%1, original size</source>
+        <translation>%1، الحجم الأصلي</translation>
     </message>
 </context>
 <context>

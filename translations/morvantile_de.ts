@@ -748,6 +748,13 @@
     </message>
 </context>
 <context>
+    <name>ImageProfile</name>
+    <message>
+        <source>Image Profile</source>
+        <translation>Bildprofil</translation>
+    </message>
+</context>
+<context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
@@ -1658,6 +1665,13 @@ Möchten Sie die Datei ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>ProfileManager</name>
+    <message>
+        <source>Unnamed Settings</source>
+        <translation>Unbenannte Einstellungen</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1834,6 +1848,29 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
         <translation>Das Video ist Dolby Vision ohne Basisschicht, die andere Programme zeigen könnten; die Farben seiner Bilder stimmen nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyProfiles</name>
+    <message>
+        <source>Original size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Full HD</source>
+        <translation>Full HD</translation>
+    </message>
+    <message>
+        <source>Web 1280</source>
+        <translation>Web 1280</translation>
+    </message>
+    <message>
+        <source>Thumbnail 320</source>
+        <translation>Vorschaubild 320</translation>
+    </message>
+    <message>
+        <source>%1, original size</source>
+        <translation>%1, Originalgröße</translation>
     </message>
 </context>
 <context>

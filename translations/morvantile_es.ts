@@ -748,6 +748,13 @@
     </message>
 </context>
 <context>
+    <name>ImageProfile</name>
+    <message>
+        <source>Image Profile</source>
+        <translation>Perfil de imagen</translation>
+    </message>
+</context>
+<context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
@@ -1658,6 +1665,13 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>ProfileManager</name>
+    <message>
+        <source>Unnamed Settings</source>
+        <translation>Ajustes sin nombre</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1836,6 +1850,29 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
         <translation>El vídeo es Dolby Vision sin una capa base que otros programas puedan mostrar; los colores de sus imágenes no son correctos.</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyProfiles</name>
+    <message>
+        <source>Original size</source>
+        <translation>Tamaño original</translation>
+    </message>
+    <message>
+        <source>Full HD</source>
+        <translation>Full HD</translation>
+    </message>
+    <message>
+        <source>Web 1280</source>
+        <translation>Web 1280</translation>
+    </message>
+    <message>
+        <source>Thumbnail 320</source>
+        <translation>Miniatura 320</translation>
+    </message>
+    <message>
+        <source>%1, original size</source>
+        <translation>%1, tamaño original</translation>
     </message>
 </context>
 <context>

@@ -748,6 +748,13 @@
     </message>
 </context>
 <context>
+    <name>ImageProfile</name>
+    <message>
+        <source>Image Profile</source>
+        <translation>Profil d’image</translation>
+    </message>
+</context>
+<context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
@@ -1658,6 +1665,13 @@ Voulez-vous le remplacer ?</translation>
     </message>
 </context>
 <context>
+    <name>ProfileManager</name>
+    <message>
+        <source>Unnamed Settings</source>
+        <translation>Réglages sans nom</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1836,6 +1850,29 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
         <translation>La vidéo est en Dolby Vision sans couche de base que d’autres programmes puissent montrer ; les couleurs de ses images ne sont pas justes.</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyProfiles</name>
+    <message>
+        <source>Original size</source>
+        <translation>Taille d’origine</translation>
+    </message>
+    <message>
+        <source>Full HD</source>
+        <translation>Full HD</translation>
+    </message>
+    <message>
+        <source>Web 1280</source>
+        <translation>Web 1280</translation>
+    </message>
+    <message>
+        <source>Thumbnail 320</source>
+        <translation>Vignette 320</translation>
+    </message>
+    <message>
+        <source>%1, original size</source>
+        <translation>%1, taille d’origine</translation>
     </message>
 </context>
 <context>

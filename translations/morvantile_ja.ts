@@ -739,6 +739,13 @@
     </message>
 </context>
 <context>
+    <name>ImageProfile</name>
+    <message>
+        <source>Image Profile</source>
+        <translation>画像プロファイル</translation>
+    </message>
+</context>
+<context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
@@ -1646,6 +1653,13 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>ProfileManager</name>
+    <message>
+        <source>Unnamed Settings</source>
+        <translation>名称未設定</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1824,6 +1838,29 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
         <translation>この動画は、ほかのプログラムで表示できるベースレイヤーのない Dolby Vision です。画像の色は正しくありません。</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyProfiles</name>
+    <message>
+        <source>Original size</source>
+        <translation>元のサイズ</translation>
+    </message>
+    <message>
+        <source>Full HD</source>
+        <translation>Full HD</translation>
+    </message>
+    <message>
+        <source>Web 1280</source>
+        <translation>Web 1280</translation>
+    </message>
+    <message>
+        <source>Thumbnail 320</source>
+        <translation>サムネイル 320</translation>
+    </message>
+    <message>
+        <source>%1, original size</source>
+        <translation>%1 (元のサイズ)</translation>
     </message>
 </context>
 <context>

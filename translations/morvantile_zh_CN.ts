@@ -739,6 +739,13 @@
     </message>
 </context>
 <context>
+    <name>ImageProfile</name>
+    <message>
+        <source>Image Profile</source>
+        <translation>图像配置</translation>
+    </message>
+</context>
+<context>
     <name>ImageProfileDialog</name>
     <message>
         <source>Image Profile Settings</source>
@@ -1646,6 +1653,13 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>ProfileManager</name>
+    <message>
+        <source>Unnamed Settings</source>
+        <translation>未命名设置</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1824,6 +1838,29 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
     <message>
         <source>The video is Dolby Vision without a base layer that other programs can show; the colours of its pictures are not right.</source>
         <translation>该视频为杜比视界，没有其他程序可以显示的基础层；图像的颜色不正确。</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyProfiles</name>
+    <message>
+        <source>Original size</source>
+        <translation>原始尺寸</translation>
+    </message>
+    <message>
+        <source>Full HD</source>
+        <translation>全高清</translation>
+    </message>
+    <message>
+        <source>Web 1280</source>
+        <translation>网络 1280</translation>
+    </message>
+    <message>
+        <source>Thumbnail 320</source>
+        <translation>缩略图 320</translation>
+    </message>
+    <message>
+        <source>%1, original size</source>
+        <translation>%1，原始尺寸</translation>
     </message>
 </context>
 <context>

@@ -137,9 +137,6 @@ void Shortcuts::showPage(QWidget& window, const QMenuBar& bar)
     auto* const text = new QTextBrowser(&dialog);
     text->setObjectName(QStringLiteral("shortcutsText"));
     text->setAccessibleName(dialog.windowTitle());
-    // Or nobody would see that the arrow keys scroll it.
-    text->setStyleSheet(QStringLiteral("QTextBrowser { border: 2px solid palette(mid); }"
-                                       "QTextBrowser:focus { border-color: palette(highlight); }"));
     text->setHtml(pageOf(sectionsOf(bar)));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
