@@ -110,6 +110,9 @@ void MainWindow::setupLanguages()
     m_ui->menuView->addMenu(menu);
     connect(menu, &LanguageMenu::message, this,
             [this](const QString& text) { statusBar()->showMessage(text, messageMs); });
+    // Time runs to the right in all languages, as on every other player.
+    m_ui->videoSlider->setLayoutDirection(Qt::LeftToRight);
+    m_ui->playButton->parentWidget()->setLayoutDirection(Qt::LeftToRight);
 }
 
 /// Says that there is nothing to show videos with, and leaves only what works without.
@@ -182,9 +185,6 @@ void MainWindow::connectTransport()
 void MainWindow::alignControls()
 {
     m_ui->splitter->setChildrenCollapsible(false);
-    // Time runs to the right in all languages, as on every other player.
-    m_ui->videoSlider->setLayoutDirection(Qt::LeftToRight);
-    m_ui->videoControlsFrame->setLayoutDirection(Qt::LeftToRight);
     m_ui->playerLayout->setAlignment(m_ui->videoControlsFrame, Qt::AlignHCenter);
     m_ui->snapshotLayout->setAlignment(m_ui->snapshotControlsFrame, Qt::AlignHCenter);
     // Two lines of it, so that the snapshot keeps its size when its line comes up.
