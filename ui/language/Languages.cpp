@@ -128,7 +128,8 @@ void Languages::use(QCoreApplication& app, const QString& language, const QStrin
     if (!load(app, QLatin1String("qtbase_") + best, folders + QStringList{qtFolder()})) {
         qDebug() << "No catalogue of Qt for" << best;
     }
-    if (load(app, cataloguePrefix + best, folders)) {
+    const bool isLoaded = load(app, cataloguePrefix + best, folders);
+    if (isLoaded && qobject_cast<QGuiApplication*>(&app) != nullptr) {
         QGuiApplication::setLayoutDirection(QLocale(best).textDirection());
     }
 }
