@@ -77,7 +77,9 @@ QString snapshotFolder()
 /// that, which asks questions.
 void followSession(MainWindow& window)
 {
+#if QT_VERSION_MAJOR < 6 // which does not do that any more
     QGuiApplication::setFallbackSessionManagementEnabled(false);
+#endif
     const auto commit = [&window](QSessionManager& session) {
         const bool mayAsk = session.allowsInteraction();
         if (!window.prepareForSessionEnd(mayAsk)) {

@@ -8,6 +8,7 @@
 #include "app/Startup.h"
 #include "app/SupportedOS.h"
 #include "profiles/SettingsFile.h"
+#include "ui/language/Languages.h"
 
 #include <QtAVWidgets>
 
@@ -40,6 +41,8 @@ int main(int argc, char** argv)
     const QStringList damage = SettingsFile::putDamagedAside();
     // Kept for the whole run: settings objects that come and go then share its open file.
     const QSettings settings;
+    const QString asked = Languages::inArguments(QCoreApplication::arguments());
+    Languages::use(*app, asked.isEmpty() ? Languages::chosen(settings) : asked);
     showMainWindow(*app, files, damage);
     return 0;
 }

@@ -16,6 +16,8 @@ class BatchWorkerConfig;
 /// only.
 class BatchModeListModel : public QAbstractTableModel
 {
+    Q_OBJECT
+
 public:
     enum Column {
         FileName = 0,

@@ -8,11 +8,6 @@
 
 namespace {
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("BatchReport", text);
-}
-
 /// The same for all failures of a job that differ in numbers alone.
 QString keyOf(const BatchWorkerConfig* job, QString message)
 {
@@ -23,8 +18,8 @@ QString keyOf(const BatchWorkerConfig* job, QString message)
 
 QString imagesText(int images)
 {
-    return images == 1 ? translated(QT_TRANSLATE_NOOP("BatchReport", "1 image"))
-                       : translated(QT_TRANSLATE_NOOP("BatchReport", "%1 images")).arg(images);
+    return images == 1 ? QCoreApplication::translate("BatchReport", "1 image")
+                       : QCoreApplication::translate("BatchReport", "%n images", nullptr, images);
 }
 
 } // namespace
@@ -51,10 +46,11 @@ QString BatchReport::textOf(const Cause& cause)
 {
     QString line = cause.job->source() + QStringLiteral(": ") + cause.first;
     line.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    return cause.count == 1
-               ? line
-               : translated(QT_TRANSLATE_NOOP("BatchReport", "%1 (and %2 more of this kind)"))
-                     .arg(line, QString::number(cause.count - 1));
+    const int others = cause.count - 1;
+    return others == 0 ? line
+                       : QCoreApplication::translate("BatchReport", "%1 (and %n more of this kind)",
+                                                     nullptr, others)
+                             .arg(line);
 }
 
 QStringList BatchReport::causesOf(const BatchWorkerConfig* job) const
@@ -71,10 +67,11 @@ QStringList BatchReport::causesOf(const BatchWorkerConfig* job) const
 QString BatchReport::outcome(int images, bool isCancelled) const
 {
     const QString done =
-        (isCancelled ? translated(QT_TRANSLATE_NOOP("BatchReport", "Cancelled after %1"))
-                     : translated(QT_TRANSLATE_NOOP("BatchReport", "Finished: %1")))
+        (isCancelled ? QCoreApplication::translate("BatchReport", "Cancelled after %1")
+                     : QCoreApplication::translate("BatchReport", "Finished: %1"))
             .arg(imagesText(images));
-    return m_failures == 0 ? done
-                           : translated(QT_TRANSLATE_NOOP("BatchReport", "%1, %2 failed"))
-                                 .arg(done, QString::number(m_failures));
+    return m_failures == 0
+               ? done
+               : QCoreApplication::translate("BatchReport", "%1, %n failed", nullptr, m_failures)
+                     .arg(done);
 }

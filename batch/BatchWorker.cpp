@@ -436,6 +436,6 @@ void BatchWorker::announceBaseLayer(QtAV::BaseLayer layer)
 void BatchWorker::extractorError(QString message)
 {
     if (!isInterruptionRequested()) {
-        Q_EMIT statusUpdate(this, tr("Frame extraction error ") + message, Error);
+        Q_EMIT statusUpdate(this, tr("Frame extraction error %1").arg(message), Error);
     }
 }

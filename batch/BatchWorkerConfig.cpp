@@ -120,22 +120,21 @@ QString BatchWorkerConfig::intervalDisplay() const
     case EveryMilliseconds:
         return tr("Every %1 s").arg(secondsText(intervalMilliseconds()));
     case SpreadImages:
-        return tr("%1 images").arg(intervalImages());
+        return tr("%n images", nullptr, intervalImages());
     case SingleShot:
         break;
     default:
         return QStringLiteral("placeholder");
     }
-    const QString single = tr("Single ");
     switch (intervalSingleShot()) {
     case Front:
-        return single + tr("front");
+        return tr("Single front");
     case Middle:
-        return single + tr("middle");
+        return tr("Single middle");
     case Back:
-        return single + tr("back");
+        return tr("Single back");
     default:
-        return single;
+        return tr("Single ");
     }
 }
 

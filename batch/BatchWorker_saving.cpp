@@ -148,7 +148,7 @@ void BatchWorker::waitForAnswer() const
 
 void BatchWorker::announceSaving(const QString& path)
 {
-    Q_EMIT statusUpdate(this, tr("Saving: ") + path, Normal);
+    Q_EMIT statusUpdate(this, tr("Saving: %1").arg(path), Normal);
     qDebug().noquote() << QStringLiteral("Saving image ") + path;
 }
 

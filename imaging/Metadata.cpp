@@ -287,11 +287,6 @@ std::optional<imaging::StillOrigin> originFrom(const Exiv2::XmpData& xmp)
     return origin;
 }
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("imaging", text);
-}
-
 } // namespace
 
 QByteArray imaging::withMetadata(const QByteArray& content, const QString& type,
@@ -307,7 +302,7 @@ QByteArray imaging::withMetadata(const QByteArray& content, const QString& type,
     } catch (const std::bad_alloc&) {
         return {};
     } catch (const std::exception& exception) {
-        qWarning().noquote() << tr("A picture of %1 has no metadata: %2")
+        qWarning().noquote() << QStringLiteral("A picture of %1 has no metadata: %2")
                                     .arg(source.video, QString::fromUtf8(exception.what()));
         return content;
     }
@@ -317,7 +312,7 @@ std::optional<imaging::StillOrigin> imaging::readOrigin(const QString& path, QSt
 {
     error.clear();
     if (!QFileInfo(path).isFile()) {
-        error = tr("There is no such picture.");
+        error = QCoreApplication::translate("imaging", "There is no such picture.");
         return std::nullopt;
     }
     QFile file(path);
@@ -333,7 +328,8 @@ std::optional<imaging::StillOrigin> imaging::readOrigin(const QString& path, QSt
         if (const auto origin = originFrom(image->xmpData())) {
             return origin;
         }
-        error = tr("The picture does not say which frame of which video it is.");
+        error = QCoreApplication::translate(
+            "imaging", "The picture does not say which frame of which video it is.");
     } catch (const std::exception& exception) {
         error = QString::fromUtf8(exception.what());
     }

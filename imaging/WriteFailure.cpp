@@ -11,15 +11,10 @@
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("imaging", text);
-}
-
 QString causeOf(int error)
 {
     return error != 0 ? QString::fromLocal8Bit(std::strerror(error))
-                      : tr("the picture cannot be encoded");
+                      : QCoreApplication::translate("imaging", "the picture cannot be encoded");
 }
 
 /// At least one byte: what is counted may have been given back meanwhile.
@@ -51,18 +46,25 @@ QString WriteFailure::text() const
     const QFileInfo folder(folderOf(path));
     if (isLackOfRoom()) {
         const QString size = QLocale::c().formattedDataSize(missing, 1, QLocale::DataSizeSIFormat);
-        const QString reason = error == EDQUOT ? tr("Your quota is used up: %1 are missing for %2")
-                                               : tr("The disk is full: %1 are missing for %2");
+        const QString reason =
+            error == EDQUOT
+                ? QCoreApplication::translate("imaging",
+                                              "Your quota is used up: %1 are missing for %2")
+                : QCoreApplication::translate("imaging", "The disk is full: %1 are missing for %2");
         return reason.arg(size, path);
     }
     if (!folder.isDir()) {
-        return tr("The folder is gone: %1").arg(folder.filePath());
+        return QCoreApplication::translate("imaging", "The folder is gone: %1")
+            .arg(folder.filePath());
     }
     if (error == EACCES || error == EPERM) {
-        return tr("The folder does not let you write: %1").arg(folder.filePath());
+        return QCoreApplication::translate("imaging", "The folder does not let you write: %1")
+            .arg(folder.filePath());
     }
     if (error == EROFS) {
-        return tr("The disk is read-only: %1").arg(folder.filePath());
+        return QCoreApplication::translate("imaging", "The disk is read-only: %1")
+            .arg(folder.filePath());
     }
-    return tr("Cannot be written: %1 (%2)").arg(path, causeOf(error));
+    return QCoreApplication::translate("imaging", "Cannot be written: %1 (%2)")
+        .arg(path, causeOf(error));
 }

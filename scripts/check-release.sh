@@ -30,7 +30,7 @@ for page in packaging/man/*.1; do
     expect "$page" ".Dd $(LC_ALL=C date -d "$date" '+%B %-d, %Y')" "$(head -n 1 "$page")"
 done
 
-# Of [run], what ends in -dev and the tools are for building; the others the programs load
+# Of [run], what ends in -dev or -dev-tools and the tools are for building; the others the programs load
 # themselves. The compiler is part of every Debian build.
 root=$PWD
 source scripts/setup.sh
@@ -44,7 +44,7 @@ listed=$(packages_in run)
 for package in $listed; do
     case $package in
     g++) continue ;;
-    *-dev | cmake | ninja-build | pkgconf) field=Build-Depends ;;
+    *-dev | *-dev-tools | cmake | ninja-build | pkgconf) field=Build-Depends ;;
     *) field=Depends ;;
     esac
     grep -qxF -- "$package" <(fields "$field") ||

@@ -39,11 +39,6 @@ constexpr int mostOverdue = 3;
 /// What a file is read through with at least: a slow network share.
 constexpr qint64 slowestBytesPerMs = 1000;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("series", text);
-}
-
 QImage thumbnailOf(const QImage& image, const QSize& bounds)
 {
     const QSize size = image.size().scaled(bounds, Qt::KeepAspectRatio);
@@ -64,7 +59,9 @@ void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::Video
     if (!job.type.isEmpty()) {
         picture.content = imaging::encode(made.image, recipe, job.type, source);
         if (picture.content.isEmpty()) {
-            picture.error = tr("The picture could not be encoded as %1.").arg(job.type);
+            picture.error =
+                QCoreApplication::translate("series", "The picture could not be encoded as %1.")
+                    .arg(job.type);
             return;
         }
     }
@@ -194,7 +191,7 @@ FramePositions SeriesLane::bestPositions(const FramePositions& wanted, qint64 du
         best.list.push_back({FramePosition::Kind::Milliseconds, static_cast<double>(ms)});
     }
     if (times.isEmpty() && error.isEmpty()) {
-        error = tr("All frames are black, blurred or at a cut.");
+        error = QCoreApplication::translate("series", "All frames are black, blurred or at a cut.");
     }
     return best;
 }
@@ -216,7 +213,8 @@ QVector<SeriesTarget> SeriesLane::neededTargets(int video, const FramePositions&
         failure.index = needed.size() + static_cast<int>(failures.size());
         failure.picture.video = video;
         failure.picture.frame = static_cast<qint64>(position.value);
-        failure.picture.error = tr("The video has no frame %1.").arg(*failure.picture.frame);
+        failure.picture.error = QCoreApplication::translate("series", "The video has no frame %1.")
+                                    .arg(*failure.picture.frame);
         failures.push_back(std::move(failure));
     }
     return needed;
@@ -254,7 +252,7 @@ FrameResult SeriesLane::inTime(FrameResult result)
 QString SeriesLane::overdueText() const
 {
     const auto seconds = static_cast<double>(m_options.positionTimeout.count()) / 1000.0;
-    return tr("Given up after %1 seconds.").arg(seconds);
+    return QCoreApplication::translate("series", "Given up after %1 seconds.").arg(seconds);
 }
 
 bool SeriesLane::isGivenUp() const
@@ -507,9 +505,10 @@ bool SeriesLane::deliver(const Task& task, Delivery delivery, const FrameResult&
         makePicture(picture, m_jobs.at(task.video), found.frame,
                     m_source.at(*delivery.seconds, found.frame.displaySize(), picture.frame));
     } else {
-        picture.error = found.answer == FrameAnswer::Failed
-                            ? found.error
-                            : tr("There is no picture at this position.");
+        picture.error =
+            found.answer == FrameAnswer::Failed
+                ? found.error
+                : QCoreApplication::translate("series", "There is no picture at this position.");
     }
     return m_board.deliver(task.video, task.stretch, std::move(delivery));
 }

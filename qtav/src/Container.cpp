@@ -20,11 +20,6 @@ namespace {
 /// A packet that takes longer to read is given up when that is asked for.
 constexpr std::chrono::milliseconds LongestPacket{100};
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("QtAV::AVDemuxer", text);
-}
-
 template <size_t Count>
 bool isOneOf(const AVInputFormat& format, const char* const (&names)[Count])
 {
@@ -164,11 +159,13 @@ std::optional<Container::View> Container::makeView(QString& error)
     int result = av_probe_input_buffer2(context->pb, &format, name.constData(), context, 0,
                                         context->format_probesize);
     if (result >= 0 && isScript(*format)) {
-        error = tr("This is a list of files, not a video.");
+        error =
+            QCoreApplication::translate("QtAV::AVDemuxer", "This is a list of files, not a video.");
         return std::nullopt;
     }
     if (result >= 0 && isMp4(*format) && declaresTooManyPictures(*m_input)) {
-        error = tr("The file is damaged: it declares more pictures than it can hold.");
+        error = QCoreApplication::translate(
+            "QtAV::AVDemuxer", "The file is damaged: it declares more pictures than it can hold.");
         return std::nullopt;
     }
     if (result >= 0) {
@@ -403,7 +400,8 @@ bool Container::isOverwritten()
 {
     if (!m_input->hasShrunk())
         return false;
-    m_errorText = tr("The file was overwritten by another program.");
+    m_errorText = QCoreApplication::translate("QtAV::AVDemuxer",
+                                              "The file was overwritten by another program.");
     return true;
 }
 
@@ -457,7 +455,8 @@ bool Container::reopen()
         return false;
     const QVector<StreamFacts> facts = factsOf(*view->format).mid(0, m_facts.size());
     if (facts != m_facts) {
-        m_errorText = tr("The file was overwritten by another program.");
+        m_errorText = QCoreApplication::translate("QtAV::AVDemuxer",
+                                                  "The file was overwritten by another program.");
         return false;
     }
     // The old context reads from the old stream to its end.

@@ -29,11 +29,6 @@ constexpr std::chrono::milliseconds Impatience{20};
 /// Small enough that a seek costs little, large enough for few calls.
 constexpr int BufferBytes = 64 << 10;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("QtAV::AVDemuxer", text);
-}
-
 /// What the system has in memory already; negative where it would have to wait for the disk.
 int readWithoutWaiting(int file, qint64 position, uint8_t* buffer, int bytes)
 {
@@ -161,9 +156,9 @@ QString openingError(int error)
 {
     switch (error) {
     case AVERROR(ENOENT):
-        return tr("The file does not exist.");
+        return QCoreApplication::translate("QtAV::AVDemuxer", "The file does not exist.");
     case AVERROR(EINVAL):
-        return tr("This is not a file.");
+        return QCoreApplication::translate("QtAV::AVDemuxer", "This is not a file.");
     default:
         return ffmpegErrorText(error);
     }

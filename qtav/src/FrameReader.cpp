@@ -56,11 +56,6 @@ bool isMarkedInterlaced(const StreamParameters& parameters)
     }
 }
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("QtAV::AVPlayer", text);
-}
-
 } // namespace
 
 FrameReader::FrameReader() = default;
@@ -78,7 +73,7 @@ bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QStr
     }
     const VideoCodecContext* context = m_demuxer.videoCodecContext();
     if (!context) {
-        error = tr("There is no video in the file.");
+        error = QCoreApplication::translate("QtAV::AVPlayer", "There is no video in the file.");
         return false;
     }
     m_decoder.reset(VideoDecoder::create("FFmpeg"));
@@ -87,7 +82,9 @@ bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QStr
     m_decoder->setDeadline(m_deadline);
     if (!openDecoder()) {
         const QString refusal = m_decoder->errorString();
-        error = refusal.isEmpty() ? tr("The video cannot be decoded.") : refusal;
+        error = refusal.isEmpty()
+                    ? QCoreApplication::translate("QtAV::AVPlayer", "The video cannot be decoded.")
+                    : refusal;
         close();
         return false;
     }
@@ -365,14 +362,18 @@ FrameResult FrameReader::nextKeyFrame(qint64 beforeMs, const IsCancelled& isCanc
 QString FrameReader::failureText() const
 {
     const QString reason = m_demuxer.errorString();
-    return reason.isEmpty() ? tr("The file cannot be read any more.") : reason;
+    return reason.isEmpty()
+               ? QCoreApplication::translate("QtAV::AVPlayer", "The file cannot be read any more.")
+               : reason;
 }
 
 /// Why a picture cannot be decoded.
 QString FrameReader::damageText() const
 {
     const QString refusal = m_decoder->errorString();
-    return refusal.isEmpty() ? tr("The picture is damaged.") : refusal;
+    return refusal.isEmpty()
+               ? QCoreApplication::translate("QtAV::AVPlayer", "The picture is damaged.")
+               : refusal;
 }
 
 void FrameReader::chooseSkipping(const Packet& packet)

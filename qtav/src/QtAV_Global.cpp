@@ -107,26 +107,25 @@ FFmpegLogPause::~FFmpegLogPause()
 
 QString ffmpegErrorText(int error)
 {
-    const auto tr = [](const char* text) { return QCoreApplication::translate("QtAV", text); };
     switch (error) {
     case AVERROR_INVALIDDATA:
-        return tr(QT_TRANSLATE_NOOP("QtAV", "The file is damaged, or no video."));
+        return QCoreApplication::translate("QtAV", "The file is damaged, or no video.");
     case AVERROR(ENOENT):
-        return tr(QT_TRANSLATE_NOOP("QtAV", "The file does not exist."));
+        return QCoreApplication::translate("QtAV", "The file does not exist.");
     case AVERROR(EACCES):
     case AVERROR(EPERM):
-        return tr(QT_TRANSLATE_NOOP("QtAV", "You are not allowed to read the file."));
+        return QCoreApplication::translate("QtAV", "You are not allowed to read the file.");
     case AVERROR(ENOMEM):
-        return tr(QT_TRANSLATE_NOOP("QtAV", "There is not enough memory."));
+        return QCoreApplication::translate("QtAV", "There is not enough memory.");
     case AVERROR_DECODER_NOT_FOUND:
     case AVERROR_PATCHWELCOME:
-        return tr(QT_TRANSLATE_NOOP("QtAV", "This kind of video is not supported."));
+        return QCoreApplication::translate("QtAV", "This kind of video is not supported.");
     default:
         break;
     }
     char text[AV_ERROR_MAX_STRING_SIZE] = {};
     av_strerror(error, text, sizeof text);
-    return tr(QT_TRANSLATE_NOOP("QtAV", "The file cannot be read (%1)."))
+    return QCoreApplication::translate("QtAV", "The file cannot be read (%1).")
         .arg(QString::fromUtf8(text));
 }
 

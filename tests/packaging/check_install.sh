@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Installs a build into a folder, moves the folder elsewhere, and fails unless the programs run
 # there, find what belongs to them, and the files for desktops, shells and `man` are in order.
-#   check_install.sh CMAKE BUILD VIDEO PRINT_GUIDE
+#   check_install.sh CMAKE BUILD VIDEO PRINT_GUIDE PRINT_LANGUAGES
 set -euo pipefail
-cmake=$1 build=$2 video=$3 print_guide=$4
+cmake=$1 build=$2 video=$3 print_guide=$4 print_languages=$5
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -37,6 +37,10 @@ cp "$print_guide" "$moved/bin/"
 guide=$("$moved/bin/PrintGuide")
 [[ $guide == "file://$share/morvantile/user-guide/user-guide.html" ]] ||
     complain "the guide is looked for at $guide"
+cp "$print_languages" "$moved/bin/"
+languages=$("$moved/bin/PrintLanguages")
+[[ $languages == "ar de en es fr ja zh_CN: Schnappschuss aufnehmen" ]] ||
+    complain "the catalogues are not found: $languages"
 
 # --- what describes them
 for page in morvantile morvantile-cli stills; do

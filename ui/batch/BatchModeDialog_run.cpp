@@ -13,6 +13,9 @@
 #include <QLocale>
 #include <QMessageBox>
 
+#include <algorithm>
+#include <limits>
+
 namespace {
 
 /// More images are asked about: they are rarely meant.
@@ -71,17 +74,27 @@ QVariantList samplingOf(const BatchWorkerConfig& job)
             job.exactFrames(),  job.intervalSingleShot()};
 }
 
+/// What chooses the plural form that goes with the number.
+int forPlural(qint64 number)
+{
+    return int(std::min<qint64>(number, std::numeric_limits<int>::max()));
+}
+
 } // namespace
 
 void BatchModeDialog::showImageSum()
 {
     const QList<BatchWorkerConfig*> jobs = m_model->getConfigs();
-    const QString images = QLocale().toString(sumOf(jobs).images);
+    if (jobs.isEmpty()) {
+        m_ui->imageSumLabel->clear();
+        return;
+    }
+    const qint64 count = sumOf(jobs).images;
+    const QString images = tr("%1 images", "in: About %1 of %n videos", forPlural(count))
+                               .arg(QLocale().toString(count));
     m_ui->imageSumLabel->setText(
-        jobs.isEmpty() ? QString()
-        : jobs.size() == 1
-            ? tr("About %1 images of 1 video").arg(images)
-            : tr("About %1 images of %2 videos").arg(images, QLocale().toString(jobs.size())));
+        jobs.size() == 1 ? tr("About %1 of 1 video").arg(images)
+                         : tr("About %1 of %n videos", nullptr, jobs.size()).arg(images));
 }
 
 /// Makes folders that are missing, if the user agrees. False where the batch cannot start.
@@ -116,11 +129,11 @@ bool BatchModeDialog::isNumberWanted(const QList<BatchWorkerConfig*>& jobs)
 {
     const qint64 images = sumOf(jobs).images;
     return images <= manyImages ||
-           QMessageBox::question(this, tr("Many Images"),
-                                 tr("This batch will make about %1 images. Start it?")
-                                     .arg(QLocale().toString(images)),
-                                 QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::No) == QMessageBox::Yes;
+           QMessageBox::question(
+               this, tr("Many Images"),
+               tr("This batch will make about %1 images. Start it?", nullptr, forPlural(images))
+                   .arg(QLocale().toString(images)),
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 /// Empty where all of the job is to be done again.

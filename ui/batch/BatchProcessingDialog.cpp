@@ -3,6 +3,7 @@
 #include "batch/BatchThread.h"
 #include "batch/BatchWorkerConfig.h"
 #include "imaging/WriteFailure.h"
+#include "ui/widgets/Announcer.h"
 #include "ui_BatchProcessingDialog.h"
 
 #include <QCloseEvent>
@@ -25,6 +26,7 @@ BatchProcessingDialog::BatchProcessingDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::BatchProcessingDialog>())
     , m_thread(new BatchThread(this))
+    , m_announcer(new Announcer(this))
 {
     m_ui->setupUi(this);
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
@@ -204,6 +206,7 @@ void BatchProcessingDialog::threadDone()
     logMessage(outcome, nullptr);
     m_ui->currentVideoLabel->clear();
     m_ui->statusLabel->setText(outcome);
+    m_announcer->announce(outcome);
 }
 
 /// A worker that was interrupted has not told of all, but is still there.

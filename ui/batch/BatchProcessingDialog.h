@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class Announcer;
 class BatchThread;
 class BatchWorkerConfig;
 class QCloseEvent;
@@ -90,6 +91,7 @@ private:
 
     const std::unique_ptr<Ui::BatchProcessingDialog> m_ui;
     BatchThread* const m_thread;
+    Announcer* const m_announcer;
     BatchReport m_report;
     /// The blocks of the log that tell of the causes in m_report.
     QList<int> m_causeBlocks;

@@ -28,7 +28,7 @@ AboutDialog::AboutDialog(QWidget* parent)
     fillLinks();
     m_ui->buttonBox->button(QDialogButtonBox::Close)->setDefault(true);
     m_ui->buttonBox->button(QDialogButtonBox::Close)->setFocus();
-    m_ui->versionLabel->setText(tr("Version: ") + ProductInfo::version());
+    m_ui->versionLabel->setText(tr("Version: %1").arg(ProductInfo::version()));
     m_ui->iconLabel->setPixmap(QPixmap(QStringLiteral(":/Images/MVIcon1024.png")));
 }
 

@@ -208,7 +208,7 @@ void ImageProfileDialog::alignCaptions()
 void ImageProfileDialog::setupWatermarkProfileComboBox()
 {
     m_ui->watermarkProfileComboBox->clear();
-    m_ui->watermarkProfileComboBox->addItem(QStringLiteral("[No Watermark]"), QString());
+    m_ui->watermarkProfileComboBox->addItem(tr("[No Watermark]"), QString());
     const QList<BaseProfile*> profiles = WatermarkProfile::profileManager()->profiles();
     for (const BaseProfile* const profile : profiles)
         m_ui->watermarkProfileComboBox->addItem(profile->shownName(), profile->id());

@@ -32,7 +32,9 @@ public:
         : m_shelf(shelf)
         , m_indexes(indexes.cbegin(), indexes.cend())
     {
-        setText(Filmstrip::tr("Delete %n Snapshot(s)", nullptr, indexes.size()));
+        setText(indexes.size() == 1
+                    ? Filmstrip::tr("Delete 1 Snapshot")
+                    : Filmstrip::tr("Delete %n Snapshots", nullptr, indexes.size()));
     }
 
     ~Deletion() override { m_shelf.discard(m_taken); }
@@ -212,7 +214,7 @@ void Filmstrip::contextMenuEvent(QContextMenuEvent* event)
 void Filmstrip::showState()
 {
     const int unsaved = m_shelf->unsaved().size();
-    m_countLabel->setText(unsaved == 0 ? tr("All saved") : tr("%1 not saved").arg(unsaved));
+    m_countLabel->setText(unsaved == 0 ? tr("All saved") : tr("%n not saved", nullptr, unsaved));
     m_saveAllButton->setEnabled(unsaved > 0);
     m_deleteAction->setEnabled(m_list->selectionModel()->hasSelection());
     setVisible(m_shelf->rowCount() > 0);

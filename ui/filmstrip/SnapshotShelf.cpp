@@ -260,7 +260,7 @@ QVector<SnapshotShelf::Taken> SnapshotShelf::take(const QModelIndexList& indexes
 void SnapshotShelf::putBack(const QVector<Taken>& taken)
 {
     for (const Taken& one : taken) {
-        const int row = std::min(one.row, m_entries.size());
+        const int row = std::min<int>(one.row, m_entries.size());
         beginInsertRows({}, row, row);
         m_entries.insert(row, one.entry);
         endInsertRows();

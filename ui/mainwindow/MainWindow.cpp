@@ -1,6 +1,7 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include "ui/mainwindow/FolderSweeper.h"
+#include "ui/mainwindow/LanguageMenu.h"
 #include "ui/mainwindow/ReturnKey.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui_MainWindow.h"
@@ -13,6 +14,7 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QMessageBox>
+#include <QStatusBar>
 
 namespace {
 
@@ -56,6 +58,7 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     GroupBoxMargins::apply(*this);
     keepKeysForVideo();
     updateWindowTitle();
+    setupLanguages();
     setupFilmstrip();
     setupThemeMenu();
     setupFileMenu();
@@ -103,6 +106,15 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     setupShowInFolder();
     setupSteering();
     setupLooks();
+}
+
+void MainWindow::setupLanguages()
+{
+    auto* const menu = new LanguageMenu(m_ui->menuView);
+    m_ui->menuView->addSeparator();
+    m_ui->menuView->addMenu(menu);
+    connect(menu, &LanguageMenu::message, this,
+            [this](const QString& text) { statusBar()->showMessage(text, messageMs); });
 }
 
 /// Says that there is nothing to show videos with, and leaves only what works without.

@@ -38,6 +38,7 @@ class SnapshotMaker;
 class SnapshotSaver;
 struct MadeSnapshot;
 class VideoZoom;
+class SpokenEvents;
 class VolumePopup;
 
 namespace QtAV {
@@ -240,6 +241,7 @@ private:
     static constexpr int messageMs = 8000;
 
     void setupPlayer(const VideoOutputFactory& makeVideoOutput);
+    void setupLanguages();
     void refusePlayer();
     void connectPlayer();
     void connectTransport();
@@ -260,6 +262,8 @@ private:
     void connectMute();
     void setupFullScreen();
     void setupKeyTips();
+    void setupSpokenEvents();
+    [[nodiscard]] QString spokenPlace() const;
     void setSteeringEnabled(bool on);
     void giveKeyboardToVideo();
     void loadMarkedStretch(BatchModeDialog& dialog) const;
@@ -381,7 +385,8 @@ private:
     CaptureTickets m_captures;
     /// Of the captures that are still to come, which are to be saved at once.
     std::deque<bool> m_savesCapture;
-    /// Null in a window without a player, as is m_fullScreen.
+    /// Null in a window without a player, as are m_spoken and m_fullScreen.
     PlayerSteering* m_steering = nullptr;
+    SpokenEvents* m_spoken = nullptr; ///< likewise
     FullScreen* m_fullScreen = nullptr;
 };

@@ -78,7 +78,7 @@ int MainWindow::askAboutSnapshots(int count)
     pause();
     QMessageBox box(QMessageBox::Question, tr("Unsaved Snapshot"),
                     count == 1 ? tr("The snapshot has not been saved.")
-                               : tr("%1 snapshots have not been saved.").arg(count),
+                               : tr("%n snapshots have not been saved.", nullptr, count),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
     box.setInformativeText(count == 1 ? tr("It will be lost unless you save it.")
                                       : tr("They will be lost unless you save them."));

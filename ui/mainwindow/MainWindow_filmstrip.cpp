@@ -239,9 +239,10 @@ void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& last
 {
     // An end that waited for them should not go on without them.
     m_isEnding = m_isEnding && failed == 0;
-    const QString count = saved == 1 ? tr("Saved 1 snapshot") : tr("Saved %1 snapshots").arg(saved);
+    const QString count =
+        saved == 1 ? tr("Saved 1 snapshot") : tr("Saved %n snapshots", nullptr, saved);
     const QString text =
-        failed == 0 ? count : tr("%1, %2 could not be saved").arg(count).arg(failed);
+        failed == 0 ? count : tr("%1, %n could not be saved", nullptr, failed).arg(count);
     if (!lastFile.isEmpty()) {
         m_lastSavedFile = QFileInfo(lastFile).absoluteFilePath();
         offerToShowSavedFile(text);

@@ -228,8 +228,8 @@ void MainWindow::noticeMediaStatus()
         return button.fontMetrics().elidedText(text, Qt::ElideMiddle, button.width() * 3 / 4);
     };
     const QString name = QFileInfo(m_currentVideoPath).fileName();
-    showOpenButton(fitting(name) + QLatin1Char('\n') + tr("cannot be played as a video.") +
-                   QLatin1String("\n\n") + tr("Click to open another video"));
+    showOpenButton(
+        tr("%1\ncannot be played as a video.\n\nClick to open another video").arg(fitting(name)));
     statusBar()->showMessage(m_player->errorString());
     // A snapshot that was taken before stays.
     setVideoControlsEnabled(false);

@@ -11,6 +11,7 @@
 #include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/SavePath.h"
 #include "ui/mainwindow/SnapshotMaker.h"
+#include "ui/mainwindow/SpokenEvents.h"
 #include "ui/widgets/ResponsiveWait.h"
 #include "ui_MainWindow.h"
 
@@ -124,6 +125,7 @@ void MainWindow::takeCapture(const MadeSnapshot& made)
         warnOfCapture(made.rendering.error);
         return;
     }
+    m_spoken->tell(tr("Snapshot taken: %1").arg(m_capturedPlace));
     if (isToBeSaved) {
         saveWithAutomaticFileName();
     }
@@ -152,7 +154,7 @@ void MainWindow::onCaptureError()
 /// Says what could not be captured and, where that is known, why not.
 void MainWindow::warnOfCapture(const QString& reason)
 {
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("Morvantile video capture"),
+    QMessageBox box(QMessageBox::Warning, tr("Morvantile video capture"),
                     tr("Failed to capture video frame"), QMessageBox::Ok);
     QStringList details{m_capturedPlace.toHtmlEscaped(), reason.toHtmlEscaped()};
     details.removeAll(QString());
@@ -344,7 +346,7 @@ bool MainWindow::isOutputFolderUsable(const QDir& folder)
     }
     const QString question = tr("Create folder?") + QLatin1String("\r\n") +
                              QDir::toNativeSeparators(folder.absolutePath());
-    if (QMessageBox::question(this, QStringLiteral("Folder does not exist"), question,
+    if (QMessageBox::question(this, tr("Folder does not exist"), question,
                               QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes) {
         return false;
     }

@@ -9,10 +9,12 @@
 #include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/ReturnKey.h"
 #include "ui/mainwindow/Shortcuts.h"
+#include "ui/mainwindow/SpokenEvents.h"
 #include "ui/widgets/VolumePopup.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
+#include <QtAV/VideoOutput.h>
 
 #include <QShortcut>
 
@@ -38,6 +40,7 @@ void MainWindow::setupSteering()
     Mnemonics::giveTo(*m_ui->menuBar);
     ReturnKey::pressControls(*m_ui->statusBar);
     setupKeyTips();
+    setupSpokenEvents();
     setSteeringEnabled(false);
 }
 
@@ -107,6 +110,24 @@ void MainWindow::setupKeyTips()
     tips->add(*m_ui->snapshotButton, *m_ui->actionTake_Snapshot);
     tips->add(*m_ui->saveButton, *m_ui->actionSaveSnapshot);
     tips->add(*m_ui->timecodeField, *m_ui->actionGoToTime);
+}
+
+/// The picture bears its description too, for those who come to it later.
+void MainWindow::setupSpokenEvents()
+{
+    m_spoken = new SpokenEvents(*this, *m_player, [this] {
+        const QString place = spokenPlace();
+        m_videoOutput->widget()->setAccessibleDescription(place);
+        return place;
+    });
+    m_videoOutput->widget()->setAccessibleName(tr("Picture of the video"));
+}
+
+QString MainWindow::spokenPlace() const
+{
+    const QString time = m_ui->timecodeField->time();
+    const auto frame = m_steering->frameOnScreen();
+    return frame ? tr("%1, frame %2").arg(time).arg(frame->value) : time;
 }
 
 /// Those that the menu of the player does not have itself.

@@ -49,6 +49,7 @@ void MainWindow::showSnapshotSummary()
     const bool hasOtherSize = m_snapshotImage.size() != m_captured.image.size();
     // Its place stays, so that the picture above keeps its size.
     m_ui->originalSizeButton->setEnabled(isShown && hasOtherSize);
+    m_ui->snapshotImageView->setAccessibleDescription(isShown ? m_capturedPlace : QString());
     m_ui->snapshotSummaryLabel->setText(
         isShown ? SnapshotSummary::text(m_snapshotImage.size(), m_captured.image.size(),
                                         typeToSave(), m_snapshotRecipe)

@@ -4,6 +4,9 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace {
 
@@ -22,6 +25,38 @@ QChar markIn(const QString& text)
     return {};
 }
 
+/// Written by a method of input, not by a key.
+bool isIdeographic(QChar letter)
+{
+    const QChar::Script script = letter.script();
+    return script == QChar::Script_Han || script == QChar::Script_Hiragana ||
+           script == QChar::Script_Katakana || letter == QChar(0x30fc);
+}
+
+/// Takes the first letter that is free.
+QChar takeLatin(QSet<QChar>& taken, const QString& hint)
+{
+    const QString letters = hint.toLower() + QStringLiteral("abcdefghijklmnopqrstuvwxyz");
+    for (const QChar letter : letters) {
+        if (letter.isLetter() && !taken.contains(letter)) {
+            taken.insert(letter);
+            return letter.toUpper();
+        }
+    }
+    return {};
+}
+
+/// "Open" for the action that has this in its name.
+QString hintOf(const QAction& action)
+{
+    QString name = action.objectName();
+    if (name.isEmpty() && action.menu() != nullptr) {
+        name = action.menu()->objectName();
+    }
+    static const QRegularExpression kind(QStringLiteral("^(action|menu)_?"));
+    return name.remove(kind);
+}
+
 bool isFirstOfWord(const QString& text, int i)
 {
     return i == 0 || !text.at(i - 1).isLetterOrNumber();
@@ -35,15 +70,21 @@ void mark(const QList<QAction*>& actions)
     }
     for (QAction* const action : actions) {
         if (!action->isSeparator() && markIn(action->text()).isNull()) {
-            action->setText(Mnemonics::marked(action->text(), taken));
+            action->setText(Mnemonics::marked(action->text(), taken, hintOf(*action)));
         }
     }
 }
 
 } // namespace
 
-QString Mnemonics::marked(const QString& text, QSet<QChar>& taken)
+QString Mnemonics::marked(const QString& text, QSet<QChar>& taken, const QString& hint)
 {
+    if (std::any_of(text.cbegin(), text.cend(), isIdeographic)) {
+        const QChar letter = takeLatin(taken, hint);
+        const int end = text.endsWith(QChar(0x2026)) ? text.size() - 1 : text.size();
+        return letter.isNull() ? text
+                               : QString(text).insert(end, QStringLiteral("(&%1)").arg(letter));
+    }
     for (const bool anywhere : {false, true}) {
         for (int i = 0; i < text.size(); ++i) {
             const QChar letter = text.at(i).toLower();
@@ -55,6 +96,18 @@ QString Mnemonics::marked(const QString& text, QSet<QChar>& taken)
         }
     }
     return text;
+}
+
+QString Mnemonics::plain(const QString& text)
+{
+    static const QRegularExpression behind(QStringLiteral("\\(&\\w\\)"));
+    // Two stand for one that is shown, one for a letter that is marked.
+    const QString both = QStringLiteral("&&");
+    QStringList parts = text.split(both);
+    for (QString& part : parts) {
+        part.remove(behind).remove(QLatin1Char('&'));
+    }
+    return parts.join(QLatin1Char('&'));
 }
 
 void Mnemonics::giveTo(QMenuBar& bar)

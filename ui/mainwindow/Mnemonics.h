@@ -21,8 +21,14 @@ public:
     static void giveTo(QMenuBar& bar);
 
     /// The text of an entry with a letter marked that is not taken yet, which is then taken. The
-    /// first letters of words come first; without a mark where all are taken.
-    [[nodiscard]] static QString marked(const QString& text, QSet<QChar>& taken);
+    /// first letters of words come first; without a mark where all are taken. A text in Chinese or
+    /// Japanese, whose letters no key types, gets one in brackets behind it, as is usual there.
+    /// @param hint  Latin letters that suit such a text, the best one first
+    [[nodiscard]] static QString marked(const QString& text, QSet<QChar>& taken,
+                                        const QString& hint = {});
+
+    /// The text without marks, as it is read elsewhere than in a menu.
+    [[nodiscard]] static QString plain(const QString& text);
 
 private:
     using QObject::QObject;

@@ -81,14 +81,18 @@ void PlayerSteering::showFacts()
         return;
     }
     const QtAV::MediaFacts facts = m_player.facts();
-    const qint64 ms = m_player.displayPosition();
-    auto frame = VideoFactsText::estimated(ms, facts);
-    if (const std::optional<int> counted = m_counter.numberAt(ms)) {
-        frame = VideoFactsText::FrameNumber{*counted, true};
-    }
     const auto& shown = m_player.statistics().video_only;
-    m_factsLabel.setText(
-        VideoFactsText::line(frame, facts, {shown.width, shown.height}, m_player.speed()));
+    m_factsLabel.setText(VideoFactsText::line(frameOnScreen(), facts, {shown.width, shown.height},
+                                              m_player.speed()));
+}
+
+std::optional<VideoFactsText::FrameNumber> PlayerSteering::frameOnScreen() const
+{
+    const qint64 ms = m_player.displayPosition();
+    if (const std::optional<int> counted = m_counter.numberAt(ms)) {
+        return VideoFactsText::FrameNumber{*counted, true};
+    }
+    return VideoFactsText::estimated(ms, m_player.facts());
 }
 
 void PlayerSteering::showChapters()

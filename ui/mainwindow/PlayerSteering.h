@@ -4,6 +4,7 @@
 #include "ui/mainwindow/SliderPreview.h"
 #include "ui/mainwindow/StretchLoop.h"
 #include "ui/mainwindow/TypedPosition.h"
+#include "ui/mainwindow/VideoFactsText.h"
 #include "video/FrameCounter.h"
 #include "video/Thumbnails.h"
 
@@ -44,6 +45,9 @@ public:
 
     /// What is marked in the open video.
     const MarkedStretch& stretch() const { return m_stretch; }
+
+    /// The number of the frame on screen, as far as it is known.
+    [[nodiscard]] std::optional<VideoFactsText::FrameNumber> frameOnScreen() const;
 
     void slower();
     void faster();

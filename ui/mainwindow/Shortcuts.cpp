@@ -1,6 +1,7 @@
 #include "ui/mainwindow/Shortcuts.h"
 
 #include "ui/mainwindow/KeyTips.h"
+#include "ui/mainwindow/Mnemonics.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -42,24 +43,13 @@ QList<Keys> severalKeys()
     };
 }
 
-QString plainText(const QAction& action)
-{
-    // Two stand for one that is shown, one for a letter that is marked.
-    const QString both = QStringLiteral("&&");
-    QStringList parts = action.text().split(both);
-    for (QString& part : parts) {
-        part.remove(QLatin1Char('&'));
-    }
-    return parts.join(QLatin1Char('&'));
-}
-
 void collect(const QList<QAction*>& actions, QVector<Shortcuts::Section::Entry>& entries)
 {
     for (const QAction* const action : actions) {
         if (action->menu() != nullptr) {
             collect(action->menu()->actions(), entries);
         } else if (!action->shortcut().isEmpty()) {
-            entries.append({plainText(*action), KeyTips::keysOf(*action)});
+            entries.append({Mnemonics::plain(action->text()), KeyTips::keysOf(*action)});
         }
     }
 }
@@ -121,7 +111,7 @@ QVector<Shortcuts::Section> Shortcuts::sectionsOf(const QMenuBar& bar)
     QVector<Section> sections;
     const QList<QAction*> menus = bar.actions();
     for (const QAction* const menu : menus) {
-        Section section{plainText(*menu), {}};
+        Section section{Mnemonics::plain(menu->text()), {}};
         if (menu->menu() != nullptr) {
             collect(menu->menu()->actions(), section.entries);
         }
@@ -152,6 +142,7 @@ void Shortcuts::showPage(QWidget& window, const QMenuBar& bar)
     dialog.setWindowTitle(translated(QT_TRANSLATE_NOOP("Shortcuts", "Keyboard Shortcuts")));
     auto* const text = new QTextBrowser(&dialog);
     text->setObjectName(QStringLiteral("shortcutsText"));
+    text->setAccessibleName(dialog.windowTitle());
     text->setHtml(pageOf(sectionsOf(bar)));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);

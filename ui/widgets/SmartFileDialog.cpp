@@ -26,7 +26,7 @@ QString imagePatterns()
 QStringList filters(const QString& kind, const QString& patterns)
 {
     return {kind + QStringLiteral(" (") + patterns + QLatin1Char(')'),
-            QStringLiteral("All Files (*.*)")};
+            SmartFileDialog::tr("All Files") + QStringLiteral(" (*.*)")};
 }
 
 void bringToFront(QWidget* window)

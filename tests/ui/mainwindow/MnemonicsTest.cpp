@@ -10,6 +10,8 @@ class MnemonicsTest : public QObject
 
 private Q_SLOTS:
     void letter_isTheFirstOfAWord_beforeOthers();
+    void letter_isLatinBehindTheText_whereNoKeyTypesIt();
+    void plain_isWithoutMarks();
     void letters_areGiven_whenTheMenuOpens_noneTwice();
 };
 
@@ -22,6 +24,24 @@ void MnemonicsTest::letter_isTheFirstOfAWord_beforeOthers()
     QCOMPARE(Mnemonics::marked(QStringLiteral("Opera"), taken), QStringLiteral("O&pera"));
     QCOMPARE(Mnemonics::marked(QStringLiteral("A && B"), taken), QStringLiteral("&A && B"));
     QCOMPARE(Mnemonics::marked(QString(), taken), QString());
+}
+
+void MnemonicsTest::letter_isLatinBehindTheText_whereNoKeyTypesIt()
+{
+    QSet<QChar> taken;
+    const QString open = QStringLiteral("\u958b\u304f");
+    const QString hint = QStringLiteral("Open");
+    QCOMPARE(Mnemonics::marked(open, taken, hint), open + QStringLiteral("(&O)"));
+    QCOMPARE(Mnemonics::marked(open + QChar(0x2026), taken, hint),
+             open + QStringLiteral("(&P)\u2026"));
+    QCOMPARE(Mnemonics::marked(open, taken), open + QStringLiteral("(&A)"));
+}
+
+void MnemonicsTest::plain_isWithoutMarks()
+{
+    QCOMPARE(Mnemonics::plain(QStringLiteral("Clo&se")), QStringLiteral("Close"));
+    QCOMPARE(Mnemonics::plain(QStringLiteral("&A && B")), QStringLiteral("A & B"));
+    QCOMPARE(Mnemonics::plain(QStringLiteral("\u958b\u304f(&O)")), QStringLiteral("\u958b\u304f"));
 }
 
 void MnemonicsTest::letters_areGiven_whenTheMenuOpens_noneTwice()

@@ -1,0 +1,189 @@
+#include "tests/ui/windows/AllWindows.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QRadioButton>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace testsupport;
+
+namespace {
+
+/// Screen readers say these beside the control; its name must say what it is for.
+QString accessibleName(QWidget& widget)
+{
+    const QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&widget);
+    return interface == nullptr ? QString() : interface->text(QAccessible::Name).trimmed();
+}
+
+/// A combo box says what is chosen in place of its name; its description says what for.
+bool isNamed(QWidget& widget)
+{
+    if (qobject_cast<QComboBox*>(&widget) != nullptr) {
+        return !widget.accessibleName().isEmpty() || !widget.accessibleDescription().isEmpty() ||
+               !widget.toolTip().isEmpty();
+    }
+    return !accessibleName(widget).isEmpty();
+}
+
+QImage pictureOf(QWidget& window, const QWidget& control)
+{
+    const QRect area(control.mapTo(&window, QPoint()), control.size());
+    QCoreApplication::processEvents();
+    return window.grab(area.adjusted(-4, -4, 4, 4)).toImage();
+}
+
+/// The control that a widget with the keyboard is, or is a part of.
+QWidget* controlOf(QWidget* widget, const QList<QWidget*>& controls)
+{
+    while (widget != nullptr && !controls.contains(widget)) {
+        widget = widget->parentWidget();
+    }
+    return widget;
+}
+
+/// The stops of the tabulator key, from the first one until it comes around.
+QList<QWidget*> stopsOf(QWidget& window)
+{
+    QList<QWidget*> stops;
+    QWidget* first = nullptr;
+    for (int i = 0; i < 200; ++i) {
+        QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+        QCoreApplication::processEvents();
+        QWidget* const focus = QApplication::focusWidget();
+        if (focus == nullptr) {
+            continue;
+        }
+        if (focus == first) {
+            break;
+        }
+        if (first == nullptr) {
+            first = focus;
+        }
+        stops += focus;
+    }
+    return stops;
+}
+
+/// Radio buttons of a group are one stop: the arrow keys go from one to another.
+bool isReachedByArrows(const QWidget& control, const QList<QWidget*>& reached)
+{
+    const auto* const radio = qobject_cast<const QRadioButton*>(&control);
+    return radio != nullptr && radio->autoExclusive() &&
+           std::any_of(reached.cbegin(), reached.cend(), [radio](const QWidget* other) {
+               return qobject_cast<const QRadioButton*>(other) != nullptr &&
+                      other->parentWidget() == radio->parentWidget();
+           });
+}
+
+/// The picture of a video that is shown is a button for the mouse; Space does the same. The
+/// slider's keys are the whole window's, and the field of the position goes where the slider does.
+bool isMouseOnly(const QWidget& control)
+{
+    return control.objectName() == QLatin1String("openVideoLabel") ||
+           control.objectName() == QLatin1String("videoSlider");
+}
+
+} // namespace
+
+/// That the windows can be used without a mouse and without seeing them.
+class AccessibilityTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void controls_haveNames();
+    void controls_areReachedByTab_inTheOrderOfReading();
+    void focus_isSeen();
+};
+
+void AccessibilityTest::initTestCase()
+{
+    QFile style(QStringLiteral(":/Styles.qss"));
+    QVERIFY(style.open(QIODevice::ReadOnly));
+    qApp->setStyleSheet(QString::fromLatin1(style.readAll()));
+}
+
+void AccessibilityTest::controls_haveNames()
+{
+    QStringList nameless;
+    int count = 0;
+    visitAllWindows([&](QWidget& window) {
+        const QList<QWidget*> controls = controlsOf(window);
+        for (QWidget* const control : controls) {
+            ++count;
+            if (!isNamed(*control)) {
+                nameless += nameOf(window) + QStringLiteral(": ") + nameOf(*control);
+            }
+        }
+    });
+    QVERIFY(count > 100);
+    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(QLatin1Char('\n'))));
+}
+
+void AccessibilityTest::controls_areReachedByTab_inTheOrderOfReading()
+{
+    QStringList wrong;
+    visitAllWindows([&](QWidget& window) {
+        const QList<QWidget*> controls = controlsOf(window);
+        const QList<QWidget*> stops = stopsOf(window);
+        QList<QWidget*> reached;
+        for (QWidget* const stop : stops) {
+            reached += controlOf(stop, controls);
+        }
+        for (const QWidget* const control : controls) {
+            const bool isExpected = control->isEnabled() && !isReachedByArrows(*control, reached) &&
+                                    !isMouseOnly(*control);
+            if (isExpected && !reached.contains(const_cast<QWidget*>(control))) {
+                wrong += nameOf(window) + QStringLiteral(": not ") + nameOf(*control);
+            }
+        }
+        for (int i = 1; i < stops.size(); ++i) {
+            const QRect from(stops.at(i - 1)->mapTo(&window, QPoint()), stops.at(i - 1)->size());
+            const QRect to(stops.at(i)->mapTo(&window, QPoint()), stops.at(i)->size());
+            if (to.bottom() < from.top() && to.right() < from.left()) {
+                wrong += nameOf(window) + QStringLiteral(": up and left from ") +
+                         nameOf(*stops.at(i - 1)) + QStringLiteral(" to ") + nameOf(*stops.at(i));
+            }
+        }
+    });
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QLatin1Char('\n'))));
+}
+
+void AccessibilityTest::focus_isSeen()
+{
+    QStringList unseen;
+    visitAllWindows([&](QWidget& window) {
+        const QList<QWidget*> controls = controlsOf(window);
+        // As the first Tab does.
+        window.setAttribute(Qt::WA_KeyboardFocusChange);
+        QList<QWidget*> stops;
+        for (QWidget* const control : controls) {
+            if (control->isEnabled() && (control->focusPolicy() & Qt::TabFocus) != 0) {
+                stops += control;
+            }
+        }
+        for (int i = 0; i < stops.size(); ++i) {
+            QWidget* const control = stops.at(i);
+            stops.at((i + 1) % stops.size())->setFocus(Qt::TabFocusReason);
+            if (stops.size() == 1) {
+                control->clearFocus();
+            }
+            const QImage without = pictureOf(window, *control);
+            control->setFocus(Qt::TabFocusReason);
+            if (pictureOf(window, *control) == without) {
+                unseen += nameOf(window) + QStringLiteral(": ") + nameOf(*control);
+            }
+        }
+    });
+    QVERIFY2(unseen.isEmpty(), qPrintable(unseen.join(QLatin1Char('\n'))));
+}
+
+QTEST_MAIN(AccessibilityTest)
+#include "AccessibilityTest.moc"
