@@ -95,22 +95,6 @@
         <translation>إخراج الملفات</translation>
     </message>
     <message>
-        <source>FileName Profile:</source>
-        <translation>نمط اسم الملف:</translation>
-    </message>
-    <message>
-        <source>FileName Profile</source>
-        <translation>نمط اسم الملف</translation>
-    </message>
-    <message>
-        <source>Edit FileName Profile</source>
-        <translation>تحرير نمط اسم الملف</translation>
-    </message>
-    <message>
-        <source>Edit the file name profile</source>
-        <translation>تحرير نمط اسم الملف</translation>
-    </message>
-    <message>
         <source>Example:</source>
         <translation>مثال:</translation>
     </message>
@@ -121,18 +105,6 @@
     <message>
         <source>Folder</source>
         <translation>المجلد</translation>
-    </message>
-    <message>
-        <source>Select</source>
-        <translation>اختيار</translation>
-    </message>
-    <message>
-        <source>Select Folder</source>
-        <translation>اختيار المجلد</translation>
-    </message>
-    <message>
-        <source>Select the folder for the images</source>
-        <translation>اختيار مجلد الصور</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
@@ -159,18 +131,6 @@
         <translation>كل</translation>
     </message>
     <message>
-        <source>Make an image every so many milliseconds</source>
-        <translation>إنشاء صورة كل عدد من الأجزاء من الألف من الثانية</translation>
-    </message>
-    <message>
-        <source>Milliseconds from image to image</source>
-        <translation>الأجزاء من الألف من الثانية بين صورة وأخرى</translation>
-    </message>
-    <message>
-        <source>milliseconds</source>
-        <translation>جزء من الألف من الثانية</translation>
-    </message>
-    <message>
         <source>Single shot at</source>
         <translation>صورة واحدة عند</translation>
     </message>
@@ -191,24 +151,12 @@
         <translation>إطارات دقيقة</translation>
     </message>
     <message>
-        <source>Skip Milliseconds</source>
-        <translation>الأجزاء من الألف من الثانية المتخطاة</translation>
-    </message>
-    <message>
         <source>Skip front</source>
         <translation>تخطي البداية</translation>
     </message>
     <message>
-        <source>Milliseconds to skip at the front</source>
-        <translation>الأجزاء من الألف من الثانية المتخطاة في البداية</translation>
-    </message>
-    <message>
         <source>Skip back</source>
         <translation>تخطي النهاية</translation>
-    </message>
-    <message>
-        <source>Milliseconds to skip at the back</source>
-        <translation>الأجزاء من الألف من الثانية المتخطاة في النهاية</translation>
     </message>
     <message>
         <source>Start</source>
@@ -237,10 +185,6 @@
     <message>
         <source>Run the videos for which something failed once more</source>
         <translation>معالجة الفيديوهات التي فشل فيها شيء مرة أخرى</translation>
-    </message>
-    <message>
-        <source>Load videos, or drop them here</source>
-        <translation>حمّل فيديوهات أو أفلتها هنا</translation>
     </message>
     <message>
         <source>front</source>
@@ -309,20 +253,76 @@
         <source>Many Images</source>
         <translation>صور كثيرة</translation>
     </message>
-    <message numerus="yes">
-        <source>This makes about %1 images. Start?</source>
-        <translation>
-            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
-            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
-            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
-            <numerusform>سينشئ هذا نحو %1 صور. هل تريد البدء؟</numerusform>
-            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
-            <numerusform>سينشئ هذا نحو %1 صورة. هل تريد البدء؟</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Multiple</source>
         <translation>قيم متعددة</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>اسم الملف:</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>اسم الملف</translation>
+    </message>
+    <message>
+        <source>Edit File Name</source>
+        <translation>تحرير اسم الملف</translation>
+    </message>
+    <message>
+        <source>Edit how files are named</source>
+        <translation>تحرير طريقة تسمية الملفات</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>اختيار المجلد</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>اختيار مجلد الصور</translation>
+    </message>
+    <message>
+        <source>Make an image every so many seconds</source>
+        <translation>إنشاء صورة كل عدد من الثواني</translation>
+    </message>
+    <message>
+        <source>Seconds from image to image</source>
+        <translation>الثواني بين صورة وأخرى</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>ثانية</translation>
+    </message>
+    <message>
+        <source>Skip Seconds</source>
+        <translation>الثواني المتخطاة</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the front</source>
+        <translation>الثواني المتخطاة في البداية</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the back</source>
+        <translation>الثواني المتخطاة في النهاية</translation>
+    </message>
+    <message>
+        <source>No Videos Yet</source>
+        <translation>لا فيديوهات بعد</translation>
+    </message>
+    <message>
+        <source>Load videos, or drop them here. Then choose which images to take of each.</source>
+        <translation>حمّل فيديوهات أو أفلتها هنا، ثم اختر الصور التي تؤخذ من كل منها.</translation>
+    </message>
+    <message numerus="yes">
+        <source>This batch will make about %1 images. Start it?</source>
+        <translation>
+            <numerusform>ستنشئ هذه الدفعة نحو %1 صورة. هل تريد بدءها؟</numerusform>
+            <numerusform>ستنشئ هذه الدفعة نحو %1 صورة. هل تريد بدءها؟</numerusform>
+            <numerusform>ستنشئ هذه الدفعة نحو %1 صورة. هل تريد بدءها؟</numerusform>
+            <numerusform>ستنشئ هذه الدفعة نحو %1 صور. هل تريد بدءها؟</numerusform>
+            <numerusform>ستنشئ هذه الدفعة نحو %1 صورة. هل تريد بدءها؟</numerusform>
+            <numerusform>ستنشئ هذه الدفعة نحو %1 صورة. هل تريد بدءها؟</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -405,14 +405,6 @@
 </translation>
     </message>
     <message>
-        <source>No Room for the Images</source>
-        <translation>لا توجد مساحة للصور</translation>
-    </message>
-    <message>
-        <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation>أفرغ مساحة ثم حاول مجددًا، أو أوقف العملية. ما حُفظ يبقى.</translation>
-    </message>
-    <message>
         <source>Try Again</source>
         <translation>المحاولة مجددًا</translation>
     </message>
@@ -427,6 +419,14 @@
     <message>
         <source>Cancel</source>
         <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Images Cannot Be Saved</source>
+        <translation>لا يمكن حفظ الصور</translation>
+    </message>
+    <message>
+        <source>Free some space and try again, or stop. Images that are saved already are kept.</source>
+        <translation>أفرغ مساحة ثم حاول مجددًا، أو أوقف العملية. الصور المحفوظة تبقى.</translation>
     </message>
 </context>
 <context>
@@ -488,14 +488,6 @@
         <translation>خطأ في استخراج الإطار: %1</translation>
     </message>
     <message>
-        <source>no picture found at position %1</source>
-        <translation>لم يُعثر على صورة عند الموضع %1</translation>
-    </message>
-    <message>
-        <source>Could not make %1 from position %2: %3</source>
-        <translation>تعذر إنشاء %1 من الموضع %2: %3</translation>
-    </message>
-    <message>
         <source>Could not save %1</source>
         <translation>تعذر حفظ %1</translation>
     </message>
@@ -503,13 +495,17 @@
         <source>Saving: %1</source>
         <translation>حفظ: %1</translation>
     </message>
+    <message>
+        <source>no picture found at %1 s</source>
+        <translation>لم يُعثر على صورة عند %1 ث</translation>
+    </message>
+    <message>
+        <source>Could not make %1 from %2 s: %3</source>
+        <translation>تعذر إنشاء %1 من %2 ث: %3</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
-    <message>
-        <source>Every %1ms</source>
-        <translation>كل %1 م.ث</translation>
-    </message>
     <message numerus="yes">
         <source>%n images</source>
         <translation>
@@ -536,6 +532,10 @@
     <message>
         <source>Single </source>
         <translation>صورة واحدة </translation>
+    </message>
+    <message>
+        <source>Every %1 s</source>
+        <translation>كل %1 ث</translation>
     </message>
 </context>
 <context>
@@ -570,6 +570,13 @@
     </message>
 </context>
 <context>
+    <name>CentredSlider</name>
+    <message>
+        <source>Double-click to reset</source>
+        <translation>انقر نقرًا مزدوجًا للاستعادة</translation>
+    </message>
+</context>
+<context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
@@ -581,18 +588,28 @@
     </message>
 </context>
 <context>
-    <name>FileNameProfileDialog</name>
+    <name>DropHighlight</name>
     <message>
-        <source>FileName Profile Settings</source>
-        <translation>إعدادات نمط اسم الملف</translation>
+        <source>Drop to open</source>
+        <translation>أفلت للفتح</translation>
     </message>
+</context>
+<context>
+    <name>DropZone</name>
+    <message>
+        <source>Looking for videos…</source>
+        <translation>البحث عن فيديوهات…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>FileNameProfileDialog</name>
     <message>
         <source>Select Profile</source>
         <translation>اختيار النمط</translation>
-    </message>
-    <message>
-        <source>FileName Format</source>
-        <translation>صيغة اسم الملف</translation>
     </message>
     <message>
         <source>Prefix:</source>
@@ -601,14 +618,6 @@
     <message>
         <source>Prefix</source>
         <translation>البادئة</translation>
-    </message>
-    <message>
-        <source>FileName:</source>
-        <translation>اسم الملف:</translation>
-    </message>
-    <message>
-        <source>FileName</source>
-        <translation>اسم الملف</translation>
     </message>
     <message>
         <source>Suffix:</source>
@@ -657,6 +666,22 @@
     <message>
         <source>Cancel</source>
         <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>File Name Profile Settings</source>
+        <translation>إعدادات نمط اسم الملف</translation>
+    </message>
+    <message>
+        <source>File Name Format</source>
+        <translation>صيغة اسم الملف</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>اسم الملف:</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>اسم الملف</translation>
     </message>
 </context>
 <context>
@@ -726,6 +751,13 @@
             <numerusform>%n غير محفوظة</numerusform>
             <numerusform>%n غير محفوظة</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FormScrollArea</name>
+    <message>
+        <source>Scroll the form</source>
+        <translation>تمرير النموذج</translation>
     </message>
 </context>
 <context>
@@ -987,6 +1019,14 @@
     <message>
         <source>As Stored</source>
         <translation>كما هو مخزّن</translation>
+    </message>
+    <message>
+        <source>Drag the line to compare</source>
+        <translation>اسحب الخط للمقارنة</translation>
+    </message>
+    <message>
+        <source>Before and after</source>
+        <translation>قبل وبعد</translation>
     </message>
 </context>
 <context>
@@ -1603,18 +1643,6 @@ Click to open another video</source>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>فتح الأخيرة</translation>
-    </message>
-    <message>
-        <source>None of them is there</source>
-        <translation>لا شيء منها موجود</translation>
-    </message>
-    <message>
-        <source>Clear List</source>
-        <translation>مسح القائمة</translation>
-    </message>
-    <message>
         <source>Morvantile video capture</source>
         <translation>Morvantile – التقاط الفيديو</translation>
     </message>
@@ -1637,10 +1665,6 @@ Click to open another video</source>
     <message>
         <source>Unknown Folder</source>
         <translation>مجلد غير معروف</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation>أدخل مجلد إخراج صالحًا في قسم «اسم ملف تلقائي».</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
@@ -1675,6 +1699,84 @@ Do you want to replace it?</source>
     <message>
         <source>%1, frame %2</source>
         <translation>%1، الإطار %2</translation>
+    </message>
+    <message>
+        <source>Fit to Window</source>
+        <translation>ملاءمة للنافذة</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>عرض الصورة كاملة</translation>
+    </message>
+    <message>
+        <source>400 %</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>Show each pixel of the video as four by four of the screen</source>
+        <translation>عرض كل بكسل من الفيديو بأربعة في أربعة من الشاشة</translation>
+    </message>
+    <message>
+        <source>Next Video</source>
+        <translation>الفيديو التالي</translation>
+    </message>
+    <message>
+        <source>Open the next video of this folder</source>
+        <translation>فتح الفيديو التالي في هذا المجلد</translation>
+    </message>
+    <message>
+        <source>Previous Video</source>
+        <translation>الفيديو السابق</translation>
+    </message>
+    <message>
+        <source>Open the previous video of this folder</source>
+        <translation>فتح الفيديو السابق في هذا المجلد</translation>
+    </message>
+    <message>
+        <source>No video was dropped.</source>
+        <translation>لم يُفلت أي فيديو.</translation>
+    </message>
+    <message>
+        <source>Several Videos</source>
+        <translation>عدة فيديوهات</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s) were dropped.</source>
+        <translation>
+            <numerusform>أُفلت %n فيديو.</numerusform>
+            <numerusform>أُفلت فيديو واحد (%n).</numerusform>
+            <numerusform>أُفلت فيديوهان (%n).</numerusform>
+            <numerusform>أُفلتت %n فيديوهات.</numerusform>
+            <numerusform>أُفلت %n فيديو.</numerusform>
+            <numerusform>أُفلت %n فيديو.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open the first one, %1, or put all of them into the list of batch mode?</source>
+        <translation>هل تريد فتح الأول، %1، أم وضعها جميعًا في قائمة وضع الدفعات؟</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>دفعة</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>لا لقطة بعد</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>أدخل مجلد إخراج صالحًا في قسم «اسم ملف تلقائي».</translation>
+    </message>
+</context>
+<context>
+    <name>OpenVideoButton</name>
+    <message>
+        <source>or drop one here</source>
+        <translation>أو أفلت واحدًا هنا</translation>
+    </message>
+    <message>
+        <source>Opened last</source>
+        <translation>المفتوحة مؤخرًا</translation>
     </message>
 </context>
 <context>
@@ -1720,6 +1822,13 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>ProfileNames</name>
+    <message>
+        <source>Standard</source>
+        <translation>قياسي</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1750,20 +1859,12 @@ Do you want to replace it?</source>
         <translation>استبدال النمط</translation>
     </message>
     <message>
-        <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation>يوجد نمط «%1» بالفعل. هل تريد استبدال إعداداته بهذه؟</translation>
-    </message>
-    <message>
         <source>Rename Profile</source>
         <translation>إعادة تسمية النمط</translation>
     </message>
     <message>
         <source>New name:</source>
         <translation>الاسم الجديد:</translation>
-    </message>
-    <message>
-        <source>There is a profile “%1” already.</source>
-        <translation>يوجد نمط «%1» بالفعل.</translation>
     </message>
     <message>
         <source>%1 copy</source>
@@ -1780,6 +1881,14 @@ Do you want to replace it?</source>
     <message>
         <source>Delete the profile “%1”?</source>
         <translation>هل تريد حذف النمط «%1»؟</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already. Replace its settings with these?</source>
+        <translation>يوجد نمط «%1» بالفعل. هل تريد استبدال إعداداته بهذه؟</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already.</source>
+        <translation>يوجد نمط «%1» بالفعل.</translation>
     </message>
 </context>
 <context>
@@ -1924,6 +2033,32 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     </message>
 </context>
 <context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open Recent</source>
+        <translation>فتح الأخيرة</translation>
+    </message>
+    <message>
+        <source>None of them is there</source>
+        <translation>لا شيء منها موجود</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>مسح القائمة</translation>
+    </message>
+</context>
+<context>
+    <name>SavedNotice</name>
+    <message>
+        <source>Show in Folder</source>
+        <translation>إظهار في المجلد</translation>
+    </message>
+    <message>
+        <source>Show the file that was saved last in its folder</source>
+        <translation>إظهار آخر ملف حُفظ في مجلده</translation>
+    </message>
+</context>
+<context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
@@ -1967,6 +2102,30 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>Keyboard Shortcuts</source>
         <translation>اختصارات لوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>Wheel over the picture</source>
+        <translation>العجلة فوق الصورة</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>التكبير عند المؤشر</translation>
+    </message>
+    <message>
+        <source>Drag the zoomed picture</source>
+        <translation>سحب الصورة المكبرة</translation>
+    </message>
+    <message>
+        <source>Show another part of it</source>
+        <translation>عرض جزء آخر منها</translation>
+    </message>
+    <message>
+        <source>Double click on the picture</source>
+        <translation>النقر المزدوج على الصورة</translation>
+    </message>
+    <message>
+        <source>Actual size, or fitted again</source>
+        <translation>الحجم الفعلي أو الملاءمة مجددًا</translation>
     </message>
 </context>
 <context>
@@ -2026,6 +2185,25 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>watermark</source>
         <translation>علامة مائية</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeMenu</name>
+    <message>
+        <source>Theme</source>
+        <translation>المظهر</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>داكن</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>فاتح</translation>
+    </message>
+    <message>
+        <source>As the System</source>
+        <translation>كما في النظام</translation>
     </message>
 </context>
 <context>
@@ -2116,20 +2294,8 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
         <translation>التأثيرات</translation>
     </message>
     <message>
-        <source>Transparency</source>
-        <translation>الشفافية</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>غير مرئية</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>العتامة</translation>
-    </message>
-    <message>
-        <source>Opaque</source>
-        <translation>معتمة</translation>
     </message>
     <message>
         <source>Text Format</source>
@@ -2258,6 +2424,26 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>Bottom Right</source>
         <translation>أسفل اليمين</translation>
+    </message>
+    <message>
+        <source>Scale with Picture</source>
+        <translation>التحجيم مع الصورة</translation>
+    </message>
+    <message>
+        <source>The watermark takes the same share of the width of every picture; otherwise it has its own size</source>
+        <translation>تشغل العلامة المائية النسبة نفسها من عرض كل صورة؛ وإلا فلها حجمها الخاص</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>العرض</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

@@ -95,22 +95,6 @@
         <translation>Dateiausgabe</translation>
     </message>
     <message>
-        <source>FileName Profile:</source>
-        <translation>Dateinamenprofil:</translation>
-    </message>
-    <message>
-        <source>FileName Profile</source>
-        <translation>Dateinamenprofil</translation>
-    </message>
-    <message>
-        <source>Edit FileName Profile</source>
-        <translation>Dateinamenprofil bearbeiten</translation>
-    </message>
-    <message>
-        <source>Edit the file name profile</source>
-        <translation>Das Dateinamenprofil bearbeiten</translation>
-    </message>
-    <message>
         <source>Example:</source>
         <translation>Beispiel:</translation>
     </message>
@@ -121,18 +105,6 @@
     <message>
         <source>Folder</source>
         <translation>Ordner</translation>
-    </message>
-    <message>
-        <source>Select</source>
-        <translation>Auswählen</translation>
-    </message>
-    <message>
-        <source>Select Folder</source>
-        <translation>Ordner auswählen</translation>
-    </message>
-    <message>
-        <source>Select the folder for the images</source>
-        <translation>Den Ordner für die Bilder auswählen</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
@@ -159,18 +131,6 @@
         <translation>Alle</translation>
     </message>
     <message>
-        <source>Make an image every so many milliseconds</source>
-        <translation>Alle so viele Millisekunden ein Bild erstellen</translation>
-    </message>
-    <message>
-        <source>Milliseconds from image to image</source>
-        <translation>Millisekunden von Bild zu Bild</translation>
-    </message>
-    <message>
-        <source>milliseconds</source>
-        <translation>Millisekunden</translation>
-    </message>
-    <message>
         <source>Single shot at</source>
         <translation>Einzelnes Bild</translation>
     </message>
@@ -191,24 +151,12 @@
         <translation>Exakte Einzelbilder</translation>
     </message>
     <message>
-        <source>Skip Milliseconds</source>
-        <translation>Millisekunden überspringen</translation>
-    </message>
-    <message>
         <source>Skip front</source>
         <translation>Am Anfang</translation>
     </message>
     <message>
-        <source>Milliseconds to skip at the front</source>
-        <translation>Millisekunden, die am Anfang übersprungen werden</translation>
-    </message>
-    <message>
         <source>Skip back</source>
         <translation>Am Ende</translation>
-    </message>
-    <message>
-        <source>Milliseconds to skip at the back</source>
-        <translation>Millisekunden, die am Ende übersprungen werden</translation>
     </message>
     <message>
         <source>Start</source>
@@ -237,10 +185,6 @@
     <message>
         <source>Run the videos for which something failed once more</source>
         <translation>Die Videos, bei denen etwas fehlgeschlagen ist, noch einmal verarbeiten</translation>
-    </message>
-    <message>
-        <source>Load videos, or drop them here</source>
-        <translation>Videos laden oder hier ablegen</translation>
     </message>
     <message>
         <source>front</source>
@@ -301,16 +245,72 @@
         <source>Many Images</source>
         <translation>Viele Bilder</translation>
     </message>
-    <message numerus="yes">
-        <source>This makes about %1 images. Start?</source>
-        <translation>
-            <numerusform>Das ergibt etwa %1 Bild. Starten?</numerusform>
-            <numerusform>Das ergibt etwa %1 Bilder. Starten?</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Multiple</source>
         <translation>Mehrere</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>Dateiname:</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Edit File Name</source>
+        <translation>Dateinamen bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit how files are named</source>
+        <translation>Bearbeiten, wie Dateien benannt werden</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>Den Ordner für die Bilder wählen</translation>
+    </message>
+    <message>
+        <source>Make an image every so many seconds</source>
+        <translation>Alle so viele Sekunden ein Bild erstellen</translation>
+    </message>
+    <message>
+        <source>Seconds from image to image</source>
+        <translation>Sekunden von Bild zu Bild</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>Skip Seconds</source>
+        <translation>Sekunden überspringen</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the front</source>
+        <translation>Sekunden, die am Anfang übersprungen werden</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the back</source>
+        <translation>Sekunden, die am Ende übersprungen werden</translation>
+    </message>
+    <message>
+        <source>No Videos Yet</source>
+        <translation>Noch keine Videos</translation>
+    </message>
+    <message>
+        <source>Load videos, or drop them here. Then choose which images to take of each.</source>
+        <translation>Laden Sie Videos oder legen Sie sie hier ab. Wählen Sie dann, welche Bilder aus jedem entstehen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>This batch will make about %1 images. Start it?</source>
+        <translation>
+            <numerusform>Dieser Stapel ergibt etwa %1 Bild. Starten?</numerusform>
+            <numerusform>Dieser Stapel ergibt etwa %1 Bilder. Starten?</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -393,14 +393,6 @@
 </translation>
     </message>
     <message>
-        <source>No Room for the Images</source>
-        <translation>Kein Platz für die Bilder</translation>
-    </message>
-    <message>
-        <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation>Schaffen Sie Platz und versuchen Sie es noch einmal, oder brechen Sie ab. Was gespeichert ist, bleibt.</translation>
-    </message>
-    <message>
         <source>Try Again</source>
         <translation>Noch einmal versuchen</translation>
     </message>
@@ -415,6 +407,14 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Images Cannot Be Saved</source>
+        <translation>Bilder können nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Free some space and try again, or stop. Images that are saved already are kept.</source>
+        <translation>Schaffen Sie Platz und versuchen Sie es noch einmal, oder brechen Sie ab. Schon gespeicherte Bilder bleiben erhalten.</translation>
     </message>
 </context>
 <context>
@@ -464,14 +464,6 @@
         <translation>Fehler beim Entnehmen des Einzelbilds: %1</translation>
     </message>
     <message>
-        <source>no picture found at position %1</source>
-        <translation>kein Bild an Position %1 gefunden</translation>
-    </message>
-    <message>
-        <source>Could not make %1 from position %2: %3</source>
-        <translation>%1 konnte aus Position %2 nicht erstellt werden: %3</translation>
-    </message>
-    <message>
         <source>Could not save %1</source>
         <translation>%1 konnte nicht gespeichert werden</translation>
     </message>
@@ -479,13 +471,17 @@
         <source>Saving: %1</source>
         <translation>Speichern: %1</translation>
     </message>
+    <message>
+        <source>no picture found at %1 s</source>
+        <translation>kein Bild bei %1 s gefunden</translation>
+    </message>
+    <message>
+        <source>Could not make %1 from %2 s: %3</source>
+        <translation>%1 konnte aus %2 s nicht erstellt werden: %3</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
-    <message>
-        <source>Every %1ms</source>
-        <translation>Alle %1 ms</translation>
-    </message>
     <message numerus="yes">
         <source>%n images</source>
         <translation>
@@ -508,6 +504,10 @@
     <message>
         <source>Single </source>
         <translation>Einzeln </translation>
+    </message>
+    <message>
+        <source>Every %1 s</source>
+        <translation>Alle %1 s</translation>
     </message>
 </context>
 <context>
@@ -542,6 +542,13 @@
     </message>
 </context>
 <context>
+    <name>CentredSlider</name>
+    <message>
+        <source>Double-click to reset</source>
+        <translation>Doppelklick setzt zurück</translation>
+    </message>
+</context>
+<context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
@@ -553,18 +560,28 @@
     </message>
 </context>
 <context>
-    <name>FileNameProfileDialog</name>
+    <name>DropHighlight</name>
     <message>
-        <source>FileName Profile Settings</source>
-        <translation>Einstellungen der Dateinamenprofile</translation>
+        <source>Drop to open</source>
+        <translation>Zum Öffnen ablegen</translation>
     </message>
+</context>
+<context>
+    <name>DropZone</name>
+    <message>
+        <source>Looking for videos…</source>
+        <translation>Videos werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>FileNameProfileDialog</name>
     <message>
         <source>Select Profile</source>
         <translation>Profil auswählen</translation>
-    </message>
-    <message>
-        <source>FileName Format</source>
-        <translation>Aufbau des Dateinamens</translation>
     </message>
     <message>
         <source>Prefix:</source>
@@ -573,14 +590,6 @@
     <message>
         <source>Prefix</source>
         <translation>Präfix</translation>
-    </message>
-    <message>
-        <source>FileName:</source>
-        <translation>Dateiname:</translation>
-    </message>
-    <message>
-        <source>FileName</source>
-        <translation>Dateiname</translation>
     </message>
     <message>
         <source>Suffix:</source>
@@ -629,6 +638,22 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>File Name Profile Settings</source>
+        <translation>Einstellungen der Dateinamenprofile</translation>
+    </message>
+    <message>
+        <source>File Name Format</source>
+        <translation>Aufbau des Dateinamens</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>Dateiname:</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>Dateiname</translation>
     </message>
 </context>
 <context>
@@ -690,6 +715,13 @@
             <numerusform>%n nicht gespeichert</numerusform>
             <numerusform>%n nicht gespeichert</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FormScrollArea</name>
+    <message>
+        <source>Scroll the form</source>
+        <translation>Das Formular verschieben</translation>
     </message>
 </context>
 <context>
@@ -951,6 +983,14 @@
     <message>
         <source>As Stored</source>
         <translation>Wie gespeichert</translation>
+    </message>
+    <message>
+        <source>Drag the line to compare</source>
+        <translation>Die Linie ziehen, um zu vergleichen</translation>
+    </message>
+    <message>
+        <source>Before and after</source>
+        <translation>Vorher und nachher</translation>
     </message>
 </context>
 <context>
@@ -1555,18 +1595,6 @@ Klicken, um ein anderes Video zu öffnen</translation>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>Zuletzt geöffnet</translation>
-    </message>
-    <message>
-        <source>None of them is there</source>
-        <translation>Keines davon ist vorhanden</translation>
-    </message>
-    <message>
-        <source>Clear List</source>
-        <translation>Liste leeren</translation>
-    </message>
-    <message>
         <source>Morvantile video capture</source>
         <translation>Morvantile – Aufnahme</translation>
     </message>
@@ -1589,10 +1617,6 @@ Klicken, um ein anderes Video zu öffnen</translation>
     <message>
         <source>Unknown Folder</source>
         <translation>Unbekannter Ordner</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation>Bitte geben Sie unter „Automatischer Dateiname“ einen gültigen Ausgabeordner ein.</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
@@ -1627,6 +1651,80 @@ Möchten Sie die Datei ersetzen?</translation>
     <message>
         <source>%1, frame %2</source>
         <translation>%1, Einzelbild %2</translation>
+    </message>
+    <message>
+        <source>Fit to Window</source>
+        <translation>An Fenster anpassen</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>Das ganze Bild zeigen</translation>
+    </message>
+    <message>
+        <source>400 %</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>Show each pixel of the video as four by four of the screen</source>
+        <translation>Jedes Pixel des Videos als vier mal vier des Bildschirms zeigen</translation>
+    </message>
+    <message>
+        <source>Next Video</source>
+        <translation>Nächstes Video</translation>
+    </message>
+    <message>
+        <source>Open the next video of this folder</source>
+        <translation>Das nächste Video dieses Ordners öffnen</translation>
+    </message>
+    <message>
+        <source>Previous Video</source>
+        <translation>Voriges Video</translation>
+    </message>
+    <message>
+        <source>Open the previous video of this folder</source>
+        <translation>Das vorige Video dieses Ordners öffnen</translation>
+    </message>
+    <message>
+        <source>No video was dropped.</source>
+        <translation>Es wurde kein Video abgelegt.</translation>
+    </message>
+    <message>
+        <source>Several Videos</source>
+        <translation>Mehrere Videos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s) were dropped.</source>
+        <translation>
+            <numerusform>%n Video wurde abgelegt.</numerusform>
+            <numerusform>%n Videos wurden abgelegt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open the first one, %1, or put all of them into the list of batch mode?</source>
+        <translation>Das erste, %1, öffnen oder alle in die Liste des Stapelmodus übernehmen?</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Stapel</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>Noch kein Schnappschuss</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>Bitte geben Sie unter „Automatischer Dateiname“ einen gültigen Ausgabeordner ein.</translation>
+    </message>
+</context>
+<context>
+    <name>OpenVideoButton</name>
+    <message>
+        <source>or drop one here</source>
+        <translation>oder hier ablegen</translation>
+    </message>
+    <message>
+        <source>Opened last</source>
+        <translation>Zuletzt geöffnet</translation>
     </message>
 </context>
 <context>
@@ -1672,6 +1770,13 @@ Möchten Sie die Datei ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>ProfileNames</name>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1702,20 +1807,12 @@ Möchten Sie die Datei ersetzen?</translation>
         <translation>Profil ersetzen</translation>
     </message>
     <message>
-        <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation>Das Profil „%1“ gibt es schon. Sollen seine Einstellungen durch diese ersetzt werden?</translation>
-    </message>
-    <message>
         <source>Rename Profile</source>
         <translation>Profil umbenennen</translation>
     </message>
     <message>
         <source>New name:</source>
         <translation>Neuer Name:</translation>
-    </message>
-    <message>
-        <source>There is a profile “%1” already.</source>
-        <translation>Das Profil „%1“ gibt es schon.</translation>
     </message>
     <message>
         <source>%1 copy</source>
@@ -1732,6 +1829,14 @@ Möchten Sie die Datei ersetzen?</translation>
     <message>
         <source>Delete the profile “%1”?</source>
         <translation>Das Profil „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already. Replace its settings with these?</source>
+        <translation>Das Profil „%1“ gibt es schon. Sollen seine Einstellungen durch diese ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already.</source>
+        <translation>Das Profil „%1“ gibt es schon.</translation>
     </message>
 </context>
 <context>
@@ -1874,6 +1979,32 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     </message>
 </context>
 <context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open Recent</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>None of them is there</source>
+        <translation>Keines davon ist vorhanden</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Liste leeren</translation>
+    </message>
+</context>
+<context>
+    <name>SavedNotice</name>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Im Ordner anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the file that was saved last in its folder</source>
+        <translation>Die zuletzt gespeicherte Datei in ihrem Ordner anzeigen</translation>
+    </message>
+</context>
+<context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
@@ -1917,6 +2048,30 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>Keyboard Shortcuts</source>
         <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Wheel over the picture</source>
+        <translation>Mausrad über dem Bild</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>Am Mauszeiger zoomen</translation>
+    </message>
+    <message>
+        <source>Drag the zoomed picture</source>
+        <translation>Das vergrößerte Bild ziehen</translation>
+    </message>
+    <message>
+        <source>Show another part of it</source>
+        <translation>Einen anderen Teil davon zeigen</translation>
+    </message>
+    <message>
+        <source>Double click on the picture</source>
+        <translation>Doppelklick auf das Bild</translation>
+    </message>
+    <message>
+        <source>Actual size, or fitted again</source>
+        <translation>Tatsächliche Größe oder wieder eingepasst</translation>
     </message>
 </context>
 <context>
@@ -1976,6 +2131,25 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>watermark</source>
         <translation>Wasserzeichen</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeMenu</name>
+    <message>
+        <source>Theme</source>
+        <translation>Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>As the System</source>
+        <translation>Wie das System</translation>
     </message>
 </context>
 <context>
@@ -2066,20 +2240,8 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
         <translation>Effekte</translation>
     </message>
     <message>
-        <source>Transparency</source>
-        <translation>Transparenz</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>Unsichtbar</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Deckkraft</translation>
-    </message>
-    <message>
-        <source>Opaque</source>
-        <translation>Deckend</translation>
     </message>
     <message>
         <source>Text Format</source>
@@ -2208,6 +2370,26 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>Bottom Right</source>
         <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Scale with Picture</source>
+        <translation>Mit dem Bild skalieren</translation>
+    </message>
+    <message>
+        <source>The watermark takes the same share of the width of every picture; otherwise it has its own size</source>
+        <translation>Das Wasserzeichen nimmt in jedem Bild denselben Anteil der Breite ein; sonst hat es seine eigene Größe</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

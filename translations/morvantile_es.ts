@@ -95,22 +95,6 @@
         <translation>Archivos de salida</translation>
     </message>
     <message>
-        <source>FileName Profile:</source>
-        <translation>Perfil de nombre de archivo:</translation>
-    </message>
-    <message>
-        <source>FileName Profile</source>
-        <translation>Perfil de nombre de archivo</translation>
-    </message>
-    <message>
-        <source>Edit FileName Profile</source>
-        <translation>Editar perfil de nombre de archivo</translation>
-    </message>
-    <message>
-        <source>Edit the file name profile</source>
-        <translation>Editar el perfil de nombre de archivo</translation>
-    </message>
-    <message>
         <source>Example:</source>
         <translation>Ejemplo:</translation>
     </message>
@@ -121,18 +105,6 @@
     <message>
         <source>Folder</source>
         <translation>Carpeta</translation>
-    </message>
-    <message>
-        <source>Select</source>
-        <translation>Seleccionar</translation>
-    </message>
-    <message>
-        <source>Select Folder</source>
-        <translation>Seleccionar carpeta</translation>
-    </message>
-    <message>
-        <source>Select the folder for the images</source>
-        <translation>Seleccionar la carpeta de las imágenes</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
@@ -159,18 +131,6 @@
         <translation>Cada</translation>
     </message>
     <message>
-        <source>Make an image every so many milliseconds</source>
-        <translation>Crear una imagen cada tantos milisegundos</translation>
-    </message>
-    <message>
-        <source>Milliseconds from image to image</source>
-        <translation>Milisegundos de una imagen a otra</translation>
-    </message>
-    <message>
-        <source>milliseconds</source>
-        <translation>milisegundos</translation>
-    </message>
-    <message>
         <source>Single shot at</source>
         <translation>Imagen única</translation>
     </message>
@@ -191,24 +151,12 @@
         <translation>Fotogramas exactos</translation>
     </message>
     <message>
-        <source>Skip Milliseconds</source>
-        <translation>Milisegundos que se omiten</translation>
-    </message>
-    <message>
         <source>Skip front</source>
         <translation>Al principio</translation>
     </message>
     <message>
-        <source>Milliseconds to skip at the front</source>
-        <translation>Milisegundos que se omiten al principio</translation>
-    </message>
-    <message>
         <source>Skip back</source>
         <translation>Al final</translation>
-    </message>
-    <message>
-        <source>Milliseconds to skip at the back</source>
-        <translation>Milisegundos que se omiten al final</translation>
     </message>
     <message>
         <source>Start</source>
@@ -237,10 +185,6 @@
     <message>
         <source>Run the videos for which something failed once more</source>
         <translation>Procesar otra vez los vídeos en los que algo falló</translation>
-    </message>
-    <message>
-        <source>Load videos, or drop them here</source>
-        <translation>Cargue vídeos o suéltelos aquí</translation>
     </message>
     <message>
         <source>front</source>
@@ -301,16 +245,72 @@
         <source>Many Images</source>
         <translation>Muchas imágenes</translation>
     </message>
-    <message numerus="yes">
-        <source>This makes about %1 images. Start?</source>
-        <translation>
-            <numerusform>Se creará aproximadamente %1 imagen. ¿Iniciar?</numerusform>
-            <numerusform>Se crearán aproximadamente %1 imágenes. ¿Iniciar?</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Multiple</source>
         <translation>Varios</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>Nombre de archivo:</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>Nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Edit File Name</source>
+        <translation>Editar nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Edit how files are named</source>
+        <translation>Editar cómo se nombran los archivos</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Elegir carpeta</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>Elegir la carpeta de las imágenes</translation>
+    </message>
+    <message>
+        <source>Make an image every so many seconds</source>
+        <translation>Crear una imagen cada tantos segundos</translation>
+    </message>
+    <message>
+        <source>Seconds from image to image</source>
+        <translation>Segundos de una imagen a otra</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>segundos</translation>
+    </message>
+    <message>
+        <source>Skip Seconds</source>
+        <translation>Segundos que se omiten</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the front</source>
+        <translation>Segundos que se omiten al principio</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the back</source>
+        <translation>Segundos que se omiten al final</translation>
+    </message>
+    <message>
+        <source>No Videos Yet</source>
+        <translation>Aún no hay vídeos</translation>
+    </message>
+    <message>
+        <source>Load videos, or drop them here. Then choose which images to take of each.</source>
+        <translation>Cargue vídeos o suéltelos aquí. Después elija qué imágenes tomar de cada uno.</translation>
+    </message>
+    <message numerus="yes">
+        <source>This batch will make about %1 images. Start it?</source>
+        <translation>
+            <numerusform>Este lote creará aproximadamente %1 imagen. ¿Iniciarlo?</numerusform>
+            <numerusform>Este lote creará aproximadamente %1 imágenes. ¿Iniciarlo?</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -393,14 +393,6 @@
 </translation>
     </message>
     <message>
-        <source>No Room for the Images</source>
-        <translation>No hay espacio para las imágenes</translation>
-    </message>
-    <message>
-        <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation>Libere espacio e inténtelo de nuevo, o detenga el proceso. Lo guardado se conserva.</translation>
-    </message>
-    <message>
         <source>Try Again</source>
         <translation>Intentar de nuevo</translation>
     </message>
@@ -415,6 +407,14 @@
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Images Cannot Be Saved</source>
+        <translation>No se pueden guardar las imágenes</translation>
+    </message>
+    <message>
+        <source>Free some space and try again, or stop. Images that are saved already are kept.</source>
+        <translation>Libere espacio e inténtelo de nuevo, o detenga el proceso. Las imágenes ya guardadas se conservan.</translation>
     </message>
 </context>
 <context>
@@ -464,14 +464,6 @@
         <translation>Error al extraer el fotograma: %1</translation>
     </message>
     <message>
-        <source>no picture found at position %1</source>
-        <translation>no se encontró ninguna imagen en la posición %1</translation>
-    </message>
-    <message>
-        <source>Could not make %1 from position %2: %3</source>
-        <translation>No se pudo crear %1 de la posición %2: %3</translation>
-    </message>
-    <message>
         <source>Could not save %1</source>
         <translation>No se pudo guardar %1</translation>
     </message>
@@ -479,13 +471,17 @@
         <source>Saving: %1</source>
         <translation>Guardando: %1</translation>
     </message>
+    <message>
+        <source>no picture found at %1 s</source>
+        <translation>no se encontró ninguna imagen en %1 s</translation>
+    </message>
+    <message>
+        <source>Could not make %1 from %2 s: %3</source>
+        <translation>No se pudo crear %1 de %2 s: %3</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
-    <message>
-        <source>Every %1ms</source>
-        <translation>Cada %1 ms</translation>
-    </message>
     <message numerus="yes">
         <source>%n images</source>
         <translation>
@@ -508,6 +504,10 @@
     <message>
         <source>Single </source>
         <translation>Única </translation>
+    </message>
+    <message>
+        <source>Every %1 s</source>
+        <translation>Cada %1 s</translation>
     </message>
 </context>
 <context>
@@ -542,6 +542,13 @@
     </message>
 </context>
 <context>
+    <name>CentredSlider</name>
+    <message>
+        <source>Double-click to reset</source>
+        <translation>Doble clic para restablecer</translation>
+    </message>
+</context>
+<context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
@@ -553,18 +560,28 @@
     </message>
 </context>
 <context>
-    <name>FileNameProfileDialog</name>
+    <name>DropHighlight</name>
     <message>
-        <source>FileName Profile Settings</source>
-        <translation>Ajustes del perfil de nombre de archivo</translation>
+        <source>Drop to open</source>
+        <translation>Suelte para abrir</translation>
     </message>
+</context>
+<context>
+    <name>DropZone</name>
+    <message>
+        <source>Looking for videos…</source>
+        <translation>Buscando vídeos…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>FileNameProfileDialog</name>
     <message>
         <source>Select Profile</source>
         <translation>Seleccionar perfil</translation>
-    </message>
-    <message>
-        <source>FileName Format</source>
-        <translation>Formato del nombre de archivo</translation>
     </message>
     <message>
         <source>Prefix:</source>
@@ -573,14 +590,6 @@
     <message>
         <source>Prefix</source>
         <translation>Prefijo</translation>
-    </message>
-    <message>
-        <source>FileName:</source>
-        <translation>Nombre de archivo:</translation>
-    </message>
-    <message>
-        <source>FileName</source>
-        <translation>Nombre de archivo</translation>
     </message>
     <message>
         <source>Suffix:</source>
@@ -629,6 +638,22 @@
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>File Name Profile Settings</source>
+        <translation>Ajustes del perfil de nombre de archivo</translation>
+    </message>
+    <message>
+        <source>File Name Format</source>
+        <translation>Formato del nombre de archivo</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>Nombre de archivo:</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>Nombre de archivo</translation>
     </message>
 </context>
 <context>
@@ -690,6 +715,13 @@
             <numerusform>%n sin guardar</numerusform>
             <numerusform>%n sin guardar</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FormScrollArea</name>
+    <message>
+        <source>Scroll the form</source>
+        <translation>Desplazar el formulario</translation>
     </message>
 </context>
 <context>
@@ -951,6 +983,14 @@
     <message>
         <source>As Stored</source>
         <translation>Como está guardado</translation>
+    </message>
+    <message>
+        <source>Drag the line to compare</source>
+        <translation>Arrastre la línea para comparar</translation>
+    </message>
+    <message>
+        <source>Before and after</source>
+        <translation>Antes y después</translation>
     </message>
 </context>
 <context>
@@ -1555,18 +1595,6 @@ Haga clic para abrir otro vídeo</translation>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>Abrir reciente</translation>
-    </message>
-    <message>
-        <source>None of them is there</source>
-        <translation>Ninguno de ellos está disponible</translation>
-    </message>
-    <message>
-        <source>Clear List</source>
-        <translation>Borrar la lista</translation>
-    </message>
-    <message>
         <source>Morvantile video capture</source>
         <translation>Morvantile – Captura de vídeo</translation>
     </message>
@@ -1589,10 +1617,6 @@ Haga clic para abrir otro vídeo</translation>
     <message>
         <source>Unknown Folder</source>
         <translation>Carpeta desconocida</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation>Escriba una carpeta de salida válida en «Nombre de archivo automático».</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
@@ -1627,6 +1651,80 @@ Do you want to replace it?</source>
     <message>
         <source>%1, frame %2</source>
         <translation>%1, fotograma %2</translation>
+    </message>
+    <message>
+        <source>Fit to Window</source>
+        <translation>Ajustar a la ventana</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>Mostrar la imagen completa</translation>
+    </message>
+    <message>
+        <source>400 %</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>Show each pixel of the video as four by four of the screen</source>
+        <translation>Mostrar cada píxel del vídeo como cuatro por cuatro de la pantalla</translation>
+    </message>
+    <message>
+        <source>Next Video</source>
+        <translation>Vídeo siguiente</translation>
+    </message>
+    <message>
+        <source>Open the next video of this folder</source>
+        <translation>Abrir el vídeo siguiente de esta carpeta</translation>
+    </message>
+    <message>
+        <source>Previous Video</source>
+        <translation>Vídeo anterior</translation>
+    </message>
+    <message>
+        <source>Open the previous video of this folder</source>
+        <translation>Abrir el vídeo anterior de esta carpeta</translation>
+    </message>
+    <message>
+        <source>No video was dropped.</source>
+        <translation>No se soltó ningún vídeo.</translation>
+    </message>
+    <message>
+        <source>Several Videos</source>
+        <translation>Varios vídeos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s) were dropped.</source>
+        <translation>
+            <numerusform>Se soltó %n vídeo.</numerusform>
+            <numerusform>Se soltaron %n vídeos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open the first one, %1, or put all of them into the list of batch mode?</source>
+        <translation>¿Abrir el primero, %1, o poner todos en la lista del modo por lotes?</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Lote</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>Aún no hay captura</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>Escriba una carpeta de salida válida en «Nombre de archivo automático».</translation>
+    </message>
+</context>
+<context>
+    <name>OpenVideoButton</name>
+    <message>
+        <source>or drop one here</source>
+        <translation>o suelte uno aquí</translation>
+    </message>
+    <message>
+        <source>Opened last</source>
+        <translation>Abiertos recientemente</translation>
     </message>
 </context>
 <context>
@@ -1672,6 +1770,13 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>ProfileNames</name>
+    <message>
+        <source>Standard</source>
+        <translation>Estándar</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1702,20 +1807,12 @@ Do you want to replace it?</source>
         <translation>Reemplazar perfil</translation>
     </message>
     <message>
-        <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation>Ya hay un perfil «%1». ¿Reemplazar sus ajustes por estos?</translation>
-    </message>
-    <message>
         <source>Rename Profile</source>
         <translation>Cambiar nombre del perfil</translation>
     </message>
     <message>
         <source>New name:</source>
         <translation>Nuevo nombre:</translation>
-    </message>
-    <message>
-        <source>There is a profile “%1” already.</source>
-        <translation>Ya hay un perfil «%1».</translation>
     </message>
     <message>
         <source>%1 copy</source>
@@ -1732,6 +1829,14 @@ Do you want to replace it?</source>
     <message>
         <source>Delete the profile “%1”?</source>
         <translation>¿Eliminar el perfil «%1»?</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already. Replace its settings with these?</source>
+        <translation>Ya hay un perfil «%1». ¿Reemplazar sus ajustes por estos?</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already.</source>
+        <translation>Ya hay un perfil «%1».</translation>
     </message>
 </context>
 <context>
@@ -1876,6 +1981,32 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
     </message>
 </context>
 <context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open Recent</source>
+        <translation>Abrir reciente</translation>
+    </message>
+    <message>
+        <source>None of them is there</source>
+        <translation>Ninguno de ellos está disponible</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Borrar la lista</translation>
+    </message>
+</context>
+<context>
+    <name>SavedNotice</name>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Show the file that was saved last in its folder</source>
+        <translation>Mostrar en su carpeta el último archivo guardado</translation>
+    </message>
+</context>
+<context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
@@ -1919,6 +2050,30 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
     <message>
         <source>Keyboard Shortcuts</source>
         <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Wheel over the picture</source>
+        <translation>Rueda sobre la imagen</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>Acercar en el puntero</translation>
+    </message>
+    <message>
+        <source>Drag the zoomed picture</source>
+        <translation>Arrastrar la imagen ampliada</translation>
+    </message>
+    <message>
+        <source>Show another part of it</source>
+        <translation>Mostrar otra parte de ella</translation>
+    </message>
+    <message>
+        <source>Double click on the picture</source>
+        <translation>Doble clic en la imagen</translation>
+    </message>
+    <message>
+        <source>Actual size, or fitted again</source>
+        <translation>Tamaño real, o ajustada de nuevo</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2133,25 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
     <message>
         <source>watermark</source>
         <translation>marca de agua</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeMenu</name>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>As the System</source>
+        <translation>Como el sistema</translation>
     </message>
 </context>
 <context>
@@ -2068,20 +2242,8 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
         <translation>Efectos</translation>
     </message>
     <message>
-        <source>Transparency</source>
-        <translation>Transparencia</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>Invisible</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Opacidad</translation>
-    </message>
-    <message>
-        <source>Opaque</source>
-        <translation>Opaca</translation>
     </message>
     <message>
         <source>Text Format</source>
@@ -2210,6 +2372,26 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
     <message>
         <source>Bottom Right</source>
         <translation>Abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>Scale with Picture</source>
+        <translation>Escalar con la imagen</translation>
+    </message>
+    <message>
+        <source>The watermark takes the same share of the width of every picture; otherwise it has its own size</source>
+        <translation>La marca de agua ocupa la misma parte del ancho de cada imagen; si no, tiene su propio tamaño</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

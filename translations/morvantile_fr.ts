@@ -95,22 +95,6 @@
         <translation>Fichiers produits</translation>
     </message>
     <message>
-        <source>FileName Profile:</source>
-        <translation>Profil de nom de fichier :</translation>
-    </message>
-    <message>
-        <source>FileName Profile</source>
-        <translation>Profil de nom de fichier</translation>
-    </message>
-    <message>
-        <source>Edit FileName Profile</source>
-        <translation>Modifier le profil de nom de fichier</translation>
-    </message>
-    <message>
-        <source>Edit the file name profile</source>
-        <translation>Modifier le profil de nom de fichier</translation>
-    </message>
-    <message>
         <source>Example:</source>
         <translation>Exemple :</translation>
     </message>
@@ -121,18 +105,6 @@
     <message>
         <source>Folder</source>
         <translation>Dossier</translation>
-    </message>
-    <message>
-        <source>Select</source>
-        <translation>Choisir</translation>
-    </message>
-    <message>
-        <source>Select Folder</source>
-        <translation>Choisir un dossier</translation>
-    </message>
-    <message>
-        <source>Select the folder for the images</source>
-        <translation>Choisir le dossier des images</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
@@ -159,18 +131,6 @@
         <translation>Toutes les</translation>
     </message>
     <message>
-        <source>Make an image every so many milliseconds</source>
-        <translation>Créer une image à intervalle fixe, en millisecondes</translation>
-    </message>
-    <message>
-        <source>Milliseconds from image to image</source>
-        <translation>Millisecondes d’une image à l’autre</translation>
-    </message>
-    <message>
-        <source>milliseconds</source>
-        <translation>millisecondes</translation>
-    </message>
-    <message>
         <source>Single shot at</source>
         <translation>Image unique</translation>
     </message>
@@ -191,24 +151,12 @@
         <translation>Images exactes</translation>
     </message>
     <message>
-        <source>Skip Milliseconds</source>
-        <translation>Millisecondes à ignorer</translation>
-    </message>
-    <message>
         <source>Skip front</source>
         <translation>Au début</translation>
     </message>
     <message>
-        <source>Milliseconds to skip at the front</source>
-        <translation>Millisecondes à ignorer au début</translation>
-    </message>
-    <message>
         <source>Skip back</source>
         <translation>À la fin</translation>
-    </message>
-    <message>
-        <source>Milliseconds to skip at the back</source>
-        <translation>Millisecondes à ignorer à la fin</translation>
     </message>
     <message>
         <source>Start</source>
@@ -237,10 +185,6 @@
     <message>
         <source>Run the videos for which something failed once more</source>
         <translation>Traiter encore une fois les vidéos pour lesquelles quelque chose a échoué</translation>
-    </message>
-    <message>
-        <source>Load videos, or drop them here</source>
-        <translation>Chargez des vidéos ou déposez-les ici</translation>
     </message>
     <message>
         <source>front</source>
@@ -301,16 +245,72 @@
         <source>Many Images</source>
         <translation>Beaucoup d’images</translation>
     </message>
-    <message numerus="yes">
-        <source>This makes about %1 images. Start?</source>
-        <translation>
-            <numerusform>Cela produira environ %1 image. Démarrer ?</numerusform>
-            <numerusform>Cela produira environ %1 images. Démarrer ?</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Multiple</source>
         <translation>Plusieurs</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>Nom de fichier :</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>Nom de fichier</translation>
+    </message>
+    <message>
+        <source>Edit File Name</source>
+        <translation>Modifier le nom de fichier</translation>
+    </message>
+    <message>
+        <source>Edit how files are named</source>
+        <translation>Modifier la façon de nommer les fichiers</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>Choisir le dossier des images</translation>
+    </message>
+    <message>
+        <source>Make an image every so many seconds</source>
+        <translation>Créer une image à intervalle fixe, en secondes</translation>
+    </message>
+    <message>
+        <source>Seconds from image to image</source>
+        <translation>Secondes d’une image à l’autre</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>secondes</translation>
+    </message>
+    <message>
+        <source>Skip Seconds</source>
+        <translation>Secondes à ignorer</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the front</source>
+        <translation>Secondes à ignorer au début</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the back</source>
+        <translation>Secondes à ignorer à la fin</translation>
+    </message>
+    <message>
+        <source>No Videos Yet</source>
+        <translation>Aucune vidéo pour l’instant</translation>
+    </message>
+    <message>
+        <source>Load videos, or drop them here. Then choose which images to take of each.</source>
+        <translation>Chargez des vidéos ou déposez-les ici. Choisissez ensuite les images à prendre de chacune.</translation>
+    </message>
+    <message numerus="yes">
+        <source>This batch will make about %1 images. Start it?</source>
+        <translation>
+            <numerusform>Ce lot produira environ %1 image. Le démarrer ?</numerusform>
+            <numerusform>Ce lot produira environ %1 images. Le démarrer ?</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -393,14 +393,6 @@
 </translation>
     </message>
     <message>
-        <source>No Room for the Images</source>
-        <translation>Pas assez de place pour les images</translation>
-    </message>
-    <message>
-        <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation>Libérez de la place et réessayez, ou arrêtez. Ce qui est enregistré est conservé.</translation>
-    </message>
-    <message>
         <source>Try Again</source>
         <translation>Réessayer</translation>
     </message>
@@ -415,6 +407,14 @@
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Images Cannot Be Saved</source>
+        <translation>Impossible d’enregistrer les images</translation>
+    </message>
+    <message>
+        <source>Free some space and try again, or stop. Images that are saved already are kept.</source>
+        <translation>Libérez de la place et réessayez, ou arrêtez. Les images déjà enregistrées sont conservées.</translation>
     </message>
 </context>
 <context>
@@ -464,14 +464,6 @@
         <translation>Erreur d’extraction d’image : %1</translation>
     </message>
     <message>
-        <source>no picture found at position %1</source>
-        <translation>aucune image trouvée à la position %1</translation>
-    </message>
-    <message>
-        <source>Could not make %1 from position %2: %3</source>
-        <translation>Impossible de créer %1 depuis la position %2 : %3</translation>
-    </message>
-    <message>
         <source>Could not save %1</source>
         <translation>Impossible d’enregistrer %1</translation>
     </message>
@@ -479,13 +471,17 @@
         <source>Saving: %1</source>
         <translation>Enregistrement : %1</translation>
     </message>
+    <message>
+        <source>no picture found at %1 s</source>
+        <translation>aucune image trouvée à %1 s</translation>
+    </message>
+    <message>
+        <source>Could not make %1 from %2 s: %3</source>
+        <translation>Impossible de créer %1 à %2 s : %3</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
-    <message>
-        <source>Every %1ms</source>
-        <translation>Toutes les %1 ms</translation>
-    </message>
     <message numerus="yes">
         <source>%n images</source>
         <translation>
@@ -508,6 +504,10 @@
     <message>
         <source>Single </source>
         <translation>Unique </translation>
+    </message>
+    <message>
+        <source>Every %1 s</source>
+        <translation>Toutes les %1 s</translation>
     </message>
 </context>
 <context>
@@ -542,6 +542,13 @@
     </message>
 </context>
 <context>
+    <name>CentredSlider</name>
+    <message>
+        <source>Double-click to reset</source>
+        <translation>Double-cliquez pour réinitialiser</translation>
+    </message>
+</context>
+<context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
@@ -553,18 +560,28 @@
     </message>
 </context>
 <context>
-    <name>FileNameProfileDialog</name>
+    <name>DropHighlight</name>
     <message>
-        <source>FileName Profile Settings</source>
-        <translation>Réglages du profil de nom de fichier</translation>
+        <source>Drop to open</source>
+        <translation>Déposez pour ouvrir</translation>
     </message>
+</context>
+<context>
+    <name>DropZone</name>
+    <message>
+        <source>Looking for videos…</source>
+        <translation>Recherche de vidéos…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>FileNameProfileDialog</name>
     <message>
         <source>Select Profile</source>
         <translation>Choisir un profil</translation>
-    </message>
-    <message>
-        <source>FileName Format</source>
-        <translation>Format du nom de fichier</translation>
     </message>
     <message>
         <source>Prefix:</source>
@@ -573,14 +590,6 @@
     <message>
         <source>Prefix</source>
         <translation>Préfixe</translation>
-    </message>
-    <message>
-        <source>FileName:</source>
-        <translation>Nom de fichier :</translation>
-    </message>
-    <message>
-        <source>FileName</source>
-        <translation>Nom de fichier</translation>
     </message>
     <message>
         <source>Suffix:</source>
@@ -629,6 +638,22 @@
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>File Name Profile Settings</source>
+        <translation>Réglages du profil de nom de fichier</translation>
+    </message>
+    <message>
+        <source>File Name Format</source>
+        <translation>Format du nom de fichier</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>Nom de fichier :</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>Nom de fichier</translation>
     </message>
 </context>
 <context>
@@ -690,6 +715,13 @@
             <numerusform>%n non enregistrée</numerusform>
             <numerusform>%n non enregistrées</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FormScrollArea</name>
+    <message>
+        <source>Scroll the form</source>
+        <translation>Faire défiler le formulaire</translation>
     </message>
 </context>
 <context>
@@ -951,6 +983,14 @@
     <message>
         <source>As Stored</source>
         <translation>Valeurs d’origine</translation>
+    </message>
+    <message>
+        <source>Drag the line to compare</source>
+        <translation>Faites glisser la ligne pour comparer</translation>
+    </message>
+    <message>
+        <source>Before and after</source>
+        <translation>Avant et après</translation>
     </message>
 </context>
 <context>
@@ -1555,18 +1595,6 @@ Cliquez pour ouvrir une autre vidéo</translation>
         <translation>%1 : %2</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>Ouvrir un fichier récent</translation>
-    </message>
-    <message>
-        <source>None of them is there</source>
-        <translation>Aucun d’eux n’est présent</translation>
-    </message>
-    <message>
-        <source>Clear List</source>
-        <translation>Effacer la liste</translation>
-    </message>
-    <message>
         <source>Morvantile video capture</source>
         <translation>Morvantile – Capture</translation>
     </message>
@@ -1589,10 +1617,6 @@ Cliquez pour ouvrir une autre vidéo</translation>
     <message>
         <source>Unknown Folder</source>
         <translation>Dossier inconnu</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation>Veuillez saisir un dossier de sortie valable sous « Nom de fichier automatique ».</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
@@ -1627,6 +1651,80 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>%1, frame %2</source>
         <translation>%1, image %2</translation>
+    </message>
+    <message>
+        <source>Fit to Window</source>
+        <translation>Ajuster à la fenêtre</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>Afficher l’image entière</translation>
+    </message>
+    <message>
+        <source>400 %</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>Show each pixel of the video as four by four of the screen</source>
+        <translation>Afficher chaque pixel de la vidéo sur quatre par quatre de l’écran</translation>
+    </message>
+    <message>
+        <source>Next Video</source>
+        <translation>Vidéo suivante</translation>
+    </message>
+    <message>
+        <source>Open the next video of this folder</source>
+        <translation>Ouvrir la vidéo suivante de ce dossier</translation>
+    </message>
+    <message>
+        <source>Previous Video</source>
+        <translation>Vidéo précédente</translation>
+    </message>
+    <message>
+        <source>Open the previous video of this folder</source>
+        <translation>Ouvrir la vidéo précédente de ce dossier</translation>
+    </message>
+    <message>
+        <source>No video was dropped.</source>
+        <translation>Aucune vidéo n’a été déposée.</translation>
+    </message>
+    <message>
+        <source>Several Videos</source>
+        <translation>Plusieurs vidéos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s) were dropped.</source>
+        <translation>
+            <numerusform>%n vidéo a été déposée.</numerusform>
+            <numerusform>%n vidéos ont été déposées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open the first one, %1, or put all of them into the list of batch mode?</source>
+        <translation>Ouvrir la première, %1, ou les mettre toutes dans la liste du traitement par lots ?</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>Lot</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>Aucune capture pour l’instant</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>Veuillez saisir un dossier de sortie valable sous « Nom de fichier automatique ».</translation>
+    </message>
+</context>
+<context>
+    <name>OpenVideoButton</name>
+    <message>
+        <source>or drop one here</source>
+        <translation>ou déposez-en une ici</translation>
+    </message>
+    <message>
+        <source>Opened last</source>
+        <translation>Ouvertes récemment</translation>
     </message>
 </context>
 <context>
@@ -1672,6 +1770,13 @@ Voulez-vous le remplacer ?</translation>
     </message>
 </context>
 <context>
+    <name>ProfileNames</name>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1702,20 +1807,12 @@ Voulez-vous le remplacer ?</translation>
         <translation>Remplacer le profil</translation>
     </message>
     <message>
-        <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation>Il existe déjà un profil « %1 ». Remplacer ses réglages par ceux-ci ?</translation>
-    </message>
-    <message>
         <source>Rename Profile</source>
         <translation>Renommer le profil</translation>
     </message>
     <message>
         <source>New name:</source>
         <translation>Nouveau nom :</translation>
-    </message>
-    <message>
-        <source>There is a profile “%1” already.</source>
-        <translation>Il existe déjà un profil « %1 ».</translation>
     </message>
     <message>
         <source>%1 copy</source>
@@ -1732,6 +1829,14 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>Delete the profile “%1”?</source>
         <translation>Supprimer le profil « %1 » ?</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already. Replace its settings with these?</source>
+        <translation>Il existe déjà un profil « %1 ». Remplacer ses réglages par ceux-ci ?</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already.</source>
+        <translation>Il existe déjà un profil « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -1876,6 +1981,32 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
     </message>
 </context>
 <context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open Recent</source>
+        <translation>Ouvrir un fichier récent</translation>
+    </message>
+    <message>
+        <source>None of them is there</source>
+        <translation>Aucun d’eux n’est présent</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Effacer la liste</translation>
+    </message>
+</context>
+<context>
+    <name>SavedNotice</name>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Show the file that was saved last in its folder</source>
+        <translation>Afficher dans son dossier le dernier fichier enregistré</translation>
+    </message>
+</context>
+<context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
@@ -1919,6 +2050,30 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
     <message>
         <source>Keyboard Shortcuts</source>
         <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Wheel over the picture</source>
+        <translation>Molette au-dessus de l’image</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>Zoomer sous le pointeur</translation>
+    </message>
+    <message>
+        <source>Drag the zoomed picture</source>
+        <translation>Faire glisser l’image agrandie</translation>
+    </message>
+    <message>
+        <source>Show another part of it</source>
+        <translation>En afficher une autre partie</translation>
+    </message>
+    <message>
+        <source>Double click on the picture</source>
+        <translation>Double clic sur l’image</translation>
+    </message>
+    <message>
+        <source>Actual size, or fitted again</source>
+        <translation>Taille réelle, ou de nouveau ajustée</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2133,25 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
     <message>
         <source>watermark</source>
         <translation>filigrane</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeMenu</name>
+    <message>
+        <source>Theme</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>As the System</source>
+        <translation>Comme le système</translation>
     </message>
 </context>
 <context>
@@ -2068,20 +2242,8 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
         <translation>Effets</translation>
     </message>
     <message>
-        <source>Transparency</source>
-        <translation>Transparence</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>Invisible</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Opacité</translation>
-    </message>
-    <message>
-        <source>Opaque</source>
-        <translation>Opaque</translation>
     </message>
     <message>
         <source>Text Format</source>
@@ -2210,6 +2372,26 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
     <message>
         <source>Bottom Right</source>
         <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Scale with Picture</source>
+        <translation>Adapter à l’image</translation>
+    </message>
+    <message>
+        <source>The watermark takes the same share of the width of every picture; otherwise it has its own size</source>
+        <translation>Le filigrane occupe la même part de la largeur de chaque image ; sinon il garde sa propre taille</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

@@ -95,22 +95,6 @@
         <translation>ファイル出力</translation>
     </message>
     <message>
-        <source>FileName Profile:</source>
-        <translation>ファイル名プロファイル:</translation>
-    </message>
-    <message>
-        <source>FileName Profile</source>
-        <translation>ファイル名プロファイル</translation>
-    </message>
-    <message>
-        <source>Edit FileName Profile</source>
-        <translation>ファイル名プロファイルの編集</translation>
-    </message>
-    <message>
-        <source>Edit the file name profile</source>
-        <translation>ファイル名プロファイルを編集します</translation>
-    </message>
-    <message>
         <source>Example:</source>
         <translation>例:</translation>
     </message>
@@ -121,18 +105,6 @@
     <message>
         <source>Folder</source>
         <translation>フォルダー</translation>
-    </message>
-    <message>
-        <source>Select</source>
-        <translation>選択</translation>
-    </message>
-    <message>
-        <source>Select Folder</source>
-        <translation>フォルダーの選択</translation>
-    </message>
-    <message>
-        <source>Select the folder for the images</source>
-        <translation>画像のフォルダーを選択します</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
@@ -159,18 +131,6 @@
         <translation>間隔</translation>
     </message>
     <message>
-        <source>Make an image every so many milliseconds</source>
-        <translation>指定したミリ秒ごとに画像を作成します</translation>
-    </message>
-    <message>
-        <source>Milliseconds from image to image</source>
-        <translation>画像から画像までのミリ秒</translation>
-    </message>
-    <message>
-        <source>milliseconds</source>
-        <translation>ミリ秒</translation>
-    </message>
-    <message>
         <source>Single shot at</source>
         <translation>1 枚だけ</translation>
     </message>
@@ -191,24 +151,12 @@
         <translation>正確なフレーム</translation>
     </message>
     <message>
-        <source>Skip Milliseconds</source>
-        <translation>スキップするミリ秒</translation>
-    </message>
-    <message>
         <source>Skip front</source>
         <translation>先頭</translation>
     </message>
     <message>
-        <source>Milliseconds to skip at the front</source>
-        <translation>先頭でスキップするミリ秒</translation>
-    </message>
-    <message>
         <source>Skip back</source>
         <translation>末尾</translation>
-    </message>
-    <message>
-        <source>Milliseconds to skip at the back</source>
-        <translation>末尾でスキップするミリ秒</translation>
     </message>
     <message>
         <source>Start</source>
@@ -237,10 +185,6 @@
     <message>
         <source>Run the videos for which something failed once more</source>
         <translation>失敗のあった動画をもう一度処理します</translation>
-    </message>
-    <message>
-        <source>Load videos, or drop them here</source>
-        <translation>動画を読み込むか、ここにドロップしてください</translation>
     </message>
     <message>
         <source>front</source>
@@ -299,15 +243,71 @@
         <source>Many Images</source>
         <translation>多数の画像</translation>
     </message>
-    <message numerus="yes">
-        <source>This makes about %1 images. Start?</source>
-        <translation>
-            <numerusform>約 %1 枚の画像が作成されます。開始しますか?</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Multiple</source>
         <translation>複数</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>ファイル名:</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>Edit File Name</source>
+        <translation>ファイル名の編集</translation>
+    </message>
+    <message>
+        <source>Edit how files are named</source>
+        <translation>ファイルの命名方法を編集します</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>画像のフォルダーを選びます</translation>
+    </message>
+    <message>
+        <source>Make an image every so many seconds</source>
+        <translation>指定した秒数ごとに画像を作成します</translation>
+    </message>
+    <message>
+        <source>Seconds from image to image</source>
+        <translation>画像から画像までの秒数</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Skip Seconds</source>
+        <translation>スキップする秒数</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the front</source>
+        <translation>先頭でスキップする秒数</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the back</source>
+        <translation>末尾でスキップする秒数</translation>
+    </message>
+    <message>
+        <source>No Videos Yet</source>
+        <translation>動画はまだありません</translation>
+    </message>
+    <message>
+        <source>Load videos, or drop them here. Then choose which images to take of each.</source>
+        <translation>動画を読み込むか、ここにドロップしてください。そのあと、それぞれから撮る画像を選びます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>This batch will make about %1 images. Start it?</source>
+        <translation>
+            <numerusform>このバッチでは約 %1 枚の画像が作成されます。開始しますか?</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -390,14 +390,6 @@
 </translation>
     </message>
     <message>
-        <source>No Room for the Images</source>
-        <translation>画像を保存する空きがありません</translation>
-    </message>
-    <message>
-        <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation>空きを作ってから再試行するか、停止してください。保存済みのものは残ります。</translation>
-    </message>
-    <message>
         <source>Try Again</source>
         <translation>再試行</translation>
     </message>
@@ -412,6 +404,14 @@
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Images Cannot Be Saved</source>
+        <translation>画像を保存できません</translation>
+    </message>
+    <message>
+        <source>Free some space and try again, or stop. Images that are saved already are kept.</source>
+        <translation>空きを作ってから再試行するか、停止してください。保存済みの画像は残ります。</translation>
     </message>
 </context>
 <context>
@@ -458,14 +458,6 @@
         <translation>フレーム抽出エラー: %1</translation>
     </message>
     <message>
-        <source>no picture found at position %1</source>
-        <translation>位置 %1 に画像がありません</translation>
-    </message>
-    <message>
-        <source>Could not make %1 from position %2: %3</source>
-        <translation>位置 %2 から %1 を作成できませんでした: %3</translation>
-    </message>
-    <message>
         <source>Could not save %1</source>
         <translation>%1 を保存できませんでした</translation>
     </message>
@@ -473,13 +465,17 @@
         <source>Saving: %1</source>
         <translation>保存中: %1</translation>
     </message>
+    <message>
+        <source>no picture found at %1 s</source>
+        <translation>%1 秒の位置に画像がありません</translation>
+    </message>
+    <message>
+        <source>Could not make %1 from %2 s: %3</source>
+        <translation>%2 秒の位置から %1 を作成できませんでした: %3</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
-    <message>
-        <source>Every %1ms</source>
-        <translation>%1 ミリ秒ごと</translation>
-    </message>
     <message numerus="yes">
         <source>%n images</source>
         <translation>
@@ -501,6 +497,10 @@
     <message>
         <source>Single </source>
         <translation>1 枚 </translation>
+    </message>
+    <message>
+        <source>Every %1 s</source>
+        <translation>%1 秒ごと</translation>
     </message>
 </context>
 <context>
@@ -535,6 +535,13 @@
     </message>
 </context>
 <context>
+    <name>CentredSlider</name>
+    <message>
+        <source>Double-click to reset</source>
+        <translation>ダブルクリックで元に戻します</translation>
+    </message>
+</context>
+<context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
@@ -546,18 +553,28 @@
     </message>
 </context>
 <context>
-    <name>FileNameProfileDialog</name>
+    <name>DropHighlight</name>
     <message>
-        <source>FileName Profile Settings</source>
-        <translation>ファイル名プロファイルの設定</translation>
+        <source>Drop to open</source>
+        <translation>ドロップして開く</translation>
     </message>
+</context>
+<context>
+    <name>DropZone</name>
+    <message>
+        <source>Looking for videos…</source>
+        <translation>動画を探しています…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>FileNameProfileDialog</name>
     <message>
         <source>Select Profile</source>
         <translation>プロファイルの選択</translation>
-    </message>
-    <message>
-        <source>FileName Format</source>
-        <translation>ファイル名の形式</translation>
     </message>
     <message>
         <source>Prefix:</source>
@@ -566,14 +583,6 @@
     <message>
         <source>Prefix</source>
         <translation>接頭辞</translation>
-    </message>
-    <message>
-        <source>FileName:</source>
-        <translation>ファイル名:</translation>
-    </message>
-    <message>
-        <source>FileName</source>
-        <translation>ファイル名</translation>
     </message>
     <message>
         <source>Suffix:</source>
@@ -622,6 +631,22 @@
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>File Name Profile Settings</source>
+        <translation>ファイル名プロファイルの設定</translation>
+    </message>
+    <message>
+        <source>File Name Format</source>
+        <translation>ファイル名の形式</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>ファイル名:</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>ファイル名</translation>
     </message>
 </context>
 <context>
@@ -681,6 +706,13 @@
         <translation>
             <numerusform>%n 枚が未保存</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FormScrollArea</name>
+    <message>
+        <source>Scroll the form</source>
+        <translation>フォームをスクロールします</translation>
     </message>
 </context>
 <context>
@@ -942,6 +974,14 @@
     <message>
         <source>As Stored</source>
         <translation>保存されたまま</translation>
+    </message>
+    <message>
+        <source>Drag the line to compare</source>
+        <translation>線をドラッグして比較します</translation>
+    </message>
+    <message>
+        <source>Before and after</source>
+        <translation>処理前と処理後</translation>
     </message>
 </context>
 <context>
@@ -1543,18 +1583,6 @@ Click to open another video</source>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>最近使った動画を開く</translation>
-    </message>
-    <message>
-        <source>None of them is there</source>
-        <translation>どれも見つかりません</translation>
-    </message>
-    <message>
-        <source>Clear List</source>
-        <translation>一覧を消去</translation>
-    </message>
-    <message>
         <source>Morvantile video capture</source>
         <translation>Morvantile – キャプチャー</translation>
     </message>
@@ -1577,10 +1605,6 @@ Click to open another video</source>
     <message>
         <source>Unknown Folder</source>
         <translation>不明なフォルダー</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation>「自動ファイル名」に有効な出力フォルダーを入力してください。</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
@@ -1615,6 +1639,79 @@ Do you want to replace it?</source>
     <message>
         <source>%1, frame %2</source>
         <translation>%1、フレーム %2</translation>
+    </message>
+    <message>
+        <source>Fit to Window</source>
+        <translation>ウィンドウに合わせる</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>画像全体を表示します</translation>
+    </message>
+    <message>
+        <source>400 %</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>Show each pixel of the video as four by four of the screen</source>
+        <translation>動画の 1 ピクセルを画面の 4 × 4 ピクセルで表示します</translation>
+    </message>
+    <message>
+        <source>Next Video</source>
+        <translation>次の動画</translation>
+    </message>
+    <message>
+        <source>Open the next video of this folder</source>
+        <translation>このフォルダーの次の動画を開きます</translation>
+    </message>
+    <message>
+        <source>Previous Video</source>
+        <translation>前の動画</translation>
+    </message>
+    <message>
+        <source>Open the previous video of this folder</source>
+        <translation>このフォルダーの前の動画を開きます</translation>
+    </message>
+    <message>
+        <source>No video was dropped.</source>
+        <translation>動画はドロップされませんでした。</translation>
+    </message>
+    <message>
+        <source>Several Videos</source>
+        <translation>複数の動画</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s) were dropped.</source>
+        <translation>
+            <numerusform>%n 本の動画がドロップされました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open the first one, %1, or put all of them into the list of batch mode?</source>
+        <translation>最初の動画 %1 を開きますか、それともすべてをバッチモードの一覧に入れますか?</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>バッチ</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>スナップショットはまだありません</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>「自動ファイル名」に有効な出力フォルダーを入力してください。</translation>
+    </message>
+</context>
+<context>
+    <name>OpenVideoButton</name>
+    <message>
+        <source>or drop one here</source>
+        <translation>またはここにドロップ</translation>
+    </message>
+    <message>
+        <source>Opened last</source>
+        <translation>最近開いた動画</translation>
     </message>
 </context>
 <context>
@@ -1660,6 +1757,13 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>ProfileNames</name>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1690,20 +1794,12 @@ Do you want to replace it?</source>
         <translation>プロファイルの置き換え</translation>
     </message>
     <message>
-        <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation>プロファイル「%1」はすでにあります。設定を置き換えますか?</translation>
-    </message>
-    <message>
         <source>Rename Profile</source>
         <translation>プロファイル名の変更</translation>
     </message>
     <message>
         <source>New name:</source>
         <translation>新しい名前:</translation>
-    </message>
-    <message>
-        <source>There is a profile “%1” already.</source>
-        <translation>プロファイル「%1」はすでにあります。</translation>
     </message>
     <message>
         <source>%1 copy</source>
@@ -1720,6 +1816,14 @@ Do you want to replace it?</source>
     <message>
         <source>Delete the profile “%1”?</source>
         <translation>プロファイル「%1」を削除しますか?</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already. Replace its settings with these?</source>
+        <translation>プロファイル「%1」はすでにあります。設定を置き換えますか?</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already.</source>
+        <translation>プロファイル「%1」はすでにあります。</translation>
     </message>
 </context>
 <context>
@@ -1864,6 +1968,32 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
     </message>
 </context>
 <context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open Recent</source>
+        <translation>最近使った動画を開く</translation>
+    </message>
+    <message>
+        <source>None of them is there</source>
+        <translation>どれも見つかりません</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>一覧を消去</translation>
+    </message>
+</context>
+<context>
+    <name>SavedNotice</name>
+    <message>
+        <source>Show in Folder</source>
+        <translation>フォルダーで表示</translation>
+    </message>
+    <message>
+        <source>Show the file that was saved last in its folder</source>
+        <translation>最後に保存したファイルをフォルダーで表示します</translation>
+    </message>
+</context>
+<context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
@@ -1907,6 +2037,30 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
     <message>
         <source>Keyboard Shortcuts</source>
         <translation>キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>Wheel over the picture</source>
+        <translation>画像の上でホイール</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>ポインターの位置で拡大縮小</translation>
+    </message>
+    <message>
+        <source>Drag the zoomed picture</source>
+        <translation>拡大した画像をドラッグ</translation>
+    </message>
+    <message>
+        <source>Show another part of it</source>
+        <translation>別の部分を表示</translation>
+    </message>
+    <message>
+        <source>Double click on the picture</source>
+        <translation>画像をダブルクリック</translation>
+    </message>
+    <message>
+        <source>Actual size, or fitted again</source>
+        <translation>実際のサイズ、または元の表示</translation>
     </message>
 </context>
 <context>
@@ -1966,6 +2120,25 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
     <message>
         <source>watermark</source>
         <translation>透かし</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeMenu</name>
+    <message>
+        <source>Theme</source>
+        <translation>テーマ</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>As the System</source>
+        <translation>システムに合わせる</translation>
     </message>
 </context>
 <context>
@@ -2056,20 +2229,8 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
         <translation>効果</translation>
     </message>
     <message>
-        <source>Transparency</source>
-        <translation>透明度</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>透明</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>不透明度</translation>
-    </message>
-    <message>
-        <source>Opaque</source>
-        <translation>不透明</translation>
     </message>
     <message>
         <source>Text Format</source>
@@ -2198,6 +2359,26 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
     <message>
         <source>Bottom Right</source>
         <translation>右下</translation>
+    </message>
+    <message>
+        <source>Scale with Picture</source>
+        <translation>画像に合わせて拡大縮小</translation>
+    </message>
+    <message>
+        <source>The watermark takes the same share of the width of every picture; otherwise it has its own size</source>
+        <translation>透かしはどの画像でも幅の同じ割合を占めます。オフの場合は固有のサイズになります</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

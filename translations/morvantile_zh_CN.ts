@@ -95,22 +95,6 @@
         <translation>文件输出</translation>
     </message>
     <message>
-        <source>FileName Profile:</source>
-        <translation>文件名配置：</translation>
-    </message>
-    <message>
-        <source>FileName Profile</source>
-        <translation>文件名配置</translation>
-    </message>
-    <message>
-        <source>Edit FileName Profile</source>
-        <translation>编辑文件名配置</translation>
-    </message>
-    <message>
-        <source>Edit the file name profile</source>
-        <translation>编辑文件名配置</translation>
-    </message>
-    <message>
         <source>Example:</source>
         <translation>示例：</translation>
     </message>
@@ -121,18 +105,6 @@
     <message>
         <source>Folder</source>
         <translation>文件夹</translation>
-    </message>
-    <message>
-        <source>Select</source>
-        <translation>选择</translation>
-    </message>
-    <message>
-        <source>Select Folder</source>
-        <translation>选择文件夹</translation>
-    </message>
-    <message>
-        <source>Select the folder for the images</source>
-        <translation>选择存放图像的文件夹</translation>
     </message>
     <message>
         <source>Snapshot Interval</source>
@@ -159,18 +131,6 @@
         <translation>每隔</translation>
     </message>
     <message>
-        <source>Make an image every so many milliseconds</source>
-        <translation>每隔指定的毫秒数生成一张图像</translation>
-    </message>
-    <message>
-        <source>Milliseconds from image to image</source>
-        <translation>两张图像之间的毫秒数</translation>
-    </message>
-    <message>
-        <source>milliseconds</source>
-        <translation>毫秒</translation>
-    </message>
-    <message>
         <source>Single shot at</source>
         <translation>单张，位于</translation>
     </message>
@@ -191,24 +151,12 @@
         <translation>精确帧</translation>
     </message>
     <message>
-        <source>Skip Milliseconds</source>
-        <translation>跳过的毫秒数</translation>
-    </message>
-    <message>
         <source>Skip front</source>
         <translation>开头跳过</translation>
     </message>
     <message>
-        <source>Milliseconds to skip at the front</source>
-        <translation>在开头跳过的毫秒数</translation>
-    </message>
-    <message>
         <source>Skip back</source>
         <translation>结尾跳过</translation>
-    </message>
-    <message>
-        <source>Milliseconds to skip at the back</source>
-        <translation>在结尾跳过的毫秒数</translation>
     </message>
     <message>
         <source>Start</source>
@@ -237,10 +185,6 @@
     <message>
         <source>Run the videos for which something failed once more</source>
         <translation>再次处理有失败的视频</translation>
-    </message>
-    <message>
-        <source>Load videos, or drop them here</source>
-        <translation>加载视频，或将视频拖放到此处</translation>
     </message>
     <message>
         <source>front</source>
@@ -299,15 +243,71 @@
         <source>Many Images</source>
         <translation>图像很多</translation>
     </message>
-    <message numerus="yes">
-        <source>This makes about %1 images. Start?</source>
-        <translation>
-            <numerusform>将生成约 %1 张图像。要开始吗？</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Multiple</source>
         <translation>多个值</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>文件名：</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>Edit File Name</source>
+        <translation>编辑文件名</translation>
+    </message>
+    <message>
+        <source>Edit how files are named</source>
+        <translation>编辑文件的命名方式</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>选择存放图像的文件夹</translation>
+    </message>
+    <message>
+        <source>Make an image every so many seconds</source>
+        <translation>每隔指定的秒数生成一张图像</translation>
+    </message>
+    <message>
+        <source>Seconds from image to image</source>
+        <translation>两张图像之间的秒数</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Skip Seconds</source>
+        <translation>跳过的秒数</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the front</source>
+        <translation>在开头跳过的秒数</translation>
+    </message>
+    <message>
+        <source>Seconds to skip at the back</source>
+        <translation>在结尾跳过的秒数</translation>
+    </message>
+    <message>
+        <source>No Videos Yet</source>
+        <translation>还没有视频</translation>
+    </message>
+    <message>
+        <source>Load videos, or drop them here. Then choose which images to take of each.</source>
+        <translation>加载视频，或将视频拖放到此处。然后选择从每个视频截取哪些图像。</translation>
+    </message>
+    <message numerus="yes">
+        <source>This batch will make about %1 images. Start it?</source>
+        <translation>
+            <numerusform>此批处理将生成约 %1 张图像。要开始吗？</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -390,14 +390,6 @@
 </translation>
     </message>
     <message>
-        <source>No Room for the Images</source>
-        <translation>没有空间存放图像</translation>
-    </message>
-    <message>
-        <source>Make room and try again, or stop. What was saved stays.</source>
-        <translation>请腾出空间后重试，或者停止。已保存的内容会保留。</translation>
-    </message>
-    <message>
         <source>Try Again</source>
         <translation>重试</translation>
     </message>
@@ -412,6 +404,14 @@
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Images Cannot Be Saved</source>
+        <translation>无法保存图像</translation>
+    </message>
+    <message>
+        <source>Free some space and try again, or stop. Images that are saved already are kept.</source>
+        <translation>请腾出空间后重试，或者停止。已保存的图像会保留。</translation>
     </message>
 </context>
 <context>
@@ -458,14 +458,6 @@
         <translation>提取帧出错：%1</translation>
     </message>
     <message>
-        <source>no picture found at position %1</source>
-        <translation>在位置 %1 未找到画面</translation>
-    </message>
-    <message>
-        <source>Could not make %1 from position %2: %3</source>
-        <translation>无法从位置 %2 生成 %1：%3</translation>
-    </message>
-    <message>
         <source>Could not save %1</source>
         <translation>无法保存 %1</translation>
     </message>
@@ -473,13 +465,17 @@
         <source>Saving: %1</source>
         <translation>正在保存：%1</translation>
     </message>
+    <message>
+        <source>no picture found at %1 s</source>
+        <translation>在 %1 秒处未找到画面</translation>
+    </message>
+    <message>
+        <source>Could not make %1 from %2 s: %3</source>
+        <translation>无法从 %2 秒处生成 %1：%3</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorkerConfig</name>
-    <message>
-        <source>Every %1ms</source>
-        <translation>每隔 %1 毫秒</translation>
-    </message>
     <message numerus="yes">
         <source>%n images</source>
         <translation>
@@ -501,6 +497,10 @@
     <message>
         <source>Single </source>
         <translation>单张 </translation>
+    </message>
+    <message>
+        <source>Every %1 s</source>
+        <translation>每隔 %1 秒</translation>
     </message>
 </context>
 <context>
@@ -535,6 +535,13 @@
     </message>
 </context>
 <context>
+    <name>CentredSlider</name>
+    <message>
+        <source>Double-click to reset</source>
+        <translation>双击可重置</translation>
+    </message>
+</context>
+<context>
     <name>ComparisonView</name>
     <message>
         <source>Before</source>
@@ -546,18 +553,28 @@
     </message>
 </context>
 <context>
-    <name>FileNameProfileDialog</name>
+    <name>DropHighlight</name>
     <message>
-        <source>FileName Profile Settings</source>
-        <translation>文件名配置设置</translation>
+        <source>Drop to open</source>
+        <translation>松开以打开</translation>
     </message>
+</context>
+<context>
+    <name>DropZone</name>
+    <message>
+        <source>Looking for videos…</source>
+        <translation>正在查找视频…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>FileNameProfileDialog</name>
     <message>
         <source>Select Profile</source>
         <translation>选择配置</translation>
-    </message>
-    <message>
-        <source>FileName Format</source>
-        <translation>文件名格式</translation>
     </message>
     <message>
         <source>Prefix:</source>
@@ -566,14 +583,6 @@
     <message>
         <source>Prefix</source>
         <translation>前缀</translation>
-    </message>
-    <message>
-        <source>FileName:</source>
-        <translation>文件名：</translation>
-    </message>
-    <message>
-        <source>FileName</source>
-        <translation>文件名</translation>
     </message>
     <message>
         <source>Suffix:</source>
@@ -622,6 +631,22 @@
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>File Name Profile Settings</source>
+        <translation>文件名配置设置</translation>
+    </message>
+    <message>
+        <source>File Name Format</source>
+        <translation>文件名格式</translation>
+    </message>
+    <message>
+        <source>File Name:</source>
+        <translation>文件名：</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>文件名</translation>
     </message>
 </context>
 <context>
@@ -681,6 +706,13 @@
         <translation>
             <numerusform>%n 张未保存</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FormScrollArea</name>
+    <message>
+        <source>Scroll the form</source>
+        <translation>滚动表单</translation>
     </message>
 </context>
 <context>
@@ -942,6 +974,14 @@
     <message>
         <source>As Stored</source>
         <translation>按原样存储</translation>
+    </message>
+    <message>
+        <source>Drag the line to compare</source>
+        <translation>拖动分隔线进行比较</translation>
+    </message>
+    <message>
+        <source>Before and after</source>
+        <translation>处理前后</translation>
     </message>
 </context>
 <context>
@@ -1543,18 +1583,6 @@ Click to open another video</source>
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>Open Recent</source>
-        <translation>打开最近的视频</translation>
-    </message>
-    <message>
-        <source>None of them is there</source>
-        <translation>均已不存在</translation>
-    </message>
-    <message>
-        <source>Clear List</source>
-        <translation>清除列表</translation>
-    </message>
-    <message>
         <source>Morvantile video capture</source>
         <translation>Morvantile – 视频截取</translation>
     </message>
@@ -1577,10 +1605,6 @@ Click to open another video</source>
     <message>
         <source>Unknown Folder</source>
         <translation>未知文件夹</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic FileName section.</source>
-        <translation>请在“自动文件名”部分输入有效的输出文件夹。</translation>
     </message>
     <message>
         <source>Folder does not exist</source>
@@ -1615,6 +1639,79 @@ Do you want to replace it?</source>
     <message>
         <source>%1, frame %2</source>
         <translation>%1，第 %2 帧</translation>
+    </message>
+    <message>
+        <source>Fit to Window</source>
+        <translation>适合窗口</translation>
+    </message>
+    <message>
+        <source>Show the whole picture</source>
+        <translation>显示完整画面</translation>
+    </message>
+    <message>
+        <source>400 %</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>Show each pixel of the video as four by four of the screen</source>
+        <translation>将视频的每个像素显示为屏幕上的 4×4 像素</translation>
+    </message>
+    <message>
+        <source>Next Video</source>
+        <translation>下一个视频</translation>
+    </message>
+    <message>
+        <source>Open the next video of this folder</source>
+        <translation>打开此文件夹中的下一个视频</translation>
+    </message>
+    <message>
+        <source>Previous Video</source>
+        <translation>上一个视频</translation>
+    </message>
+    <message>
+        <source>Open the previous video of this folder</source>
+        <translation>打开此文件夹中的上一个视频</translation>
+    </message>
+    <message>
+        <source>No video was dropped.</source>
+        <translation>没有拖放视频。</translation>
+    </message>
+    <message>
+        <source>Several Videos</source>
+        <translation>多个视频</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n video(s) were dropped.</source>
+        <translation>
+            <numerusform>拖放了 %n 个视频。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open the first one, %1, or put all of them into the list of batch mode?</source>
+        <translation>打开第一个 %1，还是将全部加入批处理模式的列表？</translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <translation>批处理</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>还没有快照</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>请在“自动文件名”部分输入有效的输出文件夹。</translation>
+    </message>
+</context>
+<context>
+    <name>OpenVideoButton</name>
+    <message>
+        <source>or drop one here</source>
+        <translation>或拖放到此处</translation>
+    </message>
+    <message>
+        <source>Opened last</source>
+        <translation>最近打开</translation>
     </message>
 </context>
 <context>
@@ -1660,6 +1757,13 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>ProfileNames</name>
+    <message>
+        <source>Standard</source>
+        <translation>标准</translation>
+    </message>
+</context>
+<context>
     <name>ProfileSelector</name>
     <message>
         <source>Profile</source>
@@ -1690,20 +1794,12 @@ Do you want to replace it?</source>
         <translation>替换配置</translation>
     </message>
     <message>
-        <source>There is a profile “%1” already. Replace its settings by these?</source>
-        <translation>已有名为“%1”的配置。要用当前设置替换它吗？</translation>
-    </message>
-    <message>
         <source>Rename Profile</source>
         <translation>重命名配置</translation>
     </message>
     <message>
         <source>New name:</source>
         <translation>新名称：</translation>
-    </message>
-    <message>
-        <source>There is a profile “%1” already.</source>
-        <translation>已有名为“%1”的配置。</translation>
     </message>
     <message>
         <source>%1 copy</source>
@@ -1720,6 +1816,14 @@ Do you want to replace it?</source>
     <message>
         <source>Delete the profile “%1”?</source>
         <translation>要删除配置“%1”吗？</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already. Replace its settings with these?</source>
+        <translation>已有名为“%1”的配置。要用当前设置替换它吗？</translation>
+    </message>
+    <message>
+        <source>A profile “%1” exists already.</source>
+        <translation>已有名为“%1”的配置。</translation>
     </message>
 </context>
 <context>
@@ -1864,6 +1968,32 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
     </message>
 </context>
 <context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open Recent</source>
+        <translation>打开最近的视频</translation>
+    </message>
+    <message>
+        <source>None of them is there</source>
+        <translation>均已不存在</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>清除列表</translation>
+    </message>
+</context>
+<context>
+    <name>SavedNotice</name>
+    <message>
+        <source>Show in Folder</source>
+        <translation>在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>Show the file that was saved last in its folder</source>
+        <translation>在文件夹中显示最后保存的文件</translation>
+    </message>
+</context>
+<context>
     <name>SettingsFile</name>
     <message>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
@@ -1907,6 +2037,30 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
     <message>
         <source>Keyboard Shortcuts</source>
         <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Wheel over the picture</source>
+        <translation>在画面上滚动滚轮</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>以指针为中心缩放</translation>
+    </message>
+    <message>
+        <source>Drag the zoomed picture</source>
+        <translation>拖动放大的画面</translation>
+    </message>
+    <message>
+        <source>Show another part of it</source>
+        <translation>显示其他部分</translation>
+    </message>
+    <message>
+        <source>Double click on the picture</source>
+        <translation>双击画面</translation>
+    </message>
+    <message>
+        <source>Actual size, or fitted again</source>
+        <translation>实际大小，或恢复适合窗口</translation>
     </message>
 </context>
 <context>
@@ -1966,6 +2120,25 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
     <message>
         <source>watermark</source>
         <translation>水印</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeMenu</name>
+    <message>
+        <source>Theme</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>As the System</source>
+        <translation>跟随系统</translation>
     </message>
 </context>
 <context>
@@ -2056,20 +2229,8 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
         <translation>效果</translation>
     </message>
     <message>
-        <source>Transparency</source>
-        <translation>透明度</translation>
-    </message>
-    <message>
-        <source>Invisible</source>
-        <translation>不可见</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>不透明度</translation>
-    </message>
-    <message>
-        <source>Opaque</source>
-        <translation>不透明</translation>
     </message>
     <message>
         <source>Text Format</source>
@@ -2198,6 +2359,26 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
     <message>
         <source>Bottom Right</source>
         <translation>右下</translation>
+    </message>
+    <message>
+        <source>Scale with Picture</source>
+        <translation>随图像缩放</translation>
+    </message>
+    <message>
+        <source>The watermark takes the same share of the width of every picture; otherwise it has its own size</source>
+        <translation>水印在每张图像中占相同比例的宽度；否则使用其自身尺寸</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
