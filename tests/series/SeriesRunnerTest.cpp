@@ -510,7 +510,7 @@ void SeriesRunnerTest::contentOfWaitingPictures_canBeStored()
             QThread::msleep(1);
         }
     };
-    SeriesJob job = jobFor(QStringLiteral("h264_bframes.mp4"), every(200));
+    SeriesJob job = jobFor(QStringLiteral("h264_gop250.mp4"), every(4000));
     job.type = QStringLiteral("jpeg");
     QVERIFY(series::run({job}, record, neverCancelled, {2}));
     QVERIFY(stored > 0);

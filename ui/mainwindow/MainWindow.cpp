@@ -189,9 +189,9 @@ void MainWindow::alignControls()
     // Two lines of it, so that the snapshot keeps its size when its line comes up.
     m_ui->snapshotSummaryLabel->setFixedHeight(
         2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());
-    constexpr int frameOfField = 20;
-    m_ui->timecodeField->setFixedWidth(widestTime(*m_ui->timecodeField) + frameOfField);
-    m_ui->durationLabel->setMinimumWidth(widestTime(*m_ui->durationLabel));
+    m_ui->timecodeField->setTextWidth(widestTime(*m_ui->timecodeField));
+    constexpr int rounding = 2;
+    m_ui->durationLabel->setMinimumWidth(widestTime(*m_ui->durationLabel) + rounding);
 }
 
 /// The keys are the video's wherever the keyboard is, except while somebody types: Return, and not

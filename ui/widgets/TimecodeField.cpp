@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace {
 
 /// The style sheet marks a field that has this property.
@@ -33,6 +35,26 @@ TimecodeField::TimecodeField(QWidget* parent)
     addWidget(m_edit);
     connect(m_edit, &QLineEdit::returnPressed, this, [this] { Q_EMIT entered(m_edit->text()); });
     connect(m_edit, &QLineEdit::textEdited, this, [this] { setRefused(false); });
+}
+
+void TimecodeField::setTextWidth(int width)
+{
+    m_textWidth = width;
+    updateGeometry();
+}
+
+QSize TimecodeField::sizeHint() const
+{
+    m_label->ensurePolished();
+    m_edit->ensurePolished();
+    const int textWidth = m_label->fontMetrics().horizontalAdvance(m_label->text());
+    return {m_label->sizeHint().width() + std::max(0, m_textWidth - textWidth),
+            std::max(m_label->sizeHint().height(), m_edit->sizeHint().height())};
+}
+
+QSize TimecodeField::minimumSizeHint() const
+{
+    return sizeHint();
 }
 
 bool TimecodeField::isTyping() const

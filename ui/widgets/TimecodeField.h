@@ -19,9 +19,15 @@ class TimecodeField : public QStackedWidget
 public:
     explicit TimecodeField(QWidget* parent = nullptr);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
     /// The time as it is shown. While somebody types, it changes behind the field.
     void setTime(const QString& text);
     QString time() const;
+
+    /// The room that the widest time takes, in pixels: so the field keeps its width.
+    void setTextWidth(int width);
 
     /// The field is open for typing.
     bool isTyping() const;
@@ -51,6 +57,7 @@ private:
     void giveUp();
     void setRefused(bool isRefused);
 
+    int m_textWidth = 0;
     QLabel* const m_label;
     QLineEdit* const m_edit;
 };

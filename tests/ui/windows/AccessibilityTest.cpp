@@ -3,9 +3,9 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QTest>
 
 #include <algorithm>
@@ -31,10 +31,21 @@ bool isNamed(QWidget& widget)
     return !accessibleName(widget).isEmpty();
 }
 
+/// As the keys do that bring the focus there.
+void bringIntoView(QWidget& control)
+{
+    for (QWidget* parent = control.parentWidget(); parent != nullptr;
+         parent = parent->parentWidget()) {
+        if (auto* const area = qobject_cast<QScrollArea*>(parent)) {
+            area->ensureWidgetVisible(&control);
+        }
+    }
+}
+
 QImage pictureOf(QWidget& window, const QWidget& control)
 {
-    const QRect area(control.mapTo(&window, QPoint()), control.size());
     QCoreApplication::processEvents();
+    const QRect area(control.mapTo(&window, QPoint()), control.size());
     return window.grab(area.adjusted(-4, -4, 4, 4)).toImage();
 }
 
@@ -51,23 +62,37 @@ QWidget* controlOf(QWidget* widget, const QList<QWidget*>& controls)
 QList<QWidget*> stopsOf(QWidget& window)
 {
     QList<QWidget*> stops;
-    QWidget* first = nullptr;
+    if (QWidget* const first = window.focusWidget(); first != nullptr && first->hasFocus()) {
+        stops += first;
+    }
     for (int i = 0; i < 200; ++i) {
         QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
         QCoreApplication::processEvents();
         QWidget* const focus = QApplication::focusWidget();
-        if (focus == nullptr) {
-            continue;
-        }
-        if (focus == first) {
+        if (stops.contains(focus)) {
             break;
         }
-        if (first == nullptr) {
-            first = focus;
+        if (focus != nullptr) {
+            stops += focus;
         }
-        stops += focus;
     }
     return stops;
+}
+
+/// Where the keys go up and to the left. From the last control to the first they may.
+QStringList waysBack(const QWidget& window, const QList<QWidget*>& stops)
+{
+    QStringList back;
+    for (int i = 0; i < stops.size(); ++i) {
+        const QWidget& one = *stops.at(i);
+        const QWidget& other = *stops.at((i + 1) % stops.size());
+        const QRect from(one.mapTo(&window, QPoint()), one.size());
+        const QRect to(other.mapTo(&window, QPoint()), other.size());
+        if (to.bottom() < from.top() && to.right() < from.left()) {
+            back += QStringLiteral("from %1 to %2").arg(nameOf(one), nameOf(other));
+        }
+    }
+    return back;
 }
 
 /// Radio buttons of a group are one stop: the arrow keys go from one to another.
@@ -105,9 +130,7 @@ private Q_SLOTS:
 
 void AccessibilityTest::initTestCase()
 {
-    QFile style(QStringLiteral(":/Styles.qss"));
-    QVERIFY(style.open(QIODevice::ReadOnly));
-    qApp->setStyleSheet(QString::fromLatin1(style.readAll()));
+    testsupport::useProgramsLooks();
 }
 
 void AccessibilityTest::controls_haveNames()
@@ -144,13 +167,10 @@ void AccessibilityTest::controls_areReachedByTab_inTheOrderOfReading()
                 wrong += nameOf(window) + QStringLiteral(": not ") + nameOf(*control);
             }
         }
-        for (int i = 1; i < stops.size(); ++i) {
-            const QRect from(stops.at(i - 1)->mapTo(&window, QPoint()), stops.at(i - 1)->size());
-            const QRect to(stops.at(i)->mapTo(&window, QPoint()), stops.at(i)->size());
-            if (to.bottom() < from.top() && to.right() < from.left()) {
-                wrong += nameOf(window) + QStringLiteral(": up and left from ") +
-                         nameOf(*stops.at(i - 1)) + QStringLiteral(" to ") + nameOf(*stops.at(i));
-            }
+        const QStringList back = waysBack(window, stops);
+        if (back.size() > 1) {
+            wrong +=
+                nameOf(window) + QStringLiteral(": up and left ") + back.join(QStringLiteral(", "));
         }
     });
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QLatin1Char('\n'))));
@@ -175,6 +195,7 @@ void AccessibilityTest::focus_isSeen()
             if (stops.size() == 1) {
                 control->clearFocus();
             }
+            bringIntoView(*control);
             const QImage without = pictureOf(window, *control);
             control->setFocus(Qt::TabFocusReason);
             if (pictureOf(window, *control) == without) {

@@ -15,6 +15,7 @@
 #include "ui/dialogs/WatermarkProfileDialog.h"
 #include "ui/mainwindow/BestFramesDialog.h"
 #include "ui/mainwindow/Shortcuts.h"
+#include "ui/theme/Theme.h"
 #include "ui/widgets/VolumePopup.h"
 
 #include <QAbstractButton>
@@ -23,6 +24,7 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QFile>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -44,6 +46,8 @@ void visitPages(QWidget& window, const WindowVisitor& visit)
 {
     auto* const tabs = window.findChild<QTabWidget*>();
     if (tabs == nullptr) {
+        // What was said last may be laid out anew.
+        QCoreApplication::processEvents();
         visit(window);
         return;
     }
@@ -159,6 +163,16 @@ void visitAllWindows(const WindowVisitor& visit)
 {
     visitMainWindow(visit);
     visitDialogs(visit);
+}
+
+void useProgramsLooks()
+{
+    Theme::instance().apply(Theme::Choice::Dark);
+    QFile style(QStringLiteral(":/Styles.qss"));
+    if (!style.open(QIODevice::ReadOnly)) {
+        qFatal("There is no style sheet");
+    }
+    qApp->setStyleSheet(QString::fromLatin1(style.readAll()));
 }
 
 QList<QWidget*> controlsOf(const QWidget& window)

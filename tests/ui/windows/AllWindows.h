@@ -16,6 +16,9 @@ void visitAllWindows(const WindowVisitor& visit);
 /// The same with the main window alone, and what belongs to it.
 void visitMainWindow(const WindowVisitor& visit);
 
+/// Gives the application the looks that the program has at first.
+void useProgramsLooks();
+
 /// What users work with that is shown in the window: buttons, fields, sliders, lists. Without the
 /// parts that Qt makes such controls of.
 [[nodiscard]] QList<QWidget*> controlsOf(const QWidget& window);

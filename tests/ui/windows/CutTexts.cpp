@@ -1,6 +1,7 @@
 #include "tests/ui/windows/CutTexts.h"
 
 #include "tests/ui/windows/AllWindows.h"
+#include "ui/theme/ActionButton.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -35,6 +36,14 @@ QStringList testsupport::cutIn(const QWidget& window)
             continue;
         }
         const auto* const button = qobject_cast<const QAbstractButton*>(widget);
+        // Where there is no room for its text, it shows its icon, and its tip says what it is.
+        if (qobject_cast<const ActionButton*>(widget) != nullptr && !button->icon().isNull()) {
+            if (button->toolTip().isEmpty() &&
+                button->width() < button->minimumSizeHint().width()) {
+                cut += nameOf(*widget) + QStringLiteral(" has no tool tip");
+            }
+            continue;
+        }
         const bool isText = (label != nullptr && !label->text().isEmpty()) ||
                             (button != nullptr && hasLetters(button->text()));
         const QSize wanted = widget->sizeHint();

@@ -43,6 +43,7 @@ class LanguageLayoutTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { testsupport::useProgramsLooks(); }
     void cleanup();
     void texts_haveRoom_data();
     void texts_haveRoom();
