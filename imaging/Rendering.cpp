@@ -175,12 +175,14 @@ QImage corrected(QImage image, const ImageRecipe& recipe)
     Picture picture = pictureOf(image);
     if (!keepsColours)
         picture.mat = adjusted(picture.mat, recipe.contrast, recipe.brightness);
-    Resampling resampling = recipe.resampling;
-    // Mixing in proportion to light is made for sRGB's curve.
-    if (HdrColours::of(image))
-        resampling.light = ResizeLight::AsCoded;
-    picture.mat =
-        resized(picture.mat, {size.width(), size.height()}, recipe.keepsAspectRatio, resampling);
+    const cv::Size bounds(size.width(), size.height());
+    const auto stored = HdrColours::of(image);
+    if (stored && recipe.resampling.light == ResizeLight::Linear) {
+        picture.mat = resized(picture.mat, bounds, recipe.keepsAspectRatio, recipe.resampling,
+                              LightCurve::of(*stored));
+    } else {
+        picture.mat = resized(picture.mat, bounds, recipe.keepsAspectRatio, recipe.resampling);
+    }
     return imageOf(picture);
 }
 

@@ -20,7 +20,7 @@ bool isImageSize(cv::Size size, size_t bytesPerPixel)
 } // namespace
 
 cv::Mat resized(const cv::Mat& mat, cv::Size target, bool keepsAspectRatio,
-                const Resampling& resampling)
+                const Resampling& resampling, const LightCurve& curve)
 {
     if (mat.empty() || mat.size() == target || target.width <= 0 || target.height <= 0)
         return mat;
@@ -28,5 +28,5 @@ cv::Mat resized(const cv::Mat& mat, cv::Size target, bool keepsAspectRatio,
                                              : ResizePlan::filling(mat.size(), target);
     if (!isImageSize(plan.size, mat.elemSize()))
         return mat;
-    return filteredResize(mat(plan.region), plan.size, resampling);
+    return filteredResize(mat(plan.region), plan.size, resampling, curve);
 }

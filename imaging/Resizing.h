@@ -1,6 +1,7 @@
 #pragma once
 
 #include "imaging/ImageRecipe.h"
+#include "imaging/LightCurve.h"
 
 #include <opencv2/core/mat.hpp>
 
@@ -13,4 +14,5 @@
 /// take 2 GiB or more. Throws cv::Exception or std::bad_alloc where there is no memory for the
 /// result. See filteredResize() for the ways of resampling.
 [[nodiscard]] cv::Mat resized(const cv::Mat& mat, cv::Size target, bool keepsAspectRatio,
-                              const Resampling& resampling = {});
+                              const Resampling& resampling = {},
+                              const LightCurve& curve = LightCurve::sRgb());

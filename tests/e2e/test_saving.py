@@ -1,8 +1,10 @@
 """Taking snapshots and saving them."""
 
 import contextlib
+import pathlib
 import subprocess
 import sys
+import urllib.parse
 
 from PIL import Image
 
@@ -18,6 +20,51 @@ SIGNATURES = {
     "bmp": (b"BM", "BMP"),
     "tiff": (b"II*\0", "TIFF"),
 }
+
+
+@contextlib.contextmanager
+def file_manager(desktop, shown):
+    """One that writes what it shows into the file."""
+    process = processes.start(
+        [sys.executable, "-m", "tests.e2e.driver.file_manager", shown],
+        env={**desktop.environment, "PYTHONDONTWRITEBYTECODE": "1"},
+        stdout=subprocess.PIPE,
+    )
+    try:
+        if process.stdout.readline() != b"ready\n":
+            raise AssertionError("the file manager did not start")
+        yield
+    finally:
+        processes.stop(process)
+        process.stdout.close()
+
+
+class FirstMinuteTest(MorvantileCase):
+
+    def test_eight_actions_lead_from_the_video_to_the_file_in_its_folder(self):
+        """As the guide counts them; nothing was set before."""
+        shown = self.folder / "shown"
+        with file_manager(self.desktop, shown):
+            program = self.start([self.sample("h264_gop250.mp4")])  # 1, in a file manager
+            wait_until(lambda: program.shown_frame() is not None, "it does not play")
+            self.desktop.key("ctrl+g")  # 2
+            program.enter("0:12.5")  # 3, with Return
+            self.desktop.key("Return")
+            self.wait_for_frame(program, 313)
+            self.desktop.key("s")  # 4
+            wait_until(lambda: program.shown_snapshot() == 313, "another frame is shown")
+            program.click("push button", "Original Size")  # 5
+            program.find("label", "160 × 120 · JPEG 90")
+            self.desktop.key("ctrl+s")  # 6
+            program.window("Save As")
+            self.desktop.key("Return")  # 7
+            program.click("push button", "Show in Folder")  # 8
+            wait_until(shown.exists, "the file manager was not asked")
+            (line,) = wait_until(lambda: shown.read_text().splitlines(), "nothing is shown")
+            file = pathlib.Path(urllib.parse.unquote(urllib.parse.urlparse(line).path))
+        with Image.open(file) as picture:
+            self.assertEqual(picture.size, (160, 120))
+            self.assertEqual(frame_number(picture), 313)
 
 
 class SavingTest(MorvantileCase):
@@ -181,7 +228,7 @@ class SavingTest(MorvantileCase):
 
     def test_saved_file_is_shown_in_the_file_manager(self):
         shown = self.folder / "shown"
-        self.enterContext(self.file_manager(shown))
+        self.enterContext(file_manager(self.desktop, shown))
         self.open_video()
         self.assertFalse(self.program.has("push button", "Show in Folder"))
         self.take_snapshot(self.program)
@@ -191,21 +238,6 @@ class SavingTest(MorvantileCase):
         wait_until(lambda: shown.read_text().splitlines() == [file.as_uri()], shown.read_text)
 
     # --- what the cases are made of ------------------------------------------------------------
-
-    @contextlib.contextmanager
-    def file_manager(self, shown):
-        """One that writes what it shows into the file."""
-        process = processes.start(
-            [sys.executable, "-m", "tests.e2e.driver.file_manager", shown],
-            env={**self.desktop.environment, "PYTHONDONTWRITEBYTECODE": "1"},
-            stdout=subprocess.PIPE,
-        )
-        try:
-            self.assertEqual(process.stdout.readline(), b"ready\n")
-            yield
-        finally:
-            processes.stop(process)
-            process.stdout.close()
 
     def open_video(self):
         """Paused; gives the frame at which it stands."""
