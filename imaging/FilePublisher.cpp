@@ -192,21 +192,11 @@ std::shared_ptr<HiddenFile> FilePublisher::prepare(const QString& folder, const 
 }
 
 WriteResult FilePublisher::publishPrepared(const QString& fileName, const HiddenFile& prepared,
-                                           ExistingFile existing, WriteFailure* failure)
+                                           WriteFailure* failure)
 {
-    const QFileInfo file(QFile::decodeName(prepared.path()));
-    if (existing == ExistingFile::Keep) {
-        const QByteArray target = QFile::encodeName(QFileInfo(fileName).absoluteFilePath());
-        return told(keeping(prepared.path(), target), fileName, file.size(), failure);
-    }
-    QFile content(file.filePath());
-    if (!content.open(QIODevice::ReadOnly)) {
-        return told(Ending::failed(errno), fileName, file.size(), failure);
-    }
-    // What a file has to be replaced by may be in the way of the room for it.
-    const QByteArray bytes = content.readAll();
-    content.remove();
-    return publish(fileName, bytes, existing, failure);
+    const QByteArray target = QFile::encodeName(QFileInfo(fileName).absoluteFilePath());
+    const qint64 bytes = QFileInfo(QFile::decodeName(prepared.path())).size();
+    return told(keeping(prepared.path(), target), fileName, bytes, failure);
 }
 
 int FilePublisher::sweep(const QString& folder)

@@ -62,10 +62,10 @@ namespace FilePublisher {
 /// publishing the content itself then tells why.
 [[nodiscard]] std::shared_ptr<HiddenFile> prepare(const QString& folder, const QByteArray& content);
 
-/// As publish(), for content that is prepared, in the folder of `fileName`, or in another one
-/// of the same file system. May be called once for a file.
+/// As publish() with ExistingFile::Keep, for content that is prepared in the folder of `fileName`.
+/// After AlreadyExists and Failed it may be tried again, under another name.
 [[nodiscard]] WriteResult publishPrepared(const QString& fileName, const HiddenFile& prepared,
-                                          ExistingFile existing, WriteFailure* failure = nullptr);
+                                          WriteFailure* failure = nullptr);
 
 /// Removes the hidden files in a folder that programs which were killed have left there: those of
 /// our names that are older than an hour and that no living program writes. Before a run writes

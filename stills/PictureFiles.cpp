@@ -53,9 +53,9 @@ PictureFiles::Outcome PictureFiles::writeUnder(const QString& path, const Conten
 {
     WriteFailure failure;
     const auto existing = replaces ? ExistingFile::Replace : ExistingFile::Keep;
-    const auto result =
-        content.file ? FilePublisher::publishPrepared(path, *content.file, existing, &failure)
-                     : FilePublisher::publish(path, content.bytes, existing, &failure);
+    const auto result = content.file
+                            ? FilePublisher::publishPrepared(path, *content.file, &failure)
+                            : FilePublisher::publish(path, content.bytes, existing, &failure);
     switch (result) {
     case WriteResult::Written:
         if (m_existing != Existing::NextName) {

@@ -38,7 +38,8 @@ public:
         qint64 missingBytes = 0; ///< that there is no room for, where that is the reason
     };
 
-    /// An encoded picture, or the file that FilePublisher::prepare() has put it into.
+    /// An encoded picture, or the file that FilePublisher::prepare() has put it into; a file only
+    /// where nothing is overwritten.
     struct Content
     {
         Content(QByteArray encoded, std::shared_ptr<HiddenFile> prepared = {})

@@ -100,11 +100,13 @@ void StillsOutput::beginVideo(int video)
     m_report.beginVideo(video, pathOf(m_tasks[static_cast<std::size_t>(video)].path));
 }
 
-/// Where there is no room for it, writing it in its turn says so.
+/// Where there is no room for it, writing it in its turn says so. What may replace a file is
+/// written beside it and no sooner.
 void StillsOutput::store(SeriesPicture& picture)
 {
-    const bool hasFile = m_options.makesPictures && !m_options.writesToStandardOutput;
-    if (!hasFile || picture.content.isEmpty()) {
+    const bool hasFile = m_options.makesPictures && !m_options.writesToStandardOutput &&
+                         m_options.existing != Existing::Overwrite;
+    if (!hasFile || picture.content.isEmpty() || m_wantsToStop) {
         return;
     }
     const QString folder = pathOf(m_tasks[static_cast<std::size_t>(picture.video)].folder);
