@@ -1,20 +1,16 @@
 #include "imaging/LightCurve.h"
 
-#include <QtAV/StoredColours.h>
-
 #include <algorithm>
 #include <cmath>
+
+using QtAV::StoredColours;
+using Transfer = StoredColours::Transfer;
 
 namespace {
 
 constexpr int largestCode = 65535;
 
 /// Both from 0 to 1.
-double sRgbLightOf(double code)
-{
-    return code <= 0.04045 ? code / 12.92 : std::pow((code + 0.055) / 1.055, 2.4);
-}
-
 double sRgbCodeOf(double light)
 {
     return light <= 0.0031308 ? light * 12.92 : 1.055 * std::pow(light, 1.0 / 2.4) - 0.055;
@@ -51,15 +47,32 @@ const LightCurve& LightCurve::sRgb()
 {
     static const LightCurve curve = [] {
         LightCurve made;
-        made.m_lights = tableOf(&sRgbLightOf);
+        made.m_lights = tableOf([](double code) { return StoredColours().lightOf(code); });
         made.m_codes = tableOf(&sRgbCodeOf);
         return made;
     }();
     return curve;
 }
 
-LightCurve LightCurve::of(const QtAV::StoredColours& colours)
+const LightCurve& LightCurve::of(Transfer transfer)
 {
+    static const LightCurve pq = made(Transfer::Pq);
+    static const LightCurve hlg = made(Transfer::Hlg);
+    switch (transfer) {
+    case Transfer::Pq:
+        return pq;
+    case Transfer::Hlg:
+        return hlg;
+    case Transfer::Standard:
+        break;
+    }
+    return sRgb();
+}
+
+LightCurve LightCurve::made(Transfer transfer)
+{
+    StoredColours colours;
+    colours.transfer = transfer;
     LightCurve curve;
     curve.m_isOfRoots = true;
     curve.m_lights = tableOf([&](double code) { return colours.lightOf(code); });

@@ -179,7 +179,7 @@ QImage corrected(QImage image, const ImageRecipe& recipe)
     const auto stored = HdrColours::of(image);
     if (stored && recipe.resampling.light == ResizeLight::Linear) {
         picture.mat = resized(picture.mat, bounds, recipe.keepsAspectRatio, recipe.resampling,
-                              LightCurve::of(*stored));
+                              LightCurve::of(stored->transfer));
     } else {
         picture.mat = resized(picture.mat, bounds, recipe.keepsAspectRatio, recipe.resampling);
     }

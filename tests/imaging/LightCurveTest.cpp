@@ -11,21 +11,9 @@
 
 #include <cmath>
 
-using QtAV::StoredColours;
 using Transfer = QtAV::StoredColours::Transfer;
 
 Q_DECLARE_METATYPE(Transfer)
-
-namespace {
-
-LightCurve curveOf(Transfer transfer)
-{
-    StoredColours colours;
-    colours.transfer = transfer;
-    return LightCurve::of(colours);
-}
-
-} // namespace
 
 class LightCurveTest : public QObject
 {
@@ -34,7 +22,7 @@ class LightCurveTest : public QObject
 private Q_SLOTS:
     void pq_isTheStandards()
     {
-        const LightCurve curve = curveOf(Transfer::Pq);
+        const LightCurve& curve = LightCurve::of(Transfer::Pq);
         for (int code = 0; code <= 65535; code += 257) {
             const double light = testsupport::nitsOfPq(code / 65535.0) / 10000.0;
             const double got = static_cast<double>(curve.lightOf(static_cast<std::size_t>(code)));
@@ -53,8 +41,7 @@ private Q_SLOTS:
     void codes_comeBackFromTheirLight()
     {
         QFETCH(const Transfer, transfer);
-        const LightCurve curve =
-            transfer == Transfer::Standard ? LightCurve::sRgb() : curveOf(transfer);
+        const LightCurve& curve = LightCurve::of(transfer);
         for (int code = 0; code <= 65535; ++code) {
             const float light = curve.lightOf(static_cast<std::size_t>(code));
             const double back = static_cast<double>(curve.codeOf(light)) * 65535.0;
@@ -74,8 +61,9 @@ private Q_SLOTS:
                     cv::Scalar::all(std::round(bright * 65535.0));
             }
         }
-        const cv::Mat small = filteredResize(
-            chequers, {20, 20}, {ResizeFilter::Area, ResizeLight::Linear}, curveOf(Transfer::Pq));
+        const cv::Mat small =
+            filteredResize(chequers, {20, 20}, {ResizeFilter::Area, ResizeLight::Linear},
+                           LightCurve::of(Transfer::Pq));
         const double code = small.at<cv::Vec3w>(10, 10)[0] / 65535.0;
         const double nits = testsupport::nitsOfPq(code);
         QVERIFY2(std::abs(nits - 500.0) < 1.0, qPrintable(QString::number(nits)));
