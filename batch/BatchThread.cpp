@@ -9,7 +9,7 @@
 namespace {
 
 /// Leaves the receivers of the signals some time between two jobs.
-constexpr unsigned long pauseMilliseconds = 200;
+constexpr unsigned long pauseBetweenJobsMilliseconds = 200;
 
 } // namespace
 
@@ -82,7 +82,7 @@ void BatchThread::runWorkers()
             qDebug("Ran");
             Q_EMIT progressUpdate(overallProgress(1.0F), 1.0F);
             release(*worker);
-            msleep(pauseMilliseconds);
+            msleep(pauseBetweenJobsMilliseconds);
         }
     }
 }

@@ -37,10 +37,6 @@ constexpr unsigned long pauseMilliseconds = 100;
 /// How many frames may wait for their images to be made. A frame of a large video takes as much
 /// memory as its pixels.
 constexpr int mostWaitingFrames = 4;
-/// How often, and how long at most, to look whether there are fewer. Should the worker's thread do
-/// nothing at all, the job goes on all the same.
-constexpr unsigned long lookMilliseconds = 10;
-constexpr qint64 longestWaitMilliseconds = 5000;
 
 /// How long news of a series may wait where the thread that they are for runs the job.
 constexpr std::chrono::milliseconds newsWait{10};
@@ -384,8 +380,8 @@ void BatchWorker::waitForImages() const
     QElapsedTimer waited;
     waited.start();
     while (m_waitingFrames >= mostWaitingFrames && !isInterruptionRequested() &&
-           (m_isAsking || !waited.hasExpired(longestWaitMilliseconds))) {
-        QThread::msleep(lookMilliseconds);
+           (m_isAsking || !waited.hasExpired(LongestWaitMilliseconds))) {
+        QThread::msleep(LookMilliseconds);
     }
 }
 

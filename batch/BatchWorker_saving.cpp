@@ -16,14 +16,6 @@
 
 #include <memory>
 
-namespace {
-
-/// How often to look for an answer, and how long at most for the images of the last frames.
-constexpr unsigned long lookMilliseconds = 10;
-constexpr qint64 longestWaitMilliseconds = 5000;
-
-} // namespace
-
 void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
 {
     // The dialog that asks lets other events in.
@@ -121,7 +113,7 @@ bool BatchWorker::waitForRoom(const WriteFailure& failure)
     const auto answer = std::make_shared<std::atomic<Answer>>(None);
     tell([this, failure, answer] { *answer = askForRoom(failure) ? Retry : Stop; });
     while (*answer == None && !isInterruptionRequested()) {
-        QThread::msleep(lookMilliseconds);
+        QThread::msleep(LookMilliseconds);
     }
     return *answer == Retry;
 }
@@ -136,10 +128,10 @@ void BatchWorker::waitForAnswer() const
     waited.start();
     const auto isSaving = [&] {
         return m_waitingFrames > 0 && !isInterruptionRequested() &&
-               !waited.hasExpired(longestWaitMilliseconds);
+               !waited.hasExpired(LongestWaitMilliseconds);
     };
     while (m_isAsking || isSaving()) {
-        QThread::msleep(lookMilliseconds);
+        QThread::msleep(LookMilliseconds);
         if (m_isAsking) {
             waited.restart();
         }

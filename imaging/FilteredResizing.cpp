@@ -16,13 +16,12 @@ using KernelResampling::Kernel;
 using KernelResampling::Sample;
 
 constexpr std::size_t alphaChannel = 3;
-constexpr int largestCode = 65535;
 
 template <typename Code>
 void readLine(const cv::Mat& mat, int y, const LightCurve* curve, Sample* line)
 {
     constexpr int most = std::numeric_limits<Code>::max();
-    constexpr std::size_t step = largestCode / most;
+    constexpr std::size_t step = LightCurve::LargestCode / most;
     const int channels = mat.channels();
     const auto colours = static_cast<std::size_t>(std::min(channels, 3));
     const Code* code = mat.ptr<Code>(y);

@@ -9,11 +9,6 @@ namespace QtAV {
 
 namespace {
 
-constexpr qint64 smallestStepBackMs = 500;
-
-/// To a frame not further ahead than this, decoding on is cheaper than starting at a key frame.
-constexpr double nearSeconds = 1.0;
-
 /// A pass begins when fewer frames than this part of the room are left, and brings as many as there
 /// is room for then. Sooner, most of each pass would be decoded a second time; later, there would
 /// be too few left to step through while it runs.
@@ -68,7 +63,7 @@ void BackwardFill::land()
 
 bool BackwardFill::isOnTheWayTo(double seconds) const
 {
-    return m_pass && m_pass->target <= seconds && seconds - m_pass->target <= nearSeconds &&
+    return m_pass && m_pass->target <= seconds && seconds - m_pass->target <= FrameReader::NearSeconds &&
            (!m_pass->cameFrom || *m_pass->cameFrom < m_pass->target);
 }
 
@@ -110,7 +105,7 @@ std::optional<FrameResult> BackwardFill::walkOn(const IsCancelled& isCancelled)
                                       : FrameResult{FrameAnswer::End});
     }
     if (!skips)
-        m_pass->stepBackMs = std::max(smallestStepBackMs, 2 * m_pass->stepBackMs);
+        m_pass->stepBackMs = std::max(FrameReader::SmallestStepBackMs, 2 * m_pass->stepBackMs);
     m_pass->completeFrom = 0;
     land();
     return std::nullopt;

@@ -13,9 +13,6 @@ namespace QtAV {
 
 namespace {
 
-/// To a frame not further ahead than this, decoding on is cheaper than starting at a key frame.
-constexpr double nearSeconds = 1.0;
-
 /// So many frames before a target are decoded with it, for the steps back that often follow. Each
 /// costs a part of the seek's time; those before them are decoded behind the seek's back.
 constexpr qint64 framesBeforeTarget = 7;
@@ -220,7 +217,7 @@ bool FrameSource::isShortlyBefore(double seconds) const
 {
     const std::optional<double> last = m_reader.last();
     const bool isOnTheWayBack = m_returnsTo && seconds <= *m_returnsTo;
-    return last && *last <= seconds && (isOnTheWayBack || seconds - *last <= nearSeconds) &&
+    return last && *last <= seconds && (isOnTheWayBack || seconds - *last <= FrameReader::NearSeconds) &&
            m_reader.isCompleteFrom(seconds);
 }
 

@@ -9,8 +9,6 @@ namespace QtAV {
 
 namespace {
 
-constexpr double WhiteNits = 203.0;
-
 /// A table of this many entries and one is finer than what it is asked for, and stays near the
 /// processor.
 constexpr int Steps = 4096;
@@ -33,7 +31,7 @@ double lightOf(Colours::Transfer transfer, double value)
 {
     switch (transfer) {
     case Colours::Transfer::Pq:
-        return pqToNits(value) / WhiteNits;
+        return pqToNits(value) / standardWhiteNits;
     case Colours::Transfer::Hlg:
         return hlgToScene(value);
     case Colours::Transfer::Standard:
@@ -153,11 +151,11 @@ ColourMap::ColourMap(const Colours& colours)
     if (!m_isHdr)
         return;
     const double brightest =
-        (colours.transfer == Colours::Transfer::Pq ? pqToNits(1.0) : colours.peakNits) / WhiteNits;
+        (colours.transfer == Colours::Transfer::Pq ? pqToNits(1.0) : colours.peakNits) / standardWhiteNits;
     m_brightest = static_cast<float>(brightest);
     m_gain = tableOf([&](double root) {
-        const double nits = root * root * brightest * WhiteNits;
-        return nits > 0.0 ? toneMapped(nits, colours.peakNits, WhiteNits) / nits : 1.0;
+        const double nits = root * root * brightest * standardWhiteNits;
+        return nits > 0.0 ? toneMapped(nits, colours.peakNits, standardWhiteNits) / nits : 1.0;
     });
     // The system gamma of a display with 1000 cd/m² is 1.2.
     if (colours.transfer == Colours::Transfer::Hlg)

@@ -8,6 +8,9 @@
 
 namespace QtAV {
 
+/// The white of a standard picture within one of high dynamic range, in cd/m² (ITU-R BT.2408).
+constexpr double standardWhiteNits = 203.0;
+
 /// What a picture's values stand for, and how bright they become.
 struct Colours : StoredColours
 {

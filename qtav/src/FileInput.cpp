@@ -128,7 +128,7 @@ bool FileInput::Reader::end()
 
 namespace {
 
-qint64 sizeOf(int file)
+qint64 bytesIn(int file)
 {
     struct stat facts = {};
     return ::fstat(file, &facts) == 0 ? facts.st_size : AVERROR(errno);
@@ -240,7 +240,7 @@ int FileInput::noted(int result)
 qint64 FileInput::size()
 {
     const qint64 bytes =
-        m_reader->carryOut([](Reader& reader) { return sizeOf(reader.file); }, m_isCancelled);
+        m_reader->carryOut([](Reader& reader) { return bytesIn(reader.file); }, m_isCancelled);
     m_largestSize = std::max(m_largestSize, bytes);
     return bytes;
 }

@@ -6,12 +6,6 @@
 
 namespace QtAV {
 
-namespace {
-
-constexpr qint64 SmallestStepBackMs = 500;
-
-} // namespace
-
 /// True when no frame that was not skipped can be missing directly before last(). Once one has come
 /// out, all do.
 bool FrameReader::isCertain() const

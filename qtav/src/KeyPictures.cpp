@@ -1,21 +1,10 @@
 #include "qtav/src/KeyPictures.h"
 
+#include "qtav/src/NalUnitTypes.h"
+
 namespace QtAV {
 
 namespace {
-
-namespace h264 {
-constexpr int Slice = 1;
-constexpr int RefreshSlice = 5;
-constexpr int SupplementalInformation = 6;
-} // namespace h264
-
-namespace hevc {
-constexpr int FirstRefreshSlice = 16;
-constexpr int LastRefreshSlice = 23;
-constexpr int LastSlice = 31;
-constexpr int PrefixInformation = 39;
-} // namespace hevc
 
 /// The message that announces a point of recovery, in both codecs.
 constexpr int RecoveryPoint = 6;

@@ -9,7 +9,6 @@ namespace QtAV {
 
 namespace {
 
-constexpr double WhiteNits = 203.0;
 constexpr double HlgNits = 1000.0;
 constexpr double HlgSystemGamma = 1.2;
 
@@ -44,7 +43,7 @@ double StoredColours::brightestNits() const
     case Transfer::Standard:
         break;
     }
-    return WhiteNits;
+    return standardWhiteNits;
 }
 
 double StoredColours::lightOf(double value) const
@@ -66,7 +65,7 @@ std::array<double, 3> StoredColours::valuesOf(const std::array<double, 3>& rgb) 
     std::transform(rgb.begin(), rgb.end(), light.begin(), srgbToLinear);
     light = toPrimaries(primaries, light);
     for (double& channel : light)
-        channel = std::clamp(channel, 0.0, 1.0) * WhiteNits / brightestNits();
+        channel = std::clamp(channel, 0.0, 1.0) * standardWhiteNits / brightestNits();
     if (transfer == Transfer::Hlg)
         return hlgValuesOf(light);
     for (double& channel : light)

@@ -1,23 +1,10 @@
 #include "qtav/src/UnreferencedPictures.h"
 
+#include "qtav/src/NalUnitTypes.h"
+
 namespace QtAV {
 
 namespace {
-
-namespace h264 {
-constexpr int Slice = 1;
-constexpr int SupplementalInformation = 6;
-constexpr int Delimiter = 9;
-constexpr int Filler = 12;
-} // namespace h264
-
-namespace hevc {
-constexpr int LastOrdinarySlice = 15;
-constexpr int Delimiter = 35;
-constexpr int Filler = 38;
-constexpr int PrefixInformation = 39;
-constexpr int SuffixInformation = 40;
-} // namespace hevc
 
 namespace mpeg4 {
 constexpr int UserData = 0xb2;

@@ -14,7 +14,6 @@ namespace QtAV {
 namespace {
 
 // A result has 5 bits behind the binary point.
-constexpr int SampleBits = YuvLines::SampleBits;
 constexpr int FactorBits = 13;
 constexpr int FractionBits = 5;
 
@@ -81,8 +80,8 @@ YuvToRgb::Matrix makeMatrix(AVColorSpace space, bool fullRange, int depth)
     const auto [red, blue] = YuvToRgb::sharesOf(space);
     const double green = 1.0 - red - blue;
     // The widest sample, brought to 15 bits, stands for 255 in full range.
-    const double fullScale = 255.0 * (1 << (SampleBits - 8)) /
-                             (double((1 << depth) - 1) * std::pow(2.0, SampleBits - depth));
+    const double fullScale = 255.0 * (1 << (YuvLines::SampleBits - 8)) /
+                             (double((1 << depth) - 1) * std::pow(2.0, YuvLines::SampleBits - depth));
     const double luma = fullRange ? fullScale : 255.0 / 219.0;
     const double chroma = fullRange ? fullScale : 255.0 / 224.0;
     return {factor(luma),
@@ -90,7 +89,7 @@ YuvToRgb::Matrix makeMatrix(AVColorSpace space, bool fullRange, int depth)
             factor(chroma * 2 * (1 - blue) * blue / green),
             factor(chroma * 2 * (1 - red) * red / green),
             factor(chroma * 2 * (1 - blue)),
-            static_cast<int16_t>(fullRange ? 0 : 16 << (SampleBits - 8))};
+            static_cast<int16_t>(fullRange ? 0 : 16 << (YuvLines::SampleBits - 8))};
 }
 
 /// Reads one kind of picture line by line and converts each.

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr QSize openLetters{72, 22};
+constexpr QSize fileNameProfileLetters{72, 22};
 
 } // namespace
 
@@ -41,7 +41,7 @@ FileNameProfileDialog::FileNameProfileDialog(QWidget* parent)
                     m_selectedProfile = nullptr;
             });
     loadProfiles();
-    DialogSize::open(*this, openLetters);
+    DialogSize::open(*this, fileNameProfileLetters);
 }
 
 FileNameProfileDialog::~FileNameProfileDialog() = default;

@@ -14,7 +14,7 @@ namespace {
 constexpr int NeutralPosition = 100;
 
 /// Slider movements that come faster are shown together.
-constexpr std::chrono::milliseconds UpdateDelay{30};
+constexpr std::chrono::milliseconds filterDelay{30};
 
 /// Corrections treat a fourth channel like a colour: an opaque picture goes without it, as frames
 /// do.
@@ -47,7 +47,7 @@ ImageFiltersDialog::~ImageFiltersDialog() = default;
 void ImageFiltersDialog::connectControls()
 {
     m_updateTimer.setSingleShot(true);
-    m_updateTimer.setInterval(UpdateDelay);
+    m_updateTimer.setInterval(filterDelay);
     connect(&m_updateTimer, &QTimer::timeout, this, &ImageFiltersDialog::updateImages);
     const auto showNumber = [this](QLabel& label, int position) {
         label.setText(QString::number(position - NeutralPosition));

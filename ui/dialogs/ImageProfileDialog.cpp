@@ -24,7 +24,7 @@ namespace {
 constexpr auto UpdateDelay = 50ms;
 
 /// Room for a preview that shows something.
-constexpr QSize openLetters{140, 38};
+constexpr QSize imageProfileLetters{140, 38};
 
 constexpr int MinAdjustment = -100;
 constexpr int MaxAdjustment = 100;
@@ -54,7 +54,7 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
     setupProfileSelector();
     connect(&m_updateTimer, &QTimer::timeout, this, &ImageProfileDialog::updateImageTimerFired);
-    DialogSize::open(*this, openLetters);
+    DialogSize::open(*this, imageProfileLetters);
 }
 
 ImageProfileDialog::~ImageProfileDialog() = default;

@@ -27,7 +27,7 @@ namespace {
 constexpr auto PreviewDelay = 200ms;
 
 /// Room for a preview that shows something.
-constexpr QSize openLetters{140, 38};
+constexpr QSize watermarkProfileLetters{140, 38};
 
 constexpr int TextType = 0;
 constexpr int ImageType = 1;
@@ -75,7 +75,7 @@ WatermarkProfileDialog::WatermarkProfileDialog(QWidget* parent)
             &WatermarkProfileDialog::profileNameTextChanged);
     setupProfileSelector();
 
-    DialogSize::open(*this, openLetters);
+    DialogSize::open(*this, watermarkProfileLetters);
     m_previewTimer.setSingleShot(true);
     connect(&m_previewTimer, &QTimer::timeout, this,
             &WatermarkProfileDialog::updateWatermarkTimerFired);

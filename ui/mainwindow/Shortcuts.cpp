@@ -17,7 +17,7 @@
 
 namespace {
 
-QString translated(const char* text)
+QString translatedKeys(const char* text)
 {
     return QCoreApplication::translate("Shortcuts", text);
 }
@@ -86,7 +86,7 @@ QString mouseRows()
     }};
     QString rows;
     for (const auto& way : ways) {
-        rows += rowOf(translated(way[0]), translated(way[1]));
+        rows += rowOf(translatedKeys(way[0]), translatedKeys(way[1]));
     }
     return rows;
 }
@@ -131,7 +131,7 @@ QString Shortcuts::pageOf(const QVector<Section>& sections)
             rows += rowOf(entry.keys, entry.text);
         }
     }
-    rows += titleRow(translated(QT_TRANSLATE_NOOP("Shortcuts", "Mouse"))) + mouseRows();
+    rows += titleRow(translatedKeys(QT_TRANSLATE_NOOP("Shortcuts", "Mouse"))) + mouseRows();
     return QStringLiteral("<table>%1</table>").arg(rows);
 }
 
@@ -139,7 +139,7 @@ void Shortcuts::showPage(QWidget& window, const QMenuBar& bar)
 {
     QDialog dialog(&window);
     dialog.setObjectName(QStringLiteral("shortcutsDialog"));
-    dialog.setWindowTitle(translated(QT_TRANSLATE_NOOP("Shortcuts", "Keyboard Shortcuts")));
+    dialog.setWindowTitle(translatedKeys(QT_TRANSLATE_NOOP("Shortcuts", "Keyboard Shortcuts")));
     auto* const text = new QTextBrowser(&dialog);
     text->setObjectName(QStringLiteral("shortcutsText"));
     text->setAccessibleName(dialog.windowTitle());

@@ -7,7 +7,7 @@
 
 namespace {
 
-QString translated(const char* text)
+QString translatedSummary(const char* text)
 {
     return QCoreApplication::translate("SnapshotSummary", text);
 }
@@ -42,13 +42,13 @@ QString SnapshotSummary::text(const QSize& saved, const QSize& frame, const QStr
 {
     QStringList parts;
     parts += saved == frame ? sizeText(saved)
-                            : translated(QT_TRANSLATE_NOOP("SnapshotSummary", "%1 of %2"))
+                            : translatedSummary(QT_TRANSLATE_NOOP("SnapshotSummary", "%1 of %2"))
                                   .arg(sizeText(saved), sizeText(frame));
     parts += ImageFormats::hasQuality(type)
                  ? QStringLiteral("%1 %2").arg(formatName(type)).arg(recipe.jpegQuality)
                  : formatName(type);
     if (recipe.watermark) {
-        parts += translated(QT_TRANSLATE_NOOP("SnapshotSummary", "watermark"));
+        parts += translatedSummary(QT_TRANSLATE_NOOP("SnapshotSummary", "watermark"));
     }
     return parts.join(QStringLiteral(" \u00b7 "));
 }

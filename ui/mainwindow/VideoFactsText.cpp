@@ -10,7 +10,7 @@
 
 namespace {
 
-QString translated(const char* text)
+QString translatedFacts(const char* text)
 {
     return QCoreApplication::translate("VideoFactsText", text);
 }
@@ -73,7 +73,7 @@ QString VideoFactsText::line(const std::optional<FrameNumber>& frame, const QtAV
     }
     if (hasRate(facts)) {
         parts +=
-            translated(QT_TRANSLATE_NOOP("VideoFactsText", "%1 fps")).arg(rateText(rateOf(facts)));
+            translatedFacts(QT_TRANSLATE_NOOP("VideoFactsText", "%1 fps")).arg(rateText(rateOf(facts)));
     }
     if (!size.isEmpty()) {
         parts += QStringLiteral("%1 \u00d7 %2").arg(size.width()).arg(size.height());
@@ -82,7 +82,7 @@ QString VideoFactsText::line(const std::optional<FrameNumber>& frame, const QtAV
         parts += codecName(facts.codec);
     }
     if (std::abs(speed - 1.0) > 0.001) {
-        parts += translated(QT_TRANSLATE_NOOP("VideoFactsText", "speed %1"))
+        parts += translatedFacts(QT_TRANSLATE_NOOP("VideoFactsText", "speed %1"))
                      .arg(PlaybackSpeeds::text(speed));
     }
     return parts.join(QStringLiteral(" \u00b7 "));

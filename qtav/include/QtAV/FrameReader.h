@@ -35,6 +35,12 @@ class Deinterlacer;
 class FrameReader
 {
 public:
+    /// Decoding on to a frame at most this far ahead is cheaper than starting at a key frame.
+    static constexpr double NearSeconds = 1.0;
+
+    /// A search that landed too late goes back by at least this much more, then twice as far.
+    static constexpr qint64 SmallestStepBackMs = 500;
+
     /// What becomes of packets that cannot be decoded on the way to a frame.
     enum class Damage { Skip, Report };
 
