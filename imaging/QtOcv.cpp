@@ -9,8 +9,8 @@
 namespace QtOcv {
 namespace {
 
-constexpr double FromByte = 0.00392156862745098;
-constexpr double ToByte = 255.0;
+constexpr double fromByte = 0.00392156862745098;
+constexpr double toByte = 255.0;
 
 /// The format, among those that a matrix can be laid over (or that lead to one), to convert an
 /// image of the given format to.
@@ -114,7 +114,7 @@ cv::Mat inBytes(const cv::Mat& mat)
     if (mat.depth() == CV_8U)
         return mat;
     cv::Mat bytes;
-    mat.convertTo(bytes, CV_8UC(mat.channels()), mat.depth() == CV_16U ? FromByte : ToByte);
+    mat.convertTo(bytes, CV_8UC(mat.channels()), mat.depth() == CV_16U ? fromByte : toByte);
     return bytes;
 }
 
@@ -172,7 +172,7 @@ cv::Mat imageToMat(const QImage& img, int requiredMatType, QtOcv::MatColorOrder 
     const cv::Mat& bytes = adjusted.empty() ? shared : adjusted;
     cv::Mat result;
     bytes.convertTo(result, CV_MAKETYPE(depth, bytes.channels()),
-                    depth == CV_16U ? ToByte : FromByte);
+                    depth == CV_16U ? toByte : fromByte);
     return result;
 }
 

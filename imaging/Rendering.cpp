@@ -22,8 +22,8 @@
 
 namespace {
 
-constexpr float LoweringContrastDivisor = 200.0F;
-constexpr float RaisingContrastDivisor = 40.0F;
+constexpr float loweringContrastDivisor = 200.0F;
+constexpr float raisingContrastDivisor = 40.0F;
 
 /// 96 to an inch. Qt takes those of the screen otherwise: the same picture would be another file,
 /// and text on it of another size, on another screen.
@@ -139,7 +139,7 @@ QImage imageOf(const Picture& picture)
 /// The brightness counts in steps of 8 bits.
 cv::Mat adjusted(const cv::Mat& mat, int contrast, int brightness)
 {
-    const float divisor = contrast < 0 ? LoweringContrastDivisor : RaisingContrastDivisor;
+    const float divisor = contrast < 0 ? loweringContrastDivisor : raisingContrastDivisor;
     const float gain = static_cast<float>(contrast) / divisor + 1.0F;
     cv::Mat result;
     constexpr int deepSteps = 257;
@@ -204,7 +204,7 @@ QImage rendered(QImage image, const ImageRecipe& recipe)
 
 int qualityFor(const QString& type, int jpegQuality)
 {
-    return imaging::usesQuality(type) ? jpegQuality : ImageFileWriter::DefaultQuality;
+    return imaging::usesQuality(type) ? jpegQuality : ImageFileWriter::defaultQuality;
 }
 
 } // namespace

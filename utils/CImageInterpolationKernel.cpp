@@ -4,8 +4,8 @@
 
 namespace {
 
-constexpr int TriangularSize = 4;
-constexpr double Pi = 3.14159265358979323846;
+constexpr int triangularSize = 4;
+constexpr double pi = 3.14159265358979323846;
 
 float cubic(float x, float a)
 {
@@ -39,7 +39,7 @@ float lanczos(float position, int a)
         return 1.0F;
     if (std::abs(x) >= a)
         return 0.0F;
-    return static_cast<float>(a * std::sin(Pi * x) * std::sin(Pi * x / a) / (Pi * Pi * x * x));
+    return static_cast<float>(a * std::sin(pi * x) * std::sin(pi * x / a) / (pi * pi * x * x));
 }
 
 } // namespace
@@ -51,7 +51,7 @@ CBicubicKernel::CBicubicKernel(int size, float a)
 }
 
 CTriangularKernel::CTriangularKernel()
-    : CImageInterpolationKernel<float>(TriangularSize)
+    : CImageInterpolationKernel<float>(triangularSize)
 {
     fill(1.0F, triangle);
 }

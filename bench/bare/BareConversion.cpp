@@ -78,12 +78,12 @@ ScalerPtr makeScaler(const AVFrame& frame, ScalerFlags flags)
         frame.height, AV_PIX_FMT_BGRA, value, nullptr, nullptr, nullptr));
     if (!scaler)
         return nullptr;
-    constexpr int Limited = 0;
-    constexpr int Full = 1;
-    constexpr int Neutral = 1 << 16;
+    constexpr int limited = 0;
+    constexpr int full = 1;
+    constexpr int neutral = 1 << 16;
     const int* const bt709 = sws_getCoefficients(SWS_CS_ITU709);
     const int result =
-        sws_setColorspaceDetails(scaler.get(), bt709, Limited, bt709, Full, 0, Neutral, Neutral);
+        sws_setColorspaceDetails(scaler.get(), bt709, limited, bt709, full, 0, neutral, neutral);
     return result < 0 ? nullptr : std::move(scaler);
 }
 

@@ -138,9 +138,9 @@ void bareJpeg(benchmark::State& state, const std::string& size, Shape shape)
     cv::Mat picture;
     cv::resize(frame(geometry.region), picture, geometry.size, 0.0, 0.0, cv::INTER_AREA);
     BareJpeg jpeg({picture.cols, picture.rows});
-    constexpr int Quality = 90;
+    constexpr int quality = 90;
     for ([[maybe_unused]] auto _ : state) {
-        if (jpeg.encode(picture.data, picture.step[0], Quality) == 0) {
+        if (jpeg.encode(picture.data, picture.step[0], quality) == 0) {
             state.SkipWithError("tjCompress2 failed");
             return;
         }

@@ -72,13 +72,13 @@ void generateFileName(benchmark::State& state)
 
 void registerProfiles()
 {
-    constexpr int Many = 1000;
+    constexpr int many = 1000;
     benchmark::RegisterBenchmark("LoadProfiles", loadProfiles)
-        ->Arg(Many)
+        ->Arg(many)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
     benchmark::RegisterBenchmark("SaveProfiles", saveProfiles)
-        ->Arg(Many)
+        ->Arg(many)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
     benchmark::RegisterBenchmark("GenerateFileName", generateFileName)

@@ -24,7 +24,7 @@ struct Options
 {
     QString video;
     QDir folder;
-    int precision = bench::FrameSource::AutomaticPrecision;
+    int precision = bench::FrameSource::automaticPrecision;
     bool keepsVideoSize = false;
 };
 

@@ -44,7 +44,7 @@ using QtAV::AVPlayer;
 namespace {
 
 /// What takes longer has failed.
-constexpr int PatienceMs = 120000;
+constexpr int patienceMs = 120000;
 
 /// Shows frames in a window and says when one has been painted.
 class Screen : public QtAV::VideoRenderer
@@ -169,7 +169,7 @@ private:
             loop.quit();
         });
         connect(&patience, &QTimer::timeout, &loop, &QEventLoop::quit);
-        patience.start(PatienceMs);
+        patience.start(patienceMs);
         QElapsedTimer timer;
         timer.start();
         action();

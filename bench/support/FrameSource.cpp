@@ -10,7 +10,7 @@ FrameSource::FrameSource(const QString& video, int precision)
             [this](const QtAV::VideoFrame& frame) { m_frame = frame; });
     connect(&m_grabber, &FrameGrabber::error, this,
             [this](const QString& message) { m_error = message; });
-    if (precision != AutomaticPrecision)
+    if (precision != automaticPrecision)
         m_grabber.setPrecision(precision);
     m_grabber.setSource(video);
 }

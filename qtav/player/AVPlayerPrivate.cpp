@@ -9,10 +9,10 @@ namespace {
 
 /// A picture that is later than this by the monotonic clock is shown all the same, and the clock
 /// set back to it: nothing was heard that it would have to follow.
-constexpr double MostLatenessSeconds = 0.5;
+constexpr double mostLatenessSeconds = 0.5;
 
 /// The last frame is shown no longer than this, however late the file is said to end.
-constexpr double LongestLastFrameSeconds = 1.0;
+constexpr double longestLastFrameSeconds = 1.0;
 
 } // namespace
 
@@ -292,7 +292,7 @@ void AVPlayer::Private::presentDue()
     setDuration(due.duration);
     if (due.frame.isValid()) {
         startsOverAtEnd = false;
-        if (!soundLeads && time - due.frame.timestamp() > MostLatenessSeconds * speed)
+        if (!soundLeads && time - due.frame.timestamp() > mostLatenessSeconds * speed)
             clock.set(due.frame.timestamp());
         show(due.frame);
     }
@@ -316,7 +316,7 @@ double AVPlayer::Private::endTime(bool soundLeads) const
 {
     const double end = double(duration) / 1000.0;
     const double last = frame.timestamp();
-    return soundLeads ? std::max(end, last) : std::clamp(end, last, last + LongestLastFrameSeconds);
+    return soundLeads ? std::max(end, last) : std::clamp(end, last, last + longestLastFrameSeconds);
 }
 
 /// No way on from here, but what is on screen stays, and other places may be readable.

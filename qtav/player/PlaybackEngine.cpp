@@ -11,7 +11,7 @@ namespace QtAV {
 namespace {
 
 /// Further behind than this, decoding leaves frames out to catch up with the sound.
-constexpr double MostLagSeconds = 0.5;
+constexpr double mostLagSeconds = 0.5;
 
 } // namespace
 
@@ -324,8 +324,8 @@ void PlaybackEngine::carryOutStep(Lock& lock)
 
 bool PlaybackEngine::wantsFrames() const
 {
-    const bool isLarge = m_current.byteCount() >= LargeFrameBytes;
-    const size_t most = isLarge ? MostQueuedLargeFrames : MostQueuedFrames;
+    const bool isLarge = m_current.byteCount() >= largeFrameBytes;
+    const size_t most = isLarge ? mostQueuedLargeFrames : mostQueuedFrames;
     const bool canGoOn = !m_ended && !m_failure;
     return m_playing && m_current.isValid() && canGoOn && m_queue.size() < most;
 }
@@ -340,7 +340,7 @@ void PlaybackEngine::decodeAhead(Lock& lock)
     m_source.setFocus(current);
     const IsCancelled isCancelled = [this] { return m_commands.hasArrived(); };
     FrameResult found;
-    if (from < catchUpTo - MostLagSeconds)
+    if (from < catchUpTo - mostLagSeconds)
         found = m_source.frameAt(toMilliseconds(catchUpTo), isCancelled);
     else
         found = m_source.after(from, isCancelled);

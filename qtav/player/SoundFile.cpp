@@ -14,16 +14,16 @@ namespace QtAV {
 namespace {
 
 /// Decoding begins this much earlier: sound codecs need some packets to come into their own.
-constexpr double LeadSeconds = 0.3;
+constexpr double leadSeconds = 0.3;
 
 /// How far to land before the target, where a container's jump ends behind it.
-constexpr double StepsBackSeconds[] = {0.0, 2.0, 10.0};
+constexpr double stepsBackSeconds[] = {0.0, 2.0, 10.0};
 
 /// Sound whose times are further off than this is moved to where they say.
-constexpr double MostOffsetSeconds = 0.05;
+constexpr double mostOffsetSeconds = 0.05;
 
 /// No gap that damaged times claim is filled with more silence than this.
-constexpr double LongestSilenceSeconds = 3600.0;
+constexpr double longestSilenceSeconds = 3600.0;
 
 } // namespace
 
@@ -63,8 +63,8 @@ void SoundFile::setFormat(int sampleRate, int channels, double speed)
 /// A new one knows nothing of what was heard before.
 void SoundFile::makeTempo()
 {
-    const bool isWanted = m_speed != 1.0 && m_speed >= SoundTempo::SlowestSpeed &&
-                          m_speed <= SoundTempo::FastestSpeed;
+    const bool isWanted = m_speed != 1.0 && m_speed >= SoundTempo::slowestSpeed &&
+                          m_speed <= SoundTempo::fastestSpeed;
     m_tempo = isWanted ? SoundTempo::make(m_rate, m_channels, m_speed) : nullptr;
     m_tapeSpeed = m_tempo ? 1.0 : m_speed;
 }
@@ -72,8 +72,8 @@ void SoundFile::makeTempo()
 bool SoundFile::seek(double seconds)
 {
     m_start = seconds;
-    for (const double back : StepsBackSeconds) {
-        const double landing = seconds - LeadSeconds - back;
+    for (const double back : stepsBackSeconds) {
+        const double landing = seconds - leadSeconds - back;
         if (!goTo(landing))
             continue;
         avcodec_flush_buffers(m_decoder.get());
@@ -88,7 +88,7 @@ bool SoundFile::seek(double seconds)
         if (!decodeMore())
             continue;
         const bool startsBehind = landing > 0.0 && m_toSkip == 0;
-        if (!startsBehind || back == StepsBackSeconds[std::size(StepsBackSeconds) - 1])
+        if (!startsBehind || back == stepsBackSeconds[std::size(stepsBackSeconds) - 1])
             return true;
     }
     return false;
@@ -205,10 +205,10 @@ void SoundFile::placeAt(double seconds)
     const double offset = seconds - reached;
     if (isFirst)
         m_made = 0;
-    else if (std::abs(offset) < MostOffsetSeconds)
+    else if (std::abs(offset) < mostOffsetSeconds)
         return;
     if (offset > 0.0) {
-        const double silence = std::min(offset, LongestSilenceSeconds);
+        const double silence = std::min(offset, longestSilenceSeconds);
         qint64 samples = samplesFor(silence);
         const qint64 skipped = std::min(samples, m_toSkip);
         m_toSkip -= skipped;

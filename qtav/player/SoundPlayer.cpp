@@ -7,7 +7,7 @@ SoundPlayer::~SoundPlayer() = default;
 
 void SoundPlayer::ensureThread()
 {
-    if (m_thread && (!m_thread->isHeldUp() || SoundThread::count() >= SoundThread::Most))
+    if (m_thread && (!m_thread->isHeldUp() || SoundThread::count() >= SoundThread::maximumCount))
         return;
     m_thread = std::make_unique<SoundThread>(m_wish);
 }

@@ -18,7 +18,7 @@ class SoundPlayer
 {
 public:
     SoundPlayer();
-    /// Waits until the thread has ended, but never longer than SoundThread::LongestWork.
+    /// Waits until the thread has ended, but never longer than SoundThread::longestWork.
     ~SoundPlayer();
     SoundPlayer(const SoundPlayer&) = delete;
     SoundPlayer& operator=(const SoundPlayer&) = delete;

@@ -13,7 +13,7 @@ using Clock = std::chrono::steady_clock;
 
 /// Between two tellings the time goes on by itself, but not for longer than this: who tells it no
 /// more may have come to a stop.
-constexpr double LongestSilentSeconds = 0.1;
+constexpr double longestSilentSeconds = 0.1;
 
 } // namespace
 
@@ -97,7 +97,7 @@ std::optional<double> SoundState::heard() const
     if (!m_wish.plays || m_heardSerial != m_wish.playSerial || !m_heard)
         return std::nullopt;
     const std::chrono::duration<double> since = Clock::now() - m_heardAt;
-    return *m_heard + m_wish.speed * std::min(since.count(), LongestSilentSeconds);
+    return *m_heard + m_wish.speed * std::min(since.count(), longestSilentSeconds);
 }
 
 } // namespace QtAV

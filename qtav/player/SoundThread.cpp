@@ -56,7 +56,7 @@ SoundThread::SoundThread(const SoundState::Wish& wish)
 SoundThread::~SoundThread()
 {
     m_state->end();
-    const auto patience = LongestWork - m_state->behindFor();
+    const auto patience = longestWork - m_state->behindFor();
     if (m_ended.wait_for(std::max(patience, std::chrono::milliseconds(0))) ==
         std::future_status::ready)
         m_thread.join();

@@ -18,22 +18,22 @@ class SoundThread
 {
 public:
     /// How long a worker may take for what is wished; a small part of it where the device works.
-    static constexpr std::chrono::milliseconds LongestWork{2000};
+    static constexpr std::chrono::milliseconds longestWork{2000};
 
     /// How many threads there may be at a time in the process, with those that were left behind.
-    static constexpr int Most = 8;
+    static constexpr int maximumCount = 8;
 
     /// Starts it. It takes the way to make devices from SoundDevice::factory() now.
     /// @param wish  what is wished at first.
     explicit SoundThread(const SoundState::Wish& wish);
-    /// Tells the worker that it is over and waits, until it has been held up for LongestWork.
+    /// Tells the worker that it is over and waits, until it has been held up for longestWork.
     ~SoundThread();
     SoundThread(const SoundThread&) = delete;
     SoundThread& operator=(const SoundThread&) = delete;
 
     SoundState& state() const { return *m_state; }
 
-    bool isHeldUp() const { return m_state->behindFor() >= LongestWork; }
+    bool isHeldUp() const { return m_state->behindFor() >= longestWork; }
 
     /// How many there are at this moment in the process.
     static int count();

@@ -8,12 +8,12 @@ namespace QtAV {
 
 namespace {
 
-constexpr int TellTimeMs = 10;
+constexpr int tellTimeMs = 10;
 
 /// A device that hears nothing more for so long is gone, or done where its source has ended. Before
 /// its first sound, a device may have to play out two seconds of silence.
-constexpr std::chrono::milliseconds LongestStandstill{3000};
-constexpr std::chrono::milliseconds LongestStandstillAtTheEnd{500};
+constexpr std::chrono::milliseconds longestStandstill{3000};
+constexpr std::chrono::milliseconds longestStandstillAtTheEnd{500};
 
 } // namespace
 
@@ -48,7 +48,7 @@ SoundWorker::SoundWorker(SoundState& state, SoundDevice::Factory makeDevice)
     , m_makeDevice(std::move(makeDevice))
     , m_clock(this)
 {
-    m_clock.setInterval(TellTimeMs);
+    m_clock.setInterval(tellTimeMs);
     m_clock.setTimerType(Qt::PreciseTimer);
     connect(&m_clock, &QTimer::timeout, this, &SoundWorker::tellTime);
 }
@@ -151,7 +151,7 @@ bool SoundWorker::isOver(double heardSeconds)
     if (heardSeconds > m_lastHeard)
         m_movedAt = now;
     m_lastHeard = heardSeconds;
-    const auto longest = m_source->hasEnded() ? LongestStandstillAtTheEnd : LongestStandstill;
+    const auto longest = m_source->hasEnded() ? longestStandstillAtTheEnd : longestStandstill;
     return now - m_movedAt > longest;
 }
 

@@ -21,13 +21,13 @@ namespace QtAV {
 namespace {
 
 /// More frames than any decoder holds back: re-ordering keeps at most 16, and as many threads.
-constexpr int MostHeldFrames = 64;
+constexpr int mostHeldFrames = 64;
 
 /// Positions behind this are the end of any video, and small enough to be calculated with.
-constexpr qint64 LastPositionMs = qint64(1) << 40;
+constexpr qint64 lastPositionMs = qint64(1) << 40;
 
 /// An index that ends further before the end of the video does not hold all of it.
-constexpr qint64 LongestGroupMs = 20000;
+constexpr qint64 longestGroupMs = 20000;
 
 QList<int> listOf(const QVector<int>& streams)
 {
@@ -207,7 +207,7 @@ void AVDemuxer::Private::takePacket(PacketPtr source)
 void AVDemuxer::Private::beginDraining()
 {
     fileEnded = true;
-    drainsLeft = std::min(videoPackets, MostHeldFrames);
+    drainsLeft = std::min(videoPackets, mostHeldFrames);
 }
 
 bool AVDemuxer::Private::drain()
@@ -355,7 +355,7 @@ QVector<qint64> AVDemuxer::indexedKeyFrames()
     std::sort(keys.begin(), keys.end());
     d->forgetPackets();
     d->positioned = false;
-    const bool isWhole = !keys.isEmpty() && d->duration - keys.constLast() <= LongestGroupMs;
+    const bool isWhole = !keys.isEmpty() && d->duration - keys.constLast() <= longestGroupMs;
     return isWhole ? keys : QVector<qint64>();
 }
 
@@ -369,7 +369,7 @@ double AVDemuxer::frameDurationMs() const
 
 bool AVDemuxer::seek(qint64 ms)
 {
-    return videoStream() >= 0 && d->seek(qBound<qint64>(0, ms, LastPositionMs));
+    return videoStream() >= 0 && d->seek(qBound<qint64>(0, ms, lastPositionMs));
 }
 
 bool AVDemuxer::readFrame()

@@ -12,11 +12,11 @@ namespace QtAV {
 namespace {
 
 /// Larger ones are no boxes of this kind.
-constexpr qint64 LargestDescription = 1 << 20;
+constexpr qint64 largestDescription = 1 << 20;
 
 /// The fixed part of a box in `stsd`, and of what describes pictures in it, up to the boxes inside.
-constexpr qint64 ListHeaderBytes = 8;
-constexpr qint64 EntryHeaderBytes = 8 + 78;
+constexpr qint64 listHeaderBytes = 8;
+constexpr qint64 entryHeaderBytes = 8 + 78;
 
 /// The track's number, behind the header's times, which have 4 or 8 bytes each.
 int trackNumber(Mp4Boxes& boxes, const Mp4Box& header)
@@ -51,8 +51,8 @@ std::optional<double> fraction(const QByteArray& data, int index)
 
 std::optional<QRect> apertureFrom(const QByteArray& data, const QSize& stored)
 {
-    constexpr int Bytes = 32;
-    if (data.size() < Bytes)
+    constexpr int bytes = 32;
+    if (data.size() < bytes)
         return std::nullopt;
     const std::optional<double> width = fraction(data, 0);
     const std::optional<double> height = fraction(data, 1);
@@ -76,10 +76,10 @@ std::optional<QRect> cleanApertureOf(FileInput& input, int track, const QSize& s
 {
     Mp4Boxes boxes(input);
     const std::optional<Mp4Box> list = descriptionOf(boxes, input.size(), track);
-    if (!list || list->end - list->begin > LargestDescription)
+    if (!list || list->end - list->begin > largestDescription)
         return std::nullopt;
     // The first entry is the one that FFmpeg decodes by.
-    const Mp4Box entry{list->begin + ListHeaderBytes + EntryHeaderBytes, list->end};
+    const Mp4Box entry{list->begin + listHeaderBytes + entryHeaderBytes, list->end};
     const std::optional<Mp4Box> aperture = boxes.find("clap", entry);
     if (!aperture || aperture->end - aperture->begin < 32)
         return std::nullopt;

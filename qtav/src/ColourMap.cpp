@@ -9,23 +9,23 @@ namespace QtAV {
 
 namespace {
 
-constexpr double WhiteNits = 203.0;
+constexpr double whiteNits = 203.0;
 
 /// A table of this many entries and one is finer than what it is asked for, and stays near the
 /// processor.
-constexpr int Steps = 4096;
+constexpr int steps = 4096;
 
 /// As far from the nearest colour inside as a colour outside may be shown, at black and at white:
 /// less than ten of 255.
-constexpr float OutsideAtBlack = 0.002F;
-constexpr float OutsideAtWhite = 0.06F;
+constexpr float outsideAtBlack = 0.002F;
+constexpr float outsideAtWhite = 0.06F;
 
 template <typename Function>
 std::vector<float> tableOf(const Function& function)
 {
-    std::vector<float> table(Steps + 1);
-    for (int i = 0; i <= Steps; ++i)
-        table[static_cast<size_t>(i)] = static_cast<float>(function(double(i) / Steps));
+    std::vector<float> table(steps + 1);
+    for (int i = 0; i <= steps; ++i)
+        table[static_cast<size_t>(i)] = static_cast<float>(function(double(i) / steps));
     return table;
 }
 
@@ -33,7 +33,7 @@ double lightOf(Colours::Transfer transfer, double value)
 {
     switch (transfer) {
     case Colours::Transfer::Pq:
-        return pqToNits(value) / WhiteNits;
+        return pqToNits(value) / whiteNits;
     case Colours::Transfer::Hlg:
         return hlgToScene(value);
     case Colours::Transfer::Standard:
@@ -44,7 +44,7 @@ double lightOf(Colours::Transfer transfer, double value)
 
 inline int entryFor(float value)
 {
-    return static_cast<int>(std::min(std::max(value, 0.0F), 1.0F) * Steps + 0.5F);
+    return static_cast<int>(std::min(std::max(value, 0.0F), 1.0F) * steps + 0.5F);
 }
 
 FOR_SEVERAL_PROCESSORS
@@ -111,7 +111,7 @@ inline float cut(float value)
 /// Towards where a colour outside comes in on the way to its grey, by little.
 inline float softened(float inside, float faded)
 {
-    const float most = OutsideAtBlack + OutsideAtWhite * inside;
+    const float most = outsideAtBlack + outsideAtWhite * inside;
     return inside + std::min(std::max(faded - inside, -most), most);
 }
 
@@ -153,11 +153,11 @@ ColourMap::ColourMap(const Colours& colours)
     if (!m_isHdr)
         return;
     const double brightest =
-        (colours.transfer == Colours::Transfer::Pq ? pqToNits(1.0) : colours.peakNits) / WhiteNits;
+        (colours.transfer == Colours::Transfer::Pq ? pqToNits(1.0) : colours.peakNits) / whiteNits;
     m_brightest = static_cast<float>(brightest);
     m_gain = tableOf([&](double root) {
-        const double nits = root * root * brightest * WhiteNits;
-        return nits > 0.0 ? toneMapped(nits, colours.peakNits, WhiteNits) / nits : 1.0;
+        const double nits = root * root * brightest * whiteNits;
+        return nits > 0.0 ? toneMapped(nits, colours.peakNits, whiteNits) / nits : 1.0;
     });
     // The system gamma of a display with 1000 cd/m² is 1.2.
     if (colours.transfer == Colours::Transfer::Hlg)

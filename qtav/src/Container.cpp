@@ -18,7 +18,7 @@ namespace QtAV {
 namespace {
 
 /// A packet that takes longer to read is given up when that is asked for.
-constexpr std::chrono::milliseconds LongestPacket{100};
+constexpr std::chrono::milliseconds longestPacket{100};
 
 template <size_t Count>
 bool isOneOf(const AVInputFormat& format, const char* const (&names)[Count])
@@ -83,21 +83,21 @@ int findStreamInfo(AVFormatContext& format, const PictureLimit& limit)
 }
 
 /// More of any of these is no description of a video.
-constexpr int MostChapters = 1000;
-constexpr int MostTags = 256;
-constexpr int LongestTagBytes = 4096;
+constexpr int mostChapters = 1000;
+constexpr int mostTags = 256;
+constexpr int longestTagBytes = 4096;
 
 /// Adds the texts whose keys are not there yet.
 void addTags(QMap<QString, QString>& tags, const AVDictionary* dictionary)
 {
     const AVDictionaryEntry* entry = nullptr;
-    while (tags.size() < MostTags) {
+    while (tags.size() < mostTags) {
         entry = av_dict_get(dictionary, "", entry, AV_DICT_IGNORE_SUFFIX);
         if (!entry)
             return;
         const QString key = QString::fromUtf8(entry->key).toLower();
         if (!tags.contains(key)) {
-            const auto size = static_cast<int>(qstrnlen(entry->value, LongestTagBytes));
+            const auto size = static_cast<int>(qstrnlen(entry->value, longestTagBytes));
             tags.insert(key, QString::fromUtf8(entry->value, size));
         }
     }
@@ -216,7 +216,7 @@ bool Container::isInterrupted()
 {
     if (m_wasInterrupted)
         return true;
-    if (m_patience == Patience::Some && std::chrono::steady_clock::now() - m_began < LongestPacket)
+    if (m_patience == Patience::Some && std::chrono::steady_clock::now() - m_began < longestPacket)
         return false;
     m_wasInterrupted = m_isCancelled();
     return m_wasInterrupted;
@@ -289,7 +289,7 @@ MediaFacts Container::facts(int stream) const
 QVector<Chapter> Container::chapters() const
 {
     QVector<Chapter> chapters;
-    const unsigned count = std::min<unsigned>(m_format->nb_chapters, MostChapters);
+    const unsigned count = std::min<unsigned>(m_format->nb_chapters, mostChapters);
     for (unsigned i = 0; i < count; ++i) {
         const AVChapter& marked = *m_format->chapters[i];
         const bool isTimed = marked.time_base.num > 0 && marked.time_base.den > 0;
@@ -393,7 +393,7 @@ PacketAnswer Container::failed(int result)
     if (result == AVERROR_EOF)
         return PacketAnswer::End;
     m_errorText = ffmpegErrorText(result);
-    return ++m_failures < MaximumFailures ? PacketAnswer::Failed : PacketAnswer::End;
+    return ++m_failures < maximumFailures ? PacketAnswer::Failed : PacketAnswer::End;
 }
 
 bool Container::isOverwritten()

@@ -10,7 +10,7 @@ namespace QtAV {
 namespace {
 
 /// So much is read behind the stated end, to see whether anything follows.
-constexpr qint64 CheapBytes = qint64(16) << 20;
+constexpr qint64 cheapBytes = qint64(16) << 20;
 
 } // namespace
 
@@ -59,9 +59,9 @@ std::optional<DurationProbe::Length> DurationProbe::checkedStatement()
 /// FFmpeg measures by the last packet that bears a time.
 qint64 DurationProbe::endOfPictures(qint64 statedMs)
 {
-    constexpr qint64 LongestGapMs = 2000;
+    constexpr qint64 longestGapMs = 2000;
     qint64 end = 0;
-    if (!m_video->seekNear(std::max<qint64>(0, statedMs - LongestGapMs)))
+    if (!m_video->seekNear(std::max<qint64>(0, statedMs - longestGapMs)))
         return end;
     for (PacketPtr packet;;) {
         const PacketAnswer answer = m_video->read(packet);
@@ -80,11 +80,11 @@ qint64 DurationProbe::endOfPictures(qint64 statedMs)
 bool DurationProbe::isWorthReadingOn()
 {
     // No codec lets more pictures than this wait for one that is decoded later.
-    constexpr int MaximumWaiting = 16;
+    constexpr int maximumWaiting = 16;
     const qint64 rest = m_container.indexesAllPackets()
-                            ? m_container.seekToTail(m_video->stream(), MaximumWaiting).value_or(0)
+                            ? m_container.seekToTail(m_video->stream(), maximumWaiting).value_or(0)
                             : m_container.remainingBytes();
-    return rest > 0 && rest <= CheapBytes;
+    return rest > 0 && rest <= cheapBytes;
 }
 
 qint64 DurationProbe::measure()

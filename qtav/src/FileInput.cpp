@@ -24,10 +24,10 @@ namespace QtAV {
 namespace {
 
 /// How often a caller that waits for the disk is asked whether it still wants to.
-constexpr std::chrono::milliseconds Impatience{20};
+constexpr std::chrono::milliseconds impatience{20};
 
 /// Small enough that a seek costs little, large enough for few calls.
-constexpr int BufferBytes = 64 << 10;
+constexpr int bufferBytes = 64 << 10;
 
 /// What the system has in memory already; negative where it would have to wait for the disk.
 int readWithoutWaiting(int file, qint64 position, uint8_t* buffer, int bytes)
@@ -87,7 +87,7 @@ qint64 FileInput::Reader::carryOut(Job job, const IsCancelled& isCancelled)
     std::unique_lock lock(m_mutex);
     const auto waitUntilIdle = [&] {
         while (m_job) {
-            m_changed.wait_for(lock, Impatience);
+            m_changed.wait_for(lock, impatience);
             if (m_job && isCancelled())
                 return false;
         }
@@ -254,9 +254,9 @@ bool FileInput::hasShrunk()
 FileStream::FileStream(FileInput& input)
     : m_input(input)
 {
-    auto* const buffer = static_cast<unsigned char*>(av_malloc(BufferBytes));
+    auto* const buffer = static_cast<unsigned char*>(av_malloc(bufferBytes));
     Q_CHECK_PTR(buffer);
-    m_context = avio_alloc_context(buffer, BufferBytes, 0, this, &FileStream::read, nullptr,
+    m_context = avio_alloc_context(buffer, bufferBytes, 0, this, &FileStream::read, nullptr,
                                    &FileStream::seek);
     Q_CHECK_PTR(m_context);
 }

@@ -16,7 +16,7 @@ namespace QtAV {
 namespace {
 
 /// Most of what readAhead() keeps while no key frame comes.
-constexpr qint64 MostAheadBytes = 64 * 1024 * 1024;
+constexpr qint64 mostAheadBytes = 64 * 1024 * 1024;
 
 QVariantHash decoderOptions(bool skips, bool hurries)
 {
@@ -276,7 +276,7 @@ FrameAnswer FrameReader::readAhead(qint64 ms, const IsCancelled& isCancelled)
             break;
         }
     }
-    while ((m_ahead.empty() || !isBehind(m_ahead.back())) && bytes < MostAheadBytes) {
+    while ((m_ahead.empty() || !isBehind(m_ahead.back())) && bytes < mostAheadBytes) {
         Packet packet;
         answer = readFromFile(packet, isCancelled);
         if (answer == FrameAnswer::End)
@@ -378,7 +378,7 @@ QString FrameReader::damageText() const
 
 void FrameReader::chooseSkipping(const Packet& packet)
 {
-    const qint64 completeFrom = m_completeFrom - (wantsPredecessors() ? NeighbourMs : 0);
+    const qint64 completeFrom = m_completeFrom - (wantsPredecessors() ? neighbourMs : 0);
     const bool skips = !packet.isDrain() && toMilliseconds(packet.pts) < completeFrom;
     if (skips)
         m_skippedUpTo = std::max(m_skippedUpTo, packet.pts);

@@ -8,7 +8,7 @@ namespace QtAV {
 
 namespace {
 
-constexpr qint64 SmallestStepBackMs = 500;
+constexpr qint64 smallestStepBackMs = 500;
 
 } // namespace
 
@@ -61,7 +61,7 @@ FrameResult FrameReader::findOn(const Search& search, const IsCancelled& isCance
 
 FrameResult FrameReader::findFrom(Search search, const IsCancelled& isCancelled)
 {
-    for (qint64 stepBackMs = wantsPredecessors() ? NeighbourMs : 0;;) {
+    for (qint64 stepBackMs = wantsPredecessors() ? neighbourMs : 0;;) {
         const qint64 landing = std::max<qint64>(0, search.ms - stepBackMs);
         seek(landing);
         setCompleteFrom(search.completeFrom);
@@ -76,7 +76,7 @@ FrameResult FrameReader::findFrom(Search search, const IsCancelled& isCancelled)
             return std::move(way.result);
         }
         if (search.completeFrom <= 0)
-            stepBackMs = std::max(SmallestStepBackMs, 2 * stepBackMs);
+            stepBackMs = std::max(smallestStepBackMs, 2 * stepBackMs);
         search.completeFrom = 0;
     }
 }

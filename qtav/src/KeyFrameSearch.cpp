@@ -8,7 +8,7 @@ namespace QtAV {
 
 namespace {
 
-constexpr qint64 SmallestStepBackMs = 500;
+constexpr qint64 smallestStepBackMs = 500;
 
 } // namespace
 
@@ -31,7 +31,7 @@ PacketAnswer KeyFrameSearch::run(qint64 targetMs)
             scanIf(m_video.seekNear(base - m_stepBackMs), Accept::AtOrBeforeTarget);
         if (answer != PacketAnswer::End)
             return answer;
-        m_stepBackMs = std::max(SmallestStepBackMs, m_stepBackMs * 2);
+        m_stepBackMs = std::max(smallestStepBackMs, m_stepBackMs * 2);
     }
     m_stepBackMs = usualStepBackMs;
     return searchFromStart();

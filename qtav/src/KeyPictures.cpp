@@ -5,20 +5,20 @@ namespace QtAV {
 namespace {
 
 namespace h264 {
-constexpr int Slice = 1;
-constexpr int RefreshSlice = 5;
-constexpr int SupplementalInformation = 6;
+constexpr int slice = 1;
+constexpr int refreshSlice = 5;
+constexpr int supplementalInformation = 6;
 } // namespace h264
 
 namespace hevc {
-constexpr int FirstRefreshSlice = 16;
-constexpr int LastRefreshSlice = 23;
-constexpr int LastSlice = 31;
-constexpr int PrefixInformation = 39;
+constexpr int firstRefreshSlice = 16;
+constexpr int lastRefreshSlice = 23;
+constexpr int lastSlice = 31;
+constexpr int prefixInformation = 39;
 } // namespace hevc
 
 /// The message that announces a point of recovery, in both codecs.
-constexpr int RecoveryPoint = 6;
+constexpr int recoveryPoint = 6;
 
 /// Reads unsigned Exp-Golomb codes, which may be up to 31 zeros long; 0 behind the end.
 class Bits
@@ -81,7 +81,7 @@ bool announcesRecovery(const NalUnits::Unit& unit, qsizetype headerBytes)
     for (qsizetype place = headerBytes; place + 2 < unit.size;) {
         const int type = messageNumber(unit, place);
         const int length = messageNumber(unit, place);
-        if (type == RecoveryPoint)
+        if (type == recoveryPoint)
             return true;
         place += length;
     }
@@ -91,10 +91,10 @@ bool announcesRecovery(const NalUnits::Unit& unit, qsizetype headerBytes)
 /// MPEG-1 and MPEG-2: ten bits of place in its group, then three bits of type, 1 for intra.
 bool isMpegKey(const uint8_t* data, qsizetype size)
 {
-    constexpr uint8_t Picture = 0x00;
+    constexpr uint8_t picture = 0x00;
     for (qsizetype i = behindStartCode(data, 0, size); i + 2 < size;
          i = behindStartCode(data, i, size)) {
-        if (data[i] == Picture)
+        if (data[i] == picture)
             return (data[i + 2] >> 3 & 0x07) == 1;
     }
     return false;
@@ -104,13 +104,13 @@ bool isMpegKey(const uint8_t* data, qsizetype size)
 /// type of the first of them.
 bool isMpeg4Key(const uint8_t* data, qsizetype size)
 {
-    constexpr uint8_t Picture = 0xb6;
-    constexpr qsizetype LargestEmptyPicture = 19;
-    if (size <= LargestEmptyPicture)
+    constexpr uint8_t picture = 0xb6;
+    constexpr qsizetype largestEmptyPicture = 19;
+    if (size <= largestEmptyPicture)
         return false;
     for (qsizetype i = behindStartCode(data, 0, size); i + 1 < size;
          i = behindStartCode(data, i, size)) {
-        if (data[i] == Picture)
+        if (data[i] == picture)
             return data[i + 1] >> 6 == 0;
     }
     return false;
@@ -151,13 +151,13 @@ bool KeyPictures::isInUnits(const uint8_t* data, qsizetype size) const
     while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
         const int type = unit->type;
         const bool isMessage =
-            type == (isHevc ? hevc::PrefixInformation : h264::SupplementalInformation);
+            type == (isHevc ? hevc::prefixInformation : h264::supplementalInformation);
         if (isMessage && announcesRecovery(*unit, isHevc ? 2 : 1))
             return true;
-        if (isHevc && type <= hevc::LastSlice)
-            return type >= hevc::FirstRefreshSlice && type <= hevc::LastRefreshSlice;
-        if (!isHevc && type >= h264::Slice && type <= h264::RefreshSlice)
-            return type == h264::RefreshSlice || (type == h264::Slice && isIntraSlice(*unit));
+        if (isHevc && type <= hevc::lastSlice)
+            return type >= hevc::firstRefreshSlice && type <= hevc::lastRefreshSlice;
+        if (!isHevc && type >= h264::slice && type <= h264::refreshSlice)
+            return type == h264::refreshSlice || (type == h264::slice && isIntraSlice(*unit));
     }
     return true;
 }

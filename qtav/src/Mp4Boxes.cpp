@@ -10,11 +10,11 @@ namespace QtAV {
 namespace {
 
 /// More boxes beside each other are not looked through.
-constexpr int MostBoxes = 1000;
+constexpr int mostBoxes = 1000;
 
 /// Up to here the memory for what is declared does no harm: files that were cut short declare more
 /// than they hold.
-constexpr qint64 HarmlessPictures = 1000000;
+constexpr qint64 harmlessPictures = 1000000;
 
 quint32 numberAt(const QByteArray& data, int position)
 {
@@ -59,7 +59,7 @@ QByteArray Mp4Boxes::read(qint64 position, int bytes)
 std::optional<Mp4Box> Mp4Boxes::find(const char* name, const Mp4Box& within, qint64* after)
 {
     qint64 position = within.begin;
-    for (int count = 0; count < MostBoxes && position + 8 <= within.end; ++count) {
+    for (int count = 0; count < mostBoxes && position + 8 <= within.end; ++count) {
         const QByteArray header = read(position, 8);
         if (header.isEmpty())
             return std::nullopt;
@@ -96,7 +96,7 @@ bool declaresTooManyPictures(FileInput& input)
         qint64 pictures = 0;
         const bool isMore = isVideo(boxes, *track) &&
                             declaredBytes(boxes, *track, pictures) > fileBytes &&
-                            pictures > HarmlessPictures;
+                            pictures > harmlessPictures;
         if (isMore)
             return true;
     }

@@ -106,10 +106,10 @@ std::optional<NalUnits::Unit> NalUnits::Cursor::next()
         m_place += *length;
         return unitOf(m_data + m_place - *length, *length);
     }
-    constexpr qsizetype StartCodeBytes = 3;
+    constexpr qsizetype startCodeBytes = 3;
     const qsizetype from = m_place;
     m_place = behindStartCode(m_data, from, m_size);
-    const qsizetype end = m_place < m_size ? m_place - StartCodeBytes : m_size;
+    const qsizetype end = m_place < m_size ? m_place - startCodeBytes : m_size;
     return unitOf(m_data + from, end - from);
 }
 

@@ -304,9 +304,9 @@ std::optional<PictureConverter::Scaler> PictureConverter::makeScaler(const Task&
         return std::nullopt;
     // The same range on both sides: the conversion to full range is YuvToRgb's.
     const int* coefficients = sws_getCoefficients(SWS_CS_DEFAULT);
-    constexpr int Neutral = 1 << 16;
+    constexpr int neutral = 1 << 16;
     sws_setColorspaceDetails(context.get(), coefficients, task.isFullRange, coefficients,
-                             task.isFullRange, 0, Neutral, Neutral);
+                             task.isFullRange, 0, neutral, neutral);
     return Scaler{task, std::move(context), nullptr};
 }
 
@@ -323,7 +323,7 @@ FramePtr PictureConverter::makePicture(const Task& task)
 void PictureConverter::keepScaler(Scaler scaler)
 {
     const std::lock_guard lock(m_mutex);
-    if (m_idle.size() == MostIdleScalers)
+    if (m_idle.size() == mostIdleScalers)
         m_idle.erase(m_idle.begin());
     m_idle.push_back(std::move(scaler));
 }

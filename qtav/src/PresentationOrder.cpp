@@ -10,12 +10,12 @@ namespace QtAV {
 namespace {
 
 /// In a stream that has no times at all none need be waited for.
-constexpr size_t MaximumUnplaced = 64;
+constexpr size_t maximumUnplaced = 64;
 
 /// Longer than any picture is shown, and small enough to be calculated with.
-constexpr qint64 MaximumFrameTicks = qint64(1) << 40;
+constexpr qint64 maximumFrameTicks = qint64(1) << 40;
 
-constexpr qint64 NoOrder = std::numeric_limits<qint64>::min();
+constexpr qint64 noOrder = std::numeric_limits<qint64>::min();
 
 bool hasOrderCount(AVCodecID codec)
 {
@@ -42,7 +42,7 @@ PresentationOrder::PresentationOrder(const AVCodecParameters& codec, int reorder
     , m_mode(times)
     , m_hasOrderCount(hasOrderCount(codec.codec_id))
     , m_reorderDelay(static_cast<size_t>(std::max(0, reorderDelay)))
-    , m_highestOrder(NoOrder)
+    , m_highestOrder(noOrder)
 {
     Q_CHECK_PTR(m_context.get());
     avcodec_parameters_to_context(m_context.get(), &codec);
@@ -58,7 +58,7 @@ void PresentationOrder::push(PacketPtr packet, qint64 frameTicks)
         m_times.push_back(packet->dts);
     const bool isKey = packet->flags & AV_PKT_FLAG_KEY;
     const bool isTimed = m_mode == Times::WithGaps && packet->pts != AV_NOPTS_VALUE && !isKey;
-    const qint64 shown = std::clamp<qint64>(shownTicks(*packet, frameTicks), 0, MaximumFrameTicks);
+    const qint64 shown = std::clamp<qint64>(shownTicks(*packet, frameTicks), 0, maximumFrameTicks);
     const Waiting picture{0, place, packet->pts, shown, isKey};
     m_held.push_back({std::move(packet), isTimed});
     if (m_hasOrderCount)
@@ -147,7 +147,7 @@ void PresentationOrder::time(const Waiting& picture)
         m_nextTicks = picture.ticks + picture.frameTicks;
     } else {
         m_unplaced.push_back(picture);
-        if (m_unplaced.size() > MaximumUnplaced)
+        if (m_unplaced.size() > maximumUnplaced)
             giveUpUnplaced();
     }
 }
@@ -155,7 +155,7 @@ void PresentationOrder::time(const Waiting& picture)
 /// Times the pictures that were shown before one whose time is known, back from that.
 void PresentationOrder::timeUnplaced(const Waiting& known)
 {
-    constexpr int LargestError = 3;
+    constexpr int largestError = 3;
     qint64 ticks = known.ticks;
     for (auto picture = m_unplaced.rbegin(); picture != m_unplaced.rend(); ++picture) {
         ticks -= picture->frameTicks;
@@ -163,7 +163,7 @@ void PresentationOrder::timeUnplaced(const Waiting& known)
         // Beyond that the pictures between them do not follow one another without a gap.
         const bool fits =
             isOwn && !known.isKey &&
-            isNear(picture->ticks, ticks, 2 * (LargestError + 1) * picture->frameTicks - 1);
+            isNear(picture->ticks, ticks, 2 * (largestError + 1) * picture->frameTicks - 1);
         if (isOwn && !fits)
             ticks = picture->ticks;
         settle(picture->place, ticks);
@@ -214,7 +214,7 @@ void PresentationOrder::reset()
     m_waiting.clear();
     m_unplaced.clear();
     m_firstPlace = 0;
-    m_highestOrder = NoOrder;
+    m_highestOrder = noOrder;
     m_nextTicks = AV_NOPTS_VALUE;
 }
 

@@ -52,7 +52,7 @@ Dither<float> ditherFor(const AVFrame& frame)
 {
     const int depth = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format))->comp[0].depth;
     return Dither<float>(frame.width, [depth](int order) {
-        return depth > 8 ? (static_cast<float>(order) + 0.5F) / Dither<float>::Orders : 0.5F;
+        return depth > 8 ? (static_cast<float>(order) + 0.5F) / Dither<float>::orders : 0.5F;
     });
 }
 
@@ -150,10 +150,10 @@ void fill(const AVFrame& frame, const ColourMap* map, const Target& target, Band
 /// A band for each core, unless starting a thread for it takes longer than what it would save.
 std::vector<Band> bandsOf(const AVFrame& frame)
 {
-    constexpr qint64 FewestPixels = 250'000;
+    constexpr qint64 fewestPixels = 250'000;
     const qint64 cores = std::max(1U, std::thread::hardware_concurrency());
     const qint64 count =
-        std::clamp(qint64(frame.width) * frame.height / FewestPixels, qint64(1), cores);
+        std::clamp(qint64(frame.width) * frame.height / fewestPixels, qint64(1), cores);
     std::vector<Band> bands;
     for (qint64 i = 0; i < count; ++i)
         bands.push_back({static_cast<int>(frame.height * i / count),

@@ -59,7 +59,7 @@ QImage::Format convertedFormat(QImage::Format wanted, bool isScaledLater)
 }
 
 /// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
-constexpr double WidestPixel = 16.0;
+constexpr double widestPixel = 16.0;
 
 /// In images of at most so small a part of the lines, nobody sees the moments of two fields.
 constexpr int fewLines = 8;
@@ -109,7 +109,7 @@ QSize squareSizeOf(const QSize& stored, AVRational sampleAspectRatio)
     if (sampleAspectRatio.num <= 0 || sampleAspectRatio.den <= 0)
         return stored;
     const double ratio = av_q2d(sampleAspectRatio);
-    if (ratio > WidestPixel || ratio < 1.0 / WidestPixel)
+    if (ratio > widestPixel || ratio < 1.0 / widestPixel)
         return stored;
     if (ratio >= 1.0)
         return {static_cast<int>(std::lround(stored.width() * ratio)), stored.height()};

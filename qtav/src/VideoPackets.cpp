@@ -22,15 +22,15 @@ bool isOrderedByType(AVCodecID codec)
 /// How many bytes of a packet belong to a picture whose beginning was not read.
 int tailBytes(AVCodecID codec, const AVPacket& packet)
 {
-    constexpr uint8_t FirstSlice = 0x01;
-    constexpr uint8_t LastSlice = 0xaf;
-    constexpr int StartCodeBytes = 4;
+    constexpr uint8_t firstSlice = 0x01;
+    constexpr uint8_t lastSlice = 0xaf;
+    constexpr int startCodeBytes = 4;
     for (qsizetype i = behindStartCode(packet.data, 0, packet.size); i < packet.size;
          i = behindStartCode(packet.data, i, packet.size)) {
         const uint8_t code = packet.data[i];
-        const bool isSlice = codec != AV_CODEC_ID_MPEG4 && code >= FirstSlice && code <= LastSlice;
+        const bool isSlice = codec != AV_CODEC_ID_MPEG4 && code >= firstSlice && code <= lastSlice;
         if (!isSlice)
-            return static_cast<int>(i) + 1 - StartCodeBytes;
+            return static_cast<int>(i) + 1 - startCodeBytes;
     }
     return packet.size;
 }

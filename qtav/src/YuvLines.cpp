@@ -11,13 +11,13 @@ namespace QtAV {
 
 namespace {
 
-constexpr int SampleBits = YuvLines::SampleBits;
+constexpr int sampleBits = YuvLines::sampleBits;
 
 FOR_SEVERAL_PROCESSORS
 void widenLuma(const uint8_t* __restrict source, int16_t* __restrict target, int count)
 {
     for (int i = 0; i < count; ++i)
-        target[i] = static_cast<int16_t>(source[i] << (SampleBits - 8));
+        target[i] = static_cast<int16_t>(source[i] << (sampleBits - 8));
 }
 
 FOR_SEVERAL_PROCESSORS
@@ -25,7 +25,7 @@ void widenDeepLuma(const uint16_t* __restrict source, int16_t* __restrict target
                    int depth)
 {
     // One bit more than wanted, so that 16 bits shift the same way as fewer do.
-    const int shift = SampleBits + 1 - depth;
+    const int shift = sampleBits + 1 - depth;
     for (int i = 0; i < count; ++i)
         target[i] = static_cast<int16_t>((uint32_t(source[i]) << shift) >> 1);
 }
@@ -57,10 +57,10 @@ void mixDeep(const uint16_t* __restrict near, const uint16_t* __restrict far, in
              int16_t* __restrict target, int count, int depth)
 {
     const int farEighths = 8 - nearEighths;
-    const int shift = SampleBits + 1 - depth;
+    const int shift = sampleBits + 1 - depth;
     for (int i = 0; i < count; ++i) {
         const uint32_t sum = near[i] * uint32_t(nearEighths) + far[i] * uint32_t(farEighths);
-        target[i] = static_cast<int16_t>(int32_t((sum << shift) >> 4) - YuvLines::ChromaMiddle);
+        target[i] = static_cast<int16_t>(int32_t((sum << shift) >> 4) - YuvLines::chromaMiddle);
     }
 }
 

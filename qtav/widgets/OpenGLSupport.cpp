@@ -15,8 +15,8 @@ namespace {
 
 bool isSoftware(const QByteArray& renderer)
 {
-    constexpr const char* Names[] = {"llvmpipe", "softpipe", "Software", "SwiftShader"};
-    return std::any_of(std::begin(Names), std::end(Names),
+    constexpr const char* names[] = {"llvmpipe", "softpipe", "Software", "SwiftShader"};
+    return std::any_of(std::begin(names), std::end(names),
                        [&renderer](const char* name) { return renderer.contains(name); });
 }
 

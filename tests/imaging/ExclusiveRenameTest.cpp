@@ -15,8 +15,8 @@ namespace {
 
 using Way = Outcome (*)(const QByteArray&, const QByteArray&);
 
-constexpr int Rounds = 50;
-constexpr int Racers = 8;
+constexpr int rounds = 50;
+constexpr int racers = 8;
 
 struct NamedWay
 {
@@ -24,7 +24,7 @@ struct NamedWay
     Way way;
 };
 
-constexpr NamedWay Ways[] = {
+constexpr NamedWay ways[] = {
     {"first supported", ExclusiveRename::rename},
 #ifdef Q_OS_LINUX
     {"by renaming", ExclusiveRename::byRenaming},
@@ -63,7 +63,7 @@ private:
     static void addWays()
     {
         QTest::addColumn<Way>("way");
-        for (const NamedWay& named : Ways)
+        for (const NamedWay& named : ways)
             QTest::newRow(named.name) << named.way;
     }
 
@@ -118,15 +118,15 @@ private slots:
     void rename_hasOneWinner_whenManyRace()
     {
         QFETCH(Way, way);
-        for (int round = 0; round < Rounds; ++round) {
+        for (int round = 0; round < rounds; ++round) {
             const QByteArray target = "new" + QByteArray::number(round);
             const QByteArray to = path(target);
-            std::atomic<int> waiting{Racers};
+            std::atomic<int> waiting{racers};
             std::atomic<int> winner{-1};
             std::atomic<int> winners{0};
             std::atomic<int> losers{0};
             std::vector<std::thread> threads;
-            for (int racer = 0; racer < Racers; ++racer) {
+            for (int racer = 0; racer < racers; ++racer) {
                 const QByteArray name = "old" + QByteArray::number(racer);
                 const QByteArray from = made(name, name);
                 threads.emplace_back([&, from, to, racer] {
@@ -143,7 +143,7 @@ private slots:
             for (std::thread& thread : threads)
                 thread.join();
             QCOMPARE(winners.load(), 1);
-            QCOMPARE(losers.load(), Racers - 1);
+            QCOMPARE(losers.load(), racers - 1);
             QCOMPARE(content(target), "old" + QByteArray::number(winner.load()));
         }
     }

@@ -57,7 +57,7 @@ private slots:
     void publish_overwrites_whenTheFolderIsWriteProtected_data()
     {
         QTest::addColumn<QByteArray>("content");
-        QTest::newRow("longer") << QByteArray(LargeSize, 'x');
+        QTest::newRow("longer") << QByteArray(largeSize, 'x');
         QTest::newRow("shorter") << QByteArray("a");
         QTest::newRow("as long") << QByteArray("new");
         QTest::newRow("empty") << QByteArray();
@@ -127,7 +127,7 @@ private slots:
         {
             const FileSizeLimit limit(100000);
             result =
-                publishedByNobody(path("file"), ExistingFile::Replace, QByteArray(LargeSize, 'x'));
+                publishedByNobody(path("file"), ExistingFile::Replace, QByteArray(largeSize, 'x'));
         }
         QCOMPARE(result, WriteResult::Failed);
         QCOMPARE(read(path("file")), QByteArray("old"));

@@ -49,7 +49,7 @@ private slots:
     void publish_writesTheWholeFileAndNothingElse()
     {
         QFETCH(ExistingFile, existing);
-        const QByteArray content(LargeSize, 'x');
+        const QByteArray content(largeSize, 'x');
         QCOMPARE(FilePublisher::publish(path("new.jpg"), content, existing), WriteResult::Written);
         QCOMPARE(read(path("new.jpg")), content);
         QCOMPARE(files(), QStringList{QStringLiteral("new.jpg")});
@@ -232,7 +232,7 @@ private slots:
         WriteResult result = WriteResult::Written;
         {
             const FileSizeLimit limit(100000);
-            result = FilePublisher::publish(path("file"), QByteArray(LargeSize, 'x'), existing);
+            result = FilePublisher::publish(path("file"), QByteArray(largeSize, 'x'), existing);
         }
         QCOMPARE(result, WriteResult::Failed);
         QCOMPARE(files(), QStringList());
@@ -244,7 +244,7 @@ private slots:
         WriteResult result = WriteResult::Written;
         {
             const FileSizeLimit limit(100000);
-            result = FilePublisher::publish(path("file"), QByteArray(LargeSize, 'x'),
+            result = FilePublisher::publish(path("file"), QByteArray(largeSize, 'x'),
                                             ExistingFile::Replace);
         }
         QCOMPARE(result, WriteResult::Failed);
@@ -262,7 +262,7 @@ private slots:
         };
         const QString file = disk.path(QStringLiteral("file"));
         const WriteResult tooLarge =
-            FilePublisher::publish(file, QByteArray(LargeSize, 'x'), ExistingFile::Keep);
+            FilePublisher::publish(file, QByteArray(largeSize, 'x'), ExistingFile::Keep);
         QCOMPARE(tooLarge, WriteResult::Failed);
         QCOMPARE(entries(), QStringList());
         QCOMPARE(FilePublisher::publish(file, QByteArray(1000, 'x'), ExistingFile::Keep),
@@ -283,7 +283,7 @@ private slots:
     {
         QVERIFY(!FilePublisher::prepare(path("nowhere"), "content"));
         const FileSizeLimit limit(1000);
-        QVERIFY(!FilePublisher::prepare(m_folder->path(), QByteArray(LargeSize, 'x')));
+        QVERIFY(!FilePublisher::prepare(m_folder->path(), QByteArray(largeSize, 'x')));
         QVERIFY(files().isEmpty());
     }
 
@@ -347,8 +347,8 @@ private slots:
 
     void publish_neverShowsHalfAFile_whenTheProcessIsKilled()
     {
-        const QByteArray first(LargeSize, 'a');
-        const QByteArray second(LargeSize, 'b');
+        const QByteArray first(largeSize, 'a');
+        const QByteArray second(largeSize, 'b');
         for (int round = 0; round < 10; ++round) {
             const pid_t child = startProcess([&] {
                 for (;;) {

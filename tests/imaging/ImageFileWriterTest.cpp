@@ -86,7 +86,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QByteArray, format);
         const QString path = m_folder->filePath(name);
-        QCOMPARE(ImageFileWriter::write(path, picture(), ImageFileWriter::DefaultQuality,
+        QCOMPARE(ImageFileWriter::write(path, picture(), ImageFileWriter::defaultQuality,
                                         ExistingFile::Keep),
                  WriteResult::Written);
         QCOMPARE(files(), QStringList{name});
@@ -223,7 +223,7 @@ private slots:
         QFETCH(QImage, image);
         for (const auto existing : {ExistingFile::Keep, ExistingFile::Replace}) {
             QCOMPARE(ImageFileWriter::write(m_folder->filePath(name), image,
-                                            ImageFileWriter::DefaultQuality, existing),
+                                            ImageFileWriter::defaultQuality, existing),
                      WriteResult::Failed);
         }
         QCOMPARE(files(), QStringList());
@@ -269,7 +269,7 @@ private slots:
         const QString path = m_folder->filePath(QStringLiteral("a.png"));
         const QImage other = picture().mirrored();
         const auto write = [&path](const QImage& image, ExistingFile existing) {
-            return ImageFileWriter::write(path, image, ImageFileWriter::DefaultQuality, existing);
+            return ImageFileWriter::write(path, image, ImageFileWriter::defaultQuality, existing);
         };
         QCOMPARE(write(picture(), ExistingFile::Keep), WriteResult::Written);
         QCOMPARE(write(other, ExistingFile::Keep), WriteResult::AlreadyExists);

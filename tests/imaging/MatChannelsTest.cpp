@@ -6,10 +6,10 @@ using namespace QtOcv;
 
 namespace {
 
-constexpr int Red = 200;
-constexpr int Green = 100;
-constexpr int Blue = 50;
-constexpr int Alpha = 25;
+constexpr int red = 200;
+constexpr int green = 100;
+constexpr int blue = 50;
+constexpr int alpha = 25;
 
 using Values = QVector<int>;
 
@@ -18,11 +18,11 @@ Values pixel(MatColorOrder order, int channels = 4)
 {
     switch (order) {
     case Bgr:
-        return channels == 3 ? Values{Blue, Green, Red} : Values{Blue, Green, Red, Alpha};
+        return channels == 3 ? Values{blue, green, red} : Values{blue, green, red, alpha};
     case Rgb:
-        return channels == 3 ? Values{Red, Green, Blue} : Values{Red, Green, Blue, Alpha};
+        return channels == 3 ? Values{red, green, blue} : Values{red, green, blue, alpha};
     case Argb:
-        return {Alpha, Red, Green, Blue};
+        return {alpha, red, green, blue};
     }
     return {};
 }
@@ -139,9 +139,9 @@ private slots:
     void withChannels_addsAlpha_whenFourAreAskedOfThree()
     {
         const cv::Mat rgb = matOf(pixel(Rgb, 3));
-        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Rgb, 9.0)), (Values{Red, Green, Blue, 255}));
-        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Bgr, 9.0)), (Values{Blue, Green, Red, 255}));
-        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Argb, 9.0)), (Values{9, Red, Green, Blue}));
+        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Rgb, 9.0)), (Values{red, green, blue, 255}));
+        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Bgr, 9.0)), (Values{blue, green, red, 255}));
+        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Argb, 9.0)), (Values{9, red, green, blue}));
     }
 
     void withChannels_saturatesTheAlphaFill()

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int KeepChannels = -8;
+constexpr int keepChannels = -8;
 
 using Values = QVector<int>;
 using Reals = QVector<double>;
@@ -237,7 +237,7 @@ private slots:
         const QImage image = filledImage(format, qRgba(255, 0, 0, 119));
         if (pixel.isEmpty())
             pixel = coarsePixel(image);
-        const cv::Mat mat = QtOcv::imageToMat(image, KeepChannels, QtOcv::Bgr);
+        const cv::Mat mat = QtOcv::imageToMat(image, keepChannels, QtOcv::Bgr);
         QCOMPARE(mat.cols, 5);
         QCOMPARE(mat.rows, 3);
         QCOMPARE(pixelAt(mat, 4, 2), pixel);
@@ -266,7 +266,7 @@ private slots:
         QImage image(9, 2, format);
         image.fill(0);
         image.setPixel(8, 1, 1);
-        const cv::Mat mat = QtOcv::imageToMat(image, KeepChannels, QtOcv::Bgr);
+        const cv::Mat mat = QtOcv::imageToMat(image, keepChannels, QtOcv::Bgr);
         QCOMPARE(mat.type(), CV_8UC1);
         QCOMPARE(pixelAt(mat, 8, 1), Values{1});
         QCOMPARE(pixelAt(mat, 7, 1), Values{0});
@@ -333,7 +333,7 @@ private slots:
         QTest::addColumn<QImage::Format>("format");
         QTest::addColumn<int>("type");
         QTest::newRow("grey, kept") << QImage::Format_Grayscale8 << CV_8UC(CV_CN_MAX);
-        QTest::newRow("argb, kept") << QImage::Format_ARGB32 << KeepChannels;
+        QTest::newRow("argb, kept") << QImage::Format_ARGB32 << keepChannels;
         QTest::newRow("argb") << QImage::Format_ARGB32 << CV_8UC4;
     }
     void imageToMat_isIndependent_whenNothingChanges()

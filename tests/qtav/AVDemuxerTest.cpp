@@ -192,9 +192,9 @@ void AVDemuxerTest::duration_isMeasured_whereTheHeaderDoesNotTell()
     const qint64 beforeLast = testsupport::frameTimeMs(sample, std::max(0, sample.frames - 2));
     const qint64 end = std::max(last + (last - beforeLast), sample.soundEndMs);
     // Some containers state the start of the last frame, others its end; sound may last longer.
-    constexpr qint64 LongerSoundMs = 1100;
+    constexpr qint64 longerSoundMs = 1100;
     QVERIFY2(demuxer.duration() >= beforeLast, qPrintable(QString::number(demuxer.duration())));
-    QVERIFY2(demuxer.duration() <= end + LongerSoundMs,
+    QVERIFY2(demuxer.duration() <= end + longerSoundMs,
              qPrintable(QString::number(demuxer.duration())));
     // FFmpeg reads an FLV's length from its last tag, and does not tell that from a stated one.
     if (sample.has(Trait::NoStatedDuration) && !file.endsWith(QLatin1String(".flv")))
@@ -301,14 +301,14 @@ void AVDemuxerTest::seek_takesExtremePositions()
     AVDemuxer demuxer;
     demuxer.setMedia(testsupport::samplePath(sample.file));
     QVERIFY(demuxer.load());
-    constexpr qint64 Most = std::numeric_limits<qint64>::max();
-    for (const qint64 ms : {-Most - 1, qint64(-1)}) {
+    constexpr qint64 most = std::numeric_limits<qint64>::max();
+    for (const qint64 ms : {-most - 1, qint64(-1)}) {
         QVERIFY(demuxer.seek(ms));
         QVERIFY(demuxer.readFrame());
         QCOMPARE(static_cast<qint64>(demuxer.packet().pts * 1000.0),
                  testsupport::frameTimeMs(sample, keyFrames.constFirst()));
     }
-    QVERIFY(demuxer.seek(Most));
+    QVERIFY(demuxer.seek(most));
     QVERIFY(demuxer.readFrame());
     QCOMPARE(static_cast<qint64>(demuxer.packet().pts * 1000.0),
              testsupport::frameTimeMs(sample, keyFrames.constLast()));
@@ -350,7 +350,7 @@ void AVDemuxerTest::brokenFiles_endInBoundedTime_data()
 void AVDemuxerTest::brokenFiles_endInBoundedTime()
 {
     QFETCH(QString, file);
-    constexpr qint64 MostMs = 60000;
+    constexpr qint64 mostMs = 60000;
     QElapsedTimer timer;
     timer.start();
     Player player(testsupport::samplePath(file));
@@ -363,7 +363,7 @@ void AVDemuxerTest::brokenFiles_endInBoundedTime()
             QVERIFY(all.at(i).ms >= all.at(i - 1).ms);
         QVERIFY(player.demuxer.atEnd());
     }
-    QVERIFY(timer.elapsed() < MostMs);
+    QVERIFY(timer.elapsed() < mostMs);
 }
 
 void AVDemuxerTest::packets_areInvalid_whenNeverRead()

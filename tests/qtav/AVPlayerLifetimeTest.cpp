@@ -22,9 +22,9 @@ void turnEventLoop(int times)
 
 /// Thread sanitizer makes starting and ending threads many times as slow.
 #ifdef __SANITIZE_THREAD__
-constexpr int Rounds = 100;
+constexpr int roundCount = 100;
 #else
-constexpr int Rounds = 500;
+constexpr int roundCount = 500;
 #endif
 
 /// What the process holds that would be missed if it were not given back.
@@ -145,7 +145,7 @@ void AVPlayerLifetimeTest::files_canBeOpenedAndClosed_manyTimes()
     const QStringList files{QStringLiteral("vp8.webm"), QStringLiteral("mpeg2.ts"),
                             QStringLiteral("sound.mp4"), QStringLiteral("variable_rate.mkv")};
     std::optional<Resources> before;
-    for (int round = 0; round < Rounds; ++round) {
+    for (int round = 0; round < roundCount; ++round) {
         QVERIFY(stage.open(files.at(round % files.size())));
         QCOMPARE(stage.number(), 0);
         stage.player.stop();
@@ -223,9 +223,9 @@ void AVPlayerLifetimeTest::players_comeAndGo_withoutLeavingAnything()
     std::optional<Resources> before;
     std::mt19937 random(29);
     auto stage = std::make_unique<Stage>();
-    for (int round = 0; round < Rounds; ++round) {
+    for (int round = 0; round < roundCount; ++round) {
         // By then, what is made once for all players has been made.
-        if (round == Rounds / 10) {
+        if (round == roundCount / 10) {
             stage.reset();
             before = settledResources();
             stage = std::make_unique<Stage>();
@@ -288,8 +288,8 @@ void AVPlayerLifetimeTest::player_canBeStoppedAndPlayed_byItsOwnSignals()
         }
     });
     stage.player.play(testsupport::samplePath(QStringLiteral("h264_baseline.mp4")));
-    QTRY_COMPARE_WITH_TIMEOUT(rounds, 5, Patience);
-    QTRY_VERIFY_WITH_TIMEOUT(stage.number() > 2, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(rounds, 5, patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.number() > 2, patienceMs);
     QVERIFY(stage.player.isPlaying());
 }
 

@@ -96,7 +96,7 @@ void AVPlayerTest::play_startsOver_fromTheEnd()
     stage.screen.shown.clear();
     stage.player.play();
     QVERIFY(stage.player.isPlaying());
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
     QCOMPARE(stage.screen.shown.constFirst().number, 0);
     QCOMPARE(stage.player.mediaStatus(), QtAV::LoadedMedia);
     QVERIFY(stage.screen.shown.constLast().number < 40);
@@ -122,11 +122,11 @@ void AVPlayerTest::play_startsOver_fromTheLastFrame_howeverItCameThere()
     QVERIFY(stage.seek(position));
     for (int i = 0; i < steps; ++i)
         stage.player.stepForward();
-    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 49, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 49, patienceMs);
     stage.settle();
     stage.screen.shown.clear();
     stage.player.play();
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
     QCOMPARE(stage.screen.shown.constFirst().number, 0);
     QVERIFY(stage.player.isPlaying());
     // Once, not for ever.
@@ -176,7 +176,7 @@ void AVPlayerTest::playback_stops_atTheEnd_whenToldSo()
     QVERIFY(stage.seek(1900));
     QSignalSpy stopped(&stage.player, &AVPlayer::stopped);
     stage.player.play();
-    QVERIFY(stopped.wait(Patience));
+    QVERIFY(stopped.wait(patienceMs));
     QCOMPARE(stage.player.state(), AVPlayer::StoppedState);
     QVERIFY(!stage.player.isLoaded());
 }
@@ -208,7 +208,7 @@ void AVPlayerTest::pause_andPlay_changeTheState_andAreSignalled()
     Stage stage;
     QSignalSpy paused(&stage.player, &AVPlayer::paused);
     stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
     stage.player.pause();
     QVERIFY(stage.player.isPaused());
     QVERIFY(!stage.player.isPlaying());
@@ -222,7 +222,7 @@ void AVPlayerTest::pause_andPlay_changeTheState_andAreSignalled()
     QVERIFY(stage.player.isPlaying());
     QCOMPARE(paused.count(), 2);
     QCOMPARE(paused.at(1).at(0).toBool(), false);
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() > before, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() > before, patienceMs);
     QCOMPARE(stage.screen.shown.at(before).number, stage.screen.shown.at(before - 1).number + 1);
 }
 
@@ -372,7 +372,7 @@ void AVPlayerTest::capture_givesTheFrameOnScreen_asADecoderDoes()
     QSignalSpy captured(stage.player.videoCapture(), &QtAV::VideoCapture::imageCaptured);
     stage.player.videoCapture()->capture();
     QCOMPARE(captured.count(), 0); // answered later
-    QVERIFY(captured.wait(Patience));
+    QVERIFY(captured.wait(patienceMs));
     QCOMPARE(captured.count(), 1);
     const auto image = captured.at(0).at(0).value<QImage>();
     QCOMPARE(image.hasAlphaChannel(), sample.has(testsupport::Trait::Alpha));
@@ -398,11 +398,11 @@ void AVPlayerTest::capture_fails_withoutAFrame()
     Stage stage;
     QSignalSpy failed(stage.player.videoCapture(), &QtAV::VideoCapture::failed);
     stage.player.videoCapture()->capture();
-    QVERIFY(failed.wait(Patience));
+    QVERIFY(failed.wait(patienceMs));
     QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
     stage.player.stop();
     stage.player.videoCapture()->capture();
-    QVERIFY(failed.wait(Patience));
+    QVERIFY(failed.wait(patienceMs));
 }
 
 void AVPlayerTest::statistics_tellTheSizeOnScreen()
@@ -425,7 +425,7 @@ void AVPlayerTest::renderer_mayGo_beforeThePlayer()
     }
     QVERIFY(!player.renderer());
     player.play(testsupport::samplePath(QStringLiteral("h264_baseline.mp4")));
-    QTRY_VERIFY_WITH_TIMEOUT(player.displayedFrame().isValid(), Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(player.displayedFrame().isValid(), patienceMs);
 }
 
 QTEST_GUILESS_MAIN(AVPlayerTest)

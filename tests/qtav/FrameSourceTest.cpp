@@ -24,12 +24,12 @@ bool never()
 }
 
 /// So many packets at most take a decoder at work to its next frame.
-constexpr int FewPackets = 20;
+constexpr int fewPackets = 20;
 
 /// A source in a video whose key frames are 250 frames apart, and the frame on screen.
 struct LongGroups
 {
-    explicit LongGroups(qint64 ms, qint64 cacheBytes = QtAV::FrameCache::DefaultBytes)
+    explicit LongGroups(qint64 ms, qint64 cacheBytes = QtAV::FrameCache::defaultBytes)
     {
         QString error;
         source.setScreen({80, 60});
@@ -221,7 +221,7 @@ void FrameSourceTest::preparing_keepsGoingForwardCheap_afterASeek()
     opened.fill();
     for (int n = 226; n < 245; ++n) {
         QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
-        QVERIFY(opened.packets <= FewPackets);
+        QVERIFY(opened.packets <= fewPackets);
     }
 }
 
@@ -353,7 +353,7 @@ void FrameSourceTest::filling_returnsToWhereGoingForwardDecodesOn()
     QVERIFY(opened.packets > 100);
     for (int n = 222; n < 240; ++n) {
         QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
-        QVERIFY(opened.packets <= FewPackets);
+        QVERIFY(opened.packets <= fewPackets);
     }
 }
 
@@ -368,7 +368,7 @@ void FrameSourceTest::stepForward_endsTheFillingUnderway_withoutStartingAgain()
         QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
         packets += opened.packets;
     }
-    QVERIFY(packets > FewPackets);
+    QVERIFY(packets > fewPackets);
     QVERIFY(packets < 200);
 }
 
@@ -378,7 +378,7 @@ void FrameSourceTest::stepForward_leavesTheFillingUnderway_whenAKeyFrameIsNear()
     opened.fill(50);
     QCOMPARE(opened.packets, 50);
     QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, 253);
-    QVERIFY(opened.packets <= FewPackets);
+    QVERIFY(opened.packets <= fewPackets);
 }
 
 void FrameSourceTest::filling_ends_withoutAnyStep()
@@ -386,7 +386,7 @@ void FrameSourceTest::filling_ends_withoutAnyStep()
     FrameSource source;
     QString error;
     const QString path = testsupport::samplePath(QStringLiteral("h264_gop250.mp4"));
-    QVERIFY(source.open(path, QtAV::FrameCache::DefaultBytes, never, error));
+    QVERIFY(source.open(path, QtAV::FrameCache::defaultBytes, never, error));
     const qint64 bytes = smallCache(source.frameAt(0, never).frame);
     QVERIFY(source.open(path, bytes, never, error));
     source.setFocus(source.frameAt(15000, never).frame.timestamp());
@@ -401,7 +401,7 @@ void FrameSourceTest::cache_takesNoMoreThanAllowed()
     const QString path = testsupport::samplePath(QStringLiteral("h264_gop250.mp4"));
     FrameSource source;
     QString error;
-    QVERIFY(source.open(path, QtAV::FrameCache::DefaultBytes, never, error));
+    QVERIFY(source.open(path, QtAV::FrameCache::defaultBytes, never, error));
     const qint64 frameBytes = source.frameAt(0, never).frame.byteCount();
     QVERIFY(source.open(path, 5 * frameBytes, never, error));
     QCOMPARE(source.cache().mostBytes(), 5 * frameBytes);
@@ -416,7 +416,7 @@ void FrameSourceTest::cancelledSearch_givesNoFrame_andTheNextOneIsRight()
         FrameSource source;
         QString error;
         QVERIFY(source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")),
-                            QtAV::FrameCache::DefaultBytes, never, error));
+                            QtAV::FrameCache::defaultBytes, never, error));
         int left = packets;
         const auto soon = [&left] { return left-- <= 0; };
         QCOMPARE(source.frameAt(9960, soon).answer, FrameAnswer::Cancelled);

@@ -12,22 +12,22 @@ using QtAV::PictureConverter;
 
 namespace {
 
-constexpr int Width = 64;
-constexpr int Height = 32;
-constexpr double Slope = 3.0; ///< of Cb, for each pixel
-constexpr double Middle = 128.0;
+constexpr int frameWidth = 64;
+constexpr int frameHeight = 32;
+constexpr double slope = 3.0; ///< of Cb, for each pixel
+constexpr double middle = 128.0;
 
 double slopeAt(double x)
 {
-    return Middle + Slope * (x - Width / 2.0);
+    return middle + slope * (x - frameWidth / 2.0);
 }
 
 /// Luma is the same everywhere; Cb rises steadily from left to right.
 FramePtr ramp(AVPixelFormat format, AVChromaLocation location, double offset)
 {
     FramePtr frame = QtAV::makeFrame();
-    frame->width = Width;
-    frame->height = Height;
+    frame->width = frameWidth;
+    frame->height = frameHeight;
     frame->format = format;
     frame->color_range = AVCOL_RANGE_MPEG;
     frame->colorspace = AVCOL_SPC_BT709;
@@ -36,12 +36,12 @@ FramePtr ramp(AVPixelFormat format, AVChromaLocation location, double offset)
         qFatal("out of memory");
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
     const int step = 1 << descriptor.log2_chroma_w;
-    for (int y = 0; y < Height; ++y) {
-        for (int x = 0; x < Width; ++x)
+    for (int y = 0; y < frameHeight; ++y) {
+        for (int x = 0; x < frameWidth; ++x)
             frame->data[0][y * frame->linesize[0] + x] = 126;
     }
-    for (int y = 0; y < Height >> descriptor.log2_chroma_h; ++y) {
-        for (int x = 0; x < Width / step; ++x) {
+    for (int y = 0; y < frameHeight >> descriptor.log2_chroma_h; ++y) {
+        for (int x = 0; x < frameWidth / step; ++x) {
             const auto cb = static_cast<uint8_t>(std::lround(slopeAt(x * step + offset)));
             frame->data[1][y * frame->linesize[1] + x] = cb;
             frame->data[2][y * frame->linesize[2] + x] = 128;
@@ -129,17 +129,17 @@ void PictureConverterTest::chroma_staysWhereItWasSampled_whenScaled()
     QFETCH(int, location);
     QFETCH(double, offset);
     const FramePtr frame = ramp(AVPixelFormat(format), AVChromaLocation(location), offset);
-    constexpr int Times = 2;
+    constexpr int times = 2;
     PictureConverter converter;
-    const QImage image = converter.convert(*frame, QSize(Times * Width, Height));
-    QCOMPARE(image.size(), QSize(Times * Width, Height));
+    const QImage image = converter.convert(*frame, QSize(times * frameWidth, frameHeight));
+    QCOMPARE(image.size(), QSize(times * frameWidth, frameHeight));
     // Blue by ITU-R BT.709, where nothing is cut off; the ends of lines have no neighbours.
-    for (int x = Times * Width / 4; x < Times * Width * 3 / 4; ++x) {
-        const double place = (x + 0.5) / Times - 0.5;
+    for (int x = times * frameWidth / 4; x < times * frameWidth * 3 / 4; ++x) {
+        const double place = (x + 0.5) / times - 0.5;
         const double blue =
-            255.0 * ((126.0 - 16.0) / 219.0 + 1.8556 * (slopeAt(place) - Middle) / 224.0);
+            255.0 * ((126.0 - 16.0) / 219.0 + 1.8556 * (slopeAt(place) - middle) / 224.0);
         const double expected = std::min(255.0, std::max(0.0, blue));
-        const int got = qBlue(image.pixel(x, Height / 2));
+        const int got = qBlue(image.pixel(x, frameHeight / 2));
         QVERIFY2(std::abs(got - expected) < 2.0,
                  qPrintable(QStringLiteral("%1 instead of %2").arg(got).arg(expected)));
     }
@@ -192,10 +192,10 @@ void PictureConverterTest::scaledPicture_keepsFormatAndColours()
         frame->color_primaries = AVCOL_PRI_BT709;
         frame->color_trc = AVCOL_TRC_BT709;
         PictureConverter converter;
-        const FramePtr scaled = converter.scaled(*frame, {Width / 2, Height / 2});
+        const FramePtr scaled = converter.scaled(*frame, {frameWidth / 2, frameHeight / 2});
         QVERIFY(scaled);
-        QCOMPARE(scaled->width, Width / 2);
-        QCOMPARE(scaled->height, Height / 2);
+        QCOMPARE(scaled->width, frameWidth / 2);
+        QCOMPARE(scaled->height, frameHeight / 2);
         QCOMPARE(scaled->format, int(format));
         QCOMPARE(scaled->colorspace, AVCOL_SPC_BT709);
         QCOMPARE(scaled->color_range, AVCOL_RANGE_MPEG);
@@ -212,7 +212,7 @@ void PictureConverterTest::scaledPicture_becomesTheSameImage_asTheWhole()
          {AVCHROMA_LOC_LEFT, AVCHROMA_LOC_TOPLEFT, AVCHROMA_LOC_CENTER}) {
         const FramePtr frame =
             ramp(AV_PIX_FMT_YUV420P, location, location == AVCHROMA_LOC_CENTER ? 0.5 : 0.0);
-        const QSize half(Width / 2, Height / 2);
+        const QSize half(frameWidth / 2, frameHeight / 2);
         PictureConverter converter;
         const FramePtr scaled = converter.scaled(*frame, half);
         QVERIFY(scaled);

@@ -50,7 +50,7 @@ public:
 
     [[nodiscard]] bool open(const QString& path)
     {
-        const std::optional<Answer> answer = to(engine.open(path, QtAV::FrameCache::DefaultBytes));
+        const std::optional<Answer> answer = to(engine.open(path, QtAV::FrameCache::defaultBytes));
         return answer && answer->result.answer == FrameAnswer::Frame;
     }
 
@@ -105,7 +105,7 @@ void PlaybackEngineTest::open_isAnswered_withTheFirstFrame()
 {
     Harness harness;
     const quint64 serial = harness.engine.open(testsupport::samplePath(QStringLiteral("sound.mp4")),
-                                               QtAV::FrameCache::DefaultBytes);
+                                               QtAV::FrameCache::defaultBytes);
     const std::optional<Answer> answer = harness.next();
     QVERIFY(answer);
     QCOMPARE(answer->kind, Answer::Kind::Opened);
@@ -120,7 +120,7 @@ void PlaybackEngineTest::open_fails_withAReason()
 {
     Harness harness;
     const quint64 serial = harness.engine.open(testsupport::samplePath(QStringLiteral("text.mp4")),
-                                               QtAV::FrameCache::DefaultBytes);
+                                               QtAV::FrameCache::defaultBytes);
     const std::optional<Answer> answer = harness.to(serial);
     QVERIFY(answer);
     QCOMPARE(answer->kind, Answer::Kind::Opened);
@@ -136,7 +136,7 @@ void PlaybackEngineTest::close_isNotAnswered_andStepsAfterItNeither()
     harness.engine.close();
     harness.engine.step(Direction::Forward);
     harness.engine.seek(1000);
-    const quint64 serial = harness.engine.open(path, QtAV::FrameCache::DefaultBytes);
+    const quint64 serial = harness.engine.open(path, QtAV::FrameCache::defaultBytes);
     const std::optional<Answer> answer = harness.next();
     QVERIFY(answer);
     QCOMPARE(answer->serial, serial);

@@ -28,7 +28,7 @@ bool Stage::waitForStatus(QtAV::MediaStatus status)
 {
     QSignalSpy changed(&player, &AVPlayer::mediaStatusChanged);
     while (player.mediaStatus() != status) {
-        if (!changed.wait(Patience))
+        if (!changed.wait(patienceMs))
             return false;
     }
     return true;
@@ -38,7 +38,7 @@ bool Stage::seek(qint64 ms)
 {
     QSignalSpy finished(&player, &AVPlayer::seekFinished);
     player.setPosition(ms);
-    return finished.wait(Patience);
+    return finished.wait(patienceMs);
 }
 
 bool Stage::stepForward()
@@ -58,7 +58,7 @@ bool Stage::waitForOther(const std::function<void()>& action)
     QSignalSpy presented(&screen, &Screen::presented);
     action();
     while (screen.frame.timestamp() == before) {
-        if (!presented.wait(Patience))
+        if (!presented.wait(patienceMs))
             return false;
     }
     return true;
@@ -67,8 +67,8 @@ bool Stage::waitForOther(const std::function<void()>& action)
 /// A player that has been told nothing for this long has nothing more to answer.
 void Stage::settle()
 {
-    constexpr int QuietMs = 150;
-    QTest::qWait(QuietMs);
+    constexpr int quietMs = 150;
+    QTest::qWait(quietMs);
 }
 
 } // namespace playing

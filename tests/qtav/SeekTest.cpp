@@ -58,10 +58,10 @@ int firstFrameFor(const Sample& sample, const QList<int>& keyFrames, qint64 ms)
 /// 0, each key frame and a millisecond to either side, between them, the last frame, past the end.
 QList<qint64> positions(const Sample& sample, const QList<int>& keyFrames)
 {
-    constexpr int MostKeyFrames = 8;
+    constexpr int mostKeyFrames = 8;
     const qint64 last = testsupport::frameTimeMs(sample, sample.frames - 1);
     QList<qint64> all{0, last - 1, last, last + 1, last + 60000};
-    const int stride = std::max(1, int(keyFrames.size()) / MostKeyFrames);
+    const int stride = std::max(1, int(keyFrames.size()) / mostKeyFrames);
     for (int i = 0; i < keyFrames.size(); i += stride) {
         const qint64 key = testsupport::frameTimeMs(sample, keyFrames.at(i));
         const qint64 next =

@@ -17,7 +17,7 @@ namespace {
 /// A time after which a device that has been held up is given up.
 void waitUntilItIsGivenUp()
 {
-    QTest::qWait(int(SoundThread::LongestWork.count()));
+    QTest::qWait(int(SoundThread::longestWork.count()));
 }
 
 } // namespace
@@ -54,26 +54,26 @@ void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp()
         if (atStart)
             gate.shut();
         stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, patienceMs);
         if (!atStart) {
             gate.shut();
             stage.player.pause();
         }
-        QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, patienceMs);
         stage.player.play();
         QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
         QCOMPARE(stage.number(), 74);
         waitUntilItIsGivenUp();
 
         stage.player.play(testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4")));
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2, patienceMs);
         QCOMPARE(SoundThread::count(), 2);
         if (atStart)
-            QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 2, Patience);
+            QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 2, patienceMs);
         const qint64 heard = devices.record.heardBytes;
         gate.open();
-        QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > heard, Patience);
-        QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 1, Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > heard, patienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 1, patienceMs);
     }
     QCOMPARE(SoundThread::count(), 0);
 }
@@ -93,14 +93,14 @@ void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp()
         if (atStart)
             gate.shut();
         stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, patienceMs);
         gate.shut();
         stage.player.stop();
     }
-    QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, patienceMs);
     QCOMPARE(SoundThread::count(), 1);
     gate.open();
-    QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 0, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 0, patienceMs);
 }
 
 void SoundThreadTest::threads_areFew_whenAllDevicesHoldThemUp()
@@ -109,19 +109,21 @@ void SoundThreadTest::threads_areFew_whenAllDevicesHoldThemUp()
     devices.record.start.shut();
     const QString path = testsupport::samplePath(QStringLiteral("sound.mp4"));
     {
-        std::array<SoundPlayer, SoundThread::Most> players;
+        std::array<SoundPlayer, SoundThread::maximumCount> players;
         for (SoundPlayer& player : players) {
             player.open(path);
             player.play(0.0);
         }
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.start.waiting(), SoundThread::Most, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.start.waiting(), SoundThread::maximumCount,
+                                  patienceMs);
         waitUntilItIsGivenUp();
         for (SoundPlayer& player : players)
             player.play(1.0);
-        QCOMPARE(SoundThread::count(), SoundThread::Most);
+        QCOMPARE(SoundThread::count(), SoundThread::maximumCount);
         // Who was let go does what was wished in the meantime.
         devices.record.start.open();
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2 * SoundThread::Most, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2 * SoundThread::maximumCount,
+                                  patienceMs);
     }
     QCOMPARE(SoundThread::count(), 0);
 }

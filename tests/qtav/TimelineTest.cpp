@@ -91,11 +91,11 @@ void TimelineTest::lastTickOf_isTheLastOneOfItsMillisecond()
 
 void TimelineTest::times_stayFinite_forAbsurdTicks()
 {
-    constexpr qint64 Most = std::numeric_limits<qint64>::max();
-    constexpr int Huge = std::numeric_limits<int>::max();
-    for (const qint64 start : {-Most, qint64(0), Most}) {
-        const Timeline timeline({1, Huge}, start, {1, Huge - 1});
-        for (const qint64 ticks : {-Most - 1, -Most, qint64(0), Most}) {
+    constexpr qint64 most = std::numeric_limits<qint64>::max();
+    constexpr int huge = std::numeric_limits<int>::max();
+    for (const qint64 start : {-most, qint64(0), most}) {
+        const Timeline timeline({1, huge}, start, {1, huge - 1});
+        for (const qint64 ticks : {-most - 1, -most, qint64(0), most}) {
             QVERIFY(timeline.milliseconds(ticks) >= 0);
             QVERIFY(std::isfinite(timeline.seconds(ticks)));
         }

@@ -21,14 +21,14 @@ using testsupport::srgbOf;
 
 namespace {
 
-constexpr int Side = 16;
+constexpr int side = 16;
 
 /// A picture of one colour.
 FramePtr flat(AVPixelFormat format, const std::array<int, 3>& codes)
 {
     FramePtr frame = QtAV::makeFrame();
-    frame->width = Side;
-    frame->height = Side;
+    frame->width = side;
+    frame->height = side;
     frame->format = format;
     if (av_frame_get_buffer(frame.get(), 0) < 0)
         qFatal("out of memory");
@@ -39,11 +39,11 @@ FramePtr flat(AVPixelFormat format, const std::array<int, 3>& codes)
     }
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(format);
     for (int c = 0; c < 3; ++c) {
-        std::array<uint16_t, Side> samples{};
+        std::array<uint16_t, side> samples{};
         samples.fill(static_cast<uint16_t>(codes[static_cast<size_t>(c)]));
         const bool isChroma = c > 0 && !(d.flags & AV_PIX_FMT_FLAG_RGB);
-        const int width = isChroma ? AV_CEIL_RSHIFT(Side, d.log2_chroma_w) : Side;
-        const int height = isChroma ? AV_CEIL_RSHIFT(Side, d.log2_chroma_h) : Side;
+        const int width = isChroma ? AV_CEIL_RSHIFT(side, d.log2_chroma_w) : side;
+        const int height = isChroma ? AV_CEIL_RSHIFT(side, d.log2_chroma_h) : side;
         for (int y = 0; y < height; ++y)
             av_write_image_line2(samples.data(), frame->data, frame->linesize, &d, 0, y, c, width,
                                  2);

@@ -13,7 +13,7 @@ using testsupport::Trait;
 namespace {
 
 // FFmpeg's AVDISCARD_NONREF.
-constexpr int NonReference = 8;
+constexpr int nonReference = 8;
 
 QVariantHash skipping(int discard)
 {
@@ -116,8 +116,8 @@ void VideoDecoderTest::keyFrame_comesOutAtOnce_whereverItLies()
     Player player(testsupport::samplePath(file), threads);
     QVERIFY(player.isReady());
 
-    constexpr int MostKeyFrames = 2;
-    const int stride = std::max(1, int(keyFrames.size()) / MostKeyFrames);
+    constexpr int mostKeyFrames = 2;
+    const int stride = std::max(1, int(keyFrames.size()) / mostKeyFrames);
     for (int i = 0; i < keyFrames.size(); i += stride) {
         const int key = keyFrames.at(i);
         const bool isWhole = !sample.has(Trait::IntraRefresh) || i == 0;
@@ -151,8 +151,8 @@ void VideoDecoderTest::frames_areTheSame_whenTheKeyFrameMayComeLater()
     player.decoder->setOptions(
         {{QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), false}}}});
 
-    constexpr int MostKeyFrames = 2;
-    const int stride = std::max(1, int(keyFrames.size()) / MostKeyFrames);
+    constexpr int mostKeyFrames = 2;
+    const int stride = std::max(1, int(keyFrames.size()) / mostKeyFrames);
     for (int i = 0; i < keyFrames.size(); i += stride) {
         if (sample.has(Trait::IntraRefresh) && i > 0)
             continue;
@@ -231,7 +231,7 @@ void VideoDecoderTest::target_isTheSamePicture_whenNonReferenceFramesBeforeItAre
     for (int n = 0; n < sample.frames; n += stride) {
         const qint64 target = testsupport::frameTimeMs(sample, n);
         const QtAV::VideoFrame whole = decodeTo(target, 0);
-        const QtAV::VideoFrame quick = decodeTo(target, NonReference);
+        const QtAV::VideoFrame quick = decodeTo(target, nonReference);
         QCOMPARE(quick.timestamp(), whole.timestamp());
         QCOMPARE(quick.toImage(), whole.toImage());
     }
@@ -241,7 +241,7 @@ void VideoDecoderTest::skipping_leavesFramesOut_fromTheNextPacketOn()
 {
     const Sample& sample = testsupport::sampleNamed(QStringLiteral("h264_bframes.mp4"));
     Player player(testsupport::samplePath(sample.file));
-    player.decoder->setOptions(skipping(NonReference));
+    player.decoder->setOptions(skipping(nonReference));
     const int skipped = player.showRest().size();
     QVERIFY2(skipped < sample.frames, "nothing was skipped");
     QVERIFY(player.demuxer.seek(0));

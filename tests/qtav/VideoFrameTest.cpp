@@ -74,14 +74,14 @@ double meanDifference(const QImage& one, const QImage& other)
 /// differences.
 double allowedFor(const testsupport::Rgb& light, const ColourSample& sample)
 {
-    constexpr double ForStandard = 1.0;
-    constexpr double ForWide = 3.0;
-    constexpr double ForOutside = 12.0;
+    constexpr double forStandard = 1.0;
+    constexpr double forWide = 3.0;
+    constexpr double forOutside = 12.0;
     if (sample.primaries == testsupport::Primaries::Standard)
-        return ForStandard;
+        return forStandard;
     const bool isOutside = std::any_of(light.begin(), light.end(),
                                        [](double l) { return l < -1e-9 || l > 1.0 + 1e-9; });
-    return isOutside && sample.transfer != testsupport::Transfer::Standard ? ForOutside : ForWide;
+    return isOutside && sample.transfer != testsupport::Transfer::Standard ? forOutside : forWide;
 }
 
 } // namespace
@@ -413,13 +413,13 @@ void VideoFrameTest::image_isTheSame_fromSeveralThreadsAtOnce()
     const QImage expected = frame.toImage();
     QVERIFY(!expected.isNull());
     std::atomic<int> same{0};
-    constexpr int Times = 64;
+    constexpr int times = 64;
     QThreadPool pool;
     pool.setMaxThreadCount(4);
-    for (int i = 0; i < Times; ++i)
+    for (int i = 0; i < times; ++i)
         pool.start([&] { same += frame.toImage() == expected; });
     pool.waitForDone();
-    QCOMPARE(same.load(), Times);
+    QCOMPARE(same.load(), times);
 }
 
 void VideoFrameTest::scaledDown_keepsTimeSizeAndPicture_data()

@@ -32,7 +32,7 @@ QImage grabbed(QWidget& widget)
 QImage shownBy(const VideoOutput& output)
 {
     grabbed(*output.widget()); // which lets the widget know its size
-    if (!QTest::qWaitFor([&output] { return output.isUpToDate(); }, Patience))
+    if (!QTest::qWaitFor([&output] { return output.isUpToDate(); }, patienceMs))
         qFatal("no picture comes");
     return grabbed(*output.widget());
 }
@@ -279,7 +279,7 @@ void VideoOutputTest::player_showsItsFrames_inTheWidget()
     player.seek(1800);
     QSignalSpy statuses(&player, &QtAV::AVPlayer::mediaStatusChanged);
     while (player.mediaStatus() != QtAV::EndOfMedia)
-        QVERIFY(statuses.wait(Patience));
+        QVERIFY(statuses.wait(patienceMs));
     QCOMPARE(testsupport::frameNumber(shownBy(output)).value_or(-1), 49);
 }
 
@@ -335,7 +335,7 @@ void VideoOutputTest::screenSize_isToldInPixels_whenTheWidgetChanges()
     QVERIFY(!changes.isEmpty());
     const int before = changes.count();
     output.widget()->resize(400, 200);
-    QTRY_VERIFY_WITH_TIMEOUT(changes.count() > before, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(changes.count() > before, patienceMs);
     QCOMPARE(output.screenSize().width(), qRound(400 * output.widget()->devicePixelRatioF()));
 }
 

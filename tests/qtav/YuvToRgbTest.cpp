@@ -12,8 +12,8 @@ using QtAV::YuvToRgb;
 
 namespace {
 
-constexpr double Red = 0.2126;
-constexpr double Blue = 0.0722;
+constexpr double red = 0.2126;
+constexpr double blue = 0.0722;
 
 /// A frame of noise, BT.709.
 FramePtr noise(AVPixelFormat format, int width, int height, AVColorRange range)
@@ -97,9 +97,9 @@ std::array<double, 3> expected(const AVFrame& frame, int x, int y)
     };
     const double cb = hasChroma ? part(1) : 0.0;
     const double cr = hasChroma ? part(2) : 0.0;
-    const double r = luma + 2 * (1 - Red) * cr;
-    const double b = luma + 2 * (1 - Blue) * cb;
-    const double g = (luma - Red * r - Blue * b) / (1 - Red - Blue);
+    const double r = luma + 2 * (1 - red) * cr;
+    const double b = luma + 2 * (1 - blue) * cb;
+    const double g = (luma - red * r - blue * b) / (1 - red - blue);
     const auto to255 = [](double v) { return std::clamp(v, 0.0, 1.0) * 255; };
     return {to255(r), to255(g), to255(b)};
 }
@@ -172,20 +172,20 @@ void YuvToRgbTest::picture_deviatesByOneAtMost_fromTheFormula()
 void YuvToRgbTest::pixels_areTheSame_whicheverInstructionsMakeThem()
 {
     // Lines of 14 pixels are too short for the wide instructions.
-    constexpr int Width = 140;
-    constexpr int Short = 14;
-    const FramePtr whole = noise(AV_PIX_FMT_YUV420P, Width, 8, AVCOL_RANGE_MPEG);
+    constexpr int wholeWidth = 140;
+    constexpr int shortWidth = 14;
+    const FramePtr whole = noise(AV_PIX_FMT_YUV420P, wholeWidth, 8, AVCOL_RANGE_MPEG);
     const QImage image = converted(*whole);
-    for (int left = 0; left < Width; left += Short) {
+    for (int left = 0; left < wholeWidth; left += shortWidth) {
         const FramePtr part = QtAV::makeFrame();
         QVERIFY(av_frame_ref(part.get(), whole.get()) >= 0);
-        part->width = Short;
+        part->width = shortWidth;
         part->data[0] += left;
         part->data[1] += left / 2;
         part->data[2] += left / 2;
         const QImage strip = converted(*part);
         // The last pixel lies between two chroma samples, of which the part has but one.
-        const QRect same(0, 0, Short - 1, image.height());
+        const QRect same(0, 0, shortWidth - 1, image.height());
         QCOMPARE(strip.copy(same), image.copy(same.translated(left, 0)));
     }
 }

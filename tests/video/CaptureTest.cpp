@@ -16,7 +16,7 @@ QImage captured(Stage& stage)
 {
     QSignalSpy spy(stage.player.videoCapture(), &QtAV::VideoCapture::imageCaptured);
     stage.player.videoCapture()->capture();
-    return spy.wait(Patience) ? spy.at(0).at(0).value<QImage>() : QImage();
+    return spy.wait(patienceMs) ? spy.at(0).at(0).value<QImage>() : QImage();
 }
 
 /// What a batch job takes at that time.

@@ -65,7 +65,7 @@ void FileNameProfileDialog::setExampleFileName(const QString& fileName)
 void FileNameProfileDialog::loadProfiles()
 {
     const auto bind = [this](const char* property, QWidget* widget) {
-        m_ui->profileSelector->addField(new Field(property, widget, Field::NoChoice, this));
+        m_ui->profileSelector->addField(new Field(property, widget, Field::noChoice, this));
     };
     bind("fileOutputPrefix", m_ui->formatPrefixLineEdit);
     bind("fileBaseName", m_ui->formatBasenameLineEdit);

@@ -21,13 +21,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto UpdateDelay = 50ms;
+constexpr auto updateDelay = 50ms;
 
 /// Room for a preview that shows something.
 constexpr QSize openLetters{140, 38};
 
-constexpr int MinAdjustment = -100;
-constexpr int MaxAdjustment = 100;
+constexpr int minAdjustment = -100;
+constexpr int maxAdjustment = 100;
 
 } // namespace
 
@@ -50,8 +50,8 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     setupMetadataComboBox();
     setupDeinterlacingComboBox();
     setupHdrComboBox();
-    connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, MinAdjustment, MaxAdjustment);
-    connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
+    connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, minAdjustment, maxAdjustment);
+    connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, minAdjustment, maxAdjustment);
     setupProfileSelector();
     connect(&m_updateTimer, &QTimer::timeout, this, &ImageProfileDialog::updateImageTimerFired);
     DialogSize::open(*this, openLetters);
@@ -90,7 +90,7 @@ void ImageProfileDialog::showEvent(QShowEvent* event)
 
 void ImageProfileDialog::updateImage()
 {
-    m_updateTimer.start(UpdateDelay);
+    m_updateTimer.start(updateDelay);
 }
 
 void ImageProfileDialog::profileNameTextChanged(const QString& name)
@@ -280,7 +280,7 @@ void ImageProfileDialog::setupProfileSelector()
 
 void ImageProfileDialog::addField(const char* propertyName, QWidget* widget)
 {
-    m_ui->profileSelector->addField(new Field(propertyName, widget, Field::NoChoice, this));
+    m_ui->profileSelector->addField(new Field(propertyName, widget, Field::noChoice, this));
 }
 
 /// A disabled line edit that can stand where the editor stands.

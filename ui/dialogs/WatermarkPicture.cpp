@@ -11,11 +11,11 @@
 namespace {
 
 /// More than any view of a dialog shows, also on screens with small pixels.
-constexpr QSize DisplayBounds{1024, 1024};
+constexpr QSize displayBounds{1024, 1024};
 
 bool isTooLarge(QSize size)
 {
-    return qint64{size.width()} * size.height() > WatermarkPicture::MaxPixels;
+    return qint64{size.width()} * size.height() > WatermarkPicture::maxPixels;
 }
 
 } // namespace
@@ -34,9 +34,9 @@ QImage WatermarkPicture::readForDisplay(const QString& path)
     const QSize size = reader.size();
     if (::isTooLarge(size))
         return {};
-    if (size.width() > DisplayBounds.width() || size.height() > DisplayBounds.height()) {
+    if (size.width() > displayBounds.width() || size.height() > displayBounds.height()) {
         // Most decoders make it smaller on the way, without ever holding the whole picture.
-        const QSize fitting = size.scaled(DisplayBounds, Qt::KeepAspectRatio);
+        const QSize fitting = size.scaled(displayBounds, Qt::KeepAspectRatio);
         reader.setScaledSize(fitting.expandedTo({1, 1}));
     }
     return reader.read();

@@ -24,13 +24,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto PreviewDelay = 200ms;
+constexpr auto previewDelay = 200ms;
 
 /// Room for a preview that shows something.
 constexpr QSize openLetters{140, 38};
 
-constexpr int TextType = 0;
-constexpr int ImageType = 1;
+constexpr int textType = 0;
+constexpr int imageType = 1;
 
 /// Without this the whole dialog would change its proportions with the type of the watermark.
 void keepPlaceWhenHidden(QWidget& widget)
@@ -111,7 +111,7 @@ void WatermarkProfileDialog::setExampleImage(const QImage& image, ImageProfile* 
 
 void WatermarkProfileDialog::updateWatermark()
 {
-    m_previewTimer.start(PreviewDelay);
+    m_previewTimer.start(previewDelay);
 }
 
 void WatermarkProfileDialog::showEvent(QShowEvent* event)
@@ -269,8 +269,8 @@ void WatermarkProfileDialog::setupProfileSelector()
     addField("alignmentIndex", m_ui->alignmentComboBox);
     addField("xMargin", m_ui->xMarginSpinBox);
     addField("yMargin", m_ui->yMarginSpinBox);
-    addChoice("watermarkType", m_ui->watermarkTypeTextRadioButton, TextType);
-    addChoice("watermarkType", m_ui->watermarkTypeImageRadioButton, ImageType);
+    addChoice("watermarkType", m_ui->watermarkTypeTextRadioButton, textType);
+    addChoice("watermarkType", m_ui->watermarkTypeImageRadioButton, imageType);
     addField("imageFile", m_ui->imageFileNameLineEdit);
     addField("textShadow", m_ui->textShadowGroupBox);
     addField("relativeSize", m_ui->relativeSizeCheckBox);
@@ -289,7 +289,7 @@ void WatermarkProfileDialog::setupProfileSelector()
 
 void WatermarkProfileDialog::addField(const char* propertyName, QWidget* widget)
 {
-    addChoice(propertyName, widget, Field::NoChoice);
+    addChoice(propertyName, widget, Field::noChoice);
 }
 
 void WatermarkProfileDialog::addChoice(const char* propertyName, QWidget* widget, int choiceValue)

@@ -92,7 +92,7 @@ QVariant Field::value() const
     if (const auto* const spinBox = qobject_cast<QSpinBox*>(m_widget))
         return spinBox->value();
     if (const auto* const button = qobject_cast<QRadioButton*>(m_widget))
-        return button->isChecked() ? m_choiceValue : NoChoice;
+        return button->isChecked() ? m_choiceValue : noChoice;
     if (const auto* const groupBox = qobject_cast<QGroupBox*>(m_widget))
         return groupBox->isChecked();
     return {};

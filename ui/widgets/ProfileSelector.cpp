@@ -95,7 +95,7 @@ void ProfileSelector::loadFormIntoProfile(BaseProfile* profile) const
 {
     for (const Field* const field : m_fields) {
         const QVariant value = field->value();
-        if (!field->isChoice() || value != Field::NoChoice)
+        if (!field->isChoice() || value != Field::noChoice)
             profile->setProperty(field->propertyName(), value);
     }
 }
@@ -104,7 +104,7 @@ bool ProfileSelector::isProfileSameAsForm(const BaseProfile* profile) const
 {
     return std::all_of(m_fields.begin(), m_fields.end(), [profile](const Field* field) {
         const QVariant value = field->value();
-        if (field->isChoice() && value == Field::NoChoice)
+        if (field->isChoice() && value == Field::noChoice)
             return true;
         return value == profile->property(field->propertyName());
     });

@@ -174,7 +174,7 @@ public:
 
 private:
     /// The frame before an interlaced one is wanted, too: more than one lasts, and less than two.
-    static constexpr qint64 NeighbourMs = 60;
+    static constexpr qint64 neighbourMs = 60;
 
     /// How far one attempt of a search came, and whether no earlier frame can be missing that there
     /// is or that the frame needs.

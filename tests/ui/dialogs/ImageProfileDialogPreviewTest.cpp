@@ -30,8 +30,8 @@ using testsupport::TestProfiles;
 namespace {
 
 /// A multiple of what the dialog waits before it reports.
-constexpr int AWhileMs = 200;
-constexpr int PatienceMs = 20000;
+constexpr int aWhileMs = 200;
+constexpr int patienceMs = 20000;
 
 QString textOf(const char* text)
 {
@@ -102,7 +102,7 @@ void ImageProfileDialogPreviewTest::edits_arePreviewedOnce_afterTheLast()
     ImageProfileDialog dialog(&window);
     dialog.setPreview(window.preview());
     dialog.setSelectedProfile(&profile);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, patienceMs);
 
     auto& slider = child<QSlider>(dialog, "brightnessSlider");
     for (int value = 1; value <= 60; ++value)
@@ -110,9 +110,9 @@ void ImageProfileDialogPreviewTest::edits_arePreviewedOnce_afterTheLast()
     QCOMPARE(child<QSpinBox>(dialog, "brightnessSpinBox").value(), 60);
     dialog.updateImage();
     QCOMPARE(window.updates, 1);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, patienceMs);
     QCOMPARE(window.brightness, 60);
-    QTest::qWait(AWhileMs);
+    QTest::qWait(aWhileMs);
     QCOMPARE(window.updates, 2);
 }
 
@@ -151,9 +151,9 @@ void ImageProfileDialogPreviewTest::everyField_isPreviewed()
     ImageProfileDialog dialog(&window);
     dialog.setPreview(window.preview());
     dialog.setSelectedProfile(&profile);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, patienceMs);
     edit(dialog);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, patienceMs);
 }
 
 void ImageProfileDialogPreviewTest::preview_showsWhatIsEntered_andSavesNothing()
@@ -167,7 +167,7 @@ void ImageProfileDialogPreviewTest::preview_showsWhatIsEntered_andSavesNothing()
     child<QLineEdit>(dialog, "imageWidthLineEdit").setText(textOf("320"));
     child<QSlider>(dialog, "contrastSlider").setValue(-30);
     child<QSpinBox>(dialog, "jpegQualitySpinBox").setValue(7);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, patienceMs);
     QCOMPARE(window.size, QSize(320, 480));
     QCOMPARE(window.contrast, -30);
     QCOMPARE(window.quality, 7);
@@ -186,9 +186,9 @@ void ImageProfileDialogPreviewTest::preview_followsTheProfile()
     ImageProfileDialog dialog(&window);
     dialog.setPreview(window.preview());
     dialog.setSelectedProfile(&first);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, patienceMs);
     testsupport::pickProfile(dialog, 1);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, patienceMs);
     QCOMPARE(window.contrast, 44);
 }
 
@@ -201,9 +201,9 @@ void ImageProfileDialogPreviewTest::preview_followsTheReset()
     ImageProfileDialog dialog(&window);
     dialog.setPreview(window.preview());
     dialog.setSelectedProfile(&profile);
-    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 44, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 44, patienceMs);
     child<QPushButton>(dialog, "resetToDefaultsButton").click();
-    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 0, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 0, patienceMs);
 }
 
 void ImageProfileDialogPreviewTest::preview_isLeftOut_whereThereIsNone()
@@ -214,7 +214,7 @@ void ImageProfileDialogPreviewTest::preview_isLeftOut_whereThereIsNone()
     dialog.setSelectedProfile(&profile);
     child<QSlider>(dialog, "brightnessSlider").setValue(9);
     dialog.updateImage();
-    QTest::qWait(AWhileMs);
+    QTest::qWait(aWhileMs);
     QCOMPARE(child<QSlider>(dialog, "brightnessSlider").value(), 9);
 }
 
@@ -324,7 +324,7 @@ void ImageProfileDialogPreviewTest::watermarkDialog_showsTheFrame_asItIsEntered(
             shown = testsupport::paintedAt(view, {400, 300});
             return shown.pixelColor(200, 150) == QColor(110, 120, 130);
         };
-        if (!QTest::qWaitFor(isRendered, PatienceMs))
+        if (!QTest::qWaitFor(isRendered, patienceMs))
             qWarning("The frame is not shown");
         watermarkDialog.reject();
     });

@@ -48,7 +48,7 @@ private Q_SLOTS:
 void FieldRadioButtonTest::value_isItsChoice_whenChecked()
 {
     Choice choice;
-    QCOMPARE(choice.zeroField.value(), QVariant(Field::NoChoice));
+    QCOMPARE(choice.zeroField.value(), QVariant(Field::noChoice));
     choice.zero.setChecked(true);
     QCOMPARE(choice.zeroField.value(), QVariant(0));
 }
@@ -87,7 +87,7 @@ void FieldRadioButtonTest::setValue_unchecksAll_forTheValueOfNone()
         choice.setValue(value);
         QVERIFY(!choice.zero.isChecked());
         QVERIFY(!choice.one.isChecked());
-        QCOMPARE(choice.zeroField.value(), QVariant(Field::NoChoice));
+        QCOMPARE(choice.zeroField.value(), QVariant(Field::noChoice));
     }
 }
 

@@ -29,7 +29,7 @@ template <typename Widget>
 class Bound
 {
 public:
-    explicit Bound(int choiceValue = Field::NoChoice)
+    explicit Bound(int choiceValue = Field::noChoice)
         : m_field("property", &m_widget, choiceValue, nullptr)
     {}
 
@@ -230,7 +230,7 @@ void FieldTest::value_ofSpinBox_isItsNumber()
 
 void FieldTest::value_isInvalid_forOtherWidgets()
 {
-    QVERIFY(!Field("a", nullptr, Field::NoChoice, nullptr).value().isValid());
+    QVERIFY(!Field("a", nullptr, Field::noChoice, nullptr).value().isValid());
     Bound<QLabel> label;
     label->setText(QStringLiteral("text"));
     QVERIFY(!label.field().value().isValid());
@@ -425,7 +425,7 @@ void FieldTest::setValue_leavesOtherWidgets()
     dial->setValue(9);
     dial.field().setValue(3);
     QCOMPARE(dial->value(), 9);
-    Field nothing("a", nullptr, Field::NoChoice, nullptr);
+    Field nothing("a", nullptr, Field::noChoice, nullptr);
     nothing.setValue(3);
     QVERIFY(!nothing.value().isValid());
 }
@@ -486,7 +486,7 @@ void FieldTest::whenChanged_reportsNoLabels()
     font->setFontValue(QFont(QStringLiteral("Courier"), 24));
     QCOMPARE(fontChanges.count(), 0);
 
-    const ChangeCounter nothing(Field("a", nullptr, Field::NoChoice, nullptr));
+    const ChangeCounter nothing(Field("a", nullptr, Field::noChoice, nullptr));
     QCOMPARE(nothing.count(), 0);
 }
 

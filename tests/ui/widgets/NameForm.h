@@ -93,9 +93,9 @@ private:
     QLineEdit m_prefix;
     QComboBox m_type;
     QCheckBox m_pad;
-    Field m_prefixField{"fileOutputPrefix", &m_prefix, Field::NoChoice, nullptr};
-    Field m_typeField{"fileOutputType", &m_type, Field::NoChoice, nullptr};
-    Field m_padField{"fileOutputCounterPadZeros", &m_pad, Field::NoChoice, nullptr};
+    Field m_prefixField{"fileOutputPrefix", &m_prefix, Field::noChoice, nullptr};
+    Field m_typeField{"fileOutputType", &m_type, Field::noChoice, nullptr};
+    Field m_padField{"fileOutputCounterPadZeros", &m_pad, Field::noChoice, nullptr};
     ProfileSelector m_selector{nullptr};
 };
 

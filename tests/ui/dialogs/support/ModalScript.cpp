@@ -6,14 +6,14 @@
 using testsupport::ModalScript;
 
 namespace {
-constexpr int LookIntervalMs = 10;
-constexpr qint64 PatienceMs = 20000;
+constexpr int lookIntervalMs = 10;
+constexpr qint64 patienceMs = 20000;
 } // namespace
 
 ModalScript::ModalScript()
 {
     connect(&m_timer, &QTimer::timeout, this, &ModalScript::look);
-    m_timer.start(LookIntervalMs);
+    m_timer.start(lookIntervalMs);
     m_sinceProgress.start();
 }
 
@@ -27,7 +27,7 @@ void ModalScript::look()
         // the next dialog.
         m_answering = true;
         QMetaObject::invokeMethod(this, &ModalScript::answerNext, Qt::QueuedConnection);
-    } else if (m_sinceProgress.hasExpired(PatienceMs)) {
+    } else if (m_sinceProgress.hasExpired(patienceMs)) {
         m_failed = true;
         if (auto* const dialog = qobject_cast<QDialog*>(modal))
             dialog->reject();
