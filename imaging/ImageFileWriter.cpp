@@ -102,8 +102,9 @@ int writerQuality(const QByteArray& format, int quality)
 
 QByteArray encodedByQt(const QImage& image, const QByteArray& format, int quality)
 {
-    if (!noticesLackOfMemory(format) && !hasMemoryToCopy(image))
+    if (!noticesLackOfMemory(format) && !hasMemoryToCopy(image)) {
         return {};
+    }
     QByteArray content;
     FallibleBuffer buffer(&content);
     QImageWriter writer(&buffer, format);

@@ -42,8 +42,9 @@ void extractAtRandomPositions(benchmark::State& state, const Sample& sample)
             state.SkipWithError(qPrintable(source.error()));
             return;
         }
-        if (++position == positions.end())
+        if (++position == positions.end()) {
             position = positions.begin();
+        }
     }
 }
 

@@ -7,15 +7,17 @@ SoundPlayer::~SoundPlayer() = default;
 
 void SoundPlayer::ensureThread()
 {
-    if (m_thread && (!m_thread->isHeldUp() || SoundThread::count() >= SoundThread::maximumCount))
+    if (m_thread && (!m_thread->isHeldUp() || SoundThread::count() >= SoundThread::maximumCount)) {
         return;
+    }
     m_thread = std::make_unique<SoundThread>(m_wish);
 }
 
 void SoundPlayer::tellWish()
 {
-    if (m_thread)
+    if (m_thread) {
         m_thread->state().setWish(m_wish);
+    }
 }
 
 void SoundPlayer::open(const QString& path)

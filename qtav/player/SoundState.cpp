@@ -39,15 +39,17 @@ void SoundState::end()
 void SoundState::noteChange()
 {
     m_isTaken = false;
-    if (!m_behindSince)
+    if (!m_behindSince) {
         m_behindSince = Clock::now();
+    }
     wake();
 }
 
 void SoundState::wake()
 {
-    if (m_worker)
+    if (m_worker) {
         QMetaObject::invokeMethod(m_worker, "heed", Qt::QueuedConnection);
+    }
 }
 
 void SoundState::setWorker(QObject* worker)
@@ -60,8 +62,9 @@ void SoundState::setWorker(QObject* worker)
 std::optional<SoundState::Wish> SoundState::takeWish()
 {
     const std::lock_guard lock(m_mutex);
-    if (m_isOver)
+    if (m_isOver) {
         return std::nullopt;
+    }
     m_isTaken = true;
     return m_wish;
 }
@@ -69,17 +72,19 @@ std::optional<SoundState::Wish> SoundState::takeWish()
 void SoundState::setCarriedOut()
 {
     const std::lock_guard lock(m_mutex);
-    if (m_isTaken)
+    if (m_isTaken) {
         m_behindSince.reset();
-    else
+    } else {
         m_behindSince = Clock::now();
+    }
 }
 
 std::chrono::milliseconds SoundState::behindFor() const
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_behindSince)
+    if (!m_behindSince) {
         return std::chrono::milliseconds(0);
+    }
     return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - *m_behindSince);
 }
 
@@ -94,8 +99,9 @@ void SoundState::setHeard(quint64 playSerial, std::optional<double> seconds)
 std::optional<double> SoundState::heard() const
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_wish.plays || m_heardSerial != m_wish.playSerial || !m_heard)
+    if (!m_wish.plays || m_heardSerial != m_wish.playSerial || !m_heard) {
         return std::nullopt;
+    }
     const std::chrono::duration<double> since = Clock::now() - m_heardAt;
     return *m_heard + m_wish.speed * std::min(since.count(), longestSilentSeconds);
 }

@@ -22,8 +22,9 @@ std::atomic<int> threadCount{0};
 /// was left behind in one of their functions. What the program itself has to do is done by then.
 void endWithoutTidying(int status, void*)
 {
-    if (threadCount == 0)
+    if (threadCount == 0) {
         return;
+    }
     std::fflush(nullptr);
     std::_Exit(status);
 }
@@ -58,10 +59,11 @@ SoundThread::~SoundThread()
     m_state->end();
     const auto patience = longestWork - m_state->behindFor();
     if (m_ended.wait_for(std::max(patience, std::chrono::milliseconds(0))) ==
-        std::future_status::ready)
+        std::future_status::ready) {
         m_thread.join();
-    else
+    } else {
         leaveBehind(m_thread);
+    }
 }
 
 int SoundThread::count()

@@ -79,15 +79,18 @@ void SoundWorker::heed()
 void SoundWorker::carryOut(const SoundState::Wish& wish)
 {
     const SoundState::Wish done = std::exchange(m_done, wish);
-    if (wish.path != done.path)
+    if (wish.path != done.path) {
         openFile(wish.path);
+    }
     if (wish.path != done.path || wish.playSerial != done.playSerial) {
         stopDevice();
-        if (wish.plays)
+        if (wish.plays) {
             start(wish);
+        }
     }
-    if (m_device)
+    if (m_device) {
         m_device->setVolume(wish.volume);
+    }
 }
 
 void SoundWorker::openFile(const QString& path)
@@ -96,42 +99,49 @@ void SoundWorker::openFile(const QString& path)
     m_device.reset();
     m_source.reset();
     m_file.reset();
-    if (path.isEmpty())
+    if (path.isEmpty()) {
         return;
+    }
     auto file = std::make_unique<SoundFile>();
     QString error;
-    if (file->open(path, error))
+    if (file->open(path, error)) {
         m_file = std::move(file);
-    else
+    } else {
         qCWarning(lcQtAV, "No sound: %s", qUtf8Printable(error));
+    }
 }
 
 void SoundWorker::start(const SoundState::Wish& wish)
 {
-    if (!m_file)
+    if (!m_file) {
         return;
+    }
     // Asked for anew each time: it may have come since, or be another one.
     m_device = m_makeDevice(m_file->sampleRate());
-    if (!m_device)
+    if (!m_device) {
         return;
+    }
     m_device->setVolume(wish.volume);
     m_file->setFormat(m_device->sampleRate(), m_device->channels(), wish.speed);
-    if (!m_file->seek(wish.from))
+    if (!m_file->seek(wish.from)) {
         return;
+    }
     m_source = std::make_unique<Source>(*m_file);
     m_lastHeard = 0.0;
     m_movedAt = std::chrono::steady_clock::now();
-    if (m_device->start(m_source.get()))
+    if (m_device->start(m_source.get())) {
         m_clock.start();
-    else
+    } else {
         qCWarning(lcQtAV, "The sound device does not start.");
+    }
 }
 
 void SoundWorker::stopDevice()
 {
     m_clock.stop();
-    if (m_device)
+    if (m_device) {
         m_device->stop();
+    }
     m_state.setHeard(m_done.playSerial, std::nullopt);
 }
 
@@ -139,17 +149,19 @@ void SoundWorker::stopDevice()
 void SoundWorker::tellTime()
 {
     const double heard = m_device->heardSeconds();
-    if (m_device->isRunning() && !isOver(heard))
+    if (m_device->isRunning() && !isOver(heard)) {
         m_state.setHeard(m_done.playSerial, m_done.from + m_done.speed * heard);
-    else
+    } else {
         stopDevice();
+    }
 }
 
 bool SoundWorker::isOver(double heardSeconds)
 {
     const auto now = std::chrono::steady_clock::now();
-    if (heardSeconds > m_lastHeard)
+    if (heardSeconds > m_lastHeard) {
         m_movedAt = now;
+    }
     m_lastHeard = heardSeconds;
     const auto longest = m_source->hasEnded() ? longestStandstillAtTheEnd : longestStandstill;
     return now - m_movedAt > longest;

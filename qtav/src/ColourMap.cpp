@@ -24,8 +24,9 @@ template <typename Function>
 std::vector<float> tableOf(const Function& function)
 {
     std::vector<float> table(steps + 1);
-    for (int i = 0; i <= steps; ++i)
+    for (int i = 0; i <= steps; ++i) {
         table[static_cast<size_t>(i)] = static_cast<float>(function(double(i) / steps));
+    }
     return table;
 }
 
@@ -50,16 +51,18 @@ inline int entryFor(float value)
 FOR_SEVERAL_PROCESSORS
 void lookUp(const float* __restrict table, float* __restrict values, size_t count)
 {
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
         values[i] = table[entryFor(values[i])];
+    }
 }
 
 /// Apart from the look-up, so that several are taken at once.
 FOR_SEVERAL_PROCESSORS
 void takeRoots(float* __restrict values, size_t count)
 {
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
         values[i] = std::sqrt(std::max(values[i], 0.0F));
+    }
 }
 
 FOR_SEVERAL_PROCESSORS
@@ -150,8 +153,9 @@ ColourMap::ColourMap(const Colours& colours)
     const std::array<double, 9> matrix = matrixToStandard(colours.primaries);
     std::transform(matrix.begin(), matrix.end(), m_matrix.begin(),
                    [](double factor) { return static_cast<float>(factor); });
-    if (!m_isHdr)
+    if (!m_isHdr) {
         return;
+    }
     const double brightest =
         (colours.transfer == Colours::Transfer::Pq ? pqToNits(1.0) : colours.peakNits) / whiteNits;
     m_brightest = static_cast<float>(brightest);
@@ -160,8 +164,9 @@ ColourMap::ColourMap(const Colours& colours)
         return nits > 0.0 ? toneMapped(nits, colours.peakNits, whiteNits) / nits : 1.0;
     });
     // The system gamma of a display with 1000 cd/m² is 1.2.
-    if (colours.transfer == Colours::Transfer::Hlg)
+    if (colours.transfer == Colours::Transfer::Hlg) {
         m_system = tableOf([](double root) { return std::pow(root * root, 0.2); });
+    }
 }
 
 void ColourMap::apply(RgbLine& line) const
@@ -170,16 +175,21 @@ void ColourMap::apply(RgbLine& line) const
     float* const red = line.red.data();
     float* const green = line.green.data();
     float* const blue = line.blue.data();
-    for (float* const channel : {red, green, blue})
+    for (float* const channel : {red, green, blue}) {
         lookUp(m_light.data(), channel, count);
-    if (!m_system.empty())
+    }
+    if (!m_system.empty()) {
         applySystem(m_system.data(), m_brightest, red, green, blue, count);
-    if (m_isHdr)
+    }
+    if (m_isHdr) {
         applyGain(m_gain.data(), m_brightest, red, green, blue, count);
-    if (m_colours.primaries != Colours::Primaries::Standard)
+    }
+    if (m_colours.primaries != Colours::Primaries::Standard) {
         applyMatrix(m_matrix, red, green, blue, count);
-    if (m_isHdr)
+    }
+    if (m_isHdr) {
         cutSoftly(red, green, blue, count);
+    }
     for (float* const channel : {red, green, blue}) {
         takeRoots(channel, count);
         lookUp(m_values.data(), channel, count);

@@ -41,23 +41,26 @@ void addSideData(AVFrame& frame, AVFrameSideDataType type, const SideData& data)
 {
     AVFrameSideData* const copy =
         data.data ? av_frame_new_side_data(&frame, type, data.size) : nullptr;
-    if (copy)
+    if (copy) {
         std::copy_n(data.data, data.size, copy->data);
+    }
 }
 
 void completeSideData(AVFrame& frame, const AVFrame& stated, AVFrameSideDataType type)
 {
     const AVFrameSideData* const data = av_frame_get_side_data(&stated, type);
-    if (data && !av_frame_get_side_data(&frame, type))
+    if (data && !av_frame_get_side_data(&frame, type)) {
         addSideData(frame, type, {data->data, data->size});
+    }
 }
 
 std::optional<double> contentPeak(const AVFrame& frame)
 {
     const AVFrameSideData* const data =
         av_frame_get_side_data(&frame, AV_FRAME_DATA_CONTENT_LIGHT_LEVEL);
-    if (!data || data->size < sizeof(AVContentLightMetadata))
+    if (!data || data->size < sizeof(AVContentLightMetadata)) {
         return std::nullopt;
+    }
     return reinterpret_cast<const AVContentLightMetadata*>(data->data)->MaxCLL;
 }
 
@@ -65,19 +68,22 @@ std::optional<double> masteringPeak(const AVFrame& frame)
 {
     const AVFrameSideData* const data =
         av_frame_get_side_data(&frame, AV_FRAME_DATA_MASTERING_DISPLAY_METADATA);
-    if (!data || data->size < sizeof(AVMasteringDisplayMetadata))
+    if (!data || data->size < sizeof(AVMasteringDisplayMetadata)) {
         return std::nullopt;
+    }
     const auto& display = *reinterpret_cast<const AVMasteringDisplayMetadata*>(data->data);
-    if (!display.has_luminance || display.max_luminance.den == 0)
+    if (!display.has_luminance || display.max_luminance.den == 0) {
         return std::nullopt;
+    }
     return av_q2d(display.max_luminance);
 }
 
 double peakOf(const AVFrame& frame)
 {
     for (const std::optional<double> peak : {contentPeak(frame), masteringPeak(frame)}) {
-        if (peak && *peak >= leastPeakNits && *peak <= brightestNits)
+        if (peak && *peak >= leastPeakNits && *peak <= brightestNits) {
             return *peak;
+        }
     }
     return usualPeakNits;
 }
@@ -140,14 +146,18 @@ FramePtr statedColours(const AVStream& stream)
 
 void completeColours(AVFrame& frame, const AVFrame& stated)
 {
-    if (frame.color_primaries == AVCOL_PRI_UNSPECIFIED)
+    if (frame.color_primaries == AVCOL_PRI_UNSPECIFIED) {
         frame.color_primaries = stated.color_primaries;
-    if (frame.color_trc == AVCOL_TRC_UNSPECIFIED)
+    }
+    if (frame.color_trc == AVCOL_TRC_UNSPECIFIED) {
         frame.color_trc = stated.color_trc;
-    if (frame.colorspace == AVCOL_SPC_UNSPECIFIED)
+    }
+    if (frame.colorspace == AVCOL_SPC_UNSPECIFIED) {
         frame.colorspace = stated.colorspace;
-    if (frame.color_range == AVCOL_RANGE_UNSPECIFIED)
+    }
+    if (frame.color_range == AVCOL_RANGE_UNSPECIFIED) {
         frame.color_range = stated.color_range;
+    }
     completeSideData(frame, stated, AV_FRAME_DATA_CONTENT_LIGHT_LEVEL);
     completeSideData(frame, stated, AV_FRAME_DATA_MASTERING_DISPLAY_METADATA);
 }
@@ -157,10 +167,11 @@ Colours coloursOf(const AVFrame& frame)
     Colours colours;
     colours.transfer = transferOf(frame);
     colours.primaries = primariesOf(frame);
-    if (colours.transfer == Colours::Transfer::Pq)
+    if (colours.transfer == Colours::Transfer::Pq) {
         colours.peakNits = peakOf(frame);
-    else if (colours.transfer == Colours::Transfer::Hlg)
+    } else if (colours.transfer == Colours::Transfer::Hlg) {
         colours.peakNits = usualPeakNits; // the display for which its system gamma is 1.2
+    }
     return colours;
 }
 
@@ -234,8 +245,9 @@ double toneMapped(double nits, double peakNits, double whiteNits)
     const double white = nitsToPq(whiteNits) / peak;
     const double value = std::min(nitsToPq(nits) / peak, 1.0);
     const double knee = 1.5 * white - 0.5;
-    if (white >= 1.0 || value <= knee)
+    if (white >= 1.0 || value <= knee) {
         return std::min(nits, whiteNits);
+    }
     // Hermite's spline from the knee to white.
     const double t = (value - knee) / (1.0 - knee);
     const double t2 = t * t;

@@ -23,8 +23,9 @@ public:
         for (int y = 0; y < size; ++y) {
             std::vector<Value>& line = m_lines[static_cast<size_t>(y)];
             line.resize(static_cast<size_t>(width));
-            for (size_t x = 0; x < line.size(); ++x)
+            for (size_t x = 0; x < line.size(); ++x) {
                 line[x] = added(orderAt(static_cast<int>(x % size), y));
+            }
         }
     }
 

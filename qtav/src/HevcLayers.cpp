@@ -30,14 +30,17 @@ bool parameterSetHasSubLayers(const NalUnits::Unit& unit)
 
 bool hevcHasSubLayers(const uint8_t* data, qsizetype size)
 {
-    if (!data || size <= 0)
+    if (!data || size <= 0) {
         return false;
-    if (isConfigurationRecord(data, size))
+    }
+    if (isConfigurationRecord(data, size)) {
         return layersInConfigurationRecord(data) > 1;
+    }
     NalUnits::Cursor cursor = NalUnits::ofMarked(AV_CODEC_ID_HEVC, data, size);
     while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
-        if (parameterSetHasSubLayers(*unit))
+        if (parameterSetHasSubLayers(*unit)) {
             return true;
+        }
     }
     return false;
 }

@@ -18,8 +18,9 @@ QImage ImagePool::take(const QSize& size)
 {
     const int lineBytes = size.width() * pixelBytes;
     AVBufferRef* buffer = takeBuffer(size_t(lineBytes) * size_t(size.height()));
-    if (!buffer)
+    if (!buffer) {
         return {};
+    }
     return QImage(buffer->data, size.width(), size.height(), lineBytes, QImage::Format_ARGB32,
                   giveBack, buffer);
 }

@@ -32,19 +32,22 @@ public:
     quint32 code()
     {
         int zeros = 0;
-        while (zeros < 31 && m_place < m_bits && bit() == 0)
+        while (zeros < 31 && m_place < m_bits && bit() == 0) {
             ++zeros;
+        }
         quint32 rest = 0;
-        for (int i = 0; i < zeros; ++i)
+        for (int i = 0; i < zeros; ++i) {
             rest = rest << 1 | bit();
+        }
         return (1U << zeros) - 1 + rest;
     }
 
 private:
     quint32 bit()
     {
-        if (m_place >= m_bits)
+        if (m_place >= m_bits) {
             return 0;
+        }
         const quint32 value = m_data[m_place / 8] >> (7 - m_place % 8) & 1;
         ++m_place;
         return value;
@@ -81,8 +84,9 @@ bool announcesRecovery(const NalUnits::Unit& unit, qsizetype headerBytes)
     for (qsizetype place = headerBytes; place + 2 < unit.size;) {
         const int type = messageNumber(unit, place);
         const int length = messageNumber(unit, place);
-        if (type == recoveryPoint)
+        if (type == recoveryPoint) {
             return true;
+        }
         place += length;
     }
     return false;
@@ -94,8 +98,9 @@ bool isMpegKey(const uint8_t* data, qsizetype size)
     constexpr uint8_t picture = 0x00;
     for (qsizetype i = behindStartCode(data, 0, size); i + 2 < size;
          i = behindStartCode(data, i, size)) {
-        if (data[i] == picture)
+        if (data[i] == picture) {
             return (data[i + 2] >> 3 & 0x07) == 1;
+        }
     }
     return false;
 }
@@ -106,12 +111,14 @@ bool isMpeg4Key(const uint8_t* data, qsizetype size)
 {
     constexpr uint8_t picture = 0xb6;
     constexpr qsizetype largestEmptyPicture = 19;
-    if (size <= largestEmptyPicture)
+    if (size <= largestEmptyPicture) {
         return false;
+    }
     for (qsizetype i = behindStartCode(data, 0, size); i + 1 < size;
          i = behindStartCode(data, i, size)) {
-        if (data[i] == picture)
+        if (data[i] == picture) {
             return data[i + 1] >> 6 == 0;
+        }
     }
     return false;
 }
@@ -125,8 +132,9 @@ KeyPictures::KeyPictures(const AVCodecParameters& parameters)
 
 bool KeyPictures::isIn(const uint8_t* data, qsizetype size) const
 {
-    if (!data || size <= 0)
+    if (!data || size <= 0) {
         return false;
+    }
     switch (m_codec) {
     case AV_CODEC_ID_H264:
     case AV_CODEC_ID_HEVC:
@@ -152,12 +160,15 @@ bool KeyPictures::isInUnits(const uint8_t* data, qsizetype size) const
         const int type = unit->type;
         const bool isMessage =
             type == (isHevc ? hevc::prefixInformation : h264::supplementalInformation);
-        if (isMessage && announcesRecovery(*unit, isHevc ? 2 : 1))
+        if (isMessage && announcesRecovery(*unit, isHevc ? 2 : 1)) {
             return true;
-        if (isHevc && type <= hevc::lastSlice)
+        }
+        if (isHevc && type <= hevc::lastSlice) {
             return type >= hevc::firstRefreshSlice && type <= hevc::lastRefreshSlice;
-        if (!isHevc && type >= h264::slice && type <= h264::refreshSlice)
+        }
+        if (!isHevc && type >= h264::slice && type <= h264::refreshSlice) {
             return type == h264::refreshSlice || (type == h264::slice && isIntraSlice(*unit));
+        }
     }
     return true;
 }

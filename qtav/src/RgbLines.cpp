@@ -29,16 +29,18 @@ FOR_SEVERAL_PROCESSORS
 void scaleBytes(const uint8_t* __restrict source, float* __restrict target, size_t count,
                 float scale)
 {
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
         target[i] = static_cast<float>(source[i]) * scale;
+    }
 }
 
 FOR_SEVERAL_PROCESSORS
 void scaleWords(const uint16_t* __restrict source, float* __restrict target, size_t count,
                 float scale)
 {
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
         target[i] = static_cast<float>(source[i]) * scale;
+    }
 }
 
 bool isYuv(AVPixelFormat format)
@@ -49,8 +51,9 @@ bool isYuv(AVPixelFormat format)
 /// The rows of R'G'B' from luma and chroma, both in their own scale.
 std::array<double, 9> rowsFor(AVColorSpace space)
 {
-    if (space == AVCOL_SPC_YCGCO)
+    if (space == AVCOL_SPC_YCGCO) {
         return {1.0, -1.0, 1.0, 1.0, 1.0, 0.0, 1.0, -1.0, -1.0};
+    }
     const YuvToRgb::Shares shares = YuvToRgb::sharesOf(space);
     const double green = 1.0 - shares.red - shares.blue;
     return {1.0,
@@ -86,8 +89,9 @@ RgbLines::RgbLines(const AVFrame& frame)
     , m_samples(static_cast<size_t>(frame.width))
     , m_alpha(hasAlpha() ? static_cast<size_t>(frame.width) : 0)
 {
-    if (!isYuv(static_cast<AVPixelFormat>(frame.format)))
+    if (!isYuv(static_cast<AVPixelFormat>(frame.format))) {
         return;
+    }
     m_yuv = std::make_unique<YuvLines>(frame);
     const bool isFull = YuvToRgb::isFullRange(frame);
     // The widest sample, brought to 15 bits, is 1 in full range.
@@ -98,8 +102,9 @@ RgbLines::RgbLines(const AVFrame& frame)
     m_chromaScale = static_cast<float>(1.0 / (isFull ? whole : 224.0 * unit));
     m_black = static_cast<float>(isFull ? 0.0 : 16.0 * unit);
     const std::array<double, 9> rows = rowsFor(YuvToRgb::matrixOf(frame));
-    for (size_t i = 0; i < rows.size(); ++i)
+    for (size_t i = 0; i < rows.size(); ++i) {
         m_factors[i] = static_cast<float>(rows[i]) * (i % 3 == 0 ? m_lumaScale : m_chromaScale);
+    }
 }
 
 RgbLines::~RgbLines() = default;
@@ -107,10 +112,12 @@ RgbLines::~RgbLines() = default;
 bool RgbLines::reads(AVPixelFormat format)
 {
     const AVPixFmtDescriptor* const d = av_pix_fmt_desc_get(format);
-    if (!d)
+    if (!d) {
         return false;
-    if (isYuv(format))
+    }
+    if (isYuv(format)) {
         return true;
+    }
     constexpr uint64_t excluded = AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_HWACCEL |
                                   AV_PIX_FMT_FLAG_BAYER | AV_PIX_FMT_FLAG_FLOAT;
     return (d->flags & AV_PIX_FMT_FLAG_RGB) && !(d->flags & excluded) && d->nb_components >= 3 &&
@@ -124,14 +131,16 @@ bool RgbLines::hasAlpha() const
 
 void RgbLines::read(int line, RgbLine& target)
 {
-    if (!m_yuv)
+    if (!m_yuv) {
         readRgb(line, target);
-    else if (YuvToRgb::matrixOf(m_frame) == AVCOL_SPC_BT2020_CL)
+    } else if (YuvToRgb::matrixOf(m_frame) == AVCOL_SPC_BT2020_CL) {
         readConstantLuminance(line, target);
-    else
+    } else {
         readYuv(line, target);
-    if (hasAlpha())
+    }
+    if (hasAlpha()) {
         readAlpha(line);
+    }
 }
 
 void RgbLines::readYuv(int line, RgbLine& target)
@@ -187,10 +196,11 @@ void RgbLines::readComponent(int component, int line, std::vector<float>& target
     }
     const uint8_t* const samples =
         m_frame.data[c.plane] + ptrdiff_t(line) * m_frame.linesize[c.plane] + c.offset;
-    if (bytes == 2)
+    if (bytes == 2) {
         scaleWords(reinterpret_cast<const uint16_t*>(samples), target.data(), target.size(), scale);
-    else
+    } else {
         scaleBytes(samples, target.data(), target.size(), scale);
+    }
 }
 
 void RgbLines::readAlpha(int line)

@@ -31,26 +31,30 @@ SequenceChange::SequenceChange(const AVCodecParameters& parameters)
 
 QByteArray SequenceChange::parametersIn(const AVPacket& packet) const
 {
-    if (m_codec == AV_CODEC_ID_MPEG1VIDEO || m_codec == AV_CODEC_ID_MPEG2VIDEO)
+    if (m_codec == AV_CODEC_ID_MPEG1VIDEO || m_codec == AV_CODEC_ID_MPEG2VIDEO) {
         return mpegSize(packet.data, packet.size);
+    }
     const int wanted =
         m_codec == AV_CODEC_ID_HEVC ? hevcSequenceParameters : h264SequenceParameters;
     QByteArray found;
     NalUnits::Cursor cursor = m_units.of(packet.data, packet.size);
     while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
-        if (unit->type == wanted)
+        if (unit->type == wanted) {
             found += bytes(unit->data, unit->size);
+        }
     }
     return found;
 }
 
 bool SequenceChange::isAt(const AVPacket& packet)
 {
-    if (!(packet.flags & AV_PKT_FLAG_KEY))
+    if (!(packet.flags & AV_PKT_FLAG_KEY)) {
         return false;
+    }
     const QByteArray parameters = parametersIn(packet);
-    if (parameters.isEmpty() || parameters == m_last)
+    if (parameters.isEmpty() || parameters == m_last) {
         return false;
+    }
     const bool isFirst = m_last.isEmpty();
     m_last = parameters;
     return !isFirst;

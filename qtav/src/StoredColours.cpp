@@ -65,13 +65,16 @@ std::array<double, 3> StoredColours::valuesOf(const std::array<double, 3>& rgb) 
     std::array<double, 3> light{};
     std::transform(rgb.begin(), rgb.end(), light.begin(), srgbToLinear);
     light = toPrimaries(primaries, light);
-    for (double& channel : light)
+    for (double& channel : light) {
         channel = std::clamp(channel, 0.0, 1.0) * whiteNits / brightestNits();
-    if (transfer == Transfer::Hlg)
+    }
+    if (transfer == Transfer::Hlg) {
         return hlgValuesOf(light);
-    for (double& channel : light)
+    }
+    for (double& channel : light) {
         channel =
             transfer == Transfer::Pq ? nitsToPq(channel * brightestNits()) : linearToSrgb(channel);
+    }
     return light;
 }
 

@@ -52,10 +52,12 @@ double Timeline::seconds(qint64 ticks) const
     // Beyond that, neighbouring numbers are further apart than the steps below would ever cover.
     double result = ms < mostTicks ? double(exact.numerator) / double(exact.denominator)
                                    : double(mostTicks) / 1000.0;
-    while (static_cast<qint64>(result * 1000.0) < ms)
+    while (static_cast<qint64>(result * 1000.0) < ms) {
         result = std::nextafter(result, std::numeric_limits<double>::infinity());
-    while (static_cast<qint64>(result * 1000.0) > ms)
+    }
+    while (static_cast<qint64>(result * 1000.0) > ms) {
         result = std::nextafter(result, 0.0);
+    }
     return result;
 }
 

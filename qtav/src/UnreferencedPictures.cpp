@@ -29,8 +29,9 @@ enum class Meaning { Neutral, Unreferenced, Needed };
 
 Meaning meaningInH264(const NalUnits::Unit& unit)
 {
-    if (unit.type == h264::slice)
+    if (unit.type == h264::slice) {
         return unit.isReference ? Meaning::Needed : Meaning::Unreferenced;
+    }
     const bool isNeutral = unit.type == h264::supplementalInformation ||
                            unit.type == h264::delimiter || unit.type == h264::filler;
     return isNeutral ? Meaning::Neutral : Meaning::Needed;
@@ -39,8 +40,9 @@ Meaning meaningInH264(const NalUnits::Unit& unit)
 Meaning meaningInHevc(const NalUnits::Unit& unit)
 {
     // Slices of pictures that are referred to have odd types.
-    if (unit.type <= hevc::lastOrdinarySlice)
+    if (unit.type <= hevc::lastOrdinarySlice) {
         return unit.type % 2 ? Meaning::Needed : Meaning::Unreferenced;
+    }
     const bool isNeutral = unit.type == hevc::delimiter || unit.type == hevc::filler ||
                            unit.type == hevc::prefixInformation ||
                            unit.type == hevc::suffixInformation;
@@ -54,10 +56,12 @@ bool areBidirectional(const uint8_t* data, qsizetype size)
     for (qsizetype i = behindStartCode(data, 0, size); i + 1 < size;
          i = behindStartCode(data, i, size)) {
         const bool isPicture = data[i] == mpeg4::picture;
-        if (!isPicture && data[i] != mpeg4::userData)
+        if (!isPicture && data[i] != mpeg4::userData) {
             return false;
-        if (isPicture && data[i + 1] >> 6 != mpeg4::bidirectionalPicture)
+        }
+        if (isPicture && data[i + 1] >> 6 != mpeg4::bidirectionalPicture) {
             return false;
+        }
         hasPicture = hasPicture || isPicture;
     }
     return hasPicture;
@@ -72,15 +76,17 @@ UnreferencedPictures::UnreferencedPictures(const AVCodecParameters& parameters)
 
 bool UnreferencedPictures::areAllOf(const uint8_t* data, qsizetype size) const
 {
-    if (m_isMpeg4)
+    if (m_isMpeg4) {
         return data && areBidirectional(data, size);
+    }
     NalUnits::Cursor cursor = m_units.of(data, size);
     bool hasPicture = false;
     while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
         const Meaning meaning =
             m_units.codec() == AV_CODEC_ID_HEVC ? meaningInHevc(*unit) : meaningInH264(*unit);
-        if (meaning == Meaning::Needed)
+        if (meaning == Meaning::Needed) {
             return false;
+        }
         hasPicture = hasPicture || meaning == Meaning::Unreferenced;
     }
     return hasPicture && cursor.isWhole();

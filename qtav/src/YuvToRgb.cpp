@@ -58,8 +58,9 @@ void combine(const int16_t* __restrict lumas, const int16_t* __restrict cbs,
 
 void setAlpha(const uint8_t* alphas, uint32_t* pixels, int count)
 {
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         pixels[i] = (pixels[i] & 0x00ffffffU) | uint32_t(alphas[i]) << 24;
+    }
 }
 
 void setAlphaDeep(const uint16_t* alphas, uint32_t* pixels, int count, int depth)
@@ -108,15 +109,17 @@ public:
     {
         m_lines.moveTo(line);
         int done = 0;
-        if (m_lines.isPlainHalved())
+        if (m_lines.isPlainHalved()) {
             done = convertHalvedLine(m_lines.storedLuma(), m_lines.halvedCb(), m_lines.halvedCr(),
                                      pixels, m_lines.width(), m_matrix);
+        }
         m_lines.widen(done);
         const int16_t* const added = m_lines.depth() > 8 ? m_dither.line(line) : m_plain.data();
         combine(m_lines.luma() + done, m_lines.cb() + done, m_lines.cr() + done, added + done,
                 pixels + done, m_lines.width() - done, m_matrix);
-        if (m_lines.hasAlpha())
+        if (m_lines.hasAlpha()) {
             addAlpha(pixels);
+        }
     }
 
 private:
@@ -128,11 +131,12 @@ private:
     void addAlpha(uint32_t* pixels) const
     {
         const uint8_t* const alpha = m_lines.storedAlpha();
-        if (m_lines.depth() == 8)
+        if (m_lines.depth() == 8) {
             setAlpha(alpha, pixels, m_lines.width());
-        else
+        } else {
             setAlphaDeep(reinterpret_cast<const uint16_t*>(alpha), pixels, m_lines.width(),
                          m_lines.depth());
+        }
     }
 
     YuvLines m_lines;
@@ -173,8 +177,9 @@ bool YuvToRgb::isFullRange(const AVFrame& frame)
 
 bool YuvToRgb::reads(AVPixelFormat format)
 {
-    if (format == AV_PIX_FMT_NV12 || format == AV_PIX_FMT_NV21)
+    if (format == AV_PIX_FMT_NV12 || format == AV_PIX_FMT_NV21) {
         return true;
+    }
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(format);
     constexpr uint64_t excluded = AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_BE |
                                   AV_PIX_FMT_FLAG_BITSTREAM | AV_PIX_FMT_FLAG_HWACCEL |
@@ -191,8 +196,9 @@ bool YuvToRgb::reads(AVPixelFormat format)
 
 AVChromaLocation YuvToRgb::chromaLocationOf(const AVFrame& frame)
 {
-    if (frame.chroma_location != AVCHROMA_LOC_UNSPECIFIED)
+    if (frame.chroma_location != AVCHROMA_LOC_UNSPECIFIED) {
         return frame.chroma_location;
+    }
     // JPEG's way, which full-range pictures follow where chroma has half the lines too, and MPEG's.
     const AVPixFmtDescriptor* const format =
         av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
@@ -246,8 +252,9 @@ void YuvToRgb::convert(const AVFrame& frame, QImage& image) const
 {
     LineConverter lines(frame, m_matrix);
     if (image.format() == QImage::Format_ARGB32) {
-        for (int line = 0; line < frame.height; ++line)
+        for (int line = 0; line < frame.height; ++line) {
             lines.convert(line, reinterpret_cast<QRgb*>(image.scanLine(line)));
+        }
         return;
     }
     std::vector<QRgb> pixels(static_cast<size_t>(frame.width));

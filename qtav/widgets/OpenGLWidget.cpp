@@ -66,15 +66,17 @@ void OpenGLWidget::initializeGL()
         m_program->addShaderFromSourceCode(QOpenGLShader::Vertex, vertexShader) &&
         m_program->addShaderFromSourceCode(QOpenGLShader::Fragment, fragmentShader) &&
         m_program->link();
-    if (!works)
+    if (!works) {
         qWarning() << "Cannot draw with OpenGL:" << m_program->log();
+    }
     m_isUploaded = false;
 }
 
 void OpenGLWidget::releaseResources()
 {
-    if (!m_program && !m_texture)
+    if (!m_program && !m_texture) {
         return;
+    }
     makeCurrent();
     m_texture.reset();
     m_program.reset();
@@ -114,12 +116,14 @@ void OpenGLWidget::paintGL()
     QOpenGLFunctions* gl = context()->functions();
     gl->glClearColor(0.0F, 0.0F, 0.0F, 1.0F);
     gl->glClear(GL_COLOR_BUFFER_BIT);
-    if (!m_isUploaded)
+    if (!m_isUploaded) {
         upload();
+    }
     noteScreen(size() * devicePixelRatioF());
     const QRect place = target(m_picture);
-    if (m_texture && m_program && m_program->isLinked() && !place.isEmpty())
+    if (m_texture && m_program && m_program->isLinked() && !place.isEmpty()) {
         drawInto(place, screenSize());
+    }
 }
 
 void OpenGLWidget::drawInto(const QRect& place, const QSize& whole)

@@ -51,8 +51,9 @@ private:
     [[nodiscard]] QByteArray made(const QByteArray& name, const QByteArray& content) const
     {
         QFile file(QFile::decodeName(path(name)));
-        if (file.open(QIODevice::WriteOnly))
+        if (file.open(QIODevice::WriteOnly)) {
             file.write(content);
+        }
         return path(name);
     }
     [[nodiscard]] QByteArray content(const QByteArray& name) const
@@ -63,8 +64,9 @@ private:
     static void addWays()
     {
         QTest::addColumn<Way>("way");
-        for (const NamedWay& named : ways)
+        for (const NamedWay& named : ways) {
             QTest::newRow(named.name) << named.way;
+        }
     }
 
 private slots:
@@ -131,17 +133,20 @@ private slots:
                 const QByteArray from = made(name, name);
                 threads.emplace_back([&, from, to, racer] {
                     --waiting;
-                    while (waiting > 0)
+                    while (waiting > 0) {
                         std::this_thread::yield();
+                    }
                     const Outcome outcome = way(from, to);
                     winners += outcome == Outcome::Done ? 1 : 0;
                     losers += outcome == Outcome::NameTaken ? 1 : 0;
-                    if (outcome == Outcome::Done)
+                    if (outcome == Outcome::Done) {
                         winner = racer;
+                    }
                 });
             }
-            for (std::thread& thread : threads)
+            for (std::thread& thread : threads) {
                 thread.join();
+            }
             QCOMPARE(winners.load(), 1);
             QCOMPARE(losers.load(), racers - 1);
             QCOMPARE(content(target), "old" + QByteArray::number(winner.load()));

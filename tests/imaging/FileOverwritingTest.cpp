@@ -91,8 +91,9 @@ private slots:
 
     void publish_overwrites_whenTheFileIsAnothersInAFolderForAll()
     {
-        if (::geteuid() != 0)
+        if (::geteuid() != 0) {
             QSKIP("Only root can make a file and write it as somebody else.");
+        }
         QVERIFY(setMode(m_folder->path(), 01777));
         QCOMPARE(publishedByNobody(path("file"), ExistingFile::Replace), WriteResult::Written);
         QCOMPARE(read(path("file")), QByteArray("new"));
@@ -107,8 +108,9 @@ private slots:
         QVERIFY(put(source, "mounted"));
         const QByteArray target = QFile::encodeName(path("file"));
         if (::mount(QFile::encodeName(source).constData(), target.constData(), nullptr, MS_BIND,
-                    nullptr) != 0)
+                    nullptr) != 0) {
             QSKIP("Mounting a file needs root's rights.");
+        }
         const WriteResult result =
             FilePublisher::publish(path("file"), "new", ExistingFile::Replace);
         QCOMPARE(::umount(target.constData()), 0);

@@ -255,8 +255,9 @@ private slots:
     void publish_failsWithoutATrace_whenTheDiskIsFull()
     {
         const testsupport::SmallDisk disk;
-        if (!disk.isThere())
+        if (!disk.isThere()) {
             QSKIP("Mounting a small disk needs Linux and root's rights.");
+        }
         const auto entries = [&disk] {
             return QDir(disk.path()).entryList(QDir::Files | QDir::Hidden);
         };
@@ -323,8 +324,9 @@ private slots:
                     const QByteArray content(1000 + number, static_cast<char>('a' + number));
                     const WriteResult result = FilePublisher::publish(
                         path(QByteArray::number(name).constData()), content, ExistingFile::Keep);
-                    if (result == WriteResult::Failed)
+                    if (result == WriteResult::Failed) {
                         return 255;
+                    }
                     won += result == WriteResult::Written ? 1 : 0;
                 }
                 return won;
@@ -354,8 +356,9 @@ private slots:
                 for (;;) {
                     for (const QByteArray& content : {first, second}) {
                         if (FilePublisher::publish(path("file"), content, ExistingFile::Replace) !=
-                            WriteResult::Written)
+                            WriteResult::Written) {
                             return 1;
+                        }
                     }
                 }
             });

@@ -46,8 +46,9 @@ int exitCode(pid_t child)
 WriteResult publishedByNobody(const QString& path, ExistingFile existing, const QByteArray& content)
 {
     const pid_t child = startProcess([&] {
-        if (::geteuid() == 0 && ::setuid(nobody) != 0)
+        if (::geteuid() == 0 && ::setuid(nobody) != 0) {
             return -1;
+        }
         return static_cast<int>(FilePublisher::publish(path, content, existing));
     });
     return static_cast<WriteResult>(exitCode(child));

@@ -23,8 +23,9 @@ QImage variedImage(QImage::Format format)
 {
     QImage image(7, 5, QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             image.setPixel(x, y, qRgba(30 * x, 40 * y, 11 * x * y % 256, 255 - 7 * x));
+        }
     }
     return image.convertToFormat(format);
 }
@@ -32,8 +33,9 @@ QImage variedImage(QImage::Format format)
 Values pixelAt(const cv::Mat& mat, int x, int y)
 {
     Values values;
-    for (int channel = 0; channel < mat.channels(); ++channel)
+    for (int channel = 0; channel < mat.channels(); ++channel) {
         values.append(mat.ptr(y)[x * mat.channels() + channel]);
+    }
     return values;
 }
 
@@ -41,18 +43,21 @@ template <typename Sample>
 Reals firstPixel(const cv::Mat& mat)
 {
     Reals values;
-    for (int channel = 0; channel < mat.channels(); ++channel)
+    for (int channel = 0; channel < mat.channels(); ++channel) {
         values.append(static_cast<double>(mat.ptr<Sample>(0)[channel]));
+    }
     return values;
 }
 
 bool isClose(const Reals& values, const Reals& expected)
 {
-    if (values.size() != expected.size())
+    if (values.size() != expected.size()) {
         return false;
+    }
     for (int i = 0; i < values.size(); ++i) {
-        if (std::abs(values[i] - expected[i]) > 1e-6)
+        if (std::abs(values[i] - expected[i]) > 1e-6) {
             return false;
+        }
     }
     return true;
 }
@@ -177,8 +182,9 @@ private slots:
         const cv::Mat mat(2, 2, CV_8UC1, cv::Scalar(9));
         const QImage image = QtOcv::matToImage_shared(mat, QImage::Format_Invalid);
         QCOMPARE(image.colorCount(), 256);
-        for (int level = 0; level < 256; ++level)
+        for (int level = 0; level < 256; ++level) {
             QCOMPARE(image.color(level), qRgba(level, level, level, 255));
+        }
         QVERIFY(QtOcv::matToImage_shared(mat, QImage::Format_Grayscale8).colorTable().isEmpty());
     }
 
@@ -235,8 +241,9 @@ private slots:
         QFETCH(QImage::Format, format);
         QFETCH(Values, pixel);
         const QImage image = filledImage(format, qRgba(255, 0, 0, 119));
-        if (pixel.isEmpty())
+        if (pixel.isEmpty()) {
             pixel = coarsePixel(image);
+        }
         const cv::Mat mat = QtOcv::imageToMat(image, keepChannels, QtOcv::Bgr);
         QCOMPARE(mat.cols, 5);
         QCOMPARE(mat.rows, 3);
@@ -484,8 +491,9 @@ private slots:
     void matToImage_ownsItsPixels_data()
     {
         QTest::addColumn<int>("type");
-        for (const int type : {CV_8UC1, CV_8UC3, CV_8UC4, CV_16UC4, CV_32FC3})
+        for (const int type : {CV_8UC1, CV_8UC3, CV_8UC4, CV_16UC4, CV_32FC3}) {
             QTest::addRow("%d", type) << type;
+        }
     }
     void matToImage_ownsItsPixels()
     {
@@ -504,8 +512,9 @@ private slots:
         QTest::addColumn<int>("depth");
         QTest::addColumn<int>("order");
         for (const int depth : {CV_8U, CV_16U, CV_32F}) {
-            for (const int order : {0, 1, 2})
+            for (const int order : {0, 1, 2}) {
                 QTest::addRow("depth %d, order %d", depth, order) << depth << order;
+            }
         }
     }
     void conversions_areInverse()

@@ -36,8 +36,9 @@ QRect boundsOf(const QImage& image, Condition holds)
     QRect bounds;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (holds(image.pixel(x, y)))
+            if (holds(image.pixel(x, y))) {
                 bounds |= QRect(x, y, 1, 1);
+            }
         }
     }
     return bounds;
@@ -81,8 +82,9 @@ void addAnchors()
     const std::array<const char*, 9> names{"top left",    "top",    "top right",
                                            "left",        "centre", "right",
                                            "bottom left", "bottom", "bottom right"};
-    for (int index = 0; index < 9; ++index)
+    for (int index = 0; index < 9; ++index) {
         QTest::newRow(names[static_cast<std::size_t>(index)]) << index;
+    }
 }
 
 } // namespace
@@ -150,8 +152,9 @@ private slots:
         QFETCH(int, index);
         QImage picture(101, 51, QImage::Format_RGB32);
         for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x)
+            for (int x = 0; x < picture.width(); ++x) {
                 picture.setPixel(x, y, qRgb(2 * x, 5 * y, 255));
+            }
         }
         WatermarkProfile profile(nullptr);
         setUpPicture(profile, picture, QStringLiteral("gradient.png"));
@@ -248,8 +251,9 @@ private slots:
         QVERIFY(std::abs(actual.right() - wanted.right()) <= 1);
         QVERIFY(std::abs(actual.top() - wanted.top()) <= 1);
         QVERIFY(std::abs(actual.bottom() - wanted.bottom()) <= 1);
-        if (index == 0)
+        if (index == 0) {
             QCOMPARE(result, expected);
+        }
     }
 
     void text_takesTheWholeColor_whenAllIsOpaque()
@@ -342,8 +346,9 @@ private slots:
         QFETCH(int, type);
         QImage image(64, 64, QImage::Format_ARGB32);
         for (int y = 0; y < 64; ++y) {
-            for (int x = 0; x < 64; ++x)
+            for (int x = 0; x < 64; ++x) {
                 image.setPixel(x, y, qRgba(4 * x, 4 * y, 200, x + y));
+            }
         }
         QImage picture(60, 60, QImage::Format_ARGB32);
         picture.fill(Qt::white);
@@ -384,8 +389,9 @@ private slots:
         QTest::addColumn<QImage::Format>("format");
         for (const auto format :
              {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_Grayscale8,
-              QImage::Format_RGB888, QImage::Format_RGB32, QImage::Format_RGBA8888})
+              QImage::Format_RGB888, QImage::Format_RGB32, QImage::Format_RGBA8888}) {
             QTest::addRow("%d", format) << format;
+        }
     }
     void text_isDrawn_onEveryFormat()
     {

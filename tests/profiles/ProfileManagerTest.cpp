@@ -35,8 +35,9 @@ QStringList namesOf(const ProfileManager& manager)
 {
     QStringList names;
     const QList<BaseProfile*> profiles = manager.profiles();
-    for (const BaseProfile* profile : profiles)
+    for (const BaseProfile* profile : profiles) {
         names.append(profile->name());
+    }
     return names;
 }
 
@@ -60,8 +61,9 @@ private:
 
     std::unique_ptr<ProfileManager> managerOf(const QByteArray& text)
     {
-        if (!m_home->writeSettingsFile(fileName, text))
+        if (!m_home->writeSettingsFile(fileName, text)) {
             qFatal("The settings file of the case cannot be written");
+        }
         return emptyManager();
     }
 
@@ -371,8 +373,9 @@ private slots:
     void saveProfiles_numbersProfilesInListOrder()
     {
         const auto manager = emptyManager();
-        for (int i = 0; i < 12; ++i)
+        for (int i = 0; i < 12; ++i) {
             addNamed(*manager, QString::number(i));
+        }
         manager->saveProfiles();
         QVERIFY(m_home->copySettingsFile(fileName, QStringLiteral("copy.ini")));
         const ProfileManager reader(QStringLiteral("copy.ini"), factory(), false);
@@ -441,8 +444,9 @@ private slots:
     void thousandProfiles_comeBackInOrder()
     {
         const auto manager = emptyManager();
-        for (int i = 0; i < 1000; ++i)
+        for (int i = 0; i < 1000; ++i) {
             addNamed(*manager, QString::number(i));
+        }
         manager->setLastUsedProfile(manager->profiles().at(500));
         QVERIFY(m_home->copySettingsFile(fileName, QStringLiteral("copy.ini")));
         const ProfileManager reader(QStringLiteral("copy.ini"), factory(), false);

@@ -16,8 +16,9 @@ namespace {
 /// So many turns of the event loop.
 void turnEventLoop(int times)
 {
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times; ++i) {
         QCoreApplication::processEvents();
+    }
 }
 
 /// Thread sanitizer makes starting and ending threads many times as slow.
@@ -62,8 +63,9 @@ Resources settledResources()
     while (quiet.elapsed() < 500) {
         QTest::qWait(20);
         const Resources next = now();
-        if (!(next == last))
+        if (!(next == last)) {
             quiet.restart();
+        }
         last = next;
     }
     return last;
@@ -112,14 +114,15 @@ void AVPlayerLifetimeTest::player_canEnd_inTheMiddleOf()
             stage->player.play(testsupport::samplePath(file));
         } else {
             QVERIFY(stage->open(file));
-            if (activity == QLatin1String("playing"))
+            if (activity == QLatin1String("playing")) {
                 stage->player.play();
-            else if (activity == QLatin1String("seeking"))
+            } else if (activity == QLatin1String("seeking")) {
                 stage->player.seek(4000 + round);
-            else if (activity == QLatin1String("stepping"))
+            } else if (activity == QLatin1String("stepping")) {
                 stage->player.stepForward();
-            else
+            } else {
                 QVERIFY(stage->seek(4000));
+            }
         }
         turnEventLoop(turns);
         stage.reset();
@@ -134,8 +137,9 @@ void AVPlayerLifetimeTest::player_canEnd_withAnsweredButUnreadCommands()
         QVERIFY(stage->open(QStringLiteral("h264_baseline.mp4")));
         // This one's answer shows that the decoding thread is running; the next are not waited for.
         QVERIFY(stage->seek(400));
-        for (int i = 0; i < round; ++i)
+        for (int i = 0; i < round; ++i) {
             stage->player.stepForward();
+        }
     }
 }
 
@@ -150,8 +154,9 @@ void AVPlayerLifetimeTest::files_canBeOpenedAndClosed_manyTimes()
         QCOMPARE(stage.number(), 0);
         stage.player.stop();
         QVERIFY(!stage.screen.frame.isValid());
-        if (round == files.size())
+        if (round == files.size()) {
             before = settledResources();
+        }
     }
     QCOMPARE(settledResources(), *before);
 }
@@ -197,8 +202,9 @@ void AVPlayerLifetimeTest::commands_inAnyOrder_leaveAPlayerThatWorks()
             stage.player.stepBackward();
             break;
         case 6:
-            if (random() % 4 == 0)
+            if (random() % 4 == 0) {
                 stage.player.stop();
+            }
             break;
         case 7:
             stage.player.videoCapture()->capture();

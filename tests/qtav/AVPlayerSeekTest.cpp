@@ -26,15 +26,17 @@ constexpr int moveCount = 1000;
 void addFiles(const QStringList& files)
 {
     QTest::addColumn<QString>("file");
-    for (const QString& file : files.mid(0, mostFiles))
+    for (const QString& file : files.mid(0, mostFiles)) {
         QTest::newRow(qPrintable(file)) << file;
+    }
 }
 
 QStringList namesOf(std::initializer_list<const char*> files)
 {
     QStringList names;
-    for (const char* file : files)
+    for (const char* file : files) {
         names.append(QString::fromLatin1(file));
+    }
     return names;
 }
 
@@ -78,16 +80,18 @@ void AVPlayerSeekTest::steps_meetEveryFrameOnce_toTheEndAndBack()
     Stage stage;
     QVERIFY(stage.open(file));
     QList<Shown> expected = expectedFrom(sample, 0);
-    for (int n = 1; n < sample.frames; ++n)
+    for (int n = 1; n < sample.frames; ++n) {
         QVERIFY(stage.stepForward());
+    }
     QCOMPARE(stage.screen.shown, expected);
     stage.player.stepForward(); // there is none
     stage.settle();
     QCOMPARE(stage.screen.shown.size(), sample.frames);
 
     stage.screen.shown = {stage.screen.shown.constLast()};
-    for (int n = 1; n < sample.frames; ++n)
+    for (int n = 1; n < sample.frames; ++n) {
         QVERIFY(stage.stepBackward());
+    }
     std::reverse(expected.begin(), expected.end());
     QCOMPARE(stage.screen.shown, expected);
     stage.player.stepBackward(); // there is none
@@ -99,10 +103,12 @@ void AVPlayerSeekTest::steps_addUpToALimit_whenNobodyWaits()
 {
     Stage stage;
     QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
-    for (int i = 0; i < 30; ++i)
+    for (int i = 0; i < 30; ++i) {
         stage.player.stepForward();
-    for (int i = 0; i < 10; ++i)
+    }
+    for (int i = 0; i < 10; ++i) {
         stage.player.stepBackward();
+    }
     stage.settle();
     QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 20, patienceMs);
     QVERIFY(stage.screen.shown.size() <= 41);
@@ -158,8 +164,9 @@ void AVPlayerSeekTest::mixedStepsAndSeeks_endOnTheRightFrame()
             } else {
                 const int steps = int(random() % 7) - 3;
                 stage.player.setPosition(ms);
-                for (int i = 0; i < std::abs(steps); ++i)
+                for (int i = 0; i < std::abs(steps); ++i) {
                     steps > 0 ? stage.player.stepForward() : stage.player.stepBackward();
+                }
                 n = std::clamp(n + steps, 0, last);
             }
         }
@@ -195,8 +202,9 @@ void AVPlayerSeekTest::seek_showsTheFirstFrameAtOrAfter_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"variable_rate.mp4", "h264_23976fps.mkv", "h264.ts", "wmv2.wmv",
-                             "h264_bframes.avi", "sound_earlier.mkv", "no_cues.webm"})
+                             "h264_bframes.avi", "sound_earlier.mkv", "no_cues.webm"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void AVPlayerSeekTest::seek_showsTheFirstFrameAtOrAfter()
@@ -244,8 +252,9 @@ void AVPlayerSeekTest::seek_playsOn_whilePlaying()
         QVERIFY(stage.player.isPlaying());
         QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 4, patienceMs);
         QCOMPARE(stage.screen.shown.constFirst().number, n);
-        for (int i = 1; i < stage.screen.shown.size(); ++i)
+        for (int i = 1; i < stage.screen.shown.size(); ++i) {
             QVERIFY(stage.screen.shown.at(i).number > stage.screen.shown.at(i - 1).number);
+        }
     }
 }
 
@@ -292,20 +301,22 @@ void AVPlayerSeekTest::newestSeek_wins_andAloneIsAnswered()
     QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
     std::mt19937 random(5);
     stage.screen.shown.clear();
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         stage.player.seek(qint64(random() % 20000));
+    }
     stage.player.seek(newest);
     QVERIFY(sought.wait(patienceMs));
     QCOMPARE(sought.at(0).at(0).toLongLong(), expected.ms);
     QCOMPARE(stage.screen.shown.constFirst(), expected);
     stage.settle();
     QCOMPARE(sought.count(), 1);
-    if (!plays)
+    if (!plays) {
         QCOMPARE(stage.screen.shown.size(), 1);
-    else if (newest > stage.player.duration())
+    } else if (newest > stage.player.duration()) {
         QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
-    else
+    } else {
         QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
+    }
 }
 
 /// With the event loop between them each may be answered, but the last one is.

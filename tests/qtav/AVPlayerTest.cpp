@@ -79,8 +79,9 @@ void AVPlayerTest::play_showsEveryFrame_andPausesOnTheLast()
     QCOMPARE(stage.player.notifyInterval(), 40);
     // A machine under load may drop some, but shows none twice or out of order.
     const QList<Shown> all = stage.screen.shown;
-    for (int i = 1; i < all.size(); ++i)
+    for (int i = 1; i < all.size(); ++i) {
         QVERIFY(all.at(i).number > all.at(i - 1).number);
+    }
     QCOMPARE(all.size() + stage.player.statistics().droppedFrames, sample.frames);
     QCOMPARE(all.constLast(), expectedFrom(sample, 0).constLast());
 }
@@ -120,8 +121,9 @@ void AVPlayerTest::play_startsOver_fromTheLastFrame_howeverItCameThere()
     stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
     QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
     QVERIFY(stage.seek(position));
-    for (int i = 0; i < steps; ++i)
+    for (int i = 0; i < steps; ++i) {
         stage.player.stepForward();
+    }
     QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 49, patienceMs);
     stage.settle();
     stage.screen.shown.clear();
@@ -185,8 +187,9 @@ void AVPlayerTest::playback_ends_forEachFormat_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"variable_rate.mkv", "mpeg2.ts", "h264_one_frame.mp4", "sound.mp4",
-                             "edit_list.mp4", "raw.h264", "mpeg4_packed_bframes.avi"})
+                             "edit_list.mp4", "raw.h264", "mpeg4_packed_bframes.avi"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void AVPlayerTest::playback_ends_forEachFormat()
@@ -276,8 +279,9 @@ void AVPlayerTest::unplayableFile_endsInvalidAndStopped_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"empty.mp4", "text.mp4", "random_bytes.mp4", "folder.mp4",
-                             "truncated_without_moov.mp4", "sound_only.mp3", "missing.mp4"})
+                             "truncated_without_moov.mp4", "sound_only.mp3", "missing.mp4"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void AVPlayerTest::unplayableFile_endsInvalidAndStopped()
@@ -386,8 +390,9 @@ void AVPlayerTest::capture_givesTheFrameOnScreen_asADecoderDoes()
     while (const auto packet = decoded.nextVideoPacket()) {
         const bool succeeded = decoded.decoder->decode(*packet);
         const QtAV::VideoFrame frame = succeeded ? decoded.decoder->frame() : QtAV::VideoFrame();
-        if (frame.isValid() && count++ == n)
+        if (frame.isValid() && count++ == n) {
             expected = frame.toImage(frame.imageFormat());
+        }
     }
     QVERIFY(!expected.isNull());
     QVERIFY(image == expected);

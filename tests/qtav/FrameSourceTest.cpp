@@ -34,8 +34,9 @@ struct LongGroups
         QString error;
         source.setScreen({80, 60});
         if (!source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), cacheBytes,
-                         never, error))
+                         never, error)) {
             qFatal("%s", qPrintable(error));
+        }
         show(source.frameAt(ms, never));
     }
 
@@ -53,8 +54,9 @@ struct LongGroups
             ++packets;
             return false;
         });
-        if (found.answer == FrameAnswer::Frame)
+        if (found.answer == FrameAnswer::Frame) {
             show(found);
+        }
         return found;
     }
 
@@ -124,8 +126,9 @@ private:
 void FrameSourceTest::addSamples()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::videoSamplesToRepeat())
+    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         QTest::newRow(qPrintable(sample.file)) << sample.file;
+    }
 }
 
 qint64 FrameSourceTest::cacheFor(const Sample& sample)
@@ -193,12 +196,14 @@ void FrameSourceTest::mixedStepsAndSeeks_endOnTheRightFrame()
             QCOMPARE(found.answer, FrameAnswer::Frame);
             n = testsupport::frameFrom(sample, ms);
         }
-        if (found.answer == FrameAnswer::Frame)
+        if (found.answer == FrameAnswer::Frame) {
             frame = found.frame;
+        }
         source.setFocus(frame.timestamp());
         for (auto fills = random() % 20;
-             fills > 0 && source.prepare(FrameSource::longestRest, never);)
+             fills > 0 && source.prepare(FrameSource::longestRest, never);) {
             --fills;
+        }
         QCOMPARE(shown(frame), expected(sample, n));
     }
 }
@@ -241,8 +246,9 @@ void FrameSourceTest::preparing_keepsForward_afterAStepForward()
     LongGroups opened(9000);
     QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, 226);
     int prepared = 0;
-    while (opened.source.prepare(FrameSource::Rest(500), never))
+    while (opened.source.prepare(FrameSource::Rest(500), never)) {
         ++prepared;
+    }
     QVERIFY(prepared > 5);
     QVERIFY(prepared < 50);
     for (int n = 227; n < 232; ++n) {
@@ -257,8 +263,9 @@ void FrameSourceTest::smallFrames_areMetOnceEach_toTheEndAndBack_data()
     QTest::addColumn<QString>("file");
     for (const char* file :
          {"h264_gop250.mp4", "h264_open_gop_bframes.mp4", "hevc_open_gop.mp4", "mpeg2.ts",
-          "variable_rate.mkv", "turned_90_anamorphic.mp4", "hevc_10bit.mkv", "vp9_alpha.webm"})
+          "variable_rate.mkv", "turned_90_anamorphic.mp4", "hevc_10bit.mkv", "vp9_alpha.webm"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 /// With so little memory that only small frames fit, and steps that find what was prepared.
@@ -320,8 +327,9 @@ void FrameSourceTest::decodeAnew_givesTheDecodedPicture_ofASmallFrame()
     QVERIFY(!decoded.frame.isScaledDown());
     LongGroups opened(9000, smallFrames);
     opened.fillShortly();
-    while (shown(opened.frame).number > 199)
+    while (shown(opened.frame).number > 199) {
         QCOMPARE(opened.step(&FrameSource::before).answer, FrameAnswer::Frame);
+    }
     QVERIFY(opened.frame.isScaledDown());
     const FrameResult anew = opened.source.decodeAnew(opened.frame.timestamp(), never);
     QCOMPARE(anew.answer, FrameAnswer::Frame);
@@ -347,8 +355,9 @@ void FrameSourceTest::supplyBehind_tellsTheTimeToMore_untilEnoughIsThere()
 void FrameSourceTest::filling_returnsToWhereGoingForwardDecodesOn()
 {
     LongGroups opened(9000);
-    for (int n = 224; n > 220; --n)
+    for (int n = 224; n > 220; --n) {
         QCOMPARE(shown(opened.step(&FrameSource::before).frame).number, n);
+    }
     opened.fill();
     QVERIFY(opened.packets > 100);
     for (int n = 222; n < 240; ++n) {
@@ -360,8 +369,9 @@ void FrameSourceTest::filling_returnsToWhereGoingForwardDecodesOn()
 void FrameSourceTest::stepForward_endsTheFillingUnderway_withoutStartingAgain()
 {
     LongGroups opened(9000);
-    for (int n = 224; n > 220; --n)
+    for (int n = 224; n > 220; --n) {
         QCOMPARE(shown(opened.step(&FrameSource::before).frame).number, n);
+    }
     opened.fill(50);
     int packets = 0;
     for (int n = 222; n <= 226; ++n) {
@@ -391,8 +401,9 @@ void FrameSourceTest::filling_ends_withoutAnyStep()
     QVERIFY(source.open(path, bytes, never, error));
     source.setFocus(source.frameAt(15000, never).frame.timestamp());
     int fills = 0;
-    while (source.prepare(FrameSource::longestRest, never))
+    while (source.prepare(FrameSource::longestRest, never)) {
         QVERIFY(++fills < 2000);
+    }
     QVERIFY(source.cache().byteCount() <= bytes);
 }
 
@@ -431,8 +442,9 @@ void FrameSourceTest::open_fails_whenNothingCanBeDecoded_data()
 {
     QTest::addColumn<QString>("file");
     for (const Sample& sample : testsupport::brokenSamples() + testsupport::noVideoSamples()) {
-        if (sample.has(Trait::Unopenable) || sample.has(Trait::NoVideo))
+        if (sample.has(Trait::Unopenable) || sample.has(Trait::NoVideo)) {
             QTest::newRow(qPrintable(sample.file)) << sample.file;
+        }
     }
     QTest::newRow("missing") << QStringLiteral("no such file.mp4");
 }
@@ -451,8 +463,9 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack_data(
 {
     QTest::addColumn<QString>("file");
     for (const Sample& sample : testsupport::brokenSamples()) {
-        if (sample.has(Trait::Damaged))
+        if (sample.has(Trait::Damaged)) {
             QTest::newRow(qPrintable(sample.file)) << sample.file;
+        }
     }
 }
 
@@ -470,8 +483,9 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
     int forwards = 1;
     for (;;) {
         const FrameResult found = source.after(time, never);
-        if (found.answer != FrameAnswer::Frame)
+        if (found.answer != FrameAnswer::Frame) {
             break;
+        }
         QVERIFY(found.frame.timestamp() > time);
         time = found.frame.timestamp();
         source.setFocus(time);
@@ -482,12 +496,14 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
     QVERIFY(forwards > 1);
     // What is done meanwhile comes to its end as well.
     int prepared = 0;
-    while (source.prepare(FrameSource::longestRest, never))
+    while (source.prepare(FrameSource::longestRest, never)) {
         QVERIFY(++prepared <= 10 * sample.frames);
+    }
     for (int backwards = 1;; ++backwards) {
         const FrameResult found = source.before(time, never);
-        if (found.answer != FrameAnswer::Frame)
+        if (found.answer != FrameAnswer::Frame) {
             break;
+        }
         QVERIFY(found.frame.timestamp() < time);
         time = found.frame.timestamp();
         source.setFocus(time);

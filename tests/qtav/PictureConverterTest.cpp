@@ -32,13 +32,15 @@ FramePtr ramp(AVPixelFormat format, AVChromaLocation location, double offset)
     frame->color_range = AVCOL_RANGE_MPEG;
     frame->colorspace = AVCOL_SPC_BT709;
     frame->chroma_location = location;
-    if (av_frame_get_buffer(frame.get(), 0) < 0)
+    if (av_frame_get_buffer(frame.get(), 0) < 0) {
         qFatal("out of memory");
+    }
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
     const int step = 1 << descriptor.log2_chroma_w;
     for (int y = 0; y < frameHeight; ++y) {
-        for (int x = 0; x < frameWidth; ++x)
+        for (int x = 0; x < frameWidth; ++x) {
             frame->data[0][y * frame->linesize[0] + x] = 126;
+        }
     }
     for (int y = 0; y < frameHeight >> descriptor.log2_chroma_h; ++y) {
         for (int x = 0; x < frameWidth / step; ++x) {
@@ -58,21 +60,24 @@ FramePtr grey(int width, int height, const QString& pattern)
     frame->height = height;
     frame->format = AV_PIX_FMT_YUV420P;
     frame->color_range = AVCOL_RANGE_JPEG;
-    if (av_frame_get_buffer(frame.get(), 0) < 0)
+    if (av_frame_get_buffer(frame.get(), 0) < 0) {
         qFatal("out of memory");
+    }
     std::mt19937 random(3);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             int value = int(random() % 256);
-            if (pattern == QLatin1String("lines"))
+            if (pattern == QLatin1String("lines")) {
                 value = x % 7 == 0 || y % 11 == 0 ? 235 : 20;
-            else if (pattern == QLatin1String("squares"))
+            } else if (pattern == QLatin1String("squares")) {
                 value = (x + y) % 2 == 0 ? 230 : 30;
+            }
             frame->data[0][y * frame->linesize[0] + x] = static_cast<uint8_t>(value);
         }
     }
-    for (const int plane : {1, 2})
+    for (const int plane : {1, 2}) {
         std::memset(frame->data[plane], 128, size_t(frame->linesize[plane]) * size_t(height / 2));
+    }
     return frame;
 }
 
@@ -86,9 +91,10 @@ double meanUnder(const AVFrame& frame, const QSize& size, int x, int y)
     };
     double sum = 0.0;
     for (int v = int(y * stepY); v < std::min(frame.height, int((y + 1) * stepY) + 1); ++v) {
-        for (int u = int(x * stepX); u < std::min(frame.width, int((x + 1) * stepX) + 1); ++u)
+        for (int u = int(x * stepX); u < std::min(frame.width, int((x + 1) * stepX) + 1); ++u) {
             sum += frame.data[0][v * frame.linesize[0] + u] *
                    overlap(u, x * stepX, (x + 1) * stepX) * overlap(v, y * stepY, (y + 1) * stepY);
+        }
     }
     return sum / (stepX * stepY);
 }

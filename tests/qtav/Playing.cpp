@@ -11,8 +11,9 @@ void Screen::present(const QtAV::VideoFrame& newFrame)
     const bool isRefined =
         frame.isScaledDown() && newFrame.isValid() && newFrame.timestamp() == frame.timestamp();
     frame = newFrame;
-    if (frame.isValid() && !isRefined)
+    if (frame.isValid() && !isRefined) {
         shown.append(decoding::shown(frame));
+    }
     Q_EMIT presented();
 }
 
@@ -28,8 +29,9 @@ bool Stage::waitForStatus(QtAV::MediaStatus status)
 {
     QSignalSpy changed(&player, &AVPlayer::mediaStatusChanged);
     while (player.mediaStatus() != status) {
-        if (!changed.wait(patienceMs))
+        if (!changed.wait(patienceMs)) {
             return false;
+        }
     }
     return true;
 }
@@ -58,8 +60,9 @@ bool Stage::waitForOther(const std::function<void()>& action)
     QSignalSpy presented(&screen, &Screen::presented);
     action();
     while (screen.frame.timestamp() == before) {
-        if (!presented.wait(patienceMs))
+        if (!presented.wait(patienceMs)) {
             return false;
+        }
     }
     return true;
 }

@@ -112,8 +112,9 @@ private:
         const qint64 got = m_source->read(samples.data(), samples.size());
         m_heard += got;
         m_record.heardBytes += got;
-        if (got < samples.size() || m_heard > m_record.failsAfter)
+        if (got < samples.size() || m_heard > m_record.failsAfter) {
             m_timer.stop();
+        }
     }
 
     const std::shared_ptr<Record> m_shared;

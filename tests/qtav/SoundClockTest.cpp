@@ -59,8 +59,9 @@ public:
     double heard() const { return std::max(0.0, m_now - m_silence); }
     double known() const
     {
-        if (m_now < m_silence)
+        if (m_now < m_silence) {
             return 0.0;
+        }
         const double taken = (std::floor(heard() / m_block) + 1.0) * m_block;
         return std::floor(taken / m_quantum) * m_quantum;
     }

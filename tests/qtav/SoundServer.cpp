@@ -59,8 +59,9 @@ bool SoundServer::start()
     }
     const QDeadlineTimer patience(patienceMs);
     while (m_process.state() == QProcess::Running && !patience.hasExpired()) {
-        if (control({QStringLiteral("info")}))
+        if (control({QStringLiteral("info")})) {
             return true;
+        }
         QThread::msleep(20);
         m_process.waitForFinished(0);
     }
@@ -70,8 +71,9 @@ bool SoundServer::start()
 
 void SoundServer::kill()
 {
-    if (m_process.state() == QProcess::NotRunning)
+    if (m_process.state() == QProcess::NotRunning) {
         return;
+    }
     m_process.kill();
     m_process.waitForFinished(patienceMs);
 }
@@ -117,16 +119,19 @@ bool SoundRecording::start(int latencyMs)
     QStringList arguments{QStringLiteral("--raw"), QStringLiteral("--format=s16le"),
                           QStringLiteral("--rate=%1").arg(rate), QStringLiteral("--channels=1"),
                           QStringLiteral("--device=quiet.monitor")};
-    if (latencyMs > 0)
+    if (latencyMs > 0) {
         arguments.append(QStringLiteral("--latency-msec=%1").arg(latencyMs));
+    }
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &SoundRecording::take);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(QStringLiteral("parec"), arguments);
-    if (!m_process.waitForStarted(patienceMs))
+    if (!m_process.waitForStarted(patienceMs)) {
         return false;
+    }
     const QDeadlineTimer patience(patienceMs);
-    while (m_samples.isEmpty() && !patience.hasExpired())
+    while (m_samples.isEmpty() && !patience.hasExpired()) {
         m_process.waitForReadyRead(100);
+    }
     return !m_samples.isEmpty();
 }
 
@@ -144,8 +149,9 @@ void SoundRecording::take()
     const Time now = std::chrono::steady_clock::now();
     const auto before = std::chrono::nanoseconds(qint64(m_samples.size()) / qint64(sizeof(qint16)) *
                                                  1000000000 / rate);
-    if (now - m_lastArrival > pauseBetweenBlocks)
+    if (now - m_lastArrival > pauseBetweenBlocks) {
         m_begins.push_back(now - before);
+    }
     m_samples += m_process.readAllStandardOutput();
     m_lastArrival = now;
 }
@@ -175,8 +181,9 @@ QList<SoundRecording::Time> SoundRecording::toneStarts() const
             ++silent;
             continue;
         }
-        if (silent >= silenceBetweenTones)
+        if (silent >= silenceBetweenTones) {
             starts.append(first + std::chrono::nanoseconds(qint64(i) * 1000000000 / rate));
+        }
         silent = 0;
     }
     return starts;

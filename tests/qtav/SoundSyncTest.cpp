@@ -26,8 +26,9 @@ public:
         const Time now = std::chrono::steady_clock::now();
         const QImage image = frame.toImage(QImage::Format_RGB32);
         const int number = testsupport::frameNumber(image).value_or(-1);
-        if (number % framesASecond == firstOfFlash && isWhite(image))
+        if (number % framesASecond == firstOfFlash && isWhite(image)) {
             flashes.append(now);
+        }
         last = number;
     }
 
@@ -44,8 +45,9 @@ private:
         for (const double part : {0.25, 0.5, 0.75, 0.95}) {
             const int x = int(part * image.width());
             const int y = int((0.2 + 0.78 * part) * image.height());
-            if (qGray(image.pixel(x, y)) < white)
+            if (qGray(image.pixel(x, y)) < white) {
                 return false;
+            }
         }
         return true;
     }
@@ -60,8 +62,9 @@ std::vector<double> offsets(const QList<SoundRecording::Time>& flashes,
         double nearest = 1000.0 * seconds;
         for (const auto beep : beeps) {
             const double offset = std::chrono::duration<double, std::milli>(flash - beep).count();
-            if (std::abs(offset) < std::abs(nearest))
+            if (std::abs(offset) < std::abs(nearest)) {
                 nearest = offset;
+            }
         }
         all.push_back(nearest);
     }
@@ -73,16 +76,18 @@ std::vector<double> offsets(const QList<SoundRecording::Time>& flashes,
 std::vector<double> offsetsInOnePlay(int recordingLatencyMs)
 {
     SoundRecording recording;
-    if (!recording.start(recordingLatencyMs))
+    if (!recording.start(recordingLatencyMs)) {
         return {};
+    }
     FlashScreen screen;
     AVPlayer player;
     player.setRenderer(&screen);
     player.setMediaEndAction(QtAV::MediaEndAction_Pause);
     QSignalSpy paused(&player, &AVPlayer::paused);
     player.play(testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4")));
-    if (!paused.wait(patienceMs))
+    if (!paused.wait(patienceMs)) {
         return {};
+    }
     recording.stop();
     const QList<SoundRecording::Time> beeps = recording.toneStarts();
     qInfo("%d beeps, %d frames dropped.", int(beeps.size()), player.statistics().droppedFrames);
@@ -138,8 +143,9 @@ void SoundSyncTest::flashesAndBeeps_comeTogether()
     bool isTogether = false;
     for (int play = 0; play < mostPlays && !isTogether; ++play) {
         const std::vector<double> all = offsetsInOnePlay(latencyMs);
-        if (all.size() <= seconds / 2)
+        if (all.size() <= seconds / 2) {
             continue;
+        }
         const double median = all.at(all.size() / 2);
         const double spread = all.at(all.size() * 3 / 4) - all.at(all.size() / 4);
         qInfo("%d flashes, %.1f ms after their beeps, between %.1f and %.1f.", int(all.size()),

@@ -19,15 +19,17 @@ namespace {
 
 QVector<qint16> samplesFrom(SoundFile& file, double seconds)
 {
-    if (!file.seek(seconds))
+    if (!file.seek(seconds)) {
         return {};
+    }
     QVector<qint16> all;
     QVector<qint16> part(10007 * 2);
     for (;;) {
         const qint64 bytes = file.read(reinterpret_cast<char*>(part.data()), part.size() * 2);
         all += part.mid(0, int(bytes / 2));
-        if (bytes < part.size() * 2)
+        if (bytes < part.size() * 2) {
             return all;
+        }
     }
 }
 
@@ -60,8 +62,9 @@ void SoundTest::file_givesTheSameSamples_fromAnywhere_data()
     QTest::addColumn<QString>("file");
     for (const char* file :
          {"sound.mp4", "sound_earlier.ts", "sound_earlier.mkv", "sound_later.mp4",
-          "sound_later.mkv", "sound_only.wav", "sound_only.mp3", "sound_with_cover.flac"})
+          "sound_later.mkv", "sound_only.wav", "sound_only.mp3", "sound_with_cover.flac"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void SoundTest::file_givesTheSameSamples_fromAnywhere()

@@ -51,8 +51,9 @@ void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp()
     {
         Stage stage;
         stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
-        if (atStart)
+        if (atStart) {
             gate.shut();
+        }
         stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
         QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, patienceMs);
         if (!atStart) {
@@ -68,8 +69,9 @@ void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp()
         stage.player.play(testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4")));
         QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2, patienceMs);
         QCOMPARE(SoundThread::count(), 2);
-        if (atStart)
+        if (atStart) {
             QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 2, patienceMs);
+        }
         const qint64 heard = devices.record.heardBytes;
         gate.open();
         QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > heard, patienceMs);
@@ -90,8 +92,9 @@ void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp()
     Gate& gate = atStart ? devices.record.start : devices.record.stop;
     {
         Stage stage;
-        if (atStart)
+        if (atStart) {
             gate.shut();
+        }
         stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
         QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, patienceMs);
         gate.shut();
@@ -117,8 +120,9 @@ void SoundThreadTest::threads_areFew_whenAllDevicesHoldThemUp()
         QTRY_COMPARE_WITH_TIMEOUT(devices.record.start.waiting(), SoundThread::maximumCount,
                                   patienceMs);
         waitUntilItIsGivenUp();
-        for (SoundPlayer& player : players)
+        for (SoundPlayer& player : players) {
             player.play(1.0);
+        }
         QCOMPARE(SoundThread::count(), SoundThread::maximumCount);
         // Who was let go does what was wished in the meantime.
         devices.record.start.open();

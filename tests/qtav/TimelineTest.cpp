@@ -50,8 +50,9 @@ void TimelineTest::seconds_keepTheWholeMilliseconds_forEveryTimeBase_data()
     const QList<QPair<int, int>> timeBases{{1, 1000},     {1, 25},       {1001, 24000},
                                            {1001, 30000}, {1001, 60000}, {1, 90000},
                                            {1, 12800},    {1, 1200000},  {1, 1000000}};
-    for (const auto& [num, den] : timeBases)
+    for (const auto& [num, den] : timeBases) {
         QTest::addRow("%d/%d", num, den) << num << den;
+    }
 }
 
 void TimelineTest::seconds_keepTheWholeMilliseconds_forEveryTimeBase()
@@ -59,9 +60,10 @@ void TimelineTest::seconds_keepTheWholeMilliseconds_forEveryTimeBase()
     QFETCH(int, num);
     QFETCH(int, den);
     const Timeline timeline({num, den}, 7, {num, den});
-    for (qint64 ticks = 7; ticks < 400000; ++ticks)
+    for (qint64 ticks = 7; ticks < 400000; ++ticks) {
         QCOMPARE(static_cast<qint64>(timeline.seconds(ticks) * 1000.0),
                  timeline.milliseconds(ticks));
+    }
 }
 
 void TimelineTest::times_areZero_beforeTheStart()

@@ -37,8 +37,9 @@ void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file :
-         {"h264_bframes.mp4", "h264.ts", "hevc_8bit.mp4", "hevc.ts", "mpeg4_bframes.avi"})
+         {"h264_bframes.mp4", "h264.ts", "hevc_8bit.mp4", "hevc.ts", "mpeg4_bframes.avi"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 /// As many frames are left out as there are such packets: no more, which would be pictures that
@@ -52,8 +53,9 @@ void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips()
     int packets = 0;
     int unreferenced = 0;
     while (const auto packet = player.nextVideoPacket()) {
-        if (packet->isDrain())
+        if (packet->isDrain()) {
             continue;
+        }
         ++packets;
         const bool isSo = pictures.areAllOf(*QtAV::PacketHandle::of(*packet)->get());
         QVERIFY(!isSo || !packet->hasKeyFrame);

@@ -24,8 +24,9 @@ FramePtr noise(AVPixelFormat format, int width, int height, AVColorRange range)
     frame->height = height;
     frame->colorspace = AVCOL_SPC_BT709;
     frame->color_range = range;
-    if (av_frame_get_buffer(frame.get(), 0) < 0)
+    if (av_frame_get_buffer(frame.get(), 0) < 0) {
         qFatal("no memory");
+    }
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(format);
     std::mt19937 random(7);
     for (int plane = 0; plane < AV_NUM_DATA_POINTERS && frame->data[plane]; ++plane) {
@@ -133,9 +134,10 @@ void YuvToRgbTest::picture_deviatesByOneAtMost_fromTheFormula_data()
          {AV_PIX_FMT_YUV420P, AV_PIX_FMT_NV12, AV_PIX_FMT_NV21, AV_PIX_FMT_YUV422P,
           AV_PIX_FMT_YUV440P, AV_PIX_FMT_YUV444P, AV_PIX_FMT_YUV420P10LE, AV_PIX_FMT_YUV422P12LE,
           AV_PIX_FMT_YUV444P16LE, AV_PIX_FMT_YUVA420P, AV_PIX_FMT_GRAY8, AV_PIX_FMT_GRAY10LE}) {
-        for (const AVColorRange range : {AVCOL_RANGE_MPEG, AVCOL_RANGE_JPEG})
+        for (const AVColorRange range : {AVCOL_RANGE_MPEG, AVCOL_RANGE_JPEG}) {
             QTest::addRow("%s, %s", av_get_pix_fmt_name(format), av_color_range_name(range))
                 << int(format) << int(range);
+        }
     }
 }
 
@@ -210,8 +212,9 @@ void YuvToRgbTest::otherFormats_areNotRead()
          {AV_PIX_FMT_BGRA, AV_PIX_FMT_PAL8, AV_PIX_FMT_YUYV422, AV_PIX_FMT_YUV411P,
           AV_PIX_FMT_P010LE, AV_PIX_FMT_YUV420P10BE, AV_PIX_FMT_GBRP, AV_PIX_FMT_MONOBLACK,
           AV_PIX_FMT_YA8, AV_PIX_FMT_VAAPI, AV_PIX_FMT_GRAYF32LE, AV_PIX_FMT_NV24,
-          AV_PIX_FMT_XYZ12LE})
+          AV_PIX_FMT_XYZ12LE}) {
         QVERIFY2(!YuvToRgb::reads(format), av_get_pix_fmt_name(format));
+    }
 }
 
 QTEST_GUILESS_MAIN(YuvToRgbTest)

@@ -107,10 +107,12 @@ void ImageProfileDialog::updateImageTimerFired()
 {
     ImageProfile profile(nullptr);
     m_ui->profileSelector->loadFormIntoProfile(&profile);
-    if (isVisible())
+    if (isVisible()) {
         showComparison(profile);
-    if (m_preview)
+    }
+    if (m_preview) {
         m_preview(&profile);
+    }
 }
 
 /// Both pictures have the size of the output, so that the watermark has its true proportion.
@@ -178,8 +180,9 @@ void ImageProfileDialog::on_resetToDefaultsButton_clicked()
 
 void ImageProfileDialog::on_saveButton_clicked()
 {
-    if (!m_ui->profileSelector->maySave())
+    if (!m_ui->profileSelector->maySave()) {
         return;
+    }
     m_selectedProfile = qobject_cast<ImageProfile*>(m_ui->profileSelector->saveProfile());
     accept();
 }
@@ -210,8 +213,9 @@ void ImageProfileDialog::setupWatermarkProfileComboBox()
     m_ui->watermarkProfileComboBox->clear();
     m_ui->watermarkProfileComboBox->addItem(tr("[No Watermark]"), QString());
     const QList<BaseProfile*> profiles = WatermarkProfile::profileManager()->profiles();
-    for (const BaseProfile* const profile : profiles)
+    for (const BaseProfile* const profile : profiles) {
         m_ui->watermarkProfileComboBox->addItem(profile->shownName(), profile->id());
+    }
 }
 
 void ImageProfileDialog::setupResizeFilterComboBox()
@@ -271,8 +275,9 @@ void ImageProfileDialog::setupProfileSelector()
     selector->loadProfiles(ImageProfile::profileManager());
     connect(selector, &ProfileSelector::fieldChanged, this, &ImageProfileDialog::fieldChanged);
     connect(selector, &ProfileSelector::profileDeleted, this, [this](BaseProfile* profile) {
-        if (profile == m_selectedProfile)
+        if (profile == m_selectedProfile) {
             m_selectedProfile = nullptr;
+        }
     });
     // Another profile in the form is reported by no field, but is as much to be seen.
     connect(selector, &ProfileSelector::profileSelected, this, &ImageProfileDialog::updateImage);
@@ -295,8 +300,9 @@ QLineEdit* ImageProfileDialog::makeVideoDisplay(const QLineEdit& editor)
 
 void ImageProfileDialog::showVideoDimensions()
 {
-    if (!m_videoWidthDisplay)
+    if (!m_videoWidthDisplay) {
         return;
+    }
     const bool isKnown = m_videoWidth != 0 && m_videoHeight != 0;
     m_videoWidthDisplay->setText(isKnown ? QString::number(m_videoWidth) : QString());
     m_videoHeightDisplay->setText(isKnown ? QString::number(m_videoHeight) : QString());

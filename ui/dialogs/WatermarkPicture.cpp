@@ -28,12 +28,14 @@ bool WatermarkPicture::isTooLarge(const QString& path)
 QImage WatermarkPicture::readForDisplay(const QString& path)
 {
     // A pipe would be waited for.
-    if (!QFileInfo(path).isFile())
+    if (!QFileInfo(path).isFile()) {
         return {};
+    }
     QImageReader reader(path);
     const QSize size = reader.size();
-    if (::isTooLarge(size))
+    if (::isTooLarge(size)) {
         return {};
+    }
     if (size.width() > displayBounds.width() || size.height() > displayBounds.height()) {
         // Most decoders make it smaller on the way, without ever holding the whole picture.
         const QSize fitting = size.scaled(displayBounds, Qt::KeepAspectRatio);
@@ -46,7 +48,8 @@ QString WatermarkPicture::addCopyOf(const QString& path)
 {
     const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() +
                          QLatin1Char('.') + QFileInfo(path).completeSuffix();
-    if (QFileInfo(path).isFile())
+    if (QFileInfo(path).isFile()) {
         QFile::copy(path, WatermarkProfile::pathForImage(name));
+    }
     return name;
 }

@@ -46,8 +46,9 @@ QComboBox& watermarks(const ImageProfileDialog& dialog)
 QStringList watermarkTexts(const ImageProfileDialog& dialog)
 {
     QStringList texts;
-    for (int index = 0; index < watermarks(dialog).count(); ++index)
+    for (int index = 0; index < watermarks(dialog).count(); ++index) {
         texts += watermarks(dialog).itemText(index);
+    }
     return texts;
 }
 
@@ -105,8 +106,9 @@ void ImageProfileDialogPreviewTest::edits_arePreviewedOnce_afterTheLast()
     QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, patienceMs);
 
     auto& slider = child<QSlider>(dialog, "brightnessSlider");
-    for (int value = 1; value <= 60; ++value)
+    for (int value = 1; value <= 60; ++value) {
         slider.setValue(value);
+    }
     QCOMPARE(child<QSpinBox>(dialog, "brightnessSpinBox").value(), 60);
     dialog.updateImage();
     QCOMPARE(window.updates, 1);
@@ -324,8 +326,9 @@ void ImageProfileDialogPreviewTest::watermarkDialog_showsTheFrame_asItIsEntered(
             shown = testsupport::paintedAt(view, {400, 300});
             return shown.pixelColor(200, 150) == QColor(110, 120, 130);
         };
-        if (!QTest::qWaitFor(isRendered, patienceMs))
+        if (!QTest::qWaitFor(isRendered, patienceMs)) {
             qWarning("The frame is not shown");
+        }
         watermarkDialog.reject();
     });
     clickEdit(dialog);

@@ -63,8 +63,9 @@ WatermarkProfile& addPictureProfile(const TestProfiles& profiles, const char* na
 {
     auto& profile = profiles.add<WatermarkProfile>(QLatin1String(name));
     const QString file = QLatin1String(name) + textOf(".png");
-    if (!plain({40, 30}, Qt::red).save(WatermarkProfile::pathForImage(file)))
+    if (!plain({40, 30}, Qt::red).save(WatermarkProfile::pathForImage(file))) {
         qFatal("The picture cannot be written");
+    }
     profile.setWatermarkType(1);
     profile.setImageFile(file);
     profile.setXMargin(10);

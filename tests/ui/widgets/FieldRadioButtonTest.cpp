@@ -81,8 +81,9 @@ void FieldRadioButtonTest::setValue_unchecksAll_forTheValueOfNone()
     QButtonGroup group;
     for (const bool isGrouped : {false, true}) {
         Choice choice;
-        if (isGrouped)
+        if (isGrouped) {
             choice.join(group);
+        }
         choice.setValue(before);
         choice.setValue(value);
         QVERIFY(!choice.zero.isChecked());

@@ -15,8 +15,9 @@ template <typename Widget>
 Widget& child(const QWidget& parent, const char* name)
 {
     auto* const found = parent.findChild<Widget*>(QLatin1String(name));
-    if (!found)
+    if (!found) {
         qFatal("There is no %s named %s", Widget::staticMetaObject.className(), name);
+    }
     return *found;
 }
 

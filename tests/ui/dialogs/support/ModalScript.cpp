@@ -20,8 +20,9 @@ ModalScript::ModalScript()
 void ModalScript::look()
 {
     QWidget* const modal = QApplication::activeModalWidget();
-    if (m_answering || !modal || !modal->isVisible())
+    if (m_answering || !modal || !modal->isVisible()) {
         return;
+    }
     if (!m_steps.empty() && m_steps.front().fits(*modal)) {
         // Not from here: a timer does not fire while it is being answered, and the answer may open
         // the next dialog.
@@ -29,8 +30,9 @@ void ModalScript::look()
         QMetaObject::invokeMethod(this, &ModalScript::answerNext, Qt::QueuedConnection);
     } else if (m_sinceProgress.hasExpired(patienceMs)) {
         m_failed = true;
-        if (auto* const dialog = qobject_cast<QDialog*>(modal))
+        if (auto* const dialog = qobject_cast<QDialog*>(modal)) {
             dialog->reject();
+        }
     }
 }
 
@@ -40,6 +42,7 @@ void ModalScript::answerNext()
     m_steps.pop_front();
     m_answering = false;
     m_sinceProgress.restart();
-    if (QWidget* const modal = QApplication::activeModalWidget())
+    if (QWidget* const modal = QApplication::activeModalWidget()) {
         step.answer(*modal);
+    }
 }
