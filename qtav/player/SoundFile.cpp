@@ -29,7 +29,7 @@ constexpr double longestSilenceSeconds = 3600.0;
 
 bool SoundFile::open(const QString& path, QString& error)
 {
-    // The thread of sound is left behind where the disk does not answer: see SoundThread.
+    // The thread of sound is left behind where the disk does not answer: see SoundPlayer.
     const IsCancelled never = [] { return false; };
     m_file = Container::open(path, never, error);
     if (!m_file) {

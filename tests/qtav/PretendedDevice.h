@@ -57,6 +57,7 @@ struct Record
 {
     Gate start;
     Gate stop;
+    Gate query; ///< of how much has been heard
     std::atomic<int> made{0};
     std::atomic<int> started{0};
     std::atomic<qint64> heardBytes{0};
@@ -99,7 +100,11 @@ public:
         m_timer.stop();
     }
     bool isRunning() const override { return m_timer.isActive() || m_record.saysItRuns; }
-    double heardSeconds() override { return double(m_heard) / bytesASecond; }
+    double heardSeconds() override
+    {
+        m_record.query.pass();
+        return double(m_heard) / bytesASecond;
+    }
     void setVolume(qreal volume) override { m_record.volume = volume; }
 
 private:
@@ -141,6 +146,7 @@ public:
         QtAV::SoundDevice::setFactory(&QtAV::SoundDevice::openDefault);
         record.start.open();
         record.stop.open();
+        record.query.open();
     }
     Devices(const Devices&) = delete;
     Devices& operator=(const Devices&) = delete;

@@ -1,4 +1,4 @@
-#include "qtav/player/SoundThread.h"
+#include "qtav/player/SoundWorker.h"
 
 #include "tests/qtav/Playing.h"
 #include "tests/qtav/SoundServer.h"
@@ -6,7 +6,7 @@
 #include <QTest>
 
 using namespace playing;
-using QtAV::SoundThread;
+using QtAV::SoundWorker;
 
 namespace {
 
@@ -57,7 +57,7 @@ void SoundHangTest::picture_playsOn_whileTheServerIsFrozen_andSoundReturns()
     m_server.thaw();
     stage.player.play();
     QTRY_COMPARE_WITH_TIMEOUT(m_server.streamCount(), 1, patienceMs);
-    QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 1, patienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(SoundWorker::count(), 1, patienceMs);
 }
 
 void SoundHangTest::player_canEnd_whileTheServerIsFrozen()
@@ -69,7 +69,7 @@ void SoundHangTest::player_canEnd_whileTheServerIsFrozen()
         QVERIFY(stage.seek(5000));
     }
     m_server.thaw();
-    QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 0, patienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(SoundWorker::count(), 0, patienceMs);
     QTRY_COMPARE_WITH_TIMEOUT(m_server.streamCount(), 0, patienceMs);
 }
 
@@ -80,12 +80,12 @@ void SoundHangTest::picture_playsOn_whenTheServerDies_whileADeviceStarts()
         QVERIFY(playWithSound(stage));
         m_server.freeze();
         QVERIFY(stage.seek(5000));
-        QTest::qWait(int(SoundThread::longestWork.count()));
+        QTest::qWait(int(SoundWorker::longestWork.count()));
         m_server.kill();
         QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
         QCOMPARE(stage.number(), lastOfBeeps);
     }
-    qInfo("%d threads were left behind.", SoundThread::count());
+    qInfo("%d threads were left behind.", SoundWorker::count());
 }
 
 QTEST_GUILESS_MAIN(SoundHangTest)

@@ -1,4 +1,3 @@
-#include "qtav/player/SoundThread.h"
 #include "qtav/player/SoundPlayer.h"
 
 #include "tests/qtav/Playing.h"
@@ -10,14 +9,23 @@
 
 using namespace playing;
 using QtAV::SoundPlayer;
-using QtAV::SoundThread;
+using QtAV::SoundWorker;
 
 namespace {
+
+/// Where devices wait in the function that the test's row names.
+Gate& gateNamed(const QString& function, Record& record)
+{
+    if (function == QLatin1String("start")) {
+        return record.start;
+    }
+    return function == QLatin1String("stop") ? record.stop : record.query;
+}
 
 /// A time after which a device that has been held up is given up.
 void waitUntilItIsGivenUp()
 {
-    QTest::qWait(int(SoundThread::longestWork.count()));
+    QTest::qWait(int(SoundWorker::longestWork.count()));
 }
 
 } // namespace
@@ -37,17 +45,19 @@ private slots:
 
 void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp_data()
 {
-    QTest::addColumn<bool>("atStart");
-    QTest::newRow("when it starts") << true;
-    QTest::newRow("when it stops") << false;
+    QTest::addColumn<QString>("function");
+    QTest::newRow("when it starts") << QStringLiteral("start");
+    QTest::newRow("when it stops") << QStringLiteral("stop");
+    QTest::newRow("when it is asked what was heard") << QStringLiteral("query");
 }
 
 /// Without sound at first, which comes back on another thread when it is wanted anew.
 void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp()
 {
-    QFETCH(bool, atStart);
+    QFETCH(QString, function);
+    const bool atStart = function == QLatin1String("start");
     Devices devices;
-    Gate& gate = atStart ? devices.record.start : devices.record.stop;
+    Gate& gate = gateNamed(function, devices.record);
     {
         Stage stage;
         stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
@@ -58,6 +68,8 @@ void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp()
         QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, patienceMs);
         if (!atStart) {
             gate.shut();
+        }
+        if (function == QLatin1String("stop")) {
             stage.player.pause();
         }
         QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, patienceMs);
@@ -68,16 +80,16 @@ void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp()
 
         stage.player.play(testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4")));
         QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2, patienceMs);
-        QCOMPARE(SoundThread::count(), 2);
-        if (atStart) {
+        QCOMPARE(SoundWorker::count(), 2);
+        if (function != QLatin1String("stop")) {
             QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 2, patienceMs);
         }
         const qint64 heard = devices.record.heardBytes;
         gate.open();
         QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > heard, patienceMs);
-        QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 1, patienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(SoundWorker::count(), 1, patienceMs);
     }
-    QCOMPARE(SoundThread::count(), 0);
+    QCOMPARE(SoundWorker::count(), 0);
 }
 
 void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp_data()
@@ -87,9 +99,10 @@ void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp_data()
 
 void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp()
 {
-    QFETCH(bool, atStart);
+    QFETCH(QString, function);
+    const bool atStart = function == QLatin1String("start");
     Devices devices;
-    Gate& gate = atStart ? devices.record.start : devices.record.stop;
+    Gate& gate = gateNamed(function, devices.record);
     {
         Stage stage;
         if (atStart) {
@@ -101,9 +114,9 @@ void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp()
         stage.player.stop();
     }
     QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, patienceMs);
-    QCOMPARE(SoundThread::count(), 1);
+    QCOMPARE(SoundWorker::count(), 1);
     gate.open();
-    QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 0, patienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(SoundWorker::count(), 0, patienceMs);
 }
 
 void SoundThreadTest::threads_areFew_whenAllDevicesHoldThemUp()
@@ -112,24 +125,27 @@ void SoundThreadTest::threads_areFew_whenAllDevicesHoldThemUp()
     devices.record.start.shut();
     const QString path = testsupport::samplePath(QStringLiteral("sound.mp4"));
     {
-        std::array<SoundPlayer, SoundThread::maximumCount> players;
+        std::array<SoundPlayer, SoundPlayer::maximumThreads> players;
         for (SoundPlayer& player : players) {
             player.open(path);
             player.play(0.0);
         }
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.start.waiting(), SoundThread::maximumCount,
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.start.waiting(), SoundPlayer::maximumThreads,
                                   patienceMs);
         waitUntilItIsGivenUp();
         for (SoundPlayer& player : players) {
             player.play(1.0);
         }
-        QCOMPARE(SoundThread::count(), SoundThread::maximumCount);
-        // Who was let go does what was wished in the meantime.
+        SoundPlayer oneMore;
+        oneMore.open(path);
+        oneMore.play(1.0);
+        QCOMPARE(SoundWorker::count(), SoundPlayer::maximumThreads);
+        // Once released, each carries out its latest request.
         devices.record.start.open();
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2 * SoundThread::maximumCount,
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2 * SoundPlayer::maximumThreads,
                                   patienceMs);
     }
-    QCOMPARE(SoundThread::count(), 0);
+    QCOMPARE(SoundWorker::count(), 0);
 }
 
 QTEST_GUILESS_MAIN(SoundThreadTest)
