@@ -1,4 +1,4 @@
-#include "qtav/player/FrameSource.h"
+#include "tests/qtav/LongGroups.h"
 
 #include "tests/qtav/Decoding.h"
 #include "tests/support/FramePositions.h"
@@ -18,66 +18,10 @@ using testsupport::Trait;
 
 namespace {
 
-bool never()
-{
-    return false;
-}
-
 /// So many packets at most take a decoder at work to its next frame.
 constexpr int fewPackets = 20;
 
-/// A source in a video whose key frames are 250 frames apart, and the frame on screen.
-struct LongGroups
-{
-    explicit LongGroups(qint64 ms, qint64 cacheBytes = QtAV::FrameCache::defaultBytes)
-    {
-        QString error;
-        source.setScreen({80, 60});
-        if (!source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), cacheBytes,
-                         never, error)) {
-            qFatal("%s", qPrintable(error));
-        }
-        show(source.frameAt(ms, never));
-    }
-
-    void show(const FrameResult& found)
-    {
-        frame = found.frame;
-        source.setFocus(frame.timestamp());
-    }
-
-    /// Steps, and counts the packets that this takes.
-    FrameResult step(FrameResult (FrameSource::*direction)(double, const QtAV::IsCancelled&))
-    {
-        packets = 0;
-        const FrameResult found = (source.*direction)(frame.timestamp(), [this] {
-            ++packets;
-            return false;
-        });
-        if (found.answer == FrameAnswer::Frame) {
-            show(found);
-        }
-        return found;
-    }
-
-    /// Fills until there is no more to do, or so many packets have been taken.
-    void fill(int mostPackets = 1000000, FrameSource::Rest rest = FrameSource::longestRest)
-    {
-        packets = 0;
-        const auto enough = [this, mostPackets] { return packets == mostPackets || ++packets < 0; };
-        while (packets < mostPackets && source.prepare(rest, enough)) {
-        }
-    }
-
-    /// As far as the rest between two steps allows.
-    void fillShortly() { fill(1000000, FrameSource::Rest(100)); }
-
-    FrameSource source;
-    VideoFrame frame;
-    int packets = 0;
-};
-
-/// For the frames of that video: few as they were decoded, and many that are scaled down.
+/// For the frames of LongGroups: few as they were decoded, and many that are scaled down.
 constexpr qint64 smallFrames = 2 << 20;
 
 /// Room for few frames, so that most of them are decoded again.

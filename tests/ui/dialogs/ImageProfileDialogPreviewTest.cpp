@@ -26,17 +26,13 @@ using testsupport::child;
 using testsupport::ModalScript;
 using testsupport::PreviewWindow;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 
 namespace {
 
 /// A multiple of what the dialog waits before it reports.
 constexpr int aWhileMs = 200;
 constexpr int patienceMs = 20000;
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QComboBox& watermarks(const ImageProfileDialog& dialog)
 {

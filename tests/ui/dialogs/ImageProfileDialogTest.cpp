@@ -22,14 +22,10 @@
 using testsupport::child;
 using testsupport::showActive;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 using testsupport::typeProfileName;
 
 namespace {
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 /// Enters something else than the defaults everywhere.
 void fillForm(ImageProfileDialog& dialog)

@@ -21,13 +21,9 @@ using testsupport::child;
 using testsupport::ModalScript;
 using testsupport::showActive;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 
 namespace {
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QString savedPicture(const TestProfiles& profiles, const char* name, QSize size)
 {

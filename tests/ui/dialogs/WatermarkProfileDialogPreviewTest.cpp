@@ -24,6 +24,7 @@
 using testsupport::child;
 using testsupport::ProcessingCounter;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 
 namespace {
 
@@ -31,11 +32,6 @@ constexpr QSize viewSize{400, 300};
 /// Twice what the dialog waits before it renders.
 constexpr int aWhileMs = 400;
 constexpr int patienceMs = 20000;
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QImage plain(QSize size, const QColor& color)
 {

@@ -21,6 +21,11 @@ Widget& child(const QWidget& parent, const char* name)
     return *found;
 }
 
+inline QString textOf(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
 /// Shows the dialog and waits until it has the keyboard.
 [[nodiscard]] bool showActive(QDialog& dialog);
 
