@@ -135,8 +135,8 @@ VideoFramePrivate::VideoFramePrivate(FramePtr picture, qint64 ticks,
           squareSizeOf({frame->width, frame->height}, sampleAspectRatioOf(*frame, *parameters)))
     , baseLayer(baseLayerOf(*frame, parameters->baseLayer))
     , converter(std::move(pictureConverter))
-    , firstSeconds(seconds)
-    , secondSeconds(seconds)
+    , m_firstSeconds(seconds)
+    , m_secondSeconds(seconds)
 {}
 
 VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& whole, FramePtr smaller)
@@ -147,8 +147,8 @@ VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& whole, FramePtr sm
     , baseLayer(whole.baseLayer)
     , isScaledDown(true)
     , converter(whole.converter)
-    , firstSeconds(whole.firstSeconds)
-    , secondSeconds(whole.secondSeconds)
+    , m_firstSeconds(whole.m_firstSeconds)
+    , m_secondSeconds(whole.m_secondSeconds)
 {}
 
 VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& alone, const VideoFrame& frameBefore,
@@ -161,27 +161,27 @@ VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& alone, const Video
     , baseLayer(alone.baseLayer)
     , isScaledDown(alone.isScaledDown)
     , converter(alone.converter)
-    , fields(std::move(fieldSettings))
-    , firstSeconds(alone.seconds)
-    , secondSeconds(secondMoment(alone, of(frameBefore), of(frameAfter)))
-    , before(sharedPicture(of(frameBefore)))
-    , after(sharedPicture(of(frameAfter)))
+    , m_fields(std::move(fieldSettings))
+    , m_firstSeconds(alone.seconds)
+    , m_secondSeconds(secondMoment(alone, of(frameBefore), of(frameAfter)))
+    , m_before(sharedPicture(of(frameBefore)))
+    , m_after(sharedPicture(of(frameAfter)))
 {}
 
 VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& other, FieldFilter::Moment moment)
     : QSharedData()
     , frame(shared(other.frame))
-    , seconds(moment == FieldFilter::Moment::First ? other.firstSeconds : other.secondSeconds)
+    , seconds(moment == FieldFilter::Moment::First ? other.m_firstSeconds : other.m_secondSeconds)
     , orientation(other.orientation)
     , squareSize(other.squareSize)
     , baseLayer(other.baseLayer)
     , isScaledDown(other.isScaledDown)
     , converter(other.converter)
-    , fields{other.fields.deinterlacing, other.fields.deinterlacer, moment}
-    , firstSeconds(other.firstSeconds)
-    , secondSeconds(other.secondSeconds)
-    , before(shared(other.before))
-    , after(shared(other.after))
+    , m_fields{other.m_fields.deinterlacing, other.m_fields.deinterlacer, moment}
+    , m_firstSeconds(other.m_firstSeconds)
+    , m_secondSeconds(other.m_secondSeconds)
+    , m_before(shared(other.m_before))
+    , m_after(shared(other.m_after))
 {}
 
 const VideoFramePrivate* VideoFramePrivate::of(const VideoFrame& frame)
@@ -191,18 +191,18 @@ const VideoFramePrivate* VideoFramePrivate::of(const VideoFrame& frame)
 
 bool VideoFramePrivate::isOfTwoMoments() const
 {
-    return fields.deinterlacer &&
-           Deinterlacer::isOfTwoMoments({before.get(), frame.get(), after.get()},
-                                        fields.deinterlacing);
+    return m_fields.deinterlacer &&
+           Deinterlacer::isOfTwoMoments({m_before.get(), frame.get(), m_after.get()},
+                                        m_fields.deinterlacing);
 }
 
 FramePtr VideoFramePrivate::deinterlaced() const
 {
-    if (!fields.deinterlacer) {
+    if (!m_fields.deinterlacer) {
         return nullptr;
     }
-    return fields.deinterlacer->deinterlaced({before.get(), frame.get(), after.get()},
-                                             fields.deinterlacing, fields.moment);
+    return m_fields.deinterlacer->deinterlaced({m_before.get(), frame.get(), m_after.get()},
+                                               m_fields.deinterlacing, m_fields.moment);
 }
 
 VideoFrame::VideoFrame() = default;
