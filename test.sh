@@ -46,6 +46,7 @@ suite=$root/build/suite
 mkdir -p "$suite"
 {
     printf 'add_test(source_format "%s/scripts/format.sh" --check)\n' "$root"
+    printf 'add_test(source_style "%s/scripts/check-style.py")\n' "$root"
     for check in fences release scripts spelling translations; do
         printf 'add_test(source_%s "%s/scripts/check-%s.sh")\n' "$check" "$root" "$check"
     done

@@ -380,8 +380,8 @@ void BatchWorker::waitForImages() const
     QElapsedTimer waited;
     waited.start();
     while (m_waitingFrames >= mostWaitingFrames && !isInterruptionRequested() &&
-           (m_isAsking || !waited.hasExpired(LongestWaitMilliseconds))) {
-        QThread::msleep(LookMilliseconds);
+           (m_isAsking || !waited.hasExpired(longestWaitMilliseconds))) {
+        QThread::msleep(lookMilliseconds);
     }
 }
 

@@ -112,8 +112,8 @@ private Q_SLOTS:
 private:
     /// How often to look whether fewer images wait or an answer has come, and how long to wait for
     /// images: should the worker's thread make none, the job goes on all the same.
-    static constexpr unsigned long LookMilliseconds = 10;
-    static constexpr qint64 LongestWaitMilliseconds = 5000;
+    static constexpr unsigned long lookMilliseconds = 10;
+    static constexpr qint64 longestWaitMilliseconds = 5000;
 
     void runInternal();
     void takeFrames(const std::function<std::optional<qint64>()>& nextPosition);

@@ -113,7 +113,7 @@ bool BatchWorker::waitForRoom(const WriteFailure& failure)
     const auto answer = std::make_shared<std::atomic<Answer>>(None);
     tell([this, failure, answer] { *answer = askForRoom(failure) ? Retry : Stop; });
     while (*answer == None && !isInterruptionRequested()) {
-        QThread::msleep(LookMilliseconds);
+        QThread::msleep(lookMilliseconds);
     }
     return *answer == Retry;
 }
@@ -128,10 +128,10 @@ void BatchWorker::waitForAnswer() const
     waited.start();
     const auto isSaving = [&] {
         return m_waitingFrames > 0 && !isInterruptionRequested() &&
-               !waited.hasExpired(LongestWaitMilliseconds);
+               !waited.hasExpired(longestWaitMilliseconds);
     };
     while (m_isAsking || isSaving()) {
-        QThread::msleep(LookMilliseconds);
+        QThread::msleep(lookMilliseconds);
         if (m_isAsking) {
             waited.restart();
         }

@@ -43,8 +43,9 @@ Outcome byRenaming(const QByteArray& from, const QByteArray& to)
 
 Outcome byLinking(const QByteArray& from, const QByteArray& to)
 {
-    if (::link(from.constData(), to.constData()) != 0)
+    if (::link(from.constData(), to.constData()) != 0) {
         return outcomeOf(errno);
+    }
     ::unlink(from.constData());
     return Outcome::Done;
 }
@@ -52,11 +53,13 @@ Outcome byLinking(const QByteArray& from, const QByteArray& to)
 Outcome byClaiming(const QByteArray& from, const QByteArray& to)
 {
     const int claim = ::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (claim < 0)
+    if (claim < 0) {
         return errno == EEXIST ? Outcome::NameTaken : Outcome::Failed;
+    }
     ::close(claim);
-    if (std::rename(from.constData(), to.constData()) == 0)
+    if (std::rename(from.constData(), to.constData()) == 0) {
         return Outcome::Done;
+    }
     const int error = errno;
     ::unlink(to.constData());
     errno = error;
@@ -67,8 +70,9 @@ Outcome rename(const QByteArray& from, const QByteArray& to)
 {
     for (const auto way : {byRenaming, byLinking}) {
         const Outcome outcome = way(from, to);
-        if (outcome != Outcome::NotSupported)
+        if (outcome != Outcome::NotSupported) {
             return outcome;
+        }
     }
     return byClaiming(from, to);
 }

@@ -21,7 +21,7 @@ template <typename Code>
 void readLine(const cv::Mat& mat, int y, const LightCurve* curve, Sample* line)
 {
     constexpr int most = std::numeric_limits<Code>::max();
-    constexpr std::size_t step = LightCurve::LargestCode / most;
+    constexpr std::size_t step = LightCurve::largestCode / most;
     const int channels = mat.channels();
     const auto colours = static_cast<std::size_t>(std::min(channels, 3));
     const Code* code = mat.ptr<Code>(y);

@@ -15,15 +15,15 @@
 namespace {
 
 /// From this JPEG quality on, chroma is kept in full resolution.
-constexpr int WholeChromaQuality = 90;
+constexpr int wholeChromaQuality = 90;
 
-constexpr int HighestQuality = 100;
+constexpr int highestQuality = 100;
 
 /// Stands for zlib's level 1. Above this, Qt's PNG writer does not compress at all.
-constexpr int QuickestPngQuality = 89;
+constexpr int quickestPngQuality = 89;
 /// Stands for zlib's level 2: a quarter of the time that the writer's own choice takes, for files
 /// that are up to a third larger.
-constexpr int UsualPngQuality = 75;
+constexpr int usualPngQuality = 75;
 
 /// A buffer that fails to write when it cannot grow. An exception would pass through the image
 /// libraries, which are not made for that.
@@ -97,13 +97,14 @@ int writerQuality(const QByteArray& format, int quality)
     if (format != "png") {
         return quality;
     }
-    return quality < 0 ? UsualPngQuality : std::min(quality, QuickestPngQuality);
+    return quality < 0 ? usualPngQuality : std::min(quality, quickestPngQuality);
 }
 
 QByteArray encodedByQt(const QImage& image, const QByteArray& format, int quality)
 {
-    if (!noticesLackOfMemory(format) && !hasMemoryToCopy(image))
+    if (!noticesLackOfMemory(format) && !hasMemoryToCopy(image)) {
         return {};
+    }
     QByteArray content;
     FallibleBuffer buffer(&content);
     QImageWriter writer(&buffer, format);
@@ -114,7 +115,7 @@ QByteArray encodedByQt(const QImage& image, const QByteArray& format, int qualit
 QByteArray encodedWithWholeChroma(const QImage& image, int quality)
 {
     try {
-        return JpegEncoder::encode(image, std::min(quality, HighestQuality));
+        return JpegEncoder::encode(image, std::min(quality, highestQuality));
     } catch (const std::bad_alloc&) {
         return {};
     }
@@ -124,7 +125,7 @@ QByteArray encodedWithWholeChroma(const QImage& image, int quality)
 /// runs out.
 QByteArray encoded(const QImage& image, const QByteArray& format, int quality)
 {
-    const bool keepsChroma = quality >= WholeChromaQuality && JpegEncoder::hasChroma(image);
+    const bool keepsChroma = quality >= wholeChromaQuality && JpegEncoder::hasChroma(image);
     const QImage tagged = withColorSpace(image);
     if (isJpeg(format) && keepsChroma) {
         return encodedWithWholeChroma(tagged, quality);

@@ -14,7 +14,7 @@
 namespace ImageFileWriter {
 
 /// The quality that leaves the choice to the format.
-constexpr int DefaultQuality = -1;
+constexpr int defaultQuality = -1;
 
 /// The encoded picture. Empty for a null image, where the type, which is a suffix without dot,
 /// stands for no format that can be written (capitals do not matter), and where memory runs out.
@@ -24,7 +24,7 @@ constexpr int DefaultQuality = -1;
 
 /// Writes the image to `fileName`.
 ///
-/// @param quality  0 (small file) to 100 (true picture), or DefaultQuality; above 100 counts as
+/// @param quality  0 (small file) to 100 (true picture), or defaultQuality; above 100 counts as
 ///     100. What it means is up to the format. JPEG keeps chroma in full resolution from 90 on; PNG
 ///     loses nothing and is always compressed, the less the quicker.
 /// @return Failed for a null image, for a name whose suffix stands for no format that can be

@@ -29,8 +29,9 @@ QImage ImageProcessingManager::processImage(QImage image, ImageProfile* profile,
                                             WatermarkProfile* watermark, QString* error)
 {
     const imaging::Rendering result = imaging::render(image, recipes::of(*profile, watermark));
-    if (error != nullptr)
+    if (error != nullptr) {
         *error = result.error;
+    }
     return result.image;
 }
 

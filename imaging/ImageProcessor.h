@@ -2,8 +2,8 @@
 
 #include <QImage>
 
-/// A place for adjustments of single images that need state of their own. None does yet; the
-/// adjustments in use are those of ImageProcessingManager.
+/// A place for adjustments of single images that need state of their own. None does yet, so nothing
+/// calls it; the adjustments in use are those of ImageProcessingManager.
 class ImageProcessor
 {
 public:

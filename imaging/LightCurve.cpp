@@ -8,7 +8,6 @@ using Transfer = StoredColours::Transfer;
 
 namespace {
 
-
 /// Both from 0 to 1.
 double sRgbCodeOf(double light)
 {
@@ -19,9 +18,9 @@ double sRgbCodeOf(double light)
 template <typename Function>
 std::vector<float> tableOf(const Function& function)
 {
-    std::vector<float> table(LightCurve::LargestCode + 2);
-    for (int i = 0; i < LightCurve::LargestCode + 2; ++i) {
-        const double x = std::min(1.0, static_cast<double>(i) / LightCurve::LargestCode);
+    std::vector<float> table(LightCurve::largestCode + 2);
+    for (int i = 0; i < LightCurve::largestCode + 2; ++i) {
+        const double x = std::min(1.0, static_cast<double>(i) / LightCurve::largestCode);
         table[static_cast<std::size_t>(i)] = static_cast<float>(function(x));
     }
     return table;
@@ -77,7 +76,7 @@ LightCurve LightCurve::made(Transfer transfer)
     curve.m_lights = tableOf([&](double code) { return colours.lightOf(code); });
     // By the table rather than by the curve itself, whose powers take a hundred times as long.
     const auto lightOf = [&](double code) {
-        const double place = code * LightCurve::LargestCode;
+        const double place = code * LightCurve::largestCode;
         const auto index = static_cast<std::size_t>(place);
         const double part = place - static_cast<double>(index);
         const double low = curve.m_lights[index];
@@ -90,7 +89,8 @@ LightCurve LightCurve::made(Transfer transfer)
 /// Linear between the table's values, which is exact to a tenth of a 16-bit step for sRGB.
 float LightCurve::codeOf(float light) const
 {
-    const float place = (m_isOfRoots ? std::sqrt(std::sqrt(light)) : light) * LightCurve::LargestCode;
+    const float place =
+        (m_isOfRoots ? std::sqrt(std::sqrt(light)) : light) * LightCurve::largestCode;
     const auto index = static_cast<std::size_t>(place);
     const float part = place - static_cast<float>(index);
     return m_codes[index] + part * (m_codes[index + 1] - m_codes[index]);

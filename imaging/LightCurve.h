@@ -11,7 +11,7 @@
 class LightCurve
 {
 public:
-    static constexpr int LargestCode = 65535;
+    static constexpr int largestCode = 65535;
 
     /// That of sRGB, made when it is first asked for.
     [[nodiscard]] static const LightCurve& sRgb();

@@ -34,12 +34,15 @@ cv::Mat alphaPlane(const cv::Mat& mat, double alphaFill)
 
 cv::Mat withOneChannel(const cv::Mat& mat, MatColorOrder from)
 {
-    if (mat.channels() == 3)
+    if (mat.channels() == 3) {
         return colorConverted(mat, cv::COLOR_RGB2GRAY);
-    if (mat.channels() != 4)
+    }
+    if (mat.channels() != 4) {
         return {};
-    if (from == Argb)
+    }
+    if (from == Argb) {
         return colorConverted(reordered(mat, Argb, Bgr), cv::COLOR_BGRA2GRAY);
+    }
     return colorConverted(mat, from == Bgr ? cv::COLOR_BGRA2GRAY : cv::COLOR_RGBA2GRAY);
 }
 
@@ -50,8 +53,9 @@ cv::Mat withoutAlpha(const cv::Mat& mat, MatColorOrder from, MatColorOrder to)
         const ChannelPairs toBgr{1, 2, 2, 1, 3, 0};
         return mixed({mat}, 3, to == Rgb ? toRgb : toBgr);
     }
-    if (from == Bgr)
+    if (from == Bgr) {
         return colorConverted(mat, to == Bgr ? cv::COLOR_BGRA2BGR : cv::COLOR_BGRA2RGB);
+    }
     return colorConverted(mat, to == Bgr ? cv::COLOR_RGBA2BGR : cv::COLOR_RGBA2RGB);
 }
 
@@ -73,12 +77,14 @@ cv::Mat withFourChannels(const cv::Mat& mat, MatColorOrder from, MatColorOrder t
 {
     switch (mat.channels()) {
     case 1:
-        if (to == Argb)
+        if (to == Argb) {
             return mixed({alphaPlane(mat, alphaFill), mat}, 4, {0, 0, 1, 1, 1, 2, 1, 3});
+        }
         return colorConverted(mat, to == Rgb ? cv::COLOR_GRAY2RGBA : cv::COLOR_GRAY2BGRA);
     case 3:
-        if (to == Argb)
+        if (to == Argb) {
             return mixed({alphaPlane(mat, alphaFill), mat}, 4, {0, 0, 1, 1, 2, 2, 3, 3});
+        }
         return colorConverted(mat, to == Rgb ? cv::COLOR_RGB2RGBA : cv::COLOR_RGB2BGRA);
     case 4:
         return from == to ? cv::Mat() : reordered(mat, from, to);
@@ -91,14 +97,18 @@ cv::Mat withFourChannels(const cv::Mat& mat, MatColorOrder from, MatColorOrder t
 
 cv::Mat reordered(const cv::Mat& mat, MatColorOrder from, MatColorOrder to)
 {
-    if (from == to)
+    if (from == to) {
         return mat.clone();
-    if (from == Argb && to == Rgb)
+    }
+    if (from == Argb && to == Rgb) {
         return mixed({mat}, 4, {0, 3, 1, 0, 2, 1, 3, 2});
-    if (from == Rgb && to == Argb)
+    }
+    if (from == Rgb && to == Argb) {
         return mixed({mat}, 4, {0, 1, 1, 2, 2, 3, 3, 0});
-    if (from == Argb || to == Argb)
+    }
+    if (from == Argb || to == Argb) {
         return mixed({mat}, 4, {0, 3, 1, 2, 2, 1, 3, 0});
+    }
     return colorConverted(mat, cv::COLOR_BGRA2RGBA);
 }
 

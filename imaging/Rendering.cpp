@@ -22,8 +22,8 @@
 
 namespace {
 
-constexpr float LoweringContrastDivisor = 200.0F;
-constexpr float RaisingContrastDivisor = 40.0F;
+constexpr float loweringContrastDivisor = 200.0F;
+constexpr float raisingContrastDivisor = 40.0F;
 
 /// 96 to an inch. Qt takes those of the screen otherwise: the same picture would be another file,
 /// and text on it of another size, on another screen.
@@ -88,8 +88,9 @@ Picture pictureOf(const QImage& image)
     }
     Picture picture;
     picture.mat = QtOcv::imageToMat_shared(image, &picture.order);
-    if (picture.mat.empty())
+    if (picture.mat.empty()) {
         picture.mat = QtOcv::imageToMat(image, CV_8UC(CV_CN_MAX), QtOcv::Bgr);
+    }
     return picture;
 }
 
@@ -100,8 +101,9 @@ QImage adoptedImage(const cv::Mat& mat, QImage::Format format)
     const QImage image(
         mat.data, mat.cols, mat.rows, static_cast<int>(mat.step[0]), format,
         [](void* owner) { delete static_cast<cv::Mat*>(owner); }, keeper.get());
-    if (!image.isNull())
+    if (!image.isNull()) {
         static_cast<void>(keeper.release());
+    }
     return image;
 }
 
@@ -128,10 +130,12 @@ QImage imageOf(const Picture& picture)
     }
     // Qt's own images begin every line at a multiple of four bytes, and so shall ours.
     const bool isAdoptable = picture.ownsSamples() && mat.step[0] % 4 == 0;
-    if (isAdoptable && mat.type() == CV_8UC4 && picture.order == QtOcv::Bgr)
+    if (isAdoptable && mat.type() == CV_8UC4 && picture.order == QtOcv::Bgr) {
         return adoptedImage(mat, QImage::Format_ARGB32);
-    if (isAdoptable && mat.type() == CV_8UC3 && picture.order == QtOcv::Rgb)
+    }
+    if (isAdoptable && mat.type() == CV_8UC3 && picture.order == QtOcv::Rgb) {
         return adoptedImage(mat, QImage::Format_RGB888);
+    }
     return QtOcv::matToImage(mat, picture.order, QImage::Format_Invalid);
 }
 
@@ -139,7 +143,7 @@ QImage imageOf(const Picture& picture)
 /// The brightness counts in steps of 8 bits.
 cv::Mat adjusted(const cv::Mat& mat, int contrast, int brightness)
 {
-    const float divisor = contrast < 0 ? LoweringContrastDivisor : RaisingContrastDivisor;
+    const float divisor = contrast < 0 ? loweringContrastDivisor : raisingContrastDivisor;
     const float gain = static_cast<float>(contrast) / divisor + 1.0F;
     cv::Mat result;
     constexpr int deepSteps = 257;
@@ -170,11 +174,13 @@ QImage corrected(QImage image, const ImageRecipe& recipe)
     const bool keepsColours = recipe.contrast == 0 && recipe.brightness == 0;
     const bool isMade =
         image.format() == QImage::Format_RGB888 || image.format() == QImage::Format_RGBX64;
-    if (keepsColours && size == image.size() && isMade)
+    if (keepsColours && size == image.size() && isMade) {
         return image;
+    }
     Picture picture = pictureOf(image);
-    if (!keepsColours)
+    if (!keepsColours) {
         picture.mat = adjusted(picture.mat, recipe.contrast, recipe.brightness);
+    }
     const cv::Size bounds(size.width(), size.height());
     const auto stored = HdrColours::of(image);
     if (stored && recipe.resampling.light == ResizeLight::Linear) {
@@ -204,7 +210,7 @@ QImage rendered(QImage image, const ImageRecipe& recipe)
 
 int qualityFor(const QString& type, int jpegQuality)
 {
-    return imaging::usesQuality(type) ? jpegQuality : ImageFileWriter::DefaultQuality;
+    return imaging::usesQuality(type) ? jpegQuality : ImageFileWriter::defaultQuality;
 }
 
 } // namespace
@@ -220,11 +226,13 @@ imaging::Rendering imaging::render(QImage image, const ImageRecipe& recipe)
     try {
         result.image = rendered(std::move(image), recipe);
     } catch (const std::exception& exception) {
-        if (!isLackOfMemory(exception))
+        if (!isLackOfMemory(exception)) {
             result.error = QString::fromUtf8(exception.what()).trimmed();
+        }
     }
-    if (!result.image.isNull())
+    if (!result.image.isNull()) {
         result.error.clear();
+    }
     return result;
 }
 

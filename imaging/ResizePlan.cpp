@@ -29,10 +29,11 @@ ResizePlan ResizePlan::fitting(cv::Size source, cv::Size target)
     const double sourceRatio = ratio(source);
     const double targetRatio = ratio(target);
     cv::Size size = target;
-    if (sourceRatio > targetRatio)
+    if (sourceRatio > targetRatio) {
         size.height = truncated(target.width / sourceRatio);
-    else if (sourceRatio < targetRatio)
+    } else if (sourceRatio < targetRatio) {
         size.width = truncated(target.height * sourceRatio);
+    }
     return {cv::Rect(cv::Point(0, 0), source), size};
 }
 

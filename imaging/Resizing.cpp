@@ -22,11 +22,13 @@ bool isImageSize(cv::Size size, size_t bytesPerPixel)
 cv::Mat resized(const cv::Mat& mat, cv::Size target, bool keepsAspectRatio,
                 const Resampling& resampling, const LightCurve& curve)
 {
-    if (mat.empty() || mat.size() == target || target.width <= 0 || target.height <= 0)
+    if (mat.empty() || mat.size() == target || target.width <= 0 || target.height <= 0) {
         return mat;
+    }
     const ResizePlan plan = keepsAspectRatio ? ResizePlan::fitting(mat.size(), target)
                                              : ResizePlan::filling(mat.size(), target);
-    if (!isImageSize(plan.size, mat.elemSize()))
+    if (!isImageSize(plan.size, mat.elemSize())) {
         return mat;
+    }
     return filteredResize(mat(plan.region), plan.size, resampling, curve);
 }

@@ -18,8 +18,9 @@ QImage paintableCopy(const QImage& image)
     const bool hasColorTable = image.format() == QImage::Format_Indexed8 ||
                                image.format() == QImage::Format_Mono ||
                                image.format() == QImage::Format_MonoLSB;
-    if (!hasColorTable)
+    if (!hasColorTable) {
         return image.copy();
+    }
     return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32
                                                          : QImage::Format_RGB32);
 }
@@ -146,8 +147,9 @@ bool isVisible(const WatermarkRecipe& recipe)
 QImage imaging::watermarked(const QImage& image, const WatermarkRecipe& recipe)
 {
     QImage result = paintableCopy(image);
-    if (result.isNull() || !isVisible(recipe))
+    if (result.isNull() || !isVisible(recipe)) {
         return result;
+    }
     const auto hdr = HdrColours::of(image);
     if (!hdr) {
         draw(result, recipe);
@@ -157,8 +159,9 @@ QImage imaging::watermarked(const QImage& image, const WatermarkRecipe& recipe)
     layer.fill(Qt::transparent);
     layer.setDotsPerMeterX(image.dotsPerMeterX());
     layer.setDotsPerMeterY(image.dotsPerMeterY());
-    if (layer.isNull())
+    if (layer.isNull()) {
         return layer;
+    }
     draw(layer, recipe);
     HdrColours::drawOver(result, layer, *hdr);
     return result;
@@ -170,13 +173,15 @@ QPoint imaging::alignedPoint(QSize container, QSize item, Qt::Alignment alignmen
     const int freeWidth = container.width() - item.width();
     const int freeHeight = container.height() - item.height();
     QPoint point(xMargin, yMargin);
-    if (alignment.testFlag(Qt::AlignRight))
+    if (alignment.testFlag(Qt::AlignRight)) {
         point.setX(freeWidth - xMargin);
-    else if (alignment.testFlag(Qt::AlignHCenter))
+    } else if (alignment.testFlag(Qt::AlignHCenter)) {
         point.setX(freeWidth / 2);
-    if (alignment.testFlag(Qt::AlignBottom))
+    }
+    if (alignment.testFlag(Qt::AlignBottom)) {
         point.setY(freeHeight - yMargin);
-    else if (alignment.testFlag(Qt::AlignVCenter))
+    } else if (alignment.testFlag(Qt::AlignVCenter)) {
         point.setY(freeHeight / 2);
+    }
     return point;
 }

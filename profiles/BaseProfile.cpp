@@ -18,8 +18,9 @@ std::vector<QMetaProperty> persistedProperties(const QMetaObject& type)
     std::vector<QMetaProperty> properties;
     for (int index = 0; index < type.propertyCount(); ++index) {
         const QMetaProperty property = type.property(index);
-        if (property.isStored() && property.isWritable())
+        if (property.isStored() && property.isWritable()) {
             properties.push_back(property);
+        }
     }
     return properties;
 }
@@ -27,8 +28,9 @@ std::vector<QMetaProperty> persistedProperties(const QMetaObject& type)
 /// A colour in a model that there is: a damaged file may name one that there is not.
 QVariant withKnownColour(const QVariant& value)
 {
-    if (value.userType() != QMetaType::QColor)
+    if (value.userType() != QMetaType::QColor) {
         return value;
+    }
     return static_cast<const QColor*>(value.constData())->toRgb();
 }
 
@@ -47,15 +49,17 @@ QString BaseProfile::shownName() const
 
 void BaseProfile::save(QSettings& settings) const
 {
-    for (const QMetaProperty& property : persistedProperties(*metaObject()))
+    for (const QMetaProperty& property : persistedProperties(*metaObject())) {
         settings.setValue(QLatin1String(property.name()), property.read(this));
+    }
 }
 
 QVariantMap BaseProfile::values() const
 {
     QVariantMap values;
-    for (const QMetaProperty& property : persistedProperties(*metaObject()))
+    for (const QMetaProperty& property : persistedProperties(*metaObject())) {
         values.insert(QLatin1String(property.name()), property.read(this));
+    }
     return values;
 }
 
@@ -64,8 +68,9 @@ void BaseProfile::takeValuesOf(const BaseProfile& other)
     const int ownCount = BaseProfile::staticMetaObject.propertyCount();
     for (const QMetaProperty& property : persistedProperties(*metaObject())) {
         const QVariant value = other.property(property.name());
-        if (property.propertyIndex() >= ownCount && value.isValid())
+        if (property.propertyIndex() >= ownCount && value.isValid()) {
             property.write(this, value);
+        }
     }
 }
 
@@ -73,13 +78,15 @@ void BaseProfile::load(const QSettings& settings)
 {
     for (const QMetaProperty& property : persistedProperties(*metaObject())) {
         const QLatin1String key(property.name());
-        if (!settings.contains(key))
+        if (!settings.contains(key)) {
             continue;
+        }
         // Converted here, since write() would drop a value that converts with an error and so hide
         // a damaged entry behind the default.
         QVariant value = settings.value(key);
-        if (value.canConvert(property.userType()))
+        if (value.canConvert(property.userType())) {
             value.convert(property.userType());
+        }
         property.write(this, withKnownColour(value));
     }
 }

@@ -70,8 +70,9 @@ ProfileManager::ProfileManager(const QString& fileName, const Factory& factory,
         profile->setName(ProfileNames::storedStandard());
         addProfile(profile);
     }
-    if (!m_lastUsedProfile && !m_profiles.isEmpty())
+    if (!m_lastUsedProfile && !m_profiles.isEmpty()) {
         m_lastUsedProfile = m_profiles.first();
+    }
 
     saveProfiles();
 }
@@ -102,8 +103,9 @@ void ProfileManager::loadProfilesFromFile()
         settings.endGroup();
         const QString id = entry.profile->id();
         const bool isCopy = id.compare(group, Qt::CaseInsensitive) != 0 && containsId(groups, id);
-        if (isCopy || containsId(ids, id))
+        if (isCopy || containsId(ids, id)) {
             continue;
+        }
         qDebug() << "Loaded Profile" << entry.profile->name();
         ids.append(id);
         stored.insert(entry.profile.get(), values);
@@ -117,13 +119,15 @@ void ProfileManager::loadProfilesFromFile()
 
     m_stored = stored;
     m_profiles.clear();
-    for (LoadedProfile& entry : loaded)
+    for (LoadedProfile& entry : loaded) {
         addProfile(entry.profile.release());
+    }
 
     const QString lastUsedId = settings.value(lastUsedProfileKey).toString();
     m_storedLastUsed = lastUsedId;
-    if (!lastUsedId.isEmpty())
+    if (!lastUsedId.isEmpty()) {
         m_lastUsedProfile = profileForId(lastUsedId);
+    }
 }
 
 /// Only what has changed here is written: another program may have changed all else meanwhile.
@@ -133,8 +137,9 @@ void ProfileManager::saveProfiles()
 
     settings.beginGroup(profilesGroup);
     int sortOrder = 0;
-    for (const BaseProfile* profile : qAsConst(m_profiles))
+    for (const BaseProfile* profile : qAsConst(m_profiles)) {
         saveProfile(settings, *profile, sortOrder++);
+    }
     settings.endGroup();
 
     if (m_lastUsedProfile && m_lastUsedProfile->id() != m_storedLastUsed) {
@@ -156,8 +161,9 @@ void ProfileManager::saveProfile(QSettings& settings, const BaseProfile& profile
     if (!isGone || isChanged(values, known)) {
         for (auto value = values.cbegin(); value != values.cend(); ++value) {
             const bool isStored = known.contains(value.key()) && known[value.key()] == *value;
-            if (isGone || !isStored)
+            if (isGone || !isStored) {
                 settings.setValue(value.key(), *value);
+            }
         }
         m_stored.insert(&profile, values);
     }
@@ -177,11 +183,13 @@ void ProfileManager::addProfile(BaseProfile* profile)
 
 bool ProfileManager::removeProfile(BaseProfile* profile)
 {
-    if (m_profiles.size() < 2 || !m_profiles.contains(profile))
+    if (m_profiles.size() < 2 || !m_profiles.contains(profile)) {
         return false;
+    }
     m_profiles.removeAll(profile);
-    if (m_lastUsedProfile == profile)
+    if (m_lastUsedProfile == profile) {
         m_lastUsedProfile = m_profiles.first();
+    }
     {
         QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
         settings.beginGroup(profilesGroup);
@@ -193,8 +201,9 @@ bool ProfileManager::removeProfile(BaseProfile* profile)
 
 BaseProfile* ProfileManager::profileForId(const QString& id) const
 {
-    if (id.isEmpty())
+    if (id.isEmpty()) {
         return nullptr;
+    }
     const auto found =
         std::find_if(m_profiles.begin(), m_profiles.end(), [&id](const BaseProfile* profile) {
             return profile->id().compare(id, Qt::CaseInsensitive) == 0;
@@ -204,8 +213,9 @@ BaseProfile* ProfileManager::profileForId(const QString& id) const
 
 void ProfileManager::setLastUsedProfile(BaseProfile* profile)
 {
-    if (profile == m_lastUsedProfile)
+    if (profile == m_lastUsedProfile) {
         return;
+    }
     m_lastUsedProfile = profile;
     saveProfiles();
 }
@@ -213,7 +223,8 @@ void ProfileManager::setLastUsedProfile(BaseProfile* profile)
 QString ProfileManager::getSettingsPath(const QString& fileName)
 {
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
-    if (!folder.mkpath(folder.absolutePath()))
+    if (!folder.mkpath(folder.absolutePath())) {
         return fileName;
+    }
     return folder.absolutePath() + QLatin1Char('/') + fileName;
 }

@@ -15,8 +15,9 @@ namespace {
 /// memory is taken for.
 QImage readPicture(const QString& path)
 {
-    if (!QFileInfo(path).isFile())
+    if (!QFileInfo(path).isFile()) {
         return {};
+    }
     QImageReader reader(path);
     const QSize size = reader.size();
     const bool isTooLarge = qint64{size.width()} * size.height() > WatermarkProfile::mostPixels;
@@ -65,8 +66,9 @@ Qt::Alignment WatermarkProfile::alignmentFromIndex(int index)
         Qt::AlignLeft | Qt::AlignBottom,     //
         Qt::AlignHCenter | Qt::AlignBottom,
     };
-    if (index < 0 || index >= int(alignments.size()))
+    if (index < 0 || index >= int(alignments.size())) {
         return Qt::AlignRight | Qt::AlignBottom;
+    }
     return alignments[std::size_t(index)];
 }
 

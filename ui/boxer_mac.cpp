@@ -21,11 +21,11 @@ namespace {
 using NSInteger = long;
 using NSUInteger = unsigned long;
 
-constexpr NSUInteger AlertStyleWarning = 0;
-constexpr NSUInteger AlertStyleInformational = 1;
-constexpr NSUInteger AlertStyleCritical = 2;
-constexpr NSInteger ModalPanelWindowLevel = 8;
-constexpr NSInteger AlertFirstButtonReturn = 1000;
+constexpr NSUInteger alertStyleWarning = 0;
+constexpr NSUInteger alertStyleInformational = 1;
+constexpr NSUInteger alertStyleCritical = 2;
+constexpr NSInteger modalPanelWindowLevel = 8;
+constexpr NSInteger alertFirstButtonReturn = 1000;
 
 /// Frees the strings that are made while it lives: before the event loop runs, nobody else would.
 class AutoreleasePool
@@ -69,19 +69,19 @@ NSUInteger alertStyle(boxer::Style style)
 {
     switch (style) {
     case boxer::Style::Info:
-        return AlertStyleInformational;
+        return alertStyleInformational;
     case boxer::Style::Warning:
     case boxer::Style::Question:
-        return AlertStyleWarning;
+        return alertStyleWarning;
     case boxer::Style::Error:
-        return AlertStyleCritical;
+        return alertStyleCritical;
     }
-    return AlertStyleInformational;
+    return alertStyleInformational;
 }
 
 boxer::Selection selectionFor(NSInteger response, const std::vector<BoxerButtons::Button>& buttons)
 {
-    const NSInteger index = response - AlertFirstButtonReturn;
+    const NSInteger index = response - alertFirstButtonReturn;
     if (index < 0 || index >= static_cast<NSInteger>(buttons.size())) {
         return boxer::Selection::None;
     }
@@ -103,7 +103,7 @@ boxer::Selection boxer::show(const char* message, const char* title, Style style
         send<id>(alert, "addButtonWithTitle:", makeString(button.title));
     }
     // Above whatever window of the program may be there, so that it cannot be missed.
-    send<void>(send<id>(alert, "window"), "setLevel:", ModalPanelWindowLevel);
+    send<void>(send<id>(alert, "window"), "setLevel:", modalPanelWindowLevel);
 
     const auto response = send<NSInteger>(alert, "runModal");
     send<void>(alert, "release");

@@ -42,17 +42,20 @@ protected:
     void normalize()
     {
         const T sum = std::accumulate(_coefficients.cbegin(), _coefficients.cend(), T(0));
-        if (qFuzzyIsNull(sum))
+        if (qFuzzyIsNull(sum)) {
             return;
-        for (T& coefficient : _coefficients)
+        }
+        for (T& coefficient : _coefficients) {
             coefficient /= sum;
+        }
     }
 
 private:
     [[nodiscard]] std::size_t index(int x, int y) const
     {
-        if (x < 0 || y < 0 || !(x < _size && y < _size))
+        if (x < 0 || y < 0 || !(x < _size && y < _size)) {
             qt_assert_x("coeff", "x < _size && y < _size", __FILE__, __LINE__);
+        }
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(_size) +
                static_cast<std::size_t>(x);
     }
@@ -80,14 +83,16 @@ protected:
         const int size = this->size();
         std::vector<T> samples;
         samples.reserve(static_cast<std::size_t>(size));
-        for (int i = 0; i < size; ++i)
+        for (int i = 0; i < size; ++i) {
             samples.push_back(function(T(2) * support * (T(i) / T(size) - T(0.5))));
+        }
 
         for (int y = 0; y < size; ++y) {
-            for (int x = 0; x < size; ++x)
+            for (int x = 0; x < size; ++x) {
                 this->setCoeff(x, y,
                                samples[static_cast<std::size_t>(x)] *
                                    samples[static_cast<std::size_t>(y)]);
+            }
         }
         this->normalize();
     }
@@ -101,7 +106,9 @@ public:
     CBicubicKernel(int size, float a);
 };
 
-/// The tent function 1 - |x|, support 1, in a table of four by four.
+/// The tent function 1 - |x|, support 1, in a table of four by four. Kept, as CBellBicubicKernel
+/// is, for softer scaling than the programs offer: they scale with the cubic and the Lanczos
+/// kernel.
 class CTriangularKernel : public CImageInterpolationKernel<float>
 {
 public:

@@ -69,8 +69,9 @@ QSize physicalDefaultSize(const QSvgRenderer& renderer)
 
 QSize scaled(const QSize& size, const QSize& bounds)
 {
-    if (size.isEmpty() || bounds.isEmpty())
+    if (size.isEmpty() || bounds.isEmpty()) {
         return {0, 0};
+    }
     const float widthRatio = static_cast<float>(size.width()) / static_cast<float>(bounds.width());
     const float heightRatio =
         static_cast<float>(size.height()) / static_cast<float>(bounds.height());
@@ -100,12 +101,14 @@ QImage CImageResizer::bicubicInterpolation(const QImage& image, const QSize& siz
                                            AspectRatio aspect)
 {
     const QSize target = aspect == Keep ? scaled(image.size(), size) : size;
-    if (image.isNull() || !isReasonable(target))
+    if (image.isNull() || !isReasonable(target)) {
         return {};
+    }
     const bool hasAlpha = image.hasAlphaChannel();
     QImage result(target, hasAlpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    if (result.isNull())
+    if (result.isNull()) {
         return {};
+    }
 
     const QImage source = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     KernelResampling::resample(
@@ -122,8 +125,9 @@ QImage CImageResizer::bicubicInterpolation(const QImage& image, const QSize& siz
 QImage CImageResizer::svg(const QString& name, QSize* outSize, const QSize& requested)
 {
     const auto store = [outSize](const QSize& size) {
-        if (outSize != nullptr)
+        if (outSize != nullptr) {
             *outSize = size;
+        }
     };
     QSvgRenderer renderer(QStringLiteral(":/%1.svg").arg(name));
     if (!renderer.isValid()) {

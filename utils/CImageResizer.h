@@ -14,6 +14,10 @@
 
 /// Scales pictures by one of three methods and renders vector pictures.
 ///
+/// The programs do not call it: `imaging` scales pictures of 8 and 16 bits, in linear light if
+/// wanted, by KernelResampling, which does the work here too; icons are drawn in the colours of the
+/// theme by `ui/theme`. It stays for code that has a plain QImage or the name of a vector picture.
+///
 /// Without state; `resize` and `bicubicInterpolation` may be called from any thread, `svg` from
 /// the user-interface thread only, because it asks for the screen.
 class CImageResizer

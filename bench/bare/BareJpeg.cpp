@@ -12,15 +12,17 @@ BareJpeg::BareJpeg(const QSize& size)
 
 BareJpeg::~BareJpeg()
 {
-    if (m_encoder != nullptr)
+    if (m_encoder != nullptr) {
         tjDestroy(m_encoder);
+    }
     tjFree(m_file);
 }
 
 std::size_t BareJpeg::encode(const std::uint8_t* pixels, std::size_t bytesPerLine, int quality)
 {
-    if (m_encoder == nullptr || m_file == nullptr)
+    if (m_encoder == nullptr || m_file == nullptr) {
         return 0;
+    }
     unsigned long bytes = 0;
     const int result = tjCompress2(m_encoder, pixels, m_size.width(),
                                    static_cast<int>(bytesPerLine), m_size.height(), TJPF_BGRX,

@@ -21,7 +21,7 @@ struct Sample
     int positions;
 };
 
-constexpr Sample Samples[] = {{"1080p_h264_gop250.mp4", 20},
+constexpr Sample samples[] = {{"1080p_h264_gop250.mp4", 20},
                               {"1080p_h264_gop30.mp4", 40},
                               {"2160p_hevc_gop120.mp4", 8},
                               {"720p_mpeg2.ts", 100}};
@@ -42,8 +42,9 @@ void extractAtRandomPositions(benchmark::State& state, const Sample& sample)
             state.SkipWithError(qPrintable(source.error()));
             return;
         }
-        if (++position == positions.end())
+        if (++position == positions.end()) {
             position = positions.begin();
+        }
     }
 }
 
@@ -51,7 +52,7 @@ void extractAtRandomPositions(benchmark::State& state, const Sample& sample)
 
 void registerExtraction()
 {
-    for (const Sample& sample : Samples) {
+    for (const Sample& sample : samples) {
         const QString name = QFileInfo(QString::fromLatin1(sample.name)).completeBaseName();
         benchmark::RegisterBenchmark(
             ("Extract/" + name.toStdString()).c_str(),

@@ -26,16 +26,18 @@ QtAV::VideoFrame stillFrame(benchmark::State& state, const std::string& size)
 {
     FrameSource source(stillPath(size));
     QtAV::VideoFrame frame = source.frameAt(0);
-    if (!frame.isValid())
+    if (!frame.isValid()) {
         state.SkipWithError(qPrintable(source.error()));
+    }
     return frame;
 }
 
 void processImage(benchmark::State& state, const std::string& size, WatermarkProfile* watermark)
 {
     const QtAV::VideoFrame frame = stillFrame(state, size);
-    if (!frame.isValid())
+    if (!frame.isValid()) {
         return;
+    }
     const QImage image = frame.toImage(frame.imageFormat());
     OutputProfiles profiles;
     for ([[maybe_unused]] auto _ : state) {
@@ -57,8 +59,9 @@ void processImageWithWatermark(benchmark::State& state, const std::string& size)
 void saveImage(benchmark::State& state, const QString& path, const QString& type)
 {
     const QtAV::VideoFrame frame = stillFrame(state, "1080p");
-    if (!frame.isValid())
+    if (!frame.isValid()) {
         return;
+    }
     OutputProfiles profiles;
     profiles.fileName()->setFileOutputType(type);
     auto* const manager = ImageProcessingManager::instance();
@@ -75,8 +78,9 @@ void saveImage(benchmark::State& state, const QString& path, const QString& type
 void frameToJpeg(benchmark::State& state, const QString& path, const std::string& size, Shape shape)
 {
     const QtAV::VideoFrame frame = stillFrame(state, size);
-    if (!frame.isValid())
+    if (!frame.isValid()) {
         return;
+    }
     OutputProfiles profiles(shape);
     for ([[maybe_unused]] auto _ : state) {
         if (!profiles.save(frame, path)) {
@@ -95,8 +99,9 @@ struct Geometry
 
 Geometry geometryOf(const cv::Mat& frame, Shape shape)
 {
-    if (shape == Shape::Fit)
+    if (shape == Shape::Fit) {
         return {{0, 0, frame.cols, frame.rows}, {640, 360}};
+    }
     const int width = frame.rows * 4 / 3;
     return {{(frame.cols - width) / 2, 0, width, frame.rows}, {640, 480}};
 }
@@ -118,8 +123,9 @@ void bareResize(benchmark::State& state, const std::string& size, Shape shape)
 {
     BareConversion conversion(stillPath(size), ScalerFlags::Default);
     const cv::Mat frame = bareFrame(state, conversion);
-    if (frame.empty())
+    if (frame.empty()) {
         return;
+    }
     const Geometry geometry = geometryOf(frame, shape);
     cv::Mat result;
     for ([[maybe_unused]] auto _ : state) {
@@ -132,15 +138,16 @@ void bareJpeg(benchmark::State& state, const std::string& size, Shape shape)
 {
     BareConversion conversion(stillPath(size), ScalerFlags::Default);
     const cv::Mat frame = bareFrame(state, conversion);
-    if (frame.empty())
+    if (frame.empty()) {
         return;
+    }
     const Geometry geometry = geometryOf(frame, shape);
     cv::Mat picture;
     cv::resize(frame(geometry.region), picture, geometry.size, 0.0, 0.0, cv::INTER_AREA);
     BareJpeg jpeg({picture.cols, picture.rows});
-    constexpr int Quality = 90;
+    constexpr int quality = 90;
     for ([[maybe_unused]] auto _ : state) {
-        if (jpeg.encode(picture.data, picture.step[0], Quality) == 0) {
+        if (jpeg.encode(picture.data, picture.step[0], quality) == 0) {
             state.SkipWithError("tjCompress2 failed");
             return;
         }

@@ -21,8 +21,9 @@ public:
     explicit Profiles(int count)
         : m_manager(QStringLiteral("BenchmarkProfiles.ini"), newImageProfile, false)
     {
-        while (m_manager.profiles().size() < count)
+        while (m_manager.profiles().size() < count) {
             m_manager.addProfile(m_manager.createProfile());
+        }
         m_manager.saveProfiles();
     }
 
@@ -39,8 +40,9 @@ private:
 void saveProfiles(benchmark::State& state)
 {
     Profiles profiles(static_cast<int>(state.range(0)));
-    for ([[maybe_unused]] auto _ : state)
+    for ([[maybe_unused]] auto _ : state) {
         profiles.manager().saveProfiles();
+    }
 }
 
 void loadProfiles(benchmark::State& state)
@@ -50,8 +52,9 @@ void loadProfiles(benchmark::State& state)
         const QList<BaseProfile*> replaced = profiles.manager().profiles();
         profiles.manager().loadProfilesFromFile();
         state.PauseTiming();
-        if (profiles.manager().profiles().size() != state.range(0))
+        if (profiles.manager().profiles().size() != state.range(0)) {
             state.SkipWithError("not all profiles came back");
+        }
         qDeleteAll(replaced);
         state.ResumeTiming();
     }
@@ -72,13 +75,13 @@ void generateFileName(benchmark::State& state)
 
 void registerProfiles()
 {
-    constexpr int Many = 1000;
+    constexpr int many = 1000;
     benchmark::RegisterBenchmark("LoadProfiles", loadProfiles)
-        ->Arg(Many)
+        ->Arg(many)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
     benchmark::RegisterBenchmark("SaveProfiles", saveProfiles)
-        ->Arg(Many)
+        ->Arg(many)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
     benchmark::RegisterBenchmark("GenerateFileName", generateFileName)

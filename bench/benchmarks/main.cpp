@@ -14,8 +14,9 @@ int main(int argc, char** argv)
     const bench::Sandbox sandbox;
     const QGuiApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
+    }
     benchmark::AddCustomContext("qt", qVersion());
     benchmark::AddCustomContext("ffmpeg", bench::ffmpegVersion().toStdString());
     benchmark::AddCustomContext("opencv", cv::getVersionString());

@@ -24,7 +24,7 @@ struct Options
 {
     QString video;
     QDir folder;
-    int precision = bench::FrameSource::AutomaticPrecision;
+    int precision = bench::FrameSource::automaticPrecision;
     bool keepsVideoSize = false;
 };
 
@@ -42,11 +42,13 @@ Options parsed(const QGuiApplication& app)
     parser.addOptions({precision, videoSize});
     parser.process(app);
     const QStringList arguments = parser.positionalArguments();
-    if (arguments.size() != 2)
+    if (arguments.size() != 2) {
         parser.showHelp(2);
+    }
     Options options{arguments.at(0), QDir(arguments.at(1))};
-    if (parser.isSet(precision))
+    if (parser.isSet(precision)) {
         options.precision = parser.value(precision).toInt();
+    }
     options.keepsVideoSize = parser.isSet(videoSize);
     return options;
 }
@@ -88,12 +90,14 @@ int main(int argc, char** argv)
     const Options options = parsed(app);
     bench::FrameSource source(options.video, options.precision);
     bench::OutputProfiles profiles;
-    if (options.keepsVideoSize)
+    if (options.keepsVideoSize) {
         profiles.keepVideoSize();
+    }
     qint64 position = 0;
     while (std::cin >> position) {
-        if (!answer(position, options.folder, source, profiles))
+        if (!answer(position, options.folder, source, profiles)) {
             return 1;
+        }
     }
     return 0;
 }

@@ -28,13 +28,15 @@ bool resetPeak()
 std::optional<long> peak()
 {
     QFile file(QStringLiteral("/proc/self/status"));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return std::nullopt;
+    }
     const QByteArray prefix = QByteArrayLiteral("VmHWM:");
     const QList<QByteArray> lines = file.readAll().split('\n');
     for (const QByteArray& line : lines) {
-        if (line.startsWith(prefix))
+        if (line.startsWith(prefix)) {
             return line.mid(prefix.size()).simplified().split(' ').constFirst().toLong();
+        }
     }
     return std::nullopt;
 }
@@ -84,8 +86,9 @@ int main(int argc, char** argv)
     parser.addOption(countOption);
     parser.process(app);
     const int count = parser.value(countOption).toInt();
-    if (parser.positionalArguments().size() != 1 || count < 2)
+    if (parser.positionalArguments().size() != 1 || count < 2) {
         parser.showHelp(2);
+    }
 
     bench::FrameSource source(parser.positionalArguments().constFirst());
     const std::vector<qint64> positions = bench::randomPositions(source.duration(), count);
@@ -94,8 +97,9 @@ int main(int argc, char** argv)
     const std::optional<long> first = peakOf(source, path, positions.begin(), middle);
     const std::optional<long> second =
         first ? peakOf(source, path, middle, positions.end()) : std::nullopt;
-    if (!second)
+    if (!second) {
         return 1;
+    }
     std::printf("%d extractions: peak %.1f MiB in the first half, %.1f MiB in the second, "
                 "ratio %.3f\n",
                 count, static_cast<double>(*first) / 1024.0, static_cast<double>(*second) / 1024.0,

@@ -63,8 +63,9 @@ bool play(const QString& path, QSize size, int seconds)
     });
     QObject::connect(&player, &QtAV::AVPlayer::mediaStatusChanged, qApp,
                      [](QtAV::MediaStatus status) {
-                         if (status == QtAV::EndOfMedia || status == QtAV::InvalidMedia)
+                         if (status == QtAV::EndOfMedia || status == QtAV::InvalidMedia) {
                              QCoreApplication::quit();
+                         }
                      });
     player.play(path);
     QCoreApplication::exec();
@@ -101,8 +102,9 @@ int main(int argc, char** argv)
     parser.process(app);
     const int seconds = parser.value(secondsOption).toInt();
     const int width = parser.value(widthOption).toInt();
-    if (parser.positionalArguments().size() != 1 || seconds < 1 || width < 16)
+    if (parser.positionalArguments().size() != 1 || seconds < 1 || width < 16) {
         parser.showHelp(2);
+    }
     const QSize size(width, width * 9 / 16);
     return play(parser.positionalArguments().constFirst(), size, seconds) ? 0 : 1;
 }

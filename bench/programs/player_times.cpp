@@ -44,7 +44,7 @@ using QtAV::AVPlayer;
 namespace {
 
 /// What takes longer has failed.
-constexpr int PatienceMs = 120000;
+constexpr int patienceMs = 120000;
 
 /// Shows frames in a window and says when one has been painted.
 class Screen : public QtAV::VideoRenderer
@@ -74,8 +74,9 @@ public:
     {
         // The filter comes before the painting: what is queued here comes after it.
         const bool isPaint = event->type() == QEvent::Paint && m_output.isUpToDate();
-        if (isPaint && std::exchange(m_awaitsPaint, false))
+        if (isPaint && std::exchange(m_awaitsPaint, false)) {
             QMetaObject::invokeMethod(this, &Screen::painted, Qt::QueuedConnection);
+        }
         return VideoRenderer::eventFilter(watched, event);
     }
 
@@ -113,20 +114,27 @@ public:
 
     QJsonObject answer(const QString& command, const QString& argument)
     {
-        if (command == QLatin1String("open"))
+        if (command == QLatin1String("open")) {
             return open(argument);
-        if (command == QLatin1String("seek"))
+        }
+        if (command == QLatin1String("seek")) {
             return seek(argument.toLongLong());
-        if (command == QLatin1String("forward"))
+        }
+        if (command == QLatin1String("forward")) {
             return untilPainted([this] { m_player.stepForward(); });
-        if (command == QLatin1String("backward"))
+        }
+        if (command == QLatin1String("backward")) {
             return untilPainted([this] { m_player.stepBackward(); });
-        if (command == QLatin1String("play"))
+        }
+        if (command == QLatin1String("play")) {
             return play(argument.toInt());
-        if (command == QLatin1String("stop"))
+        }
+        if (command == QLatin1String("stop")) {
             return stop();
-        if (command == QLatin1String("cache"))
+        }
+        if (command == QLatin1String("cache")) {
             return fillCache(argument.toLongLong());
+        }
         return failure(QStringLiteral("unknown command %1").arg(command));
     }
 
@@ -169,14 +177,15 @@ private:
             loop.quit();
         });
         connect(&patience, &QTimer::timeout, &loop, &QEventLoop::quit);
-        patience.start(PatienceMs);
+        patience.start(patienceMs);
         QElapsedTimer timer;
         timer.start();
         action();
         loop.exec();
         const double elapsed = milliseconds(timer);
-        if (!isPainted)
+        if (!isPainted) {
             return failure(QStringLiteral("no picture: %1").arg(m_player.errorString()));
+        }
         return {{QStringLiteral("painted"), elapsed},
                 {QStringLiteral("position"), m_player.displayedFrame().timestamp() * 1000.0}};
     }
@@ -202,8 +211,9 @@ private:
         const auto isCancelled = [] { return false; };
         QtAV::FrameSource source;
         QString error;
-        if (!source.open(m_player.file(), m_player.frameCacheSize(), isCancelled, error))
+        if (!source.open(m_player.file(), m_player.frameCacheSize(), isCancelled, error)) {
             return failure(error);
+        }
         const QtAV::FrameResult found = source.frameAt(ms, isCancelled);
         source.setFocus(found.frame.timestamp());
         while (source.prepare(QtAV::FrameSource::longestRest, isCancelled)) {
@@ -242,8 +252,9 @@ int main(int argc, char** argv)
     const bool drawsWithOpenGL = std::any_of(argv + 1, argv + argc, [](const char* argument) {
         return qstrcmp(argument, "--opengl") == 0;
     });
-    if (!drawsWithOpenGL)
+    if (!drawsWithOpenGL) {
         GraphicsPolicy::avoidImitatedOpenGL();
+    }
     const QApplication app(argc, argv);
     QCommandLineParser parser;
     parser.addHelpOption();
@@ -262,8 +273,9 @@ int main(int argc, char** argv)
     using Drawing = QtAV::VideoOutput::Drawing;
     Session session(drawsWithOpenGL ? Drawing::OpenGL : Drawing::Raster,
                     QSize(parser.value(width).toInt(), parser.value(height).toInt()));
-    if (parser.isSet(cache))
+    if (parser.isSet(cache)) {
         session.setFrameCacheSize(parser.value(cache).toLongLong() << 20);
+    }
     std::thread reader([&session] { readCommands(session); });
     const int result = QApplication::exec();
     reader.join();

@@ -16,10 +16,10 @@ class FrameSource : public QObject
 
 public:
     /// Keeps the grabber's own choice of precision: 500 ms, or 250 ms for a short video.
-    static constexpr int AutomaticPrecision = -1;
+    static constexpr int automaticPrecision = -1;
 
     /// Opens nothing yet; see FrameGrabber for the precision, in milliseconds.
-    explicit FrameSource(const QString& video, int precision = AutomaticPrecision);
+    explicit FrameSource(const QString& video, int precision = automaticPrecision);
 
     /// Length of the video in milliseconds; 0 when it cannot be opened.
     [[nodiscard]] qint64 duration();

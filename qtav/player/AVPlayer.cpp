@@ -77,8 +77,9 @@ qreal AVPlayer::speed() const
 void AVPlayer::setSpeed(qreal speed)
 {
     const qreal wanted = std::clamp(speed, slowest, fastest);
-    if (!(std::abs(wanted - d->speed) > 0.0))
+    if (!(std::abs(wanted - d->speed) > 0.0)) {
         return;
+    }
     // The time goes on from the frame on screen, for the sound as well.
     d->haltTime();
     d->speed = wanted;
@@ -114,15 +115,17 @@ qint64 AVPlayer::frameCacheSize() const
 
 void AVPlayer::setRenderer(VideoRenderer* renderer)
 {
-    if (d->renderer == renderer)
+    if (d->renderer == renderer) {
         return;
+    }
     if (d->renderer) {
         disconnect(d->renderer, &VideoRenderer::screenSizeChanged, this, nullptr);
         d->renderer->present(VideoFrame());
     }
     d->renderer = renderer;
-    if (!d->renderer)
+    if (!d->renderer) {
         return;
+    }
     connect(renderer, &VideoRenderer::screenSizeChanged, this,
             [this, renderer] { d->engine.setScreen(renderer->screenSize()); });
     d->engine.setScreen(renderer->screenSize());
@@ -161,8 +164,9 @@ const Statistics& AVPlayer::statistics() const
 
 void AVPlayer::setFile(const QString& path)
 {
-    if (path == d->file)
+    if (path == d->file) {
         return;
+    }
     stop();
     d->file = path;
     d->error.clear();
@@ -178,15 +182,17 @@ void AVPlayer::play(const QString& path)
 
 void AVPlayer::play()
 {
-    if (d->state == PlayingState || d->file.isEmpty())
+    if (d->state == PlayingState || d->file.isEmpty()) {
         return;
+    }
     if (d->state == StoppedState) {
         d->openFile();
         return;
     }
     const bool isAtEnd = d->status == EndOfMedia;
-    if (isAtEnd)
+    if (isAtEnd) {
         d->seek(0);
+    }
     d->startsOverAtEnd = !isAtEnd;
     d->engine.setPlaying(true);
     d->setState(PlayingState);
@@ -196,10 +202,12 @@ void AVPlayer::play()
 
 void AVPlayer::pause(bool pause)
 {
-    if (!pause && d->state == PausedState)
+    if (!pause && d->state == PausedState) {
         play();
-    if (!pause || d->state != PlayingState)
+    }
+    if (!pause || d->state != PlayingState) {
         return;
+    }
     d->haltTime();
     d->engine.setPlaying(false);
     d->setState(PausedState);
@@ -208,14 +216,16 @@ void AVPlayer::pause(bool pause)
 
 void AVPlayer::stop()
 {
-    if (d->state != StoppedState)
+    if (d->state != StoppedState) {
         d->close(NoMedia);
+    }
 }
 
 void AVPlayer::setPosition(qint64 ms)
 {
-    if (d->state != StoppedState)
+    if (d->state != StoppedState) {
         d->seek(ms);
+    }
 }
 
 void AVPlayer::stepForward()
@@ -240,8 +250,9 @@ void AVPlayer::stepFieldBackward()
 
 void AVPlayer::handleEngine()
 {
-    for (const PlaybackEngine::Answer& answer : d->engine.takeAnswers())
+    for (const PlaybackEngine::Answer& answer : d->engine.takeAnswers()) {
         d->handle(answer);
+    }
     presentDue();
 }
 

@@ -9,10 +9,10 @@ namespace {
 
 /// A picture that is later than this by the monotonic clock is shown all the same, and the clock
 /// set back to it: nothing was heard that it would have to follow.
-constexpr double MostLatenessSeconds = 0.5;
+constexpr double mostLatenessSeconds = 0.5;
 
 /// The last frame is shown no longer than this, however late the file is said to end.
-constexpr double LongestLastFrameSeconds = 1.0;
+constexpr double longestLastFrameSeconds = 1.0;
 
 } // namespace
 
@@ -33,24 +33,27 @@ AVPlayer::Private::Private(AVPlayer* player)
 
 void AVPlayer::Private::setState(State newState)
 {
-    if (newState == state)
+    if (newState == state) {
         return;
+    }
     state = newState;
     Q_EMIT q->stateChanged(newState);
 }
 
 void AVPlayer::Private::setStatus(MediaStatus newStatus)
 {
-    if (newStatus == status)
+    if (newStatus == status) {
         return;
+    }
     status = newStatus;
     Q_EMIT q->mediaStatusChanged(newStatus);
 }
 
 void AVPlayer::Private::setDuration(qint64 ms)
 {
-    if (ms == duration)
+    if (ms == duration) {
         return;
+    }
     duration = ms;
     Q_EMIT q->durationChanged(ms);
 }
@@ -61,10 +64,12 @@ void AVPlayer::Private::show(const VideoFrame& newFrame)
     frame = newFrame;
     const QSize size = frame.isValid() ? frame.displaySize() : QSize(0, 0);
     statistics.video_only = {size.width(), size.height()};
-    if (renderer)
+    if (renderer) {
         renderer->present(frame);
-    if (q->displayPosition() != before)
+    }
+    if (q->displayPosition() != before) {
         Q_EMIT q->positionChanged(q->displayPosition());
+    }
 }
 
 void AVPlayer::Private::close(MediaStatus statusAfterwards)
@@ -81,11 +86,13 @@ void AVPlayer::Private::close(MediaStatus statusAfterwards)
     show(VideoFrame());
     setDuration(0);
     // A connected slot may have opened another file, or will now.
-    if (openSerial != serial)
+    if (openSerial != serial) {
         return;
+    }
     setState(StoppedState);
-    if (openSerial == serial)
+    if (openSerial == serial) {
         setStatus(statusAfterwards);
+    }
     Q_EMIT q->stopped();
 }
 
@@ -113,14 +120,16 @@ void AVPlayer::Private::seek(qint64 ms)
     isFieldStepUnderWay = false;
     soughtMs = clamped(ms);
     seekSerial = engine.seek(*soughtMs);
-    if (isLoaded)
+    if (isLoaded) {
         setStatus(LoadedMedia);
+    }
 }
 
 void AVPlayer::Private::step(PlaybackEngine::Direction direction)
 {
-    if (state == StoppedState)
+    if (state == StoppedState) {
         return;
+    }
     q->pause();
     engine.step(direction);
     isFieldStepUnderWay = false;
@@ -128,11 +137,13 @@ void AVPlayer::Private::step(PlaybackEngine::Direction direction)
 
 void AVPlayer::Private::stepField(PlaybackEngine::Direction direction)
 {
-    if (state == StoppedState || isFieldStepUnderWay)
+    if (state == StoppedState || isFieldStepUnderWay) {
         return;
+    }
     q->pause();
-    if (showOtherField(direction))
+    if (showOtherField(direction)) {
         return;
+    }
     wantsSecondField = direction == PlaybackEngine::Direction::Backward;
     fieldStepSerial = engine.step(direction);
     isFieldStepUnderWay = true;
@@ -142,11 +153,13 @@ void AVPlayer::Private::stepField(PlaybackEngine::Direction direction)
 bool AVPlayer::Private::showOtherField(PlaybackEngine::Direction direction)
 {
     const bool goesBack = direction == PlaybackEngine::Direction::Backward;
-    if (goesBack != frame.isSecondField())
+    if (goesBack != frame.isSecondField()) {
         return false;
+    }
     const VideoFrame other = goesBack ? frame.firstField() : frame.secondField();
-    if (other.isValid())
+    if (other.isValid()) {
         show(other);
+    }
     return other.isValid();
 }
 
@@ -155,29 +168,34 @@ void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
     using Kind = PlaybackEngine::Answer::Kind;
     const bool isFrame = answer.result.answer == FrameAnswer::Frame;
     // What was captured is answered also when the file has been closed since.
-    if (answer.serial < openSerial && answer.kind != Kind::Captured)
+    if (answer.serial < openSerial && answer.kind != Kind::Captured) {
         return;
+    }
     switch (answer.kind) {
     case Kind::Opened:
         isFrame ? opened(answer) : fail(answer.result.error);
         break;
     case Kind::Sought:
-        if (answer.serial != seekSerial)
+        if (answer.serial != seekSerial) {
             break;
+        }
         isFrame ? sought(answer) : fail(AVPlayer::tr("The file cannot be read any more."));
         break;
     case Kind::Stepped:
         isFieldStepUnderWay = isFieldStepUnderWay && answer.serial < fieldStepSerial;
-        if (answer.serial < seekSerial)
+        if (answer.serial < seekSerial) {
             break;
-        if (isFrame)
+        }
+        if (isFrame) {
             stepped(answer);
-        else if (answer.result.answer == FrameAnswer::Failed)
+        } else if (answer.result.answer == FrameAnswer::Failed) {
             halt(answer.result.error);
+        }
         break;
     case Kind::Refined:
-        if (answer.result.frame.timestamp() == frame.timestamp())
+        if (answer.result.frame.timestamp() == frame.timestamp()) {
             show(answer.result.frame);
+        }
         break;
     case Kind::Captured:
         capture->deliver(answer.image, answer.result.frame);
@@ -190,19 +208,22 @@ void AVPlayer::Private::opened(const PlaybackEngine::Answer& answer)
     isLoaded = true;
     hasSound = answer.hasSound;
     facts = answer.facts;
-    if (hasSound)
+    if (hasSound) {
         sound.open(file);
+    }
     if (interval != answer.frameInterval) {
         interval = answer.frameInterval;
         Q_EMIT q->notifyIntervalChanged();
     }
     setDuration(answer.duration);
-    if (soughtMs)
+    if (soughtMs) {
         soughtMs = clamped(*soughtMs);
+    }
     show(answer.result.frame);
     // A connected slot may have closed the file.
-    if (openSerial != answer.serial)
+    if (openSerial != answer.serial) {
         return;
+    }
     setStatus(LoadedMedia);
     resumeTime();
 }
@@ -214,8 +235,9 @@ void AVPlayer::Private::sought(const PlaybackEngine::Answer& answer)
     show(answer.result.frame);
     resumeTime();
     // A connected slot may have sought again, or closed the file.
-    if (!soughtMs && isLoaded)
+    if (!soughtMs && isLoaded) {
         Q_EMIT q->seekFinished(q->displayPosition());
+    }
 }
 
 void AVPlayer::Private::stepped(const PlaybackEngine::Answer& answer)
@@ -223,8 +245,9 @@ void AVPlayer::Private::stepped(const PlaybackEngine::Answer& answer)
     setDuration(answer.duration);
     setStatus(LoadedMedia);
     // A connected slot may have closed the file, or sought.
-    if (!isLoaded || answer.serial < seekSerial || openSerial > answer.serial)
+    if (!isLoaded || answer.serial < seekSerial || openSerial > answer.serial) {
         return;
+    }
     const VideoFrame& given = answer.result.frame;
     const bool goesToSecond = wantsSecondField && answer.serial == fieldStepSerial;
     const VideoFrame second = goesToSecond ? given.secondField() : VideoFrame();
@@ -240,12 +263,14 @@ void AVPlayer::Private::fail(const QString& reason)
 /// Lets the time run on from the frame on screen, if playing and nothing else is awaited.
 void AVPlayer::Private::resumeTime()
 {
-    if (!plays())
+    if (!plays()) {
         return;
+    }
     clock.set(frame.timestamp());
     clock.start();
-    if (playsSound())
+    if (playsSound()) {
         sound.play(frame.timestamp(), speed);
+    }
     schedule(0.0);
     if (!hasStarted) {
         hasStarted = true;
@@ -257,14 +282,16 @@ void AVPlayer::Private::haltTime()
 {
     timer.stop();
     clock.stop();
-    if (hasSound)
+    if (hasSound) {
         sound.pause();
+    }
 }
 
 double AVPlayer::Private::now()
 {
-    if (const std::optional<double> heard = sound.position())
+    if (const std::optional<double> heard = sound.position()) {
         clock.set(*heard);
+    }
     return clock.now();
 }
 
@@ -282,8 +309,9 @@ void AVPlayer::Private::schedule(double playedSeconds)
 
 void AVPlayer::Private::presentDue()
 {
-    if (!plays())
+    if (!plays()) {
         return;
+    }
     const bool soundLeads = sound.position().has_value();
     const double time = now();
     const PlaybackEngine::Due due = engine.takeDue(time, soundLeads ? PlaybackEngine::CatchUp::Yes
@@ -292,23 +320,26 @@ void AVPlayer::Private::presentDue()
     setDuration(due.duration);
     if (due.frame.isValid()) {
         startsOverAtEnd = false;
-        if (!soundLeads && time - due.frame.timestamp() > MostLatenessSeconds * speed)
+        if (!soundLeads && time - due.frame.timestamp() > mostLatenessSeconds * speed) {
             clock.set(due.frame.timestamp());
+        }
         show(due.frame);
     }
     // A connected slot may have stopped, paused or sought.
-    if (!plays())
+    if (!plays()) {
         return;
-    if (due.next)
+    }
+    if (due.next) {
         schedule(*due.next - now());
-    else if (due.failure)
+    } else if (due.failure) {
         halt(*due.failure);
-    else if (due.isEnded && startsOverAtEnd)
+    } else if (due.isEnded && startsOverAtEnd) {
         seek(0);
-    else if (due.isEnded && now() >= endTime(soundLeads))
+    } else if (due.isEnded && now() >= endTime(soundLeads)) {
         finish();
-    else if (due.isEnded)
+    } else if (due.isEnded) {
         schedule(endTime(soundLeads) - now());
+    }
 }
 
 /// When playback is over: with the last frame's time on screen, or with the sound.
@@ -316,7 +347,7 @@ double AVPlayer::Private::endTime(bool soundLeads) const
 {
     const double end = double(duration) / 1000.0;
     const double last = frame.timestamp();
-    return soundLeads ? std::max(end, last) : std::clamp(end, last, last + LongestLastFrameSeconds);
+    return soundLeads ? std::max(end, last) : std::clamp(end, last, last + longestLastFrameSeconds);
 }
 
 /// No way on from here, but what is on screen stays, and other places may be readable.
@@ -331,10 +362,11 @@ void AVPlayer::Private::finish()
 {
     haltTime();
     setStatus(EndOfMedia);
-    if (endAction == MediaEndAction_Stop)
+    if (endAction == MediaEndAction_Stop) {
         q->stop();
-    else
+    } else {
         q->pause();
+    }
 }
 
 } // namespace QtAV

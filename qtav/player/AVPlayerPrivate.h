@@ -54,7 +54,7 @@ public:
     State state = StoppedState;
     MediaStatus status = NoMedia;
     MediaEndAction endAction = MediaEndAction_Stop;
-    qint64 cacheBytes = FrameCache::DefaultBytes;
+    qint64 cacheBytes = FrameCache::defaultBytes;
     bool isLoaded = false;
     bool hasSound = false;
     bool hasStarted = false; ///< started() has been sent since opening

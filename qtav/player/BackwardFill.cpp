@@ -40,8 +40,9 @@ bool BackwardFill::startIfNeeded(const FrameCache::Run& run, qint64 room, qint64
 {
     const bool isEnough = run.isAtStart || run.framesBefore * partLeft >= room;
     // Another pass to the same frame would end the same.
-    if (m_pass || isEnough || m_filledUpTo == run.start)
+    if (m_pass || isEnough || m_filledUpTo == run.start) {
         return m_pass.has_value();
+    }
     start(run.start, toMilliseconds(run.start) - (room - run.framesBefore) * gapMs);
     m_filledUpTo = run.start;
     return true;
@@ -63,7 +64,8 @@ void BackwardFill::land()
 
 bool BackwardFill::isOnTheWayTo(double seconds) const
 {
-    return m_pass && m_pass->target <= seconds && seconds - m_pass->target <= FrameReader::NearSeconds &&
+    return m_pass && m_pass->target <= seconds &&
+           seconds - m_pass->target <= FrameReader::nearSeconds &&
            (!m_pass->cameFrom || *m_pass->cameFrom < m_pass->target);
 }
 
@@ -80,13 +82,16 @@ std::optional<FrameResult> BackwardFill::advance(const IsCancelled& isCancelled)
 std::optional<FrameResult> BackwardFill::walkOn(const IsCancelled& isCancelled)
 {
     FrameResult step = m_reader.next(isCancelled);
-    if (step.answer == FrameAnswer::Cancelled)
+    if (step.answer == FrameAnswer::Cancelled) {
         return step;
+    }
     const bool isFrame = step.answer == FrameAnswer::Frame;
-    if (step.answer == FrameAnswer::Failed)
+    if (step.answer == FrameAnswer::Failed) {
         return m_reader.canGoOn() ? std::nullopt : std::optional(end(std::move(step)));
-    if (isFrame)
+    }
+    if (isFrame) {
         m_onFrame();
+    }
     if (isFrame && step.frame.timestamp() < m_pass->target) {
         m_pass->previous = step.frame;
         m_pass->isPreviousAsEver = m_reader.looksAsEver();
@@ -94,8 +99,9 @@ std::optional<FrameResult> BackwardFill::walkOn(const IsCancelled& isCancelled)
     }
     const bool isComplete =
         isFrame ? m_reader.predecessor().has_value() : !m_reader.skippedSinceLast();
-    if (m_pass->previous.isValid() && m_pass->isPreviousAsEver && isComplete)
+    if (m_pass->previous.isValid() && m_pass->isPreviousAsEver && isComplete) {
         return end({FrameAnswer::Frame, m_pass->previous});
+    }
     const bool isAtStart = m_pass->stepBackMs >= toMilliseconds(m_pass->target);
     const bool isFirst = isFrame && m_reader.isAtFirstOfVideo();
     const bool skips = m_pass->completeFrom > 0;
@@ -104,8 +110,9 @@ std::optional<FrameResult> BackwardFill::walkOn(const IsCancelled& isCancelled)
         return end(previous.isValid() ? FrameResult{FrameAnswer::Frame, previous}
                                       : FrameResult{FrameAnswer::End});
     }
-    if (!skips)
-        m_pass->stepBackMs = std::max(FrameReader::SmallestStepBackMs, 2 * m_pass->stepBackMs);
+    if (!skips) {
+        m_pass->stepBackMs = std::max(FrameReader::smallestStepBackMs, 2 * m_pass->stepBackMs);
+    }
     m_pass->completeFrom = 0;
     land();
     return std::nullopt;
@@ -113,8 +120,9 @@ std::optional<FrameResult> BackwardFill::walkOn(const IsCancelled& isCancelled)
 
 FrameResult BackwardFill::end(FrameResult result)
 {
-    if (const std::optional<double> landing = m_reader.landing())
+    if (const std::optional<double> landing = m_reader.landing()) {
         m_longestGroup = std::max(m_longestGroup, m_pass->target - *landing);
+    }
     m_pass.reset();
     return result;
 }
@@ -122,8 +130,9 @@ FrameResult BackwardFill::end(FrameResult result)
 FrameResult BackwardFill::finish(const IsCancelled& isCancelled)
 {
     std::optional<FrameResult> result;
-    while (!result)
+    while (!result) {
         result = advance(isCancelled);
+    }
     return *result;
 }
 
@@ -144,12 +153,14 @@ void BackwardFill::reset()
 void BackwardFill::measure(std::optional<double> from)
 {
     const std::optional<double> last = m_reader.last();
-    if (from && from == last)
+    if (from && from == last) {
         return;
+    }
     const auto now = m_clock();
     const double took = secondsOf(now - std::exchange(m_measuredUntil, now));
-    if (!from || !last || *last <= *from || took <= 0.0)
+    if (!from || !last || *last <= *from || took <= 0.0) {
         return;
+    }
     const double speed = (*last - *from) / took;
     // Frames come in bursts, out of several threads: what counts is the mean time, not speed.
     m_speed = m_speed > 0.0 ? 1.0 / ((1.0 - newShare) / m_speed + newShare / speed) : speed;
@@ -158,19 +169,23 @@ void BackwardFill::measure(std::optional<double> from)
 void BackwardFill::noteDecoded(double keyFrame, double upTo, double took)
 {
     m_longestGroup = std::max(m_longestGroup, upTo - keyFrame);
-    if (took > 0.0 && upTo > keyFrame && m_speed <= 0.0)
+    if (took > 0.0 && upTo > keyFrame && m_speed <= 0.0) {
         m_speed = speedOfPass * (upTo - keyFrame) / took;
+    }
 }
 
 std::optional<double> BackwardFill::remainingSeconds() const
 {
-    if (!m_pass || m_speed <= 0.0)
+    if (!m_pass || m_speed <= 0.0) {
         return std::nullopt;
+    }
     double from = m_pass->target - m_longestGroup;
-    if (m_reader.landing())
+    if (m_reader.landing()) {
         from = *m_reader.landing();
-    if (m_reader.last())
+    }
+    if (m_reader.last()) {
         from = *m_reader.last();
+    }
     return std::max(0.0, m_pass->target - from) / m_speed;
 }
 

@@ -31,8 +31,9 @@ FrameCache::FrameCache(qint64 mostBytes)
 
 void FrameCache::setScreen(const QSize& size)
 {
-    if (!size.isEmpty())
+    if (!size.isEmpty()) {
         m_screen = size;
+    }
 }
 
 QSize FrameCache::shownSize(const VideoFrame& frame) const
@@ -62,8 +63,9 @@ double FrameCache::furthestWhole() const
 
 bool FrameCache::isWorthReplacing(const VideoFrame& old, const VideoFrame& frame) const
 {
-    if (!old.isScaledDown() || frame.isScaledDown())
+    if (!old.isScaledDown() || frame.isScaledDown()) {
         return false;
+    }
     const QSize shown = shownSize(frame);
     const bool isOtherSize = old.width() * old.height() != shown.width() * shown.height();
     const bool isRoom = m_wholeBytes + frame.byteCount() <= mostWholeBytes();
@@ -84,8 +86,9 @@ void FrameCache::add(Entry& entry, const VideoFrame& frame)
     m_decodedBytes = std::max(m_decodedBytes, bytes);
     const qint64 bytesWhenSmall = bytesScaledDown(frame);
     const bool isReducible = bytesWhenSmall * worthOf <= bytes * worthParts;
-    if (m_keptBytes == 0)
+    if (m_keptBytes == 0) {
         m_keptBytes = isReducible ? bytesWhenSmall : bytes;
+    }
     if (isReducible) {
         m_whole.insert(frame.timestamp());
         m_wholeBytes += bytes;
@@ -98,8 +101,9 @@ void FrameCache::add(Entry& entry, const VideoFrame& frame)
 void FrameCache::remove(double seconds, const VideoFrame& frame)
 {
     m_bytes -= frame.byteCount();
-    if (m_whole.erase(seconds) > 0)
+    if (m_whole.erase(seconds) > 0) {
         m_wholeBytes -= frame.byteCount();
+    }
 }
 
 void FrameCache::erase(double seconds)
@@ -112,11 +116,13 @@ void FrameCache::erase(double seconds)
 void FrameCache::insert(const VideoFrame& frame, std::optional<double> predecessor)
 {
     Entry& entry = m_frames[frame.timestamp()];
-    if (predecessor)
+    if (predecessor) {
         entry.predecessor = predecessor;
+    }
     if (entry.frame.isValid()) {
-        if (!isWorthReplacing(entry.frame, frame))
+        if (!isWorthReplacing(entry.frame, frame)) {
             return;
+        }
         remove(frame.timestamp(), entry.frame);
     }
     add(entry, frame);
@@ -150,8 +156,9 @@ void FrameCache::clear()
 
 qint64 FrameCache::roomBefore() const
 {
-    if (m_keptBytes == 0)
+    if (m_keptBytes == 0) {
         return 0;
+    }
     const bool isScaling = !m_whole.empty() || m_keptBytes < m_decodedBytes;
     const qint64 bytes = m_mostBytes - (isScaling ? mostWholeBytes() : 0);
     return static_cast<qint64>(double(bytes / m_keptBytes) * weightAfter / (1.0 + weightAfter));
@@ -200,16 +207,18 @@ VideoFrame FrameCache::at(double seconds) const
 VideoFrame FrameCache::before(double seconds) const
 {
     const auto found = m_frames.find(seconds);
-    if (found == m_frames.end() || !found->second.predecessor)
+    if (found == m_frames.end() || !found->second.predecessor) {
         return {};
+    }
     return at(*found->second.predecessor);
 }
 
 VideoFrame FrameCache::after(double seconds) const
 {
     const auto next = m_frames.upper_bound(seconds);
-    if (next == m_frames.end() || next->second.predecessor != seconds)
+    if (next == m_frames.end() || next->second.predecessor != seconds) {
         return {};
+    }
     return next->second.frame;
 }
 
@@ -217,10 +226,12 @@ VideoFrame FrameCache::atOrAfter(qint64 ms) const
 {
     // Half a millisecond less, so that rounding hides no frame.
     auto next = m_frames.lower_bound((double(ms) - 0.5) / 1000.0);
-    while (next != m_frames.end() && toMilliseconds(next->first) < ms)
+    while (next != m_frames.end() && toMilliseconds(next->first) < ms) {
         ++next;
-    if (next == m_frames.end())
+    }
+    if (next == m_frames.end()) {
         return {};
+    }
     const std::optional<double>& predecessor = next->second.predecessor;
     const bool isTheFirstSuch =
         m_first == next->first || (predecessor && toMilliseconds(*predecessor) < ms);
@@ -230,19 +241,22 @@ VideoFrame FrameCache::atOrAfter(qint64 ms) const
 std::optional<FrameCache::Run> FrameCache::runAround(double seconds) const
 {
     const auto given = m_frames.find(seconds);
-    if (given == m_frames.end())
+    if (given == m_frames.end()) {
         return std::nullopt;
+    }
     Run run{seconds, seconds, 0, 0, false};
     for (auto next = std::next(given); next != m_frames.end(); ++next) {
-        if (next->second.predecessor != run.end)
+        if (next->second.predecessor != run.end) {
             break;
+        }
         run.end = next->first;
         ++run.framesAfter;
     }
     for (auto entry = given; entry != m_frames.begin();) {
         const auto before = std::prev(entry);
-        if (entry->second.predecessor != before->first)
+        if (entry->second.predecessor != before->first) {
             break;
+        }
         entry = before;
         run.start = entry->first;
         ++run.framesBefore;

@@ -23,7 +23,7 @@ namespace QtAV {
 class FrameCache
 {
 public:
-    static constexpr qint64 DefaultBytes = qint64(224) << 20;
+    static constexpr qint64 defaultBytes = qint64(224) << 20;
 
     /// For which screen frames are scaled down while none is known, in pixels.
     static constexpr QSize usualScreen{960, 540};
@@ -44,7 +44,7 @@ public:
         bool isAtStart;      ///< the first of them is the first of the video
     };
 
-    explicit FrameCache(qint64 mostBytes = DefaultBytes);
+    explicit FrameCache(qint64 mostBytes = defaultBytes);
 
     /// The screen's size in pixels, into which pictures are fitted. Frames that are scaled down
     /// already stay as they are. Ignored when empty.

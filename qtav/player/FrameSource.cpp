@@ -42,15 +42,18 @@ bool FrameSource::open(const QString& path, qint64 cacheBytes, const IsCancelled
 {
     close();
     m_cache.setMostBytes(cacheBytes);
-    if (!m_reader.open(path, isCancelled, error))
+    if (!m_reader.open(path, isCancelled, error)) {
         return false;
+    }
     const FrameResult first = frameAt(0, isCancelled);
-    if (first.answer == FrameAnswer::Frame)
+    if (first.answer == FrameAnswer::Frame) {
         return true;
-    if (first.answer == FrameAnswer::Failed)
+    }
+    if (first.answer == FrameAnswer::Failed) {
         error = first.error;
-    else if (first.answer == FrameAnswer::End)
+    } else if (first.answer == FrameAnswer::End) {
         error = QCoreApplication::translate("QtAV::AVPlayer", "The video cannot be decoded.");
+    }
     close();
     return false;
 }
@@ -61,8 +64,9 @@ void FrameSource::close()
     m_fill.reset();
     m_reader.close();
     m_cache.clear();
-    if (hadFrames)
+    if (hadFrames) {
         trimFreedMemory();
+    }
     m_lastTime.reset();
     m_latestMs = 0;
     m_longestGapMs = usualGapMs;
@@ -81,23 +85,26 @@ int FrameSource::frameInterval() const
 {
     const VideoCodecContext* context = m_reader.demuxer().videoCodecContext();
     const AVRational rate = context ? context->parameters()->frameRate : AVRational{0, 1};
-    if (rate.num <= 0 || rate.den <= 0)
+    if (rate.num <= 0 || rate.den <= 0) {
         return usualGapMs;
+    }
     return std::max(1, qRound(1000.0 * rate.den / rate.num));
 }
 
 void FrameSource::setFocus(double seconds)
 {
-    if (seconds != m_focus)
+    if (seconds != m_focus) {
         m_returnedTo.reset();
+    }
     m_focus = seconds;
     m_cache.setFocus(seconds);
 }
 
 void FrameSource::setDeinterlacing(Deinterlacing deinterlacing)
 {
-    if (deinterlacing == m_deinterlacing)
+    if (deinterlacing == m_deinterlacing) {
         return;
+    }
     m_deinterlacing = deinterlacing;
     m_reader.setDeinterlacing(deinterlacing);
     // The reader must not go on with frames of the old kind either.
@@ -115,31 +122,37 @@ void FrameSource::keep()
     const double time = frame.timestamp();
     const std::optional<double> predecessor = m_reader.predecessor();
     m_latestMs = std::max(m_latestMs, toMilliseconds(time));
-    if (m_reader.isAtFirstOfVideo())
+    if (m_reader.isAtFirstOfVideo()) {
         m_cache.setFirst(time);
-    if (predecessor)
+    }
+    if (predecessor) {
         m_longestGapMs = std::max(m_longestGapMs, toMilliseconds(time - *predecessor));
-    if (toMilliseconds(time) >= m_reader.completeFrom() && m_reader.looksAsEver())
+    }
+    if (toMilliseconds(time) >= m_reader.completeFrom() && m_reader.looksAsEver()) {
         m_cache.insert(frame, predecessor);
+    }
 }
 
 FrameResult FrameSource::advance(const IsCancelled& isCancelled)
 {
     FrameResult step = m_reader.next(isCancelled);
-    if (step.answer == FrameAnswer::Frame)
+    if (step.answer == FrameAnswer::Frame) {
         keep();
+    }
     return step;
 }
 
 FrameResult FrameSource::frameAt(qint64 ms, const IsCancelled& isCancelled)
 {
-    if (m_lastTime)
+    if (m_lastTime) {
         ms = std::min(ms, toMilliseconds(*m_lastTime));
+    }
     setFocus(double(ms) / 1000.0);
     m_move = Move::Seek;
     const VideoFrame cached = m_cache.atOrAfter(ms);
-    if (cached.isValid())
+    if (cached.isValid()) {
         return {FrameAnswer::Frame, cached};
+    }
 
     const auto isReached = [ms](const VideoFrame& frame) {
         return toMilliseconds(frame.timestamp()) >= ms;
@@ -154,15 +167,18 @@ FrameResult FrameSource::after(double seconds, const IsCancelled& isCancelled)
 {
     m_move = Move::Forward;
     const VideoFrame cached = m_cache.after(seconds);
-    if (cached.isValid())
+    if (cached.isValid()) {
         return {FrameAnswer::Frame, cached};
-    if (m_lastTime && seconds >= *m_lastTime)
+    }
+    if (m_lastTime && seconds >= *m_lastTime) {
         return {FrameAnswer::End};
+    }
 
     if (m_fill.isOnTheWayTo(seconds)) {
         FrameResult finished = m_fill.finish(isCancelled);
-        if (finished.answer == FrameAnswer::Cancelled)
+        if (finished.answer == FrameAnswer::Cancelled) {
             return finished;
+        }
     }
     const auto isReached = [seconds](const VideoFrame& frame) {
         return frame.timestamp() > seconds;
@@ -181,11 +197,12 @@ FrameResult FrameSource::decodeAnew(double seconds, const IsCancelled& isCancell
     const qint64 ms = toMilliseconds(seconds);
     FrameResult found = look(false, searchFor(ms, ms, isReached), isCancelled);
     const bool isOther = found.answer == FrameAnswer::Frame && found.frame.timestamp() != seconds;
-    if (isOther || found.answer == FrameAnswer::End)
+    if (isOther || found.answer == FrameAnswer::End) {
         return {
             FrameAnswer::Failed,
             {},
             QCoreApplication::translate("QtAV::AVPlayer", "The frame cannot be read any more.")};
+    }
     return found;
 }
 
@@ -204,10 +221,12 @@ FrameResult FrameSource::look(bool goesOn, const FrameReader::Search& search,
         goesOn ? m_reader.findOn(search, isCancelled) : m_reader.find(search, isCancelled);
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
     const bool isLast = found.answer == FrameAnswer::Frame && !search.isReached(found.frame);
-    if (isLast)
+    if (isLast) {
         m_lastTime = found.frame.timestamp();
-    if (!goesOn && found.answer == FrameAnswer::Frame && m_reader.landing())
+    }
+    if (!goesOn && found.answer == FrameAnswer::Frame && m_reader.landing()) {
         m_fill.noteDecoded(*m_reader.landing(), found.frame.timestamp(), took.count());
+    }
     return found;
 }
 
@@ -217,7 +236,8 @@ bool FrameSource::isShortlyBefore(double seconds) const
 {
     const std::optional<double> last = m_reader.last();
     const bool isOnTheWayBack = m_returnsTo && seconds <= *m_returnsTo;
-    return last && *last <= seconds && (isOnTheWayBack || seconds - *last <= FrameReader::NearSeconds) &&
+    return last && *last <= seconds &&
+           (isOnTheWayBack || seconds - *last <= FrameReader::nearSeconds) &&
            m_reader.isCompleteFrom(seconds);
 }
 
@@ -233,11 +253,13 @@ FrameResult FrameSource::before(double seconds, const IsCancelled& isCancelled)
 {
     m_move = Move::Backward;
     const std::optional<double> first = m_cache.first();
-    if (first && seconds <= *first)
+    if (first && seconds <= *first) {
         return {FrameAnswer::End};
+    }
     const VideoFrame cached = m_cache.before(seconds);
-    if (cached.isValid())
+    if (cached.isValid()) {
         return {FrameAnswer::Frame, cached};
+    }
     if (!m_fill.isUnderWay() || m_fill.target() != seconds) {
         leaveBackgroundWork();
         m_fill.start(seconds, toMilliseconds(seconds) -
@@ -249,8 +271,9 @@ FrameResult FrameSource::before(double seconds, const IsCancelled& isCancelled)
 std::optional<FrameSource::Rest> FrameSource::nextRest(Rest rest)
 {
     for (const Rest next : {beforeFilling, beforeReturning, beforeTurningBack}) {
-        if (next > rest)
+        if (next > rest) {
             return next;
+        }
     }
     return std::nullopt;
 }
@@ -258,27 +281,34 @@ std::optional<FrameSource::Rest> FrameSource::nextRest(Rest rest)
 bool FrameSource::prepare(Rest rest, const IsCancelled& isCancelled)
 {
     const std::optional<FrameCache::Run> run = m_cache.runAround(m_focus);
-    if (!run)
+    if (!run) {
         return false;
+    }
     const bool goesForward = m_move == Move::Forward && rest < beforeTurningBack;
-    if (goesForward && m_fill.isUnderWay() && !m_fill.isOnTheWayTo(run->end))
+    if (goesForward && m_fill.isUnderWay() && !m_fill.isOnTheWayTo(run->end)) {
         m_fill.leave();
-    if (goesForward && !m_fill.isUnderWay())
+    }
+    if (goesForward && !m_fill.isUnderWay()) {
         return returnToEnd(*run, isCancelled) || decodeAhead(*run, isCancelled);
-    if (rest < beforeFilling)
+    }
+    if (rest < beforeFilling) {
         return false;
-    if (m_move != Move::Backward && !m_fill.isUnderWay() && decodeAhead(*run, isCancelled))
+    }
+    if (m_move != Move::Backward && !m_fill.isUnderWay() && decodeAhead(*run, isCancelled)) {
         return true;
-    if (fillsBehind(*run))
+    }
+    if (fillsBehind(*run)) {
         return fillBehind(isCancelled);
+    }
     return rest >= beforeReturning && returnToEnd(*run, isCancelled);
 }
 
 FrameSource::Supply FrameSource::supplyBehind()
 {
     const std::optional<FrameCache::Run> run = m_cache.runAround(m_focus);
-    if (!run)
+    if (!run) {
         return {};
+    }
     const bool isComing = fillsBehind(*run) && m_fill.target() == run->start;
     return {run->framesBefore, isComing ? m_fill.remainingSeconds() : std::nullopt};
 }
@@ -286,10 +316,12 @@ FrameSource::Supply FrameSource::supplyBehind()
 /// Whether a pass back is under way; begins one when that is needed.
 bool FrameSource::fillsBehind(const FrameCache::Run& run)
 {
-    if (m_fill.isUnderWay())
+    if (m_fill.isUnderWay()) {
         return true;
-    if (!m_fill.startIfNeeded(run, m_cache.roomBefore(), m_longestGapMs))
+    }
+    if (!m_fill.startIfNeeded(run, m_cache.roomBefore(), m_longestGapMs)) {
         return false;
+    }
     m_returnsTo.reset();
     m_returnedTo.reset();
     return true;
@@ -297,8 +329,9 @@ bool FrameSource::fillsBehind(const FrameCache::Run& run)
 
 bool FrameSource::fillBehind(const IsCancelled& isCancelled)
 {
-    if (!m_fill.isUnderWay())
+    if (!m_fill.isUnderWay()) {
         return false;
+    }
     const std::optional<FrameResult> result = m_fill.advance(isCancelled);
     return !result || result->answer != FrameAnswer::Failed;
 }
@@ -307,12 +340,14 @@ bool FrameSource::fillBehind(const IsCancelled& isCancelled)
 bool FrameSource::decodeAhead(const FrameCache::Run& run, const IsCancelled& isCancelled)
 {
     const bool isEnough = run.framesAfter >= framesAhead || run.end == m_lastTime;
-    if (isEnough || m_reader.last() != run.end || !m_reader.isCompleteFrom(run.end))
+    if (isEnough || m_reader.last() != run.end || !m_reader.isCompleteFrom(run.end)) {
         return false;
+    }
     m_reader.setCompleteFrom(toMilliseconds(run.end));
     const FrameResult next = advance(isCancelled);
-    if (next.answer == FrameAnswer::End && !m_reader.skippedSinceLast())
+    if (next.answer == FrameAnswer::End && !m_reader.skippedSinceLast()) {
         m_lastTime = run.end;
+    }
     return next.answer == FrameAnswer::Frame;
 }
 
@@ -322,27 +357,31 @@ bool FrameSource::returnToEnd(const FrameCache::Run& run, const IsCancelled& isC
 {
     const bool wantsFocus = m_cache.at(m_focus).isScaledDown();
     const bool isAtEnd = run.end == m_lastTime || m_reader.last() == run.end;
-    if (isAtEnd && !wantsFocus)
+    if (isAtEnd && !wantsFocus) {
         return false;
+    }
     const double target = wantsFocus ? m_focus : run.end;
     const std::optional<double> last = m_reader.last();
     const bool isOnTheWay = m_returnsTo && (!last || *last < target);
     const bool isBefore = last && *last < target && isShortlyBefore(target);
-    if (!isOnTheWay && !isBefore && !startReturn(target, run.end))
+    if (!isOnTheWay && !isBefore && !startReturn(target, run.end)) {
         return false;
+    }
     const FrameResult next = advance(isCancelled);
     const bool goesOn = next.answer == FrameAnswer::Frame ||
                         (next.answer == FrameAnswer::Failed && m_reader.canGoOn());
-    if (!goesOn && next.answer != FrameAnswer::Cancelled)
+    if (!goesOn && next.answer != FrameAnswer::Cancelled) {
         m_returnsTo.reset();
+    }
     return goesOn;
 }
 
 /// False when the same has been tried in vain.
 bool FrameSource::startReturn(double target, double end)
 {
-    if (m_returnedTo == m_focus)
+    if (m_returnedTo == m_focus) {
         return false;
+    }
     m_returnedTo = m_focus;
     m_returnsTo = end;
     const qint64 ms = toMilliseconds(target);

@@ -11,8 +11,9 @@ class PlaybackClock
 public:
     void start()
     {
-        if (!m_timer.isValid())
+        if (!m_timer.isValid()) {
             m_timer.start();
+        }
     }
     void stop()
     {
@@ -22,8 +23,9 @@ public:
     void set(double seconds)
     {
         m_base = seconds;
-        if (m_timer.isValid())
+        if (m_timer.isValid()) {
             m_timer.restart();
+        }
     }
     void setSpeed(double speed)
     {

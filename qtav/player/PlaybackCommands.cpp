@@ -57,8 +57,9 @@ quint64 PlaybackCommands::step(Direction direction)
 
 quint64 PlaybackCommands::capture(const VideoFrame& frame)
 {
-    if (m_captures.size() == mostWaitingCaptures)
+    if (m_captures.size() == mostWaitingCaptures) {
         return 0;
+    }
     const quint64 serial = post();
     m_captures.push_back({frame, serial});
     return serial;
@@ -76,8 +77,9 @@ void PlaybackCommands::quit()
 
 std::optional<PlaybackCommands::Direction> PlaybackCommands::nextStep() const
 {
-    if (m_steps == 0)
+    if (m_steps == 0) {
         return std::nullopt;
+    }
     return m_steps > 0 ? Direction::Forward : Direction::Backward;
 }
 

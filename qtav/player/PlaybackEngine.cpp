@@ -11,7 +11,7 @@ namespace QtAV {
 namespace {
 
 /// Further behind than this, decoding leaves frames out to catch up with the sound.
-constexpr double MostLagSeconds = 0.5;
+constexpr double mostLagSeconds = 0.5;
 
 } // namespace
 
@@ -79,8 +79,9 @@ quint64 PlaybackEngine::capture(const VideoFrame& frame)
 {
     const std::lock_guard lock(m_mutex);
     const quint64 serial = m_commands.capture(frame);
-    if (serial == 0)
+    if (serial == 0) {
         answer({Answer::Kind::Captured});
+    }
     return posted(serial);
 }
 
@@ -109,8 +110,9 @@ void PlaybackEngine::setPictureMemory(qint64 bytes)
 void PlaybackEngine::setDeinterlacing(Deinterlacing deinterlacing)
 {
     const std::lock_guard lock(m_mutex);
-    if (deinterlacing == m_deinterlacing)
+    if (deinterlacing == m_deinterlacing) {
         return;
+    }
     m_deinterlacing = deinterlacing;
     m_isCurrentOutdated = m_current.isValid();
     forgetQueue();
@@ -129,8 +131,9 @@ PlaybackEngine::Due PlaybackEngine::takeDue(double seconds, CatchUp catchUp)
     const std::lock_guard lock(m_mutex);
     Due due;
     while (!m_queue.empty() && m_queue.front().timestamp() <= seconds) {
-        if (due.frame.isValid())
+        if (due.frame.isValid()) {
             ++due.dropped;
+        }
         due.frame = m_queue.front();
         m_queue.pop_front();
     }
@@ -138,11 +141,13 @@ PlaybackEngine::Due PlaybackEngine::takeDue(double seconds, CatchUp catchUp)
         m_current = due.frame;
         m_isCurrentOutdated = false;
     }
-    if (!m_queue.empty())
+    if (!m_queue.empty()) {
         due.next = m_queue.front().timestamp();
+    }
     due.isEnded = m_ended && m_queue.empty();
-    if (m_queue.empty())
+    if (m_queue.empty()) {
         due.failure = m_failure;
+    }
     due.duration = m_duration;
     m_catchUpTo = catchUp == CatchUp::Yes ? seconds : 0.0;
     m_ownerWaitsForFrames = m_queue.empty() && !m_ended && !m_failure;
@@ -159,16 +164,18 @@ void PlaybackEngine::answer(Answer answer)
 
 void PlaybackEngine::wakeOwner()
 {
-    if (!std::exchange(m_ownerIsWoken, true))
+    if (!std::exchange(m_ownerIsWoken, true)) {
         m_wake();
+    }
 }
 
 void PlaybackEngine::run()
 {
     Lock lock(m_mutex);
     while (!m_commands.quits()) {
-        if (!workOnce(lock))
+        if (!workOnce(lock)) {
             m_changed.wait(lock);
+        }
     }
 }
 
@@ -181,24 +188,25 @@ bool PlaybackEngine::workOnce(Lock& lock)
                                     : FrameCache::FarFrames::ScaleDown);
     m_source.setDeinterlacing(m_deinterlacing);
     m_source.setPictureMemory(m_pictureMemory);
-    if (m_commands.hasCapture())
+    if (m_commands.hasCapture()) {
         carryOutCapture(lock);
-    else if (m_commands.hasFile())
+    } else if (m_commands.hasFile()) {
         replaceFile(lock);
-    else if (m_commands.hasSeek())
+    } else if (m_commands.hasSeek()) {
         carryOutSeek(lock);
-    else if (m_commands.nextStep() && isTooSoon())
+    } else if (m_commands.nextStep() && isTooSoon()) {
         prepareForStep(lock);
-    else if (m_commands.nextStep())
+    } else if (m_commands.nextStep()) {
         carryOutStep(lock);
-    else if (m_isCurrentOutdated && m_current.isValid())
+    } else if (m_isCurrentOutdated && m_current.isValid()) {
         makeAnew(lock);
-    else if (wantsFrames())
+    } else if (wantsFrames()) {
         decodeAhead(lock);
-    else if (m_mayPrepare && !m_playing && m_current.isValid())
+    } else if (m_mayPrepare && !m_playing && m_current.isValid()) {
         prepare(lock);
-    else
+    } else {
         return false;
+    }
     return true;
 }
 
@@ -207,14 +215,16 @@ void PlaybackEngine::carryOutCapture(Lock& lock)
 {
     PlaybackCommands::Capture capture = m_commands.takeCapture();
     lock.unlock();
-    if (capture.frame.isScaledDown() && m_source.isOpen())
+    if (capture.frame.isScaledDown() && m_source.isOpen()) {
         capture.frame = m_source
                             .decodeAnew(capture.frame.timestamp(),
                                         [this] { return m_commands.isFileOutdated(); })
                             .frame;
+    }
     QImage image;
-    if (!capture.frame.isScaledDown())
+    if (!capture.frame.isScaledDown()) {
         image = capture.frame.toImage(capture.frame.imageFormat());
+    }
     lock.lock();
     m_mayPrepare = true;
     Answer result{Answer::Kind::Captured, capture.serial};
@@ -238,10 +248,12 @@ void PlaybackEngine::replaceFile(Lock& lock)
     }
     lock.lock();
     m_duration = m_source.duration();
-    if (file.path.isEmpty() || m_commands.isFileOutdated())
+    if (file.path.isEmpty() || m_commands.isFileOutdated()) {
         return;
-    if (first.answer == FrameAnswer::Frame)
+    }
+    if (first.answer == FrameAnswer::Frame) {
         becomeCurrent(first.frame, file.serial);
+    }
     Answer result{Answer::Kind::Opened, file.serial, first};
     result.frameInterval = m_source.frameInterval();
     result.hasSound = m_source.hasSound();
@@ -266,20 +278,24 @@ void PlaybackEngine::becomeCurrent(const VideoFrame& frame, quint64 serial)
 void PlaybackEngine::carryOutSeek(Lock& lock)
 {
     const PlaybackCommands::Seek seek = m_commands.takeSeek();
-    if (!m_source.isOpen())
+    if (!m_source.isOpen()) {
         return;
+    }
     const VideoFrame current = m_current;
     lock.unlock();
     const IsCancelled isCancelled = [this] { return m_commands.isSeekOutdated(); };
     FrameResult found = m_source.frameAt(seek.ms, isCancelled);
-    if (found.answer == FrameAnswer::Failed)
+    if (found.answer == FrameAnswer::Failed) {
         found = stayingAt(current, std::move(found), isCancelled);
+    }
     lock.lock();
     m_duration = m_source.duration();
-    if (found.answer == FrameAnswer::Cancelled || m_commands.isSeekOutdated())
+    if (found.answer == FrameAnswer::Cancelled || m_commands.isSeekOutdated()) {
         return;
-    if (found.answer == FrameAnswer::Frame)
+    }
+    if (found.answer == FrameAnswer::Frame) {
         becomeCurrent(found.frame, seek.serial);
+    }
     answer({Answer::Kind::Sought, seek.serial, std::move(found)});
 }
 
@@ -288,11 +304,13 @@ void PlaybackEngine::carryOutSeek(Lock& lock)
 FrameResult PlaybackEngine::stayingAt(const VideoFrame& frame, FrameResult failed,
                                       const IsCancelled& isCancelled)
 {
-    if (!frame.isValid())
+    if (!frame.isValid()) {
         return failed;
+    }
     const FrameResult again = m_source.decodeAnew(frame.timestamp(), isCancelled);
-    if (again.answer == FrameAnswer::Cancelled)
+    if (again.answer == FrameAnswer::Cancelled) {
         return again;
+    }
     return again.answer == FrameAnswer::Frame ? again : failed;
 }
 
@@ -304,16 +322,19 @@ void PlaybackEngine::carryOutStep(Lock& lock)
     lock.unlock();
     const IsCancelled isCancelled = [this] { return m_commands.isStepOutdated(); };
     FrameResult found{FrameAnswer::Cancelled};
-    if (canStep)
+    if (canStep) {
         found = step.direction == Direction::Forward ? m_source.after(from, isCancelled)
                                                      : m_source.before(from, isCancelled);
+    }
     lock.lock();
     m_duration = m_source.duration();
     const bool isWanted = m_commands.endStep();
-    if (found.answer == FrameAnswer::Cancelled || !isWanted)
+    if (found.answer == FrameAnswer::Cancelled || !isWanted) {
         return;
-    if (found.answer == FrameAnswer::Frame)
+    }
+    if (found.answer == FrameAnswer::Frame) {
         becomeCurrent(found.frame, step.serial);
+    }
     if (step.direction == Direction::Backward) {
         const FrameSource::Supply supply = m_source.supplyBehind();
         const auto pause = StepPacing::pauseFor(supply.frames, supply.secondsToMore);
@@ -324,8 +345,8 @@ void PlaybackEngine::carryOutStep(Lock& lock)
 
 bool PlaybackEngine::wantsFrames() const
 {
-    const bool isLarge = m_current.byteCount() >= LargeFrameBytes;
-    const size_t most = isLarge ? MostQueuedLargeFrames : MostQueuedFrames;
+    const bool isLarge = m_current.byteCount() >= largeFrameBytes;
+    const size_t most = isLarge ? mostQueuedLargeFrames : mostQueuedFrames;
     const bool canGoOn = !m_ended && !m_failure;
     return m_playing && m_current.isValid() && canGoOn && m_queue.size() < most;
 }
@@ -340,24 +361,28 @@ void PlaybackEngine::decodeAhead(Lock& lock)
     m_source.setFocus(current);
     const IsCancelled isCancelled = [this] { return m_commands.hasArrived(); };
     FrameResult found;
-    if (from < catchUpTo - MostLagSeconds)
+    if (from < catchUpTo - mostLagSeconds) {
         found = m_source.frameAt(toMilliseconds(catchUpTo), isCancelled);
-    else
+    } else {
         found = m_source.after(from, isCancelled);
+    }
     lock.lock();
     m_duration = m_source.duration();
-    if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled)
+    if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled) {
         return;
+    }
     // Catching up at the end of the video may give the frame that was there before.
     const bool isNew = found.answer == FrameAnswer::Frame && found.frame.timestamp() > from;
-    if (isNew)
+    if (isNew) {
         m_queue.push_back(found.frame);
-    else if (found.answer == FrameAnswer::Failed)
+    } else if (found.answer == FrameAnswer::Failed) {
         m_failure = found.error;
-    else
+    } else {
         m_ended = true;
-    if (std::exchange(m_ownerWaitsForFrames, false))
+    }
+    if (std::exchange(m_ownerWaitsForFrames, false)) {
         wakeOwner();
+    }
 }
 
 /// Whether only a step back waits, and is to wait longer: see StepPacing.
@@ -376,8 +401,9 @@ void PlaybackEngine::prepareForStep(Lock& lock)
         [this, due] { return m_commands.hasArrived() || std::chrono::steady_clock::now() >= due; });
     lock.lock();
     m_duration = m_source.duration();
-    if (!goesOn)
+    if (!goesOn) {
         m_noStepBackBefore = m_currentSince;
+    }
 }
 
 void PlaybackEngine::prepare(Lock& lock)
@@ -391,12 +417,14 @@ void PlaybackEngine::prepare(Lock& lock)
     lock.lock();
     m_duration = m_source.duration();
     refine();
-    if (goesOn || m_commands.hasArrived())
+    if (goesOn || m_commands.hasArrived()) {
         return;
-    if (const std::optional<FrameSource::Rest> next = FrameSource::nextRest(rest))
+    }
+    if (const std::optional<FrameSource::Rest> next = FrameSource::nextRest(rest)) {
         m_changed.wait_until(lock, since + *next);
-    else
+    } else {
         m_mayPrepare = false;
+    }
 }
 
 /// Gives the current frame once more, as it is to be deinterlaced now.
@@ -410,11 +438,13 @@ void PlaybackEngine::makeAnew(Lock& lock)
         m_source.decodeAnew(seconds, [this] { return m_commands.hasArrived(); });
     lock.lock();
     // What has come meanwhile may have made it another frame, or have interrupted this.
-    if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled)
+    if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled) {
         return;
+    }
     m_isCurrentOutdated = false;
-    if (found.answer != FrameAnswer::Frame)
+    if (found.answer != FrameAnswer::Frame) {
         return;
+    }
     m_current = found.frame;
     m_mayPrepare = true;
     answer({Answer::Kind::Refined, m_currentSerial, found});
@@ -423,11 +453,13 @@ void PlaybackEngine::makeAnew(Lock& lock)
 /// Gives the current frame once more when it has come in full size meanwhile.
 void PlaybackEngine::refine()
 {
-    if (!m_current.isScaledDown() || m_commands.hasArrived())
+    if (!m_current.isScaledDown() || m_commands.hasArrived()) {
         return;
+    }
     const VideoFrame whole = m_source.cache().at(m_current.timestamp());
-    if (!whole.isValid() || whole.isScaledDown())
+    if (!whole.isValid() || whole.isScaledDown()) {
         return;
+    }
     m_current = whole;
     answer({Answer::Kind::Refined, m_currentSerial, {FrameAnswer::Frame, whole}});
 }

@@ -67,9 +67,9 @@ public:
 
     /// More would only take memory, and make seeking while playing slower to begin. Of large frames
     /// fewer are enough: they come evenly, and each takes long.
-    static constexpr size_t MostQueuedFrames = 5;
-    static constexpr size_t MostQueuedLargeFrames = 3;
-    static constexpr qint64 LargeFrameBytes = qint64(8) << 20;
+    static constexpr size_t mostQueuedFrames = 5;
+    static constexpr size_t mostQueuedLargeFrames = 3;
+    static constexpr qint64 largeFrameBytes = qint64(8) << 20;
 
     /// @param wake  called on the decoding thread when there are answers, or frames for an owner
     ///              who found the queue empty. Must not call the engine.

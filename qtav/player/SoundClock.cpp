@@ -7,7 +7,7 @@ namespace QtAV {
 namespace {
 
 /// Longer than a block, for what is known of it comes with some delay.
-constexpr double SpanToBlock = 1.2;
+constexpr double spanToBlock = 1.2;
 
 double secondsBetween(SoundClock::Time from, SoundClock::Time to)
 {
@@ -18,7 +18,7 @@ double secondsBetween(SoundClock::Time from, SoundClock::Time to)
 
 void SoundClock::reset(double longestBlock, Time now)
 {
-    m_spanSeconds = SpanToBlock * longestBlock;
+    m_spanSeconds = spanToBlock * longestBlock;
     beginAt(now);
 }
 

@@ -38,8 +38,9 @@ QAudioFormat formatFor(const DeviceInfo& info, int preferredRate)
     format.setSampleFormat(QAudioFormat::Int16);
     format.setChannelCount(2);
     format.setSampleRate(preferredRate);
-    if (info.isFormatSupported(format))
+    if (info.isFormatSupported(format)) {
         return format;
+    }
     format = info.preferredFormat();
     format.setSampleFormat(QAudioFormat::Int16);
     return format;
@@ -130,8 +131,9 @@ SoundDevice::Factory& factoryInUse()
 std::unique_ptr<SoundDevice> SoundDevice::openDefault(int preferredRate)
 {
     const DeviceInfo info = defaultDevice();
-    if (info.isNull())
+    if (info.isNull()) {
         return nullptr;
+    }
     const QAudioFormat format = formatFor(info, preferredRate);
     return hasWordSamples(format) ? std::make_unique<SystemDevice>(info, format) : nullptr;
 }

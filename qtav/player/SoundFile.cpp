@@ -14,39 +14,43 @@ namespace QtAV {
 namespace {
 
 /// Decoding begins this much earlier: sound codecs need some packets to come into their own.
-constexpr double LeadSeconds = 0.3;
+constexpr double leadSeconds = 0.3;
 
 /// How far to land before the target, where a container's jump ends behind it.
-constexpr double StepsBackSeconds[] = {0.0, 2.0, 10.0};
+constexpr double stepsBackSeconds[] = {0.0, 2.0, 10.0};
 
 /// Sound whose times are further off than this is moved to where they say.
-constexpr double MostOffsetSeconds = 0.05;
+constexpr double mostOffsetSeconds = 0.05;
 
 /// No gap that damaged times claim is filled with more silence than this.
-constexpr double LongestSilenceSeconds = 3600.0;
+constexpr double longestSilenceSeconds = 3600.0;
 
 } // namespace
 
 bool SoundFile::open(const QString& path, QString& error)
 {
-    // The thread of sound is left behind where the disk does not answer: see SoundThread.
+    // The thread of sound is left behind where the disk does not answer: see SoundPlayer.
     const IsCancelled never = [] { return false; };
     m_file = Container::open(path, never, error);
-    if (!m_file)
+    if (!m_file) {
         return false;
+    }
     error = QCoreApplication::translate("QtAV::AVPlayer", "The sound cannot be decoded.");
-    if (m_file->audioStreams().isEmpty())
+    if (m_file->audioStreams().isEmpty()) {
         return false;
+    }
     m_stream = m_file->audioStreams().constFirst();
     m_timeline = m_file->timeline(m_stream);
     const AVCodecParameters* parameters = m_file->stream(m_stream).codecpar;
     const AVCodec* codec = avcodec_find_decoder(parameters->codec_id);
     m_decoder.reset(codec ? avcodec_alloc_context3(codec) : nullptr);
-    if (!m_decoder || avcodec_parameters_to_context(m_decoder.get(), parameters) < 0)
+    if (!m_decoder || avcodec_parameters_to_context(m_decoder.get(), parameters) < 0) {
         return false;
+    }
     m_decoder->pkt_timebase = m_timeline.timeBase();
-    if (avcodec_open2(m_decoder.get(), codec, nullptr) < 0)
+    if (avcodec_open2(m_decoder.get(), codec, nullptr) < 0) {
         return false;
+    }
     error.clear();
     return true;
 }
@@ -63,8 +67,8 @@ void SoundFile::setFormat(int sampleRate, int channels, double speed)
 /// A new one knows nothing of what was heard before.
 void SoundFile::makeTempo()
 {
-    const bool isWanted = m_speed != 1.0 && m_speed >= SoundTempo::SlowestSpeed &&
-                          m_speed <= SoundTempo::FastestSpeed;
+    const bool isWanted = m_speed != 1.0 && m_speed >= SoundTempo::slowestSpeed &&
+                          m_speed <= SoundTempo::fastestSpeed;
     m_tempo = isWanted ? SoundTempo::make(m_rate, m_channels, m_speed) : nullptr;
     m_tapeSpeed = m_tempo ? 1.0 : m_speed;
 }
@@ -72,10 +76,11 @@ void SoundFile::makeTempo()
 bool SoundFile::seek(double seconds)
 {
     m_start = seconds;
-    for (const double back : StepsBackSeconds) {
-        const double landing = seconds - LeadSeconds - back;
-        if (!goTo(landing))
+    for (const double back : stepsBackSeconds) {
+        const double landing = seconds - leadSeconds - back;
+        if (!goTo(landing)) {
             continue;
+        }
         avcodec_flush_buffers(m_decoder.get());
         m_resampler.reset();
         makeTempo();
@@ -85,11 +90,13 @@ bool SoundFile::seek(double seconds)
         m_made = -1; // the first frame places itself
         m_toSkip = 0;
         m_isDrained = false;
-        if (!decodeMore())
+        if (!decodeMore()) {
             continue;
+        }
         const bool startsBehind = landing > 0.0 && m_toSkip == 0;
-        if (!startsBehind || back == StepsBackSeconds[std::size(StepsBackSeconds) - 1])
+        if (!startsBehind || back == stepsBackSeconds[std::size(stepsBackSeconds) - 1]) {
             return true;
+        }
     }
     return false;
 }
@@ -108,8 +115,9 @@ qint64 SoundFile::read(char* data, qint64 bytes)
     while (done < bytes) {
         const qint64 available = m_ready.size() - m_readyFrom;
         if (available == 0) {
-            if (!makeMore())
+            if (!makeMore()) {
                 break;
+            }
             continue;
         }
         const qint64 part = std::min(available, bytes - done);
@@ -123,10 +131,12 @@ qint64 SoundFile::read(char* data, qint64 bytes)
 /// False at the end.
 bool SoundFile::makeMore()
 {
-    if (decodeMore())
+    if (decodeMore()) {
         return true;
-    if (m_tempo)
+    }
+    if (m_tempo) {
         m_tempo->finish(m_ready);
+    }
     return m_readyFrom < m_ready.size();
 }
 
@@ -145,11 +155,13 @@ bool SoundFile::decodeMore()
             passOn();
             return true;
         }
-        if (result == AVERROR_EOF || m_isDrained)
+        if (result == AVERROR_EOF || m_isDrained) {
             return false;
+        }
         // What a damaged packet fails with is over with the next one.
-        if (!sendPacket())
+        if (!sendPacket()) {
             m_isDrained = true;
+        }
     }
 }
 
@@ -159,8 +171,9 @@ bool SoundFile::sendPacket()
     PacketPtr packet;
     for (;;) {
         const PacketAnswer answer = m_file->read(packet);
-        if (answer == PacketAnswer::Failed && m_file->canGoOn())
+        if (answer == PacketAnswer::Failed && m_file->canGoOn()) {
             continue;
+        }
         const bool isSound = answer == PacketAnswer::Packet && packet->stream_index == m_stream;
         if (isSound || answer != PacketAnswer::Packet) {
             avcodec_send_packet(m_decoder.get(), isSound ? packet.get() : nullptr);
@@ -172,21 +185,24 @@ bool SoundFile::sendPacket()
 void SoundFile::passOn()
 {
     // Without the tempo's sound there is none, but the next seek makes another one.
-    if (!m_tempo)
+    if (!m_tempo) {
         m_ready.append(m_placed);
-    else if (!m_tempo->put(m_placed, m_ready))
+    } else if (!m_tempo->put(m_placed, m_ready)) {
         qCWarning(lcQtAV, "No memory for sound at another speed.");
+    }
     m_placed.clear();
 }
 
 void SoundFile::take(const AVFrame& frame)
 {
-    if (!prepareResampler(frame))
+    if (!prepareResampler(frame)) {
         return;
-    if (frame.best_effort_timestamp != AV_NOPTS_VALUE)
+    }
+    if (frame.best_effort_timestamp != AV_NOPTS_VALUE) {
         placeAt(m_timeline.seconds(frame.best_effort_timestamp));
-    else if (m_made < 0)
+    } else if (m_made < 0) {
         m_made = 0;
+    }
     convert(&frame);
 }
 
@@ -203,12 +219,13 @@ void SoundFile::placeAt(double seconds)
     const auto given = double(std::max<qint64>(0, m_made) - m_toSkip);
     const double reached = m_start + m_tapeSpeed * given / m_rate;
     const double offset = seconds - reached;
-    if (isFirst)
+    if (isFirst) {
         m_made = 0;
-    else if (std::abs(offset) < MostOffsetSeconds)
+    } else if (std::abs(offset) < mostOffsetSeconds) {
         return;
+    }
     if (offset > 0.0) {
-        const double silence = std::min(offset, LongestSilenceSeconds);
+        const double silence = std::min(offset, longestSilenceSeconds);
         qint64 samples = samplesFor(silence);
         const qint64 skipped = std::min(samples, m_toSkip);
         m_toSkip -= skipped;
@@ -223,15 +240,17 @@ void SoundFile::placeAt(double seconds)
 void SoundFile::convert(const AVFrame* frame)
 {
     const int most = swr_get_out_samples(m_resampler.get(), frame->nb_samples);
-    if (most <= 0)
+    if (most <= 0) {
         return;
+    }
     QByteArray samples(most * bytesPerFrame(), Qt::Uninitialized);
     auto* out = reinterpret_cast<uint8_t*>(samples.data());
     const int made =
         swr_convert(m_resampler.get(), &out, most,
                     const_cast<const uint8_t**>(frame->extended_data), frame->nb_samples);
-    if (made <= 0)
+    if (made <= 0) {
         return;
+    }
     const qint64 skipped = std::min<qint64>(m_toSkip, made);
     m_toSkip -= skipped;
     m_made += made - skipped;
@@ -244,11 +263,13 @@ bool SoundFile::prepareResampler(const AVFrame& frame)
     const bool fits = m_resampler && frame.sample_rate == m_inputRate &&
                       frame.format == m_inputFormat &&
                       frame.ch_layout.nb_channels == m_inputChannels;
-    if (fits)
+    if (fits) {
         return true;
+    }
     AVChannelLayout in = frame.ch_layout;
-    if (in.order == AV_CHANNEL_ORDER_UNSPEC)
+    if (in.order == AV_CHANNEL_ORDER_UNSPEC) {
         av_channel_layout_default(&in, frame.ch_layout.nb_channels);
+    }
     AVChannelLayout out{};
     av_channel_layout_default(&out, m_channels);
     SwrContext* context = nullptr;

@@ -49,8 +49,9 @@ bool SoundTempo::build(double speed)
 {
     const FilterLibrary* library = FilterLibrary::get();
     m_graph.reset(library ? library->graphAlloc() : nullptr);
-    if (!m_graph)
+    if (!m_graph) {
         return false;
+    }
     m_graph->nb_threads = 1;
     const QByteArray rate = QByteArray::number(m_rate);
     const QByteArray format = "time_base=1/" + rate + ":sample_rate=" + rate +
@@ -67,16 +68,18 @@ bool SoundTempo::build(double speed)
 bool SoundTempo::put(const QByteArray& samples, QByteArray& out)
 {
     const int count = int(samples.size()) / bytesPerFrame();
-    if (count == 0)
+    if (count == 0) {
         return true;
+    }
     const FramePtr frame = makeFrame();
     frame->format = AV_SAMPLE_FMT_S16;
     frame->sample_rate = m_rate;
     frame->ch_layout = layoutOf(m_channels);
     frame->nb_samples = count;
     frame->pts = m_taken;
-    if (av_frame_get_buffer(frame.get(), 0) < 0)
+    if (av_frame_get_buffer(frame.get(), 0) < 0) {
         return false;
+    }
     std::memcpy(frame->data[0], samples.constData(), size_t(count) * size_t(bytesPerFrame()));
     m_taken += count;
     const bool isTaken =
@@ -87,20 +90,23 @@ bool SoundTempo::put(const QByteArray& samples, QByteArray& out)
 
 void SoundTempo::finish(QByteArray& out)
 {
-    if (m_isFinished)
+    if (m_isFinished) {
         return;
+    }
     m_isFinished = true;
-    if (FilterLibrary::get()->sourceAddFrame(m_source, nullptr, AV_BUFFERSRC_FLAG_PUSH) >= 0)
+    if (FilterLibrary::get()->sourceAddFrame(m_source, nullptr, AV_BUFFERSRC_FLAG_PUSH) >= 0) {
         pull(out);
+    }
 }
 
 void SoundTempo::pull(QByteArray& out)
 {
     const FilterLibrary& library = *FilterLibrary::get();
     for (FramePtr frame = makeFrame(); library.sinkGetFrame(m_sink, frame.get()) >= 0;
-         frame = makeFrame())
+         frame = makeFrame()) {
         out.append(reinterpret_cast<const char*>(frame->data[0]),
                    frame->nb_samples * bytesPerFrame());
+    }
 }
 
 } // namespace QtAV

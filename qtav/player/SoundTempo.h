@@ -15,10 +15,10 @@ namespace QtAV {
 class SoundTempo
 {
 public:
-    static constexpr double SlowestSpeed = 0.5;
-    static constexpr double FastestSpeed = 2.0;
+    static constexpr double slowestSpeed = 0.5;
+    static constexpr double fastestSpeed = 2.0;
 
-    /// @param speed  how many seconds of sound are given in one: from SlowestSpeed to FastestSpeed
+    /// @param speed  how many seconds of sound are given in one: from slowestSpeed to fastestSpeed
     /// @return null where FFmpeg has no such filter, or no memory is left
     [[nodiscard]] static std::unique_ptr<SoundTempo> make(int sampleRate, int channels,
                                                           double speed);

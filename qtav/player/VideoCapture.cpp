@@ -15,10 +15,11 @@ void VideoCapture::setTaker(std::function<void()> take)
 
 void VideoCapture::capture()
 {
-    if (m_take)
+    if (m_take) {
         m_take();
-    else
+    } else {
         QMetaObject::invokeMethod(this, &VideoCapture::failed, Qt::QueuedConnection);
+    }
 }
 
 void VideoCapture::deliver(const QImage& image, const VideoFrame& frame)

@@ -21,13 +21,13 @@ namespace QtAV {
 namespace {
 
 /// More frames than any decoder holds back: re-ordering keeps at most 16, and as many threads.
-constexpr int MostHeldFrames = 64;
+constexpr int mostHeldFrames = 64;
 
 /// Positions behind this are the end of any video, and small enough to be calculated with.
-constexpr qint64 LastPositionMs = qint64(1) << 40;
+constexpr qint64 lastPositionMs = qint64(1) << 40;
 
 /// An index that ends further before the end of the video does not hold all of it.
-constexpr qint64 LongestGroupMs = 20000;
+constexpr qint64 longestGroupMs = 20000;
 
 QList<int> listOf(const QVector<int>& streams)
 {
@@ -93,13 +93,16 @@ bool AVDemuxer::Private::load()
 {
     const auto asksInterrupt = [this] { return isCancelled(); };
     container = Container::open(fileName, asksInterrupt, error, pictureLimit);
-    if (!container)
+    if (!container) {
         return false;
-    if (!container->videoStreams().isEmpty())
+    }
+    if (!container->videoStreams().isEmpty()) {
         static_cast<void>(selectVideo(container->videoStreams().constFirst()));
+    }
     findDuration();
-    if (!isCancelled())
+    if (!isCancelled()) {
         return true;
+    }
     unload();
     error = QCoreApplication::translate("QtAV::AVDemuxer", "Opening was cancelled.");
     return false;
@@ -109,8 +112,9 @@ void AVDemuxer::Private::findDuration()
 {
     const DurationProbe::Length length = DurationProbe(*container, video.get()).run();
     duration = length.ms;
-    if (duration > 0)
+    if (duration > 0) {
         durationSource = length.isMeasured ? DurationSource::Scan : DurationSource::Header;
+    }
     positioned = false;
 }
 
@@ -152,37 +156,43 @@ bool AVDemuxer::Private::selectVideo(int streamNumber)
 {
     codecContext.reset();
     video.reset();
-    if (streamNumber < 0)
+    if (streamNumber < 0) {
         return true;
+    }
     video = std::make_unique<VideoPackets>(*container, streamNumber);
     video->setAudioStream(audioStream);
     codecContext = std::make_unique<VideoCodecContext>(video->parameters());
     const bool isReady = video->index();
-    if (!isReady)
+    if (!isReady) {
         error = container->errorText();
+    }
     return isReady;
 }
 
 /// Measuring the length has moved the file: reading begins at its start all the same.
 bool AVDemuxer::Private::ensurePosition()
 {
-    if (positioned)
+    if (positioned) {
         return true;
+    }
     positioned = true;
-    if (video)
+    if (video) {
         return seek(0);
+    }
     fileEnded = !container->seekNear(-1, 0) && !container->reopen();
     return !fileEnded;
 }
 
 PacketAnswer AVDemuxer::Private::readPacket(PacketPtr& fresh)
 {
-    if (video)
+    if (video) {
         return video->read(fresh);
+    }
     for (;;) {
         const PacketAnswer answer = container->read(fresh);
-        if (answer != PacketAnswer::Packet || fresh->stream_index == audioStream)
+        if (answer != PacketAnswer::Packet || fresh->stream_index == audioStream) {
             return answer;
+        }
     }
 }
 
@@ -192,8 +202,9 @@ void AVDemuxer::Private::takePacket(PacketPtr source)
     const bool isVideo = video && stream == video->stream();
     packet = PacketHandle::wrap(std::move(source),
                                 isVideo ? video->timeline() : container->timeline(stream));
-    if (!isVideo)
+    if (!isVideo) {
         return;
+    }
     ++videoPackets;
     lastVideoPts = packet.pts;
     // The file goes on behind what was taken for its end.
@@ -207,13 +218,14 @@ void AVDemuxer::Private::takePacket(PacketPtr source)
 void AVDemuxer::Private::beginDraining()
 {
     fileEnded = true;
-    drainsLeft = std::min(videoPackets, MostHeldFrames);
+    drainsLeft = std::min(videoPackets, mostHeldFrames);
 }
 
 bool AVDemuxer::Private::drain()
 {
-    if (drainsLeft == 0)
+    if (drainsLeft == 0) {
         return false;
+    }
     --drainsLeft;
     packet = PacketHandle::drain(lastVideoPts);
     stream = video->stream();
@@ -229,8 +241,9 @@ AVDemuxer::~AVDemuxer() = default;
 
 void AVDemuxer::setMedia(const QString& fileName)
 {
-    if (d->fileName == fileName)
+    if (d->fileName == fileName) {
         return;
+    }
     unload();
     d->fileName = fileName;
 }
@@ -315,14 +328,17 @@ int AVDemuxer::audioStream() const
 bool AVDemuxer::setStreamIndex(StreamType type, int index)
 {
     const QList<int> streams = type == VideoStream ? videoStreams() : audioStreams();
-    if (!d->container || index < -1 || index >= streams.size())
+    if (!d->container || index < -1 || index >= streams.size()) {
         return false;
+    }
     const int stream = index < 0 ? -1 : streams.at(index);
-    if (type == VideoStream)
+    if (type == VideoStream) {
         return stream == videoStream() || d->selectVideo(stream);
+    }
     d->audioStream = stream;
-    if (d->video)
+    if (d->video) {
         d->video->setAudioStream(stream);
+    }
     return true;
 }
 
@@ -343,58 +359,66 @@ MediaFacts AVDemuxer::facts() const
 
 QVector<qint64> AVDemuxer::indexedKeyFrames()
 {
-    if (!d->video)
+    if (!d->video) {
         return {};
+    }
     // The index tells when pictures are decoded. Those that wait for others to be shown before them
     // are shown later by as many frames as the decoder holds back.
     const StreamParameters& parameters = *d->video->parameters();
     const double delayMs = parameters.codec->video_delay * frameDurationMs();
     QVector<qint64> keys = d->container->indexedKeyFrames(d->video->stream());
-    for (qint64& key : keys)
+    for (qint64& key : keys) {
         key = parameters.timeline.milliseconds(key) + std::llround(delayMs);
+    }
     std::sort(keys.begin(), keys.end());
     d->forgetPackets();
     d->positioned = false;
-    const bool isWhole = !keys.isEmpty() && d->duration - keys.constLast() <= LongestGroupMs;
+    const bool isWhole = !keys.isEmpty() && d->duration - keys.constLast() <= longestGroupMs;
     return isWhole ? keys : QVector<qint64>();
 }
 
 double AVDemuxer::frameDurationMs() const
 {
-    if (!d->video)
+    if (!d->video) {
         return 0.0;
+    }
     const AVRational rate = d->video->parameters()->frameRate;
     return rate.num > 0 && rate.den > 0 ? 1000.0 * rate.den / rate.num : 0.0;
 }
 
 bool AVDemuxer::seek(qint64 ms)
 {
-    return videoStream() >= 0 && d->seek(qBound<qint64>(0, ms, LastPositionMs));
+    return videoStream() >= 0 && d->seek(qBound<qint64>(0, ms, lastPositionMs));
 }
 
 bool AVDemuxer::readFrame()
 {
-    if (!d->container || !d->ensurePosition() || !canGoOn())
+    if (!d->container || !d->ensurePosition() || !canGoOn()) {
         return false;
+    }
     PacketPtr fresh;
     if (!d->kept.empty()) {
         fresh = std::move(d->kept.front());
         d->kept.pop_front();
     } else if (!d->fileEnded) {
         const PacketAnswer answer = d->readPacket(fresh);
-        if (answer != PacketAnswer::Packet)
+        if (answer != PacketAnswer::Packet) {
             d->error = d->container->errorText();
+        }
         d->lost = !d->container->canGoOn();
-        if (answer == PacketAnswer::End)
+        if (answer == PacketAnswer::End) {
             d->beginDraining();
-        else if (answer != PacketAnswer::Packet)
+        } else if (answer != PacketAnswer::Packet) {
             return false;
+        }
     }
-    if (!fresh)
+    if (!fresh) {
         return d->drain();
+    }
     d->takePacket(std::move(fresh));
-    if (d->fileEnded && d->kept.empty())
+    if (d->fileEnded && d->kept.empty()) {
         d->beginDraining();
+    }
     return true;
 }
 

@@ -12,18 +12,19 @@ namespace QtAV {
 namespace {
 
 /// Larger ones are no boxes of this kind.
-constexpr qint64 LargestDescription = 1 << 20;
+constexpr qint64 largestDescription = 1 << 20;
 
 /// The fixed part of a box in `stsd`, and of what describes pictures in it, up to the boxes inside.
-constexpr qint64 ListHeaderBytes = 8;
-constexpr qint64 EntryHeaderBytes = 8 + 78;
+constexpr qint64 listHeaderBytes = 8;
+constexpr qint64 entryHeaderBytes = 8 + 78;
 
 /// The track's number, behind the header's times, which have 4 or 8 bytes each.
 int trackNumber(Mp4Boxes& boxes, const Mp4Box& header)
 {
     const QByteArray data = boxes.read(header.begin, 24);
-    if (data.isEmpty())
+    if (data.isEmpty()) {
         return -1;
+    }
     return qFromBigEndian<qint32>(data.constData() + (data.at(0) == 1 ? 20 : 12));
 }
 
@@ -32,11 +33,13 @@ std::optional<Mp4Box> descriptionOf(Mp4Boxes& boxes, qint64 fileBytes, int track
     std::optional<Mp4Box> movie = boxes.find("moov", {0, fileBytes});
     for (qint64 after = 0; movie; movie->begin = after) {
         const std::optional<Mp4Box> candidate = boxes.find("trak", *movie, &after);
-        if (!candidate)
+        if (!candidate) {
             return std::nullopt;
+        }
         const std::optional<Mp4Box> header = boxes.find("tkhd", *candidate);
-        if (header && trackNumber(boxes, *header) == track)
+        if (header && trackNumber(boxes, *header) == track) {
             return boxes.find(*candidate, "mdia", "minf", "stbl", "stsd");
+        }
     }
     return std::nullopt;
 }
@@ -51,15 +54,17 @@ std::optional<double> fraction(const QByteArray& data, int index)
 
 std::optional<QRect> apertureFrom(const QByteArray& data, const QSize& stored)
 {
-    constexpr int Bytes = 32;
-    if (data.size() < Bytes)
+    constexpr int bytes = 32;
+    if (data.size() < bytes) {
         return std::nullopt;
+    }
     const std::optional<double> width = fraction(data, 0);
     const std::optional<double> height = fraction(data, 1);
     const std::optional<double> x = fraction(data, 2);
     const std::optional<double> y = fraction(data, 3);
-    if (!width || !height || !x || !y)
+    if (!width || !height || !x || !y) {
         return std::nullopt;
+    }
     // The offsets are those of the middle.
     const QRect aperture(static_cast<int>(std::lround((stored.width() - *width) / 2.0 + *x)),
                          static_cast<int>(std::lround((stored.height() - *height) / 2.0 + *y)),
@@ -76,13 +81,15 @@ std::optional<QRect> cleanApertureOf(FileInput& input, int track, const QSize& s
 {
     Mp4Boxes boxes(input);
     const std::optional<Mp4Box> list = descriptionOf(boxes, input.size(), track);
-    if (!list || list->end - list->begin > LargestDescription)
+    if (!list || list->end - list->begin > largestDescription) {
         return std::nullopt;
+    }
     // The first entry is the one that FFmpeg decodes by.
-    const Mp4Box entry{list->begin + ListHeaderBytes + EntryHeaderBytes, list->end};
+    const Mp4Box entry{list->begin + listHeaderBytes + entryHeaderBytes, list->end};
     const std::optional<Mp4Box> aperture = boxes.find("clap", entry);
-    if (!aperture || aperture->end - aperture->begin < 32)
+    if (!aperture || aperture->end - aperture->begin < 32) {
         return std::nullopt;
+    }
     return apertureFrom(boxes.read(aperture->begin, 32), stored);
 }
 

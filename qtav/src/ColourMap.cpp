@@ -11,19 +11,20 @@ namespace {
 
 /// A table of this many entries and one is finer than what it is asked for, and stays near the
 /// processor.
-constexpr int Steps = 4096;
+constexpr int steps = 4096;
 
 /// As far from the nearest colour inside as a colour outside may be shown, at black and at white:
 /// less than ten of 255.
-constexpr float OutsideAtBlack = 0.002F;
-constexpr float OutsideAtWhite = 0.06F;
+constexpr float outsideAtBlack = 0.002F;
+constexpr float outsideAtWhite = 0.06F;
 
 template <typename Function>
 std::vector<float> tableOf(const Function& function)
 {
-    std::vector<float> table(Steps + 1);
-    for (int i = 0; i <= Steps; ++i)
-        table[static_cast<size_t>(i)] = static_cast<float>(function(double(i) / Steps));
+    std::vector<float> table(steps + 1);
+    for (int i = 0; i <= steps; ++i) {
+        table[static_cast<size_t>(i)] = static_cast<float>(function(double(i) / steps));
+    }
     return table;
 }
 
@@ -42,22 +43,24 @@ double lightOf(Colours::Transfer transfer, double value)
 
 inline int entryFor(float value)
 {
-    return static_cast<int>(std::min(std::max(value, 0.0F), 1.0F) * Steps + 0.5F);
+    return static_cast<int>(std::min(std::max(value, 0.0F), 1.0F) * steps + 0.5F);
 }
 
 FOR_SEVERAL_PROCESSORS
 void lookUp(const float* __restrict table, float* __restrict values, size_t count)
 {
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
         values[i] = table[entryFor(values[i])];
+    }
 }
 
 /// Apart from the look-up, so that several are taken at once.
 FOR_SEVERAL_PROCESSORS
 void takeRoots(float* __restrict values, size_t count)
 {
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
         values[i] = std::sqrt(std::max(values[i], 0.0F));
+    }
 }
 
 FOR_SEVERAL_PROCESSORS
@@ -109,7 +112,7 @@ inline float cut(float value)
 /// Towards where a colour outside comes in on the way to its grey, by little.
 inline float softened(float inside, float faded)
 {
-    const float most = OutsideAtBlack + OutsideAtWhite * inside;
+    const float most = outsideAtBlack + outsideAtWhite * inside;
     return inside + std::min(std::max(faded - inside, -most), most);
 }
 
@@ -148,18 +151,21 @@ ColourMap::ColourMap(const Colours& colours)
     const std::array<double, 9> matrix = matrixToStandard(colours.primaries);
     std::transform(matrix.begin(), matrix.end(), m_matrix.begin(),
                    [](double factor) { return static_cast<float>(factor); });
-    if (!m_isHdr)
+    if (!m_isHdr) {
         return;
+    }
     const double brightest =
-        (colours.transfer == Colours::Transfer::Pq ? pqToNits(1.0) : colours.peakNits) / standardWhiteNits;
+        (colours.transfer == Colours::Transfer::Pq ? pqToNits(1.0) : colours.peakNits) /
+        standardWhiteNits;
     m_brightest = static_cast<float>(brightest);
     m_gain = tableOf([&](double root) {
         const double nits = root * root * brightest * standardWhiteNits;
         return nits > 0.0 ? toneMapped(nits, colours.peakNits, standardWhiteNits) / nits : 1.0;
     });
     // The system gamma of a display with 1000 cd/m² is 1.2.
-    if (colours.transfer == Colours::Transfer::Hlg)
+    if (colours.transfer == Colours::Transfer::Hlg) {
         m_system = tableOf([](double root) { return std::pow(root * root, 0.2); });
+    }
 }
 
 void ColourMap::apply(RgbLine& line) const
@@ -168,16 +174,21 @@ void ColourMap::apply(RgbLine& line) const
     float* const red = line.red.data();
     float* const green = line.green.data();
     float* const blue = line.blue.data();
-    for (float* const channel : {red, green, blue})
+    for (float* const channel : {red, green, blue}) {
         lookUp(m_light.data(), channel, count);
-    if (!m_system.empty())
+    }
+    if (!m_system.empty()) {
         applySystem(m_system.data(), m_brightest, red, green, blue, count);
-    if (m_isHdr)
+    }
+    if (m_isHdr) {
         applyGain(m_gain.data(), m_brightest, red, green, blue, count);
-    if (m_colours.primaries != Colours::Primaries::Standard)
+    }
+    if (m_colours.primaries != Colours::Primaries::Standard) {
         applyMatrix(m_matrix, red, green, blue, count);
-    if (m_isHdr)
+    }
+    if (m_isHdr) {
         cutSoftly(red, green, blue, count);
+    }
     for (float* const channel : {red, green, blue}) {
         takeRoots(channel, count);
         lookUp(m_values.data(), channel, count);

@@ -14,26 +14,26 @@ namespace QtAV {
 
 namespace {
 
-constexpr double UsualPeakNits = 1000.0;
+constexpr double usualPeakNits = 1000.0;
 
 /// Less is no statement, and more than PQ has is none either.
-constexpr double LeastPeakNits = 100.0;
-constexpr double BrightestNits = 10000.0;
+constexpr double leastPeakNits = 100.0;
+constexpr double brightestNits = 10000.0;
 
 // SMPTE ST 2084.
-constexpr double M1 = 2610.0 / 16384.0;
-constexpr double M2 = 2523.0 / 4096.0 * 128.0;
-constexpr double C1 = 3424.0 / 4096.0;
-constexpr double C2 = 2413.0 / 4096.0 * 32.0;
-constexpr double C3 = 2392.0 / 4096.0 * 32.0;
+constexpr double m1 = 2610.0 / 16384.0;
+constexpr double m2 = 2523.0 / 4096.0 * 128.0;
+constexpr double c1 = 3424.0 / 4096.0;
+constexpr double c2 = 2413.0 / 4096.0 * 32.0;
+constexpr double c3 = 2392.0 / 4096.0 * 32.0;
 
 // ITU-R BT.2100.
-constexpr double HlgA = 0.17883277;
-constexpr double HlgB = 1.0 - 4.0 * HlgA;
+constexpr double hlgA = 0.17883277;
+constexpr double hlgB = 1.0 - 4.0 * hlgA;
 
 double hlgC()
 {
-    return 0.5 - HlgA * std::log(4.0 * HlgA);
+    return 0.5 - hlgA * std::log(4.0 * hlgA);
 }
 
 /// Copies a statement of the stream for a picture; without memory it goes without.
@@ -41,23 +41,26 @@ void addSideData(AVFrame& frame, AVFrameSideDataType type, const SideData& data)
 {
     AVFrameSideData* const copy =
         data.data ? av_frame_new_side_data(&frame, type, data.size) : nullptr;
-    if (copy)
+    if (copy) {
         std::copy_n(data.data, data.size, copy->data);
+    }
 }
 
 void completeSideData(AVFrame& frame, const AVFrame& stated, AVFrameSideDataType type)
 {
     const AVFrameSideData* const data = av_frame_get_side_data(&stated, type);
-    if (data && !av_frame_get_side_data(&frame, type))
+    if (data && !av_frame_get_side_data(&frame, type)) {
         addSideData(frame, type, {data->data, data->size});
+    }
 }
 
 std::optional<double> contentPeak(const AVFrame& frame)
 {
     const AVFrameSideData* const data =
         av_frame_get_side_data(&frame, AV_FRAME_DATA_CONTENT_LIGHT_LEVEL);
-    if (!data || data->size < sizeof(AVContentLightMetadata))
+    if (!data || data->size < sizeof(AVContentLightMetadata)) {
         return std::nullopt;
+    }
     return reinterpret_cast<const AVContentLightMetadata*>(data->data)->MaxCLL;
 }
 
@@ -65,21 +68,24 @@ std::optional<double> masteringPeak(const AVFrame& frame)
 {
     const AVFrameSideData* const data =
         av_frame_get_side_data(&frame, AV_FRAME_DATA_MASTERING_DISPLAY_METADATA);
-    if (!data || data->size < sizeof(AVMasteringDisplayMetadata))
+    if (!data || data->size < sizeof(AVMasteringDisplayMetadata)) {
         return std::nullopt;
+    }
     const auto& display = *reinterpret_cast<const AVMasteringDisplayMetadata*>(data->data);
-    if (!display.has_luminance || display.max_luminance.den == 0)
+    if (!display.has_luminance || display.max_luminance.den == 0) {
         return std::nullopt;
+    }
     return av_q2d(display.max_luminance);
 }
 
 double peakOf(const AVFrame& frame)
 {
     for (const std::optional<double> peak : {contentPeak(frame), masteringPeak(frame)}) {
-        if (peak && *peak >= LeastPeakNits && *peak <= BrightestNits)
+        if (peak && *peak >= leastPeakNits && *peak <= brightestNits) {
             return *peak;
+        }
     }
-    return UsualPeakNits;
+    return usualPeakNits;
 }
 
 Colours::Transfer transferOf(const AVFrame& frame)
@@ -140,14 +146,18 @@ FramePtr statedColours(const AVStream& stream)
 
 void completeColours(AVFrame& frame, const AVFrame& stated)
 {
-    if (frame.color_primaries == AVCOL_PRI_UNSPECIFIED)
+    if (frame.color_primaries == AVCOL_PRI_UNSPECIFIED) {
         frame.color_primaries = stated.color_primaries;
-    if (frame.color_trc == AVCOL_TRC_UNSPECIFIED)
+    }
+    if (frame.color_trc == AVCOL_TRC_UNSPECIFIED) {
         frame.color_trc = stated.color_trc;
-    if (frame.colorspace == AVCOL_SPC_UNSPECIFIED)
+    }
+    if (frame.colorspace == AVCOL_SPC_UNSPECIFIED) {
         frame.colorspace = stated.colorspace;
-    if (frame.color_range == AVCOL_RANGE_UNSPECIFIED)
+    }
+    if (frame.color_range == AVCOL_RANGE_UNSPECIFIED) {
         frame.color_range = stated.color_range;
+    }
     completeSideData(frame, stated, AV_FRAME_DATA_CONTENT_LIGHT_LEVEL);
     completeSideData(frame, stated, AV_FRAME_DATA_MASTERING_DISPLAY_METADATA);
 }
@@ -157,10 +167,11 @@ Colours coloursOf(const AVFrame& frame)
     Colours colours;
     colours.transfer = transferOf(frame);
     colours.primaries = primariesOf(frame);
-    if (colours.transfer == Colours::Transfer::Pq)
+    if (colours.transfer == Colours::Transfer::Pq) {
         colours.peakNits = peakOf(frame);
-    else if (colours.transfer == Colours::Transfer::Hlg)
-        colours.peakNits = UsualPeakNits; // the display for which its system gamma is 1.2
+    } else if (colours.transfer == Colours::Transfer::Hlg) {
+        colours.peakNits = usualPeakNits; // the display for which its system gamma is 1.2
+    }
     return colours;
 }
 
@@ -196,26 +207,26 @@ std::array<double, 9> matrixFromStandard(Colours::Primaries primaries)
 
 double pqToNits(double value)
 {
-    const double power = std::pow(std::clamp(value, 0.0, 1.0), 1.0 / M2);
-    return BrightestNits * std::pow(std::max(power - C1, 0.0) / (C2 - C3 * power), 1.0 / M1);
+    const double power = std::pow(std::clamp(value, 0.0, 1.0), 1.0 / m2);
+    return brightestNits * std::pow(std::max(power - c1, 0.0) / (c2 - c3 * power), 1.0 / m1);
 }
 
 double nitsToPq(double nits)
 {
-    const double power = std::pow(std::clamp(nits / BrightestNits, 0.0, 1.0), M1);
-    return std::pow((C1 + C2 * power) / (1.0 + C3 * power), M2);
+    const double power = std::pow(std::clamp(nits / brightestNits, 0.0, 1.0), m1);
+    return std::pow((c1 + c2 * power) / (1.0 + c3 * power), m2);
 }
 
 double hlgToScene(double value)
 {
     const double v = std::clamp(value, 0.0, 1.0);
-    return v <= 0.5 ? v * v / 3.0 : (std::exp((v - hlgC()) / HlgA) + HlgB) / 12.0;
+    return v <= 0.5 ? v * v / 3.0 : (std::exp((v - hlgC()) / hlgA) + hlgB) / 12.0;
 }
 
 double sceneToHlg(double light)
 {
     const double l = std::clamp(light, 0.0, 1.0);
-    return l <= 1.0 / 12.0 ? std::sqrt(3.0 * l) : HlgA * std::log(12.0 * l - HlgB) + hlgC();
+    return l <= 1.0 / 12.0 ? std::sqrt(3.0 * l) : hlgA * std::log(12.0 * l - hlgB) + hlgC();
 }
 
 double linearToSrgb(double light)
@@ -234,8 +245,9 @@ double toneMapped(double nits, double peakNits, double whiteNits)
     const double white = nitsToPq(whiteNits) / peak;
     const double value = std::min(nitsToPq(nits) / peak, 1.0);
     const double knee = 1.5 * white - 0.5;
-    if (white >= 1.0 || value <= knee)
+    if (white >= 1.0 || value <= knee) {
         return std::min(nits, whiteNits);
+    }
     // Hermite's spline from the knee to white.
     const double t = (value - knee) / (1.0 - knee);
     const double t2 = t * t;

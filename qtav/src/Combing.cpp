@@ -118,8 +118,9 @@ template <typename Sample>
 int movedIn(const Sample* a, const Sample* b, int count, int shift)
 {
     int moved = 0;
-    for (int x = 0; x < count; ++x)
+    for (int x = 0; x < count; ++x) {
         moved += std::abs((a[x] >> shift) - (b[x] >> shift)) > motionNoise / 2 ? 1 : 0;
+    }
     return moved;
 }
 
@@ -184,9 +185,10 @@ private:
     int movementAs(const AVFrame& a, const AVFrame& b, int from) const
     {
         int moved = 0;
-        for (int y = from; y < m_height; y += 2 * lineStep())
+        for (int y = from; y < m_height; y += 2 * lineStep()) {
             moved += movedIn(lineOf<Sample>(a, y), lineOf<Sample>(b, y), m_width,
                              std::max(0, m_depth - 8));
+        }
         return moved;
     }
 
@@ -207,9 +209,10 @@ private:
             const int fieldY = std::max(2, y + offset);
             const Lines<Sample> fieldLines = between<Sample>(field, field, fieldY, 2);
             Tile* row = tiles.data() + ptrdiff_t(fieldLine / tileLines) * m_columns;
-            for (int x = 0; x < m_width; x += tileWidth, ++row)
+            for (int x = 0; x < m_width; x += tileWidth, ++row) {
                 *row += sumOf(lines, otherLines, fieldLines, x, std::min(tileWidth, m_width - x),
                               shift, static_cast<int16_t>(motion));
+            }
         }
         return tiles;
     }
@@ -243,8 +246,9 @@ bool isCombed(const Tile& before, const Tile& after, int visible)
 {
     const double fitBefore = fit(before, visible);
     const double fitAfter = fit(after, visible);
-    if (std::min(fitBefore, fitAfter) > asGoodAsOther)
+    if (std::min(fitBefore, fitAfter) > asGoodAsOther) {
         return false;
+    }
     const int own = fitBefore < fitAfter ? before.own : after.own;
     return own - moreThanDetail * std::max(before.detail, after.detail) >= visible / 2.0;
 }
@@ -255,8 +259,9 @@ bool combs(const Sides& sides, int visible)
     for (size_t i = 0; i < count; ++i) {
         const Tile before = sides.before.empty() ? Tile() : sides.before[i];
         const Tile after = sides.after.empty() ? Tile() : sides.after[i];
-        if (isCombed(before, after, visible))
+        if (isCombed(before, after, visible)) {
             return true;
+        }
     }
     return false;
 }
@@ -273,8 +278,9 @@ bool combsByItself(const std::vector<Tile>& tiles, int visible)
 bool leavesNone(const std::vector<Tile>& tiles, int visible)
 {
     Tile all;
-    for (const Tile& tile : tiles)
+    for (const Tile& tile : tiles) {
         all += tile;
+    }
     return all.own >= visible && all.other <= combOfFitting * all.own;
 }
 
@@ -283,8 +289,9 @@ bool leavesNone(const std::vector<Tile>& tiles, int visible)
 bool isFilm(const FieldPictures& pictures, const Comparison& comparison)
 {
     const auto isRepeated = [&](const AVFrame* neighbour, bool isFirst) {
-        if (!neighbour)
+        if (!neighbour) {
             return false;
+        }
         const int moved = comparison.movement(*pictures.picture, *neighbour, isFirst);
         const int movedOfOther = comparison.movement(*pictures.picture, *neighbour, !isFirst);
         return movedOfOther >= fewestMoved && moved * 100 <= movedOfOther * movedOfRepeated;
@@ -297,8 +304,9 @@ bool isFilm(const FieldPictures& pictures, const Comparison& comparison)
 bool combing::reads(AVPixelFormat format)
 {
     const AVPixFmtDescriptor* descriptor = av_pix_fmt_desc_get(format);
-    if (!descriptor)
+    if (!descriptor) {
         return false;
+    }
     constexpr auto others = AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_BAYER |
                             AV_PIX_FMT_FLAG_HWACCEL | AV_PIX_FMT_FLAG_BITSTREAM |
                             AV_PIX_FMT_FLAG_FLOAT | AV_PIX_FMT_FLAG_BE;
@@ -314,28 +322,35 @@ combing::Fields combing::fieldsOf(const FieldPictures& pictures, bool isTopFirst
     const Comparison comparison(*picture, isTopFirst);
     const int visible = comparison.visible();
     const Weave own{picture, picture};
-    if (!before && !after)
+    if (!before && !after) {
         return combsByItself(comparison.look(own), visible) ? Fields::Apart : Fields::Whole;
+    }
 
     Sides sides;
-    if (before)
+    if (before) {
         sides.before = comparison.compare(own, {picture, before});
-    if (after)
+    }
+    if (after) {
         sides.after = comparison.compare(own, {after, picture});
-    if (!combs(sides, visible))
+    }
+    if (!combs(sides, visible)) {
         return Fields::Whole;
+    }
 
-    if (!isFilm(pictures, comparison))
+    if (!isFilm(pictures, comparison)) {
         return Fields::Apart;
+    }
     // What seems to fit may also be the next moment after a cut, so it is looked at like any
     // picture.
     const auto fits = [&](const Weave& weave, const Weave& third) {
         return !combs({{}, comparison.compare(weave, third)}, visible);
     };
-    if (before && leavesNone(sides.before, visible) && fits({picture, before}, {before, before}))
+    if (before && leavesNone(sides.before, visible) && fits({picture, before}, {before, before})) {
         return Fields::FirstWithBefore;
-    if (after && leavesNone(sides.after, visible) && fits({after, picture}, {after, after}))
+    }
+    if (after && leavesNone(sides.after, visible) && fits({after, picture}, {after, after})) {
         return Fields::SecondWithAfter;
+    }
     return Fields::Apart;
 }
 
@@ -346,8 +361,9 @@ FramePtr combing::woven(const AVFrame& first, const AVFrame& second, bool isTopF
     made->width = first.width;
     made->height = first.height;
     if (av_frame_get_buffer(made.get(), 0) < 0 || av_frame_copy(made.get(), &first) < 0 ||
-        av_frame_copy_props(made.get(), &first) < 0)
+        av_frame_copy_props(made.get(), &first) < 0) {
         return nullptr;
+    }
     const int from = isTopFirst ? 1 : 0;
     const AVPixFmtDescriptor& format =
         *av_pix_fmt_desc_get(static_cast<AVPixelFormat>(first.format));

@@ -1,7 +1,5 @@
 #include "qtav/src/Container.h"
 
-#include "qtav/src/CleanAperture.h"
-#include "qtav/src/DynamicMetadata.h"
 #include "qtav/src/FFmpegLog.h"
 #include "qtav/src/Mp4Boxes.h"
 
@@ -18,7 +16,7 @@ namespace QtAV {
 namespace {
 
 /// A packet that takes longer to read is given up when that is asked for.
-constexpr std::chrono::milliseconds LongestPacket{100};
+constexpr std::chrono::milliseconds longestPacket{100};
 
 template <size_t Count>
 bool isOneOf(const AVInputFormat& format, const char* const (&names)[Count])
@@ -77,30 +75,10 @@ int findStreamInfo(AVFormatContext& format, const PictureLimit& limit)
     }
     const int result =
         avformat_find_stream_info(&format, options.empty() ? nullptr : options.data());
-    for (AVDictionary*& ofStream : options)
+    for (AVDictionary*& ofStream : options) {
         av_dict_free(&ofStream);
-    return result;
-}
-
-/// More of any of these is no description of a video.
-constexpr int MostChapters = 1000;
-constexpr int MostTags = 256;
-constexpr int LongestTagBytes = 4096;
-
-/// Adds the texts whose keys are not there yet.
-void addTags(QMap<QString, QString>& tags, const AVDictionary* dictionary)
-{
-    const AVDictionaryEntry* entry = nullptr;
-    while (tags.size() < MostTags) {
-        entry = av_dict_get(dictionary, "", entry, AV_DICT_IGNORE_SUFFIX);
-        if (!entry)
-            return;
-        const QString key = QString::fromUtf8(entry->key).toLower();
-        if (!tags.contains(key)) {
-            const auto size = static_cast<int>(qstrnlen(entry->value, LongestTagBytes));
-            tags.insert(key, QString::fromUtf8(entry->value, size));
-        }
     }
+    return result;
 }
 
 /// No file leads to another one.
@@ -127,12 +105,14 @@ std::unique_ptr<Container> Container::open(const QString& path, const IsCancelle
     container->m_isCancelled = isCancelled;
     container->m_limit = limit;
     container->m_input = FileInput::open(path, isCancelled, error);
-    if (!container->m_input)
+    if (!container->m_input) {
         return nullptr;
+    }
     container->begin(Patience::None);
     std::optional<View> view = container->makeView(error);
-    if (!view)
+    if (!view) {
         return nullptr;
+    }
     container->m_view = std::move(*view);
     container->m_format = container->m_view.format.get();
     container->m_facts = factsOf(*container->m_format);
@@ -174,10 +154,12 @@ std::optional<Container::View> Container::makeView(QString& error)
         result = avformat_open_input(&opened, name.constData(), format, nullptr);
         view.format.reset(opened);
     }
-    if (result >= 0)
+    if (result >= 0) {
         result = findStreamInfo(*view.format, m_limit);
-    if (result >= 0 && m_input->error() == 0 && !m_wasInterrupted)
+    }
+    if (result >= 0 && m_input->error() == 0 && !m_wasInterrupted) {
         return view;
+    }
     error = ffmpegErrorText(m_input->error() != 0 ? m_input->error() : result);
     return std::nullopt;
 }
@@ -214,10 +196,13 @@ void Container::begin(Patience patience)
 /// What was interrupted once stays so: FFmpeg asks in several places on its way out.
 bool Container::isInterrupted()
 {
-    if (m_wasInterrupted)
+    if (m_wasInterrupted) {
         return true;
-    if (m_patience == Patience::Some && std::chrono::steady_clock::now() - m_began < LongestPacket)
+    }
+    if (m_patience == Patience::Some &&
+        std::chrono::steady_clock::now() - m_began < longestPacket) {
         return false;
+    }
     m_wasInterrupted = m_isCancelled();
     return m_wasInterrupted;
 }
@@ -231,27 +216,31 @@ void Container::findStreams()
 {
     for (unsigned i = 0; i < m_format->nb_streams; ++i) {
         const AVStream& stream = *m_format->streams[i];
-        if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !isCover(stream))
+        if (stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !isCover(stream)) {
             m_videoStreams.append(static_cast<int>(i));
-        else if (stream.codecpar->codec_type == AVMEDIA_TYPE_AUDIO)
+        } else if (stream.codecpar->codec_type == AVMEDIA_TYPE_AUDIO) {
             m_audioStreams.append(static_cast<int>(i));
+        }
     }
 }
 
 void Container::findStart()
 {
-    if (m_format->start_time == AV_NOPTS_VALUE)
+    if (m_format->start_time == AV_NOPTS_VALUE) {
         return;
+    }
     // An MP4 is shown from 0 on. FFmpeg 5.1 counts what a sound encoder puts before that, in files
     // in fragments.
-    if (isMp4(*m_format->iformat) && m_format->start_time < 0)
+    if (isMp4(*m_format->iformat) && m_format->start_time < 0) {
         return;
+    }
     m_startTicks = m_format->start_time;
     const AVRational microsecond{1, AV_TIME_BASE};
     for (const int index : m_videoStreams + m_audioStreams) {
         const AVStream& stream = *m_format->streams[index];
-        if (stream.start_time == AV_NOPTS_VALUE)
+        if (stream.start_time == AV_NOPTS_VALUE) {
             continue;
+        }
         // The container's start is some stream's, rounded: take it from there unrounded.
         const qint64 rounded = av_rescale_q(stream.start_time, stream.time_base, microsecond);
         if (qAbs(rounded - m_format->start_time) <= 1) {
@@ -267,45 +256,6 @@ Timeline Container::timeline(int stream) const
     return Timeline(m_format->streams[stream]->time_base, m_startTicks, m_startTimeBase);
 }
 
-MediaFacts Container::facts(int stream) const
-{
-    MediaFacts facts;
-    addTags(facts.tags, m_format->metadata);
-    facts.chapters = chapters();
-    if (stream >= 0) {
-        const AVStream& described = *m_format->streams[stream];
-        addTags(facts.tags, described.metadata);
-        facts.tickNumerator = described.time_base.num;
-        facts.tickDenominator = described.time_base.den;
-        facts.baseLayer = baseLayerOf(described);
-        const AVRational rate = frameRate(stream);
-        facts.rateNumerator = rate.num;
-        facts.rateDenominator = rate.den;
-        facts.codec = QString::fromLatin1(avcodec_get_name(described.codecpar->codec_id));
-    }
-    return facts;
-}
-
-QVector<Chapter> Container::chapters() const
-{
-    QVector<Chapter> chapters;
-    const unsigned count = std::min<unsigned>(m_format->nb_chapters, MostChapters);
-    for (unsigned i = 0; i < count; ++i) {
-        const AVChapter& marked = *m_format->chapters[i];
-        const bool isTimed = marked.time_base.num > 0 && marked.time_base.den > 0;
-        if (!isTimed || marked.start == AV_NOPTS_VALUE)
-            continue;
-        const Timeline timeline(marked.time_base, m_startTicks, m_startTimeBase);
-        const qint64 startMs = timeline.milliseconds(marked.start);
-        QMap<QString, QString> tags;
-        addTags(tags, marked.metadata);
-        chapters.append({startMs, tags.value(QStringLiteral("title"))});
-    }
-    const auto isEarlier = [](const Chapter& a, const Chapter& b) { return a.startMs < b.startMs; };
-    std::stable_sort(chapters.begin(), chapters.end(), isEarlier);
-    return chapters;
-}
-
 AVRational Container::frameRate(int stream) const
 {
     return av_guess_frame_rate(m_format, m_format->streams[stream], nullptr);
@@ -314,14 +264,6 @@ AVRational Container::frameRate(int stream) const
 bool Container::isAvi() const
 {
     return isOneOf(*m_format->iformat, {"avi"});
-}
-
-std::optional<QRect> Container::cleanAperture(int stream)
-{
-    const AVStream& video = this->stream(stream);
-    const QSize stored(video.codecpar->width, video.codecpar->height);
-    const bool hasBoxes = std::strstr(m_format->iformat->name, "mp4") != nullptr;
-    return hasBoxes ? cleanApertureOf(*m_input, video.id, stored) : std::nullopt;
 }
 
 bool Container::isRawStream() const
@@ -335,14 +277,16 @@ QVector<qint64> Container::indexedKeyFrames(int index)
     AVStream* const stream = m_format->streams[index];
     const bool isMatroska = isOneOf(*m_format->iformat, {"matroska,webm"});
     // Matroska's index is read by the first seek.
-    if (!(isMatroska && seekNear(index, 0)) && !indexesAllPackets())
+    if (!(isMatroska && seekNear(index, 0)) && !indexesAllPackets()) {
         return {};
+    }
     QVector<qint64> keys;
     const int entries = avformat_index_get_entries_count(stream);
     for (int i = 0; i < entries; ++i) {
         const AVIndexEntry* entry = avformat_index_get_entry(stream, i);
-        if (entry->flags & AVINDEX_KEYFRAME)
+        if (entry->flags & AVINDEX_KEYFRAME) {
             keys.append(entry->timestamp);
+        }
     }
     return keys;
 }
@@ -355,21 +299,24 @@ bool Container::indexesAllPackets() const
 void Container::setMissingTimes(MissingTimes missing)
 {
     m_missingTimes = missing;
-    if (missing == MissingTimes::Leave)
+    if (missing == MissingTimes::Leave) {
         m_format->flags |= AVFMT_FLAG_NOFILLIN;
-    else
+    } else {
         m_format->flags &= ~AVFMT_FLAG_NOFILLIN;
+    }
 }
 
 PacketAnswer Container::read(PacketPtr& packet)
 {
-    if (m_isLost)
+    if (m_isLost) {
         return PacketAnswer::Failed;
+    }
     begin(Patience::Some);
     packet = makePacket();
     const int result = av_read_frame(m_format, packet.get());
-    if (result < 0)
+    if (result < 0) {
         return failed(result);
+    }
     m_failures = 0;
     return PacketAnswer::Packet;
 }
@@ -390,16 +337,18 @@ PacketAnswer Container::failed(int result)
         m_isLost = true;
         return PacketAnswer::Failed;
     }
-    if (result == AVERROR_EOF)
+    if (result == AVERROR_EOF) {
         return PacketAnswer::End;
+    }
     m_errorText = ffmpegErrorText(result);
-    return ++m_failures < MaximumFailures ? PacketAnswer::Failed : PacketAnswer::End;
+    return ++m_failures < maximumFailures ? PacketAnswer::Failed : PacketAnswer::End;
 }
 
 bool Container::isOverwritten()
 {
-    if (!m_input->hasShrunk())
+    if (!m_input->hasShrunk()) {
         return false;
+    }
     m_errorText = QCoreApplication::translate("QtAV::AVDemuxer",
                                               "The file was overwritten by another program.");
     return true;
@@ -429,8 +378,9 @@ std::optional<qint64> Container::seekToTail(int stream, int packets)
     const int count = avformat_index_get_entries_count(indexed);
     const AVIndexEntry* entry =
         count > 0 ? avformat_index_get_entry(indexed, std::max(0, count - 1 - packets)) : nullptr;
-    if (!entry)
+    if (!entry) {
         return std::nullopt;
+    }
     const qint64 bytes = m_input->size() - entry->pos;
     forgetFailures();
     const int result =
@@ -451,8 +401,9 @@ bool Container::reopen()
 {
     forgetFailures();
     std::optional<View> view = makeView(m_errorText);
-    if (!view)
+    if (!view) {
         return false;
+    }
     const QVector<StreamFacts> facts = factsOf(*view->format).mid(0, m_facts.size());
     if (facts != m_facts) {
         m_errorText = QCoreApplication::translate("QtAV::AVDemuxer",
@@ -476,8 +427,9 @@ qint64 Container::remainingBytes()
 qint64 Container::statedDuration() const
 {
     const bool isGuess = m_format->duration_estimation_method == AVFMT_DURATION_FROM_BITRATE;
-    if (m_format->duration == AV_NOPTS_VALUE || isGuess)
+    if (m_format->duration == AV_NOPTS_VALUE || isGuess) {
         return 0;
+    }
     return std::max<qint64>(0, m_format->duration / (AV_TIME_BASE / 1000));
 }
 

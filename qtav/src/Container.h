@@ -36,7 +36,7 @@ class Container
 {
 public:
     /// So many failures in a row count as the end of a file whose bytes can be read.
-    static constexpr int MaximumFailures = 64;
+    static constexpr int maximumFailures = 64;
 
     /// Null, with a text for people in `error`, for what cannot be opened. Pictures beyond the
     /// limit are not decoded where FFmpeg wants to know what a stream is like.

@@ -34,8 +34,9 @@ FieldPictures onlyAlike(const FieldPictures& pictures)
 
 Deinterlacing deinterlacingNamed(const QString& name)
 {
-    if (name == QLatin1String("on"))
+    if (name == QLatin1String("on")) {
         return Deinterlacing::On;
+    }
     return name == QLatin1String("off") ? Deinterlacing::Off : Deinterlacing::Automatic;
 }
 
@@ -61,8 +62,9 @@ bool Deinterlacer::combsByItself(const AVFrame& picture)
 bool Deinterlacer::isOfTwoMoments(const FieldPictures& pictures, Deinterlacing deinterlacing)
 {
     const AVFrame& picture = *pictures.picture;
-    if (deinterlacing != Deinterlacing::Automatic || !mayTake(picture, deinterlacing))
+    if (deinterlacing != Deinterlacing::Automatic || !mayTake(picture, deinterlacing)) {
         return deinterlacing == Deinterlacing::On;
+    }
     return combing::fieldsOf(onlyAlike(pictures), isTopFieldFirst(picture)) ==
            combing::Fields::Apart;
 }
@@ -71,12 +73,14 @@ FramePtr Deinterlacer::deinterlaced(const FieldPictures& pictures, Deinterlacing
                                     Moment moment)
 {
     const AVFrame& picture = *pictures.picture;
-    if (!mayTake(picture, deinterlacing))
+    if (!mayTake(picture, deinterlacing)) {
         return nullptr;
+    }
     const bool isTopFirst = isTopFieldFirst(picture);
     const FieldPictures alike = onlyAlike(pictures);
-    if (deinterlacing == Deinterlacing::On)
+    if (deinterlacing == Deinterlacing::On) {
         return filtered(alike, isTopFirst, moment);
+    }
     switch (combing::fieldsOf(alike, isTopFirst)) {
     case combing::Fields::Whole:
         break;
@@ -95,11 +99,13 @@ FramePtr Deinterlacer::filtered(const FieldPictures& pictures, bool isTopFirst, 
     const AVFrame& picture = *pictures.picture;
     std::optional<FieldFilter> filter =
         takeFilter({{picture.width, picture.height}, formatOf(picture), moment});
-    if (!filter)
+    if (!filter) {
         return nullptr;
+    }
     FramePtr made = filter->filter(pictures, isTopFirst);
-    if (made)
+    if (made) {
         keepFilter(std::move(*filter));
+    }
     return made;
 }
 
@@ -121,8 +127,9 @@ std::optional<FieldFilter> Deinterlacer::takeFilter(const FieldFilter::Task& tas
 void Deinterlacer::keepFilter(FieldFilter filter)
 {
     const std::lock_guard lock(m_mutex);
-    if (m_idle.size() == mostIdleFilters)
+    if (m_idle.size() == mostIdleFilters) {
         m_idle.erase(m_idle.begin());
+    }
     m_idle.push_back(std::move(filter));
 }
 

@@ -12,25 +12,26 @@ template <typename Value>
 class Dither
 {
 public:
-    static constexpr int Size = 8;
-    static constexpr int Orders = Size * Size;
+    static constexpr int size = 8;
+    static constexpr int orders = size * size;
 
     /// For lines of a width. `added` gives what belongs to a place in the order, 0 to 63, of those
     /// in eight by eight pixels.
     template <typename Added>
     Dither(int width, const Added& added)
     {
-        for (int y = 0; y < Size; ++y) {
+        for (int y = 0; y < size; ++y) {
             std::vector<Value>& line = m_lines[static_cast<size_t>(y)];
             line.resize(static_cast<size_t>(width));
-            for (size_t x = 0; x < line.size(); ++x)
-                line[x] = added(orderAt(static_cast<int>(x % Size), y));
+            for (size_t x = 0; x < line.size(); ++x) {
+                line[x] = added(orderAt(static_cast<int>(x % size), y));
+            }
         }
     }
 
     const Value* line(int number) const
     {
-        return m_lines[static_cast<size_t>(number % Size)].data();
+        return m_lines[static_cast<size_t>(number % size)].data();
     }
 
 private:
@@ -46,7 +47,7 @@ private:
         return order;
     }
 
-    std::array<std::vector<Value>, Size> m_lines;
+    std::array<std::vector<Value>, size> m_lines;
 };
 
 } // namespace QtAV

@@ -10,7 +10,7 @@ namespace QtAV {
 namespace {
 
 /// So much is read behind the stated end, to see whether anything follows.
-constexpr qint64 CheapBytes = qint64(16) << 20;
+constexpr qint64 cheapBytes = qint64(16) << 20;
 
 } // namespace
 
@@ -21,10 +21,12 @@ DurationProbe::DurationProbe(Container& container, VideoPackets* video)
 
 DurationProbe::Length DurationProbe::run()
 {
-    if (m_video && m_video->isRawStream())
+    if (m_video && m_video->isRawStream()) {
         return {m_video->rawLengthMs(), true};
-    if (const std::optional<Length> stated = checkedStatement())
+    }
+    if (const std::optional<Length> stated = checkedStatement()) {
         return *stated;
+    }
     return {measure(), true};
 }
 
@@ -32,43 +34,53 @@ DurationProbe::Length DurationProbe::run()
 std::optional<DurationProbe::Length> DurationProbe::checkedStatement()
 {
     const qint64 stated = m_container.statedDuration();
-    if (stated == 0)
+    if (stated == 0) {
         return std::nullopt;
-    if (m_video && m_container.durationIsMeasured() && m_video->hasMissingTimes())
+    }
+    if (m_video && m_container.durationIsMeasured() && m_video->hasMissingTimes()) {
         return Length{std::max(stated, endOfPictures(stated)), true};
-    if (!m_video || m_container.durationIsMeasured())
+    }
+    if (!m_video || m_container.durationIsMeasured()) {
         return Length{stated, m_container.durationIsMeasured()};
+    }
 
     // Landing this close to the end shows that the file is whole, or misses a little at most.
     const qint64 closeMs = std::min<qint64>(15000, stated / 10);
     const qint64 roundingMs = std::min<qint64>(1000, stated / 10);
     const std::optional<qint64> landed = firstTimeAt(stated);
-    if (!landed)
+    if (!landed) {
         return std::nullopt;
+    }
     const bool isClose = *landed + closeMs >= stated;
-    if (isClose && !isWorthReadingOn())
+    if (isClose && !isWorthReadingOn()) {
         return Length{stated, false};
+    }
     const End end = readToEnd();
-    if (end.pictureMs > stated)
+    if (end.pictureMs > stated) {
         return Length{end.ms, true};
-    if (isClose || end.ms + roundingMs >= stated)
+    }
+    if (isClose || end.ms + roundingMs >= stated) {
         return Length{stated, false};
+    }
     return std::nullopt;
 }
 
 /// FFmpeg measures by the last packet that bears a time.
 qint64 DurationProbe::endOfPictures(qint64 statedMs)
 {
-    constexpr qint64 LongestGapMs = 2000;
+    constexpr qint64 longestGapMs = 2000;
     qint64 end = 0;
-    if (!m_video->seekNear(std::max<qint64>(0, statedMs - LongestGapMs)))
+    if (!m_video->seekNear(std::max<qint64>(0, statedMs - longestGapMs))) {
         return end;
+    }
     for (PacketPtr packet;;) {
         const PacketAnswer answer = m_video->read(packet);
-        if (answer == PacketAnswer::Failed && m_video->canGoOn())
+        if (answer == PacketAnswer::Failed && m_video->canGoOn()) {
             continue;
-        if (answer != PacketAnswer::Packet)
+        }
+        if (answer != PacketAnswer::Packet) {
             return end;
+        }
         const qint64 ticks = presentationTicks(*packet) + m_video->frameTicks(*packet);
         end = std::max(end, m_video->timeline().milliseconds(ticks));
     }
@@ -80,11 +92,11 @@ qint64 DurationProbe::endOfPictures(qint64 statedMs)
 bool DurationProbe::isWorthReadingOn()
 {
     // No codec lets more pictures than this wait for one that is decoded later.
-    constexpr int MaximumWaiting = 16;
+    constexpr int maximumWaiting = 16;
     const qint64 rest = m_container.indexesAllPackets()
-                            ? m_container.seekToTail(m_video->stream(), MaximumWaiting).value_or(0)
+                            ? m_container.seekToTail(m_video->stream(), maximumWaiting).value_or(0)
                             : m_container.remainingBytes();
-    return rest > 0 && rest <= CheapBytes;
+    return rest > 0 && rest <= cheapBytes;
 }
 
 qint64 DurationProbe::measure()
@@ -104,25 +116,30 @@ qint64 DurationProbe::measure()
 
 bool DurationProbe::goTo(qint64 ms)
 {
-    if (!m_video)
+    if (!m_video) {
         return m_container.seekNear(-1, 0) || m_container.reopen();
+    }
     return ms > 0 ? m_video->seekNear(ms) : m_video->rewind();
 }
 
 /// The time of the first video packet that can be read after a seek, in milliseconds.
 std::optional<qint64> DurationProbe::firstTimeAt(qint64 ms)
 {
-    if (!m_video->seekNear(ms))
+    if (!m_video->seekNear(ms)) {
         return std::nullopt;
+    }
     for (PacketPtr packet;;) {
         const PacketAnswer answer = m_container.read(packet);
-        if (answer == PacketAnswer::Failed && m_container.canGoOn())
+        if (answer == PacketAnswer::Failed && m_container.canGoOn()) {
             continue;
-        if (answer != PacketAnswer::Packet)
+        }
+        if (answer != PacketAnswer::Packet) {
             return std::nullopt;
+        }
         if (packet->stream_index == m_video->stream() &&
-            presentationTicks(*packet) != AV_NOPTS_VALUE)
+            presentationTicks(*packet) != AV_NOPTS_VALUE) {
             return m_video->timeline().milliseconds(presentationTicks(*packet));
+        }
     }
 }
 
@@ -131,21 +148,25 @@ DurationProbe::End DurationProbe::readToEnd()
     End end;
     for (PacketPtr packet;;) {
         const PacketAnswer answer = m_container.read(packet);
-        if (answer == PacketAnswer::Failed && m_container.canGoOn())
+        if (answer == PacketAnswer::Failed && m_container.canGoOn()) {
             continue;
-        if (answer != PacketAnswer::Packet)
+        }
+        if (answer != PacketAnswer::Packet) {
             return end;
+        }
         const int stream = packet->stream_index;
         const bool counts = m_container.videoStreams().contains(stream) ||
                             m_container.audioStreams().contains(stream);
         const qint64 ticks = presentationTicks(*packet);
-        if (!counts || ticks == AV_NOPTS_VALUE)
+        if (!counts || ticks == AV_NOPTS_VALUE) {
             continue;
+        }
         const Timeline timeline = m_container.timeline(stream);
         end.ms = std::max(end.ms, timeline.milliseconds(ticks + packet->duration));
         const bool isShown = !(packet->flags & AV_PKT_FLAG_DISCARD);
-        if (isShown && m_video && stream == m_video->stream())
+        if (isShown && m_video && stream == m_video->stream()) {
             end.pictureMs = std::max(end.pictureMs, timeline.milliseconds(ticks));
+        }
     }
 }
 

@@ -13,8 +13,9 @@ namespace QtAV {
 BaseLayer baseLayerOf(const AVStream& stream)
 {
     const SideData data = sideDataOf(stream, AV_PKT_DATA_DOVI_CONF);
-    if (!data.data || data.size < sizeof(AVDOVIDecoderConfigurationRecord))
+    if (!data.data || data.size < sizeof(AVDOVIDecoderConfigurationRecord)) {
         return BaseLayer::Whole;
+    }
     const auto& record = *reinterpret_cast<const AVDOVIDecoderConfigurationRecord*>(data.data);
     // Its profile 5 has colours of a kind of its own.
     return record.dv_bl_signal_compatibility_id == 0 ? BaseLayer::OfDolbyVisionAlone
@@ -23,11 +24,13 @@ BaseLayer baseLayerOf(const AVStream& stream)
 
 BaseLayer baseLayerOf(const AVFrame& frame, BaseLayer stated)
 {
-    if (stated != BaseLayer::Whole)
+    if (stated != BaseLayer::Whole) {
         return stated;
+    }
     if (av_frame_get_side_data(&frame, AV_FRAME_DATA_DOVI_METADATA) ||
-        av_frame_get_side_data(&frame, AV_FRAME_DATA_DOVI_RPU_BUFFER))
+        av_frame_get_side_data(&frame, AV_FRAME_DATA_DOVI_RPU_BUFFER)) {
         return BaseLayer::OfDolbyVision;
+    }
     return av_frame_get_side_data(&frame, AV_FRAME_DATA_DYNAMIC_HDR_PLUS) ? BaseLayer::OfHdr10Plus
                                                                           : BaseLayer::Whole;
 }

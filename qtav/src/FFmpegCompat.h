@@ -86,8 +86,9 @@ inline void setInterlaced(AVFrame& frame, bool isInterlaced, bool isTopFirst)
 {
 #if QTAV_FFMPEG_HAS_INTERLACED_FLAG
     frame.flags &= ~(AV_FRAME_FLAG_INTERLACED | AV_FRAME_FLAG_TOP_FIELD_FIRST);
-    if (isInterlaced)
+    if (isInterlaced) {
         frame.flags |= AV_FRAME_FLAG_INTERLACED | (isTopFirst ? AV_FRAME_FLAG_TOP_FIELD_FIRST : 0);
+    }
 #else
     frame.interlaced_frame = isInterlaced;
     frame.top_field_first = isInterlaced && isTopFirst;
@@ -129,8 +130,9 @@ inline SideData sideDataOf(const AVStream& stream, AVPacketSideDataType type)
     const AVCodecParameters& parameters = *stream.codecpar;
     const AVPacketSideData* sideData =
         av_packet_side_data_get(parameters.coded_side_data, parameters.nb_coded_side_data, type);
-    if (sideData)
+    if (sideData) {
         found = {sideData->data, sideData->size};
+    }
 #else
     found.data = av_stream_get_side_data(&stream, type, &found.size);
 #endif

@@ -54,8 +54,9 @@ std::optional<FieldFilter> FieldFilter::make(const Task& task)
 {
     const FilterLibrary* library = FilterLibrary::get();
     FilterGraphPtr graph(library ? library->graphAlloc() : nullptr);
-    if (!graph)
+    if (!graph) {
         return std::nullopt;
+    }
     graph->nb_threads = 1;
     // Only what is marked as interlaced is filtered, the neighbours go through as they are.
     const char* options = task.moment == Moment::First ? "mode=send_frame:deint=interlaced"
@@ -64,8 +65,9 @@ std::optional<FieldFilter> FieldFilter::make(const Task& task)
     AVFilterContext* filter = makeFilter(*library, *graph, "bwdif", options);
     AVFilterContext* sink = makeFilter(*library, *graph, "buffersink", nullptr);
     if (!source || !filter || !sink || library->link(source, 0, filter, 0) < 0 ||
-        library->link(filter, 0, sink, 0) < 0 || library->graphConfig(graph.get(), nullptr) < 0)
+        library->link(filter, 0, sink, 0) < 0 || library->graphConfig(graph.get(), nullptr) < 0) {
         return std::nullopt;
+    }
     return FieldFilter(task, std::move(graph), source, sink);
 }
 
@@ -76,15 +78,18 @@ FramePtr FieldFilter::filter(const FieldPictures& pictures, bool isTopFirst)
     const AVFrame& after = pictures.after ? *pictures.after : picture;
     // FFmpeg makes the first picture of a video of one field alone, and of the first two pictures
     // it gives none. What comes before others has no influence on these.
-    if (!std::exchange(m_isRunIn, true) && !filter({&before, &picture, &after}, isTopFirst))
+    if (!std::exchange(m_isRunIn, true) && !filter({&before, &picture, &after}, isTopFirst)) {
         return nullptr;
+    }
     const qint64 ticks = m_ticks + 1;
     if (!push(before, false, isTopFirst) || !push(picture, true, isTopFirst) ||
-        !push(after, false, isTopFirst))
+        !push(after, false, isTopFirst)) {
         return nullptr;
+    }
     FramePtr made = pull(2 * ticks + (m_task.moment == Moment::Second ? 1 : 0));
-    if (!made || av_frame_copy_props(made.get(), &picture) < 0)
+    if (!made || av_frame_copy_props(made.get(), &picture) < 0) {
         return nullptr;
+    }
     setInterlaced(*made, false, false);
     return made;
 }
@@ -92,8 +97,9 @@ FramePtr FieldFilter::filter(const FieldPictures& pictures, bool isTopFirst)
 bool FieldFilter::push(const AVFrame& picture, bool isFiltered, bool isTopFirst)
 {
     FramePtr pushed(av_frame_clone(&picture));
-    if (!pushed)
+    if (!pushed) {
         return false;
+    }
     setInterlaced(*pushed, isFiltered, isTopFirst);
     pushed->repeat_pict = 0;
     pushed->pts = m_ticks++;
@@ -113,8 +119,9 @@ FramePtr FieldFilter::pull(qint64 halfTicks)
     FramePtr found;
     for (FramePtr frame = makeFrame(); library.sinkGetFrame(m_sink, frame.get()) >= 0;
          frame = makeFrame()) {
-        if (av_rescale_q(frame->pts, base, halfTick) == halfTicks)
+        if (av_rescale_q(frame->pts, base, halfTick) == halfTicks) {
             found = std::move(frame);
+        }
     }
     return found;
 }

@@ -24,10 +24,10 @@ namespace QtAV {
 namespace {
 
 /// How often a caller that waits for the disk is asked whether it still wants to.
-constexpr std::chrono::milliseconds Impatience{20};
+constexpr std::chrono::milliseconds impatience{20};
 
 /// Small enough that a seek costs little, large enough for few calls.
-constexpr int BufferBytes = 64 << 10;
+constexpr int bufferBytes = 64 << 10;
 
 /// What the system has in memory already; negative where it would have to wait for the disk.
 int readWithoutWaiting(int file, qint64 position, uint8_t* buffer, int bytes)
@@ -78,8 +78,9 @@ private:
 
 FileInput::Reader::~Reader()
 {
-    if (file >= 0)
+    if (file >= 0) {
         ::close(file);
+    }
 }
 
 qint64 FileInput::Reader::carryOut(Job job, const IsCancelled& isCancelled)
@@ -87,14 +88,16 @@ qint64 FileInput::Reader::carryOut(Job job, const IsCancelled& isCancelled)
     std::unique_lock lock(m_mutex);
     const auto waitUntilIdle = [&] {
         while (m_job) {
-            m_changed.wait_for(lock, Impatience);
-            if (m_job && isCancelled())
+            m_changed.wait_for(lock, impatience);
+            if (m_job && isCancelled()) {
                 return false;
+            }
         }
         return true;
     };
-    if (!waitUntilIdle())
+    if (!waitUntilIdle()) {
         return AVERROR_EXIT;
+    }
     m_job = std::move(job);
     m_changed.notify_all();
     return waitUntilIdle() ? m_result : AVERROR_EXIT;
@@ -139,15 +142,19 @@ qint64 bytesIn(int file)
 int openRegular(const char* name)
 {
     struct stat facts = {};
-    if (::stat(name, &facts) != 0)
+    if (::stat(name, &facts) != 0) {
         return AVERROR(errno);
-    if (!S_ISREG(facts.st_mode))
+    }
+    if (!S_ISREG(facts.st_mode)) {
         return AVERROR(EINVAL);
+    }
     const int file = ::open(name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (file < 0)
+    if (file < 0) {
         return AVERROR(errno);
-    if (::fstat(file, &facts) == 0 && S_ISREG(facts.st_mode))
+    }
+    if (::fstat(file, &facts) == 0 && S_ISREG(facts.st_mode)) {
         return file;
+    }
     ::close(file);
     return AVERROR(EINVAL);
 }
@@ -174,10 +181,11 @@ FileInput::FileInput(std::shared_ptr<Reader> reader, IsCancelled isCancelled)
 
 FileInput::~FileInput()
 {
-    if (m_reader->end())
+    if (m_reader->end()) {
         m_thread.join();
-    else
+    } else {
         m_thread.detach();
+    }
 }
 
 /// Null where the system gives no more threads.
@@ -195,8 +203,9 @@ std::unique_ptr<FileInput> FileInput::open(const QString& path, const IsCancelle
                                            QString& error)
 {
     std::unique_ptr<FileInput> input = make(isCancelled, error);
-    if (!input)
+    if (!input) {
         return nullptr;
+    }
     const auto open = [name = QFile::encodeName(path)](Reader& reader) -> qint64 {
         const int result = openRegular(name.constData());
         reader.file = result;
@@ -213,11 +222,13 @@ std::unique_ptr<FileInput> FileInput::open(const QString& path, const IsCancelle
 
 int FileInput::readAt(qint64 position, uint8_t* buffer, int bytes)
 {
-    if (m_isCancelled())
+    if (m_isCancelled()) {
         return noted(AVERROR_EXIT);
+    }
     const int ready = readWithoutWaiting(m_reader->file, position, buffer, bytes);
-    if (ready >= 0)
+    if (ready >= 0) {
         return ready;
+    }
     const auto read = [position, bytes](Reader& reader) -> qint64 {
         reader.buffer.resize(static_cast<size_t>(bytes));
         const ssize_t got =
@@ -225,15 +236,17 @@ int FileInput::readAt(qint64 position, uint8_t* buffer, int bytes)
         return got >= 0 ? got : AVERROR(errno);
     };
     const auto result = static_cast<int>(m_reader->carryOut(read, m_isCancelled));
-    if (result > 0)
+    if (result > 0) {
         std::memcpy(buffer, m_reader->buffer.data(), static_cast<size_t>(result));
+    }
     return noted(result);
 }
 
 int FileInput::noted(int result)
 {
-    if (result < 0 && m_error == 0)
+    if (result < 0 && m_error == 0) {
         m_error = result;
+    }
     return result;
 }
 
@@ -254,9 +267,9 @@ bool FileInput::hasShrunk()
 FileStream::FileStream(FileInput& input)
     : m_input(input)
 {
-    auto* const buffer = static_cast<unsigned char*>(av_malloc(BufferBytes));
+    auto* const buffer = static_cast<unsigned char*>(av_malloc(bufferBytes));
     Q_CHECK_PTR(buffer);
-    m_context = avio_alloc_context(buffer, BufferBytes, 0, this, &FileStream::read, nullptr,
+    m_context = avio_alloc_context(buffer, bufferBytes, 0, this, &FileStream::read, nullptr,
                                    &FileStream::seek);
     Q_CHECK_PTR(m_context);
 }
@@ -278,12 +291,14 @@ int FileStream::read(void* stream, uint8_t* buffer, int bytes)
 int64_t FileStream::seek(void* stream, int64_t offset, int whence)
 {
     auto& self = *static_cast<FileStream*>(stream);
-    if (whence == AVSEEK_SIZE)
+    if (whence == AVSEEK_SIZE) {
         return self.m_input.size();
+    }
     const qint64 size = whence == SEEK_END ? self.m_input.size() : 0;
     const qint64 base = whence == SEEK_CUR ? self.m_position : size;
-    if (size < 0 || base + offset < 0)
+    if (size < 0 || base + offset < 0) {
         return AVERROR(EINVAL);
+    }
     return self.m_position = base + offset;
 }
 

@@ -36,8 +36,9 @@ std::optional<FilterLibrary> loaded()
         resolve(library, "av_buffersrc_add_frame_flags", found.sourceAddFrame) &&
         resolve(library, "av_buffersink_get_time_base", found.sinkTimeBase) &&
         resolve(library, "av_buffersink_get_frame", found.sinkGetFrame);
-    if (isComplete)
+    if (isComplete) {
         return found;
+    }
     qWarning().noquote()
         << "Interlaced pictures, and the pitch of sound at other speeds, are not mended:"
         << library.errorString();

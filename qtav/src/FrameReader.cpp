@@ -16,7 +16,7 @@ namespace QtAV {
 namespace {
 
 /// Most of what readAhead() keeps while no key frame comes.
-constexpr qint64 MostAheadBytes = 64 * 1024 * 1024;
+constexpr qint64 mostAheadBytes = 64 * 1024 * 1024;
 
 QVariantHash decoderOptions(bool skips, bool hurries)
 {
@@ -144,25 +144,30 @@ void FrameReader::restart()
 
 FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
 {
-    if (!m_target)
+    if (!m_target) {
         return m_isLost ? FrameAnswer::Failed : FrameAnswer::Frame;
-    if (isCancelled())
+    }
+    if (isCancelled()) {
         return FrameAnswer::Cancelled;
+    }
     const Interruptible interruptible(m_demuxer, isCancelled);
-    if (m_decoderThreads == m_threads)
+    if (m_decoderThreads == m_threads) {
         m_decoder->flush();
-    else if (!openDecoder())
+    } else if (!openDecoder()) {
         return FrameAnswer::Failed;
+    }
     m_first = Packet();
     m_ahead.clear();
     if (!m_demuxer.seek(*m_target)) {
-        if (m_demuxer.canGoOn())
+        if (m_demuxer.canGoOn()) {
             return FrameAnswer::End;
+        }
         return lost(isCancelled);
     }
     const FrameAnswer answer = readPacket(m_first, isCancelled);
-    if (answer == FrameAnswer::Cancelled)
+    if (answer == FrameAnswer::Cancelled) {
         return answer;
+    }
     m_target.reset();
     if (answer == FrameAnswer::Frame && !m_resumes) {
         m_landing = m_first.pts;
@@ -188,8 +193,9 @@ FrameAnswer FrameReader::lost(const IsCancelled& isCancelled)
 
 FrameAnswer FrameReader::readPacket(Packet& packet, const IsCancelled& isCancelled)
 {
-    if (m_ahead.empty())
+    if (m_ahead.empty()) {
         return readFromFile(packet, isCancelled);
+    }
     packet = std::move(m_ahead.front());
     m_ahead.pop_front();
     return FrameAnswer::Frame;
@@ -198,18 +204,22 @@ FrameAnswer FrameReader::readPacket(Packet& packet, const IsCancelled& isCancell
 FrameAnswer FrameReader::readFromFile(Packet& packet, const IsCancelled& isCancelled)
 {
     while (!m_demuxer.atEnd()) {
-        if (isCancelled())
+        if (isCancelled()) {
             return FrameAnswer::Cancelled;
+        }
         if (!m_demuxer.readFrame()) {
-            if (!m_demuxer.canGoOn())
+            if (!m_demuxer.canGoOn()) {
                 return lost(isCancelled);
+            }
             continue;
         }
-        if (m_demuxer.stream() != m_demuxer.videoStream())
+        if (m_demuxer.stream() != m_demuxer.videoStream()) {
             continue;
+        }
         packet = m_demuxer.packet();
-        if (packet.isValid())
+        if (packet.isValid()) {
             return FrameAnswer::Frame;
+        }
         ++m_invalidPackets;
     }
     return FrameAnswer::End;
@@ -223,8 +233,9 @@ FrameResult FrameReader::next(const IsCancelled& isCancelled)
     };
     while (m_decoded.empty() || isNeighbourMissing()) {
         Decoded decoded = decodeNext(isCancelled);
-        if (decoded.result.answer == FrameAnswer::Cancelled)
+        if (decoded.result.answer == FrameAnswer::Cancelled) {
             return std::move(decoded.result);
+        }
         m_decoded.push_back(std::move(decoded));
     }
     Decoded decoded = std::move(m_decoded.front());
@@ -239,22 +250,26 @@ FrameReader::Decoded FrameReader::decodeNext(const IsCancelled& isCancelled)
     while (answer == FrameAnswer::Frame) {
         Packet packet = std::exchange(m_first, Packet());
         const bool isLanding = packet.isValid();
-        if (!isLanding)
+        if (!isLanding) {
             answer = readPacket(packet, isCancelled);
-        if (answer != FrameAnswer::Frame)
+        }
+        if (answer != FrameAnswer::Frame) {
             break;
+        }
         chooseSkipping(packet);
         const bool isDecoded = m_decoder->decode(packet);
         // All others are as large.
         const bool isRefused = !isDecoded && !m_decoder->errorString().isEmpty();
         m_isLost = m_isLost || isRefused;
         // Without the picture that it began with a search starts further back.
-        if (!isDecoded && (!isLanding || isRefused))
+        if (!isDecoded && (!isLanding || isRefused)) {
             return {{FrameAnswer::Failed, {}, damageText()}};
+        }
         const VideoFrame frame = m_decoder->frame();
         const bool isLater = frame.isValid() && (!m_newest || frame.timestamp() > *m_newest);
-        if (isLater)
+        if (isLater) {
             return arrived(frame, isLanding);
+        }
     }
     return {{answer, {}, answer == FrameAnswer::Failed ? failureText() : QString()}};
 }
@@ -262,8 +277,9 @@ FrameReader::Decoded FrameReader::decodeNext(const IsCancelled& isCancelled)
 FrameAnswer FrameReader::readAhead(qint64 ms, const IsCancelled& isCancelled)
 {
     FrameAnswer answer = land(isCancelled);
-    if (answer != FrameAnswer::Frame || m_first.isValid())
+    if (answer != FrameAnswer::Frame || m_first.isValid()) {
         return answer;
+    }
     const Interruptible interruptible(m_demuxer, isCancelled);
     const auto isBehind = [ms](const Packet& packet) {
         return packet.isDrain() || toMilliseconds(packet.pts) > ms;
@@ -276,13 +292,15 @@ FrameAnswer FrameReader::readAhead(qint64 ms, const IsCancelled& isCancelled)
             break;
         }
     }
-    while ((m_ahead.empty() || !isBehind(m_ahead.back())) && bytes < MostAheadBytes) {
+    while ((m_ahead.empty() || !isBehind(m_ahead.back())) && bytes < mostAheadBytes) {
         Packet packet;
         answer = readFromFile(packet, isCancelled);
-        if (answer == FrameAnswer::End)
+        if (answer == FrameAnswer::End) {
             return FrameAnswer::Frame;
-        if (answer != FrameAnswer::Frame)
+        }
+        if (answer != FrameAnswer::Frame) {
             return answer;
+        }
         bytes += packet.data.size();
         m_ahead.push_back(std::move(packet));
         if (m_ahead.back().hasKeyFrame && !isBehind(m_ahead.back())) {
@@ -317,10 +335,12 @@ QVector<qint64> FrameReader::readFrameTimes(const IsCancelled& isCancelled)
     QVector<qint64> times;
     while (answer == FrameAnswer::Frame) {
         Packet packet = std::exchange(m_first, Packet());
-        if (!packet.isValid())
+        if (!packet.isValid()) {
             answer = readPacket(packet, isCancelled);
-        if (answer == FrameAnswer::Frame && !packet.isDrain())
+        }
+        if (answer == FrameAnswer::Frame && !packet.isDrain()) {
             times.append(toMilliseconds(packet.pts));
+        }
     }
     std::sort(times.begin(), times.end());
     times.erase(std::unique(times.begin(), times.end()), times.end());
@@ -334,21 +354,26 @@ FrameResult FrameReader::nextKeyFrame(qint64 beforeMs, const IsCancelled& isCanc
     const Interruptible interruptible(m_demuxer, isCancelled);
     while (answer == FrameAnswer::Frame) {
         Packet packet = std::exchange(m_first, Packet());
-        if (!packet.isValid())
+        if (!packet.isValid()) {
             answer = readPacket(packet, isCancelled);
-        if (answer != FrameAnswer::Frame)
+        }
+        if (answer != FrameAnswer::Frame) {
             break;
-        if (!packet.hasKeyFrame)
+        }
+        if (!packet.hasKeyFrame) {
             continue;
-        if (toMilliseconds(packet.pts) >= beforeMs)
+        }
+        if (toMilliseconds(packet.pts) >= beforeMs) {
             return {FrameAnswer::End, {}, {}};
+        }
         // Key frames refer to nothing, and a decoder that was given one more expects what is
         // between them.
         m_decoder->flush();
         const bool isDecoded = m_decoder->decode(packet);
         const VideoFrame frame = m_decoder->frame();
-        if (!isDecoded)
+        if (!isDecoded) {
             return {FrameAnswer::Failed, {}, damageText()};
+        }
         if (frame.isValid() && (!m_last || frame.timestamp() > *m_last)) {
             m_skippedUpTo = frame.timestamp();
             Decoded decoded = arrived(frame, true);
@@ -378,14 +403,16 @@ QString FrameReader::damageText() const
 
 void FrameReader::chooseSkipping(const Packet& packet)
 {
-    const qint64 completeFrom = m_completeFrom - (wantsPredecessors() ? NeighbourMs : 0);
+    const qint64 completeFrom = m_completeFrom - (wantsPredecessors() ? neighbourMs : 0);
     const bool skips = !packet.isDrain() && toMilliseconds(packet.pts) < completeFrom;
-    if (skips)
+    if (skips) {
         m_skippedUpTo = std::max(m_skippedUpTo, packet.pts);
+    }
     // Where frames are skipped, the key frame is not looked at either.
     const bool hurries = m_keyFrameAtOnce && !skips;
-    if (skips == m_skips && hurries == m_decoderHurries)
+    if (skips == m_skips && hurries == m_decoderHurries) {
         return;
+    }
     m_skips = skips;
     m_decoderHurries = hurries;
     m_decoder->setOptions(decoderOptions(skips, hurries));
@@ -397,8 +424,9 @@ FrameReader::Decoded FrameReader::arrived(const VideoFrame& frame, bool isLandin
     Decoded decoded{{FrameAnswer::Frame, frame}};
     // What was interrupted may begin behind frames that cannot be decoded any more.
     decoded.isInSequence = m_newest && !std::exchange(m_resumes, false);
-    if (decoded.isInSequence && *m_newest >= m_skippedUpTo)
+    if (decoded.isInSequence && *m_newest >= m_skippedUpTo) {
         decoded.predecessor = m_newest;
+    }
     decoded.isAtLanding = isLanding;
     decoded.isAtFirst = !m_newest && m_startedAtZero;
     m_newest = frame.timestamp();
@@ -408,8 +436,9 @@ FrameReader::Decoded FrameReader::arrived(const VideoFrame& frame, bool isLandin
 
 FrameResult FrameReader::give(Decoded decoded)
 {
-    if (decoded.result.answer != FrameAnswer::Frame)
+    if (decoded.result.answer != FrameAnswer::Frame) {
         return std::move(decoded.result);
+    }
     decoded.result.frame = withNeighbours(decoded);
     m_predecessor = decoded.predecessor;
     m_isInSequence = decoded.isInSequence;
@@ -434,8 +463,9 @@ bool FrameReader::wantsNeighbours(const VideoFrame& frame) const
 VideoFrame FrameReader::withNeighbours(const Decoded& decoded) const
 {
     const VideoFrame& frame = decoded.result.frame;
-    if (!wantsNeighbours(frame))
+    if (!wantsNeighbours(frame)) {
         return frame;
+    }
     const bool isBeforeKnown = decoded.predecessor && decoded.predecessor == m_last;
     const bool isAfterKnown =
         !m_decoded.empty() && m_decoded.front().predecessor == frame.timestamp();

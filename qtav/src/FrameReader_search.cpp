@@ -20,18 +20,23 @@ bool FrameReader::looksAsEver() const
 
 FrameReader::Way FrameReader::walk(const Search& search, const IsCancelled& isCancelled)
 {
-    if (m_last && search.isReached(m_lastFrame))
+    if (m_last && search.isReached(m_lastFrame)) {
         return {{FrameAnswer::Frame, m_lastFrame}, isCertain() && looksAsEver()};
+    }
     for (;;) {
         FrameResult step = next(isCancelled);
-        if (step.answer == FrameAnswer::Failed && search.damage == Damage::Skip && canGoOn())
+        if (step.answer == FrameAnswer::Failed && search.damage == Damage::Skip && canGoOn()) {
             continue;
-        if (step.answer != FrameAnswer::Frame)
+        }
+        if (step.answer != FrameAnswer::Frame) {
             return {std::move(step)};
-        if (search.onFrame)
+        }
+        if (search.onFrame) {
             search.onFrame(step.frame);
-        if (search.isReached(step.frame))
+        }
+        if (search.isReached(step.frame)) {
             return {std::move(step), isCertain() && looksAsEver()};
+        }
     }
 }
 
@@ -55,7 +60,7 @@ FrameResult FrameReader::findOn(const Search& search, const IsCancelled& isCance
 
 FrameResult FrameReader::findFrom(Search search, const IsCancelled& isCancelled)
 {
-    for (qint64 stepBackMs = wantsPredecessors() ? NeighbourMs : 0;;) {
+    for (qint64 stepBackMs = wantsPredecessors() ? neighbourMs : 0;;) {
         const qint64 landing = std::max<qint64>(0, search.ms - stepBackMs);
         seek(landing);
         setCompleteFrom(search.completeFrom);
@@ -63,14 +68,16 @@ FrameResult FrameReader::findFrom(Search search, const IsCancelled& isCancelled)
         const bool isEnd = way.result.answer == FrameAnswer::End;
         const bool isAll = landing == 0 && search.completeFrom <= 0;
         if (isEnd && m_last) {
-            if (isAll || isWholeLast())
+            if (isAll || isWholeLast()) {
                 return {FrameAnswer::Frame, m_lastFrame};
+            }
             search.ms = std::min(search.ms, toMilliseconds(*m_last));
         } else if (isEnd ? isAll : way.isCertain) {
             return std::move(way.result);
         }
-        if (search.completeFrom <= 0)
-            stepBackMs = std::max(SmallestStepBackMs, 2 * stepBackMs);
+        if (search.completeFrom <= 0) {
+            stepBackMs = std::max(smallestStepBackMs, 2 * stepBackMs);
+        }
         search.completeFrom = 0;
     }
 }
@@ -84,8 +91,9 @@ bool FrameReader::isWholeLast() const
 /// The video's last frame, once the reader has come to the end.
 FrameResult FrameReader::lastOfVideo(const Search& search, const IsCancelled& isCancelled)
 {
-    if (isWholeLast())
+    if (isWholeLast()) {
         return {FrameAnswer::Frame, m_lastFrame};
+    }
     Search complete = search;
     complete.ms = toMilliseconds(*m_last);
     complete.completeFrom = 0;

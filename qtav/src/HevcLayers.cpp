@@ -6,7 +6,7 @@ namespace QtAV {
 
 namespace {
 
-constexpr int SequenceParameterSet = 33;
+constexpr int sequenceParameterSet = 33;
 
 /// The record of ISO/IEC 14496-15 that stands in MP4 and Matroska files.
 bool isConfigurationRecord(const uint8_t* data, qsizetype size)
@@ -22,7 +22,7 @@ int layersInConfigurationRecord(const uint8_t* data)
 /// A parameter set: two bytes of header, then 4 bits of id and 3 bits of layer count less one.
 bool parameterSetHasSubLayers(const NalUnits::Unit& unit)
 {
-    const bool isParameterSet = unit.type == SequenceParameterSet && unit.size >= 3;
+    const bool isParameterSet = unit.type == sequenceParameterSet && unit.size >= 3;
     return isParameterSet && ((unit.data[2] >> 1) & 0x07) > 0;
 }
 
@@ -30,14 +30,17 @@ bool parameterSetHasSubLayers(const NalUnits::Unit& unit)
 
 bool hevcHasSubLayers(const uint8_t* data, qsizetype size)
 {
-    if (!data || size <= 0)
+    if (!data || size <= 0) {
         return false;
-    if (isConfigurationRecord(data, size))
+    }
+    if (isConfigurationRecord(data, size)) {
         return layersInConfigurationRecord(data) > 1;
+    }
     NalUnits::Cursor cursor = NalUnits::ofMarked(AV_CODEC_ID_HEVC, data, size);
     while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
-        if (parameterSetHasSubLayers(*unit))
+        if (parameterSetHasSubLayers(*unit)) {
             return true;
+        }
     }
     return false;
 }

@@ -4,7 +4,7 @@ namespace QtAV {
 
 namespace {
 
-constexpr int PixelBytes = 4;
+constexpr int pixelBytes = 4;
 
 void giveBack(void* buffer)
 {
@@ -16,10 +16,11 @@ void giveBack(void* buffer)
 
 QImage ImagePool::take(const QSize& size)
 {
-    const int lineBytes = size.width() * PixelBytes;
+    const int lineBytes = size.width() * pixelBytes;
     AVBufferRef* buffer = takeBuffer(size_t(lineBytes) * size_t(size.height()));
-    if (!buffer)
+    if (!buffer) {
         return {};
+    }
     return QImage(buffer->data, size.width(), size.height(), lineBytes, QImage::Format_ARGB32,
                   giveBack, buffer);
 }

@@ -8,7 +8,7 @@ namespace QtAV {
 
 namespace {
 
-constexpr qint64 SmallestStepBackMs = 500;
+constexpr qint64 smallestStepBackMs = 500;
 
 } // namespace
 
@@ -29,9 +29,10 @@ PacketAnswer KeyFrameSearch::run(qint64 targetMs)
     while (base - m_stepBackMs > 0) {
         const PacketAnswer answer =
             scanIf(m_video.seekNear(base - m_stepBackMs), Accept::AtOrBeforeTarget);
-        if (answer != PacketAnswer::End)
+        if (answer != PacketAnswer::End) {
             return answer;
-        m_stepBackMs = std::max(SmallestStepBackMs, m_stepBackMs * 2);
+        }
+        m_stepBackMs = std::max(smallestStepBackMs, m_stepBackMs * 2);
     }
     m_stepBackMs = usualStepBackMs;
     return searchFromStart();
@@ -42,10 +43,12 @@ PacketAnswer KeyFrameSearch::searchFromStart()
     PacketAnswer answer = scanIf(m_video.rewind(), Accept::FirstKeyFrame);
     // Some containers claim to go to their start and end up elsewhere.
     for (const Accept accept : {Accept::FirstKeyFrame, Accept::AnyPacket}) {
-        if (answer != PacketAnswer::End)
+        if (answer != PacketAnswer::End) {
             return answer;
-        if (!m_video.reopen())
+        }
+        if (!m_video.reopen()) {
             return m_video.wasInterrupted() ? PacketAnswer::Cancelled : PacketAnswer::Failed;
+        }
         answer = scan(accept);
     }
     return answer;
@@ -54,8 +57,9 @@ PacketAnswer KeyFrameSearch::searchFromStart()
 /// Scans from where a seek went to; a seek that was refused found nothing.
 PacketAnswer KeyFrameSearch::scanIf(bool isThere, Accept accept)
 {
-    if (isThere)
+    if (isThere) {
         return scan(accept);
+    }
     return m_video.wasInterrupted() ? PacketAnswer::Cancelled : PacketAnswer::End;
 }
 
@@ -73,14 +77,17 @@ PacketAnswer KeyFrameSearch::scan(Accept accept)
             m_reachedEnd = true;
             return found ? PacketAnswer::Packet : PacketAnswer::End;
         }
-        if (answer == PacketAnswer::Failed && m_video.canGoOn())
+        if (answer == PacketAnswer::Failed && m_video.canGoOn()) {
             continue;
+        }
         // What was found before a failure is there all the same.
-        if (answer != PacketAnswer::Packet)
+        if (answer != PacketAnswer::Packet) {
             return found && answer == PacketAnswer::Failed ? PacketAnswer::Packet : answer;
+        }
         if (packet->stream_index != m_video.stream()) {
-            if (found && !keep(std::move(packet)))
+            if (found && !keep(std::move(packet))) {
                 return PacketAnswer::Packet;
+            }
             continue;
         }
 
@@ -97,8 +104,9 @@ PacketAnswer KeyFrameSearch::scan(Accept accept)
             found = true;
         }
         const bool mayGoOn = !found || keep(std::move(packet));
-        if (found ? (isBehind || !mayGoOn) : (isBehind && accept == Accept::AtOrBeforeTarget))
+        if (found ? (isBehind || !mayGoOn) : (isBehind && accept == Accept::AtOrBeforeTarget)) {
             return found ? PacketAnswer::Packet : PacketAnswer::End;
+        }
     }
 }
 

@@ -19,12 +19,12 @@ public:
     /// No more is kept of one group of pictures and what lies between its packets. Beyond that the
     /// first key frame found is taken even if a later one might follow: decoding from there reaches
     /// the same frames.
-    static constexpr qint64 MaximumKeptBytes = qint64(256) << 20;
+    static constexpr qint64 maximumKeptBytes = qint64(256) << 20;
 
     /// @param firstStepBack  how far before the target to land at first, in milliseconds: what the
     ///                       last search in the same file needed.
     KeyFrameSearch(VideoPackets& video, qint64 durationMs, qint64 firstStepBackMs,
-                   qint64 mostKeptBytes = MaximumKeptBytes);
+                   qint64 mostKeptBytes = maximumKeptBytes);
 
     /// Searches. Packet when packets() holds what was found, End for a stream without any packet.
     [[nodiscard]] PacketAnswer run(qint64 targetMs);

@@ -7,7 +7,7 @@ namespace QtAV {
 namespace {
 
 /// The message that announces a point of recovery, in both codecs.
-constexpr int RecoveryPoint = 6;
+constexpr int recoveryPoint = 6;
 
 /// Reads unsigned Exp-Golomb codes, which may be up to 31 zeros long; 0 behind the end.
 class Bits
@@ -21,19 +21,22 @@ public:
     quint32 code()
     {
         int zeros = 0;
-        while (zeros < 31 && m_place < m_bits && bit() == 0)
+        while (zeros < 31 && m_place < m_bits && bit() == 0) {
             ++zeros;
+        }
         quint32 rest = 0;
-        for (int i = 0; i < zeros; ++i)
+        for (int i = 0; i < zeros; ++i) {
             rest = rest << 1 | bit();
+        }
         return (1U << zeros) - 1 + rest;
     }
 
 private:
     quint32 bit()
     {
-        if (m_place >= m_bits)
+        if (m_place >= m_bits) {
             return 0;
+        }
         const quint32 value = m_data[m_place / 8] >> (7 - m_place % 8) & 1;
         ++m_place;
         return value;
@@ -70,8 +73,9 @@ bool announcesRecovery(const NalUnits::Unit& unit, qsizetype headerBytes)
     for (qsizetype place = headerBytes; place + 2 < unit.size;) {
         const int type = messageNumber(unit, place);
         const int length = messageNumber(unit, place);
-        if (type == RecoveryPoint)
+        if (type == recoveryPoint) {
             return true;
+        }
         place += length;
     }
     return false;
@@ -80,11 +84,12 @@ bool announcesRecovery(const NalUnits::Unit& unit, qsizetype headerBytes)
 /// MPEG-1 and MPEG-2: ten bits of place in its group, then three bits of type, 1 for intra.
 bool isMpegKey(const uint8_t* data, qsizetype size)
 {
-    constexpr uint8_t Picture = 0x00;
+    constexpr uint8_t picture = 0x00;
     for (qsizetype i = behindStartCode(data, 0, size); i + 2 < size;
          i = behindStartCode(data, i, size)) {
-        if (data[i] == Picture)
+        if (data[i] == picture) {
             return (data[i + 2] >> 3 & 0x07) == 1;
+        }
     }
     return false;
 }
@@ -93,14 +98,16 @@ bool isMpegKey(const uint8_t* data, qsizetype size)
 /// type of the first of them.
 bool isMpeg4Key(const uint8_t* data, qsizetype size)
 {
-    constexpr uint8_t Picture = 0xb6;
-    constexpr qsizetype LargestEmptyPicture = 19;
-    if (size <= LargestEmptyPicture)
+    constexpr uint8_t picture = 0xb6;
+    constexpr qsizetype largestEmptyPicture = 19;
+    if (size <= largestEmptyPicture) {
         return false;
+    }
     for (qsizetype i = behindStartCode(data, 0, size); i + 1 < size;
          i = behindStartCode(data, i, size)) {
-        if (data[i] == Picture)
+        if (data[i] == picture) {
             return data[i + 1] >> 6 == 0;
+        }
     }
     return false;
 }
@@ -114,8 +121,9 @@ KeyPictures::KeyPictures(const AVCodecParameters& parameters)
 
 bool KeyPictures::isIn(const uint8_t* data, qsizetype size) const
 {
-    if (!data || size <= 0)
+    if (!data || size <= 0) {
         return false;
+    }
     switch (m_codec) {
     case AV_CODEC_ID_H264:
     case AV_CODEC_ID_HEVC:
@@ -140,13 +148,16 @@ bool KeyPictures::isInUnits(const uint8_t* data, qsizetype size) const
     while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
         const int type = unit->type;
         const bool isMessage =
-            type == (isHevc ? hevc::PrefixInformation : h264::SupplementalInformation);
-        if (isMessage && announcesRecovery(*unit, isHevc ? 2 : 1))
+            type == (isHevc ? hevc::prefixInformation : h264::supplementalInformation);
+        if (isMessage && announcesRecovery(*unit, isHevc ? 2 : 1)) {
             return true;
-        if (isHevc && type <= hevc::LastSlice)
-            return type >= hevc::FirstRefreshSlice && type <= hevc::LastRefreshSlice;
-        if (!isHevc && type >= h264::Slice && type <= h264::RefreshSlice)
-            return type == h264::RefreshSlice || (type == h264::Slice && isIntraSlice(*unit));
+        }
+        if (isHevc && type <= hevc::lastSlice) {
+            return type >= hevc::firstRefreshSlice && type <= hevc::lastRefreshSlice;
+        }
+        if (!isHevc && type >= h264::slice && type <= h264::refreshSlice) {
+            return type == h264::refreshSlice || (type == h264::slice && isIntraSlice(*unit));
+        }
     }
     return true;
 }

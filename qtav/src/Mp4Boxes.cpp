@@ -10,11 +10,11 @@ namespace QtAV {
 namespace {
 
 /// More boxes beside each other are not looked through.
-constexpr int MostBoxes = 1000;
+constexpr int mostBoxes = 1000;
 
 /// Up to here the memory for what is declared does no harm: files that were cut short declare more
 /// than they hold.
-constexpr qint64 HarmlessPictures = 1000000;
+constexpr qint64 harmlessPictures = 1000000;
 
 quint32 numberAt(const QByteArray& data, int position)
 {
@@ -34,8 +34,9 @@ qint64 declaredBytes(Mp4Boxes& boxes, const Mp4Box& track, qint64& pictures)
 {
     const std::optional<Mp4Box> sizes = boxes.find(track, "mdia", "minf", "stbl", "stsz");
     const QByteArray head = sizes ? boxes.read(sizes->begin, 12) : QByteArray();
-    if (head.isEmpty())
+    if (head.isEmpty()) {
         return 0;
+    }
     pictures = numberAt(head, 8);
     return pictures * qint64(numberAt(head, 4));
 }
@@ -49,8 +50,9 @@ QByteArray Mp4Boxes::read(qint64 position, int bytes)
     while (done < bytes) {
         const int got = m_input.readAt(
             position + done, reinterpret_cast<uint8_t*>(data.data()) + done, bytes - done);
-        if (got <= 0)
+        if (got <= 0) {
             return {};
+        }
         done += got;
     }
     return data;
@@ -59,10 +61,11 @@ QByteArray Mp4Boxes::read(qint64 position, int bytes)
 std::optional<Mp4Box> Mp4Boxes::find(const char* name, const Mp4Box& within, qint64* after)
 {
     qint64 position = within.begin;
-    for (int count = 0; count < MostBoxes && position + 8 <= within.end; ++count) {
+    for (int count = 0; count < mostBoxes && position + 8 <= within.end; ++count) {
         const QByteArray header = read(position, 8);
-        if (header.isEmpty())
+        if (header.isEmpty()) {
             return std::nullopt;
+        }
         qint64 headerBytes = 8;
         qint64 bytes = numberAt(header, 0);
         if (bytes == 1) {
@@ -72,11 +75,13 @@ std::optional<Mp4Box> Mp4Boxes::find(const char* name, const Mp4Box& within, qin
         } else if (bytes == 0) {
             bytes = within.end - position;
         }
-        if (bytes < headerBytes || bytes > within.end - position)
+        if (bytes < headerBytes || bytes > within.end - position) {
             return std::nullopt;
+        }
         if (std::memcmp(header.constData() + 4, name, 4) == 0) {
-            if (after)
+            if (after) {
                 *after = position + bytes;
+            }
             return Mp4Box{position + headerBytes, position + bytes};
         }
         position += bytes;
@@ -91,14 +96,16 @@ bool declaresTooManyPictures(FileInput& input)
     std::optional<Mp4Box> movie = boxes.find("moov", {0, fileBytes});
     for (qint64 after = 0; movie; movie->begin = after) {
         const std::optional<Mp4Box> track = boxes.find("trak", *movie, &after);
-        if (!track)
+        if (!track) {
             return false;
+        }
         qint64 pictures = 0;
         const bool isMore = isVideo(boxes, *track) &&
                             declaredBytes(boxes, *track, pictures) > fileBytes &&
-                            pictures > HarmlessPictures;
-        if (isMore)
+                            pictures > harmlessPictures;
+        if (isMore) {
             return true;
+        }
     }
     return false;
 }

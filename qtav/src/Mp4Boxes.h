@@ -38,10 +38,11 @@ public:
     [[nodiscard]] std::optional<Mp4Box> find(const Mp4Box& within, const char* name, Names... names)
     {
         const std::optional<Mp4Box> found = find(name, within);
-        if constexpr (sizeof...(names) == 0)
+        if constexpr (sizeof...(names) == 0) {
             return found;
-        else
+        } else {
             return found ? find(*found, names...) : std::nullopt;
+        }
     }
 
 private:

@@ -23,8 +23,9 @@ int headerBytesOf(AVCodecID codec)
 
 NalUnits::Unit unitAt(AVCodecID codec, const uint8_t* data, qsizetype size)
 {
-    if (codec == AV_CODEC_ID_HEVC)
+    if (codec == AV_CODEC_ID_HEVC) {
         return {(data[0] >> 1) & 0x3f, true, data, size};
+    }
     return {data[0] & 0x1f, (data[0] & 0x60) != 0, data, size};
 }
 
@@ -35,19 +36,22 @@ qsizetype behindStartCode(const uint8_t* data, qsizetype from, qsizetype size)
     // Start codes end in a 1, which is rare among other bytes.
     for (qsizetype i = from + 2; i < size; ++i) {
         const void* one = std::memchr(data + i, 1, static_cast<size_t>(size - i));
-        if (!one)
+        if (!one) {
             return size;
+        }
         i = static_cast<const uint8_t*>(one) - data;
-        if (data[i - 1] == 0 && data[i - 2] == 0)
+        if (data[i - 1] == 0 && data[i - 2] == 0) {
             return i + 1;
+        }
     }
     return size;
 }
 
 NalUnits::NalUnits(const AVCodecParameters& parameters)
 {
-    if (parameters.codec_id != AV_CODEC_ID_H264 && parameters.codec_id != AV_CODEC_ID_HEVC)
+    if (parameters.codec_id != AV_CODEC_ID_H264 && parameters.codec_id != AV_CODEC_ID_HEVC) {
         return;
+    }
     m_codec = parameters.codec_id;
     m_lengthBytes = lengthBytesOf(parameters);
 }
@@ -70,20 +74,24 @@ NalUnits::Cursor::Cursor(const NalUnits& units, const uint8_t* data, qsizetype s
     , m_data(data)
     , m_size(size)
 {
-    if (m_lengthBytes == 0)
+    if (m_lengthBytes == 0) {
         m_place = behindStartCode(data, 0, size);
+    }
 }
 
 /// The length before a unit; nothing where it leads out of the packet.
 std::optional<qsizetype> NalUnits::Cursor::nextLength()
 {
-    if (m_size - m_place <= m_lengthBytes)
+    if (m_size - m_place <= m_lengthBytes) {
         return std::nullopt;
+    }
     qsizetype length = 0;
-    for (int i = 0; i < m_lengthBytes; ++i)
+    for (int i = 0; i < m_lengthBytes; ++i) {
         length = length << 8 | m_data[m_place + i];
-    if (length <= 0 || length > m_size - m_place - m_lengthBytes)
+    }
+    if (length <= 0 || length > m_size - m_place - m_lengthBytes) {
         return std::nullopt;
+    }
     m_place += m_lengthBytes;
     return length;
 }
@@ -96,20 +104,22 @@ std::optional<NalUnits::Unit> NalUnits::Cursor::unitOf(const uint8_t* data, qsiz
 
 std::optional<NalUnits::Unit> NalUnits::Cursor::next()
 {
-    if (m_isDamaged || m_place >= m_size)
+    if (m_isDamaged || m_place >= m_size) {
         return std::nullopt;
+    }
     if (m_lengthBytes > 0) {
         const std::optional<qsizetype> length = nextLength();
         m_isDamaged = !length;
-        if (!length)
+        if (!length) {
             return std::nullopt;
+        }
         m_place += *length;
         return unitOf(m_data + m_place - *length, *length);
     }
-    constexpr qsizetype StartCodeBytes = 3;
+    constexpr qsizetype startCodeBytes = 3;
     const qsizetype from = m_place;
     m_place = behindStartCode(m_data, from, m_size);
-    const qsizetype end = m_place < m_size ? m_place - StartCodeBytes : m_size;
+    const qsizetype end = m_place < m_size ? m_place - startCodeBytes : m_size;
     return unitOf(m_data + from, end - from);
 }
 

@@ -8,20 +8,23 @@ namespace QtAV {
 
 Orientation orientationFromDisplayMatrix(const qint32* matrix)
 {
-    if (!matrix)
+    if (!matrix) {
         return Orientation::Upright;
+    }
     // A stored point (p, q) is shown at (a p + c q, b p + d q), y pointing downwards.
     const double a = matrix[0];
     const double b = matrix[1];
     const double c = matrix[3];
     const double d = matrix[4];
     if (std::abs(a) + std::abs(d) >= std::abs(b) + std::abs(c)) {
-        if (a < 0)
+        if (a < 0) {
             return d < 0 ? Orientation::Rotated180 : Orientation::MirroredHorizontally;
+        }
         return d < 0 ? Orientation::MirroredVertically : Orientation::Upright;
     }
-    if (b > 0)
+    if (b > 0) {
         return c < 0 ? Orientation::Rotated90 : Orientation::Transposed;
+    }
     return c < 0 ? Orientation::AntiTransposed : Orientation::Rotated270;
 }
 

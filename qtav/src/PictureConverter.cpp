@@ -24,13 +24,16 @@ AVPixelFormat readableFormatFor(AVPixelFormat format)
 {
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
     const bool isDeep = descriptor.comp[0].depth > 8;
-    if (isRgb(descriptor) && isDeep)
+    if (isRgb(descriptor) && isDeep) {
         return descriptor.flags & AV_PIX_FMT_FLAG_ALPHA ? AV_PIX_FMT_GBRAP16LE
                                                         : AV_PIX_FMT_GBRP16LE;
-    if (isRgb(descriptor) || isXyz(format))
+    }
+    if (isRgb(descriptor) || isXyz(format)) {
         return AV_PIX_FMT_BGRA;
-    if (descriptor.flags & AV_PIX_FMT_FLAG_ALPHA)
+    }
+    if (descriptor.flags & AV_PIX_FMT_FLAG_ALPHA) {
         return isDeep ? AV_PIX_FMT_YUVA444P16LE : AV_PIX_FMT_YUVA444P;
+    }
     return isDeep ? AV_PIX_FMT_YUV444P16LE : AV_PIX_FMT_YUV444P;
 }
 
@@ -70,12 +73,15 @@ void setChromaPlace(SwsContext& context, const QByteArray& side, AVPixelFormat f
 {
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
     const std::optional<ChromaPosition> position = chromaPositionOf(location);
-    if (!position)
+    if (!position) {
         return;
-    if (descriptor.log2_chroma_w > 0)
+    }
+    if (descriptor.log2_chroma_w > 0) {
         setOption(context, (side + "_h_chr_pos").constData(), position->x);
-    if (descriptor.log2_chroma_h > 0)
+    }
+    if (descriptor.log2_chroma_h > 0) {
         setOption(context, (side + "_v_chr_pos").constData(), position->y);
+    }
 }
 
 /// Chroma that belongs to two moments in turn cannot be scaled as if it were one's.
@@ -133,13 +139,16 @@ QImage PictureConverter::convertFrom(const Colours& colours, const AVFrame& fram
                                      const QSize& size, QImage::Format wanted)
 {
     const auto format = static_cast<AVPixelFormat>(frame.format);
-    if (!av_pix_fmt_desc_get(format) || size.isEmpty())
+    if (!av_pix_fmt_desc_get(format) || size.isEmpty()) {
         return {};
+    }
     const bool isStored = size == QSize(frame.width, frame.height);
-    if (isStored && (YuvToRgb::reads(format) || TrueColours::isNeededFor(frame, colours)))
+    if (isStored && (YuvToRgb::reads(format) || TrueColours::isNeededFor(frame, colours))) {
         return imageOf(frame, colours, wanted);
-    if (isStored || !hasFieldChroma(frame))
+    }
+    if (isStored || !hasFieldChroma(frame)) {
         return scaledImage(frame, colours, size, wanted);
+    }
     const bool isDeep = wanted == QImage::Format_RGBX64 || wanted == QImage::Format_RGBA64;
     const FramePtr picture =
         withoutFields(colours, frame, isDeep ? AV_PIX_FMT_RGBA64 : AV_PIX_FMT_BGRA);
@@ -152,12 +161,15 @@ QImage PictureConverter::scaledImage(const AVFrame& frame, const Colours& colour
 {
     const auto format = static_cast<AVPixelFormat>(frame.format);
     std::optional<Scaler> scaler = takeScaler(taskFor(frame, size, readableFormatFor(format)));
-    if (!scaler)
+    if (!scaler) {
         return {};
-    if (!scaler->picture)
+    }
+    if (!scaler->picture) {
         scaler->picture = makePicture(scaler->task);
-    if (!scaler->picture || !scale(frame, *scaler, *scaler->picture))
+    }
+    if (!scaler->picture || !scale(frame, *scaler, *scaler->picture)) {
         return {};
+    }
     QImage image = imageOf(*scaler->picture, colours, wanted);
     keepScaler(std::move(*scaler));
     return image;
@@ -166,8 +178,9 @@ QImage PictureConverter::scaledImage(const AVFrame& frame, const Colours& colour
 FramePtr PictureConverter::scaled(const AVFrame& frame, const QSize& size)
 {
     const auto format = static_cast<AVPixelFormat>(frame.format);
-    if (!av_pix_fmt_desc_get(format) || size.isEmpty())
+    if (!av_pix_fmt_desc_get(format) || size.isEmpty()) {
         return nullptr;
+    }
     const FramePtr whole =
         hasFieldChroma(frame) ? withoutFields(coloursOf(frame), frame, AV_PIX_FMT_BGRA) : nullptr;
     const AVFrame& source = whole ? *whole : frame;
@@ -175,15 +188,18 @@ FramePtr PictureConverter::scaled(const AVFrame& frame, const QSize& size)
     const AVPixelFormat target =
         YuvToRgb::reads(sourceFormat) ? sourceFormat : readableFormatFor(sourceFormat);
     std::optional<Scaler> scaler = takeScaler(taskFor(source, size, target));
-    if (!scaler)
+    if (!scaler) {
         return nullptr;
+    }
     FramePtr picture = makePicture(scaler->task);
-    if (!picture || !scale(source, *scaler, *picture))
+    if (!picture || !scale(source, *scaler, *picture)) {
         return nullptr;
+    }
     keepScaler(std::move(*scaler));
     picture->chroma_location = YuvToRgb::chromaLocationOf(source);
-    if (!whole)
+    if (!whole) {
         completeColours(*picture, frame);
+    }
     return picture;
 }
 
@@ -199,8 +215,9 @@ FramePtr PictureConverter::withoutFields(const Colours& colours, const AVFrame& 
     const QImage image =
         convertFrom(colours, frame, size, isDeep ? QImage::Format_RGBA64 : QImage::Format_ARGB32);
     FramePtr picture = makePicture(taskFor(frame, size, format));
-    if (image.isNull() || !picture)
+    if (image.isNull() || !picture) {
         return nullptr;
+    }
     av_image_copy_plane(picture->data[0], picture->linesize[0], image.constBits(),
                         image.bytesPerLine(), frame.width * image.depth() / 8, frame.height);
     return picture;
@@ -214,31 +231,36 @@ QImage PictureConverter::imageOf(const AVFrame& picture, const Colours& colours,
     const bool hasAlpha = format == QImage::Format_ARGB32;
     const bool isDeep = !hasAlpha && format != QImage::Format_RGB888;
     QImage image = hasAlpha ? m_images.take(size) : QImage(size, format);
-    if (image.isNull())
+    if (image.isNull()) {
         return image;
-    if (isDeep || TrueColours::isNeededFor(picture, colours))
+    }
+    if (isDeep || TrueColours::isNeededFor(picture, colours)) {
         TrueColours(mapFor(colours)).convert(picture, image);
-    else if (picture.format != AV_PIX_FMT_BGRA)
+    } else if (picture.format != AV_PIX_FMT_BGRA) {
         YuvToRgb(picture).convert(picture, image);
-    else if (hasAlpha) // the same in memory
+    } else if (hasAlpha) { // the same in memory
         av_image_copy_plane(image.bits(), image.bytesPerLine(), picture.data[0],
                             picture.linesize[0], picture.width * 4, picture.height);
-    else
-        for (int line = 0; line < picture.height; ++line)
+    } else {
+        for (int line = 0; line < picture.height; ++line) {
             dropAlpha(reinterpret_cast<const QRgb*>(picture.data[0] +
                                                     ptrdiff_t(line) * picture.linesize[0]),
                       image.scanLine(line), picture.width);
+        }
+    }
     return image;
 }
 
 /// The tables for colours; null for standard ones. A video's colours hardly ever change.
 std::shared_ptr<const ColourMap> PictureConverter::mapFor(const Colours& colours)
 {
-    if (colours.isStandard())
+    if (colours.isStandard()) {
         return nullptr;
+    }
     const std::lock_guard lock(m_mutex);
-    if (!m_map || m_map->colours() != colours)
+    if (!m_map || m_map->colours() != colours) {
         m_map = std::make_shared<const ColourMap>(colours);
+    }
     return m_map;
 }
 
@@ -281,8 +303,9 @@ std::optional<PictureConverter::Scaler> PictureConverter::takeScaler(const Task&
 ScalerPtr PictureConverter::makeScalerContext(const Task& task)
 {
     ScalerPtr context(sws_alloc_context());
-    if (!context)
+    if (!context) {
         return nullptr;
+    }
     setOption(*context, "srcw", task.from.width());
     setOption(*context, "srch", task.from.height());
     setOption(*context, "src_format", task.source);
@@ -300,13 +323,14 @@ ScalerPtr PictureConverter::makeScalerContext(const Task& task)
 std::optional<PictureConverter::Scaler> PictureConverter::makeScaler(const Task& task)
 {
     ScalerPtr context = makeScalerContext(task);
-    if (!context)
+    if (!context) {
         return std::nullopt;
+    }
     // The same range on both sides: the conversion to full range is YuvToRgb's.
     const int* coefficients = sws_getCoefficients(SWS_CS_DEFAULT);
-    constexpr int Neutral = 1 << 16;
+    constexpr int neutral = 1 << 16;
     sws_setColorspaceDetails(context.get(), coefficients, task.isFullRange, coefficients,
-                             task.isFullRange, 0, Neutral, Neutral);
+                             task.isFullRange, 0, neutral, neutral);
     return Scaler{task, std::move(context), nullptr};
 }
 
@@ -323,8 +347,9 @@ FramePtr PictureConverter::makePicture(const Task& task)
 void PictureConverter::keepScaler(Scaler scaler)
 {
     const std::lock_guard lock(m_mutex);
-    if (m_idle.size() == MostIdleScalers)
+    if (m_idle.size() == mostIdleScalers) {
         m_idle.erase(m_idle.begin());
+    }
     m_idle.push_back(std::move(scaler));
 }
 

@@ -68,7 +68,7 @@ private:
     };
 
     /// More kinds of pictures than a video and its conversions have at a time.
-    static constexpr size_t MostIdleScalers = 4;
+    static constexpr size_t mostIdleScalers = 4;
 
     [[nodiscard]] QImage imageOf(const AVFrame& picture, const Colours& colours,
                                  QImage::Format format);

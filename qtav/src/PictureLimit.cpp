@@ -12,13 +12,13 @@ namespace QtAV {
 namespace {
 
 /// Of the images that are made: red, green, blue and one byte beside them.
-constexpr qint64 ImagePixelBytes = 4;
+constexpr qint64 imagePixelBytes = 4;
 
 /// Luma alone is the least that a decoded pixel takes in common formats.
-constexpr qint64 LeastPixelBytes = 1;
+constexpr qint64 leastPixelBytes = 1;
 
 /// What is read of files of all kinds fits into this.
-constexpr qint64 LeastBlock = qint64(256) << 20;
+constexpr qint64 leastBlock = qint64(256) << 20;
 
 qint64 pixelsOf(const QSize& size)
 {
@@ -43,18 +43,18 @@ QString sizeText(qint64 bytes)
 
 qint64 PictureLimit::bytesOf(AVPixelFormat format, const QSize& stored, const QSize& shown)
 {
-    return decodedBytes(format, stored) + pixelsOf(shown) * ImagePixelBytes;
+    return decodedBytes(format, stored) + pixelsOf(shown) * imagePixelBytes;
 }
 
 /// The deepest pictures take twice of what their images do.
 size_t PictureLimit::mostAtOnce() const
 {
-    return static_cast<size_t>(std::clamp<qint64>(m_bytes / 4 * 3, LeastBlock, INT_MAX));
+    return static_cast<size_t>(std::clamp<qint64>(m_bytes / 4 * 3, leastBlock, INT_MAX));
 }
 
 qint64 PictureLimit::mostPixels() const
 {
-    return m_bytes / (ImagePixelBytes + LeastPixelBytes);
+    return m_bytes / (imagePixelBytes + leastPixelBytes);
 }
 
 int PictureLimit::threadsFor(AVPixelFormat format, const QSize& stored, int wanted) const

@@ -10,12 +10,12 @@ namespace QtAV {
 namespace {
 
 /// In a stream that has no times at all none need be waited for.
-constexpr size_t MaximumUnplaced = 64;
+constexpr size_t maximumUnplaced = 64;
 
 /// Longer than any picture is shown, and small enough to be calculated with.
-constexpr qint64 MaximumFrameTicks = qint64(1) << 40;
+constexpr qint64 maximumFrameTicks = qint64(1) << 40;
 
-constexpr qint64 NoOrder = std::numeric_limits<qint64>::min();
+constexpr qint64 noOrder = std::numeric_limits<qint64>::min();
 
 bool hasOrderCount(AVCodecID codec)
 {
@@ -42,35 +42,39 @@ PresentationOrder::PresentationOrder(const AVCodecParameters& codec, int reorder
     , m_mode(times)
     , m_hasOrderCount(hasOrderCount(codec.codec_id))
     , m_reorderDelay(static_cast<size_t>(std::max(0, reorderDelay)))
-    , m_highestOrder(NoOrder)
+    , m_highestOrder(noOrder)
 {
     Q_CHECK_PTR(m_context.get());
     avcodec_parameters_to_context(m_context.get(), &codec);
-    if (m_parser)
+    if (m_parser) {
         m_parser->flags |= PARSER_FLAG_COMPLETE_FRAMES;
+    }
 }
 
 void PresentationOrder::push(PacketPtr packet, qint64 frameTicks)
 {
     parse(*packet);
     const quint64 place = m_firstPlace + m_held.size();
-    if (m_mode == Times::OfDecoding)
+    if (m_mode == Times::OfDecoding) {
         m_times.push_back(packet->dts);
+    }
     const bool isKey = packet->flags & AV_PKT_FLAG_KEY;
     const bool isTimed = m_mode == Times::WithGaps && packet->pts != AV_NOPTS_VALUE && !isKey;
-    const qint64 shown = std::clamp<qint64>(shownTicks(*packet, frameTicks), 0, MaximumFrameTicks);
+    const qint64 shown = std::clamp<qint64>(shownTicks(*packet, frameTicks), 0, maximumFrameTicks);
     const Waiting picture{0, place, packet->pts, shown, isKey};
     m_held.push_back({std::move(packet), isTimed});
-    if (m_hasOrderCount)
+    if (m_hasOrderCount) {
         placeByOrderCount(picture);
-    else
+    } else {
         placeByPictureType(picture);
+    }
 }
 
 void PresentationOrder::parse(const AVPacket& packet)
 {
-    if (!m_parser)
+    if (!m_parser) {
         return;
+    }
     uint8_t* out = nullptr;
     int outSize = 0;
     av_parser_parse2(m_parser.get(), m_context.get(), &out, &outSize, packet.data, packet.size,
@@ -84,8 +88,9 @@ qint64 PresentationOrder::shownTicks(const AVPacket& packet, qint64 frameTicks) 
     const AVRational rate = m_context->framerate;
     const bool countsFields = m_codec == AV_CODEC_ID_MPEG2VIDEO && m_parser &&
                               m_parser->repeat_pict > 0 && rate.num > 0 && rate.den > 0;
-    if (!countsFields || packet.duration > 0)
+    if (!countsFields || packet.duration > 0) {
         return frameTicks;
+    }
     const AVRational field{rate.den, 2 * rate.num};
     return av_rescale_q(1 + m_parser->repeat_pict, field, m_timeBase);
 }
@@ -101,19 +106,22 @@ void PresentationOrder::placeByOrderCount(Waiting picture)
     }
     m_highestOrder = std::max(m_highestOrder, picture.order);
     m_waiting.insert(picture);
-    while (m_waiting.size() > m_reorderDelay)
+    while (m_waiting.size() > m_reorderDelay) {
         showNext();
+    }
 }
 
 void PresentationOrder::placeByPictureType(Waiting picture)
 {
     const bool shownAtOnce = m_parser && m_parser->pict_type == AV_PICTURE_TYPE_B;
-    if (!shownAtOnce)
+    if (!shownAtOnce) {
         showAll();
+    }
     picture.order = shownAtOnce ? -1 : 0;
     m_waiting.insert(picture);
-    if (shownAtOnce || m_reorderDelay == 0)
+    if (shownAtOnce || m_reorderDelay == 0) {
         showNext();
+    }
 }
 
 void PresentationOrder::showNext()
@@ -137,8 +145,9 @@ void PresentationOrder::time(const Waiting& picture)
     const bool isDoubtful = picture.isKey && !fits;
     const bool decides = !isDoubtful || std::any_of(m_unplaced.cbegin(), m_unplaced.cend(),
                                                     [](const Waiting& p) { return p.isKey; });
-    if (isTimed && decides)
+    if (isTimed && decides) {
         timeUnplaced(picture);
+    }
     if (isExpected && !isTimed) {
         settle(picture.place, m_nextTicks);
         m_nextTicks += picture.frameTicks;
@@ -147,15 +156,16 @@ void PresentationOrder::time(const Waiting& picture)
         m_nextTicks = picture.ticks + picture.frameTicks;
     } else {
         m_unplaced.push_back(picture);
-        if (m_unplaced.size() > MaximumUnplaced)
+        if (m_unplaced.size() > maximumUnplaced) {
             giveUpUnplaced();
+        }
     }
 }
 
 /// Times the pictures that were shown before one whose time is known, back from that.
 void PresentationOrder::timeUnplaced(const Waiting& known)
 {
-    constexpr int LargestError = 3;
+    constexpr int largestError = 3;
     qint64 ticks = known.ticks;
     for (auto picture = m_unplaced.rbegin(); picture != m_unplaced.rend(); ++picture) {
         ticks -= picture->frameTicks;
@@ -163,9 +173,10 @@ void PresentationOrder::timeUnplaced(const Waiting& known)
         // Beyond that the pictures between them do not follow one another without a gap.
         const bool fits =
             isOwn && !known.isKey &&
-            isNear(picture->ticks, ticks, 2 * (LargestError + 1) * picture->frameTicks - 1);
-        if (isOwn && !fits)
+            isNear(picture->ticks, ticks, 2 * (largestError + 1) * picture->frameTicks - 1);
+        if (isOwn && !fits) {
             ticks = picture->ticks;
+        }
         settle(picture->place, ticks);
     }
     m_unplaced.clear();
@@ -188,8 +199,9 @@ void PresentationOrder::giveUpUnplaced()
 /// Sets the time of a picture, unless it has gone with its own.
 void PresentationOrder::settle(quint64 place, qint64 ticks)
 {
-    if (place < m_firstPlace)
+    if (place < m_firstPlace) {
         return;
+    }
     Held& held = m_held[place - m_firstPlace];
     held.packet->pts = ticks;
     held.certain = true;
@@ -197,8 +209,9 @@ void PresentationOrder::settle(quint64 place, qint64 ticks)
 
 void PresentationOrder::showAll()
 {
-    while (!m_waiting.empty())
+    while (!m_waiting.empty()) {
         showNext();
+    }
 }
 
 void PresentationOrder::finish()
@@ -214,14 +227,15 @@ void PresentationOrder::reset()
     m_waiting.clear();
     m_unplaced.clear();
     m_firstPlace = 0;
-    m_highestOrder = NoOrder;
+    m_highestOrder = noOrder;
     m_nextTicks = AV_NOPTS_VALUE;
 }
 
 PacketPtr PresentationOrder::pop()
 {
-    if (m_held.empty() || !m_held.front().certain)
+    if (m_held.empty() || !m_held.front().certain) {
         return nullptr;
+    }
     PacketPtr packet = std::move(m_held.front().packet);
     m_held.pop_front();
     ++m_firstPlace;

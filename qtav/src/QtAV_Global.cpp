@@ -48,21 +48,24 @@ int ffmpegLevel(LogLevel level)
 
 void writeToMessageLog(void* source, int level, const char* format, va_list arguments)
 {
-    if (level > av_log_get_level() || t_pauses > 0)
+    if (level > av_log_get_level() || t_pauses > 0) {
         return;
+    }
     char line[1024];
     // A line that goes on where the last one ended would need state; each stands for itself here.
     int printPrefix = 1;
     av_log_format_line2(source, level, format, arguments, line, sizeof line, &printPrefix);
     const QString text = QString::fromUtf8(line).trimmed();
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return;
-    if (level <= AV_LOG_FATAL)
+    }
+    if (level <= AV_LOG_FATAL) {
         qCCritical(lcQtAV).noquote() << text;
-    else if (level <= AV_LOG_WARNING)
+    } else if (level <= AV_LOG_WARNING) {
         qCWarning(lcQtAV).noquote() << text;
-    else
+    } else {
         qCDebug(lcQtAV).noquote() << text;
+    }
 }
 
 } // namespace

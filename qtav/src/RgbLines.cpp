@@ -29,16 +29,18 @@ FOR_SEVERAL_PROCESSORS
 void scaleBytes(const uint8_t* __restrict source, float* __restrict target, size_t count,
                 float scale)
 {
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
         target[i] = static_cast<float>(source[i]) * scale;
+    }
 }
 
 FOR_SEVERAL_PROCESSORS
 void scaleWords(const uint16_t* __restrict source, float* __restrict target, size_t count,
                 float scale)
 {
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
         target[i] = static_cast<float>(source[i]) * scale;
+    }
 }
 
 bool isYuv(AVPixelFormat format)
@@ -49,8 +51,9 @@ bool isYuv(AVPixelFormat format)
 /// The rows of R'G'B' from luma and chroma, both in their own scale.
 std::array<double, 9> rowsFor(AVColorSpace space)
 {
-    if (space == AVCOL_SPC_YCGCO)
+    if (space == AVCOL_SPC_YCGCO) {
         return {1.0, -1.0, 1.0, 1.0, 1.0, 0.0, 1.0, -1.0, -1.0};
+    }
     const YuvToRgb::Shares shares = YuvToRgb::sharesOf(space);
     const double green = 1.0 - shares.red - shares.blue;
     return {1.0,
@@ -65,17 +68,17 @@ std::array<double, 9> rowsFor(AVColorSpace space)
 }
 
 // BT.2020's transfer, in which constant luminance is defined.
-constexpr double Alpha = 1.09929682680944;
-constexpr double Beta = 0.018053968510807;
+constexpr double alpha = 1.09929682680944;
+constexpr double beta = 0.018053968510807;
 
 double toScene(double value)
 {
-    return value < 4.5 * Beta ? value / 4.5 : std::pow((value + Alpha - 1.0) / Alpha, 1.0 / 0.45);
+    return value < 4.5 * beta ? value / 4.5 : std::pow((value + alpha - 1.0) / alpha, 1.0 / 0.45);
 }
 
 double fromScene(double light)
 {
-    return light < Beta ? 4.5 * light : Alpha * std::pow(light, 0.45) - (Alpha - 1.0);
+    return light < beta ? 4.5 * light : alpha * std::pow(light, 0.45) - (alpha - 1.0);
 }
 
 } // namespace
@@ -86,20 +89,22 @@ RgbLines::RgbLines(const AVFrame& frame)
     , m_samples(static_cast<size_t>(frame.width))
     , m_alpha(hasAlpha() ? static_cast<size_t>(frame.width) : 0)
 {
-    if (!isYuv(static_cast<AVPixelFormat>(frame.format)))
+    if (!isYuv(static_cast<AVPixelFormat>(frame.format))) {
         return;
+    }
     m_yuv = std::make_unique<YuvLines>(frame);
     const bool isFull = YuvToRgb::isFullRange(frame);
     // The widest sample, brought to 15 bits, is 1 in full range.
-    constexpr double Unit = 1 << (YuvLines::SampleBits - 8);
+    constexpr double unit = 1 << (YuvLines::sampleBits - 8);
     const int depth = m_yuv->depth();
-    const double whole = double((1 << depth) - 1) * std::pow(2.0, YuvLines::SampleBits - depth);
-    m_lumaScale = static_cast<float>(1.0 / (isFull ? whole : 219.0 * Unit));
-    m_chromaScale = static_cast<float>(1.0 / (isFull ? whole : 224.0 * Unit));
-    m_black = static_cast<float>(isFull ? 0.0 : 16.0 * Unit);
+    const double whole = double((1 << depth) - 1) * std::pow(2.0, YuvLines::sampleBits - depth);
+    m_lumaScale = static_cast<float>(1.0 / (isFull ? whole : 219.0 * unit));
+    m_chromaScale = static_cast<float>(1.0 / (isFull ? whole : 224.0 * unit));
+    m_black = static_cast<float>(isFull ? 0.0 : 16.0 * unit);
     const std::array<double, 9> rows = rowsFor(YuvToRgb::matrixOf(frame));
-    for (size_t i = 0; i < rows.size(); ++i)
+    for (size_t i = 0; i < rows.size(); ++i) {
         m_factors[i] = static_cast<float>(rows[i]) * (i % 3 == 0 ? m_lumaScale : m_chromaScale);
+    }
 }
 
 RgbLines::~RgbLines() = default;
@@ -107,13 +112,15 @@ RgbLines::~RgbLines() = default;
 bool RgbLines::reads(AVPixelFormat format)
 {
     const AVPixFmtDescriptor* const d = av_pix_fmt_desc_get(format);
-    if (!d)
+    if (!d) {
         return false;
-    if (isYuv(format))
+    }
+    if (isYuv(format)) {
         return true;
-    constexpr uint64_t Excluded = AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_HWACCEL |
+    }
+    constexpr uint64_t excluded = AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_HWACCEL |
                                   AV_PIX_FMT_FLAG_BAYER | AV_PIX_FMT_FLAG_FLOAT;
-    return (d->flags & AV_PIX_FMT_FLAG_RGB) && !(d->flags & Excluded) && d->nb_components >= 3 &&
+    return (d->flags & AV_PIX_FMT_FLAG_RGB) && !(d->flags & excluded) && d->nb_components >= 3 &&
            d->comp[0].depth <= 16;
 }
 
@@ -124,14 +131,16 @@ bool RgbLines::hasAlpha() const
 
 void RgbLines::read(int line, RgbLine& target)
 {
-    if (!m_yuv)
+    if (!m_yuv) {
         readRgb(line, target);
-    else if (YuvToRgb::matrixOf(m_frame) == AVCOL_SPC_BT2020_CL)
+    } else if (YuvToRgb::matrixOf(m_frame) == AVCOL_SPC_BT2020_CL) {
         readConstantLuminance(line, target);
-    else
+    } else {
         readYuv(line, target);
-    if (hasAlpha())
+    }
+    if (hasAlpha()) {
         readAlpha(line);
+    }
 }
 
 void RgbLines::readYuv(int line, RgbLine& target)
@@ -177,8 +186,8 @@ void RgbLines::readComponent(int component, int line, std::vector<float>& target
     const AVComponentDescriptor& c = m_format.comp[component];
     const int bytes = c.depth > 8 ? 2 : 1;
     const float scale = 1.0F / static_cast<float>((1 << c.depth) - 1);
-    constexpr uint64_t Unusual = AV_PIX_FMT_FLAG_BE | AV_PIX_FMT_FLAG_BITSTREAM;
-    const bool isPlain = c.step == bytes && c.shift == 0 && !(m_format.flags & Unusual);
+    constexpr uint64_t unusual = AV_PIX_FMT_FLAG_BE | AV_PIX_FMT_FLAG_BITSTREAM;
+    const bool isPlain = c.step == bytes && c.shift == 0 && !(m_format.flags & unusual);
     if (!isPlain) {
         av_read_image_line2(m_samples.data(), const_cast<const uint8_t**>(m_frame.data),
                             m_frame.linesize, &m_format, 0, line, component, m_frame.width, 0, 2);
@@ -187,10 +196,11 @@ void RgbLines::readComponent(int component, int line, std::vector<float>& target
     }
     const uint8_t* const samples =
         m_frame.data[c.plane] + ptrdiff_t(line) * m_frame.linesize[c.plane] + c.offset;
-    if (bytes == 2)
+    if (bytes == 2) {
         scaleWords(reinterpret_cast<const uint16_t*>(samples), target.data(), target.size(), scale);
-    else
+    } else {
         scaleBytes(samples, target.data(), target.size(), scale);
+    }
 }
 
 void RgbLines::readAlpha(int line)

@@ -4,8 +4,8 @@ namespace QtAV {
 
 namespace {
 
-constexpr int H264SequenceParameters = 7;
-constexpr int HevcSequenceParameters = 33;
+constexpr int h264SequenceParameters = 7;
+constexpr int hevcSequenceParameters = 33;
 
 QByteArray bytes(const uint8_t* data, qsizetype size)
 {
@@ -15,11 +15,11 @@ QByteArray bytes(const uint8_t* data, qsizetype size)
 /// Width and height, twelve bits each, as they stand at the beginning of a sequence header.
 QByteArray mpegSize(const uint8_t* data, qsizetype size)
 {
-    constexpr uint8_t SequenceHeader = 0xb3;
-    constexpr qsizetype SizeBytes = 3;
+    constexpr uint8_t sequenceHeader = 0xb3;
+    constexpr qsizetype sizeBytes = 3;
     const qsizetype place = behindStartCode(data, 0, size);
-    const bool isHeader = place + SizeBytes < size && data[place] == SequenceHeader;
-    return isHeader ? bytes(data + place + 1, SizeBytes) : QByteArray();
+    const bool isHeader = place + sizeBytes < size && data[place] == sequenceHeader;
+    return isHeader ? bytes(data + place + 1, sizeBytes) : QByteArray();
 }
 
 } // namespace
@@ -31,26 +31,30 @@ SequenceChange::SequenceChange(const AVCodecParameters& parameters)
 
 QByteArray SequenceChange::parametersIn(const AVPacket& packet) const
 {
-    if (m_codec == AV_CODEC_ID_MPEG1VIDEO || m_codec == AV_CODEC_ID_MPEG2VIDEO)
+    if (m_codec == AV_CODEC_ID_MPEG1VIDEO || m_codec == AV_CODEC_ID_MPEG2VIDEO) {
         return mpegSize(packet.data, packet.size);
+    }
     const int wanted =
-        m_codec == AV_CODEC_ID_HEVC ? HevcSequenceParameters : H264SequenceParameters;
+        m_codec == AV_CODEC_ID_HEVC ? hevcSequenceParameters : h264SequenceParameters;
     QByteArray found;
     NalUnits::Cursor cursor = m_units.of(packet.data, packet.size);
     while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
-        if (unit->type == wanted)
+        if (unit->type == wanted) {
             found += bytes(unit->data, unit->size);
+        }
     }
     return found;
 }
 
 bool SequenceChange::isAt(const AVPacket& packet)
 {
-    if (!(packet.flags & AV_PKT_FLAG_KEY))
+    if (!(packet.flags & AV_PKT_FLAG_KEY)) {
         return false;
+    }
     const QByteArray parameters = parametersIn(packet);
-    if (parameters.isEmpty() || parameters == m_last)
+    if (parameters.isEmpty() || parameters == m_last) {
         return false;
+    }
     const bool isFirst = m_last.isEmpty();
     m_last = parameters;
     return !isFirst;

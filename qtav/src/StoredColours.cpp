@@ -9,8 +9,8 @@ namespace QtAV {
 
 namespace {
 
-constexpr double HlgNits = 1000.0;
-constexpr double HlgSystemGamma = 1.2;
+constexpr double hlgNits = 1000.0;
+constexpr double hlgSystemGamma = 1.2;
 
 std::array<double, 3> toPrimaries(StoredColours::Primaries primaries,
                                   const std::array<double, 3>& light)
@@ -26,7 +26,7 @@ std::array<double, 3> hlgValuesOf(const std::array<double, 3>& light)
 {
     const double luminance = 0.2627 * light[0] + 0.6780 * light[1] + 0.0593 * light[2];
     const double system =
-        luminance > 0.0 ? std::pow(luminance, (1.0 - HlgSystemGamma) / HlgSystemGamma) : 0.0;
+        luminance > 0.0 ? std::pow(luminance, (1.0 - hlgSystemGamma) / hlgSystemGamma) : 0.0;
     return {sceneToHlg(light[0] * system), sceneToHlg(light[1] * system),
             sceneToHlg(light[2] * system)};
 }
@@ -39,7 +39,7 @@ double StoredColours::brightestNits() const
     case Transfer::Pq:
         return pqToNits(1.0);
     case Transfer::Hlg:
-        return HlgNits;
+        return hlgNits;
     case Transfer::Standard:
         break;
     }
@@ -52,7 +52,7 @@ double StoredColours::lightOf(double value) const
     case Transfer::Pq:
         return pqToNits(value) / pqToNits(1.0);
     case Transfer::Hlg:
-        return std::pow(hlgToScene(value), HlgSystemGamma);
+        return std::pow(hlgToScene(value), hlgSystemGamma);
     case Transfer::Standard:
         break;
     }
@@ -64,13 +64,16 @@ std::array<double, 3> StoredColours::valuesOf(const std::array<double, 3>& rgb) 
     std::array<double, 3> light{};
     std::transform(rgb.begin(), rgb.end(), light.begin(), srgbToLinear);
     light = toPrimaries(primaries, light);
-    for (double& channel : light)
+    for (double& channel : light) {
         channel = std::clamp(channel, 0.0, 1.0) * standardWhiteNits / brightestNits();
-    if (transfer == Transfer::Hlg)
+    }
+    if (transfer == Transfer::Hlg) {
         return hlgValuesOf(light);
-    for (double& channel : light)
+    }
+    for (double& channel : light) {
         channel =
             transfer == Transfer::Pq ? nitsToPq(channel * brightestNits()) : linearToSrgb(channel);
+    }
     return light;
 }
 

@@ -17,11 +17,11 @@ Wide floorDivide(Wide numerator, Wide denominator)
 }
 
 // Damaged files state times of thousands of years; up to here no product below overflows.
-constexpr qint64 MostTicks = qint64(1) << 52;
+constexpr qint64 mostTicks = qint64(1) << 52;
 
 qint64 narrowed(Wide value)
 {
-    return static_cast<qint64>(std::clamp<Wide>(value, -MostTicks, MostTicks));
+    return static_cast<qint64>(std::clamp<Wide>(value, -mostTicks, mostTicks));
 }
 
 } // namespace
@@ -50,12 +50,14 @@ double Timeline::seconds(qint64 ticks) const
     const Fraction exact = exactSeconds(ticks);
     const qint64 ms = narrowed(exact.numerator * 1000 / exact.denominator);
     // Beyond that, neighbouring numbers are further apart than the steps below would ever cover.
-    double result = ms < MostTicks ? double(exact.numerator) / double(exact.denominator)
-                                   : double(MostTicks) / 1000.0;
-    while (static_cast<qint64>(result * 1000.0) < ms)
+    double result = ms < mostTicks ? double(exact.numerator) / double(exact.denominator)
+                                   : double(mostTicks) / 1000.0;
+    while (static_cast<qint64>(result * 1000.0) < ms) {
         result = std::nextafter(result, std::numeric_limits<double>::infinity());
-    while (static_cast<qint64>(result * 1000.0) > ms)
+    }
+    while (static_cast<qint64>(result * 1000.0) > ms) {
         result = std::nextafter(result, 0.0);
+    }
     return result;
 }
 

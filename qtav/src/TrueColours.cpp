@@ -26,9 +26,10 @@ void storeBytes(const float* __restrict red, const float* __restrict green,
         const float scaled = std::min(std::max(value, 0.0F), 1.0F) * 255.0F + fraction;
         return static_cast<uint32_t>(static_cast<int32_t>(scaled));
     };
-    for (size_t i = 0; i < count; ++i)
+    for (size_t i = 0; i < count; ++i) {
         pixels[i] = 0xff000000U | toByte(red[i], added[i]) << 16 | toByte(green[i], added[i]) << 8 |
                     toByte(blue[i], added[i]);
+    }
 }
 
 quint16 toWord(float value)
@@ -38,8 +39,9 @@ quint16 toWord(float value)
 
 void setAlpha(const std::vector<float>& alphas, QRgb* pixels)
 {
-    for (size_t i = 0; i < alphas.size(); ++i)
+    for (size_t i = 0; i < alphas.size(); ++i) {
         pixels[i] = (pixels[i] & 0x00ffffffU) | static_cast<QRgb>(alphas[i] * 255.0F + 0.5F) << 24;
+    }
 }
 
 bool isUsualMatrix(AVColorSpace space)
@@ -52,7 +54,7 @@ Dither<float> ditherFor(const AVFrame& frame)
 {
     const int depth = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format))->comp[0].depth;
     return Dither<float>(frame.width, [depth](int order) {
-        return depth > 8 ? (static_cast<float>(order) + 0.5F) / Dither<float>::Orders : 0.5F;
+        return depth > 8 ? (static_cast<float>(order) + 0.5F) / Dither<float>::orders : 0.5F;
     });
 }
 
@@ -69,8 +71,9 @@ public:
     const RgbLine& read(int line)
     {
         m_lines.read(line, m_line);
-        if (m_map)
+        if (m_map) {
             m_map->apply(m_line);
+        }
         return m_line;
     }
 
@@ -119,10 +122,11 @@ void fillBytes(const AVFrame& frame, MappedLines& lines, const Target& target, B
         QRgb* const pixels = hasAlpha ? reinterpret_cast<QRgb*>(target.line(y)) : own.data();
         storeBytes(line.red.data(), line.green.data(), line.blue.data(), dither.line(y), pixels,
                    line.red.size());
-        if (!hasAlpha)
+        if (!hasAlpha) {
             dropAlpha(pixels, target.line(y), frame.width);
-        else if (lines.hasAlpha())
+        } else if (lines.hasAlpha()) {
             setAlpha(lines.alpha(), pixels);
+        }
     }
 }
 
@@ -132,32 +136,35 @@ void fillWords(MappedLines& lines, const Target& target, Band band)
     for (int y = band.first; y < band.end; ++y) {
         const RgbLine& line = lines.read(y);
         auto* const pixels = reinterpret_cast<QRgba64*>(target.line(y));
-        for (size_t x = 0; x < line.red.size(); ++x)
+        for (size_t x = 0; x < line.red.size(); ++x) {
             pixels[x] = qRgba64(toWord(line.red[x]), toWord(line.green[x]), toWord(line.blue[x]),
                                 hasAlpha ? toWord(lines.alpha()[x]) : quint16(65535));
+        }
     }
 }
 
 void fill(const AVFrame& frame, const ColourMap* map, const Target& target, Band band)
 {
     MappedLines lines(frame, map);
-    if (target.format() == QImage::Format_RGBX64 || target.format() == QImage::Format_RGBA64)
+    if (target.format() == QImage::Format_RGBX64 || target.format() == QImage::Format_RGBA64) {
         fillWords(lines, target, band);
-    else
+    } else {
         fillBytes(frame, lines, target, band);
+    }
 }
 
 /// A band for each core, unless starting a thread for it takes longer than what it would save.
 std::vector<Band> bandsOf(const AVFrame& frame)
 {
-    constexpr qint64 FewestPixels = 250'000;
+    constexpr qint64 fewestPixels = 250'000;
     const qint64 cores = std::max(1U, std::thread::hardware_concurrency());
     const qint64 count =
-        std::clamp(qint64(frame.width) * frame.height / FewestPixels, qint64(1), cores);
+        std::clamp(qint64(frame.width) * frame.height / fewestPixels, qint64(1), cores);
     std::vector<Band> bands;
-    for (qint64 i = 0; i < count; ++i)
+    for (qint64 i = 0; i < count; ++i) {
         bands.push_back({static_cast<int>(frame.height * i / count),
                          static_cast<int>(frame.height * (i + 1) / count)});
+    }
     return bands;
 }
 
@@ -170,8 +177,9 @@ TrueColours::TrueColours(std::shared_ptr<const ColourMap> map)
 bool TrueColours::isNeededFor(const AVFrame& frame, const Colours& colours)
 {
     const auto format = static_cast<AVPixelFormat>(frame.format);
-    if (!RgbLines::reads(format))
+    if (!RgbLines::reads(format)) {
         return false;
+    }
     const bool isYuv = YuvToRgb::reads(format);
     const bool isByte = av_pix_fmt_desc_get(format)->comp[0].depth == 8;
     return !colours.isStandard() || (!isYuv && !isByte) ||
@@ -190,8 +198,9 @@ void TrueColours::convert(const AVFrame& frame, QImage& image) const
         others.push_back(std::async(policy, fillBand, bands[i]));
     }
     fillBand(bands.front());
-    for (std::future<void>& other : others)
+    for (std::future<void>& other : others) {
         other.get();
+    }
 }
 
 } // namespace QtAV

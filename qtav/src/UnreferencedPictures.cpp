@@ -7,30 +7,32 @@ namespace QtAV {
 namespace {
 
 namespace mpeg4 {
-constexpr int UserData = 0xb2;
-constexpr int Picture = 0xb6;
-constexpr int BidirectionalPicture = 2;
+constexpr int userData = 0xb2;
+constexpr int picture = 0xb6;
+constexpr int bidirectionalPicture = 2;
 } // namespace mpeg4
 
 enum class Meaning { Neutral, Unreferenced, Needed };
 
 Meaning meaningInH264(const NalUnits::Unit& unit)
 {
-    if (unit.type == h264::Slice)
+    if (unit.type == h264::slice) {
         return unit.isReference ? Meaning::Needed : Meaning::Unreferenced;
-    const bool isNeutral = unit.type == h264::SupplementalInformation ||
-                           unit.type == h264::Delimiter || unit.type == h264::Filler;
+    }
+    const bool isNeutral = unit.type == h264::supplementalInformation ||
+                           unit.type == h264::delimiter || unit.type == h264::filler;
     return isNeutral ? Meaning::Neutral : Meaning::Needed;
 }
 
 Meaning meaningInHevc(const NalUnits::Unit& unit)
 {
     // Slices of pictures that are referred to have odd types.
-    if (unit.type <= hevc::LastOrdinarySlice)
+    if (unit.type <= hevc::lastOrdinarySlice) {
         return unit.type % 2 ? Meaning::Needed : Meaning::Unreferenced;
-    const bool isNeutral = unit.type == hevc::Delimiter || unit.type == hevc::Filler ||
-                           unit.type == hevc::PrefixInformation ||
-                           unit.type == hevc::SuffixInformation;
+    }
+    const bool isNeutral = unit.type == hevc::delimiter || unit.type == hevc::filler ||
+                           unit.type == hevc::prefixInformation ||
+                           unit.type == hevc::suffixInformation;
     return isNeutral ? Meaning::Neutral : Meaning::Needed;
 }
 
@@ -40,11 +42,13 @@ bool areBidirectional(const uint8_t* data, qsizetype size)
     bool hasPicture = false;
     for (qsizetype i = behindStartCode(data, 0, size); i + 1 < size;
          i = behindStartCode(data, i, size)) {
-        const bool isPicture = data[i] == mpeg4::Picture;
-        if (!isPicture && data[i] != mpeg4::UserData)
+        const bool isPicture = data[i] == mpeg4::picture;
+        if (!isPicture && data[i] != mpeg4::userData) {
             return false;
-        if (isPicture && data[i + 1] >> 6 != mpeg4::BidirectionalPicture)
+        }
+        if (isPicture && data[i + 1] >> 6 != mpeg4::bidirectionalPicture) {
             return false;
+        }
         hasPicture = hasPicture || isPicture;
     }
     return hasPicture;
@@ -59,15 +63,17 @@ UnreferencedPictures::UnreferencedPictures(const AVCodecParameters& parameters)
 
 bool UnreferencedPictures::areAllOf(const uint8_t* data, qsizetype size) const
 {
-    if (m_isMpeg4)
+    if (m_isMpeg4) {
         return data && areBidirectional(data, size);
+    }
     NalUnits::Cursor cursor = m_units.of(data, size);
     bool hasPicture = false;
     while (const std::optional<NalUnits::Unit> unit = cursor.next()) {
         const Meaning meaning =
             m_units.codec() == AV_CODEC_ID_HEVC ? meaningInHevc(*unit) : meaningInH264(*unit);
-        if (meaning == Meaning::Needed)
+        if (meaning == Meaning::Needed) {
             return false;
+        }
         hasPicture = hasPicture || meaning == Meaning::Unreferenced;
     }
     return hasPicture && cursor.isWhole();

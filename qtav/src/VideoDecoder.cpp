@@ -24,8 +24,9 @@ namespace {
 /// Leaves the picture as it is where it has another size than the container says.
 void cutTo(const QRect& part, AVFrame& frame, const AVCodecParameters& codec)
 {
-    if (frame.width != codec.width || frame.height != codec.height)
+    if (frame.width != codec.width || frame.height != codec.height) {
         return;
+    }
     frame.crop_left = static_cast<size_t>(part.left());
     frame.crop_top = static_cast<size_t>(part.top());
     frame.crop_right = static_cast<size_t>(codec.width - part.right() - 1);
@@ -37,10 +38,12 @@ const AVCodec* decoderFor(const StreamParameters& parameters)
 {
     // FFmpeg's own decoders for VP8 and VP9 drop the alpha layer.
     const AVCodec* withAlpha = nullptr;
-    if (parameters.hasAlphaLayer && parameters.codec->codec_id == AV_CODEC_ID_VP8)
+    if (parameters.hasAlphaLayer && parameters.codec->codec_id == AV_CODEC_ID_VP8) {
         withAlpha = avcodec_find_decoder_by_name("libvpx");
-    if (parameters.hasAlphaLayer && parameters.codec->codec_id == AV_CODEC_ID_VP9)
+    }
+    if (parameters.hasAlphaLayer && parameters.codec->codec_id == AV_CODEC_ID_VP9) {
         withAlpha = avcodec_find_decoder_by_name("libvpx-vp9");
+    }
     return withAlpha ? withAlpha : avcodec_find_decoder(parameters.codec->codec_id);
 }
 
@@ -153,8 +156,9 @@ bool VideoDecoder::Private::allows(const QSize& stored, AVPixelFormat format,
 {
     const QSize shown = squareSizeOf(stored, sampleAspectRatioOf(*parameters, sampleAspectRatio));
     const qint64 bytes = PictureLimit::bytesOf(format, stored, shown);
-    if (limit.allows(bytes))
+    if (limit.allows(bytes)) {
         return true;
+    }
     const std::lock_guard lock(refusalMutex);
     refusal = limit.refusal(stored, bytes);
     return false;
@@ -166,28 +170,33 @@ int VideoDecoder::Private::takeMemory(AVCodecContext* context, AVFrame* frame, i
     auto& self = *static_cast<Private*>(context->opaque);
     const QSize stored(frame->width, frame->height);
     const auto format = static_cast<AVPixelFormat>(frame->format);
-    if (!self.allows(stored, format, context->sample_aspect_ratio))
+    if (!self.allows(stored, format, context->sample_aspect_ratio)) {
         return AVERROR(ENOMEM);
-    if (self.deadline && self.deadline->hasPassed())
+    }
+    if (self.deadline && self.deadline->hasPassed()) {
         return AVERROR_EXIT;
+    }
     return avcodec_default_get_buffer2(context, frame, flags);
 }
 
 bool VideoDecoder::open()
 {
     close();
-    if (!d->parameters)
+    if (!d->parameters) {
         return false;
+    }
     routeFFmpegLog();
     const AVCodecParameters& stream = *d->parameters->codec;
     const QSize stored(stream.width, stream.height);
     const auto format = static_cast<AVPixelFormat>(stream.format);
-    if (!d->allows(stored, format, stream.sample_aspect_ratio))
+    if (!d->allows(stored, format, stream.sample_aspect_ratio)) {
         return false;
+    }
     const AVCodec* codec = decoderFor(*d->parameters);
     CodecContextPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);
-    if (!context || avcodec_parameters_to_context(context.get(), d->parameters->codec.get()) < 0)
+    if (!context || avcodec_parameters_to_context(context.get(), d->parameters->codec.get()) < 0) {
         return false;
+    }
     context->pkt_timebase = d->parameters->timeline.timeBase();
     const QVariantHash section = d->options.value(QStringLiteral("avcodec")).toHash();
     const int threads = section.value(QStringLiteral("threads"), 0).toInt();
@@ -198,8 +207,9 @@ bool VideoDecoder::open()
     // Pictures that are cut at the left or the top are else cut at a column that suits the
     // processor.
     context->flags |= AV_CODEC_FLAG_UNALIGNED;
-    if (avcodec_open2(context.get(), codec, nullptr) < 0)
+    if (avcodec_open2(context.get(), codec, nullptr) < 0) {
         return false;
+    }
     d->context = std::move(context);
     d->converter = std::make_shared<PictureConverter>();
     d->hasSubLayers = stream.codec_id == AV_CODEC_ID_HEVC &&
@@ -225,8 +235,9 @@ bool VideoDecoder::isOpen() const
 void VideoDecoder::setOptions(const QVariantHash& options)
 {
     d->options = options;
-    if (d->context)
+    if (d->context) {
         d->applySkipOptions();
+    }
 }
 
 QVariantHash VideoDecoder::options() const
@@ -266,8 +277,9 @@ bool VideoDecoder::Private::leavesOut(const AVPacket& packet) const
 /// there. FFmpeg 7.1's MPEG-4 decoder tries, and then gives other pictures twice.
 bool VideoDecoder::Private::leadsUpToKeyFrame(const AVPacket& packet)
 {
-    if (startTicks == AV_NOPTS_VALUE)
+    if (startTicks == AV_NOPTS_VALUE) {
         return false;
+    }
     if (presentationTicks(packet) > startTicks) {
         startTicks = AV_NOPTS_VALUE;
         return false;
@@ -277,8 +289,9 @@ bool VideoDecoder::Private::leadsUpToKeyFrame(const AVPacket& packet)
 
 void VideoDecoder::flush()
 {
-    if (!d->context)
+    if (!d->context) {
         return;
+    }
     avcodec_flush_buffers(d->context.get());
     d->restart();
 }
@@ -305,31 +318,38 @@ bool VideoDecoder::decode(const Packet& packet)
 {
     d->current = VideoFrame();
     const std::shared_ptr<const PacketHandle> handle = PacketHandle::of(packet);
-    if (!d->context || (!handle && !packet.isDrain()))
+    if (!d->context || (!handle && !packet.isDrain())) {
         return false;
+    }
     // The caller asks once more for the frame of the key packet it has just given.
     const bool isRepeated = d->start == Private::Start::KeyFrameTaken && handle == d->keyPacket;
-    if (isRepeated)
+    if (isRepeated) {
         return true;
+    }
 
-    if (handle && (d->leavesOut(*handle->get()) || d->leadsUpToKeyFrame(*handle->get())))
+    if (handle && (d->leavesOut(*handle->get()) || d->leadsUpToKeyFrame(*handle->get()))) {
         return true;
+    }
 
     bool succeeded = true;
     const bool isFirstKeyFrame =
         d->start == Private::Start::NeedsKeyFrame && packet.hasKeyFrame && handle;
-    if (isFirstKeyFrame)
+    if (isFirstKeyFrame) {
         d->startTicks = presentationTicks(*handle->get());
+    }
     if (isFirstKeyFrame && d->wantsKeyFrameAtOnce()) {
         succeeded = d->startAtKeyFrame(packet);
     } else {
-        if (d->start == Private::Start::KeyFrameTaken)
+        if (d->start == Private::Start::KeyFrameTaken) {
             succeeded = d->resumeAfterKeyFrame();
-        if (isFirstKeyFrame)
+        }
+        if (isFirstKeyFrame) {
             d->startBehindKeyFrame(*handle->get());
+        }
         d->start = Private::Start::Running;
-        if (handle)
+        if (handle) {
             d->watchSubLayers(*handle->get());
+        }
         succeeded = d->sendAndReceive(handle ? handle->get() : nullptr) && succeeded;
     }
     if (succeeded && !d->frames.empty()) {
@@ -350,8 +370,9 @@ bool VideoDecoder::Private::wantsKeyFrameAtOnce() const
 void VideoDecoder::Private::startBehindKeyFrame(const AVPacket& packet)
 {
     nextTicks = presentationTicks(packet);
-    if (nextTicks != AV_NOPTS_VALUE)
+    if (nextTicks != AV_NOPTS_VALUE) {
         repeatedTicks = nextTicks - 1;
+    }
 }
 
 /// A decoder that re-orders frames or decodes several at a time holds the key frame back.
@@ -380,8 +401,9 @@ bool VideoDecoder::Private::resumeAfterKeyFrame()
     avcodec_flush_buffers(context.get());
     draining = false;
     // What follows refers to no other picture.
-    if (isIntraOnly(context->codec_id))
+    if (isIntraOnly(context->codec_id)) {
         return true;
+    }
     repeatedTicks = lastTicks;
     nextTicks = presentationTicks(*packet->get());
     return sendAndReceive(packet->get());
@@ -395,8 +417,9 @@ bool VideoDecoder::Private::sendAndReceive(const AVPacket* packet)
         draining = false;
     }
     bool failed = false;
-    if (packet && sequenceChange.isAt(*packet))
+    if (packet && sequenceChange.isAt(*packet)) {
         drain(failed);
+    }
     if (packet || !draining) {
         const int result = avcodec_send_packet(context.get(), packet);
         failed = result < 0 && result != AVERROR_EOF;
@@ -409,8 +432,9 @@ bool VideoDecoder::Private::sendAndReceive(const AVPacket* packet)
 /// Makes what is held come out, and the decoder ready for a new beginning.
 void VideoDecoder::Private::drain(bool& failed)
 {
-    if (avcodec_send_packet(context.get(), nullptr) >= 0)
+    if (avcodec_send_packet(context.get(), nullptr) >= 0) {
         receiveAll(failed);
+    }
     avcodec_flush_buffers(context.get());
 }
 
@@ -419,8 +443,9 @@ void VideoDecoder::Private::receiveAll(bool& failed)
     for (;;) {
         FramePtr frame = makeFrame();
         const int result = avcodec_receive_frame(context.get(), frame.get());
-        if (result == AVERROR(EAGAIN) || result == AVERROR_EOF)
+        if (result == AVERROR(EAGAIN) || result == AVERROR_EOF) {
             return;
+        }
         if (result < 0) {
             failed = true;
             return;
@@ -435,16 +460,18 @@ void VideoDecoder::Private::deliver(FramePtr frame)
     const qint64 ticks = hasTime ? frame->best_effort_timestamp : nextTicks;
     if (repeatedTicks != AV_NOPTS_VALUE && ticks <= repeatedTicks) {
         // Also what leads up to an open group's key frame and cannot be decoded from there.
-        if (ticks == repeatedTicks)
+        if (ticks == repeatedTicks) {
             repeatedTicks = AV_NOPTS_VALUE;
+        }
         return;
     }
     repeatedTicks = AV_NOPTS_VALUE;
     lastTicks = ticks;
     nextTicks = ticks + std::max<qint64>(1, durationTicks(*frame));
     completeColours(*frame, *parameters->statedColours);
-    if (parameters->cleanAperture)
+    if (parameters->cleanAperture) {
         cutTo(*parameters->cleanAperture, *frame, *parameters->codec);
+    }
     frames.emplace_back(new VideoFramePrivate(std::move(frame), ticks, parameters, converter));
 }
 

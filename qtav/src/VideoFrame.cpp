@@ -19,8 +19,9 @@ namespace {
 Orientation orientationOf(const AVFrame& frame, const StreamParameters& parameters)
 {
     const AVFrameSideData* own = av_frame_get_side_data(&frame, AV_FRAME_DATA_DISPLAYMATRIX);
-    if (own && own->size >= 9 * sizeof(qint32))
+    if (own && own->size >= 9 * sizeof(qint32)) {
         return orientationFromDisplayMatrix(reinterpret_cast<const qint32*>(own->data));
+    }
     return parameters.orientation;
 }
 
@@ -38,9 +39,10 @@ AVRational sampleAspectRatioOf(const AVFrame& frame, const StreamParameters& par
 QImage withoutAlpha(const QImage& image)
 {
     QImage result(image.size(), QImage::Format_RGB888);
-    for (int y = 0; y < result.height(); ++y)
+    for (int y = 0; y < result.height(); ++y) {
         dropAlpha(reinterpret_cast<const QRgb*>(image.constScanLine(y)), result.scanLine(y),
                   result.width());
+    }
     return result;
 }
 
@@ -59,7 +61,7 @@ QImage::Format convertedFormat(QImage::Format wanted, bool isScaledLater)
 }
 
 /// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
-constexpr double WidestPixel = 16.0;
+constexpr double widestPixel = 16.0;
 
 /// In images of at most so small a part of the lines, nobody sees the moments of two fields.
 constexpr int fewLines = 8;
@@ -67,8 +69,9 @@ constexpr int fewLines = 8;
 /// The same picture in the same memory; null for none.
 FramePtr shared(const FramePtr& picture)
 {
-    if (!picture)
+    if (!picture) {
         return nullptr;
+    }
     FramePtr same(av_frame_clone(picture.get()));
     Q_CHECK_PTR(same.get());
     return same;
@@ -84,11 +87,13 @@ double withoutShortfall(double seconds)
 {
     constexpr double shortfall = 1e-6;
     const double whole = std::round(seconds * 1000.0);
-    if (whole / 1000.0 - seconds > shortfall || seconds * 1000.0 >= whole)
+    if (whole / 1000.0 - seconds > shortfall || seconds * 1000.0 >= whole) {
         return seconds;
+    }
     double result = whole / 1000.0;
-    while (result * 1000.0 < whole)
+    while (result * 1000.0 < whole) {
         result = std::nextafter(result, whole);
+    }
     return result;
 }
 
@@ -96,8 +101,9 @@ double withoutShortfall(double seconds)
 double secondMoment(const VideoFramePrivate& frame, const VideoFramePrivate* before,
                     const VideoFramePrivate* after)
 {
-    if (after)
+    if (after) {
         return withoutShortfall((frame.seconds + after->seconds) / 2.0);
+    }
     return before ? withoutShortfall(frame.seconds + (frame.seconds - before->seconds) / 2.0)
                   : frame.seconds;
 }
@@ -106,13 +112,16 @@ double secondMoment(const VideoFramePrivate& frame, const VideoFramePrivate* bef
 
 QSize squareSizeOf(const QSize& stored, AVRational sampleAspectRatio)
 {
-    if (sampleAspectRatio.num <= 0 || sampleAspectRatio.den <= 0)
+    if (sampleAspectRatio.num <= 0 || sampleAspectRatio.den <= 0) {
         return stored;
+    }
     const double ratio = av_q2d(sampleAspectRatio);
-    if (ratio > WidestPixel || ratio < 1.0 / WidestPixel)
+    if (ratio > widestPixel || ratio < 1.0 / widestPixel) {
         return stored;
-    if (ratio >= 1.0)
+    }
+    if (ratio >= 1.0) {
         return {static_cast<int>(std::lround(stored.width() * ratio)), stored.height()};
+    }
     return {stored.width(), static_cast<int>(std::lround(stored.height() / ratio))};
 }
 
@@ -126,8 +135,8 @@ VideoFramePrivate::VideoFramePrivate(FramePtr picture, qint64 ticks,
           squareSizeOf({frame->width, frame->height}, sampleAspectRatioOf(*frame, *parameters)))
     , baseLayer(baseLayerOf(*frame, parameters->baseLayer))
     , converter(std::move(pictureConverter))
-    , firstSeconds(seconds)
-    , secondSeconds(seconds)
+    , m_firstSeconds(seconds)
+    , m_secondSeconds(seconds)
 {}
 
 VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& whole, FramePtr smaller)
@@ -138,8 +147,8 @@ VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& whole, FramePtr sm
     , baseLayer(whole.baseLayer)
     , isScaledDown(true)
     , converter(whole.converter)
-    , firstSeconds(whole.firstSeconds)
-    , secondSeconds(whole.secondSeconds)
+    , m_firstSeconds(whole.m_firstSeconds)
+    , m_secondSeconds(whole.m_secondSeconds)
 {}
 
 VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& alone, const VideoFrame& frameBefore,
@@ -152,27 +161,27 @@ VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& alone, const Video
     , baseLayer(alone.baseLayer)
     , isScaledDown(alone.isScaledDown)
     , converter(alone.converter)
-    , fields(std::move(fieldSettings))
-    , firstSeconds(alone.seconds)
-    , secondSeconds(secondMoment(alone, of(frameBefore), of(frameAfter)))
-    , before(sharedPicture(of(frameBefore)))
-    , after(sharedPicture(of(frameAfter)))
+    , m_fields(std::move(fieldSettings))
+    , m_firstSeconds(alone.seconds)
+    , m_secondSeconds(secondMoment(alone, of(frameBefore), of(frameAfter)))
+    , m_before(sharedPicture(of(frameBefore)))
+    , m_after(sharedPicture(of(frameAfter)))
 {}
 
 VideoFramePrivate::VideoFramePrivate(const VideoFramePrivate& other, FieldFilter::Moment moment)
     : QSharedData()
     , frame(shared(other.frame))
-    , seconds(moment == FieldFilter::Moment::First ? other.firstSeconds : other.secondSeconds)
+    , seconds(moment == FieldFilter::Moment::First ? other.m_firstSeconds : other.m_secondSeconds)
     , orientation(other.orientation)
     , squareSize(other.squareSize)
     , baseLayer(other.baseLayer)
     , isScaledDown(other.isScaledDown)
     , converter(other.converter)
-    , fields{other.fields.deinterlacing, other.fields.deinterlacer, moment}
-    , firstSeconds(other.firstSeconds)
-    , secondSeconds(other.secondSeconds)
-    , before(shared(other.before))
-    , after(shared(other.after))
+    , m_fields{other.m_fields.deinterlacing, other.m_fields.deinterlacer, moment}
+    , m_firstSeconds(other.m_firstSeconds)
+    , m_secondSeconds(other.m_secondSeconds)
+    , m_before(shared(other.m_before))
+    , m_after(shared(other.m_after))
 {}
 
 const VideoFramePrivate* VideoFramePrivate::of(const VideoFrame& frame)
@@ -182,17 +191,18 @@ const VideoFramePrivate* VideoFramePrivate::of(const VideoFrame& frame)
 
 bool VideoFramePrivate::isOfTwoMoments() const
 {
-    return fields.deinterlacer &&
-           Deinterlacer::isOfTwoMoments({before.get(), frame.get(), after.get()},
-                                        fields.deinterlacing);
+    return m_fields.deinterlacer &&
+           Deinterlacer::isOfTwoMoments({m_before.get(), frame.get(), m_after.get()},
+                                        m_fields.deinterlacing);
 }
 
 FramePtr VideoFramePrivate::deinterlaced() const
 {
-    if (!fields.deinterlacer)
+    if (!m_fields.deinterlacer) {
         return nullptr;
-    return fields.deinterlacer->deinterlaced({before.get(), frame.get(), after.get()},
-                                             fields.deinterlacing, fields.moment);
+    }
+    return m_fields.deinterlacer->deinterlaced({m_before.get(), frame.get(), m_after.get()},
+                                               m_fields.deinterlacing, m_fields.moment);
 }
 
 VideoFrame::VideoFrame() = default;
@@ -228,8 +238,9 @@ int VideoFrame::height() const
 
 QSize VideoFrame::displaySize() const
 {
-    if (!d)
+    if (!d) {
         return {};
+    }
     return swapsSides(d->orientation) ? d->squareSize.transposed() : d->squareSize;
 }
 
@@ -238,8 +249,9 @@ VideoFrame VideoFrame::scaledDown(const QSize& size) const
     const QSize whole = displaySize();
     const bool isSmaller =
         !size.isEmpty() && size.width() < whole.width() && size.height() < whole.height();
-    if (!d || !isSmaller || !PictureConverter::isOpaqueYuv(*d->frame))
+    if (!d || !isSmaller || !PictureConverter::isOpaqueYuv(*d->frame)) {
         return *this;
+    }
     const QSize stored = swapsSides(d->orientation) ? size.transposed() : size;
     const FramePtr deinterlaced = d->deinterlaced();
     FramePtr smaller = d->converter->scaled(deinterlaced ? *deinterlaced : *d->frame, stored);
@@ -248,8 +260,9 @@ VideoFrame VideoFrame::scaledDown(const QSize& size) const
 
 VideoFrame VideoFrame::secondField() const
 {
-    if (!d || isSecondField() || !d->isOfTwoMoments())
+    if (!d || isSecondField() || !d->isOfTwoMoments()) {
         return {};
+    }
     return VideoFrame(new VideoFramePrivate(*d, FieldFilter::Moment::Second));
 }
 
@@ -271,45 +284,52 @@ bool VideoFrame::isScaledDown() const
 
 qint64 VideoFrame::byteCount() const
 {
-    if (!d)
+    if (!d) {
         return 0;
+    }
     // Planes may share a buffer, and buffers are larger than the planes in them: ask the buffers.
     qint64 bytes = 0;
-    for (const AVBufferRef* buffer : d->frame->buf)
+    for (const AVBufferRef* buffer : d->frame->buf) {
         bytes += buffer ? static_cast<qint64>(buffer->size) : 0;
+    }
     return bytes;
 }
 
 QString VideoFrame::format() const
 {
-    if (!d)
+    if (!d) {
         return {};
+    }
     return QString::fromLatin1(av_get_pix_fmt_name(static_cast<AVPixelFormat>(d->frame->format)));
 }
 
 QImage::Format VideoFrame::imageFormat() const
 {
-    if (!d)
+    if (!d) {
         return QImage::Format_Invalid;
+    }
     return PictureConverter::hasAlpha(*d->frame) ? QImage::Format_ARGB32 : QImage::Format_RGB888;
 }
 
 QImage::Format VideoFrame::deepImageFormat() const
 {
     const QImage::Format usual = imageFormat();
-    if (!d)
+    if (!d) {
         return usual;
+    }
     const AVPixFmtDescriptor* const format =
         av_pix_fmt_desc_get(static_cast<AVPixelFormat>(d->frame->format));
-    if (!format || format->comp[0].depth <= 8)
+    if (!format || format->comp[0].depth <= 8) {
         return usual;
+    }
     return usual == QImage::Format_ARGB32 ? QImage::Format_RGBA64 : QImage::Format_RGBX64;
 }
 
 QImage VideoFrame::toImage(QImage::Format format, const QSize& size, const QRectF& region) const
 try {
-    if (!d)
+    if (!d) {
         return {};
+    }
     const QImage::Format wanted = format == QImage::Format_Invalid ? QImage::Format_ARGB32 : format;
     const QSize whole = displaySize();
     const bool isReduced = region.isNull() && !size.isEmpty() && size.width() <= whole.width() &&
@@ -327,17 +347,21 @@ try {
                  d->orientation);
     if (!region.isNull()) {
         const QRect part = region.toAlignedRect() & image.rect();
-        if (part.isEmpty())
+        if (part.isEmpty()) {
             return {};
+        }
         image = image.copy(part);
     }
-    if (!size.isEmpty() && size != image.size())
+    if (!size.isEmpty() && size != image.size()) {
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
     // Without transparent parts these formats are the same in memory.
-    if (isOpaque && wanted == QImage::Format_ARGB32_Premultiplied)
+    if (isOpaque && wanted == QImage::Format_ARGB32_Premultiplied) {
         image.reinterpretAsFormat(wanted);
-    if (image.format() == QImage::Format_ARGB32 && wanted == QImage::Format_RGB888)
+    }
+    if (image.format() == QImage::Format_ARGB32 && wanted == QImage::Format_RGB888) {
         return withoutAlpha(image);
+    }
     return image.format() == wanted ? image : std::move(image).convertToFormat(wanted);
 } catch (const std::bad_alloc&) {
     return {};
@@ -355,8 +379,9 @@ StoredColours VideoFrame::storedColours() const
 
 QImage VideoFrame::toStoredImage() const
 try {
-    if (!d)
+    if (!d) {
         return {};
+    }
     const FramePtr deinterlaced = d->deinterlaced();
     return oriented(
         d->converter->convertAsStored(deinterlaced ? *deinterlaced : *d->frame, d->squareSize),

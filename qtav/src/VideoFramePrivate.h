@@ -54,7 +54,7 @@ public:
 
     /// Whether the picture shows two moments, see Deinterlacer.
     [[nodiscard]] bool isOfTwoMoments() const;
-    FieldFilter::Moment moment() const { return fields.moment; }
+    FieldFilter::Moment moment() const { return m_fields.moment; }
 
     /// The picture that is shown: null where that is `frame` itself. Made anew by each call.
     [[nodiscard]] FramePtr deinterlaced() const;
@@ -68,11 +68,11 @@ public:
     const std::shared_ptr<PictureConverter> converter;
 
 private:
-    const FieldSettings fields;
-    const double firstSeconds;
-    const double secondSeconds; ///< of the later moment
-    const FramePtr before;      ///< null where it is not known or not needed
-    const FramePtr after;       ///< likewise
+    const FieldSettings m_fields;
+    const double m_firstSeconds;
+    const double m_secondSeconds; ///< of the later moment
+    const FramePtr m_before;      ///< null where it is not known or not needed
+    const FramePtr m_after;       ///< likewise
 };
 
 } // namespace QtAV

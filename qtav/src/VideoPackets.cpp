@@ -22,15 +22,16 @@ bool isOrderedByType(AVCodecID codec)
 /// How many bytes of a packet belong to a picture whose beginning was not read.
 int tailBytes(AVCodecID codec, const AVPacket& packet)
 {
-    constexpr uint8_t FirstSlice = 0x01;
-    constexpr uint8_t LastSlice = 0xaf;
-    constexpr int StartCodeBytes = 4;
+    constexpr uint8_t firstSlice = 0x01;
+    constexpr uint8_t lastSlice = 0xaf;
+    constexpr int startCodeBytes = 4;
     for (qsizetype i = behindStartCode(packet.data, 0, packet.size); i < packet.size;
          i = behindStartCode(packet.data, i, packet.size)) {
         const uint8_t code = packet.data[i];
-        const bool isSlice = codec != AV_CODEC_ID_MPEG4 && code >= FirstSlice && code <= LastSlice;
-        if (!isSlice)
-            return static_cast<int>(i) + 1 - StartCodeBytes;
+        const bool isSlice = codec != AV_CODEC_ID_MPEG4 && code >= firstSlice && code <= lastSlice;
+        if (!isSlice) {
+            return static_cast<int>(i) + 1 - startCodeBytes;
+        }
     }
     return packet.size;
 }
@@ -56,8 +57,9 @@ void VideoPackets::describeStream()
     parameters->codec.reset(avcodec_parameters_alloc());
     Q_CHECK_PTR(parameters->codec.get());
     avcodec_parameters_copy(parameters->codec.get(), stream.codecpar);
-    if (m_container.isAvi() && stream.codecpar->codec_id == AV_CODEC_ID_MPEG4)
+    if (m_container.isAvi() && stream.codecpar->codec_id == AV_CODEC_ID_MPEG4) {
         unpackBFrames(parameters->codec);
+    }
     parameters->timeline =
         m_isRaw ? Timeline(stream.time_base, 0, stream.time_base) : m_container.timeline(m_stream);
     parameters->frameRate = m_container.frameRate(m_stream);
@@ -74,15 +76,17 @@ void VideoPackets::describeStream()
 void VideoPackets::unpackBFrames(CodecParametersPtr& codec)
 {
     AVBSFContext* filter = nullptr;
-    if (av_bsf_alloc(av_bsf_get_by_name("mpeg4_unpack_bframes"), &filter) < 0)
+    if (av_bsf_alloc(av_bsf_get_by_name("mpeg4_unpack_bframes"), &filter) < 0) {
         return;
+    }
     m_unpackBFrames.reset(filter);
     avcodec_parameters_copy(filter->par_in, codec.get());
     filter->time_base_in = m_container.stream(m_stream).time_base;
-    if (av_bsf_init(filter) >= 0)
+    if (av_bsf_init(filter) >= 0) {
         avcodec_parameters_copy(codec.get(), filter->par_out);
-    else
+    } else {
         m_unpackBFrames.reset();
+    }
 }
 
 void VideoPackets::chooseOrder()
@@ -104,8 +108,9 @@ void VideoPackets::chooseOrder()
 PacketAnswer VideoPackets::read(PacketPtr& packet)
 {
     while (m_ready.empty()) {
-        if (m_ended)
+        if (m_ended) {
             return PacketAnswer::End;
+        }
         PacketPtr fresh;
         const PacketAnswer answer = m_container.read(fresh);
         if (answer == PacketAnswer::End) {
@@ -133,8 +138,9 @@ void VideoPackets::accept(PacketPtr packet)
         order(std::move(packet));
         return;
     }
-    if (av_bsf_send_packet(m_unpackBFrames.get(), packet.get()) < 0)
+    if (av_bsf_send_packet(m_unpackBFrames.get(), packet.get()) < 0) {
         return;
+    }
     PacketPtr unpacked = makePacket();
     while (av_bsf_receive_packet(m_unpackBFrames.get(), unpacked.get()) >= 0) {
         order(std::move(unpacked));
@@ -150,10 +156,11 @@ void VideoPackets::order(PacketPtr packet)
         m_ready.push_back(std::move(packet));
         return;
     }
-    if (m_isRaw || m_container.isAvi())
+    if (m_isRaw || m_container.isAvi()) {
         setMissingTime(*packet);
-    else if (joinsBehindTail(*packet))
+    } else if (joinsBehindTail(*packet)) {
         return;
+    }
     const qint64 ticks = frameTicks(*packet);
     m_order->push(std::move(packet), ticks);
     takeOrdered();
@@ -163,8 +170,9 @@ void VideoPackets::order(PacketPtr packet)
 /// FFmpeg puts it before the next picture, or gives it that one's time. True where nothing is left.
 bool VideoPackets::joinsBehindTail(AVPacket& packet)
 {
-    if (!m_joins)
+    if (!m_joins) {
         return false;
+    }
     const int tail = tailBytes(m_parameters->codec->codec_id, packet);
     if (tail == packet.size) {
         m_tailTicks = packet.pts;
@@ -173,16 +181,18 @@ bool VideoPackets::joinsBehindTail(AVPacket& packet)
     m_joins = false;
     packet.data += tail;
     packet.size -= tail;
-    if (packet.pts == AV_NOPTS_VALUE)
+    if (packet.pts == AV_NOPTS_VALUE) {
         packet.pts = m_tailTicks;
+    }
     return false;
 }
 
 void VideoPackets::takeOrdered()
 {
     while (PacketPtr packet = m_order->pop()) {
-        if (presentationTicks(*packet) == AV_NOPTS_VALUE)
+        if (presentationTicks(*packet) == AV_NOPTS_VALUE) {
             setMissingTime(*packet);
+        }
         m_ready.push_back(std::move(packet));
     }
 }
@@ -191,47 +201,57 @@ void VideoPackets::takeOrdered()
 void VideoPackets::flagKey(AVPacket& packet) const
 {
     const bool isFlagged = packet.flags & AV_PKT_FLAG_KEY;
-    if (!isFlagged && !m_unpackBFrames)
+    if (!isFlagged && !m_unpackBFrames) {
         return;
-    if (m_keyPictures->isIn(packet))
+    }
+    if (m_keyPictures->isIn(packet)) {
         packet.flags |= AV_PKT_FLAG_KEY;
-    else
+    } else {
         packet.flags &= ~AV_PKT_FLAG_KEY;
+    }
 }
 
 void VideoPackets::setMissingTime(AVPacket& packet)
 {
-    if (m_isRaw || presentationTicks(packet) == AV_NOPTS_VALUE)
+    if (m_isRaw || presentationTicks(packet) == AV_NOPTS_VALUE) {
         packet.dts = m_nextTicks;
+    }
     m_nextTicks = (m_isRaw ? packet.dts : presentationTicks(packet)) + frameTicks(packet);
 }
 
 qint64 VideoPackets::frameTicks(const AVPacket& packet) const
 {
-    if (packet.duration > 0)
+    if (packet.duration > 0) {
         return packet.duration;
+    }
     const AVRational rate = m_parameters->frameRate;
-    if (rate.num <= 0 || rate.den <= 0)
+    if (rate.num <= 0 || rate.den <= 0) {
         return 1;
+    }
     return std::max<qint64>(1, av_rescale_q(1, av_inv_q(rate), timeline().timeBase()));
 }
 
 bool VideoPackets::index()
 {
-    if (!m_isRaw)
+    if (!m_isRaw) {
         return true;
+    }
     m_rawIndex = RawStreamIndex();
     PacketPtr packet;
     for (;;) {
         const PacketAnswer answer = read(packet);
-        if (answer == PacketAnswer::End)
+        if (answer == PacketAnswer::End) {
             break;
-        if (answer == PacketAnswer::Failed && canGoOn())
+        }
+        if (answer == PacketAnswer::Failed && canGoOn()) {
             continue;
-        if (answer != PacketAnswer::Packet)
+        }
+        if (answer != PacketAnswer::Packet) {
             return false;
-        if (packet->stream_index == m_stream && packet->flags & AV_PKT_FLAG_KEY)
+        }
+        if (packet->stream_index == m_stream && packet->flags & AV_PKT_FLAG_KEY) {
             m_rawIndex.add({packet->pos, packet->dts, packet->pts});
+        }
     }
     m_rawIndex.setLength(m_nextTicks);
     return rewind();
@@ -240,8 +260,9 @@ bool VideoPackets::index()
 bool VideoPackets::seekInRawStream(qint64 ms)
 {
     const auto keyFrame = m_rawIndex.atOrBefore(timeline().lastTickOf(ms));
-    if (!keyFrame)
+    if (!keyFrame) {
         return rewind();
+    }
     forgetPosition();
     m_nextTicks = keyFrame->decodingTicks;
     return m_container.seekToByte(keyFrame->position);
@@ -254,16 +275,19 @@ void VideoPackets::forgetPosition()
     m_ended = false;
     m_joins = true;
     m_tailTicks = AV_NOPTS_VALUE;
-    if (m_order)
+    if (m_order) {
         m_order->reset();
-    if (m_unpackBFrames)
+    }
+    if (m_unpackBFrames) {
         av_bsf_flush(m_unpackBFrames.get());
+    }
 }
 
 bool VideoPackets::seekNear(qint64 ms)
 {
-    if (m_isRaw)
+    if (m_isRaw) {
         return seekInRawStream(ms);
+    }
     forgetPosition();
     return m_container.seekNear(m_stream, timeline().lastTickOf(ms));
 }
@@ -273,8 +297,9 @@ bool VideoPackets::rewind()
     forgetPosition();
     // Searching a damaged stream for its first time may end anywhere; its first byte is certain.
     const bool goesByBytes = m_isRaw || m_container.isTransmission();
-    if (goesByBytes && m_container.seekToByte(0))
+    if (goesByBytes && m_container.seekToByte(0)) {
         return true;
+    }
     return m_container.seekNear(m_stream, timeline().lastTickOf(0)) || reopen();
 }
 

@@ -11,13 +11,14 @@ namespace QtAV {
 
 namespace {
 
-constexpr int SampleBits = YuvLines::SampleBits;
+constexpr int sampleBits = YuvLines::sampleBits;
 
 FOR_SEVERAL_PROCESSORS
 void widenLuma(const uint8_t* __restrict source, int16_t* __restrict target, int count)
 {
-    for (int i = 0; i < count; ++i)
-        target[i] = static_cast<int16_t>(source[i] << (SampleBits - 8));
+    for (int i = 0; i < count; ++i) {
+        target[i] = static_cast<int16_t>(source[i] << (sampleBits - 8));
+    }
 }
 
 FOR_SEVERAL_PROCESSORS
@@ -25,9 +26,10 @@ void widenDeepLuma(const uint16_t* __restrict source, int16_t* __restrict target
                    int depth)
 {
     // One bit more than wanted, so that 16 bits shift the same way as fewer do.
-    const int shift = SampleBits + 1 - depth;
-    for (int i = 0; i < count; ++i)
+    const int shift = sampleBits + 1 - depth;
+    for (int i = 0; i < count; ++i) {
         target[i] = static_cast<int16_t>((uint32_t(source[i]) << shift) >> 1);
+    }
 }
 
 /// Two lines of chroma, mixed in eighths, the middle taken off.
@@ -36,8 +38,9 @@ void mix(const uint8_t* __restrict near, const uint8_t* __restrict far, int near
          int16_t* __restrict target, int count)
 {
     const int farEighths = 8 - nearEighths;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         target[i] = static_cast<int16_t>((near[i] * nearEighths + far[i] * farEighths - 1024) * 16);
+    }
 }
 
 /// The same for every second byte.
@@ -57,10 +60,10 @@ void mixDeep(const uint16_t* __restrict near, const uint16_t* __restrict far, in
              int16_t* __restrict target, int count, int depth)
 {
     const int farEighths = 8 - nearEighths;
-    const int shift = SampleBits + 1 - depth;
+    const int shift = sampleBits + 1 - depth;
     for (int i = 0; i < count; ++i) {
         const uint32_t sum = near[i] * uint32_t(nearEighths) + far[i] * uint32_t(farEighths);
-        target[i] = static_cast<int16_t>(int32_t((sum << shift) >> 4) - YuvLines::ChromaMiddle);
+        target[i] = static_cast<int16_t>(int32_t((sum << shift) >> 4) - YuvLines::chromaMiddle);
     }
 }
 
@@ -108,8 +111,9 @@ YuvLines::YuvLines(const AVFrame& frame)
 void YuvLines::moveTo(int line)
 {
     m_line = line;
-    if (!m_hasChroma)
+    if (!m_hasChroma) {
         return;
+    }
     if (!m_halvesWidth) {
         mixChroma(1, m_cb.data());
         mixChroma(2, m_cr.data());
@@ -133,10 +137,11 @@ void YuvLines::widen(int from)
         widenChroma(m_narrowCr, m_cr, from);
     }
     const int count = m_frame.width - from;
-    if (m_depth == 8)
+    if (m_depth == 8) {
         widenLuma(at(0, m_line) + from, m_luma.data() + from, count);
-    else
+    } else {
         widenDeepLuma(deepAt(0, m_line) + from, m_luma.data() + from, count, m_depth);
+    }
 }
 
 YuvLines::Siting YuvLines::sitingOf(const AVFrame& frame)
@@ -159,8 +164,9 @@ YuvLines::Siting YuvLines::sitingOf(const AVFrame& frame)
 
 YuvLines::ChromaLines YuvLines::chromaLines() const
 {
-    if (!m_halvesHeight)
+    if (!m_halvesHeight) {
         return {m_line, m_line, 8};
+    }
     return isInterlaced(m_frame) ? fieldChromaLinesFor(m_line, m_chromaHeight, m_siting.vertical)
                                  : chromaLinesFor(m_line, m_chromaHeight, m_siting.vertical);
 }
@@ -230,15 +236,16 @@ const uint16_t* YuvLines::deepAt(int component, int line) const
 void YuvLines::mixChroma(int component, int16_t* samples) const
 {
     const ChromaLines lines = chromaLines();
-    if (m_depth > 8)
+    if (m_depth > 8) {
         mixDeep(deepAt(component, lines.near), deepAt(component, lines.far), lines.nearEighths,
                 samples, m_chromaWidth, m_depth);
-    else if (m_format.comp[component].step == 2)
+    } else if (m_format.comp[component].step == 2) {
         mixInterleaved(at(component, lines.near), at(component, lines.far), lines.nearEighths,
                        samples, m_chromaWidth);
-    else
+    } else {
         mix(at(component, lines.near), at(component, lines.far), lines.nearEighths, samples,
             m_chromaWidth);
+    }
 }
 
 void YuvLines::repeatEnds(std::vector<int16_t>& narrow)
@@ -254,10 +261,11 @@ void YuvLines::widenChroma(const std::vector<int16_t>& narrow, std::vector<int16
     const int16_t* const source = narrow.data() + 1 + from / 2;
     int16_t* const target = wide.data() + from;
     const int count = m_chromaWidth - from / 2;
-    if (m_siting.isLeft)
+    if (m_siting.isLeft) {
         doubleFromLeft(source, target, count);
-    else
+    } else {
         doubleFromCentre(source, target, count);
+    }
 }
 
 } // namespace QtAV

@@ -14,8 +14,8 @@ namespace QtAV {
 class YuvLines
 {
 public:
-    static constexpr int SampleBits = 15;
-    static constexpr int ChromaMiddle = 1 << (SampleBits - 1);
+    static constexpr int sampleBits = 15;
+    static constexpr int chromaMiddle = 1 << (sampleBits - 1);
 
     /// The picture, in one of the formats that YuvToRgb reads, has to outlive this.
     explicit YuvLines(const AVFrame& frame);

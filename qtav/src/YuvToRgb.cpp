@@ -14,12 +14,12 @@ namespace QtAV {
 namespace {
 
 // A result has 5 bits behind the binary point.
-constexpr int FactorBits = 13;
-constexpr int FractionBits = 5;
+constexpr int factorBits = 13;
+constexpr int fractionBits = 5;
 
 /// A picture of more columns or lines that does not tell its matrix is in high definition.
-constexpr int StandardColumns = 1279;
-constexpr int StandardLines = 576;
+constexpr int standardColumns = 1279;
+constexpr int standardLines = 576;
 
 // The pattern that compilers turn into one rounding multiplication of 16-bit lanes.
 inline int16_t multiplied(int16_t a, int16_t b)
@@ -29,11 +29,11 @@ inline int16_t multiplied(int16_t a, int16_t b)
 
 inline int16_t toByte(int16_t value, int16_t added)
 {
-    const auto whole = static_cast<int16_t>((value + added) >> FractionBits);
+    const auto whole = static_cast<int16_t>((value + added) >> fractionBits);
     return std::min<int16_t>(std::max<int16_t>(whole, 0), 255);
 }
 
-constexpr int16_t Half = 1 << (FractionBits - 1);
+constexpr int16_t half = 1 << (fractionBits - 1);
 
 FOR_SEVERAL_PROCESSORS
 void combine(const int16_t* __restrict lumas, const int16_t* __restrict cbs,
@@ -57,8 +57,9 @@ void combine(const int16_t* __restrict lumas, const int16_t* __restrict cbs,
 
 void setAlpha(const uint8_t* alphas, uint32_t* pixels, int count)
 {
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         pixels[i] = (pixels[i] & 0x00ffffffU) | uint32_t(alphas[i]) << 24;
+    }
 }
 
 void setAlphaDeep(const uint16_t* alphas, uint32_t* pixels, int count, int depth)
@@ -72,7 +73,7 @@ void setAlphaDeep(const uint16_t* alphas, uint32_t* pixels, int count, int depth
 
 int16_t factor(double value)
 {
-    return static_cast<int16_t>(std::lround(value * (1 << FactorBits)));
+    return static_cast<int16_t>(std::lround(value * (1 << factorBits)));
 }
 
 YuvToRgb::Matrix makeMatrix(AVColorSpace space, bool fullRange, int depth)
@@ -80,8 +81,9 @@ YuvToRgb::Matrix makeMatrix(AVColorSpace space, bool fullRange, int depth)
     const auto [red, blue] = YuvToRgb::sharesOf(space);
     const double green = 1.0 - red - blue;
     // The widest sample, brought to 15 bits, stands for 255 in full range.
-    const double fullScale = 255.0 * (1 << (YuvLines::SampleBits - 8)) /
-                             (double((1 << depth) - 1) * std::pow(2.0, YuvLines::SampleBits - depth));
+    const double fullScale =
+        255.0 * (1 << (YuvLines::sampleBits - 8)) /
+        (double((1 << depth) - 1) * std::pow(2.0, YuvLines::sampleBits - depth));
     const double luma = fullRange ? fullScale : 255.0 / 219.0;
     const double chroma = fullRange ? fullScale : 255.0 / 224.0;
     return {factor(luma),
@@ -89,7 +91,7 @@ YuvToRgb::Matrix makeMatrix(AVColorSpace space, bool fullRange, int depth)
             factor(chroma * 2 * (1 - blue) * blue / green),
             factor(chroma * 2 * (1 - red) * red / green),
             factor(chroma * 2 * (1 - blue)),
-            static_cast<int16_t>(fullRange ? 0 : 16 << (YuvLines::SampleBits - 8))};
+            static_cast<int16_t>(fullRange ? 0 : 16 << (YuvLines::sampleBits - 8))};
 }
 
 /// Reads one kind of picture line by line and converts each.
@@ -99,7 +101,7 @@ public:
     LineConverter(const AVFrame& frame, const YuvToRgb::Matrix& matrix)
         : m_lines(frame)
         , m_matrix(matrix)
-        , m_plain(static_cast<size_t>(frame.width), Half)
+        , m_plain(static_cast<size_t>(frame.width), half)
         , m_dither(m_lines.depth() > 8 ? frame.width : 0, ditherAt)
     {}
 
@@ -107,31 +109,34 @@ public:
     {
         m_lines.moveTo(line);
         int done = 0;
-        if (m_lines.isPlainHalved())
+        if (m_lines.isPlainHalved()) {
             done = convertHalvedLine(m_lines.storedLuma(), m_lines.halvedCb(), m_lines.halvedCr(),
                                      pixels, m_lines.width(), m_matrix);
+        }
         m_lines.widen(done);
         const int16_t* const added = m_lines.depth() > 8 ? m_dither.line(line) : m_plain.data();
         combine(m_lines.luma() + done, m_lines.cb() + done, m_lines.cr() + done, added + done,
                 pixels + done, m_lines.width() - done, m_matrix);
-        if (m_lines.hasAlpha())
+        if (m_lines.hasAlpha()) {
             addAlpha(pixels);
+        }
     }
 
 private:
     static int16_t ditherAt(int order)
     {
-        return static_cast<int16_t>((order << FractionBits) / Dither<int16_t>::Orders);
+        return static_cast<int16_t>((order << fractionBits) / Dither<int16_t>::orders);
     }
 
     void addAlpha(uint32_t* pixels) const
     {
         const uint8_t* const alpha = m_lines.storedAlpha();
-        if (m_lines.depth() == 8)
+        if (m_lines.depth() == 8) {
             setAlpha(alpha, pixels, m_lines.width());
-        else
+        } else {
             setAlphaDeep(reinterpret_cast<const uint16_t*>(alpha), pixels, m_lines.width(),
                          m_lines.depth());
+        }
     }
 
     YuvLines m_lines;
@@ -172,10 +177,11 @@ bool YuvToRgb::isFullRange(const AVFrame& frame)
 
 bool YuvToRgb::reads(AVPixelFormat format)
 {
-    if (format == AV_PIX_FMT_NV12 || format == AV_PIX_FMT_NV21)
+    if (format == AV_PIX_FMT_NV12 || format == AV_PIX_FMT_NV21) {
         return true;
+    }
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(format);
-    constexpr uint64_t Excluded = AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_BE |
+    constexpr uint64_t excluded = AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_BE |
                                   AV_PIX_FMT_FLAG_BITSTREAM | AV_PIX_FMT_FLAG_HWACCEL |
                                   AV_PIX_FMT_FLAG_BAYER | AV_PIX_FMT_FLAG_FLOAT;
     const bool isGrey = d.nb_components == 1;
@@ -184,14 +190,15 @@ bool YuvToRgb::reads(AVPixelFormat format)
     const int bytes = first.depth > 8 ? 2 : 1;
     const bool isPlain = first.depth >= 8 && first.depth <= 16 && first.shift == 0;
     const bool isSeparate = !isPlanar || (d.comp[1].step == bytes && d.comp[1].plane == 1);
-    return !(d.flags & Excluded) && (isGrey || isPlanar) && isPlain && isSeparate &&
+    return !(d.flags & excluded) && (isGrey || isPlanar) && isPlain && isSeparate &&
            first.step == bytes && d.log2_chroma_w <= 1 && d.log2_chroma_h <= 1;
 }
 
 AVChromaLocation YuvToRgb::chromaLocationOf(const AVFrame& frame)
 {
-    if (frame.chroma_location != AVCHROMA_LOC_UNSPECIFIED)
+    if (frame.chroma_location != AVCHROMA_LOC_UNSPECIFIED) {
         return frame.chroma_location;
+    }
     // JPEG's way, which full-range pictures follow where chroma has half the lines too, and MPEG's.
     const AVPixFmtDescriptor* const format =
         av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
@@ -212,7 +219,7 @@ AVColorSpace YuvToRgb::matrixOf(const AVFrame& frame)
     case AVCOL_SPC_YCGCO:
         return frame.colorspace;
     default:
-        return frame.width > StandardColumns || frame.height > StandardLines ? AVCOL_SPC_BT709
+        return frame.width > standardColumns || frame.height > standardLines ? AVCOL_SPC_BT709
                                                                              : AVCOL_SPC_SMPTE170M;
     }
 }
@@ -245,8 +252,9 @@ void YuvToRgb::convert(const AVFrame& frame, QImage& image) const
 {
     LineConverter lines(frame, m_matrix);
     if (image.format() == QImage::Format_ARGB32) {
-        for (int line = 0; line < frame.height; ++line)
+        for (int line = 0; line < frame.height; ++line) {
             lines.convert(line, reinterpret_cast<QRgb*>(image.scanLine(line)));
+        }
         return;
     }
     std::vector<QRgb> pixels(static_cast<size_t>(frame.width));

@@ -13,7 +13,7 @@ namespace {
 
 #define AVX2 __attribute__((target("avx2")))
 
-constexpr int Step = 16;
+constexpr int step = 16;
 
 /// Sixteen samples out of eight: each on its place, and the middle between it and the next.
 AVX2 inline __m256i doubled(const int16_t* samples)
@@ -54,7 +54,7 @@ AVX2 int convertByAvx2(const uint8_t* luma, const int16_t* cb, const int16_t* cr
     const __m256i crToGreen = _mm256_set1_epi16(m.crToGreen);
     const __m256i cbToBlue = _mm256_set1_epi16(m.cbToBlue);
     int i = 0;
-    for (; i + Step <= count; i += Step) {
+    for (; i + step <= count; i += step) {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(luma + i));
         const __m256i wide = _mm256_slli_epi16(_mm256_cvtepu8_epi16(bytes), 7);
         const __m256i y = _mm256_mulhrs_epi16(_mm256_sub_epi16(wide, black), lumaFactor);

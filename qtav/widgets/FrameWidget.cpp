@@ -4,25 +4,29 @@ namespace QtAV {
 
 void FrameWidget::noteScreen(const QSize& screen)
 {
-    if (screen == m_screen)
+    if (screen == m_screen) {
         return;
+    }
     m_screen = screen;
-    if (m_handleScreen)
+    if (m_handleScreen) {
         m_handleScreen();
+    }
 }
 
 void FrameWidget::setPlace(const QRect& place)
 {
-    if (place == m_place)
+    if (place == m_place) {
         return;
+    }
     m_place = place;
     repaintAll();
 }
 
 QRect FrameWidget::target(const Picture& picture) const
 {
-    if (picture.image.isNull())
+    if (picture.image.isNull()) {
         return {};
+    }
     const QRect whole = m_place.isNull() ? letterboxed(picture.proportions, m_screen) : m_place;
     return partOf(whole, picture.part);
 }
@@ -38,8 +42,9 @@ QRect partOf(const QRect& whole, const QRectF& part)
 
 QRect letterboxed(const QSize& picture, const QSize& screen)
 {
-    if (picture.isEmpty() || screen.isEmpty())
+    if (picture.isEmpty() || screen.isEmpty()) {
         return {};
+    }
     const QSize size = picture.scaled(screen, Qt::KeepAspectRatio).expandedTo({1, 1});
     return {QPoint((screen.width() - size.width()) / 2, (screen.height() - size.height()) / 2),
             size};

@@ -10,7 +10,7 @@ namespace QtAV {
 
 namespace {
 
-constexpr const char* VertexShader = R"(
+constexpr const char* vertexShader = R"(
 attribute highp vec2 corner;
 varying highp vec2 place;
 void main()
@@ -20,7 +20,7 @@ void main()
 }
 )";
 
-constexpr const char* FragmentShader = R"(
+constexpr const char* fragmentShader = R"(
 uniform sampler2D picture;
 varying highp vec2 place;
 void main()
@@ -29,7 +29,7 @@ void main()
 }
 )";
 
-constexpr std::array<float, 8> Corners{-1, -1, 1, -1, -1, 1, 1, 1};
+constexpr std::array<float, 8> corners{-1, -1, 1, -1, -1, 1, 1, 1};
 
 } // namespace
 
@@ -63,18 +63,20 @@ void OpenGLWidget::initializeGL()
             Qt::UniqueConnection);
     m_program = std::make_unique<QOpenGLShaderProgram>();
     const bool works =
-        m_program->addShaderFromSourceCode(QOpenGLShader::Vertex, VertexShader) &&
-        m_program->addShaderFromSourceCode(QOpenGLShader::Fragment, FragmentShader) &&
+        m_program->addShaderFromSourceCode(QOpenGLShader::Vertex, vertexShader) &&
+        m_program->addShaderFromSourceCode(QOpenGLShader::Fragment, fragmentShader) &&
         m_program->link();
-    if (!works)
+    if (!works) {
         qWarning() << "Cannot draw with OpenGL:" << m_program->log();
+    }
     m_isUploaded = false;
 }
 
 void OpenGLWidget::releaseResources()
 {
-    if (!m_program && !m_texture)
+    if (!m_program && !m_texture) {
         return;
+    }
     makeCurrent();
     m_texture.reset();
     m_program.reset();
@@ -114,12 +116,14 @@ void OpenGLWidget::paintGL()
     QOpenGLFunctions* gl = context()->functions();
     gl->glClearColor(0.0F, 0.0F, 0.0F, 1.0F);
     gl->glClear(GL_COLOR_BUFFER_BIT);
-    if (!m_isUploaded)
+    if (!m_isUploaded) {
         upload();
+    }
     noteScreen(size() * devicePixelRatioF());
     const QRect place = target(m_picture);
-    if (m_texture && m_program && m_program->isLinked() && !place.isEmpty())
+    if (m_texture && m_program && m_program->isLinked() && !place.isEmpty()) {
         drawInto(place, screenSize());
+    }
 }
 
 void OpenGLWidget::drawInto(const QRect& place, const QSize& whole)
@@ -132,7 +136,7 @@ void OpenGLWidget::drawInto(const QRect& place, const QSize& whole)
     m_texture->bind(0);
     m_program->setUniformValue("picture", 0);
     m_program->enableAttributeArray("corner");
-    m_program->setAttributeArray("corner", Corners.data(), 2);
+    m_program->setAttributeArray("corner", corners.data(), 2);
     gl->glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
     m_program->disableAttributeArray("corner");
     m_texture->release();

@@ -17,8 +17,9 @@ QImage enlarged(const PictureMaker::Request& request)
     const QRect around = request.region.toAlignedRect().intersected(whole);
     const QImage stored = request.frame.toImage(madeFormat, around.size(), around);
     QImage image(request.size, madeFormat);
-    if (stored.isNull() || image.isNull())
+    if (stored.isNull() || image.isNull()) {
         return {};
+    }
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(QRectF(image.rect()), stored, request.region.translated(-around.topLeft()));
@@ -81,8 +82,9 @@ void PictureMaker::run()
     std::unique_lock lock(m_mutex);
     for (;;) {
         m_changed.wait(lock, [this] { return m_quits || m_request; });
-        if (m_quits)
+        if (m_quits) {
             return;
+        }
         const Request request = *std::exchange(m_request, std::nullopt);
         lock.unlock();
         Picture picture{make(request), request.serial, request.frame.displaySize(), request.region};

@@ -39,10 +39,12 @@ void RasterWidget::paintEvent(QPaintEvent*)
     QImage& image = m_picture.image;
     const QRectF area(QPointF(place.topLeft()) / ratio, QSizeF(place.size()) / ratio);
     // Only the border: filling what is painted over costs as much as painting it.
-    for (const QRect& border : QRegion(rect()) - QRegion(area.toRect().intersected(rect())))
+    for (const QRect& border : QRegion(rect()) - QRegion(area.toRect().intersected(rect()))) {
         painter.fillRect(border, Qt::black);
-    if (place.isEmpty())
+    }
+    if (place.isEmpty()) {
         return;
+    }
     if (image.size() == place.size()) {
         image.setDevicePixelRatio(ratio);
         painter.drawImage(area.topLeft(), image);

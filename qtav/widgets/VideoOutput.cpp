@@ -28,8 +28,9 @@ bool usesOpenGL(VideoOutput::Drawing drawing)
 /// The part of the frame that a picture is of, 0 to 1 both ways.
 QRectF partShown(const PictureMaker::Picture& picture)
 {
-    if (picture.region.isNull() || picture.frame.isEmpty())
+    if (picture.region.isNull() || picture.frame.isEmpty()) {
         return {0.0, 0.0, 1.0, 1.0};
+    }
     const qreal width = picture.frame.width();
     const qreal height = picture.frame.height();
     return {picture.region.x() / width, picture.region.y() / height, picture.region.width() / width,
@@ -38,10 +39,12 @@ QRectF partShown(const PictureMaker::Picture& picture)
 
 QWidget* makeWidget(VideoOutput::Drawing drawing)
 {
-    if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance())) {
         return nullptr;
-    if (usesOpenGL(drawing))
+    }
+    if (usesOpenGL(drawing)) {
         return new OpenGLWidget;
+    }
     return new RasterWidget;
 }
 
@@ -74,24 +77,27 @@ public:
 void VideoOutput::Private::request()
 {
     const FrameWidget* const target = shown();
-    if (!target || !frame.isValid())
+    if (!target || !frame.isValid()) {
         return;
+    }
     const QSize screen = widget->size() * widget->devicePixelRatioF();
     if (!place.isNull()) {
         requestPart(screen);
         return;
     }
     const QRect fitted = letterboxed(frame.displaySize(), screen);
-    if (!fitted.isEmpty())
+    if (!fitted.isEmpty()) {
         maker.request({frame, fitted.size(), target->pictureFormat(), ++serial});
+    }
 }
 
 /// What is seen of a picture that lies anywhere.
 void VideoOutput::Private::requestPart(const QSize& screen)
 {
     const QRect seen = place.intersected(QRect(QPoint(), screen));
-    if (seen.isEmpty())
+    if (seen.isEmpty()) {
         return;
+    }
     const QSizeF whole = frame.displaySize();
     const qreal across = whole.width() / place.width();
     const qreal down = whole.height() / place.height();
@@ -108,11 +114,12 @@ VideoOutput::VideoOutput(Drawing drawing, QObject* parent)
     : VideoRenderer(parent)
     , d(std::make_unique<Private>(this, makeWidget(drawing)))
 {
-    if (FrameWidget* const shown = d->shown())
+    if (FrameWidget* const shown = d->shown()) {
         shown->setScreenHandler([this] {
             d->request();
             Q_EMIT screenSizeChanged();
         });
+    }
 }
 
 VideoOutput::~VideoOutput()
@@ -138,11 +145,13 @@ bool VideoOutput::isUpToDate() const
 /// The picture that is there moves at once; the one made for the place follows.
 void VideoOutput::setPlace(const QRect& place)
 {
-    if (place == d->place)
+    if (place == d->place) {
         return;
+    }
     d->place = place;
-    if (FrameWidget* const shown = d->shown())
+    if (FrameWidget* const shown = d->shown()) {
         shown->setPlace(place);
+    }
     d->request();
 }
 
@@ -156,18 +165,21 @@ void VideoOutput::present(const VideoFrame& frame)
     d->maker.cancel();
     d->firstSerial = d->serial + 1;
     d->shownSerial = d->serial;
-    if (FrameWidget* const shown = d->shown())
+    if (FrameWidget* const shown = d->shown()) {
         shown->setPicture({});
+    }
 }
 
 void VideoOutput::showPicture()
 {
     const std::optional<PictureMaker::Picture> picture = d->maker.take();
-    if (!picture || picture->serial < d->firstSerial)
+    if (!picture || picture->serial < d->firstSerial) {
         return;
+    }
     d->shownSerial = picture->serial;
-    if (FrameWidget* const shown = d->shown())
+    if (FrameWidget* const shown = d->shown()) {
         shown->setPicture({picture->image, picture->frame, partShown(*picture)});
+    }
 }
 
 } // namespace QtAV

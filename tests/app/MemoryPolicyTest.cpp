@@ -33,26 +33,26 @@ private slots:
 
 void MemoryPolicyTest::largeBlocks_goBackToTheSystem_howeverLargeOnesWereFreedBefore()
 {
-    constexpr size_t Large = size_t(4) << 20;
+    constexpr size_t large = size_t(4) << 20;
     MemoryPolicy::returnFreedMemory();
-    takeAndFree(4 * Large);
+    takeAndFree(4 * large);
     const size_t before = bytesOnTheirOwn();
-    void* volatile block = std::malloc(Large);
+    void* volatile block = std::malloc(large);
     const size_t after = bytesOnTheirOwn();
     std::free(block);
-    QVERIFY(after >= before + Large);
+    QVERIFY(after >= before + large);
     QCOMPARE(bytesOnTheirOwn(), before);
 }
 
 void MemoryPolicyTest::largeBlocks_areUsedAgain_whenKept()
 {
-    constexpr size_t Large = size_t(24) << 20;
+    constexpr size_t large = size_t(24) << 20;
     MemoryPolicy::keepFreedMemory();
-    takeAndFree(Large);
+    takeAndFree(large);
     const size_t system = mallinfo2().arena;
-    QVERIFY(system >= Large);
+    QVERIFY(system >= large);
     const size_t onTheirOwn = bytesOnTheirOwn();
-    void* volatile block = std::malloc(Large);
+    void* volatile block = std::malloc(large);
     QCOMPARE(bytesOnTheirOwn(), onTheirOwn);
     QCOMPARE(mallinfo2().arena, system);
     std::free(block);

@@ -15,8 +15,8 @@ namespace {
 
 using Way = Outcome (*)(const QByteArray&, const QByteArray&);
 
-constexpr int Rounds = 50;
-constexpr int Racers = 8;
+constexpr int rounds = 50;
+constexpr int racers = 8;
 
 struct NamedWay
 {
@@ -24,7 +24,7 @@ struct NamedWay
     Way way;
 };
 
-constexpr NamedWay Ways[] = {
+constexpr NamedWay ways[] = {
     {"first supported", ExclusiveRename::rename},
 #ifdef Q_OS_LINUX
     {"by renaming", ExclusiveRename::byRenaming},
@@ -51,8 +51,9 @@ private:
     [[nodiscard]] QByteArray made(const QByteArray& name, const QByteArray& content) const
     {
         QFile file(QFile::decodeName(path(name)));
-        if (file.open(QIODevice::WriteOnly))
+        if (file.open(QIODevice::WriteOnly)) {
             file.write(content);
+        }
         return path(name);
     }
     [[nodiscard]] QByteArray content(const QByteArray& name) const
@@ -63,8 +64,9 @@ private:
     static void addWays()
     {
         QTest::addColumn<Way>("way");
-        for (const NamedWay& named : Ways)
+        for (const NamedWay& named : ways) {
             QTest::newRow(named.name) << named.way;
+        }
     }
 
 private slots:
@@ -118,32 +120,35 @@ private slots:
     void rename_hasOneWinner_whenManyRace()
     {
         QFETCH(Way, way);
-        for (int round = 0; round < Rounds; ++round) {
+        for (int round = 0; round < rounds; ++round) {
             const QByteArray target = "new" + QByteArray::number(round);
             const QByteArray to = path(target);
-            std::atomic<int> waiting{Racers};
+            std::atomic<int> waiting{racers};
             std::atomic<int> winner{-1};
             std::atomic<int> winners{0};
             std::atomic<int> losers{0};
             std::vector<std::thread> threads;
-            for (int racer = 0; racer < Racers; ++racer) {
+            for (int racer = 0; racer < racers; ++racer) {
                 const QByteArray name = "old" + QByteArray::number(racer);
                 const QByteArray from = made(name, name);
                 threads.emplace_back([&, from, to, racer] {
                     --waiting;
-                    while (waiting > 0)
+                    while (waiting > 0) {
                         std::this_thread::yield();
+                    }
                     const Outcome outcome = way(from, to);
                     winners += outcome == Outcome::Done ? 1 : 0;
                     losers += outcome == Outcome::NameTaken ? 1 : 0;
-                    if (outcome == Outcome::Done)
+                    if (outcome == Outcome::Done) {
                         winner = racer;
+                    }
                 });
             }
-            for (std::thread& thread : threads)
+            for (std::thread& thread : threads) {
                 thread.join();
+            }
             QCOMPARE(winners.load(), 1);
-            QCOMPARE(losers.load(), Racers - 1);
+            QCOMPARE(losers.load(), racers - 1);
             QCOMPARE(content(target), "old" + QByteArray::number(winner.load()));
         }
     }

@@ -57,7 +57,7 @@ private slots:
     void publish_overwrites_whenTheFolderIsWriteProtected_data()
     {
         QTest::addColumn<QByteArray>("content");
-        QTest::newRow("longer") << QByteArray(LargeSize, 'x');
+        QTest::newRow("longer") << QByteArray(largeSize, 'x');
         QTest::newRow("shorter") << QByteArray("a");
         QTest::newRow("as long") << QByteArray("new");
         QTest::newRow("empty") << QByteArray();
@@ -91,8 +91,9 @@ private slots:
 
     void publish_overwrites_whenTheFileIsAnothersInAFolderForAll()
     {
-        if (::geteuid() != 0)
+        if (::geteuid() != 0) {
             QSKIP("Only root can make a file and write it as somebody else.");
+        }
         QVERIFY(setMode(m_folder->path(), 01777));
         QCOMPARE(publishedByNobody(path("file"), ExistingFile::Replace), WriteResult::Written);
         QCOMPARE(read(path("file")), QByteArray("new"));
@@ -107,8 +108,9 @@ private slots:
         QVERIFY(put(source, "mounted"));
         const QByteArray target = QFile::encodeName(path("file"));
         if (::mount(QFile::encodeName(source).constData(), target.constData(), nullptr, MS_BIND,
-                    nullptr) != 0)
+                    nullptr) != 0) {
             QSKIP("Mounting a file needs root's rights.");
+        }
         const WriteResult result =
             FilePublisher::publish(path("file"), "new", ExistingFile::Replace);
         QCOMPARE(::umount(target.constData()), 0);
@@ -127,7 +129,7 @@ private slots:
         {
             const FileSizeLimit limit(100000);
             result =
-                publishedByNobody(path("file"), ExistingFile::Replace, QByteArray(LargeSize, 'x'));
+                publishedByNobody(path("file"), ExistingFile::Replace, QByteArray(largeSize, 'x'));
         }
         QCOMPARE(result, WriteResult::Failed);
         QCOMPARE(read(path("file")), QByteArray("old"));

@@ -49,7 +49,7 @@ private slots:
     void publish_writesTheWholeFileAndNothingElse()
     {
         QFETCH(ExistingFile, existing);
-        const QByteArray content(LargeSize, 'x');
+        const QByteArray content(largeSize, 'x');
         QCOMPARE(FilePublisher::publish(path("new.jpg"), content, existing), WriteResult::Written);
         QCOMPARE(read(path("new.jpg")), content);
         QCOMPARE(files(), QStringList{QStringLiteral("new.jpg")});
@@ -232,7 +232,7 @@ private slots:
         WriteResult result = WriteResult::Written;
         {
             const FileSizeLimit limit(100000);
-            result = FilePublisher::publish(path("file"), QByteArray(LargeSize, 'x'), existing);
+            result = FilePublisher::publish(path("file"), QByteArray(largeSize, 'x'), existing);
         }
         QCOMPARE(result, WriteResult::Failed);
         QCOMPARE(files(), QStringList());
@@ -244,7 +244,7 @@ private slots:
         WriteResult result = WriteResult::Written;
         {
             const FileSizeLimit limit(100000);
-            result = FilePublisher::publish(path("file"), QByteArray(LargeSize, 'x'),
+            result = FilePublisher::publish(path("file"), QByteArray(largeSize, 'x'),
                                             ExistingFile::Replace);
         }
         QCOMPARE(result, WriteResult::Failed);
@@ -255,14 +255,15 @@ private slots:
     void publish_failsWithoutATrace_whenTheDiskIsFull()
     {
         const testsupport::SmallDisk disk;
-        if (!disk.isThere())
+        if (!disk.isThere()) {
             QSKIP("Mounting a small disk needs Linux and root's rights.");
+        }
         const auto entries = [&disk] {
             return QDir(disk.path()).entryList(QDir::Files | QDir::Hidden);
         };
         const QString file = disk.path(QStringLiteral("file"));
         const WriteResult tooLarge =
-            FilePublisher::publish(file, QByteArray(LargeSize, 'x'), ExistingFile::Keep);
+            FilePublisher::publish(file, QByteArray(largeSize, 'x'), ExistingFile::Keep);
         QCOMPARE(tooLarge, WriteResult::Failed);
         QCOMPARE(entries(), QStringList());
         QCOMPARE(FilePublisher::publish(file, QByteArray(1000, 'x'), ExistingFile::Keep),
@@ -283,7 +284,7 @@ private slots:
     {
         QVERIFY(!FilePublisher::prepare(path("nowhere"), "content"));
         const FileSizeLimit limit(1000);
-        QVERIFY(!FilePublisher::prepare(m_folder->path(), QByteArray(LargeSize, 'x')));
+        QVERIFY(!FilePublisher::prepare(m_folder->path(), QByteArray(largeSize, 'x')));
         QVERIFY(files().isEmpty());
     }
 
@@ -323,8 +324,9 @@ private slots:
                     const QByteArray content(1000 + number, static_cast<char>('a' + number));
                     const WriteResult result = FilePublisher::publish(
                         path(QByteArray::number(name).constData()), content, ExistingFile::Keep);
-                    if (result == WriteResult::Failed)
+                    if (result == WriteResult::Failed) {
                         return 255;
+                    }
                     won += result == WriteResult::Written ? 1 : 0;
                 }
                 return won;
@@ -347,15 +349,16 @@ private slots:
 
     void publish_neverShowsHalfAFile_whenTheProcessIsKilled()
     {
-        const QByteArray first(LargeSize, 'a');
-        const QByteArray second(LargeSize, 'b');
+        const QByteArray first(largeSize, 'a');
+        const QByteArray second(largeSize, 'b');
         for (int round = 0; round < 10; ++round) {
             const pid_t child = startProcess([&] {
                 for (;;) {
                     for (const QByteArray& content : {first, second}) {
                         if (FilePublisher::publish(path("file"), content, ExistingFile::Replace) !=
-                            WriteResult::Written)
+                            WriteResult::Written) {
                             return 1;
+                        }
                     }
                 }
             });

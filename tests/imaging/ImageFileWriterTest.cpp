@@ -24,8 +24,9 @@ QImage picture()
 {
     QImage image(40, 30, QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             image.setPixel(x, y, qRgb(6 * x, 8 * y, (x * y) % 256));
+        }
     }
     return image;
 }
@@ -86,7 +87,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QByteArray, format);
         const QString path = m_folder->filePath(name);
-        QCOMPARE(ImageFileWriter::write(path, picture(), ImageFileWriter::DefaultQuality,
+        QCOMPARE(ImageFileWriter::write(path, picture(), ImageFileWriter::defaultQuality,
                                         ExistingFile::Keep),
                  WriteResult::Written);
         QCOMPARE(files(), QStringList{name});
@@ -95,8 +96,9 @@ private slots:
         QCOMPARE(reader.format(), format);
         const QImage image = reader.read();
         QCOMPARE(image.size(), picture().size());
-        if (format != "jpeg")
+        if (format != "jpeg") {
             QCOMPARE(pixelsOf(image, QImage::Format_ARGB32), picture());
+        }
     }
 
     void write_givesWhatQtsWriterGives_data()
@@ -104,8 +106,9 @@ private slots:
         QTest::addColumn<QString>("suffix");
         QTest::addColumn<int>("quality");
         const auto add = [](const char* suffix, const QVector<int>& qualities) {
-            for (const int quality : qualities)
+            for (const int quality : qualities) {
                 QTest::addRow("%s %d", suffix, quality) << QString::fromLatin1(suffix) << quality;
+            }
         };
         add("jpg", {-1, 0, 50, 89});
         add("png", {0, 50, 89});
@@ -132,8 +135,9 @@ private slots:
     {
         QImage image(48, 48, QImage::Format_RGB888);
         for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x)
+            for (int x = 0; x < image.width(); ++x) {
                 image.setPixel(x, y, (x + y) % 3 == 0 ? qRgb(255, 0, 0) : qRgb(0, 0, 255));
+            }
         }
         const auto farthestRed = [&image](int quality) {
             const QImage decoded =
@@ -223,7 +227,7 @@ private slots:
         QFETCH(QImage, image);
         for (const auto existing : {ExistingFile::Keep, ExistingFile::Replace}) {
             QCOMPARE(ImageFileWriter::write(m_folder->filePath(name), image,
-                                            ImageFileWriter::DefaultQuality, existing),
+                                            ImageFileWriter::defaultQuality, existing),
                      WriteResult::Failed);
         }
         QCOMPARE(files(), QStringList());
@@ -232,13 +236,15 @@ private slots:
     void write_writesAllOrNothing_howeverLittleMemoryThereIs_data()
     {
         QTest::addColumn<QString>("name");
-        for (const char* const name : {"a.jpg", "a.png", "a.bmp", "a.tiff"})
+        for (const char* const name : {"a.jpg", "a.png", "a.bmp", "a.tiff"}) {
             QTest::newRow(name) << QString::fromLatin1(name);
+        }
     }
     void write_writesAllOrNothing_howeverLittleMemoryThereIs()
     {
-        if (!MemoryLimit::isPossible())
+        if (!MemoryLimit::isPossible()) {
             QSKIP("Memory cannot be limited here.");
+        }
         QFETCH(QString, name);
         const QString path = m_folder->filePath(name);
         const auto write = [&path](const QImage& image) {
@@ -269,7 +275,7 @@ private slots:
         const QString path = m_folder->filePath(QStringLiteral("a.png"));
         const QImage other = picture().mirrored();
         const auto write = [&path](const QImage& image, ExistingFile existing) {
-            return ImageFileWriter::write(path, image, ImageFileWriter::DefaultQuality, existing);
+            return ImageFileWriter::write(path, image, ImageFileWriter::defaultQuality, existing);
         };
         QCOMPARE(write(picture(), ExistingFile::Keep), WriteResult::Written);
         QCOMPARE(write(other, ExistingFile::Keep), WriteResult::AlreadyExists);

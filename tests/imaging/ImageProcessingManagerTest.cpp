@@ -29,8 +29,9 @@ QImage randomImage(const QSize& size, QImage::Format format = QImage::Format_ARG
     QRandomGenerator generator(42);
     QImage image(size, QImage::Format_ARGB32);
     for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x)
+        for (int x = 0; x < size.width(); ++x) {
             image.setPixel(x, y, generator.generate());
+        }
     }
     return image.convertToFormat(format);
 }
@@ -64,8 +65,9 @@ QImage plainResult(const QImage& image, const ImageProfile& profile, const QSize
             1.0;
         mat.convertTo(mat, mat.type(), gain, profile.imageBrightness());
     }
-    if (mat.cols != size.width() || mat.rows != size.height())
+    if (mat.cols != size.width() || mat.rows != size.height()) {
         cv::resize(mat, mat, cv::Size(size.width(), size.height()), 0, 0, cv::INTER_AREA);
+    }
     return QtOcv::matToImage(mat, QtOcv::Bgr, QImage::Format_Invalid);
 }
 
@@ -260,8 +262,9 @@ private slots:
     }
     void process_failsWithoutException_whenMemoryRunsOut()
     {
-        if (!MemoryLimit::isPossible())
+        if (!MemoryLimit::isPossible()) {
             QSKIP("Memory cannot be limited here.");
+        }
         QFETCH(QSize, size);
         QFETCH(int, brightness);
         QFETCH(QImage::Format, format);
@@ -282,8 +285,9 @@ private slots:
 
     void process_givesTheImageOrNone_howeverLittleMemoryThereIs()
     {
-        if (!MemoryLimit::isPossible())
+        if (!MemoryLimit::isPossible()) {
             QSKIP("Memory cannot be limited here.");
+        }
         ImageProfile profile(nullptr);
         setSize(profile, QSize(2400, 1800));
         profile.setImageContrast(3);
@@ -412,8 +416,9 @@ private slots:
         // Enlarged to a whole multiple, every pixel becomes an even block.
         const cv::Mat large = manager().resizeImage(mat, 4, 4, true, false);
         for (int y = 0; y < 4; ++y) {
-            for (int x = 0; x < 4; ++x)
+            for (int x = 0; x < 4; ++x) {
                 QCOMPARE(large.at<uchar>(y, x), mat.at<uchar>(y / 2, x / 2));
+            }
         }
     }
 

@@ -6,10 +6,10 @@ using namespace QtOcv;
 
 namespace {
 
-constexpr int Red = 200;
-constexpr int Green = 100;
-constexpr int Blue = 50;
-constexpr int Alpha = 25;
+constexpr int red = 200;
+constexpr int green = 100;
+constexpr int blue = 50;
+constexpr int alpha = 25;
 
 using Values = QVector<int>;
 
@@ -18,11 +18,11 @@ Values pixel(MatColorOrder order, int channels = 4)
 {
     switch (order) {
     case Bgr:
-        return channels == 3 ? Values{Blue, Green, Red} : Values{Blue, Green, Red, Alpha};
+        return channels == 3 ? Values{blue, green, red} : Values{blue, green, red, alpha};
     case Rgb:
-        return channels == 3 ? Values{Red, Green, Blue} : Values{Red, Green, Blue, Alpha};
+        return channels == 3 ? Values{red, green, blue} : Values{red, green, blue, alpha};
     case Argb:
-        return {Alpha, Red, Green, Blue};
+        return {alpha, red, green, blue};
     }
     return {};
 }
@@ -32,8 +32,9 @@ cv::Mat matOf(const Values& values)
 {
     cv::Mat mat(2, 3, CV_8UC(values.size()));
     for (int y = 0; y < mat.rows; ++y) {
-        for (int i = 0; i < mat.cols * mat.channels(); ++i)
+        for (int i = 0; i < mat.cols * mat.channels(); ++i) {
             mat.ptr(y)[i] = static_cast<uchar>(values[i % values.size()]);
+        }
     }
     return mat;
 }
@@ -43,8 +44,9 @@ Values lastPixel(const cv::Mat& mat)
 {
     Values values;
     const uchar* line = mat.ptr(mat.rows - 1) + (mat.cols - 1) * mat.channels();
-    for (int channel = 0; channel < mat.channels(); ++channel)
+    for (int channel = 0; channel < mat.channels(); ++channel) {
         values.append(line[channel]);
+    }
     return values;
 }
 
@@ -63,8 +65,9 @@ private:
         QTest::addColumn<MatColorOrder>("to");
         const std::array<const char*, 3> names{"bgr", "rgb", "argb"};
         for (const auto from : {Bgr, Rgb, Argb}) {
-            for (const auto to : {Bgr, Rgb, Argb})
+            for (const auto to : {Bgr, Rgb, Argb}) {
                 QTest::addRow("%s to %s", names[from], names[to]) << from << to;
+            }
         }
     }
 
@@ -88,8 +91,9 @@ private slots:
         QFETCH(MatColorOrder, to);
         const cv::Mat result = withChannels(matOf(pixel(from)), 4, from, to, 255.0);
         QCOMPARE(result.empty(), from == to);
-        if (from != to)
+        if (from != to) {
             QCOMPARE(lastPixel(result), pixel(to));
+        }
     }
 
     void withChannels_dropsAlpha_whenThreeAreAskedOfFour_data()
@@ -98,8 +102,9 @@ private slots:
         QTest::addColumn<MatColorOrder>("to");
         const std::array<const char*, 3> names{"bgr", "rgb", "argb"};
         for (const auto from : {Bgr, Rgb, Argb}) {
-            for (const auto to : {Bgr, Rgb})
+            for (const auto to : {Bgr, Rgb}) {
                 QTest::addRow("%s to %s", names[from], names[to]) << from << to;
+            }
         }
     }
     void withChannels_dropsAlpha_whenThreeAreAskedOfFour()
@@ -121,8 +126,9 @@ private slots:
     {
         // 0.299 R + 0.587 G + 0.114 B
         const Values grey{124};
-        for (const auto order : {Bgr, Rgb, Argb})
+        for (const auto order : {Bgr, Rgb, Argb}) {
             QCOMPARE(lastPixel(withChannels(matOf(pixel(order)), 1, order, Bgr, 255.0)), grey);
+        }
         QCOMPARE(lastPixel(withChannels(matOf(pixel(Rgb, 3)), 1, Rgb, Bgr, 255.0)), grey);
         QVERIFY(withChannels(matOf({7}), 1, Bgr, Bgr, 255.0).empty());
     }
@@ -139,9 +145,9 @@ private slots:
     void withChannels_addsAlpha_whenFourAreAskedOfThree()
     {
         const cv::Mat rgb = matOf(pixel(Rgb, 3));
-        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Rgb, 9.0)), (Values{Red, Green, Blue, 255}));
-        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Bgr, 9.0)), (Values{Blue, Green, Red, 255}));
-        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Argb, 9.0)), (Values{9, Red, Green, Blue}));
+        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Rgb, 9.0)), (Values{red, green, blue, 255}));
+        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Bgr, 9.0)), (Values{blue, green, red, 255}));
+        QCOMPARE(lastPixel(withChannels(rgb, 4, Rgb, Argb, 9.0)), (Values{9, red, green, blue}));
     }
 
     void withChannels_saturatesTheAlphaFill()

@@ -10,7 +10,7 @@ namespace publishing {
 
 namespace {
 
-constexpr uid_t Nobody = 65534;
+constexpr uid_t nobody = 65534;
 
 } // namespace
 
@@ -46,8 +46,9 @@ int exitCode(pid_t child)
 WriteResult publishedByNobody(const QString& path, ExistingFile existing, const QByteArray& content)
 {
     const pid_t child = startProcess([&] {
-        if (::geteuid() == 0 && ::setuid(Nobody) != 0)
+        if (::geteuid() == 0 && ::setuid(nobody) != 0) {
             return -1;
+        }
         return static_cast<int>(FilePublisher::publish(path, content, existing));
     });
     return static_cast<WriteResult>(exitCode(child));

@@ -12,9 +12,9 @@
 /// What the tests of publishing files need of files and processes.
 namespace publishing {
 
-constexpr int LargeSize = 4 * 1024 * 1024;
+constexpr int largeSize = 4 * 1024 * 1024;
 /// After so long a child ends itself, should the test that started it fail.
-constexpr unsigned ChildSeconds = 30;
+constexpr unsigned childSeconds = 30;
 
 /// The file's content, or "no file".
 [[nodiscard]] QByteArray read(const QString& path);
@@ -30,7 +30,7 @@ pid_t startProcess(Function function)
 {
     const pid_t child = ::fork();
     if (child == 0) {
-        ::alarm(ChildSeconds);
+        ::alarm(childSeconds);
         ::_exit(function());
     }
     return child;

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int KeepChannels = -8;
+constexpr int keepChannels = -8;
 
 using Values = QVector<int>;
 using Reals = QVector<double>;
@@ -23,8 +23,9 @@ QImage variedImage(QImage::Format format)
 {
     QImage image(7, 5, QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             image.setPixel(x, y, qRgba(30 * x, 40 * y, 11 * x * y % 256, 255 - 7 * x));
+        }
     }
     return image.convertToFormat(format);
 }
@@ -32,8 +33,9 @@ QImage variedImage(QImage::Format format)
 Values pixelAt(const cv::Mat& mat, int x, int y)
 {
     Values values;
-    for (int channel = 0; channel < mat.channels(); ++channel)
+    for (int channel = 0; channel < mat.channels(); ++channel) {
         values.append(mat.ptr(y)[x * mat.channels() + channel]);
+    }
     return values;
 }
 
@@ -41,18 +43,21 @@ template <typename Sample>
 Reals firstPixel(const cv::Mat& mat)
 {
     Reals values;
-    for (int channel = 0; channel < mat.channels(); ++channel)
+    for (int channel = 0; channel < mat.channels(); ++channel) {
         values.append(static_cast<double>(mat.ptr<Sample>(0)[channel]));
+    }
     return values;
 }
 
 bool isClose(const Reals& values, const Reals& expected)
 {
-    if (values.size() != expected.size())
+    if (values.size() != expected.size()) {
         return false;
+    }
     for (int i = 0; i < values.size(); ++i) {
-        if (std::abs(values[i] - expected[i]) > 1e-6)
+        if (std::abs(values[i] - expected[i]) > 1e-6) {
             return false;
+        }
     }
     return true;
 }
@@ -136,58 +141,6 @@ private slots:
         QVERIFY(QtOcv::imageToMat_shared(QImage(), nullptr).empty());
     }
 
-    void matToImageShared_viewsTheMatrix_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QImage::Format>("hint");
-        QTest::addColumn<QImage::Format>("format");
-        for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32,
-                                  QImage::Format_ARGB32_Premultiplied, QImage::Format_RGBX8888,
-                                  QImage::Format_RGBA8888, QImage::Format_RGBA8888_Premultiplied}) {
-            QTest::addRow("four, hint %d", format) << CV_8UC4 << format << format;
-        }
-        QTest::newRow("four, no hint")
-            << CV_8UC4 << QImage::Format_Invalid << QImage::Format_ARGB32;
-        QTest::newRow("four, hint RGB888")
-            << CV_8UC4 << QImage::Format_RGB888 << QImage::Format_ARGB32;
-        QTest::newRow("three, hint RGB32")
-            << CV_8UC3 << QImage::Format_RGB32 << QImage::Format_RGB888;
-        for (const auto format :
-             {QImage::Format_Indexed8, QImage::Format_Alpha8, QImage::Format_Grayscale8}) {
-            QTest::addRow("one, hint %d", format) << CV_8UC1 << format << format;
-        }
-        QTest::newRow("one, hint RGB32")
-            << CV_8UC1 << QImage::Format_RGB32 << QImage::Format_Indexed8;
-    }
-    void matToImageShared_viewsTheMatrix()
-    {
-        QFETCH(int, type);
-        QFETCH(QImage::Format, hint);
-        const cv::Mat whole(6, 9, type, cv::Scalar::all(3));
-        const cv::Mat mat = whole(cv::Rect(1, 2, 4, 3));
-        const QImage image = QtOcv::matToImage_shared(mat, hint);
-        QTEST(image.format(), "format");
-        QCOMPARE(image.size(), QSize(4, 3));
-        QCOMPARE(image.bytesPerLine(), static_cast<int>(whole.step[0]));
-        QVERIFY(image.constBits() == mat.data);
-    }
-
-    void matToImageShared_hasATableOfOpaqueGreys_whenIndexed()
-    {
-        const cv::Mat mat(2, 2, CV_8UC1, cv::Scalar(9));
-        const QImage image = QtOcv::matToImage_shared(mat, QImage::Format_Invalid);
-        QCOMPARE(image.colorCount(), 256);
-        for (int level = 0; level < 256; ++level)
-            QCOMPARE(image.color(level), qRgba(level, level, level, 255));
-        QVERIFY(QtOcv::matToImage_shared(mat, QImage::Format_Grayscale8).colorTable().isEmpty());
-    }
-
-    void matToImageShared_isNull_forAnEmptyMatrix()
-    {
-        QVERIFY(QtOcv::matToImage_shared(cv::Mat(), QImage::Format_ARGB32).isNull());
-        QVERIFY(QtOcv::matToImage_shared(cv::Mat(0, 5, CV_8UC4), QImage::Format_ARGB32).isNull());
-    }
-
     void imageToMat_isEmpty_forANullImage()
     {
         QVERIFY(QtOcv::imageToMat(QImage(), CV_8UC4, QtOcv::Bgr).empty());
@@ -235,9 +188,10 @@ private slots:
         QFETCH(QImage::Format, format);
         QFETCH(Values, pixel);
         const QImage image = filledImage(format, qRgba(255, 0, 0, 119));
-        if (pixel.isEmpty())
+        if (pixel.isEmpty()) {
             pixel = coarsePixel(image);
-        const cv::Mat mat = QtOcv::imageToMat(image, KeepChannels, QtOcv::Bgr);
+        }
+        const cv::Mat mat = QtOcv::imageToMat(image, keepChannels, QtOcv::Bgr);
         QCOMPARE(mat.cols, 5);
         QCOMPARE(mat.rows, 3);
         QCOMPARE(pixelAt(mat, 4, 2), pixel);
@@ -266,7 +220,7 @@ private slots:
         QImage image(9, 2, format);
         image.fill(0);
         image.setPixel(8, 1, 1);
-        const cv::Mat mat = QtOcv::imageToMat(image, KeepChannels, QtOcv::Bgr);
+        const cv::Mat mat = QtOcv::imageToMat(image, keepChannels, QtOcv::Bgr);
         QCOMPARE(mat.type(), CV_8UC1);
         QCOMPARE(pixelAt(mat, 8, 1), Values{1});
         QCOMPARE(pixelAt(mat, 7, 1), Values{0});
@@ -333,7 +287,7 @@ private slots:
         QTest::addColumn<QImage::Format>("format");
         QTest::addColumn<int>("type");
         QTest::newRow("grey, kept") << QImage::Format_Grayscale8 << CV_8UC(CV_CN_MAX);
-        QTest::newRow("argb, kept") << QImage::Format_ARGB32 << KeepChannels;
+        QTest::newRow("argb, kept") << QImage::Format_ARGB32 << keepChannels;
         QTest::newRow("argb") << QImage::Format_ARGB32 << CV_8UC4;
     }
     void imageToMat_isIndependent_whenNothingChanges()
@@ -380,132 +334,14 @@ private slots:
         QVERIFY(isClose(firstPixel<float>(reals), {1.0 / 255.0, 1.0, 1.0, 1.0}));
     }
 
-    void matToImage_isNull_forWhatItCannotConvert()
-    {
-        QVERIFY(QtOcv::matToImage(cv::Mat(), QtOcv::Bgr, QImage::Format_Invalid).isNull());
-        QVERIFY(
-            QtOcv::matToImage(cv::Mat(2, 2, CV_8UC2), QtOcv::Bgr, QImage::Format_Invalid).isNull());
-        QVERIFY(QtOcv::matToImage(cv::Mat(2, 2, CV_8UC(5)), QtOcv::Bgr, QImage::Format_Invalid)
-                    .isNull());
-    }
-
-    void matToImage_choosesTheFormat_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("order");
-        QTest::addColumn<QImage::Format>("hint");
-        QTest::addColumn<QImage::Format>("format");
-        QTest::addColumn<QRgb>("color");
-        const QRgb straight = qRgba(200, 100, 50, 25);
-        const QRgb opaque = qRgb(200, 100, 50);
-        const int bgr = QtOcv::Bgr;
-        const int rgb = QtOcv::Rgb;
-        const int argb = QtOcv::Argb;
-        const auto none = QImage::Format_Invalid;
-        for (const int order : {bgr, rgb, argb}) {
-            QTest::addRow("four, order %d, no hint", order)
-                << CV_8UC4 << order << none << QImage::Format_ARGB32 << straight;
-            QTest::addRow("four, order %d, RGB32", order)
-                << CV_8UC4 << order << QImage::Format_RGB32 << QImage::Format_RGB32 << opaque;
-            QTest::addRow("four, order %d, RGBA8888", order)
-                << CV_8UC4 << order << QImage::Format_RGBA8888 << QImage::Format_RGBA8888
-                << straight;
-            QTest::addRow("four, order %d, RGB16 by way of RGB32", order)
-                << CV_8UC4 << order << QImage::Format_RGB16 << QImage::Format_RGB16
-                << qRgb(206, 101, 49);
-            QTest::addRow("four, order %d, RGBA64 by way of ARGB32", order)
-                << CV_8UC4 << order << QImage::Format_RGBA64 << QImage::Format_RGBA64 << straight;
-            QTest::addRow("four, order %d, no format", order)
-                << CV_8UC4 << order << QImage::NImageFormats << QImage::Format_ARGB32 << straight;
-        }
-        for (const int order : {bgr, argb}) {
-            QTest::addRow("four, order %d, RGB888", order)
-                << CV_8UC4 << order << QImage::Format_RGB888 << QImage::Format_RGB888 << opaque;
-        }
-        // The hint cannot hold four channels: the samples are laid out B, G, R, A, and read R, G,
-        // B, A.
-        QTest::newRow("four, rgb, RGB888 exchanges") << CV_8UC4 << rgb << QImage::Format_RGB888
-                                                     << QImage::Format_RGB888 << qRgb(50, 100, 200);
-        for (const int order : {bgr, rgb}) {
-            QTest::addRow("three, order %d, no hint", order)
-                << CV_8UC3 << order << none << QImage::Format_RGB888 << opaque;
-            QTest::addRow("three, order %d, RGB32", order)
-                << CV_8UC3 << order << QImage::Format_RGB32 << QImage::Format_RGB32 << opaque;
-        }
-    }
-    void matToImage_choosesTheFormat()
-    {
-        QFETCH(int, type);
-        QFETCH(int, order);
-        QFETCH(QImage::Format, hint);
-        const auto matOrder = static_cast<QtOcv::MatColorOrder>(order);
-        const cv::Mat mat = QtOcv::imageToMat(
-            filledImage(QImage::Format_ARGB32, qRgba(200, 100, 50, 25)), type, matOrder);
-        const QImage image = QtOcv::matToImage(mat, matOrder, hint);
-        QTEST(image.format(), "format");
-        QCOMPARE(image.size(), QSize(5, 3));
-        QTEST(image.pixel(4, 2), "color");
-    }
-
-    void matToImage_choosesTheFormat_whenGrey_data()
-    {
-        QTest::addColumn<QImage::Format>("hint");
-        QTest::addColumn<QImage::Format>("format");
-        QTest::newRow("none") << QImage::Format_Invalid << QImage::Format_Indexed8;
-        QTest::newRow("Indexed8") << QImage::Format_Indexed8 << QImage::Format_Indexed8;
-        QTest::newRow("Grayscale8") << QImage::Format_Grayscale8 << QImage::Format_Grayscale8;
-        QTest::newRow("Alpha8") << QImage::Format_Alpha8 << QImage::Format_Alpha8;
-        QTest::newRow("RGB32") << QImage::Format_RGB32 << QImage::Format_RGB32;
-        QTest::newRow("ARGB32") << QImage::Format_ARGB32 << QImage::Format_ARGB32;
-    }
-    void matToImage_choosesTheFormat_whenGrey()
-    {
-        QFETCH(QImage::Format, hint);
-        const cv::Mat mat(3, 5, CV_8UC1, cv::Scalar(77));
-        const QImage image = QtOcv::matToImage(mat, QtOcv::Bgr, hint);
-        QTEST(image.format(), "format");
-        QCOMPARE(image.pixel(4, 2),
-                 hint == QImage::Format_Alpha8 ? qRgba(0, 0, 0, 77) : qRgb(77, 77, 77));
-    }
-
-    void matToImage_scalesSamples_whenDeeper()
-    {
-        const cv::Mat reals(2, 2, CV_32FC3, cv::Scalar(1.0, 0.2, 0.0));
-        const QImage fromReals = QtOcv::matToImage(reals, QtOcv::Bgr, QImage::Format_Invalid);
-        QCOMPARE(fromReals.pixel(1, 1), qRgb(0, 51, 255));
-        const cv::Mat words(2, 2, CV_16UC4, cv::Scalar(65025, 510, 255, 65535));
-        const QImage fromWords = QtOcv::matToImage(words, QtOcv::Bgr, QImage::Format_Invalid);
-        QCOMPARE(fromWords.pixel(1, 1), qRgba(1, 2, 255, 255));
-        const cv::Mat beyond(2, 2, CV_32FC1, cv::Scalar(7.0));
-        const QImage saturated = QtOcv::matToImage(beyond, QtOcv::Bgr, QImage::Format_Grayscale8);
-        QCOMPARE(saturated.pixel(1, 1), qRgb(255, 255, 255));
-    }
-
-    void matToImage_ownsItsPixels_data()
-    {
-        QTest::addColumn<int>("type");
-        for (const int type : {CV_8UC1, CV_8UC3, CV_8UC4, CV_16UC4, CV_32FC3})
-            QTest::addRow("%d", type) << type;
-    }
-    void matToImage_ownsItsPixels()
-    {
-        QFETCH(int, type);
-        cv::Mat mat(3, 5, type, cv::Scalar::all(1.0));
-        const QImage image = QtOcv::matToImage(mat, QtOcv::Rgb, QImage::Format_Invalid);
-        const QImage copy = image.copy();
-        mat.setTo(cv::Scalar::all(0.0));
-        QCOMPARE(image, copy);
-        mat.release();
-        QCOMPARE(image, copy);
-    }
-
     void conversions_areInverse_data()
     {
         QTest::addColumn<int>("depth");
         QTest::addColumn<int>("order");
         for (const int depth : {CV_8U, CV_16U, CV_32F}) {
-            for (const int order : {0, 1, 2})
+            for (const int order : {0, 1, 2}) {
                 QTest::addRow("depth %d, order %d", depth, order) << depth << order;
+            }
         }
     }
     void conversions_areInverse()

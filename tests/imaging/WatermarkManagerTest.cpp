@@ -10,14 +10,14 @@
 
 namespace {
 
-constexpr int ImageWidth = 640;
-constexpr int ImageHeight = 480;
-constexpr int XMargin = 15;
-constexpr int YMargin = 10;
+constexpr int imageWidth = 640;
+constexpr int imageHeight = 480;
+constexpr int xMargin = 15;
+constexpr int yMargin = 10;
 
 QImage blackImage(QImage::Format format = QImage::Format_ARGB32)
 {
-    QImage image(ImageWidth, ImageHeight, format);
+    QImage image(imageWidth, imageHeight, format);
     image.fill(Qt::black);
     return image;
 }
@@ -36,8 +36,9 @@ QRect boundsOf(const QImage& image, Condition holds)
     QRect bounds;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (holds(image.pixel(x, y)))
+            if (holds(image.pixel(x, y))) {
                 bounds |= QRect(x, y, 1, 1);
+            }
         }
     }
     return bounds;
@@ -56,8 +57,8 @@ void setUpText(WatermarkProfile& profile, const QString& text)
     profile.setTextFont(testFont());
     profile.setTextColor(Qt::white);
     profile.setTextShadowColor(Qt::transparent);
-    profile.setXMargin(XMargin);
-    profile.setYMargin(YMargin);
+    profile.setXMargin(xMargin);
+    profile.setYMargin(yMargin);
 }
 
 /// Saves the picture under the name where profiles look for it, and chooses it.
@@ -66,8 +67,8 @@ void setUpPicture(WatermarkProfile& profile, const QImage& picture, const QStrin
     QVERIFY(picture.save(WatermarkProfile::pathForImage(name)));
     profile.setWatermarkType(1);
     profile.setImageFile(name);
-    profile.setXMargin(XMargin);
-    profile.setYMargin(YMargin);
+    profile.setXMargin(xMargin);
+    profile.setYMargin(yMargin);
 }
 
 QImage draw(QImage image, WatermarkProfile& profile)
@@ -81,8 +82,9 @@ void addAnchors()
     const std::array<const char*, 9> names{"top left",    "top",    "top right",
                                            "left",        "centre", "right",
                                            "bottom left", "bottom", "bottom right"};
-    for (int index = 0; index < 9; ++index)
+    for (int index = 0; index < 9; ++index) {
         QTest::newRow(names[static_cast<std::size_t>(index)]) << index;
+    }
 }
 
 } // namespace
@@ -139,8 +141,8 @@ private slots:
         QFETCH(QSize, container);
         QFETCH(QSize, item);
         QFETCH(int, flags);
-        QTEST(WatermarkManager::getAlignedPoint(container, item, Qt::Alignment(flags), XMargin,
-                                                YMargin),
+        QTEST(WatermarkManager::getAlignedPoint(container, item, Qt::Alignment(flags), xMargin,
+                                                yMargin),
               "point");
     }
 
@@ -150,8 +152,9 @@ private slots:
         QFETCH(int, index);
         QImage picture(101, 51, QImage::Format_RGB32);
         for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x)
+            for (int x = 0; x < picture.width(); ++x) {
                 picture.setPixel(x, y, qRgb(2 * x, 5 * y, 255));
+            }
         }
         WatermarkProfile profile(nullptr);
         setUpPicture(profile, picture, QStringLiteral("gradient.png"));
@@ -162,8 +165,8 @@ private slots:
         const QPoint corner(lefts[static_cast<std::size_t>(index % 3)],
                             tops[static_cast<std::size_t>(index / 3)]);
         const QImage result = draw(blackImage(), profile);
-        for (int y = 0; y < ImageHeight; ++y) {
-            for (int x = 0; x < ImageWidth; ++x) {
+        for (int y = 0; y < imageHeight; ++y) {
+            for (int x = 0; x < imageWidth; ++x) {
                 const QPoint inside = QPoint(x, y) - corner;
                 QCOMPARE(result.pixel(x, y),
                          picture.valid(inside) ? picture.pixel(inside) : qRgb(0, 0, 0));
@@ -231,10 +234,10 @@ private slots:
         QImage expected = blackImage();
         const QFontMetrics metrics(testFont(), &expected);
         const QSize box = metrics.boundingRect(QRect(0, 0, 1000, 1000), Qt::AlignLeft, text).size();
-        const int freeWidth = ImageWidth - 2 * XMargin - box.width();
-        const int freeHeight = ImageHeight - 2 * YMargin - box.height();
-        const int left = XMargin + freeWidth * (index % 3) / 2;
-        const int top = YMargin + freeHeight * (index / 3) / 2;
+        const int freeWidth = imageWidth - 2 * xMargin - box.width();
+        const int freeHeight = imageHeight - 2 * yMargin - box.height();
+        const int left = xMargin + freeWidth * (index % 3) / 2;
+        const int top = yMargin + freeHeight * (index / 3) / 2;
         const QRect actual = boundsOf(result, isNotBlack);
         QPainter painter(&expected);
         painter.setFont(testFont());
@@ -248,8 +251,9 @@ private slots:
         QVERIFY(std::abs(actual.right() - wanted.right()) <= 1);
         QVERIFY(std::abs(actual.top() - wanted.top()) <= 1);
         QVERIFY(std::abs(actual.bottom() - wanted.bottom()) <= 1);
-        if (index == 0)
+        if (index == 0) {
             QCOMPARE(result, expected);
+        }
     }
 
     void text_takesTheWholeColor_whenAllIsOpaque()
@@ -259,7 +263,7 @@ private slots:
         profile.setTextColor(QColor(10, 200, 30));
         profile.setAlignmentIndex(4);
         const QImage result = draw(blackImage(), profile);
-        QCOMPARE(result.pixel(ImageWidth / 2, ImageHeight / 2), qRgb(10, 200, 30));
+        QCOMPARE(result.pixel(imageWidth / 2, imageHeight / 2), qRgb(10, 200, 30));
     }
 
     /// Compared with text of the multiplied alpha, because text is blended with gamma correction.
@@ -271,7 +275,7 @@ private slots:
         const auto redWith = [&profile](int colorAlpha, int opacity) {
             profile.setTextColor(QColor(255, 255, 255, colorAlpha));
             profile.setAlpha(opacity);
-            return qRed(draw(blackImage(), profile).pixel(ImageWidth / 2, ImageHeight / 2));
+            return qRed(draw(blackImage(), profile).pixel(imageWidth / 2, imageHeight / 2));
         };
         QCOMPARE(redWith(255, 255), 255);
         for (const int opacity : {64, 128, 200}) {
@@ -301,11 +305,11 @@ private slots:
         profile.setTextColor(QColor(0, 0, 255, 128));
         profile.setTextShadowColor(QColor(255, 0, 0));
         // Also without an offset: it shines through.
-        const QRgb both = draw(blackImage(), profile).pixel(ImageWidth / 2, ImageHeight / 2);
+        const QRgb both = draw(blackImage(), profile).pixel(imageWidth / 2, imageHeight / 2);
         QVERIFY(qRed(both) > 64 && qRed(both) < 192);
         QVERIFY(qBlue(both) > 64 && qBlue(both) < 192);
         profile.setTextColor(Qt::blue);
-        QCOMPARE(draw(blackImage(), profile).pixel(ImageWidth / 2, ImageHeight / 2),
+        QCOMPARE(draw(blackImage(), profile).pixel(imageWidth / 2, imageHeight / 2),
                  qRgb(0, 0, 255));
     }
 
@@ -342,8 +346,9 @@ private slots:
         QFETCH(int, type);
         QImage image(64, 64, QImage::Format_ARGB32);
         for (int y = 0; y < 64; ++y) {
-            for (int x = 0; x < 64; ++x)
+            for (int x = 0; x < 64; ++x) {
                 image.setPixel(x, y, qRgba(4 * x, 4 * y, 200, x + y));
+            }
         }
         QImage picture(60, 60, QImage::Format_ARGB32);
         picture.fill(Qt::white);
@@ -384,8 +389,9 @@ private slots:
         QTest::addColumn<QImage::Format>("format");
         for (const auto format :
              {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_Grayscale8,
-              QImage::Format_RGB888, QImage::Format_RGB32, QImage::Format_RGBA8888})
+              QImage::Format_RGB888, QImage::Format_RGB32, QImage::Format_RGBA8888}) {
             QTest::addRow("%d", format) << format;
+        }
     }
     void text_isDrawn_onEveryFormat()
     {
@@ -395,7 +401,7 @@ private slots:
         profile.setAlignmentIndex(4);
         const QImage result =
             draw(blackImage(QImage::Format_RGB32).convertToFormat(format), profile);
-        QCOMPARE(result.pixel(ImageWidth / 2, ImageHeight / 2), qRgb(255, 255, 255));
+        QCOMPARE(result.pixel(imageWidth / 2, imageHeight / 2), qRgb(255, 255, 255));
         QCOMPARE(result.pixel(0, 0), qRgb(0, 0, 0));
     }
 };

@@ -59,8 +59,9 @@ private:
     static QString iniFile(const QTemporaryDir& folder, const char* text)
     {
         QFile file(folder.filePath(QStringLiteral("sample.ini")));
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0)
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0) {
             qFatal("The settings file of the case cannot be written");
+        }
         return file.fileName();
     }
 
@@ -79,8 +80,9 @@ private slots:
     void constructor_givesEachProfileAnotherId()
     {
         QSet<QString> ids;
-        for (int i = 0; i < 1000; ++i)
+        for (int i = 0; i < 1000; ++i) {
             ids.insert(BaseProfile().id());
+        }
         QCOMPARE(ids.size(), 1000);
     }
 

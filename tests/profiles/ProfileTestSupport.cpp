@@ -35,8 +35,9 @@ bool TestHome::copySettingsFile(const QString& from, const QString& to) const
 
 ProfileKeeper::~ProfileKeeper()
 {
-    for (const QPointer<BaseProfile>& profile : qAsConst(m_made))
+    for (const QPointer<BaseProfile>& profile : qAsConst(m_made)) {
         delete profile.data();
+    }
 }
 
 void forgetProfiles(ProfileManager& manager, const QString& fileName)
@@ -45,8 +46,9 @@ void forgetProfiles(ProfileManager& manager, const QString& fileName)
     manager.setLastUsedProfile(nullptr);
     QFile::remove(ProfileManager::getSettingsPath(fileName));
     manager.loadProfilesFromFile();
-    if (!manager.profiles().isEmpty())
+    if (!manager.profiles().isEmpty()) {
         qFatal("profiles are left");
+    }
     qDeleteAll(profiles);
 }
 
@@ -55,8 +57,9 @@ QStringList persistedPropertyNames(const QMetaObject& type)
     QStringList names;
     for (int index = 0; index < type.propertyCount(); ++index) {
         const QMetaProperty property = type.property(index);
-        if (property.isStored() && property.isWritable())
+        if (property.isStored() && property.isWritable()) {
             names.append(QString::fromLatin1(property.name()));
+        }
     }
     return names;
 }

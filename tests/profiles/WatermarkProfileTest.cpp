@@ -98,11 +98,13 @@ private slots:
         QTest::addColumn<int>("index");
         QTest::addColumn<int>("flags");
         const QList<int> flags{33, 36, 34, 129, 132, 130, 65, 68, 66};
-        for (int index = 0; index < flags.size(); ++index)
+        for (int index = 0; index < flags.size(); ++index) {
             QTest::addRow("%d", index) << index << flags.at(index);
+        }
         for (const int index :
-             {-1, 9, 100, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
+             {-1, 9, 100, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
             QTest::addRow("%d", index) << index << 66;
+        }
     }
 
     void alignmentFromIndex_givesFlags()

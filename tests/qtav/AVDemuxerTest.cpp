@@ -72,8 +72,9 @@ void AVDemuxerTest::load_fails_forWhatIsNoVideoFile_data()
     QTest::newRow("device") << QStringLiteral("/dev/zero");
     QTest::newRow("address") << QStringLiteral("http://127.0.0.1:9/video.mp4");
     for (const Sample& sample : testsupport::brokenSamples()) {
-        if (sample.has(Trait::Unopenable))
+        if (sample.has(Trait::Unopenable)) {
             QTest::newRow(qPrintable(sample.file)) << testsupport::samplePath(sample.file);
+        }
     }
 }
 
@@ -121,8 +122,9 @@ void AVDemuxerTest::load_opensFiles_withAnyName_data()
 {
     QTest::addColumn<QString>("name");
     for (const char* name : {"a b.c.mp4", "it's \"quoted\".mp4", "видео 视频.mp4", "100%d.mp4",
-                             "http:x.mp4", "-flag.mp4", "a|b#c?d.mp4"})
+                             "http:x.mp4", "-flag.mp4", "a|b#c?d.mp4"}) {
         QTest::newRow(name) << QString::fromUtf8(name);
+    }
 }
 
 void AVDemuxerTest::load_opensFiles_withAnyName()
@@ -177,8 +179,9 @@ void AVDemuxerTest::load_succeeds_afterAFailure()
 void AVDemuxerTest::duration_isMeasured_whereTheHeaderDoesNotTell_data()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::allVideoSamples())
+    for (const Sample& sample : testsupport::allVideoSamples()) {
         QTest::newRow(qPrintable(sample.file)) << sample.file;
+    }
 }
 
 void AVDemuxerTest::duration_isMeasured_whereTheHeaderDoesNotTell()
@@ -192,23 +195,25 @@ void AVDemuxerTest::duration_isMeasured_whereTheHeaderDoesNotTell()
     const qint64 beforeLast = testsupport::frameTimeMs(sample, std::max(0, sample.frames - 2));
     const qint64 end = std::max(last + (last - beforeLast), sample.soundEndMs);
     // Some containers state the start of the last frame, others its end; sound may last longer.
-    constexpr qint64 LongerSoundMs = 1100;
+    constexpr qint64 longerSoundMs = 1100;
     QVERIFY2(demuxer.duration() >= beforeLast, qPrintable(QString::number(demuxer.duration())));
-    QVERIFY2(demuxer.duration() <= end + LongerSoundMs,
+    QVERIFY2(demuxer.duration() <= end + longerSoundMs,
              qPrintable(QString::number(demuxer.duration())));
     // FFmpeg reads an FLV's length from its last tag, and does not tell that from a stated one.
-    if (sample.has(Trait::NoStatedDuration) && !file.endsWith(QLatin1String(".flv")))
+    if (sample.has(Trait::NoStatedDuration) && !file.endsWith(QLatin1String(".flv"))) {
         QCOMPARE(demuxer.durationSource(), AVDemuxer::DurationSource::Scan);
-    else
+    } else {
         QVERIFY(demuxer.durationSource() != AVDemuxer::DurationSource::Unknown);
+    }
 }
 
 void AVDemuxerTest::coverPicture_isNoVideoStream()
 {
     int found = 0;
     for (const Sample& sample : testsupport::allVideoSamples()) {
-        if (!sample.has(Trait::CoverArt))
+        if (!sample.has(Trait::CoverArt)) {
             continue;
+        }
         ++found;
         AVDemuxer demuxer;
         demuxer.setMedia(testsupport::samplePath(sample.file));
@@ -236,8 +241,9 @@ void AVDemuxerTest::soundAlone_hasNoVideoStream()
 void AVDemuxerTest::streams_areChosenByTheirPlace()
 {
     for (const Sample& sample : testsupport::allVideoSamples()) {
-        if (!sample.has(Trait::TwoVideoStreams))
+        if (!sample.has(Trait::TwoVideoStreams)) {
             continue;
+        }
         Player player(testsupport::samplePath(sample.file));
         QCOMPARE(player.demuxer.videoStreams().size(), 2);
         QVERIFY(!player.demuxer.setStreamIndex(AVDemuxer::VideoStream, 2));
@@ -260,8 +266,9 @@ void AVDemuxerTest::sound_isReadOnlyWhenSelected()
     const auto readsSound = [&demuxer] {
         bool found = false;
         while (!demuxer.atEnd()) {
-            if (demuxer.readFrame())
+            if (demuxer.readFrame()) {
                 found = found || demuxer.stream() != demuxer.videoStream();
+            }
         }
         return found;
     };
@@ -301,14 +308,14 @@ void AVDemuxerTest::seek_takesExtremePositions()
     AVDemuxer demuxer;
     demuxer.setMedia(testsupport::samplePath(sample.file));
     QVERIFY(demuxer.load());
-    constexpr qint64 Most = std::numeric_limits<qint64>::max();
-    for (const qint64 ms : {-Most - 1, qint64(-1)}) {
+    constexpr qint64 most = std::numeric_limits<qint64>::max();
+    for (const qint64 ms : {-most - 1, qint64(-1)}) {
         QVERIFY(demuxer.seek(ms));
         QVERIFY(demuxer.readFrame());
         QCOMPARE(static_cast<qint64>(demuxer.packet().pts * 1000.0),
                  testsupport::frameTimeMs(sample, keyFrames.constFirst()));
     }
-    QVERIFY(demuxer.seek(Most));
+    QVERIFY(demuxer.seek(most));
     QVERIFY(demuxer.readFrame());
     QCOMPARE(static_cast<qint64>(demuxer.packet().pts * 1000.0),
              testsupport::frameTimeMs(sample, keyFrames.constLast()));
@@ -343,27 +350,30 @@ void AVDemuxerTest::end_isReachedByDrainPackets_ofTheVideoStream()
 void AVDemuxerTest::brokenFiles_endInBoundedTime_data()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::brokenSamples())
+    for (const Sample& sample : testsupport::brokenSamples()) {
         QTest::newRow(qPrintable(sample.file)) << sample.file;
+    }
 }
 
 void AVDemuxerTest::brokenFiles_endInBoundedTime()
 {
     QFETCH(QString, file);
-    constexpr qint64 MostMs = 60000;
+    constexpr qint64 mostMs = 60000;
     QElapsedTimer timer;
     timer.start();
     Player player(testsupport::samplePath(file));
     for (const qint64 ms : {0, 1000, 1500, 3000, 100000}) {
-        if (!player.isReady() || !player.demuxer.seek(ms))
+        if (!player.isReady() || !player.demuxer.seek(ms)) {
             continue;
+        }
         player.decoder->flush();
         const QList<Shown> all = player.showRest();
-        for (int i = 1; i < all.size(); ++i)
+        for (int i = 1; i < all.size(); ++i) {
             QVERIFY(all.at(i).ms >= all.at(i - 1).ms);
+        }
         QVERIFY(player.demuxer.atEnd());
     }
-    QVERIFY(timer.elapsed() < MostMs);
+    QVERIFY(timer.elapsed() < mostMs);
 }
 
 void AVDemuxerTest::packets_areInvalid_whenNeverRead()

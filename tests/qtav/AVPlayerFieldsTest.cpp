@@ -39,7 +39,7 @@ qint64 stepField(Stage& stage, void (AVPlayer::*step)())
 {
     QSignalSpy positions(&stage.player, &AVPlayer::positionChanged);
     (stage.player.*step)();
-    const bool hasMoved = positions.count() > 0 || positions.wait(Patience);
+    const bool hasMoved = positions.count() > 0 || positions.wait(patienceMs);
     return hasMoved ? stage.player.displayPosition() : -1;
 }
 
@@ -97,7 +97,7 @@ void AVPlayerFieldsTest::capture_isAsOnScreen_whateverIsChosen()
         }
         QSignalSpy captured(stage.player.videoCapture(), &QtAV::VideoCapture::imageCaptured);
         stage.player.videoCapture()->capture();
-        QVERIFY(captured.count() > 0 || captured.wait(Patience));
+        QVERIFY(captured.count() > 0 || captured.wait(patienceMs));
         const QImage image = captured.at(0).at(0).value<QImage>();
         QVERIFY(image == stage.screen.frame.toImage(image.format()));
     }

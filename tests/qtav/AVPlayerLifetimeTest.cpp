@@ -16,15 +16,16 @@ namespace {
 /// So many turns of the event loop.
 void turnEventLoop(int times)
 {
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times; ++i) {
         QCoreApplication::processEvents();
+    }
 }
 
 /// Thread sanitizer makes starting and ending threads many times as slow.
 #ifdef __SANITIZE_THREAD__
-constexpr int Rounds = 100;
+constexpr int roundCount = 100;
 #else
-constexpr int Rounds = 500;
+constexpr int roundCount = 500;
 #endif
 
 /// What the process holds that would be missed if it were not given back.
@@ -62,8 +63,9 @@ Resources settledResources()
     while (quiet.elapsed() < 500) {
         QTest::qWait(20);
         const Resources next = now();
-        if (!(next == last))
+        if (!(next == last)) {
             quiet.restart();
+        }
         last = next;
     }
     return last;
@@ -112,14 +114,15 @@ void AVPlayerLifetimeTest::player_canEnd_inTheMiddleOf()
             stage->player.play(testsupport::samplePath(file));
         } else {
             QVERIFY(stage->open(file));
-            if (activity == QLatin1String("playing"))
+            if (activity == QLatin1String("playing")) {
                 stage->player.play();
-            else if (activity == QLatin1String("seeking"))
+            } else if (activity == QLatin1String("seeking")) {
                 stage->player.seek(4000 + round);
-            else if (activity == QLatin1String("stepping"))
+            } else if (activity == QLatin1String("stepping")) {
                 stage->player.stepForward();
-            else
+            } else {
                 QVERIFY(stage->seek(4000));
+            }
         }
         turnEventLoop(turns);
         stage.reset();
@@ -134,8 +137,9 @@ void AVPlayerLifetimeTest::player_canEnd_withAnsweredButUnreadCommands()
         QVERIFY(stage->open(QStringLiteral("h264_baseline.mp4")));
         // This one's answer shows that the decoding thread is running; the next are not waited for.
         QVERIFY(stage->seek(400));
-        for (int i = 0; i < round; ++i)
+        for (int i = 0; i < round; ++i) {
             stage->player.stepForward();
+        }
     }
 }
 
@@ -145,13 +149,14 @@ void AVPlayerLifetimeTest::files_canBeOpenedAndClosed_manyTimes()
     const QStringList files{QStringLiteral("vp8.webm"), QStringLiteral("mpeg2.ts"),
                             QStringLiteral("sound.mp4"), QStringLiteral("variable_rate.mkv")};
     std::optional<Resources> before;
-    for (int round = 0; round < Rounds; ++round) {
+    for (int round = 0; round < roundCount; ++round) {
         QVERIFY(stage.open(files.at(round % files.size())));
         QCOMPARE(stage.number(), 0);
         stage.player.stop();
         QVERIFY(!stage.screen.frame.isValid());
-        if (round == files.size())
+        if (round == files.size()) {
             before = settledResources();
+        }
     }
     QCOMPARE(settledResources(), *before);
 }
@@ -197,8 +202,9 @@ void AVPlayerLifetimeTest::commands_inAnyOrder_leaveAPlayerThatWorks()
             stage.player.stepBackward();
             break;
         case 6:
-            if (random() % 4 == 0)
+            if (random() % 4 == 0) {
                 stage.player.stop();
+            }
             break;
         case 7:
             stage.player.videoCapture()->capture();
@@ -223,9 +229,9 @@ void AVPlayerLifetimeTest::players_comeAndGo_withoutLeavingAnything()
     std::optional<Resources> before;
     std::mt19937 random(29);
     auto stage = std::make_unique<Stage>();
-    for (int round = 0; round < Rounds; ++round) {
+    for (int round = 0; round < roundCount; ++round) {
         // By then, what is made once for all players has been made.
-        if (round == Rounds / 10) {
+        if (round == roundCount / 10) {
             stage.reset();
             before = settledResources();
             stage = std::make_unique<Stage>();
@@ -288,8 +294,8 @@ void AVPlayerLifetimeTest::player_canBeStoppedAndPlayed_byItsOwnSignals()
         }
     });
     stage.player.play(testsupport::samplePath(QStringLiteral("h264_baseline.mp4")));
-    QTRY_COMPARE_WITH_TIMEOUT(rounds, 5, Patience);
-    QTRY_VERIFY_WITH_TIMEOUT(stage.number() > 2, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(rounds, 5, patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.number() > 2, patienceMs);
     QVERIFY(stage.player.isPlaying());
 }
 

@@ -16,25 +16,27 @@ namespace {
 #ifdef __SANITIZE_THREAD__
 // The threads do the same for all files, and thread sanitizer takes minutes for what some decoders
 // copy: one file for the steps and one for the moves will do there.
-constexpr int MostFiles = 1;
-constexpr int Moves = 200;
+constexpr int mostFiles = 1;
+constexpr int moveCount = 200;
 #else
-constexpr int MostFiles = 100;
-constexpr int Moves = 1000;
+constexpr int mostFiles = 100;
+constexpr int moveCount = 1000;
 #endif
 
 void addFiles(const QStringList& files)
 {
     QTest::addColumn<QString>("file");
-    for (const QString& file : files.mid(0, MostFiles))
+    for (const QString& file : files.mid(0, mostFiles)) {
         QTest::newRow(qPrintable(file)) << file;
+    }
 }
 
 QStringList namesOf(std::initializer_list<const char*> files)
 {
     QStringList names;
-    for (const char* file : files)
+    for (const char* file : files) {
         names.append(QString::fromLatin1(file));
+    }
     return names;
 }
 
@@ -78,16 +80,18 @@ void AVPlayerSeekTest::steps_meetEveryFrameOnce_toTheEndAndBack()
     Stage stage;
     QVERIFY(stage.open(file));
     QList<Shown> expected = expectedFrom(sample, 0);
-    for (int n = 1; n < sample.frames; ++n)
+    for (int n = 1; n < sample.frames; ++n) {
         QVERIFY(stage.stepForward());
+    }
     QCOMPARE(stage.screen.shown, expected);
     stage.player.stepForward(); // there is none
     stage.settle();
     QCOMPARE(stage.screen.shown.size(), sample.frames);
 
     stage.screen.shown = {stage.screen.shown.constLast()};
-    for (int n = 1; n < sample.frames; ++n)
+    for (int n = 1; n < sample.frames; ++n) {
         QVERIFY(stage.stepBackward());
+    }
     std::reverse(expected.begin(), expected.end());
     QCOMPARE(stage.screen.shown, expected);
     stage.player.stepBackward(); // there is none
@@ -99,12 +103,14 @@ void AVPlayerSeekTest::steps_addUpToALimit_whenNobodyWaits()
 {
     Stage stage;
     QVERIFY(stage.open(QStringLiteral("h264_bframes.mp4")));
-    for (int i = 0; i < 30; ++i)
+    for (int i = 0; i < 30; ++i) {
         stage.player.stepForward();
-    for (int i = 0; i < 10; ++i)
+    }
+    for (int i = 0; i < 10; ++i) {
         stage.player.stepBackward();
+    }
     stage.settle();
-    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 20, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 20, patienceMs);
     QVERIFY(stage.screen.shown.size() <= 41);
 }
 
@@ -112,13 +118,13 @@ void AVPlayerSeekTest::step_pauses_whilePlaying_andGoesFromTheFrameOnScreen()
 {
     Stage stage;
     stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 10, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 10, patienceMs);
     const int number = stage.number();
     QVERIFY(stage.stepBackward());
     QVERIFY(stage.player.isPaused());
     QCOMPARE(stage.number(), number - 1);
     stage.player.play();
-    QTRY_VERIFY_WITH_TIMEOUT(stage.number() > number + 2, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.number() > number + 2, patienceMs);
     const int later = stage.number();
     QVERIFY(stage.stepForward());
     QCOMPARE(stage.number(), later + 1);
@@ -142,7 +148,7 @@ void AVPlayerSeekTest::mixedStepsAndSeeks_endOnTheRightFrame()
     QVERIFY(stage.open(file));
     int n = 0;
     std::mt19937 random(11);
-    for (int moves = 0; moves < Moves; ++moves) {
+    for (int moves = 0; moves < moveCount; ++moves) {
         const auto choice = random() % 10;
         if (choice < 4 && n < last) {
             QVERIFY(stage.stepForward());
@@ -158,14 +164,15 @@ void AVPlayerSeekTest::mixedStepsAndSeeks_endOnTheRightFrame()
             } else {
                 const int steps = int(random() % 7) - 3;
                 stage.player.setPosition(ms);
-                for (int i = 0; i < std::abs(steps); ++i)
+                for (int i = 0; i < std::abs(steps); ++i) {
                     steps > 0 ? stage.player.stepForward() : stage.player.stepBackward();
+                }
                 n = std::clamp(n + steps, 0, last);
             }
         }
         const Shown expected{sample.firstNumber + n, testsupport::frameTimeMs(sample, n)};
         QSignalSpy presented(&stage.screen, &Screen::presented);
-        while (!(shown(stage.screen.frame) == expected) && presented.wait(Patience)) {
+        while (!(shown(stage.screen.frame) == expected) && presented.wait(patienceMs)) {
         }
         QCOMPARE(shown(stage.screen.frame), expected);
         QCOMPARE(stage.player.displayPosition(), expected.ms);
@@ -180,11 +187,11 @@ void AVPlayerSeekTest::positions_areClamped()
     stage.player.setPosition(-600);
     QCOMPARE(stage.player.position(), qint64(0));
     QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
-    QVERIFY(sought.wait(Patience));
+    QVERIFY(sought.wait(patienceMs));
     QCOMPARE(stage.number(), 0);
     stage.player.setPosition(3600000);
     QCOMPARE(stage.player.position(), stage.player.duration());
-    QVERIFY(sought.wait(Patience));
+    QVERIFY(sought.wait(patienceMs));
     QCOMPARE(stage.number(), 99);
     QCOMPARE(stage.player.position(), qint64(3960));
     QVERIFY(stage.stepBackward());
@@ -195,8 +202,9 @@ void AVPlayerSeekTest::seek_showsTheFirstFrameAtOrAfter_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"variable_rate.mp4", "h264_23976fps.mkv", "h264.ts", "wmv2.wmv",
-                             "h264_bframes.avi", "sound_earlier.mkv", "no_cues.webm"})
+                             "h264_bframes.avi", "sound_earlier.mkv", "no_cues.webm"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void AVPlayerSeekTest::seek_showsTheFirstFrameAtOrAfter()
@@ -227,7 +235,7 @@ void AVPlayerSeekTest::seek_beforeTheFileIsOpen_isCarriedOut()
     stage.player.pause();
     stage.player.setPosition(1000);
     stage.player.setPosition(2000);
-    QVERIFY(sought.wait(Patience));
+    QVERIFY(sought.wait(patienceMs));
     stage.settle();
     QCOMPARE(sought.count(), 1);
     QCOMPARE(stage.number(), 50);
@@ -237,15 +245,16 @@ void AVPlayerSeekTest::seek_playsOn_whilePlaying()
 {
     Stage stage;
     stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
     for (const int n : {300, 100, 480, 20}) {
         stage.screen.shown.clear();
         QVERIFY(stage.seek(n * 40));
         QVERIFY(stage.player.isPlaying());
-        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 4, Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 4, patienceMs);
         QCOMPARE(stage.screen.shown.constFirst().number, n);
-        for (int i = 1; i < stage.screen.shown.size(); ++i)
+        for (int i = 1; i < stage.screen.shown.size(); ++i) {
             QVERIFY(stage.screen.shown.at(i).number > stage.screen.shown.at(i - 1).number);
+        }
     }
 }
 
@@ -287,25 +296,27 @@ void AVPlayerSeekTest::newestSeek_wins_andAloneIsAnswered()
     QVERIFY(stage.open(file));
     if (plays) {
         stage.player.play();
-        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 2, Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 2, patienceMs);
     }
     QSignalSpy sought(&stage.player, &AVPlayer::seekFinished);
     std::mt19937 random(5);
     stage.screen.shown.clear();
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         stage.player.seek(qint64(random() % 20000));
+    }
     stage.player.seek(newest);
-    QVERIFY(sought.wait(Patience));
+    QVERIFY(sought.wait(patienceMs));
     QCOMPARE(sought.at(0).at(0).toLongLong(), expected.ms);
     QCOMPARE(stage.screen.shown.constFirst(), expected);
     stage.settle();
     QCOMPARE(sought.count(), 1);
-    if (!plays)
+    if (!plays) {
         QCOMPARE(stage.screen.shown.size(), 1);
-    else if (newest > stage.player.duration())
+    } else if (newest > stage.player.duration()) {
         QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
-    else
-        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    } else {
+        QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
+    }
 }
 
 /// With the event loop between them each may be answered, but the last one is.
@@ -320,7 +331,7 @@ void AVPlayerSeekTest::newestSeek_wins_whenOthersAreAnswered()
         QCoreApplication::processEvents();
     }
     stage.player.seek(4000);
-    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 100, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 100, patienceMs);
     const int answers = sought.count();
     QVERIFY(answers <= 201);
     stage.settle();

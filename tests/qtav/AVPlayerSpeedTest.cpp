@@ -86,7 +86,7 @@ void AVPlayerSpeedTest::sound_isPlayed_betweenHalfAndDouble()
     const qint64 before = stage.player.position();
     stage.player.setSpeed(speed);
     stage.player.play();
-    QTRY_VERIFY_WITH_TIMEOUT(stage.player.position() > before + 120, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.player.position() > before + 120, patienceMs);
     QCOMPARE(devices.record.heardBytes > 0, isHeard);
 }
 
@@ -96,22 +96,22 @@ void AVPlayerSpeedTest::sound_goesOnFromThePicture_whenTheSpeedChanges()
     Stage stage;
     QVERIFY(stage.open(QStringLiteral("sound.mp4")));
     stage.player.play();
-    QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > 0, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > 0, patienceMs);
     const int started = devices.record.started;
     stage.player.setSpeed(2.0);
     QVERIFY(stage.player.isPlaying());
-    QTRY_VERIFY_WITH_TIMEOUT(devices.record.started > started, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(devices.record.started > started, patienceMs);
     stage.player.setSpeed(4.0);
     const int startedBefore = devices.record.started;
     const qint64 position = stage.player.position();
-    QTRY_VERIFY_WITH_TIMEOUT(stage.player.position() > position + 200, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.player.position() > position + 200, patienceMs);
     QCOMPARE(devices.record.started.load(), startedBefore);
 }
 
 /// Pictures that followed what is heard, and not twice that, would need twice as much of it.
 void AVPlayerSpeedTest::sound_tellsTheTime_atItsSpeed()
 {
-    constexpr double bytesASecond = Rate * 4.0;
+    constexpr double bytesASecond = rate * 4.0;
     constexpr qint64 reachedMs = 1600; // the sound is 2.4 s long
     const Devices devices;
     Stage stage;
@@ -126,7 +126,7 @@ void AVPlayerSpeedTest::sound_tellsTheTime_atItsSpeed()
         }
     });
     stage.player.play();
-    QTRY_VERIFY_WITH_TIMEOUT(heard > 0.0, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(heard > 0.0, patienceMs);
     QVERIFY2(heard > 0.5 && heard < 1.1, QByteArray::number(heard).constData());
 }
 

@@ -79,8 +79,9 @@ void AVPlayerTest::play_showsEveryFrame_andPausesOnTheLast()
     QCOMPARE(stage.player.notifyInterval(), 40);
     // A machine under load may drop some, but shows none twice or out of order.
     const QList<Shown> all = stage.screen.shown;
-    for (int i = 1; i < all.size(); ++i)
+    for (int i = 1; i < all.size(); ++i) {
         QVERIFY(all.at(i).number > all.at(i - 1).number);
+    }
     QCOMPARE(all.size() + stage.player.statistics().droppedFrames, sample.frames);
     QCOMPARE(all.constLast(), expectedFrom(sample, 0).constLast());
 }
@@ -96,7 +97,7 @@ void AVPlayerTest::play_startsOver_fromTheEnd()
     stage.screen.shown.clear();
     stage.player.play();
     QVERIFY(stage.player.isPlaying());
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
     QCOMPARE(stage.screen.shown.constFirst().number, 0);
     QCOMPARE(stage.player.mediaStatus(), QtAV::LoadedMedia);
     QVERIFY(stage.screen.shown.constLast().number < 40);
@@ -120,13 +121,14 @@ void AVPlayerTest::play_startsOver_fromTheLastFrame_howeverItCameThere()
     stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
     QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
     QVERIFY(stage.seek(position));
-    for (int i = 0; i < steps; ++i)
+    for (int i = 0; i < steps; ++i) {
         stage.player.stepForward();
-    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 49, Patience);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(stage.number(), 49, patienceMs);
     stage.settle();
     stage.screen.shown.clear();
     stage.player.play();
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
     QCOMPARE(stage.screen.shown.constFirst().number, 0);
     QVERIFY(stage.player.isPlaying());
     // Once, not for ever.
@@ -176,7 +178,7 @@ void AVPlayerTest::playback_stops_atTheEnd_whenToldSo()
     QVERIFY(stage.seek(1900));
     QSignalSpy stopped(&stage.player, &AVPlayer::stopped);
     stage.player.play();
-    QVERIFY(stopped.wait(Patience));
+    QVERIFY(stopped.wait(patienceMs));
     QCOMPARE(stage.player.state(), AVPlayer::StoppedState);
     QVERIFY(!stage.player.isLoaded());
 }
@@ -185,8 +187,9 @@ void AVPlayerTest::playback_ends_forEachFormat_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"variable_rate.mkv", "mpeg2.ts", "h264_one_frame.mp4", "sound.mp4",
-                             "edit_list.mp4", "raw.h264", "mpeg4_packed_bframes.avi"})
+                             "edit_list.mp4", "raw.h264", "mpeg4_packed_bframes.avi"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void AVPlayerTest::playback_ends_forEachFormat()
@@ -208,7 +211,7 @@ void AVPlayerTest::pause_andPlay_changeTheState_andAreSignalled()
     Stage stage;
     QSignalSpy paused(&stage.player, &AVPlayer::paused);
     stage.player.play(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")));
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
     stage.player.pause();
     QVERIFY(stage.player.isPaused());
     QVERIFY(!stage.player.isPlaying());
@@ -222,7 +225,7 @@ void AVPlayerTest::pause_andPlay_changeTheState_andAreSignalled()
     QVERIFY(stage.player.isPlaying());
     QCOMPARE(paused.count(), 2);
     QCOMPARE(paused.at(1).at(0).toBool(), false);
-    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() > before, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() > before, patienceMs);
     QCOMPARE(stage.screen.shown.at(before).number, stage.screen.shown.at(before - 1).number + 1);
 }
 
@@ -276,8 +279,9 @@ void AVPlayerTest::unplayableFile_endsInvalidAndStopped_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"empty.mp4", "text.mp4", "random_bytes.mp4", "folder.mp4",
-                             "truncated_without_moov.mp4", "sound_only.mp3", "missing.mp4"})
+                             "truncated_without_moov.mp4", "sound_only.mp3", "missing.mp4"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void AVPlayerTest::unplayableFile_endsInvalidAndStopped()
@@ -372,7 +376,7 @@ void AVPlayerTest::capture_givesTheFrameOnScreen_asADecoderDoes()
     QSignalSpy captured(stage.player.videoCapture(), &QtAV::VideoCapture::imageCaptured);
     stage.player.videoCapture()->capture();
     QCOMPARE(captured.count(), 0); // answered later
-    QVERIFY(captured.wait(Patience));
+    QVERIFY(captured.wait(patienceMs));
     QCOMPARE(captured.count(), 1);
     const auto image = captured.at(0).at(0).value<QImage>();
     QCOMPARE(image.hasAlphaChannel(), sample.has(testsupport::Trait::Alpha));
@@ -386,8 +390,9 @@ void AVPlayerTest::capture_givesTheFrameOnScreen_asADecoderDoes()
     while (const auto packet = decoded.nextVideoPacket()) {
         const bool succeeded = decoded.decoder->decode(*packet);
         const QtAV::VideoFrame frame = succeeded ? decoded.decoder->frame() : QtAV::VideoFrame();
-        if (frame.isValid() && count++ == n)
+        if (frame.isValid() && count++ == n) {
             expected = frame.toImage(frame.imageFormat());
+        }
     }
     QVERIFY(!expected.isNull());
     QVERIFY(image == expected);
@@ -398,11 +403,11 @@ void AVPlayerTest::capture_fails_withoutAFrame()
     Stage stage;
     QSignalSpy failed(stage.player.videoCapture(), &QtAV::VideoCapture::failed);
     stage.player.videoCapture()->capture();
-    QVERIFY(failed.wait(Patience));
+    QVERIFY(failed.wait(patienceMs));
     QVERIFY(stage.open(QStringLiteral("h264_baseline.mp4")));
     stage.player.stop();
     stage.player.videoCapture()->capture();
-    QVERIFY(failed.wait(Patience));
+    QVERIFY(failed.wait(patienceMs));
 }
 
 void AVPlayerTest::statistics_tellTheSizeOnScreen()
@@ -425,7 +430,7 @@ void AVPlayerTest::renderer_mayGo_beforeThePlayer()
     }
     QVERIFY(!player.renderer());
     player.play(testsupport::samplePath(QStringLiteral("h264_baseline.mp4")));
-    QTRY_VERIFY_WITH_TIMEOUT(player.displayedFrame().isValid(), Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(player.displayedFrame().isValid(), patienceMs);
 }
 
 QTEST_GUILESS_MAIN(AVPlayerTest)

@@ -25,8 +25,9 @@ struct Filled
     explicit Filled(const char* file)
     {
         QString error;
-        if (!reader.open(testsupport::samplePath(QString::fromLatin1(file)), never, error))
+        if (!reader.open(testsupport::samplePath(QString::fromLatin1(file)), never, error)) {
             qFatal("%s", qPrintable(error));
+        }
     }
 
     FrameReader reader;
@@ -72,8 +73,9 @@ void BackwardFillTest::pass_endsWithTheFrameBefore_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"h264_gop250.mp4", "h264_open_gop_bframes.mp4", "hevc_open_gop.mp4",
-                             "mpeg2.ts", "h264_bframes.mp4"})
+                             "mpeg2.ts", "h264_bframes.mp4"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void BackwardFillTest::pass_endsWithTheFrameBefore()
@@ -85,8 +87,9 @@ void BackwardFillTest::pass_endsWithTheFrameBefore()
         const double target = double(testsupport::frameTimeMs(sample, n)) / 1000.0;
         filled.reader.seek(qint64(target * 1000.0));
         QtAV::VideoFrame frame;
-        while (frame.timestamp() < target - 0.0005 || !frame.isValid())
+        while (frame.timestamp() < target - 0.0005 || !frame.isValid()) {
             frame = filled.reader.next(never).frame;
+        }
         filled.fill.start(frame.timestamp(), 0);
         QVERIFY(filled.fill.isUnderWay());
         const FrameResult result = filled.fill.finish(never);
@@ -122,8 +125,9 @@ void BackwardFillTest::pass_skipsFrames_thatNeedNotBeComplete()
     QCOMPARE(shown(filled.fill.finish(never).frame).number, 199);
     QVERIFY(filled.numbers.size() < 180); // of 200
     // The room that is left is filled without a gap.
-    for (int i = 0; i < 20; ++i)
+    for (int i = 0; i < 20; ++i) {
         QCOMPARE(filled.numbers.at(filled.numbers.size() - 1 - i), 200 - i);
+    }
 }
 
 void BackwardFillTest::pass_isNotNeeded_whenHalfOfTheRoomIsFilled()
@@ -180,8 +184,9 @@ void BackwardFillTest::remainingTime_isThatOfTheFramesToCome()
     QVERIFY(!filled.fill.remainingSeconds());
     filled.fill.start(8.0, 0);
     QVERIFY(!filled.fill.remainingSeconds()); // nothing has been measured
-    while (filled.numbers.size() < 150)
+    while (filled.numbers.size() < 150) {
         QVERIFY(!filled.fill.advance(never));
+    }
     // 51 frames to come, of 10 ms each.
     QVERIFY(filled.fill.remainingSeconds());
     QVERIFY(qAbs(*filled.fill.remainingSeconds() - 0.51) < 0.03);

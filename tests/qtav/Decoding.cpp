@@ -22,8 +22,9 @@ Player::Player(const QString& path, int threads)
     : decoder(QtAV::VideoDecoder::create("FFmpeg"))
 {
     demuxer.setMedia(path);
-    if (!demuxer.load())
+    if (!demuxer.load()) {
         return;
+    }
     decoder->setCodecContext(demuxer.videoCodecContext());
     decoder->setOptions(
         {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("threads"), threads}}}});
@@ -33,8 +34,9 @@ Player::Player(const QString& path, int threads)
 std::optional<QtAV::Packet> Player::nextVideoPacket()
 {
     while (!demuxer.atEnd()) {
-        if (demuxer.readFrame() && demuxer.stream() == demuxer.videoStream())
+        if (demuxer.readFrame() && demuxer.stream() == demuxer.videoStream()) {
             return demuxer.packet();
+        }
     }
     return std::nullopt;
 }
@@ -43,11 +45,13 @@ QList<Shown> Player::showRest()
 {
     QList<Shown> all;
     while (const auto packet = nextVideoPacket()) {
-        if (!decoder->decode(*packet))
+        if (!decoder->decode(*packet)) {
             continue;
+        }
         const QtAV::VideoFrame frame = decoder->frame();
-        if (frame.isValid())
+        if (frame.isValid()) {
             all.append(shown(frame));
+        }
     }
     return all;
 }
@@ -56,8 +60,9 @@ QtAV::VideoFrame Player::decodeKeyFrame(const QtAV::Packet& packet)
 {
     QtAV::VideoFrame frame;
     for (int attempt = 0; attempt < 2 && !frame.isValid(); ++attempt) {
-        if (decoder->decode(packet))
+        if (decoder->decode(packet)) {
             frame = decoder->frame();
+        }
     }
     return frame;
 }
@@ -76,8 +81,9 @@ Shown expected(const testsupport::Sample& sample, int n)
 QList<Shown> expectedFrom(const testsupport::Sample& sample, int n)
 {
     QList<Shown> all;
-    for (int i = n; i < sample.frames; ++i)
+    for (int i = n; i < sample.frames; ++i) {
         all.append(expected(sample, i));
+    }
     return all;
 }
 

@@ -47,16 +47,18 @@ void FrameCacheTest::initTestCase()
         const auto packet = player.nextVideoPacket();
         QVERIFY(packet && player.decoder->decode(*packet));
         const VideoFrame frame = player.decoder->frame();
-        if (frame.isValid())
+        if (frame.isValid()) {
             m_frames.append(frame);
+        }
     }
 }
 
 /// Frames that were decoded one after another.
 void FrameCacheTest::insert(FrameCache& cache, int from, int to) const
 {
-    for (int n = from; n <= to; ++n)
+    for (int n = from; n <= to; ++n) {
         cache.insert(m_frames.at(n), n > from ? std::optional(time(n - 1)) : std::nullopt);
+    }
 }
 
 void FrameCacheTest::insertedFrame_isFound_byItsTime()
@@ -216,8 +218,9 @@ void FrameCacheTest::farFrames_areScaledDown_andTheNearestStay()
         QVERIFY(frame.isValid());
         QCOMPARE(frame.displaySize(), QSize(320, 240));
         whole += frame.isScaledDown() ? 0 : 1;
-        if (frame.isScaledDown())
+        if (frame.isScaledDown()) {
             QCOMPARE(QSize(frame.width(), frame.height()), QSize(80, 60));
+        }
     }
     QCOMPARE(whole, 2);
     QVERIFY(!cache.at(time(5)).isScaledDown());

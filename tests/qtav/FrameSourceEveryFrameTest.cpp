@@ -59,7 +59,7 @@ qint64 cacheBytes(const Sample& sample, int cores)
     constexpr int fewFrames = 12;
     const QSize size = sample.codedSize;
     const qint64 few = qint64(size.width()) * size.height() * 3 / 2 * fewFrames;
-    return cores == 1 ? few : QtAV::FrameCache::DefaultBytes;
+    return cores == 1 ? few : QtAV::FrameCache::defaultBytes;
 }
 
 /// A source in a sample, and what it answered wrongly.

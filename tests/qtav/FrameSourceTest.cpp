@@ -1,4 +1,4 @@
-#include "qtav/player/FrameSource.h"
+#include "tests/qtav/LongGroups.h"
 
 #include "tests/qtav/Decoding.h"
 #include "tests/support/FramePositions.h"
@@ -18,64 +18,10 @@ using testsupport::Trait;
 
 namespace {
 
-bool never()
-{
-    return false;
-}
-
 /// So many packets at most take a decoder at work to its next frame.
-constexpr int FewPackets = 20;
+constexpr int fewPackets = 20;
 
-/// A source in a video whose key frames are 250 frames apart, and the frame on screen.
-struct LongGroups
-{
-    explicit LongGroups(qint64 ms, qint64 cacheBytes = QtAV::FrameCache::DefaultBytes)
-    {
-        QString error;
-        source.setScreen({80, 60});
-        if (!source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), cacheBytes,
-                         never, error))
-            qFatal("%s", qPrintable(error));
-        show(source.frameAt(ms, never));
-    }
-
-    void show(const FrameResult& found)
-    {
-        frame = found.frame;
-        source.setFocus(frame.timestamp());
-    }
-
-    /// Steps, and counts the packets that this takes.
-    FrameResult step(FrameResult (FrameSource::*direction)(double, const QtAV::IsCancelled&))
-    {
-        packets = 0;
-        const FrameResult found = (source.*direction)(frame.timestamp(), [this] {
-            ++packets;
-            return false;
-        });
-        if (found.answer == FrameAnswer::Frame)
-            show(found);
-        return found;
-    }
-
-    /// Fills until there is no more to do, or so many packets have been taken.
-    void fill(int mostPackets = 1000000, FrameSource::Rest rest = FrameSource::longestRest)
-    {
-        packets = 0;
-        const auto enough = [this, mostPackets] { return packets == mostPackets || ++packets < 0; };
-        while (packets < mostPackets && source.prepare(rest, enough)) {
-        }
-    }
-
-    /// As far as the rest between two steps allows.
-    void fillShortly() { fill(1000000, FrameSource::Rest(100)); }
-
-    FrameSource source;
-    VideoFrame frame;
-    int packets = 0;
-};
-
-/// For the frames of that video: few as they were decoded, and many that are scaled down.
+/// For the frames of LongGroups: few as they were decoded, and many that are scaled down.
 constexpr qint64 smallFrames = 2 << 20;
 
 /// Room for few frames, so that most of them are decoded again.
@@ -124,8 +70,9 @@ private:
 void FrameSourceTest::addSamples()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::videoSamplesToRepeat())
+    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         QTest::newRow(qPrintable(sample.file)) << sample.file;
+    }
 }
 
 qint64 FrameSourceTest::cacheFor(const Sample& sample)
@@ -193,12 +140,14 @@ void FrameSourceTest::mixedStepsAndSeeks_endOnTheRightFrame()
             QCOMPARE(found.answer, FrameAnswer::Frame);
             n = testsupport::frameFrom(sample, ms);
         }
-        if (found.answer == FrameAnswer::Frame)
+        if (found.answer == FrameAnswer::Frame) {
             frame = found.frame;
+        }
         source.setFocus(frame.timestamp());
         for (auto fills = random() % 20;
-             fills > 0 && source.prepare(FrameSource::longestRest, never);)
+             fills > 0 && source.prepare(FrameSource::longestRest, never);) {
             --fills;
+        }
         QCOMPARE(shown(frame), expected(sample, n));
     }
 }
@@ -221,7 +170,7 @@ void FrameSourceTest::preparing_keepsGoingForwardCheap_afterASeek()
     opened.fill();
     for (int n = 226; n < 245; ++n) {
         QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
-        QVERIFY(opened.packets <= FewPackets);
+        QVERIFY(opened.packets <= fewPackets);
     }
 }
 
@@ -241,8 +190,9 @@ void FrameSourceTest::preparing_keepsForward_afterAStepForward()
     LongGroups opened(9000);
     QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, 226);
     int prepared = 0;
-    while (opened.source.prepare(FrameSource::Rest(500), never))
+    while (opened.source.prepare(FrameSource::Rest(500), never)) {
         ++prepared;
+    }
     QVERIFY(prepared > 5);
     QVERIFY(prepared < 50);
     for (int n = 227; n < 232; ++n) {
@@ -257,8 +207,9 @@ void FrameSourceTest::smallFrames_areMetOnceEach_toTheEndAndBack_data()
     QTest::addColumn<QString>("file");
     for (const char* file :
          {"h264_gop250.mp4", "h264_open_gop_bframes.mp4", "hevc_open_gop.mp4", "mpeg2.ts",
-          "variable_rate.mkv", "turned_90_anamorphic.mp4", "hevc_10bit.mkv", "vp9_alpha.webm"})
+          "variable_rate.mkv", "turned_90_anamorphic.mp4", "hevc_10bit.mkv", "vp9_alpha.webm"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 /// With so little memory that only small frames fit, and steps that find what was prepared.
@@ -320,8 +271,9 @@ void FrameSourceTest::decodeAnew_givesTheDecodedPicture_ofASmallFrame()
     QVERIFY(!decoded.frame.isScaledDown());
     LongGroups opened(9000, smallFrames);
     opened.fillShortly();
-    while (shown(opened.frame).number > 199)
+    while (shown(opened.frame).number > 199) {
         QCOMPARE(opened.step(&FrameSource::before).answer, FrameAnswer::Frame);
+    }
     QVERIFY(opened.frame.isScaledDown());
     const FrameResult anew = opened.source.decodeAnew(opened.frame.timestamp(), never);
     QCOMPARE(anew.answer, FrameAnswer::Frame);
@@ -347,28 +299,30 @@ void FrameSourceTest::supplyBehind_tellsTheTimeToMore_untilEnoughIsThere()
 void FrameSourceTest::filling_returnsToWhereGoingForwardDecodesOn()
 {
     LongGroups opened(9000);
-    for (int n = 224; n > 220; --n)
+    for (int n = 224; n > 220; --n) {
         QCOMPARE(shown(opened.step(&FrameSource::before).frame).number, n);
+    }
     opened.fill();
     QVERIFY(opened.packets > 100);
     for (int n = 222; n < 240; ++n) {
         QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
-        QVERIFY(opened.packets <= FewPackets);
+        QVERIFY(opened.packets <= fewPackets);
     }
 }
 
 void FrameSourceTest::stepForward_endsTheFillingUnderway_withoutStartingAgain()
 {
     LongGroups opened(9000);
-    for (int n = 224; n > 220; --n)
+    for (int n = 224; n > 220; --n) {
         QCOMPARE(shown(opened.step(&FrameSource::before).frame).number, n);
+    }
     opened.fill(50);
     int packets = 0;
     for (int n = 222; n <= 226; ++n) {
         QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, n);
         packets += opened.packets;
     }
-    QVERIFY(packets > FewPackets);
+    QVERIFY(packets > fewPackets);
     QVERIFY(packets < 200);
 }
 
@@ -378,7 +332,7 @@ void FrameSourceTest::stepForward_leavesTheFillingUnderway_whenAKeyFrameIsNear()
     opened.fill(50);
     QCOMPARE(opened.packets, 50);
     QCOMPARE(shown(opened.step(&FrameSource::after).frame).number, 253);
-    QVERIFY(opened.packets <= FewPackets);
+    QVERIFY(opened.packets <= fewPackets);
 }
 
 void FrameSourceTest::filling_ends_withoutAnyStep()
@@ -386,13 +340,14 @@ void FrameSourceTest::filling_ends_withoutAnyStep()
     FrameSource source;
     QString error;
     const QString path = testsupport::samplePath(QStringLiteral("h264_gop250.mp4"));
-    QVERIFY(source.open(path, QtAV::FrameCache::DefaultBytes, never, error));
+    QVERIFY(source.open(path, QtAV::FrameCache::defaultBytes, never, error));
     const qint64 bytes = smallCache(source.frameAt(0, never).frame);
     QVERIFY(source.open(path, bytes, never, error));
     source.setFocus(source.frameAt(15000, never).frame.timestamp());
     int fills = 0;
-    while (source.prepare(FrameSource::longestRest, never))
+    while (source.prepare(FrameSource::longestRest, never)) {
         QVERIFY(++fills < 2000);
+    }
     QVERIFY(source.cache().byteCount() <= bytes);
 }
 
@@ -401,7 +356,7 @@ void FrameSourceTest::cache_takesNoMoreThanAllowed()
     const QString path = testsupport::samplePath(QStringLiteral("h264_gop250.mp4"));
     FrameSource source;
     QString error;
-    QVERIFY(source.open(path, QtAV::FrameCache::DefaultBytes, never, error));
+    QVERIFY(source.open(path, QtAV::FrameCache::defaultBytes, never, error));
     const qint64 frameBytes = source.frameAt(0, never).frame.byteCount();
     QVERIFY(source.open(path, 5 * frameBytes, never, error));
     QCOMPARE(source.cache().mostBytes(), 5 * frameBytes);
@@ -416,7 +371,7 @@ void FrameSourceTest::cancelledSearch_givesNoFrame_andTheNextOneIsRight()
         FrameSource source;
         QString error;
         QVERIFY(source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")),
-                            QtAV::FrameCache::DefaultBytes, never, error));
+                            QtAV::FrameCache::defaultBytes, never, error));
         int left = packets;
         const auto soon = [&left] { return left-- <= 0; };
         QCOMPARE(source.frameAt(9960, soon).answer, FrameAnswer::Cancelled);
@@ -431,8 +386,9 @@ void FrameSourceTest::open_fails_whenNothingCanBeDecoded_data()
 {
     QTest::addColumn<QString>("file");
     for (const Sample& sample : testsupport::brokenSamples() + testsupport::noVideoSamples()) {
-        if (sample.has(Trait::Unopenable) || sample.has(Trait::NoVideo))
+        if (sample.has(Trait::Unopenable) || sample.has(Trait::NoVideo)) {
             QTest::newRow(qPrintable(sample.file)) << sample.file;
+        }
     }
     QTest::newRow("missing") << QStringLiteral("no such file.mp4");
 }
@@ -451,8 +407,9 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack_data(
 {
     QTest::addColumn<QString>("file");
     for (const Sample& sample : testsupport::brokenSamples()) {
-        if (sample.has(Trait::Damaged))
+        if (sample.has(Trait::Damaged)) {
             QTest::newRow(qPrintable(sample.file)) << sample.file;
+        }
     }
 }
 
@@ -470,8 +427,9 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
     int forwards = 1;
     for (;;) {
         const FrameResult found = source.after(time, never);
-        if (found.answer != FrameAnswer::Frame)
+        if (found.answer != FrameAnswer::Frame) {
             break;
+        }
         QVERIFY(found.frame.timestamp() > time);
         time = found.frame.timestamp();
         source.setFocus(time);
@@ -482,12 +440,14 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
     QVERIFY(forwards > 1);
     // What is done meanwhile comes to its end as well.
     int prepared = 0;
-    while (source.prepare(FrameSource::longestRest, never))
+    while (source.prepare(FrameSource::longestRest, never)) {
         QVERIFY(++prepared <= 10 * sample.frames);
+    }
     for (int backwards = 1;; ++backwards) {
         const FrameResult found = source.before(time, never);
-        if (found.answer != FrameAnswer::Frame)
+        if (found.answer != FrameAnswer::Frame) {
             break;
+        }
         QVERIFY(found.frame.timestamp() < time);
         time = found.frame.timestamp();
         source.setFocus(time);

@@ -58,8 +58,9 @@ void HevcLayersTest::damagedData_hasNone()
 {
     QVERIFY(!hevcHasSubLayers(nullptr, 0));
     const QByteArray cut = QByteArray::fromHex("000001420103");
-    for (int size = 0; size < cut.size(); ++size)
+    for (int size = 0; size < cut.size(); ++size) {
         QVERIFY(!hevcHasSubLayers(reinterpret_cast<const uint8_t*>(cut.constData()), size));
+    }
     const QByteArray record(22, '\x01');
     QVERIFY(!hevcHasSubLayers(reinterpret_cast<const uint8_t*>(record.constData()), record.size()));
 }

@@ -23,45 +23,45 @@ void addRow(const char* name, int codec, int lengthBytes, const char* hex, bool 
 
 void addH264Rows()
 {
-    constexpr int H264 = AV_CODEC_ID_H264;
-    addRow("H.264 refresh", H264, 4, "0000000365b804", true);
-    addRow("H.264 refresh behind parameters", H264, 1, "0267420268020365b804", true);
-    addRow("H.264 I slice", H264, 4, "0000000341b004", true);
-    addRow("H.264 I slice of I slices", H264, 4, "00000003418880", true);
-    addRow("H.264 SI slice", H264, 4, "00000003419480", true);
-    addRow("H.264 P slice", H264, 4, "0000000341c004", false);
-    addRow("H.264 P slice of P slices", H264, 4, "00000003419880", false);
-    addRow("H.264 B slice", H264, 4, "0000000301a004", false);
-    addRow("H.264 SP slice", H264, 4, "00000003419080", false);
-    addRow("H.264 I slice in the middle", H264, 4, "00000003413080", true);
-    addRow("H.264 P slice before an I slice", H264, 1, "0341c0040341b004", false);
-    addRow("H.264 I slice before a P slice", H264, 1, "0341b0040341c004", true);
-    addRow("H.264 recovery point before a P slice", H264, 1, "0506060184800341c004", true);
-    addRow("H.264 other message before a P slice", H264, 1, "0506010184800341c004", false);
-    addRow("H.264 recovery point as second message", H264, 1, "0806010184060184800341c004", true);
-    addRow("H.264 recovery point behind a long type", H264, 1, "0906ff0701aa060184800341c004",
+    constexpr int h264 = AV_CODEC_ID_H264;
+    addRow("H.264 refresh", h264, 4, "0000000365b804", true);
+    addRow("H.264 refresh behind parameters", h264, 1, "0267420268020365b804", true);
+    addRow("H.264 I slice", h264, 4, "0000000341b004", true);
+    addRow("H.264 I slice of I slices", h264, 4, "00000003418880", true);
+    addRow("H.264 SI slice", h264, 4, "00000003419480", true);
+    addRow("H.264 P slice", h264, 4, "0000000341c004", false);
+    addRow("H.264 P slice of P slices", h264, 4, "00000003419880", false);
+    addRow("H.264 B slice", h264, 4, "0000000301a004", false);
+    addRow("H.264 SP slice", h264, 4, "00000003419080", false);
+    addRow("H.264 I slice in the middle", h264, 4, "00000003413080", true);
+    addRow("H.264 P slice before an I slice", h264, 1, "0341c0040341b004", false);
+    addRow("H.264 I slice before a P slice", h264, 1, "0341b0040341c004", true);
+    addRow("H.264 recovery point before a P slice", h264, 1, "0506060184800341c004", true);
+    addRow("H.264 other message before a P slice", h264, 1, "0506010184800341c004", false);
+    addRow("H.264 recovery point as second message", h264, 1, "0806010184060184800341c004", true);
+    addRow("H.264 recovery point behind a long type", h264, 1, "0906ff0701aa060184800341c004",
            true);
-    addRow("H.264 message with a 6 in it", H264, 1, "07060503060184800341c004", false);
-    addRow("H.264 message longer than its unit", H264, 1, "060605090601800341c004", false);
-    addRow("H.264 marked refresh", H264, 0, "00000001091000000165b804", true);
-    addRow("H.264 marked P slice", H264, 0, "00000001091000000141c004", false);
-    addRow("H.264 slice without bits", H264, 1, "0141", false);
+    addRow("H.264 message with a 6 in it", h264, 1, "07060503060184800341c004", false);
+    addRow("H.264 message longer than its unit", h264, 1, "060605090601800341c004", false);
+    addRow("H.264 marked refresh", h264, 0, "00000001091000000165b804", true);
+    addRow("H.264 marked P slice", h264, 0, "00000001091000000141c004", false);
+    addRow("H.264 slice without bits", h264, 1, "0141", false);
 }
 
 void addHevcRows()
 {
-    constexpr int Hevc = AV_CODEC_ID_HEVC;
-    addRow("HEVC refresh", Hevc, 4, "000000032601af", true);
-    addRow("HEVC clean random access", Hevc, 4, "000000032a01af", true);
-    addRow("HEVC broken link", Hevc, 4, "000000032001af", true);
-    addRow("HEVC last of the random access types", Hevc, 4, "000000032e01af", true);
-    addRow("HEVC first of the types behind them", Hevc, 4, "000000033001af", false);
-    addRow("HEVC trailing slice", Hevc, 4, "000000030201d0", false);
-    addRow("HEVC skipped leading slice", Hevc, 4, "000000031001d0", false);
-    addRow("HEVC recovery point before a slice", Hevc, 1, "064e010601d080030201d0", true);
-    addRow("HEVC other message before a slice", Hevc, 1, "064e010101d080030201d0", false);
-    addRow("HEVC marked refresh", Hevc, 0, "000000014601500000012601af", true);
-    addRow("HEVC marked slice", Hevc, 0, "000000014601500000010201d0", false);
+    constexpr int hevc = AV_CODEC_ID_HEVC;
+    addRow("HEVC refresh", hevc, 4, "000000032601af", true);
+    addRow("HEVC clean random access", hevc, 4, "000000032a01af", true);
+    addRow("HEVC broken link", hevc, 4, "000000032001af", true);
+    addRow("HEVC last of the random access types", hevc, 4, "000000032e01af", true);
+    addRow("HEVC first of the types behind them", hevc, 4, "000000033001af", false);
+    addRow("HEVC trailing slice", hevc, 4, "000000030201d0", false);
+    addRow("HEVC skipped leading slice", hevc, 4, "000000031001d0", false);
+    addRow("HEVC recovery point before a slice", hevc, 1, "064e010601d080030201d0", true);
+    addRow("HEVC other message before a slice", hevc, 1, "064e010101d080030201d0", false);
+    addRow("HEVC marked refresh", hevc, 0, "000000014601500000012601af", true);
+    addRow("HEVC marked slice", hevc, 0, "000000014601500000010201d0", false);
 }
 
 void addMpegRows()
@@ -85,9 +85,9 @@ void addMpegRows()
 
 void addMpeg4Rows()
 {
-    constexpr int Mpeg4 = AV_CODEC_ID_MPEG4;
+    constexpr int mpeg4 = AV_CODEC_ID_MPEG4;
     const auto row = [](const char* name, const QByteArray& hex, bool isKey) {
-        addRow(name, Mpeg4, 0, hex.constData(), isKey);
+        addRow(name, mpeg4, 0, hex.constData(), isKey);
     };
     const QByteArray slices(2 * 20, 'a');
     row("MPEG-4 intra picture", "000001b610" + slices, true);

@@ -82,21 +82,21 @@ void NalUnitsTest::units_areParted_data()
     };
     const QString delimiter = QStringLiteral("0910");
     const QString slice = QStringLiteral("65aabb");
-    constexpr int H264 = AV_CODEC_ID_H264;
-    constexpr int Hevc = AV_CODEC_ID_HEVC;
-    row("lengths of 4 bytes", H264, 4, "0000000209100000000365aabb", {delimiter, slice}, {9, 5});
-    row("lengths of 3 bytes", H264, 3, "000002091000000365aabb", {delimiter, slice}, {9, 5});
-    row("lengths of 2 bytes", H264, 2, "00020910000365aabb", {delimiter, slice}, {9, 5});
-    row("lengths of 1 byte", H264, 1, "0209100365aabb", {delimiter, slice}, {9, 5});
-    row("start code within a length's unit", H264, 1, "05650000014103410102",
+    constexpr int h264 = AV_CODEC_ID_H264;
+    constexpr int hevc = AV_CODEC_ID_HEVC;
+    row("lengths of 4 bytes", h264, 4, "0000000209100000000365aabb", {delimiter, slice}, {9, 5});
+    row("lengths of 3 bytes", h264, 3, "000002091000000365aabb", {delimiter, slice}, {9, 5});
+    row("lengths of 2 bytes", h264, 2, "00020910000365aabb", {delimiter, slice}, {9, 5});
+    row("lengths of 1 byte", h264, 1, "0209100365aabb", {delimiter, slice}, {9, 5});
+    row("start code within a length's unit", h264, 1, "05650000014103410102",
         {QStringLiteral("6500000141"), QStringLiteral("410102")}, {5, 1});
-    row("start codes of 3 bytes", H264, 0, "000001091000000165aabb", {delimiter, slice}, {9, 5});
-    row("start codes of 4 bytes", H264, 0, "0000000109100000000165aabb", {delimiter, slice},
+    row("start codes of 3 bytes", h264, 0, "000001091000000165aabb", {delimiter, slice}, {9, 5});
+    row("start codes of 4 bytes", h264, 0, "0000000109100000000165aabb", {delimiter, slice},
         {9, 5});
-    row("zeros before the first start code", H264, 0, "000000000165aabb", {slice}, {5});
-    row("HEVC with lengths", Hevc, 4, "000000034601500000000426010203",
+    row("zeros before the first start code", h264, 0, "000000000165aabb", {slice}, {5});
+    row("HEVC with lengths", hevc, 4, "000000034601500000000426010203",
         {QStringLiteral("460150"), QStringLiteral("26010203")}, {35, 19});
-    row("HEVC with start codes", Hevc, 0, "0000000146015000000126010203",
+    row("HEVC with start codes", hevc, 0, "0000000146015000000126010203",
         {QStringLiteral("460150"), QStringLiteral("26010203")}, {35, 19});
 }
 

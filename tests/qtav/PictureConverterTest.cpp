@@ -12,36 +12,38 @@ using QtAV::PictureConverter;
 
 namespace {
 
-constexpr int Width = 64;
-constexpr int Height = 32;
-constexpr double Slope = 3.0; ///< of Cb, for each pixel
-constexpr double Middle = 128.0;
+constexpr int frameWidth = 64;
+constexpr int frameHeight = 32;
+constexpr double slope = 3.0; ///< of Cb, for each pixel
+constexpr double middle = 128.0;
 
 double slopeAt(double x)
 {
-    return Middle + Slope * (x - Width / 2.0);
+    return middle + slope * (x - frameWidth / 2.0);
 }
 
 /// Luma is the same everywhere; Cb rises steadily from left to right.
 FramePtr ramp(AVPixelFormat format, AVChromaLocation location, double offset)
 {
     FramePtr frame = QtAV::makeFrame();
-    frame->width = Width;
-    frame->height = Height;
+    frame->width = frameWidth;
+    frame->height = frameHeight;
     frame->format = format;
     frame->color_range = AVCOL_RANGE_MPEG;
     frame->colorspace = AVCOL_SPC_BT709;
     frame->chroma_location = location;
-    if (av_frame_get_buffer(frame.get(), 0) < 0)
+    if (av_frame_get_buffer(frame.get(), 0) < 0) {
         qFatal("out of memory");
+    }
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
     const int step = 1 << descriptor.log2_chroma_w;
-    for (int y = 0; y < Height; ++y) {
-        for (int x = 0; x < Width; ++x)
+    for (int y = 0; y < frameHeight; ++y) {
+        for (int x = 0; x < frameWidth; ++x) {
             frame->data[0][y * frame->linesize[0] + x] = 126;
+        }
     }
-    for (int y = 0; y < Height >> descriptor.log2_chroma_h; ++y) {
-        for (int x = 0; x < Width / step; ++x) {
+    for (int y = 0; y < frameHeight >> descriptor.log2_chroma_h; ++y) {
+        for (int x = 0; x < frameWidth / step; ++x) {
             const auto cb = static_cast<uint8_t>(std::lround(slopeAt(x * step + offset)));
             frame->data[1][y * frame->linesize[1] + x] = cb;
             frame->data[2][y * frame->linesize[2] + x] = 128;
@@ -58,21 +60,24 @@ FramePtr grey(int width, int height, const QString& pattern)
     frame->height = height;
     frame->format = AV_PIX_FMT_YUV420P;
     frame->color_range = AVCOL_RANGE_JPEG;
-    if (av_frame_get_buffer(frame.get(), 0) < 0)
+    if (av_frame_get_buffer(frame.get(), 0) < 0) {
         qFatal("out of memory");
+    }
     std::mt19937 random(3);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             int value = int(random() % 256);
-            if (pattern == QLatin1String("lines"))
+            if (pattern == QLatin1String("lines")) {
                 value = x % 7 == 0 || y % 11 == 0 ? 235 : 20;
-            else if (pattern == QLatin1String("squares"))
+            } else if (pattern == QLatin1String("squares")) {
                 value = (x + y) % 2 == 0 ? 230 : 30;
+            }
             frame->data[0][y * frame->linesize[0] + x] = static_cast<uint8_t>(value);
         }
     }
-    for (const int plane : {1, 2})
+    for (const int plane : {1, 2}) {
         std::memset(frame->data[plane], 128, size_t(frame->linesize[plane]) * size_t(height / 2));
+    }
     return frame;
 }
 
@@ -86,9 +91,10 @@ double meanUnder(const AVFrame& frame, const QSize& size, int x, int y)
     };
     double sum = 0.0;
     for (int v = int(y * stepY); v < std::min(frame.height, int((y + 1) * stepY) + 1); ++v) {
-        for (int u = int(x * stepX); u < std::min(frame.width, int((x + 1) * stepX) + 1); ++u)
+        for (int u = int(x * stepX); u < std::min(frame.width, int((x + 1) * stepX) + 1); ++u) {
             sum += frame.data[0][v * frame.linesize[0] + u] *
                    overlap(u, x * stepX, (x + 1) * stepX) * overlap(v, y * stepY, (y + 1) * stepY);
+        }
     }
     return sum / (stepX * stepY);
 }
@@ -129,17 +135,17 @@ void PictureConverterTest::chroma_staysWhereItWasSampled_whenScaled()
     QFETCH(int, location);
     QFETCH(double, offset);
     const FramePtr frame = ramp(AVPixelFormat(format), AVChromaLocation(location), offset);
-    constexpr int Times = 2;
+    constexpr int times = 2;
     PictureConverter converter;
-    const QImage image = converter.convert(*frame, QSize(Times * Width, Height));
-    QCOMPARE(image.size(), QSize(Times * Width, Height));
+    const QImage image = converter.convert(*frame, QSize(times * frameWidth, frameHeight));
+    QCOMPARE(image.size(), QSize(times * frameWidth, frameHeight));
     // Blue by ITU-R BT.709, where nothing is cut off; the ends of lines have no neighbours.
-    for (int x = Times * Width / 4; x < Times * Width * 3 / 4; ++x) {
-        const double place = (x + 0.5) / Times - 0.5;
+    for (int x = times * frameWidth / 4; x < times * frameWidth * 3 / 4; ++x) {
+        const double place = (x + 0.5) / times - 0.5;
         const double blue =
-            255.0 * ((126.0 - 16.0) / 219.0 + 1.8556 * (slopeAt(place) - Middle) / 224.0);
+            255.0 * ((126.0 - 16.0) / 219.0 + 1.8556 * (slopeAt(place) - middle) / 224.0);
         const double expected = std::min(255.0, std::max(0.0, blue));
-        const int got = qBlue(image.pixel(x, Height / 2));
+        const int got = qBlue(image.pixel(x, frameHeight / 2));
         QVERIFY2(std::abs(got - expected) < 2.0,
                  qPrintable(QStringLiteral("%1 instead of %2").arg(got).arg(expected)));
     }
@@ -192,10 +198,10 @@ void PictureConverterTest::scaledPicture_keepsFormatAndColours()
         frame->color_primaries = AVCOL_PRI_BT709;
         frame->color_trc = AVCOL_TRC_BT709;
         PictureConverter converter;
-        const FramePtr scaled = converter.scaled(*frame, {Width / 2, Height / 2});
+        const FramePtr scaled = converter.scaled(*frame, {frameWidth / 2, frameHeight / 2});
         QVERIFY(scaled);
-        QCOMPARE(scaled->width, Width / 2);
-        QCOMPARE(scaled->height, Height / 2);
+        QCOMPARE(scaled->width, frameWidth / 2);
+        QCOMPARE(scaled->height, frameHeight / 2);
         QCOMPARE(scaled->format, int(format));
         QCOMPARE(scaled->colorspace, AVCOL_SPC_BT709);
         QCOMPARE(scaled->color_range, AVCOL_RANGE_MPEG);
@@ -212,7 +218,7 @@ void PictureConverterTest::scaledPicture_becomesTheSameImage_asTheWhole()
          {AVCHROMA_LOC_LEFT, AVCHROMA_LOC_TOPLEFT, AVCHROMA_LOC_CENTER}) {
         const FramePtr frame =
             ramp(AV_PIX_FMT_YUV420P, location, location == AVCHROMA_LOC_CENTER ? 0.5 : 0.0);
-        const QSize half(Width / 2, Height / 2);
+        const QSize half(frameWidth / 2, frameHeight / 2);
         PictureConverter converter;
         const FramePtr scaled = converter.scaled(*frame, half);
         QVERIFY(scaled);

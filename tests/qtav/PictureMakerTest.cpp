@@ -40,8 +40,9 @@ void PictureMakerTest::initTestCase()
         const auto packet = player.nextVideoPacket();
         QVERIFY(packet && player.decoder->decode(*packet));
         const VideoFrame frame = player.decoder->frame();
-        if (frame.isValid())
+        if (frame.isValid()) {
             m_frames.append(frame);
+        }
     }
 }
 
@@ -91,8 +92,9 @@ void PictureMakerTest::newestRequest_isCarriedOut_whateverWasAskedBefore()
     PictureMaker maker([&woken] { woken.release(); });
     quint64 serial = 0;
     for (int round = 0; round < 50; ++round) {
-        for (const VideoFrame& frame : m_frames)
+        for (const VideoFrame& frame : m_frames) {
             maker.request({frame, {64, 48}, QImage::Format_RGB32, ++serial});
+        }
     }
     quint64 last = 0;
     int pictures = 0;
@@ -121,8 +123,9 @@ void PictureMakerTest::maker_mayEnd_withRequestsWaiting()
 {
     for (int i = 0; i < 20; ++i) {
         PictureMaker maker([] {});
-        for (const VideoFrame& frame : m_frames)
+        for (const VideoFrame& frame : m_frames) {
             maker.request({frame, {320, 240}, QImage::Format_RGB32, 1});
+        }
     }
 }
 

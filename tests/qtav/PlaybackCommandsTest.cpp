@@ -13,16 +13,18 @@ int takeSteps(PlaybackCommands& commands)
     int steps = 0;
     while (commands.nextStep()) {
         steps += commands.takeStep().direction == Direction::Forward ? 1 : -1;
-        if (!commands.endStep())
+        if (!commands.endStep()) {
             qFatal("a step was cancelled");
+        }
     }
     return steps;
 }
 
 void step(PlaybackCommands& commands, Direction direction, int times)
 {
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times; ++i) {
         commands.step(direction);
+    }
 }
 
 } // namespace

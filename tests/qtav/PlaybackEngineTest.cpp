@@ -29,10 +29,12 @@ public:
     std::optional<Answer> next()
     {
         while (m_answers.empty()) {
-            if (!m_woken.tryAcquire(1, patience))
+            if (!m_woken.tryAcquire(1, patience)) {
                 return std::nullopt;
-            for (Answer& answer : engine.takeAnswers())
+            }
+            for (Answer& answer : engine.takeAnswers()) {
                 m_answers.push_back(std::move(answer));
+            }
         }
         const Answer first = m_answers.front();
         m_answers.pop_front();
@@ -43,14 +45,15 @@ public:
     std::optional<Answer> to(quint64 serial)
     {
         std::optional<Answer> answer = next();
-        while (answer && answer->serial < serial)
+        while (answer && answer->serial < serial) {
             answer = next();
+        }
         return answer;
     }
 
     [[nodiscard]] bool open(const QString& path)
     {
-        const std::optional<Answer> answer = to(engine.open(path, QtAV::FrameCache::DefaultBytes));
+        const std::optional<Answer> answer = to(engine.open(path, QtAV::FrameCache::defaultBytes));
         return answer && answer->result.answer == FrameAnswer::Frame;
     }
 
@@ -105,7 +108,7 @@ void PlaybackEngineTest::open_isAnswered_withTheFirstFrame()
 {
     Harness harness;
     const quint64 serial = harness.engine.open(testsupport::samplePath(QStringLiteral("sound.mp4")),
-                                               QtAV::FrameCache::DefaultBytes);
+                                               QtAV::FrameCache::defaultBytes);
     const std::optional<Answer> answer = harness.next();
     QVERIFY(answer);
     QCOMPARE(answer->kind, Answer::Kind::Opened);
@@ -120,7 +123,7 @@ void PlaybackEngineTest::open_fails_withAReason()
 {
     Harness harness;
     const quint64 serial = harness.engine.open(testsupport::samplePath(QStringLiteral("text.mp4")),
-                                               QtAV::FrameCache::DefaultBytes);
+                                               QtAV::FrameCache::defaultBytes);
     const std::optional<Answer> answer = harness.to(serial);
     QVERIFY(answer);
     QCOMPARE(answer->kind, Answer::Kind::Opened);
@@ -136,7 +139,7 @@ void PlaybackEngineTest::close_isNotAnswered_andStepsAfterItNeither()
     harness.engine.close();
     harness.engine.step(Direction::Forward);
     harness.engine.seek(1000);
-    const quint64 serial = harness.engine.open(path, QtAV::FrameCache::DefaultBytes);
+    const quint64 serial = harness.engine.open(path, QtAV::FrameCache::defaultBytes);
     const std::optional<Answer> answer = harness.next();
     QVERIFY(answer);
     QCOMPARE(answer->serial, serial);
@@ -173,8 +176,9 @@ void PlaybackEngineTest::seeks_areReplaced_byTheNewest()
 {
     Harness harness;
     QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4"))));
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         harness.engine.seek(19000 - i);
+    }
     const quint64 newest = harness.engine.seek(4000);
     int answers = 0;
     std::optional<Answer> answer;
@@ -200,8 +204,9 @@ void PlaybackEngineTest::queue_holdsTheFramesInOrder_untilTheEnd()
             harness.engine.takeDue((number + 1) * 0.04, PlaybackEngine::CatchUp::No);
         QVERIFY(!due.failure);
         QCOMPARE(due.dropped, 0);
-        if (due.frame.isValid())
+        if (due.frame.isValid()) {
             QCOMPARE(shown(due.frame).number, ++number);
+        }
         isEnded = due.isEnded;
         QTest::qSleep(1);
     }
@@ -227,8 +232,9 @@ void PlaybackEngineTest::step_fails_withAReason_whereTheFileIsLost()
     answer = harness.to(harness.engine.step(Direction::Forward));
     QVERIFY(answer);
     QCOMPARE(answer->result.answer, FrameAnswer::Failed);
-    if (number > 0)
+    if (number > 0) {
         QCOMPARE(numberOf(harness.to(harness.engine.step(Direction::Backward))), number - 1);
+    }
     QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_bframes.mp4"))));
 }
 
@@ -255,8 +261,9 @@ void PlaybackEngineTest::queue_fails_insteadOfEnding_whereTheFileIsLost()
     int number = 0;
     for (int i = 0; !due.failure && !due.isEnded && i < patience; ++i) {
         due = harness.engine.takeDue((number + 1) * 0.04, PlaybackEngine::CatchUp::No);
-        if (due.frame.isValid())
+        if (due.frame.isValid()) {
             number = shown(due.frame).number;
+        }
         QTest::qSleep(1);
     }
     QVERIFY(!due.isEnded);

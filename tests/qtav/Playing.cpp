@@ -11,8 +11,9 @@ void Screen::present(const QtAV::VideoFrame& newFrame)
     const bool isRefined =
         frame.isScaledDown() && newFrame.isValid() && newFrame.timestamp() == frame.timestamp();
     frame = newFrame;
-    if (frame.isValid() && !isRefined)
+    if (frame.isValid() && !isRefined) {
         shown.append(decoding::shown(frame));
+    }
     Q_EMIT presented();
 }
 
@@ -28,8 +29,9 @@ bool Stage::waitForStatus(QtAV::MediaStatus status)
 {
     QSignalSpy changed(&player, &AVPlayer::mediaStatusChanged);
     while (player.mediaStatus() != status) {
-        if (!changed.wait(Patience))
+        if (!changed.wait(patienceMs)) {
             return false;
+        }
     }
     return true;
 }
@@ -38,7 +40,7 @@ bool Stage::seek(qint64 ms)
 {
     QSignalSpy finished(&player, &AVPlayer::seekFinished);
     player.setPosition(ms);
-    return finished.wait(Patience);
+    return finished.wait(patienceMs);
 }
 
 bool Stage::stepForward()
@@ -58,8 +60,9 @@ bool Stage::waitForOther(const std::function<void()>& action)
     QSignalSpy presented(&screen, &Screen::presented);
     action();
     while (screen.frame.timestamp() == before) {
-        if (!presented.wait(Patience))
+        if (!presented.wait(patienceMs)) {
             return false;
+        }
     }
     return true;
 }
@@ -67,8 +70,8 @@ bool Stage::waitForOther(const std::function<void()>& action)
 /// A player that has been told nothing for this long has nothing more to answer.
 void Stage::settle()
 {
-    constexpr int QuietMs = 150;
-    QTest::qWait(QuietMs);
+    constexpr int quietMs = 150;
+    QTest::qWait(quietMs);
 }
 
 } // namespace playing

@@ -13,7 +13,7 @@
 namespace playing {
 
 /// How long anything may take, in milliseconds; far more than it does.
-constexpr int Patience = 30000;
+constexpr int patienceMs = 30000;
 
 /// Remembers what it was given to show.
 class Screen : public QtAV::VideoRenderer

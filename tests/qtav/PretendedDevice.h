@@ -15,7 +15,7 @@
 /// Sound devices that only pretend to play, and do what a test wants.
 namespace playing {
 
-constexpr int Rate = 48000;
+constexpr int rate = 48000;
 
 /// Where devices can be held up until it is opened.
 class Gate
@@ -57,6 +57,7 @@ struct Record
 {
     Gate start;
     Gate stop;
+    Gate query; ///< of how much has been heard
     std::atomic<int> made{0};
     std::atomic<int> started{0};
     std::atomic<qint64> heardBytes{0};
@@ -81,7 +82,7 @@ public:
         QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { pull(); });
     }
 
-    int sampleRate() const override { return Rate; }
+    int sampleRate() const override { return rate; }
     int channels() const override { return 2; }
     bool start(QIODevice* source) override
     {
@@ -99,21 +100,26 @@ public:
         m_timer.stop();
     }
     bool isRunning() const override { return m_timer.isActive() || m_record.saysItRuns; }
-    double heardSeconds() override { return double(m_heard) / BytesASecond; }
+    double heardSeconds() override
+    {
+        m_record.query.pass();
+        return double(m_heard) / bytesASecond;
+    }
     void setVolume(qreal volume) override { m_record.volume = volume; }
 
 private:
-    static constexpr int BytesASecond = Rate * 4;
+    static constexpr int bytesASecond = rate * 4;
 
     void pull()
     {
-        const qint64 due = qint64(double(m_time.elapsed()) * m_speed) * (BytesASecond / 1000);
+        const qint64 due = qint64(double(m_time.elapsed()) * m_speed) * (bytesASecond / 1000);
         QByteArray samples(int(due - m_heard), '\0');
         const qint64 got = m_source->read(samples.data(), samples.size());
         m_heard += got;
         m_record.heardBytes += got;
-        if (got < samples.size() || m_heard > m_record.failsAfter)
+        if (got < samples.size() || m_heard > m_record.failsAfter) {
             m_timer.stop();
+        }
     }
 
     const std::shared_ptr<Record> m_shared;
@@ -140,6 +146,7 @@ public:
         QtAV::SoundDevice::setFactory(&QtAV::SoundDevice::openDefault);
         record.start.open();
         record.stop.open();
+        record.query.open();
     }
     Devices(const Devices&) = delete;
     Devices& operator=(const Devices&) = delete;

@@ -35,8 +35,9 @@ private:
 void SeekTest::addSamples(const QList<Sample>& samples)
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : samples)
+    for (const Sample& sample : samples) {
         QTest::newRow(qPrintable(sample.file)) << sample.file;
+    }
 }
 
 namespace {
@@ -49,8 +50,9 @@ int firstFrameFor(const Sample& sample, const QList<int>& keyFrames, qint64 ms)
                               ms < testsupport::frameTimeMs(sample, keyFrames.constFirst());
     int found = isInCutGroup ? 0 : keyFrames.constFirst();
     for (const int key : keyFrames) {
-        if (testsupport::frameTimeMs(sample, key) <= ms)
+        if (testsupport::frameTimeMs(sample, key) <= ms) {
             found = key;
+        }
     }
     return found;
 }
@@ -58,10 +60,10 @@ int firstFrameFor(const Sample& sample, const QList<int>& keyFrames, qint64 ms)
 /// 0, each key frame and a millisecond to either side, between them, the last frame, past the end.
 QList<qint64> positions(const Sample& sample, const QList<int>& keyFrames)
 {
-    constexpr int MostKeyFrames = 8;
+    constexpr int mostKeyFrames = 8;
     const qint64 last = testsupport::frameTimeMs(sample, sample.frames - 1);
     QList<qint64> all{0, last - 1, last, last + 1, last + 60000};
-    const int stride = std::max(1, int(keyFrames.size()) / MostKeyFrames);
+    const int stride = std::max(1, int(keyFrames.size()) / mostKeyFrames);
     for (int i = 0; i < keyFrames.size(); i += stride) {
         const qint64 key = testsupport::frameTimeMs(sample, keyFrames.at(i));
         const qint64 next =
@@ -79,8 +81,9 @@ QList<QList<qint64>> inEveryOrder(const QList<qint64>& forwards)
     std::reverse(backwards.begin(), backwards.end());
     QList<qint64> random = forwards;
     std::shuffle(random.begin(), random.end(), std::mt19937(20));
-    if (testsupport::isSanitized)
+    if (testsupport::isSanitized) {
         return {random};
+    }
     return {forwards, backwards, random};
 }
 
@@ -89,8 +92,9 @@ bool areAllFramesFrom(const Sample& sample, int n, const QList<Shown>& got)
 {
     QList<Shown> expected = expectedFrom(sample, n);
     // A stream that refreshes bit by bit has whole pictures only some time after its key packets.
-    if (sample.has(Trait::IntraRefresh) && !got.isEmpty())
+    if (sample.has(Trait::IntraRefresh) && !got.isEmpty()) {
         expected = expected.mid(expected.size() - got.size());
+    }
     return got == expected;
 }
 
@@ -117,8 +121,9 @@ void SeekTest::seek_landsOnTheKeyFrameAtOrBefore_andAllFramesFollow()
     QSet<int> decodedFrom;
     for (const QList<qint64>& order : inEveryOrder(positions(sample, keyFrames))) {
         // Large pictures take long to decode: once from each key frame has to do.
-        if (!sample.has(Trait::Large))
+        if (!sample.has(Trait::Large)) {
             decodedFrom.clear();
+        }
         for (const qint64 ms : order) {
             const QByteArray context = "seek to " + QByteArray::number(ms);
             QVERIFY(player.demuxer.seek(ms));
@@ -129,8 +134,9 @@ void SeekTest::seek_landsOnTheKeyFrameAtOrBefore_andAllFramesFollow()
             QVERIFY2(static_cast<qint64>(packet->pts * 1000.0) ==
                          testsupport::frameTimeMs(sample, first),
                      (context + " landed on " + QByteArray::number(packet->pts)).constData());
-            if (decodedFrom.contains(first))
+            if (decodedFrom.contains(first)) {
                 continue;
+            }
             decodedFrom.insert(first);
             player.decoder->flush();
             const QtAV::VideoFrame frame = player.decodeKeyFrame(*packet);

@@ -59,8 +59,9 @@ public:
     double heard() const { return std::max(0.0, m_now - m_silence); }
     double known() const
     {
-        if (m_now < m_silence)
+        if (m_now < m_silence) {
             return 0.0;
+        }
         const double taken = (std::floor(heard() / m_block) + 1.0) * m_block;
         return std::floor(taken / m_quantum) * m_quantum;
     }
@@ -79,7 +80,7 @@ private:
     SoundClock m_clock;
 };
 
-constexpr double MostOff = 0.032; ///< the quantum of 20 ms and the 12 ms between two looks
+constexpr double largestOffset = 0.032; ///< the quantum of 20 ms and the 12 ms between two looks
 
 } // namespace
 
@@ -113,7 +114,7 @@ void SoundClockTest::time_runsEvenly_whateverTheBlocks()
     QFETCH(double, quantum);
     BlockDevice device(block, quantum);
     const double off = device.run(20.0);
-    QVERIFY2(off <= MostOff, QByteArray::number(off).constData());
+    QVERIFY2(off <= largestOffset, QByteArray::number(off).constData());
 }
 
 void SoundClockTest::time_standsStill_beforeTheFirstSound()
@@ -121,7 +122,7 @@ void SoundClockTest::time_standsStill_beforeTheFirstSound()
     BlockDevice device(0.21, 0.02);
     device.interrupt(2.0);
     QVERIFY(device.look() <= 0.0101); // since the last look
-    QVERIFY(device.run(5.0) <= MostOff);
+    QVERIFY(device.run(5.0) <= largestOffset);
 }
 
 void SoundClockTest::time_isNeverAheadOfWhatWasTaken_andRightAgain_afterAnInterruption()
@@ -131,15 +132,15 @@ void SoundClockTest::time_isNeverAheadOfWhatWasTaken_andRightAgain_afterAnInterr
     device.interrupt(1.0);
     QVERIFY(device.look() <= device.known());
     device.run(1.0);
-    QVERIFY(device.run(5.0) <= MostOff);
+    QVERIFY(device.run(5.0) <= largestOffset);
 }
 
 void SoundClockTest::time_runsOn_whenWhatWasTakenIsKnownLate()
 {
     BlockDevice device(0.01, 0.01);
     device.run(3.1);
-    QVERIFY(device.runUnknown(0.08) >= 0.05); // never ahead of what is known
-    QVERIFY(device.run(5.0) <= MostOff);      // but right at once when more is known
+    QVERIFY(device.runUnknown(0.08) >= 0.05);  // never ahead of what is known
+    QVERIFY(device.run(5.0) <= largestOffset); // but right at once when more is known
 }
 
 QTEST_GUILESS_MAIN(SoundClockTest)

@@ -1,4 +1,4 @@
-#include "qtav/player/SoundThread.h"
+#include "qtav/player/SoundWorker.h"
 
 #include "tests/qtav/Playing.h"
 #include "tests/qtav/SoundServer.h"
@@ -6,11 +6,11 @@
 #include <QTest>
 
 using namespace playing;
-using QtAV::SoundThread;
+using QtAV::SoundWorker;
 
 namespace {
 
-constexpr int LastOfBeeps = 199; ///< the last frame's number in flashes_and_beeps.mp4
+constexpr int lastOfBeeps = 199; ///< the last frame's number in flashes_and_beeps.mp4
 
 } // namespace
 
@@ -43,7 +43,7 @@ bool SoundHangTest::playWithSound(Stage& stage)
 {
     stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
     stage.player.play(testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4")));
-    return QTest::qWaitFor([this] { return m_server.streamCount() == 1; }, Patience);
+    return QTest::qWaitFor([this] { return m_server.streamCount() == 1; }, patienceMs);
 }
 
 void SoundHangTest::picture_playsOn_whileTheServerIsFrozen_andSoundReturns()
@@ -53,11 +53,11 @@ void SoundHangTest::picture_playsOn_whileTheServerIsFrozen_andSoundReturns()
     m_server.freeze();
     QVERIFY(stage.seek(5000));
     QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
-    QCOMPARE(stage.number(), LastOfBeeps);
+    QCOMPARE(stage.number(), lastOfBeeps);
     m_server.thaw();
     stage.player.play();
-    QTRY_COMPARE_WITH_TIMEOUT(m_server.streamCount(), 1, Patience);
-    QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 1, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_server.streamCount(), 1, patienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(SoundWorker::count(), 1, patienceMs);
 }
 
 void SoundHangTest::player_canEnd_whileTheServerIsFrozen()
@@ -69,8 +69,8 @@ void SoundHangTest::player_canEnd_whileTheServerIsFrozen()
         QVERIFY(stage.seek(5000));
     }
     m_server.thaw();
-    QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 0, Patience);
-    QTRY_COMPARE_WITH_TIMEOUT(m_server.streamCount(), 0, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(SoundWorker::count(), 0, patienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_server.streamCount(), 0, patienceMs);
 }
 
 void SoundHangTest::picture_playsOn_whenTheServerDies_whileADeviceStarts()
@@ -80,12 +80,12 @@ void SoundHangTest::picture_playsOn_whenTheServerDies_whileADeviceStarts()
         QVERIFY(playWithSound(stage));
         m_server.freeze();
         QVERIFY(stage.seek(5000));
-        QTest::qWait(int(SoundThread::LongestWork.count()));
+        QTest::qWait(int(SoundWorker::longestWork.count()));
         m_server.kill();
         QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
-        QCOMPARE(stage.number(), LastOfBeeps);
+        QCOMPARE(stage.number(), lastOfBeeps);
     }
-    qInfo("%d threads were left behind.", SoundThread::count());
+    qInfo("%d threads were left behind.", SoundWorker::count());
 }
 
 QTEST_GUILESS_MAIN(SoundHangTest)

@@ -20,9 +20,9 @@ namespace playing {
 
 namespace {
 
-constexpr int PatienceMs = 30000;
-constexpr int Rate = 48000;
-constexpr auto DeviceArguments = "sink_name=quiet rate=48000 channels=2";
+constexpr int patienceMs = 30000;
+constexpr int rate = 48000;
+constexpr auto deviceArguments = "sink_name=quiet rate=48000 channels=2";
 
 } // namespace
 
@@ -52,15 +52,16 @@ bool SoundServer::start()
          QStringLiteral("-L"),
          QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + socket,
          QStringLiteral("-L"),
-         QStringLiteral("module-null-sink ") + QLatin1String(DeviceArguments)});
-    if (!m_process.waitForStarted(PatienceMs)) {
+         QStringLiteral("module-null-sink ") + QLatin1String(deviceArguments)});
+    if (!m_process.waitForStarted(patienceMs)) {
         qWarning("pulseaudio does not start: %s", qUtf8Printable(m_process.errorString()));
         return false;
     }
-    const QDeadlineTimer patience(PatienceMs);
+    const QDeadlineTimer patience(patienceMs);
     while (m_process.state() == QProcess::Running && !patience.hasExpired()) {
-        if (control({QStringLiteral("info")}))
+        if (control({QStringLiteral("info")})) {
             return true;
+        }
         QThread::msleep(20);
         m_process.waitForFinished(0);
     }
@@ -70,10 +71,11 @@ bool SoundServer::start()
 
 void SoundServer::kill()
 {
-    if (m_process.state() == QProcess::NotRunning)
+    if (m_process.state() == QProcess::NotRunning) {
         return;
+    }
     m_process.kill();
-    m_process.waitForFinished(PatienceMs);
+    m_process.waitForFinished(patienceMs);
 }
 
 void SoundServer::freeze()
@@ -94,7 +96,7 @@ bool SoundServer::removeDevice()
 bool SoundServer::addDevice()
 {
     QStringList arguments{QStringLiteral("load-module"), QStringLiteral("module-null-sink")};
-    arguments += QString::fromLatin1(DeviceArguments).split(u' ');
+    arguments += QString::fromLatin1(deviceArguments).split(u' ');
     return control(arguments);
 }
 
@@ -103,49 +105,53 @@ int SoundServer::streamCount() const
     const ProgramResult result =
         runProgram(QStringLiteral("pactl"),
                    {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")},
-                   PatienceMs);
+                   patienceMs);
     return result.succeeded() ? int(result.standardOutput.count('\n')) : -1;
 }
 
 bool SoundServer::control(const QStringList& arguments) const
 {
-    return runProgram(QStringLiteral("pactl"), arguments, PatienceMs).succeeded();
+    return runProgram(QStringLiteral("pactl"), arguments, patienceMs).succeeded();
 }
 
 bool SoundRecording::start(int latencyMs)
 {
     QStringList arguments{QStringLiteral("--raw"), QStringLiteral("--format=s16le"),
-                          QStringLiteral("--rate=%1").arg(Rate), QStringLiteral("--channels=1"),
+                          QStringLiteral("--rate=%1").arg(rate), QStringLiteral("--channels=1"),
                           QStringLiteral("--device=quiet.monitor")};
-    if (latencyMs > 0)
+    if (latencyMs > 0) {
         arguments.append(QStringLiteral("--latency-msec=%1").arg(latencyMs));
+    }
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &SoundRecording::take);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(QStringLiteral("parec"), arguments);
-    if (!m_process.waitForStarted(PatienceMs))
+    if (!m_process.waitForStarted(patienceMs)) {
         return false;
-    const QDeadlineTimer patience(PatienceMs);
-    while (m_samples.isEmpty() && !patience.hasExpired())
+    }
+    const QDeadlineTimer patience(patienceMs);
+    while (m_samples.isEmpty() && !patience.hasExpired()) {
         m_process.waitForReadyRead(100);
+    }
     return !m_samples.isEmpty();
 }
 
 void SoundRecording::stop()
 {
     m_process.terminate();
-    m_process.waitForFinished(PatienceMs);
+    m_process.waitForFinished(patienceMs);
 }
 
 /// The device hands on a block of samples when its first one is heard, and nothing between two
 /// blocks, of at least 10 ms: what comes after a pause begins one.
 void SoundRecording::take()
 {
-    constexpr std::chrono::milliseconds PauseBetweenBlocks(5);
+    constexpr std::chrono::milliseconds pauseBetweenBlocks(5);
     const Time now = std::chrono::steady_clock::now();
     const auto before = std::chrono::nanoseconds(qint64(m_samples.size()) / qint64(sizeof(qint16)) *
-                                                 1000000000 / Rate);
-    if (now - m_lastArrival > PauseBetweenBlocks)
+                                                 1000000000 / rate);
+    if (now - m_lastArrival > pauseBetweenBlocks) {
         m_begins.push_back(now - before);
+    }
     m_samples += m_process.readAllStandardOutput();
     m_lastArrival = now;
 }
@@ -162,21 +168,22 @@ SoundRecording::Time SoundRecording::begin() const
 
 QList<SoundRecording::Time> SoundRecording::toneStarts() const
 {
-    constexpr int Loud = 5000;
-    constexpr int SilenceBetweenTones = Rate / 4;
+    constexpr int loud = 5000;
+    constexpr int silenceBetweenTones = rate / 4;
     const int count = m_samples.size() / int(sizeof(qint16));
     const Time first = begin();
     QList<Time> starts;
-    int silent = SilenceBetweenTones;
+    int silent = silenceBetweenTones;
     for (int i = 0; i < count; ++i) {
         qint16 sample = 0;
         std::memcpy(&sample, m_samples.constData() + i * int(sizeof(qint16)), sizeof(sample));
-        if (std::abs(int(sample)) < Loud) {
+        if (std::abs(int(sample)) < loud) {
             ++silent;
             continue;
         }
-        if (silent >= SilenceBetweenTones)
-            starts.append(first + std::chrono::nanoseconds(qint64(i) * 1000000000 / Rate));
+        if (silent >= silenceBetweenTones) {
+            starts.append(first + std::chrono::nanoseconds(qint64(i) * 1000000000 / rate));
+        }
         silent = 0;
     }
     return starts;

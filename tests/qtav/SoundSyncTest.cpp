@@ -13,7 +13,7 @@ using QtAV::AVPlayer;
 
 namespace {
 
-constexpr int Seconds = 8; ///< of flashes_and_beeps.mp4, each with one flash and one beep
+constexpr int seconds = 8; ///< of flashes_and_beeps.mp4, each with one flash and one beep
 
 /// Remembers when each flash was shown whose first frame was: one that was dropped tells nothing.
 class FlashScreen : public QtAV::VideoRenderer
@@ -26,8 +26,9 @@ public:
         const Time now = std::chrono::steady_clock::now();
         const QImage image = frame.toImage(QImage::Format_RGB32);
         const int number = testsupport::frameNumber(image).value_or(-1);
-        if (number % FramesASecond == FirstOfFlash && isWhite(image))
+        if (number % framesASecond == firstOfFlash && isWhite(image)) {
             flashes.append(now);
+        }
         last = number;
     }
 
@@ -35,17 +36,18 @@ public:
     int last = -1; ///< the number in the picture on screen
 
 private:
-    static constexpr int FramesASecond = 25;
-    static constexpr int FirstOfFlash = 12;
+    static constexpr int framesASecond = 25;
+    static constexpr int firstOfFlash = 12;
 
     static bool isWhite(const QImage& image)
     {
-        constexpr int White = 230;
+        constexpr int white = 230;
         for (const double part : {0.25, 0.5, 0.75, 0.95}) {
             const int x = int(part * image.width());
             const int y = int((0.2 + 0.78 * part) * image.height());
-            if (qGray(image.pixel(x, y)) < White)
+            if (qGray(image.pixel(x, y)) < white) {
                 return false;
+            }
         }
         return true;
     }
@@ -57,11 +59,12 @@ std::vector<double> offsets(const QList<SoundRecording::Time>& flashes,
 {
     std::vector<double> all;
     for (const auto flash : flashes) {
-        double nearest = 1000.0 * Seconds;
+        double nearest = 1000.0 * seconds;
         for (const auto beep : beeps) {
             const double offset = std::chrono::duration<double, std::milli>(flash - beep).count();
-            if (std::abs(offset) < std::abs(nearest))
+            if (std::abs(offset) < std::abs(nearest)) {
                 nearest = offset;
+            }
         }
         all.push_back(nearest);
     }
@@ -73,20 +76,22 @@ std::vector<double> offsets(const QList<SoundRecording::Time>& flashes,
 std::vector<double> offsetsInOnePlay(int recordingLatencyMs)
 {
     SoundRecording recording;
-    if (!recording.start(recordingLatencyMs))
+    if (!recording.start(recordingLatencyMs)) {
         return {};
+    }
     FlashScreen screen;
     AVPlayer player;
     player.setRenderer(&screen);
     player.setMediaEndAction(QtAV::MediaEndAction_Pause);
     QSignalSpy paused(&player, &AVPlayer::paused);
     player.play(testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4")));
-    if (!paused.wait(Patience))
+    if (!paused.wait(patienceMs)) {
         return {};
+    }
     recording.stop();
     const QList<SoundRecording::Time> beeps = recording.toneStarts();
     qInfo("%d beeps, %d frames dropped.", int(beeps.size()), player.statistics().droppedFrames);
-    return beeps.size() == Seconds ? offsets(screen.flashes, beeps) : std::vector<double>();
+    return beeps.size() == seconds ? offsets(screen.flashes, beeps) : std::vector<double>();
 }
 
 } // namespace
@@ -133,18 +138,19 @@ void SoundSyncTest::flashesAndBeeps_comeTogether()
 {
     QFETCH(int, latencyMs);
     QFETCH(bool, isTimeExact);
-    constexpr int MostPlays = 6;
-    constexpr double MostMs = 40.0;
+    constexpr int mostPlays = 6;
+    constexpr double mostMs = 40.0;
     bool isTogether = false;
-    for (int play = 0; play < MostPlays && !isTogether; ++play) {
+    for (int play = 0; play < mostPlays && !isTogether; ++play) {
         const std::vector<double> all = offsetsInOnePlay(latencyMs);
-        if (all.size() <= Seconds / 2)
+        if (all.size() <= seconds / 2) {
             continue;
+        }
         const double median = all.at(all.size() / 2);
         const double spread = all.at(all.size() * 3 / 4) - all.at(all.size() / 4);
         qInfo("%d flashes, %.1f ms after their beeps, between %.1f and %.1f.", int(all.size()),
               median, all.front(), all.back());
-        isTogether = spread < MostMs && (!isTimeExact || std::abs(median) < MostMs);
+        isTogether = spread < mostMs && (!isTimeExact || std::abs(median) < mostMs);
     }
     QVERIFY(isTogether);
 }
@@ -169,19 +175,19 @@ void SoundSyncTest::picture_playsOn_whenTheDeviceGoes_andSoundReturnsWithIt()
     QSignalSpy paused(&player, &AVPlayer::paused);
     player.play(testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4")));
     player.setPosition(5000);
-    QTRY_VERIFY_WITH_TIMEOUT(screen.last > 130, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(screen.last > 130, patienceMs);
     QCOMPARE(m_server.streamCount(), 1);
     QVERIFY(m_server.removeDevice());
     const int atItsEnd = screen.last;
-    QVERIFY(paused.wait(Patience));
+    QVERIFY(paused.wait(patienceMs));
     QCOMPARE(player.mediaStatus(), QtAV::EndOfMedia);
     QVERIFY(atItsEnd < 190);
-    QCOMPARE(screen.last, Seconds * 25 - 1);
+    QCOMPARE(screen.last, seconds * 25 - 1);
 
     QVERIFY(m_server.addDevice());
     player.play();
-    QTRY_COMPARE_WITH_TIMEOUT(m_server.streamCount(), 1, Patience);
-    QTRY_VERIFY_WITH_TIMEOUT(screen.last > 10 && screen.last < 100, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_server.streamCount(), 1, patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(screen.last > 10 && screen.last < 100, patienceMs);
 }
 
 void SoundSyncTest::picture_playsOn_whenTheServerDies()
@@ -193,14 +199,14 @@ void SoundSyncTest::picture_playsOn_whenTheServerDies()
     QSignalSpy paused(&player, &AVPlayer::paused);
     player.play(testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4")));
     player.setPosition(5000);
-    QTRY_VERIFY_WITH_TIMEOUT(screen.last > 130, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(screen.last > 130, patienceMs);
     QCOMPARE(m_server.streamCount(), 1);
     m_server.kill();
     const int atItsEnd = screen.last;
-    QVERIFY(paused.wait(Patience));
+    QVERIFY(paused.wait(patienceMs));
     QCOMPARE(player.mediaStatus(), QtAV::EndOfMedia);
     QVERIFY(atItsEnd < 190);
-    QCOMPARE(screen.last, Seconds * 25 - 1);
+    QCOMPARE(screen.last, seconds * 25 - 1);
 }
 
 void SoundSyncTest::picture_playsOn_withoutAServer()

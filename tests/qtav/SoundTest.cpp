@@ -19,15 +19,17 @@ namespace {
 
 QVector<qint16> samplesFrom(SoundFile& file, double seconds)
 {
-    if (!file.seek(seconds))
+    if (!file.seek(seconds)) {
         return {};
+    }
     QVector<qint16> all;
     QVector<qint16> part(10007 * 2);
     for (;;) {
         const qint64 bytes = file.read(reinterpret_cast<char*>(part.data()), part.size() * 2);
         all += part.mid(0, int(bytes / 2));
-        if (bytes < part.size() * 2)
+        if (bytes < part.size() * 2) {
             return all;
+        }
     }
 }
 
@@ -60,8 +62,9 @@ void SoundTest::file_givesTheSameSamples_fromAnywhere_data()
     QTest::addColumn<QString>("file");
     for (const char* file :
          {"sound.mp4", "sound_earlier.ts", "sound_earlier.mkv", "sound_later.mp4",
-          "sound_later.mkv", "sound_only.wav", "sound_only.mp3", "sound_with_cover.flac"})
+          "sound_later.mkv", "sound_only.wav", "sound_only.mp3", "sound_with_cover.flac"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void SoundTest::file_givesTheSameSamples_fromAnywhere()
@@ -70,19 +73,19 @@ void SoundTest::file_givesTheSameSamples_fromAnywhere()
     SoundFile sound;
     QString error;
     QVERIFY2(sound.open(testsupport::samplePath(file), error), qPrintable(error));
-    sound.setFormat(Rate, 2);
+    sound.setFormat(rate, 2);
     const QVector<qint16> all = samplesFrom(sound, 0.0);
-    QVERIFY(all.size() > Rate); // half a second and more
-    const double length = double(all.size()) / 2 / Rate;
+    QVERIFY(all.size() > rate); // half a second and more
+    const double length = double(all.size()) / 2 / rate;
     const auto loudest = std::max_element(all.cbegin(), all.cend());
     QVERIFY(*loudest > 100);
     for (const double part : {0.5, 0.1, 0.9, 0.0, 0.7}) {
-        const qint64 start = std::llround(part * length * Rate);
-        const QVector<qint16> rest = samplesFrom(sound, double(start) / Rate);
+        const qint64 start = std::llround(part * length * rate);
+        const QVector<qint16> rest = samplesFrom(sound, double(start) / rate);
         // Times in milliseconds are off by up to half of one.
-        QVERIFY(std::abs(rest.size() - (all.size() - 2 * start)) <= 2 * Rate / 500);
+        QVERIFY(std::abs(rest.size() - (all.size() - 2 * start)) <= 2 * rate / 500);
         // The tone's loudness does not depend on where reading began, and neither does silence.
-        const int count = std::min(int(rest.size()), Rate / 5);
+        const int count = std::min(int(rest.size()), rate / 5);
         double energy = 0.0;
         double expected = 0.0;
         for (int i = 0; i < count; ++i) {
@@ -104,12 +107,12 @@ void SoundTest::file_givesEachSample_atItsTime()
     QString error;
     const QString path = testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4"));
     QVERIFY2(sound.open(path, error), qPrintable(error));
-    sound.setFormat(Rate, 2);
+    sound.setFormat(rate, 2);
     for (const double from : {0.0, 0.1, 0.25, 0.47, 1.0, 3.3, 5.441, 7.0}) {
         const QVector<qint16> samples = samplesFrom(sound, from);
         const auto isLoud = [](qint16 sample) { return std::abs(int(sample)) > 5000; };
         const auto tone = std::find_if(samples.cbegin(), samples.cend(), isLoud);
-        const double start = from + double(tone - samples.cbegin()) / 2 / Rate;
+        const double start = from + double(tone - samples.cbegin()) / 2 / rate;
         const double expected = from < 0.48 ? 0.48 : std::ceil(from - 0.48) + 0.48;
         QVERIFY2(std::abs(start - expected) < 0.002,
                  qPrintable(QStringLiteral("from %1: %2").arg(from).arg(start)));
@@ -136,7 +139,7 @@ void SoundTest::sound_isPlayed_withThePicture()
     QCOMPARE(stage.number(), 74);
     QCOMPARE(devices.record.started.load(), 1);
     // The sound is shorter than the picture, which goes on without it.
-    QVERIFY(devices.record.heardBytes > 2.4 * Rate * 4);
+    QVERIFY(devices.record.heardBytes > 2.4 * rate * 4);
 }
 
 void SoundTest::sound_leadsThePicture()
@@ -149,7 +152,7 @@ void SoundTest::sound_leadsThePicture()
     qint64 furthest = 0;
     int pictures = 0;
     connect(&stage.screen, &Screen::presented, &stage.screen, [&] {
-        const double heard = double(devices.record.heardBytes) / 4 / Rate * 1000.0;
+        const double heard = double(devices.record.heardBytes) / 4 / rate * 1000.0;
         if (heard > 300.0 && heard < 2300.0) {
             ++pictures;
             furthest = std::max(furthest,
@@ -161,7 +164,7 @@ void SoundTest::sound_leadsThePicture()
     stage.player.play();
     QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
     QCOMPARE(devices.record.started.load(), 1);
-    QVERIFY(devices.record.heardBytes > 2.4 * Rate * 4);
+    QVERIFY(devices.record.heardBytes > 2.4 * rate * 4);
     QVERIFY(pictures > 0);
     qInfo("The picture was at most %lld ms off the sound.", furthest);
     // By the clock alone it would be 1150 ms behind in the end.
@@ -173,10 +176,10 @@ void SoundTest::sound_startsAnew_afterEachSeek()
     Devices devices;
     Stage stage;
     stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
-    QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, patienceMs);
     for (const int count : {2, 3, 4}) {
         QVERIFY(stage.seek(count * 500));
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), count, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), count, patienceMs);
     }
 }
 
@@ -190,7 +193,7 @@ void SoundTest::sound_isSilent_whilePaused()
     stage.settle();
     QCOMPARE(devices.record.started.load(), 0);
     stage.player.play();
-    QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > 0, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > 0, patienceMs);
     stage.player.pause();
     stage.settle();
     const qint64 heard = devices.record.heardBytes;
@@ -204,14 +207,14 @@ void SoundTest::volume_reachesTheDevice()
     Stage stage;
     stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
     stage.player.audio()->setVolume(0.25);
-    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 0.25, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 0.25, patienceMs);
     stage.player.audio()->setVolume(7.0);
-    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 1.0, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 1.0, patienceMs);
     stage.player.audio()->setMute(true);
-    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 0.0, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 0.0, patienceMs);
     QCOMPARE(stage.player.audio()->volume(), 1.0);
     stage.player.audio()->setMute(false);
-    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 1.0, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(devices.record.volume.load(), 1.0, patienceMs);
 }
 
 void SoundTest::picture_playsOn_withoutADevice()
@@ -230,7 +233,7 @@ void SoundTest::picture_playsOn_withoutADevice()
 void SoundTest::picture_playsOn_whenTheDeviceFails()
 {
     Devices devices;
-    devices.record.failsAfter = Rate; // after a quarter of a second
+    devices.record.failsAfter = rate; // after a quarter of a second
     Stage stage;
     stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
     QVERIFY(stage.open(QStringLiteral("sound.mp4")));
@@ -238,7 +241,7 @@ void SoundTest::picture_playsOn_whenTheDeviceFails()
     stage.player.play();
     QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
     QCOMPARE(stage.number(), 74);
-    QVERIFY(devices.record.heardBytes < Rate * 4);
+    QVERIFY(devices.record.heardBytes < rate * 4);
 }
 
 void SoundTest::picture_playsOn_whenTheDeviceStandsStill_data()
@@ -247,7 +250,7 @@ void SoundTest::picture_playsOn_whenTheDeviceStandsStill_data()
     QTest::addColumn<qint64>("failsAfter");
     QTest::newRow("after the sound's end")
         << QStringLiteral("sound_ends_early.mp4") << std::numeric_limits<qint64>::max();
-    QTest::newRow("in the middle") << QStringLiteral("sound.mp4") << qint64(Rate);
+    QTest::newRow("in the middle") << QStringLiteral("sound.mp4") << qint64(rate);
 }
 
 void SoundTest::picture_playsOn_whenTheDeviceStandsStill()
@@ -265,7 +268,7 @@ void SoundTest::picture_playsOn_whenTheDeviceStandsStill()
     QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
     QCOMPARE(stage.number(), 74);
     QVERIFY(devices.record.heardBytes > 0);
-    QVERIFY(devices.record.heardBytes < Rate * 4);
+    QVERIFY(devices.record.heardBytes < rate * 4);
 }
 
 void SoundTest::player_canEnd_whileSoundPlays()
@@ -274,7 +277,7 @@ void SoundTest::player_canEnd_whileSoundPlays()
     for (int round = 0; round < 5; ++round) {
         Stage stage;
         stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), round + 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), round + 1, patienceMs);
     }
 }
 

@@ -1,4 +1,3 @@
-#include "qtav/player/SoundThread.h"
 #include "qtav/player/SoundPlayer.h"
 
 #include "tests/qtav/Playing.h"
@@ -10,14 +9,23 @@
 
 using namespace playing;
 using QtAV::SoundPlayer;
-using QtAV::SoundThread;
+using QtAV::SoundWorker;
 
 namespace {
+
+/// Where devices wait in the function that the test's row names.
+Gate& gateNamed(const QString& function, Record& record)
+{
+    if (function == QLatin1String("start")) {
+        return record.start;
+    }
+    return function == QLatin1String("stop") ? record.stop : record.query;
+}
 
 /// A time after which a device that has been held up is given up.
 void waitUntilItIsGivenUp()
 {
-    QTest::qWait(int(SoundThread::LongestWork.count()));
+    QTest::qWait(int(SoundWorker::longestWork.count()));
 }
 
 } // namespace
@@ -37,45 +45,51 @@ private slots:
 
 void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp_data()
 {
-    QTest::addColumn<bool>("atStart");
-    QTest::newRow("when it starts") << true;
-    QTest::newRow("when it stops") << false;
+    QTest::addColumn<QString>("function");
+    QTest::newRow("when it starts") << QStringLiteral("start");
+    QTest::newRow("when it stops") << QStringLiteral("stop");
+    QTest::newRow("when it is asked what was heard") << QStringLiteral("query");
 }
 
 /// Without sound at first, which comes back on another thread when it is wanted anew.
 void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp()
 {
-    QFETCH(bool, atStart);
+    QFETCH(QString, function);
+    const bool atStart = function == QLatin1String("start");
     Devices devices;
-    Gate& gate = atStart ? devices.record.start : devices.record.stop;
+    Gate& gate = gateNamed(function, devices.record);
     {
         Stage stage;
         stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
-        if (atStart)
+        if (atStart) {
             gate.shut();
+        }
         stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, patienceMs);
         if (!atStart) {
             gate.shut();
+        }
+        if (function == QLatin1String("stop")) {
             stage.player.pause();
         }
-        QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, patienceMs);
         stage.player.play();
         QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
         QCOMPARE(stage.number(), 74);
         waitUntilItIsGivenUp();
 
         stage.player.play(testsupport::samplePath(QStringLiteral("flashes_and_beeps.mp4")));
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2, Patience);
-        QCOMPARE(SoundThread::count(), 2);
-        if (atStart)
-            QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 2, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2, patienceMs);
+        QCOMPARE(SoundWorker::count(), 2);
+        if (function != QLatin1String("stop")) {
+            QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 2, patienceMs);
+        }
         const qint64 heard = devices.record.heardBytes;
         gate.open();
-        QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > heard, Patience);
-        QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 1, Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > heard, patienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(SoundWorker::count(), 1, patienceMs);
     }
-    QCOMPARE(SoundThread::count(), 0);
+    QCOMPARE(SoundWorker::count(), 0);
 }
 
 void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp_data()
@@ -85,22 +99,24 @@ void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp_data()
 
 void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp()
 {
-    QFETCH(bool, atStart);
+    QFETCH(QString, function);
+    const bool atStart = function == QLatin1String("start");
     Devices devices;
-    Gate& gate = atStart ? devices.record.start : devices.record.stop;
+    Gate& gate = gateNamed(function, devices.record);
     {
         Stage stage;
-        if (atStart)
+        if (atStart) {
             gate.shut();
+        }
         stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, patienceMs);
         gate.shut();
         stage.player.stop();
     }
-    QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, Patience);
-    QCOMPARE(SoundThread::count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, patienceMs);
+    QCOMPARE(SoundWorker::count(), 1);
     gate.open();
-    QTRY_COMPARE_WITH_TIMEOUT(SoundThread::count(), 0, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(SoundWorker::count(), 0, patienceMs);
 }
 
 void SoundThreadTest::threads_areFew_whenAllDevicesHoldThemUp()
@@ -109,21 +125,27 @@ void SoundThreadTest::threads_areFew_whenAllDevicesHoldThemUp()
     devices.record.start.shut();
     const QString path = testsupport::samplePath(QStringLiteral("sound.mp4"));
     {
-        std::array<SoundPlayer, SoundThread::Most> players;
+        std::array<SoundPlayer, SoundPlayer::maximumThreads> players;
         for (SoundPlayer& player : players) {
             player.open(path);
             player.play(0.0);
         }
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.start.waiting(), SoundThread::Most, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.start.waiting(), SoundPlayer::maximumThreads,
+                                  patienceMs);
         waitUntilItIsGivenUp();
-        for (SoundPlayer& player : players)
+        for (SoundPlayer& player : players) {
             player.play(1.0);
-        QCOMPARE(SoundThread::count(), SoundThread::Most);
-        // Who was let go does what was wished in the meantime.
+        }
+        SoundPlayer oneMore;
+        oneMore.open(path);
+        oneMore.play(1.0);
+        QCOMPARE(SoundWorker::count(), SoundPlayer::maximumThreads);
+        // Once released, each carries out its latest request.
         devices.record.start.open();
-        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2 * SoundThread::Most, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2 * SoundPlayer::maximumThreads,
+                                  patienceMs);
     }
-    QCOMPARE(SoundThread::count(), 0);
+    QCOMPARE(SoundWorker::count(), 0);
 }
 
 QTEST_GUILESS_MAIN(SoundThreadTest)

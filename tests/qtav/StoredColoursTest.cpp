@@ -15,8 +15,9 @@ namespace {
 
 bool isNear(double a, double b, double most)
 {
-    if (std::abs(a - b) <= most)
+    if (std::abs(a - b) <= most) {
         return true;
+    }
     qWarning("%.6f instead of %.6f", a, b);
     return false;
 }
@@ -39,8 +40,9 @@ Rgb lightOf(const StoredColours& colours, const Rgb& values)
 {
     Rgb nits{testsupport::nitsOfPq(values[0]), testsupport::nitsOfPq(values[1]),
              testsupport::nitsOfPq(values[2])};
-    if (colours.transfer == Transfer::Hlg)
+    if (colours.transfer == Transfer::Hlg) {
         nits = testsupport::nitsOfHlg(values);
+    }
     return testsupport::toStandardPrimaries(likewise(colours.primaries), nits);
 }
 
@@ -61,24 +63,28 @@ private slots:
 
 void StoredColoursTest::whiteOfStandardRange_hasTheReferencesValue()
 {
-    for (const double value : StoredColours{Transfer::Pq, Primaries::Bt2020}.valuesOf({1, 1, 1}))
+    for (const double value : StoredColours{Transfer::Pq, Primaries::Bt2020}.valuesOf({1, 1, 1})) {
         QVERIFY(isNear(value, testsupport::pqOf(203.0), 1e-6));
+    }
     // ITU-R BT.2408 calls it 75 %.
-    for (const double value : StoredColours{Transfer::Hlg, Primaries::Bt2020}.valuesOf({1, 1, 1}))
+    for (const double value : StoredColours{Transfer::Hlg, Primaries::Bt2020}.valuesOf({1, 1, 1})) {
         QVERIFY(isNear(value, 0.75, 0.002));
+    }
 }
 
 void StoredColoursTest::colours_showAsBrightAsInStandardRange_data()
 {
     QTest::addColumn<int>("transfer");
     QTest::addColumn<int>("primaries");
-    for (const Transfer transfer : {Transfer::Pq, Transfer::Hlg})
+    for (const Transfer transfer : {Transfer::Pq, Transfer::Hlg}) {
         for (const Primaries primaries : {Primaries::Standard, Primaries::P3, Primaries::Bt2020}) {
             // The formulas for HLG are those of BT.2100's own primaries.
-            if (transfer == Transfer::Pq || primaries == Primaries::Bt2020)
+            if (transfer == Transfer::Pq || primaries == Primaries::Bt2020) {
                 QTest::addRow("%d %d", int(transfer), int(primaries))
                     << int(transfer) << int(primaries);
+            }
         }
+    }
 }
 
 void StoredColoursTest::colours_showAsBrightAsInStandardRange()
@@ -89,8 +95,9 @@ void StoredColoursTest::colours_showAsBrightAsInStandardRange()
     for (const Rgb& rgb : {Rgb{1, 1, 1}, Rgb{0.5, 0.5, 0.5}, Rgb{1, 0, 0}, Rgb{0, 1, 0},
                            Rgb{0, 0, 1}, Rgb{0.2, 0.7, 0.4}, Rgb{0, 0, 0}}) {
         const Rgb light = lightOf(colours, colours.valuesOf(rgb));
-        for (size_t i = 0; i < 3; ++i)
+        for (size_t i = 0; i < 3; ++i) {
             QVERIFY(isNear(light[i] / 203.0, testsupport::lightOfSrgb(rgb[i]), 0.002));
+        }
     }
 }
 
@@ -114,8 +121,9 @@ void StoredColoursTest::standardValues_stayAsTheyAre()
     QVERIFY(!standard.isHdr());
     const Rgb rgb{0.1, 0.6, 0.9};
     const Rgb values = standard.valuesOf(rgb);
-    for (size_t i = 0; i < 3; ++i)
+    for (size_t i = 0; i < 3; ++i) {
         QVERIFY(isNear(values[i], rgb[i], 1e-6));
+    }
 }
 
 QTEST_APPLESS_MAIN(StoredColoursTest)

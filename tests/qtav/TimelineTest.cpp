@@ -50,8 +50,9 @@ void TimelineTest::seconds_keepTheWholeMilliseconds_forEveryTimeBase_data()
     const QList<QPair<int, int>> timeBases{{1, 1000},     {1, 25},       {1001, 24000},
                                            {1001, 30000}, {1001, 60000}, {1, 90000},
                                            {1, 12800},    {1, 1200000},  {1, 1000000}};
-    for (const auto& [num, den] : timeBases)
+    for (const auto& [num, den] : timeBases) {
         QTest::addRow("%d/%d", num, den) << num << den;
+    }
 }
 
 void TimelineTest::seconds_keepTheWholeMilliseconds_forEveryTimeBase()
@@ -59,9 +60,10 @@ void TimelineTest::seconds_keepTheWholeMilliseconds_forEveryTimeBase()
     QFETCH(int, num);
     QFETCH(int, den);
     const Timeline timeline({num, den}, 7, {num, den});
-    for (qint64 ticks = 7; ticks < 400000; ++ticks)
+    for (qint64 ticks = 7; ticks < 400000; ++ticks) {
         QCOMPARE(static_cast<qint64>(timeline.seconds(ticks) * 1000.0),
                  timeline.milliseconds(ticks));
+    }
 }
 
 void TimelineTest::times_areZero_beforeTheStart()
@@ -91,11 +93,11 @@ void TimelineTest::lastTickOf_isTheLastOneOfItsMillisecond()
 
 void TimelineTest::times_stayFinite_forAbsurdTicks()
 {
-    constexpr qint64 Most = std::numeric_limits<qint64>::max();
-    constexpr int Huge = std::numeric_limits<int>::max();
-    for (const qint64 start : {-Most, qint64(0), Most}) {
-        const Timeline timeline({1, Huge}, start, {1, Huge - 1});
-        for (const qint64 ticks : {-Most - 1, -Most, qint64(0), Most}) {
+    constexpr qint64 most = std::numeric_limits<qint64>::max();
+    constexpr int huge = std::numeric_limits<int>::max();
+    for (const qint64 start : {-most, qint64(0), most}) {
+        const Timeline timeline({1, huge}, start, {1, huge - 1});
+        for (const qint64 ticks : {-most - 1, -most, qint64(0), most}) {
             QVERIFY(timeline.milliseconds(ticks) >= 0);
             QVERIFY(std::isfinite(timeline.seconds(ticks)));
         }

@@ -21,32 +21,35 @@ using testsupport::srgbOf;
 
 namespace {
 
-constexpr int Side = 16;
+constexpr int side = 16;
 
 /// A picture of one colour.
 FramePtr flat(AVPixelFormat format, const std::array<int, 3>& codes)
 {
     FramePtr frame = QtAV::makeFrame();
-    frame->width = Side;
-    frame->height = Side;
+    frame->width = side;
+    frame->height = side;
     frame->format = format;
-    if (av_frame_get_buffer(frame.get(), 0) < 0)
+    if (av_frame_get_buffer(frame.get(), 0) < 0) {
         qFatal("out of memory");
+    }
     // What is written is added to the bits that are there.
     for (const AVBufferRef* const buffer : frame->buf) {
-        if (buffer)
+        if (buffer) {
             std::memset(buffer->data, 0, buffer->size);
+        }
     }
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(format);
     for (int c = 0; c < 3; ++c) {
-        std::array<uint16_t, Side> samples{};
+        std::array<uint16_t, side> samples{};
         samples.fill(static_cast<uint16_t>(codes[static_cast<size_t>(c)]));
         const bool isChroma = c > 0 && !(d.flags & AV_PIX_FMT_FLAG_RGB);
-        const int width = isChroma ? AV_CEIL_RSHIFT(Side, d.log2_chroma_w) : Side;
-        const int height = isChroma ? AV_CEIL_RSHIFT(Side, d.log2_chroma_h) : Side;
-        for (int y = 0; y < height; ++y)
+        const int width = isChroma ? AV_CEIL_RSHIFT(side, d.log2_chroma_w) : side;
+        const int height = isChroma ? AV_CEIL_RSHIFT(side, d.log2_chroma_h) : side;
+        for (int y = 0; y < height; ++y) {
             av_write_image_line2(samples.data(), frame->data, frame->linesize, &d, 0, y, c, width,
                                  2);
+        }
     }
     return frame;
 }
@@ -147,8 +150,9 @@ void TrueColoursTest::greysOfPq_followTheStandard_data()
 {
     QTest::addColumn<double>("nits");
     for (const double nits :
-         {0.0, 0.05, 1.0, 10.0, 50.0, 100.0, 203.0, 400.0, 700.0, 1000.0, 4000.0})
+         {0.0, 0.05, 1.0, 10.0, 50.0, 100.0, 203.0, 400.0, 700.0, 1000.0, 4000.0}) {
         QTest::addRow("%g", nits) << nits;
+    }
 }
 
 void TrueColoursTest::greysOfPq_followTheStandard()
@@ -205,8 +209,9 @@ void TrueColoursTest::peak_isThatOfTheContent_elseOfTheDisplay()
 void TrueColoursTest::greysOfHlg_followTheStandard_data()
 {
     QTest::addColumn<double>("value");
-    for (const double value : {0.0, 0.1, 0.3, 0.5, 0.75, 0.9, 1.0})
+    for (const double value : {0.0, 0.1, 0.3, 0.5, 0.75, 0.9, 1.0}) {
         QTest::addRow("%g", value) << value;
+    }
 }
 
 void TrueColoursTest::greysOfHlg_followTheStandard()
@@ -301,8 +306,9 @@ void TrueColoursTest::deepRgb_isExact_data()
     for (const AVPixelFormat format :
          {AV_PIX_FMT_GBRP9LE, AV_PIX_FMT_GBRP10LE, AV_PIX_FMT_GBRP12LE, AV_PIX_FMT_GBRP16LE,
           AV_PIX_FMT_GBRP16BE, AV_PIX_FMT_RGB48LE, AV_PIX_FMT_RGB48BE, AV_PIX_FMT_BGR48LE,
-          AV_PIX_FMT_X2RGB10LE, AV_PIX_FMT_RGB565LE, AV_PIX_FMT_RGB555LE, AV_PIX_FMT_BGR444LE})
+          AV_PIX_FMT_X2RGB10LE, AV_PIX_FMT_RGB565LE, AV_PIX_FMT_RGB555LE, AV_PIX_FMT_BGR444LE}) {
         QTest::newRow(av_get_pix_fmt_name(format)) << int(format);
+    }
 }
 
 void TrueColoursTest::deepRgb_isExact()
@@ -310,8 +316,9 @@ void TrueColoursTest::deepRgb_isExact()
     QFETCH(const int, format);
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(AVPixelFormat(format));
     std::array<int, 3> tops{};
-    for (size_t c = 0; c < 3; ++c)
+    for (size_t c = 0; c < 3; ++c) {
         tops[c] = (1 << d.comp[c].depth) - 1;
+    }
     for (const Rgb& part : {Rgb{0, 0, 0}, Rgb{1, 1, 1}, Rgb{0.3, 0.6, 0.9}, Rgb{1, 0, 0.5}}) {
         std::array<int, 3> codes{};
         Rgb expected{};

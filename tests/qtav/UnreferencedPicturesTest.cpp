@@ -37,8 +37,9 @@ void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file :
-         {"h264_bframes.mp4", "h264.ts", "hevc_8bit.mp4", "hevc.ts", "mpeg4_bframes.avi"})
+         {"h264_bframes.mp4", "h264.ts", "hevc_8bit.mp4", "hevc.ts", "mpeg4_bframes.avi"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 /// As many frames are left out as there are such packets: no more, which would be pictures that
@@ -52,8 +53,9 @@ void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips()
     int packets = 0;
     int unreferenced = 0;
     while (const auto packet = player.nextVideoPacket()) {
-        if (packet->isDrain())
+        if (packet->isDrain()) {
             continue;
+        }
         ++packets;
         const bool isSo = pictures.areAllOf(*QtAV::PacketHandle::of(*packet)->get());
         QVERIFY(!isSo || !packet->hasKeyFrame);
@@ -62,9 +64,9 @@ void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips()
     QVERIFY(unreferenced > 0);
     QVERIFY(player.demuxer.seek(0));
     player.decoder->flush();
-    constexpr int NonReference = 8; // FFmpeg's AVDISCARD_NONREF
+    constexpr int nonReference = 8; // FFmpeg's AVDISCARD_NONREF
     player.decoder->setOptions(
-        {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), NonReference}}}});
+        {{QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), nonReference}}}});
     QCOMPARE(player.showRest().size(), packets - unreferenced);
 }
 
@@ -77,29 +79,29 @@ void UnreferencedPicturesTest::units_decide_data()
     const auto row = [](const char* name, int codec, int lengthBytes, const char* hex, bool isSo) {
         QTest::newRow(name) << codec << lengthBytes << QByteArray::fromHex(hex) << isSo;
     };
-    constexpr int H264 = AV_CODEC_ID_H264;
-    constexpr int Hevc = AV_CODEC_ID_HEVC;
-    constexpr int Mpeg4 = AV_CODEC_ID_MPEG4;
-    row("H.264 slice nobody needs", H264, 4, "000000020199", true);
-    row("H.264 slice behind information", H264, 4, "0000000206990000000301aabb", true);
-    row("H.264 slice of a reference", H264, 4, "000000024199", false);
-    row("H.264 slice nobody needs and one of a reference", H264, 2, "000201990002419a", false);
-    row("H.264 key frame", H264, 4, "000000026599", false);
-    row("H.264 parameters beside the slice", H264, 1, "0267990201aa", false);
-    row("H.264 information alone", H264, 4, "000000020699", false);
-    row("H.264 behind start codes", H264, 0, "000000010910000001019900000101aa", true);
-    row("H.264 reference behind start codes", H264, 0, "00000001091000000121aa", false);
-    row("HEVC slice nobody needs", Hevc, 4, "00000003000199", true);
-    row("HEVC slice of a reference", Hevc, 4, "00000003020199", false);
-    row("HEVC leading slice nobody needs", Hevc, 4, "00000003100199", true);
-    row("HEVC key frame", Hevc, 4, "00000003260199", false);
-    row("HEVC behind start codes", Hevc, 0, "00000001460150000001000199", true);
-    row("MPEG-4 B-picture", Mpeg4, 0, "000001b69099", true);
-    row("MPEG-4 B-picture behind user data", Mpeg4, 0, "000001b244697658000001b69099", true);
-    row("MPEG-4 picture that others refer to", Mpeg4, 0, "000001b65099", false);
-    row("MPEG-4 packed pictures", Mpeg4, 0, "000001b65099000001b69099", false);
-    row("MPEG-4 key frame", Mpeg4, 0, "000001b3001007000001b61099", false);
-    row("MPEG-4 cut off", Mpeg4, 0, "000001b6", false);
+    constexpr int h264 = AV_CODEC_ID_H264;
+    constexpr int hevc = AV_CODEC_ID_HEVC;
+    constexpr int mpeg4 = AV_CODEC_ID_MPEG4;
+    row("H.264 slice nobody needs", h264, 4, "000000020199", true);
+    row("H.264 slice behind information", h264, 4, "0000000206990000000301aabb", true);
+    row("H.264 slice of a reference", h264, 4, "000000024199", false);
+    row("H.264 slice nobody needs and one of a reference", h264, 2, "000201990002419a", false);
+    row("H.264 key frame", h264, 4, "000000026599", false);
+    row("H.264 parameters beside the slice", h264, 1, "0267990201aa", false);
+    row("H.264 information alone", h264, 4, "000000020699", false);
+    row("H.264 behind start codes", h264, 0, "000000010910000001019900000101aa", true);
+    row("H.264 reference behind start codes", h264, 0, "00000001091000000121aa", false);
+    row("HEVC slice nobody needs", hevc, 4, "00000003000199", true);
+    row("HEVC slice of a reference", hevc, 4, "00000003020199", false);
+    row("HEVC leading slice nobody needs", hevc, 4, "00000003100199", true);
+    row("HEVC key frame", hevc, 4, "00000003260199", false);
+    row("HEVC behind start codes", hevc, 0, "00000001460150000001000199", true);
+    row("MPEG-4 B-picture", mpeg4, 0, "000001b69099", true);
+    row("MPEG-4 B-picture behind user data", mpeg4, 0, "000001b244697658000001b69099", true);
+    row("MPEG-4 picture that others refer to", mpeg4, 0, "000001b65099", false);
+    row("MPEG-4 packed pictures", mpeg4, 0, "000001b65099000001b69099", false);
+    row("MPEG-4 key frame", mpeg4, 0, "000001b3001007000001b61099", false);
+    row("MPEG-4 cut off", mpeg4, 0, "000001b6", false);
 }
 
 void UnreferencedPicturesTest::units_decide()

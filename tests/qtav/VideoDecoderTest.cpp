@@ -13,7 +13,7 @@ using testsupport::Trait;
 namespace {
 
 // FFmpeg's AVDISCARD_NONREF.
-constexpr int NonReference = 8;
+constexpr int nonReference = 8;
 
 QVariantHash skipping(int discard)
 {
@@ -101,9 +101,10 @@ void VideoDecoderTest::keyFrame_comesOutAtOnce_whereverItLies_data()
     QTest::addColumn<int>("threads");
     const QList<int> threadCounts = testsupport::isSanitized ? QList<int>{4} : QList<int>{1, 4};
     for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
-        for (const int threads : threadCounts)
+        for (const int threads : threadCounts) {
             QTest::addRow("%s, %d threads", qPrintable(sample.file), threads)
                 << sample.file << threads;
+        }
     }
 }
 
@@ -116,8 +117,8 @@ void VideoDecoderTest::keyFrame_comesOutAtOnce_whereverItLies()
     Player player(testsupport::samplePath(file), threads);
     QVERIFY(player.isReady());
 
-    constexpr int MostKeyFrames = 2;
-    const int stride = std::max(1, int(keyFrames.size()) / MostKeyFrames);
+    constexpr int mostKeyFrames = 2;
+    const int stride = std::max(1, int(keyFrames.size()) / mostKeyFrames);
     for (int i = 0; i < keyFrames.size(); i += stride) {
         const int key = keyFrames.at(i);
         const bool isWhole = !sample.has(Trait::IntraRefresh) || i == 0;
@@ -126,8 +127,9 @@ void VideoDecoderTest::keyFrame_comesOutAtOnce_whereverItLies()
         const auto packet = player.nextVideoPacket();
         QVERIFY(packet && packet->hasKeyFrame);
         const QtAV::VideoFrame frame = player.decodeKeyFrame(*packet);
-        if (!isWhole)
+        if (!isWhole) {
             continue;
+        }
         QVERIFY(frame.isValid());
         QList<Shown> all{shown(frame)};
         all += player.showRest();
@@ -151,11 +153,12 @@ void VideoDecoderTest::frames_areTheSame_whenTheKeyFrameMayComeLater()
     player.decoder->setOptions(
         {{QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), false}}}});
 
-    constexpr int MostKeyFrames = 2;
-    const int stride = std::max(1, int(keyFrames.size()) / MostKeyFrames);
+    constexpr int mostKeyFrames = 2;
+    const int stride = std::max(1, int(keyFrames.size()) / mostKeyFrames);
     for (int i = 0; i < keyFrames.size(); i += stride) {
-        if (sample.has(Trait::IntraRefresh) && i > 0)
+        if (sample.has(Trait::IntraRefresh) && i > 0) {
             continue;
+        }
         const int key = keyFrames.at(i);
         QVERIFY(player.demuxer.seek(testsupport::frameTimeMs(sample, key)));
         player.decoder->flush();
@@ -199,8 +202,9 @@ void VideoDecoderTest::target_isTheSamePicture_whenNonReferenceFramesBeforeItAre
     for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         // A stream that refreshes bit by bit gives its first picture when FFmpeg takes it for
         // whole, which can be later where pictures are skipped. FrameReader searches anew then.
-        if (!sample.has(Trait::Large) && !sample.has(Trait::IntraRefresh))
+        if (!sample.has(Trait::Large) && !sample.has(Trait::IntraRefresh)) {
             QTest::newRow(qPrintable(sample.file)) << sample.file;
+        }
     }
 }
 
@@ -213,16 +217,19 @@ void VideoDecoderTest::target_isTheSamePicture_whenNonReferenceFramesBeforeItAre
 
     const auto decodeTo = [&player](qint64 targetMs, int discard) {
         QtAV::VideoFrame frame;
-        if (!player.demuxer.seek(targetMs))
+        if (!player.demuxer.seek(targetMs)) {
             return frame;
+        }
         player.decoder->flush();
         while (const auto packet = player.nextVideoPacket()) {
             const bool isBefore = static_cast<qint64>(packet->pts * 1000.0) < targetMs;
             player.decoder->setOptions(skipping(isBefore ? discard : 0));
-            if (player.decoder->decode(*packet))
+            if (player.decoder->decode(*packet)) {
                 frame = player.decoder->frame();
-            if (frame.isValid() && static_cast<qint64>(frame.timestamp() * 1000.0) >= targetMs)
+            }
+            if (frame.isValid() && static_cast<qint64>(frame.timestamp() * 1000.0) >= targetMs) {
                 break;
+            }
         }
         return frame;
     };
@@ -231,7 +238,7 @@ void VideoDecoderTest::target_isTheSamePicture_whenNonReferenceFramesBeforeItAre
     for (int n = 0; n < sample.frames; n += stride) {
         const qint64 target = testsupport::frameTimeMs(sample, n);
         const QtAV::VideoFrame whole = decodeTo(target, 0);
-        const QtAV::VideoFrame quick = decodeTo(target, NonReference);
+        const QtAV::VideoFrame quick = decodeTo(target, nonReference);
         QCOMPARE(quick.timestamp(), whole.timestamp());
         QCOMPARE(quick.toImage(), whole.toImage());
     }
@@ -241,7 +248,7 @@ void VideoDecoderTest::skipping_leavesFramesOut_fromTheNextPacketOn()
 {
     const Sample& sample = testsupport::sampleNamed(QStringLiteral("h264_bframes.mp4"));
     Player player(testsupport::samplePath(sample.file));
-    player.decoder->setOptions(skipping(NonReference));
+    player.decoder->setOptions(skipping(nonReference));
     const int skipped = player.showRest().size();
     QVERIFY2(skipped < sample.frames, "nothing was skipped");
     QVERIFY(player.demuxer.seek(0));
@@ -282,8 +289,9 @@ void VideoDecoderTest::decoder_staysUsable_afterDamagedPackets()
     Player whole(testsupport::samplePath(name));
     QVERIFY(whole.isReady());
     QByteArray damaged;
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         damaged = whole.nextVideoPacket()->data;
+    }
     QFile source(testsupport::samplePath(name));
     QVERIFY(source.open(QIODevice::ReadOnly));
     QByteArray content = source.readAll();
@@ -298,8 +306,9 @@ void VideoDecoderTest::decoder_staysUsable_afterDamagedPackets()
     Player player(copy.fileName());
     QVERIFY(player.isReady());
     bool failed = false;
-    for (int i = 0; i < 20; ++i)
+    for (int i = 0; i < 20; ++i) {
         failed = !player.decoder->decode(*player.nextVideoPacket()) || failed;
+    }
     QVERIFY(failed);
     const int lastKey = testsupport::keyFrames(sample).constLast();
     QVERIFY(lastKey > 0);

@@ -32,8 +32,9 @@ QtAV::VideoFrame nextFrameOf(Player& player)
     while (const auto packet = player.nextVideoPacket()) {
         const QtAV::VideoFrame frame =
             player.decoder->decode(*packet) ? player.decoder->frame() : QtAV::VideoFrame();
-        if (frame.isValid())
+        if (frame.isValid()) {
             return frame;
+        }
     }
     return {};
 }
@@ -49,12 +50,14 @@ std::array<double, 3> meanColour(const QImage& image)
     std::array<double, 3> sum{};
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            for (size_t i = 0; i < sum.size(); ++i)
+            for (size_t i = 0; i < sum.size(); ++i) {
                 sum[i] += channels(image.pixel(x, y))[i];
+            }
         }
     }
-    for (double& value : sum)
+    for (double& value : sum) {
         value /= double(image.width()) * image.height();
+    }
     return sum;
 }
 
@@ -63,8 +66,9 @@ double meanDifference(const QImage& one, const QImage& other)
     double sum = 0.0;
     for (int y = 0; y < one.height(); ++y) {
         for (int x = 0; x < one.width(); ++x) {
-            for (size_t i = 0; i < 3; ++i)
+            for (size_t i = 0; i < 3; ++i) {
                 sum += std::abs(channels(one.pixel(x, y))[i] - channels(other.pixel(x, y))[i]);
+            }
         }
     }
     return sum / 3.0 / one.width() / one.height();
@@ -74,14 +78,15 @@ double meanDifference(const QImage& one, const QImage& other)
 /// differences.
 double allowedFor(const testsupport::Rgb& light, const ColourSample& sample)
 {
-    constexpr double ForStandard = 1.0;
-    constexpr double ForWide = 3.0;
-    constexpr double ForOutside = 12.0;
-    if (sample.primaries == testsupport::Primaries::Standard)
-        return ForStandard;
+    constexpr double forStandard = 1.0;
+    constexpr double forWide = 3.0;
+    constexpr double forOutside = 12.0;
+    if (sample.primaries == testsupport::Primaries::Standard) {
+        return forStandard;
+    }
     const bool isOutside = std::any_of(light.begin(), light.end(),
                                        [](double l) { return l < -1e-9 || l > 1.0 + 1e-9; });
-    return isOutside && sample.transfer != testsupport::Transfer::Standard ? ForOutside : ForWide;
+    return isOutside && sample.transfer != testsupport::Transfer::Standard ? forOutside : forWide;
 }
 
 } // namespace
@@ -142,8 +147,9 @@ void VideoFrameTest::invalidFrame_hasNothing()
 void VideoFrameTest::image_isUprightWithSquarePixels_forEverySample_data()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::videoSamplesToRepeat())
+    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         QTest::newRow(qPrintable(sample.file)) << sample.file;
+    }
 }
 
 void VideoFrameTest::image_isUprightWithSquarePixels_forEverySample()
@@ -167,8 +173,9 @@ void VideoFrameTest::colours_followTheStandards_forEveryMatrixRangeAndDepth_data
 {
     QTest::addColumn<int>("index");
     const QList<ColourSample>& samples = testsupport::colourSamples();
-    for (int i = 0; i < samples.size(); ++i)
+    for (int i = 0; i < samples.size(); ++i) {
         QTest::newRow(qPrintable(samples.at(i).file)) << i;
+    }
 }
 
 void VideoFrameTest::colours_followTheStandards_forEveryMatrixRangeAndDepth()
@@ -235,8 +242,9 @@ void VideoFrameTest::alpha_isOpaque_whereTheFormatHasNone()
 {
     const QImage image = firstFrameOf(QStringLiteral("h264_bframes.mp4")).toImage();
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             QCOMPARE(qAlpha(image.pixel(x, y)), 255);
+        }
     }
 }
 
@@ -308,9 +316,10 @@ void VideoFrameTest::smallerImage_showsTheSame_forEverySample()
                                 .convertToFormat(QImage::Format_ARGB32);
     const std::array<double, 3> mean = meanColour(smaller);
     const std::array<double, 3> expectedMean = meanColour(expected);
-    for (size_t i = 0; i < mean.size(); ++i)
+    for (size_t i = 0; i < mean.size(); ++i) {
         QVERIFY2(std::abs(mean[i] - expectedMean[i]) < 1.0,
                  qPrintable(QString::number(mean[i] - expectedMean[i])));
+    }
     // Edges are sharper in one of them.
     const double difference = meanDifference(smaller, expected);
     QVERIFY2(difference < 5.0, qPrintable(QString::number(difference)));
@@ -324,8 +333,9 @@ void VideoFrameTest::smallestImage_isNearThePicturesMeanColour()
         const QImage image = frame.toImage(QImage::Format_ARGB32, QSize(1, 1));
         QCOMPARE(image.size(), QSize(1, 1));
         // Scaling gives the middle of the picture more weight than its edges.
-        for (size_t i = 0; i < expected.size(); ++i)
+        for (size_t i = 0; i < expected.size(); ++i) {
             QVERIFY2(std::abs(channels(image.pixel(0, 0))[i] - expected[i]) < 16.0, file);
+        }
     }
 }
 
@@ -334,8 +344,9 @@ void VideoFrameTest::format_isThatAskedFor_data()
     QTest::addColumn<QImage::Format>("format");
     QTest::addColumn<QImage::Format>("expected");
     for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_RGB888,
-                              QImage::Format_ARGB32_Premultiplied, QImage::Format_Grayscale8})
+                              QImage::Format_ARGB32_Premultiplied, QImage::Format_Grayscale8}) {
         QTest::addRow("%d", int(format)) << format << format;
+    }
     QTest::newRow("invalid") << QImage::Format_Invalid << QImage::Format_ARGB32;
 }
 
@@ -364,8 +375,9 @@ void VideoFrameTest::image_isNull_whenMemoryRunsOut_data()
 
 void VideoFrameTest::image_isNull_whenMemoryRunsOut()
 {
-    if (!testsupport::MemoryLimit::isPossible())
+    if (!testsupport::MemoryLimit::isPossible()) {
         QSKIP("Memory cannot be limited here.");
+    }
     QFETCH(QString, file);
     QFETCH(QImage::Format, format);
     QFETCH(QSize, size);
@@ -413,21 +425,23 @@ void VideoFrameTest::image_isTheSame_fromSeveralThreadsAtOnce()
     const QImage expected = frame.toImage();
     QVERIFY(!expected.isNull());
     std::atomic<int> same{0};
-    constexpr int Times = 64;
+    constexpr int times = 64;
     QThreadPool pool;
     pool.setMaxThreadCount(4);
-    for (int i = 0; i < Times; ++i)
+    for (int i = 0; i < times; ++i) {
         pool.start([&] { same += frame.toImage() == expected; });
+    }
     pool.waitForDone();
-    QCOMPARE(same.load(), Times);
+    QCOMPARE(same.load(), times);
 }
 
 void VideoFrameTest::scaledDown_keepsTimeSizeAndPicture_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"h264_bframes.mp4", "turned_90_anamorphic.mp4", "hevc_10bit.mkv",
-                             "anamorphic_pal.mpg", "h264_full_range.mp4"})
+                             "anamorphic_pal.mpg", "h264_full_range.mp4"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void VideoFrameTest::scaledDown_keepsTimeSizeAndPicture()
@@ -452,8 +466,9 @@ void VideoFrameTest::scaledDown_keepsTimeSizeAndPicture()
     // Less chroma is kept, so that edges between colours differ; what is light and dark does not.
     qint64 difference = 0;
     for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x)
+        for (int x = 0; x < size.width(); ++x) {
             difference += std::abs(qGray(own.pixel(x, y)) - qGray(whole.pixel(x, y)));
+        }
     }
     const double mean = double(difference) / (double(size.width()) * size.height());
     QVERIFY2(mean <= 1.0, QByteArray::number(mean).constData());
@@ -470,8 +485,9 @@ void VideoFrameTest::scaledDown_isTheFrameItself_whereItCannotBeSmaller()
         const QtAV::VideoFrame frame = player.decodeKeyFrame(*packet);
         const bool hasAlpha = QByteArray(file) == "vp9_alpha.webm";
         for (const QSize size :
-             {frame.displaySize(), frame.displaySize() * 2, QSize(), QSize(0, 5)})
+             {frame.displaySize(), frame.displaySize() * 2, QSize(), QSize(0, 5)}) {
             QVERIFY(!frame.scaledDown(size).isScaledDown());
+        }
         QCOMPARE(frame.scaledDown({40, 30}).isScaledDown(), !hasAlpha);
     }
 }

@@ -32,8 +32,9 @@ QImage grabbed(QWidget& widget)
 QImage shownBy(const VideoOutput& output)
 {
     grabbed(*output.widget()); // which lets the widget know its size
-    if (!QTest::qWaitFor([&output] { return output.isUpToDate(); }, Patience))
+    if (!QTest::qWaitFor([&output] { return output.isUpToDate(); }, patienceMs)) {
         qFatal("no picture comes");
+    }
     return grabbed(*output.widget());
 }
 
@@ -118,8 +119,9 @@ void VideoOutputTest::frame_isSeenUprightAndSquare_data()
 {
     QTest::addColumn<QString>("file");
     for (const char* file : {"turned_90.mp4", "turned_180.mp4", "mirrored_left_right.mp4",
-                             "turned_90_anamorphic.mp4", "anamorphic_pal.mpg"})
+                             "turned_90_anamorphic.mp4", "anamorphic_pal.mpg"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
+    }
 }
 
 void VideoOutputTest::frame_isSeenUprightAndSquare()
@@ -182,8 +184,9 @@ void VideoOutputTest::output_goesOn_withoutItsWidget()
 
 void VideoOutputTest::openGL_drawsWhatRasterDraws()
 {
-    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         QSKIP("There is no OpenGL without a display; VideoOutputTest.display has one");
+    }
     VideoOutput output(VideoOutput::Drawing::OpenGL);
     QCOMPARE(QByteArray(output.widget()->metaObject()->className()), "QtAV::OpenGLWidget");
     VideoOutput raster(VideoOutput::Drawing::Raster);
@@ -278,8 +281,9 @@ void VideoOutputTest::player_showsItsFrames_inTheWidget()
     player.play(testsupport::samplePath(QStringLiteral("h264_baseline.mp4")));
     player.seek(1800);
     QSignalSpy statuses(&player, &QtAV::AVPlayer::mediaStatusChanged);
-    while (player.mediaStatus() != QtAV::EndOfMedia)
-        QVERIFY(statuses.wait(Patience));
+    while (player.mediaStatus() != QtAV::EndOfMedia) {
+        QVERIFY(statuses.wait(patienceMs));
+    }
     QCOMPARE(testsupport::frameNumber(shownBy(output)).value_or(-1), 49);
 }
 
@@ -308,8 +312,9 @@ void VideoOutputTest::present_returnsAtOnce_andOnlyTheNewestFrameIsShown()
         const auto packet = player.nextVideoPacket();
         QVERIFY(packet && player.decoder->decode(*packet));
         const QtAV::VideoFrame frame = player.decoder->frame();
-        if (!frame.isValid())
+        if (!frame.isValid()) {
             continue;
+        }
         output.present(frame);
         last = decoding::shown(frame).number;
         QCOMPARE(grabbed(*output.widget()), dark);
@@ -335,7 +340,7 @@ void VideoOutputTest::screenSize_isToldInPixels_whenTheWidgetChanges()
     QVERIFY(!changes.isEmpty());
     const int before = changes.count();
     output.widget()->resize(400, 200);
-    QTRY_VERIFY_WITH_TIMEOUT(changes.count() > before, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(changes.count() > before, patienceMs);
     QCOMPARE(output.screenSize().width(), qRound(400 * output.widget()->devicePixelRatioF()));
 }
 

@@ -12,8 +12,8 @@ using QtAV::YuvToRgb;
 
 namespace {
 
-constexpr double Red = 0.2126;
-constexpr double Blue = 0.0722;
+constexpr double red = 0.2126;
+constexpr double blue = 0.0722;
 
 /// A frame of noise, BT.709.
 FramePtr noise(AVPixelFormat format, int width, int height, AVColorRange range)
@@ -24,8 +24,9 @@ FramePtr noise(AVPixelFormat format, int width, int height, AVColorRange range)
     frame->height = height;
     frame->colorspace = AVCOL_SPC_BT709;
     frame->color_range = range;
-    if (av_frame_get_buffer(frame.get(), 0) < 0)
+    if (av_frame_get_buffer(frame.get(), 0) < 0) {
         qFatal("no memory");
+    }
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(format);
     std::mt19937 random(7);
     for (int plane = 0; plane < AV_NUM_DATA_POINTERS && frame->data[plane]; ++plane) {
@@ -97,9 +98,9 @@ std::array<double, 3> expected(const AVFrame& frame, int x, int y)
     };
     const double cb = hasChroma ? part(1) : 0.0;
     const double cr = hasChroma ? part(2) : 0.0;
-    const double r = luma + 2 * (1 - Red) * cr;
-    const double b = luma + 2 * (1 - Blue) * cb;
-    const double g = (luma - Red * r - Blue * b) / (1 - Red - Blue);
+    const double r = luma + 2 * (1 - red) * cr;
+    const double b = luma + 2 * (1 - blue) * cb;
+    const double g = (luma - red * r - blue * b) / (1 - red - blue);
     const auto to255 = [](double v) { return std::clamp(v, 0.0, 1.0) * 255; };
     return {to255(r), to255(g), to255(b)};
 }
@@ -133,9 +134,10 @@ void YuvToRgbTest::picture_deviatesByOneAtMost_fromTheFormula_data()
          {AV_PIX_FMT_YUV420P, AV_PIX_FMT_NV12, AV_PIX_FMT_NV21, AV_PIX_FMT_YUV422P,
           AV_PIX_FMT_YUV440P, AV_PIX_FMT_YUV444P, AV_PIX_FMT_YUV420P10LE, AV_PIX_FMT_YUV422P12LE,
           AV_PIX_FMT_YUV444P16LE, AV_PIX_FMT_YUVA420P, AV_PIX_FMT_GRAY8, AV_PIX_FMT_GRAY10LE}) {
-        for (const AVColorRange range : {AVCOL_RANGE_MPEG, AVCOL_RANGE_JPEG})
+        for (const AVColorRange range : {AVCOL_RANGE_MPEG, AVCOL_RANGE_JPEG}) {
             QTest::addRow("%s, %s", av_get_pix_fmt_name(format), av_color_range_name(range))
                 << int(format) << int(range);
+        }
     }
 }
 
@@ -172,20 +174,20 @@ void YuvToRgbTest::picture_deviatesByOneAtMost_fromTheFormula()
 void YuvToRgbTest::pixels_areTheSame_whicheverInstructionsMakeThem()
 {
     // Lines of 14 pixels are too short for the wide instructions.
-    constexpr int Width = 140;
-    constexpr int Short = 14;
-    const FramePtr whole = noise(AV_PIX_FMT_YUV420P, Width, 8, AVCOL_RANGE_MPEG);
+    constexpr int wholeWidth = 140;
+    constexpr int shortWidth = 14;
+    const FramePtr whole = noise(AV_PIX_FMT_YUV420P, wholeWidth, 8, AVCOL_RANGE_MPEG);
     const QImage image = converted(*whole);
-    for (int left = 0; left < Width; left += Short) {
+    for (int left = 0; left < wholeWidth; left += shortWidth) {
         const FramePtr part = QtAV::makeFrame();
         QVERIFY(av_frame_ref(part.get(), whole.get()) >= 0);
-        part->width = Short;
+        part->width = shortWidth;
         part->data[0] += left;
         part->data[1] += left / 2;
         part->data[2] += left / 2;
         const QImage strip = converted(*part);
         // The last pixel lies between two chroma samples, of which the part has but one.
-        const QRect same(0, 0, Short - 1, image.height());
+        const QRect same(0, 0, shortWidth - 1, image.height());
         QCOMPARE(strip.copy(same), image.copy(same.translated(left, 0)));
     }
 }
@@ -210,8 +212,9 @@ void YuvToRgbTest::otherFormats_areNotRead()
          {AV_PIX_FMT_BGRA, AV_PIX_FMT_PAL8, AV_PIX_FMT_YUYV422, AV_PIX_FMT_YUV411P,
           AV_PIX_FMT_P010LE, AV_PIX_FMT_YUV420P10BE, AV_PIX_FMT_GBRP, AV_PIX_FMT_MONOBLACK,
           AV_PIX_FMT_YA8, AV_PIX_FMT_VAAPI, AV_PIX_FMT_GRAYF32LE, AV_PIX_FMT_NV24,
-          AV_PIX_FMT_XYZ12LE})
+          AV_PIX_FMT_XYZ12LE}) {
         QVERIFY2(!YuvToRgb::reads(format), av_get_pix_fmt_name(format));
+    }
 }
 
 QTEST_GUILESS_MAIN(YuvToRgbTest)

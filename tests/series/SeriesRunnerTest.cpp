@@ -1,11 +1,7 @@
-#include "series/SeriesRunner.h"
+#include "tests/series/SeriesRecord.h"
 
 #include "imaging/Rendering.h"
-#include "tests/support/FrameNumber.h"
-#include "tests/support/FramePositions.h"
 #include "tests/support/Pixels.h"
-#include "tests/support/Samples.h"
-#include "tests/support/Sanitizers.h"
 #include "tests/support/TestDir.h"
 
 #include <QDeadlineTimer>
@@ -15,177 +11,17 @@
 
 #include <algorithm>
 #include <atomic>
-#include <functional>
 
+using namespace seriestests;
 using testsupport::pixelsOf;
 using testsupport::Sample;
 using testsupport::samplePath;
-using testsupport::Trait;
-
-namespace {
-
-/// Keeps all that it is given.
-class Record : public SeriesOutput
-{
-public:
-    bool needs(int video, const SeriesTarget& target) override
-    {
-        return !isNeeded || isNeeded(video, target);
-    }
-
-    void begin(const SeriesFacts& facts) override { begun.append(facts); }
-
-    void store(SeriesPicture& picture) override
-    {
-        if (onWaiting) {
-            onWaiting(picture);
-        }
-    }
-
-    void take(SeriesPicture picture) override
-    {
-        if (onPicture) {
-            onPicture();
-        }
-        pictures.append(picture);
-    }
-
-    void end(int video, const QString& error) override
-    {
-        ended.append(video);
-        errors.append(error);
-    }
-
-    QList<SeriesPicture> of(int video) const
-    {
-        QList<SeriesPicture> own;
-        for (const SeriesPicture& picture : pictures) {
-            if (picture.video == video) {
-                own.append(picture);
-            }
-        }
-        return own;
-    }
-
-    std::function<bool(int, const SeriesTarget&)> isNeeded;
-    std::function<void(SeriesPicture&)> onWaiting;
-    std::function<void()> onPicture;
-    QList<SeriesFacts> begun;
-    QList<SeriesPicture> pictures;
-    QList<int> ended;
-    QStringList errors;
-};
-
-bool neverCancelled()
-{
-    return false;
-}
-
-/// Pictures as they are, not encoded.
-SeriesJob jobFor(const QString& file, const FramePositions& positions)
-{
-    SeriesJob job;
-    job.video = samplePath(file);
-    job.positions = positions;
-    job.type.clear();
-    job.keepsImage = true;
-    return job;
-}
-
-FramePositions every(qint64 ms)
-{
-    FramePositions positions;
-    positions.kind = FramePositions::Kind::Every;
-    positions.everyMs = ms;
-    return positions;
-}
-
-FramePositions spread(int count)
-{
-    FramePositions positions;
-    positions.count = count;
-    return positions;
-}
-
-FramePositions ofKind(FramePositions::Kind kind)
-{
-    FramePositions positions;
-    positions.kind = kind;
-    return positions;
-}
-
-FramePositions numbers(const QList<int>& frames)
-{
-    FramePositions positions = ofKind(FramePositions::Kind::List);
-    for (const int frame : frames) {
-        positions.list.push_back({FramePosition::Kind::FrameNumber, static_cast<double>(frame)});
-    }
-    return positions;
-}
-
-/// The number in a picture, as text.
-QString numberIn(const SeriesPicture& picture)
-{
-    const std::optional<int> number = testsupport::frameNumber(picture.image);
-    return number ? QString::number(*number) : QStringLiteral("none, ") + picture.error;
-}
-
-QStringList numbersIn(const QList<SeriesPicture>& pictures)
-{
-    QStringList all;
-    for (const SeriesPicture& picture : pictures) {
-        all.append(numberIn(picture));
-    }
-    return all;
-}
-
-QStringList listed(std::initializer_list<int> frames)
-{
-    QStringList all;
-    for (const int frame : frames) {
-        all.append(QString::number(frame));
-    }
-    return all;
-}
-
-/// The frames at or after positions, none twice.
-QStringList expectedAt(const Sample& sample, const QList<qint64>& positions)
-{
-    QStringList all;
-    for (const qint64 ms : positions) {
-        const QString number =
-            QString::number(sample.firstNumber + testsupport::frameFrom(sample, ms));
-        if (all.isEmpty() || all.constLast() != number) {
-            all.append(number);
-        }
-    }
-    return all;
-}
-
-QList<qint64> positionsEvery(qint64 ms, qint64 durationMs)
-{
-    QList<qint64> all;
-    for (qint64 position = 0; position < durationMs; position += ms) {
-        all.append(position);
-    }
-    return all;
-}
-
-} // namespace
 
 class SeriesRunnerTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void every_givesTheFrameAtOrAfterEachPosition_data();
-    void every_givesTheFrameAtOrAfterEachPosition();
-    void numbers_giveTheseFrames_data() { addSamples(); }
-    void numbers_giveTheseFrames();
-    void keyFrames_areAllOfThem_data() { addSamples(); }
-    void keyFrames_areAllOfThem();
-    void lastFrame_comes_forEverySample_data() { addSamples(); }
-    void lastFrame_comes_forEverySample();
     void scenes_beginWhereTheContentChanges();
     void numbersOfFrames_areTold_whenAskedFor();
     void missingFrames_areErrors_behindThePictures();
@@ -200,98 +36,7 @@ private Q_SLOTS:
     void cancelling_endsAtOnce_withoutAnotherPicture();
     void nothing_isTaken_whenCancelledBefore();
     void contentOfWaitingPictures_canBeStored();
-
-private:
-    static void addSamples();
 };
-
-void SeriesRunnerTest::addSamples()
-{
-    QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
-        QTest::newRow(qPrintable(sample.file)) << sample.file;
-    }
-}
-
-void SeriesRunnerTest::every_givesTheFrameAtOrAfterEachPosition_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<int>("everyMs");
-    QTest::addColumn<int>("lanes");
-    const QList<int> distances =
-        testsupport::isSanitized ? QList<int>{170} : QList<int>{15, 170, 900};
-    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
-        for (const int ms : distances) {
-            if (ms > 15 || !sample.has(Trait::Large)) {
-                QTest::addRow("%s, %d ms", qPrintable(sample.file), ms)
-                    << sample.file << ms << (ms == 170 ? 4 : 2);
-            }
-        }
-    }
-}
-
-void SeriesRunnerTest::every_givesTheFrameAtOrAfterEachPosition()
-{
-    QFETCH(QString, file);
-    QFETCH(int, everyMs);
-    QFETCH(int, lanes);
-    const Sample& sample = testsupport::sampleNamed(file);
-    Record record;
-    QVERIFY(series::run({jobFor(file, every(everyMs))}, record, neverCancelled, {lanes}));
-    QCOMPARE(record.errors, QStringList{QString()});
-    QCOMPARE(record.begun.size(), 1);
-    const qint64 durationMs = record.begun.first().durationMs;
-    QCOMPARE(numbersIn(record.pictures), expectedAt(sample, positionsEvery(everyMs, durationMs)));
-}
-
-void SeriesRunnerTest::numbers_giveTheseFrames()
-{
-    QFETCH(QString, file);
-    const Sample& sample = testsupport::sampleNamed(file);
-    QList<int> frames;
-    QStringList expected;
-    for (int n = 0; n < sample.frames; n += 1 + n % 7) {
-        frames.append(n);
-        expected.append(QString::number(sample.firstNumber + n));
-    }
-    Record record;
-    QVERIFY(series::run({jobFor(file, numbers(frames))}, record, neverCancelled, {2}));
-    QCOMPARE(numbersIn(record.pictures), expected);
-    for (int i = 0; i < frames.size(); ++i) {
-        QCOMPARE(record.pictures.at(i).frame, std::optional<qint64>(frames.at(i)));
-        QCOMPARE(record.pictures.at(i).timeMs,
-                 std::optional<qint64>(testsupport::frameTimeMs(sample, frames.at(i))));
-    }
-}
-
-void SeriesRunnerTest::keyFrames_areAllOfThem()
-{
-    QFETCH(QString, file);
-    const Sample& sample = testsupport::sampleNamed(file);
-    if (sample.has(Trait::IntraRefresh)) {
-        QSKIP("It has no whole pictures at its key packets.");
-    }
-    QStringList expected;
-    for (const int frame : testsupport::keyFrames(sample)) {
-        expected.append(QString::number(sample.firstNumber + frame));
-    }
-    Record record;
-    QVERIFY(series::run({jobFor(file, ofKind(FramePositions::Kind::KeyFrames))}, record,
-                        neverCancelled, {2}));
-    QCOMPARE(numbersIn(record.pictures), expected);
-}
-
-void SeriesRunnerTest::lastFrame_comes_forEverySample()
-{
-    QFETCH(QString, file);
-    const Sample& sample = testsupport::sampleNamed(file);
-    FramePositions positions = ofKind(FramePositions::Kind::List);
-    positions.list = {{FramePosition::Kind::Last}};
-    Record record;
-    QVERIFY(series::run({jobFor(file, positions)}, record, neverCancelled));
-    QCOMPARE(numbersIn(record.pictures),
-             QStringList{QString::number(sample.firstNumber + sample.frames - 1)});
-}
 
 /// Three colours of two seconds each, beside a number that changes with every frame.
 void SeriesRunnerTest::scenes_beginWhereTheContentChanges()

@@ -67,8 +67,9 @@ QList<PatchCodes> patchCodes(const ColourSample& sample)
     QList<PatchCodes> codes{{16, 128, 128},  {235, 128, 128}, {60, 128, 128},  {120, 100, 160},
                             {120, 160, 100}, {150, 100, 110}, {100, 150, 150}, {81, 90, 240}};
     if (sample.bits == 10) {
-        for (PatchCodes& patch : codes)
+        for (PatchCodes& patch : codes) {
             patch = {4 * patch.y + 1, 4 * patch.cb + 1, 4 * patch.cr + 1};
+        }
     }
     return codes;
 }

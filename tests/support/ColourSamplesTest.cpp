@@ -14,8 +14,9 @@ namespace {
 /// The tag of a matrix as ffprobe names it.
 QByteArray matrixTag(const ColourSample& sample)
 {
-    if (!sample.tagged)
+    if (!sample.tagged) {
         return "unknown";
+    }
     switch (sample.matrix) {
     case Matrix::Bt601:
         return "smpte170m";
@@ -29,8 +30,9 @@ QByteArray matrixTag(const ColourSample& sample)
 
 QByteArray rangeTag(const ColourSample& sample)
 {
-    if (!sample.tagged)
+    if (!sample.tagged) {
         return "unknown";
+    }
     return sample.fullRange ? "pc" : "tv";
 }
 
@@ -59,8 +61,9 @@ class ColourSamplesTest : public QObject
     static void addRows()
     {
         QTest::addColumn<ColourSample>("sample");
-        for (const ColourSample& sample : colourSamples())
+        for (const ColourSample& sample : colourSamples()) {
             QTest::newRow(qUtf8Printable(sample.file)) << sample;
+        }
     }
 
 private slots:

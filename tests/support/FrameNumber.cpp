@@ -29,8 +29,9 @@ int blockBrightness(const QImage& picture, int column, int row)
     const int bottom = std::max(top + 1, int((row + 0.75) * blockHeight));
     qint64 sum = 0;
     for (int y = top; y < bottom; ++y) {
-        for (int x = left; x < right; ++x)
+        for (int x = left; x < right; ++x) {
             sum += qGray(picture.pixel(x, y));
+        }
     }
     return int(sum / ((right - left) * (bottom - top)));
 }
@@ -40,10 +41,12 @@ std::optional<bool> columnBit(const QImage& picture, int column)
 {
     const int upper = blockBrightness(picture, column, 0);
     const int lower = blockBrightness(picture, column, 1);
-    if (upper > brightest && lower < darkest)
+    if (upper > brightest && lower < darkest) {
         return true;
-    if (upper < darkest && lower > brightest)
+    }
+    if (upper < darkest && lower > brightest) {
         return false;
+    }
     return std::nullopt;
 }
 
@@ -78,15 +81,18 @@ QImage laidBack(const QImage& picture, Orientation laid)
 
 std::optional<int> frameNumber(const QImage& picture)
 {
-    if (picture.width() < smallestPicture.width() || picture.height() < smallestPicture.height())
+    if (picture.width() < smallestPicture.width() || picture.height() < smallestPicture.height()) {
         return std::nullopt;
-    if (columnBit(picture, 0) != true || columnBit(picture, blockCount - 1) != false)
+    }
+    if (columnBit(picture, 0) != true || columnBit(picture, blockCount - 1) != false) {
         return std::nullopt;
+    }
     int number = 0;
     for (int column = 1; column <= numberBits; ++column) {
         const auto bit = columnBit(picture, column);
-        if (!bit)
+        if (!bit) {
             return std::nullopt;
+        }
         number = number * 2 + (*bit ? 1 : 0);
     }
     return number;
@@ -99,8 +105,9 @@ std::optional<Orientation> orientation(const QImage& picture)
                              Orientation::MirroredLeftRight, Orientation::MirroredUpDown,
                              Orientation::Transposed,        Orientation::AntiTransposed};
     for (const Orientation candidate : all) {
-        if (frameNumber(laidBack(picture, candidate)))
+        if (frameNumber(laidBack(picture, candidate))) {
             return candidate;
+        }
     }
     return std::nullopt;
 }

@@ -38,9 +38,10 @@ private slots:
         QTest::addColumn<int>("number");
         QTest::addColumn<QSize>("size");
         for (const int number : {0, 1, 37, 8191, 16383}) {
-            for (const QSize size :
-                 {QSize(32, 24), QSize(320, 240), QSize(175, 99), QSize(240, 320), QSize(800, 48)})
+            for (const QSize size : {QSize(32, 24), QSize(320, 240), QSize(175, 99),
+                                     QSize(240, 320), QSize(800, 48)}) {
                 QTest::addRow("%d at %dx%d", number, size.width(), size.height()) << number << size;
+            }
         }
     }
     void number_isRead_atAnySize()

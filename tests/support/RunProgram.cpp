@@ -13,8 +13,9 @@ ProgramResult runProgram(const QString& program, const QStringList& arguments, i
     process.start(program, arguments);
 
     ProgramResult result;
-    if (!process.waitForStarted())
+    if (!process.waitForStarted()) {
         return result;
+    }
     if (process.waitForFinished(timeoutMs)) {
         const bool exited = process.exitStatus() == QProcess::NormalExit;
         result.end = exited ? ProgramResult::End::Exited : ProgramResult::End::Crashed;

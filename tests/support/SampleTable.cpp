@@ -23,15 +23,18 @@ Rational tickOf(const QString& file)
     const QString extension = QFileInfo(file).suffix();
     const auto isOneOf = [&](std::initializer_list<const char*> extensions) {
         for (const char* candidate : extensions) {
-            if (extension == QLatin1String(candidate))
+            if (extension == QLatin1String(candidate)) {
                 return true;
+            }
         }
         return false;
     };
-    if (isOneOf({"mkv", "webm", "flv", "wmv"}))
+    if (isOneOf({"mkv", "webm", "flv", "wmv"})) {
         return {1, 1000};
-    if (isOneOf({"ts", "mpg", "vob"}))
+    }
+    if (isOneOf({"ts", "mpg", "vob"})) {
         return {1, 90000};
+    }
     return {0, 1};
 }
 
@@ -85,8 +88,9 @@ struct Entry : Sample
 QList<Sample> joined(std::initializer_list<QList<Sample>> lists)
 {
     QList<Sample> all;
-    for (const auto& list : lists)
+    for (const auto& list : lists) {
         all += list;
+    }
     return all;
 }
 
@@ -217,8 +221,9 @@ QList<Sample> geometrySamples()
 QList<qint64> variableTimes()
 {
     QList<qint64> times;
-    for (int n = 0; n < 60; ++n)
+    for (int n = 0; n < 60; ++n) {
         times.append(n / 4 * 173 + std::array{0, 40, 60, 140}[size_t(n % 4)]);
+    }
     return times;
 }
 
@@ -267,8 +272,9 @@ QList<Sample> containerSamples()
 QList<qint64> xvidTimes()
 {
     QList<qint64> times{0};
-    for (int n = 1; n < 250; ++n)
+    for (int n = 1; n < 250; ++n) {
         times.append((n + 2) * 40);
+    }
     return times;
 }
 
@@ -342,8 +348,9 @@ QList<Sample> gapSamples()
 QList<qint64> unsteadyTimes()
 {
     QList<qint64> times;
-    for (qint64 n = 0; n < 150; ++n)
+    for (qint64 n = 0; n < 150; ++n) {
         times.append(n / 6 * 330 + std::array{0, 33, 66, 132, 165, 264}[size_t(n % 6)]);
+    }
     return times;
 }
 
@@ -387,8 +394,9 @@ QList<Sample> noVideoSampleTable()
     QList<Sample> samples;
     for (const char* file :
          {"sound_only.mp3", "sound_only.mp4", "sound_only.wav", "sound_with_cover.mp3",
-          "sound_with_cover.m4a", "sound_with_cover.flac"})
+          "sound_with_cover.m4a", "sound_with_cover.flac"}) {
         samples.append(Entry(file, 0).with(Trait::NoVideo | Trait::Sound));
+    }
     return samples;
 }
 
@@ -403,9 +411,10 @@ QList<Sample> brokenSampleTable()
         Entry("bit_flipped.ts", 75).with(Trait::Damaged | Trait::NoStatedDuration),
         Entry("bit_flipped.mkv", 100).with(Trait::Damaged),
     };
-    for (const char* file :
-         {"truncated_without_moov.mp4", "empty.mp4", "text.mp4", "random_bytes.mp4", "folder.mp4"})
+    for (const char* file : {"truncated_without_moov.mp4", "empty.mp4", "text.mp4",
+                             "random_bytes.mp4", "folder.mp4"}) {
         samples.append(Entry(file, 0).with(Trait::Unopenable));
+    }
     return samples;
 }
 

@@ -38,8 +38,9 @@ Rational rounded(const Rational& seconds, const Rational& unit)
 QString samplePath(const QString& file)
 {
     const QString folder = qEnvironmentVariable("MORVANTILE_MEDIA");
-    if (folder.isEmpty())
+    if (folder.isEmpty()) {
         qFatal("MORVANTILE_MEDIA does not name the folder of the sample videos");
+    }
     return QDir(folder).filePath(file);
 }
 
@@ -54,8 +55,9 @@ const QList<Sample>& videoSamplesToRepeat()
     static const QList<Sample> samples = [] {
         constexpr int step = isSanitized ? 5 : 1;
         QList<Sample> chosen;
-        for (int i = 0; i < allVideoSamples().size(); i += step)
+        for (int i = 0; i < allVideoSamples().size(); i += step) {
             chosen.append(allVideoSamples().at(i));
+        }
         return chosen;
     }();
     return samples;
@@ -78,20 +80,23 @@ const Sample& sampleNamed(QStringView file)
     for (const auto* list : {&allVideoSamples(), &noVideoSamples(), &brokenSamples()}) {
         const auto found = std::find_if(list->cbegin(), list->cend(),
                                         [&](const Sample& sample) { return sample.file == file; });
-        if (found != list->cend())
+        if (found != list->cend()) {
             return *found;
+        }
     }
     qFatal("No sample is named %s", qUtf8Printable(file.toString()));
 }
 
 qint64 frameTimeMs(const Sample& sample, int n)
 {
-    if (sample.has(Trait::VariableRate))
+    if (sample.has(Trait::VariableRate)) {
         return sample.timesMs.at(n);
+    }
     const Rational sinceFirst{n * sample.frameRate.den, sample.frameRate.num};
     Rational seconds = sum(sample.start, sinceFirst);
-    if (sample.tick.num != 0)
+    if (sample.tick.num != 0) {
         seconds = rounded(seconds, sample.tick);
+    }
     return floorDiv(seconds.num * 1000, seconds.den);
 }
 
@@ -105,11 +110,13 @@ QSize displaySizeOf(const Sample& sample, int n)
 QList<int> keyFrames(const Sample& sample)
 {
     QFile list(samplePath(QStringLiteral(".keyframes/") + sample.file));
-    if (!list.open(QIODevice::ReadOnly))
+    if (!list.open(QIODevice::ReadOnly)) {
         qFatal("No list of key frames: %s", qUtf8Printable(list.fileName()));
+    }
     QList<int> frames;
-    while (!list.atEnd())
+    while (!list.atEnd()) {
         frames.append(list.readLine().trimmed().toInt());
+    }
     return frames;
 }
 

@@ -41,8 +41,9 @@ QList<QImage> decodedByFfmpeg(const Sample& sample)
         shownPart(sample), QStringLiteral("-pix_fmt"), QStringLiteral("gray"), QStringLiteral("-f"),
         QStringLiteral("rawvideo"), QStringLiteral("-")};
     const auto result = runProgram(QStringLiteral("ffmpeg"), arguments);
-    if (!result.succeeded() && !sample.has(Trait::Damaged))
+    if (!result.succeeded() && !sample.has(Trait::Damaged)) {
         qWarning("%s", result.standardError.constData());
+    }
     const int pictureBytes = size.width() * size.height();
     QList<QImage> pictures;
     for (int at = 0; at + pictureBytes <= result.standardOutput.size(); at += pictureBytes) {
@@ -100,8 +101,9 @@ QList<int> shownByFfmpeg(const Sample& sample)
         sample.has(Trait::SizeChange) && sample.file.contains(QLatin1String("mpeg2"));
     QList<int> frames;
     for (int n = 0; n < sample.frames; ++n) {
-        if (!dropsOne || n != 49)
+        if (!dropsOne || n != 49) {
             frames.append(n);
+        }
     }
     return frames;
 }
@@ -132,8 +134,9 @@ QList<qint64> statedTimes(const Sample& sample)
     const QJsonArray packets = probed.value(QStringLiteral("packets")).toArray();
     for (const auto& packet : packets) {
         const double seconds = number(packet.toObject(), key);
-        if (!std::isnan(seconds))
+        if (!std::isnan(seconds)) {
             times.append(wholeMs(seconds - start));
+        }
     }
     return times;
 }
@@ -141,8 +144,9 @@ QList<qint64> statedTimes(const Sample& sample)
 QList<qint64> frameTimes(const Sample& sample)
 {
     QList<qint64> times;
-    for (int n = 0; n < sample.frames; ++n)
+    for (int n = 0; n < sample.frames; ++n) {
         times.append(frameTimeMs(sample, n));
+    }
     return times;
 }
 
@@ -156,8 +160,9 @@ class SamplesTest : public QObject
     static void addVideoRows()
     {
         QTest::addColumn<Sample>("sample");
-        for (const Sample& sample : allVideoSamples())
+        for (const Sample& sample : allVideoSamples()) {
             QTest::newRow(qUtf8Printable(sample.file)) << sample;
+        }
     }
 
     /// For files of which frames get no times from ffmpeg, or wrong ones.
@@ -168,8 +173,9 @@ class SamplesTest : public QObject
         if (sample.has(Trait::UntimedPackets)) {
             QVERIFY(stated.size() < times.size());
             QVERIFY(stated.size() * 10 > times.size());
-            for (const qint64 time : stated)
+            for (const qint64 time : stated) {
                 QVERIFY2(times.contains(time), qPrintable(QString::number(time)));
+            }
             QCOMPARE(QSet<qint64>(stated.begin(), stated.end()).size(), stated.size());
             return;
         }
@@ -196,16 +202,18 @@ private slots:
         const QList<QImage> pictures = decodedByFfmpeg(sample);
         const QList<int> shown = shownByFfmpeg(sample);
         QCOMPARE(pictures.size(), shown.size());
-        for (int i = 0; i < pictures.size(); ++i)
+        for (int i = 0; i < pictures.size(); ++i) {
             QCOMPARE(frameNumber(pictures[i]).value_or(-1), sample.firstNumber + shown[i]);
+        }
     }
 
     void times_areThoseOfTheContainer_data() { addVideoRows(); }
     void times_areThoseOfTheContainer()
     {
         QFETCH(Sample, sample);
-        if (sample.has(Trait::NoPresentationTimes) || sample.has(Trait::UntimedPackets))
+        if (sample.has(Trait::NoPresentationTimes) || sample.has(Trait::UntimedPackets)) {
             return checkStatedTimes(sample);
+        }
         const QJsonObject probed = probe(sample);
         const QJsonArray frames = probed.value(QStringLiteral("frames")).toArray();
         const QList<int> shown = shownByFfmpeg(sample);
@@ -227,8 +235,9 @@ private slots:
         QCOMPARE(frames.size(), shown.size());
         QList<int> expected;
         for (int n = 0; n < frames.size(); ++n) {
-            if (frames[n].toObject().value(QStringLiteral("key_frame")).toInt() == 1)
+            if (frames[n].toObject().value(QStringLiteral("key_frame")).toInt() == 1) {
                 expected.append(shown.at(n));
+            }
         }
         QVERIFY(!expected.isEmpty());
         QCOMPARE(expected.first() == 0, !sample.has(Trait::StartsInsideGop));
@@ -267,11 +276,13 @@ private slots:
     void damagedFiles_loseFrames_butShowNoOthers()
     {
         for (const Sample& sample : brokenSamples()) {
-            if (sample.has(Trait::Unopenable))
+            if (sample.has(Trait::Unopenable)) {
                 continue;
+            }
             int readable = 0;
-            for (const QImage& picture : decodedByFfmpeg(sample))
+            for (const QImage& picture : decodedByFfmpeg(sample)) {
                 readable += frameNumber(picture).value_or(sample.frames) < sample.frames ? 1 : 0;
+            }
             QVERIFY2(readable > 0, qPrintable(sample.file));
         }
     }

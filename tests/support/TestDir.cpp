@@ -6,14 +6,16 @@ namespace testsupport {
 
 TestDir::TestDir()
 {
-    if (!m_dir.isValid())
+    if (!m_dir.isValid()) {
         qFatal("No temporary folder: %s", qUtf8Printable(m_dir.errorString()));
+    }
 }
 
 TestDir::~TestDir()
 {
-    if (!QTest::currentTestFailed())
+    if (!QTest::currentTestFailed()) {
         return;
+    }
     m_dir.setAutoRemove(false);
     qInfo("The folder of the failed case is kept: %s", qUtf8Printable(m_dir.path()));
 }

@@ -13,8 +13,8 @@ Q_DECLARE_METATYPE(Style)
 
 namespace {
 
-constexpr long FirstButton = 1000;
-constexpr long SecondButton = 1001;
+constexpr long firstButton = 1000;
+constexpr long secondButton = 1001;
 
 Selection showAndEndWith(long response, Style style, Buttons buttons)
 {
@@ -55,7 +55,7 @@ private Q_SLOTS:
 
 void BoxerMacTest::alert_getsItsMessagesInOrder()
 {
-    QCOMPARE(showAndEndWith(SecondButton, Style::Info, Buttons::OKCancel), Selection::Cancel);
+    QCOMPARE(showAndEndWith(secondButton, Style::Info, Buttons::OKCancel), Selection::Cancel);
     const QStringList expected{
         QStringLiteral("push pool"),
         QStringLiteral("NSAlert alloc"),
@@ -84,7 +84,7 @@ void BoxerMacTest::alert_getsItsMessagesInOrder()
 
 void BoxerMacTest::texts_arriveByteForByte()
 {
-    RecordingRuntime::reset(FirstButton);
+    RecordingRuntime::reset(firstButton);
     QCOMPARE(boxer::show("one\n\nt\xC3\xBCo", "", Style::Info, Buttons::OK), Selection::OK);
     QCOMPARE(journalAfter(QStringLiteral("alert setMessageText:")),
              QStringList{QStringLiteral("\"\"")});
@@ -107,7 +107,7 @@ void BoxerMacTest::style_choosesAlertStyle()
 {
     QFETCH(Style, style);
     QFETCH(QString, alertStyle);
-    QCOMPARE(showAndEndWith(FirstButton, style, Buttons::OK), Selection::OK);
+    QCOMPARE(showAndEndWith(firstButton, style, Buttons::OK), Selection::OK);
     QCOMPARE(journalAfter(QStringLiteral("alert setAlertStyle:")), QStringList{alertStyle});
 }
 
@@ -128,7 +128,7 @@ void BoxerMacTest::buttons_areAddedInOrder()
 {
     QFETCH(Buttons, buttons);
     QFETCH(QStringList, titles);
-    RecordingRuntime::reset(FirstButton);
+    RecordingRuntime::reset(firstButton);
     static_cast<void>(boxer::show("Message", "Title", Style::Info, buttons));
     QCOMPARE(journalAfter(QStringLiteral("alert addButtonWithTitle:")), titles);
 }

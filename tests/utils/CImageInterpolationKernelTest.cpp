@@ -15,8 +15,9 @@ double sumOf(const Kernel& kernel)
 {
     double sum = 0.0;
     for (int y = 0; y < kernel.size(); ++y) {
-        for (int x = 0; x < kernel.size(); ++x)
+        for (int x = 0; x < kernel.size(); ++x) {
             sum += static_cast<double>(kernel.coeff(x, y));
+        }
     }
     return sum;
 }
@@ -25,10 +26,12 @@ double sumOf(const Kernel& kernel)
 bool isProductOf(const Kernel& kernel, const QVector<double>& samples)
 {
     double sum = 0.0;
-    for (const double sample : samples)
+    for (const double sample : samples) {
         sum += sample;
-    if (kernel.size() != samples.size())
+    }
+    if (kernel.size() != samples.size()) {
         return false;
+    }
     for (int y = 0; y < samples.size(); ++y) {
         for (int x = 0; x < samples.size(); ++x) {
             const double expected = samples[x] * samples[y] / (sum * sum);
@@ -54,8 +57,9 @@ private slots:
         const CImageInterpolationKernelBase<float> table(3);
         QCOMPARE(table.size(), 3);
         for (int y = 0; y < 3; ++y) {
-            for (int x = 0; x < 3; ++x)
+            for (int x = 0; x < 3; ++x) {
                 QCOMPARE(table.coeff(x, y), 0.0F);
+            }
         }
     }
 
@@ -106,8 +110,9 @@ private slots:
     void table_sumsToOne_data()
     {
         QTest::addColumn<int>("size");
-        for (const int size : {3, 4, 5, 6, 7, 16, 33, 64})
+        for (const int size : {3, 4, 5, 6, 7, 16, 33, 64}) {
             QTest::addRow("%d", size) << size;
+        }
     }
     void table_sumsToOne()
     {

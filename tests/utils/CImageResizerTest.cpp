@@ -188,15 +188,17 @@ private slots:
         QImage image(16, 16, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         for (int y = 4; y < 12; ++y) {
-            for (int x = 4; x < 12; ++x)
+            for (int x = 4; x < 12; ++x) {
                 image.setPixel(x, y, qRgba(255, 255, 255, 255));
+            }
         }
         const QImage result =
             CImageResizer::bicubicInterpolation(image, QSize(50, 50), CImageResizer::Ignore);
         for (int y = 0; y < 50; ++y) {
             const auto* line = reinterpret_cast<const QRgb*>(result.constScanLine(y));
-            for (int x = 0; x < 50; ++x)
+            for (int x = 0; x < 50; ++x) {
                 QVERIFY(qRed(line[x]) <= qAlpha(line[x]));
+            }
         }
         QCOMPARE(result.pixel(25, 25), qRgba(255, 255, 255, 255));
         QCOMPARE(result.pixel(0, 0), 0U);
@@ -206,14 +208,16 @@ private slots:
     {
         QImage image(300, 300, QImage::Format_RGB32);
         for (int y = 0; y < 300; ++y) {
-            for (int x = 0; x < 300; ++x)
+            for (int x = 0; x < 300; ++x) {
                 image.setPixel(x, y, (x + y) % 2 == 0 ? 0xffffffff : 0xff000000);
+            }
         }
         const QImage result =
             CImageResizer::bicubicInterpolation(image, QSize(50, 50), CImageResizer::Ignore);
         for (int y = 5; y < 45; ++y) {
-            for (int x = 5; x < 45; ++x)
+            for (int x = 5; x < 45; ++x) {
                 QVERIFY(std::abs(qRed(result.pixel(x, y)) - 127) <= 4);
+            }
         }
     }
 

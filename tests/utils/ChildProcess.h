@@ -19,8 +19,9 @@ template <typename Function>
 ChildEnd runInChild(Function function)
 {
     int ends[2] = {-1, -1};
-    if (::pipe(ends) != 0)
+    if (::pipe(ends) != 0) {
         return {-1, "no pipe"};
+    }
     const pid_t child = ::fork();
     if (child == 0) {
         const rlimit noCoreFile{0, 0};
@@ -37,8 +38,9 @@ ChildEnd runInChild(Function function)
     ::close(ends[1]);
     ChildEnd end;
     char buffer[256];
-    for (ssize_t count = 0; (count = ::read(ends[0], buffer, sizeof buffer)) > 0;)
+    for (ssize_t count = 0; (count = ::read(ends[0], buffer, sizeof buffer)) > 0;) {
         end.output.append(buffer, static_cast<int>(count));
+    }
     ::close(ends[0]);
     int status = 0;
     ::waitpid(child, &status, 0);

@@ -16,7 +16,7 @@ QImage captured(Stage& stage)
 {
     QSignalSpy spy(stage.player.videoCapture(), &QtAV::VideoCapture::imageCaptured);
     stage.player.videoCapture()->capture();
-    return spy.wait(Patience) ? spy.at(0).at(0).value<QImage>() : QImage();
+    return spy.wait(patienceMs) ? spy.at(0).at(0).value<QImage>() : QImage();
 }
 
 /// What a batch job takes at that time.
@@ -24,8 +24,9 @@ QImage extracted(FrameGrabber& grabber, qint64 ms)
 {
     QSignalSpy spy(&grabber, &FrameGrabber::frameExtracted);
     grabber.extractInternal(ms);
-    if (spy.isEmpty())
+    if (spy.isEmpty()) {
         return {};
+    }
     const auto frame = spy.at(0).at(0).value<QtAV::VideoFrame>();
     return frame.toImage(frame.imageFormat());
 }
@@ -45,8 +46,9 @@ private slots:
 void CaptureTest::capture_isWhatIsExtracted_forEachFormat_data()
 {
     QTest::addColumn<QString>("file");
-    for (const Sample& sample : testsupport::videoSamplesToRepeat())
+    for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
         QTest::newRow(qPrintable(sample.file)) << sample.file;
+    }
 }
 
 void CaptureTest::capture_isWhatIsExtracted_forEachFormat()

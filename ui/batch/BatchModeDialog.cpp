@@ -136,19 +136,19 @@ void BatchModeDialog::setupFilesTable()
 
 void BatchModeDialog::setupPropertyFields()
 {
-    addField("source", m_ui->selectedVideoFileNameLabel, Field::NoChoice);
-    addField("imageProfileId", m_ui->imageProfileComboBox, Field::NoChoice);
-    addField("fileOutputPath", m_ui->fileOutputFolderTextEdit, Field::NoChoice);
-    addField("filenameProfileId", m_ui->filenameProfileComboBox, Field::NoChoice);
-    addField("filenameExample", m_ui->filenameOutputExampleLabel, Field::NoChoice);
+    addField("source", m_ui->selectedVideoFileNameLabel, Field::noChoice);
+    addField("imageProfileId", m_ui->imageProfileComboBox, Field::noChoice);
+    addField("fileOutputPath", m_ui->fileOutputFolderTextEdit, Field::noChoice);
+    addField("filenameProfileId", m_ui->filenameProfileComboBox, Field::noChoice);
+    addField("filenameExample", m_ui->filenameOutputExampleLabel, Field::noChoice);
     addField("intervalType", m_ui->intervalMillisecondsRadioButton,
              BatchWorkerConfig::EveryMilliseconds);
     addField("intervalType", m_ui->intervalImagesRadioButton, BatchWorkerConfig::SpreadImages);
     addField("intervalType", m_ui->intervalSingleShotRadioButton, BatchWorkerConfig::SingleShot);
     addSecondsField("intervalMilliseconds", m_ui->intervalMillisecondsTextEdit);
-    addField("intervalImages", m_ui->intervalImagesTextEdit, Field::NoChoice);
-    addField("intervalSingleShot", m_ui->intervalSingleShotComboBox, Field::NoChoice);
-    addField("exactFrames", m_ui->exactFramesCheckBox, Field::NoChoice);
+    addField("intervalImages", m_ui->intervalImagesTextEdit, Field::noChoice);
+    addField("intervalSingleShot", m_ui->intervalSingleShotComboBox, Field::noChoice);
+    addField("exactFrames", m_ui->exactFramesCheckBox, Field::noChoice);
     addSecondsField("skipFront", m_ui->skipFrontTextEdit);
     addSecondsField("skipBack", m_ui->skipBackTextEdit);
 
@@ -272,7 +272,7 @@ void BatchModeDialog::fieldUpdated(Field* field)
         }
     }
     const QVariant value = field->value();
-    if (field->isChoice() && value == Field::NoChoice) {
+    if (field->isChoice() && value == Field::noChoice) {
         return;
     }
     const QList<BatchWorkerConfig*> configs = getSelectedConfigs();

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 
 SecondsField::SecondsField(const char* propertyName, QLineEdit* edit, QObject* parent)
-    : Field(propertyName, edit, NoChoice, parent)
+    : Field(propertyName, edit, noChoice, parent)
     , m_edit(edit)
 {}
 

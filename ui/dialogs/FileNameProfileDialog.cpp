@@ -37,8 +37,9 @@ FileNameProfileDialog::FileNameProfileDialog(QWidget* parent)
     fillTypes();
     connect(m_ui->profileSelector, &ProfileSelector::profileDeleted, this,
             [this](BaseProfile* profile) {
-                if (profile == m_selectedProfile)
+                if (profile == m_selectedProfile) {
                     m_selectedProfile = nullptr;
+                }
             });
     loadProfiles();
     DialogSize::open(*this, fileNameProfileLetters);
@@ -50,8 +51,9 @@ void FileNameProfileDialog::setSelectedProfile(FileNameProfile* profile)
 {
     m_selectedProfile = profile;
     m_ui->profileSelector->loadProfile(profile);
-    if (!profile)
+    if (!profile) {
         m_ui->profileSelector->loadDefaultValues();
+    }
     // The selector is silent about a profile that was selected already or is not listed.
     updateExampleDisplay();
 }
@@ -65,7 +67,7 @@ void FileNameProfileDialog::setExampleFileName(const QString& fileName)
 void FileNameProfileDialog::loadProfiles()
 {
     const auto bind = [this](const char* property, QWidget* widget) {
-        m_ui->profileSelector->addField(new Field(property, widget, Field::NoChoice, this));
+        m_ui->profileSelector->addField(new Field(property, widget, Field::noChoice, this));
     };
     bind("fileOutputPrefix", m_ui->formatPrefixLineEdit);
     bind("fileBaseName", m_ui->formatBasenameLineEdit);
@@ -114,8 +116,9 @@ void FileNameProfileDialog::on_cancelButton_clicked()
 
 void FileNameProfileDialog::on_saveButton_clicked()
 {
-    if (!m_ui->profileSelector->maySave())
+    if (!m_ui->profileSelector->maySave()) {
         return;
+    }
     m_selectedProfile = qobject_cast<FileNameProfile*>(m_ui->profileSelector->saveProfile());
     accept();
 }
@@ -145,8 +148,9 @@ void FileNameProfileDialog::alignCaptions()
     // The two forms stand one above the other and read as one.
     QList<QWidget*> captions;
     for (const QFormLayout* const form : {m_ui->formatLayout, m_ui->exampleLayout}) {
-        for (int row = 0; row < form->rowCount(); ++row)
+        for (int row = 0; row < form->rowCount(); ++row) {
             captions += form->itemAt(row, QFormLayout::LabelRole)->widget();
+        }
     }
     EqualWidths::apply(captions);
 }

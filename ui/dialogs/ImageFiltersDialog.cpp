@@ -11,7 +11,7 @@
 
 namespace {
 /// Where the sliders of both values leave an image as it is.
-constexpr int NeutralPosition = 100;
+constexpr int neutralPosition = 100;
 
 /// Slider movements that come faster are shown together.
 constexpr std::chrono::milliseconds filterDelay{30};
@@ -50,7 +50,7 @@ void ImageFiltersDialog::connectControls()
     m_updateTimer.setInterval(filterDelay);
     connect(&m_updateTimer, &QTimer::timeout, this, &ImageFiltersDialog::updateImages);
     const auto showNumber = [this](QLabel& label, int position) {
-        label.setText(QString::number(position - NeutralPosition));
+        label.setText(QString::number(position - neutralPosition));
         m_updateTimer.start();
     };
     connect(m_ui->brightnessSlider, &QSlider::valueChanged, this,
@@ -77,8 +77,8 @@ void ImageFiltersDialog::setProfile(ImageProfile* profile)
     if (profile != nullptr) {
         m_ui->applyButton->setToolTip(tr("Put these values into the image profile \u201c%1\u201d")
                                           .arg(profile->shownName().toHtmlEscaped()));
-        m_ui->brightnessSlider->setValue(NeutralPosition + profile->imageBrightness());
-        m_ui->contrastSlider->setValue(NeutralPosition + profile->imageContrast());
+        m_ui->brightnessSlider->setValue(neutralPosition + profile->imageBrightness());
+        m_ui->contrastSlider->setValue(neutralPosition + profile->imageContrast());
         m_ui->filterComboBox->setCurrentIndex(
             m_ui->filterComboBox->findData(profile->resizeFilter()));
     }
@@ -88,8 +88,8 @@ void ImageFiltersDialog::setProfile(ImageProfile* profile)
 /// The values of the controls.
 void ImageFiltersDialog::enter(ImageProfile& profile) const
 {
-    profile.setImageBrightness(m_ui->brightnessSlider->value() - NeutralPosition);
-    profile.setImageContrast(m_ui->contrastSlider->value() - NeutralPosition);
+    profile.setImageBrightness(m_ui->brightnessSlider->value() - neutralPosition);
+    profile.setImageContrast(m_ui->contrastSlider->value() - neutralPosition);
     profile.setResizeFilter(m_ui->filterComboBox->currentData().toInt());
 }
 
@@ -112,12 +112,12 @@ void ImageFiltersDialog::updateImages()
 
 void ImageFiltersDialog::on_contrastSlider_sliderMoved(int value)
 {
-    contrast = value / static_cast<double>(NeutralPosition);
+    contrast = value / static_cast<double>(neutralPosition);
 }
 
 void ImageFiltersDialog::on_brightnessSlider_sliderMoved(int value)
 {
-    brightness = static_cast<float>(value - NeutralPosition);
+    brightness = static_cast<float>(value - neutralPosition);
 }
 
 void ImageFiltersDialog::on_applyButton_clicked()

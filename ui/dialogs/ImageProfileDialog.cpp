@@ -21,13 +21,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto UpdateDelay = 50ms;
+constexpr auto updateDelay = 50ms;
 
 /// Room for a preview that shows something.
 constexpr QSize imageProfileLetters{140, 38};
 
-constexpr int MinAdjustment = -100;
-constexpr int MaxAdjustment = 100;
+constexpr int minAdjustment = -100;
+constexpr int maxAdjustment = 100;
 
 } // namespace
 
@@ -50,8 +50,8 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     setupMetadataComboBox();
     setupDeinterlacingComboBox();
     setupHdrComboBox();
-    connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, MinAdjustment, MaxAdjustment);
-    connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, MinAdjustment, MaxAdjustment);
+    connectSlider(m_ui->brightnessSlider, m_ui->brightnessSpinBox, minAdjustment, maxAdjustment);
+    connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, minAdjustment, maxAdjustment);
     setupProfileSelector();
     connect(&m_updateTimer, &QTimer::timeout, this, &ImageProfileDialog::updateImageTimerFired);
     DialogSize::open(*this, imageProfileLetters);
@@ -90,7 +90,7 @@ void ImageProfileDialog::showEvent(QShowEvent* event)
 
 void ImageProfileDialog::updateImage()
 {
-    m_updateTimer.start(UpdateDelay);
+    m_updateTimer.start(updateDelay);
 }
 
 void ImageProfileDialog::profileNameTextChanged(const QString& name)
@@ -107,10 +107,12 @@ void ImageProfileDialog::updateImageTimerFired()
 {
     ImageProfile profile(nullptr);
     m_ui->profileSelector->loadFormIntoProfile(&profile);
-    if (isVisible())
+    if (isVisible()) {
         showComparison(profile);
-    if (m_preview)
+    }
+    if (m_preview) {
         m_preview(&profile);
+    }
 }
 
 /// Both pictures have the size of the output, so that the watermark has its true proportion.
@@ -178,8 +180,9 @@ void ImageProfileDialog::on_resetToDefaultsButton_clicked()
 
 void ImageProfileDialog::on_saveButton_clicked()
 {
-    if (!m_ui->profileSelector->maySave())
+    if (!m_ui->profileSelector->maySave()) {
         return;
+    }
     m_selectedProfile = qobject_cast<ImageProfile*>(m_ui->profileSelector->saveProfile());
     accept();
 }
@@ -210,8 +213,9 @@ void ImageProfileDialog::setupWatermarkProfileComboBox()
     m_ui->watermarkProfileComboBox->clear();
     m_ui->watermarkProfileComboBox->addItem(tr("[No Watermark]"), QString());
     const QList<BaseProfile*> profiles = WatermarkProfile::profileManager()->profiles();
-    for (const BaseProfile* const profile : profiles)
+    for (const BaseProfile* const profile : profiles) {
         m_ui->watermarkProfileComboBox->addItem(profile->shownName(), profile->id());
+    }
 }
 
 void ImageProfileDialog::setupResizeFilterComboBox()
@@ -271,8 +275,9 @@ void ImageProfileDialog::setupProfileSelector()
     selector->loadProfiles(ImageProfile::profileManager());
     connect(selector, &ProfileSelector::fieldChanged, this, &ImageProfileDialog::fieldChanged);
     connect(selector, &ProfileSelector::profileDeleted, this, [this](BaseProfile* profile) {
-        if (profile == m_selectedProfile)
+        if (profile == m_selectedProfile) {
             m_selectedProfile = nullptr;
+        }
     });
     // Another profile in the form is reported by no field, but is as much to be seen.
     connect(selector, &ProfileSelector::profileSelected, this, &ImageProfileDialog::updateImage);
@@ -280,7 +285,7 @@ void ImageProfileDialog::setupProfileSelector()
 
 void ImageProfileDialog::addField(const char* propertyName, QWidget* widget)
 {
-    m_ui->profileSelector->addField(new Field(propertyName, widget, Field::NoChoice, this));
+    m_ui->profileSelector->addField(new Field(propertyName, widget, Field::noChoice, this));
 }
 
 /// A disabled line edit that can stand where the editor stands.
@@ -295,8 +300,9 @@ QLineEdit* ImageProfileDialog::makeVideoDisplay(const QLineEdit& editor)
 
 void ImageProfileDialog::showVideoDimensions()
 {
-    if (!m_videoWidthDisplay)
+    if (!m_videoWidthDisplay) {
         return;
+    }
     const bool isKnown = m_videoWidth != 0 && m_videoHeight != 0;
     m_videoWidthDisplay->setText(isKnown ? QString::number(m_videoWidth) : QString());
     m_videoHeightDisplay->setText(isKnown ? QString::number(m_videoHeight) : QString());

@@ -11,11 +11,11 @@
 namespace {
 
 /// More than any view of a dialog shows, also on screens with small pixels.
-constexpr QSize DisplayBounds{1024, 1024};
+constexpr QSize displayBounds{1024, 1024};
 
 bool isTooLarge(QSize size)
 {
-    return qint64{size.width()} * size.height() > WatermarkPicture::MaxPixels;
+    return qint64{size.width()} * size.height() > WatermarkPicture::maxPixels;
 }
 
 } // namespace
@@ -28,15 +28,17 @@ bool WatermarkPicture::isTooLarge(const QString& path)
 QImage WatermarkPicture::readForDisplay(const QString& path)
 {
     // A pipe would be waited for.
-    if (!QFileInfo(path).isFile())
+    if (!QFileInfo(path).isFile()) {
         return {};
+    }
     QImageReader reader(path);
     const QSize size = reader.size();
-    if (::isTooLarge(size))
+    if (::isTooLarge(size)) {
         return {};
-    if (size.width() > DisplayBounds.width() || size.height() > DisplayBounds.height()) {
+    }
+    if (size.width() > displayBounds.width() || size.height() > displayBounds.height()) {
         // Most decoders make it smaller on the way, without ever holding the whole picture.
-        const QSize fitting = size.scaled(DisplayBounds, Qt::KeepAspectRatio);
+        const QSize fitting = size.scaled(displayBounds, Qt::KeepAspectRatio);
         reader.setScaledSize(fitting.expandedTo({1, 1}));
     }
     return reader.read();
@@ -46,7 +48,8 @@ QString WatermarkPicture::addCopyOf(const QString& path)
 {
     const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() +
                          QLatin1Char('.') + QFileInfo(path).completeSuffix();
-    if (QFileInfo(path).isFile())
+    if (QFileInfo(path).isFile()) {
         QFile::copy(path, WatermarkProfile::pathForImage(name));
+    }
     return name;
 }

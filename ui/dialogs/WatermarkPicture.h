@@ -11,9 +11,9 @@ namespace WatermarkPicture {
 /// What a picture may hold. A watermark is drawn pixel by pixel, so one this large covers any image
 /// many times over; reading it would take more memory than it is worth (4 bytes a pixel), and
 /// seconds.
-constexpr qint64 MaxPixels = WatermarkProfile::mostPixels;
+constexpr qint64 maxPixels = WatermarkProfile::mostPixels;
 
-/// Whether the file states more than MaxPixels. Reads no more than its header; false for a file
+/// Whether the file states more than maxPixels. Reads no more than its header; false for a file
 /// that is no picture.
 [[nodiscard]] bool isTooLarge(const QString& path);
 

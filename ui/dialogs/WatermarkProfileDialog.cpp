@@ -24,13 +24,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto PreviewDelay = 200ms;
+constexpr auto previewDelay = 200ms;
 
 /// Room for a preview that shows something.
 constexpr QSize watermarkProfileLetters{140, 38};
 
-constexpr int TextType = 0;
-constexpr int ImageType = 1;
+constexpr int textType = 0;
+constexpr int imageType = 1;
 
 /// Without this the whole dialog would change its proportions with the type of the watermark.
 void keepPlaceWhenHidden(QWidget& widget)
@@ -44,8 +44,9 @@ void keepPlaceWhenHidden(QWidget& widget)
 void pickColor(ColorLabel& label, QWidget* parent)
 {
     const QColor picked = QColorDialog::getColor(label.colorValue(), parent, QString());
-    if (!picked.isValid())
+    if (!picked.isValid()) {
         return;
+    }
     label.setColorValue(QColor(picked.rgb()));
     label.update();
 }
@@ -90,11 +91,13 @@ void WatermarkProfileDialog::setSelectedProfile(WatermarkProfile* profile)
 
     const QList<BaseProfile*> profiles = WatermarkProfile::profileManager()->profiles();
     BaseProfile* shown = profile;
-    if (!shown && !profiles.isEmpty())
+    if (!shown && !profiles.isEmpty()) {
         shown = profiles.first();
+    }
     m_ui->profileSelector->loadProfile(shown);
-    if (!shown)
+    if (!shown) {
         m_ui->profileSelector->loadDefaultValues();
+    }
 
     // Nothing is reported about a profile that is selected already or not listed.
     showType();
@@ -103,15 +106,16 @@ void WatermarkProfileDialog::setSelectedProfile(WatermarkProfile* profile)
 
 void WatermarkProfileDialog::setExampleImage(const QImage& image, ImageProfile* imageProfile)
 {
-    if (!image.isNull())
+    if (!image.isNull()) {
         m_exampleImage = image;
+    }
     m_imageProfile = imageProfile;
     updateWatermark();
 }
 
 void WatermarkProfileDialog::updateWatermark()
 {
-    m_previewTimer.start(PreviewDelay);
+    m_previewTimer.start(previewDelay);
 }
 
 void WatermarkProfileDialog::showEvent(QShowEvent* event)
@@ -119,11 +123,13 @@ void WatermarkProfileDialog::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     // A profile may lack its picture already when the dialog opens. The question for it belongs
     // before the dialog, not before the window that is about to open it.
-    if (event->spontaneous())
+    if (event->spontaneous()) {
         return;
+    }
     QTimer::singleShot(0, this, [this] {
-        if (isVisible())
+        if (isVisible()) {
             askForMissingPicture();
+        }
     });
 }
 
@@ -140,10 +146,11 @@ void WatermarkProfileDialog::fieldChanged(Field* /*field*/)
 void WatermarkProfileDialog::profileSelected(BaseProfile* /*profile*/)
 {
     updateWatermark();
-    if (isVisible())
+    if (isVisible()) {
         updateType();
-    else
+    } else {
         showType();
+    }
 }
 
 void WatermarkProfileDialog::updateType()
@@ -156,8 +163,9 @@ void WatermarkProfileDialog::updateWatermarkTimerFired()
 {
     WatermarkProfile profile(nullptr);
     m_ui->profileSelector->loadFormIntoProfile(&profile);
-    if (WatermarkPicture::isTooLarge(WatermarkProfile::pathForImage(profile.imageFile())))
+    if (WatermarkPicture::isTooLarge(WatermarkProfile::pathForImage(profile.imageFile()))) {
         profile.setImageFile(QString());
+    }
     m_ui->watermarkPositioner->setImage(
         ImageProcessingManager::instance()->processImage(m_exampleImage, m_imageProfile, &profile));
 }
@@ -177,8 +185,9 @@ void WatermarkProfileDialog::on_imageBrowseButton_clicked()
     SmartFileDialog browser(this, QStringLiteral("watermarkImageDialog"));
     browser.setFiltersToImage();
     browser.setFileMode(QFileDialog::ExistingFile);
-    if (browser.exec() != Accepted)
+    if (browser.exec() != Accepted) {
         return;
+    }
 
     const QString chosen = browser.selectedFiles().constFirst();
     if (WatermarkPicture::readForDisplay(chosen).isNull()) {
@@ -200,8 +209,9 @@ void WatermarkProfileDialog::on_textFontButton_clicked()
     bool accepted = false;
     const QFont picked =
         QFontDialog::getFont(&accepted, m_ui->textFontLabel->fontValue(), this, QString());
-    if (accepted)
+    if (accepted) {
         m_ui->textFontLabel->setFontValue(picked);
+    }
 }
 
 void WatermarkProfileDialog::on_textColorButton_clicked()
@@ -216,8 +226,9 @@ void WatermarkProfileDialog::on_shadowColorButton_clicked()
 
 void WatermarkProfileDialog::on_saveButton_clicked()
 {
-    if (!m_ui->profileSelector->maySave())
+    if (!m_ui->profileSelector->maySave()) {
         return;
+    }
     {
         // A new profile is selected on the way, which would ask for its picture in between.
         const QSignalBlocker blocker(m_ui->profileSelector);
@@ -269,8 +280,8 @@ void WatermarkProfileDialog::setupProfileSelector()
     addField("alignmentIndex", m_ui->alignmentComboBox);
     addField("xMargin", m_ui->xMarginSpinBox);
     addField("yMargin", m_ui->yMarginSpinBox);
-    addChoice("watermarkType", m_ui->watermarkTypeTextRadioButton, TextType);
-    addChoice("watermarkType", m_ui->watermarkTypeImageRadioButton, ImageType);
+    addChoice("watermarkType", m_ui->watermarkTypeTextRadioButton, textType);
+    addChoice("watermarkType", m_ui->watermarkTypeImageRadioButton, imageType);
     addField("imageFile", m_ui->imageFileNameLineEdit);
     addField("textShadow", m_ui->textShadowGroupBox);
     addField("relativeSize", m_ui->relativeSizeCheckBox);
@@ -281,15 +292,16 @@ void WatermarkProfileDialog::setupProfileSelector()
     connect(selector, &ProfileSelector::profileSelected, this,
             &WatermarkProfileDialog::profileSelected);
     connect(selector, &ProfileSelector::profileDeleted, this, [this](BaseProfile* profile) {
-        if (profile == m_selectedProfile)
+        if (profile == m_selectedProfile) {
             m_selectedProfile = nullptr;
+        }
     });
     m_ui->profileSelector->loadProfiles(WatermarkProfile::profileManager());
 }
 
 void WatermarkProfileDialog::addField(const char* propertyName, QWidget* widget)
 {
-    addChoice(propertyName, widget, Field::NoChoice);
+    addChoice(propertyName, widget, Field::noChoice);
 }
 
 void WatermarkProfileDialog::addChoice(const char* propertyName, QWidget* widget, int choiceValue)
@@ -303,8 +315,9 @@ void WatermarkProfileDialog::setupAlignmentComboBox()
     const QStringList places{tr("Top Left"),    tr("Top"),    tr("Top Right"),
                              tr("Left"),        tr("Center"), tr("Right"),
                              tr("Bottom Left"), tr("Bottom"), tr("Bottom Right")};
-    for (int index = 0; index < places.size(); ++index)
+    for (int index = 0; index < places.size(); ++index) {
         m_ui->alignmentComboBox->addItem(places.at(index), index);
+    }
 }
 
 /// Offers only what the type of the watermark has.
@@ -320,6 +333,7 @@ void WatermarkProfileDialog::showType()
 void WatermarkProfileDialog::askForMissingPicture()
 {
     if (!m_ui->watermarkTypeTextRadioButton->isChecked() &&
-        m_ui->imageFileNameLineEdit->text().isEmpty())
+        m_ui->imageFileNameLineEdit->text().isEmpty()) {
         on_imageBrowseButton_clicked();
+    }
 }

@@ -72,8 +72,8 @@ QString VideoFactsText::line(const std::optional<FrameNumber>& frame, const QtAV
         parts += frameText(*frame);
     }
     if (hasRate(facts)) {
-        parts +=
-            translatedFacts(QT_TRANSLATE_NOOP("VideoFactsText", "%1 fps")).arg(rateText(rateOf(facts)));
+        parts += translatedFacts(QT_TRANSLATE_NOOP("VideoFactsText", "%1 fps"))
+                     .arg(rateText(rateOf(facts)));
     }
     if (!size.isEmpty()) {
         parts += QStringLiteral("%1 \u00d7 %2").arg(size.width()).arg(size.height());

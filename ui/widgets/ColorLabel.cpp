@@ -3,7 +3,7 @@
 #include <QPainter>
 
 namespace {
-constexpr int SwatchWidth = 40;
+constexpr int swatchWidth = 40;
 }
 
 ColorLabel::ColorLabel(QWidget* parent, Qt::WindowFlags flags)
@@ -24,6 +24,6 @@ void ColorLabel::paintEvent(QPaintEvent* /*event*/)
 {
     // An invalid colour would be painted black, as if somebody had chosen that.
     if (m_colorValue.isValid()) {
-        QPainter(this).fillRect(0, 0, SwatchWidth, height(), m_colorValue);
+        QPainter(this).fillRect(0, 0, swatchWidth, height(), m_colorValue);
     }
 }

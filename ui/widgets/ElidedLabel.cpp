@@ -51,7 +51,8 @@ QString ElidedLabel::wholeToolTip() const
 {
     // Said to be mark-up in any case, since it is a guess otherwise.
     const QString whole = Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal);
-    if (toolTip().isEmpty())
+    if (toolTip().isEmpty()) {
         return whole;
+    }
     return elidedText() == text() ? toolTip() : whole + toolTip();
 }

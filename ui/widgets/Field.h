@@ -23,7 +23,7 @@ class Field : public QObject
 
 public:
     /// The choice value of a field that is no radio button.
-    static constexpr int NoChoice = -1;
+    static constexpr int noChoice = -1;
 
     /// `propertyName` must stay valid as long as the field does: a string literal. The widget is
     /// not owned and outlives every use of the field; none is allowed too. `choiceValue` is what
@@ -35,11 +35,11 @@ public:
     int choiceValue() const { return m_choiceValue; }
 
     /// Whether the field is one of several that choose the property's value together.
-    bool isChoice() const { return m_choiceValue != NoChoice; }
+    bool isChoice() const { return m_choiceValue != noChoice; }
 
     /// What the widget holds: a font, a colour, a text, the data of the current item
     /// (`Qt::UserRole`), whether it is fully checked, or a number. A radio button holds the choice
-    /// value, or NoChoice while it is not checked. Invalid for widgets of other kinds, for none,
+    /// value, or noChoice while it is not checked. Invalid for widgets of other kinds, for none,
     /// and for a combo box without a current item.
     virtual QVariant value() const;
 

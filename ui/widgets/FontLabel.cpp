@@ -1,7 +1,7 @@
 #include "ui/widgets/FontLabel.h"
 
 namespace {
-constexpr int DisplayPointSize = 14;
+constexpr int displayPointSize = 14;
 }
 
 FontLabel::FontLabel(QWidget* parent, Qt::WindowFlags flags)
@@ -18,7 +18,7 @@ void FontLabel::setFontValue(const QFont& font)
     m_fontValue = font;
 
     QFont display = font;
-    display.setPointSize(DisplayPointSize);
+    display.setPointSize(displayPointSize);
     setFont(display);
     setText(font.family() + QStringLiteral(", ") + QString::number(font.pointSize()) +
             QStringLiteral("pt"));

@@ -4,7 +4,7 @@
 #include <QLayout>
 
 namespace {
-constexpr int Margin = 10;
+constexpr int margin = 10;
 }
 
 void GroupBoxMargins::apply(const QWidget& widget)
@@ -12,7 +12,7 @@ void GroupBoxMargins::apply(const QWidget& widget)
     const auto groupBoxes = widget.findChildren<QGroupBox*>();
     for (const QGroupBox* groupBox : groupBoxes) {
         if (QLayout* layout = groupBox->layout()) {
-            layout->setContentsMargins(Margin, Margin, Margin, Margin);
+            layout->setContentsMargins(margin, margin, margin, margin);
         }
     }
 }

@@ -36,8 +36,9 @@ void ProfileSelector::addField(Field* field)
 {
     m_fields.append(field);
     field->whenChanged(this, [this, field] {
-        if (!m_loading)
+        if (!m_loading) {
             Q_EMIT fieldChanged(field);
+        }
     });
 }
 
@@ -45,8 +46,9 @@ void ProfileSelector::loadProfiles(ProfileManager* manager)
 {
     m_profileManager = manager;
     const QList<BaseProfile*> profiles = manager->profiles();
-    for (BaseProfile* const profile : profiles)
+    for (BaseProfile* const profile : profiles) {
         addProfile(profile);
+    }
 }
 
 void ProfileSelector::addProfile(BaseProfile* profile)
@@ -75,8 +77,9 @@ void ProfileSelector::loadProfile(BaseProfile* profile)
 BaseProfile* ProfileSelector::currentListedProfile() const
 {
     const QString name = m_ui->profileComboBox->currentText();
-    if (name.isEmpty())
+    if (name.isEmpty()) {
         return nullptr;
+    }
     // Fixed strings match in any letter case.
     const int index = m_ui->profileComboBox->findText(name, Qt::MatchFixedString);
     return index >= 0 ? m_profiles.at(index) : nullptr;
@@ -84,19 +87,22 @@ BaseProfile* ProfileSelector::currentListedProfile() const
 
 void ProfileSelector::loadProfileIntoForm(const BaseProfile* profile)
 {
-    if (!profile)
+    if (!profile) {
         return;
+    }
     const QScopedValueRollback<bool> loading(m_loading, true);
-    for (Field* const field : qAsConst(m_fields))
+    for (Field* const field : qAsConst(m_fields)) {
         field->setValue(profile->property(field->propertyName()));
+    }
 }
 
 void ProfileSelector::loadFormIntoProfile(BaseProfile* profile) const
 {
     for (const Field* const field : m_fields) {
         const QVariant value = field->value();
-        if (!field->isChoice() || value != Field::NoChoice)
+        if (!field->isChoice() || value != Field::noChoice) {
             profile->setProperty(field->propertyName(), value);
+        }
     }
 }
 
@@ -104,8 +110,9 @@ bool ProfileSelector::isProfileSameAsForm(const BaseProfile* profile) const
 {
     return std::all_of(m_fields.begin(), m_fields.end(), [profile](const Field* field) {
         const QVariant value = field->value();
-        if (field->isChoice() && value == Field::NoChoice)
+        if (field->isChoice() && value == Field::noChoice) {
             return true;
+        }
         return value == profile->property(field->propertyName());
     });
 }
@@ -117,8 +124,9 @@ QVariant ProfileSelector::getValueForField(const Field* field) const
 
 void ProfileSelector::loadDefaultValues()
 {
-    if (!m_profileManager)
+    if (!m_profileManager) {
         return;
+    }
     BaseProfile* const fresh = m_profileManager->createProfile();
     fresh->setParent(this);
     loadProfileIntoForm(fresh);
@@ -126,11 +134,13 @@ void ProfileSelector::loadDefaultValues()
 
 BaseProfile* ProfileSelector::saveProfile()
 {
-    if (!m_profileManager)
+    if (!m_profileManager) {
         return nullptr;
+    }
     BaseProfile* profile = currentListedProfile();
-    if (!profile)
+    if (!profile) {
         profile = addTypedProfile();
+    }
     loadFormIntoProfile(profile);
     m_profileManager->saveProfiles();
     return profile;
@@ -150,20 +160,23 @@ BaseProfile* ProfileSelector::addTypedProfile()
 
 void ProfileSelector::on_profileComboBox_editTextChanged(const QString& text)
 {
-    if (!m_loading)
+    if (!m_loading) {
         Q_EMIT profileNameTextChanged(text);
+    }
 }
 
 void ProfileSelector::on_profileComboBox_currentIndexChanged(int index)
 {
-    if (m_loading)
+    if (m_loading) {
         return;
+    }
     if (m_ui->profileComboBox->currentText().isEmpty()) {
         qDebug() << "Name.length was 0. Show an error or don't let the user press the button here.";
         return;
     }
-    if (index < 0)
+    if (index < 0) {
         return;
+    }
 
     BaseProfile* const profile = m_profiles.at(index);
     const int position = m_profiles.indexOf(profile);

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr int MaximumVolume = 100;
-constexpr int DefaultVolume = 50;
+constexpr int maximumVolume = 100;
+constexpr int defaultVolume = 50;
 
 QString volumeKey()
 {
@@ -32,8 +32,8 @@ VolumePopup::VolumePopup(QWidget* parent)
 
     // Showing what is remembered is no change: nothing is to be written or reported.
     const QSignalBlocker noChange(m_ui->volumeSlider);
-    m_ui->volumeSlider->setRange(0, MaximumVolume);
-    m_ui->volumeSlider->setValue(m_settings.value(volumeKey(), DefaultVolume).toInt());
+    m_ui->volumeSlider->setRange(0, maximumVolume);
+    m_ui->volumeSlider->setValue(m_settings.value(volumeKey(), defaultVolume).toInt());
     m_ui->muteCheckBox->setChecked(m_settings.value(mutedKey(), false).toBool());
 }
 

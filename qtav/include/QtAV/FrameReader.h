@@ -36,10 +36,10 @@ class FrameReader
 {
 public:
     /// Decoding on to a frame at most this far ahead is cheaper than starting at a key frame.
-    static constexpr double NearSeconds = 1.0;
+    static constexpr double nearSeconds = 1.0;
 
     /// A search that landed too late goes back by at least this much more, then twice as far.
-    static constexpr qint64 SmallestStepBackMs = 500;
+    static constexpr qint64 smallestStepBackMs = 500;
 
     /// What becomes of packets that cannot be decoded on the way to a frame.
     enum class Damage { Skip, Report };
@@ -180,7 +180,7 @@ public:
 
 private:
     /// The frame before an interlaced one is wanted, too: more than one lasts, and less than two.
-    static constexpr qint64 NeighbourMs = 60;
+    static constexpr qint64 neighbourMs = 60;
 
     /// How far one attempt of a search came, and whether no earlier frame can be missing that there
     /// is or that the frame needs.

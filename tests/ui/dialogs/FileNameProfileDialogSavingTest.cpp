@@ -181,8 +181,9 @@ void FileNameProfileDialogSavingTest::returnKey_saves_data()
 {
     QTest::addColumn<QByteArray>("widget");
     for (const char* const name : {"profileComboBox", "formatPrefixLineEdit",
-                                   "formatFileExtensionComboBox", "resetToDefaultsButton"})
+                                   "formatFileExtensionComboBox", "resetToDefaultsButton"}) {
         QTest::newRow(name) << QByteArray(name);
+    }
 }
 
 void FileNameProfileDialogSavingTest::returnKey_saves()

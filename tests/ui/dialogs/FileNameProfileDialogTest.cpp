@@ -21,8 +21,9 @@ QStringList labelTexts(const QWidget& widget)
 {
     QStringList texts;
     const auto labels = widget.findChildren<QLabel*>();
-    for (const QLabel* const label : labels)
+    for (const QLabel* const label : labels) {
         texts += label->text();
+    }
     return texts;
 }
 
@@ -70,8 +71,9 @@ void FileNameProfileDialogTest::form_hasItsTexts()
     QCOMPARE(names->windowTitle(), QStringLiteral("File Name Profile Settings"));
     QStringList groups;
     const auto boxes = names->findChildren<QGroupBox*>();
-    for (const QGroupBox* const box : boxes)
+    for (const QGroupBox* const box : boxes) {
         groups += box->title();
+    }
     QCOMPARE(groups,
              (QStringList{QStringLiteral("Select Profile"), QStringLiteral("File Name Format"),
                           QStringLiteral("Example Output")}));
@@ -94,8 +96,9 @@ void FileNameProfileDialogTest::form_explainsSingleShot()
     QStringList explained;
     const auto labels = names->findChildren<QLabel*>();
     for (const QLabel* const label : labels) {
-        if (label->toolTip() == text)
+        if (label->toolTip() == text) {
             explained += label->text();
+        }
     }
     QCOMPARE(explained,
              (QStringList{QStringLiteral("Single Shot:"), QStringLiteral("video-.jpeg")}));
@@ -128,8 +131,9 @@ void FileNameProfileDialogTest::window_hasNoHelpButton_andRoomInItsGroups()
     QVERIFY(!names->windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
     QVERIFY(names->windowFlags().testFlag(Qt::Dialog));
     const auto boxes = names->findChildren<QGroupBox*>();
-    for (const QGroupBox* const box : boxes)
+    for (const QGroupBox* const box : boxes) {
         QCOMPARE(box->layout()->contentsMargins(), QMargins(10, 10, 10, 10));
+    }
 }
 
 void FileNameProfileDialogTest::inputs_haveNames_withoutSeeingThem()
@@ -138,8 +142,9 @@ void FileNameProfileDialogTest::inputs_haveNames_withoutSeeingThem()
     const QList<QWidget*> inputs{&names.profiles(), &names.prefix(), &names.baseName(),
                                  &names.suffix(), &names.type()};
     QStringList found;
-    for (const QWidget* const input : inputs)
+    for (const QWidget* const input : inputs) {
         found += input->accessibleName();
+    }
     QCOMPARE(found, QStringLiteral("Profile|Prefix|File Name|Suffix|Type").split(QLatin1Char('|')));
 }
 
@@ -156,8 +161,9 @@ void FileNameProfileDialogTest::tabKey_goesThroughTheForm_inOrder()
         QStringLiteral("formatPrefixLineEdit"), QStringLiteral("formatBasenameLineEdit"),
         QStringLiteral("formatSuffixLineEdit"), QStringLiteral("formatFileExtensionComboBox")};
     QMap<int, QString> buttons;
-    for (const QPushButton* const button : {&names.reset(), &names.save(), &names.cancel()})
+    for (const QPushButton* const button : {&names.reset(), &names.save(), &names.cancel()}) {
         buttons.insert(button->x(), button->objectName());
+    }
     expected += buttons.values();
 
     QStringList visited;

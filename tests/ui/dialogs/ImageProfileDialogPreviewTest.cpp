@@ -26,17 +26,13 @@ using testsupport::child;
 using testsupport::ModalScript;
 using testsupport::PreviewWindow;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 
 namespace {
 
 /// A multiple of what the dialog waits before it reports.
-constexpr int AWhileMs = 200;
-constexpr int PatienceMs = 20000;
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
+constexpr int aWhileMs = 200;
+constexpr int patienceMs = 20000;
 
 QComboBox& watermarks(const ImageProfileDialog& dialog)
 {
@@ -46,8 +42,9 @@ QComboBox& watermarks(const ImageProfileDialog& dialog)
 QStringList watermarkTexts(const ImageProfileDialog& dialog)
 {
     QStringList texts;
-    for (int index = 0; index < watermarks(dialog).count(); ++index)
+    for (int index = 0; index < watermarks(dialog).count(); ++index) {
         texts += watermarks(dialog).itemText(index);
+    }
     return texts;
 }
 
@@ -102,17 +99,18 @@ void ImageProfileDialogPreviewTest::edits_arePreviewedOnce_afterTheLast()
     ImageProfileDialog dialog(&window);
     dialog.setPreview(window.preview());
     dialog.setSelectedProfile(&profile);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, patienceMs);
 
     auto& slider = child<QSlider>(dialog, "brightnessSlider");
-    for (int value = 1; value <= 60; ++value)
+    for (int value = 1; value <= 60; ++value) {
         slider.setValue(value);
+    }
     QCOMPARE(child<QSpinBox>(dialog, "brightnessSpinBox").value(), 60);
     dialog.updateImage();
     QCOMPARE(window.updates, 1);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, patienceMs);
     QCOMPARE(window.brightness, 60);
-    QTest::qWait(AWhileMs);
+    QTest::qWait(aWhileMs);
     QCOMPARE(window.updates, 2);
 }
 
@@ -151,9 +149,9 @@ void ImageProfileDialogPreviewTest::everyField_isPreviewed()
     ImageProfileDialog dialog(&window);
     dialog.setPreview(window.preview());
     dialog.setSelectedProfile(&profile);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, patienceMs);
     edit(dialog);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, patienceMs);
 }
 
 void ImageProfileDialogPreviewTest::preview_showsWhatIsEntered_andSavesNothing()
@@ -167,7 +165,7 @@ void ImageProfileDialogPreviewTest::preview_showsWhatIsEntered_andSavesNothing()
     child<QLineEdit>(dialog, "imageWidthLineEdit").setText(textOf("320"));
     child<QSlider>(dialog, "contrastSlider").setValue(-30);
     child<QSpinBox>(dialog, "jpegQualitySpinBox").setValue(7);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, patienceMs);
     QCOMPARE(window.size, QSize(320, 480));
     QCOMPARE(window.contrast, -30);
     QCOMPARE(window.quality, 7);
@@ -186,9 +184,9 @@ void ImageProfileDialogPreviewTest::preview_followsTheProfile()
     ImageProfileDialog dialog(&window);
     dialog.setPreview(window.preview());
     dialog.setSelectedProfile(&first);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 1, patienceMs);
     testsupport::pickProfile(dialog, 1);
-    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.updates, 2, patienceMs);
     QCOMPARE(window.contrast, 44);
 }
 
@@ -201,9 +199,9 @@ void ImageProfileDialogPreviewTest::preview_followsTheReset()
     ImageProfileDialog dialog(&window);
     dialog.setPreview(window.preview());
     dialog.setSelectedProfile(&profile);
-    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 44, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 44, patienceMs);
     child<QPushButton>(dialog, "resetToDefaultsButton").click();
-    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 0, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.contrast, 0, patienceMs);
 }
 
 void ImageProfileDialogPreviewTest::preview_isLeftOut_whereThereIsNone()
@@ -214,7 +212,7 @@ void ImageProfileDialogPreviewTest::preview_isLeftOut_whereThereIsNone()
     dialog.setSelectedProfile(&profile);
     child<QSlider>(dialog, "brightnessSlider").setValue(9);
     dialog.updateImage();
-    QTest::qWait(AWhileMs);
+    QTest::qWait(aWhileMs);
     QCOMPARE(child<QSlider>(dialog, "brightnessSlider").value(), 9);
 }
 
@@ -324,8 +322,9 @@ void ImageProfileDialogPreviewTest::watermarkDialog_showsTheFrame_asItIsEntered(
             shown = testsupport::paintedAt(view, {400, 300});
             return shown.pixelColor(200, 150) == QColor(110, 120, 130);
         };
-        if (!QTest::qWaitFor(isRendered, PatienceMs))
+        if (!QTest::qWaitFor(isRendered, patienceMs)) {
             qWarning("The frame is not shown");
+        }
         watermarkDialog.reject();
     });
     clickEdit(dialog);

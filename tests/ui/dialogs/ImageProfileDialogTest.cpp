@@ -22,14 +22,10 @@
 using testsupport::child;
 using testsupport::showActive;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 using testsupport::typeProfileName;
 
 namespace {
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 /// Enters something else than the defaults everywhere.
 void fillForm(ImageProfileDialog& dialog)
@@ -128,8 +124,9 @@ void ImageProfileDialogTest::form_hasItsTexts()
 
     QStringList titles;
     const auto groups = dialog.findChildren<QGroupBox*>();
-    for (const QGroupBox* const group : groups)
+    for (const QGroupBox* const group : groups) {
         titles += group->title();
+    }
     titles.sort();
     QCOMPARE(titles, (QStringList{textOf("File Settings"), textOf("Image Adjustments"),
                                   textOf("Image Size"), textOf("Select Profile"), textOf("Video"),
@@ -144,8 +141,9 @@ void ImageProfileDialogTest::form_hasItsTexts()
         {"resetToDefaultsButton", "Reset to Defaults"},
         {"saveButton", "Save"},
         {"cancelButton", "Cancel"}};
-    for (const auto& [name, text] : buttons)
+    for (const auto& [name, text] : buttons) {
         QCOMPARE(child<QAbstractButton>(dialog, name).text(), textOf(text));
+    }
     QVERIFY(!child<QPushButton>(dialog, "watermarkProfileEditButton").autoDefault());
     QVERIFY(!child<QPushButton>(dialog, "resetToDefaultsButton").autoDefault());
     QVERIFY(saveButton(dialog).isDefault());
@@ -341,8 +339,9 @@ void ImageProfileDialogTest::sameSize_keepsWhatWasTyped()
     dialog.setVideoDimensions(1920, 1080);
     dialog.setSelectedProfile(&profile);
     sizeField(dialog, 1).setText(textOf("77"));
-    for (const bool on : {true, false, true})
+    for (const bool on : {true, false, true}) {
         setSameSize(dialog, on);
+    }
     saveButton(dialog).click();
     QVERIFY(profile.sameSizeAsVideo());
     QCOMPARE(profile.imageWidth(), 77);
@@ -362,8 +361,9 @@ void ImageProfileDialogTest::sameSize_showsNothing_whileVideoIsUnknown()
     QFETCH(QSize, size);
     const TestProfiles profiles;
     ImageProfileDialog dialog(nullptr);
-    if (size.isValid())
+    if (size.isValid()) {
         dialog.setVideoDimensions(size.width(), size.height());
+    }
     setSameSize(dialog, true);
     QCOMPARE(sizeTexts(dialog), (QStringList{QString(), QString()}));
 }
@@ -445,10 +445,11 @@ void ImageProfileDialogTest::cancel_changesNothing()
     dialog.setSelectedProfile(&profile);
     QVERIFY(showActive(dialog));
     fillForm(dialog);
-    if (byKey)
+    if (byKey) {
         QTest::keyClick(&dialog, Qt::Key_Escape);
-    else
+    } else {
         child<QPushButton>(dialog, "cancelButton").click();
+    }
     QVERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Rejected));
     QCOMPARE(dialog.selectedProfile(), &profile);

@@ -25,8 +25,9 @@ public:
     Object& find(const char* name)
     {
         auto* const found = m_dialog.findChild<Object*>(QLatin1String(name));
-        if (!found)
+        if (!found) {
             qFatal("no %s in the dialog", name);
+        }
         return *found;
     }
 

@@ -151,8 +151,9 @@ void WatermarkPictureTest::truncatedPicture_isNotRead()
     const TestProfiles profiles;
     QImage noise(2000, 500, QImage::Format_RGB32);
     for (int y = 0; y < noise.height(); ++y) {
-        for (int x = 0; x < noise.width(); ++x)
+        for (int x = 0; x < noise.width(); ++x) {
             noise.setPixel(x, y, qRgb(x * 7, y * 13, x * y));
+        }
     }
     const QString path = saved(profiles, QStringLiteral("a.png"), noise);
     const QByteArray whole = contents(path);

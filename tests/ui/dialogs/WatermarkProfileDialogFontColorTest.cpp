@@ -15,13 +15,9 @@
 using testsupport::child;
 using testsupport::ModalScript;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 
 namespace {
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 void click(const WatermarkProfileDialog& dialog, const char* button)
 {

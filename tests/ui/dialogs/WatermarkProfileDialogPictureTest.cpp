@@ -21,13 +21,9 @@ using testsupport::child;
 using testsupport::ModalScript;
 using testsupport::showActive;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 
 namespace {
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QString savedPicture(const TestProfiles& profiles, const char* name, QSize size)
 {
@@ -71,8 +67,9 @@ void readWarning(ModalScript& script, QStringList& said)
 {
     script.expect<QMessageBox>([&said](QMessageBox& box) {
         said = QStringList{box.windowTitle(), box.text()};
-        if (box.standardButtons() == QMessageBox::Ok && box.icon() == QMessageBox::Warning)
+        if (box.standardButtons() == QMessageBox::Ok && box.icon() == QMessageBox::Warning) {
             box.button(QMessageBox::Ok)->click();
+        }
     });
 }
 
@@ -117,8 +114,9 @@ void WatermarkProfileDialogPictureTest::type_offersWhatItHas()
         click(dialog, isText ? "watermarkTypeTextRadioButton" : "watermarkTypeImageRadioButton");
         QCOMPARE(child<QWidget>(dialog, "textTypeFrame").isEnabled(), isText);
         QCOMPARE(child<QWidget>(dialog, "imageTypeFrame").isEnabled(), !isText);
-        for (const char* const group : {"textFormatGroupBox", "textShadowGroupBox"})
+        for (const char* const group : {"textFormatGroupBox", "textShadowGroupBox"}) {
             QCOMPARE(child<QWidget>(dialog, group).isHidden(), !isText);
+        }
     }
 }
 

@@ -24,18 +24,14 @@
 using testsupport::child;
 using testsupport::ProcessingCounter;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 
 namespace {
 
-constexpr QSize ViewSize{400, 300};
+constexpr QSize viewSize{400, 300};
 /// Twice what the dialog waits before it renders.
-constexpr int AWhileMs = 400;
-constexpr int PatienceMs = 20000;
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
+constexpr int aWhileMs = 400;
+constexpr int patienceMs = 20000;
 
 QImage plain(QSize size, const QColor& color)
 {
@@ -46,7 +42,7 @@ QImage plain(QSize size, const QColor& color)
 
 QImage shown(const WatermarkProfileDialog& dialog)
 {
-    return testsupport::paintedAt(child<ImageView>(dialog, "watermarkPositioner"), ViewSize);
+    return testsupport::paintedAt(child<ImageView>(dialog, "watermarkPositioner"), viewSize);
 }
 
 /// What the preview looks like when it shows this image.
@@ -54,7 +50,7 @@ QImage asShown(const QImage& image)
 {
     ImageView view;
     view.setImage(image);
-    view.resize(ViewSize);
+    view.resize(viewSize);
     return testsupport::paintedBy(view);
 }
 
@@ -63,8 +59,9 @@ WatermarkProfile& addPictureProfile(const TestProfiles& profiles, const char* na
 {
     auto& profile = profiles.add<WatermarkProfile>(QLatin1String(name));
     const QString file = QLatin1String(name) + textOf(".png");
-    if (!plain({40, 30}, Qt::red).save(WatermarkProfile::pathForImage(file)))
+    if (!plain({40, 30}, Qt::red).save(WatermarkProfile::pathForImage(file))) {
         qFatal("The picture cannot be written");
+    }
     profile.setWatermarkType(1);
     profile.setImageFile(file);
     profile.setXMargin(10);
@@ -74,7 +71,7 @@ WatermarkProfile& addPictureProfile(const TestProfiles& profiles, const char* na
 
 QImage withRedAt(QPoint position)
 {
-    QImage image = plain(ViewSize, Qt::blue);
+    QImage image = plain(viewSize, Qt::blue);
     QPainter(&image).fillRect(QRect(position, QSize(40, 30)), Qt::red);
     return image;
 }
@@ -108,8 +105,8 @@ void WatermarkProfileDialogPreviewTest::picture_isWhereItWillBe()
     imageProfile.setSameSizeAsVideo(true);
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
-    dialog.setExampleImage(plain(ViewSize, Qt::blue), &imageProfile);
-    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(withRedAt({350, 250})), PatienceMs);
+    dialog.setExampleImage(plain(viewSize, Qt::blue), &imageProfile);
+    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(withRedAt({350, 250})), patienceMs);
     QCOMPARE(shown(dialog).pixelColor(350, 250), QColor(Qt::red));
     QCOMPARE(shown(dialog).pixelColor(349, 250), QColor(Qt::blue));
 }
@@ -138,9 +135,9 @@ void WatermarkProfileDialogPreviewTest::everyAlignment_isShown()
     imageProfile.setSameSizeAsVideo(true);
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
-    dialog.setExampleImage(plain(ViewSize, Qt::blue), &imageProfile);
+    dialog.setExampleImage(plain(viewSize, Qt::blue), &imageProfile);
     child<QComboBox>(dialog, "alignmentComboBox").setCurrentText(alignment);
-    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(withRedAt(position)), PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(withRedAt(position)), patienceMs);
 }
 
 void WatermarkProfileDialogPreviewTest::text_isWhatThePipelineDraws()
@@ -158,10 +155,10 @@ void WatermarkProfileDialogPreviewTest::text_isWhatThePipelineDraws()
     auto* const pipeline = ImageProcessingManager::instance();
     const QImage expected = asShown(pipeline->processImage(example, &imageProfile, &profile));
     QVERIFY(expected != asShown(plain({640, 480}, Qt::darkGreen)));
-    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), expected, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), expected, patienceMs);
     // As entered, not as saved.
     child<QTextEdit>(dialog, "textTextEdit").setPlainText(QString());
-    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(plain({640, 480}, Qt::darkGreen)), PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(plain({640, 480}, Qt::darkGreen)), patienceMs);
     QCOMPARE(profile.text(), textOf("Hello"));
 }
 
@@ -177,7 +174,7 @@ void WatermarkProfileDialogPreviewTest::imageProfile_isApplied()
     dialog.setSelectedProfile(&profile);
     dialog.setExampleImage(plain({200, 200}, QColor(10, 20, 30)), &imageProfile);
     QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(plain({300, 300}, QColor(70, 80, 90))),
-                              PatienceMs);
+                              patienceMs);
 }
 
 void WatermarkProfileDialogPreviewTest::samplePicture_isShown_untilThereIsAFrame()
@@ -192,12 +189,12 @@ void WatermarkProfileDialogPreviewTest::samplePicture_isShown_untilThereIsAFrame
     ImageProfile defaults(nullptr);
     auto* const pipeline = ImageProcessingManager::instance();
     QTRY_COMPARE_WITH_TIMEOUT(
-        shown(dialog), asShown(pipeline->processImage(sample, &defaults, nullptr)), PatienceMs);
+        shown(dialog), asShown(pipeline->processImage(sample, &defaults, nullptr)), patienceMs);
     ImageProfile dark(nullptr);
     dark.setImageBrightness(-80);
     dialog.setExampleImage(QImage(), &dark);
     QTRY_COMPARE_WITH_TIMEOUT(shown(dialog),
-                              asShown(pipeline->processImage(sample, &dark, nullptr)), PatienceMs);
+                              asShown(pipeline->processImage(sample, &dark, nullptr)), patienceMs);
 }
 
 void WatermarkProfileDialogPreviewTest::selectedProfile_isShown()
@@ -209,10 +206,10 @@ void WatermarkProfileDialogPreviewTest::selectedProfile_isShown()
     imageProfile.setSameSizeAsVideo(true);
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(nullptr);
-    dialog.setExampleImage(plain(ViewSize, Qt::blue), &imageProfile);
-    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(plain(ViewSize, Qt::blue)), PatienceMs);
+    dialog.setExampleImage(plain(viewSize, Qt::blue), &imageProfile);
+    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(plain(viewSize, Qt::blue)), patienceMs);
     testsupport::pickProfile(dialog, 1);
-    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(withRedAt({350, 250})), PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(withRedAt({350, 250})), patienceMs);
 }
 
 void WatermarkProfileDialogPreviewTest::changes_areRenderedOnce_afterTheLast()
@@ -224,9 +221,9 @@ void WatermarkProfileDialogPreviewTest::changes_areRenderedOnce_afterTheLast()
     const ProcessingCounter processed;
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
-    dialog.setExampleImage(plain(ViewSize, Qt::blue), &imageProfile);
+    dialog.setExampleImage(plain(viewSize, Qt::blue), &imageProfile);
     QCOMPARE(processed.count(), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 1, patienceMs);
 
     auto& margin = child<QSpinBox>(dialog, "xMarginSpinBox");
     for (int value = 11; value <= 50; ++value) {
@@ -235,8 +232,8 @@ void WatermarkProfileDialogPreviewTest::changes_areRenderedOnce_afterTheLast()
     }
     dialog.updateWatermark();
     QCOMPARE(processed.count(), 1);
-    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 2, PatienceMs);
-    QTest::qWait(AWhileMs);
+    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 2, patienceMs);
+    QTest::qWait(aWhileMs);
     QCOMPARE(processed.count(), 2);
     QCOMPARE(shown(dialog), asShown(withRedAt({310, 250})));
 }
@@ -248,7 +245,7 @@ void WatermarkProfileDialogPreviewTest::pickedColor_isShownWithTheNextChange()
     const ProcessingCounter processed;
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
-    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 1, patienceMs);
     testsupport::ModalScript script;
     script.expect<QColorDialog>([](QColorDialog& picker) {
         picker.setCurrentColor(Qt::green);
@@ -256,10 +253,10 @@ void WatermarkProfileDialogPreviewTest::pickedColor_isShownWithTheNextChange()
     });
     child<QPushButton>(dialog, "textColorButton").click();
     QVERIFY(script.isDone());
-    QTest::qWait(AWhileMs);
+    QTest::qWait(aWhileMs);
     QCOMPARE(processed.count(), 1);
     child<QTextEdit>(dialog, "textTextEdit").setPlainText(textOf("x"));
-    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 2, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 2, patienceMs);
 }
 
 void WatermarkProfileDialogPreviewTest::goneAndTooLargePictures_leaveTheImage_data()
@@ -282,8 +279,8 @@ void WatermarkProfileDialogPreviewTest::goneAndTooLargePictures_leaveTheImage()
     imageProfile.setSameSizeAsVideo(true);
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(&profile);
-    dialog.setExampleImage(plain(ViewSize, Qt::blue), &imageProfile);
-    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(plain(ViewSize, Qt::blue)), PatienceMs);
+    dialog.setExampleImage(plain(viewSize, Qt::blue), &imageProfile);
+    QTRY_COMPARE_WITH_TIMEOUT(shown(dialog), asShown(plain(viewSize, Qt::blue)), patienceMs);
     // The profile keeps the name of its picture.
     child<QPushButton>(dialog, "saveButton").click();
     QCOMPARE(profile.imageFile(), file);
@@ -295,7 +292,7 @@ void WatermarkProfileDialogPreviewTest::temporaryProfiles_areNotListed()
     const ProcessingCounter processed;
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(nullptr);
-    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 1, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 1, patienceMs);
     QVERIFY(WatermarkProfile::profileManager()->profiles().isEmpty());
 }
 

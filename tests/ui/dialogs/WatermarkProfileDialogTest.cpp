@@ -27,14 +27,10 @@
 using testsupport::child;
 using testsupport::showActive;
 using testsupport::TestProfiles;
+using testsupport::textOf;
 using testsupport::typeProfileName;
 
 namespace {
-
-QString textOf(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 /// Enters something else than the defaults everywhere.
 void fillForm(WatermarkProfileDialog& dialog)
@@ -117,8 +113,9 @@ void WatermarkProfileDialogTest::form_hasItsTexts()
 
     QStringList titles;
     const auto groups = dialog.findChildren<QGroupBox*>();
-    for (const QGroupBox* const group : groups)
+    for (const QGroupBox* const group : groups) {
         titles += group->title();
+    }
     titles.sort();
     QCOMPARE(titles,
              (QStringList{textOf("Opacity"), textOf("Position"), textOf("Position + Preview"),
@@ -139,8 +136,9 @@ void WatermarkProfileDialogTest::form_hasItsTexts()
     QCOMPARE(saveButton(dialog).text(), textOf("Save"));
     QCOMPARE(child<QPushButton>(dialog, "cancelButton").text(), textOf("Cancel"));
     for (const char* const name :
-         {"imageBrowseButton", "textFontButton", "textColorButton", "shadowColorButton"})
+         {"imageBrowseButton", "textFontButton", "textColorButton", "shadowColorButton"}) {
         QVERIFY2(!child<QPushButton>(dialog, name).autoDefault(), name);
+    }
     QVERIFY(saveButton(dialog).isDefault());
     // It has no action, so it is not offered.
     QVERIFY(!child<QPushButton>(dialog, "imageBrowseButton_2").isVisibleTo(&dialog));
@@ -266,8 +264,9 @@ void WatermarkProfileDialogTest::everyLabel_belongsToItsInput()
                                                        {"yMarginLabel", "yMarginSpinBox"},
                                                        {"xOffsetLabel", "xOffsetSpinBox"},
                                                        {"yOffsetLabel", "yOffsetSpinBox"}};
-    for (const auto& [label, input] : pairs)
+    for (const auto& [label, input] : pairs) {
         QCOMPARE(child<QLabel>(dialog, label).buddy(), &child<QWidget>(dialog, input));
+    }
 }
 
 void WatermarkProfileDialogTest::profile_isShown()
@@ -399,10 +398,11 @@ void WatermarkProfileDialogTest::cancel_changesNothing()
     dialog.setSelectedProfile(&profile);
     QVERIFY(showActive(dialog));
     fillForm(dialog);
-    if (byKey)
+    if (byKey) {
         QTest::keyClick(&dialog, Qt::Key_Escape);
-    else
+    } else {
         child<QPushButton>(dialog, "cancelButton").click();
+    }
     QVERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Rejected));
     QCOMPARE(dialog.selectedProfile(), &profile);

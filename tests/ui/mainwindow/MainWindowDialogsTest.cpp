@@ -138,8 +138,9 @@ void MainWindowDialogsTest::imageProfileDialog_knowsTheVideoAndTheFrame()
     script.expect<ImageProfileDialog>([&](ImageProfileDialog& dialog) {
         child<QAbstractButton>(dialog, "sameSizeAsVideoCheckbox").click();
         for (const QLineEdit* const edit : dialog.findChildren<QLineEdit*>()) {
-            if (edit->isVisible() && !edit->isEnabled())
+            if (edit->isVisible() && !edit->isEnabled()) {
                 shown.append(edit->text());
+            }
         }
         click(dialog, "cancelButton");
     });

@@ -16,7 +16,7 @@ using Argument = const void*;
 /// A result: a number, or a pointer in its place.
 using Result = std::uintptr_t;
 
-constexpr Result MacRomanEncoding = 30;
+constexpr Result macRomanEncoding = 30;
 
 /// An object, a class or a selector: something with a name.
 struct Named
@@ -84,7 +84,7 @@ Result answer(Argument receiver, const QString& selector)
         return pointer(make(QStringLiteral("window")));
     }
     if (selector == QLatin1String("defaultCStringEncoding")) {
-        return MacRomanEncoding;
+        return macRomanEncoding;
     }
     if (selector == QLatin1String("runModal")) {
         return static_cast<Result>(runtime().modalResponse);

@@ -41,8 +41,9 @@ QString shownToolTip(ElidedLabel& label)
 QString asPlainText(const QString& toolTip)
 {
     QTextDocument document;
-    if (Qt::mightBeRichText(toolTip))
+    if (Qt::mightBeRichText(toolTip)) {
         document.setHtml(toolTip);
+    }
     return document.toPlainText();
 }
 

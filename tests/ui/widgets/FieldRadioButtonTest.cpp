@@ -48,7 +48,7 @@ private Q_SLOTS:
 void FieldRadioButtonTest::value_isItsChoice_whenChecked()
 {
     Choice choice;
-    QCOMPARE(choice.zeroField.value(), QVariant(Field::NoChoice));
+    QCOMPARE(choice.zeroField.value(), QVariant(Field::noChoice));
     choice.zero.setChecked(true);
     QCOMPARE(choice.zeroField.value(), QVariant(0));
 }
@@ -81,13 +81,14 @@ void FieldRadioButtonTest::setValue_unchecksAll_forTheValueOfNone()
     QButtonGroup group;
     for (const bool isGrouped : {false, true}) {
         Choice choice;
-        if (isGrouped)
+        if (isGrouped) {
             choice.join(group);
+        }
         choice.setValue(before);
         choice.setValue(value);
         QVERIFY(!choice.zero.isChecked());
         QVERIFY(!choice.one.isChecked());
-        QCOMPARE(choice.zeroField.value(), QVariant(Field::NoChoice));
+        QCOMPARE(choice.zeroField.value(), QVariant(Field::noChoice));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "ui/widgets/Field.h"
 
 #include "tests/ui/support/Painting.h"
+#include "tests/ui/widgets/BoundField.h"
 #include "ui/widgets/ColorLabel.h"
 #include "ui/widgets/FixTristateCheckbox.h"
 #include "ui/widgets/FontLabel.h"
@@ -18,58 +19,7 @@
 #include <QTest>
 #include <QTextEdit>
 
-#include <memory>
-
 using testsupport::EventCounter;
-
-namespace {
-
-/// A field over a widget of a kind, which it owns.
-template <typename Widget>
-class Bound
-{
-public:
-    explicit Bound(int choiceValue = Field::NoChoice)
-        : m_field("property", &m_widget, choiceValue, nullptr)
-    {}
-
-    Widget& widget() { return m_widget; }
-    Widget* operator->() { return &m_widget; }
-    Field& field() { return m_field; }
-
-private:
-    Widget m_widget;
-    Field m_field;
-};
-
-/// A combo box with an item for each kind of data that the program uses: ids, types, numbers.
-void addItems(QComboBox& box)
-{
-    box.addItem(QStringLiteral("None"), QString());
-    box.addItem(QStringLiteral("Type"), QStringLiteral("jpg"));
-    box.addItem(QStringLiteral("Number"), 3);
-    box.addItem(QStringLiteral("No data"));
-}
-
-/// Counts what a field reports.
-class ChangeCounter
-{
-public:
-    explicit ChangeCounter(const Field& field)
-        : m_context(std::make_unique<QObject>())
-    {
-        field.whenChanged(m_context.get(), [this] { ++m_count; });
-    }
-
-    int count() const { return m_count; }
-    void stop() { m_context.reset(); }
-
-private:
-    std::unique_ptr<QObject> m_context;
-    int m_count = 0;
-};
-
-} // namespace
 
 Q_DECLARE_METATYPE(Qt::CheckState)
 
@@ -107,11 +57,6 @@ private Q_SLOTS:
     void setValue_ofSpinBox_showsNumber_inItsRange();
     void setValue_showsNothing_whenInvalid();
     void setValue_leavesOtherWidgets();
-
-    void whenChanged_reportsEdits_ofEveryKind();
-    void whenChanged_reportsNoLabels();
-    void whenChanged_reportsNothing_onceContextIsGone();
-    void whenChanged_reportsNothing_whenValueStays();
 };
 
 void FieldTest::field_keepsWhatItWasGiven_andBelongsToItsParent()
@@ -230,7 +175,7 @@ void FieldTest::value_ofSpinBox_isItsNumber()
 
 void FieldTest::value_isInvalid_forOtherWidgets()
 {
-    QVERIFY(!Field("a", nullptr, Field::NoChoice, nullptr).value().isValid());
+    QVERIFY(!Field("a", nullptr, Field::noChoice, nullptr).value().isValid());
     Bound<QLabel> label;
     label->setText(QStringLiteral("text"));
     QVERIFY(!label.field().value().isValid());
@@ -425,88 +370,9 @@ void FieldTest::setValue_leavesOtherWidgets()
     dial->setValue(9);
     dial.field().setValue(3);
     QCOMPARE(dial->value(), 9);
-    Field nothing("a", nullptr, Field::NoChoice, nullptr);
+    Field nothing("a", nullptr, Field::noChoice, nullptr);
     nothing.setValue(3);
     QVERIFY(!nothing.value().isValid());
-}
-
-void FieldTest::whenChanged_reportsEdits_ofEveryKind()
-{
-    Bound<QLineEdit> line;
-    const ChangeCounter lineChanges(line.field());
-    QTest::keyClicks(&line.widget(), QStringLiteral("ab"));
-    line->setText(QStringLiteral("c"));
-    QCOMPARE(lineChanges.count(), 3);
-
-    Bound<QTextEdit> text;
-    const ChangeCounter textChanges(text.field());
-    QTest::keyClicks(&text.widget(), QStringLiteral("ab"));
-    QCOMPARE(textChanges.count(), 2);
-
-    Bound<QComboBox> box;
-    addItems(box.widget());
-    const ChangeCounter boxChanges(box.field());
-    QTest::keyClick(&box.widget(), Qt::Key_Down);
-    box->setCurrentIndex(-1);
-    QCOMPARE(boxChanges.count(), 2);
-
-    Bound<FixTristateCheckbox> check;
-    const ChangeCounter checkChanges(check.field());
-    check->click();
-    check->setCheckState(Qt::PartiallyChecked);
-    QCOMPARE(checkChanges.count(), 2);
-
-    Bound<QSlider> slider;
-    const ChangeCounter sliderChanges(slider.field());
-    QTest::keyClick(&slider.widget(), Qt::Key_Up);
-    slider->setValue(50);
-    QCOMPARE(sliderChanges.count(), 2);
-
-    Bound<QSpinBox> spin;
-    const ChangeCounter spinChanges(spin.field());
-    QTest::keyClick(&spin.widget(), Qt::Key_Up);
-    spin->setValue(50);
-    QCOMPARE(spinChanges.count(), 2);
-}
-
-void FieldTest::whenChanged_reportsNoLabels()
-{
-    Bound<QLabel> label;
-    const ChangeCounter labelChanges(label.field());
-    label->setText(QStringLiteral("a"));
-    QCOMPARE(labelChanges.count(), 0);
-
-    Bound<ColorLabel> color;
-    const ChangeCounter colorChanges(color.field());
-    color->setColorValue(Qt::red);
-    QCOMPARE(colorChanges.count(), 0);
-
-    Bound<FontLabel> font;
-    const ChangeCounter fontChanges(font.field());
-    font->setFontValue(QFont(QStringLiteral("Courier"), 24));
-    QCOMPARE(fontChanges.count(), 0);
-
-    const ChangeCounter nothing(Field("a", nullptr, Field::NoChoice, nullptr));
-    QCOMPARE(nothing.count(), 0);
-}
-
-void FieldTest::whenChanged_reportsNothing_onceContextIsGone()
-{
-    Bound<QLineEdit> line;
-    ChangeCounter changes(line.field());
-    line->setText(QStringLiteral("a"));
-    changes.stop();
-    line->setText(QStringLiteral("b"));
-    QCOMPARE(changes.count(), 1);
-}
-
-void FieldTest::whenChanged_reportsNothing_whenValueStays()
-{
-    Bound<QLineEdit> line;
-    line->setText(QStringLiteral("a"));
-    const ChangeCounter changes(line.field());
-    line.field().setValue(QStringLiteral("a"));
-    QCOMPARE(changes.count(), 0);
 }
 
 QTEST_MAIN(FieldTest)

@@ -191,11 +191,11 @@ void ImageViewTest::fineDetail_isAveraged_whenMadeSmaller()
     view.resize(100, 60);
     view.setImage(stripes({700, 420}));
     const QImage painted = paintedBy(view);
-    constexpr int Grey = 127;
-    constexpr int OneStripeOfSeven = 255 / 7;
+    constexpr int grey = 127;
+    constexpr int oneStripeOfSeven = 255 / 7;
     for (int x = 1; x < 99; ++x) {
         const int value = qRed(painted.pixel(x, 30));
-        QVERIFY2(std::abs(value - Grey) <= OneStripeOfSeven, qPrintable(QString::number(value)));
+        QVERIFY2(std::abs(value - grey) <= oneStripeOfSeven, qPrintable(QString::number(value)));
     }
 }
 

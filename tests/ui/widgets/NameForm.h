@@ -21,10 +21,12 @@ public:
     explicit NameForm(const QStringList& names)
         : m_manager(fileName(), m_keeper.factory<FileNameProfile>(), false)
     {
-        for (const QString& name : names)
+        for (const QString& name : names) {
             addProfile(name);
-        for (const char* const type : {"jpg", "png"})
+        }
+        for (const char* const type : {"jpg", "png"}) {
             m_type.addItem(QLatin1String(type), QLatin1String(type));
+        }
         m_type.setCurrentIndex(-1);
         m_selector.addField(&m_prefixField);
         m_selector.addField(&m_typeField);
@@ -53,8 +55,9 @@ public:
         const ProfileManager stored(fileName(), m_keeper.factory<FileNameProfile>(), false);
         QStringList prefixes;
         const auto profiles = stored.profiles();
-        for (const BaseProfile* const profile : profiles)
+        for (const BaseProfile* const profile : profiles) {
             prefixes += static_cast<const FileNameProfile*>(profile)->fileOutputPrefix();
+        }
         return prefixes;
     }
 
@@ -93,9 +96,9 @@ private:
     QLineEdit m_prefix;
     QComboBox m_type;
     QCheckBox m_pad;
-    Field m_prefixField{"fileOutputPrefix", &m_prefix, Field::NoChoice, nullptr};
-    Field m_typeField{"fileOutputType", &m_type, Field::NoChoice, nullptr};
-    Field m_padField{"fileOutputCounterPadZeros", &m_pad, Field::NoChoice, nullptr};
+    Field m_prefixField{"fileOutputPrefix", &m_prefix, Field::noChoice, nullptr};
+    Field m_typeField{"fileOutputType", &m_type, Field::noChoice, nullptr};
+    Field m_padField{"fileOutputCounterPadZeros", &m_pad, Field::noChoice, nullptr};
     ProfileSelector m_selector{nullptr};
 };
 
@@ -115,16 +118,18 @@ inline BaseProfile* onlyProfile(const QSignalSpy& spy)
 inline QStringList names(const QSignalSpy& spy)
 {
     QStringList found;
-    for (const QList<QVariant>& call : spy)
+    for (const QList<QVariant>& call : spy) {
         found += call.at(0).toString();
+    }
     return found;
 }
 
 inline QStringList itemTexts(const QComboBox& box)
 {
     QStringList texts;
-    for (int i = 0; i < box.count(); ++i)
+    for (int i = 0; i < box.count(); ++i) {
         texts += box.itemText(i);
+    }
     return texts;
 }
 

@@ -23,8 +23,8 @@ QImage painted(const QAbstractItemDelegate& delegate, QStyle::State state)
     return image;
 }
 
-constexpr QStyle::State Plain = QStyle::State_Enabled | QStyle::State_KeyboardFocusChange;
-constexpr QStyle::State Focused = Plain | QStyle::State_HasFocus;
+constexpr QStyle::State plain = QStyle::State_Enabled | QStyle::State_KeyboardFocusChange;
+constexpr QStyle::State focused = plain | QStyle::State_HasFocus;
 
 } // namespace
 
@@ -41,17 +41,17 @@ void NoFocusItemDelegateTest::focus_leavesNoTrace()
 {
     // The ordinary delegate shows that there is something to leave out.
     const QItemDelegate ordinary;
-    QVERIFY(painted(ordinary, Focused) != painted(ordinary, Plain));
+    QVERIFY(painted(ordinary, focused) != painted(ordinary, plain));
     const NoFocusItemDelegate delegate;
-    QCOMPARE(painted(delegate, Focused), painted(delegate, Plain));
-    QCOMPARE(painted(delegate, Plain), painted(ordinary, Plain));
+    QCOMPARE(painted(delegate, focused), painted(delegate, plain));
+    QCOMPARE(painted(delegate, plain), painted(ordinary, plain));
 }
 
 void NoFocusItemDelegateTest::selection_isStillShown()
 {
     const NoFocusItemDelegate delegate;
-    const QStyle::State selected = Focused | QStyle::State_Selected;
-    QVERIFY(painted(delegate, selected) != painted(delegate, Focused));
+    const QStyle::State selected = focused | QStyle::State_Selected;
+    QVERIFY(painted(delegate, selected) != painted(delegate, focused));
 }
 
 QTEST_MAIN(NoFocusItemDelegateTest)

@@ -27,7 +27,7 @@ public:
     ColorLabel color;
     Field textField{"watermarkType", &text, 0, nullptr};
     Field imageField{"watermarkType", &image, 1, nullptr};
-    Field colorField{"textColor", &color, Field::NoChoice, nullptr};
+    Field colorField{"textColor", &color, Field::noChoice, nullptr};
     ProfileSelector selector{nullptr};
 };
 
@@ -89,8 +89,8 @@ void ProfileSelectorFormTest::loadProfileIntoForm_showsNothing_forUnknownPropert
     QLineEdit line(QStringLiteral("before"));
     QComboBox box;
     box.addItem(QStringLiteral("None"), QString());
-    Field lineField("noSuchText", &line, Field::NoChoice, nullptr);
-    Field boxField("noSuchChoice", &box, Field::NoChoice, nullptr);
+    Field lineField("noSuchText", &line, Field::noChoice, nullptr);
+    Field boxField("noSuchChoice", &box, Field::noChoice, nullptr);
     selector.addField(&lineField);
     selector.addField(&boxField);
     const FileNameProfile profile;
@@ -154,7 +154,7 @@ void ProfileSelectorFormTest::loadFormIntoProfile_addsDynamicProperty_forUnknown
 {
     ProfileSelector selector(nullptr);
     QLineEdit line(QStringLiteral("text"));
-    Field field("noSuchProperty", &line, Field::NoChoice, nullptr);
+    Field field("noSuchProperty", &line, Field::noChoice, nullptr);
     selector.addField(&field);
     FileNameProfile profile;
     selector.loadFormIntoProfile(&profile);

@@ -438,8 +438,9 @@ void ProfileSelectorTest::names_surviveSavingAndSelecting()
 void ProfileSelectorTest::thousandProfiles_areListedAndSaved_withFewSteps()
 {
     QStringList many;
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         many += QStringLiteral("Profile %1").arg(i);
+    }
     NameForm form(many);
     QCOMPARE(itemTexts(form.combo()), many);
 

@@ -21,8 +21,9 @@ int processed = 0;
 
 void countProcessing(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
 {
-    if (type == QtDebugMsg && text.startsWith(QLatin1String("Contrast:")))
+    if (type == QtDebugMsg && text.startsWith(QLatin1String("Contrast:"))) {
         ++processed;
+    }
 }
 
 bool takesInput(const QWidget& widget)
@@ -37,8 +38,9 @@ bool takesInput(const QWidget& widget)
 bool isPartOfInput(const QWidget& widget)
 {
     for (const QWidget* above = widget.parentWidget(); above; above = above->parentWidget()) {
-        if (takesInput(*above))
+        if (takesInput(*above)) {
             return true;
+        }
     }
     return false;
 }
@@ -46,8 +48,9 @@ bool isPartOfInput(const QWidget& widget)
 /// What screen readers say of a widget. The name of a combo box is what it holds at the moment.
 QString spokenName(const QWidget& widget)
 {
-    if (const auto* const box = qobject_cast<const QComboBox*>(&widget))
+    if (const auto* const box = qobject_cast<const QComboBox*>(&widget)) {
         return box->isEditable() ? box->lineEdit()->accessibleName() : box->accessibleDescription();
+    }
     return widget.accessibleName();
 }
 
@@ -106,16 +109,18 @@ QStringList testsupport::inputsWithoutName(const QDialog& dialog)
     QStringList names;
     const auto widgets = dialog.findChildren<QWidget*>();
     for (const QWidget* const widget : widgets) {
-        if (takesInput(*widget) && !isPartOfInput(*widget) && spokenName(*widget).isEmpty())
+        if (takesInput(*widget) && !isPartOfInput(*widget) && spokenName(*widget).isEmpty()) {
             names += widget->objectName();
+        }
     }
     return names;
 }
 
 QImage testsupport::paintedAt(QWidget& widget, QSize size)
 {
-    if (QLayout* const layout = widget.parentWidget()->layout())
+    if (QLayout* const layout = widget.parentWidget()->layout()) {
         layout->removeWidget(&widget);
+    }
     widget.resize(size);
     return paintedBy(widget);
 }

@@ -15,9 +15,15 @@ template <typename Widget>
 Widget& child(const QWidget& parent, const char* name)
 {
     auto* const found = parent.findChild<Widget*>(QLatin1String(name));
-    if (!found)
+    if (!found) {
         qFatal("There is no %s named %s", Widget::staticMetaObject.className(), name);
+    }
     return *found;
+}
+
+inline QString textOf(const char* text)
+{
+    return QString::fromLatin1(text);
 }
 
 /// Shows the dialog and waits until it has the keyboard.

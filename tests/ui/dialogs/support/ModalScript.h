@@ -30,8 +30,9 @@ public:
     {
         const auto fits = [](QWidget& widget) { return qobject_cast<Dialog*>(&widget) != nullptr; };
         m_steps.push_back({fits, [answer](QWidget& widget) {
-                               if (auto* const dialog = qobject_cast<Dialog*>(&widget))
+                               if (auto* const dialog = qobject_cast<Dialog*>(&widget)) {
                                    answer(*dialog);
+                               }
                            }});
     }
 

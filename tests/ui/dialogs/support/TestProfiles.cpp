@@ -32,15 +32,17 @@ TestProfiles::TestProfiles()
     const QList<ProfileManager*> managers{ImageProfile::profileManager(),
                                           WatermarkProfile::profileManager()};
     static const bool first = [&managers] {
-        for (ProfileManager* const manager : managers)
+        for (ProfileManager* const manager : managers) {
             deleteAll(*manager);
+        }
         return true;
     }();
     Q_UNUSED(first)
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(dir().filePath(QStringLiteral("config"))));
     qputenv("XDG_DATA_HOME", QFile::encodeName(dir().filePath(QStringLiteral("data"))));
-    for (ProfileManager* const manager : managers)
+    for (ProfileManager* const manager : managers) {
         startEmpty(*manager);
+    }
 }
 
 TestProfiles::~TestProfiles()

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "qtav/player/FrameSource.h"
+
+#include "tests/support/Samples.h"
+
+#include <QString>
+
+inline bool never()
+{
+    return false;
+}
+
+/// A source in a video whose key frames are 250 frames apart, and the frame on screen.
+struct LongGroups
+{
+    explicit LongGroups(qint64 ms, qint64 cacheBytes = QtAV::FrameCache::defaultBytes)
+    {
+        QString error;
+        source.setScreen({80, 60});
+        if (!source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), cacheBytes,
+                         never, error)) {
+            qFatal("%s", qPrintable(error));
+        }
+        show(source.frameAt(ms, never));
+    }
+
+    void show(const QtAV::FrameResult& found)
+    {
+        frame = found.frame;
+        source.setFocus(frame.timestamp());
+    }
+
+    /// Steps, and counts the packets that this takes.
+    QtAV::FrameResult
+    step(QtAV::FrameResult (QtAV::FrameSource::*direction)(double, const QtAV::IsCancelled&))
+    {
+        packets = 0;
+        const QtAV::FrameResult found = (source.*direction)(frame.timestamp(), [this] {
+            ++packets;
+            return false;
+        });
+        if (found.answer == QtAV::FrameAnswer::Frame) {
+            show(found);
+        }
+        return found;
+    }
+
+    /// Fills until there is no more to do, or so many packets have been taken.
+    void fill(int mostPackets = 1000000,
+              QtAV::FrameSource::Rest rest = QtAV::FrameSource::longestRest)
+    {
+        packets = 0;
+        const auto enough = [this, mostPackets] { return packets == mostPackets || ++packets < 0; };
+        while (packets < mostPackets && source.prepare(rest, enough)) {
+        }
+    }
+
+    /// As far as the rest between two steps allows.
+    void fillShortly() { fill(1000000, QtAV::FrameSource::Rest(100)); }
+
+    QtAV::FrameSource source;
+    QtAV::VideoFrame frame;
+    int packets = 0;
+};
