@@ -4,7 +4,8 @@ option(MORVANTILE_BUILD_TESTS "Build the tests" ON)
 option(MORVANTILE_DESKTOP_TESTS "Of the tests, build those that need a desktop too" ON)
 option(MORVANTILE_ALL_TESTS
   "Build the tests that a build with sanitizers runs as well; off, only those marked for release" ON)
-option(MORVANTILE_QUICK_BUILD "Build with precompiled headers, a quicker linker and plain tests" OFF)
+option(MORVANTILE_QUICK_BUILD
+  "Build with precompiled headers, several sources at a time, a quicker linker and plain tests" OFF)
 option(MORVANTILE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(MORVANTILE_BUILD_FUZZERS "Build the harnesses of fuzz/ with libFuzzer; needs clang" OFF)
 option(MORVANTILE_WERROR "Treat warnings as errors" OFF)

@@ -74,6 +74,10 @@ function(morvantile_spare_moc target)
   set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
 endfunction()
 
+# So many sources are compiled as one where MORVANTILE_QUICK_BUILD is on, for they include much the
+# same. Enough of these batches are left to keep the cores busy.
+set(MORVANTILE_BATCH_SIZE 8)
+
 # morvantile_add_library(NAME SOURCES file… [PRIVATE_HEADERS file…] [HEADER_ROOT folder]
 #                        [PUBLIC lib…] [PRIVATE lib…] [PRECOMPILED common|widget])
 # One library for one folder, or for a part of it; static, or an interface if it has headers only.
@@ -102,6 +106,10 @@ function(morvantile_add_library name)
   morvantile_spare_moc(${name} ${ARG_SOURCES} ${ARG_PRIVATE_HEADERS})
   target_include_directories(${name} PUBLIC "${folder}")
   target_link_libraries(${name} PUBLIC morvantile_settings ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+  if(MORVANTILE_QUICK_BUILD)
+    set_target_properties(${name} PROPERTIES
+      UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${MORVANTILE_BATCH_SIZE})
+  endif()
   if(MORVANTILE_QUICK_BUILD AND ARG_PRECOMPILED)
     target_precompile_headers(${name} REUSE_FROM morvantile_${ARG_PRECOMPILED}_headers)
   endif()
@@ -127,79 +135,4 @@ function(morvantile_add_executable name)
     target_include_directories(${name} PRIVATE "${folder}")
   endif()
   target_link_libraries(${name} PRIVATE morvantile_settings ${ARG_LIBS})
-endfunction()
-
-# Tests of a sanitizer's build say so in their names, since ./test.sh runs all builds as one suite.
-if(MORVANTILE_SANITIZE MATCHES "thread")
-  set(MORVANTILE_TEST_SUFFIX ".tsan")
-elseif(MORVANTILE_SANITIZE)
-  set(MORVANTILE_TEST_SUFFIX ".asan")
-endif()
-
-# morvantile_run_moc(TARGET file…)
-# Has moc run on the test's own file, which includes the outcome, and on the headers that need it.
-# CMake's search for what needs moc takes longer than compiling a short test.
-function(morvantile_run_moc target test)
-  set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
-  get_filename_component(name "${test}" NAME_WE)
-  set(folder "${CMAKE_CURRENT_BINARY_DIR}/${target}_moc")
-  file(MAKE_DIRECTORY "${folder}")
-  qt_generate_moc(${test} "${folder}/${name}.moc" TARGET ${target})
-  target_sources(${target} PRIVATE "${folder}/${name}.moc")
-  target_include_directories(${target} PRIVATE "${folder}")
-  foreach(header IN LISTS ARGN)
-    file(STRINGS "${header}" declarations REGEX "^ *Q_(OBJECT|GADGET)$")
-    if(NOT declarations)
-      continue()
-    endif()
-    get_filename_component(name "${header}" NAME_WE)
-    qt_generate_moc("${header}" "${folder}/moc_${name}.cpp" TARGET ${target})
-    target_sources(${target} PRIVATE "${folder}/moc_${name}.cpp")
-  endforeach()
-endfunction()
-
-# morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [EXHAUSTIVE] [OPTIMISED]
-#                     [CORE_ONLY] [LABELS label…] [TIMEOUT s])
-# One Qt Test program for one class: FOLDER/NAME.cpp. MEDIA makes the sample videos first.
-# EXHAUSTIVE is a test that asks for the frames of all samples one by one. Sanitizers do without it:
-# for the time it takes they would see nothing that the tests beside it do not show them.
-# OPTIMISED is one that has to run in a release build as well: the optimiser may change its outcome,
-# it measures time or limits memory, or it does less under sanitizers. Without MORVANTILE_ALL_TESTS a
-# release build has these and the exhaustive ones alone.
-# CORE_ONLY is one that is built without Qt::Gui, and so without the precompiled headers.
-# It runs on the offscreen platform, in no country's language, with a home of its own.
-# The label `threads` marks a test of what runs in several threads: thread sanitizer runs these
-# alone, for Qt's own libraries are not built for it and the other tests would tell it nothing.
-function(morvantile_add_test path)
-  cmake_parse_arguments(ARG "MEDIA;EXHAUSTIVE;OPTIMISED;CORE_ONLY" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
-  if(MORVANTILE_SANITIZE AND ARG_EXHAUSTIVE)
-    return()
-  endif()
-  if(NOT MORVANTILE_SANITIZE AND NOT MORVANTILE_ALL_TESTS AND NOT (ARG_EXHAUSTIVE OR ARG_OPTIMISED))
-    return()
-  endif()
-  if(MORVANTILE_SANITIZE MATCHES "thread" AND NOT "threads" IN_LIST ARG_LABELS)
-    return()
-  endif()
-  get_filename_component(name "${path}" NAME)
-  morvantile_add_executable(${name} SOURCES ${path}.cpp ${ARG_SOURCES} LIBS ${ARG_LIBS} Qt::Test)
-  morvantile_run_moc(${name} ${path}.cpp ${ARG_SOURCES})
-  # Qt 6 tells each test where it was built, and what was precompiled elsewhere does not fit.
-  if(MORVANTILE_QUICK_BUILD AND NOT ARG_CORE_ONLY AND MORVANTILE_QT EQUAL 5)
-    target_precompile_headers(${name} REUSE_FROM morvantile_test_support)
-  endif()
-  set(test "${name}${MORVANTILE_TEST_SUFFIX}")
-  set(home "${CMAKE_BINARY_DIR}/home/${name}")
-  file(MAKE_DIRECTORY "${home}")
-  add_test(NAME ${test} COMMAND ${name})
-  set_tests_properties(${test} PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;MORVANTILE_MEDIA=${MORVANTILE_MEDIA_DIR};${MORVANTILE_SANITIZER_ENVIRONMENT}"
-    LABELS "${ARG_LABELS}")
-  if(ARG_MEDIA)
-    set_property(TEST ${test} PROPERTY FIXTURES_REQUIRED media)
-  endif()
-  if(ARG_TIMEOUT)
-    # The longest begin first, so that none of them is left alone at the end.
-    set_tests_properties(${test} PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_TIMEOUT})
-  endif()
 endfunction()

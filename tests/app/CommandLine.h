@@ -11,6 +11,9 @@
 /// Runs the command line's program as users do, and looks at what it leaves.
 namespace commandline {
 
+/// 520 frames in groups of 250.
+inline const QString longSample = QStringLiteral("h264_gop250.mp4");
+
 /// The program's path.
 [[nodiscard]] QString program();
 

@@ -15,6 +15,7 @@
 
 using commandline::copySample;
 using commandline::imagesIn;
+using commandline::longSample;
 using commandline::numbersIn;
 using testsupport::ProgramResult;
 using testsupport::Sample;
@@ -25,8 +26,6 @@ using testsupport::TestDir;
 #define QT "Qt" QT_STRINGIFY(QT_VERSION_MAJOR)
 
 namespace {
-
-const QString longSample = QStringLiteral("h264_gop250.mp4");
 
 std::unique_ptr<QProcess> start(const QStringList& arguments)
 {

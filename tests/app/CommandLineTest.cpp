@@ -9,14 +9,13 @@
 
 using commandline::copySample;
 using commandline::imagesIn;
+using commandline::longSample;
 using commandline::numbersIn;
 using testsupport::ProgramResult;
 using testsupport::TestDir;
 
 namespace {
 
-/// 20.8 seconds, 25 frames a second, a key frame every ten seconds.
-const QString longSample = QStringLiteral("h264_gop250.mp4");
 /// 4 seconds, 25 frames a second, a key frame every second.
 const QString shortSample = QStringLiteral("h264_bframes.mp4");
 

@@ -41,10 +41,10 @@ QString imagesIn(const TestDir& dir)
 }
 
 /// A job into a folder of the case, run as often as wanted.
-class Job
+class RetryJob
 {
 public:
-    Job(const TestDir& dir, bool isExact)
+    RetryJob(const TestDir& dir, bool isExact)
         : m_folder(imagesIn(dir))
     {
         m_config.setSource(samplePath(clip));
@@ -109,7 +109,7 @@ void addKinds()
 QList<int> framesOfAll(bool isExact)
 {
     const TestDir dir;
-    Job job(dir, isExact);
+    RetryJob job(dir, isExact);
     job.worker().run();
     return job.frames();
 }
@@ -127,7 +127,7 @@ void BatchRetryTest::whatCouldNotBeSaved_isMissed_andMadeAlone()
     const QList<int> all = framesOfAll(isExact);
     QCOMPARE(all.size(), imageCount);
     const TestDir dir;
-    Job job(dir, isExact);
+    RetryJob job(dir, isExact);
     job.failAfterTheFirst();
     job.worker().run();
     const auto missed = job.worker().missedPositions();
@@ -151,7 +151,7 @@ void BatchRetryTest::whatWasNotReached_isMissed_whenTheJobIsInterrupted()
     QFETCH(bool, isExact);
     const QList<int> all = framesOfAll(isExact);
     const TestDir dir;
-    Job job(dir, isExact);
+    RetryJob job(dir, isExact);
     connect(&job.worker(), &BatchWorker::imageReady, &job.worker(),
             [&job] { job.worker().requestInterruption(); });
     job.worker().run();
@@ -169,7 +169,7 @@ void BatchRetryTest::whatWasNotReached_isMissed_whenTheJobIsInterrupted()
 void BatchRetryTest::nothingIsMissed_whenAllIsWell()
 {
     const TestDir dir;
-    Job job(dir, true);
+    RetryJob job(dir, true);
     int done = 0;
     connect(&job.worker(), &BatchWorker::jobDone, &job.worker(), [&done] { ++done; });
     job.worker().run();
@@ -182,7 +182,7 @@ void BatchRetryTest::positions_areUnknown_whenTheVideoCannotBeOpened()
 {
     for (const bool isExact : {true, false}) {
         const TestDir dir;
-        Job job(dir, isExact);
+        RetryJob job(dir, isExact);
         job.config().setSource(samplePath(QStringLiteral("random_bytes.mp4")));
         job.worker().run();
         QVERIFY(!job.worker().missedPositions());

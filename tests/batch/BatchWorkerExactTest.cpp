@@ -20,16 +20,16 @@ using testsupport::TestDir;
 namespace {
 
 /// 520 frames, 25 a second, a key frame every ten seconds.
-const QString base = QStringLiteral("h264_gop250");
+const QString exactBase = QStringLiteral("h264_gop250");
 
 constexpr int limitMs = 30000;
 
-struct Job
+struct ExactJob
 {
-    explicit Job(const QString& folder)
+    explicit ExactJob(const QString& folder)
         : events(worker)
     {
-        config.setSource(samplePath(base + QStringLiteral(".mp4")));
+        config.setSource(samplePath(exactBase + QStringLiteral(".mp4")));
         config.setFileOutputPath(folder);
         config.setExactFrames(true);
         config.setSkipFront(0);
@@ -86,17 +86,17 @@ private Q_SLOTS:
 void BatchWorkerExactTest::images_areTheFramesAtTheirPositions_everySoOften()
 {
     const TestDir dir;
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setIntervalMilliseconds(4300);
     job.worker.run();
     QCOMPARE(framesIn(dir.path()), QList<int>({0, 108, 215, 323, 430}));
-    QCOMPARE(namesIn(dir.path()).first(), base + QStringLiteral("-00001.jpeg"));
+    QCOMPARE(namesIn(dir.path()).first(), exactBase + QStringLiteral("-00001.jpeg"));
 }
 
 void BatchWorkerExactTest::images_areTheMiddlesOfEqualParts_whenSpread()
 {
     const TestDir dir;
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setIntervalType(BatchWorkerConfig::SpreadImages);
     job.config.setIntervalImages(4);
     job.worker.run();
@@ -117,20 +117,20 @@ void BatchWorkerExactTest::singleShots_areAtTheirPlaces()
     QFETCH(int, place);
     QFETCH(int, frame);
     const TestDir dir;
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setIntervalType(BatchWorkerConfig::SingleShot);
     job.config.setIntervalSingleShot(place);
     job.config.setSkipFront(2000);
     job.config.setSkipBack(1000);
     job.worker.run();
     QCOMPARE(framesIn(dir.path()), QList<int>({frame}));
-    QCOMPARE(namesIn(dir.path()), QStringList{base + QStringLiteral("-.jpeg")});
+    QCOMPARE(namesIn(dir.path()), QStringList{exactBase + QStringLiteral("-.jpeg")});
 }
 
 void BatchWorkerExactTest::skips_areKept()
 {
     const TestDir dir;
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setIntervalMilliseconds(1000);
     job.config.setSkipFront(17010);
     job.config.setSkipBack(1790);
@@ -141,7 +141,7 @@ void BatchWorkerExactTest::skips_areKept()
 void BatchWorkerExactTest::densePositions_giveEachFrameOnce()
 {
     const TestDir dir;
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setIntervalMilliseconds(7);
     job.config.setSkipFront(9000);
     job.config.setSkipBack(10800);
@@ -151,18 +151,18 @@ void BatchWorkerExactTest::densePositions_giveEachFrameOnce()
         frames.append(frame);
     }
     QCOMPARE(framesIn(dir.path()), frames);
-    QCOMPARE(namesIn(dir.path()).last(), base + QStringLiteral("-00026.jpeg"));
+    QCOMPARE(namesIn(dir.path()).last(), exactBase + QStringLiteral("-00026.jpeg"));
 }
 
 void BatchWorkerExactTest::signals_comeInOrder_likeThoseOfOtherJobs()
 {
     const TestDir dir;
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setIntervalType(BatchWorkerConfig::SpreadImages);
     job.config.setIntervalImages(3);
     job.worker.run();
     QCoreApplication::processEvents();
-    const QString path = dir.filePath(base + QStringLiteral("-0000%1.jpeg"));
+    const QString path = dir.filePath(exactBase + QStringLiteral("-0000%1.jpeg"));
     const QString saving = QStringLiteral("Saving: ");
     QCOMPARE(job.events.of(QStringLiteral("status")),
              QStringList({saving + path.arg(1), saving + path.arg(2), saving + path.arg(3)}));
@@ -179,7 +179,7 @@ void BatchWorkerExactTest::images_areToldInTheWorkersThread()
 {
     const TestDir dir;
     BatchWorkerConfig config;
-    config.setSource(samplePath(base + QStringLiteral(".mp4")));
+    config.setSource(samplePath(exactBase + QStringLiteral(".mp4")));
     config.setFileOutputPath(dir.path());
     config.setExactFrames(true);
     config.setIntervalMilliseconds(1000);
@@ -204,12 +204,12 @@ void BatchWorkerExactTest::images_areToldInTheWorkersThread()
 void BatchWorkerExactTest::existingFiles_areKept()
 {
     const TestDir dir;
-    const QString taken = dir.filePath(base + QStringLiteral("-00002.jpeg"));
+    const QString taken = dir.filePath(exactBase + QStringLiteral("-00002.jpeg"));
     QFile file(taken);
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write("mine"), 4);
     file.close();
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setIntervalMilliseconds(8000);
     job.worker.run();
     QCOMPARE(framesIn(dir.path()), QList<int>({0, -1, 200, 400}));
@@ -219,7 +219,7 @@ void BatchWorkerExactTest::existingFiles_areKept()
 void BatchWorkerExactTest::failedSaves_areErrors()
 {
     const TestDir dir;
-    Job job(dir.filePath(QStringLiteral("gone")));
+    ExactJob job(dir.filePath(QStringLiteral("gone")));
     job.config.setIntervalMilliseconds(15000);
     job.worker.run();
     QCoreApplication::processEvents();
@@ -233,7 +233,7 @@ void BatchWorkerExactTest::failedSaves_areErrors()
 void BatchWorkerExactTest::missingVideo_isAnError()
 {
     const TestDir dir;
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setSource(dir.filePath(QStringLiteral("gone.mp4")));
     job.worker.run();
     QCoreApplication::processEvents();
@@ -244,7 +244,7 @@ void BatchWorkerExactTest::missingVideo_isAnError()
 void BatchWorkerExactTest::profiles_areThoseOfTheStart()
 {
     const TestDir dir;
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setIntervalMilliseconds(3000);
     connect(&job.worker, &BatchWorker::progressUpdate, this,
             [&job] { job.config.filenameProfile()->setFileOutputPrefix(QStringLiteral("other")); });
@@ -257,7 +257,7 @@ void BatchWorkerExactTest::interruption_endsTheJob()
 {
     const TestDir dir;
     BatchWorkerConfig config;
-    config.setSource(samplePath(base + QStringLiteral(".mp4")));
+    config.setSource(samplePath(exactBase + QStringLiteral(".mp4")));
     config.setFileOutputPath(dir.path());
     config.setExactFrames(true);
     config.setIntervalMilliseconds(1);
@@ -275,14 +275,14 @@ void BatchWorkerExactTest::interruption_endsTheJob()
     QVERIFY(names.size() < 200);
     for (int i = 0; i < names.size(); ++i) {
         QCOMPARE(names.at(i),
-                 QStringLiteral("%1-%2.jpeg").arg(base).arg(i + 1, 5, 10, QLatin1Char('0')));
+                 QStringLiteral("%1-%2.jpeg").arg(exactBase).arg(i + 1, 5, 10, QLatin1Char('0')));
     }
 }
 
 void BatchWorkerExactTest::unknownInterval_takesNothing()
 {
     const TestDir dir;
-    Job job(dir.path());
+    ExactJob job(dir.path());
     job.config.setIntervalType(17);
     job.worker.run();
     QVERIFY(namesIn(dir.path()).isEmpty());
@@ -302,7 +302,7 @@ void BatchWorkerExactTest::whatIsNotShown_isSaidOnce_inBothWays()
                 .succeeded());
     for (const bool isExact : {true, false}) {
         const TestDir dir;
-        Job job(dir.path());
+        ExactJob job(dir.path());
         job.config.setSource(video);
         job.config.setFileOutputPath(dir.path());
         job.config.setExactFrames(isExact);

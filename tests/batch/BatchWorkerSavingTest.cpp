@@ -20,18 +20,18 @@ using testsupport::TestDir;
 
 namespace {
 
-const QString base = QStringLiteral("h264_gop250");
+const QString savingBase = QStringLiteral("h264_gop250");
 
 /// Enough for decoding, and not for an image of 25000 by 25000 pixels.
 constexpr rlim_t roomBytes = 512 * 1024 * 1024;
 
-struct Job
+struct SavingJob
 {
-    explicit Job(const QString& folder)
+    explicit SavingJob(const QString& folder)
         : worker(nullptr)
         , events(worker)
     {
-        config.setSource(samplePath(base + QStringLiteral(".mp4")));
+        config.setSource(samplePath(savingBase + QStringLiteral(".mp4")));
         config.setFileOutputPath(folder);
         worker.setConfig(&config);
     }
@@ -64,7 +64,7 @@ QStringList filesIn(const QString& folder)
 
 QString numbered(const char* suffix)
 {
-    return base + QString::fromLatin1(suffix);
+    return savingBase + QString::fromLatin1(suffix);
 }
 
 int numberIn(const QString& path)
@@ -117,7 +117,7 @@ void BatchWorkerSavingTest::initTestCase()
 void BatchWorkerSavingTest::images_showTheFramesAtTheirPositions()
 {
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.worker.run();
     const QStringList expected{numbered("-00001.jpeg"), numbered("-00002.jpeg"),
                                numbered("-00003.jpeg"), numbered("-00004.jpeg")};
@@ -132,7 +132,7 @@ void BatchWorkerSavingTest::images_showTheFramesAtTheirPositions()
 void BatchWorkerSavingTest::images_areNamedByTheProfile()
 {
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.config.setIntervalType(BatchWorkerConfig::SpreadImages);
     job.config.setIntervalImages(2);
     job.config.filenameProfile()->setFileOutputPrefix(QStringLiteral("a "));
@@ -147,7 +147,7 @@ void BatchWorkerSavingTest::images_areNamedByTheProfile()
 void BatchWorkerSavingTest::darkImages_stayOpaque_whenTheVideoHasNoAlpha()
 {
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.config.setIntervalType(BatchWorkerConfig::SingleShot);
     job.config.imageProfile()->setImageBrightness(-50);
     job.config.filenameProfile()->setFileOutputType(QStringLiteral("png"));
@@ -163,7 +163,7 @@ void BatchWorkerSavingTest::darkImages_stayOpaque_whenTheVideoHasNoAlpha()
 void BatchWorkerSavingTest::images_keepAlpha_whenTheVideoHasIt()
 {
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.config.setSource(samplePath(QStringLiteral("prores_alpha.mov")));
     job.config.setFileOutputPath(dir.path());
     job.config.setIntervalType(BatchWorkerConfig::SingleShot);
@@ -183,7 +183,7 @@ void BatchWorkerSavingTest::existingFiles_areSkipped_andKept()
     for (const QString& path : taken) {
         writeFile(path, "mine");
     }
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.config.setIntervalMilliseconds(10000);
     job.worker.run();
     const QStringList expected{QStringLiteral("Saving: ") + dir.filePath(numbered("-00003.jpeg")),
@@ -199,7 +199,7 @@ void BatchWorkerSavingTest::existingFiles_areSkipped_andKept()
 void BatchWorkerSavingTest::singleShot_hasNoNumber()
 {
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.config.setIntervalType(BatchWorkerConfig::SingleShot);
     job.worker.run();
     QCOMPARE(filesIn(dir.path()), QStringList{numbered("-.jpeg")});
@@ -212,7 +212,7 @@ void BatchWorkerSavingTest::singleShot_isNumbered_whenItsNameIsTaken()
     const TestDir dir;
     writeFile(dir.filePath(numbered("-.jpeg")), "mine");
     writeFile(dir.filePath(numbered("-00001.jpeg")), "mine");
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.config.setIntervalType(BatchWorkerConfig::SingleShot);
     job.worker.run();
     QCOMPARE(numberIn(dir.filePath(numbered("-00002.jpeg"))), 210);
@@ -223,7 +223,7 @@ void BatchWorkerSavingTest::singleShot_isNumbered_whenItsNameIsTaken()
 void BatchWorkerSavingTest::names_takenAtTheSameMoment_areSkipped_andKept()
 {
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.config.setIntervalMilliseconds(20000);
     int taken = 0;
     connect(&job.worker, &BatchWorker::statusUpdate, &job.worker,
@@ -246,7 +246,7 @@ void BatchWorkerSavingTest::names_takenAtTheSameMoment_areSkipped_andKept()
 void BatchWorkerSavingTest::singleShotName_takenAtTheSameMoment_isSkipped()
 {
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.config.setIntervalType(BatchWorkerConfig::SingleShot);
     bool isTaken = false;
     connect(&job.worker, &BatchWorker::statusUpdate, &job.worker,
@@ -282,7 +282,7 @@ void BatchWorkerSavingTest::failedSave_isAnError_andTheJobGoesOn()
     const TestDir dir;
     const TestDir files;
     writeFile(files.filePath(QStringLiteral("file")), "mine");
-    Job job(folder == QLatin1String(".") ? dir.path() : files.filePath(folder));
+    SavingJob job(folder == QLatin1String(".") ? dir.path() : files.filePath(folder));
     job.config.setIntervalMilliseconds(10000);
     job.config.filenameProfile()->setFileOutputType(type);
     job.worker.run();
@@ -303,7 +303,7 @@ void BatchWorkerSavingTest::imageBeyondTheMemory_isAnError_andTheJobGoesOn()
         QSKIP("Memory cannot be limited here.");
     }
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.config.setIntervalMilliseconds(10000);
     ImageProfile& profile = *job.config.imageProfile();
     profile.setImageWidth(25000);
@@ -333,7 +333,7 @@ void BatchWorkerSavingTest::frameBeyondTheMemory_isAnError_andNoFile()
         QSKIP("Memory cannot be limited here.");
     }
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     QtAV::VideoFrame frame;
     FrameGrabber grabber;
     connect(&grabber, &FrameGrabber::frameExtracted, this,
@@ -356,7 +356,7 @@ void BatchWorkerSavingTest::frameBeyondTheMemory_isAnError_andNoFile()
 void BatchWorkerSavingTest::missingPicture_isAnError_andNoFile()
 {
     const TestDir dir;
-    Job job(dir.path());
+    SavingJob job(dir.path());
     job.grabber()->setPosition(2000);
     Q_EMIT job.grabber()->frameExtracted(QtAV::VideoFrame());
     QCOMPARE(job.events.all,

@@ -31,7 +31,7 @@ ImageRecipe deepRecipe()
     return recipe;
 }
 
-QRgba64 pixelAt(const QImage& image, int x, int y)
+QRgba64 deepPixelAt(const QImage& image, int x, int y)
 {
     return reinterpret_cast<const QRgba64*>(image.constScanLine(y))[x];
 }
@@ -72,8 +72,8 @@ private Q_SLOTS:
         const QImage made = imaging::render(image, recipe).image;
         QCOMPARE(made.format(), QImage::Format_RGBX64);
         for (int x = 0; x < image.width(); ++x) {
-            const QRgba64 before = pixelAt(image, x, 5);
-            const QRgba64 after = pixelAt(made, x, 5);
+            const QRgba64 before = deepPixelAt(image, x, 5);
+            const QRgba64 after = deepPixelAt(made, x, 5);
             // Half a step is rounded to the even code.
             QVERIFY(std::abs(after.red() - (before.red() * 0.5 + 2570.0)) <= 0.5);
             QVERIFY(std::abs(after.green() - (before.green() * 0.5 + 2570.0)) <= 0.5);
@@ -101,7 +101,7 @@ private Q_SLOTS:
         recipe.resampling = {static_cast<ResizeFilter>(filter), ResizeLight::Linear};
         const QImage made = imaging::render(image, recipe).image;
         QCOMPARE(made.size(), QSize(20, 20));
-        const QRgba64 pixel = pixelAt(made, 9, 9);
+        const QRgba64 pixel = deepPixelAt(made, 9, 9);
         QCOMPARE(pixel.red(), quint16(12345));
         QCOMPARE(pixel.green(), quint16(321));
         QCOMPARE(pixel.blue(), quint16(54321));
@@ -123,7 +123,7 @@ private Q_SLOTS:
         const QImage made = imaging::render(image, recipe).image;
         QCOMPARE(made.format(), format);
         QCOMPARE(made.pixelColor(3, 3), QColor(Qt::red));
-        QCOMPARE(pixelAt(made, 30, 30), pixelAt(image, 30, 30));
+        QCOMPARE(deepPixelAt(made, 30, 30), deepPixelAt(image, 30, 30));
     }
 
     void files_keepEveryBit_data()
@@ -149,7 +149,7 @@ private Q_SLOTS:
         const QImage expected = image.convertToFormat(QImage::Format_RGBA64);
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
-                QCOMPARE(pixelAt(back, x, y), pixelAt(expected, x, y));
+                QCOMPARE(deepPixelAt(back, x, y), deepPixelAt(expected, x, y));
             }
         }
     }

@@ -48,7 +48,7 @@ QImage flatImage(const StoredColours& colours, QImage::Format format = QImage::F
     return image;
 }
 
-QRgba64 pixelAt(const QImage& image, int x, int y)
+QRgba64 storedPixelAt(const QImage& image, int x, int y)
 {
     return reinterpret_cast<const QRgba64*>(image.constScanLine(y))[x];
 }
@@ -183,7 +183,8 @@ void HdrColoursTest::pngAndTiff_keepValuesAndProfile()
     QCOMPARE(read.size(), image.size());
     QVERIFY(*HdrColours::of(read) == pq);
     const QImage deep = read.convertToFormat(QImage::Format_RGBA64);
-    QCOMPARE(static_cast<quint64>(pixelAt(deep, 5, 5)), static_cast<quint64>(pixelAt(image, 5, 5)));
+    QCOMPARE(static_cast<quint64>(storedPixelAt(deep, 5, 5)),
+             static_cast<quint64>(storedPixelAt(image, 5, 5)));
 }
 
 void HdrColoursTest::png_saysItsCodePoints_beforeItsPicture()
@@ -211,7 +212,7 @@ void HdrColoursTest::size_changes_andColoursStay()
     QCOMPARE(made.size(), QSize(32, 24));
     QCOMPARE(made.format(), QImage::Format_RGBX64);
     QVERIFY(*HdrColours::of(made) == pq);
-    QVERIFY(std::abs(int(pixelAt(made, 9, 9).red()) - 27001) <= 1);
+    QVERIFY(std::abs(int(storedPixelAt(made, 9, 9).red()) - 27001) <= 1);
 }
 
 void HdrColoursTest::watermark_isAsBrightAsInStandardRange()
@@ -220,11 +221,11 @@ void HdrColoursTest::watermark_isAsBrightAsInStandardRange()
     recipe.watermark = whiteSquare(255);
     const QImage opaque = imaging::render(flatImage(pq), recipe).image;
     const int white = static_cast<int>(std::lround(pq.valuesOf({1, 1, 1})[0] * 65535));
-    QVERIFY(std::abs(int(pixelAt(opaque, 3, 3).red()) - white) <= 1);
-    QCOMPARE(int(pixelAt(opaque, 20, 20).red()), 27001);
+    QVERIFY(std::abs(int(storedPixelAt(opaque, 3, 3).red()) - white) <= 1);
+    QCOMPARE(int(storedPixelAt(opaque, 20, 20).red()), 27001);
     recipe.watermark = whiteSquare(128);
     const QImage half = imaging::render(flatImage(pq), recipe).image;
-    QVERIFY(std::abs(int(pixelAt(half, 3, 3).red()) - (white + 27001) / 2) < 200);
+    QVERIFY(std::abs(int(storedPixelAt(half, 3, 3).red()) - (white + 27001) / 2) < 200);
     QVERIFY(*HdrColours::of(half) == pq);
 }
 

@@ -43,7 +43,7 @@ QImage noise(QSize size)
     return image;
 }
 
-QByteArray read(const QString& path)
+QByteArray contentOf(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -128,7 +128,7 @@ private slots:
         QVERIFY(writer.write(tagged));
         QCOMPARE(ImageFileWriter::write(ours, picture(), quality, ExistingFile::Keep),
                  WriteResult::Written);
-        QVERIFY(read(ours) == read(qts));
+        QVERIFY(contentOf(ours) == contentOf(qts));
     }
 
     void write_halvesTheChromaOfJpegs_belowQuality90()
@@ -253,7 +253,7 @@ private slots:
         const QImage image = noise(QSize(2000, 1500));
         // The plugin of the format takes its own memory now.
         QCOMPARE(write(image), WriteResult::Written);
-        const QByteArray whole = read(path);
+        const QByteArray whole = contentOf(path);
         int failures = 0;
         for (rlim_t mebibytes = 1; mebibytes < 128; mebibytes += mebibytes / 4 + 1) {
             QFile::remove(path);
@@ -264,7 +264,7 @@ private slots:
             }
             failures += result == WriteResult::Failed ? 1 : 0;
             QCOMPARE(files().size(), result == WriteResult::Failed ? 0 : 1);
-            QVERIFY(result == WriteResult::Failed || read(path) == whole);
+            QVERIFY(result == WriteResult::Failed || contentOf(path) == whole);
         }
         QVERIFY(failures > 0);
         QCOMPARE(files(), QStringList{name});

@@ -6,7 +6,7 @@
 
 namespace {
 
-QImage filledImage(QRgb color)
+QImage imageFilledWith(QRgb color)
 {
     QImage image(QSize(5, 3), QImage::Format_ARGB32);
     image.fill(color);
@@ -133,7 +133,8 @@ private slots:
         QFETCH(int, order);
         QFETCH(QImage::Format, hint);
         const auto matOrder = static_cast<QtOcv::MatColorOrder>(order);
-        const cv::Mat mat = QtOcv::imageToMat(filledImage(qRgba(200, 100, 50, 25)), type, matOrder);
+        const cv::Mat mat =
+            QtOcv::imageToMat(imageFilledWith(qRgba(200, 100, 50, 25)), type, matOrder);
         const QImage image = QtOcv::matToImage(mat, matOrder, hint);
         QTEST(image.format(), "format");
         QCOMPARE(image.size(), QSize(5, 3));

@@ -11,21 +11,22 @@
 
 #include <memory>
 
+/// The names of all profiles, in the manager's order.
+inline QStringList namesOf(const ProfileManager& manager)
+{
+    QStringList names;
+    const QList<BaseProfile*> profiles = manager.profiles();
+    for (const BaseProfile* const profile : profiles) {
+        names.append(profile->name());
+    }
+    return names;
+}
+
 /// What the tests of managers share: a home with a settings file, and managers of that file.
 class ManagerCases
 {
 protected:
     const QString fileName = QStringLiteral("Test.ini");
-
-    static QStringList namesOf(const ProfileManager& manager)
-    {
-        QStringList names;
-        const QList<BaseProfile*> profiles = manager.profiles();
-        for (const BaseProfile* profile : profiles) {
-            names.append(profile->name());
-        }
-        return names;
-    }
 
     /// Makes a home for the next case; false where that fails.
     [[nodiscard]] bool begin()

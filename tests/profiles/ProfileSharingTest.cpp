@@ -3,6 +3,7 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
+#include "tests/profiles/ManagerCases.h"
 #include "tests/profiles/ProfileTestSupport.h"
 
 #include <QSettings>
@@ -12,7 +13,7 @@
 
 namespace {
 
-const QString fileName = QStringLiteral("Test.ini");
+const QString sharedFileName = QStringLiteral("Test.ini");
 
 ImageProfile& named(const ProfileManager& manager, const QString& name)
 {
@@ -23,16 +24,6 @@ ImageProfile& named(const ProfileManager& manager, const QString& name)
         }
     }
     qFatal("There is no profile %s", qUtf8Printable(name));
-}
-
-QStringList namesOf(const ProfileManager& manager)
-{
-    QStringList names;
-    const QList<BaseProfile*> profiles = manager.profiles();
-    for (const BaseProfile* const profile : profiles) {
-        names += profile->name();
-    }
-    return names;
 }
 
 } // namespace
@@ -47,7 +38,8 @@ private:
 
     [[nodiscard]] std::unique_ptr<ProfileManager> open()
     {
-        return std::make_unique<ProfileManager>(fileName, m_keeper->factory<ImageProfile>(), false);
+        return std::make_unique<ProfileManager>(sharedFileName, m_keeper->factory<ImageProfile>(),
+                                                false);
     }
 
     /// A file with the profiles "a", "b" and "c".
@@ -143,7 +135,7 @@ private Q_SLOTS:
     void groupWithoutAnId_staysOneProfile()
     {
         {
-            QSettings settings(m_home->settingsFile(fileName), QSettings::IniFormat);
+            QSettings settings(m_home->settingsFile(sharedFileName), QSettings::IniFormat);
             settings.setValue(QStringLiteral("profiles/MINE/name"), QStringLiteral("mine"));
         }
         for (int start = 0; start < 3; ++start) {
@@ -173,7 +165,7 @@ private Q_SLOTS:
     {
         const QString id = named(*open(), QStringLiteral("a")).id();
         {
-            QSettings settings(m_home->settingsFile(fileName), QSettings::IniFormat);
+            QSettings settings(m_home->settingsFile(sharedFileName), QSettings::IniFormat);
             settings.setValue(QStringLiteral("profiles/COPY/name"), QStringLiteral("copy"));
             settings.setValue(QStringLiteral("profiles/COPY/id"), id.toLower());
         }

@@ -2,6 +2,7 @@
 
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "tests/profiles/ManagerCases.h"
 #include "tests/profiles/ProfileTestSupport.h"
 
 #include <QSettings>
@@ -20,16 +21,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-QStringList namesOf(const ProfileManager& manager)
-{
-    QStringList names;
-    const QList<BaseProfile*> profiles = manager.profiles();
-    for (const BaseProfile* const profile : profiles) {
-        names += profile->name();
-    }
-    return names;
-}
 
 const ImageProfile& at(const ProfileManager& manager, int index)
 {

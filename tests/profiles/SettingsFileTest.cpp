@@ -19,7 +19,7 @@ extern "C" const char* __asan_default_options()
 
 namespace {
 
-const QString fileName = QStringLiteral("Test.ini");
+const QString settingsFileName = QStringLiteral("Test.ini");
 
 QByteArray contentOf(const QString& path)
 {
@@ -36,7 +36,7 @@ class SettingsFileTest : public QObject
 private:
     std::unique_ptr<TestHome> m_home;
 
-    [[nodiscard]] QString path() const { return m_home->settingsFile(fileName); }
+    [[nodiscard]] QString path() const { return m_home->settingsFile(settingsFileName); }
 
 private Q_SLOTS:
     void init() { m_home = std::make_unique<TestHome>(); }
@@ -65,7 +65,7 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, content);
         QFETCH(const bool, isDamaged);
-        QVERIFY(m_home->writeSettingsFile(fileName, content));
+        QVERIFY(m_home->writeSettingsFile(settingsFileName, content));
         QCOMPARE(SettingsFile::isDamaged(path()), isDamaged);
     }
 
@@ -95,7 +95,7 @@ private Q_SLOTS:
     {
         const QByteArray damage(100, '\0');
         for (const char* const aside : {".bad", ".bad2"}) {
-            QVERIFY(m_home->writeSettingsFile(fileName, damage));
+            QVERIFY(m_home->writeSettingsFile(settingsFileName, damage));
             const QStringList texts = SettingsFile::putDamagedAside();
             QCOMPARE(texts.size(), 1);
             QVERIFY(texts.first().contains(path() + QString::fromLatin1(aside)));
@@ -109,7 +109,7 @@ private Q_SLOTS:
     {
         // Qt would throw while it reads the value.
         const QByteArray text = "[profiles]\nA\\id=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n";
-        QVERIFY(m_home->writeSettingsFile(fileName, text));
+        QVERIFY(m_home->writeSettingsFile(settingsFileName, text));
         QCOMPARE(SettingsFile::putDamagedAside().size(), 1);
         QSettings settings(path(), QSettings::IniFormat);
         QCOMPARE(settings.allKeys(), QStringList());

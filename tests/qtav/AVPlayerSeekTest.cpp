@@ -23,7 +23,7 @@ constexpr int mostFiles = 100;
 constexpr int moveCount = 1000;
 #endif
 
-void addFiles(const QStringList& files)
+void addRows(const QStringList& files)
 {
     QTest::addColumn<QString>("file");
     for (const QString& file : files.mid(0, mostFiles)) {
@@ -68,9 +68,9 @@ private slots:
 
 void AVPlayerSeekTest::steps_meetEveryFrameOnce_toTheEndAndBack_data()
 {
-    addFiles(namesOf({"h264_gop250.mp4", "mpeg2.ts", "h264_bframes.mp4", "variable_rate.mp4",
-                      "variable_rate.mkv", "h264_open_gop_bframes.mp4", "hevc_open_gop.mp4",
-                      "h264.ts", "mpeg4_packed_bframes.avi"}));
+    addRows(namesOf({"h264_gop250.mp4", "mpeg2.ts", "h264_bframes.mp4", "variable_rate.mp4",
+                     "variable_rate.mkv", "h264_open_gop_bframes.mp4", "hevc_open_gop.mp4",
+                     "h264.ts", "mpeg4_packed_bframes.avi"}));
 }
 
 void AVPlayerSeekTest::steps_meetEveryFrameOnce_toTheEndAndBack()
@@ -132,8 +132,8 @@ void AVPlayerSeekTest::step_pauses_whilePlaying_andGoesFromTheFrameOnScreen()
 
 void AVPlayerSeekTest::mixedStepsAndSeeks_endOnTheRightFrame_data()
 {
-    addFiles(namesOf({"mpeg2.ts", "h264.ts", "h264_bframes.mp4", "variable_rate.mp4",
-                      "h264_open_gop_bframes.mp4", "hevc_open_gop.mp4"}));
+    addRows(namesOf({"mpeg2.ts", "h264.ts", "h264_bframes.mp4", "variable_rate.mp4",
+                     "h264_open_gop_bframes.mp4", "hevc_open_gop.mp4"}));
 }
 
 /// Many moves: to the next frame, to the one before, to any, and to any with a few steps that

@@ -13,11 +13,6 @@ using QtAV::FrameResult;
 
 namespace {
 
-bool never()
-{
-    return false;
-}
-
 /// A reader with a fill, the frames that come out, and a clock that goes on by 10 ms with each
 /// frame.
 struct Filled

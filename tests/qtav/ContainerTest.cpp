@@ -1,5 +1,6 @@
 #include "qtav/src/Container.h"
 
+#include "tests/qtav/Decoding.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
 
@@ -11,6 +12,7 @@
 #include <chrono>
 #include <thread>
 
+using decoding::never;
 using QtAV::Container;
 using QtAV::PacketAnswer;
 using QtAV::PacketPtr;
@@ -18,11 +20,6 @@ using testsupport::samplePath;
 using testsupport::TestDir;
 
 namespace {
-
-bool never()
-{
-    return false;
-}
 
 std::unique_ptr<Container> opened(const QString& path)
 {

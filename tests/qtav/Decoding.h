@@ -13,6 +13,12 @@
 /// What several tests of the video library do with a demuxer and a decoder.
 namespace decoding {
 
+/// For what nobody cancels.
+inline bool never()
+{
+    return false;
+}
+
 /// A frame that came out: the number in its picture and its whole milliseconds.
 struct Shown
 {

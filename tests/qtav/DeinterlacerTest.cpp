@@ -1,6 +1,7 @@
 #include <QtAV/FrameReader.h>
 #include <QtAV/Times.h>
 
+#include "tests/qtav/Decoding.h"
 #include "tests/qtav/Grey.h"
 #include "tests/support/RunProgram.h"
 #include "tests/support/Samples.h"
@@ -11,6 +12,7 @@
 
 #include <cmath>
 
+using decoding::never;
 using QtAV::Deinterlacing;
 using testsupport::samplePath;
 using testsupport::TestDir;
@@ -22,11 +24,6 @@ constexpr double tolerance = 0.5; // dB
 /// Combing: so many times as much as there, and so many per cent of the samples, is none.
 constexpr double combingFactor = 1.5;
 constexpr double combingRest = 0.5;
-
-bool never()
-{
-    return false;
-}
 
 /// All frames of a sample, one after another.
 QList<QtAV::VideoFrame> framesOf(const QString& file)

@@ -1,4 +1,5 @@
 #include "tests/qtav/Decoding.h"
+#include "tests/support/Patience.h"
 
 #include <QtAV/VideoOutput.h>
 
@@ -7,10 +8,10 @@
 #include <QWidget>
 
 using QtAV::VideoOutput;
+using testsupport::patienceMs;
 
 namespace {
 
-constexpr int patienceMs = 30000;
 constexpr int pixelRatio = 2;
 
 /// The pixels that an output shows in a widget of that size, once it has made the picture for it.

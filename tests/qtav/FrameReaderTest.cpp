@@ -19,11 +19,6 @@ using testsupport::Trait;
 
 namespace {
 
-bool never()
-{
-    return false;
-}
-
 bool always()
 {
     return true;

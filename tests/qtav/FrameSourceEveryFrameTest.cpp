@@ -30,12 +30,7 @@ constexpr int fillsBetweenSteps = 3;
 
 const QString theEnd = QStringLiteral("the end");
 
-enum class Direction { Forwards, Backwards };
-
-bool never()
-{
-    return false;
-}
+enum class StepDirection { Forwards, Backwards };
 
 /// For messages and comparisons.
 QString text(const FrameResult& result)
@@ -84,9 +79,9 @@ public:
     }
 
     /// Steps through the video from one of its ends, and beyond the other one.
-    void expectAllFrames(Direction direction)
+    void expectAllFrames(StepDirection direction)
     {
-        const bool forwards = direction == Direction::Forwards;
+        const bool forwards = direction == StepDirection::Forwards;
         const int last = sample.frames - 1;
         FrameResult result = source.frameAt(forwards ? 0 : frameTimeMs(sample, last), never);
         for (int i = 0; i < sample.frames; ++i) {
@@ -160,7 +155,7 @@ void FrameSourceEveryFrameTest::steps_meetEveryFrame_forwards()
     QFETCH(const int, cores);
     Asking asking(testsupport::sampleNamed(file), cores);
     QVERIFY2(asking.isOpen, qPrintable(asking.error));
-    asking.expectAllFrames(Direction::Forwards);
+    asking.expectAllFrames(StepDirection::Forwards);
     QVERIFY2(asking.mistakes.isEmpty(), qPrintable(asking.mistakes.text()));
 }
 
@@ -170,7 +165,7 @@ void FrameSourceEveryFrameTest::steps_meetEveryFrame_backwards()
     QFETCH(const int, cores);
     Asking asking(testsupport::sampleNamed(file), cores);
     QVERIFY2(asking.isOpen, qPrintable(asking.error));
-    asking.expectAllFrames(Direction::Backwards);
+    asking.expectAllFrames(StepDirection::Backwards);
     QVERIFY2(asking.mistakes.isEmpty(), qPrintable(asking.mistakes.text()));
 }
 

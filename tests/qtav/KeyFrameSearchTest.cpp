@@ -13,6 +13,7 @@
 #include <sys/uio.h>
 #include <thread>
 
+using packetreading::addFiles;
 using packetreading::OpenVideo;
 using packetreading::Read;
 using QtAV::KeyFrameSearch;
@@ -22,14 +23,6 @@ using testsupport::Sample;
 using testsupport::sampleNamed;
 
 namespace {
-
-void addFiles(std::initializer_list<const char*> files)
-{
-    QTest::addColumn<QString>("file");
-    for (const char* file : files) {
-        QTest::newRow(file) << QString::fromLatin1(file);
-    }
-}
 
 qint64 durationMs(const Sample& sample)
 {

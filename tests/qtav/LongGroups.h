@@ -2,14 +2,9 @@
 
 #include "qtav/player/FrameSource.h"
 
-#include "tests/support/Samples.h"
+#include "tests/qtav/Decoding.h"
 
 #include <QString>
-
-inline bool never()
-{
-    return false;
-}
 
 /// A source in a video whose key frames are 250 frames apart, and the frame on screen.
 struct LongGroups
@@ -19,10 +14,10 @@ struct LongGroups
         QString error;
         source.setScreen({80, 60});
         if (!source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")), cacheBytes,
-                         never, error)) {
+                         decoding::never, error)) {
             qFatal("%s", qPrintable(error));
         }
-        show(source.frameAt(ms, never));
+        show(source.frameAt(ms, decoding::never));
     }
 
     void show(const QtAV::FrameResult& found)

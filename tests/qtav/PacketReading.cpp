@@ -11,6 +11,14 @@ namespace packetreading {
 
 using QtAV::PacketAnswer;
 
+void addFiles(std::initializer_list<const char*> files)
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : files) {
+        QTest::newRow(file) << QString::fromLatin1(file);
+    }
+}
+
 std::unique_ptr<QtAV::Container> open(const QString& file)
 {
     QString error;

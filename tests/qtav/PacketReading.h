@@ -6,11 +6,15 @@
 #include <QString>
 
 #include <deque>
+#include <initializer_list>
 #include <memory>
 #include <vector>
 
 /// What several tests of the library's packets do with a sample.
 namespace packetreading {
+
+/// Adds a row with a column "file" for each sample.
+void addFiles(std::initializer_list<const char*> files);
 
 /// Opens a sample; ends the test program when that fails.
 [[nodiscard]] std::unique_ptr<QtAV::Container> open(const QString& file);

@@ -8,17 +8,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using decoding::never;
 using QtAV::FrameAnswer;
 using QtAV::PictureLimit;
 using testsupport::samplePath;
 using testsupport::writeGrowingVideo;
 
 namespace {
-
-bool never()
-{
-    return false;
-}
 
 constexpr qint64 megabyte = 1 << 20;
 

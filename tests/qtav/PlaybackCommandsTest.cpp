@@ -3,7 +3,6 @@
 #include <QTest>
 
 using QtAV::PlaybackCommands;
-using Direction = PlaybackCommands::Direction;
 
 namespace {
 
@@ -12,7 +11,7 @@ int takeSteps(PlaybackCommands& commands)
 {
     int steps = 0;
     while (commands.nextStep()) {
-        steps += commands.takeStep().direction == Direction::Forward ? 1 : -1;
+        steps += commands.takeStep().direction == PlaybackCommands::Direction::Forward ? 1 : -1;
         if (!commands.endStep()) {
             qFatal("a step was cancelled");
         }
@@ -20,7 +19,7 @@ int takeSteps(PlaybackCommands& commands)
     return steps;
 }
 
-void step(PlaybackCommands& commands, Direction direction, int times)
+void step(PlaybackCommands& commands, PlaybackCommands::Direction direction, int times)
 {
     for (int i = 0; i < times; ++i) {
         commands.step(direction);
@@ -67,8 +66,9 @@ void PlaybackCommandsTest::serials_rise()
 {
     PlaybackCommands commands;
     quint64 last = 0;
-    for (const quint64 serial : {commands.open(QStringLiteral("a"), 1), commands.seek(5),
-                                 commands.step(Direction::Forward), commands.close()}) {
+    for (const quint64 serial :
+         {commands.open(QStringLiteral("a"), 1), commands.seek(5),
+          commands.step(PlaybackCommands::Direction::Forward), commands.close()}) {
         QVERIFY(serial > last);
         last = serial;
     }
@@ -78,7 +78,7 @@ void PlaybackCommandsTest::seek_replacesSeeksAndSteps()
 {
     PlaybackCommands commands;
     commands.seek(100);
-    commands.step(Direction::Forward);
+    commands.step(PlaybackCommands::Direction::Forward);
     const quint64 serial = commands.seek(200);
     QVERIFY(!commands.nextStep());
     const PlaybackCommands::Seek taken = commands.takeSeek();
@@ -92,7 +92,7 @@ void PlaybackCommandsTest::file_replacesAll()
     PlaybackCommands commands;
     commands.open(QStringLiteral("first"), 1);
     commands.seek(100);
-    commands.step(Direction::Forward);
+    commands.step(PlaybackCommands::Direction::Forward);
     const quint64 serial = commands.open(QStringLiteral("second"), 7);
     QVERIFY(!commands.hasSeek());
     QVERIFY(!commands.nextStep());
@@ -115,30 +115,30 @@ void PlaybackCommandsTest::close_waitsAsAFileWithoutAPath()
 void PlaybackCommandsTest::steps_cancelEachOther_inOppositeDirections()
 {
     PlaybackCommands commands;
-    step(commands, Direction::Backward, 5);
-    step(commands, Direction::Forward, 2);
+    step(commands, PlaybackCommands::Direction::Backward, 5);
+    step(commands, PlaybackCommands::Direction::Forward, 2);
     QCOMPARE(takeSteps(commands), -3);
-    step(commands, Direction::Forward, 4);
-    step(commands, Direction::Backward, 4);
+    step(commands, PlaybackCommands::Direction::Forward, 4);
+    step(commands, PlaybackCommands::Direction::Backward, 4);
     QCOMPARE(takeSteps(commands), 0);
 }
 
 void PlaybackCommandsTest::steps_areBounded()
 {
     PlaybackCommands commands;
-    step(commands, Direction::Backward, 1000);
+    step(commands, PlaybackCommands::Direction::Backward, 1000);
     QCOMPARE(takeSteps(commands), -PlaybackCommands::mostWaitingSteps);
-    step(commands, Direction::Forward, 1000);
+    step(commands, PlaybackCommands::Direction::Forward, 1000);
     QCOMPARE(takeSteps(commands), int(PlaybackCommands::mostWaitingSteps));
 }
 
 void PlaybackCommandsTest::stepTaken_isCancelled_byOneInTheOtherDirection()
 {
     PlaybackCommands commands;
-    commands.step(Direction::Backward);
+    commands.step(PlaybackCommands::Direction::Backward);
     commands.takeStep();
     QVERIFY(!commands.isStepOutdated());
-    commands.step(Direction::Forward);
+    commands.step(PlaybackCommands::Direction::Forward);
     QVERIFY(commands.isStepOutdated());
     QVERIFY(!commands.endStep());
     QVERIFY(!commands.nextStep());
@@ -147,9 +147,9 @@ void PlaybackCommandsTest::stepTaken_isCancelled_byOneInTheOtherDirection()
 void PlaybackCommandsTest::stepTaken_isNotCancelled_byMoreInItsOwn()
 {
     PlaybackCommands commands;
-    commands.step(Direction::Backward);
+    commands.step(PlaybackCommands::Direction::Backward);
     commands.takeStep();
-    commands.step(Direction::Backward);
+    commands.step(PlaybackCommands::Direction::Backward);
     QVERIFY(!commands.isStepOutdated());
     QVERIFY(commands.endStep());
     QCOMPARE(takeSteps(commands), -1);
@@ -158,9 +158,9 @@ void PlaybackCommandsTest::stepTaken_isNotCancelled_byMoreInItsOwn()
 void PlaybackCommandsTest::stepTaken_isCancelledOnce_soThatFurtherStepsWait()
 {
     PlaybackCommands commands;
-    commands.step(Direction::Backward);
+    commands.step(PlaybackCommands::Direction::Backward);
     commands.takeStep();
-    step(commands, Direction::Forward, 3);
+    step(commands, PlaybackCommands::Direction::Forward, 3);
     QVERIFY(!commands.endStep());
     QCOMPARE(takeSteps(commands), 2);
 }
@@ -168,14 +168,14 @@ void PlaybackCommandsTest::stepTaken_isCancelledOnce_soThatFurtherStepsWait()
 void PlaybackCommandsTest::stepTaken_isOutdated_bySeekAndFile()
 {
     PlaybackCommands commands;
-    commands.step(Direction::Backward);
+    commands.step(PlaybackCommands::Direction::Backward);
     commands.takeStep();
     commands.seek(0);
     QVERIFY(commands.isStepOutdated());
     QVERIFY(!commands.endStep());
     commands.takeSeek();
 
-    commands.step(Direction::Forward);
+    commands.step(PlaybackCommands::Direction::Forward);
     commands.takeStep();
     QVERIFY(!commands.isStepOutdated());
     commands.close();
@@ -187,7 +187,7 @@ void PlaybackCommandsTest::seekTaken_isOutdated_byNewerOnes_butNotBySteps()
     PlaybackCommands commands;
     commands.seek(1);
     commands.takeSeek();
-    commands.step(Direction::Forward);
+    commands.step(PlaybackCommands::Direction::Forward);
     QVERIFY(!commands.isSeekOutdated());
     commands.seek(2);
     QVERIFY(commands.isSeekOutdated());
@@ -203,7 +203,7 @@ void PlaybackCommandsTest::fileTaken_isOutdated_byAnother_butNotBySeeks()
     commands.open(QStringLiteral("a"), 1);
     commands.takeFile();
     commands.seek(100);
-    commands.step(Direction::Forward);
+    commands.step(PlaybackCommands::Direction::Forward);
     QVERIFY(!commands.isFileOutdated());
     commands.close();
     QVERIFY(commands.isFileOutdated());
@@ -221,7 +221,7 @@ void PlaybackCommandsTest::arrival_isSeen_untilAcknowledged()
             commands.seek(100);
             break;
         case 2:
-            commands.step(Direction::Forward);
+            commands.step(PlaybackCommands::Direction::Forward);
             break;
         default:
             commands.close();
@@ -257,7 +257,7 @@ void PlaybackCommandsTest::quit_dropsAll_andOutdatesWhatIsDone()
     PlaybackCommands commands;
     commands.open(QStringLiteral("a"), 1);
     commands.seek(100);
-    commands.step(Direction::Forward);
+    commands.step(PlaybackCommands::Direction::Forward);
     commands.quit();
     QVERIFY(commands.quits());
     QVERIFY(!commands.hasFile());

@@ -14,7 +14,6 @@ using namespace decoding;
 using QtAV::FrameAnswer;
 using QtAV::PlaybackEngine;
 using Answer = PlaybackEngine::Answer;
-using Direction = PlaybackEngine::Direction;
 
 namespace {
 
@@ -137,7 +136,7 @@ void PlaybackEngineTest::close_isNotAnswered_andStepsAfterItNeither()
     const QString path = testsupport::samplePath(QStringLiteral("h264_baseline.mp4"));
     QVERIFY(harness.open(path));
     harness.engine.close();
-    harness.engine.step(Direction::Forward);
+    harness.engine.step(PlaybackEngine::Direction::Forward);
     harness.engine.seek(1000);
     const quint64 serial = harness.engine.open(path, QtAV::FrameCache::defaultBytes);
     const std::optional<Answer> answer = harness.next();
@@ -150,8 +149,8 @@ void PlaybackEngineTest::seekAndSteps_areAnsweredInOrder()
     Harness harness;
     QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_bframes.mp4"))));
     const quint64 serial = harness.engine.seek(2000);
-    harness.engine.step(Direction::Backward);
-    harness.engine.step(Direction::Backward);
+    harness.engine.step(PlaybackEngine::Direction::Backward);
+    harness.engine.step(PlaybackEngine::Direction::Backward);
     QCOMPARE(numberOf(harness.to(serial)), 50);
     QCOMPARE(numberOf(harness.next()), 49);
     const std::optional<Answer> last = harness.next();
@@ -163,11 +162,12 @@ void PlaybackEngineTest::step_endsWithoutAFrame_atTheVideosEnds()
 {
     Harness harness;
     QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_baseline.mp4"))));
-    std::optional<Answer> answer = harness.to(harness.engine.step(Direction::Backward));
+    std::optional<Answer> answer =
+        harness.to(harness.engine.step(PlaybackEngine::Direction::Backward));
     QVERIFY(answer);
     QCOMPARE(answer->result.answer, FrameAnswer::End);
     QCOMPARE(numberOf(harness.to(harness.engine.seek(3600000))), 49);
-    answer = harness.to(harness.engine.step(Direction::Forward));
+    answer = harness.to(harness.engine.step(PlaybackEngine::Direction::Forward));
     QVERIFY(answer);
     QCOMPARE(answer->result.answer, FrameAnswer::End);
 }
@@ -220,20 +220,22 @@ void PlaybackEngineTest::step_fails_withAReason_whereTheFileIsLost()
     const testsupport::TestDir dir;
     QVERIFY(openAndLose(harness, dir));
     int number = 0;
-    std::optional<Answer> answer = harness.to(harness.engine.step(Direction::Forward));
+    std::optional<Answer> answer =
+        harness.to(harness.engine.step(PlaybackEngine::Direction::Forward));
     while (numberOf(answer) > number) {
         number = numberOf(answer);
-        answer = harness.to(harness.engine.step(Direction::Forward));
+        answer = harness.to(harness.engine.step(PlaybackEngine::Direction::Forward));
     }
     QVERIFY(answer);
     QCOMPARE(answer->result.answer, FrameAnswer::Failed);
     QVERIFY(!answer->result.error.isEmpty());
     QVERIFY(number < longSampleFrames / 2);
-    answer = harness.to(harness.engine.step(Direction::Forward));
+    answer = harness.to(harness.engine.step(PlaybackEngine::Direction::Forward));
     QVERIFY(answer);
     QCOMPARE(answer->result.answer, FrameAnswer::Failed);
     if (number > 0) {
-        QCOMPARE(numberOf(harness.to(harness.engine.step(Direction::Backward))), number - 1);
+        QCOMPARE(numberOf(harness.to(harness.engine.step(PlaybackEngine::Direction::Backward))),
+                 number - 1);
     }
     QVERIFY(harness.open(testsupport::samplePath(QStringLiteral("h264_bframes.mp4"))));
 }

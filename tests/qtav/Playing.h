@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/qtav/Decoding.h"
+#include "tests/support/Patience.h"
 
 #include <QtAV/AVPlayer.h>
 
@@ -12,8 +13,7 @@
 /// What the tests of the player share.
 namespace playing {
 
-/// How long anything may take, in milliseconds; far more than it does.
-constexpr int patienceMs = 30000;
+using testsupport::patienceMs;
 
 /// Remembers what it was given to show.
 class Screen : public QtAV::VideoRenderer

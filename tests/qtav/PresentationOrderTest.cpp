@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <functional>
 
+using packetreading::addFiles;
 using packetreading::packetsOf;
 using QtAV::PacketPtr;
 using QtAV::PresentationOrder;
@@ -63,14 +64,6 @@ QList<qint64> timesFrom(const Stream& stream, PresentationOrder& order, size_t f
     order.finish();
     takeAll(order, times);
     return times;
-}
-
-void addFiles(std::initializer_list<const char*> files)
-{
-    QTest::addColumn<QString>("file");
-    for (const char* file : files) {
-        QTest::newRow(file) << QString::fromLatin1(file);
-    }
 }
 
 } // namespace

@@ -15,7 +15,7 @@ using testsupport::TestDir;
 
 namespace {
 
-constexpr int rate = 48000;
+constexpr int soundRate = 48000;
 
 /// Opens a file and has it give samples of one channel.
 [[nodiscard]] bool openMono(SoundFile& sound, const QString& path)
@@ -25,7 +25,7 @@ constexpr int rate = 48000;
         qWarning("%s: %s", qPrintable(path), qPrintable(error));
         return false;
     }
-    sound.setFormat(rate, 1);
+    sound.setFormat(soundRate, 1);
     return true;
 }
 
@@ -70,7 +70,7 @@ QVector<qint16> storedSamples(const QByteArray& wav)
 /// The mean strength of the samples in a stretch of time, in seconds.
 double strength(const QVector<qint16>& samples, double from, double to)
 {
-    const QVector<qint16> part = samples.mid(int(from * rate), int((to - from) * rate));
+    const QVector<qint16> part = samples.mid(int(from * soundRate), int((to - from) * soundRate));
     double energy = 0.0;
     for (const qint16 sample : part) {
         energy += double(sample) * sample;
@@ -94,15 +94,15 @@ QByteArray toneOf(double hertz, int samples)
     append(wav, 16, 4);
     append(wav, 1, 2);
     append(wav, 1, 2);
-    append(wav, rate, 4);
-    append(wav, 2 * rate, 4);
+    append(wav, soundRate, 4);
+    append(wav, 2 * soundRate, 4);
     append(wav, 2, 2);
     append(wav, 16, 2);
     wav += "data";
     append(wav, quint32(2 * samples), 4);
     for (int i = 0; i < samples; ++i) {
         constexpr double turn = 6.283185307179586;
-        const double value = 10000.0 * std::sin(turn * hertz * i / rate);
+        const double value = 10000.0 * std::sin(turn * hertz * i / soundRate);
         append(wav, quint32(std::lround(value)), 2);
     }
     return wav;
@@ -111,8 +111,8 @@ QByteArray toneOf(double hertz, int samples)
 /// How often a second the samples rise through zero; their ends do not count.
 double frequencyOf(const QVector<qint16>& samples)
 {
-    const int from = rate / 10;
-    const int to = samples.size() - rate / 10;
+    const int from = soundRate / 10;
+    const int to = samples.size() - soundRate / 10;
     int first = -1;
     int last = -1;
     int count = -1;
@@ -123,14 +123,14 @@ double frequencyOf(const QVector<qint16>& samples)
             ++count;
         }
     }
-    return double(count) * rate / (last - first);
+    return double(count) * soundRate / (last - first);
 }
 
 double firstLoudSecond(const QVector<qint16>& samples)
 {
     const auto isLoud = [](qint16 sample) { return std::abs(int(sample)) > 100; };
     const auto loud = std::find_if(samples.cbegin(), samples.cend(), isLoud);
-    return double(loud - samples.cbegin()) / rate;
+    return double(loud - samples.cbegin()) / soundRate;
 }
 
 } // namespace
@@ -161,12 +161,12 @@ void SoundFileTest::samples_areThoseOfTheFile_atEachPosition()
 {
     const QString path = samplePath(QStringLiteral("sound_only.wav"));
     const QVector<qint16> stored = storedSamples(contents(path));
-    QCOMPARE(stored.size(), 2 * rate);
+    QCOMPARE(stored.size(), 2 * soundRate);
     SoundFile sound;
     QVERIFY(openMono(sound, path));
-    QCOMPARE(sound.sampleRate(), rate);
+    QCOMPARE(sound.sampleRate(), soundRate);
     for (const int start : {0, 1, 4801, 24000, 47999, 90007, 95999}) {
-        QVERIFY(sound.seek(double(start) / rate));
+        QVERIFY(sound.seek(double(start) / soundRate));
         const QVector<qint16> read = readRest(sound);
         QVERIFY2(read == stored.mid(start), QByteArray::number(start).constData());
     }
@@ -178,35 +178,35 @@ void SoundFileTest::samples_areAsManyAsTheFormatWants()
     const QVector<qint16> stored = storedSamples(contents(path));
     SoundFile sound;
     QVERIFY(openMono(sound, path));
-    sound.setFormat(rate, 2);
+    sound.setFormat(soundRate, 2);
     QVERIFY(sound.seek(0.0));
     const QVector<qint16> stereo = readRest(sound);
     QCOMPARE(stereo.size(), 2 * stored.size());
     for (int i = 0; i < stereo.size(); i += 2) {
         QCOMPARE(stereo.at(i), stereo.at(i + 1));
     }
-    sound.setFormat(rate / 2, 1);
+    sound.setFormat(soundRate / 2, 1);
     QVERIFY(sound.seek(0.0));
     QVERIFY(std::abs(readRest(sound).size() - stored.size() / 2) < 50);
 }
 
 void SoundFileTest::speed_givesTheFileInLessTime_orInMore()
 {
-    const int stored = 2 * rate;
+    const int stored = 2 * soundRate;
     SoundFile sound;
     QVERIFY(openMono(sound, samplePath(QStringLiteral("sound_only.wav"))));
     for (const double speed : {0.5, 1.25, 2.0}) {
-        sound.setFormat(rate, 1, speed);
+        sound.setFormat(soundRate, 1, speed);
         QVERIFY(sound.seek(0.0));
         // Sound that keeps its pitch is made of pieces some hundredths of a second long.
-        QVERIFY(std::abs(readRest(sound).size() - stored / speed) < 0.03 * rate);
+        QVERIFY(std::abs(readRest(sound).size() - stored / speed) < 0.03 * soundRate);
         QVERIFY(sound.seek(1.5));
-        QVERIFY(std::abs(readRest(sound).size() - stored / speed / 4.0) < 0.03 * rate);
+        QVERIFY(std::abs(readRest(sound).size() - stored / speed / 4.0) < 0.03 * soundRate);
     }
     // The silence before a sound that starts later is shortened as well.
     SoundFile late;
     QVERIFY(openMono(late, samplePath(QStringLiteral("sound_later.mkv"))));
-    late.setFormat(rate, 1, 2.0);
+    late.setFormat(soundRate, 1, 2.0);
     QVERIFY(late.seek(0.0));
     QVERIFY(std::abs(firstLoudSecond(readRest(late)) - 0.24) < 0.03);
 }
@@ -224,15 +224,15 @@ void SoundFileTest::speed_keepsThePitch()
     QFETCH(const double, speed);
     const TestDir dir;
     const QString path = dir.filePath(QStringLiteral("tone.wav"));
-    write(path, toneOf(440.0, 3 * rate));
+    write(path, toneOf(440.0, 3 * soundRate));
     SoundFile sound;
     QVERIFY(openMono(sound, path));
-    sound.setFormat(rate, 1, speed);
+    sound.setFormat(soundRate, 1, speed);
     // From a place inside, too: nothing is heard of what lies before it.
     for (const double from : {0.0, 1.0}) {
         QVERIFY(sound.seek(from));
         const QVector<qint16> samples = readRest(sound);
-        const double seconds = double(samples.size()) / rate;
+        const double seconds = double(samples.size()) / soundRate;
         const double wanted = (3.0 - from) / speed;
         QVERIFY2(std::abs(seconds - wanted) < 0.03, qPrintable(QString::number(seconds)));
         const double hertz = frequencyOf(samples);
@@ -273,7 +273,7 @@ void SoundFileTest::sound_endsWhereTheFileEndsIt()
     QVERIFY(openMono(sound, samplePath(QStringLiteral("sound_ends_early.mp4"))));
     for (const double from : {0.0, 0.5, 1.2}) {
         QVERIFY(sound.seek(from));
-        const double end = double(readRest(sound).size()) / rate + from;
+        const double end = double(readRest(sound).size()) / soundRate + from;
         // The encoder's packets are 21 ms long, and the last one is filled up.
         QVERIFY2(end > 1.499 && end < 1.545, QByteArray::number(end).constData());
     }
@@ -334,7 +334,7 @@ void SoundFileTest::cutOffFile_givesWhatItHolds()
     QVERIFY(sound.seek(0.0));
     QVERIFY(readRest(sound) == storedSamples(half));
     QVERIFY(sound.seek(0.25));
-    QVERIFY(readRest(sound) == storedSamples(half).mid(rate / 4));
+    QVERIFY(readRest(sound) == storedSamples(half).mid(soundRate / 4));
 }
 
 /// The tone goes on behind the damage, and ends when it did before.
@@ -357,8 +357,8 @@ void SoundFileTest::damagedPart_leavesTheRestInItsPlace()
     QVERIFY(sound.seek(0.0));
     const QVector<qint16> read = readRest(sound);
     QVERIFY(read != expected);
-    QVERIFY(std::abs(read.size() - expected.size()) < rate / 20);
-    const double length = double(expected.size()) / rate;
+    QVERIFY(std::abs(read.size() - expected.size()) < soundRate / 20);
+    const double length = double(expected.size()) / soundRate;
     const double usual = strength(expected, 0.2 * length, 0.3 * length);
     QVERIFY(usual > 100.0);
     for (const double part : {0.2, 0.8, 0.9}) {

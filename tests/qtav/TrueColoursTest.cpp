@@ -114,7 +114,7 @@ FramePtr pqFrame(const Rgb& nits)
     return frame;
 }
 
-QImage converted(const AVFrame& frame, QImage::Format format = QImage::Format_ARGB32)
+QImage trueColoursOf(const AVFrame& frame, QImage::Format format = QImage::Format_ARGB32)
 {
     PictureConverter converter;
     return converter.convert(frame, {frame.width, frame.height}, format);
@@ -159,7 +159,7 @@ void TrueColoursTest::greysOfPq_followTheStandard()
 {
     QFETCH(const double, nits);
     const FramePtr frame = pqFrame({nits, nits, nits});
-    QVERIFY(isNear(meanOf(converted(*frame)), shown({nits, nits, nits}, 1000.0), 2.0));
+    QVERIFY(isNear(meanOf(trueColoursOf(*frame)), shown({nits, nits, nits}, 1000.0), 2.0));
 }
 
 void TrueColoursTest::coloursOfPq_followTheStandard_data()
@@ -189,13 +189,13 @@ void TrueColoursTest::coloursOfPq_followTheStandard()
              isInside);
     const FramePtr frame = pqFrame({red, green, blue});
     const double most = isInside ? 3.0 : 12.0;
-    QVERIFY(isNear(meanOf(converted(*frame)), shown({red, green, blue}, 1000.0), most));
+    QVERIFY(isNear(meanOf(trueColoursOf(*frame)), shown({red, green, blue}, 1000.0), most));
 }
 
 void TrueColoursTest::peak_isThatOfTheContent_elseOfTheDisplay()
 {
     const FramePtr frame = pqFrame({600.0, 600.0, 600.0});
-    const auto brightness = [&frame] { return meanOf(converted(*frame))[0]; };
+    const auto brightness = [&frame] { return meanOf(trueColoursOf(*frame))[0]; };
     QVERIFY(std::abs(brightness() - shown({600, 600, 600}, 1000.0)[0]) < 2.0);
     AVMasteringDisplayMetadata* const display =
         av_mastering_display_metadata_create_side_data(frame.get());
@@ -222,7 +222,7 @@ void TrueColoursTest::greysOfHlg_followTheStandard()
     frame->color_primaries = AVCOL_PRI_BT2020;
     frame->color_trc = AVCOL_TRC_ARIB_STD_B67;
     const Rgb nits = testsupport::nitsOfHlg({value, value, value});
-    QVERIFY(isNear(meanOf(converted(*frame)), shown(nits, 1000.0), 2.0));
+    QVERIFY(isNear(meanOf(trueColoursOf(*frame)), shown(nits, 1000.0), 2.0));
 }
 
 void TrueColoursTest::wideGamut_comesByItsPrimaries_data()
@@ -254,7 +254,7 @@ void TrueColoursTest::wideGamut_comesByItsPrimaries()
     const Rgb light = testsupport::lightOf(
         {red, green, blue}, testsupport::Transfer::Standard,
         primaries == AVCOL_PRI_BT2020 ? Primaries::Bt2020 : Primaries::P3, 0.0);
-    QVERIFY(isNear(meanOf(converted(*frame)),
+    QVERIFY(isNear(meanOf(trueColoursOf(*frame)),
                    {srgbOf(light[0]), srgbOf(light[1]), srgbOf(light[2])}, 3.0));
 }
 
@@ -297,7 +297,7 @@ void TrueColoursTest::unusualMatrices_followTheirFormulas()
                                       static_cast<int>(std::lround(512 + 896 * second))});
     frame->colorspace = AVColorSpace(space);
     frame->color_range = AVCOL_RANGE_MPEG;
-    QVERIFY(isNear(meanOf(converted(*frame)), {255 * red, 255 * green, 255 * blue}, 1.0));
+    QVERIFY(isNear(meanOf(trueColoursOf(*frame)), {255 * red, 255 * green, 255 * blue}, 1.0));
 }
 
 void TrueColoursTest::deepRgb_isExact_data()
@@ -328,7 +328,7 @@ void TrueColoursTest::deepRgb_isExact()
         }
         const FramePtr frame = flat(AVPixelFormat(format), codes);
         const bool isDeep = d.comp[0].depth > 8;
-        QVERIFY(isNear(meanOf(converted(*frame)), expected, isDeep ? 0.2 : 0.5001));
+        QVERIFY(isNear(meanOf(trueColoursOf(*frame)), expected, isDeep ? 0.2 : 0.5001));
     }
 }
 
@@ -339,7 +339,7 @@ void TrueColoursTest::meansOfDeepPictures_areKept()
         frame->colorspace = AVCOL_SPC_BT709;
         frame->color_range = AVCOL_RANGE_MPEG;
         const double expected = 255.0 * (luma - 64) / 876.0;
-        QVERIFY(isNear(meanOf(converted(*frame)), {expected, expected, expected}, 0.2));
+        QVERIFY(isNear(meanOf(trueColoursOf(*frame)), {expected, expected, expected}, 0.2));
     }
 }
 
@@ -349,7 +349,7 @@ void TrueColoursTest::sixteenBits_areExact()
         FramePtr frame = flat(AV_PIX_FMT_YUV420P10LE, {luma, 512, 512});
         frame->colorspace = AVCOL_SPC_BT709;
         frame->color_range = AVCOL_RANGE_MPEG;
-        const QImage image = converted(*frame, QImage::Format_RGBX64);
+        const QImage image = trueColoursOf(*frame, QImage::Format_RGBX64);
         QCOMPARE(image.format(), QImage::Format_RGBX64);
         const double expected = 65535.0 * (luma - 64) / 876.0;
         QVERIFY(std::abs(double(image.pixelColor(3, 3).rgba64().green()) - expected) < 4.0);

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+using packetreading::addFiles;
 using packetreading::keyPlaces;
 using packetreading::OpenVideo;
 using packetreading::Read;
@@ -14,14 +15,6 @@ using testsupport::Sample;
 using testsupport::sampleNamed;
 
 namespace {
-
-void addFiles(std::initializer_list<const char*> files)
-{
-    QTest::addColumn<QString>("file");
-    for (const char* file : files) {
-        QTest::newRow(file) << QString::fromLatin1(file);
-    }
-}
 
 QList<qint64> frameTimes(const Sample& sample)
 {

@@ -12,8 +12,8 @@ using QtAV::YuvToRgb;
 
 namespace {
 
-constexpr double red = 0.2126;
-constexpr double blue = 0.0722;
+constexpr double redShare = 0.2126;
+constexpr double blueShare = 0.0722;
 
 /// A frame of noise, BT.709.
 FramePtr noise(AVPixelFormat format, int width, int height, AVColorRange range)
@@ -98,9 +98,9 @@ std::array<double, 3> expected(const AVFrame& frame, int x, int y)
     };
     const double cb = hasChroma ? part(1) : 0.0;
     const double cr = hasChroma ? part(2) : 0.0;
-    const double r = luma + 2 * (1 - red) * cr;
-    const double b = luma + 2 * (1 - blue) * cb;
-    const double g = (luma - red * r - blue * b) / (1 - red - blue);
+    const double r = luma + 2 * (1 - redShare) * cr;
+    const double b = luma + 2 * (1 - blueShare) * cb;
+    const double g = (luma - redShare * r - blueShare * b) / (1 - redShare - blueShare);
     const auto to255 = [](double v) { return std::clamp(v, 0.0, 1.0) * 255; };
     return {to255(r), to255(g), to255(b)};
 }

@@ -1,10 +1,12 @@
 #include "series/SeriesRunner.h"
 #include "tests/qtav/DecodedPackets.h"
+#include "tests/series/SeriesRecord.h"
 #include "tests/support/Samples.h"
 
 #include <QTest>
 
 using decoding::DecodedPackets;
+using seriestests::every;
 
 namespace {
 
@@ -32,14 +34,6 @@ DecodedPackets decodedFor(const QString& file, const FramePositions& positions, 
     const bool isThrough = series::run({job}, counter, [] { return false; }, {lanes});
     const DecodedPackets decoded = decoding::takeDecodedPackets();
     return isThrough && counter.count == pictures ? decoded : DecodedPackets();
-}
-
-FramePositions every(qint64 ms)
-{
-    FramePositions positions;
-    positions.kind = FramePositions::Kind::Every;
-    positions.everyMs = ms;
-    return positions;
 }
 
 FramePositions at(std::initializer_list<double> milliseconds)

@@ -1,8 +1,13 @@
 #include "series/SeriesTargets.h"
 
+#include "tests/series/SeriesRecord.h"
+
 #include <QTest>
 
 namespace {
+
+using seriestests::every;
+using seriestests::spread;
 
 using Kind = FramePosition::Kind;
 
@@ -13,21 +18,6 @@ QList<qint64> timesOf(const QVector<SeriesTarget>& targets)
         times.append(target.ms);
     }
     return times;
-}
-
-FramePositions every(qint64 ms)
-{
-    FramePositions positions;
-    positions.kind = FramePositions::Kind::Every;
-    positions.everyMs = ms;
-    return positions;
-}
-
-FramePositions spread(int count)
-{
-    FramePositions positions;
-    positions.count = count;
-    return positions;
 }
 
 FramePositions listOf(const std::vector<FramePosition>& list)

@@ -18,6 +18,7 @@ using stillsprogram::filesIn;
 using stillsprogram::InterruptibleProcess;
 using stillsprogram::numbersIn;
 using stillsprogram::objects;
+using stillsprogram::shortSample;
 using stillsprogram::words;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
@@ -25,7 +26,6 @@ using testsupport::TestDir;
 
 namespace {
 
-const QString shortSample = QStringLiteral("h264_bframes.mp4");
 const QString largeSample = QStringLiteral("h264_2160p.mp4");
 
 /// Whether every file is a whole picture, and none is one that was begun.

@@ -13,15 +13,13 @@
 using stillsprogram::filesIn;
 using stillsprogram::numbersIn;
 using stillsprogram::objects;
+using stillsprogram::shortSample;
 using stillsprogram::words;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
 using testsupport::TestDir;
 
 namespace {
-
-/// 4 seconds, 25 frames a second.
-const QString shortSample = QStringLiteral("h264_bframes.mp4");
 
 QString copySample(const QString& to, const QString& sample = shortSample)
 {

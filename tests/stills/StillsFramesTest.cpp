@@ -13,14 +13,12 @@
 using stillsprogram::filesIn;
 using stillsprogram::numbersIn;
 using stillsprogram::objects;
+using stillsprogram::shortSample;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
 using testsupport::TestDir;
 
 namespace {
-
-/// 4 seconds, 100 frames, 25 frames a second, a key frame every second, 320x240.
-const QString shortSample = QStringLiteral("h264_bframes.mp4");
 
 QStringList words(const QString& text)
 {

@@ -11,14 +11,13 @@
 using stillsprogram::contentOf;
 using stillsprogram::filesIn;
 using stillsprogram::numbersIn;
+using stillsprogram::shortSample;
 using stillsprogram::words;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
 using testsupport::TestDir;
 
 namespace {
-
-const QString shortSample = QStringLiteral("h264_bframes.mp4");
 
 /// A folder with a copy of the sample and a folder "out" with one still of it.
 struct Studio

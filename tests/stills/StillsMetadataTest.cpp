@@ -10,6 +10,7 @@
 #include <QTest>
 
 using stillsprogram::filesIn;
+using stillsprogram::shortSample;
 using stillsprogram::words;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
@@ -17,8 +18,6 @@ using testsupport::tagSample;
 using testsupport::TestDir;
 
 namespace {
-
-const QString shortSample = QStringLiteral("h264_bframes.mp4");
 
 /// What another program reads in a picture, by group and name as in "EXIF:Make".
 QJsonObject tagsOf(const QString& path)
@@ -32,7 +31,7 @@ QJsonObject tagsOf(const QString& path)
     return QJsonDocument::fromJson(result.standardOutput).array().at(0).toObject();
 }
 
-QString text(const QJsonObject& tags, const char* key)
+QString textOf(const QJsonObject& tags, const char* key)
 {
     return tags.value(QLatin1String(key)).toVariant().toString();
 }
@@ -91,16 +90,16 @@ void StillsMetadataTest::pictures_tellTheirMoment()
     const QString path =
         takeOne(video, words("--at 1.5 --format") + QStringList{format}, out.path());
     const QJsonObject tags = tagsOf(path);
-    QCOMPARE(text(tags, "EXIF:DateTimeOriginal"), QStringLiteral("2024:05:06 10:34:57"));
-    QCOMPARE(text(tags, "EXIF:SubSecTimeOriginal"), QStringLiteral("770"));
-    QCOMPARE(text(tags, "EXIF:OffsetTimeOriginal"), QStringLiteral("+00:00"));
-    QCOMPARE(text(tags, "XMP:CreateDate"), QStringLiteral("2024:05:06 10:34:57.770+00:00"));
-    QCOMPARE(text(tags, "XMP:Source"), QStringLiteral("a film.") + container);
-    QCOMPARE(text(tags, "XMP:Position"), QStringLiteral("1.52"));
-    QCOMPARE(text(tags, "EXIF:Artist"), QStringLiteral("Zoë"));
-    QCOMPARE(text(tags, "EXIF:Make"), QStringLiteral("Maker"));
-    QCOMPARE(text(tags, "EXIF:Model"), QStringLiteral("Model"));
-    const QString program = text(tags, "EXIF:Software");
+    QCOMPARE(textOf(tags, "EXIF:DateTimeOriginal"), QStringLiteral("2024:05:06 10:34:57"));
+    QCOMPARE(textOf(tags, "EXIF:SubSecTimeOriginal"), QStringLiteral("770"));
+    QCOMPARE(textOf(tags, "EXIF:OffsetTimeOriginal"), QStringLiteral("+00:00"));
+    QCOMPARE(textOf(tags, "XMP:CreateDate"), QStringLiteral("2024:05:06 10:34:57.770+00:00"));
+    QCOMPARE(textOf(tags, "XMP:Source"), QStringLiteral("a film.") + container);
+    QCOMPARE(textOf(tags, "XMP:Position"), QStringLiteral("1.52"));
+    QCOMPARE(textOf(tags, "EXIF:Artist"), QStringLiteral("Zoë"));
+    QCOMPARE(textOf(tags, "EXIF:Make"), QStringLiteral("Maker"));
+    QCOMPARE(textOf(tags, "EXIF:Model"), QStringLiteral("Model"));
+    const QString program = textOf(tags, "EXIF:Software");
     QVERIFY2(program.startsWith(QLatin1String("Morvantile ")), qPrintable(program));
     QCOMPARE(stillsprogram::numbersIn(out.path()), QList<int>{38});
 }
@@ -113,15 +112,15 @@ void StillsMetadataTest::place_isToldOnlyWhereAsked()
                       {QStringLiteral("com.apple.quicktime.location.ISO6709=+48.2085-016.3730/")}));
     const TestDir usual;
     const QJsonObject without = tagsOf(takeOne(video, words("--at 1"), usual.path()));
-    QCOMPARE(text(without, "XMP:Position"), QStringLiteral("1"));
-    QCOMPARE(text(without, "EXIF:GPSLatitude"), QString());
-    QCOMPARE(text(without, "XMP:VideoPath"), QString());
+    QCOMPARE(textOf(without, "XMP:Position"), QStringLiteral("1"));
+    QCOMPARE(textOf(without, "EXIF:GPSLatitude"), QString());
+    QCOMPARE(textOf(without, "XMP:VideoPath"), QString());
     const TestDir all;
     const QJsonObject with = tagsOf(takeOne(video, words("--at 1 --metadata all"), all.path()));
-    QCOMPARE(text(with, "EXIF:GPSLatitude"), QStringLiteral("48.2085"));
-    QCOMPARE(text(with, "EXIF:GPSLongitude"), QStringLiteral("16.373"));
-    QCOMPARE(text(with, "EXIF:GPSLongitudeRef"), QStringLiteral("W"));
-    QCOMPARE(text(with, "XMP:VideoPath"), video);
+    QCOMPARE(textOf(with, "EXIF:GPSLatitude"), QStringLiteral("48.2085"));
+    QCOMPARE(textOf(with, "EXIF:GPSLongitude"), QStringLiteral("16.373"));
+    QCOMPARE(textOf(with, "EXIF:GPSLongitudeRef"), QStringLiteral("W"));
+    QCOMPARE(textOf(with, "XMP:VideoPath"), video);
 }
 
 void StillsMetadataTest::nothing_isTold_withNone()
@@ -154,7 +153,7 @@ void StillsMetadataTest::videosThatSayNothing_givePosition()
     const QString path = takeOne(samplePath(video), words("--at 0"), out.path());
     QVERIFY(!path.isEmpty());
     const QJsonObject tags = tagsOf(path);
-    QCOMPARE(text(tags, "XMP:Source"), video);
+    QCOMPARE(textOf(tags, "XMP:Source"), video);
     QVERIFY(tags.contains(QStringLiteral("XMP:Position")));
 }
 
@@ -171,9 +170,9 @@ void StillsMetadataTest::hostileVideos_givePictures()
     const TestDir out;
     const QString path = takeOne(video, words("--at 1 --metadata all"), out.path());
     const QJsonObject tags = tagsOf(path);
-    QVERIFY(text(tags, "EXIF:Artist").startsWith(QLatin1String("]]></rdf:RDF> [2J<!--'\"&xxx")));
-    QCOMPARE(text(tags, "EXIF:Artist").size(), 1000);
-    QCOMPARE(text(tags, "XMP:Position"), QStringLiteral("1"));
+    QVERIFY(textOf(tags, "EXIF:Artist").startsWith(QLatin1String("]]></rdf:RDF> [2J<!--'\"&xxx")));
+    QCOMPARE(textOf(tags, "EXIF:Artist").size(), 1000);
+    QCOMPARE(textOf(tags, "XMP:Position"), QStringLiteral("1"));
     QCOMPARE(stillsprogram::numbersIn(out.path()), QList<int>{25});
 }
 

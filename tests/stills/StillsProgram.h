@@ -12,6 +12,9 @@
 /// Starts the program `stills` as users do, and looks at what it leaves.
 namespace stillsprogram {
 
+/// 100 frames, 25 a second.
+inline const QString shortSample = QStringLiteral("h264_bframes.mp4");
+
 /// The program's path.
 [[nodiscard]] QString program();
 

@@ -17,8 +17,6 @@ using testsupport::TestDir;
 namespace {
 
 /// 4 seconds, 25 frames a second, 320x240.
-const QString sample = QStringLiteral("h264_bframes.mp4");
-
 } // namespace
 
 class StillsSheetTest : public QObject
@@ -41,7 +39,7 @@ void StillsSheetTest::sheet_showsTheFrames_inTheirOrder()
     const ProgramResult result = stillsprogram::runJson(
         words("--count 6 --columns 3 --sheet --sheet-gap 10 --no-sheet-times --sheet-title= "
               "-f png") +
-            QStringList{samplePath(sample)},
+            QStringList{samplePath(stillsprogram::shortSample)},
         dir.path());
     QVERIFY2(result.succeeded(), result.standardError.constData());
     const QImage sheet(dir.filePath(QStringLiteral("h264_bframes-sheet.png")));
@@ -62,7 +60,8 @@ void StillsSheetTest::sheet_showsTheFrames_inTheirOrder()
 void StillsSheetTest::sheet_comesAlone_orBesideThePictures()
 {
     const TestDir alone;
-    const QStringList arguments = words("--count 4 --sheet") + QStringList{samplePath(sample)};
+    const QStringList arguments =
+        words("--count 4 --sheet") + QStringList{samplePath(stillsprogram::shortSample)};
     const ProgramResult result =
         stillsprogram::run(arguments + QStringList{QStringLiteral("-o"), alone.path()});
     QVERIFY(result.succeeded());
@@ -80,7 +79,7 @@ void StillsSheetTest::sheet_isNamedAsAskedFor()
 {
     const TestDir dir;
     QVERIFY(stillsprogram::run(words("--sheet=all-{stem} -c2 -o") +
-                               QStringList{dir.path(), samplePath(sample)})
+                               QStringList{dir.path(), samplePath(stillsprogram::shortSample)})
                 .succeeded());
     QCOMPARE(filesIn(dir.path()), words("all-h264_bframes.jpg"));
 }
@@ -90,7 +89,7 @@ void StillsSheetTest::sheet_hasTheSizeThatItsOptionsMake()
     const TestDir dir;
     QVERIFY(stillsprogram::run(words("--sheet --size 100x100 --columns 2 --sheet-gap 8 "
                                      "--no-sheet-times --sheet-title= -c2 -o") +
-                               QStringList{dir.path(), samplePath(sample)})
+                               QStringList{dir.path(), samplePath(stillsprogram::shortSample)})
                 .succeeded());
     QCOMPARE(QImage(dir.filePath(QStringLiteral("h264_bframes-sheet.jpg"))).size(),
              QSize(2 * 100 + 8 + 32, 75 + 32));
@@ -99,8 +98,8 @@ void StillsSheetTest::sheet_hasTheSizeThatItsOptionsMake()
 void StillsSheetTest::sheet_isSkipped_whenItExists()
 {
     const TestDir dir;
-    const QStringList arguments =
-        words("--sheet -c2 --skip-existing -o") + QStringList{dir.path(), samplePath(sample)};
+    const QStringList arguments = words("--sheet -c2 --skip-existing -o") +
+                                  QStringList{dir.path(), samplePath(stillsprogram::shortSample)};
     QVERIFY(stillsprogram::run(arguments).succeeded());
     const ProgramResult second = stillsprogram::run(arguments);
     QVERIFY(second.succeeded());
@@ -111,8 +110,8 @@ void StillsSheetTest::sheet_isSkipped_whenItExists()
 
 void StillsSheetTest::sheet_goesToStandardOutput()
 {
-    const ProgramResult result =
-        stillsprogram::run(words("--sheet -c2 -f png -o -") + QStringList{samplePath(sample)});
+    const ProgramResult result = stillsprogram::run(
+        words("--sheet -c2 -f png -o -") + QStringList{samplePath(stillsprogram::shortSample)});
     QVERIFY(result.succeeded());
     QVERIFY(QImage::fromData(result.standardOutput).width() > 640);
 }

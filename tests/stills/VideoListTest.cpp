@@ -12,7 +12,7 @@ using testsupport::TestDir;
 
 namespace {
 
-void put(const QString& path, const QByteArray& content = {})
+void putFile(const QString& path, const QByteArray& content = {})
 {
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
@@ -87,7 +87,7 @@ void VideoListTest::folder_givesItsVideos_byName()
     const TestDir dir;
     for (const QString& name :
          lines("b.mp4 a.MKV c.txt d z/y.webm z/a.mov z/readme.mp4.txt m/n/o.ts e.jpg")) {
-        put(dir.filePath(name));
+        putFile(dir.filePath(name));
     }
     Options options;
     options.isRecursive = true;
@@ -98,9 +98,9 @@ void VideoListTest::folder_givesItsVideos_byName()
 void VideoListTest::folder_isPassedOver_whereItIsHiddenOrALink()
 {
     const TestDir dir;
-    put(dir.filePath(QStringLiteral("a.mp4")));
-    put(dir.filePath(QStringLiteral(".trash/b.mp4")));
-    put(dir.filePath(QStringLiteral(".c.mp4")));
+    putFile(dir.filePath(QStringLiteral("a.mp4")));
+    putFile(dir.filePath(QStringLiteral(".trash/b.mp4")));
+    putFile(dir.filePath(QStringLiteral(".c.mp4")));
     QVERIFY(QFile::link(dir.path(), dir.filePath(QStringLiteral("circle"))));
     QVERIFY(QFile::link(dir.filePath(QStringLiteral("a.mp4")),
                         dir.filePath(QStringLiteral("link.mp4"))));
@@ -143,7 +143,7 @@ void VideoListTest::list_isReadByLines()
     QFETCH(const QStringList, names);
     const TestDir dir;
     const QString path = dir.filePath(QStringLiteral("list.txt"));
-    put(path, content);
+    putFile(path, content);
     Options options;
     options.listFile = path.toStdString();
     const VideoList list = stills::findVideos(options);

@@ -1,5 +1,8 @@
 #include "tests/support/TestDir.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 namespace testsupport {
@@ -28,6 +31,16 @@ QString TestDir::path() const
 QString TestDir::filePath(const QString& name) const
 {
     return m_dir.filePath(name);
+}
+
+QString TestDir::makeFile(const QString& name, const QByteArray& content) const
+{
+    QDir().mkpath(QFileInfo(filePath(name)).path());
+    QFile file(filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+        qFatal("Cannot write %s", qUtf8Printable(file.fileName()));
+    }
+    return file.fileName();
 }
 
 } // namespace testsupport

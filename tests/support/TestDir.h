@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -19,6 +20,10 @@ public:
     [[nodiscard]] QString path() const;
     /// The path of a file in the folder, which need not exist.
     [[nodiscard]] QString filePath(const QString& name) const;
+
+    /// Makes a file in the folder, and the folders on its way; the file's path. Ends the test
+    /// program where that fails.
+    QString makeFile(const QString& name, const QByteArray& content = {}) const;
 
 private:
     QTemporaryDir m_dir;

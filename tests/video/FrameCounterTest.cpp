@@ -1,5 +1,6 @@
 #include "video/FrameCounter.h"
 
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
 #include "tests/video/MakeVideo.h"
@@ -7,14 +8,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using testsupport::patienceMs;
 using testsupport::sampleNamed;
 using testsupport::samplePath;
-
-namespace {
-
-constexpr int limitMs = 60000;
-
-} // namespace
 
 class FrameCounterTest : public QObject
 {
@@ -47,7 +43,7 @@ void FrameCounterTest::frames_areNumbered_byTheirTimes()
     QVERIFY(!counter.timeOf(0));
     counter.count();
     counter.count();
-    QVERIFY(finished.wait(limitMs));
+    QVERIFY(finished.wait(patienceMs));
     QVERIFY(counter.isCounted());
     QCOMPARE(counter.frames(), sample.frames);
     for (int n = 0; n < sample.frames; ++n) {
@@ -72,7 +68,7 @@ void FrameCounterTest::unreadableVideo_endsWithoutNumbers()
     QVERIFY(!counter.isCounting());
     counter.setSource(dir.filePath(QStringLiteral("missing.mp4")));
     counter.count();
-    QVERIFY(finished.wait(limitMs));
+    QVERIFY(finished.wait(patienceMs));
     QVERIFY(!counter.isCounted());
     QVERIFY(!counter.isCounting());
 }
@@ -90,7 +86,7 @@ void FrameCounterTest::otherVideo_dropsTheCounting()
     counter.setSource(samplePath(QStringLiteral("h264_bframes.mp4")));
     QVERIFY(!counter.isCounting());
     counter.count();
-    QVERIFY(finished.wait(limitMs));
+    QVERIFY(finished.wait(patienceMs));
     QCOMPARE(counter.frames(), 100);
     QCOMPARE(finished.count(), 1);
 }

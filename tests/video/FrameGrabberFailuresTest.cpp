@@ -21,7 +21,7 @@ using testsupport::TestDir;
 
 namespace {
 
-const QString bframesSample = QStringLiteral("h264_bframes.mp4");
+const QString goodSample = QStringLiteral("h264_bframes.mp4");
 const QString longGopSample = QStringLiteral("h264_gop250.mp4");
 
 } // namespace
@@ -128,7 +128,7 @@ void FrameGrabberFailuresTest::grabber_isUsable_afterAFailure()
     FrameGrabber grabber;
     grabber.setSource(dir.filePath(QStringLiteral("missing.mp4")));
     grabber.extractInternal(0);
-    grabber.setSource(samplePath(bframesSample));
+    grabber.setSource(samplePath(goodSample));
     const QSignalSpy frames(&grabber, &FrameGrabber::frameExtracted);
     grabber.extractInternal(1600);
     QCOMPARE(lastNumber(frames), 40);
@@ -137,7 +137,7 @@ void FrameGrabberFailuresTest::grabber_isUsable_afterAFailure()
 void FrameGrabberFailuresTest::abort_isForgotten_beforeAnExtraction()
 {
     FrameGrabber grabber;
-    grabber.setSource(samplePath(bframesSample));
+    grabber.setSource(samplePath(goodSample));
     const QSignalSpy frames(&grabber, &FrameGrabber::frameExtracted);
     grabber.abort();
     grabber.extractInternal(1600);

@@ -1,6 +1,7 @@
 #include "video/Thumbnails.h"
 
 #include "tests/support/FrameNumber.h"
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
 #include "tests/video/MakeVideo.h"
@@ -11,11 +12,10 @@
 #include <memory>
 
 using testsupport::frameNumber;
+using testsupport::patienceMs;
 using testsupport::samplePath;
 
 namespace {
-
-constexpr int limitMs = 60000;
 
 const QString clip = QStringLiteral("h264_gop250.mp4"); // 520 frames, 25 a second
 
@@ -24,7 +24,7 @@ std::optional<int> numberAt(Thumbnails& thumbnails, qint64 ms)
 {
     thumbnails.request(ms);
     const auto isMade = [&] { return !thumbnails.at(ms).isNull(); };
-    return QTest::qWaitFor(isMade, limitMs) ? frameNumber(thumbnails.at(ms)) : std::nullopt;
+    return QTest::qWaitFor(isMade, patienceMs) ? frameNumber(thumbnails.at(ms)) : std::nullopt;
 }
 
 } // namespace
@@ -66,7 +66,7 @@ void ThumbnailsTest::newestRequest_wins_andIsToldOnce()
         thumbnails.request(ms);
     }
     const auto isMade = [&] { return !thumbnails.at(8000).isNull(); };
-    QVERIFY(QTest::qWaitFor(isMade, limitMs));
+    QVERIFY(QTest::qWaitFor(isMade, patienceMs));
     // One may have been begun before the others came.
     QVERIFY(made.count() <= 2);
     QCOMPARE(made.last().first().toLongLong(), 8000);

@@ -21,6 +21,7 @@
 #include <QUrl>
 
 using testsupport::child;
+using testsupport::endBatch;
 using testsupport::ModalScript;
 using testsupport::ModeDialog;
 using testsupport::samplePath;
@@ -42,14 +43,6 @@ void chooseFiles(SmartFileDialog& dialog, const QString& folder, const QStringLi
     child<QLineEdit>(dialog, "fileNameEdit")
         .setText(QLatin1Char('"') + names.join(QStringLiteral("\" \"")) + QLatin1Char('"'));
     static_cast<QDialog&>(dialog).accept();
-}
-
-/// Waits for the end of a batch and closes its dialog.
-void endBatch(BatchProcessingDialog& dialog)
-{
-    auto& button = child<QPushButton>(dialog, "doneButton");
-    QTRY_COMPARE_WITH_TIMEOUT(button.text(), QStringLiteral("Done"), 60000);
-    button.click();
 }
 
 /// Drops files on the list: what the list does not take goes on to the dialog.

@@ -15,16 +15,12 @@
 #include <memory>
 
 using testsupport::child;
+using testsupport::goodVideo;
 using testsupport::ModalScript;
 using testsupport::ModeDialog;
 using testsupport::samplePath;
 
 namespace {
-
-QString goodVideo()
-{
-    return samplePath(QStringLiteral("h264_bframes.mp4"));
-}
 
 /// A video in the case's folder that is read for longer than any case takes.
 QString slowVideo(const ModeDialog& mode)

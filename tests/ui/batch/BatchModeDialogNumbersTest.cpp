@@ -6,15 +6,7 @@
 #include <QTest>
 
 using testsupport::ModeDialog;
-
-namespace {
-
-QString multiple()
-{
-    return QStringLiteral("[Multiple]");
-}
-
-} // namespace
+using testsupport::multiple;
 
 /// Intervals and skips: what is typed, and what is taken back.
 class BatchModeDialogNumbersTest : public QObject
@@ -81,7 +73,7 @@ void BatchModeDialogNumbersTest::typedInterval_goesIntoJobsThatDiffered()
     mode.job(0).setIntervalMilliseconds(100);
     mode.job(1).setIntervalType(BatchWorkerConfig::SpreadImages);
     mode.select({0, 1});
-    QCOMPARE(mode.placeholder("intervalMillisecondsTextEdit"), multiple());
+    QCOMPARE(mode.placeholder("intervalMillisecondsTextEdit"), multiple);
     mode.type("intervalMillisecondsTextEdit", QStringLiteral("0.04"));
     QVERIFY(mode.isChecked("intervalMillisecondsRadioButton"));
     QCOMPARE(mode.text("intervalMillisecondsTextEdit"), QStringLiteral("0.04"));
@@ -141,7 +133,7 @@ void BatchModeDialogNumbersTest::invalidNumber_isTakenBack_whereJobsDiffer()
     mode.select({0, 1});
     mode.enter("intervalMillisecondsTextEdit", QStringLiteral("0"));
     QCOMPARE(mode.text("intervalMillisecondsTextEdit"), QString());
-    QCOMPARE(mode.placeholder("intervalMillisecondsTextEdit"), multiple());
+    QCOMPARE(mode.placeholder("intervalMillisecondsTextEdit"), multiple);
     QCOMPARE(mode.job(0).intervalMilliseconds(), 100);
     QCOMPARE(mode.job(1).intervalMilliseconds(), 5000);
 }
@@ -165,7 +157,7 @@ void BatchModeDialogNumbersTest::edits_areLeftAlone_whenTheyAreOnlyPassed()
     mode.job(0).setSkipFront(1);
     mode.select({0, 1});
     QTest::keyClick(&mode.find<QLineEdit>("skipFrontTextEdit"), Qt::Key_Return);
-    QCOMPARE(mode.placeholder("skipFrontTextEdit"), multiple());
+    QCOMPARE(mode.placeholder("skipFrontTextEdit"), multiple);
     QCOMPARE(mode.job(0).skipFront(), 1);
     QCOMPARE(mode.job(1).skipFront(), 2000);
 }

@@ -16,6 +16,7 @@
 #include <QTextEdit>
 
 using testsupport::child;
+using testsupport::endBatch;
 using testsupport::ModalScript;
 using testsupport::ModeDialog;
 using testsupport::samplePath;
@@ -43,13 +44,6 @@ private Q_SLOTS:
 namespace {
 
 const QString clip = QStringLiteral("h264_bframes.mp4"); // 4 seconds
-
-void endBatch(BatchProcessingDialog& dialog)
-{
-    auto& button = child<QPushButton>(dialog, "doneButton");
-    QTRY_COMPARE_WITH_TIMEOUT(button.text(), QStringLiteral("Done"), 60000);
-    button.click();
-}
 
 QString cell(const ModeDialog& mode, int row, int column)
 {

@@ -16,13 +16,9 @@
 #include <QTest>
 
 using testsupport::ModeDialog;
+using testsupport::multiple;
 
 namespace {
-
-QString multiple()
-{
-    return QStringLiteral("[Multiple]");
-}
 
 QString number(qlonglong value)
 {
@@ -224,17 +220,17 @@ void BatchModeDialogTest::differences_areShownAsMultiple()
     mode.job(2).setSkipBack(0);
     mode.click("selectAllVideoButton");
     mode.select({0, 1, 2});
-    QCOMPARE(mode.labelText("selectedVideoFileNameLabel"), multiple());
-    QCOMPARE(mode.labelText("filenameOutputExampleLabel"), multiple());
+    QCOMPARE(mode.labelText("selectedVideoFileNameLabel"), multiple);
+    QCOMPARE(mode.labelText("filenameOutputExampleLabel"), multiple);
     for (const char* const edit :
          {"fileOutputFolderTextEdit", "intervalMillisecondsTextEdit", "skipBackTextEdit"}) {
         QCOMPARE(mode.text(edit), QString());
-        QCOMPARE(mode.placeholder(edit), multiple());
+        QCOMPARE(mode.placeholder(edit), multiple);
     }
     QCOMPARE(mode.text("skipFrontTextEdit"), number(2));
     QCOMPARE(mode.placeholder("skipFrontTextEdit"), QString());
     QCOMPARE(mode.find<QComboBox>("intervalSingleShotComboBox").currentIndex(), 0);
-    QCOMPARE(mode.comboText("intervalSingleShotComboBox"), multiple());
+    QCOMPARE(mode.comboText("intervalSingleShotComboBox"), multiple);
     QVERIFY(mode.isChecked("intervalMillisecondsRadioButton"));
     mode.select({2});
     QCOMPARE(mode.placeholder("intervalMillisecondsTextEdit"), QString());
@@ -251,7 +247,7 @@ void BatchModeDialogTest::sameProfiles_areShown_andDifferentOnesAsMultiple()
     mode.choose("imageProfileComboBox", 2);
     mode.select({0, 1});
     QCOMPARE(mode.find<QComboBox>("imageProfileComboBox").currentIndex(), 0);
-    QCOMPARE(mode.comboText("imageProfileComboBox"), multiple());
+    QCOMPARE(mode.comboText("imageProfileComboBox"), multiple);
     QCOMPARE(mode.comboText("filenameProfileComboBox"), QStringLiteral("One"));
 }
 

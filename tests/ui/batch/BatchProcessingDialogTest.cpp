@@ -3,6 +3,7 @@
 #include "batch/BatchThread.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
+#include "tests/ui/batch/ModeDialog.h"
 #include "tests/ui/batch/RunningBatch.h"
 #include "tests/ui/support/NextBox.h"
 #include "tests/ui/support/Painting.h"
@@ -16,6 +17,8 @@
 #include <QTextEdit>
 
 using testsupport::answerNextBox;
+using testsupport::filesIn;
+using testsupport::goodVideo;
 using testsupport::RunningBatch;
 using testsupport::samplePath;
 using testsupport::SeenBox;
@@ -35,16 +38,6 @@ BatchWorkerConfig& addLongJob(RunningBatch& batch, const QString& folder)
     config.setIntervalType(BatchWorkerConfig::EveryMilliseconds);
     config.setIntervalMilliseconds(250);
     return config;
-}
-
-QString goodVideo()
-{
-    return samplePath(QStringLiteral("h264_bframes.mp4"));
-}
-
-QStringList filesIn(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
 }
 
 } // namespace

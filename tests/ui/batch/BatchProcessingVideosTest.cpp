@@ -19,17 +19,13 @@
 #include <atomic>
 #include <memory>
 
+using testsupport::filesIn;
 using testsupport::RunningBatch;
 using testsupport::Sample;
 using testsupport::samplePath;
 using testsupport::TestDir;
 
 namespace {
-
-QStringList filesIn(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-}
 
 /// A folder within `dir` for each job, since many samples share their base names.
 QString makeFolder(const TestDir& dir, const QString& name)

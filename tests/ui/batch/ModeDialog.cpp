@@ -1,12 +1,16 @@
 #include "tests/ui/batch/ModeDialog.h"
 
 #include "profiles/ProfileManager.h"
+#include "tests/support/Patience.h"
+#include "tests/ui/dialogs/support/DialogDriving.h"
+#include "ui/batch/BatchProcessingDialog.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFile>
 #include <QItemSelectionModel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
 #include <QTest>
@@ -37,6 +41,13 @@ ModeDialog::Profiles::Profiles(const TestDir& dir)
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(dir.filePath(QStringLiteral("config"))));
     useTwoProfiles<ImageProfile>();
     useTwoProfiles<FileNameProfile>();
+}
+
+void endBatch(BatchProcessingDialog& dialog)
+{
+    auto& button = child<QPushButton>(dialog, "doneButton");
+    QTRY_COMPARE_WITH_TIMEOUT(button.text(), QStringLiteral("Done"), patienceMs);
+    button.click();
 }
 
 ModeDialog::ModeDialog()

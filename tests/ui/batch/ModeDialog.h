@@ -2,6 +2,7 @@
 
 #include "batch/BatchModeListModel.h"
 #include "batch/BatchWorkerConfig.h"
+#include "tests/support/Samples.h"
 #include "tests/ui/support/TestSettings.h"
 #include "ui/batch/BatchModeDialog.h"
 
@@ -11,7 +12,21 @@
 #include <QStringList>
 #include <QTableView>
 
+class BatchProcessingDialog;
+
 namespace testsupport {
+
+/// What a field says whose value differs between the chosen jobs.
+inline const QString multiple = QStringLiteral("[Multiple]");
+
+/// A video that can be played to its end.
+[[nodiscard]] inline QString goodVideo()
+{
+    return samplePath(QStringLiteral("h264_bframes.mp4"));
+}
+
+/// Waits until the batch is over and closes its dialog; fails the case when that takes too long.
+void endBatch(BatchProcessingDialog& dialog);
 
 /// A batch mode dialog for one test case, with settings, a configuration folder and profiles of its
 /// own. Create it on the case's stack.

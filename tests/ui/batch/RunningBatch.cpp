@@ -2,6 +2,7 @@
 
 #include "batch/BatchThread.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QTest>
 #include <QTextEdit>
@@ -14,6 +15,11 @@ namespace {
 constexpr int limitMs = 300000;
 
 } // namespace
+
+QStringList filesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
 
 BatchWorkerConfig& RunningBatch::addJob(const QString& video, const QString& folder)
 {

@@ -16,6 +16,9 @@ class BatchThread;
 
 namespace testsupport {
 
+/// The names of all files in the folder, hidden ones included.
+[[nodiscard]] QStringList filesIn(const QString& folder);
+
 /// A processing dialog with its jobs. Create it on the case's stack.
 class RunningBatch
 {

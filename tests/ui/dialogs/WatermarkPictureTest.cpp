@@ -17,7 +17,7 @@ QString saved(const TestProfiles& profiles, const QString& name, const QImage& i
     return image.save(path) ? path : QString();
 }
 
-QImage plain(QSize size, const QColor& color)
+QImage plainPicture(QSize size, const QColor& color)
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);
@@ -71,7 +71,7 @@ private Q_SLOTS:
 void WatermarkPictureTest::smallPicture_isReadAsItIs()
 {
     const TestProfiles profiles;
-    const QImage image = plain({1024, 50}, Qt::red);
+    const QImage image = plainPicture({1024, 50}, Qt::red);
     const QString path = saved(profiles, QStringLiteral("a.png"), image);
     QCOMPARE(WatermarkPicture::readForDisplay(path), image);
     QVERIFY(!WatermarkPicture::isTooLarge(path));
@@ -91,7 +91,7 @@ void WatermarkPictureTest::alpha_isKept()
 void WatermarkPictureTest::largePicture_isMadeToFit()
 {
     const TestProfiles profiles;
-    QImage image = plain({3000, 4500}, Qt::blue);
+    QImage image = plainPicture({3000, 4500}, Qt::blue);
     for (const char* const name : {"a.png", "a.jpg", "a.bmp"}) {
         const QString path = saved(profiles, QLatin1String(name), image);
         const QImage read = WatermarkPicture::readForDisplay(path);
@@ -103,7 +103,8 @@ void WatermarkPictureTest::largePicture_isMadeToFit()
 void WatermarkPictureTest::narrowPicture_keepsAPixel()
 {
     const TestProfiles profiles;
-    const QString path = saved(profiles, QStringLiteral("a.png"), plain({1, 20000}, Qt::green));
+    const QString path =
+        saved(profiles, QStringLiteral("a.png"), plainPicture({1, 20000}, Qt::green));
     QCOMPARE(WatermarkPicture::readForDisplay(path).size(), QSize(1, 1024));
 }
 
@@ -164,7 +165,7 @@ void WatermarkPictureTest::truncatedPicture_isNotRead()
 void WatermarkPictureTest::wrongSuffix_doesNotMatter()
 {
     const TestProfiles profiles;
-    const QImage image = plain({30, 20}, Qt::red);
+    const QImage image = plainPicture({30, 20}, Qt::red);
     const QString path = saved(profiles, QStringLiteral("a.png"), image);
     const QString renamed = profiles.dir().filePath(QStringLiteral("a.jpg"));
     QVERIFY(QFile::rename(path, renamed));
@@ -174,7 +175,8 @@ void WatermarkPictureTest::wrongSuffix_doesNotMatter()
 void WatermarkPictureTest::copy_isThePictureUnderANewName()
 {
     const TestProfiles profiles;
-    const QString path = saved(profiles, QStringLiteral("logo.png"), plain({30, 20}, Qt::red));
+    const QString path =
+        saved(profiles, QStringLiteral("logo.png"), plainPicture({30, 20}, Qt::red));
     const QString name = WatermarkPicture::addCopyOf(path);
     const QRegularExpression expected(QStringLiteral(
         "^[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}\\.png$"));
@@ -201,7 +203,7 @@ void WatermarkPictureTest::copy_hasWholeSuffix()
     QFETCH(QString, suffix);
     const TestProfiles profiles;
     const QString path = profiles.dir().filePath(source);
-    QVERIFY(plain({3, 2}, Qt::red).save(path, "PNG"));
+    QVERIFY(plainPicture({3, 2}, Qt::red).save(path, "PNG"));
     const QString name = WatermarkPicture::addCopyOf(path);
     QCOMPARE(name.mid(36), suffix);
     QCOMPARE(WatermarkPicture::readForDisplay(WatermarkProfile::pathForImage(name)).size(),
@@ -211,7 +213,7 @@ void WatermarkPictureTest::copy_hasWholeSuffix()
 void WatermarkPictureTest::copiesOfTheSame_haveDifferentNames()
 {
     const TestProfiles profiles;
-    const QString path = saved(profiles, QStringLiteral("logo.png"), plain({3, 2}, Qt::red));
+    const QString path = saved(profiles, QStringLiteral("logo.png"), plainPicture({3, 2}, Qt::red));
     const QString first = WatermarkPicture::addCopyOf(path);
     const QString second = WatermarkPicture::addCopyOf(path);
     QVERIFY(first != second);

@@ -13,18 +13,10 @@
 #include <QTest>
 
 using testsupport::child;
+using testsupport::click;
 using testsupport::ModalScript;
 using testsupport::TestProfiles;
 using testsupport::textOf;
-
-namespace {
-
-void click(const WatermarkProfileDialog& dialog, const char* button)
-{
-    child<QAbstractButton>(dialog, button).click();
-}
-
-} // namespace
 
 class WatermarkProfileDialogFontColorTest : public QObject
 {

@@ -18,6 +18,7 @@
 #include <QTest>
 
 using testsupport::child;
+using testsupport::click;
 using testsupport::ModalScript;
 using testsupport::showActive;
 using testsupport::TestProfiles;
@@ -31,11 +32,6 @@ QString savedPicture(const TestProfiles& profiles, const char* name, QSize size)
     image.fill(Qt::red);
     const QString path = profiles.dir().filePath(QLatin1String(name));
     return image.save(path) ? path : QString();
-}
-
-void click(const WatermarkProfileDialog& dialog, const char* button)
-{
-    child<QAbstractButton>(dialog, button).click();
 }
 
 QString pictureName(const WatermarkProfileDialog& dialog)

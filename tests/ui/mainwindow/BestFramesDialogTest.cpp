@@ -1,5 +1,6 @@
 #include "ui/mainwindow/BestFramesDialog.h"
 
+#include "tests/support/Patience.h"
 #include "tests/support/SharpFrames.h"
 #include "tests/support/TestDir.h"
 
@@ -10,6 +11,7 @@
 #include <QTest>
 
 using testsupport::makeVideoOfSharpFrames;
+using testsupport::patienceMs;
 using testsupport::TestDir;
 
 class BestFramesDialogTest : public QObject
@@ -33,15 +35,13 @@ private:
 
 namespace {
 
-constexpr int limitMs = 30000;
-
 struct Dialog
 {
     [[nodiscard]] bool propose(const QString& video, const VideoStretch& stretch)
     {
         dialog.propose(video, QtAV::Deinterlacing::Automatic, stretch);
         return QTest::qWaitFor([this] { return !text().startsWith(QStringLiteral("Looking")); },
-                               limitMs);
+                               patienceMs);
     }
 
     [[nodiscard]] QString text() const { return dialog.findChild<QLabel*>()->text(); }

@@ -1,5 +1,6 @@
 #include "ui/mainwindow/BestFramesFinder.h"
 
+#include "tests/support/Patience.h"
 #include "tests/support/SharpFrames.h"
 #include "tests/support/TestDir.h"
 
@@ -7,6 +8,7 @@
 #include <QTest>
 
 using testsupport::makeVideoOfSharpFrames;
+using testsupport::patienceMs;
 using testsupport::TestDir;
 
 class BestFramesFinderTest : public QObject
@@ -26,7 +28,6 @@ private:
 
 namespace {
 
-constexpr int limitMs = 30000;
 constexpr QSize pictureSize{160, 160};
 
 void search(BestFramesFinder& finder, const QString& video, const VideoStretch& stretch)
@@ -51,7 +52,7 @@ void BestFramesFinderTest::search_findsTheSharpFrames()
     BestFramesFinder finder;
     QSignalSpy found(&finder, &BestFramesFinder::found);
     search(finder, m_video, {400, 1200});
-    QVERIFY(found.wait(limitMs));
+    QVERIFY(found.wait(patienceMs));
     QCOMPARE(timesIn(found), (QVector<qint64>{600, 1000}));
     const auto best = found.last().first().value<BestFrames>();
     QCOMPARE(best.frames.first().picture.size(), QSize(160, 90));
@@ -64,7 +65,7 @@ void BestFramesFinderTest::newerSearch_isTheOnlyOneThatAnswers()
     search(finder, m_video, {0, 4000});
     search(finder, m_video, {0, 4000});
     search(finder, m_video, {800, 1200});
-    QVERIFY(found.wait(limitMs));
+    QVERIFY(found.wait(patienceMs));
     QCOMPARE(timesIn(found), QVector<qint64>{1000});
     QTest::qWait(50);
     QCOMPARE(found.size(), 1);
@@ -84,7 +85,7 @@ void BestFramesFinderTest::cancelledSearch_neverAnswers_andNothingWaits()
     QVERIFY(found.isEmpty());
     // The thread goes on with what comes next.
     search(finder, m_video, {400, 800});
-    QVERIFY(found.wait(limitMs));
+    QVERIFY(found.wait(patienceMs));
     QCOMPARE(timesIn(found), QVector<qint64>{600});
 }
 
@@ -93,7 +94,7 @@ void BestFramesFinderTest::unreadableVideo_isAnError()
     BestFramesFinder finder;
     QSignalSpy found(&finder, &BestFramesFinder::found);
     search(finder, m_dir.filePath(QStringLiteral("gone.mkv")), {0, 1000});
-    QVERIFY(found.wait(limitMs));
+    QVERIFY(found.wait(patienceMs));
     const auto best = found.last().first().value<BestFrames>();
     QVERIFY(best.frames.isEmpty());
     QVERIFY(!best.error.isEmpty());

@@ -1,5 +1,6 @@
 #include "ui/mainwindow/DropZone.h"
 
+#include "tests/support/Patience.h"
 #include "tests/support/TestDir.h"
 
 #include <QDir>
@@ -15,6 +16,7 @@
 
 #include <cmath>
 
+using testsupport::patienceMs;
 using testsupport::TestDir;
 
 class DropZoneTest : public QObject
@@ -32,18 +34,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-constexpr int limitMs = 10000;
-
-QString fileIn(const TestDir& dir, const QString& name)
-{
-    QDir().mkpath(QFileInfo(dir.filePath(name)).path());
-    QFile file(dir.filePath(name));
-    if (!file.open(QIODevice::WriteOnly)) {
-        qFatal("cannot write %s", qPrintable(name));
-    }
-    return file.fileName();
-}
 
 struct Zone
 {
@@ -118,7 +108,7 @@ void DropZoneTest::highlight_isShown_whileFilesAreOverTheWindow()
     beside.move(20, 20);
     beside.show();
     const QRect before = beside.geometry();
-    zone.offer({fileIn(dir, QStringLiteral("a.mp4"))});
+    zone.offer({dir.makeFile(QStringLiteral("a.mp4"))});
     QVERIFY(!zone.highlight().isVisible());
     QVERIFY(zone.enter());
     QVERIFY(zone.highlight().isVisible());
@@ -140,7 +130,7 @@ void DropZoneTest::highlight_isReadable()
         QPalette palette = zone.window.palette();
         palette.setColor(QPalette::Window, ground);
         zone.window.setPalette(palette);
-        zone.offer({fileIn(dir, QStringLiteral("a.mp4"))});
+        zone.offer({dir.makeFile(QStringLiteral("a.mp4"))});
         QVERIFY(zone.enter());
         const QImage picture = zone.window.grab().toImage();
         const double seen = std::max(contrast(picture.pixelColor(1, 100), ground),
@@ -164,12 +154,12 @@ void DropZoneTest::oneFile_isDropped_asACopy()
 {
     const TestDir dir;
     Zone zone;
-    const QString video = fileIn(dir, QStringLiteral("a.mp4"));
+    const QString video = dir.makeFile(QStringLiteral("a.mp4"));
     zone.offer({video});
     QCOMPARE(zone.drop(), Qt::CopyAction);
     // The other program does not wait for what is made of it.
     QVERIFY(zone.dropped.isEmpty());
-    QVERIFY(zone.dropped.wait(limitMs));
+    QVERIFY(zone.dropped.wait(patienceMs));
     QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(video));
 }
 
@@ -177,14 +167,14 @@ void DropZoneTest::folder_isSearched_andItsVideosDropped()
 {
     const TestDir dir;
     Zone zone;
-    const QString ninth = fileIn(dir, QStringLiteral("day/9.mp4"));
-    const QString tenth = fileIn(dir, QStringLiteral("day/10.mp4"));
-    fileIn(dir, QStringLiteral("day/notes.txt"));
+    const QString ninth = dir.makeFile(QStringLiteral("day/9.mp4"));
+    const QString tenth = dir.makeFile(QStringLiteral("day/10.mp4"));
+    dir.makeFile(QStringLiteral("day/notes.txt"));
     zone.offer({dir.filePath(QStringLiteral("day"))});
     QVERIFY(zone.enter());
     QCOMPARE(zone.drop(), Qt::CopyAction);
     QVERIFY(zone.zone.isSearching());
-    QVERIFY(zone.dropped.wait(limitMs));
+    QVERIFY(zone.dropped.wait(patienceMs));
     QVERIFY(!zone.zone.isSearching());
     QCOMPARE(zone.dropped.first().first().toStringList(), (QStringList{ninth, tenth}));
 }
@@ -193,10 +183,10 @@ void DropZoneTest::dropWithoutVideos_saysSo()
 {
     const TestDir dir;
     Zone zone;
-    fileIn(dir, QStringLiteral("day/notes.txt"));
+    dir.makeFile(QStringLiteral("day/notes.txt"));
     zone.offer({dir.filePath(QStringLiteral("day"))});
     QCOMPARE(zone.drop(), Qt::CopyAction);
-    QVERIFY(zone.nothing.wait(limitMs));
+    QVERIFY(zone.nothing.wait(patienceMs));
     QVERIFY(zone.dropped.isEmpty());
 }
 
@@ -204,12 +194,12 @@ void DropZoneTest::newerDrop_takesThePlaceOfTheOlder()
 {
     const TestDir dir;
     Zone zone;
-    const QString second = fileIn(dir, QStringLiteral("b.mp4"));
-    zone.offer({fileIn(dir, QStringLiteral("a.mp4"))});
+    const QString second = dir.makeFile(QStringLiteral("b.mp4"));
+    zone.offer({dir.makeFile(QStringLiteral("a.mp4"))});
     static_cast<void>(zone.drop());
     zone.offer({second});
     static_cast<void>(zone.drop());
-    QVERIFY(zone.dropped.wait(limitMs));
+    QVERIFY(zone.dropped.wait(patienceMs));
     QTest::qWait(50);
     QCOMPARE(zone.dropped.size(), 1);
     QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(second));

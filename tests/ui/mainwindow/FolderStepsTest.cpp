@@ -1,5 +1,6 @@
 #include "ui/mainwindow/FolderSteps.h"
 
+#include "tests/support/Patience.h"
 #include "tests/support/TestDir.h"
 #include "ui/mainwindow/VideoNames.h"
 
@@ -8,6 +9,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using testsupport::patienceMs;
 using testsupport::TestDir;
 
 /// The next and the previous video of a folder.
@@ -25,17 +27,6 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr int limitMs = 10000;
-
-QString fileIn(const TestDir& dir, const QString& name)
-{
-    QFile file(dir.filePath(name));
-    if (!file.open(QIODevice::WriteOnly)) {
-        qFatal("cannot write %s", qPrintable(name));
-    }
-    return file.fileName();
-}
-
 struct Steps
 {
     QAction next{nullptr};
@@ -48,11 +39,11 @@ struct Steps
 void FolderStepsTest::neighbours_areThoseInNaturalOrder_amongVideos()
 {
     const TestDir dir;
-    const QString ninth = fileIn(dir, QStringLiteral("take 9.mp4"));
-    const QString tenth = fileIn(dir, QStringLiteral("Take 10.MKV"));
-    const QString last = fileIn(dir, QStringLiteral("take 11.webm"));
-    fileIn(dir, QStringLiteral("take 9.5.txt"));
-    fileIn(dir, QStringLiteral("take 10.mkv.part"));
+    const QString ninth = dir.makeFile(QStringLiteral("take 9.mp4"));
+    const QString tenth = dir.makeFile(QStringLiteral("Take 10.MKV"));
+    const QString last = dir.makeFile(QStringLiteral("take 11.webm"));
+    dir.makeFile(QStringLiteral("take 9.5.txt"));
+    dir.makeFile(QStringLiteral("take 10.mkv.part"));
     QCOMPARE(VideoNames::neighboursOf(tenth).previous, ninth);
     QCOMPARE(VideoNames::neighboursOf(tenth).next, last);
     QCOMPARE(VideoNames::neighboursOf(ninth).previous, QString());
@@ -63,8 +54,8 @@ void FolderStepsTest::neighbours_areThoseInNaturalOrder_amongVideos()
 void FolderStepsTest::neighbours_ofAVideoThatIsGone_areThoseAroundItsPlace()
 {
     const TestDir dir;
-    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
-    const QString c = fileIn(dir, QStringLiteral("c.mp4"));
+    const QString a = dir.makeFile(QStringLiteral("a.mp4"));
+    const QString c = dir.makeFile(QStringLiteral("c.mp4"));
     const VideoNames::Neighbours around =
         VideoNames::neighboursOf(dir.filePath(QStringLiteral("b.mp4")));
     QCOMPARE(around.previous, a);
@@ -76,18 +67,18 @@ void FolderStepsTest::neighbours_ofAVideoThatIsGone_areThoseAroundItsPlace()
 void FolderStepsTest::actions_areEnabled_whileThereIsAVideo_andTellIt()
 {
     const TestDir dir;
-    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
-    const QString b = fileIn(dir, QStringLiteral("b.mp4"));
+    const QString a = dir.makeFile(QStringLiteral("a.mp4"));
+    const QString b = dir.makeFile(QStringLiteral("b.mp4"));
     Steps steps;
     QSignalSpy chosen(&steps.steps, &FolderSteps::chosen);
     QVERIFY(!steps.next.isEnabled() && !steps.previous.isEnabled());
     steps.steps.setVideo(a);
-    QTRY_VERIFY_WITH_TIMEOUT(steps.next.isEnabled(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(steps.next.isEnabled(), patienceMs);
     QVERIFY(!steps.previous.isEnabled());
     steps.next.trigger();
     QCOMPARE(chosen.takeFirst().first().toString(), b);
     steps.steps.setVideo(b);
-    QTRY_VERIFY_WITH_TIMEOUT(steps.previous.isEnabled(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(steps.previous.isEnabled(), patienceMs);
     QVERIFY(!steps.next.isEnabled());
     steps.previous.trigger();
     QCOMPARE(chosen.takeFirst().first().toString(), a);
@@ -96,28 +87,28 @@ void FolderStepsTest::actions_areEnabled_whileThereIsAVideo_andTellIt()
 void FolderStepsTest::newFile_isNoticed()
 {
     const TestDir dir;
-    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
-    const QString c = fileIn(dir, QStringLiteral("c.mp4"));
+    const QString a = dir.makeFile(QStringLiteral("a.mp4"));
+    const QString c = dir.makeFile(QStringLiteral("c.mp4"));
     Steps steps;
     QSignalSpy chosen(&steps.steps, &FolderSteps::chosen);
     steps.steps.setVideo(a);
-    QTRY_VERIFY_WITH_TIMEOUT(steps.next.isEnabled(), limitMs);
-    const QString b = fileIn(dir, QStringLiteral("b.mp4"));
+    QTRY_VERIFY_WITH_TIMEOUT(steps.next.isEnabled(), patienceMs);
+    const QString b = dir.makeFile(QStringLiteral("b.mp4"));
     const auto next = [&] {
         steps.next.trigger();
         return chosen.takeLast().first().toString();
     };
-    QTRY_COMPARE_WITH_TIMEOUT(next(), b, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(next(), b, patienceMs);
     QVERIFY(QFile::remove(b));
     QVERIFY(QFile::remove(c));
-    QTRY_VERIFY_WITH_TIMEOUT(!steps.next.isEnabled(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(!steps.next.isEnabled(), patienceMs);
 }
 
 void FolderStepsTest::closedVideo_hasNoNeighbours()
 {
     const TestDir dir;
-    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
-    fileIn(dir, QStringLiteral("b.mp4"));
+    const QString a = dir.makeFile(QStringLiteral("a.mp4"));
+    dir.makeFile(QStringLiteral("b.mp4"));
     Steps steps;
     steps.steps.setVideo(a);
     // Also when the folder has been looked at already, but not been told.

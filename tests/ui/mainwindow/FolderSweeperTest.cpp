@@ -1,11 +1,13 @@
 #include "ui/mainwindow/FolderSweeper.h"
 
+#include "tests/support/Patience.h"
 #include "tests/support/TestDir.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QTest>
 
+using testsupport::patienceMs;
 using testsupport::TestDir;
 
 class FolderSweeperTest : public QObject
@@ -17,8 +19,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-constexpr int limitMs = 10000;
 
 /// As a killed program has left it there two hours ago; gives its path.
 QString leaveFileIn(const TestDir& dir)
@@ -41,7 +41,7 @@ void FolderSweeperTest::leftOverFile_goes_onceForEachFolder()
     {
         FolderSweeper sweeper;
         sweeper.sweep(dir.path());
-        QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(path), limitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(path), patienceMs);
         static_cast<void>(leaveFileIn(dir));
         sweeper.sweep(dir.path());
     }

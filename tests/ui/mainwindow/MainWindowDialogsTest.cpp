@@ -30,8 +30,6 @@ using namespace testsupport;
 
 namespace {
 
-const QString clip = QStringLiteral("h264_bframes.mp4");
-
 int snapshotWidth(OpenWindow& window)
 {
     window.find<QAction>("actionCopy_Snapshot").trigger();

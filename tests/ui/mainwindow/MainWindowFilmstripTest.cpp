@@ -1,3 +1,4 @@
+#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "profiles/ImageProfile.h"
@@ -49,10 +50,6 @@ private:
 
 namespace {
 
-constexpr int limitMs = 30000;
-
-const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
-
 /// A window that keeps its snapshots in the case's folder.
 class Window : public OpenWindow
 {
@@ -67,7 +64,7 @@ public:
 
     [[nodiscard]] bool settle()
     {
-        return QTest::qWaitFor([this] { return shelf().isSettled(); }, limitMs);
+        return QTest::qWaitFor([this] { return shelf().isSettled(); }, patienceMs);
     }
 
     /// Goes to the frame and takes it; gives the snapshot's name.
@@ -77,11 +74,11 @@ public:
         const int before = shelf().rowCount();
         const auto isThere = [this, ms] { return player().displayPosition() == ms; };
         const auto isTaken = [this, before] { return shelf().rowCount() > before; };
-        if (!QTest::qWaitFor(isThere, limitMs)) {
+        if (!QTest::qWaitFor(isThere, patienceMs)) {
             qFatal("the frame is not shown");
         }
         window().snapshotButtonPressed();
-        if (!QTest::qWaitFor(isTaken, limitMs)) {
+        if (!QTest::qWaitFor(isTaken, patienceMs)) {
             qFatal("no snapshot");
         }
         return shelf().index(before).data(SnapshotShelf::IdRole).toString();
@@ -121,8 +118,8 @@ void MainWindowFilmstripTest::chosenSnapshot_isShown_atItsFrame()
     static_cast<void>(window.takeAt(2000));
     QCOMPARE(window.shownFrame(), std::optional<int>(50));
     window.choose(first);
-    QTRY_COMPARE_WITH_TIMEOUT(window.player().displayPosition(), 1000, limitMs);
-    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.player().displayPosition(), 1000, patienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), patienceMs);
     QCOMPARE(window.strip().selected(), QStringList(first));
     QVERIFY(window.player().isPaused());
 }
@@ -137,8 +134,8 @@ void MainWindowFilmstripTest::chosenSnapshot_opensItsVideo_atItsFrame()
     QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("second.mp4"))));
     window.choose(id);
     QCOMPARE(window->currentVideoFilePath(), video);
-    QTRY_COMPARE_WITH_TIMEOUT(window.player().displayPosition(), 1000, limitMs);
-    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.player().displayPosition(), 1000, patienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), patienceMs);
     QVERIFY(window.player().isPaused());
     QTest::qWait(100);
     QCOMPARE(window.player().displayPosition(), 1000);
@@ -155,7 +152,7 @@ void MainWindowFilmstripTest::chosenSnapshot_isShown_whenItsVideoIsGone()
     QVERIFY(QFile::remove(video));
     window.choose(id);
     const QAction& copy = window.find<QAction>("actionCopy_Full_Frame");
-    QTRY_VERIFY_WITH_TIMEOUT(copy.isEnabled(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(copy.isEnabled(), patienceMs);
     QCOMPARE(window.shownFrame(), std::optional<int>(25));
     QVERIFY(!window->isVideoLoaded());
 }
@@ -194,7 +191,7 @@ void MainWindowFilmstripTest::snapshot_outlivesItsWindow_withAllItsBits()
     QCOMPARE(window.shelf().rowCount(), 1);
     window.choose(id);
     const QAction& copy = window.find<QAction>("actionCopy_Full_Frame");
-    QTRY_VERIFY_WITH_TIMEOUT(copy.isEnabled(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(copy.isEnabled(), patienceMs);
     QVERIFY(window->saveSnapshot(later));
     QCOMPARE(QImage(later), QImage(direct));
     ImageProfile::profileManager()->setLastUsedProfile(
@@ -215,10 +212,10 @@ void MainWindowFilmstripTest::saveAll_savesEachWithItsProfile_underFreeNames()
     // That of the snapshot that is shown, and no other.
     window.chooseImageProfile(QStringLiteral("Small"));
     window.choose(window.shelf().index(0).data(SnapshotShelf::IdRole).toString());
-    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), patienceMs);
     QVERIFY(QFile::copy(samplePath(clip), folder + QStringLiteral("/clip-00001.jpeg")));
     window.find<QPushButton>("saveAllButton").click();
-    QTRY_VERIFY_WITH_TIMEOUT(window.shelf().unsaved().isEmpty(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(window.shelf().unsaved().isEmpty(), patienceMs);
     const QImage first(folder + QStringLiteral("/clip-00002.jpeg"));
     const QImage second(folder + QStringLiteral("/clip-00003.jpeg"));
     QCOMPARE(first.width(), 640);

@@ -1,3 +1,4 @@
+#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "tests/support/FrameNumber.h"
@@ -44,15 +45,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-constexpr int limitMs = 30000;
-
-const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
-
-bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
-{
-    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
-}
 
 void press(int key, Qt::KeyboardModifiers modifiers = {})
 {
@@ -116,7 +108,7 @@ void MainWindowFindingTest::arrowKeys_stepThroughTheVideo_whileTheFilmstripHasTh
         QVERIFY(waitForPosition(window.player(), ms));
         const int count = strip.shelf().rowCount();
         window->snapshotButtonPressed();
-        QTRY_COMPARE_WITH_TIMEOUT(strip.shelf().rowCount(), count + 1, limitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(strip.shelf().rowCount(), count + 1, patienceMs);
     }
     QApplication::setActiveWindow(&window.window());
     auto& list = window.find<QListView>("filmstrip");
@@ -148,12 +140,12 @@ void MainWindowFindingTest::nextAndPreviousVideo_areOpenedByKeys()
     const QAction& previous = window.find<QAction>("actionPreviousVideo");
     QVERIFY(!next.isEnabled() && !previous.isEnabled());
     QVERIFY(window.openPaused(ninth));
-    QTRY_VERIFY_WITH_TIMEOUT(next.isEnabled(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(next.isEnabled(), patienceMs);
     QVERIFY(!previous.isEnabled());
     QApplication::setActiveWindow(&window.window());
     press(Qt::Key_PageDown, Qt::ControlModifier);
     QCOMPARE(window->currentVideoFilePath(), tenth);
-    QTRY_VERIFY_WITH_TIMEOUT(previous.isEnabled(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(previous.isEnabled(), patienceMs);
     QVERIFY(!next.isEnabled());
     press(Qt::Key_PageUp, Qt::ControlModifier);
     QCOMPARE(window->currentVideoFilePath(), ninth);
@@ -172,7 +164,7 @@ void MainWindowFindingTest::nextVideo_isAskedAbout_whenASnapshotWouldBeLost()
     QVERIFY(window.openPaused(first));
     QVERIFY(window.takeSnapshot());
     QAction& next = window.find<QAction>("actionNextVideo");
-    QTRY_VERIFY_WITH_TIMEOUT(next.isEnabled(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(next.isEnabled(), patienceMs);
     SeenBox box;
     answerNextBox(QMessageBox::Cancel, box);
     next.trigger();
@@ -234,9 +226,9 @@ void MainWindowFindingTest::severalVideos_areOpenedOrGoToBatchMode()
     QCoreApplication::sendEvent(&window.window(), &enter);
     QCoreApplication::sendEvent(&window.window(), &drop);
     if (button == QStringLiteral("Open")) {
-        QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), ninth, limitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), ninth, patienceMs);
     } else if (button == QStringLiteral("Batch")) {
-        QTRY_VERIFY_WITH_TIMEOUT(isAnswered, limitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(isAnswered, patienceMs);
         QCOMPARE(listed.size(), 2);
         QVERIFY2(listed.first().contains(QStringLiteral("take 9")), qPrintable(listed.first()));
         QVERIFY(!window->isVideoLoaded());
@@ -256,11 +248,11 @@ void MainWindowFindingTest::bestFrame_isTaken()
     window.find<QAction>("actionBestFrames").trigger();
     auto& list = window.find<QListWidget>("bestFramesList");
     // A second around: frames 0 to 45.
-    QTRY_VERIFY_WITH_TIMEOUT(list.count() > 0, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(list.count() > 0, patienceMs);
     list.setCurrentRow(list.count() - 1);
     window.find<QPushButton>("takeBestButton").click();
     const SnapshotShelf& shelf = window->findChild<Filmstrip*>()->shelf();
-    QTRY_COMPARE_WITH_TIMEOUT(shelf.rowCount(), 1, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(shelf.rowCount(), 1, patienceMs);
     QCOMPARE(window->snapshotTimes().size(), 1);
     QCOMPARE(window->snapshotTimes().first() % 400, 200);
     QVERIFY(window->findChild<BestFramesDialog*>()->isVisible());

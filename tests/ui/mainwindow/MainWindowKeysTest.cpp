@@ -1,3 +1,4 @@
+#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "tests/support/Samples.h"
@@ -25,15 +26,6 @@
 using namespace testsupport;
 
 namespace {
-
-constexpr int limitMs = 30000;
-
-const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
-
-bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
-{
-    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
-}
 
 void press(int key, Qt::KeyboardModifiers modifiers = {})
 {

@@ -1,3 +1,4 @@
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 #include "ui/mainwindow/OpenVideoButton.h"
@@ -19,17 +20,15 @@
 
 #include <algorithm>
 
+using testsupport::clip;
 using testsupport::OpenWindow;
+using testsupport::patienceMs;
 using testsupport::samplePath;
 
 namespace {
 
-constexpr int limitMs = 30000;
-
 /// The size of Qt's font on a desktop that names none.
 constexpr double usualPoints = 9.0;
-
-const QString clip = QStringLiteral("h264_bframes.mp4");
 
 /// The buttons of the recent files that can be seen.
 QList<QPushButton*> recentEntries(OpenWindow& window)
@@ -99,7 +98,7 @@ void MainWindowLooksTest::saveButton_standsOut_whileThereIsSomethingToSave()
     QVERIFY(!Theme::isPrimary(save));
     QVERIFY(Theme::isPrimary(take));
     window.find<QAction>("actionTake_Snapshot").trigger();
-    QTRY_VERIFY_WITH_TIMEOUT(Theme::isPrimary(save), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(Theme::isPrimary(save), patienceMs);
     window->closeVideo();
     QVERIFY(!Theme::isPrimary(save));
 }
@@ -125,7 +124,7 @@ void MainWindowLooksTest::savedFile_isNamedBelowTheButton_untilTheNextSnapshot()
     QCOMPARE(notice.text(), QStringLiteral("Saved a.png"));
     QVERIFY(notice.folderButton().isVisible());
     window.find<QAction>("actionTake_Snapshot").trigger();
-    QTRY_COMPARE_WITH_TIMEOUT(notice.text(), QString(), limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(notice.text(), QString(), patienceMs);
     QVERIFY(notice.folderButton().isVisible());
 }
 
@@ -177,13 +176,13 @@ void MainWindowLooksTest::recentFile_opens_withTheMouseAndWithReturn()
     window->openVideo(file);
     window->closeVideo();
     QTest::mouseClick(recentEntries(window).value(0), Qt::LeftButton);
-    QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), file, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), file, patienceMs);
     window->closeVideo();
     QApplication::setActiveWindow(&window.window());
     QPushButton* const entry = recentEntries(window).value(0);
     entry->setFocus(Qt::TabFocusReason);
     QTest::keyClick(entry, Qt::Key_Return);
-    QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), file, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), file, patienceMs);
 }
 
 void MainWindowLooksTest::unplayableVideo_isNamed_andOthersAreOffered()
@@ -197,7 +196,7 @@ void MainWindowLooksTest::unplayableVideo_isNamed_andOthersAreOffered()
             return label->isVisible() && label->text().contains(text);
         });
     };
-    QTRY_VERIFY_WITH_TIMEOUT(says(QStringLiteral("cannot be played")), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(says(QStringLiteral("cannot be played")), patienceMs);
     QVERIFY(window.openPaused(samplePath(clip)));
     QVERIFY(!says(QStringLiteral("open video")));
     window->closeVideo();

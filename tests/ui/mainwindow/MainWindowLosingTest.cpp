@@ -1,3 +1,4 @@
+#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "tests/support/Samples.h"
@@ -40,10 +41,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-constexpr int limitMs = 30000;
-
-const QString clip = QStringLiteral("h264_bframes.mp4");
 
 /// A window with a snapshot of a paused video, for which there is no room in the filmstrip.
 class Snapshot : public OpenWindow
@@ -127,7 +124,7 @@ void MainWindowLosingTest::snapshot_isNotAskedAbout_onceSavedOrCopied()
     window->openFromOutside(window.next);
     QCOMPARE(window->currentVideoFilePath(), window.next);
     // The next one is asked about again.
-    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), patienceMs);
     QVERIFY(window.takeSnapshot());
     SeenBox box;
     answerNextBox(QMessageBox::Cancel, box);
@@ -170,7 +167,7 @@ void MainWindowLosingTest::fileThatIsNoVideo_disablesWhatNeedsOne()
 {
     OpenWindow window;
     window->openVideo(samplePath(QStringLiteral("random_bytes.mp4")));
-    QTRY_COMPARE_WITH_TIMEOUT(window.player().mediaStatus(), QtAV::InvalidMedia, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window.player().mediaStatus(), QtAV::InvalidMedia, patienceMs);
     QVERIFY(!window.find<QPushButton>("snapshotButton").isEnabled());
     QVERIFY(!window.find<QAction>("actionTake_Snapshot").isEnabled());
     QVERIFY(!window.find<QAction>("actionPlayPause").isEnabled());
@@ -199,7 +196,7 @@ void MainWindowLosingTest::fileThatIsNoVideo_isExplainedInWordsForPeople()
     QFETCH(QString, text);
     OpenWindow window;
     window->openVideo(file);
-    QTRY_COMPARE_WITH_TIMEOUT(window->statusBar()->currentMessage(), text, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window->statusBar()->currentMessage(), text, patienceMs);
 }
 
 QTEST_MAIN(MainWindowLosingTest)

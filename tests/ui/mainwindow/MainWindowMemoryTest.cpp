@@ -42,8 +42,6 @@ private:
 
 namespace {
 
-const QString clip = QStringLiteral("h264_bframes.mp4");
-
 void typeFolder(OpenWindow& window, const QString& folder)
 {
     auto& edit = window.find<QLineEdit>("outputFolderLineEdit");

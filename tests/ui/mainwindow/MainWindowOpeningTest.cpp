@@ -1,3 +1,4 @@
+#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "tests/support/Samples.h"
@@ -59,10 +60,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-constexpr int limitMs = 30000;
-
-const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
 
 /// Whether the open button lies over the video or the video over it.
 bool isOpenButtonOnTop(OpenWindow& window)
@@ -216,7 +213,7 @@ void MainWindowOpeningTest::openVideo_playsAndNamesIt()
     QVERIFY(!window.find<QFrame>("snapshotControlsFrame").isEnabled());
     QVERIFY(!isOpenButtonOnTop(window));
     QCOMPARE(window.find<QLineEdit>("outputFolderLineEdit").text(), window.dir().path());
-    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayPosition() > 0, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayPosition() > 0, patienceMs);
     QVERIFY(window.player().isPlaying());
 }
 
@@ -244,7 +241,7 @@ void MainWindowOpeningTest::openVideo_showsDuration_whenItIsKnown()
     OpenWindow window;
     window->openVideo(samplePath(clip));
     QTRY_COMPARE_WITH_TIMEOUT(window.find<QLabel>("durationLabel").text(),
-                              QStringLiteral("00:00:04.000"), limitMs);
+                              QStringLiteral("00:00:04.000"), patienceMs);
     QCOMPARE(window.find<QSlider>("videoSlider").maximum(), 4000 / 30);
 }
 
@@ -253,7 +250,7 @@ void MainWindowOpeningTest::closeVideo_leavesTheWindowAsItWasNew()
     OpenWindow window;
     QVERIFY(window.openPaused(samplePath(clip)));
     window->skipForward();
-    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayPosition() >= 1000, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayPosition() >= 1000, patienceMs);
     QVERIFY(window.takeSnapshot());
     window->closeVideo();
     QVERIFY(!window->isVideoLoaded());
@@ -272,7 +269,8 @@ void MainWindowOpeningTest::openVideo_saysSo_whenTheFileIsNoVideo()
     OpenWindow window;
     window->openVideo(samplePath(QStringLiteral("random_bytes.mp4")));
     QPushButton& button = window.find<QPushButton>("openVideoLabel");
-    QTRY_VERIFY_WITH_TIMEOUT(button.text().contains(QStringLiteral("cannot be played")), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(button.text().contains(QStringLiteral("cannot be played")),
+                             patienceMs);
     QVERIFY(button.text().startsWith(QStringLiteral("random_bytes.mp4")));
     QVERIFY(isOpenButtonOnTop(window));
     QVERIFY(QApplication::activeModalWidget() == nullptr);
@@ -283,7 +281,8 @@ void MainWindowOpeningTest::openVideo_playsTheNext_afterOneThatCannotBePlayed()
     OpenWindow window;
     QPushButton& button = window.find<QPushButton>("openVideoLabel");
     window->openVideo(samplePath(QStringLiteral("random_bytes.mp4")));
-    QTRY_VERIFY_WITH_TIMEOUT(button.text().contains(QStringLiteral("cannot be played")), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(button.text().contains(QStringLiteral("cannot be played")),
+                             patienceMs);
     QVERIFY(window.openPaused(samplePath(clip)));
     QCOMPARE(button.text(), QStringLiteral("Click to open video"));
     QVERIFY(!isOpenButtonOnTop(window));
@@ -315,7 +314,7 @@ void MainWindowOpeningTest::openDialog_pausesTheVideo_whenCancelled()
     OpenWindow window;
     const QString path = samplePath(clip);
     window->openVideo(path);
-    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), patienceMs);
     QString filter;
     QTimer::singleShot(0, &window.window(), [&filter] {
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -342,7 +341,7 @@ void MainWindowOpeningTest::drop_opensTheFirstVideo()
     QDropEvent drop({50, 50}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(&window.window(), &drop);
     QCOMPARE(drop.dropAction(), Qt::CopyAction);
-    QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), video, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), video, patienceMs);
 }
 
 void MainWindowOpeningTest::closing_asksNothingAndEndsTheApplication()
@@ -354,7 +353,7 @@ void MainWindowOpeningTest::closing_asksNothingAndEndsTheApplication()
     QTimer watchdog;
     watchdog.setSingleShot(true);
     connect(&watchdog, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
-    watchdog.start(limitMs);
+    watchdog.start(patienceMs);
     QCOMPARE(QCoreApplication::exec(), 0);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(output.isNull());

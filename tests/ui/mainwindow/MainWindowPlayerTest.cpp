@@ -1,3 +1,4 @@
+#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "profiles/ImageProfile.h"
@@ -50,16 +51,7 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr int limitMs = 30000;
-
-const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
-
 const QString interlacedClip = QStringLiteral("fields_mpeg2_tff.ts"); // 25 pictures a second
-
-bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
-{
-    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
-}
 
 /// Reads the profiles anew, as another start would.
 void reloadProfiles(ProfileManager& manager, OpenWindow& window)
@@ -296,12 +288,12 @@ void MainWindowPlayerTest::slider_seeks_whenPlaying()
 {
     OpenWindow window;
     window->openVideo(samplePath(QStringLiteral("h264_1fps.mp4"))); // 20 seconds
-    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), patienceMs);
     const QSignalSpy found(&window.player(), &QtAV::AVPlayer::seekFinished);
     QSlider& slider = window.find<QSlider>("videoSlider");
     slider.setSliderDown(true);
     slider.setSliderPosition(400); // 12 seconds
-    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayPosition() >= 12000, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(window.player().displayPosition() >= 12000, patienceMs);
     slider.setSliderDown(false);
     QVERIFY(!found.isEmpty());
 }

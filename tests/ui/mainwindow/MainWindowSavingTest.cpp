@@ -58,8 +58,6 @@ private Q_SLOTS:
 
 namespace {
 
-const QString clip = QStringLiteral("h264_bframes.mp4");
-
 /// A window with a paused video "clip.mp4" in its folder and a snapshot taken from it.
 class Snapshot : public OpenWindow
 {

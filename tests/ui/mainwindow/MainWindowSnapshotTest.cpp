@@ -54,8 +54,6 @@ private:
 
 namespace {
 
-const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
-
 /// Enough for the window, and not for an image of 25000 by 25000 pixels.
 constexpr rlim_t roomBytes = 512 * 1024 * 1024;
 

@@ -1,3 +1,4 @@
+#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "tests/support/FrameNumber.h"
@@ -22,16 +23,8 @@ using namespace testsupport;
 
 namespace {
 
-constexpr int limitMs = 60000;
-
-const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
-const QString film = QStringLiteral("h264_gop250.mp4");  // 520 frames, 25 a second
+const QString film = QStringLiteral("h264_gop250.mp4"); // 520 frames, 25 a second
 const QString uneven = QStringLiteral("variable_rate.mkv");
-
-bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
-{
-    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
-}
 
 TimeSlider& sliderOf(OpenWindow& window)
 {
@@ -83,7 +76,7 @@ void MainWindowSteeringTest::line_tellsTheFrameOnScreen_andTheVideo()
     QVERIFY(window.openPaused(samplePath(clip)));
     window.player().setPosition(400);
     QTRY_COMPARE_WITH_TIMEOUT(factsOf(window), QStringLiteral("f10 · 25 fps · 320 × 240 · H.264"),
-                              limitMs);
+                              patienceMs);
     window.find<QAction>("actionFaster").trigger();
     QVERIFY(factsOf(window).endsWith(QStringLiteral("speed 1.25×")));
     window->closeVideo();
@@ -117,7 +110,7 @@ void MainWindowSteeringTest::typedPosition_isGoneTo()
     type(window, text);
     QVERIFY(waitForPosition(window.player(), ms));
     QVERIFY(window.player().isPaused());
-    QTRY_VERIFY_WITH_TIMEOUT(!window.find<TimecodeField>("timecodeField").isTyping(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(!window.find<TimecodeField>("timecodeField").isTyping(), patienceMs);
 }
 
 void MainWindowSteeringTest::typedFrame_isThatFrame_ofAVideoOfVariableRate()
@@ -130,7 +123,7 @@ void MainWindowSteeringTest::typedFrame_isThatFrame_ofAVideoOfVariableRate()
     QVERIFY(waitForPosition(window.player(), frameTimeMs(sample, n)));
     QCOMPARE(frameNumber(window.player().displayedFrame().toImage()),
              std::make_optional(sample.firstNumber + n));
-    QTRY_VERIFY_WITH_TIMEOUT(factsOf(window).startsWith(QStringLiteral("f%1 ").arg(n)), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(factsOf(window).startsWith(QStringLiteral("f%1 ").arg(n)), patienceMs);
 }
 
 void MainWindowSteeringTest::wrongText_isMarkedAndTold_andNothingMoves_data()
@@ -150,7 +143,7 @@ void MainWindowSteeringTest::wrongText_isMarkedAndTold_andNothingMoves()
     QVERIFY(waitForPosition(window.player(), 4000));
     type(window, text);
     const auto& field = window.find<TimecodeField>("timecodeField");
-    QTRY_VERIFY_WITH_TIMEOUT(field.isRefused(), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(field.isRefused(), patienceMs);
     QVERIFY(field.isTyping());
     QVERIFY(window->statusBar()->currentMessage().contains(QStringLiteral("“%1”").arg(text)));
     QCOMPARE(window.player().position(), 4000);
@@ -164,7 +157,7 @@ void MainWindowSteeringTest::preview_showsTheMomentUnderThePointer()
     OpenWindow window;
     QVERIFY(window.openPaused(samplePath(film)));
     TimeSlider& slider = sliderOf(window);
-    QTRY_VERIFY_WITH_TIMEOUT(slider.maximum() > 600, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(slider.maximum() > 600, patienceMs);
     const qint64 position = window.player().position();
     const int x = slider.width() / 3;
     QTest::mouseMove(&slider, {x, slider.height() / 2});
@@ -179,7 +172,7 @@ void MainWindowSteeringTest::preview_showsTheMomentUnderThePointer()
         const QPixmap pixmap = picture.pixmap(Qt::ReturnByValue);
         return pixmap.isNull() ? std::nullopt : frameNumber(pixmap.toImage());
     };
-    QTRY_COMPARE_WITH_TIMEOUT(shown(), std::make_optional(int((ms + 39) / 40)), limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(shown(), std::make_optional(int((ms + 39) / 40)), patienceMs);
     QCOMPARE(window.player().position(), position);
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&slider, &leave);
@@ -212,7 +205,7 @@ void MainWindowSteeringTest::ticks_areThoseOfTheSnapshots_ofThisVideo()
         window.player().setPosition(ms);
         QVERIFY(waitForPosition(window.player(), ms));
         window->snapshotButtonPressed();
-        QTRY_VERIFY_WITH_TIMEOUT(slider.snapshotTicks().contains(ms), limitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(slider.snapshotTicks().contains(ms), patienceMs);
     }
     QCOMPARE(slider.snapshotTicks(), (QVector<qint64>{4000, 8000}));
     window->closeVideo();
@@ -240,12 +233,12 @@ void MainWindowSteeringTest::stretch_isMarked_loops_andIsCleared()
     connect(&player, &QtAV::AVPlayer::positionChanged, this, [&](qint64 ms) { shown += ms; });
     player.play();
     const auto returns = [&shown] { return shown.count(4000); };
-    QTRY_VERIFY_WITH_TIMEOUT(returns() >= 2, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(returns() >= 2, patienceMs);
     QVERIFY(*std::min_element(shown.cbegin(), shown.cend()) >= 4000);
     QVERIFY(player.isPlaying());
     window.find<QAction>("actionClearStretch").trigger();
     QVERIFY(slider.stretch().isEmpty());
-    QTRY_VERIFY_WITH_TIMEOUT(player.displayPosition() > 5000, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(player.displayPosition() > 5000, patienceMs);
 }
 
 void MainWindowSteeringTest::stretchToTheEnd_loops()
@@ -261,7 +254,7 @@ void MainWindowSteeringTest::stretchToTheEnd_loops()
     connect(&player, &QtAV::AVPlayer::positionChanged, this,
             [&](qint64 ms) { returns += ms == 3600; });
     player.play();
-    QTRY_VERIFY_WITH_TIMEOUT(returns >= 2, limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(returns >= 2, patienceMs);
 }
 
 void MainWindowSteeringTest::otherVideo_startsWithoutMarks_atNormalSpeed()
@@ -286,11 +279,11 @@ void MainWindowSteeringTest::snapshot_isTakenAndSavedAtOnce()
     // One that is only taken comes before, and is not saved.
     window->snapshotButtonPressed();
     window.find<QAction>("actionTakeAndSave").trigger();
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(first), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(first), patienceMs);
     QCOMPARE(frameNumber(QImage(first)), std::make_optional(100));
     window.find<QAction>("actionTakeAndSave").trigger();
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(window.dir().filePath(QStringLiteral("a-00002.jpeg"))),
-                             limitMs);
+                             patienceMs);
     QVERIFY(!QFile::exists(window.dir().filePath(QStringLiteral("a-00003.jpeg"))));
 }
 
@@ -312,7 +305,7 @@ void MainWindowSteeringTest::batchMode_takesTheMarkedStretch()
         const auto text = [dialog](const char* name) {
             return dialog->findChild<QLineEdit*>(QLatin1String(name))->text();
         };
-        QTRY_VERIFY_WITH_TIMEOUT(!dialog->isLoading(), limitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!dialog->isLoading(), patienceMs);
         front = text("skipFrontTextEdit");
         back = text("skipBackTextEdit");
         dialog->close();

@@ -1,10 +1,11 @@
 #include "tests/ui/mainwindow/OpenWindow.h"
 
+#include <QtAV/AVPlayer.h>
+
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
-
-#include <QtAV/AVPlayer.h>
 
 #include <QAction>
 #include <QComboBox>
@@ -12,12 +13,6 @@
 #include <QTest>
 
 namespace testsupport {
-
-namespace {
-
-constexpr int limitMs = 30000;
-
-} // namespace
 
 OpenWindow::OpenWindow()
 {
@@ -43,18 +38,18 @@ bool OpenWindow::openPaused(const QString& path)
 {
     m_window.openVideo(path);
     const auto isShown = [this] { return player().displayedFrame().isValid(); };
-    if (!QTest::qWaitFor(isShown, limitMs)) {
+    if (!QTest::qWaitFor(isShown, patienceMs)) {
         return false;
     }
     m_window.pause();
-    return QTest::qWaitFor([this] { return player().isPaused(); }, limitMs);
+    return QTest::qWaitFor([this] { return player().isPaused(); }, patienceMs);
 }
 
 bool OpenWindow::takeSnapshot()
 {
     m_window.snapshotButtonPressed();
     const QAction& copy = find<QAction>("actionCopy_Snapshot");
-    return QTest::qWaitFor([&copy] { return copy.isEnabled(); }, limitMs);
+    return QTest::qWaitFor([&copy] { return copy.isEnabled(); }, patienceMs);
 }
 
 void OpenWindow::chooseImageProfile(const QString& name)
@@ -62,6 +57,11 @@ void OpenWindow::chooseImageProfile(const QString& name)
     auto& box = find<QComboBox>("imageProfileComboBox");
     box.setCurrentIndex(box.findText(name));
     m_window.on_imageProfileComboBox_activated(box.currentIndex());
+}
+
+bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
+{
+    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, patienceMs);
 }
 
 ImageProfile* addImageProfile(const QString& name, int width)

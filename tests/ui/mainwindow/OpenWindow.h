@@ -14,6 +14,9 @@ class AVPlayer;
 
 namespace testsupport {
 
+/// 100 frames, 25 a second.
+inline const QString clip = QStringLiteral("h264_bframes.mp4");
+
 /// A shown main window with settings and a temporary folder of its own, and ways to reach what is
 /// in it. Create it on the case's stack.
 class OpenWindow
@@ -55,6 +58,9 @@ private:
     TestSettings m_settings;
     MainWindow m_window;
 };
+
+/// Waits until the frame at this time is on screen. False when that takes too long.
+[[nodiscard]] bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms);
 
 /// Adds an image profile of that name and width to those of all windows, which own it.
 ImageProfile* addImageProfile(const QString& name, int width);

@@ -1,7 +1,11 @@
 #include "ui/mainwindow/SnapshotMaker.h"
 
+#include "tests/support/Patience.h"
+
 #include <QSignalSpy>
 #include <QTest>
+
+using testsupport::patienceMs;
 
 class SnapshotMakerTest : public QObject
 {
@@ -17,8 +21,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-constexpr int limitMs = 30000;
 
 CapturedPicture pictureOf(const QSize& size, const QColor& colour = Qt::red)
 {
@@ -60,7 +62,7 @@ void SnapshotMakerTest::largePicture_isMadeInTheBackground()
     Maker made;
     made.maker.capture(pictureOf(large), {});
     QVERIFY(made.captured.isEmpty());
-    QVERIFY(made.captured.wait(limitMs));
+    QVERIFY(made.captured.wait(patienceMs));
     const MadeSnapshot snapshot = madeIn(made.captured.first());
     QCOMPARE(snapshot.picture.image.size(), large);
     QVERIFY(!snapshot.rendering.image.isNull());
@@ -73,7 +75,7 @@ void SnapshotMakerTest::captures_areAnsweredInTheirOrder()
     made.maker.capture(pictureOf(large), {});
     made.maker.capture(pictureOf(small), {});
     QVERIFY(made.captured.isEmpty());
-    QTRY_COMPARE_WITH_TIMEOUT(made.captured.size(), 2, limitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(made.captured.size(), 2, patienceMs);
     QCOMPARE(madeIn(made.captured.at(0)).picture.image.size(), large);
     QCOMPARE(madeIn(made.captured.at(1)).picture.image.size(), small);
 }
@@ -84,7 +86,7 @@ void SnapshotMakerTest::onlyTheNewestRemaking_isAnswered()
     made.maker.remake(pictureOf(large, Qt::red), {});
     made.maker.remake(pictureOf(large, Qt::green), {});
     made.maker.remake(pictureOf(large, Qt::blue), {});
-    QVERIFY(made.remade.wait(limitMs));
+    QVERIFY(made.remade.wait(patienceMs));
     QTest::qWait(100);
     QCOMPARE(made.remade.size(), 1);
     const QImage image = madeIn(made.remade.first()).rendering.image;

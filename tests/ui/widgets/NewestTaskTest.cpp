@@ -1,9 +1,13 @@
 #include "ui/widgets/NewestTask.h"
 
+#include "tests/support/Patience.h"
+
 #include <QSemaphore>
 #include <QTest>
 
 #include <atomic>
+
+using testsupport::patienceMs;
 
 class NewestTaskTest : public QObject
 {
@@ -16,12 +20,6 @@ private Q_SLOTS:
     void end_waitsForTheTask();
 };
 
-namespace {
-
-constexpr int limitMs = 10000;
-
-} // namespace
-
 void NewestTaskTest::task_runsInAnotherThread()
 {
     QSemaphore done;
@@ -31,7 +29,7 @@ void NewestTaskTest::task_runsInAnotherThread()
         runner = std::this_thread::get_id();
         done.release();
     });
-    QVERIFY(done.tryAcquire(1, limitMs));
+    QVERIFY(done.tryAcquire(1, patienceMs));
     QVERIFY(runner != std::this_thread::get_id());
 }
 
@@ -45,10 +43,10 @@ void NewestTaskTest::newerTask_cancelsTheRunningOne_andReplacesTheWaitingOne()
     NewestTask tasks;
     tasks.start([&](const NewestTask::IsCancelled& isCancelled) {
         begun.release();
-        mayEnd.tryAcquire(1, limitMs);
+        mayEnd.tryAcquire(1, patienceMs);
         firstWasCancelled = isCancelled();
     });
-    QVERIFY(begun.tryAcquire(1, limitMs));
+    QVERIFY(begun.tryAcquire(1, patienceMs));
     tasks.start([&](const NewestTask::IsCancelled&) { secondRan = true; });
     tasks.start([&](const NewestTask::IsCancelled& isCancelled) {
         if (!isCancelled()) {
@@ -56,7 +54,7 @@ void NewestTaskTest::newerTask_cancelsTheRunningOne_andReplacesTheWaitingOne()
         }
     });
     mayEnd.release();
-    QVERIFY(done.tryAcquire(1, limitMs));
+    QVERIFY(done.tryAcquire(1, patienceMs));
     QVERIFY(firstWasCancelled);
     QVERIFY(!secondRan);
 }
@@ -70,10 +68,10 @@ void NewestTaskTest::cancel_returnsAtOnce_whileTheTaskRunsOn()
         NewestTask tasks;
         tasks.start([&](const NewestTask::IsCancelled& isCancelled) {
             begun.release();
-            mayEnd.tryAcquire(1, limitMs);
+            mayEnd.tryAcquire(1, patienceMs);
             wasCancelled = isCancelled();
         });
-        QVERIFY(begun.tryAcquire(1, limitMs));
+        QVERIFY(begun.tryAcquire(1, patienceMs));
         // Would never return if it waited for the task.
         tasks.cancel();
         QVERIFY(!wasCancelled);
@@ -95,7 +93,7 @@ void NewestTaskTest::end_waitsForTheTask()
             }
             isOver = true;
         });
-        QVERIFY(begun.tryAcquire(1, limitMs));
+        QVERIFY(begun.tryAcquire(1, patienceMs));
     }
     QVERIFY(isOver);
 }

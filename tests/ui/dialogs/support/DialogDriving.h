@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QImage>
 #include <QString>
 #include <QStringList>
@@ -19,6 +20,12 @@ Widget& child(const QWidget& parent, const char* name)
         qFatal("There is no %s named %s", Widget::staticMetaObject.className(), name);
     }
     return *found;
+}
+
+/// Clicks on the button of this name.
+inline void click(const QWidget& parent, const char* button)
+{
+    child<QAbstractButton>(parent, button).click();
 }
 
 inline QString textOf(const char* text)
