@@ -31,12 +31,14 @@ all_tests=ON
 ensure_build_folder
 ensure_packages "${sections[@]}"
 
+make_media=ON
 for preset in "${presets[@]}"; do
     say "== Building: $preset"
     # Without precompiled headers a file has to include what it uses: the shorter run sees to that.
     configure "$preset" -DMORVANTILE_BUILD_TESTS=ON -DMORVANTILE_WERROR=ON \
         -DMORVANTILE_DESKTOP_TESTS=$desktop_tests -DMORVANTILE_QUICK_BUILD=$desktop_tests \
-        -DMORVANTILE_ALL_TESTS=$all_tests
+        -DMORVANTILE_ALL_TESTS=$all_tests -DMORVANTILE_MAKE_MEDIA=$make_media
+    make_media=OFF
     # Thread sanitizer runs few of the tests, and they need few of the libraries.
     if [[ $preset == tsan ]]; then build tsan tests/all; else build "$preset" all; fi
 done

@@ -4,6 +4,7 @@ option(MORVANTILE_BUILD_TESTS "Build the tests" ON)
 option(MORVANTILE_DESKTOP_TESTS "Of the tests, build those that need a desktop too" ON)
 option(MORVANTILE_ALL_TESTS
   "Build the tests that a build with sanitizers runs as well; off, only those marked for release" ON)
+option(MORVANTILE_MAKE_MEDIA "Have the tests make the sample videos that they need" ON)
 option(MORVANTILE_QUICK_BUILD
   "Build with precompiled headers, several sources at a time, a quicker linker and plain tests" OFF)
 option(MORVANTILE_BUILD_BENCHMARKS "Build the benchmarks" OFF)

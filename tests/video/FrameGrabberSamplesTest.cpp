@@ -8,7 +8,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <limits>
 
 using extraction::Extractor;
 using testsupport::frameFrom;
@@ -115,8 +114,6 @@ QList<qint64> shuffled(const QList<qint64>& targets)
     return result;
 }
 
-constexpr qint64 farPastTheEnd = std::numeric_limits<qint32>::max();
-
 } // namespace
 
 class FrameGrabberSamplesTest : public QObject
@@ -130,8 +127,6 @@ private Q_SLOTS:
     void extract_givesTheRightFrame_jumpingToAndFro();
     void extract_givesTheRightFrame_withSmallPrecision_data() { addSamples(); }
     void extract_givesTheRightFrame_withSmallPrecision();
-    void extract_givesTheLastFrame_pastTheEnd_data() { addSamples(); }
-    void extract_givesTheLastFrame_pastTheEnd();
 
 private:
     static void addSamples();
@@ -191,21 +186,6 @@ void FrameGrabberSamplesTest::extract_givesTheRightFrame_withSmallPrecision()
     grabber.setPrecision(8);
     grabber.setSource(samplePath(file));
     checkTargets(sample, grabber, shuffled(interestingTargets(sample, 8)));
-}
-
-/// Whatever was extracted before, since later extractions decode less before their target.
-void FrameGrabberSamplesTest::extract_givesTheLastFrame_pastTheEnd()
-{
-    QFETCH(const QString, file);
-    const Sample& sample = testsupport::sampleNamed(file);
-    const qint64 justPast = frameTimeMs(sample, sample.frames - 1) + 1;
-    const qint64 middle = frameTimeMs(sample, sample.frames / 2);
-    const qint64 first = frameTimeMs(sample, 0);
-    FrameGrabber grabber;
-    grabber.setSource(samplePath(file));
-    QVERIFY(grabber.checkAndOpen());
-    checkTargets(sample, grabber,
-                 {farPastTheEnd, middle, farPastTheEnd, middle, justPast, first, justPast});
 }
 
 QTEST_GUILESS_MAIN(FrameGrabberSamplesTest)
