@@ -106,8 +106,9 @@ public:
     CBicubicKernel(int size, float a);
 };
 
-/// The tent function 1 - |x|, support 1, in a table of four by four. Kept, as CBellBicubicKernel is,
-/// for softer scaling than the programs offer: they scale with the cubic and the Lanczos kernel.
+/// The tent function 1 - |x|, support 1, in a table of four by four. Kept, as CBellBicubicKernel
+/// is, for softer scaling than the programs offer: they scale with the cubic and the Lanczos
+/// kernel.
 class CTriangularKernel : public CImageInterpolationKernel<float>
 {
 public:
