@@ -9,11 +9,11 @@
 
 namespace QtAV {
 
-/// Plays the sound of one file on a thread of its own and tells the time by it.
+/// Plays the sound of one file on its own thread and provides its time.
 ///
-/// Where there is no device, or it fails, the sound falls silent and gives no time; nothing else
-/// happens. A device that holds up the thread is given up: the next open() or play() tries it anew
-/// on another thread. All functions are for the owner's thread and never wait.
+/// If there is no device, or it fails, there is silence and no time, and nothing else happens. A
+/// device that blocks the thread is abandoned: the next open() or play() tries again on another
+/// thread. All functions must be called from the owner's thread and never wait.
 class SoundPlayer
 {
 public:
@@ -26,15 +26,15 @@ public:
     void open(const QString& path);
     void close();
 
-    /// Plays from a time in seconds on, so many seconds of the file in one; the pitch stays, see
-    /// SoundFile::setFormat().
+    /// Plays from a time in seconds, with a speed in seconds of the file per second. The pitch is
+    /// kept, see SoundFile::setFormat().
     void play(double seconds, double speed = 1.0);
     void pause();
 
     /// From 0 to 1; 0 is silence.
     void setVolume(qreal volume);
 
-    /// The time in seconds that can be heard now; nothing while no sound comes out.
+    /// The time in seconds that is heard now; nothing while no sound is played.
     std::optional<double> position() const;
 
 private:

@@ -11,8 +11,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// Between two tellings the time goes on by itself, but not for longer than this: who tells it no
-/// more may have come to a stop.
+/// Time is extrapolated between updates, at most this long: a worker that sends no more updates may
+/// be blocked.
 constexpr double LongestSilentSeconds = 0.1;
 
 } // namespace

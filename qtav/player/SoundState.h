@@ -10,8 +10,8 @@ class QObject;
 
 namespace QtAV {
 
-/// What a SoundPlayer wants, and what its SoundWorker has made of it. Of both threads, which share
-/// it: a worker that a device holds up may outlive its player.
+/// What a SoundPlayer requests, and how far its SoundWorker has carried it out. Shared by both
+/// threads: a worker blocked by a device may outlive its player. Thread-safe.
 class SoundState
 {
 public:
@@ -27,29 +27,29 @@ public:
 
     explicit SoundState(Wish wish);
 
-    /// Replaces the wish and wakes the worker.
+    /// Replaces the request and wakes the worker.
     void setWish(const Wish& wish);
-    /// Nothing is wished any more; wakes the worker.
+    /// Ends the requests and wakes the worker.
     void end();
 
-    /// Who is woken, in its own thread, by a call of its slot heed(): now, and after each change.
-    /// Null for nobody from now on.
+    /// Object whose slot heed() is invoked in its own thread, now and on each change; null
+    /// unregisters.
     void setWorker(QObject* worker);
-    /// What the worker is to carry out now; nothing when it is to end.
+    /// The request to carry out now; nothing when the worker must end.
     [[nodiscard]] std::optional<Wish> takeWish();
-    /// It has carried out what it took.
+    /// Marks the taken request as carried out.
     void setCarriedOut();
-    /// For how long the worker has not got on with what is wished; 0 when there is nothing to do.
+    /// How long the worker has not made progress on the request; 0 if there is nothing to do.
     std::chrono::milliseconds behindFor() const;
 
     void setHeard(quint64 playSerial, std::optional<double> seconds);
-    /// The time in seconds that is heard now of what was wished last.
+    /// The time in seconds that is heard now for the latest request.
     std::optional<double> heard() const;
 
 private:
     using Time = std::chrono::steady_clock::time_point;
 
-    // With the mutex held.
+    // Call with the mutex held.
     void noteChange();
     void wake();
 
@@ -58,7 +58,7 @@ private:
     Wish m_wish;
     bool m_isOver = false;
     QObject* m_worker = nullptr;
-    bool m_isTaken = false; ///< the wish is what the worker took last
+    bool m_isTaken = false; ///< the worker has taken the current request
     std::optional<Time> m_behindSince;
     quint64 m_heardSerial = 0;
     std::optional<double> m_heard;

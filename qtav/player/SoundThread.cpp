@@ -18,8 +18,8 @@ namespace {
 std::atomic<int> threadCount{0};
 
 #ifdef __GLIBC__
-/// Sound libraries tidy up at the process's end, and break off, or wait for ever, where a thread
-/// was left behind in one of their functions. What the program itself has to do is done by then.
+/// Sound libraries clean up when the process ends, and crash or wait forever if a thread was
+/// abandoned in one of their functions. The program's own cleanup is done by then.
 void endWithoutTidying(int status, void*)
 {
     if (threadCount == 0)
@@ -33,7 +33,8 @@ void leaveBehind(std::thread& thread)
 {
     qCWarning(lcQtAV, "The sound device does not answer; it is not waited for.");
 #ifdef __GLIBC__
-    // Each time anew: it must come before what the library has registered in the meantime.
+    // Registered each time because it must run before what the library has registered in the
+    // meantime.
     on_exit(&endWithoutTidying, nullptr);
 #endif
     thread.detach();

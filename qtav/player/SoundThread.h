@@ -9,24 +9,24 @@
 
 namespace QtAV {
 
-/// A SoundWorker on a thread of its own, that nobody ever waits for without limit.
+/// A SoundWorker on its own thread, for which no other thread ever waits without limit.
 ///
-/// Systems may hold up who starts, stops or asks a device, and for ever: where a device goes away,
-/// or the sound server does not answer, just while a stream is being made. Such a thread is left
-/// behind. It owns all that it uses, and ends by itself once it is let go.
+/// Starting, stopping or querying a device can block forever: for example if the device goes away,
+/// or the sound server does not answer while a stream is being created. Such a thread is abandoned.
+/// It owns everything that it uses, and ends by itself once it is unblocked.
 class SoundThread
 {
 public:
-    /// How long a worker may take for what is wished; a small part of it where the device works.
+    /// Maximum time a worker may take for a request; a working device needs only a fraction of it.
     static constexpr std::chrono::milliseconds LongestWork{2000};
 
-    /// How many threads there may be at a time in the process, with those that were left behind.
+    /// Maximum number of threads in the process, including abandoned ones.
     static constexpr int Most = 8;
 
-    /// Starts it. It takes the way to make devices from SoundDevice::factory() now.
-    /// @param wish  what is wished at first.
+    /// Starts the thread, with the device factory that SoundDevice::factory() returns now.
+    /// @param wish  the first request.
     explicit SoundThread(const SoundState::Wish& wish);
-    /// Tells the worker that it is over and waits, until it has been held up for LongestWork.
+    /// Ends the worker and waits for it, until it has been blocked for LongestWork.
     ~SoundThread();
     SoundThread(const SoundThread&) = delete;
     SoundThread& operator=(const SoundThread&) = delete;
@@ -35,7 +35,7 @@ public:
 
     bool isHeldUp() const { return m_state->behindFor() >= LongestWork; }
 
-    /// How many there are at this moment in the process.
+    /// Current number of these threads in the process.
     static int count();
 
 private:

@@ -10,8 +10,8 @@ namespace {
 
 constexpr int TellTimeMs = 10;
 
-/// A device that hears nothing more for so long is gone, or done where its source has ended. Before
-/// its first sound, a device may have to play out two seconds of silence.
+/// A device without progress for this long is gone, or has finished if its source has ended. Before
+/// its first sound, a device may have to play two seconds of silence.
 constexpr std::chrono::milliseconds LongestStandstill{3000};
 constexpr std::chrono::milliseconds LongestStandstillAtTheEnd{500};
 
@@ -110,7 +110,7 @@ void SoundWorker::start(const SoundState::Wish& wish)
 {
     if (!m_file)
         return;
-    // Asked for anew each time: it may have come since, or be another one.
+    // Requested each time: the device may have appeared since, or be a different one.
     m_device = m_makeDevice(m_file->sampleRate());
     if (!m_device)
         return;
@@ -135,7 +135,7 @@ void SoundWorker::stopDevice()
     m_state.setHeard(m_done.playSerial, std::nullopt);
 }
 
-/// A device that failed, or has played everything, gives no time any more.
+/// A device that failed, or has played everything, no longer provides the time.
 void SoundWorker::tellTime()
 {
     const double heard = m_device->heardSeconds();

@@ -14,21 +14,21 @@
 
 namespace QtAV {
 
-/// Carries out a SoundState's wishes on the thread that it is made on.
+/// Carries out the requests of a SoundState on the thread that it is created on.
 class SoundWorker : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param state  is to outlive the worker.
+    /// @param state  must outlive the worker.
     SoundWorker(SoundState& state, SoundDevice::Factory makeDevice);
     ~SoundWorker() override;
 
-    /// Carries out what is wished until the wishes are over.
+    /// Carries out requests until they end.
     void run();
 
 public Q_SLOTS:
-    /// Looks at what is wished now.
+    /// Handles the current request.
     void heed();
 
 private:
@@ -43,12 +43,12 @@ private:
 
     SoundState& m_state;
     const SoundDevice::Factory m_makeDevice;
-    SoundState::Wish m_done; ///< the wish that has been carried out
+    SoundState::Wish m_done; ///< the request that has been carried out
     std::unique_ptr<SoundFile> m_file;
     std::unique_ptr<Source> m_source;
     std::unique_ptr<SoundDevice> m_device;
-    double m_lastHeard = 0.0;                        ///< since the device's start
-    std::chrono::steady_clock::time_point m_movedAt; ///< when it was less for the last time
+    double m_lastHeard = 0.0;                        ///< since the device was started
+    std::chrono::steady_clock::time_point m_movedAt; ///< when it last increased
     QTimer m_clock;
     QEventLoop m_loop;
 };

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double UsualPeakNits = 1000.0;
 
-/// Less is no statement, and more than PQ has is none either.
+/// Values outside this range are not valid statements; PQ ends at the upper limit.
 constexpr double LeastPeakNits = 100.0;
 constexpr double BrightestNits = 10000.0;
 
@@ -36,7 +36,7 @@ double hlgC()
     return 0.5 - HlgA * std::log(4.0 * HlgA);
 }
 
-/// Copies a statement of the stream for a picture; without memory it goes without.
+/// Copies side data of the stream to a picture. Skips it when memory runs out.
 void addSideData(AVFrame& frame, AVFrameSideDataType type, const SideData& data)
 {
     AVFrameSideData* const copy =
@@ -105,7 +105,7 @@ Colours::Primaries primariesOf(const AVFrame& frame)
     default:
         break;
     }
-    // High dynamic range comes with these, also where a file leaves them out.
+    // The defaults for high dynamic range if the file does not state them.
     const bool isHdr = transferOf(frame) != Colours::Transfer::Standard;
     return isHdr && frame.color_primaries == AVCOL_PRI_UNSPECIFIED ? Colours::Primaries::Bt2020
                                                                    : Colours::Primaries::Standard;
