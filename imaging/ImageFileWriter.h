@@ -6,18 +6,18 @@
 #include <QImage>
 #include <QString>
 
-/// Writes images to files, whole or not at all.
+/// Writes images to files, completely or not at all.
 ///
-/// The picture is encoded in memory and then put under its name by FilePublisher, with all that
-/// that promises, and its one exception. Every file of a format that can hold one has a colour
-/// profile: the image's own, or sRGB. Without state: callable from any thread.
+/// The picture is encoded in memory and then stored by FilePublisher, with its guarantees and its
+/// one exception. Every file whose format supports it has a colour profile: the image's own, or
+/// sRGB. Stateless: callable from any thread.
 namespace ImageFileWriter {
 
-/// The quality that leaves the choice to the format.
+/// Leaves the quality to the format.
 constexpr int DefaultQuality = -1;
 
-/// The encoded picture. Empty for a null image, where the type, which is a suffix without dot,
-/// stands for no format that can be written (capitals do not matter), and where memory runs out.
+/// The encoded picture. Empty for a null image, if the type (a suffix without dot,
+/// case-insensitive) is not a writable format, and if memory runs out.
 ///
 /// @param quality  as for write()
 [[nodiscard]] QByteArray encode(const QImage& image, const QString& type, int quality);
@@ -31,7 +31,7 @@ constexpr int DefaultQuality = -1;
 ///     written (capitals do not matter), where memory for the encoded picture runs out, and where
 ///     the file cannot be written.
 ///
-/// The format is the suffix's; the last one's where the name has several dots.
+/// The format is determined by the last suffix of the name.
 [[nodiscard]] WriteResult write(const QString& fileName, const QImage& image, int quality,
                                 ExistingFile existing);
 
