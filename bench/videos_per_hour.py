@@ -80,7 +80,7 @@ def main():
             costs[name].append(measure(stills, (arguments.media / file).resolve(), arguments.videos))
 
     print("| ten pictures of 60 s of | wall | processor | read | written | memory "
-          "| videos an hour and core | 100,000 videos |")
+          "| videos per hour and core | 100,000 videos |")
     print("| --- | ---: | ---: | ---: | ---: | ---: | ---: | ---: |")
     for name, runs in costs.items():
         def median(what):
