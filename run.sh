@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the release and runs it. A later start only runs it.
 #   ./run.sh                     opens the window
-#   ./run.sh VIDEO… [OPTION]…    takes pictures out of videos: the command stills
+#   ./run.sh VIDEO… [OPTION]…    takes pictures from videos: the command stills
 #   ./run.sh morvantile-cli …    the older command, which takes one video
 set -euo pipefail
 root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")

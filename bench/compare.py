@@ -58,10 +58,10 @@ class Video:
         ]
 
 
-# The grabber takes a key frame that is nearer to the position than its precision, as it should
-# where a picture every so often is wanted. The positions below keep out of its reach; the key
-# frames of the transport stream are too near to each other for that. In a transport stream ffmpeg's
-# own seek may land behind the position: it is told to land earlier and to decode up to it.
+# The grabber takes a key frame that is nearer to the position than its precision, as intended for
+# pictures at regular intervals. The positions below are outside that range; in the transport stream
+# key frames are too close to each other for that. There, ffmpeg's own seek may land behind the
+# position, so it is made to land earlier and to decode up to it.
 VIDEOS = [
     Video("1080p_h264_gop250.mp4", 1500, 250, 24, behind=50, goal=0.7),
     Video("1080p_h264_gop30.mp4", 1500, 30, 24, behind=15),

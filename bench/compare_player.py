@@ -46,9 +46,9 @@ class Hold:
     """Holding the key for steps back: from how many positions, how many steps, and what we aim at:
     steps a second, and the milliseconds of the longest."""
 
-    # How long the player may prepare itself after the seek.
+    # Rest after a seek, in which the player may prepare.
     REST = 2.0
-    # mpv takes as long for each step: this part of them tells enough.
+    # mpv takes equally long for each step, so this fraction of them is enough.
     MPV_PART = 25
 
     def __init__(self, positions, steps, rate_goal, longest_goal):
@@ -317,7 +317,7 @@ def position_of(frame):
 
 
 def check(what, frame, position):
-    # Sound may start earlier than the pictures: that moves them, but by less than half a frame.
+    # Sound may start earlier than the pictures, which shifts them by less than half a frame.
     if abs(position - frame * FRAME_MS) >= FRAME_MS / 2:
         raise RuntimeError(f"{what}: {position:.1f} ms instead of {frame * FRAME_MS} ms")
 

@@ -114,7 +114,7 @@ class Peers:
     def select(self, videos, positions, folder):
         """One process: the first frame at or after each position."""
         wanted = sorted({-(-position // FRAME_MS) for position in positions})
-        # Long sums are more than its parser takes.
+        # Its parser does not accept long sums.
         terms = [f"eq(n,{number})" for number in wanted]
         chosen = "+".join(f"({'+'.join(terms[i : i + 40])})" for i in range(0, len(terms), 40))
         run([*self.FFMPEG, "-i", videos[0], "-an", "-vf", f"select='{chosen}'", "-vsync", "0", *self.JPEG,
@@ -229,8 +229,8 @@ def measure(case, programs, peers, media, runs):
     measures = {name: Measure() for name in ("ours", *case.peers)}
     if case.has_index():
         measures["alone"] = Measure()
-    # Into the page cache, but not through this process: the peak of a child's memory begins with the
-    # memory of what starts it.
+    # Loads the videos into the page cache, but not through this process: the peak memory of a child
+    # starts with the memory of its parent.
     run(["cat", *{video.stat().st_ino: video for video in videos}.values()])
     for number in range(runs):
         order = list(measures) if number % 2 == 0 else list(measures)[::-1]

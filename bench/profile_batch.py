@@ -81,7 +81,8 @@ def aggregated(data):
     for count, path, symbol in samples(data):
         name = pathlib.Path(path).name
         libraries[name] += count
-        # With -v: address in the file, a letter, [.] or [k], symbol, which is a number for none.
+        # With -v: address in the file, a letter, [.] or [k], and the symbol, or a number if there
+        # is none.
         address, place = re.match(r"(\S+)\s+\S\s+\[.\]\s*(.*)", symbol).groups()
         if place.startswith("0x") and path.startswith("/"):
             if path not in known:

@@ -45,9 +45,9 @@ def medians(path):
             continue
         if result.get("error_occurred"):
             sys.exit(f"{result['name']}: {result['error_message']}")
-        # What stands behind the name in "Extract/video/iterations:20/real_time" is how it ran.
+        # The part after the name in "Extract/video/iterations:20/real_time" tells how it ran.
         parts = [p for p in result["run_name"].split("/") if p != "real_time" and ":" not in p]
-        # Benchmarks whose work may leave the thread are timed by the clock, as their names say.
+        # Benchmarks that may use other threads are measured in wall time, as their names tell.
         key = "real_time" if "real_time" in result["run_name"] else "cpu_time"
         milliseconds = result[key] * MILLISECONDS[result["time_unit"]]
         times.setdefault("/".join(parts), []).append(milliseconds)

@@ -1,15 +1,15 @@
-# How the folders declare their targets.
+# Functions by which the folders declare their targets.
 #
-# Each target has an include folder of its own, in the build folder: links to the headers that it
-# lists, at the paths by which they are included. Only what links the target finds them, so that an
-# include goes nowhere that the links between targets do not go.
+# Each target has an include folder of its own in the build folder, with links to its headers at the
+# paths by which they are included. Only targets that link it find them, so that includes follow the
+# links between targets.
 set(MORVANTILE_INCLUDE_DIR "${CMAKE_BINARY_DIR}/include")
-# Made anew each time: no link outlives its header.
+# Recreated on each run, so that no link outlives its header.
 file(REMOVE_RECURSE "${MORVANTILE_INCLUDE_DIR}")
 
 # morvantile_make_include_folder(FOLDER ROOT file…)
-# Makes the folder, with a link to each header among the files at its path from ROOT; where there
-# are no headers, no folder.
+# Creates the folder, with a link to each header among the files at its path relative to ROOT; no
+# folder if there are no headers.
 function(morvantile_make_include_folder folder root)
   cmake_path(ABSOLUTE_PATH root)
   foreach(header IN LISTS ARGN)
@@ -27,8 +27,8 @@ function(morvantile_make_include_folder folder root)
   endforeach()
 endfunction()
 
-# What is precompiled where MORVANTILE_QUICK_BUILD is on: what most files include, and what those
-# with widgets include too. Made once, since that takes as long as several files.
+# Headers to precompile with MORVANTILE_QUICK_BUILD: those that most files include, and those that
+# most files with widgets include too. Precompiled once, since it takes as long as several files.
 set(MORVANTILE_COMMON_HEADERS
   <QColor> <QCoreApplication> <QDateTime> <QDebug> <QDir> <QElapsedTimer> <QFile> <QFileInfo>
   <QHash> <QImage> <QObject> <QSet> <QString> <QTemporaryDir> <QUrl> <QVariant> <QVector>
@@ -37,8 +37,8 @@ set(MORVANTILE_WIDGET_HEADERS ${MORVANTILE_COMMON_HEADERS}
   <QComboBox> <QDialog> <QFileDialog> <QGroupBox> <QLabel> <QLineEdit> <QMessageBox> <QPainter>
   <QSettings> <QSlider> <QTimer> <QWidget>)
 
-# morvantile_precompile_headers(): makes morvantile_common_headers and morvantile_widget_headers,
-# from which the libraries take them. After Qt has been found.
+# morvantile_precompile_headers(): creates morvantile_common_headers and morvantile_widget_headers,
+# which the libraries reuse. Call it after Qt has been found.
 function(morvantile_precompile_headers)
   if(NOT MORVANTILE_QUICK_BUILD)
     return()
@@ -55,9 +55,9 @@ function(morvantile_precompile_headers)
 endfunction()
 
 # morvantile_spare_moc(TARGET file…)
-# Turns CMake's search for what moc, uic and rcc are to do off where no file gives them anything: it
-# takes as long as compiling a file. Only where MORVANTILE_QUICK_BUILD is on: a file that gets its
-# first Q_OBJECT later would need CMake to be run again.
+# Disables CMake's search for input of moc, uic and rcc if no file has any, because it takes as long
+# as compiling a file. Only with MORVANTILE_QUICK_BUILD: if a file gets its first Q_OBJECT later,
+# CMake has to be run again.
 function(morvantile_spare_moc target)
   if(NOT MORVANTILE_QUICK_BUILD)
     return()
@@ -76,15 +76,15 @@ endfunction()
 
 # morvantile_add_library(NAME SOURCES file… [PRIVATE_HEADERS file…] [HEADER_ROOT folder]
 #                        [PUBLIC lib…] [PRIVATE lib…] [PRECOMPILED common|widget])
-# One library for one folder, or for a part of it; static, or an interface if it has headers only.
-# It may link only what stands below it. What links it finds the headers among its SOURCES, by their
-# paths from HEADER_ROOT (the root of the project).
+# A library for a folder or a part of it: static, or an interface library if it only has headers. It
+# may link only what is below it. Targets that link it find the headers among its SOURCES, by their
+# paths relative to HEADER_ROOT (the root of the project).
 #
-# The PRIVATE_HEADERS are found by the library itself, by their paths from the root of the project,
-# and by what links NAME_private: its closest neighbours and the tests of its inner parts. That
-# brings the PRIVATE libraries too, whose headers may be included there.
+# The PRIVATE_HEADERS are found, by their paths relative to the root of the project, by the library
+# itself and by targets that link NAME_private: its closest neighbours and the tests of its
+# internals. NAME_private also provides the PRIVATE libraries, whose headers may be included there.
 #
-# PRECOMPILED says which precompiled headers are made part of each source.
+# PRECOMPILED selects the precompiled headers for the sources.
 function(morvantile_add_library name)
   cmake_parse_arguments(ARG "" "HEADER_ROOT;PRECOMPILED" "SOURCES;PRIVATE_HEADERS;PUBLIC;PRIVATE" ${ARGN})
   if(NOT ARG_HEADER_ROOT)
@@ -116,7 +116,7 @@ function(morvantile_add_library name)
 endfunction()
 
 # morvantile_add_executable(NAME SOURCES file… LIBS lib…)
-# A program. It finds the headers among its own SOURCES and those of what it links.
+# A program. It finds the headers among its own SOURCES and those of the libraries that it links.
 function(morvantile_add_executable name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
   set(folder "${MORVANTILE_INCLUDE_DIR}/${name}")
@@ -129,7 +129,7 @@ function(morvantile_add_executable name)
   target_link_libraries(${name} PRIVATE morvantile_settings ${ARG_LIBS})
 endfunction()
 
-# Tests of a sanitizer's build say so in their names, since ./test.sh runs all builds as one suite.
+# Tests of a sanitizer's build have it in their names, since ./test.sh runs all builds as one suite.
 if(MORVANTILE_SANITIZE MATCHES "thread")
   set(MORVANTILE_TEST_SUFFIX ".tsan")
 elseif(MORVANTILE_SANITIZE)
@@ -137,8 +137,8 @@ elseif(MORVANTILE_SANITIZE)
 endif()
 
 # morvantile_run_moc(TARGET file…)
-# Has moc run on the test's own file, which includes the outcome, and on the headers that need it.
-# CMake's search for what needs moc takes longer than compiling a short test.
+# Runs moc on the test's own file, which includes the result, and on the headers that need it.
+# CMake's search for input of moc takes longer than compiling a short test.
 function(morvantile_run_moc target test)
   set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
   get_filename_component(name "${test}" NAME_WE)
@@ -161,15 +161,15 @@ endfunction()
 # morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [MEDIA] [EXHAUSTIVE] [OPTIMISED]
 #                     [CORE_ONLY] [LABELS label…] [TIMEOUT s])
 # One Qt Test program for one class: FOLDER/NAME.cpp. MEDIA makes the sample videos first.
-# EXHAUSTIVE is a test that asks for the frames of all samples one by one. Sanitizers do without it:
-# for the time it takes they would see nothing that the tests beside it do not show them.
-# OPTIMISED is one that has to run in a release build as well: the optimiser may change its outcome,
-# it measures time or limits memory, or it does less under sanitizers. Without MORVANTILE_ALL_TESTS a
-# release build has these and the exhaustive ones alone.
-# CORE_ONLY is one that is built without Qt::Gui, and so without the precompiled headers.
-# It runs on the offscreen platform, in no country's language, with a home of its own.
-# The label `threads` marks a test of what runs in several threads: thread sanitizer runs these
-# alone, for Qt's own libraries are not built for it and the other tests would tell it nothing.
+# EXHAUSTIVE is a test that requests the frames of all samples one by one. Sanitizers skip it: it
+# takes too long for what they would find beyond the other tests.
+# OPTIMISED is a test that must also run in a release build: the optimiser may change its result, it
+# measures time or limits memory, or sanitizers cover less of it. Without MORVANTILE_ALL_TESTS a
+# release build contains only these and the exhaustive ones.
+# CORE_ONLY is a test that is built without Qt::Gui, and so without precompiled headers.
+# Tests run on the offscreen platform, in a neutral locale, with a home folder of their own.
+# The label `threads` marks tests of multi-threaded code. Thread sanitizer runs only these, because
+# Qt's own libraries are not instrumented and the other tests would find nothing.
 function(morvantile_add_test path)
   cmake_parse_arguments(ARG "MEDIA;EXHAUSTIVE;OPTIMISED;CORE_ONLY" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   if(MORVANTILE_SANITIZE AND ARG_EXHAUSTIVE)
@@ -184,7 +184,7 @@ function(morvantile_add_test path)
   get_filename_component(name "${path}" NAME)
   morvantile_add_executable(${name} SOURCES ${path}.cpp ${ARG_SOURCES} LIBS ${ARG_LIBS} Qt::Test)
   morvantile_run_moc(${name} ${path}.cpp ${ARG_SOURCES})
-  # Qt 6 tells each test where it was built, and what was precompiled elsewhere does not fit.
+  # Qt 6 passes each test its build folder, so headers precompiled elsewhere do not match.
   if(MORVANTILE_QUICK_BUILD AND NOT ARG_CORE_ONLY AND MORVANTILE_QT EQUAL 5)
     target_precompile_headers(${name} REUSE_FROM morvantile_test_support)
   endif()
@@ -199,7 +199,7 @@ function(morvantile_add_test path)
     set_property(TEST ${test} PROPERTY FIXTURES_REQUIRED media)
   endif()
   if(ARG_TIMEOUT)
-    # The longest begin first, so that none of them is left alone at the end.
+    # The longest start first, so that none of them remains alone at the end.
     set_tests_properties(${test} PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_TIMEOUT})
   endif()
 endfunction()

@@ -27,9 +27,9 @@ from tests.e2e.driver.desktop import Desktop  # noqa: E402
 from tests.e2e.driver.program import Program  # noqa: E402
 from tests.e2e.driver.waiting import wait_until  # noqa: E402
 
-# Of the main window with a video.
+# Size of the main window with a video.
 SIZE = (1120, 700)
-# What the matrix is made of: themes, sizes of the window, of fonts, and directions of writing.
+# The dimensions of the matrix: themes, sizes of the window and of fonts, layout directions.
 THEMES = ("dark", "light")
 SIZES = ((800, 600), (1280, 800), (2560, 1600))
 FONT_SCALES = (1, 1.5)
@@ -37,7 +37,7 @@ DIRECTIONS = {"": (), "-reverse": ("-reverse",)}
 USUAL_DPI = 96
 # Larger than the largest window.
 MATRIX_SCREEN = (2600, 1700)
-# Two pictures of a window are the same when it has stopped moving.
+# A window has stopped changing when successive screenshots are equal.
 STILL_TIMES = 15
 
 
@@ -103,7 +103,7 @@ def take_profiles(photographer):
     program.window("Watermark Settings")
     program.click("text", "Watermark text")
     desktop.type("Morvantile")
-    # Out of the way of the times in the sample.
+    # Does not cover the times in the sample.
     program.click("combo box", "Bottom Right")
     desktop.key("Home", "Down", "Down", "Return")
     photographer.take("watermark-text", "Watermark Settings")
@@ -185,7 +185,8 @@ class MatrixEntry:
         files = ", ".join(str(file) for file in recent)
         settings = f"[General]\ntheme={self.theme}\nrecentFiles={files}\n"
         (folder / "Morvantile.conf").write_text(settings, encoding="utf-8")
-        # Of the fonts alone: by itself, Qt would take a finer screen for one of more pixels.
+        # Only the fonts are scaled: by default, Qt would scale everything for a screen of higher
+        # density.
         dpi = str(round(USUAL_DPI * self.scale))
         environment = {"QT_FONT_DPI": dpi, "QT_ENABLE_HIGHDPI_SCALING": "0"}
         return Program(desktop, home, DIRECTIONS[self.direction], environment)
@@ -240,7 +241,7 @@ def main():
 
 def take_guide():
     desktop = Desktop.shared()
-    # Seen in the pictures, so it bears a name for people.
+    # Visible in the pictures, so it has a readable name.
     videos = pathlib.Path(tempfile.gettempdir(), "Videos")
     videos.mkdir()
     try:
