@@ -23,7 +23,7 @@ bool never()
     return false;
 }
 
-/// So many packets at most take a decoder at work to its next frame.
+/// Maximum number of packets for the next frame of a decoder that is already running.
 constexpr int FewPackets = 20;
 
 /// A source in a video whose key frames are 250 frames apart, and the frame on screen.
@@ -45,7 +45,7 @@ struct LongGroups
         source.setFocus(frame.timestamp());
     }
 
-    /// Steps, and counts the packets that this takes.
+    /// Steps, and counts the packets needed.
     FrameResult step(FrameResult (FrameSource::*direction)(double, const QtAV::IsCancelled&))
     {
         packets = 0;
@@ -58,7 +58,7 @@ struct LongGroups
         return found;
     }
 
-    /// Fills until there is no more to do, or so many packets have been taken.
+    /// Fills until nothing is left to do, or this many packets have been read.
     void fill(int mostPackets = 1000000, FrameSource::Rest rest = FrameSource::longestRest)
     {
         packets = 0;
@@ -75,7 +75,7 @@ struct LongGroups
     int packets = 0;
 };
 
-/// For the frames of that video: few as they were decoded, and many that are scaled down.
+/// For the frames of that video: few as decoded, and many scaled down.
 constexpr qint64 smallFrames = 2 << 20;
 
 /// Room for few frames, so that most of them are decoded again.
@@ -86,7 +86,7 @@ qint64 smallCache(const VideoFrame& frame)
 
 } // namespace
 
-/// Which frame is found, for every format: recognized by the number in its picture.
+/// Which frame is found, for every format, identified by the number in its picture.
 class FrameSourceTest : public QObject
 {
     Q_OBJECT
@@ -235,7 +235,7 @@ void FrameSourceTest::preparing_waits_untilTheUserRests()
     QVERIFY(!FrameSource::nextRest(FrameSource::longestRest));
 }
 
-/// The next frames come into the cache; the reader goes back only when the user rests long.
+/// The next frames are cached; the reader goes back only when the user rests long.
 void FrameSourceTest::preparing_keepsForward_afterAStepForward()
 {
     LongGroups opened(9000);
@@ -261,7 +261,7 @@ void FrameSourceTest::smallFrames_areMetOnceEach_toTheEndAndBack_data()
         QTest::newRow(file) << QString::fromLatin1(file);
 }
 
-/// With so little memory that only small frames fit, and steps that find what was prepared.
+/// With memory only for small frames, and steps that find what was prepared.
 void FrameSourceTest::smallFrames_areMetOnceEach_toTheEndAndBack()
 {
     QFETCH(QString, file);
@@ -412,7 +412,7 @@ void FrameSourceTest::cache_takesNoMoreThanAllowed()
 void FrameSourceTest::cancelledSearch_givesNoFrame_andTheNextOneIsRight()
 {
     for (const int packets : {0, 1, 5, 50, 100}) {
-        // Opened anew: what is in the cache needs no search.
+        // Reopened, because cached frames need no search.
         FrameSource source;
         QString error;
         QVERIFY(source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")),
@@ -456,8 +456,8 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack_data(
     }
 }
 
-/// Which frames a damaged file still gives depends on where decoding starts; that going through it
-/// comes to its end, and back to its start, does not.
+/// Which frames a damaged file gives depends on where decoding starts, but reading it always
+/// reaches its end, and going back its start.
 void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
 {
     QFETCH(QString, file);
@@ -480,7 +480,7 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
     const double last = source.frameAt(3600000, never).frame.timestamp();
     QCOMPARE(last, time);
     QVERIFY(forwards > 1);
-    // What is done meanwhile comes to its end as well.
+    // Background work reaches its end as well.
     int prepared = 0;
     while (source.prepare(FrameSource::longestRest, never))
         QVERIFY(++prepared <= 10 * sample.frames);

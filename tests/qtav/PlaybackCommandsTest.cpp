@@ -7,7 +7,7 @@ using Direction = PlaybackCommands::Direction;
 
 namespace {
 
-/// How many steps are taken until none waits; those backward count negative.
+/// Number of steps taken until none waits; backward steps count negative.
 int takeSteps(PlaybackCommands& commands)
 {
     int steps = 0;
