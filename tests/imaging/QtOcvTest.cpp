@@ -18,7 +18,7 @@ QImage filledImage(QImage::Format format, QRgb color, const QSize& size = QSize(
     return image.convertToFormat(format);
 }
 
-/// A picture in which no pixel is like its neighbours, of an odd width.
+/// A picture of odd width in which every pixel differs from its neighbours.
 QImage variedImage(QImage::Format format)
 {
     QImage image(7, 5, QImage::Format_ARGB32);
@@ -193,8 +193,8 @@ private slots:
         QVERIFY(QtOcv::imageToMat(QImage(), CV_8UC4, QtOcv::Bgr).empty());
     }
 
-    /// The table of formats, seen by what the matrix holds: one channel of grey or index, three of
-    /// an opaque picture, four straight or premultiplied.
+    /// The table of formats, as visible in the matrix: one channel of grey or index, three of an
+    /// opaque picture, four straight or premultiplied.
     void imageToMat_takesTheClosestFormat_data()
     {
         QTest::addColumn<QImage::Format>("format");
@@ -422,8 +422,8 @@ private slots:
             QTest::addRow("four, order %d, RGB888", order)
                 << CV_8UC4 << order << QImage::Format_RGB888 << QImage::Format_RGB888 << opaque;
         }
-        // The hint cannot hold four channels: the samples are laid out B, G, R, A, and read R, G,
-        // B, A.
+        // The hint cannot hold four channels: the samples are laid out as B, G, R, A and read as R,
+        // G, B, A.
         QTest::newRow("four, rgb, RGB888 exchanges") << CV_8UC4 << rgb << QImage::Format_RGB888
                                                      << QImage::Format_RGB888 << qRgb(50, 100, 200);
         for (const int order : {bgr, rgb}) {
@@ -519,7 +519,7 @@ private slots:
     }
 
 private:
-    /// What a coarse format's pixel is after Qt has taken it to the format it belongs to.
+    /// A coarse format's pixel after Qt's conversion to the corresponding format.
     static Values coarsePixel(const QImage& image)
     {
         const auto argbValues = [](const QImage& converted) {

@@ -18,7 +18,7 @@ namespace {
 const QString fileName = QStringLiteral("Test.ini");
 const QString lastUsedKey = QStringLiteral("lastUsedPofileId");
 
-/// Translates the one text of the manager.
+/// Translates the manager's only text.
 class OneTextTranslator : public QTranslator
 {
 public:
@@ -47,7 +47,7 @@ class ProfileManagerTest : public QObject
     Q_OBJECT
 
 private:
-    // Made anew for every case.
+    // Created again for every case.
     std::unique_ptr<TestHome> m_home;
     std::unique_ptr<ProfileKeeper> m_keeper;
 
@@ -483,7 +483,7 @@ private slots:
         QVERIFY(QDir(filePath()).isEmpty());
     }
 
-    // A link into a folder that is not there can be written by nobody, not even by root.
+    // Nobody, not even root, can write through a link into a folder that does not exist.
     void fileThatCannotBeWritten_isIgnored()
     {
         QVERIFY(QDir().mkpath(QFileInfo(filePath()).path()));

@@ -14,7 +14,7 @@ using QtAV::SoundThread;
 
 namespace {
 
-/// A time after which a device that has been held up is given up.
+/// Waits until a blocked device has been abandoned.
 void waitUntilItIsGivenUp()
 {
     QTest::qWait(int(SoundThread::LongestWork.count()));
@@ -22,7 +22,7 @@ void waitUntilItIsGivenUp()
 
 } // namespace
 
-/// Players with sound devices that do not return from a function for as long as a test wants.
+/// Players with sound devices whose functions block as long as a test wants.
 class SoundThreadTest : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp_data()
     QTest::newRow("when it stops") << false;
 }
 
-/// Without sound at first, which comes back on another thread when it is wanted anew.
+/// Initially without sound, which returns on another thread when it is requested again.
 void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp()
 {
     QFETCH(bool, atStart);
@@ -119,7 +119,7 @@ void SoundThreadTest::threads_areFew_whenAllDevicesHoldThemUp()
         for (SoundPlayer& player : players)
             player.play(1.0);
         QCOMPARE(SoundThread::count(), SoundThread::Most);
-        // Who was let go does what was wished in the meantime.
+        // An unblocked worker carries out the latest request.
         devices.record.start.open();
         QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 2 * SoundThread::Most, Patience);
     }

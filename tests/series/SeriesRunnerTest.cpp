@@ -24,7 +24,7 @@ using testsupport::Trait;
 
 namespace {
 
-/// Keeps all that it is given.
+/// Stores everything that it receives.
 class Record : public SeriesOutput
 {
 public:
@@ -81,7 +81,7 @@ bool neverCancelled()
     return false;
 }
 
-/// Pictures as they are, not encoded.
+/// Pictures as images, not encoded.
 SeriesJob jobFor(const QString& file, const FramePositions& positions)
 {
     SeriesJob job;
@@ -148,7 +148,7 @@ QStringList listed(std::initializer_list<int> frames)
     return all;
 }
 
-/// The frames at or after positions, none twice.
+/// The frames at or after positions, without duplicates.
 QStringList expectedAt(const Sample& sample, const QList<qint64>& positions)
 {
     QStringList all;
@@ -293,7 +293,7 @@ void SeriesRunnerTest::lastFrame_comes_forEverySample()
              QStringList{QString::number(sample.firstNumber + sample.frames - 1)});
 }
 
-/// Three colours of two seconds each, beside a number that changes with every frame.
+/// Three colours of two seconds each, with a number that changes on every frame.
 void SeriesRunnerTest::scenes_beginWhereTheContentChanges()
 {
     Record record;
@@ -451,7 +451,7 @@ void SeriesRunnerTest::brokenVideos_endWithAnError_andOthersGoOn()
     QVERIFY(!record.of(6).isEmpty());
 }
 
-/// Cut to nothing while it is read.
+/// Truncated to nothing while being read.
 void SeriesRunnerTest::vanishingVideos_failTheirPictures_andOthersGoOn()
 {
     const testsupport::TestDir dir;
@@ -492,7 +492,7 @@ void SeriesRunnerTest::nothing_isTaken_whenCancelledBefore()
     QVERIFY(record.pictures.isEmpty());
 }
 
-/// The first picture holds up all that come after it in another lane.
+/// The first picture delays all later ones of other lanes.
 void SeriesRunnerTest::contentOfWaitingPictures_canBeStored()
 {
     const QByteArray mark("stored");

@@ -20,7 +20,7 @@ namespace {
 
 const QString shortSample = QStringLiteral("h264_bframes.mp4");
 
-/// What another program reads in a picture, by group and name as in "EXIF:Make".
+/// What another program reads from a picture, by group and name as in "EXIF:Make".
 QJsonObject tagsOf(const QString& path)
 {
     const ProgramResult result = testsupport::runProgram(
@@ -37,7 +37,7 @@ QString text(const QJsonObject& tags, const char* key)
     return tags.value(QLatin1String(key)).toVariant().toString();
 }
 
-/// Takes one picture of a video into the folder; its path, or an empty text.
+/// Takes one picture of a video into the folder; returns its path, or an empty text.
 QString takeOne(const QString& video, const QStringList& options, const QString& folder)
 {
     const ProgramResult result =

@@ -22,16 +22,16 @@ using testsupport::Sample;
 
 namespace {
 
-/// How much is decoded for one row, in frames of 320x240, when each frame is to be had at its time:
+/// Limit on decoding for one row, in frames of 320x240, when each frame is requested at its time:
 /// all frames of most samples, some of those with long groups of pictures.
 constexpr int mostDecoded = 1700;
 constexpr int mostDecodedOnManyCores = 150;
-/// How many times less for what is asked beside that.
+/// Divisor of that limit for the other requests.
 constexpr int restShare = 5;
 
 constexpr int manyCores = 8;
 
-/// A grabber in a sample, and what it answered wrongly.
+/// A grabber in a sample, and its wrong answers.
 struct Grabbing
 {
     Grabbing(const Sample& asked, int precision)
@@ -41,7 +41,7 @@ struct Grabbing
         grabber.setSource(testsupport::samplePath(sample.file));
     }
 
-    /// Asks for a position at which only the n-th frame is right.
+    /// Requests a position at which only the n-th frame is right.
     void expectFrame(qint64 ms, int n)
     {
         extractor.extract(ms);
@@ -57,8 +57,9 @@ struct Grabbing
 
 } // namespace
 
-/// Whether any frame of any sample cannot be had, or another one comes out in its place, however
-/// many threads decode. FrameGrabberSamplesTest has the frames near key frames in more ways.
+/// Checks that every frame of every sample can be extracted, and that no other frame comes instead,
+/// with any number of decoding threads. FrameGrabberSamplesTest covers the frames near key frames
+/// in more ways.
 class EveryFrameTest : public QObject
 {
     Q_OBJECT
@@ -108,7 +109,7 @@ void EveryFrameTest::extract_givesEachFrame_atItsTime()
     QVERIFY2(grabbing.mistakes.isEmpty(), qPrintable(grabbing.mistakes.text()));
 }
 
-/// By turns the first millisecond behind its predecessor, and the last one before it.
+/// Alternately the first millisecond behind its predecessor, and the last one before it.
 void EveryFrameTest::extract_givesEachFrame_shortlyBeforeItsTime()
 {
     QFETCH(const QString, file);
@@ -139,7 +140,7 @@ void EveryFrameTest::extract_givesTheLastFrame_behindIt()
     QVERIFY2(grabbing.mistakes.isEmpty(), qPrintable(grabbing.mistakes.text()));
 }
 
-/// A key frame will do on either side; any other frame has to be the first one from there on.
+/// A key frame is accepted on either side; any other frame must be the first one from there on.
 bool EveryFrameTest::isAllowed(const Grabbing& grabbing, qint64 ms)
 {
     const auto got = grabbing.extractor.frame();

@@ -20,7 +20,7 @@ using testsupport::Trait;
 
 namespace {
 
-/// The key frame that a seek finds, counted among the shown frames; -1 for one that is never shown.
+/// The key frame that a seek finds, as an index of shown frames; -1 for one that is never shown.
 int keyFrameFor(const Sample& sample, qint64 target)
 {
     const QList<int> keys = testsupport::keyFrames(sample);
@@ -34,7 +34,7 @@ int keyFrameFor(const Sample& sample, qint64 target)
     return found < 0 && !hiddenKey && !keys.isEmpty() ? keys.first() : found;
 }
 
-/// The shown frame that must come out, counted from 0.
+/// The expected frame, as an index of shown frames.
 int expectedFrame(const Sample& sample, qint64 target, int precision)
 {
     const int key = keyFrameFor(sample, target);
@@ -50,7 +50,7 @@ QString expectedAnswer(const Sample& sample, qint64 target, int precision)
     return text(decoding::expected(sample, expectedFrame(sample, target, precision)));
 }
 
-/// An intra-refresh stream has no whole picture near most of its key packets: the first one may
+/// An intra-refresh stream has no complete picture near most of its key packets: the first one may
 /// come later, within tolerance or not, but never before the target.
 bool isAnswer(const Sample& sample, const Extractor& extractor, qint64 target, int precision)
 {
@@ -67,7 +67,7 @@ bool isAnswer(const Sample& sample, const Extractor& extractor, qint64 target, i
     return late >= 0 && late <= precision;
 }
 
-/// Frames worth asking for: the first and last ones, and those around the key frames.
+/// The most relevant frames: the first and last ones, and those around the key frames.
 QList<int> interestingFrames(const Sample& sample)
 {
     QSet<int> frames{0, 1, sample.frames / 2, sample.frames - 2, sample.frames - 1};
@@ -90,7 +90,7 @@ QList<int> interestingFrames(const Sample& sample)
     return list;
 }
 
-/// Positions at and just before the interesting frames; each has a frame in reach.
+/// Positions at and just before these frames; each has a frame within reach.
 QList<qint64> interestingTargets(const Sample& sample, int precision)
 {
     QList<qint64> targets;
@@ -103,7 +103,7 @@ QList<qint64> interestingTargets(const Sample& sample, int precision)
     return targets;
 }
 
-/// Every fourth of the positions, jumping to and fro.
+/// Every fourth of the positions, alternating between both ends.
 QList<qint64> shuffled(const QList<qint64>& targets)
 {
     QList<qint64> result;
@@ -193,7 +193,7 @@ void FrameGrabberSamplesTest::extract_givesTheRightFrame_withSmallPrecision()
     checkTargets(sample, grabber, shuffled(interestingTargets(sample, 8)));
 }
 
-/// Whatever was extracted before, since later extractions decode less before their target.
+/// Regardless of earlier extractions, since later ones decode less before their target.
 void FrameGrabberSamplesTest::extract_givesTheLastFrame_pastTheEnd()
 {
     QFETCH(const QString, file);

@@ -52,7 +52,7 @@ void endBatch(BatchProcessingDialog& dialog)
     button.click();
 }
 
-/// Drops files on the list: what the list does not take goes on to the dialog.
+/// Drops files on the list, which passes them on to the dialog.
 bool drop(const ModeDialog& mode, const QList<QUrl>& urls)
 {
     QMimeData data;
@@ -100,7 +100,7 @@ private Q_SLOTS:
 
 void BatchModeDialogFilesTest::initTestCase()
 {
-    // File dialogs of the platform cannot be driven.
+    // The platform's native file dialogs cannot be driven.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
 }
 
@@ -308,7 +308,7 @@ void BatchModeDialogFilesTest::savedImageProfile_goesIntoTheSelectedJobs()
     QCOMPARE(mode.comboText("imageProfileComboBox"), QStringLiteral("Small"));
 }
 
-/// The button is for one profile alone, so this goes around it.
+/// The button requires a common profile, so this bypasses it.
 void BatchModeDialogFilesTest::cancelledImageProfile_changesNothing_whereJobsDiffer()
 {
     ModeDialog mode;
@@ -355,7 +355,7 @@ void BatchModeDialogFilesTest::start_runsAllJobs_andKeepsTheList()
     QCOMPARE(mode.selectedRows(), QList<int>{0});
 }
 
-/// One image of many is a single shot, which the worker makes of it.
+/// One image of many is a single shot, and the worker converts it.
 void BatchModeDialogFilesTest::start_showsIntervalsThatWereCorrected()
 {
     ModeDialog mode;

@@ -16,7 +16,7 @@ QString multiple()
 
 } // namespace
 
-/// Intervals and skips: what is typed, and what is taken back.
+/// Intervals and skips: typed values, and reverted ones.
 class BatchModeDialogNumbersTest : public QObject
 {
     Q_OBJECT

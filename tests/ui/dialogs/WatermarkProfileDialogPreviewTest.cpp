@@ -28,7 +28,7 @@ using testsupport::TestProfiles;
 namespace {
 
 constexpr QSize ViewSize{400, 300};
-/// Twice what the dialog waits before it renders.
+/// Twice the dialog's delay before it renders.
 constexpr int AWhileMs = 400;
 constexpr int PatienceMs = 20000;
 
@@ -49,7 +49,7 @@ QImage shown(const WatermarkProfileDialog& dialog)
     return testsupport::paintedAt(child<ImageView>(dialog, "watermarkPositioner"), ViewSize);
 }
 
-/// What the preview looks like when it shows this image.
+/// The appearance of the preview for this image.
 QImage asShown(const QImage& image)
 {
     ImageView view;
@@ -185,7 +185,7 @@ void WatermarkProfileDialogPreviewTest::samplePicture_isShown_untilThereIsAFrame
     const TestProfiles profiles;
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(nullptr);
-    // Opaque, also when it is darkened.
+    // Opaque, even if it is darkened.
     const QImage sample =
         QImage(textOf(":/Images/watermarkBackground.jpg")).convertToFormat(QImage::Format_RGB888);
     QVERIFY(!sample.isNull());

@@ -23,8 +23,8 @@ void ModalScript::look()
     if (m_answering || !modal || !modal->isVisible())
         return;
     if (!m_steps.empty() && m_steps.front().fits(*modal)) {
-        // Not from here: a timer does not fire while it is being answered, and the answer may open
-        // the next dialog.
+        // Not from here: a timer does not fire while its slot runs, and the slot may open the next
+        // dialog.
         m_answering = true;
         QMetaObject::invokeMethod(this, &ModalScript::answerNext, Qt::QueuedConnection);
     } else if (m_sinceProgress.hasExpired(PatienceMs)) {
