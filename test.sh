@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs what is missing, then builds and runs all tests: of the sources themselves, under the
-# sanitizers and in release. Ends with CTest's summary; fails when anything failed.
-# Where address sanitizer runs a test, release runs it too only if the optimiser could matter to it.
+# Installs missing packages, then builds and runs all tests: of the sources themselves, under the
+# sanitizers and in release. Ends with CTest's summary; fails if anything failed. Tests that run
+# under address sanitizer run in release only if the optimiser could matter to them.
 #   ./test.sh                              everything
 #   ./test.sh PRESET…                      only these of release, asan, tsan and qt6 (which is
 #                                          release with Qt 6, and is not among everything)
@@ -33,15 +33,15 @@ ensure_packages "${sections[@]}"
 
 for preset in "${presets[@]}"; do
     say "== Building: $preset"
-    # Without precompiled headers a file has to include what it uses: the shorter run sees to that.
+    # Without precompiled headers a file has to include what it uses, which the shorter run checks.
     configure "$preset" -DMORVANTILE_BUILD_TESTS=ON -DMORVANTILE_WERROR=ON \
         -DMORVANTILE_DESKTOP_TESTS=$desktop_tests -DMORVANTILE_QUICK_BUILD=$desktop_tests \
         -DMORVANTILE_ALL_TESTS=$all_tests
-    # Thread sanitizer runs few of the tests, and they need few of the libraries.
+    # Thread sanitizer runs few of the tests, which need few of the libraries.
     if [[ $preset == tsan ]]; then build tsan tests/all; else build "$preset" all; fi
 done
 
-# One CTest run over all build folders, so that one summary tells of them all.
+# One CTest run over all build folders, so that there is a single summary.
 suite=$root/build/suite
 mkdir -p "$suite"
 {

@@ -4,12 +4,12 @@
     compare.py [--build build/release] [--media build/bench-media] [--positions N] [--width W]
                [--video NAME]...
 
-All take the same positions and write a JPEG file of the same width, in turn, so that whatever else
-happens on the machine happens to all:
+All take the same positions and write a JPEG file of the same width, in turn, so that other load on the
+machine affects all of them:
 
 - ours: one `extract_frames` keeps the video open in one FrameGrabber; it measures the extraction
   alone, and the whole way to the file (conversion, INTER_AREA, JPEG with quality 90);
-- ffmpeg: one process for each position, `-ss T -i VIDEO -frames:v 1`, from its start to its end
+- ffmpeg: one process per position, `-ss T -i VIDEO -frames:v 1`, from its start to its end
   (in a transport stream `-ss T-0.8 -i VIDEO -ss 0.8`);
 - ffmpegthumbnailer: one process for each position, `-t HH:MM:SS`. It goes by whole seconds and
   takes a key frame near them, so it does less than the others; its figures are for orientation.
@@ -36,7 +36,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
 class Video:
-    """A benchmark video: how far its key frames are apart, and which positions are asked for."""
+    """A benchmark video: the distance of its key frames, and the requested positions."""
 
     def __init__(self, name, frames, gop, positions, behind, goal=None, precision=None, lead=0):
         self.name = name

@@ -4,9 +4,9 @@
     compare_player.py [--build build/release] [--media build/bench-media] [--video NAME]...
                       [--positions N] [--steps N] [--opengl]
 
-Both show the same video in windows of the same size on one virtual screen and are asked for the same
-frames in turn; each waits until the other has come to rest, so that what one does in the background
-is not charged to the other. Both are paused except where playing is measured.
+Both show the same video in windows of the same size on one virtual screen, and get the same requests in
+turn. Each waits until the other is idle, so that background work of one does not affect the other. Both
+are paused except for measuring playback.
 
 - ours: `player_times`, the library's player with its window, from the command to the answer;
 - mpv: through its IPC socket, from the command to `playback-restart`, after a step forward to the new
@@ -43,8 +43,8 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
 class Hold:
-    """Holding the key for steps back: from how many positions, how many steps, and what we aim at:
-    steps a second, and the milliseconds of the longest."""
+    """Holding the key for steps back: the number of positions and steps, and the goals: steps per
+    second, and the milliseconds of the longest."""
 
     # Rest after a seek, in which the player may prepare.
     REST = 2.0

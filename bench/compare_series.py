@@ -3,14 +3,14 @@
 
     compare_series.py [--build build/release] [--media build/bench-media] [--runs N] [--case NAME]...
 
-All write the same pictures as JPEG files, in turn, so that whatever else happens on the machine
-happens to all; the video is in the page cache. Each time is that of the whole program, from its start
-to its end; quoted are the medians, and the ratio to the quickest of the others.
+All write the same pictures as JPEG files, in turn, so that other load on the machine affects all of
+them; the video is in the page cache. Each time is that of the whole program, from its start to its end.
+The output has the medians, and the ratio to the fastest of the others.
 
-- ours: `stills`, with its defaults but for the positions;
+- ours: `stills`, with its defaults except for the positions;
 - ffmpeg, one process for all pictures: it decodes the whole video with all cores, and `select` picks
   the frames;
-- ffmpeg, one process a picture: `-ss T -i VIDEO -frames:v 1`, which seeks to the key frame before the
+- ffmpeg, one process per picture: `-ss T -i VIDEO -frames:v 1`, which seeks to the key frame before the
   position; two of these at a time, each with one decoding thread;
 - mpv, one process for all pictures of a dense series, or one a picture: `--start=T --frames=1`;
 - FFMS2, `ffms_series`: makes its index of the video, then takes each frame by its number.
@@ -43,7 +43,7 @@ LANES = os.cpu_count() or 1
 
 
 class Case:
-    """A series: its video, the positions in milliseconds, what `stills` is told, and our goal."""
+    """A series: its video, the positions in milliseconds, the options of `stills`, and our goal."""
 
     def __init__(self, name, video, options, positions, goal, peers):
         self.name = name

@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""Says where a batch job spends its processor time.
+"""Reports where a batch job spends its processor time.
 
     profile_batch.py [--cli build/release/app/morvantile-cli] [--count N] [--top N] VIDEO
 
 Runs one job of the command line under `perf record` and prints the shares of libraries and of
-functions, the hottest first, from its start to its end and in all threads. Debian's libraries bear
-no symbols for their inner functions: these are told apart by the table that unwinding the stack
-needs, and named by their address; what is in no such table is hand-written assembly. The job's
-pictures go into a temporary folder. Needs perf (package linux-perf) and readelf (binutils).
+functions, the hottest first, from its start to its end and in all threads. Debian's libraries have no
+symbols for their internal functions: these are identified by the table for unwinding the stack, and
+named by their address; hand-written assembly is in no such table. The job's pictures go into a
+temporary folder. Needs perf (package linux-perf) and readelf (binutils).
 """
 
 import argparse

@@ -5,8 +5,8 @@
         --benchmark_out=results.json --benchmark_out_format=json
     ratios.py results.json
 
-The ratios say what the program adds to the libraries that it stands on: each compares one of its
-benchmarks with the sum of bare library calls that do the same, measured in the same run.
+The ratios show the overhead over the underlying libraries: each compares a benchmark of the program
+with the sum of bare library calls that do the same, measured in the same run.
 """
 
 import json

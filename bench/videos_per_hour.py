@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Measures how many videos `stills` works through, for the table in docs/clusters.md.
+"""Measures how many videos `stills` processes, for the table in docs/clusters.md.
 
     videos_per_hour.py [--build build/release] [--media build/bench-media] [--videos N] [--runs N]
 
-Each run takes ten pictures, evenly spread and in full size, out of N videos in one call: links to one
-of 60 seconds, which is in the page cache. The videos take turns, so that whatever else happens on the
-machine happens to all. Quoted are the medians over the runs. The last two columns are computed from
-the processor time, which changes least where the machine has other things to do.
+Each run takes ten pictures, evenly spread and in full size, from N videos in one call: links to one of
+60 seconds, which is in the page cache. The videos take turns, so that other load on the machine affects
+all of them. The output has the medians over the runs. The last two columns are computed from the
+processor time, on which other load has the least effect.
 """
 
 import argparse

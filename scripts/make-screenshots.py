@@ -1,10 +1,10 @@
 #!/usr/bin/python3
-"""Takes pictures of the running program, by keys and mouse.
+"""Takes screenshots of the running program, driven by keys and mouse.
 
-To be run by hand after a window changed, from any folder; takes a release build, and the packages
-that packages.txt lists for the tests. Without arguments these are the pictures of the user guide,
-which are written into docs/user-guide. `--matrix FOLDER` takes the main window in both themes, in
-several sizes, with larger fonts and from right to left, to be looked at.
+Run it by hand after a window changed, from any folder. It needs a release build, and the packages that
+packages.txt lists for the tests. Without arguments it makes the pictures of the user guide in
+docs/user-guide. `--matrix FOLDER` takes the main window in both themes, in several sizes, with larger
+fonts and from right to left, for inspection.
 """
 
 import argparse

@@ -1,4 +1,4 @@
-"""What a program tells those who use a screen reader."""
+"""The announcements of a program for users of screen readers."""
 
 import json
 import os
@@ -11,8 +11,8 @@ from tests.e2e.driver.waiting import wait_until
 
 
 class Announcements:
-    """Listens on the desktop, as a screen reader does: to notifications that show up, and to values
-    that change. To be used in a `with`.
+    """Listens on the desktop like a screen reader: to new notifications, and to changed values. Use it in
+    a `with`.
     """
 
     def __init__(self, desktop):

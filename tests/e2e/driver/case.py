@@ -1,4 +1,4 @@
-"""What all end-to-end tests have in common."""
+"""The basis of all end-to-end tests."""
 
 import contextlib
 import functools

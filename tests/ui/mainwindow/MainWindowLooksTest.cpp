@@ -26,12 +26,12 @@ namespace {
 
 constexpr int limitMs = 30000;
 
-/// The size of Qt's font on a desktop that names none.
+/// Qt's font size on a desktop that sets none.
 constexpr double usualPoints = 9.0;
 
 const QString clip = QStringLiteral("h264_bframes.mp4");
 
-/// The buttons of the recent files that can be seen.
+/// The visible buttons of the recent files.
 QList<QPushButton*> recentEntries(OpenWindow& window)
 {
     QList<QPushButton*> entries;
@@ -46,7 +46,7 @@ QList<QPushButton*> recentEntries(OpenWindow& window)
 
 } // namespace
 
-/// How the window guides the eye.
+/// Guidance in the window.
 class MainWindowLooksTest : public QObject
 {
     Q_OBJECT

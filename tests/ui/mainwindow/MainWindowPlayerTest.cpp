@@ -61,7 +61,7 @@ bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
     return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
 }
 
-/// Reads the profiles anew, as another start would.
+/// Reads the profiles again, like another start.
 void reloadProfiles(ProfileManager& manager, OpenWindow& window)
 {
     const QList<BaseProfile*> old = manager.profiles();
@@ -157,7 +157,7 @@ void MainWindowPlayerTest::stepField_goesToTheOtherMoment_ofAnInterlacedPicture(
     QVERIFY(waitForPosition(window.player(), 400));
 }
 
-/// The menu shows it and changes it, also in the file of the profiles.
+/// The menu shows and changes it, also in the file of the profiles.
 void MainWindowPlayerTest::deinterlacing_isThatOfTheSelectedProfile()
 {
     ProfileManager& manager = *ImageProfile::profileManager();
@@ -272,7 +272,7 @@ void MainWindowPlayerTest::slider_seeks_whenPaused()
     QVERIFY(window.player().isPaused());
     slider.setSliderPosition(50);
     slider.setSliderDown(false);
-    // Where the video is going, before its frame is there.
+    // The position being sought, before its frame is there.
     QCOMPARE(slider.value(), 50);
     QVERIFY(waitForPosition(window.player(), 1520));
     QTRY_COMPARE(slider.value(), 1520 / 30);

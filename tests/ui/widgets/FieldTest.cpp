@@ -24,7 +24,7 @@ using testsupport::EventCounter;
 
 namespace {
 
-/// A field over a widget of a kind, which it owns.
+/// A field for a widget of a type, which it owns.
 template <typename Widget>
 class Bound
 {
@@ -42,7 +42,7 @@ private:
     Field m_field;
 };
 
-/// A combo box with an item for each kind of data that the program uses: ids, types, numbers.
+/// A combo box with an item for each type of data that the program uses: ids, types, numbers.
 void addItems(QComboBox& box)
 {
     box.addItem(QStringLiteral("None"), QString());
@@ -51,7 +51,7 @@ void addItems(QComboBox& box)
     box.addItem(QStringLiteral("No data"));
 }
 
-/// Counts what a field reports.
+/// Counts the notifications of a field.
 class ChangeCounter
 {
 public:
