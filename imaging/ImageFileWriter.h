@@ -24,12 +24,11 @@ constexpr int DefaultQuality = -1;
 
 /// Writes the image to `fileName`.
 ///
-/// @param quality  0 (small file) to 100 (true picture), or DefaultQuality; above 100 counts as
-///     100. What it means is up to the format. JPEG keeps chroma in full resolution from 90 on; PNG
-///     loses nothing and is always compressed, the less the quicker.
-/// @return Failed for a null image, for a name whose suffix stands for no format that can be
-///     written (capitals do not matter), where memory for the encoded picture runs out, and where
-///     the file cannot be written.
+/// @param quality  0 (small file) to 100 (best picture), or DefaultQuality. Higher values count as
+///     100. Its effect depends on the format. JPEG keeps chroma in full resolution from 90 on; PNG
+///     is lossless and always compressed, with higher values less but faster.
+/// @return Failed for a null image, for a name whose suffix (case-insensitive) is not a writable
+///     format, if memory for the encoded picture runs out, and if the file cannot be written.
 ///
 /// The format is determined by the last suffix of the name.
 [[nodiscard]] WriteResult write(const QString& fileName, const QImage& image, int quality,

@@ -49,13 +49,13 @@ public:
 
     /// Writes the image unchanged to the file, replacing a file of that name.
     ///
-    /// The format is that of the file name's suffix. The image profile's quality is used where the
-    /// file-name profile's type is "jpg" or "jpeg", in capitals or not. The file never stands half
-    /// written under its name.
+    /// The format is that of the file name's suffix. The image profile's quality is used if the
+    /// file-name profile's type is "jpg" or "jpeg", case-insensitive. The file never exists
+    /// incompletely under its name.
     ///
-    /// @return false when the file was not written: the image is null, the suffix unknown, or there
-    ///     is no writing there. An existing file is unchanged then, unless it could only be written
-    ///     in place (see FilePublisher) and that failed on the way.
+    /// @return false if the file was not written: the image is null, the suffix unknown, or writing
+    ///     failed. An existing file is unchanged then, unless it could only be written in place
+    ///     (see FilePublisher) and that failed halfway.
     [[nodiscard]] bool saveImage(QString fileName, QImage image, ImageProfile* imageProfile,
                                  FileNameProfile* fileNameProfile);
 

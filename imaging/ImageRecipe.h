@@ -51,6 +51,7 @@ enum class ResizeLight {
     Linear,  ///< the light that samples stand for: fine bright details keep their brightness
 };
 
+/// How a picture is resized: filter and light.
 struct Resampling
 {
     ResizeFilter filter = ResizeFilter::Area;

@@ -14,6 +14,7 @@
 /// Stateless: all functions may be called concurrently from any thread.
 namespace imaging {
 
+/// The result of render(): an image or an error.
 struct Rendering
 {
     QImage image;  ///< null on failure

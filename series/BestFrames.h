@@ -21,6 +21,7 @@ struct BestFrame
     QImage picture; ///< a small picture of the frame
 };
 
+/// The result of a search for the best frames.
 struct BestFrames
 {
     QVector<BestFrame> frames; ///< in presentation order

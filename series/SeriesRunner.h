@@ -105,6 +105,7 @@ constexpr std::chrono::milliseconds usualPositionTimeout{60000};
 
 } // namespace series
 
+/// Resources and limits of a run.
 struct SeriesOptions
 {
     int lanes = 0;          ///< number of parallel decoders; 0 for one per core

@@ -12,6 +12,7 @@
 /// arguments before it loads any large library. Paths are the system's bytes.
 namespace stills {
 
+/// Width and height in pixels.
 struct Size
 {
     int width = 0;
@@ -41,12 +42,14 @@ struct Sheet
     std::optional<std::string> title; ///< replaces the default title; empty for none
 };
 
+/// The number-th of count equal shares of the videos.
 struct Shard
 {
     int number = 1; ///< from 1
     int count = 1;
 };
 
+/// All options of a run, with their defaults.
 struct Options
 {
     std::vector<std::string> videos;

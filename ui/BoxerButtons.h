@@ -7,6 +7,7 @@
 /// Shared by boxer's two back ends: the buttons of a box, and the result of each.
 namespace BoxerButtons {
 
+/// A button of a box and its result.
 struct Button
 {
     const char* title;

@@ -1,5 +1,5 @@
-// A player with a window, told on standard input what to do, one command a line. Each is answered
-// by one line of JSON once its picture has been painted:
+// A player with a window that reads commands from standard input, one per line. Each is answered by
+// one line of JSON once its picture has been painted:
 //
 //   open PATH        play() and pause(): up to the first frame
 //   stop

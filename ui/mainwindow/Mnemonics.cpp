@@ -101,7 +101,7 @@ QString Mnemonics::marked(const QString& text, QSet<QChar>& taken, const QString
 QString Mnemonics::plain(const QString& text)
 {
     static const QRegularExpression behind(QStringLiteral("\\(&\\w\\)"));
-    // Two stand for one that is shown, one for a letter that is marked.
+    // Two ampersands are shown as one; a single one marks the next letter.
     const QString both = QStringLiteral("&&");
     QStringList parts = text.split(both);
     for (QString& part : parts) {

@@ -42,17 +42,16 @@ public:
     /// and for a combo box without a current item.
     virtual QVariant value() const;
 
-    /// Shows the value in the widget, converted to what the widget takes. A combo box selects the
-    /// item whose data is the value as text, in the same letter case, or else no item; a radio
-    /// button is checked if the value is its choice value, and unchecked otherwise, so that none of
-    /// several is checked for a value that none stands for. An invalid
-    /// value shows as an empty text, 0, unchecked or no item. Texts are never taken for mark-up.
-    /// Widgets of other kinds stay as they are.
+    /// Shows the value in the widget, converted to the widget's type. A combo box selects the item
+    /// whose data equals the value as text, case-sensitively, or else no item. A radio button is
+    /// checked if the value is its choice value, otherwise unchecked, so that for an unknown value
+    /// none of several is checked. An invalid value shows as an empty text, 0, unchecked or no
+    /// item. Texts are never treated as rich text. Widgets of other kinds stay unchanged.
     virtual void setValue(const QVariant& value);
 
-    /// Calls `handler` whenever what the widget holds changes, through the user or the program; for
-    /// radio buttons only when the user clicks them. It ends when `context` is destroyed. Labels
-    /// report nothing.
+    /// Calls `handler` whenever the widget's content changes, by the user or the program; for radio
+    /// buttons only when the user clicks them. It ends when `context` is destroyed. Labels are not
+    /// reported.
     void whenChanged(const QObject* context, const std::function<void()>& handler) const;
 
 private:
