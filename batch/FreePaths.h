@@ -5,7 +5,7 @@
 #include <functional>
 
 /// The paths of a job's images in the order of their numbers, without existing ones. The number
-/// only rises, so that none is tried twice.
+/// only rises, so that none is tried twice. One thread at a time may use an object.
 class FreePaths
 {
 public:

@@ -4,7 +4,8 @@
 
 class BatchWorkerConfig;
 
-/// Which positions of a video a batch job takes. All times are in milliseconds.
+/// Which positions of a video a batch job takes. All times are in milliseconds. A plain value, made
+/// in the thread that runs the job.
 struct SamplingPlan
 {
     /// Determines the positions in a video of length `duration`. The job is not const because

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-/// Times as people read and type them: in seconds, down to the millisecond.
+/// Times as people read and type them: in seconds, down to the millisecond. From any thread.
 
 /// "5", "0.04" or "1.5", with the decimal point of the user's language and no superfluous digits.
 [[nodiscard]] QString secondsText(qint64 milliseconds);

@@ -21,7 +21,7 @@ struct FrameQuality
     double change = 0.0;
 };
 
-/// Measures frames in presentation order.
+/// Measures frames in presentation order. One thread at a time may use an object.
 class FrameJudge
 {
 public:

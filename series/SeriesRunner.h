@@ -126,7 +126,8 @@ namespace series {
 [[nodiscard]] qint64 defaultMemoryBytes();
 
 /// Runs until everything is done or cancelled. After cancellation, pictures that the output has not
-/// received are dropped. The calling thread works, too. Returns true unless cancelled.
+/// received are dropped. The calling thread, which may be any, works, too. Returns true unless
+/// cancelled.
 [[nodiscard]] bool run(const QVector<SeriesJob>& jobs, SeriesOutput& output,
                        const QtAV::IsCancelled& isCancelled, const SeriesOptions& options = {});
 
