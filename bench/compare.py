@@ -100,7 +100,7 @@ class Ours:
 
 
 def timed(command):
-    """How many milliseconds a program runs."""
+    """Run time of a program in milliseconds."""
     start = time.perf_counter()
     subprocess.run(command, check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
     return (time.perf_counter() - start) * 1000.0
@@ -127,7 +127,7 @@ def thumbnailer_command(path, position, width, output):
 
 
 def grey(path):
-    """A picture's grey levels, small enough to be compared quickly."""
+    """A picture's grey levels, small enough for a quick comparison."""
     command = ["ffmpeg", "-nostdin", "-loglevel", "error", "-i", str(path)]
     command += ["-vf", "scale=320:-2", "-f", "rawvideo", "-pix_fmt", "gray", "-"]
     return subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
@@ -140,7 +140,7 @@ def difference(a, b):
 
 
 def check_same_frame(video, path, frame, ours, width, folder):
-    """Raises unless ffmpeg takes the very frame that ours took."""
+    """Raises unless ffmpeg takes exactly the same frame as ours."""
     position = position_of(frame)
     time_ms, _, _, picture = ours.take(position)
     if not 0 <= time_ms - position < FRAME_MS:

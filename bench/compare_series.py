@@ -90,7 +90,7 @@ def run(command, **options):
 
 
 def run_by_twos(commands):
-    """All of them, as many at a time as there are cores."""
+    """Runs all of them, as many at a time as there are cores."""
     waiting = list(commands)
     running = []
     while waiting or running:
@@ -103,7 +103,7 @@ def run_by_twos(commands):
 
 
 class Peers:
-    """The others. Each function writes the pictures of a case into a folder."""
+    """The other programs. Each function writes the pictures of a case into a folder."""
 
     FFMPEG = ["ffmpeg", "-nostdin", "-loglevel", "error", "-y"]
     JPEG = ["-q:v", "3"]
@@ -136,7 +136,7 @@ class Peers:
         run_by_twos(commands)
 
     def clips(self, videos, positions, folder):
-        """One process a clip, two at a time."""
+        """One process per clip, two at a time."""
         run_by_twos([*self.FFMPEG, "-threads", "1", "-ss", f"{positions[0] / 1000}", "-i", video, "-an",
                      "-frames:v", "1", *self.JPEG, f"{folder}/{video.stem}.jpg"] for video in videos)
 
@@ -172,7 +172,7 @@ class Measure:
         self.cpu.append(after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime)
 
     def take_one(self, command):
-        """Of one process, whose memory is known."""
+        """For one process, of which the memory is known."""
         start = time.perf_counter()
         process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
         _, status, usage = os.wait4(process.pid, 0)
@@ -189,7 +189,7 @@ def pictures_in(folder):
 
 
 def grey(path):
-    """Small enough that the encoders' differences do not count."""
+    """Small enough to hide differences between the encoders."""
     return Image.open(path).convert("L").resize((160, 90))
 
 
@@ -210,7 +210,7 @@ def check_same(case, name, ours, theirs):
 
 
 def make_clips(source, folder, count):
-    """Five seconds each, from 1080p video, all the same file under other names."""
+    """Clips of five seconds of 1080p video, all the same file under different names."""
     folder.mkdir(parents=True, exist_ok=True)
     first = folder / "clip-000.mp4"
     if not first.exists():

@@ -45,7 +45,7 @@ class Functions:
         self.starts = [start for start, _ in self.ranges]
 
     def name_at(self, offset):
-        """What lies at an offset in the file."""
+        """The symbol at an offset in the file."""
         for begin, address, size in self.segments:
             if begin <= offset < begin + size:
                 place = offset - begin + address

@@ -28,7 +28,7 @@ CASES = {
 
 
 class Cost:
-    """What one video of a run took."""
+    """The cost of one video of a run."""
 
     def __init__(self, wall, processor, read, memory, written):
         self.wall = wall
@@ -39,7 +39,7 @@ class Cost:
 
 
 def read_by_children():
-    """How many bytes the child processes that have ended had asked the system for."""
+    """Number of bytes that finished child processes have requested to read."""
     for line in pathlib.Path("/proc/self/io").read_text().splitlines():
         if line.startswith("rchar:"):
             return int(line.split()[1])

@@ -48,13 +48,13 @@ class Photographer:
         self.folder = folder
 
     def take(self, name, title):
-        """The window of the title, once nothing in it moves any more."""
+        """Takes the window with the title, once nothing in it moves."""
         window = self.program.window(title)
         self.desktop.move(1, self.desktop.size[1] - 1)
         self._save(name, self._settled(window))
 
     def take_moving(self, name, title):
-        """The window of the title as it is just now."""
+        """Takes the window with the title in its current state."""
         self._save(name, self.desktop.picture(self.program.window(title).area))
 
     def _save(self, name, picture):
@@ -164,7 +164,7 @@ def take_all(photographer, video):
 
 
 class MatrixEntry:
-    """The main window in one theme, size, scale of fonts and direction of writing."""
+    """The main window in one theme, size, font scale and layout direction."""
 
     def __init__(self, theme, size, scale, direction):
         self.theme = theme
@@ -179,7 +179,7 @@ class MatrixEntry:
         return f"{self.theme}-{width}x{height}{large}{self.direction}"
 
     def start(self, desktop, home, recent):
-        """A program with these settings, not yet of this size."""
+        """A program with these settings, not resized yet."""
         folder = pathlib.Path(home, "config/Morvantile")
         folder.mkdir(parents=True)
         files = ", ".join(str(file) for file in recent)

@@ -46,9 +46,9 @@ class Announcements:
         )
 
     def wait_for(self, text):
-        """Waits until an announcement has the text in it."""
+        """Waits until an announcement contains the text."""
         self._wait_for("notification", text)
 
     def wait_for_value_of(self, role):
-        """Waits until the value of a control of the role has changed."""
+        """Waits until the value of a control with the role has changed."""
         self._wait_for(role, "")
