@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the release and runs it. A later start only runs it.
+# Installs missing packages, builds the release and runs it. Later starts only run it.
 #   ./run.sh                     opens the window
-#   ./run.sh VIDEO… [OPTION]…    takes pictures out of videos: the command stills
+#   ./run.sh VIDEO… [OPTION]…    takes pictures from videos: the command stills
 #   ./run.sh morvantile-cli …    the older command, which takes one video
 set -euo pipefail
 root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
@@ -22,11 +22,11 @@ ensure_packages run
 if ! is_configured release; then
     configure release -DMORVANTILE_BUILD_TESTS=OFF
 fi
-# All programs, without the tests that the build folder may hold as well.
+# All programs, without the tests that the build folder may contain as well.
 build release app/all stills/all
 release_build_folder
 
-# In the bare "C" locale of many a container Qt would not find files with names beyond ASCII.
+# In the plain "C" locale of many containers Qt would not find files with non-ASCII names.
 [[ $(locale charmap 2>/dev/null) == UTF-8 ]] || export LC_ALL=C.UTF-8
 
 programs=$root/build/release

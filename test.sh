@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs what is missing, then builds and runs all tests: of the sources themselves, under the
-# sanitizers and in release. Ends with CTest's summary; fails when anything failed.
-# Where address sanitizer runs a test, release runs it too only if the optimiser could matter to it.
+# Installs missing packages, then builds and runs all tests: of the sources themselves, under the
+# sanitizers and in release. Ends with CTest's summary; fails if anything failed. Tests that run
+# under address sanitizer run in release only if the optimiser could matter to them.
 #   ./test.sh                              everything
 #   ./test.sh PRESET…                      only these of release, asan, tsan and qt6 (which is
 #                                          release with Qt 6, and is not among everything)
@@ -34,7 +34,7 @@ ensure_packages "${sections[@]}"
 make_media=ON
 for preset in "${presets[@]}"; do
     say "== Building: $preset"
-    # Without precompiled headers a file has to include what it uses: the shorter run sees to that.
+    # Without precompiled headers a file has to include what it uses, which the shorter run checks.
     # The benchmarks are compiled once, so that they follow what they measure; no test runs them.
     benchmarks=OFF
     [[ $preset != release ]] || benchmarks=ON
@@ -43,11 +43,11 @@ for preset in "${presets[@]}"; do
         -DMORVANTILE_DESKTOP_TESTS=$desktop_tests -DMORVANTILE_QUICK_BUILD=$desktop_tests \
         -DMORVANTILE_ALL_TESTS=$all_tests -DMORVANTILE_MAKE_MEDIA=$make_media
     make_media=OFF
-    # Thread sanitizer runs few of the tests, and they need few of the libraries.
+    # Thread sanitizer runs few of the tests, which need few of the libraries.
     if [[ $preset == tsan ]]; then build tsan tests/all; else build "$preset" all; fi
 done
 
-# One CTest run over all build folders, so that one summary tells of them all.
+# One CTest run over all build folders, so that there is a single summary.
 suite=$root/build/suite
 mkdir -p "$suite"
 {

@@ -20,7 +20,8 @@ struct OptionText
     const char* valueName;
 };
 
-/// All options, in the order of the help text. The texts are what scripts and manuals quote: they
+/// All options, in the order of the help text. Scripts and manuals quote these texts, so they must
+/// not change.
 /// keep their wording.
 const QList<OptionText>& optionTexts()
 {
@@ -94,7 +95,7 @@ void ifText(const QCommandLineParser& parser, const QString& option, Setter set)
     }
 }
 
-/// The same with a number. What is none counts as 0, which the job corrects by its own rules.
+/// Like above for a number. Invalid numbers count as 0, which the job corrects by its own rules.
 template <typename Setter>
 void ifNumber(const QCommandLineParser& parser, const QString& option, Setter set)
 {
@@ -128,7 +129,7 @@ void applySize(const QCommandLineParser& parser, ImageProfile& profile)
     }
 }
 
-/// "filename" and "log" are accepted and have no effect.
+/// "filename" and "log" are accepted but have no effect.
 void applyNaming(const QCommandLineParser& parser, FileNameProfile& profile)
 {
     ifText(parser, QStringLiteral("fileprefix"),
@@ -139,7 +140,7 @@ void applyNaming(const QCommandLineParser& parser, FileNameProfile& profile)
            [&profile](const QString& type) { profile.setFileOutputType(type); });
 }
 
-/// Sets the job's video and folder; an error text when that cannot be done.
+/// Sets the job's video and folder; returns an error text if that fails.
 QString applyArguments(const QStringList& arguments, BatchWorkerConfig& config)
 {
     if (arguments.isEmpty()) {

@@ -11,13 +11,13 @@ class QCoreApplication;
 
 /// Runs one batch job from the command line's arguments, in the calling thread.
 ///
-/// User-interface thread only. Watermarks take a QGuiApplication; widgets are not needed.
+/// User-interface thread only. Watermarks need a QGuiApplication; widgets are not needed.
 class CommandLineProcessor : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What became of the arguments.
+    /// The result of evaluating the arguments.
     enum ArgumentsResult {
         JobRun = 0,
         ArgumentsWrong = 1,
@@ -29,18 +29,19 @@ public:
 
     /// Runs the job that the arguments of `app` describe, and returns when it is done.
     ///
-    /// Wrong arguments end the process with a message and the help on standard output, the version
-    /// and help options with what they ask for; all with exit code 0. Only options that do not
-    /// exist end it with another. A job's failures are not reported: it makes what it can.
+    /// Wrong arguments end the process with a message and the help on standard output; the version
+    /// and help options end it with their text. The exit code is 0 in all these cases, and
+    /// different only for unknown options. A job's failures are not reported: it makes what it can.
     void processCommandLine(QCoreApplication& app);
 
-    /// Sets `parser` up, and parses, checks and runs. Options that do not exist end the process.
+    /// Sets `parser` up, then parses and checks the arguments and runs the job. Unknown options end
+    /// the process.
     ///
-    /// @param errorMessage  says what is wrong after ArgumentsWrong
+    /// @param errorMessage  receives the reason for ArgumentsWrong
     [[nodiscard]] ArgumentsResult
     processArguments(QCoreApplication& app, QCommandLineParser& parser, QString* errorMessage);
 
-    /// Runs a job and returns when it is done. The job stays the caller's.
+    /// Runs a job and returns when it is done. The caller keeps ownership of the job.
     void processBatch(BatchWorkerConfig* config);
 
 private Q_SLOTS:

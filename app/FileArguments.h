@@ -4,9 +4,9 @@
 
 namespace FileArguments {
 
-/// The files among the arguments of the window's program, without its own name, as absolute paths.
-/// What begins with a hyphen is none, unless it comes after "--"; addresses of local files count as
-/// the files. Whether they exist is not looked at.
+/// The files among the arguments of the window's program, as absolute paths, without the program's
+/// own name. An argument that begins with a hyphen is not a file, unless it follows "--". URLs of
+/// local files are accepted. The files need not exist.
 [[nodiscard]] QStringList in(const QStringList& arguments);
 
 } // namespace FileArguments

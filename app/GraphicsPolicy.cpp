@@ -17,7 +17,7 @@ bool GraphicsPolicy::hasGraphicsDevice(const QString& folder)
 void GraphicsPolicy::avoidImitatedOpenGL(const QString& devices)
 {
 #ifdef Q_OS_LINUX
-    // Qt's name for what makes contexts under X11, and its word for nothing.
+    // Qt's setting for creating contexts under X11, and its value for none.
     constexpr const char* integration = "QT_XCB_GL_INTEGRATION";
     const bool isDecided = qEnvironmentVariableIsSet(integration);
     if (!isDecided && !hasGraphicsDevice(devices)) {

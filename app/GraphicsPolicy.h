@@ -5,15 +5,15 @@
 /// Whether the process uses OpenGL at all.
 namespace GraphicsPolicy {
 
-/// True when a folder of device files, as Linux has it, holds one of a graphics processor.
+/// True if a Linux folder of device files contains a graphics processor.
 [[nodiscard]] bool hasGraphicsDevice(const QString& folder);
 
-/// Keeps Qt from loading OpenGL on a Linux machine without a graphics processor, where a library
-/// that compiles code for the processor would imitate it: that takes some 50 MiB, and makes every
-/// window slower. What the environment says of it (QT_XCB_GL_INTEGRATION) is left as it is.
-/// Call it before the application object is made; without it all works as well.
+/// Keeps Qt from loading OpenGL on a Linux machine without a graphics processor, where a software
+/// renderer would emulate it: that takes some 50 MiB and makes every window slower. An existing
+/// setting of the environment (QT_XCB_GL_INTEGRATION) is respected. Call it before the application
+/// object is created; the program also works without it.
 ///
-/// @param devices  where the system has its device files.
+/// @param devices  the system's folder of device files.
 void avoidImitatedOpenGL(const QString& devices = QStringLiteral("/dev"));
 
 } // namespace GraphicsPolicy

@@ -9,7 +9,7 @@
 void MemoryPolicy::returnFreedMemory(int largeBytes)
 {
 #ifdef __GLIBC__
-    // The library would raise this by itself whenever a large block is freed.
+    // Otherwise the library raises this threshold whenever a large block is freed.
     mallopt(M_MMAP_THRESHOLD, largeBytes);
 #else
     static_cast<void>(largeBytes);

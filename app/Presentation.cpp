@@ -32,15 +32,15 @@ QIcon applicationIcon()
     return icon;
 }
 
-/// Opens files that another program passes on, or comes to the front for one without files, unless
-/// a dialog is open: there is no way past it.
+/// Opens files that another program passes on, or comes to the front if there are none. Refuses
+/// while a modal dialog is open.
 RunningInstance::Opener openerIn(MainWindow& window)
 {
     return [&window](const QStringList& files) {
         if (!files.isEmpty() && QApplication::activeModalWidget() != nullptr) {
             return false;
         }
-        // The other program waits for the answer, and should not for one of the user's.
+        // The other program waits for the answer, which must not depend on a question to the user.
         const auto open = [&window, file = files.value(0)] {
             if (file.isEmpty()) {
                 window.comeToFront();
@@ -53,7 +53,7 @@ RunningInstance::Opener openerIn(MainWindow& window)
     };
 }
 
-/// What the user should know before he goes on. The window can be used meanwhile.
+/// Tells the user something before he continues. The window remains usable.
 void tell(MainWindow& window, const QStringList& news)
 {
     if (news.isEmpty()) {
@@ -66,18 +66,18 @@ void tell(MainWindow& window, const QStringList& news)
     box->show();
 }
 
-/// Where unsaved snapshots wait for the next start.
+/// Folder in which unsaved snapshots wait for the next start.
 QString snapshotFolder()
 {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
         .filePath(QStringLiteral("snapshots"));
 }
 
-/// Keeps what can be kept when the desktop's session ends. Qt itself would close the window for
-/// that, which asks questions.
+/// Keeps what can be kept when the desktop session ends. Qt itself would close the window, which
+/// asks questions.
 void followSession(MainWindow& window)
 {
-#if QT_VERSION_MAJOR < 6 // which does not do that any more
+#if QT_VERSION_MAJOR < 6 // later versions do not close it
     QGuiApplication::setFallbackSessionManagementEnabled(false);
 #endif
     const auto commit = [&window](QSessionManager& session) {
@@ -118,7 +118,7 @@ void showMainWindow(QApplication& app, const QStringList& files, const QStringLi
     Presentation::applyStyleSheet(app, QStringLiteral(":/Styles.qss"));
     QApplication::setWindowIcon(applicationIcon());
     ReadyProfiles::addOnFirstStart();
-    // Gone before the application object is: the player's threads end with it.
+    // Destroyed before the application object, because the player's threads end with it.
     const auto window = std::make_unique<MainWindow>();
     window->resize(800, 600);
     Presentation::centre(*window, QGuiApplication::primaryScreen()->geometry());

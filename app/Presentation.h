@@ -7,22 +7,21 @@ class QApplication;
 class QRect;
 class QWidget;
 
-/// How the window comes onto the screen. User-interface thread only.
+/// Shows the window on the screen. User-interface thread only.
 namespace Presentation {
 
-/// Gives the application the style sheet in the file, which holds Latin-1 text up to its end or its
-/// first NUL byte. A file that cannot be opened leaves the application unstyled and is noted on the
-/// debug stream.
+/// Sets the application's style sheet to the content of the file, which is Latin-1 text up to its
+/// end or its first NUL byte. If the file cannot be opened, the application stays unstyled and a
+/// debug message is written.
 void applyStyleSheet(QApplication& app, const QString& path);
 
-/// Moves the widget so that it is as far from the left edge of a screen as from the right one, and
-/// as far from the upper as from the lower, to the pixel below.
+/// Centres the widget on a screen, rounding down.
 void centre(QWidget& widget, const QRect& screen);
 
 } // namespace Presentation
 
-/// Shows the main window as the last one was left, the first one 800 by 600 and in the middle of
-/// the primary screen; opens the first of the files, and returns when the event loop ends.
-/// Meanwhile other programs of the same user can pass files to it, see RunningInstance. The news,
-/// if there are any, are told in a box beside it.
+/// Shows the main window as the previous one was left; the very first one is 800 by 600 in the
+/// middle of the primary screen. Opens the first of the files, and returns when the event loop
+/// ends. Meanwhile other programs of the same user can pass files to it, see RunningInstance. The
+/// news, if any, are shown in a message box.
 void showMainWindow(QApplication& app, const QStringList& files = {}, const QStringList& news = {});

@@ -14,19 +14,19 @@ namespace {
 
 constexpr int answerMs = 2000;
 
-/// Longer requests are nobody's of ours.
+/// Longer requests do not come from this program.
 constexpr qint64 longestRequestBytes = 1 << 20;
 
 constexpr char accepted = 'y';
 constexpr char refused = 'n';
 
-/// Another user may have put something at a place that all can write to.
+/// Checks the owner, because another user may have put something into a shared folder.
 bool isOwn(const QString& place)
 {
     return QFileInfo(place).ownerId() == getuid();
 }
 
-/// A request is its length and the paths with NUL characters between them.
+/// A request consists of its length and the paths separated by NUL characters.
 QByteArray requestFor(const QStringList& files)
 {
     const QByteArray paths = files.join(QChar(u'\0')).toUtf8();
@@ -86,7 +86,7 @@ RunningInstance::RunningInstance(Opener open, QObject* parent)
 
 bool RunningInstance::listen(const QString& place)
 {
-    // To be looked at first: listening would take the place of another program without a word.
+    // Checked first, because listening would silently replace another program's socket.
     if (QFileInfo::exists(place)) {
         if (!isOwn(place) || isSomebodyListening(place) || !QLocalServer::removeServer(place)) {
             return false;
@@ -100,7 +100,7 @@ void RunningInstance::welcome()
     while (QLocalSocket* const socket = m_server.nextPendingConnection()) {
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         connect(socket, &QLocalSocket::readyRead, this, [this, socket] { answer(*socket); });
-        // It may all be there already.
+        // All data may already have arrived.
         answer(*socket);
     }
 }

@@ -4,14 +4,14 @@
 
 #include <optional>
 
-/// Names a runtime folder in the environment of a session that has none: a container, a batch
-/// system, another user's shell. It is to live while the application object is made, before any
-/// other thread starts.
+/// Provides a runtime folder in the environment of a session that has none, such as a container, a
+/// batch system or another user's shell. It must exist while the application object is created,
+/// before any other thread starts.
 ///
-/// Qt looks there, while the application object is made, for a note that it runs in a sandbox.
-/// Without a folder it would warn on stderr, and make one of a name that anybody can guess. The one
-/// named here is new, only its owner can enter it, and it goes with this object: what looks for
-/// services there later, such as sound, must not find the place of a session that is none.
+/// While the application object is created, Qt looks there for a note that it runs in a sandbox.
+/// Without a folder it would print a warning, and create one with a predictable name. The folder of
+/// this object is new, accessible only to its owner, and removed with the object: code that later
+/// looks for services there, such as sound, must not find a folder that belongs to no session.
 class RuntimeFolder
 {
 public:

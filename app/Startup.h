@@ -4,11 +4,11 @@
 
 #include <memory>
 
-/// The steps of start-up that the window and the command line share. User-interface thread only.
+/// Start-up steps shared by the window and the command line. User-interface thread only.
 namespace Startup {
 
-/// Makes the application object, which keeps the reference to `argc`: a QApplication for windows, a
-/// QGuiApplication for a program without. Before any thread starts, since it changes the
+/// Creates the application object, which keeps the reference to `argc`: a QApplication for windows,
+/// a QGuiApplication for a program without. Call it before any thread starts, since it changes the
 /// environment for a moment.
 template <typename Application>
 [[nodiscard]] std::unique_ptr<Application> makeApplication(int& argc, char** argv)
@@ -20,14 +20,14 @@ template <typename Application>
 /// Gives the application object its name, organisation, domain and version.
 void setIdentity();
 
-/// Makes writing beyond a limit on the size of files, or to a reader that is gone, an error of that
-/// file instead of the end of the program.
+/// Turns writing beyond a file size limit, or to a closed pipe, into an error instead of the end of
+/// the program.
 void makeSignalsErrors();
 
-/// Makes the video library write critical and fatal messages only.
+/// Limits the messages of the video library to critical and fatal ones.
 void quietVideoLibrary();
 
-/// Registers the types that signals carry between threads; before any batch runs.
+/// Registers the types of signals between threads. Call it before any batch runs.
 void registerMetaTypes();
 
 } // namespace Startup

@@ -30,7 +30,7 @@ bool checkSupportedOS(QApplication& app)
         QApplication::tr("I'm sorry,\n\nMorvantile requires macOS 10.10 (Yosemite) or higher")
             .toUtf8();
     const QByteArray title = QApplication::tr("Unsupported OS").toUtf8();
-    // The box has one button: there is nothing to learn from how it was ended.
+    // The box has only one button, so its result is irrelevant.
     static_cast<void>(boxer::show(message.constData(), title.constData(), boxer::Style::Info,
                                   boxer::Buttons::OK));
     return false;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int caught[] = {SIGTERM, SIGINT, SIGHUP};
 
-/// Where handlers write to; they can be told nothing else.
+/// The pipe that signal handlers write to; they have no other context.
 std::atomic<int> writeEnd{-1};
 
 void restore()
@@ -21,7 +21,7 @@ void restore()
     }
 }
 
-/// Only what POSIX allows in a handler.
+/// Uses only what POSIX allows in a handler.
 extern "C" void noteSignal(int number)
 {
     const int savedError = errno;
@@ -44,7 +44,7 @@ TerminationSignals::TerminationSignals(std::function<void()> end, QObject* paren
     m_notifier = new QSocketNotifier(m_pipe[0], QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, &TerminationSignals::answer);
     for (const int number : caught) {
-        // One that the parent has switched off, as nohup does, stays so.
+        // A signal that the parent ignores, as with nohup, stays ignored.
         if (std::signal(number, noteSignal) == SIG_IGN) {
             std::signal(number, SIG_IGN);
         }
@@ -65,7 +65,7 @@ TerminationSignals::~TerminationSignals()
 void TerminationSignals::answer()
 {
     m_notifier->setEnabled(false);
-    // Another one of any kind ends the program at once.
+    // A further signal of any kind ends the program at once.
     restore();
     m_end();
 }

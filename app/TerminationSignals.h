@@ -5,11 +5,10 @@
 
 #include <functional>
 
-/// Has the program end in good order when the system asks it to: by SIGTERM, SIGINT or SIGHUP. A
-/// second signal ends it at once.
+/// Ends the program in good order on SIGTERM, SIGINT or SIGHUP. A second signal ends it at once.
 ///
-/// One object a process, in the user-interface thread, which needs an event loop. Its end restores
-/// what the signals did before.
+/// One object per process, in the user-interface thread, which needs an event loop. The destructor
+/// restores the previous signal handlers.
 class TerminationSignals : public QObject
 {
     Q_OBJECT
@@ -19,7 +18,7 @@ public:
     explicit TerminationSignals(std::function<void()> end, QObject* parent = nullptr);
     ~TerminationSignals() override;
 
-    /// False where the system gives no pipe; signals then do what they ever did.
+    /// False if the system provides no pipe; signals then keep their previous effect.
     [[nodiscard]] bool isListening() const { return m_notifier != nullptr; }
 
 private:

@@ -10,13 +10,13 @@
 
 namespace {
 
-/// Must happen before the application object exists.
+/// Must be called before the application object exists.
 void needNoDisplay()
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-/// Debug lines are for developers, who turn them on again with QT_LOGGING_RULES.
+/// Debug messages are for developers, who enable them with QT_LOGGING_RULES.
 void hideDebugLines()
 {
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));

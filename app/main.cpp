@@ -19,7 +19,7 @@
 
 int main(int argc, char** argv)
 {
-#if QT_VERSION_MAJOR < 6 // where screens of many pixels are no matter of course
+#if QT_VERSION_MAJOR < 6 // later versions do so by default
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);
 #endif
@@ -39,7 +39,7 @@ int main(int argc, char** argv)
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();
     const QStringList damage = SettingsFile::putDamagedAside();
-    // Kept for the whole run: settings objects that come and go then share its open file.
+    // Kept for the whole run, so that temporary settings objects share its open file.
     const QSettings settings;
     const QString asked = Languages::inArguments(QCoreApplication::arguments());
     Languages::use(*app, asked.isEmpty() ? Languages::chosen(settings) : asked);

@@ -17,7 +17,7 @@ QString path()
     return ProfileManager::getSettingsPath(QStringLiteral("batchList.ini"));
 }
 
-/// In the order of their declaration: the video's path sets the folder, which comes after it.
+/// In the order of declaration: setting the video's path also sets the folder, which comes later.
 void forEachSetting(const std::function<void(const char* name)>& use)
 {
     const QMetaObject& meta = BatchWorkerConfig::staticMetaObject;

@@ -9,12 +9,12 @@ class QObject;
 /// User-interface thread only.
 namespace BatchListFile {
 
-/// Replaces what is kept by these jobs: their videos, folders and settings. That this fails is
-/// ignored like every other failure to write settings.
+/// Replaces the stored list by these jobs: their videos, folders and settings. Failures are
+/// ignored, like all failures to write settings.
 void save(const QList<BatchWorkerConfig*>& jobs);
 
-/// New jobs for what is kept, in its order; the parent owns them. Nothing is known about their
-/// videos yet. A profile that there is no more is the one used last.
+/// Creates jobs for the stored list, in its order; the parent owns them. Nothing is known about
+/// their videos yet. A profile that no longer exists is replaced by the last used one.
 [[nodiscard]] QList<BatchWorkerConfig*> load(QObject* parent);
 
 } // namespace BatchListFile

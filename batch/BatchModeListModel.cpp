@@ -39,7 +39,7 @@ void BatchModeListModel::removeRow(int row, const QModelIndex& parent)
     endRemoveRows();
 }
 
-/// Goes by the jobs, not by the rows: each removal moves those below.
+/// Identifies rows by their jobs, because each removal moves the rows below.
 void BatchModeListModel::removeRows(const QList<QModelIndex>& indexes)
 {
     std::vector<BatchWorkerConfig*> configs;

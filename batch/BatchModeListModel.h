@@ -9,11 +9,10 @@
 
 class BatchWorkerConfig;
 
-/// Batch jobs as a table: a row for each, and columns that sum it up. Nothing is edited in it. Jobs
-/// that failed bear a mark, and their tool tip tells why.
+/// Batch jobs as a read-only table: one row per job, and columns that summarise it. Jobs that
+/// failed have a mark, and a tool tip with the reasons.
 ///
-/// The jobs belong to someone else and must live as long as they are listed. User-interface thread
-/// only.
+/// Jobs are not owned and must live as long as they are listed. User-interface thread only.
 class BatchModeListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -30,29 +29,28 @@ public:
 
     explicit BatchModeListModel(QObject* parent = nullptr);
 
-    /// Lists one more job, as the last one.
+    /// Appends a job.
     void addConfig(BatchWorkerConfig* config);
 
-    /// The job of a row that there is.
+    /// The job of a valid row.
     BatchWorkerConfig* getConfig(int row) const { return m_configs.at(row); }
     /// All jobs, in the order of the rows.
     QList<BatchWorkerConfig*> getConfigs() const { return m_configs; }
 
-    /// Takes one row out. For a row that there is not, nothing is taken out, but the views are told
-    /// of a removal all the same.
+    /// Removes one row. An invalid row removes nothing but still notifies views.
     void removeRow(int row, const QModelIndex& parent);
 
-    /// Takes out the jobs of all these indexes, whatever their order. A job with several indexes is
-    /// looked for once more with each, which the views notice as in removeRow().
+    /// Removes the jobs of all these indexes, in any order. A job with several indexes is searched
+    /// for again for each, which notifies views as in removeRow().
     void removeRows(const QList<QModelIndex>& indexes);
     using QAbstractTableModel::removeRows;
 
-    /// Marks the job as one that failed, for these reasons; an empty text takes the mark away.
+    /// Marks the job as failed for these reasons; an empty text removes the mark.
     void setFailure(BatchWorkerConfig* config, const QString& reasons);
-    /// The jobs marked so, in the order of the rows.
+    /// The jobs marked as failed, in the order of the rows.
     QList<BatchWorkerConfig*> failedConfigs() const;
 
-    /// Has the job's row shown anew after its settings have changed.
+    /// Updates the job's row after its settings have changed.
     void configUpdated(BatchWorkerConfig* config);
 
     int rowCount(const QModelIndex& parent = {}) const override;

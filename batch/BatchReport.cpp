@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The same for all failures of a job that differ in numbers alone.
+/// A key that is equal for all failures of a job that differ only in numbers.
 QString keyOf(const BatchWorkerConfig* job, QString message)
 {
     static const QRegularExpression numbers(QStringLiteral("\\d+"));

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Leaves the receivers of the signals some time between two jobs.
+/// Gives the receivers of the signals some time between two jobs.
 constexpr unsigned long pauseBetweenJobsMilliseconds = 200;
 
 } // namespace
@@ -23,7 +23,7 @@ BatchThread::~BatchThread()
         requestInterruption();
     }
     wait();
-    // run() has held it last.
+    // Waits until run() has released the mutex.
     const std::lock_guard<std::mutex> lock(m_mutex);
 }
 
@@ -70,7 +70,7 @@ void BatchThread::run()
     }
     runWorkers();
     Q_EMIT threadDone();
-    // Lets the destructor know in a way that thread sanitizer sees, as it does not see wait().
+    // Synchronises with the destructor in a way that thread sanitizer sees, unlike wait().
     const std::lock_guard<std::mutex> lock(m_mutex);
 }
 
@@ -97,11 +97,12 @@ void BatchThread::runWorker(BatchWorker& worker)
     worker.run();
 }
 
-/// Takes the worker out of the queue and has it deleted.
+/// Removes the worker from the queue and schedules its deletion.
 ///
-/// Frames may still wait for it in its own thread, and news of it for others there. They all come
-/// before its deletion, so that the images are saved and told of; until then it keeps its
-/// connections. A bare deleteLater() might overtake them: it can be served apart from other events.
+/// Frames may still be queued for it in its own thread, and its signals for receivers there. All of
+/// them are delivered before its deletion, so that the images are saved and reported; until then it
+/// keeps its connections. A bare deleteLater() might overtake them, because it can be processed
+/// separately from other events.
 void BatchThread::release(BatchWorker& worker)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -109,7 +110,7 @@ void BatchThread::release(BatchWorker& worker)
     QMetaObject::invokeMethod(&worker, &QObject::deleteLater, Qt::QueuedConnection);
 }
 
-/// The first worker that has not finished; null when all have, or when they shall not.
+/// The first worker that has not finished; null if all have, or after an interruption.
 BatchWorker* BatchThread::nextWorker() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -117,8 +118,9 @@ BatchWorker* BatchThread::nextWorker() const
     return isOver ? nullptr : m_workers[m_finished];
 }
 
-/// The batch's progress when so much of the worker's job is done; without a worker, of the one that
-/// runs. What a worker reported may arrive after its end: it counts for its own place in the queue.
+/// The batch's progress when this fraction of the worker's job is done; without a worker, of the
+/// running one. A worker's report may arrive after its end: it counts for its own place in the
+/// queue.
 float BatchThread::overallProgress(float progress, const BatchWorker* worker) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

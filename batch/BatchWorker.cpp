@@ -23,22 +23,22 @@
 
 namespace {
 
-/// Nothing shorter is taken for a video.
+/// Shorter files are not treated as videos.
 constexpr qint64 shortestVideo = 500;
 
 constexpr int ticksPerFrame = 2;
-/// The part of the progress that opening the video stands for.
+/// The fraction of the progress assigned to opening the video.
 constexpr float openingProgress = 0.01F;
 constexpr float samplingProgress = 0.99F;
 
-/// Leaves the worker's own thread the time to make and save an image before the next one comes.
+/// Gives the worker's own thread time to make and save an image before the next frame arrives.
 constexpr unsigned long pauseMilliseconds = 100;
 
-/// How many frames may wait for their images to be made. A frame of a large video takes as much
+/// Maximum number of frames that wait for their images to be made. Such a frame takes as much
 /// memory as its pixels.
 constexpr int mostWaitingFrames = 4;
 
-/// How long news of a series may wait where the thread that they are for runs the job.
+/// How long signals of a series may wait if their receiving thread runs the job.
 constexpr std::chrono::milliseconds newsWait{10};
 
 FramePositions listOf(const QVector<qint64>& milliseconds)
@@ -51,8 +51,8 @@ FramePositions listOf(const QVector<qint64>& milliseconds)
     return positions;
 }
 
-/// The positions that a job with exact frames takes. A single image's are those of the plan, but
-/// for the middle, which is that of the stretch between the skips.
+/// The positions of a job with exact frames: those of the plan, except that a single image from the
+/// middle is taken from the middle of the stretch between the skips.
 FramePositions positionsOf(const BatchWorkerConfig& config, const SamplingPlan& plan,
                            qint64 duration)
 {
@@ -179,10 +179,10 @@ void BatchWorker::runInternal()
     }
     const qint64 duration = m_frameGrabber->getDuration();
     if (duration < shortestVideo) {
-        // Nothing is known about positions in it.
+        // The positions in this video are unknown.
         const std::lock_guard<std::mutex> lock(m_missedMutex);
         m_missed.reset();
-        // The file's name is not part of the message: receivers know the worker.
+        // The file name is not part of the message, because receivers know the worker.
         Q_EMIT statusUpdate(this, tr("Could not open file"), Error);
         return;
     }
@@ -253,8 +253,8 @@ void BatchWorker::takeSeries(const SamplingPlan& plan, qint64 duration)
     }
 }
 
-/// What is told comes from the threads of the engine, in order: progress from there, all else in
-/// the worker's own.
+/// The engine's threads report in order: progress is emitted there, everything else in the worker's
+/// own thread.
 SeriesSaver::Listener BatchWorker::Series::listenerOf(BatchWorker& worker)
 {
     SeriesSaver::Listener listener;
@@ -293,7 +293,7 @@ SeriesSaver::Listener BatchWorker::Series::listenerOf(BatchWorker& worker)
     return listener;
 }
 
-/// Where the worker's own thread runs the job, it attends to the news meanwhile.
+/// If the worker's own thread runs the job, it processes the reports meanwhile.
 void BatchWorker::runSeries(const std::function<void()>& work)
 {
     if (QThread::currentThread() != thread()) {
@@ -307,7 +307,7 @@ void BatchWorker::runSeries(const std::function<void()>& work)
     QCoreApplication::processEvents();
 }
 
-/// In the worker's own thread, in order.
+/// Queues a report for the worker's own thread, in order.
 void BatchWorker::tell(std::function<void()> news)
 {
     {
@@ -338,7 +338,7 @@ void BatchWorker::showSaved(QImage image)
     Q_EMIT imageReady(this, image);
 }
 
-/// In the order of the positions, until there is none.
+/// Takes frames in the order of the positions, until there are none left.
 void BatchWorker::takeFrames(const std::function<std::optional<qint64>()>& nextPosition)
 {
     while (const std::optional<qint64> position = nextPosition()) {
@@ -374,7 +374,7 @@ void BatchWorker::takeListedFrames()
     });
 }
 
-/// Keeps the frames from piling up where images take longer than frames.
+/// Keeps frames from piling up if images take longer than frames.
 void BatchWorker::waitForImages() const
 {
     QElapsedTimer waited;
@@ -385,7 +385,7 @@ void BatchWorker::waitForImages() const
     }
 }
 
-/// Requests one frame; false once interrupted.
+/// Requests one frame; returns false once interrupted.
 bool BatchWorker::takeFrame(qint64 position)
 {
     if (isInterruptionRequested()) {
@@ -413,7 +413,7 @@ void BatchWorker::tickProgress()
     qDebug("Steps taken: %lld stepCount: %lld", m_stepsTaken, m_stepCount);
 }
 
-/// Hands a frame over to the worker's own thread, with the position that it was requested for.
+/// Passes a frame to the worker's own thread, with its requested position.
 void BatchWorker::passOn(const QtAV::VideoFrame& frame)
 {
     ++m_waitingFrames;
@@ -421,7 +421,7 @@ void BatchWorker::passOn(const QtAV::VideoFrame& frame)
                               Q_ARG(qint64, m_frameGrabber->getPosition()));
 }
 
-/// Once a job, unless it is the whole.
+/// Reports it once per job, unless the whole range is shown.
 void BatchWorker::announceBaseLayer(QtAV::BaseLayer layer)
 {
     if (layer != QtAV::BaseLayer::Whole && !std::exchange(m_hasAnnouncedBaseLayer, true)) {

@@ -19,11 +19,11 @@ QString getSettingsPath()
     return ProfileManager::getSettingsPath(QStringLiteral("batchModeDefaults.ini"));
 }
 
-/// Calls `use` with each property that belongs into the file of batch defaults, in their order.
-/// QObject's own objectName is one of them: files written so far hold it.
+/// Calls `use` with each property that is stored in the file of batch defaults, in their order.
+/// QObject's objectName is one of them, because existing files hold it.
 void forEachDefault(const QObject& config, const std::function<void(const char*)>& use)
 {
-    // Earlier versions had a snapshotInterval, which was no default either.
+    // Earlier versions had a snapshotInterval, which was not a default either.
     static const QStringList ignored{QStringLiteral("source"), QStringLiteral("fileOutputPath"),
                                      QStringLiteral("snapshotInterval")};
     const QMetaObject* const meta = config.metaObject();

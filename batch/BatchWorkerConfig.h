@@ -19,9 +19,9 @@
 /// and restored by a walk over them: adding a stored, writable property adds a key to the defaults
 /// file, in the order of declaration.
 ///
-/// Belongs to the user-interface thread. While a worker runs the job in another thread, nobody
-/// else changes it; the worker itself may correct the interval, whose values may be read from any
-/// thread for that reason.
+/// Belongs to the user-interface thread. While a worker runs the job in another thread, nothing
+/// else may change it. The worker itself may correct the interval, so its values may be read from
+/// any thread.
 class BatchWorkerConfig : public QObject
 {
     Q_OBJECT
@@ -39,8 +39,8 @@ class BatchWorkerConfig : public QObject
     Q_PROPERTY(bool exactFrames READ exactFrames WRITE setExactFrames)
 
 public:
-    /// The values of intervalType(). Any other number is kept, shown as a placeholder, and takes
-    /// no image.
+    /// The values of intervalType(). Any other number is kept, shown as a placeholder, and takes no
+    /// image.
     enum IntervalType {
         EveryMilliseconds = 0, ///< one image every intervalMilliseconds()
         SpreadImages = 1,      ///< intervalImages() images, evenly spread
@@ -50,53 +50,53 @@ public:
     /// The values of intervalSingleShot().
     enum SingleShotPlace { Front = 0, Middle = 1, Back = 2 };
 
-    /// A job with the default settings and profiles of its own; no saved default is consulted.
+    /// A job with built-in default settings and its own profiles; saved defaults are not loaded.
     explicit BatchWorkerConfig(QObject* parent = nullptr);
     ~BatchWorkerConfig() override;
 
-    /// The video's path with native separators. Setting it makes the folder that holds the video
-    /// the output folder; the video itself is not looked at.
+    /// The video's path with native separators. Setting it also sets the output folder to the
+    /// video's folder; the video itself is not accessed.
     QString source() const { return m_source; }
     void setSource(const QString& path);
     /// The source's file name without folder and without its last extension.
     QString sourceFileName() const;
 
-    /// The folder for the images. It means something only after it or the source was set.
+    /// The folder for the images. Meaningful only after it or the source was set.
     QDir outputDir() const { return m_outputDir; }
     void setOutputDir(const QDir& dir) { m_outputDir = dir; }
-    /// The same folder as an absolute path with native separators.
+    /// The output folder as an absolute path with native separators.
     QString fileOutputPath() const;
     void setFileOutputPath(const QString& path);
 
-    /// The profile that makes the images, never null. A profile that is set belongs to someone
-    /// else and must outlive the job; null changes nothing.
+    /// The profile that makes the images, never null. A profile that is set is not owned and must
+    /// outlive the job; setting null has no effect.
     ImageProfile* imageProfile() const { return m_imageProfile; }
     void setImageProfile(ImageProfile* profile);
-    /// The same by id; an id that no profile has changes nothing.
+    /// The id of that profile; setting an unknown id has no effect.
     QString imageProfileId() const;
     void setImageProfileId(const QString& id);
 
-    /// The profile that names the images, never null. A profile that is set belongs to someone
-    /// else and must outlive the job; null changes nothing.
+    /// The profile that names the images, never null. A profile that is set is not owned and must
+    /// outlive the job; setting null has no effect.
     FileNameProfile* filenameProfile() const { return m_filenameProfile; }
     void setFileNameProfile(FileNameProfile* profile);
-    /// The same by id; an id that no profile has changes nothing.
+    /// The id of that profile; setting an unknown id has no effect.
     QString filenameProfileId() const;
     void setFileNameProfileId(const QString& id);
 
-    /// The name without folder of the image with that number; -1 asks for a name without number.
+    /// The name, without folder, of the image with that number; -1 gives a name without number.
     QString filenameForCounter(int counter) const;
-    /// The first image's name; that of a single shot bears no number.
+    /// The name of the first image; that of a single shot has no number.
     QString filenameExample() const;
 
-    /// Milliseconds at the front and at the back of the video that give no images.
+    /// Lengths in milliseconds of the stretches at the front and at the back without images.
     qlonglong skipFront() const { return m_skipFront; }
     void setSkipFront(long long milliseconds) { m_skipFront = milliseconds; }
     qlonglong skipBack() const { return m_skipBack; }
     void setSkipBack(long long milliseconds) { m_skipBack = milliseconds; }
 
-    /// How the positions are chosen: an IntervalType, and the number that belongs to each. Nothing
-    /// is checked here.
+    /// How positions are chosen: an IntervalType, and the number that belongs to each. Values are
+    /// not checked here.
     int intervalType() const { return m_intervalType; }
     void setIntervalType(int type) { m_intervalType = type; }
     int intervalMilliseconds() const { return m_intervalMilliseconds; }
@@ -105,30 +105,30 @@ public:
     void setIntervalImages(int images) { m_intervalImages = images; }
     int intervalSingleShot() const { return m_intervalSingleShot; }
     void setIntervalSingleShot(int place) { m_intervalSingleShot = place; }
-    /// Take exactly the frames at the positions, on all cores, instead of key frames near them, one
+    /// Takes exactly the frames at the positions, on all cores, instead of nearby key frames one
     /// after another. Off in a new job.
     bool exactFrames() const { return m_exactFrames; }
     void setExactFrames(bool exact) { m_exactFrames = exact; }
-    /// The interval in a few words, for lists.
+    /// A short description of the interval, for lists.
     QString intervalDisplay() const;
 
-    /// How many images the job will make, as far as can be told beforehand: frames that are shown
-    /// longer than the interval give fewer. Nothing while nothing is known about the source.
+    /// Estimated number of images: frames that are shown longer than the interval give fewer.
+    /// Nothing while nothing is known about the source.
     std::optional<int> expectedImages() const;
 
-    /// What is known about the source; nothing before loadVideoInfo() or setVideoFacts().
+    /// What is known about the source; empty before loadVideoInfo() or setVideoFacts().
     const VideoInfo& videoInfo() const { return m_videoInfo; }
-    /// Reads the source, and returns when that is done: see VideoInfoLoader for a way that does not
-    /// block the user interface.
+    /// Reads the source and returns when that is done: see VideoInfoLoader for reading without
+    /// blocking the user interface.
     void loadVideoInfo();
-    /// Takes over what was read in another thread.
+    /// Takes over facts that were read in another thread.
     void setVideoFacts(const VideoFacts& facts) { m_videoInfo.setFacts(facts); }
 
-    /// Writes the settings to the file of batch defaults; the source and the output folder are
-    /// no defaults.
+    /// Writes the settings to the file of batch defaults, except for the source and the output
+    /// folder.
     void saveAsDefault() const;
-    /// Takes the profiles used last and then the settings from the file of batch defaults. What
-    /// the file does not hold keeps its value.
+    /// Takes the last used profiles and then the settings from the file of batch defaults. Settings
+    /// that the file does not contain stay unchanged.
     void loadFromLastUsed();
 
 private:
@@ -143,7 +143,7 @@ private:
     int m_intervalSingleShot = Middle;
     bool m_exactFrames = false;
     VideoInfo m_videoInfo;
-    // The profiles that a job starts with are its own; those that it is given are not.
+    // The initial profiles are owned by the job; profiles that are set are not.
     const std::unique_ptr<ImageProfile> m_ownImageProfile;
     const std::unique_ptr<FileNameProfile> m_ownFilenameProfile;
     ImageProfile* m_imageProfile;

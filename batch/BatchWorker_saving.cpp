@@ -1,4 +1,4 @@
-// How the images of a job are saved, and what becomes of those for which there is no room.
+// Saving the images of a job, and handling those for which there is no room.
 
 #include "batch/BatchWorker.h"
 
@@ -18,7 +18,7 @@
 
 void BatchWorker::frameExtracted(QtAV::VideoFrame frame, qint64 position)
 {
-    // The dialog that asks lets other events in.
+    // The dialog that asks lets other events be processed.
     if (m_isAsking) {
         m_postponed.emplace_back(frame, position);
         return;
@@ -71,7 +71,7 @@ void BatchWorker::saveFrame(const QtAV::VideoFrame& frame, qint64 position)
     }
 }
 
-/// Also on the debug stream, for those who run jobs without listening.
+/// Also writes a debug message, for jobs that run without a connected receiver.
 void BatchWorker::reportUnmadeImage(const QString& path, qint64 position, const QString& reason)
 {
     const QString message =
@@ -80,7 +80,7 @@ void BatchWorker::reportUnmadeImage(const QString& path, qint64 position, const 
     Q_EMIT statusUpdate(this, message, Error);
 }
 
-/// Also on the debug stream.
+/// Also writes a debug message.
 void BatchWorker::reportUnsavedImage(const WriteFailure& failure)
 {
     const QString message = tr("Could not save %1").arg(failure.path);
@@ -89,7 +89,7 @@ void BatchWorker::reportUnsavedImage(const WriteFailure& failure)
     Q_EMIT statusUpdate(this, message, Error);
 }
 
-/// In the worker's own thread. What it shows may let all kinds of events in.
+/// Call it in the worker's own thread. The dialog may let any events be processed.
 bool BatchWorker::askForRoom(const WriteFailure& failure)
 {
     if (!m_roomQuestion || isInterruptionRequested()) {
@@ -106,7 +106,7 @@ bool BatchWorker::askForRoom(const WriteFailure& failure)
     return triesAgain;
 }
 
-/// The same from the thread of a series, which waits for the answer.
+/// Does the same from the thread of a series, which waits for the answer.
 bool BatchWorker::waitForRoom(const WriteFailure& failure)
 {
     enum Answer { None, Retry, Stop };
@@ -118,7 +118,7 @@ bool BatchWorker::waitForRoom(const WriteFailure& failure)
     return *answer == Retry;
 }
 
-/// While the question is shown, the worker may not be deleted, as it is soon after run().
+/// While the question is shown, the worker must not be deleted, which happens soon after run().
 void BatchWorker::waitForAnswer() const
 {
     if (QThread::currentThread() == thread() || !m_roomQuestion) {
@@ -144,8 +144,8 @@ void BatchWorker::announceSaving(const QString& path)
     qDebug().noquote() << QStringLiteral("Saving image ") + path;
 }
 
-/// Saves under the given name or, while others take the names at the same moment, under the next
-/// free one. False when that failed, which has been told then.
+/// Saves under the given name or, if others take that name at the same moment, under the next free
+/// one. Returns false if that failed, which has been reported then.
 bool BatchWorker::saveImage(QString path, const QImage& image, const ImageRecipe& recipe,
                             const PictureSource& source)
 {

@@ -4,24 +4,23 @@
 
 #include <functional>
 
-/// The paths of a job's images, in the order of their numbers, without those that are taken. The
-/// number is only ever raised, so that none is tried twice.
+/// The paths of a job's images in the order of their numbers, without existing ones. The number
+/// only rises, so that none is tried twice. One thread at a time may use an object.
 class FreePaths
 {
 public:
-    /// The path of the image with a number from 1 on, or OutputNaming::noCounter.
+    /// Returns the path of the image with a number from 1 on, or with OutputNaming::noCounter.
     using PathOf = std::function<QString(int counter)>;
 
     explicit FreePaths(PathOf pathOf);
 
-    /// For the next image. That of a job for a single one bears no number unless that name is
-    /// taken.
+    /// The path for the next image. That of a single image has no number unless the name is taken.
     [[nodiscard]] QString first(bool isSingle);
 
-    /// For the same image, when somebody else has just taken the last path.
+    /// Another path for the same image, if the previous path has just been taken by somebody else.
     [[nodiscard]] QString next();
 
 private:
     PathOf m_pathOf;
-    int m_counter = 1; ///< to try next
+    int m_counter = 1; ///< next number to try
 };

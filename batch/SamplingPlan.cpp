@@ -32,7 +32,7 @@ void correctInterval(BatchWorkerConfig& config)
     }
 }
 
-/// Cut off to a whole number, within what an int holds: a job may ask for absurd skips.
+/// Truncates to a whole number, clamped to the range of an int: a job may have absurd skips.
 int truncated(float value)
 {
     constexpr float most = 2147483520.0F; // the largest float that is an int

@@ -4,12 +4,11 @@
 
 #include <optional>
 
-/// Times as people read and type them: in seconds, down to the millisecond.
+/// Times as people read and type them: in seconds, down to the millisecond. From any thread.
 
-/// "5", "0.04" or "1.5", with the decimal point of the user's language and no more digits than
-/// there are.
+/// "5", "0.04" or "1.5", with the decimal point of the user's language and no superfluous digits.
 [[nodiscard]] QString secondsText(qint64 milliseconds);
 
-/// The milliseconds, rounded, that a text of seconds stands for; it may have a point or a comma.
-/// Nothing for what is no number from 0 on, or too large for any video.
+/// The milliseconds, rounded, for a text in seconds with a point or a comma. Nothing if the text is
+/// no number, is negative, or is too large for any video.
 [[nodiscard]] std::optional<qint64> millisecondsOf(const QString& seconds);

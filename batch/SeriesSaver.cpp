@@ -52,7 +52,7 @@ bool SeriesSaver::save(const SeriesPicture& picture)
     return result == WriteResult::Written;
 }
 
-/// Under the next free name while others take the names, and once more when there may be room.
+/// Tries the next free name while others take the names, and tries again if there may be room now.
 WriteResult SeriesSaver::write(QString& path, const QByteArray& content, WriteFailure& failure)
 {
     m_listener.saving(path);

@@ -10,10 +10,11 @@
 
 #include <functional>
 
-/// Saves the pictures of one video's series under the names of a batch job, in order: numbers are
-/// given to pictures that can be made alone, and no existing file is replaced.
+/// Saves the pictures of one video's series under the names of a batch job, in order. Numbers are
+/// given only to pictures that could be made, and no existing file is replaced.
 ///
-/// Called by the engine, from several threads in turn. The functions are called there.
+/// The engine calls it from several threads in turn. The functions of the listener are called
+/// there.
 class SeriesSaver : public SeriesOutput
 {
 public:
@@ -21,10 +22,10 @@ public:
     {
         std::function<void(int pictures)> expecting;
         std::function<void()> beforePicture;
-        std::function<void(QtAV::BaseLayer layer)> showing; ///< of each picture that could be made
+        std::function<void(QtAV::BaseLayer layer)> showing; ///< for each picture that could be made
         std::function<void(const QString& path)> saving;
         std::function<void(const WriteFailure& failure)> notSaved;
-        /// There is no room for a picture: true to try again. May wait.
+        /// Called if there is no room for a picture; returns true to try again. May wait.
         std::function<bool(const WriteFailure& failure)> lacksRoom;
         std::function<void(const QImage& image)> saved;
         std::function<void(const QString& message)> failed;
@@ -37,8 +38,8 @@ public:
     void take(SeriesPicture picture) override;
     void end(int video, const QString& error) override;
 
-    /// The positions, in milliseconds and rising order, of which there is no saved picture: failed
-    /// ones, and those that were not reached. After the run.
+    /// The positions, in milliseconds and rising order, without a saved picture: failed ones, and
+    /// those that were not reached. Call it after the run.
     [[nodiscard]] QVector<qint64> missed() const;
 
 private:
@@ -50,8 +51,8 @@ private:
     const bool m_isSingle;
     const Listener m_listener;
     QVector<qint64> m_asked;  ///< in rising order
-    QVector<qint64> m_failed; ///< likewise
-    /// Up to here positions were answered, or mean the frame that was taken last.
+    QVector<qint64> m_failed; ///< in rising order
+    /// Positions up to this one were answered or refer to the most recent frame.
     qint64 m_reachedMs = -1;
     bool m_isComplete = false; ///< the video was read to the last position
 };

@@ -13,14 +13,14 @@
 
 namespace {
 
-/// How long a cancelled read is waited for. Most notice sooner; in some files FFmpeg searches
-/// gigabytes before it asks whether it should go on.
+/// Maximum time to wait for a cancelled read. Most notice sooner; in some files FFmpeg reads
+/// gigabytes before it polls for an interrupt.
 constexpr std::chrono::milliseconds longestWait{250};
 
 } // namespace
 
-/// What is to be read and what was found. Owned by both threads, so that it lasts as long as the
-/// one that was left behind needs it.
+/// The videos to read, and the results. Owned by both threads, so that it lasts as long as an
+/// abandoned thread needs it.
 class VideoInfoLoader::Reader
 {
 public:
@@ -31,19 +31,19 @@ public:
     /// Appends a video.
     void add(const QString& path);
 
-    /// The facts of the first video whose facts were not taken yet; none while it is being read.
+    /// The facts of the first video whose facts were not taken yet; nothing while it is being read.
     std::optional<VideoFacts> takeFacts();
 
-    /// Reads until end(), and has the loader's takeFacts() called after each video.
+    /// Reads until end(), and invokes the loader's takeFacts() after each video.
     void run();
 
-    /// Drops everything and has nothing called any more. False when run() does not return in time.
+    /// Drops all work and stops the notifications. Returns false if run() does not return in time.
     [[nodiscard]] bool end();
 
 private:
     VideoFacts read(const QString& path) const;
 
-    VideoInfoLoader& m_loader; ///< it may be gone after end()
+    VideoInfoLoader& m_loader; ///< may be dangling after end()
     std::atomic<bool> m_ends{false};
 
     std::mutex m_mutex;
@@ -85,7 +85,7 @@ void VideoInfoLoader::Reader::run()
         lock.unlock();
         const VideoFacts facts = read(path);
         lock.lock();
-        // Within the lock: the loader is there until end() has had it.
+        // Under the lock, since the loader exists until end() has held it.
         if (!m_ends) {
             m_facts.push_back(facts);
             QMetaObject::invokeMethod(&m_loader, &VideoInfoLoader::takeFacts, Qt::QueuedConnection);
@@ -165,7 +165,7 @@ void VideoInfoLoader::stop()
     m_reader.reset();
 }
 
-/// One video at a time is taken out, since a slot may cancel, or let the event loop run.
+/// Takes one video at a time, since a slot may cancel or run an event loop.
 void VideoInfoLoader::takeFacts()
 {
     while (m_reader) {

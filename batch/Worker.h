@@ -5,12 +5,12 @@
 
 #include <atomic>
 
-/// Work that can be asked to stop.
+/// Work that can be interrupted.
 ///
-/// Interruption is cooperative: the work looks at isInterruptionRequested() between its steps and
-/// returns early. A worker cannot be made to go on again.
+/// Interruption is cooperative: the work checks isInterruptionRequested() between its steps and
+/// returns early. A worker cannot be resumed.
 ///
-/// Owned through QObject's parents, not by a thread pool.
+/// Owned by its QObject parent, not by a thread pool.
 class Worker : public QObject, public QRunnable
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ class Worker : public QObject, public QRunnable
 public:
     explicit Worker(QObject* parent = nullptr);
 
-    /// Asks the work to stop at its next step and returns at once. From any thread.
+    /// Makes the work stop at its next step and returns at once. From any thread.
     void requestInterruption();
     /// From any thread.
     bool isInterruptionRequested() const { return m_interruption != 0; }

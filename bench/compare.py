@@ -4,12 +4,12 @@
     compare.py [--build build/release] [--media build/bench-media] [--positions N] [--width W]
                [--video NAME]...
 
-All take the same positions and write a JPEG file of the same width, in turn, so that whatever else
-happens on the machine happens to all:
+All take the same positions and write a JPEG file of the same width, in turn, so that other load on the
+machine affects all of them:
 
 - ours: one `extract_frames` keeps the video open in one FrameGrabber; it measures the extraction
   alone, and the whole way to the file (conversion, INTER_AREA, JPEG with quality 90);
-- ffmpeg: one process for each position, `-ss T -i VIDEO -frames:v 1`, from its start to its end
+- ffmpeg: one process per position, `-ss T -i VIDEO -frames:v 1`, from its start to its end
   (in a transport stream `-ss T-0.8 -i VIDEO -ss 0.8`);
 - ffmpegthumbnailer: one process for each position, `-t HH:MM:SS`. It goes by whole seconds and
   takes a key frame near them, so it does less than the others; its figures are for orientation.
@@ -36,7 +36,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
 class Video:
-    """A benchmark video: how far its key frames are apart, and which positions are asked for."""
+    """A benchmark video: the distance of its key frames, and the requested positions."""
 
     def __init__(self, name, frames, gop, positions, behind, goal=None, precision=None, lead=0):
         self.name = name
@@ -58,10 +58,10 @@ class Video:
         ]
 
 
-# The grabber takes a key frame that is nearer to the position than its precision, as it should
-# where a picture every so often is wanted. The positions below keep out of its reach; the key
-# frames of the transport stream are too near to each other for that. In a transport stream ffmpeg's
-# own seek may land behind the position: it is told to land earlier and to decode up to it.
+# The grabber takes a key frame that is nearer to the position than its precision, as intended for
+# pictures at regular intervals. The positions below are outside that range; in the transport stream
+# key frames are too close to each other for that. There, ffmpeg's own seek may land behind the
+# position, so it is made to land earlier and to decode up to it.
 VIDEOS = [
     Video("1080p_h264_gop250.mp4", 1500, 250, 24, behind=50, goal=0.7),
     Video("1080p_h264_gop30.mp4", 1500, 30, 24, behind=15),
@@ -100,7 +100,7 @@ class Ours:
 
 
 def timed(command):
-    """How many milliseconds a program runs."""
+    """Run time of a program in milliseconds."""
     start = time.perf_counter()
     subprocess.run(command, check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
     return (time.perf_counter() - start) * 1000.0
@@ -127,7 +127,7 @@ def thumbnailer_command(path, position, width, output):
 
 
 def grey(path):
-    """A picture's grey levels, small enough to be compared quickly."""
+    """A picture's grey levels, small enough for a quick comparison."""
     command = ["ffmpeg", "-nostdin", "-loglevel", "error", "-i", str(path)]
     command += ["-vf", "scale=320:-2", "-f", "rawvideo", "-pix_fmt", "gray", "-"]
     return subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
@@ -140,7 +140,7 @@ def difference(a, b):
 
 
 def check_same_frame(video, path, frame, ours, width, folder):
-    """Raises unless ffmpeg takes the very frame that ours took."""
+    """Raises unless ffmpeg takes exactly the same frame as ours."""
     position = position_of(frame)
     time_ms, _, _, picture = ours.take(position)
     if not 0 <= time_ms - position < FRAME_MS:

@@ -4,9 +4,9 @@
     compare_player.py [--build build/release] [--media build/bench-media] [--video NAME]...
                       [--positions N] [--steps N] [--opengl]
 
-Both show the same video in windows of the same size on one virtual screen and are asked for the same
-frames in turn; each waits until the other has come to rest, so that what one does in the background
-is not charged to the other. Both are paused except where playing is measured.
+Both show the same video in windows of the same size on one virtual screen, and get the same requests in
+turn. Each waits until the other is idle, so that background work of one does not affect the other. Both
+are paused except for measuring playback.
 
 - ours: `player_times`, the library's player with its window, from the command to the answer;
 - mpv: through its IPC socket, from the command to `playback-restart`, after a step forward to the new
@@ -43,12 +43,12 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
 class Hold:
-    """Holding the key for steps back: from how many positions, how many steps, and what we aim at:
-    steps a second, and the milliseconds of the longest."""
+    """Holding the key for steps back: the number of positions and steps, and the goals: steps per
+    second, and the milliseconds of the longest."""
 
-    # How long the player may prepare itself after the seek.
+    # Rest after a seek, in which the player may prepare.
     REST = 2.0
-    # mpv takes as long for each step: this part of them tells enough.
+    # mpv takes equally long for each step, so this fraction of them is enough.
     MPV_PART = 25
 
     def __init__(self, positions, steps, rate_goal, longest_goal):
@@ -97,7 +97,7 @@ PLAYING_GOAL = 1.0
 
 
 class Process:
-    """A running program, and what the kernel knows of it."""
+    """A running program, and its statistics from the kernel."""
 
     def __init__(self, command, environment):
         self.process = subprocess.Popen(
@@ -122,7 +122,7 @@ class Process:
         return int(line.split()[1]) / 1024.0
 
     def rest(self):
-        """Waits until the process has nothing to do."""
+        """Waits until the process is idle."""
         deadline = time.monotonic() + PATIENCE
         before = self.cpu()
         while time.monotonic() < deadline:
@@ -140,7 +140,7 @@ class Process:
 
 
 class Ours(Process):
-    """player_times. Every operation gives the milliseconds and the time of the frame on screen."""
+    """player_times. Every operation returns the milliseconds and the time of the frame on screen."""
 
     def __init__(self, program, opengl, environment):
         command = [str(program), "--width", str(WIDTH), "--height", str(HEIGHT)]
@@ -183,7 +183,7 @@ class Ours(Process):
 
 
 class Mpv(Process):
-    """mpv, driven by its socket. Every operation gives the same as ours."""
+    """mpv, driven through its socket. Every operation returns the same values as ours."""
 
     def __init__(self, folder, environment):
         path = folder / "mpv.socket"
@@ -217,7 +217,7 @@ class Mpv(Process):
         return json.loads(line)
 
     def command(self, *words):
-        """Sends a command and gives the answer's data; events until then are kept."""
+        """Sends a command and returns the answer's data; keeps events received until then."""
         self.number += 1
         request = {"command": list(words), "request_id": self.number}
         self.socket.sendall((json.dumps(request) + "\n").encode())
@@ -239,7 +239,7 @@ class Mpv(Process):
                 return
 
     def forget_events(self):
-        """All that was sent before the answer to this command is old."""
+        """Discards everything that was sent before the answer to this command."""
         self.command("get_property", "pause")
         self.events.clear()
 
@@ -294,7 +294,7 @@ class Mpv(Process):
 
 
 class Figures:
-    """What was measured of one player, in milliseconds."""
+    """The measurements of one player, in milliseconds."""
 
     def __init__(self):
         self.first_frames = []
@@ -317,7 +317,7 @@ def position_of(frame):
 
 
 def check(what, frame, position):
-    # Sound may start earlier than the pictures: that moves them, but by less than half a frame.
+    # Sound may start earlier than the pictures, which shifts them by less than half a frame.
     if abs(position - frame * FRAME_MS) >= FRAME_MS / 2:
         raise RuntimeError(f"{what}: {position:.1f} ms instead of {frame * FRAME_MS} ms")
 
@@ -370,7 +370,7 @@ def measure_hold(player, figures, path, frame, steps):
 
 
 def fill_memory(player, path, frames):
-    """Keeps one file open, resting in several places, for the peak of memory."""
+    """Keeps one file open and rests in several places, to measure the peak memory."""
     player.stop()
     player.open(path)
     for frame in frames[:6]:
@@ -387,7 +387,7 @@ def measure_playing(player, figures):
 
 
 def in_turn(players, number):
-    """Both players, each being first every other time."""
+    """Both players, in alternating order."""
     return players if number % 2 == 0 else players[::-1]
 
 
@@ -438,12 +438,12 @@ def row(what, own, other, goal=None, digits=1):
 
 
 def rate(times):
-    """Steps a second."""
+    """Steps per second."""
     return len(times) * 1000.0 / sum(times)
 
 
 def print_limit(what, own, other, goal, is_met):
-    """A row whose goal is our own figure, no ratio."""
+    """A row with a goal for our own figure instead of the ratio."""
     print(f"| {what} | {own:.1f} | {other:.1f} | {own / other:.2f} | {goal} | "
           f"{'yes' if is_met else 'NO'} |", flush=True)
 
@@ -484,7 +484,7 @@ def print_figures(video, own, mpv, cache):
 
 @contextlib.contextmanager
 def virtual_screen():
-    """The environment to start windows in."""
+    """The environment for starting windows."""
     reading, writing = os.pipe()
     command = ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x800x24", "-nolisten", "tcp"]
     server = subprocess.Popen(command, pass_fds=[writing], stderr=subprocess.DEVNULL)

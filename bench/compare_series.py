@@ -3,14 +3,14 @@
 
     compare_series.py [--build build/release] [--media build/bench-media] [--runs N] [--case NAME]...
 
-All write the same pictures as JPEG files, in turn, so that whatever else happens on the machine
-happens to all; the video is in the page cache. Each time is that of the whole program, from its start
-to its end; quoted are the medians, and the ratio to the quickest of the others.
+All write the same pictures as JPEG files, in turn, so that other load on the machine affects all of
+them; the video is in the page cache. Each time is that of the whole program, from its start to its end.
+The output has the medians, and the ratio to the fastest of the others.
 
-- ours: `stills`, with its defaults but for the positions;
+- ours: `stills`, with its defaults except for the positions;
 - ffmpeg, one process for all pictures: it decodes the whole video with all cores, and `select` picks
   the frames;
-- ffmpeg, one process a picture: `-ss T -i VIDEO -frames:v 1`, which seeks to the key frame before the
+- ffmpeg, one process per picture: `-ss T -i VIDEO -frames:v 1`, which seeks to the key frame before the
   position; two of these at a time, each with one decoding thread;
 - mpv, one process for all pictures of a dense series, or one a picture: `--start=T --frames=1`;
 - FFMS2, `ffms_series`: makes its index of the video, then takes each frame by its number.
@@ -43,7 +43,7 @@ LANES = os.cpu_count() or 1
 
 
 class Case:
-    """A series: its video, the positions in milliseconds, what `stills` is told, and our goal."""
+    """A series: its video, the positions in milliseconds, the options of `stills`, and our goal."""
 
     def __init__(self, name, video, options, positions, goal, peers):
         self.name = name
@@ -90,7 +90,7 @@ def run(command, **options):
 
 
 def run_by_twos(commands):
-    """All of them, as many at a time as there are cores."""
+    """Runs all of them, as many at a time as there are cores."""
     waiting = list(commands)
     running = []
     while waiting or running:
@@ -103,7 +103,7 @@ def run_by_twos(commands):
 
 
 class Peers:
-    """The others. Each function writes the pictures of a case into a folder."""
+    """The other programs. Each function writes the pictures of a case into a folder."""
 
     FFMPEG = ["ffmpeg", "-nostdin", "-loglevel", "error", "-y"]
     JPEG = ["-q:v", "3"]
@@ -114,7 +114,7 @@ class Peers:
     def select(self, videos, positions, folder):
         """One process: the first frame at or after each position."""
         wanted = sorted({-(-position // FRAME_MS) for position in positions})
-        # Long sums are more than its parser takes.
+        # Its parser does not accept long sums.
         terms = [f"eq(n,{number})" for number in wanted]
         chosen = "+".join(f"({'+'.join(terms[i : i + 40])})" for i in range(0, len(terms), 40))
         run([*self.FFMPEG, "-i", videos[0], "-an", "-vf", f"select='{chosen}'", "-vsync", "0", *self.JPEG,
@@ -136,7 +136,7 @@ class Peers:
         run_by_twos(commands)
 
     def clips(self, videos, positions, folder):
-        """One process a clip, two at a time."""
+        """One process per clip, two at a time."""
         run_by_twos([*self.FFMPEG, "-threads", "1", "-ss", f"{positions[0] / 1000}", "-i", video, "-an",
                      "-frames:v", "1", *self.JPEG, f"{folder}/{video.stem}.jpg"] for video in videos)
 
@@ -172,7 +172,7 @@ class Measure:
         self.cpu.append(after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime)
 
     def take_one(self, command):
-        """Of one process, whose memory is known."""
+        """For one process, of which the memory is known."""
         start = time.perf_counter()
         process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
         _, status, usage = os.wait4(process.pid, 0)
@@ -189,7 +189,7 @@ def pictures_in(folder):
 
 
 def grey(path):
-    """Small enough that the encoders' differences do not count."""
+    """Small enough to hide differences between the encoders."""
     return Image.open(path).convert("L").resize((160, 90))
 
 
@@ -210,7 +210,7 @@ def check_same(case, name, ours, theirs):
 
 
 def make_clips(source, folder, count):
-    """Five seconds each, from 1080p video, all the same file under other names."""
+    """Clips of five seconds of 1080p video, all the same file under different names."""
     folder.mkdir(parents=True, exist_ok=True)
     first = folder / "clip-000.mp4"
     if not first.exists():
@@ -229,8 +229,8 @@ def measure(case, programs, peers, media, runs):
     measures = {name: Measure() for name in ("ours", *case.peers)}
     if case.has_index():
         measures["alone"] = Measure()
-    # Into the page cache, but not through this process: the peak of a child's memory begins with the
-    # memory of what starts it.
+    # Loads the videos into the page cache, but not through this process: the peak memory of a child
+    # starts with the memory of its parent.
     run(["cat", *{video.stat().st_ino: video for video in videos}.values()])
     for number in range(runs):
         order = list(measures) if number % 2 == 0 else list(measures)[::-1]

@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""Says where a batch job spends its processor time.
+"""Reports where a batch job spends its processor time.
 
     profile_batch.py [--cli build/release/app/morvantile-cli] [--count N] [--top N] VIDEO
 
 Runs one job of the command line under `perf record` and prints the shares of libraries and of
-functions, the hottest first, from its start to its end and in all threads. Debian's libraries bear
-no symbols for their inner functions: these are told apart by the table that unwinding the stack
-needs, and named by their address; what is in no such table is hand-written assembly. The job's
-pictures go into a temporary folder. Needs perf (package linux-perf) and readelf (binutils).
+functions, the hottest first, from its start to its end and in all threads. Debian's libraries have no
+symbols for their internal functions: these are identified by the table for unwinding the stack, and
+named by their address; hand-written assembly is in no such table. The job's pictures go into a
+temporary folder. Needs perf (package linux-perf) and readelf (binutils).
 """
 
 import argparse
@@ -45,7 +45,7 @@ class Functions:
         self.starts = [start for start, _ in self.ranges]
 
     def name_at(self, offset):
-        """What lies at an offset in the file."""
+        """The symbol at an offset in the file."""
         for begin, address, size in self.segments:
             if begin <= offset < begin + size:
                 place = offset - begin + address
@@ -81,7 +81,8 @@ def aggregated(data):
     for count, path, symbol in samples(data):
         name = pathlib.Path(path).name
         libraries[name] += count
-        # With -v: address in the file, a letter, [.] or [k], symbol, which is a number for none.
+        # With -v: address in the file, a letter, [.] or [k], and the symbol, or a number if there
+        # is none.
         address, place = re.match(r"(\S+)\s+\S\s+\[.\]\s*(.*)", symbol).groups()
         if place.startswith("0x") and path.startswith("/"):
             if path not in known:

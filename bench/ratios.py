@@ -5,8 +5,8 @@
         --benchmark_out=results.json --benchmark_out_format=json
     ratios.py results.json
 
-The ratios say what the program adds to the libraries that it stands on: each compares one of its
-benchmarks with the sum of bare library calls that do the same, measured in the same run.
+The ratios show the overhead over the underlying libraries: each compares a benchmark of the program
+with the sum of bare library calls that do the same, measured in the same run.
 """
 
 import json
@@ -45,9 +45,9 @@ def medians(path):
             continue
         if result.get("error_occurred"):
             sys.exit(f"{result['name']}: {result['error_message']}")
-        # What stands behind the name in "Extract/video/iterations:20/real_time" is how it ran.
+        # The part after the name in "Extract/video/iterations:20/real_time" tells how it ran.
         parts = [p for p in result["run_name"].split("/") if p != "real_time" and ":" not in p]
-        # Benchmarks whose work may leave the thread are timed by the clock, as their names say.
+        # Benchmarks that may use other threads are measured in wall time, as their names tell.
         key = "real_time" if "real_time" in result["run_name"] else "cpu_time"
         milliseconds = result[key] * MILLISECONDS[result["time_unit"]]
         times.setdefault("/".join(parts), []).append(milliseconds)

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Measures how many videos `stills` works through, for the table in docs/clusters.md.
+"""Measures how many videos `stills` processes, for the table in docs/clusters.md.
 
     videos_per_hour.py [--build build/release] [--media build/bench-media] [--videos N] [--runs N]
 
-Each run takes ten pictures, evenly spread and in full size, out of N videos in one call: links to one
-of 60 seconds, which is in the page cache. The videos take turns, so that whatever else happens on the
-machine happens to all. Quoted are the medians over the runs. The last two columns are computed from
-the processor time, which changes least where the machine has other things to do.
+Each run takes ten pictures, evenly spread and in full size, from N videos in one call: links to one of
+60 seconds, which is in the page cache. The videos take turns, so that other load on the machine affects
+all of them. The output has the medians over the runs. The last two columns are computed from the
+processor time, on which other load has the least effect.
 """
 
 import argparse
@@ -28,7 +28,7 @@ CASES = {
 
 
 class Cost:
-    """What one video of a run took."""
+    """The cost of one video of a run."""
 
     def __init__(self, wall, processor, read, memory, written):
         self.wall = wall
@@ -39,7 +39,7 @@ class Cost:
 
 
 def read_by_children():
-    """How many bytes the child processes that have ended had asked the system for."""
+    """Number of bytes that finished child processes have requested to read."""
     for line in pathlib.Path("/proc/self/io").read_text().splitlines():
         if line.startswith("rchar:"):
             return int(line.split()[1])
@@ -80,7 +80,7 @@ def main():
             costs[name].append(measure(stills, (arguments.media / file).resolve(), arguments.videos))
 
     print("| ten pictures of 60 s of | wall | processor | read | written | memory "
-          "| videos an hour and core | 100,000 videos |")
+          "| videos per hour and core | 100,000 videos |")
     print("| --- | ---: | ---: | ---: | ---: | ---: | ---: | ---: |")
     for name, runs in costs.items():
         def median(what):

@@ -1,7 +1,7 @@
 # Finds OpenCV's core and imgproc by their own files.
 #
-# Debian's OpenCVConfig.cmake demands all fifty modules and so libopencv-dev, whose 370 packages
-# more than double what a fresh machine must fetch for the two that are used here.
+# Debian's OpenCVConfig.cmake requires all fifty modules and so libopencv-dev, whose 370 packages
+# more than double what a new machine must download for the two that are used here.
 #
 # Targets: opencv_core, opencv_imgproc (the names that OpenCV's own configuration uses).
 # Variables: OpenCV_FOUND, OpenCV_VERSION, OpenCV_LIBS.

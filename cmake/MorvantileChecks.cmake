@@ -1,11 +1,11 @@
-# Targets that look after the sources: `format` rewrites them, `tidy` runs clang-tidy over them.
+# Targets that check the sources: `format` rewrites them, `tidy` runs clang-tidy over them.
 
 add_custom_target(format
   COMMAND "${CMAKE_SOURCE_DIR}/scripts/format.sh"
   COMMENT "Formatting the sources" VERBATIM)
 
 # Reads this build folder's compile_commands.json, so build first: moc's output is included too.
-# Only files outside the build folder are ours; which headers are is said in .clang-tidy.
+# Only files outside the build folder are ours; .clang-tidy selects the headers.
 string(REGEX REPLACE "([][+.*()^$?|\\\\])" "\\\\\\1" source_regex "${CMAKE_SOURCE_DIR}")
 add_custom_target(tidy
   COMMAND run-clang-tidy -quiet -p "${CMAKE_BINARY_DIR}"

@@ -1,4 +1,4 @@
-# What every target of the project is compiled with.
+# Compiler settings for all targets of the project.
 
 option(MORVANTILE_BUILD_TESTS "Build the tests" ON)
 option(MORVANTILE_DESKTOP_TESTS "Of the tests, build those that need a desktop too" ON)
@@ -20,12 +20,12 @@ endif()
 
 find_program(MORVANTILE_CCACHE ccache)
 if(MORVANTILE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  # What it needs to be told to keep what was compiled with precompiled headers.
+  # ccache needs this setting to cache files compiled with precompiled headers.
   set(CMAKE_CXX_COMPILER_LAUNCHER
     "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${MORVANTILE_CCACHE}")
 endif()
 
-# Said to the compiler even where it is its default: clang-tidy's default is another one.
+# Passed explicitly even if it is the compiler's default, because clang-tidy's default differs.
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -35,11 +35,11 @@ set(CMAKE_AUTORCC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# Which version `Qt::Core` is, and who makes its metaobjects.
+# The version of `Qt::Core`, and of the tools that generate its metaobjects.
 set(QT_DEFAULT_MAJOR_VERSION ${MORVANTILE_QT})
 
-# morvantile_find_qt(MODULE…): finds modules of the chosen version, as the targets Qt::MODULE.
-# A macro, since Qt leaves variables behind that its functions need.
+# morvantile_find_qt(MODULE…): finds modules of the chosen version, as the targets Qt::MODULE. A
+# macro, because Qt leaves variables behind that its functions need.
 set(MORVANTILE_OLDEST_QT_5 5.15)
 set(MORVANTILE_OLDEST_QT_6 6.4)
 if(NOT DEFINED MORVANTILE_OLDEST_QT_${MORVANTILE_QT})
@@ -60,16 +60,16 @@ target_compile_definitions(morvantile_settings INTERFACE
   QT_NO_FOREACH
   QT_STRICT_ITERATORS
   QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
-# No -Wnull-dereference: GCC 12 sees some in Qt's containers once they are inlined. The analyzer of
-# the target `tidy` looks for them instead.
+# No -Wnull-dereference: GCC 12 reports some in Qt's containers after inlining. The analyzer of the
+# target `tidy` searches for them instead.
 target_compile_options(morvantile_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
   -Wcast-align -Wextra-semi -Wimplicit-fallthrough
   $<$<BOOL:${MORVANTILE_WERROR}>:-Werror>
-  # For ccache.
+  # Required by ccache.
   $<$<BOOL:${MORVANTILE_QUICK_BUILD}>:-fpch-preprocess>)
 
-# Options of the folders, so that those of the tests can take something back.
+# Set per folder, so that the folder of the tests can remove some again.
 if(MORVANTILE_SANITIZE)
   add_compile_options(-fsanitize=${MORVANTILE_SANITIZE} -fno-omit-frame-pointer
     -fno-sanitize-recover=all)

@@ -1,15 +1,15 @@
-# How the folders declare their targets.
+# Functions by which the folders declare their targets.
 #
-# Each target has an include folder of its own, in the build folder: links to the headers that it
-# lists, at the paths by which they are included. Only what links the target finds them, so that an
-# include goes nowhere that the links between targets do not go.
+# Each target has an include folder of its own in the build folder, with links to its headers at the
+# paths by which they are included. Only targets that link it find them, so that includes follow the
+# links between targets.
 set(MORVANTILE_INCLUDE_DIR "${CMAKE_BINARY_DIR}/include")
-# Made anew each time: no link outlives its header.
+# Recreated on each run, so that no link outlives its header.
 file(REMOVE_RECURSE "${MORVANTILE_INCLUDE_DIR}")
 
 # morvantile_make_include_folder(FOLDER ROOT file…)
-# Makes the folder, with a link to each header among the files at its path from ROOT; where there
-# are no headers, no folder.
+# Creates the folder, with a link to each header among the files at its path relative to ROOT; no
+# folder if there are no headers.
 function(morvantile_make_include_folder folder root)
   cmake_path(ABSOLUTE_PATH root)
   foreach(header IN LISTS ARGN)
@@ -27,8 +27,8 @@ function(morvantile_make_include_folder folder root)
   endforeach()
 endfunction()
 
-# What is precompiled where MORVANTILE_QUICK_BUILD is on: what most files include, and what those
-# with widgets include too. Made once, since that takes as long as several files.
+# Headers to precompile with MORVANTILE_QUICK_BUILD: those that most files include, and those that
+# most files with widgets include too. Precompiled once, since it takes as long as several files.
 set(MORVANTILE_COMMON_HEADERS
   <QColor> <QCoreApplication> <QDateTime> <QDebug> <QDir> <QElapsedTimer> <QFile> <QFileInfo>
   <QHash> <QImage> <QObject> <QSet> <QString> <QTemporaryDir> <QUrl> <QVariant> <QVector>
@@ -37,8 +37,8 @@ set(MORVANTILE_WIDGET_HEADERS ${MORVANTILE_COMMON_HEADERS}
   <QComboBox> <QDialog> <QFileDialog> <QGroupBox> <QLabel> <QLineEdit> <QMessageBox> <QPainter>
   <QSettings> <QSlider> <QTimer> <QWidget>)
 
-# morvantile_precompile_headers(): makes morvantile_common_headers and morvantile_widget_headers,
-# from which the libraries take them. After Qt has been found.
+# morvantile_precompile_headers(): creates morvantile_common_headers and morvantile_widget_headers,
+# which the libraries reuse. Call it after Qt has been found.
 function(morvantile_precompile_headers)
   if(NOT MORVANTILE_QUICK_BUILD)
     return()
@@ -55,9 +55,9 @@ function(morvantile_precompile_headers)
 endfunction()
 
 # morvantile_spare_moc(TARGET file…)
-# Turns CMake's search for what moc, uic and rcc are to do off where no file gives them anything: it
-# takes as long as compiling a file. Only where MORVANTILE_QUICK_BUILD is on: a file that gets its
-# first Q_OBJECT later would need CMake to be run again.
+# Disables CMake's search for input of moc, uic and rcc if no file has any, because it takes as long
+# as compiling a file. Only with MORVANTILE_QUICK_BUILD: if a file gets its first Q_OBJECT later,
+# CMake has to be run again.
 function(morvantile_spare_moc target)
   if(NOT MORVANTILE_QUICK_BUILD)
     return()
@@ -80,15 +80,15 @@ set(MORVANTILE_BATCH_SIZE 8)
 
 # morvantile_add_library(NAME SOURCES file… [PRIVATE_HEADERS file…] [HEADER_ROOT folder]
 #                        [PUBLIC lib…] [PRIVATE lib…] [PRECOMPILED common|widget])
-# One library for one folder, or for a part of it; static, or an interface if it has headers only.
-# It may link only what stands below it. What links it finds the headers among its SOURCES, by their
-# paths from HEADER_ROOT (the root of the project).
+# A library for a folder or a part of it: static, or an interface library if it only has headers. It
+# may link only what is below it. Targets that link it find the headers among its SOURCES, by their
+# paths relative to HEADER_ROOT (the root of the project).
 #
-# The PRIVATE_HEADERS are found by the library itself, by their paths from the root of the project,
-# and by what links NAME_private: its closest neighbours and the tests of its inner parts. That
-# brings the PRIVATE libraries too, whose headers may be included there.
+# The PRIVATE_HEADERS are found, by their paths relative to the root of the project, by the library
+# itself and by targets that link NAME_private: its closest neighbours and the tests of its
+# internals. NAME_private also provides the PRIVATE libraries, whose headers may be included there.
 #
-# PRECOMPILED says which precompiled headers are made part of each source.
+# PRECOMPILED selects the precompiled headers for the sources.
 function(morvantile_add_library name)
   cmake_parse_arguments(ARG "" "HEADER_ROOT;PRECOMPILED" "SOURCES;PRIVATE_HEADERS;PUBLIC;PRIVATE" ${ARGN})
   if(NOT ARG_HEADER_ROOT)
@@ -124,7 +124,7 @@ function(morvantile_add_library name)
 endfunction()
 
 # morvantile_add_executable(NAME SOURCES file… LIBS lib…)
-# A program. It finds the headers among its own SOURCES and those of what it links.
+# A program. It finds the headers among its own SOURCES and those of the libraries that it links.
 function(morvantile_add_executable name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
   set(folder "${MORVANTILE_INCLUDE_DIR}/${name}")

@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// A file with the bytes that a harness was given; gone with the object. It lies in memory, and is
-/// a regular file for those who open it.
+/// A file with the input of a harness, deleted with the object. It is in memory, but opens like a
+/// regular file.
 class InputFile
 {
 public:

@@ -8,13 +8,13 @@
 #include <chrono>
 #include <memory>
 
-/// What a harness lets one input take, so that a slow one is no finding.
+/// Limits for one input of a harness, so that a slow input is no finding.
 namespace fuzzlimits {
 
 constexpr qint64 pictureBytes = 64 << 20;
 constexpr std::chrono::milliseconds time{3000};
 
-/// A deadline that runs from now on.
+/// A deadline that starts now.
 inline std::shared_ptr<QtAV::Deadline> startedDeadline()
 {
     auto deadline = std::make_shared<QtAV::Deadline>();

@@ -1,4 +1,4 @@
-// The command line of `stills`, one argument a line, and the templates of names.
+// The command line of `stills`, one argument per line, and the name templates.
 
 #include "stills/CommandLineParser.h"
 #include "stills/NameTemplate.h"

@@ -1,4 +1,4 @@
-// The metadata of a picture: what it says of its video and how it was made; and what a video says.
+// The metadata of a picture, which describes its video and how it was made; and that of a video.
 
 #include "imaging/Metadata.h"
 #include "fuzz/InputFile.h"

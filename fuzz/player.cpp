@@ -1,4 +1,5 @@
-// A player's life: the last bytes of the input are what the user does, the others are the file.
+// Commands to a player: the last bytes of the input are the user's actions, the others are the
+// file.
 
 #include "fuzz/InputFile.h"
 #include "fuzz/Limits.h"

@@ -1,4 +1,4 @@
-// A file of profiles, as it may be left by an editor or a broken disk.
+// A file of profiles, as an editor or a broken disk may leave it.
 
 #include "imaging/ImageRecipe.h"
 #include "profiles/ImageProfile.h"
@@ -19,7 +19,7 @@ namespace {
 
 const QString fileName = QStringLiteral("Fuzz.ini");
 
-/// A home of the process's own.
+/// Gives the process a home folder of its own.
 void prepareHome()
 {
     static QTemporaryDir home;
@@ -36,7 +36,7 @@ void useProfiles(const char* data, std::size_t size)
         std::abort();
     }
     file.close();
-    // As the programs do at their start.
+    // In the same way as the programs at their start.
     if (SettingsFile::isDamaged(file.fileName())) {
         return;
     }

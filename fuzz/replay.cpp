@@ -1,5 +1,5 @@
-// Gives a harness the files that are named, for builds without libFuzzer. A crash names the file
-// that was begun last.
+// Passes the named files to a harness, for builds without libFuzzer. On a crash, the last printed
+// name is that of the file.
 
 #include <cstddef>
 #include <cstdint>

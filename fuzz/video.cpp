@@ -1,4 +1,4 @@
-// A video file: opened, sought in, decoded and made pictures of.
+// A video file: it is opened, sought in and decoded, and its frames are made pictures.
 
 #include "fuzz/InputFile.h"
 #include "fuzz/Limits.h"

@@ -8,28 +8,29 @@
 
 #include <QImage>
 
-/// A frame that was captured, with all that later pictures of it can be made of. It needs neither
-/// the video nor its decoder any more. A value: it may be copied to any thread.
+/// A captured frame with everything needed to make pictures of it later, independent of the video
+/// and its decoder. A value: it may be copied to any thread.
 ///
-/// It comes as the decoder's frame, or unpacked: as images alone, which can be written to files and
-/// read back without a loss.
+/// It holds the decoder's frame or, once unpacked, only images, which can be stored in files and
+/// read back without loss.
 struct CapturedPicture
 {
-    QImage image;                ///< in 8 bits a channel, as it is shown; null for no picture
-    QtAV::VideoFrame frame;      ///< what it was made of; invalid once unpacked
-    QImage deep;                 ///< in 16 bits a channel; null unless unpacked from more than 8
-    QImage stored;               ///< the values of high dynamic range; null where there are none
+    QImage image;                ///< with 8 bits per channel, as shown; null for no picture
+    QtAV::VideoFrame frame;      ///< the original frame; invalid once unpacked
+    QImage deep;                 ///< with 16 bits per channel; null unless unpacked from more than
+                                 ///< 8
+    QImage stored;               ///< stored values of high dynamic range; null if there are none
     QtAV::StoredColours colours; ///< of `stored`
     PictureSource source;
 
-    /// The same as images alone. Takes as long as making up to two pictures. A picture that there
-    /// is no memory for is null, see isWhole().
+    /// The same picture as images only. Takes as long as making up to two pictures. An image that
+    /// does not fit into memory is null, see isWhole().
     [[nodiscard]] CapturedPicture unpacked() const;
 
-    /// How many images an unpacked picture has to hold: all of them are there.
+    /// Whether all images that an unpacked picture needs exist.
     [[nodiscard]] bool isWhole(const QtAV::VideoFrame& origin) const;
 
-    /// The memory that it takes, in bytes.
+    /// Its memory in bytes.
     [[nodiscard]] qint64 byteCount() const;
 };
 
@@ -38,8 +39,8 @@ namespace imaging {
 /// Whether a recipe uses more than the picture's 8 bits in sRGB.
 [[nodiscard]] bool wantsMore(const CapturedPicture& picture, const ImageRecipe& recipe);
 
-/// The image that a recipe begins with, as for a frame. Where a picture that was unpacked lacks
-/// what the recipe wants, its 8 bits.
+/// The image that a recipe starts with, as for a frame. If an unpacked picture lacks what the
+/// recipe needs, the image with 8 bits.
 [[nodiscard]] QImage pictureOf(const CapturedPicture& picture, const ImageRecipe& recipe);
 
 } // namespace imaging

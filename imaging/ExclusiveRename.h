@@ -2,11 +2,11 @@
 
 #include <QByteArray>
 
-/// Renaming a file without ever replacing another one of the new name.
+/// Renames a file without ever replacing another one with the new name.
 ///
-/// There is no single call that every system and file system offers for it, so there are three
-/// ways; `rename` takes the first that works. They are apart to be tested on a disk that offers
-/// all of them. Paths are in the file system's encoding. Callable from any thread.
+/// No single call for this works on every system and file system, so there are three ways; `rename`
+/// takes the first that works. They are separate functions so that they can be tested on a disk
+/// that supports all of them. Paths are in the file system's encoding. Callable from any thread.
 namespace ExclusiveRename {
 
 enum class Outcome {
@@ -17,17 +17,17 @@ enum class Outcome {
                   ///< errno. Nothing changed.
 };
 
-/// Renames by the first of the ways below that is supported. Never gives NotSupported.
+/// Renames in the first of the ways below that is supported. Never returns NotSupported.
 [[nodiscard]] Outcome rename(const QByteArray& from, const QByteArray& to);
 
-/// In one step of the kernel's. Linux only, and not on every file system.
+/// With a single system call. Linux only, and not on every file system.
 [[nodiscard]] Outcome byRenaming(const QByteArray& from, const QByteArray& to);
 
-/// By a second name for the file, then removing the first. Not on FAT and its like.
+/// With a hard link of the new name, removing the old one afterwards. Not on FAT and similar.
 [[nodiscard]] Outcome byLinking(const QByteArray& from, const QByteArray& to);
 
-/// By an empty file of the new name, which only one can make, and putting the file in its place.
-/// On every file system, but the empty file can be seen for a moment.
+/// Creates an empty file of the new name, which only one caller can do, and replaces it by the
+/// file. Works on every file system, but the empty file is visible for a moment.
 [[nodiscard]] Outcome byClaiming(const QByteArray& from, const QByteArray& to);
 
 } // namespace ExclusiveRename

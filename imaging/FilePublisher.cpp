@@ -15,7 +15,7 @@
 
 namespace {
 
-/// How writing ended, with the system's number for why it failed.
+/// The result of writing, with the system's error number on failure.
 struct Ending
 {
     WriteResult result = WriteResult::Failed;
@@ -44,7 +44,7 @@ public:
     [[nodiscard]] bool isOpen() const { return m_file >= 0; }
     [[nodiscard]] qint64 size() const { return ::lseek(m_file, 0, SEEK_END); }
 
-    /// Writes the part of the content between two places to where it belongs.
+    /// Writes the content between two positions to the same positions in the file.
     [[nodiscard]] bool write(const QByteArray& content, qint64 from, qint64 to) const
     {
         while (from < to) {
@@ -63,7 +63,7 @@ public:
 
     [[nodiscard]] bool resize(qint64 size) const { return ::ftruncate(m_file, size) == 0; }
 
-    /// False where the system tells only now that something was not written.
+    /// False if the system reports only now that writing failed.
     [[nodiscard]] bool close()
     {
         const int result = ::close(m_file);
@@ -75,11 +75,11 @@ private:
     int m_file;
 };
 
-/// Writes into the file itself. What needs room is written first, behind the old content, and cut
-/// off again where there is none: a full disk then costs nothing.
+/// Overwrites the file in place. The part that needs more room is written first, behind the old
+/// content, and removed again if there is no room: so a full disk leaves the old content intact.
 Ending overwriting(const QString& target, const QByteArray& content)
 {
-    // Links have been followed before: one that is there now was put there by somebody else.
+    // Links have been resolved before: a link found now was put there by somebody else.
     OpenFile file(::open(QFile::encodeName(target).constData(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
     if (!file.isOpen()) {
         return Ending::failed(errno);
@@ -99,8 +99,8 @@ Ending overwriting(const QString& target, const QByteArray& content)
     return isWritten ? Ending::written() : Ending::failed(errno);
 }
 
-/// Whether that is why a file could not be renamed: the folder is protected, or the target is
-/// another user's in a folder for all, or a mount point.
+/// Whether the error means that the target cannot be replaced by renaming: its folder is protected,
+/// it belongs to another user in a shared folder, or it is a mount point.
 bool isTargetFixed(int error)
 {
     return error == EACCES || error == EPERM || error == EBUSY;
@@ -131,7 +131,7 @@ Ending keeping(const QByteArray& file, const QByteArray& target)
     return Ending::failed(errno);
 }
 
-/// The file that replacing `fileName` is about: the one at the end of a chain of symbolic links.
+/// The file that replacing `fileName` refers to: the end of a chain of symbolic links.
 QString withoutLinks(const QString& fileName)
 {
     const QFileInfo info(fileName);

@@ -9,67 +9,65 @@
 
 class HiddenFile;
 
-/// What to do with a file that already bears the name of a new one.
+/// What to do if a file with the name of the new one exists.
 enum class ExistingFile {
-    Replace, ///< The new file takes its place, in one step wherever the folder allows that.
-    Keep     ///< It stays as it is, even when it appears in the very moment of writing.
+    Replace, ///< The new file replaces it, in one step wherever the folder allows that.
+    Keep     ///< It is kept, even if it is created at the same moment.
 };
 
-/// How writing a file ended.
+/// The result of writing a file.
 enum class WriteResult {
-    Written,       ///< The whole file stands under its name.
-    AlreadyExists, ///< Another file bears the name and was kept; only with ExistingFile::Keep.
+    Written,       ///< The complete file exists under its name.
+    AlreadyExists, ///< Another file has the name and was kept; only with ExistingFile::Keep.
     Failed         ///< Not written. What stood under the name is unchanged, unless overwritten.
 };
 
-/// Puts whole files under their names.
+/// Creates complete files under their final names.
 ///
-/// The content goes into a hidden file in the same folder first, which takes its final name only
-/// when it is complete. Whatever happens on the way (a full disk, the end of the process), nobody
-/// ever sees half a file under the final name. The hidden file is removed on every failure; only
-/// a process that is killed in the middle leaves one behind, named ".morvantile-….part", which
-/// sweep() removes.
+/// The content is first written to a hidden file in the same folder, which gets its final name only
+/// when it is complete. Whatever happens meanwhile (a full disk, the end of the process), half a
+/// file is never visible under the final name. The hidden file is removed on every failure. Only a
+/// process that is killed leaves one behind, named ".morvantile-….part", which sweep() removes.
 ///
-/// The exception is overwriting: with ExistingFile::Replace, a file that may be written but not
-/// replaced by another one (its folder is write-protected, it is another user's in a folder for
-/// all, or it is a mount point) is written in place. Room for the new content is taken first, so
-/// that a full disk leaves the old content whole. But others can see half a file meanwhile, and the
-/// end of the process or an error of the disk leaves one behind: after Failed, the old content may
-/// then be lost.
+/// The exception is overwriting: with ExistingFile::Replace, a file is written in place if it is
+/// writable but cannot be replaced (its folder is write-protected, it belongs to another user in a
+/// shared folder, or it is a mount point). Room for the new content is allocated first, so that a
+/// full disk leaves the old content intact. But half a file is visible meanwhile, and remains if
+/// the process ends or the disk fails: after Failed, the old content may then be lost.
 ///
-/// Nothing is forced onto the disk, so a power cut may still lose what was just written.
+/// Nothing is synced to the disk, so a power cut may still lose what was just written.
 ///
-/// Without state: callable from any thread, and safe against other threads, processes and programs
-/// that write into the same folder.
+/// Stateless: callable from any thread, and safe against other threads, processes and programs that
+/// write to the same folder.
 namespace FilePublisher {
 
 /// Writes `content` to the file `fileName`.
 ///
-/// With ExistingFile::Replace, a symbolic link is followed and the file behind it replaced; the
-/// new file takes over the permissions of the old one. What is write-protected, or no regular file
-/// at all, is not replaced: that is a failure.
+/// With ExistingFile::Replace, a symbolic link is followed and the file behind it replaced; the new
+/// file takes over the permissions of the old one. A write-protected file, or anything but a
+/// regular file, is not replaced: that is a failure.
 ///
-/// With ExistingFile::Keep, of any number of writers of one name exactly one gets Written, and the
-/// others AlreadyExists. On file systems that can neither rename without replacing nor make hard
-/// links, the name is claimed by an empty file for the moment before the content takes its place.
+/// With ExistingFile::Keep, exactly one of several concurrent writers of one name gets Written, and
+/// the others AlreadyExists. On file systems that can neither rename without replacing nor create
+/// hard links, an empty file claims the name for a moment before the content replaces it.
 ///
-/// @param failure  why, where the result is Failed; may be null
+/// @param failure  receives the reason if the result is Failed; may be null
 [[nodiscard]] WriteResult publish(const QString& fileName, const QByteArray& content,
                                   ExistingFile existing, WriteFailure* failure = nullptr);
 
-/// Puts content into a hidden file of a folder before it has a name, so that it needs no memory
-/// until then. The file is removed with the object unless it was published. Null where that fails:
-/// publishing the content itself then tells why.
+/// Writes content to a hidden file in a folder before its name is known, so that it takes no memory
+/// until then. The file is removed with the object unless it was published. Null on failure:
+/// publish the content itself then, which reports the reason.
 [[nodiscard]] std::shared_ptr<HiddenFile> prepare(const QString& folder, const QByteArray& content);
 
-/// As publish() with ExistingFile::Keep, for content that is prepared in the folder of `fileName`.
-/// After AlreadyExists and Failed it may be tried again, under another name.
+/// Like publish() with ExistingFile::Keep, for content prepared in the folder of `fileName`. After
+/// AlreadyExists and Failed it may be called again with another name.
 [[nodiscard]] WriteResult publishPrepared(const QString& fileName, const HiddenFile& prepared,
                                           WriteFailure* failure = nullptr);
 
-/// Removes the hidden files in a folder that programs which were killed have left there: those of
-/// our names that are older than an hour and that no living program writes. Before a run writes
-/// there. How many were removed; what cannot be is left.
+/// Removes hidden files that killed programs have left in a folder: those with our names that are
+/// older than an hour and are not locked by a running program. Call it before writing there.
+/// Returns how many were removed; failures are ignored.
 int sweep(const QString& folder);
 
 } // namespace FilePublisher

@@ -8,12 +8,12 @@
 
 namespace imaging {
 
-/// The image of a frame that a recipe begins with: in 8 bits a channel, in as many as the picture
-/// has, or in the values as they are stored, with their colour space. A null image where there is
-/// no memory for it, or no frame. Callable from any thread.
+/// The image of a frame that a recipe starts with: with 8 bits per channel, with as many as the
+/// picture has, or with its stored values and their colour space. Null for an invalid frame, or if
+/// memory runs out. Callable from any thread.
 [[nodiscard]] QImage pictureOf(const QtAV::VideoFrame& frame, const ImageRecipe& recipe);
 
-/// Whether that is another one than 8 bits in sRGB.
+/// Whether a recipe needs anything other than 8 bits in sRGB.
 [[nodiscard]] bool wantsMore(const QtAV::VideoFrame& frame, const ImageRecipe& recipe);
 
 } // namespace imaging

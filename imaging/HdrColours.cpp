@@ -55,7 +55,7 @@ char numberOf(Primaries primaries)
     return 1;
 }
 
-/// The numbers of ITU-T H.273 for primaries, curve, matrix (none) and range (full).
+/// The code points of ITU-T H.273 for primaries, curve, matrix (none) and range (full).
 QByteArray codePointsOf(const StoredColours& colours)
 {
     const std::array<char, 4> codes{numberOf(colours.primaries),
@@ -64,7 +64,7 @@ QByteArray codePointsOf(const StoredColours& colours)
     return {codes.data(), static_cast<int>(codes.size())};
 }
 
-/// As a tag of its own: the library's writer puts four bytes too many before them.
+/// Written as a raw tag: the library's own writer puts four superfluous bytes before them.
 bool writeCodePoints(void* profile, const StoredColours& colours)
 {
     const QByteArray content = "cicp" + QByteArray(4, '\0') + codePointsOf(colours);
@@ -72,8 +72,7 @@ bool writeCodePoints(void* profile, const StoredColours& colours)
                           static_cast<cmsUInt32Number>(content.size())) != 0;
 }
 
-/// The profile's file as if it had been made on one day, so that the same picture always gives the
-/// same file.
+/// The profile's file with a fixed date, so that the same picture always gives the same file.
 QByteArray withoutDate(QByteArray file)
 {
     constexpr int dateOffset = 24;
@@ -127,7 +126,7 @@ bool writeText(void* profile, cmsTagSignature tag, const char* text)
            cmsWriteTag(profile, tag, written.get()) != 0;
 }
 
-/// The profile's file; empty where memory runs out.
+/// The profile's file; empty if memory runs out.
 QByteArray profileOf(const StoredColours& colours)
 {
     const CurvePtr curve = curveOf(colours);
@@ -203,7 +202,7 @@ QRgba64 valuesFor(QRgb premultiplied, const StoredColours& colours)
     return qRgba64(code(values[0]), code(values[1]), code(values[2]), 65535);
 }
 
-/// A picture drawn over another, with the opacity of 0 to 255.
+/// Blends a pixel over another with an opacity from 0 to 255.
 QRgba64 mixed(QRgba64 below, QRgba64 above, int opacity)
 {
     const auto mix = [opacity](quint16 b, quint16 a) {
@@ -240,7 +239,7 @@ std::optional<StoredColours> HdrColours::of(const QImage& image)
 
 QByteArray HdrColours::withCodePoints(const QByteArray& png, const StoredColours& colours)
 {
-    // The signature, and the header with its length, name and checksum.
+    // The signature, and the header chunk with its length, name and checksum.
     constexpr int endOfHeader = 8 + 4 + 4 + 13 + 4;
     if (png.size() < endOfHeader || png.mid(12, 4) != "IHDR") {
         return png;
@@ -251,7 +250,7 @@ QByteArray HdrColours::withCodePoints(const QByteArray& png, const StoredColours
 
 void HdrColours::drawOver(QImage& image, const QImage& layer, const StoredColours& colours)
 {
-    // A watermark has few colours beside each other.
+    // Neighbouring pixels of a watermark mostly have the same colour.
     QRgb lastColour = 0;
     QRgba64 lastValues = valuesFor(lastColour, colours);
     for (int y = 0; y < image.height(); ++y) {

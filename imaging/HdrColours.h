@@ -8,25 +8,25 @@
 
 #include <optional>
 
-/// Pictures of high dynamic range that keep their own values. An image bears them in its colour
-/// space, whose profile tells every program what they stand for.
+/// Pictures of high dynamic range that keep their own values. The colour space of an image, with
+/// its profile, tells every program what the values stand for.
 ///
 /// Callable from any thread.
 namespace HdrColours {
 
-/// The colour space of such values: an ICC profile of version 4.4 that names the curve and the
-/// primaries by their numbers in ITU-T H.273, too. Invalid where memory runs out.
+/// The colour space of such values: an ICC profile of version 4.4 that also names the curve and the
+/// primaries by their code points in ITU-T H.273. Invalid if memory runs out.
 [[nodiscard]] QColorSpace colorSpaceOf(const QtAV::StoredColours& colours);
 
-/// What an image's values stand for where colorSpaceOf() was given to it.
+/// What the values of an image with the result of colorSpaceOf() stand for; otherwise nothing.
 [[nodiscard]] std::optional<QtAV::StoredColours> of(const QImage& image);
 
-/// An encoded PNG that says by those numbers what its values stand for: in the chunk cICP, which
-/// programs that show high dynamic range read first. What is no PNG stays as it is.
+/// Adds these code points to an encoded PNG, in the chunk cICP, which programs that show high
+/// dynamic range read first. Other content stays unchanged.
 [[nodiscard]] QByteArray withCodePoints(const QByteArray& png, const QtAV::StoredColours& colours);
 
-/// Draws a layer in sRGB over an image with such values: white of the layer is as bright as that of
-/// pictures with standard range.
+/// Draws an sRGB layer over an image with such values: white of the layer becomes as bright as that
+/// of pictures with standard range.
 ///
 /// @param image  in Format_RGBX64 or Format_RGBA64
 /// @param layer  of the same size, in Format_ARGB32_Premultiplied

@@ -31,7 +31,7 @@ bool isOurName(const QString& name)
     return ours.match(name).hasMatch();
 }
 
-/// Whether the file is an old one of ours that no program has locked, as its maker does.
+/// Whether the file is an old one of ours that is not locked by its creator.
 bool isLeftOver(const QByteArray& path)
 {
     const int file = ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
@@ -71,7 +71,7 @@ bool HiddenFile::create(const QString& folder)
         m_file = ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (m_file >= 0) {
             m_path = path;
-            // File systems without locks go by the age alone.
+            // On file systems without locks, only the age counts.
             static_cast<void>(::flock(m_file, LOCK_EX | LOCK_NB));
             return true;
         }

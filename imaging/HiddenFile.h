@@ -3,11 +3,11 @@
 #include <QByteArray>
 #include <QString>
 
-/// A hidden file of a name of its own, in which a new file is written before it takes its name. It
-/// is removed again unless it has got another name in the meantime.
+/// A hidden file with a unique name, in which a new file is written before it gets its final name.
+/// It is removed unless it has been renamed meanwhile.
 ///
-/// While it lives, its maker holds a lock on it, by which sweep() sees that it is not left over.
-/// One thread at a time may use an object.
+/// Its creator holds a lock on it during its lifetime, which tells sweep() that it is in use. One
+/// thread at a time may use an object.
 class HiddenFile
 {
 public:
@@ -16,21 +16,21 @@ public:
     HiddenFile(const HiddenFile&) = delete;
     HiddenFile& operator=(const HiddenFile&) = delete;
 
-    /// Makes a new, empty file of a name that nobody else has in the folder.
+    /// Creates a new, empty file with a unique name in the folder.
     [[nodiscard]] bool create(const QString& folder);
 
-    /// Writes all of the content and closes the file; some file systems tell of a full disk or
-    /// quota no sooner than then.
+    /// Writes all of the content and closes the file; some file systems report a full disk or quota
+    /// only on closing.
     [[nodiscard]] bool fill(const QByteArray& content);
 
-    /// In the file system's encoding.
+    /// The path in the file system's encoding.
     const QByteArray& path() const { return m_path; }
 
-    /// The system's number for what went wrong last; 0 where nothing did.
+    /// The system's number of the last error; 0 for none.
     int error() const { return m_error; }
 
-    /// Removes what programs that were killed have left in a folder: hidden files of our names,
-    /// older than an hour, that no living program writes. How many were removed.
+    /// Removes hidden files that killed programs have left in a folder: those with our names, older
+    /// than an hour, that are not locked by a running program. Returns how many were removed.
     static int sweep(const QString& folder);
 
 private:

@@ -21,12 +21,12 @@ constexpr int highestQuality = 100;
 
 /// Stands for zlib's level 1. Above this, Qt's PNG writer does not compress at all.
 constexpr int quickestPngQuality = 89;
-/// Stands for zlib's level 2: a quarter of the time that the writer's own choice takes, for files
-/// that are up to a third larger.
+/// Corresponds to zlib's level 2: a quarter of the time of the writer's default, for files that are
+/// up to a third larger.
 constexpr int usualPngQuality = 75;
 
-/// A buffer that fails to write when it cannot grow. An exception would pass through the image
-/// libraries, which are not made for that.
+/// A buffer that fails to write if it cannot grow. An exception would pass through the image
+/// libraries, which do not support that.
 class FallibleBuffer : public QBuffer
 {
 public:
@@ -48,36 +48,35 @@ bool isJpeg(const QByteArray& format)
     return format == "jpg" || format == "jpeg";
 }
 
-/// Whether the plugin of the format notices by itself that memory runs out. The other ones work on
-/// copies and do not look whether they got them: BMP then writes an image of no size and says that
-/// all went well, and TIFF never returns.
+/// Whether the plugin of the format detects that memory runs out. The others work on copies without
+/// checking that they were allocated: BMP then writes an image of no size and reports success, and
+/// TIFF never returns.
 bool noticesLackOfMemory(const QByteArray& format)
 {
     return isJpeg(format) || format == "png";
 }
 
-/// Whether there is memory for a copy of the image, for content that may take as much, and for the
+/// Whether there is memory for a copy of the image, for content of up to the same size, and for the
 /// threads that Qt copies with.
 bool hasMemoryToCopy(const QImage& image)
 {
     const size_t copyBytes = 2 * std::max(sizeof(QRgb), static_cast<size_t>(image.depth()) / 8);
     constexpr size_t threadBytes = 64 * 1024 * 1024;
     const auto pixels = static_cast<size_t>(image.width()) * static_cast<size_t>(image.height());
-    // Volatile, or the compiler leaves out taking what is given back unused.
+    // Volatile, because otherwise the compiler removes an unused allocation.
     void* const volatile probe = std::malloc(pixels * copyBytes + threadBytes);
     std::free(probe);
     return probe != nullptr;
 }
 
-/// The image with a colour profile, which the writers then write: sRGB where it has none. Shares
-/// the image's pixels, and is to be gone before it.
+/// The image with a colour profile, which the writers then store: sRGB if it has none. Shares the
+/// image's pixels and must not outlive it.
 QImage withColorSpace(const QImage& image)
 {
     if (image.colorSpace().isValid()) {
         return image;
     }
-    // Whatever is set in an image of constant pixels, Qt copies the pixels first. Nobody writes
-    // them.
+    // Qt copies constant pixels when any property of an image is set. Nothing writes to these.
     QImage tagged(const_cast<uchar*>(image.constBits()), image.width(), image.height(),
                   image.bytesPerLine(), image.format());
     tagged.setColorTable(image.colorTable());
@@ -91,7 +90,7 @@ QImage withColorSpace(const QImage& image)
     return tagged;
 }
 
-/// What Qt's writer is told for a quality.
+/// The value that Qt's writer expects for a quality.
 int writerQuality(const QByteArray& format, int quality)
 {
     if (format != "png") {
@@ -121,7 +120,7 @@ QByteArray encodedWithWholeChroma(const QImage& image, int quality)
     }
 }
 
-/// The encoded picture; empty when the format is unknown or cannot hold the picture, or when memory
+/// The encoded picture; empty if the format is unknown or cannot hold the picture, or if memory
 /// runs out.
 QByteArray encoded(const QImage& image, const QByteArray& format, int quality)
 {

@@ -6,32 +6,31 @@
 #include <QImage>
 #include <QString>
 
-/// Writes images to files, whole or not at all.
+/// Writes images to files, completely or not at all.
 ///
-/// The picture is encoded in memory and then put under its name by FilePublisher, with all that
-/// that promises, and its one exception. Every file of a format that can hold one has a colour
-/// profile: the image's own, or sRGB. Without state: callable from any thread.
+/// The picture is encoded in memory and then stored by FilePublisher, with its guarantees and its
+/// one exception. Every file whose format supports it has a colour profile: the image's own, or
+/// sRGB. Stateless: callable from any thread.
 namespace ImageFileWriter {
 
-/// The quality that leaves the choice to the format.
+/// Leaves the quality to the format.
 constexpr int defaultQuality = -1;
 
-/// The encoded picture. Empty for a null image, where the type, which is a suffix without dot,
-/// stands for no format that can be written (capitals do not matter), and where memory runs out.
+/// The encoded picture. Empty for a null image, if the type (a suffix without dot,
+/// case-insensitive) is not a writable format, and if memory runs out.
 ///
 /// @param quality  as for write()
 [[nodiscard]] QByteArray encode(const QImage& image, const QString& type, int quality);
 
 /// Writes the image to `fileName`.
 ///
-/// @param quality  0 (small file) to 100 (true picture), or defaultQuality; above 100 counts as
-///     100. What it means is up to the format. JPEG keeps chroma in full resolution from 90 on; PNG
-///     loses nothing and is always compressed, the less the quicker.
-/// @return Failed for a null image, for a name whose suffix stands for no format that can be
-///     written (capitals do not matter), where memory for the encoded picture runs out, and where
-///     the file cannot be written.
+/// @param quality  0 (small file) to 100 (best picture), or defaultQuality. Higher values count as
+///     100. Its effect depends on the format. JPEG keeps chroma in full resolution from 90 on; PNG
+///     is lossless and always compressed, with higher values less but faster.
+/// @return Failed for a null image, for a name whose suffix (case-insensitive) is not a writable
+///     format, if memory for the encoded picture runs out, and if the file cannot be written.
 ///
-/// The format is the suffix's; the last one's where the name has several dots.
+/// The format is determined by the last suffix of the name.
 [[nodiscard]] WriteResult write(const QString& fileName, const QImage& image, int quality,
                                 ExistingFile existing);
 

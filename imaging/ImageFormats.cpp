@@ -23,7 +23,7 @@ constexpr Format formats[] = {
 
 using Property = decltype(&Format::hasQuality);
 
-/// Whether it is a known format of which that is true.
+/// Whether the suffix is a known format with this property.
 bool is(const QString& suffix, Property property)
 {
     const QString lower = suffix.toLower();
@@ -32,8 +32,8 @@ bool is(const QString& suffix, Property property)
     });
 }
 
-/// Comes with Qt itself, so that no plugin need be asked: all would be loaded for the answer, and
-/// with them libraries for vector graphics and widgets.
+/// True for formats of Qt itself, for which no plugin needs to be queried: a query loads all
+/// plugins, and with them libraries for vector graphics and widgets.
 bool isAlwaysWritable(const QString& suffix)
 {
     return suffix == QLatin1String("jpg") || suffix == QLatin1String("jpeg") ||

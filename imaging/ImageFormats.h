@@ -3,26 +3,27 @@
 #include <QString>
 #include <QStringList>
 
-/// Which files pictures can be written to on this machine. Some formats come with plugins that may
-/// be missing: WebP, AVIF and JPEG XL.
+/// Which image formats can be written on this machine. WebP, AVIF and JPEG XL need plugins that may
+/// be missing.
 ///
-/// Callable from any thread. Asking for others than JPEG, PNG and BMP loads all plugins, once.
+/// Callable from any thread. The first query for a format other than JPEG, PNG and BMP loads all
+/// plugins.
 namespace ImageFormats {
 
-/// The suffixes that are offered, such as "jpg", as far as they can be written: those of JPEG, PNG,
-/// TIFF, BMP, WebP, AVIF and JPEG XL, in this order.
+/// The suffixes to offer, such as "jpg", as far as they can be written: those of JPEG, PNG, TIFF,
+/// BMP, WebP, AVIF and JPEG XL, in this order.
 [[nodiscard]] QStringList suffixes();
 
-/// Files with this suffix, in capitals or not, can be written; also other ones than are offered.
+/// True if files with this suffix, case-insensitive, can be written, even if it is not offered.
 [[nodiscard]] bool canWrite(const QString& suffix);
 
-/// A quality matters for files with this suffix, in capitals or not.
+/// True if files with this suffix, case-insensitive, have a quality setting.
 [[nodiscard]] bool hasQuality(const QString& suffix);
 
-/// Files with this suffix, in capitals or not, can have more than 8 bits a channel.
+/// True if files with this suffix, case-insensitive, can have more than 8 bits per channel.
 [[nodiscard]] bool hasDepth(const QString& suffix);
 
-/// Files with this suffix, in capitals or not, can hold high dynamic range as it is stored.
+/// True if files with this suffix, case-insensitive, can hold high dynamic range as it is stored.
 [[nodiscard]] bool hasHdr(const QString& suffix);
 
 } // namespace ImageFormats

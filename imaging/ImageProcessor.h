@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-/// A place for adjustments of single images that need state of their own. None does yet, so nothing
+/// Reserved for adjustments of single images that need state of their own. There are none yet; the
 /// calls it; the adjustments in use are those of ImageProcessingManager.
 class ImageProcessor
 {

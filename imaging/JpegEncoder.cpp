@@ -15,13 +15,13 @@ namespace {
 
 constexpr double inchesPerMeter = 1 / 0.0254;
 
-/// Where JFIF's first segment says which unit its resolution is in, and where that segment ends.
+/// Position of the resolution unit in JFIF's first segment, and the end of that segment.
 constexpr int unitOffset = 13;
 constexpr int firstSegmentEnd = 20;
 constexpr char dotsPerInch = 1;
 
-/// So many bytes of a colour profile fit into a segment, behind the length, the name and the
-/// numbers; and so many segments may hold one.
+/// Maximum size of the part of a colour profile in one segment, after its length, name and numbers;
+/// and the maximum number of such segments.
 constexpr int largestProfilePart = 65535 - 2 - 12 - 2;
 constexpr int mostProfileParts = 255;
 
@@ -37,7 +37,7 @@ struct BytesDeleter
 };
 using BytesPtr = std::unique_ptr<unsigned char, BytesDeleter>;
 
-/// How the encoder calls the image's own order of samples; nothing for one that it does not know.
+/// The encoder's name for the image's order of samples; nothing for an unsupported one.
 std::optional<TJPF> pixelFormatOf(QImage::Format format)
 {
     switch (format) {
@@ -63,7 +63,7 @@ void appendNumber(QByteArray& bytes, int number)
     bytes.append(static_cast<char>(number >> 8)).append(static_cast<char>(number & 0xff));
 }
 
-/// The profile in segments that decoders put together again.
+/// Splits the profile into segments, which decoders join again.
 QByteArray profileSegments(const QByteArray& profile)
 {
     const int parts = (profile.size() + largestProfilePart - 1) / largestProfilePart;
@@ -107,7 +107,8 @@ QByteArray JpegEncoder::encode(const QImage& image, int quality)
     if (source.isNull() || !compressor) {
         return {};
     }
-    // Room for the worst case takes no memory where it stays untouched; growing takes it twice.
+    // Allocating the worst case takes no memory for pages that stay untouched; growing would take
+    // it twice.
     unsigned long size = tjBufSize(source.width(), source.height(), TJSAMP_444);
     const BytesPtr bytes(tjAlloc(static_cast<int>(size)));
     if (!bytes) {

@@ -5,11 +5,11 @@
 
 /// JPEG with chroma in full resolution (4:4:4).
 ///
-/// Qt's writer always halves chroma in both directions, so that fine coloured details are off
-/// however high the quality. Without state: callable from any thread.
+/// Qt's writer always halves chroma in both directions, which blurs fine coloured details at any
+/// quality. Stateless: callable from any thread.
 namespace JpegEncoder {
 
-/// Whether the image has colours at all: one of greys is the same in either encoder.
+/// Whether the image has colours; a grey image is the same in either encoder.
 [[nodiscard]] bool hasChroma(const QImage& image);
 
 /// The encoded image, with its resolution and its colour profile. Alpha is ignored.

@@ -14,7 +14,7 @@ double sRgbCodeOf(double light)
     return light <= 0.0031308 ? light * 12.92 : 1.055 * std::pow(light, 1.0 / 2.4) - 0.055;
 }
 
-/// The function at 0/65535, 1/65535, … and 1, and once more there.
+/// The function at 0/65535, 1/65535, … and 1, with the last value repeated.
 template <typename Function>
 std::vector<float> tableOf(const Function& function)
 {
@@ -26,7 +26,7 @@ std::vector<float> tableOf(const Function& function)
     return table;
 }
 
-/// Where a rising function reaches a value, both from 0 to 1.
+/// The argument at which a rising function reaches a value, both from 0 to 1.
 template <typename Function>
 double reachedAt(const Function& function, double value)
 {
@@ -74,7 +74,7 @@ LightCurve LightCurve::made(Transfer transfer)
     LightCurve curve;
     curve.m_isOfRoots = true;
     curve.m_lights = tableOf([&](double code) { return colours.lightOf(code); });
-    // By the table rather than by the curve itself, whose powers take a hundred times as long.
+    // Uses the table instead of the curve, whose powers take a hundred times as long.
     const auto lightOf = [&](double code) {
         const double place = code * LightCurve::largestCode;
         const auto index = static_cast<std::size_t>(place);
@@ -86,7 +86,7 @@ LightCurve LightCurve::made(Transfer transfer)
     return curve;
 }
 
-/// Linear between the table's values, which is exact to a tenth of a 16-bit step for sRGB.
+/// Linear interpolation in the table, exact to a tenth of a 16-bit step for sRGB.
 float LightCurve::codeOf(float light) const
 {
     const float place =

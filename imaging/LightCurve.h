@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-/// How the codes of a picture and the light that they stand for belong together, in tables.
+/// Converts between the codes of a picture and the light that they stand for, using tables.
 ///
 /// Immutable: callable from any thread.
 class LightCurve
@@ -13,17 +13,17 @@ class LightCurve
 public:
     static constexpr int largestCode = 65535;
 
-    /// That of sRGB, made when it is first asked for.
+    /// The curve of sRGB, created on first use.
     [[nodiscard]] static const LightCurve& sRgb();
 
-    /// That of a picture's own values; each is made once, which takes some milliseconds. Throws
+    /// The curve of stored values; each is created once, which takes some milliseconds. Throws
     /// std::bad_alloc.
     [[nodiscard]] static const LightCurve& of(QtAV::StoredColours::Transfer transfer);
 
-    /// The light of a code of 16 bits; 0 to 1, where 1 is that of the highest code.
+    /// The light of a 16-bit code, 0 to 1; the highest code gives 1.
     [[nodiscard]] float lightOf(std::size_t code) const { return m_lights[code]; }
 
-    /// The code of light, both from 0 to 1.
+    /// The code for light, both from 0 to 1.
     [[nodiscard]] float codeOf(float light) const;
 
 private:
@@ -31,8 +31,8 @@ private:
     [[nodiscard]] static LightCurve made(QtAV::StoredColours::Transfer transfer);
 
     std::vector<float> m_lights;
-    /// The codes of 0/65535, 1/65535, … and 1, and one more for interpolation: of light itself or,
-    /// where nearly all codes stand for very little light, of its fourth root.
+    /// The codes of 0/65535, 1/65535, … and 1, with one more for interpolation: of light itself or,
+    /// if nearly all codes stand for very little light, of its fourth root.
     std::vector<float> m_codes;
     bool m_isOfRoots = false;
 };

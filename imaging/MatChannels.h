@@ -2,11 +2,11 @@
 
 #include "imaging/QtOcv.h"
 
-/// Channel counts and orders of matrices: the inner half of QtOcv, used by nothing else.
+/// Channel counts and orders of matrices: the implementation of QtOcv, used by nothing else.
 ///
-/// Pure functions. Each returns an independent matrix of the argument's depth, or an empty one
-/// where the argument already is what is asked for (`reordered` excepted), so that the caller
-/// decides whether a copy is needed at all.
+/// Pure functions. Each returns an independent matrix of the argument's depth, or an empty one if
+/// the argument already has the requested form (`reordered` excepted), so that the caller decides
+/// whether to copy.
 namespace QtOcv {
 
 /// A new four-channel matrix in the order `to`; a plain copy when the orders are the same.
@@ -15,10 +15,10 @@ namespace QtOcv {
 /// The matrix with `channels` (1, 3 or 4) channels in the order `to`.
 ///
 /// @param mat        eight-bit, 1, 3 or 4 channels.
-/// @param from       its order; of no account for one channel. Three channels are never Argb.
-/// @param alphaFill  the alpha that is put beside channels without any where `to` is Argb; it is
-///                   saturated to the matrix's depth. The other orders fill in a full sample.
-/// @return empty when nothing has to be done, and for another number of channels.
+/// @param from       its order; ignored for one channel. Three channels are never Argb.
+/// @param alphaFill  the alpha to add if `to` is Argb and the matrix has none; it is saturated to
+///     the matrix's depth. The other orders add a full sample.
+/// @return empty if nothing has to be done, and for another number of channels.
 [[nodiscard]] cv::Mat withChannels(const cv::Mat& mat, int channels, MatColorOrder from,
                                    MatColorOrder to, double alphaFill);
 

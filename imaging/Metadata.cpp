@@ -24,14 +24,14 @@ namespace {
 const char* const ourNamespace = "https://morvantile.example/ns/still/1.0/";
 const char* const ourPrefix = "morvantile";
 
-/// The toolkit for XMP has state that all threads share.
+/// The XMP toolkit has state that all threads share.
 std::mutex& xmpMutex()
 {
     static std::mutex mutex;
     return mutex;
 }
 
-/// Makes the toolkit ready. Under the mutex.
+/// Initialises the toolkit. Call with the mutex held.
 void prepareXmp()
 {
     static const bool isPrepared = [] {
@@ -66,7 +66,7 @@ QString programText()
     return ProductInfo::name() + QLatin1Char(' ') + ProductInfo::version();
 }
 
-/// In digits that every program reads, whatever the country.
+/// Uses digits that every program reads, independent of the locale.
 QString timeText(const Recording::Moment& moment, const char* format)
 {
     return QLocale::c().toString(moment.time, QString::fromLatin1(format));
@@ -89,7 +89,7 @@ std::optional<Recording::Moment> momentOf(const PictureSource& source)
     return start ? std::make_optional(start->after(source.positionMs())) : std::nullopt;
 }
 
-/// Set only where there is something to say.
+/// Sets the value unless it is empty.
 template <typename Data>
 void set(Data& data, const std::string& key, const std::string& value)
 {
@@ -98,7 +98,7 @@ void set(Data& data, const std::string& key, const std::string& value)
     }
 }
 
-/// Degrees, minutes and seconds as EXIF's three fractions.
+/// Degrees, minutes and seconds as the three fractions of EXIF.
 std::string degreesText(double degrees)
 {
     constexpr qint64 partsOfSecond = 10000;
@@ -148,7 +148,7 @@ Exiv2::ExifData exifOf(const PictureSource& source, bool tellsPlace)
     return exif;
 }
 
-/// The frame's time in ticks of the video; nothing where it is between two of them.
+/// The frame's time in ticks of the video; nothing if it is between two ticks.
 std::optional<qint64> ticksOf(const PictureSource& source)
 {
     if (source.tickNumerator <= 0 || source.tickDenominator <= 0) {
@@ -178,7 +178,7 @@ void addPosition(Exiv2::XmpData& xmp, const PictureSource& source)
     }
 }
 
-/// The path, unless its bytes are no text.
+/// The path, unless its bytes are not text.
 QString writablePath(const QString& path)
 {
     const QString back = QString::fromUtf8(path.toUtf8());
@@ -211,7 +211,7 @@ Exiv2::XmpData xmpOf(const PictureSource& source, const ImageRecipe& recipe, con
     return xmp;
 }
 
-/// Only this part takes the mutex: files are put together by all threads at once.
+/// Only this part takes the mutex, so that all threads can assemble files concurrently.
 std::string packetOf(const PictureSource& source, const ImageRecipe& recipe, const QString& type)
 {
     const std::lock_guard<std::mutex> lock(xmpMutex());
@@ -229,7 +229,7 @@ QByteArray written(const QByteArray& content, const Exiv2::ExifData& exif,
 {
     const auto image = Exiv2::ImageFactory::open(
         reinterpret_cast<const Exiv2::byte*>(content.constData()), content.size());
-    // What is there, such as the colour profile, is kept only once it was read.
+    // Existing data, such as the colour profile, is preserved only if it was read.
     image->readMetadata();
     image->setExifData(exif);
     image->xmpPacket() = packet;
@@ -279,7 +279,7 @@ std::optional<imaging::StillOrigin> originFrom(const Exiv2::XmpData& xmp)
     }
     imaging::StillOrigin origin;
     origin.positionMs = *position;
-    // A name, and nothing that leads to another folder.
+    // Only a name, nothing that leads to another folder.
     origin.videoName = QFileInfo(plainText(textOf(xmp, "Xmp.dc.source"))).fileName();
     origin.videoPath = plainText(texts.value(QStringLiteral("VideoPath")));
     origin.recipe = RecipeTexts::recipeFrom(texts);

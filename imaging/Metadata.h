@@ -8,26 +8,26 @@
 
 #include <optional>
 
-/// What the files of pictures say of where these come from, so that photo programs sort them by
-/// their time and a still can be made again.
+/// Metadata in the files of pictures about their origin, so that photo programs can sort them by
+/// time and a still can be made again.
 ///
-/// EXIF and XMP: the moment that the frame shows, to the millisecond, and its zone; the video's
-/// name; camera, author and place, where the video's file tells them; the program. Position,
-/// frame number and recipe stand in XMP under a namespace of the program's own. Nothing depends on
+/// EXIF and XMP contain: the moment that the frame shows, to the millisecond, with its zone; the
+/// video's name; camera, author and place, if the video's file states them; the program. Position,
+/// frame number and recipe are stored in XMP under the program's own namespace. Nothing depends on
 /// when or where the picture was made: the same frame and recipe give the same bytes.
 ///
 /// Callable from any thread.
 namespace imaging {
 
-/// The encoded picture with metadata. Its pixels and its colour profile stay as they are.
+/// Adds metadata to the encoded picture. Its pixels and its colour profile stay unchanged.
 ///
-/// @param content  as ImageFileWriter::encode() gives it
-/// @param type     the format that it is encoded in, a suffix without dot
-/// @param recipe   says how much is told
-/// @param source   nothing is told where it is not known
-/// @return the content as it is where there is nothing to tell, and in formats other than JPEG,
-///     PNG, TIFF and WebP. Empty where memory runs out. A picture to which nothing can be added for
-///     another reason is as good without: that is written to the message log.
+/// @param content  as returned by ImageFileWriter::encode()
+/// @param type     its format, a suffix without dot
+/// @param recipe   says how much is stored
+/// @param source   nothing is stored if it is unknown
+/// @return the unchanged content if there is nothing to store, and in formats other than JPEG, PNG,
+///     TIFF and WebP. Empty if memory runs out. If metadata cannot be added for another reason, a
+///     message is logged and the picture is returned without it.
 [[nodiscard]] QByteArray withMetadata(const QByteArray& content, const QString& type,
                                       const ImageRecipe& recipe, const PictureSource& source);
 
@@ -35,14 +35,15 @@ namespace imaging {
 struct StillOrigin
 {
     QString videoName; ///< the file's name without its folder
-    QString videoPath; ///< where it was; empty where the picture does not tell
+    QString videoPath; ///< its original path; empty if the picture does not contain it
     qint64 positionMs = 0;
     ImageRecipe recipe;
-    bool hadPictureWatermark = false; ///< which the recipe lacks
+    bool hadPictureWatermark = false; ///< which the recipe does not include
 };
 
-/// What the metadata of a picture's file says. Nothing where the file cannot be read or is no still
-/// of this program; then `error` says so, for people. Whatever the file says, the values are sound.
+/// Reads the metadata of a picture's file. Nothing if the file cannot be read or is not a still of
+/// this program; `error` then has a text for people. All values are validated, whatever the file
+/// contains.
 [[nodiscard]] std::optional<StillOrigin> readOrigin(const QString& path, QString& error);
 
 } // namespace imaging

@@ -86,7 +86,7 @@ double alphaFillFor(int depth)
     }
 }
 
-/// The format that a matrix of so many channels is laid out as.
+/// The format with the memory layout of a matrix with this many channels.
 QImage::Format formatFor(int channels, MatColorOrder order, QImage::Format hint)
 {
     if (channels == 1) {

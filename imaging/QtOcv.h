@@ -7,11 +7,11 @@
 /// Conversions between Qt's images and OpenCV's matrices.
 ///
 /// Pure functions without state: callable from any thread. They report no errors; what cannot be
-/// converted gives an empty matrix or a null image. The memory order of Qt's 32-bit formats is
-/// taken to be B, G, R, A, as it is on little-endian machines.
+/// converted gives an empty matrix or a null image. Qt's 32-bit formats are assumed to have the
+/// memory order B, G, R, A, as on little-endian machines.
 ///
-/// The images of the formats Indexed8 and Mono are taken by their indexes, as grey levels; their
-/// colour tables are not looked at.
+/// Images of the formats Indexed8 and Mono are converted by their indexes, as grey levels; their
+/// colour tables are ignored.
 namespace QtOcv {
 
 /// The order of the colour channels in a matrix.

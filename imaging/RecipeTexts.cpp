@@ -34,8 +34,8 @@ QString pairText(int a, int b, char between)
     return QString::number(a) + QLatin1Char(between) + QString::number(b);
 }
 
-/// Two whole numbers with a sign in between; nothing where there are not exactly two, or one of
-/// them is farther from 0 than any that makes sense.
+/// Two whole numbers separated by a sign; nothing if there are not exactly two, or one of them is
+/// out of any sensible range.
 std::optional<QPoint> pairFrom(const QString& text, char between)
 {
     const QStringList parts = text.split(QLatin1Char(between));
@@ -45,7 +45,7 @@ std::optional<QPoint> pairFrom(const QString& text, char between)
     return isPair && isSmall ? std::make_optional(pair) : std::nullopt;
 }
 
-/// A whole number in a range; else the usual one.
+/// A whole number in a range; otherwise the default.
 int numberFrom(const Texts& texts, const char* name, int low, int high, int usual)
 {
     bool isNumber = false;
@@ -58,7 +58,7 @@ bool isYes(const Texts& texts, const char* name)
     return texts.value(nameOf(name)) == nameOf(yes);
 }
 
-/// Whether it is not left to the pictures themselves.
+/// Whether the setting overrides what the pictures themselves say.
 bool isForced(const QString& deinterlacing)
 {
     return deinterlacing == nameOf("on") || deinterlacing == nameOf("off");
@@ -126,7 +126,7 @@ void addWatermark(Texts& texts, const WatermarkRecipe& watermark)
     texts.insert(nameOf("WatermarkShadowOffset"), pairText(offset.x(), offset.y(), ','));
 }
 
-/// A font of a size that can be drawn; else the usual one.
+/// A font with a size that can be drawn; otherwise the default.
 QFont fontFrom(const QString& text)
 {
     QFont font;
@@ -210,7 +210,7 @@ ImageRecipe RecipeTexts::recipeFrom(const Texts& texts)
         recipe.keepsSize = false;
         recipe.bounds = QSize(size->x(), size->y());
         recipe.keepsAspectRatio = texts.value(nameOf("Fit")) != nameOf("Fill");
-        // A recipe that fills is one of a profile, and these enlarge.
+        // A recipe that fills its bounds comes from a profile, and profiles enlarge.
         recipe.enlarges = isYes(texts, "Enlarges") || !recipe.keepsAspectRatio;
     }
     if (texts.value(nameOf("Watermark")) == nameOf("Text")) {

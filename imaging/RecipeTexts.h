@@ -6,25 +6,24 @@
 #include <QSize>
 #include <QString>
 
-/// A recipe as texts, so that it can be kept in a picture's file and read back from there.
+/// Converts a recipe to texts, for storing it in a picture's file and reading it back.
 ///
-/// Only what mattered for the picture is kept: two recipes that make the same of a frame have the
-/// same texts.
+/// Only settings that affected the picture are stored: two recipes that give the same result for a
+/// frame have the same texts.
 namespace RecipeTexts {
 
 using Texts = QMap<QString, QString>;
 
 /// The texts by their names, such as "Contrast".
 /// @param frame        the size of the frame that the recipe was for
-/// @param keepsQuality the quality mattered
+/// @param keepsQuality whether the quality affected the picture
 [[nodiscard]] Texts of(const ImageRecipe& recipe, const QSize& frame, bool keepsQuality);
 
-/// The recipe that the texts stand for. They come from a file that anybody may have written: what
-/// is missing or makes no sense keeps its default. A watermark that is a picture is not among them,
-/// see hasPictureWatermark().
+/// The recipe for the texts. They may come from any file: missing and invalid values keep their
+/// defaults. A picture watermark is not included, see hasPictureWatermark().
 [[nodiscard]] ImageRecipe recipeFrom(const Texts& texts);
 
-/// The picture that the texts are about had another picture drawn on it.
+/// Whether the picture described by the texts had another picture drawn on it.
 [[nodiscard]] bool hasPictureWatermark(const Texts& texts);
 
 } // namespace RecipeTexts

@@ -9,10 +9,10 @@ namespace {
 
 constexpr int longestText = 1000;
 
-/// MP4 counts from 1904 on and cameras from 1970: what lies at the start of either was never set.
+/// MP4 counts from 1904 and cameras from 1970: a time at the start of either was never set.
 constexpr int firstYear = 1905;
 
-/// Kinds of tags, the most telling ones first.
+/// Keys of tags, the most specific ones first.
 const QStringList& momentKeys()
 {
     static const QStringList keys{QStringLiteral("com.apple.quicktime.creationdate"),
@@ -28,7 +28,7 @@ const QStringList& placeKeys()
     return keys;
 }
 
-/// The first text of these keys that is not empty once it is plain.
+/// The first of these tags whose plain text is not empty.
 QString firstText(const QMap<QString, QString>& tags, const QStringList& keys)
 {
     for (const QString& key : keys) {
@@ -40,7 +40,7 @@ QString firstText(const QMap<QString, QString>& tags, const QStringList& keys)
     return {};
 }
 
-/// What the first of these keys with a good text means.
+/// The first of these tags that can be parsed.
 template <typename Value>
 std::optional<Value> firstOf(const QMap<QString, QString>& tags, const QStringList& keys,
                              std::optional<Value> (*parse)(const QString&))
@@ -53,7 +53,7 @@ std::optional<Value> firstOf(const QMap<QString, QString>& tags, const QStringLi
     return std::nullopt;
 }
 
-/// Degrees from "48.2", "4812.5" or "481230.5", of which `wholeDigits` are the degrees'.
+/// Degrees from "48.2", "4812.5" or "481230.5"; the degrees have `wholeDigits` digits.
 double degreesFrom(const QString& digits, int wholeDigits)
 {
     const int point = digits.indexOf(QLatin1Char('.'));
@@ -83,7 +83,7 @@ bool isCharacter(uint code)
     return !isControl && !isSurrogate && !isNone;
 }
 
-/// The characters of the text; spaces in the place of what is none, but for `keptControl`.
+/// The valid characters of the text; others, except `keptControl`, are replaced by spaces.
 QString characters(const QString& text, uint keptControl)
 {
     QVector<uint> codes = text.left(2 * longestText).toUcs4();

@@ -25,20 +25,20 @@ namespace {
 constexpr float loweringContrastDivisor = 200.0F;
 constexpr float raisingContrastDivisor = 40.0F;
 
-/// 96 to an inch. Qt takes those of the screen otherwise: the same picture would be another file,
-/// and text on it of another size, on another screen.
+/// 96 per inch. Otherwise Qt uses the screen's resolution: the file and the size of text would
+/// depend on the screen.
 constexpr int dotsPerMeter = 3780;
 
 /// A picture as a matrix, and the order of its channels.
 ///
-/// Contrast, brightness and resizing treat all channels alike, so a picture goes through them in
-/// whatever order it has: that spares the copies which reordering would cost.
+/// Contrast, brightness and resizing treat all channels alike, so a picture keeps its order of
+/// channels, which saves copies.
 struct Picture
 {
     cv::Mat mat;
     QtOcv::MatColorOrder order = QtOcv::Bgr;
 
-    /// The matrix's samples are its own, and not those of an image.
+    /// Whether the matrix owns its samples instead of sharing those of an image.
     [[nodiscard]] bool ownsSamples() const { return mat.u != nullptr; }
 };
 
@@ -50,7 +50,7 @@ bool isDeep(QImage::Format format)
            format == QImage::Format_RGBA64_Premultiplied;
 }
 
-/// The image as the recipe wants its channels: with 8 bits, or with 16 where it has them.
+/// The image with the depth that the recipe needs: 8 bits, or 16 if the image has them.
 QImage withDepth(QImage image, const ImageRecipe& recipe)
 {
     if (!isDeep(image.format())) {
@@ -65,10 +65,10 @@ QImage withDepth(QImage image, const ImageRecipe& recipe)
                                                      : QImage::Format_RGB888);
 }
 
-/// Opaque pixels lose their fourth channel, so that nothing works on it.
+/// Opaque pixels lose their fourth channel, so that it takes no time.
 Picture deepPictureOf(const QImage& image)
 {
-    // constBits, because bits() would give the image pixels of its own first.
+    // constBits, because bits() would detach the image's pixels first.
     const cv::Mat shared(image.height(), image.width(), CV_16UC4,
                          const_cast<uchar*>(image.constBits()),
                          static_cast<size_t>(image.bytesPerLine()));
@@ -80,7 +80,7 @@ Picture deepPictureOf(const QImage& image)
     return picture;
 }
 
-/// The image's pixels, shared with it where its format can be taken as it is.
+/// The image's pixels, shared with it if its format can be used directly.
 Picture pictureOf(const QImage& image)
 {
     if (isDeep(image.format())) {
@@ -107,7 +107,7 @@ QImage adoptedImage(const cv::Mat& mat, QImage::Format format)
     return image;
 }
 
-/// The channels are in the order R, G, B or R, G, B, A.
+/// For channels in the order R, G, B or R, G, B, A.
 QImage deepImageOf(const cv::Mat& mat)
 {
     cv::Mat pixels = mat;
@@ -121,14 +121,14 @@ QImage deepImageOf(const cv::Mat& mat)
                         mat.channels() == 3 ? QImage::Format_RGBX64 : QImage::Format_RGBA64);
 }
 
-/// An image of the picture that shares its pixels with nobody.
+/// An image of the picture that shares its pixels with no other image.
 QImage imageOf(const Picture& picture)
 {
     const cv::Mat& mat = picture.mat;
     if (mat.depth() == CV_16U) {
         return deepImageOf(mat);
     }
-    // Qt's own images begin every line at a multiple of four bytes, and so shall ours.
+    // Qt's own images begin every line at a multiple of four bytes, so ours must, too.
     const bool isAdoptable = picture.ownsSamples() && mat.step[0] % 4 == 0;
     if (isAdoptable && mat.type() == CV_8UC4 && picture.order == QtOcv::Bgr) {
         return adoptedImage(mat, QImage::Format_ARGB32);
@@ -139,8 +139,8 @@ QImage imageOf(const Picture& picture)
     return QtOcv::matToImage(mat, picture.order, QImage::Format_Invalid);
 }
 
-/// Every sample times the contrast's gain plus the brightness, saturated, in a matrix of its own.
-/// The brightness counts in steps of 8 bits.
+/// Multiplies every sample by the contrast's gain and adds the brightness, saturated, in a new
+/// matrix. The brightness counts in steps of 8 bits.
 cv::Mat adjusted(const cv::Mat& mat, int contrast, int brightness)
 {
     const float divisor = contrast < 0 ? loweringContrastDivisor : raisingContrastDivisor;
@@ -159,14 +159,14 @@ bool isLackOfMemory(const std::exception& exception)
                               : dynamic_cast<const std::bad_alloc*>(&exception) != nullptr;
 }
 
-/// Whether the image is small enough for a recipe that only ever makes it smaller.
+/// Whether the image is already small enough for a recipe that does not enlarge.
 bool fitsAlready(const QImage& image, const ImageRecipe& recipe)
 {
     return !recipe.enlarges && image.width() <= recipe.bounds.width() &&
            image.height() <= recipe.bounds.height();
 }
 
-/// The image with the recipe's contrast and brightness and at its size.
+/// The image with the recipe's contrast, brightness and size.
 QImage corrected(QImage image, const ImageRecipe& recipe)
 {
     const bool keepsSize = recipe.keepsSize || fitsAlready(image, recipe);
@@ -217,7 +217,7 @@ int qualityFor(const QString& type, int jpegQuality)
 
 imaging::Rendering imaging::render(QImage image, const ImageRecipe& recipe)
 {
-    // What Qt has no memory for is a null image; OpenCV and the containers throw.
+    // Without memory Qt returns a null image; OpenCV and the containers throw.
     Rendering result;
     result.error = image.isNull()
                        ? QCoreApplication::translate(

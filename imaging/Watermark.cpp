@@ -43,9 +43,9 @@ void drawTextAndShadow(QPainter& painter, const QFont& font, const QRectF& textR
     painter.drawText(textRect, recipe.text, option);
 }
 
-/// The font in the size at which the widest line of the text takes its part of the image's width,
-/// or the whole text the image's height, if that is less. A text without a width, such as one of
-/// nothing but line breaks, leaves the font as it is.
+/// The font in the size at which the widest line of the text has its fraction of the image's width,
+/// or the whole text the image's height, whichever is smaller. A text without a width, such as one
+/// of line breaks only, leaves the font unchanged.
 QFont fittedFont(const QImage& image, const WatermarkRecipe& recipe)
 {
     constexpr int measuredSize = 100;
@@ -61,7 +61,7 @@ QFont fittedFont(const QImage& image, const WatermarkRecipe& recipe)
     const double factor =
         std::min(width / measured.width(), static_cast<double>(image.height()) / measured.height());
     constexpr double pointsPerInch = 72.0;
-    // Only points may have a fraction.
+    // Only sizes in points may have a fraction.
     font.setPointSizeF(measuredSize * factor * pointsPerInch / image.logicalDpiY());
     return font;
 }
@@ -95,12 +95,12 @@ void drawText(QImage& image, const WatermarkRecipe& recipe)
     drawTextAndShadow(painter, recipe.font, textRect, option, recipe);
 }
 
-/// The picture in the size that the recipe asks for; never null, and never larger than the image
-/// unless that is its own size.
+/// The picture in the size that the recipe requests; never null, and never larger than the image
+/// unless it has its own size.
 QImage sizedPicture(const QSize& image, const WatermarkRecipe& recipe)
 {
     QImage picture = recipe.picture;
-    // A picture named like "logo@2x.png" is loaded with a pixel ratio that would shrink it.
+    // Qt loads a picture named like "logo@2x.png" with a pixel ratio that would shrink it.
     picture.setDevicePixelRatio(1.0);
     if (recipe.widthPercent <= 0) {
         return picture;
@@ -133,8 +133,8 @@ void draw(QImage& image, const WatermarkRecipe& recipe)
     }
 }
 
-/// Painting with opacity 0 is left out: on images with alpha it is not without effect, since every
-/// touched pixel goes through premultiplied colours and back.
+/// Skips painting with opacity 0: on images with alpha it is not a no-op, because every touched
+/// pixel is converted to premultiplied colours and back.
 bool isVisible(const WatermarkRecipe& recipe)
 {
     const bool isThere = recipe.kind == WatermarkRecipe::Kind::Text ? !recipe.text.isEmpty()

@@ -9,14 +9,14 @@ class WatermarkProfile;
 
 /// Draws watermarks: text with a shadow, or a picture, at one of nine places.
 ///
-/// Keeps nothing between calls; every call paints on a copy of its own. A picture is read through
-/// the profiles' shared cache, which one thread may use at a time; all callers are on the
+/// Keeps nothing between calls; every call paints on its own copy. A picture is read through the
+/// profiles' shared cache, which one thread may use at a time: all callers are on the
 /// user-interface thread.
 ///
-/// The results are full copies of the images, which are never changed. They have the image's
+/// The results are full copies of the images, which are never changed. They keep the image's
 /// format, except that formats with a colour table, which cannot be painted on, become RGB32 or
-/// ARGB32. A null image gives a null image; a watermark that cannot be seen (opacity 0, empty
-/// text, a picture that is missing) leaves every pixel as it is.
+/// ARGB32. A null image gives a null image; an invisible watermark (opacity 0, empty text, missing
+/// picture) changes no pixel.
 class WatermarkManager : public QObject
 {
     Q_OBJECT
@@ -29,8 +29,8 @@ public:
     /// any other. The profile is not null.
     [[nodiscard]] QImage processImage(QImage& image, WatermarkProfile* profile);
 
-    /// A copy of the image with the profile's text, its shadow below it. The text is laid out in
-    /// the image less the margins on all four sides.
+    /// A copy of the image with the profile's text above its shadow. The text is laid out in the
+    /// image minus the margins on all four sides.
     [[nodiscard]] QImage processTypeText(QImage& image, WatermarkProfile* profile);
 
     /// A copy of the image with the profile's picture, pixel by pixel at its own size.

@@ -17,7 +17,7 @@ QString causeOf(int error)
                       : QCoreApplication::translate("imaging", "the picture cannot be encoded");
 }
 
-/// At least one byte: what is counted may have been given back meanwhile.
+/// At least one byte: the system may have freed room since the failure.
 qint64 missingBytes(const QString& path, qint64 bytes)
 {
     const QStorageInfo disk(QFileInfo(path).absolutePath());

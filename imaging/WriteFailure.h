@@ -5,17 +5,17 @@
 /// Why a file could not be written.
 struct WriteFailure
 {
-    int error = 0;      ///< the system's number; 0 where the picture could not be encoded
+    int error = 0;      ///< the system's error number; 0 if the picture could not be encoded
     QString path;       ///< of the file
-    qint64 bytes = 0;   ///< what it would have held
-    qint64 missing = 0; ///< how much of that there is no room for; 0 where that is not the reason
+    qint64 bytes = 0;   ///< the size that it would have had
+    qint64 missing = 0; ///< how much of that does not fit; 0 if that is not the reason
 
-    /// No file as large can be written there until something is removed.
+    /// True if files of this size cannot be written there until something is removed.
     [[nodiscard]] bool isLackOfRoom() const { return missing > 0; }
 
-    /// What went wrong with a file, by the system's number.
+    /// Describes a failure by the system's error number.
     [[nodiscard]] static WriteFailure of(const QString& path, qint64 bytes, int error);
 
-    /// For people: the cause, the file and, for a lack of room, how much is missing.
+    /// A text for people: the cause, the file and, if room is lacking, how much is missing.
     [[nodiscard]] QString text() const;
 };

@@ -2,13 +2,14 @@
 
 #include <QString>
 
-/// What the product is called and where it is found. From any thread.
+/// Name, version and addresses of the product. Callable from any thread.
 namespace ProductInfo {
 
-/// The name of the application and of its organisation: together they fix where the settings are.
+/// The name of the application and of its organisation, which together determine where settings are
+/// stored.
 QString name();
 
-/// The version of the release, such as "4.1.0": that of the CMake project.
+/// The version of the release, such as "4.1.0", taken from the CMake project.
 QString version();
 
 QString domain();

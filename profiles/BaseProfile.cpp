@@ -25,7 +25,7 @@ std::vector<QMetaProperty> persistedProperties(const QMetaObject& type)
     return properties;
 }
 
-/// A colour in a model that there is: a damaged file may name one that there is not.
+/// Converts a colour to RGB, because a damaged file may name an unknown colour model.
 QVariant withKnownColour(const QVariant& value)
 {
     if (value.userType() != QMetaType::QColor) {
@@ -81,8 +81,8 @@ void BaseProfile::load(const QSettings& settings)
         if (!settings.contains(key)) {
             continue;
         }
-        // Converted here, since write() would drop a value that converts with an error and so hide
-        // a damaged entry behind the default.
+        // Converted here: write() would drop a value whose conversion fails, and a damaged entry
+        // would silently become the default.
         QVariant value = settings.value(key);
         if (value.canConvert(property.userType())) {
             value.convert(property.userType());

@@ -12,21 +12,22 @@ class QSettings;
 /// them: save() and load() walk the properties of the most derived class, so a property added to a
 /// kind is a key added to its settings file.
 ///
-/// A profile made through its kind's ProfileManager lives until the program ends; whoever makes one
-/// otherwise owns it. User-interface thread only.
+/// A profile created by its kind's ProfileManager lives until the program ends; otherwise its
+/// creator owns it. User-interface thread only.
 class BaseProfile : public QObject
 {
     Q_OBJECT
-    /// What the user calls the profile. Empty after construction unless the kind names it.
+    /// The name that the user gave the profile. Empty after construction unless the kind sets it.
     Q_PROPERTY(QString name READ name WRITE setName)
-    /// Who the profile is within its kind: the group it is stored under, and what other profiles
-    /// refer to it by, so that renaming breaks no link. Compared ignoring letter case.
+    /// Identifies the profile within its kind: the group that it is stored under, and the key by
+    /// which other profiles refer to it, so that renaming breaks no link. Compared
+    /// case-insensitively.
     Q_PROPERTY(QString id READ id WRITE setId)
 
 public:
-    /// Gives the profile a fresh identity: a random UUID in upper case without braces, 36
-    /// characters. The argument is ignored: it is neither copied from nor becomes the parent, for
-    /// profiles have none.
+    /// Gives the profile a new id: a random UUID in upper case without braces, 36 characters. The
+    /// argument is ignored: it is neither copied nor becomes the parent, since profiles have no
+    /// parent.
     explicit BaseProfile(BaseProfile* ignored = nullptr);
     ~BaseProfile() override;
 
@@ -46,14 +47,14 @@ public:
     /// What save() writes, by key.
     [[nodiscard]] QVariantMap values() const;
 
-    /// Sets every stored, writable property of which the current group of `settings` has the key;
-    /// the others keep their values. Values are neither validated nor clamped: one of another type
-    /// becomes what converting it yields (0 for a word where a number belongs), and one that has no
-    /// conversion at all, such as a list for a number, leaves the property as it is.
+    /// Sets every stored, writable property whose key exists in the current group of `settings`;
+    /// the others keep their values. Values are neither validated nor clamped. A value of another
+    /// type is converted (a word becomes 0 where a number is expected). A value that cannot be
+    /// converted at all, such as a list to a number, leaves the property unchanged.
     virtual void load(const QSettings& settings);
 
-    /// Sets every stored, writable property that the other profile has to its value there, but not
-    /// who this profile is: name, id and objectName stay.
+    /// Copies every stored, writable property of the other profile except its identity: name, id
+    /// and objectName stay.
     void takeValuesOf(const BaseProfile& other);
 
 private:

@@ -9,8 +9,8 @@ class ProfileManager;
 
 /// How the name of a saved image is formed from the video's name and a running counter.
 ///
-/// Every output file of the program is named by generateFileName(). Nothing is validated: what the
-/// user typed, a path separator too, passes through as it is.
+/// generateFileName() names every output file of the program. Nothing is validated: the user's
+/// text, even a path separator, is used as it is.
 class FileNameProfile : public BaseProfile
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ class FileNameProfile : public BaseProfile
     Q_PROPERTY(QString fileBaseName READ fileBaseName WRITE setFileBaseName)
     /// Put after the base name, also where no counter follows.
     Q_PROPERTY(QString fileOutputSuffix READ fileOutputSuffix WRITE setFileOutputSuffix)
-    /// File type and extension, without a leading dot; the image writer goes by it.
+    /// File type and extension, without a leading dot; it selects the image format.
     Q_PROPERTY(QString fileOutputType READ fileOutputType WRITE setFileOutputType)
     /// Write the counter with leading zeros to at least five digits.
     Q_PROPERTY(bool fileOutputCounterPadZeros READ fileOutputCounterPadZeros WRITE
@@ -46,17 +46,17 @@ public:
     bool fileOutputCounterPadZeros() const { return m_naming.padsZeros; }
     void setFileOutputCounterPadZeros(bool pad) { m_naming.padsZeros = pad; }
 
-    /// The same as a value, for any thread.
+    /// The settings as a value, for any thread.
     const OutputNaming& naming() const { return m_naming; }
 
-    /// The file name, without a folder: prefix, base name, suffix, counter, dot, type. A counter of
-    /// exactly -1 leaves the counter out; it is never cut.
+    /// The file name without a folder: prefix, base name, suffix, counter, dot, type. A counter of
+    /// exactly -1 is omitted; other counters are never truncated.
     QString generateFileName(const QString& videoBaseName, int counter) const;
 
     /// The file name without a counter, as for a single picture of a video.
     QString generateFileName(const QString& videoBaseName) const;
 
-    /// The name that the first picture of a video "MyVideo" gets, for showing to the user.
+    /// An example for the user: the name of the first picture of a video "MyVideo".
     QString fileOutputExamples() const;
 
     /// The one manager of file-name profiles, made on first call over "FileNameProfiles.ini"; it

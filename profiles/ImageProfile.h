@@ -9,8 +9,8 @@ class ProfileManager;
 
 /// How a captured frame becomes an output image: size, corrections, JPEG quality, watermark.
 ///
-/// The ranges below are what the dialog offers. The setters store any value, and a settings file
-/// edited by hand can hold any, so whoever uses one has to cope with it.
+/// The ranges below are those of the dialog. The setters store any value, and a settings file
+/// edited by hand can hold any, so code that uses a value must handle all of them.
 class ImageProfile : public BaseProfile
 {
     Q_OBJECT
@@ -26,21 +26,21 @@ class ImageProfile : public BaseProfile
     Q_PROPERTY(int imageBrightness READ imageBrightness WRITE setImageBrightness)
     /// JPEG quality, 0 to 100.
     Q_PROPERTY(int imageQuality READ imageQuality WRITE setImageQuality)
-    /// The id of the watermark profile to draw; empty for none. It may belong to no profile.
+    /// The id of the watermark profile to draw; empty for none. A profile with that id may not
+    /// exist.
     Q_PROPERTY(QString watermarkProfileId READ watermarkProfileId WRITE setWatermarkProfileId)
-    /// What files tell of where their pictures come from: one of Metadata.
+    /// How much files tell about the origin of their pictures: one of Metadata.
     Q_PROPERTY(int metadata READ metadata WRITE setMetadata)
-    /// How images come to another size: one of ResizeFilter, and whether light is mixed in
-    /// proportion.
+    /// How images are resized: one of ResizeFilter, and whether that happens in linear light.
     Q_PROPERTY(int resizeFilter READ resizeFilter WRITE setResizeFilter)
     Q_PROPERTY(bool resizeInLinearLight READ resizeInLinearLight WRITE setResizeInLinearLight)
-    /// PNG and TIFF files have 16 bits a channel where the frame has more than 8.
+    /// PNG and TIFF files get 16 bits per channel if the frame has more than 8.
     Q_PROPERTY(bool deepColours READ deepColours WRITE setDeepColours)
-    /// What becomes of interlaced video: "auto" makes the pictures that comb whole, "on" takes each
-    /// for one that does, "off" leaves all as they are.
+    /// How interlaced video is treated: "auto" makes combing pictures whole, "on" treats every
+    /// picture as combing, "off" leaves all as they are.
     Q_PROPERTY(QString deinterlacing READ deinterlacing WRITE setDeinterlacing)
 
-    /// What becomes of high dynamic range: one of Hdr.
+    /// How high dynamic range is treated: one of Hdr.
     Q_PROPERTY(int hdr READ hdr WRITE setHdr)
 
 public:
@@ -52,8 +52,8 @@ public:
 
     /// The values of metadata(); any other one means MetadataWithoutPlace.
     enum Metadata {
-        MetadataAll = 0,          ///< also where the video was recorded and where it lies
-        MetadataWithoutPlace = 1, ///< all but that
+        MetadataAll = 0,          ///< includes the place of the recording and the path of the video
+        MetadataWithoutPlace = 1, ///< everything except these
         NoMetadata = 2,
     };
 
@@ -111,7 +111,7 @@ public:
     bool deepColours() const { return m_deepColours; }
     void setDeepColours(bool deep) { m_deepColours = deep; }
 
-    /// Whether black edges are cut off. No property, so that it is never persisted.
+    /// Whether black edges are cropped. Not a property, so it is never persisted.
     bool cropBlackEdges() const { return m_cropBlackEdges; }
     void setCropBlackEdges(bool crop) { m_cropBlackEdges = crop; }
 

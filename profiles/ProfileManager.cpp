@@ -18,7 +18,7 @@ namespace {
 const QLatin1String profilesGroup("profiles");
 const QLatin1String sortOrderKey("sortOrder");
 const QLatin1String idKey("id");
-// Misspelled in every settings file there is: correcting it would forget the users' choice.
+// Misspelled in every existing settings file: correcting it would lose the users' choice.
 const QLatin1String lastUsedProfileKey("lastUsedPofileId");
 
 struct LoadedProfile
@@ -32,7 +32,7 @@ bool containsId(const QStringList& ids, const QString& id)
     return ids.contains(id, Qt::CaseInsensitive);
 }
 
-/// The parts of `values` whose keys stand in the current group.
+/// The entries of `values` whose keys exist in the current group.
 QVariantMap storedPart(const QSettings& settings, QVariantMap values)
 {
     for (auto value = values.begin(); value != values.end();) {
@@ -41,7 +41,7 @@ QVariantMap storedPart(const QSettings& settings, QVariantMap values)
     return values;
 }
 
-/// What differs from `known`, sortOrder aside.
+/// Whether the values differ from `known`, ignoring sortOrder.
 bool isChanged(QVariantMap values, QVariantMap known)
 {
     values.remove(sortOrderKey);
@@ -49,8 +49,8 @@ bool isChanged(QVariantMap values, QVariantMap known)
     return values != known;
 }
 
-/// QSettings writes no file while there is nothing to store, but the file has to exist. That this
-/// fails is ignored like every other failure to write.
+/// QSettings writes no file while there is nothing to store, but the file must exist. Failures are
+/// ignored, like all failures to write.
 void createFileIfMissing(const QString& path)
 {
     QFile(path).open(QIODevice::WriteOnly | QIODevice::NewOnly);
@@ -94,8 +94,8 @@ void ProfileManager::loadProfilesFromFile()
         entry.profile->load(settings);
         entry.sortOrder = settings.value(sortOrderKey, 0).toInt();
         const QString storedId = settings.value(idKey).toString();
-        // A group that an editor has left without an id is who its name says. It would get another
-        // id at each start else, and another group.
+        // If an editor removed the id, the group's name serves as the id. Otherwise the profile
+        // would get another id and another group at each start.
         entry.profile->setId(storedId.isEmpty() ? group : storedId);
         QVariantMap values = entry.profile->values();
         values.insert(sortOrderKey, entry.sortOrder);
@@ -130,7 +130,7 @@ void ProfileManager::loadProfilesFromFile()
     }
 }
 
-/// Only what has changed here is written: another program may have changed all else meanwhile.
+/// Writes only what has changed here: another program may have changed the rest meanwhile.
 void ProfileManager::saveProfiles()
 {
     QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
@@ -156,7 +156,7 @@ void ProfileManager::saveProfile(QSettings& settings, const BaseProfile& profile
     values.insert(sortOrderKey, sortOrder);
     const QVariantMap known = m_stored.value(&profile);
     settings.beginGroup(profile.id());
-    // A profile that was removed by another program comes back if it was changed here.
+    // A profile that another program removed is restored if it was changed here.
     const bool isGone = !known.isEmpty() && settings.childKeys().isEmpty();
     if (!isGone || isChanged(values, known)) {
         for (auto value = values.cbegin(); value != values.cend(); ++value) {

@@ -14,10 +14,9 @@ class QSettings;
 
 /// All profiles of one kind, in display order, and the one used last, kept in one INI file.
 ///
-/// Each kind has one manager, reached through the static `profileManager()` of its class; it is
-/// made on first use and lives until the program ends, and so do the profiles that are or were in
-/// its list: those that hold one need not fear for it. The manager deletes no profile, not even in
-/// its destructor.
+/// Each kind has one manager, returned by the static `profileManager()` of its class. It is created
+/// on first use and lives until the program ends. So do all profiles that are or were in its list,
+/// so that pointers to them stay valid. The manager deletes no profile, not even in its destructor.
 ///
 /// A profile's values reach the file only through saveProfiles(). Failures to read count as an
 /// empty file and failures to write are ignored, both without a message; groups and keys in the
@@ -29,7 +28,7 @@ class ProfileManager : public QObject
     Q_OBJECT
 
 public:
-    /// Makes a new profile of the managed kind with its default values; never gives null.
+    /// Creates a new profile of the managed kind with default values; never returns null.
     using Factory = std::function<BaseProfile*()>;
 
     /// Loads the profiles from the file, makes the first one the last used one unless another is
@@ -62,12 +61,13 @@ public:
     /// added. Throws std::bad_function_call without a factory.
     [[nodiscard]] BaseProfile* createProfile() const;
 
-    /// Appends `profile`, which must not be null and stays alive for good, without saving.
+    /// Appends `profile`, which must not be null and must live until the program ends. Does not
+    /// save.
     void addProfile(BaseProfile* profile);
 
-    /// Takes a profile out of the list and out of the file, and saves. Where it was the one used
-    /// last, the first one is that then. False, with nothing changed, for the only profile and for
-    /// one that is not listed.
+    /// Removes a profile from the list and from the file, and saves. If it was the last used one,
+    /// the first profile becomes that. Returns false, with nothing changed, for the only profile
+    /// and for one that is not listed.
     [[nodiscard]] bool removeProfile(BaseProfile* profile);
 
     /// The profiles in display order.
@@ -80,8 +80,8 @@ public:
     /// The profile that the user chose last; null if there is none.
     BaseProfile* lastUsedProfile() const { return m_lastUsedProfile; }
 
-    /// Remembers the user's choice, a profile of the list or null, and saves at once, so that it
-    /// survives a crash. Does nothing if it is the last used one already.
+    /// Stores the user's choice, a profile of the list or null, and saves at once, so that it
+    /// survives a crash. Does nothing if it already is the last used one.
     void setLastUsedProfile(BaseProfile* profile);
 
     /// The full path of the settings file with the bare name `fileName` in the application's
@@ -93,7 +93,7 @@ private:
     void saveProfile(QSettings& settings, const BaseProfile& profile, int sortOrder);
 
     QList<BaseProfile*> m_profiles;
-    /// What the file holds of each as far as is known here, by key.
+    /// Known content of the file per profile, by key.
     QHash<const BaseProfile*, QVariantMap> m_stored;
     QString m_storedLastUsed;
     BaseProfile* m_lastUsedProfile = nullptr;

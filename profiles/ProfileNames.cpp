@@ -11,7 +11,7 @@ QString ProfileNames::storedStandard()
 
 QString ProfileNames::shown(const QString& storedName)
 {
-    // The program may have spoken another language when the profile was made.
+    // The program may have used another language when the profile was created.
     const bool isStandard =
         storedName == storedStandard() || storedName == QLatin1String("[Unnamed Settings]");
     return isStandard ? QCoreApplication::translate("ProfileNames", "Standard") : storedName;

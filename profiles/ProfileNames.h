@@ -2,14 +2,14 @@
 
 #include <QString>
 
-/// The name of the profile that is made where there is none: stored under one that looks like a
-/// placeholder, as it ever was, and shown under one for people.
+/// Names of the profile that is created if there is none. Its stored name, kept for compatibility,
+/// looks like a placeholder; people see another one.
 namespace ProfileNames {
 
-/// What the profile is called in its file.
+/// The name of the profile in its file.
 [[nodiscard]] QString storedStandard();
 
-/// What people see of a stored name: the name itself, or "Standard" for storedStandard().
+/// The name to show for a stored name: "Standard" for storedStandard(), otherwise the name itself.
 [[nodiscard]] QString shown(const QString& storedName);
 
 } // namespace ProfileNames

@@ -24,7 +24,7 @@ bool isNameTaken(const ProfileManager& manager, const QString& name)
     });
 }
 
-/// With an invalid size: in that of the video.
+/// An invalid size means the size of the video.
 void addProfile(ProfileManager& manager, const QString& name, const QSize& size)
 {
     auto* const profile = qobject_cast<ImageProfile*>(manager.createProfile());
@@ -41,7 +41,7 @@ void addProfile(ProfileManager& manager, const QString& name, const QSize& size)
     manager.addProfile(profile);
 }
 
-/// Whether two profiles differ in nothing but the size and how it comes about.
+/// Whether two profiles are equal except for the size and its options.
 bool areAlikeButForSize(const ImageProfile& a, const ImageProfile& b)
 {
     return a.imageContrast() == b.imageContrast() && a.imageBrightness() == b.imageBrightness() &&

@@ -12,11 +12,11 @@
 
 namespace {
 
-/// More than a thousand profiles.
+/// Enough for more than a thousand profiles.
 constexpr qint64 largestFile = 16 * 1024 * 1024;
 constexpr int mostNames = 1000;
 
-/// Tabs are the only control characters in a line; carriage returns come from other systems.
+/// The only control characters within a line are tabs; carriage returns come from other systems.
 bool isText(const QByteArray& content)
 {
     return std::all_of(content.cbegin(), content.cend(), [](char c) {
@@ -24,7 +24,7 @@ bool isText(const QByteArray& content)
     });
 }
 
-/// A section, a key with its value, a comment, or nothing.
+/// True for a section, a key with its value, a comment, or an empty line.
 bool isLine(const QByteArray& line)
 {
     const QByteArray text = line.trimmed();
@@ -49,8 +49,8 @@ bool isSettings(const QByteArray& content)
     return true;
 }
 
-/// A value may say that it is a list of two thousand million entries: Qt takes memory for them
-/// first, and throws where there is none.
+/// A value may declare a list of two thousand million entries: Qt allocates memory for them first,
+/// and throws if there is none.
 bool canBeParsed(const QString& path)
 {
     try {
@@ -61,7 +61,7 @@ bool canBeParsed(const QString& path)
     }
 }
 
-/// Where settings are: the application's own file, and those of the profiles and of batch mode.
+/// The application's own settings file, and those of the profiles and of batch mode.
 QStringList allFiles()
 {
     QStringList files;
@@ -71,7 +71,7 @@ QStringList allFiles()
     for (const QString& name : names) {
         files += folder.filePath(name);
     }
-    // Named without an object of settings, which would read it.
+    // Determined without a QSettings object, which would read the file.
     const QDir ownFolder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
     files += ownFolder.filePath(QCoreApplication::organizationName() + QLatin1Char('/') +
                                 QCoreApplication::applicationName() + QStringLiteral(".conf"));
@@ -104,7 +104,7 @@ QString SettingsFile::putAsideIfDamaged(const QString& path)
     for (int number = 1; number <= mostNames; ++number) {
         const QString aside =
             path + QStringLiteral(".bad") + (number > 1 ? QString::number(number) : QString());
-        // It replaces nothing.
+        // QFile::rename() never replaces a file.
         if (QFile::rename(path, aside)) {
             return QCoreApplication::translate(
                        "SettingsFile", "The settings in %1 cannot be read. They are kept as %2.")

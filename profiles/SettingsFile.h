@@ -3,25 +3,25 @@
 #include <QString>
 #include <QStringList>
 
-/// The files in which settings and profiles are kept.
+/// The files in which settings and profiles are stored.
 ///
-/// They are written by QSettings: beside their place first, and under a lock, so that programs that
-/// run at once neither see half a file nor lose each other's keys. What they can hold all the same
-/// is the trace of a power cut, of a broken disk or of an editor. QSettings reads of such a file
-/// what it can and then writes over it, so the programs put it aside before.
+/// QSettings writes them to a temporary file first, and under a lock, so that concurrent programs
+/// neither see half a file nor lose each other's keys. A file may still be damaged by a power cut,
+/// a broken disk or an editor. QSettings reads what it can from such a file and then overwrites it,
+/// so the programs move it aside before that.
 namespace SettingsFile {
 
-/// Whether what has that name is none of ours: no regular file, larger than any settings, or with
-/// lines or characters that no file of settings has. False where there is nothing, and for what
-/// cannot be read.
+/// True if the path is not one of our settings files: no regular file, larger than any settings, or
+/// with lines or characters that no settings file has. False if there is no file or it cannot be
+/// read.
 [[nodiscard]] bool isDamaged(const QString& path);
 
-/// Gives a damaged file of settings another name: ".bad" behind it, or ".bad2" and so on where that
-/// is taken. A text for people that names both; empty where the file is good, or stays where it is.
+/// Renames a damaged settings file: appends ".bad", or ".bad2" and so on if that name is taken.
+/// Returns a text for people with both names; empty if the file is valid or could not be renamed.
 [[nodiscard]] QString putAsideIfDamaged(const QString& path);
 
-/// The same for all files of the application. The texts, in order. After the application has its
-/// name, and before anything reads settings.
+/// Does so for all files of the application and returns the texts in order. Call it after the
+/// application's name is set, and before settings are read.
 [[nodiscard]] QStringList putDamagedAside();
 
 } // namespace SettingsFile

@@ -11,8 +11,8 @@
 
 namespace {
 
-/// Null for what is no file, since a pipe would be waited for, and for what declares more than
-/// memory is taken for.
+/// Null for anything but a regular file, because a pipe would block, and for a picture that
+/// declares more than the maximum.
 QImage readPicture(const QString& path)
 {
     if (!QFileInfo(path).isFile()) {

@@ -10,12 +10,12 @@
 
 class ProfileManager;
 
-/// One watermark: a line of text with a drop shadow, or a picture, anchored to one of nine places
-/// of the output image. A profile that the manager makes anew is sized by the picture it is drawn
-/// on; one that was stored before there was a choice has its own size.
+/// One watermark: a text with a drop shadow, or a picture, anchored to one of nine places of the
+/// output image. A profile newly created by the manager is sized relative to the output image; one
+/// stored by an older version keeps its own size.
 ///
-/// Pictures are copies in a folder of the application's own; a profile knows only the name inside
-/// that folder. The setters store any value.
+/// Pictures are copied into a folder of the application; a profile stores only the name inside that
+/// folder. The setters store any value.
 class WatermarkProfile : public BaseProfile
 {
     Q_OBJECT
@@ -40,12 +40,12 @@ class WatermarkProfile : public BaseProfile
     Q_PROPERTY(QString imageFile READ imageFile WRITE setImageFile)
     /// The picture itself; derived, and read-only so that it is never persisted.
     Q_PROPERTY(QImage image READ image)
-    /// Without it the shadow's colour and offset are kept, but nothing is drawn.
+    /// If false, the shadow's colour and offset are kept, but no shadow is drawn.
     Q_PROPERTY(bool textShadow READ textShadow WRITE setTextShadow)
-    /// Whether the watermark takes a part of the output image's width, else it has its own size:
-    /// that of the font, or the pixels of the picture.
+    /// Whether the watermark is sized relative to the output image's width. Otherwise it has its
+    /// own size: that of the font, or the pixels of the picture.
     Q_PROPERTY(bool relativeSize READ relativeSize WRITE setRelativeSize)
-    /// This part, in per cent from 1 to 100.
+    /// The relative width in per cent, 1 to 100.
     Q_PROPERTY(int relativeWidth READ relativeWidth WRITE setRelativeWidth)
 
 public:
@@ -98,11 +98,11 @@ public:
     QString imageFile() const { return m_imageFile; }
     void setImageFile(const QString& fileName) { m_imageFile = fileName; }
 
-    /// As in the base class; a group without the key for it was stored by a version that knew no
-    /// relative size.
+    /// As in the base class. A group without the key for the relative size was stored by a version
+    /// that did not have it.
     void load(const QSettings& settings) override;
 
-    /// What a picture may hold: it is drawn pixel by pixel, and takes 4 bytes for each.
+    /// Maximum size of a picture: it is drawn pixel by pixel and takes 4 bytes for each.
     static constexpr qint64 mostPixels = 64LL * 1024 * 1024;
 
     /// The picture named by imageFile(); null if it cannot be read or is too large.
@@ -122,12 +122,12 @@ public:
     /// right too.
     static Qt::Alignment alignmentFromIndex(int index);
 
-    /// The full path of a picture in the watermark folder of the application's data location. Makes
-    /// the folder if it is missing; that this fails shows only when the path is used.
+    /// The full path of a picture in the watermark folder of the application's data location.
+    /// Creates the folder if it is missing; a failure shows only when the path is used.
     static QString pathForImage(const QString& fileName);
 
-    /// The one manager of watermark profiles, made on first call over "WatermarkProfiles.ini".
-    /// Having no watermark is an ordinary choice, so no profile is made where there is none.
+    /// The one manager of watermark profiles, created on first call over "WatermarkProfiles.ini".
+    /// Having no watermark is an ordinary choice, so no default profile is created.
     static ProfileManager* profileManager();
 
 private:

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Fails where an include goes against the order of the folders, or reaches for a library that
-# another folder fences in, and where FFmpeg's version is tested outside the one header for that.
-# The build keeps the folders apart as well, as far as its targets are linked in this order; it
-# cannot see a header that every compiler finds, as FFmpeg's on Debian, nor an include that goes
-# around the targets' include folders.
+# Fails if an include violates the order of the folders, or uses a library that is fenced into
+# another folder, and if FFmpeg's version is tested outside the one header for that. The build
+# separates the folders as well, as far as its targets are linked in this order. It cannot detect
+# headers that every compiler finds, such as FFmpeg's on Debian, nor includes that bypass the
+# targets' include folders.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
@@ -13,8 +13,8 @@ complain() {
     status=1
 }
 
-# includes_of PATTERN FOLDER…: the lines "file:line:text" that include what matches, in what there
-# is of these folders.
+# includes_of PATTERN FOLDER…: the lines "file:line:text" with matching includes in these folders, of
+# which some may not exist.
 includes_of() {
     local pattern=$1
     shift
@@ -22,15 +22,15 @@ includes_of() {
         grep -nHE "^[[:space:]]*#[[:space:]]*include[[:space:]]*[<\"]($pattern)" {} + 2>/dev/null || true
 }
 
-# not_in_folders FOLDER…: keeps the others.
+# not_in_folders FOLDER…: drops lines of files in these folders.
 not_in_folders() { grep -vE "^($(IFS='|' && printf '%s' "$*"))/" || true; }
 
 readonly FOLDERS=(product qtav video profiles utils imaging series batch ui app stills)
 ours="$(IFS='|' && printf '%s' "${FOLDERS[*]}")"
 readonly OURS="($ours)/"
 
-# layer FOLDER NAME…: what is in FOLDER may include only headers that start with one of the names.
-# Layers that stand inside another one come first.
+# layer FOLDER NAME…: files in FOLDER may include only headers that start with one of the names.
+# Layers inside another one come first.
 checked=(none)
 layer() {
     local folder=$1 found
@@ -49,7 +49,7 @@ fence() {
     [[ -z $found ]] || complain "$library may be included only in: $*" "$found"
 }
 
-# only_in FILE PATTERN WHAT: no other source has words that match PATTERN.
+# only_in FILE PATTERN WHAT: no other source contains words that match PATTERN.
 only_in() {
     local file=$1 pattern=$2 what=$3 found
     found=$(find "${FOLDERS[@]}" tests bench \( -name '*.cpp' -o -name '*.h' \) ! -path "$file" \
@@ -70,13 +70,14 @@ layer ui/mainwindow ui/ batch/ series/ video/ profiles/ imaging/ product/
 layer ui ui/ profiles/ imaging/ product/
 layer stills stills/ series/ imaging/ profiles/ product/ app/MemoryPolicy.h \
     app/RuntimeFolder.h
-# app/ stands above all others.
+# app/ is above all others.
 
-# Without a folder only what a tool makes for the including file alone, with `..` nothing.
+# Only headers generated for the including file may be included without a folder, and none with `..`.
 found=$(includes_of '([^/"]+\.h"|\.\.?/)' "${FOLDERS[@]}" tests bench | grep -vE '"ui_[^/]*"' || true)
 [[ -z $found ]] || complain "includes are to be written from the root" "$found"
 
-# The benchmarks call the bare library for comparison; its tests let it see other machines.
+# The benchmarks call the library directly for comparison; the tests of qtav/ use it to simulate other
+# machines.
 fence FFmpeg 'lib(av|sw)[a-z]*/' qtav tests/qtav bench/bare
 fence QtAV 'QtAV' qtav video imaging series batch ui app stills tests bench
 fence OpenCV 'opencv2/' imaging tests/imaging bench

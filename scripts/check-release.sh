@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Fails unless every file that names the release names the one of CMakeLists.txt, and unless the
-# Debian packages ask for what packages.txt lists for building and running.
+# Fails unless all files that name the release agree with CMakeLists.txt, and unless the Debian
+# packages depend on what packages.txt lists for building and running.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
@@ -30,8 +30,8 @@ for page in packaging/man/*.1; do
     expect "$page" ".Dd $(LC_ALL=C date -d "$date" '+%B %-d, %Y')" "$(head -n 1 "$page")"
 done
 
-# Of [run], what ends in -dev or -dev-tools and the tools are for building; the others the programs load
-# themselves. The compiler is part of every Debian build.
+# The packages of [run] that end in -dev or -dev-tools, and the tools, are for building; the
+# programs load the others by name. The compiler is part of every Debian build.
 root=$PWD
 source scripts/setup.sh
 control=packaging/debian/control

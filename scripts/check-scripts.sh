@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fails where shellcheck finds something in a script; .shellcheckrc says what it does not look for.
+# Fails if shellcheck finds something in a script; .shellcheckrc lists the disabled checks.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 

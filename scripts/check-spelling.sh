@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fails where codespell knows a word as misspelt; .codespellrc says which words are meant so.
+# Fails if codespell finds a misspelt word; .codespellrc lists the exceptions.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 codespell

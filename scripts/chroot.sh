@@ -1,10 +1,10 @@
 # shellcheck shell=bash
-# Chroots of Debian releases, for the scripts that need another system than the one they run on.
-# Sourced after setup.sh. Works as root, and needs the right to mount.
+# Chroots of Debian releases, for scripts that need a system other than the current one. Sourced
+# after setup.sh. Must run as root, with permission to mount.
 #
-# A chroot is a folder that stands for a release: FOLDER/system is its root, FOLDER/build what is
-# made in it. Both stay; remove the folder to have them made from the newest packages. Mounts and
-# processes are in namespaces of their own, which end with the script.
+# A chroot is a folder for a release: FOLDER/system is its root, FOLDER/build holds the results.
+# Both are kept; remove the folder to recreate them from the newest packages. Mounts and processes
+# are in namespaces of their own, which end with the script.
 
 : "${root:?must be the folder of the project}"
 
@@ -19,11 +19,11 @@ codename_of() {
     esac
 }
 
-# apart COMMAND…: runs it with mounts and processes of its own. All end when this shell does.
+# apart COMMAND…: runs it with separate mounts and processes, which end with this shell.
 apart() { setpriv --pdeathsig KILL unshare --mount --pid --fork --kill-child "$@"; }
 
 # inside FOLDER [NAME=VALUE…] COMMAND…: runs it in the chroot, with the project at /morvantile:
-# read-only but for /morvantile/build, which is the chroot's own.
+# read-only except for /morvantile/build, which belongs to the chroot.
 inside() {
     local folder=$1
     shift
@@ -40,7 +40,7 @@ inside() {
         inside "$root" "$folder" PATH=/usr/sbin:/usr/bin HOME=/root LC_ALL=C.UTF-8 "$@"
 }
 
-# mirror: where this machine's own packages come from.
+# mirror: the source of this machine's own packages.
 mirror() {
     local uris
     mapfile -t uris < <(apt-get indextargets --format '$(REPO_URI)' \
@@ -48,8 +48,9 @@ mirror() {
     printf '%s\n' "${uris[0]:-$FALLBACK_MIRROR}"
 }
 
-# make_chroot FOLDER RELEASE VARIANT: makes it where it is missing, beside its place: what is there
-# is whole. The variant is one of mmdebstrap's: apt, or minbase for what every Debian has.
+# make_chroot FOLDER RELEASE VARIANT: creates it if it is missing. It is created under another name,
+# so that an existing one is complete. The variant is one of mmdebstrap's: apt, or minbase for the
+# packages of every Debian system.
 make_chroot() {
     local folder=$1 release=$2 variant=$3
     local system=$folder/system log=$folder/system.log proxy='' options=()
@@ -74,7 +75,7 @@ make_chroot() {
     cp -L /etc/resolv.conf "$system/etc/"
 }
 
-# lock_chroot FOLDER: one run at a time, until this shell ends.
+# lock_chroot FOLDER: allows one run at a time, until this shell ends.
 lock_chroot() {
     mkdir -p "$1"
     exec 8>"$1/.lock"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Formats all C++ sources; with --check only says which are not formatted, and fails if any is not.
+# Formats all C++ sources; with --check only lists unformatted ones, and fails if there are any.
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Gives the program inputs that are made up, and looks for crashes, leaks and endless work.
-#   scripts/fuzz.sh MINUTES [HARNESS…]   so many minutes for each of video, player, profiles,
-#                                        arguments and metadata, or for those that are named
-#   scripts/fuzz.sh --seeds [HARNESS…]   only the stored inputs, in the build of the sanitizers
-# Needs the packages [run] and [fuzz] of packages.txt, and the sample videos of the tests, whose
-# place MORVANTILE_MEDIA names where it is not build/media. What is found stands in
-# build/fuzz/findings; make a file of fuzz/seeds and a test of it.
+# Runs the program's code with generated inputs and detects crashes, leaks and endless loops.
+#   scripts/fuzz.sh MINUTES [HARNESS…]   this many minutes for each of video, player, profiles,
+#                                        arguments and metadata, or for the named ones
+#   scripts/fuzz.sh --seeds [HARNESS…]   only the stored inputs, in the build with sanitizers
+# Needs the packages [run] and [fuzz] of packages.txt, and the sample videos of the tests, in
+# build/media or the folder named by MORVANTILE_MEDIA. Findings are stored in build/fuzz/findings;
+# add a file to fuzz/seeds and a test for each.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 source "$root/scripts/setup.sh"
@@ -13,7 +13,7 @@ source "$root/scripts/setup.sh"
 media=${MORVANTILE_MEDIA:-$root/build/media}
 largest_sample=64k
 
-# seeds_of HARNESS: stored inputs, each in a line.
+# seeds_of HARNESS: the stored inputs, one per line.
 seeds_of() {
     [[ ! -d $root/fuzz/seeds/$1 ]] || find "$root/fuzz/seeds/$1" -type f
     case $1 in

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Builds the Debian packages, looks at them with lintian and leaves them in build/package/RELEASE.
-# Fails when lintian finds anything.
-#   scripts/make-package.sh [12|13]     for this release of Debian; the running one unless said
+# Builds the Debian packages, checks them with lintian and leaves them in build/package/RELEASE.
+# Fails if lintian finds anything.
+#   scripts/make-package.sh [12|13]     for this release of Debian; default: the running one
 #
-# For another release than the running one they are built in its chroot in build/debian-RELEASE,
-# which scripts/try-debian.sh uses, too: as root or through sudo, with the right to mount.
+# Packages for another release are built in its chroot in build/debian-RELEASE, which
+# scripts/try-debian.sh uses, too: as root or through sudo, with permission to mount.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 source "$root/scripts/setup.sh"
@@ -36,8 +36,8 @@ rm -rf "$target" "$target.new"
 mkdir -p "$target.new"
 cd "$target.new"
 
-# The sources as a release has them, with Debian's folder where its tools look for it, and a version
-# that gives way to the next release's and to Debian's own.
+# The sources as in a release, with Debian's folder where its tools expect it, and a version that is
+# lower than the next release's and Debian's own.
 version=$(sed -n '1s/^morvantile (\([^)]*\)) .*/\1/p' "$root/packaging/debian/changelog")
 [[ -n $version ]] || die "packaging/debian/changelog begins with no version"
 sources=morvantile-$version~deb$release
@@ -47,7 +47,7 @@ tar -C "$root" -c --exclude-vcs --exclude=./build --exclude=./out --exclude=__py
 mv "$sources/packaging/debian" "$sources/debian"
 sed -i "1s/ (.*/ ($version~deb$release) $codename; urgency=medium/" "$sources/debian/changelog"
 
-# Debian's tools give the build a home that goes with it.
+# Debian's tools give the build a temporary home folder.
 export CCACHE_DIR=${CCACHE_DIR:-$(command -v ccache >/dev/null && ccache --get-config cache_dir)}
 export CCACHE_BASEDIR=$PWD/$sources CCACHE_NOHASHDIR=1
 say "== Building the packages for Debian $release; build/package/$release.log says how it goes"

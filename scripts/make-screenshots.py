@@ -1,10 +1,10 @@
 #!/usr/bin/python3
-"""Takes pictures of the running program, by keys and mouse.
+"""Takes screenshots of the running program, driven by keys and mouse.
 
-To be run by hand after a window changed, from any folder; takes a release build, and the packages
-that packages.txt lists for the tests. Without arguments these are the pictures of the user guide,
-which are written into docs/user-guide. `--matrix FOLDER` takes the main window in both themes, in
-several sizes, with larger fonts and from right to left, to be looked at.
+Run it by hand after a window changed, from any folder. It needs a release build, and the packages that
+packages.txt lists for the tests. Without arguments it makes the pictures of the user guide in
+docs/user-guide. `--matrix FOLDER` takes the main window in both themes, in several sizes, with larger
+fonts and from right to left, for inspection.
 """
 
 import argparse
@@ -27,9 +27,9 @@ from tests.e2e.driver.desktop import Desktop  # noqa: E402
 from tests.e2e.driver.program import Program  # noqa: E402
 from tests.e2e.driver.waiting import wait_until  # noqa: E402
 
-# Of the main window with a video.
+# Size of the main window with a video.
 SIZE = (1120, 700)
-# What the matrix is made of: themes, sizes of the window, of fonts, and directions of writing.
+# The dimensions of the matrix: themes, sizes of the window and of fonts, layout directions.
 THEMES = ("dark", "light")
 SIZES = ((800, 600), (1280, 800), (2560, 1600))
 FONT_SCALES = (1, 1.5)
@@ -37,7 +37,7 @@ DIRECTIONS = {"": (), "-reverse": ("-reverse",)}
 USUAL_DPI = 96
 # Larger than the largest window.
 MATRIX_SCREEN = (2600, 1700)
-# Two pictures of a window are the same when it has stopped moving.
+# A window has stopped changing when successive screenshots are equal.
 STILL_TIMES = 15
 
 
@@ -48,13 +48,13 @@ class Photographer:
         self.folder = folder
 
     def take(self, name, title):
-        """The window of the title, once nothing in it moves any more."""
+        """Takes the window with the title, once nothing in it moves."""
         window = self.program.window(title)
         self.desktop.move(1, self.desktop.size[1] - 1)
         self._save(name, self._settled(window))
 
     def take_moving(self, name, title):
-        """The window of the title as it is just now."""
+        """Takes the window with the title in its current state."""
         self._save(name, self.desktop.picture(self.program.window(title).area))
 
     def _save(self, name, picture):
@@ -103,7 +103,7 @@ def take_profiles(photographer):
     program.window("Watermark Settings")
     program.click("text", "Watermark text")
     desktop.type("Morvantile")
-    # Out of the way of the times in the sample.
+    # Does not cover the times in the sample.
     program.click("combo box", "Bottom Right")
     desktop.key("Home", "Down", "Down", "Return")
     photographer.take("watermark-text", "Watermark Settings")
@@ -164,7 +164,7 @@ def take_all(photographer, video):
 
 
 class MatrixEntry:
-    """The main window in one theme, size, scale of fonts and direction of writing."""
+    """The main window in one theme, size, font scale and layout direction."""
 
     def __init__(self, theme, size, scale, direction):
         self.theme = theme
@@ -179,13 +179,14 @@ class MatrixEntry:
         return f"{self.theme}-{width}x{height}{large}{self.direction}"
 
     def start(self, desktop, home, recent):
-        """A program with these settings, not yet of this size."""
+        """A program with these settings, not resized yet."""
         folder = pathlib.Path(home, "config/Morvantile")
         folder.mkdir(parents=True)
         files = ", ".join(str(file) for file in recent)
         settings = f"[General]\ntheme={self.theme}\nrecentFiles={files}\n"
         (folder / "Morvantile.conf").write_text(settings, encoding="utf-8")
-        # Of the fonts alone: by itself, Qt would take a finer screen for one of more pixels.
+        # Only the fonts are scaled: by default, Qt would scale everything for a screen of higher
+        # density.
         dpi = str(round(USUAL_DPI * self.scale))
         environment = {"QT_FONT_DPI": dpi, "QT_ENABLE_HIGHDPI_SCALING": "0"}
         return Program(desktop, home, DIRECTIONS[self.direction], environment)
@@ -240,7 +241,7 @@ def main():
 
 def take_guide():
     desktop = Desktop.shared()
-    # Seen in the pictures, so it bears a name for people.
+    # Visible in the pictures, so it has a readable name.
     videos = pathlib.Path(tempfile.gettempdir(), "Videos")
     videos.mkdir()
     try:

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# What scripts/try-package.sh does inside the clean system: installs the package from
+# The part of scripts/try-package.sh that runs inside the clean system: installs the package from
 # /morvantile/build, runs its programs as an ordinary user, purges it and compares the system with
-# what it was before.
+# its state before.
 #   package-checks.sh stills|morvantile
 set -euo pipefail
 
 readonly SAMPLE=/morvantile/samples/sunrise.mp4
-# How many packages stills may bring to a minimal system. On Debian 12 FFmpeg with its filters and
-# Qt Gui bring 200, on Debian 13 they bring 210; OpenCV, Exiv2 and the plugins for images bring the
-# others.
+# Maximum number of packages that stills may bring to a minimal system. On Debian 12 FFmpeg with its
+# filters and Qt Gui bring 200, on Debian 13 they bring 210; OpenCV, Exiv2 and the image plugins
+# bring the rest.
 case $(. /etc/os-release && printf '%s\n' "$VERSION_ID") in
 12) readonly LARGEST_CLOSURE=215 ;;
 *) readonly LARGEST_CLOSURE=230 ;;
@@ -23,11 +23,11 @@ die() {
 
 quietly() { "$@" >"$work.log" 2>&1 || { cat "$work.log" >&2 && die "failed: $*"; }; }
 
-# What stands before a command that is run without rights, with an empty home.
+# The prefix of commands that run without privileges, with an empty home folder.
 readonly AS_USER=(setpriv --reuid 1000 --regid 1000 --clear-groups
     env HOME="$work/home" XDG_RUNTIME_DIR="$work/run")
 
-# listing: all files of the system but those that apt, debconf and the linker keep for themselves.
+# listing: all files of the system except those that apt, debconf and the linker manage.
 listing() {
     find / \( -path /proc -o -path /sys -o -path /dev -o -path /tmp -o -path /morvantile \
         -o -path /var/cache/apt -o -path /var/cache/debconf -o -path /var/cache/ldconfig \
@@ -37,7 +37,7 @@ listing() {
 
 installed() { dpkg-query -W -f='${Package} ${db:Status-Status}\n' | sort; }
 
-# install PACKAGE: without what it recommends; the packages that came are in $work/new.
+# install PACKAGE: without its recommendations; $work/new lists the packages that were added.
 install() {
     installed >"$work/packages.before"
     quietly apt-get -q install -y --no-install-recommends "/morvantile/build/$1"_*.deb
@@ -46,7 +46,7 @@ install() {
     printf '%s brought %d packages.\n' "$1" "$(wc -l <"$work/new")"
 }
 
-# purge PACKAGE: with what came for it.
+# purge PACKAGE: together with the packages that came with it.
 purge() {
     quietly apt-get -q purge -y --autoremove -o APT::AutoRemove::RecommendsImportant=false \
         -o APT::AutoRemove::SuggestsImportant=false "$1"
@@ -76,11 +76,11 @@ check_stills() {
         [[ $(find "$work/$format" -name "sunrise-*.$format" | wc -l) == 3 ]] ||
             die "not three pictures of the type $format"
     done
-    # The times in a contact sheet take a font.
+    # The times in a contact sheet need a font.
     "${AS_USER[@]}" stills "$SAMPLE" --count 3 --sheet -o "$work/sheet" --quiet
     [[ -s $work/sheet/sunrise-sheet.jpg ]] || die "no contact sheet"
     [[ -s $(fc-match -f '%{file}' sans) ]] || die "there is no font"
-    # FFmpeg's filters are loaded when they are first needed.
+    # FFmpeg's filters are loaded on first use.
     "${AS_USER[@]}" LD_DEBUG=files stills "$SAMPLE" --count 1 --deinterlace on -o "$work/whole" \
         >"$work/loaded" 2>&1
     grep -q 'calling init:.*libavfilter' "$work/loaded" || die "FFmpeg's filters were not loaded"
@@ -93,13 +93,13 @@ check_morvantile() {
     local pid library
     "${AS_USER[@]}" QT_LOGGING_RULES=default.debug=false morvantile >"$work/log" 2>&1 &
     pid=$!
-    # try-package.sh looks at the X server and says so.
+    # try-package.sh watches the X server and reports it.
     for _ in {1..600}; do
         [[ -e /morvantile/build/window-was-seen ]] && break
         sleep 0.1
     done
     [[ -e /morvantile/build/window-was-seen ]] || { cat "$work/log" >&2 && die "no window"; }
-    # What its icons come from is loaded by name.
+    # The libraries for the icons are loaded by name.
     for library in libQt5Svg libqsvgicon; do
         grep -q "$library" "/proc/$pid/maps" || die "the window did not load $library"
     done

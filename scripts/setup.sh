@@ -1,7 +1,7 @@
 # shellcheck shell=bash
-# What run.sh and test.sh share: installing packages, configuring and building.
-# Sourced with `root` set to the project's folder. Everything said here goes to standard error, so
-# that a program's own output stays clean.
+# Shared by run.sh and test.sh: installing packages, configuring and building. Sourced with `root`
+# set to the project's folder. All messages go to standard error, so that a program's own output
+# stays clean.
 
 : "${root:?must be the folder of the project}"
 
@@ -29,7 +29,7 @@ packages_in() {
     done <"$root/packages.txt"
 }
 
-# missing_packages NAME…: those that are not installed. Asks dpkg alone, which takes milliseconds.
+# missing_packages NAME…: those that are not installed. Queries only dpkg, which takes milliseconds.
 missing_packages() {
     local name status installed=' '
     while read -r name status; do
@@ -40,7 +40,7 @@ missing_packages() {
     done
 }
 
-# as_root COMMAND…: runs it as root; asks for a password only where somebody can type one.
+# as_root COMMAND…: runs it as root; asks for a password only on a terminal.
 as_root() {
     if ((EUID == 0)); then
         "$@"
@@ -51,7 +51,7 @@ as_root() {
     fi
 }
 
-# ensure_packages SECTION…: installs what is missing of these sections of packages.txt.
+# ensure_packages SECTION…: installs the missing packages of these sections of packages.txt.
 ensure_packages() {
     local wanted missing log=$root/build/install.log
     mapfile -t wanted < <(packages_in "$@")
@@ -69,7 +69,7 @@ ensure_packages() {
     say "Installing ${#missing[@]} Debian packages and what they need; this can take some minutes:"
     say "  ${missing[*]}"
     local apt=(as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=300)
-    # A list that cannot be refreshed is no reason to stop while the packages themselves can be had.
+    # A failed update is not fatal as long as the packages themselves are available.
     "${apt[@]}" update >"$log" 2>&1 || true
     if ! "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >>"$log" 2>&1; then
         tail -n 15 "$log" >&2
@@ -78,8 +78,8 @@ ensure_packages() {
     fi
 }
 
-# ensure_build_folder: the folder in which everything is made, locked until this shell ends or
-# calls release_build_folder: two builds in one folder would trip over each other.
+# ensure_build_folder: creates the build folder and locks it until this shell ends or calls
+# release_build_folder, because two builds in one folder would interfere.
 ensure_build_folder() {
     mkdir -p "$root/build" 2>/dev/null || true
     [[ -w $root/build ]] || die "$root/build cannot be written. Does it belong to another user?"
@@ -92,7 +92,8 @@ ensure_build_folder() {
 
 release_build_folder() { exec 9>&-; }
 
-# is_configured PRESET: whether its build folder is ready, and made for the project where it is now.
+# is_configured PRESET: whether its build folder is ready, and configured for the project's current
+# place.
 is_configured() {
     local folder=$root/build/$1
     [[ -f $folder/build.ninja ]] &&
@@ -107,7 +108,7 @@ configure() {
     cmake -S "$root" --preset "$preset" "${fresh[@]}" "$@" >/dev/null
 }
 
-# build PRESET TARGET…: builds what changed, and is silent when nothing did.
+# build PRESET TARGET…: builds what changed, and prints nothing if nothing did.
 build() {
     local folder=$root/build/$1
     shift

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# The texts in the sources and those in the catalogues, translations/*.ts.
-#   scripts/translations.sh           brings the catalogues up to date: new texts come in, without a
-#                                     translation, and those that are gone go
-#   scripts/translations.sh --check   fails where that would change a catalogue
+# Synchronises the texts in the sources with the catalogues, translations/*.ts.
+#   scripts/translations.sh           updates the catalogues: adds new texts, without translations,
+#                                     and removes those that no longer exist
+#   scripts/translations.sh --check   fails if that would change a catalogue
 set -euo pipefail
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
-# Debian's lupdate on PATH is a switch that may point nowhere.
+# Debian's lupdate on PATH is a wrapper that may have no target.
 lupdate=
 for candidate in /usr/lib/qt5/bin/lupdate /usr/lib/qt6/bin/lupdate lupdate-qt5 lupdate; do
     if command -v "$candidate" >/dev/null; then
@@ -22,12 +22,13 @@ done
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# What the window shows. The command lines speak English: their texts are what scripts rely on.
+# The texts of the window. The command lines are in English only, because scripts rely on their
+# texts.
 LC_ALL=C find app batch imaging profiles qtav series ui utils video \
     \( -name '*.ui' -o -name '*.cpp' -o -name '*.h' \) ! -path app/CommandLineProcessor.cpp \
     -exec grep -lE '\<tr\(|\<translate\(|QT_TR|_TR_|<ui version' {} + | LC_ALL=C sort >"$work/sources"
 
-# update FILE: what lupdate says is an error where a text would not be found when it is shown.
+# update FILE: treats a message of lupdate as an error, because such a text would not be translated.
 update() {
     "$lupdate" -silent -no-obsolete -locations none -disable-heuristic similartext \
         -disable-heuristic sametext -I . -I qtav/include "@$work/sources" -ts "$1" 2>"$work/warnings" || {

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Builds and tests on another Debian release, in a chroot: everything but the tests that need a
-# desktop. Ends with CTest's summary; fails when anything failed.
-#   scripts/try-debian.sh 12|13 [PRESET…]     the presets of ./test.sh, `release` unless said
+# Builds and tests on another Debian release, in a chroot: everything except the tests that need a
+# desktop. Ends with CTest's summary; fails if anything failed.
+#   scripts/try-debian.sh 12|13 [PRESET…]     the presets of ./test.sh; default: release
 #
-# Works as root or through sudo, and needs the right to mount. The chroot stands in
-# build/debian-RELEASE, with what is built in it, its own sample videos and compiler cache; it is
-# made once. Remove the folder to have it made from the newest packages. Mounts and processes are in
-# namespaces of their own, which end with this script.
+# Works as root or through sudo, with permission to mount. The chroot is in build/debian-RELEASE,
+# together with its builds, sample videos and compiler cache, and is created only once. Remove the
+# folder to recreate it from the newest packages. Mounts and processes are in namespaces of their
+# own, which end with this script.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 source "$root/scripts/setup.sh"

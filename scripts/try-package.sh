@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # Installs the Debian packages on a clean system, runs their programs there and purges them again:
-# first stills alone, as on a server, then morvantile. Fails when one needs more than it should,
-# does not run, or leaves anything behind.
-#   scripts/try-package.sh [12|13]     this release of Debian; the running one unless said
+# first only stills, as on a server, then morvantile. Fails if one has too many dependencies, does
+# not run, or leaves anything behind.
+#   scripts/try-package.sh [12|13]     this release of Debian; default: the running one
 #
-# Takes the packages that scripts/make-package.sh left in build/package/RELEASE, or builds them.
-# Works as root or through sudo, and needs the right to mount. The clean system is made once, in
+# Uses the packages that scripts/make-package.sh left in build/package/RELEASE, or builds them.
+# Works as root or through sudo, with permission to mount. The clean system is created once, in
 # build/clean-RELEASE; each run works on a copy of it. The window is shown on an X server of this
-# system; build/package/window-RELEASE.png is how it looked.
+# system; build/package/window-RELEASE.png is a screenshot of it.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 source "$root/scripts/setup.sh"
@@ -27,7 +27,7 @@ lock_chroot "$clean"
 ensure_packages desktop
 make_chroot "$clean" "$release" minbase
 
-# A copy to work on.
+# A working copy.
 folder=$clean/copy
 rm -rf "$folder"
 mkdir -p "$folder"
@@ -35,7 +35,7 @@ cp -a "$clean/system" "$folder/system"
 mkdir "$folder/build"
 cp "$packages"/{stills,morvantile}_*.deb "$folder/build/"
 
-# The X server writes the number of its display once it can be reached.
+# The X server writes the number of its display once it is ready.
 display_file=$folder/display
 setpriv --pdeathsig KILL Xvfb -displayfd 6 -screen 0 1280x800x24 -noreset -nolisten tcp \
     6>"$display_file" 2>/dev/null &
@@ -47,7 +47,7 @@ done
 DISPLAY=:$(<"$display_file")
 export DISPLAY
 
-# look_at_window: waits for the window, checks its size and keeps a picture of it.
+# look_at_window: waits for the window, checks its size and stores a screenshot.
 look_at_window() {
     local window size
     window=$(timeout 1200 xdotool search --sync --onlyvisible --name '^Morvantile$' | head -n 1)

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Tries the job array of docs/clusters.md on a real Slurm, with two nodes on this machine: the same
-# pictures as one call of stills makes, also where tasks are killed, requeued and told that their time
-# is up. Says what it saw; fails when anything is otherwise.
-#   scripts/try-slurm.sh [FOLDER_WITH_SAMPLES]      build/media unless said
+# Tests the job array of docs/clusters.md on a real Slurm with two nodes on this machine: it must
+# make the same pictures as one call of stills, also if tasks are killed, requeued or reach their
+# time limit. Reports each check; fails if one fails.
+#   scripts/try-slurm.sh [FOLDER_WITH_SAMPLES]      default: build/media
 #
 # Slurm and munge run in build/slurm, on ports and a socket of their own, as the user who starts
-# this, without systemd; they end with this script. Should that be killed with SIGKILL, tasks at work
-# stay and have to be killed as well. No other Slurm on the machine is touched.
+# this script, without systemd; they end with it. If the script itself is killed with SIGKILL,
+# running tasks remain and have to be killed as well. No other Slurm on the machine is affected.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 source "$root/scripts/setup.sh"
@@ -26,11 +26,11 @@ export STILLS=$stills
 failures=0
 readonly SERIES=(--every 40ms --format png) # slow enough to be interrupted
 
-# Children of this shell, which ends them whatever happens.
+# Children of this shell, which ends them in any case.
 daemons=()
 stop_daemons() {
     local i
-    # The last first: nodes before their controller, and munge after both.
+    # In reverse order: nodes before their controller, and munge after both.
     for ((i = ${#daemons[@]} - 1; i >= 0; --i)); do
         kill "${daemons[i]}" 2>/dev/null || true
         wait "${daemons[i]}" 2>/dev/null || true
@@ -44,8 +44,8 @@ end() {
     exit "$status"
 }
 
-# start NAME COMMAND…: a daemon in the foreground, with what it says in build/slurm/NAME.log. Should
-# this shell be killed itself, so is the daemon.
+# start NAME COMMAND…: runs a daemon in the foreground, with its output in build/slurm/NAME.log. The
+# daemon ends if this shell is killed.
 start() {
     local name=$1
     shift
@@ -53,7 +53,7 @@ start() {
     daemons+=("$!")
 }
 
-# wait_for WHAT COMMAND…: until the command succeeds.
+# wait_for WHAT COMMAND…: waits until the command succeeds.
 wait_for() {
     local what=$1 i
     shift
@@ -65,7 +65,7 @@ wait_for() {
     die "waited too long for $what"
 }
 
-# check WHAT COMMAND…: says whether the command succeeds.
+# check WHAT COMMAND…: reports whether the command succeeds.
 check() {
     local what=$1
     shift
@@ -90,7 +90,7 @@ StateSaveLocation=$folder/state
 SlurmctldPidFile=$folder/slurmctld.pid
 SlurmdSpoolDir=$folder/spool.%n
 SlurmdPidFile=$folder/slurmd.%n.pid
-# Control groups are not for everybody in a container.
+# Control groups are not always available in a container.
 ProctrackType=proctrack/linuxproc
 TaskPlugin=task/none
 JobAcctGatherType=jobacct_gather/none
@@ -98,7 +98,7 @@ AccountingStorageType=accounting_storage/none
 MpiDefault=none
 SelectType=select/cons_tres
 SelectTypeParameters=CR_Core_Memory
-# Two nodes of two cores each, whatever the machine has.
+# Two nodes with two cores each, regardless of the machine.
 SlurmdParameters=config_overrides
 KillWait=5
 ReturnToService=2
@@ -115,7 +115,7 @@ start_cluster() {
     head -c 1024 /dev/urandom >"$folder/munge.key"
     chmod 600 "$folder/munge.key"
     write_configuration
-    # --force: the project's folder may be one into which others may write.
+    # --force: the project's folder may be writable by others.
     start munged munged --foreground --force --socket "$folder/munge.socket" \
         --key-file "$folder/munge.key" --pid-file "$folder/munged.pid" \
         --seed-file "$folder/munged.seed" --log-file "$folder/munged.log"
@@ -126,7 +126,7 @@ start_cluster() {
     wait_for "both nodes" nodes_are_idle
 }
 
-# Clips that keep a task busy for some seconds, names that try shells, and two of the same name. In
+# Clips that keep a task busy for some seconds, with names that need quoting, two of them equal. In
 # an array of four, the second task takes the second video and every fourth from there: "a new line"
 # and "clip 3".
 make_videos() {
@@ -144,14 +144,14 @@ make_videos() {
     "$stills" --files-from videos.list -o "$expected" "${SERIES[@]}"
 }
 
-# submit PICTURES ARRAY: prints the number of the job, which works through $list.
+# submit PICTURES ARRAY: prints the number of the job, which processes $list.
 submit() {
     local pictures=$1 array=$2
     sbatch --parsable --array="$array" --cpus-per-task=1 --mem=512M "$script" \
         "${list:-videos.list}" -o "$pictures" "${SERIES[@]}"
 }
 
-# show FORMAT JOB: what squeue says of its tasks, one a line.
+# show FORMAT JOB: squeue's output for its tasks, one per line.
 show() { squeue -h -r --states=all --jobs "$2" --format "$1"; }
 states() { show %T "$1" | sort -u; }
 is_in_state() { [[ $(states "$1") == "$2" ]]; }
@@ -163,7 +163,7 @@ pictures_of() { find "$1" -name "$2-*.png" 2>/dev/null | wc -l; }
 has_begun() { (($(pictures_of "$1" 'clip 3') >= 3)); }
 is_half_done() { (($(pictures_of "$1" 'clip 3') < $(pictures_of "$expected" 'clip 3'))); }
 
-# holds_whole_pictures FOLDER: each file that shows there is as it is to be.
+# holds_whole_pictures FOLDER: each visible file has its expected content.
 holds_whole_pictures() {
     local file
     while IFS= read -r -d '' file; do
@@ -181,7 +181,7 @@ try_array() {
     check "same files, same bytes as one call" same_pictures "$pictures"
 }
 
-# kill_stills TASK: the program alone, as the system does where memory runs out.
+# kill_stills TASK: kills only the program, as the system does when memory runs out.
 kill_stills() {
     local processes
     mapfile -t processes < <(pgrep -u "$(id -u)" -f -- "^$stills .*--shard 2/4 .*-o $folder/crashed ")
@@ -189,9 +189,9 @@ kill_stills() {
     kill -KILL "${processes[0]}"
 }
 
-# try_interruption TEXT PICTURES STATE COMMAND…: while the second task is at work, the command is run
-# with the task as its last argument. The task is then in that state, or pending again, and one that
-# failed is requeued.
+# try_interruption TEXT PICTURES STATE COMMAND…: while the second task is working, runs the command
+# with the task as its last argument. The task must then have that state, or be pending again; a
+# failed one is requeued.
 try_interruption() {
     local text=$1 pictures=$folder/$2 state=$3 job task
     shift 3

@@ -12,7 +12,7 @@ using QtAV::toMilliseconds;
 
 namespace {
 
-/// Frames so far outside the stretch are measured, too, to tell cuts and blur at its ends.
+/// Frames this far outside the stretch are measured, too, to detect cuts and blur at its ends.
 constexpr qint64 aroundMs = 600;
 
 QSize fitting(const QSize& size, const QSize& bounds)
@@ -60,7 +60,7 @@ QVector<qint64> series::findBest(FrameReader& reader, const VideoStretch& stretc
     }
     const QVector<qint64> best = bestOf(qualities, stretch, count);
     if (!best.isEmpty()) {
-        // What could be read is enough.
+        // Measuring continues with what could be read.
         error.clear();
     }
     return best;

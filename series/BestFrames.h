@@ -14,30 +14,31 @@ namespace QtAV {
 class FrameReader;
 } // namespace QtAV
 
-/// A frame that is proposed for a still.
+/// A frame proposed for a still.
 struct BestFrame
 {
     qint64 ms = 0;
-    QImage picture; ///< small
+    QImage picture; ///< a small picture of the frame
 };
 
+/// The result of a search for the best frames.
 struct BestFrames
 {
-    QVector<BestFrame> frames; ///< in the order shown
-    QString error;             ///< for people; empty after a success, and where it was cancelled
+    QVector<BestFrame> frames; ///< in presentation order
+    QString error;             ///< a text for people; empty on success and after cancellation
 };
 
-/// Finds the frames of a stretch of a video that are best for stills: see bestOf(). All its frames
-/// are decoded for that, and some around it. From any thread.
+/// Finds the frames of a stretch of a video that make the best stills: see bestOf(). Decodes all
+/// frames of the stretch and some around it. Callable from any thread.
 namespace series {
 
-/// The times of the frames, by an open reader, which afterwards goes on with a seek only. None, and
-/// no error, where all are empty, blurred or at cuts.
+/// The times of the best frames, using an open reader that afterwards needs a seek. Empty, without
+/// an error, if all frames are empty, blurred or next to cuts.
 [[nodiscard]] QVector<qint64> findBest(QtAV::FrameReader& reader, const VideoStretch& stretch,
                                        int count, const QtAV::IsCancelled& isCancelled,
                                        QString& error);
 
-/// The same by a video's path, with pictures that fit into a size in pixels.
+/// Like above for the video at a path, with pictures that fit into a size in pixels.
 [[nodiscard]] BestFrames findBest(const QString& video, QtAV::Deinterlacing deinterlacing,
                                   const VideoStretch& stretch, int count, const QSize& pictureSize,
                                   const QtAV::IsCancelled& isCancelled);

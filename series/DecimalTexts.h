@@ -4,10 +4,10 @@
 #include <optional>
 #include <string_view>
 
-/// Numbers in decimal digits as people write them: without signs, spaces, exponents or letters.
+/// Unsigned decimal numbers as people write them: without spaces, exponents or letters.
 namespace positions {
 
-/// A number without sign: its whole part, and its fraction in billionths.
+/// An unsigned number: its whole part, and its fraction in billionths.
 struct Decimal
 {
     std::int64_t whole = 0;
@@ -16,14 +16,14 @@ struct Decimal
 
 [[nodiscard]] bool isDigits(std::string_view text);
 
-/// Nothing for what is no number or beyond the largest one that is allowed.
+/// Nothing if the text is no number or exceeds the maximum.
 [[nodiscard]] std::optional<std::int64_t> wholeNumber(std::string_view text, std::int64_t maximum);
 
-/// Digits, and a point with one to nine digits behind it. The whole part is at most the number of
-/// milliseconds of the longest time, see parseTime().
+/// Digits, optionally followed by a point and one to nine digits. The whole part is at most the
+/// number of milliseconds of the longest time, see parseTime().
 [[nodiscard]] std::optional<Decimal> decimal(std::string_view text);
 
-/// The number as the nearest one that a double holds.
+/// The nearest double.
 [[nodiscard]] double valueOf(const Decimal& number);
 
 } // namespace positions

@@ -6,24 +6,24 @@
 
 namespace {
 
-/// Samples up to here are black to the eye.
+/// Samples up to this value look black.
 constexpr int darkestVisible = 32;
-/// A picture with so many of these, of all its samples, shows nothing.
+/// A picture with this fraction of black samples shows nothing.
 constexpr double emptyPart = 0.98;
-/// So is one whose samples deviate less than this from their mean.
+/// Neither does one whose samples deviate less than this from their mean.
 constexpr double flatDeviation = 3.0;
 
-/// Is added to the variance, so that the noise of a picture of little contrast is no detail.
+/// Added to the variance, so that noise in a low-contrast picture does not count as detail.
 constexpr double noiseVariance = 64.0;
 
-/// From here on a frame begins a scene, as for series of scenes.
+/// A change of at least this begins a scene, as for series of scenes.
 constexpr double cutChange = 0.3;
-/// Frames so near a cut are coarse for the encoder's sake, or part of a cross-fade.
+/// Frames this close to a cut are coded coarsely or belong to a cross-fade.
 constexpr qint64 nearCutMs = 100;
 
-/// Frames this near are about the same picture, unless something moves.
+/// Frames this close show about the same picture, unless something moves.
 constexpr qint64 neighbourMs = 500;
-/// A frame with less of its neighbours' sharpness is blurred.
+/// A frame with less than this fraction of its neighbours' sharpness is blurred.
 constexpr double blurredPart = 0.75;
 
 struct Sums
@@ -31,7 +31,7 @@ struct Sums
     double samples = 0.0;
     double squares = 0.0;
     double across = 0.0; ///< squared differences of neighbours in a line
-    double down = 0.0;   ///< and in a column
+    double down = 0.0;   ///< squared differences of neighbours in a column
 };
 
 Sums sumsOf(const QImage& picture)
@@ -73,7 +73,7 @@ bool isDark(const QImage& picture)
     return static_cast<double>(dark) >= emptyPart * all;
 }
 
-/// The frames whose times are at most so far from that of a frame.
+/// Calls `use` for the frames whose times are at most this far from that of a frame.
 template <typename Use>
 void forEachNear(const QVector<FrameQuality>& frames, int place, qint64 distanceMs, const Use& use)
 {
@@ -91,7 +91,7 @@ bool isCut(const FrameQuality& frame)
     return frame.change >= cutChange;
 }
 
-/// The cut is between a frame that changes and the one before it.
+/// The cut lies between a frame with a large change and its predecessor.
 bool isNearCut(const QVector<FrameQuality>& frames, int place)
 {
     bool isNear = place + 1 < frames.size() && isCut(frames.at(place + 1));
@@ -99,7 +99,7 @@ bool isNearCut(const QVector<FrameQuality>& frames, int place)
     return isNear;
 }
 
-/// The greatest sharpness of the frames of the same scene nearby, itself included.
+/// The maximum sharpness of nearby frames of the same scene, including the frame itself.
 double sharpnessAround(const QVector<FrameQuality>& frames, int place)
 {
     const qint64 ms = frames.at(place).ms;

@@ -7,25 +7,25 @@
 #include <QVector>
 #include <QtGlobal>
 
-/// How good a still a frame would be, as far as its samples tell. See docs/best-frames.md.
+/// How good a still a frame would make, judged by its samples. See docs/best-frames.md.
 struct FrameQuality
 {
     qint64 ms = 0; ///< the frame's time
-    /// How much of what the picture shows is fine detail: the geometric mean of the energies of its
-    /// horizontal and vertical differences, as a part of its variance. 0 for a flat picture; only
-    /// pictures of one size compare. Motion in either direction lowers it.
+    /// How much of the picture's content is fine detail: the geometric mean of the energies of its
+    /// horizontal and vertical differences, relative to its variance. 0 for a flat picture. Only
+    /// values of pictures of one size are comparable. Motion in either direction lowers it.
     double sharpness = 0.0;
-    /// Nearly all samples are as dark as black, or nearly all are the same.
+    /// Nearly all samples are black, or nearly all are equal.
     bool isEmpty = false;
-    /// How different it is from the frame before, 0 to 1: see SceneDetector.
+    /// How much it differs from the previous frame, 0 to 1: see SceneDetector.
     double change = 0.0;
 };
 
-/// Measures frames one after another, in the order shown.
+/// Measures frames in presentation order. One thread at a time may use an object.
 class FrameJudge
 {
 public:
-    /// The size that pictures are measured at: they fit into it, in pixels. Smaller ones are not
+    /// The size in pixels into which pictures are fitted for measuring. Smaller ones are not
     /// enlarged.
     static constexpr QSize pictureSize{960, 540};
 
@@ -36,18 +36,19 @@ private:
     SceneDetector m_scenes;
 };
 
-/// A stretch of a video, in milliseconds: frames at `fromMs` or later, and before `toMs`.
+/// A stretch of a video in milliseconds: frames at or after `fromMs` and before `toMs`.
 struct VideoStretch
 {
     qint64 fromMs = 0;
     qint64 toMs = 0;
 };
 
-/// The times of the best frames of a stretch, in rising order: in each of `count` equal parts the
-/// sharpest one; where a part has none that is good, another part gives one more, as far from the
-/// others as half a part. Not considered are empty frames, those next to a cut, and those that are
-/// blurred next to others of their scene. So there may be fewer than `count`, or none.
+/// The times of the best frames of a stretch, in rising order: the sharpest one of each of `count`
+/// equal parts. If a part has no good frame, another part gives one more, at least half a part away
+/// from the others. Not considered are empty frames, frames next to a cut, and frames that are
+/// blurred compared with others of their scene nearby. So the result may have fewer than `count`
+/// times, or none.
 ///
-/// @param frames  in rising order; those before and behind the stretch are only compared with
+/// @param frames  in rising order; those before and behind the stretch are used only for comparison
 [[nodiscard]] QVector<qint64> bestOf(const QVector<FrameQuality>& frames,
                                      const VideoStretch& stretch, int count);

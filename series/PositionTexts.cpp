@@ -14,7 +14,7 @@ constexpr std::int64_t nanosecondsInMs = 1000000;
 constexpr std::size_t maxListedFrames = 1000000;
 constexpr const char* timeForms = "write 90, 90s, 1:30, 1:02:03.5, 500ms, 2m or 1h";
 
-/// Milliseconds; nothing where they would be too many. Whole milliseconds come out exactly.
+/// Converts to milliseconds; nothing if they exceed the maximum. Whole milliseconds are exact.
 std::optional<double> inMs(const Decimal& number, std::int64_t unitMs)
 {
     if (number.whole > longestMs / unitMs) {
@@ -31,7 +31,7 @@ struct Unit
     std::int64_t ms;
 };
 
-/// Longer names before their own endings.
+/// Longer names precede their own endings.
 constexpr std::array<Unit, 4> units{{{"ms", 1}, {"s", 1000}, {"m", 60000}, {"h", 3600000}}};
 
 bool endsWith(std::string_view text, std::string_view end)

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-/// Times and positions as people write them. Whatever is not written in one of the ways that are
-/// named here is an error that quotes the text: nothing is guessed, rounded or passed over.
+/// Parses times and positions as people write them. Any text in another form than those documented
+/// here is an error that quotes it: nothing is guessed, rounded or ignored.
 namespace positions {
 
 constexpr std::int64_t longestMs = std::int64_t(1000000) * 3600000; ///< a million hours
@@ -18,16 +18,16 @@ constexpr std::int64_t longestMs = std::int64_t(1000000) * 3600000; ///< a milli
 /// digits behind a point.
 [[nodiscard]] Result<double> parseTime(const std::string& text);
 
-/// A time, a part of the video's length ("75%", "12.5%"), or "last".
+/// A time, a fraction of the video's length ("75%", "12.5%"), or "last".
 [[nodiscard]] Result<FramePosition> parsePosition(const std::string& text);
 
 /// Positions with commas between them.
 [[nodiscard]] Result<std::vector<FramePosition>> parsePositions(const std::string& text);
 
-/// A time or a part of the video's length.
+/// A time or a fraction of the video's length.
 [[nodiscard]] Result<SeriesSkip> parseSkip(const std::string& text);
 
-/// Numbers of frames, counted from 0, and ranges of them: "0,100,200-300". A million at most.
+/// Frame numbers, counted from 0, and ranges of them: "0,100,200-300". At most a million.
 [[nodiscard]] Result<std::vector<FramePosition>> parseFrames(const std::string& text);
 
 } // namespace positions

@@ -32,7 +32,7 @@ double SceneDetector::add(const QImage& picture)
     }
     const double now = difference(last, picture);
     const double growth = std::abs(now - std::exchange(m_lastDifference, now));
-    // Whole pictures are hardly ever each other's negative: a tenth of that is a cut.
+    // Whole pictures are hardly ever negatives of each other: a tenth of that is a cut.
     constexpr double scale = 2.55;
     return std::min(1.0, std::min(now, growth) * scale);
 }

@@ -2,19 +2,19 @@
 
 #include <QImage>
 
-/// Tells where a new scene begins, from small grey pictures of all frames in the order shown.
+/// Detects the beginning of scenes from small grey pictures of all frames in presentation order.
 ///
-/// A cut changes the picture more than the movement before it did. What counts is therefore the
-/// mean difference of the samples to the frame before, or how much that has grown since the frame
-/// before, whichever is less.
+/// A cut changes the picture more than the movement before it did. The result is therefore the
+/// smaller of two values: the mean difference of the samples from the previous frame, and the
+/// growth of that difference since the previous frame.
 class SceneDetector
 {
 public:
-    /// The size of the pictures that are compared, in pixels.
+    /// The size of the compared pictures, in pixels.
     static constexpr QSize pictureSize{96, 54};
 
     /// @param picture  Format_Grayscale8, of pictureSize
-    /// @return how different the frame is, 0 (the same) to 1; 0 for the first one.
+    /// @return how much the frame differs, 0 (equal) to 1; 0 for the first one.
     [[nodiscard]] double add(const QImage& picture);
 
 private:

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// How often a lane that waits looks whether all was cancelled.
+/// How often a waiting lane checks for cancellation.
 constexpr std::chrono::milliseconds patience{20};
 
 /// Whether more than one lane may find work in a video.
@@ -58,7 +58,7 @@ SeriesBoard::Task SeriesBoard::next(int opened)
     return {};
 }
 
-/// In the order of the output, so that what it waits for is always being done.
+/// In the order of the output, so that what it waits for is always in progress.
 std::optional<SeriesBoard::Task> SeriesBoard::claim()
 {
     const int count = static_cast<int>(m_videos.size());
@@ -81,7 +81,7 @@ std::optional<SeriesBoard::Task> SeriesBoard::claim()
     return std::nullopt;
 }
 
-/// Of the videos that are being opened, the first that may be for several lanes.
+/// The first of the videos being opened that several lanes may share.
 std::optional<int> SeriesBoard::firstToShare() const
 {
     const int count = static_cast<int>(m_videos.size());
@@ -103,8 +103,7 @@ SeriesBoard::Task SeriesBoard::claimStretch(int video)
     return {Task::Kind::Walk, video, stretch, threadsFor(stretchesLeft + videosLeft)};
 }
 
-/// One thread decodes with the least effort. Where there is less to do than there are lanes, cores
-/// would stand idle.
+/// One thread decodes most efficiently. With less work than lanes, cores would be idle.
 int SeriesBoard::threadsFor(int unclaimed) const
 {
     const int tasks = std::min(m_lanes, m_busy + 1 + unclaimed);
@@ -239,7 +238,8 @@ void SeriesBoard::finished(int video, int stretch, const QString& error)
     drain(lock);
 }
 
-/// Gives the output all that is its turn. Another lane that is at it takes over what came now.
+/// Passes to the output everything whose turn it is. If another lane is doing so, that lane takes
+/// over the new picture.
 void SeriesBoard::drain(std::unique_lock<std::mutex>& lock)
 {
     if (std::exchange(m_isDraining, true)) {
@@ -284,7 +284,7 @@ bool SeriesBoard::drainOne(std::unique_lock<std::mutex>& lock)
     lock.unlock();
     m_output.end(video, error);
     lock.lock();
-    // What is known of a video is not needed any more.
+    // The plan of the video is no longer needed.
     state.stretches.clear();
     state.plan = SeriesPlan();
     ++m_head;

@@ -9,43 +9,43 @@
 #include <optional>
 #include <vector>
 
-/// The state that the lanes of a series share: which lane does which work, and the finished
-/// pictures that wait for their predecessors.
+/// The state shared by the lanes of a series: which lane does which work, and the finished pictures
+/// that wait for their predecessors.
 ///
-/// Thread-safe. The output is called from whatever lane brings what it waits for, one call at a
-/// time and without a lock, so that the others go on.
+/// Thread-safe. The output is called by the lane that delivers what it waits for, one call at a
+/// time and without the lock held, so that other lanes continue.
 class SeriesBoard
 {
 public:
-    /// What a lane is to do next.
+    /// The next work of a lane.
     struct Task
     {
         enum class Kind {
-            Plan, ///< open the video and say planned() or failed()
-            Open, ///< open the video, which another lane plans; there is nothing to say
-            Walk, ///< take the targets of the stretch, or look at its frames, then say finished()
-            None, ///< nothing is left to do
+            Plan, ///< open the video and call planned() or failed()
+            Open, ///< open the video, which another lane plans; needs no answer
+            Walk, ///< process the targets or the frames of the stretch, then call finished()
+            None, ///< no work is left
         };
 
         Kind kind = Kind::None;
         int video = 0;
         int stretch = 0;
-        /// How many threads decode best.
+        /// The best number of decoding threads.
         int threads = 1;
     };
 
-    /// A picture with the exact time that tells whether two are the same frame.
+    /// A picture with the exact time that identifies its frame.
     struct Delivery
     {
         SeriesPicture picture;
         std::optional<double> seconds = {};
-        int index = 0; ///< of the target; of no meaning for key frames and scenes
+        int index = 0; ///< of the target; meaningless for key frames and scenes
     };
 
     SeriesBoard(const QVector<SeriesJob>& jobs, SeriesOutput& output,
                 const QtAV::IsCancelled& isCancelled, int lanes, qint64 memoryBytes);
 
-    /// Whether the output wants a target at all.
+    /// Tells the output about the targets of a video before it is asked about each.
     void announce(int video, const QVector<SeriesTarget>& targets)
     {
         m_output.announce(video, targets);
@@ -55,30 +55,31 @@ public:
         return m_output.needs(video, target);
     }
 
-    /// Waits until there is something to do, or nothing more will be. A lane that would only wait
-    /// is told once to open what it will probably get a part of; `opened` is what it was told last.
+    /// Waits until there is work, or none is left. A lane that would only wait is asked once to
+    /// open a video of which it will probably get a part; `opened` is the last video that it was
+    /// asked to open.
     [[nodiscard]] Task next(int opened);
 
-    /// The answers to Plan. The lane that has opened the video goes on with its first stretch,
-    /// unless it has none. The failures come after all pictures.
+    /// Answers Plan. The lane that opened the video continues with its first stretch, unless it has
+    /// none. The failures are reported after all pictures.
     [[nodiscard]] Task planned(int video, SeriesPlan plan, const SeriesFacts& facts,
                                std::deque<Delivery> failures);
     void failed(int video, const QString& error);
 
-    /// The plan of a video that a lane was given a stretch of; it does not change any more.
+    /// The plan of a video of which the lane has a stretch; it no longer changes.
     [[nodiscard]] const SeriesPlan& plan(int video) const;
 
-    /// The part of the video that is a stretch.
+    /// The part of the video that a stretch covers.
     [[nodiscard]] SeriesPlan::Stretch stretch(int video, int stretch) const;
 
-    /// The stretch's next target; nothing when it has no more.
+    /// Takes the stretch's next target; nothing if it has no more.
     [[nodiscard]] std::optional<int> take(int video, int stretch);
 
-    /// The lane has to decode from this position on anyway: targets behind it that the stretch
-    /// before has not begun become part of this one, which must not have been begun.
+    /// Call if the lane has to decode from this position on anyway: targets behind it that the
+    /// previous stretch has not begun move to this stretch, which must not have been begun.
     void extendBack(int video, int stretch, qint64 fromMs);
 
-    /// Hands a picture over; waits while too many do. False once cancelled.
+    /// Delivers a picture; waits while too many pictures wait. False once cancelled.
     [[nodiscard]] bool deliver(int video, int stretch, Delivery delivery);
 
     void finished(int video, int stretch, const QString& error = {});
@@ -87,7 +88,7 @@ private:
     struct StretchState
     {
         SeriesPlan::Stretch part;
-        int next = 0; ///< target
+        int next = 0; ///< index of the next target
         bool isFinished = false;
         std::deque<Delivery> waiting;
     };
@@ -103,7 +104,7 @@ private:
         int firstUnclaimed = 0;
         QString error;
 
-        // What the output has got.
+        // What has been passed to the output.
         bool hasBegun = false;
         int stretch = 0;
         int pictures = 0;
@@ -128,10 +129,10 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     std::vector<VideoState> m_videos;
-    int m_firstUnclaimed = 0; ///< video: all before it are claimed wholly
-    int m_busy = 0;           ///< tasks that were given out and not answered
+    int m_firstUnclaimed = 0; ///< video; all before it are claimed completely
+    int m_busy = 0;           ///< tasks that were assigned and not answered
     int m_opening = 0;
-    int m_head = 0; ///< video that the output gets pictures of
+    int m_head = 0; ///< video whose pictures the output is receiving
     qint64 m_waitingBytes = 0;
     bool m_isDraining = false;
 };

@@ -20,19 +20,19 @@ using QtAV::toMilliseconds;
 
 namespace {
 
-/// Up to here reading on, without decoding, is cheaper than a search for the key frame.
+/// Up to this distance, reading on without decoding is cheaper than a search for the key frame.
 constexpr qint64 longestReadAheadMs = 15000;
 
-/// A key frame this much nearer is worth starting anew at.
+/// Restarting at a key frame is worthwhile if it is nearer by this much.
 constexpr qint64 worthStartingMs = 200;
 
-/// What the index calls a key frame is none when a seek to it lands this far before it.
+/// If a seek to an indexed key frame lands this far before it, the index is wrong.
 constexpr qint64 indexErrorMs = 1000;
 
-/// So many positions of a video may take too long; all others are given up then.
+/// After this many positions of a video that took too long, the others are given up.
 constexpr int mostOverdue = 3;
 
-/// What a file is read through with at least: a slow network share.
+/// Minimum reading speed for a whole file: that of a slow network share.
 constexpr qint64 slowestBytesPerMs = 1000;
 
 QImage thumbnailOf(const QImage& image, const QSize& bounds)
@@ -41,7 +41,7 @@ QImage thumbnailOf(const QImage& image, const QSize& bounds)
     return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-/// Renders and encodes; an error takes the place of what could not be made.
+/// Renders and encodes a picture; on failure, sets the error instead.
 void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::VideoFrame& frame,
                  const PictureSource& source)
 {
@@ -93,7 +93,7 @@ void SeriesLane::run()
         }
         if (task.kind == Task::Kind::Open) {
             m_readied = task.video;
-            // The lane that plans tells of what cannot be opened.
+            // The lane that plans reports what cannot be opened.
             QString error;
             static_cast<void>(open(task.video, error));
         }
@@ -172,7 +172,7 @@ SeriesBoard::Task SeriesLane::plan(const Task& task)
     return m_board.planned(task.video, std::move(plan), facts, std::move(failures));
 }
 
-/// Looks at all frames by itself, with as many decoding threads as there are lanes.
+/// This lane examines all frames alone, with as many decoding threads as there are lanes.
 FramePositions SeriesLane::bestPositions(const FramePositions& wanted, qint64 durationMs,
                                          QString& error)
 {
@@ -192,7 +192,7 @@ FramePositions SeriesLane::bestPositions(const FramePositions& wanted, qint64 du
     return best;
 }
 
-/// Also gives an error for each frame that there is not.
+/// Also adds an error for each frame number that does not exist.
 QVector<SeriesTarget> SeriesLane::neededTargets(int video, const FramePositions& positions,
                                                 const SeriesLength& length,
                                                 std::deque<Delivery>& failures) const
@@ -216,7 +216,7 @@ QVector<SeriesTarget> SeriesLane::neededTargets(int video, const FramePositions&
     return needed;
 }
 
-/// The times of all frames take longer the longer the file is.
+/// The time limit for reading all frame times grows with the size of the file.
 void SeriesLane::readThrough(SeriesLength& length)
 {
     const qint64 bytes = QFileInfo(m_jobs.at(m_video).video).size();
@@ -232,8 +232,8 @@ void SeriesLane::beginPosition()
     m_deadline->start(m_options.positionTimeout);
 }
 
-/// What took too long is a failure, and not what the user cancelled. What comes next may take any
-/// time until another position begins: the decoder's threads may be ahead.
+/// Reports a timeout as a failure, not as a cancellation. The deadline is then cleared until the
+/// next position begins, because the decoder's threads may be ahead.
 FrameResult SeriesLane::inTime(FrameResult result)
 {
     m_deadline->start(std::chrono::milliseconds(0));
@@ -289,8 +289,8 @@ void SeriesLane::walkTargets(const Task& task)
     }
 }
 
-/// Goes to the key frame before the first target. What lies between it and the target is decoded
-/// anyway, so that targets there are met at no cost.
+/// Seeks to the key frame before the first target. The frames between it and the target are decoded
+/// anyway, so that targets there cost nothing.
 void SeriesLane::begin(const Task& task)
 {
     const SeriesPlan& plan = m_board.plan(task.video);
@@ -310,7 +310,7 @@ void SeriesLane::begin(const Task& task)
     m_board.extendBack(task.video, task.stretch, landing);
 }
 
-/// False once cancelled.
+/// Returns false once cancelled.
 bool SeriesLane::walkTarget(const Task& task, int index)
 {
     const SeriesTarget target = m_board.plan(task.video).targets.at(index);
@@ -341,7 +341,7 @@ FrameResult SeriesLane::find(const SeriesTarget& target)
             return toMilliseconds(frame.timestamp()) >= ms;
         };
     }
-    // Pictures that were not begun are missing behind what took too long.
+    // After a timeout, pictures that were not begun are missing.
     if (std::exchange(m_startsAnew, false) || !m_reader.canGoOn()) {
         return m_reader.find(search, m_isCancelledOrLate);
     }
@@ -349,7 +349,7 @@ FrameResult SeriesLane::find(const SeriesTarget& target)
     return m_reader.findOn(search, m_isCancelledOrLate);
 }
 
-/// Starts at a key frame where one lies between the frame before and the position.
+/// Restarts at a key frame if one lies between the previous frame and the position.
 void SeriesLane::approach(qint64 ms)
 {
     if (!m_reader.last()) {
@@ -359,7 +359,7 @@ void SeriesLane::approach(qint64 ms)
     if (wantsToStartAnew(ms, lastMs)) {
         m_reader.seek(ms);
     } else if (!m_knowsKeyFrames && ms - lastMs > worthStartingMs) {
-        // What could not be read is told by the search that follows.
+        // The search that follows reports what could not be read.
         static_cast<void>(m_reader.readAhead(ms, m_isCancelledOrLate));
     }
 }
@@ -379,7 +379,7 @@ SeriesBoard::Delivery SeriesLane::deliveryFor(const Task& task) const
     return delivery;
 }
 
-/// False once cancelled.
+/// Returns false once cancelled.
 bool SeriesLane::deliver(const Task& task, Delivery delivery, const FrameResult& found)
 {
     if (found.answer == FrameAnswer::Cancelled) {

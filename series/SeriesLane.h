@@ -9,16 +9,16 @@
 #include <memory>
 #include <optional>
 
-/// One of the workers of a series: decodes with a reader of its own, makes the pictures and encodes
-/// them. Used in the thread that runs it.
+/// A worker of a series: decodes with its own reader, makes the pictures and encodes them. Used
+/// only in the thread that runs it.
 class SeriesLane
 {
 public:
-    /// With the number of lanes said in the options.
+    /// The number of lanes is taken from the options.
     SeriesLane(SeriesBoard& board, const QVector<SeriesJob>& jobs, const SeriesOptions& options,
                const QtAV::IsCancelled& isCancelled);
 
-    /// Works until nothing is left to do, or all is cancelled.
+    /// Works until no work is left or everything is cancelled.
     void run();
 
 private:
@@ -59,17 +59,17 @@ private:
     SeriesBoard& m_board;
     const QVector<SeriesJob>& m_jobs;
     const SeriesOptions& m_options;
-    const QtAV::IsCancelled& m_isCancelled; ///< the series
+    const QtAV::IsCancelled& m_isCancelled; ///< for the whole series
     const std::shared_ptr<QtAV::Deadline> m_deadline;
     const QtAV::IsCancelled m_isCancelledOrLate;
 
     QtAV::FrameReader m_reader;
-    int m_video = -1;                            ///< what the reader has open
-    std::unique_ptr<QtAV::FrameReader> m_second; ///< has the same open; null unless needed
-    PictureSource m_source;                      ///< that video
+    int m_video = -1;                            ///< the video that the reader has open
+    std::unique_ptr<QtAV::FrameReader> m_second; ///< has the same video open; null unless needed
+    PictureSource m_source;                      ///< describes that video
     int m_overdue = 0;                           ///< positions of that video that took too long
-    bool m_startsAnew = false;                   ///< the next search
-    int m_readied = -1;                          ///< opened ahead of its plan last
-    bool m_knowsKeyFrames = false;               ///< by the index, which can be wrong
-    std::optional<double> m_lastSeconds;         ///< of the frame delivered last in a stretch
+    bool m_startsAnew = false;                   ///< the next search restarts
+    int m_readied = -1;                          ///< the last video opened ahead of its plan
+    bool m_knowsKeyFrames = false;               ///< from the index, which can be wrong
+    std::optional<double> m_lastSeconds;         ///< time of the last delivered frame of a stretch
 };

@@ -5,13 +5,13 @@
 
 namespace {
 
-/// Several for each lane, since some take longer than others.
+/// Several per lane, since some take longer than others.
 constexpr int stretchesPerLane = 8;
 
-/// A stretch with more targets makes those behind it wait in memory for its last one.
+/// In a longer stretch, finished pictures of the following stretches would wait long in memory.
 constexpr int mostTargets = 16;
 
-/// A key frame so near behind the last target is reached as soon by decoding on.
+/// If a key frame is this close behind the last target, decoding on reaches it just as quickly.
 constexpr qint64 nearMs = 500;
 
 /// Shorter parts of a video are not worth the way to their first frame.
@@ -44,8 +44,8 @@ void cutByNumber(SeriesPlan& plan, int lanes)
 {
     const int count = plan.targets.size();
     const int size = std::clamp(count / (lanes * stretchesPerLane), 1, mostTargets);
-    // At least so many that all lanes have something to do, but none without need: each starts
-    // with frames that another lane may decode as well.
+    // Enough stretches to keep all lanes busy, but no more: each starts with frames that another
+    // lane may decode as well.
     const int step = std::max(size, std::min(mostTargets, (count + lanes - 1) / lanes));
     for (int begin = 0; begin < count; begin += step) {
         plan.stretches.append({begin, std::min(count, begin + step)});

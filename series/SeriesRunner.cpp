@@ -27,7 +27,7 @@ public:
     Threads(const Threads&) = delete;
     Threads& operator=(const Threads&) = delete;
 
-    /// Fewer where the system gives no more.
+    /// Starts fewer threads if the system provides no more.
     template <typename Work>
     void start(int count, const Work& work)
     {

@@ -19,7 +19,7 @@ QVector<SeriesTarget> everyTargets(qint64 everyMs, qint64 from, qint64 to)
     return targets;
 }
 
-/// The middles of equal parts; none twice where there are more parts than milliseconds.
+/// The middles of equal parts, without duplicates if there are more parts than milliseconds.
 QVector<SeriesTarget> spreadTargets(int count, qint64 from, qint64 to)
 {
     QVector<SeriesTarget> targets;

@@ -8,35 +8,35 @@
 #include <optional>
 #include <vector>
 
-/// One frame that is asked for, once the video is known.
+/// One requested frame, once the video is known.
 struct SeriesTarget
 {
-    /// In milliseconds: the first frame at or after it is meant.
+    /// Position in milliseconds: the first frame at or after it is meant.
     qint64 ms = 0;
-    /// The frame's number, where that was asked for.
+    /// The frame's number, if a number was requested.
     std::optional<qint64> frame = {};
-    /// The last frame of the video is meant.
+    /// True if the last frame of the video is meant.
     bool isLast = false;
 };
 
-/// What has to be known of a video to tell which frames are meant.
+/// What must be known about a video to determine its targets.
 struct SeriesLength
 {
     qint64 durationMs = 0;
-    /// The presentation times of all frames in milliseconds, in rising order. Needed for frame
-    /// numbers alone.
+    /// Presentation times of all frames in milliseconds, in rising order. Needed only for frame
+    /// numbers.
     QVector<qint64> frameTimesMs = {};
 };
 
-/// The targets in rising order, none of them twice; none for KeyFrames, Scenes and Best, which the
-/// video itself has to tell. Numbers of frames that there are not are left out and given in
+/// The targets in rising order, without duplicates. Empty for KeyFrames, Scenes and Best, which are
+/// determined while decoding. Numbers of frames that do not exist are omitted and returned in
 /// `missing`.
 [[nodiscard]] QVector<SeriesTarget> targetsOf(const FramePositions& positions,
                                               const SeriesLength& length,
                                               std::vector<FramePosition>* missing = nullptr);
 
-/// How long a skipped stretch is, in milliseconds.
+/// The length of a skipped stretch in milliseconds.
 [[nodiscard]] qint64 msOf(const SeriesSkip& skip, qint64 durationMs);
 
-/// Some of the positions are numbers of frames.
+/// True if some of the positions are frame numbers.
 [[nodiscard]] bool asksForNumbers(const FramePositions& positions);

@@ -6,7 +6,7 @@
 
 namespace positions {
 
-/// A value, or why there is none, for people. Exactly one of the two is set.
+/// A value, or a text for people why there is none. Exactly one of the two is set.
 template <typename T>
 struct Result
 {
@@ -21,7 +21,7 @@ struct Result
     [[nodiscard]] bool isGood() const { return value.has_value(); }
 };
 
-/// The text in single quotes, in one line: control characters become question marks.
+/// The text in single quotes on one line: control characters become question marks.
 [[nodiscard]] inline std::string quoted(std::string text)
 {
     for (char& c : text) {

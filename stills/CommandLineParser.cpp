@@ -15,7 +15,7 @@ namespace {
 
 using Arguments = std::vector<std::string>;
 
-/// The option that an argument names, before an equals sign or as a whole; null for none.
+/// The option that an argument names, either completely or before an equals sign; null for none.
 const OptionEntry* entryNamed(const std::string& name)
 {
     const auto& table = optionTable();
@@ -25,8 +25,8 @@ const OptionEntry* entryNamed(const std::string& name)
     return found != table.end() ? &*found : nullptr;
 }
 
-/// The arguments with each value as one of its own: "--name=value" is taken apart, and an optional
-/// value that is missing becomes an empty one. So CLI11 has nothing to guess.
+/// Splits the arguments so that each value is separate: "--name=value" becomes two, and a missing
+/// optional value becomes an empty one. So CLI11 never has to guess.
 Arguments withSeparateValues(const Arguments& arguments)
 {
     Arguments result;
@@ -52,7 +52,7 @@ Arguments withSeparateValues(const Arguments& arguments)
     return result;
 }
 
-/// An optional value that is announced and not there; empty where there is none.
+/// An optional value that is announced but missing, as an empty text; nothing if there is none.
 std::string emptyValue(const Arguments& arguments)
 {
     for (const OptionEntry& entry : optionTable()) {
@@ -66,7 +66,7 @@ std::string emptyValue(const Arguments& arguments)
     return {};
 }
 
-/// Makes CLI11 store the option's values where the table says.
+/// Makes CLI11 store the option's values in the members that the table names.
 void addOption(CLI::App& app, const OptionEntry& entry, TypedOptions& typed)
 {
     if (const auto* const value = std::get_if<TypedOptions::Value TypedOptions::*>(&entry.target)) {
@@ -92,7 +92,7 @@ void addOption(CLI::App& app, const OptionEntry& entry, TypedOptions& typed)
     }
 }
 
-/// How many letters have to be changed, put in or taken out to get from one word to the other.
+/// The number of letters to change, insert or remove to turn one word into the other.
 std::size_t distance(const std::string& a, const std::string& b)
 {
     std::vector<std::size_t> row(b.size() + 1);
@@ -128,7 +128,7 @@ std::string unknownOption(const std::string& argument)
            (nearest.empty() ? "see stills --help-all" : "did you mean " + nearest + "?");
 }
 
-/// CLI11's errors in our words.
+/// CLI11's errors, in our own wording.
 std::string misuse(const CLI::ParseError& error, const Arguments& arguments)
 {
     const std::string last = arguments.empty() ? std::string() : arguments.back();
@@ -158,7 +158,7 @@ std::string misuse(const CLI::ParseError& error, const Arguments& arguments)
     return text;
 }
 
-/// What `--print` asks for; null where there is no such thing.
+/// The values of `--print`.
 const char* const printables = "man, bash, zsh or fish";
 
 CommandLine printed(const std::string& what)
@@ -217,7 +217,7 @@ CommandLine parseCommandLine(const Arguments& arguments)
         addOption(app, entry, typed);
     }
     try {
-        // It takes them from the last to the first.
+        // It processes them from the last to the first.
         app.parse(Arguments(before.rbegin(), before.rend()));
     } catch (const CLI::ParseError& error) {
         return {CommandLine::Wants::Error, {}, misuse(error, typedBefore)};

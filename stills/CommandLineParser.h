@@ -7,12 +7,12 @@
 
 namespace stills {
 
-/// What the arguments ask for.
+/// What the arguments request.
 struct CommandLine
 {
     enum class Wants {
-        Run,   ///< `options` hold
-        Print, ///< `text`, on standard output, and nothing else
+        Run,   ///< run with `options`
+        Print, ///< print `text` on standard output and nothing else
         Error, ///< the arguments are wrong: `text` says in one line how, and what would be right
     };
 

@@ -6,7 +6,8 @@ namespace stills {
 
 namespace {
 
-/// The first sentence of an option's text, without its point, and without what shells would read.
+/// The first sentence of an option's text, without its full stop and without characters that shells
+/// interpret.
 std::string firstSentence(const OptionEntry& entry)
 {
     std::string text = entry.text;
@@ -94,7 +95,7 @@ std::string bashCompletion()
                 "        " + namesBetween(entry, "|") + ") " + bashValues(entry) + "; return ;;\n";
         }
     }
-    // It needs nothing beside bash itself, which takes "--name=value" apart at the sign.
+    // It needs only bash itself, which splits "--name=value" at the equals sign.
     return "# bash completion for stills\n"
            "_stills() {\n"
            "    local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]}\n"

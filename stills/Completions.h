@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// What shells complete, made of the table of options.
+/// Completions for shells, generated from the table of options.
 namespace stills {
 
 [[nodiscard]] std::string bashCompletion();

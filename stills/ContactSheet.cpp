@@ -27,7 +27,7 @@ QFont fontOf(int pixels, QFont::Weight weight = QFont::Normal)
     return font;
 }
 
-/// Letters that suit the pictures' size.
+/// Fonts that suit the pictures' size.
 struct Letters
 {
     explicit Letters(int pictureWidth)
@@ -46,7 +46,7 @@ struct Letters
     QFont caption;
 };
 
-/// A title and what is said below it, either of which may be empty.
+/// A title and the text below it, either of which may be empty.
 struct Heading
 {
     QString title;

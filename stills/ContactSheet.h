@@ -9,25 +9,25 @@
 namespace stills {
 
 /// Collects the small pictures of one video and draws them side by side. Drawing needs a
-/// QGuiApplication, for its fonts. One thread at a time.
+/// QGuiApplication for its fonts. One thread at a time may use an object.
 class ContactSheet
 {
 public:
-    /// So many pictures have a place at most.
+    /// Maximum number of pictures.
     static constexpr int mostPictures = 2000;
 
     explicit ContactSheet(const Sheet& sheet)
         : m_sheet(sheet)
     {}
 
-    /// False where there is no place for more.
+    /// False if the maximum is reached.
     [[nodiscard]] bool add(const QImage& picture, qint64 timeMs);
 
     [[nodiscard]] int count() const { return m_pictures.size(); }
 
-    /// The sheet. Null where it would be too large, or memory runs out.
+    /// The sheet. Null if it would be too large or memory runs out.
     /// @param title  in large letters, unless the options have another one
-    /// @param facts  below it
+    /// @param facts  text below the title
     [[nodiscard]] QImage draw(const QString& title, const QString& facts) const;
 
 private:

@@ -10,7 +10,7 @@ namespace {
 
 constexpr uint firstEscape = 0xdc00; // and the byte, which is 0x80 at least
 
-/// A character at the start of some bytes, and how many of them it takes.
+/// A character at the start of some bytes, and the number of bytes that it takes.
 struct Decoded
 {
     uint character = 0;
@@ -19,10 +19,10 @@ struct Decoded
 
 struct Form
 {
-    uint lead;     ///< the bits that tell the first byte
-    uint mask;     ///< of these bits
+    uint lead;     ///< bits that identify the first byte
+    uint mask;     ///< mask for these bits
     int length;    ///< in bytes
-    uint smallest; ///< what is below has a shorter form
+    uint smallest; ///< smaller values have a shorter encoding
 };
 
 constexpr std::array<Form, 4> forms{{{0x00, 0x80, 1, 0x0},
@@ -65,7 +65,7 @@ bool isEscape(QChar c)
 
 void FileNameCodec::install()
 {
-    // Its constructor registers it with Qt, which deletes it at the end.
+    // The constructor registers the codec with Qt, which deletes it at the end.
     QTextCodec::setCodecForLocale(new FileNameCodec);
 }
 
@@ -74,7 +74,7 @@ QByteArray FileNameCodec::name() const
     return QByteArrayLiteral("Morvantile-file-names");
 }
 
-/// Not the number of UTF-8: Qt would pass over the names in folders that are not valid.
+/// Not the number of UTF-8, because Qt would skip invalid names in folders.
 int FileNameCodec::mibEnum() const
 {
     constexpr int privateUse = 2998;

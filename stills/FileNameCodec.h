@@ -9,16 +9,17 @@
 namespace stills {
 
 #if QT_VERSION_MAJOR < 6
-/// File names as Qt's texts, and back, without loss: UTF-8, and each byte that is none as a lone
-/// surrogate, U+DC80 to U+DCFF. Where it is the codec of the locale, QFile, QDir and all that goes
-/// through QFile::encodeName() work with any name that a file system can hold, in any locale.
+/// Converts file names to Qt's texts and back without loss: as UTF-8, with each invalid byte as a
+/// lone surrogate, U+DC80 to U+DCFF. When it is the codec of the locale, QFile, QDir and everything
+/// that uses QFile::encodeName() work with any name that a file system can hold, in any locale.
 class FileNameCodec : public QTextCodec
 {
 public:
-    /// Whether all names can be told.
+    /// Whether all names can be represented.
     static constexpr bool isWhole = true;
 
-    /// Makes one the codec of the locale. Before the application object; Qt owns and ends it.
+    /// Sets it as the codec of the locale. Call it before the application object is created; Qt
+    /// owns and deletes it.
     static void install();
 
     [[nodiscard]] QByteArray name() const override;
@@ -30,8 +31,8 @@ protected:
                                   ConverterState* state) const override;
 };
 #else
-/// Qt 6 takes file names for UTF-8 and lets nobody in between: there, names that are none cannot be
-/// opened, and are told as files that do not exist.
+/// Qt 6 treats file names as UTF-8 without a hook: other names cannot be opened there, and are
+/// reported as files that do not exist.
 class FileNameCodec
 {
 public:

@@ -39,7 +39,7 @@ std::string padded(std::string text, std::size_t width)
     return text;
 }
 
-/// The text in lines that end before the last column, each with so many spaces in front.
+/// The text in lines that fit the terminal, each indented by this many spaces.
 std::string wrapped(const std::string& text, std::size_t indent)
 {
     std::istringstream words(text);
@@ -55,7 +55,7 @@ std::string wrapped(const std::string& text, std::size_t indent)
     return lines + std::string(indent, ' ') + line + '\n';
 }
 
-/// Text for a manual page: its own signs are made plain, and hyphens are those of a keyboard.
+/// Text for a manual page: special characters are escaped, and hyphens are ASCII.
 std::string roff(const std::string& text)
 {
     std::string result;
@@ -76,7 +76,7 @@ std::string roff(const std::string& text)
 /// A paragraph for a manual page, in short lines that each end with a line break.
 std::string roffParagraph(const std::string& text)
 {
-    // Words that begin with a point, which would make a line a command.
+    // A word that begins with a full stop would turn its line into a command.
     std::string lines = wrapped(roff(text), 0);
     for (std::size_t at = 0; at < lines.size(); at = lines.find('\n', at) + 1) {
         if (lines[at] == '.') {

@@ -2,10 +2,10 @@
 
 #include <string>
 
-/// The texts that are made of the table of options. All end with a line break.
+/// The texts generated from the table of options. All end with a line break.
 namespace stills {
 
-/// The most useful options, with their defaults and examples: fits a terminal of 80 by 24.
+/// The most useful options with their defaults, and examples; fits a terminal of 80 by 24.
 [[nodiscard]] std::string shortHelp();
 
 /// All options.
@@ -14,7 +14,7 @@ namespace stills {
 /// "stills" and the version, in one line.
 [[nodiscard]] std::string versionText();
 
-/// The manual page, in the language of man pages.
+/// The manual page in mdoc format.
 [[nodiscard]] std::string manualPage();
 
 } // namespace stills

@@ -8,7 +8,7 @@ namespace stills {
 
 namespace {
 
-// A signal's handler has no other place to leave its word.
+// A signal handler can only store its number globally.
 std::atomic<int> receivedSignal{0};
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may not wait");
 
@@ -25,7 +25,7 @@ void handle(int number)
     }
     struct sigaction action = {};
     action.sa_handler = noteSignal;
-    // Without restarting: reads and writes that wait are to return.
+    // Without SA_RESTART, so that blocked reads and writes return.
     action.sa_flags = static_cast<int>(SA_RESETHAND);
     sigemptyset(&action.sa_mask);
     ::sigaction(number, &action, nullptr);
@@ -38,7 +38,7 @@ void Interruption::install()
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         handle(number);
     }
-    // Writing beyond what the process may write is an error as well.
+    // Writing beyond a limit becomes an error, too.
     for (const int number : {SIGPIPE, SIGXFSZ}) {
         static_cast<void>(std::signal(number, SIG_IGN));
     }

@@ -8,9 +8,9 @@
 
 namespace stills {
 
-/// One JSON object in one line, its keys in the order in which they are added. Texts come out as
-/// UTF-8; a byte of a file name that is none comes out as the lone surrogate that FileNameCodec
-/// makes of it: \udc80 to \udcff.
+/// One JSON object on one line, with its keys in the order in which they are added. Texts are
+/// UTF-8; invalid bytes of file names appear as the lone surrogates of FileNameCodec: \udc80 to
+/// \udcff.
 class JsonLine
 {
 public:
@@ -18,11 +18,11 @@ public:
     explicit JsonLine(QLatin1String type);
 
     JsonLine& add(QLatin1String key, const QString& value);
-    /// A whole number; null where there is none.
+    /// A whole number; null for nothing.
     JsonLine& add(QLatin1String key, std::optional<qint64> value);
     JsonLine& addTruth(QLatin1String key, bool value);
 
-    /// The object and a line break.
+    /// The complete object and a line break.
     [[nodiscard]] QByteArray line() const { return m_text + "}\n"; }
 
 private:

@@ -12,7 +12,7 @@ namespace stills {
 
 namespace {
 
-/// Where the video may be, the likeliest place first.
+/// Possible places of the video, the most likely one first.
 QStringList candidates(const QString& picture, const imaging::StillOrigin& origin)
 {
     QStringList paths;
@@ -28,7 +28,7 @@ QStringList candidates(const QString& picture, const imaging::StillOrigin& origi
     return paths;
 }
 
-/// The suffix of the picture, where it is one that can be asked for; else empty.
+/// The suffix of the picture if it is a supported format; otherwise empty.
 std::string formatOf(const QString& picture)
 {
     const QString suffix = QFileInfo(picture).suffix().toLower();

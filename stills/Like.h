@@ -6,16 +6,16 @@
 
 namespace stills {
 
-/// What --like asks for: how its picture came about, and the options with the video, the position
-/// and the type of the picture where they name none themselves.
+/// The result of --like: how the picture was made, and the options, completed with the video, the
+/// position and the type of the picture where they name none.
 struct Likeness
 {
     imaging::StillOrigin origin;
     Options options;
 };
 
-/// Reads the picture that options.like names, and finds its video unless other videos are named.
-/// The error is for people and starts with the option. Needs the FileNameCodec.
+/// Reads the picture named by options.like, and finds its video unless other videos are named. The
+/// error is a text for people that starts with the option. Needs the FileNameCodec.
 [[nodiscard]] Result<Likeness> likenessOf(const Options& options);
 
 } // namespace stills

@@ -16,7 +16,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Text = Result<std::string>;
 
-/// How often a pipe without a writer is looked at.
+/// Polling interval for a pipe without a writer.
 constexpr std::chrono::milliseconds lookInterval{20};
 
 Text failure()
@@ -24,13 +24,13 @@ Text failure()
     return Text::failure(std::string("cannot be read: ") + std::strerror(errno));
 }
 
-/// A file that is closed again, unless it is standard input.
+/// A file that is closed by the destructor, unless it is standard input.
 class Input
 {
 public:
     explicit Input(const std::string& path)
         : m_isOwn(path != "-")
-        // A pipe without a writer would hold up the program in opening it.
+        // O_NONBLOCK, because opening a pipe without a writer would block.
         , m_file(m_isOwn ? ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC) : STDIN_FILENO)
     {}
     ~Input()
@@ -54,7 +54,7 @@ private:
     const int m_file;
 };
 
-/// Waits for more from a writer that is there; false when a signal came between.
+/// Waits for more data from a connected writer; false if a signal arrives.
 bool waitForMore(int file)
 {
     pollfd question{file, POLLIN, 0};

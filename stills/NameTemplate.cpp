@@ -34,7 +34,7 @@ std::string padded(std::int64_t number, int width)
     return text.size() < wanted ? std::string(wanted - text.size(), '0') + text : text;
 }
 
-/// How long the part before the counter, the dot and the suffix may be.
+/// Maximum size of the part before the counter, the dot and the suffix.
 std::size_t baseRoom(const std::string& suffix)
 {
     const std::size_t taken = counterRoom + 1 + suffix.size();
@@ -79,7 +79,7 @@ std::string cutBetweenCharacters(std::string text, std::size_t bytes)
         return (static_cast<unsigned char>(text[i]) & 0xc0U) == 0x80U;
     };
     std::size_t end = bytes;
-    // A character has three continuations at most; more of them are no UTF-8.
+    // A character has at most three continuation bytes; more of them are not UTF-8.
     for (int i = 0; i < 3 && end > 0 && isContinuation(end); ++i) {
         --end;
     }
@@ -188,7 +188,7 @@ std::string NameTemplate::expanded(const NameFields& fields) const
             break;
         }
     }
-    // Where the stem is not part of the name, videos are told apart at its end.
+    // If the name does not contain the stem, the tail is appended to distinguish videos.
     return uses(Field::Stem) ? name : name + fields.tail;
 }
 

@@ -9,22 +9,22 @@
 
 namespace stills {
 
-/// What the name of one picture is made of.
+/// The values from which the name of a picture is made.
 struct NameFields
 {
     std::string stem;      ///< the video's name without its last suffix, any bytes
-    std::string tail = {}; ///< tells videos of one stem apart; comes behind the stem
+    std::string tail = {}; ///< distinguishes videos with the same stem; follows the stem
     int number = 0;        ///< of the picture within its video, from 1
-    std::optional<std::int64_t> frame = {}; ///< the frame's number, where known
+    std::optional<std::int64_t> frame = {}; ///< the frame's number, if known
     std::int64_t timeMs = 0;
     int width = 0; ///< of the picture, in pixels
     int height = 0;
 };
 
-/// How pictures are named: text with fields in braces. A plain value, for any thread.
+/// A template for the names of pictures: text with fields in braces. A plain value, for any thread.
 ///
-/// The fields are {stem}, {number}, {frame}, {time}, {width} and {height}; numbers may have a
-/// width, which leading zeros fill: {number:4}. A doubled brace stands for one.
+/// The fields are {stem}, {number}, {frame}, {time}, {width} and {height}. Numbers may have a
+/// minimum width, padded with zeros: {number:4}. A doubled brace stands for a single one.
 class NameTemplate
 {
 public:
@@ -32,17 +32,16 @@ public:
 
     NameTemplate() = default;
 
-    /// The template; or what is wrong with the text.
+    /// The template, or a description of the error in the text.
     [[nodiscard]] static Result<NameTemplate> parse(const std::string& text);
 
     [[nodiscard]] bool uses(Field field) const;
 
     /// The name of a file in its folder, with a dot and the suffix. The name stays within the
     /// folder, is visible and can be written: separators, control characters and leading dots
-    /// become underlines, and what is longer than file names may be is cut, the stem first, between
-    /// characters.
+    /// become underscores. A name that is too long is truncated between characters, the stem first.
     ///
-    /// @param counter  from 2 on comes behind the name: for names that are taken
+    /// @param counter  appended to the name from 2 on: for names that are taken
     [[nodiscard]] std::string fileName(const NameFields& fields, const std::string& suffix,
                                        int counter = 1) const;
 
@@ -60,14 +59,14 @@ private:
     std::vector<Part> m_parts;
 };
 
-/// A whole file name made safe and short enough, as NameTemplate::fileName() does it.
+/// Makes a file name safe and short enough, like NameTemplate::fileName().
 [[nodiscard]] std::string safeFileName(const std::string& base, const std::string& suffix,
                                        int counter = 1);
 
-/// "00.01.02.500": hours, minutes, seconds and milliseconds, in an order that sorts right.
+/// "00.01.02.500": hours, minutes, seconds and milliseconds, so that names sort by time.
 [[nodiscard]] std::string timeForNames(std::int64_t ms);
 
-/// Cuts the text to so many bytes, or some fewer where a character of UTF-8 would be torn.
+/// Truncates the text to this many bytes, or fewer to keep UTF-8 characters whole.
 [[nodiscard]] std::string cutBetweenCharacters(std::string text, std::size_t bytes);
 
 } // namespace stills

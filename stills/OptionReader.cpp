@@ -18,7 +18,7 @@ constexpr std::int64_t highestColumns = 100;
 constexpr std::int64_t widestGap = 500;
 constexpr std::int64_t highestJobs = 256;
 
-/// A year: more is for ever, too.
+/// A year: longer times are treated as unlimited anyway.
 constexpr double longestMs = 365.0 * 24 * 3600 * 1000;
 
 bool isOneOf(const std::string& word, const char* words)
@@ -28,7 +28,7 @@ bool isOneOf(const std::string& word, const char* words)
                        [&word](const std::string& candidate) { return candidate == word; });
 }
 
-/// Reads values one after another, and keeps the first error.
+/// Parses values one after another and keeps the first error.
 class Reader
 {
 public:
@@ -58,8 +58,8 @@ private:
         }
     }
 
-    /// The value that was parsed; a default one after an error, which is kept under the option's
-    /// name.
+    /// Returns the parsed value. After an error returns a default value and records the error with
+    /// the option's name.
     template <typename T>
     T good(const char* option, const Result<T>& result)
     {
@@ -75,7 +75,7 @@ private:
         return static_cast<int>(good(option, parseNumber(text, low, high)));
     }
 
-    /// Of options that exclude each other at most one may be there.
+    /// At most one of the mutually exclusive options may be given.
     void allowOne(const std::vector<std::pair<const char*, bool>>& options)
     {
         const char* first = nullptr;

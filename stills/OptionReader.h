@@ -6,7 +6,7 @@
 
 namespace stills {
 
-/// What the typed arguments mean; or what is wrong with them, in one line.
+/// Interprets the typed arguments; the error is a text of one line.
 [[nodiscard]] Result<Options> readOptions(const TypedOptions& typed);
 
 } // namespace stills

@@ -7,7 +7,7 @@
 
 namespace stills {
 
-/// The arguments as they were typed: which options there are and their values, not yet understood.
+/// The arguments as typed: options and their values, not yet interpreted.
 struct TypedOptions
 {
     using Value = std::optional<std::string>;
@@ -20,7 +20,7 @@ struct TypedOptions
     Values at;
     Values frames;
     bool keyFrames = false;
-    Value scenes; ///< empty where it came without a value
+    Value scenes; ///< empty if given without a value
     Value best;
     Value skipStart;
     Value skipEnd;
@@ -39,7 +39,7 @@ struct TypedOptions
     Value like;
     Value metadata;
 
-    Value sheet; ///< empty where it came without a value
+    Value sheet; ///< empty if given without a value
     bool withPictures = false;
     Value columns;
     Value sheetGap;
@@ -72,10 +72,10 @@ struct TypedOptions
     bool help = false;
     bool helpAll = false;
     bool version = false;
-    Value print; ///< hidden: the manual page or a completion, for the build
+    Value print; ///< hidden option for the build: prints the manual page or a completion
 };
 
-/// Under which heading the full help and the manual page list an option.
+/// The heading for an option in the full help and the manual page.
 enum class Section {
     Frames,
     Pictures,
@@ -88,11 +88,11 @@ enum class Section {
     Hidden
 };
 
-/// What a shell offers for an option's value.
+/// What shells complete for an option's value.
 enum class Completes { Nothing, Files, Folders, Words };
 
-/// One option. The table of all of them is what the arguments are parsed by, and what the help, the
-/// manual page and the completions are made of.
+/// One option. The table of all options is used for parsing, and for generating the help, the
+/// manual page and the completions.
 struct OptionEntry
 {
     using Target = std::variant<bool TypedOptions::*, TypedOptions::Value TypedOptions::*,
@@ -100,21 +100,22 @@ struct OptionEntry
 
     Section section;
     const char* names; ///< as "-o,--output"
-    const char* value; ///< what the help calls it; null for a switch; "[=NAME]" for an optional one
+    const char* value; ///< name of the value in the help; null for a switch; "[=NAME]" for an
+                       ///< optional one
     Target target;
-    const char* text;  ///< for the full help and the manual page: sentences
-    const char* brief; ///< for the help of one screen; null where that is without it
+    const char* text;  ///< sentences for the full help and the manual page
+    const char* brief; ///< for the short help; null if the option is not listed there
     Completes completes;
     const char* words; ///< with Completes::Words, separated by spaces
 
     [[nodiscard]] bool takesValue() const { return value != nullptr; }
-    /// The value may be missing, and is written with an equals sign only.
+    /// True if the value is optional, and given only with an equals sign.
     [[nodiscard]] bool valueIsOptional() const { return takesValue() && value[0] == '['; }
     /// "--output"
     [[nodiscard]] std::string longName() const;
     /// "-o", or empty.
     [[nodiscard]] std::string shortName() const;
-    /// "-o, --output DIR"; without a short name there is room for one if `indents`.
+    /// "-o, --output DIR"; `indents` leaves room for a missing short name.
     [[nodiscard]] std::string usage(bool indents) const;
 };
 
@@ -123,13 +124,13 @@ struct OptionEntry
 /// The heading of a section, such as "Which frames".
 [[nodiscard]] const char* headingOf(Section section);
 
-/// The words that --hdr takes, separated by spaces.
+/// The values of --hdr, separated by spaces.
 [[nodiscard]] const char* hdrNames();
 
-/// The words that --deinterlace takes, separated by spaces.
+/// The values of --deinterlace, separated by spaces.
 [[nodiscard]] const char* deinterlacingNames();
 
-/// The suffixes of the pictures that can be asked for, separated by spaces.
+/// The suffixes of the supported picture formats, separated by spaces.
 [[nodiscard]] const char* pictureFormats();
 
 } // namespace stills

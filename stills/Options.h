@@ -8,45 +8,48 @@
 #include <string>
 #include <vector>
 
-/// What a run of `stills` is asked to do: plain values without Qt, so that the program can read its
-/// arguments before it loads any large library. Paths are the bytes that the system knows.
+/// The parameters of a run of `stills`: plain values without Qt, so that the program can parse its
+/// arguments before it loads any large library. Paths are the system's bytes.
 namespace stills {
 
+/// Width and height in pixels.
 struct Size
 {
     int width = 0;
     int height = 0;
 };
 
-/// What becomes of a picture whose name is taken.
+/// What to do if the name of a picture is taken.
 enum class Existing {
-    NextName,  ///< it gets the next free name
-    Skip,      ///< it is not made again
-    Overwrite, ///< it takes the place
+    NextName,  ///< use the next free name
+    Skip,      ///< do not make the picture
+    Overwrite, ///< replace the file
 };
 
-/// How pictures come to another size.
+/// Filters for resizing.
 enum class Filter { Area, Lanczos, Bicubic, Nearest };
 
-/// What the files of pictures tell of where these come from.
+/// What the files of pictures tell about their origin.
 enum class Metadata { All, WithoutPlace, None };
 
 /// The contact sheet.
 struct Sheet
 {
     NameTemplate name;
-    int columns = 0; ///< 0: about square
+    int columns = 0; ///< 0 for about square
     int gap = 12;    ///< between the pictures, in pixels
     bool hasTimes = true;
-    std::optional<std::string> title; ///< in place of the usual one; empty for none
+    std::optional<std::string> title; ///< replaces the default title; empty for none
 };
 
+/// The number-th of count equal shares of the videos.
 struct Shard
 {
     int number = 1; ///< from 1
     int count = 1;
 };
 
+/// All options of a run, with their defaults.
 struct Options
 {
     std::vector<std::string> videos;

@@ -4,24 +4,24 @@
 
 namespace stills {
 
-/// One of the process's open files, such as standard output, written at once and without a buffer.
-/// SIGPIPE must be ignored. One thread at a time.
+/// An open file of the process, such as standard output, written unbuffered. SIGPIPE must be
+/// ignored. One thread at a time may use an object.
 class OutputStream
 {
 public:
-    /// @param descriptor  stays the caller's
+    /// @param descriptor  not closed by this object
     explicit OutputStream(int descriptor)
         : m_descriptor(descriptor)
     {}
 
-    /// Writes all of it. False from the first failure on, such as a reader that is gone.
+    /// Writes all of the content. Returns false from the first failure on, such as a closed pipe.
     bool write(const QByteArray& content);
 
-    /// Something could not be written.
+    /// True once writing has failed.
     [[nodiscard]] bool hasFailed() const { return m_hasFailed; }
 
     [[nodiscard]] bool isTerminal() const;
-    /// How many characters fit into a line; 80 where that is not known.
+    /// Width of the terminal in characters; 80 if unknown.
     [[nodiscard]] int columns() const;
 
 private:

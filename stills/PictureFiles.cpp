@@ -22,7 +22,7 @@ QString pathIn(const QString& folder, const QByteArray& name)
     return QDir(folder).filePath(QFile::decodeName(name));
 }
 
-/// A link that leads nowhere is there as well.
+/// A dangling link also counts as an existing file.
 bool isThere(const QString& path)
 {
     const QFileInfo info(path);
@@ -34,7 +34,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("stills", text);
 }
 
-/// Whether no other picture could be written there either.
+/// Whether writing other pictures there would fail, too.
 bool isHopeless(const WriteFailure& failure)
 {
     return failure.isLackOfRoom() || failure.error == EACCES || failure.error == EPERM ||
@@ -80,7 +80,8 @@ PictureFiles::Outcome PictureFiles::write(const QString& folder, const NameForAt
     }
     for (int attempt = 1; attempt <= mostAttempts; ++attempt) {
         const QString path = pathIn(folder, name(attempt));
-        // What this run has written is another picture, whatever the rule for older files.
+        // A file written by this run belongs to another picture, whatever the rule for existing
+        // files.
         if (m_written.contains(path)) {
             continue;
         }

@@ -14,32 +14,33 @@ class HiddenFile;
 
 namespace stills {
 
-/// Writes pictures under names that are free, or that may be taken. Whatever the rule for existing
-/// files, no file that this object has written is written over. One thread at a time.
+/// Writes pictures under free names, or names that may be replaced. Whatever the rule for existing
+/// files, a file written by this object is never overwritten. One thread at a time may use an
+/// object.
 class PictureFiles
 {
 public:
-    /// The name of a file without its folder, as the system's bytes, for an attempt from 1 on. No
-    /// two attempts give the same name.
+    /// Returns the name of a file without its folder, as the system's bytes, for an attempt from 1
+    /// on. All attempts give different names.
     using NameForAttempt = std::function<QByteArray(int attempt)>;
 
     struct Outcome
     {
         enum class Kind {
             Written,
-            Skipped, ///< there is a file of that name already
+            Skipped, ///< a file of that name already exists
             Failed,
-            NoRoom, ///< failed, and so would every other picture in this folder
+            NoRoom, ///< failed, as would every other picture in this folder
         };
 
         Kind kind = Kind::Failed;
         QString path;            ///< of the file that was written or that exists
-        QString error;           ///< for people
-        qint64 missingBytes = 0; ///< that there is no room for, where that is the reason
+        QString error;           ///< a text for people
+        qint64 missingBytes = 0; ///< how much does not fit, if that is the reason
     };
 
-    /// An encoded picture, or the file that FilePublisher::prepare() has put it into; a file only
-    /// where nothing is overwritten.
+    /// An encoded picture, or the file that FilePublisher::prepare() has written it to. The latter
+    /// only if nothing is overwritten.
     struct Content
     {
         Content(QByteArray encoded, std::shared_ptr<HiddenFile> prepared = {})
@@ -55,13 +56,14 @@ public:
         : m_existing(existing)
     {}
 
-    /// Removes what killed programs have left in the folder first, see FilePublisher::sweep().
+    /// Writes a picture. Before the first one in a folder, removes what killed programs have left
+    /// there, see FilePublisher::sweep().
     ///
-    /// @param folder  exists
+    /// @param folder  must exist
     [[nodiscard]] Outcome write(const QString& folder, const NameForAttempt& name,
                                 const Content& content);
 
-    /// Something has that name.
+    /// True if any file has that name.
     [[nodiscard]] static bool exists(const QString& folder, const QByteArray& name);
 
 private:
@@ -69,7 +71,7 @@ private:
 
     Existing m_existing;
     QSet<QString> m_written;
-    QString m_sweptFolder; ///< from which what killed programs left was removed last
+    QString m_sweptFolder; ///< the folder that was swept last
 };
 
 } // namespace stills

@@ -9,7 +9,7 @@ namespace {
 
 using Field = NameTemplate::Field;
 
-/// In bytes; room for what profiles put around it stays.
+/// In bytes; leaves room for the parts that profiles add.
 constexpr std::size_t longestProfileStem = 150;
 
 bool asksForTimes(const FramePositions& positions)

@@ -16,17 +16,17 @@ namespace stills {
 class PictureNames
 {
 public:
-    /// @param naming  of a file-name profile, in place of the options' template
+    /// @param naming  from a file-name profile, replaces the options' template
     /// @param suffix  of the files, without dot
     PictureNames(const Options& options, const std::optional<OutputNaming>& naming, QString suffix);
 
     /// The name of a picture, without its folder, for an attempt from 1 on.
     /// @param number  of the position within its video, from 1
-    /// @param isOnly  it is the only one of its video
+    /// @param isOnly  whether it is the only one of its video
     [[nodiscard]] QByteArray name(const VideoTask& task, const SeriesPicture& picture, int number,
                                   bool isOnly, int attempt) const;
 
-    /// The name that the picture at a position will have; nothing where only the frame can tell.
+    /// The name of the picture at a position; nothing if it depends on the frame.
     [[nodiscard]] std::optional<QByteArray>
     nameBefore(const VideoTask& task, const SeriesTarget& target, int number) const;
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int usualQuality = 90;
 
-/// The profile of that name; else an error under the option's name.
+/// The profile with that name, or an error with the option's name.
 template <typename Profile>
 Result<const Profile*> profileNamed(const char* option, const std::string& name)
 {
@@ -35,7 +35,7 @@ Result<const Profile*> profileNamed(const char* option, const std::string& name)
                                            quoted(name) + "; " + there);
 }
 
-/// Whether the watermark is a picture that is not there.
+/// Whether the watermark needs a picture that is missing.
 bool lacksPicture(const WatermarkRecipe& recipe)
 {
     return recipe.kind == WatermarkRecipe::Kind::Picture && recipe.picture.isNull();

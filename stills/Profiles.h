@@ -12,17 +12,17 @@
 
 namespace stills {
 
-/// What becomes of each frame, and how files are named, once the names of profiles are looked up.
+/// How each frame becomes a picture and how files are named, with profiles resolved.
 struct Look
 {
     ImageRecipe recipe;
-    std::optional<OutputNaming> naming; ///< of a file-name profile
-    QString suffix;                     ///< of the pictures' files, and their type
+    std::optional<OutputNaming> naming; ///< from a file-name profile
+    QString suffix;                     ///< suffix and format of the pictures' files
 };
 
-/// Looks profiles up by their names, small and capital letters alike, and has the other options
-/// change what they say. The error names the profiles that there are. Needs the application object.
-/// @param like  the still that --like names; null without
+/// Looks up profiles by name, case-insensitively, and applies the other options to them. The error
+/// lists the existing profiles. Needs the application object.
+/// @param like  the still named by --like; null without one
 [[nodiscard]] Result<Look> lookOf(const Options& options,
                                   const imaging::StillOrigin* like = nullptr);
 

@@ -10,29 +10,29 @@
 
 namespace stills {
 
-/// How many pictures came to what end.
+/// Numbers of pictures by result.
 struct Tally
 {
     int delivered = 0; ///< written
-    int skipped = 0;   ///< left out because they exist
+    int skipped = 0;   ///< omitted because they exist
     int failed = 0;    ///< errors, of pictures and of whole videos
     int sheets = 0;    ///< contact sheets written
 };
 
-/// How far a run is.
+/// The progress of a run.
 struct ProgressState
 {
     int videos = 1;              ///< of the run
-    int video = 1;               ///< the one at work, from 1
+    int video = 1;               ///< the current one, from 1
     QString name;                ///< of its file
-    int pictures = 0;            ///< of this video so far, whatever became of them
+    int pictures = 0;            ///< of this video so far, whatever their results
     std::optional<int> expected; ///< of this video
-    double part = 0.0;           ///< of this video that is done, 0 to 1
+    double part = 0.0;           ///< completed fraction of this video, 0 to 1
     int total = 0;               ///< pictures of all videos so far
     qint64 elapsedMs = 0;
 };
 
-/// The line that shows progress, for so many columns, without an end of line.
+/// The progress line for this many columns, without a line break.
 [[nodiscard]] QString progressText(const ProgressState& state, int columns);
 
 /// The last line: "47 pictures in out (3 errors)".
@@ -40,8 +40,8 @@ struct ProgressState
 [[nodiscard]] QString summaryText(const Tally& tally, const QString& place, bool isSheetAlone,
                                   bool wasInterrupted);
 
-/// Tells people and programs what happens: error lines, the progress and the last line on standard
-/// error; JSON objects on standard output. One thread at a time.
+/// Reports to people and programs: error lines, the progress and the last line on standard error;
+/// JSON objects on standard output. One thread at a time may use an object.
 class Report
 {
 public:
@@ -67,31 +67,31 @@ public:
 
     Report(Style style, int videos);
 
-    /// Before anything else is told of a video: its place, from 0.
+    /// Call it before anything else about a video, with its index from 0.
     void beginVideo(int video, const QString& path);
-    /// What is known of it once it is open.
+    /// What is known about the video once it is open.
     void describeVideo(std::optional<int> expected, qint64 durationMs);
     void addPicture(const Picture& picture);
-    /// What people may want to know of the video at work, once for each, in a line like an error's.
-    /// Nothing for an empty text.
+    /// Prints a note about the current video once, on a line like that of an error. Ignores an
+    /// empty text.
     void noteOnce(const QString& text);
-    /// Pictures that exist already.
+    /// Counts pictures that already exist.
     void addSkipped(int count);
     void addSheet(const QString& path, QSize size, int pictures);
-    /// What was asked for of the video at work could not be had.
+    /// Reports something about the current video that failed.
     void addError(std::optional<qint64> askedMs, const QString& message);
     void endVideo();
 
-    /// An error outside of all videos begun, such as a path that cannot be used.
+    /// Reports an error outside any video, such as an unusable path.
     void addProblem(const QString& path, const QString& message);
 
-    /// After the last video.
+    /// Call it after the last video.
     void finish(bool wasInterrupted);
 
     [[nodiscard]] const Tally& total() const { return m_total; }
-    /// What became of the pictures of the video at work.
+    /// Results of the current video.
     [[nodiscard]] const Tally& ofVideo() const { return m_video; }
-    /// The reader of standard output is gone: nothing more can be told.
+    /// True if the reader of standard output is gone, so that nothing more can be reported.
     [[nodiscard]] bool isReaderGone() const { return m_output.hasFailed(); }
 
 private:

@@ -5,34 +5,34 @@
 
 namespace stills {
 
-/// Where the parts of a contact sheet lie, in pixels.
+/// Layout of a contact sheet, in pixels.
 struct SheetLayout
 {
-    /// What a sheet is made of.
+    /// The parts of a sheet.
     struct Parts
     {
         int pictures = 0;
         QSize picture;         ///< the largest one
-        int columns = 0;       ///< 0: as many as make it about square
+        int columns = 0;       ///< 0 for about square
         int gap = 0;           ///< between the pictures
-        int captionHeight = 0; ///< below each picture; 0 for none
-        int titleHeight = 0;   ///< above all; 0 for none
+        int captionHeight = 0; ///< height of the text below each picture; 0 for none
+        int titleHeight = 0;   ///< height of the title; 0 for none
     };
 
     explicit SheetLayout(const Parts& parts);
 
-    /// The number of columns that makes about as many rows; one more or less where that leaves no
-    /// place in the last row empty.
+    /// The number of columns that gives about as many rows; one more or less if that fills the last
+    /// row.
     [[nodiscard]] static int usualColumns(int pictures);
 
-    /// Where a picture may be drawn, by its place from 0 on.
+    /// The area for a picture, by its index from 0.
     [[nodiscard]] QRect pictureArea(int place) const;
     [[nodiscard]] QRect captionArea(int place) const;
     [[nodiscard]] QRect titleArea() const;
     [[nodiscard]] QSize size() const { return m_size; }
     [[nodiscard]] int columns() const { return m_columns; }
 
-    /// Whether such an image can be made and written.
+    /// True if an image of this size can be created and written.
     [[nodiscard]] bool isPossible() const;
 
 private:

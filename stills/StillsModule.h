@@ -4,8 +4,8 @@
 
 namespace stills {
 
-/// What the program calls in the module that it loads: does what the options say and returns the
-/// exit status.
+/// The entry point of the module that the program loads: runs the options and returns the exit
+/// status.
 using ModuleEntry = int (*)(const Options&);
 
 constexpr const char* moduleEntryName = "morvantile_run_stills";

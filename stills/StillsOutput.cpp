@@ -19,7 +19,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("stills", text);
 }
 
-/// Tells positions apart; that of the last frame has no time of its own.
+/// A key for a position; the last frame has no time of its own.
 qint64 keyOf(const SeriesTarget& target)
 {
     return target.isLast ? -1 : target.ms;
@@ -40,9 +40,9 @@ StillsOutput::StillsOutput(const Options& options, const Look& look,
 
 StillsOutput::~StillsOutput() = default;
 
-/// Where positions are close, several mean one frame, whose picture bears the name of the first of
-/// them. Whether the others need one can only be told together with the one before, so that is
-/// needed as well.
+/// Close positions can mean the same frame, whose picture has the name of the first of them.
+/// Whether the others need a picture can only be decided together with the position before them, so
+/// that one is needed as well.
 void StillsOutput::announce(int video, const QVector<SeriesTarget>& targets)
 {
     const VideoTask& task = m_tasks[static_cast<std::size_t>(video)];
@@ -76,7 +76,7 @@ bool StillsOutput::needs(int video, const SeriesTarget& target)
 
 bool StillsOutput::isMissing(const VideoTask& task, const SeriesTarget& target, int number) const
 {
-    // A sheet shows the pictures that exist, too.
+    // A sheet needs existing pictures, too.
     if (m_options.existing != Existing::Skip || m_options.sheet) {
         return true;
     }
@@ -100,8 +100,8 @@ void StillsOutput::beginVideo(int video)
     m_report.beginVideo(video, pathOf(m_tasks[static_cast<std::size_t>(video)].path));
 }
 
-/// Where there is no room for it, writing it in its turn says so. What may replace a file is
-/// written beside it and no sooner.
+/// If there is no room, the later write reports it. With overwriting, nothing is prepared: such a
+/// picture is written only in its turn.
 void StillsOutput::store(SeriesPicture& picture)
 {
     const bool hasFile = m_options.makesPictures && !m_options.writesToStandardOutput &&
@@ -130,7 +130,8 @@ void StillsOutput::begin(const SeriesFacts& facts)
     m_report.addSkipped(skipped);
 }
 
-/// By the position, so that a run that leaves pictures out counts like one that makes them all.
+/// Derived from the position, so that a run that skips pictures numbers like one that makes them
+/// all.
 int StillsOutput::numberOf(const SeriesPicture& picture)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -141,7 +142,7 @@ int StillsOutput::numberOf(const SeriesPicture& picture)
     if (picture.askedMs) {
         return plan->numbers.value(*picture.askedMs, picture.number);
     }
-    // Only the last frame is asked for without a time, beside what the video itself tells.
+    // Except for video-defined positions, only the last frame has no requested time.
     return plan->lastNumber > 0 ? plan->lastNumber : picture.number;
 }
 
@@ -150,7 +151,7 @@ void StillsOutput::take(SeriesPicture picture)
     if (m_wantsToStop) {
         return;
     }
-    // The engine gives the last frame there, which is not what was meant.
+    // The engine gives the last frame there, which is not what was requested.
     if (picture.askedMs && picture.askedMs > m_durationMs) {
         picture.error = tr("The video ends at %1.").arg(exactClockTime(m_durationMs));
     }
@@ -201,7 +202,7 @@ void StillsOutput::writePicture(const SeriesPicture& picture, int number)
         fail(picture.askedMs, outcome);
         break;
     }
-    // A program that reads the report and is gone does not want the rest.
+    // If the program that reads the report is gone, the rest is not wanted.
     m_wantsToStop = m_wantsToStop || m_report.isReaderGone();
 }
 

@@ -21,11 +21,11 @@
 
 namespace stills {
 
-/// Takes the pictures of a series: writes them, gathers the contact sheets and reports all of it.
+/// Receives the pictures of a series: writes them, collects contact sheets and reports everything.
 class StillsOutput : public SeriesOutput
 {
 public:
-    /// All are to outlive this object. The tasks are the videos of the series, in the same order.
+    /// All arguments must outlive this object. The tasks are the videos of the series, in order.
     StillsOutput(const Options& options, const Look& look, const std::vector<VideoTask>& tasks,
                  Report& report);
     ~StillsOutput() override;
@@ -37,17 +37,17 @@ public:
     void take(SeriesPicture picture) override;
     void end(int video, const QString& error) override;
 
-    /// Nothing more is wanted, after an error that ends the run. From any thread.
+    /// True after an error that ends the run. From any thread.
     [[nodiscard]] bool wantsToStop() const { return m_wantsToStop; }
 
 private:
-    /// What is known of a video's positions before its pictures come.
+    /// What is known about a video's positions before its pictures arrive.
     struct Plan
     {
         QHash<qint64, int> numbers; ///< of the positions in milliseconds, from 1
-        int lastNumber = 0;         ///< of the last frame, where that is asked for
+        int lastNumber = 0;         ///< of the last frame, if that is requested
         QSet<qint64> needed;
-        int skipped = 0; ///< not asked for because their pictures exist
+        int skipped = 0; ///< not requested because their pictures exist
     };
 
     [[nodiscard]] bool isMissing(const VideoTask& task, const SeriesTarget& target,
@@ -73,7 +73,7 @@ private:
     std::unique_ptr<ContactSheet> m_sheet;
     std::atomic<bool> m_wantsToStop{false};
 
-    int m_begun = -1; ///< the video at work
+    int m_begun = -1; ///< the current video
     bool m_isOnly = false;
     qint64 m_durationMs = 0;
     QSize m_pictureSize;

@@ -37,14 +37,14 @@ constexpr int signalStatus = 128;
 
 constexpr QSize usualSheetPicture(320, 320);
 
-/// Debug lines are for developers, who turn them on again with QT_LOGGING_RULES.
+/// Debug messages are for developers, who enable them with QT_LOGGING_RULES.
 void hideDebugLines()
 {
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 }
 
-/// Text needs Qt's fonts, and with them its platform; one without a display. The bare application
-/// object is quicker where nothing is written on pictures.
+/// Drawing text needs Qt's fonts, and so a platform plugin; the one used needs no display. Without
+/// text, the plain application object starts faster.
 std::unique_ptr<QCoreApplication> makeApplication(bool needsFonts)
 {
     static int count = 1;
@@ -103,7 +103,8 @@ Report::Style styleOf(const Options& options)
     return style;
 }
 
-/// The folder for the pictures is there, or is made. An error text where that cannot be.
+/// Makes sure that the folder for the pictures exists. Returns an error text if it cannot be
+/// created.
 QString prepareFolder(const Options& options)
 {
     if (!options.folder) {
@@ -120,7 +121,7 @@ QString prepareFolder(const Options& options)
                                           : QStringLiteral("This folder does not let you write");
 }
 
-/// Encoded pictures of one video come in all sizes, between which freed memory would stay.
+/// Encoded pictures of one video have all sizes, and freed memory between them would not be reused.
 void chooseMemoryPolicy(int videos)
 {
     constexpr int encodedPictureBytes = 128 << 10;
@@ -152,7 +153,7 @@ private:
     int m_done = 0;
 };
 
-/// Whether the sheet is all that is wanted of a video, and is there.
+/// Whether only the sheet of a video is requested, and exists.
 bool Run::isDone(const VideoTask& task) const
 {
     if (m_options.makesPictures || m_options.existing != Existing::Skip) {
@@ -179,7 +180,7 @@ std::vector<VideoTask> Run::chooseTasks(const std::vector<std::string>& videos)
     return chosen;
 }
 
-/// True unless an error ended it.
+/// Returns true unless an error ended the run.
 bool Run::work(const std::vector<VideoTask>& tasks, Report& report) const
 {
     StillsOutput output(m_options, m_look, tasks, report);
@@ -207,7 +208,7 @@ int Run::execute()
     const std::vector<VideoTask> tasks = chooseTasks(list.videos);
     Report report(styleOf(m_options), static_cast<int>(tasks.size()) + m_done);
     report.addSkipped(m_done);
-    // Each of several shards would tell of them.
+    // Otherwise each of several shards would report them.
     if (m_options.shard.number == 1) {
         for (const VideoList::Problem& problem : list.problems) {
             report.addProblem(pathOf(problem.path), QString::fromStdString(problem.text));
@@ -235,7 +236,7 @@ int refuse(const std::string& error)
     return wrongUsage;
 }
 
-/// Settings that cannot be read are put aside and told once.
+/// Moves unreadable settings aside and reports them once.
 void tellDamagedSettings()
 {
     for (const QString& text : SettingsFile::putDamagedAside()) {

@@ -5,17 +5,17 @@
 
 #include <string>
 
-/// Paths and texts on their way between the system's bytes and Qt. Needs the FileNameCodec.
+/// Conversions between the system's bytes and Qt's texts. Needs the FileNameCodec.
 namespace stills {
 
 [[nodiscard]] QString pathOf(const std::string& bytes);
 [[nodiscard]] std::string bytesOf(const QString& path);
 
-/// What is written to a terminal or a log: the system's own bytes, in one line. Control characters
-/// become question marks, so that no name can move the cursor.
+/// Text for a terminal or a log: the system's own bytes, on one line. Control characters become
+/// question marks, so that no name can move the cursor.
 [[nodiscard]] QByteArray oneLine(const QString& text);
 
-/// The text for drawing and for the eye: what is no character shows as a question mark.
+/// Text for display: invalid characters become question marks.
 [[nodiscard]] QString readable(const QString& text);
 
 /// "1:02:03" or "0:42": hours where there are any, minutes and seconds.

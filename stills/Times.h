@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-/// Numbers as people write them, beside the times and positions of series/PositionTexts.h. Whatever
-/// is not written in one of the ways that are named here is an error that quotes the text: nothing
-/// is guessed, rounded or passed over.
+/// Parses numbers as people write them, like the times and positions of series/PositionTexts.h. Any
+/// text in another form than those documented here is an error that quotes it: nothing is guessed,
+/// rounded or ignored.
 namespace stills {
 
 using positions::parseFrames;

@@ -58,8 +58,8 @@ private:
         }
     }
 
-    /// The videos in a folder and then those of the folders within, all by name. Hidden files and
-    /// folders are passed over; links to folders too, for they may lead round in circles.
+    /// Adds the videos in a folder and then those in its subfolders, all sorted by name. Hidden
+    /// files and folders are skipped, and so are links to folders, which may form cycles.
     void addFolder(const std::string& path)
     {
         std::error_code error;
@@ -93,7 +93,7 @@ private:
     std::unordered_set<std::string> m_known;
 };
 
-/// The lines, or what stands between NUL characters where there are any; empty ones left out.
+/// The lines, or the parts separated by NUL characters if there are any, without empty ones.
 std::vector<std::string> namesIn(const std::string& content)
 {
     const char separator = content.find('\0') == std::string::npos ? '\n' : '\0';
@@ -102,7 +102,7 @@ std::vector<std::string> namesIn(const std::string& content)
         const std::size_t end = std::min(content.find(separator, start), content.size());
         std::string name = content.substr(start, end - start);
         std::error_code error;
-        // A list that was written on Windows; a file may be called like that all the same.
+        // The list may have been written on Windows, but a file may really have such a name.
         if (separator == '\n' && !name.empty() && name.back() == '\r' && !fs::exists(name, error)) {
             name.pop_back();
         }

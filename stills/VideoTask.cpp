@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Names that agree up to here may become the same once they are cut.
+/// Names that are equal up to here may become equal when truncated.
 constexpr std::size_t comparedBytes = 100;
 
 std::string stemOf(const std::string& path)
@@ -43,12 +43,12 @@ std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
         stems.insert(key(tasks.back()));
     }
     std::set<Name> seen;
-    std::map<Name, int> lastNumbers; // so that many of one stem take no longer each
+    std::map<Name, int> lastNumbers; // so that many videos with one stem do not take quadratic time
     for (VideoTask& task : tasks) {
         const Name stem = key(task);
         Name name = stem;
         int& number = lastNumbers.emplace(stem, 1).first->second;
-        // No other video may have the name with the tail as its own.
+        // No other video may have this combined name as its own.
         while (seen.count(name) > 0 || (!task.tail.empty() && stems.count(name) > 0)) {
             task.tail = "-" + std::to_string(++number);
             name = {task.folder, stem.second + task.tail};

@@ -9,17 +9,18 @@
 
 namespace stills {
 
-/// One video of a run, and where its pictures go.
+/// One video of a run, and the folder for its pictures.
 struct VideoTask
 {
-    std::string path;   ///< as it was named
+    std::string path;   ///< as given by the user
     std::string folder; ///< of its pictures
     std::string stem;   ///< its name without the last suffix
-    std::string tail;   ///< tells it from other videos of that stem and folder: "-2", "-3" …
+    std::string tail;   ///< distinguishes it from other videos with that stem and folder: "-2",
+                        ///< "-3" …
 };
 
-/// The tasks of all videos, in their order. Tails go by the whole list, so that they are the same
-/// in each shard and in each run.
+/// The tasks of all videos, in order. Tails depend on the whole list, so that they are the same in
+/// each shard and in each run.
 ///
 /// @param folder  for all pictures; without one, the folder of each video
 [[nodiscard]] std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,

@@ -1,5 +1,5 @@
-// The command `stills`. It reads its arguments before it loads any large library, so that help and
-// mistakes are answered at once; the work is done by a module beside it.
+// The command `stills`. It parses its arguments before it loads any large library, so that help and
+// mistakes are answered at once; a module beside it does the work.
 
 #include "stills/CommandLineParser.h"
 #include "stills/StillsModule.h"
@@ -25,10 +25,11 @@ std::string ownFolder()
     return path.substr(0, path.rfind('/') + 1);
 }
 
-/// The module's entry: beside the program where that was just built, else where it is installed.
+/// Loads the module: next to the program if it was just built, otherwise from where it is
+/// installed.
 stills::ModuleEntry loadModule()
 {
-    // Lazily: of what the libraries need of each other, a run calls little.
+    // Lazy binding, because a run calls few of the libraries' functions.
     for (const char* const place : {MORVANTILE_BUILT_MODULE, MORVANTILE_INSTALLED_MODULE}) {
         void* const module = ::dlopen((ownFolder() + place).c_str(), RTLD_LAZY | RTLD_LOCAL);
         if (module != nullptr) {

@@ -1,4 +1,4 @@
-// The entry of the module that the program loads once there is work.
+// The entry point of the module that the program loads once there is work.
 
 #include "stills/StillsModule.h"
 #include "stills/StillsRun.h"

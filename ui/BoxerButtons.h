@@ -4,16 +4,17 @@
 
 #include <vector>
 
-/// What boxer's two back ends share: which buttons a box has, and what each one answers.
+/// Shared by boxer's two back ends: the buttons of a box, and the result of each.
 namespace BoxerButtons {
 
+/// A button of a box and its result.
 struct Button
 {
     const char* title;
     boxer::Selection selection;
 };
 
-/// The buttons in the order in which they are added.
+/// The buttons, in the order in which they are added.
 [[nodiscard]] std::vector<Button> of(boxer::Buttons buttons);
 
 } // namespace BoxerButtons

@@ -1,13 +1,13 @@
 #pragma once
 
-/// A modal message box that needs no window of the application and no event loop: for what must be
-/// said before there is one.
+/// A modal message box that needs no window of the application and no event loop, for messages
+/// before the first window.
 ///
 /// On macOS it is the system's own alert, elsewhere a QMessageBox with the same texts, buttons and
 /// results. User-interface thread only, once the application object exists.
 namespace boxer {
 
-/// How grave the message is, which chooses the picture beside it. Other values count as Info.
+/// Severity of the message, which selects the picture beside it. Other values count as Info.
 enum class Style {
     Info = 0,
     Warning = 1,
@@ -31,16 +31,15 @@ enum class Selection {
     Yes = 2,
     No = 3,
     Quit = 4,
-    /// None did: the box was ended another way.
+    /// No button: the box was closed in another way.
     None = 5,
 };
 
-/// Shows the box and returns when it is ended.
+/// Shows the box and returns when it is closed.
 ///
-/// @param message  what there is to say, NUL-terminated; on macOS in the system's default string
-///                 encoding, elsewhere in UTF-8. Never null; plain text, in which "\n" breaks
-///                 lines.
-/// @param title    the headline, likewise
+/// @param message  the text, NUL-terminated; on macOS in the system's default string encoding,
+///     elsewhere in UTF-8. Never null; plain text, in which "\n" breaks lines.
+/// @param title    the headline, in the same form
 [[nodiscard]] Selection show(const char* message, const char* title, Style style, Buttons buttons);
 
 } // namespace boxer

@@ -1,4 +1,4 @@
-// The message box of macOS: AppKit's NSAlert, messaged through the Objective-C runtime, so that the
+// The message box of macOS: AppKit's NSAlert, called through the Objective-C runtime, so that the
 // project needs no Objective-C compiler.
 
 #include "ui/BoxerButtons.h"
@@ -27,7 +27,7 @@ constexpr NSUInteger alertStyleCritical = 2;
 constexpr NSInteger modalPanelWindowLevel = 8;
 constexpr NSInteger alertFirstButtonReturn = 1000;
 
-/// Frees the strings that are made while it lives: before the event loop runs, nobody else would.
+/// Releases the strings created during its lifetime: before the event loop runs, nothing else does.
 class AutoreleasePool
 {
 public:
@@ -42,8 +42,8 @@ private:
     void* m_pool;
 };
 
-/// Sends a message. The runtime wants its function called with the very types of the method that
-/// answers, so these must match the method's declaration.
+/// Sends a message. The runtime requires a call with the exact types of the method, so these must
+/// match the method's declaration.
 template <typename Result, typename... Arguments>
 Result send(id receiver, const char* selector, Arguments... arguments)
 {
@@ -102,7 +102,7 @@ boxer::Selection boxer::show(const char* message, const char* title, Style style
     for (const auto& button : shownButtons) {
         send<id>(alert, "addButtonWithTitle:", makeString(button.title));
     }
-    // Above whatever window of the program may be there, so that it cannot be missed.
+    // Above all windows of the program, so that it cannot be missed.
     send<void>(send<id>(alert, "window"), "setLevel:", modalPanelWindowLevel);
 
     const auto response = send<NSInteger>(alert, "runModal");

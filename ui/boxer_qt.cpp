@@ -28,9 +28,9 @@ QMessageBox::Icon icon(boxer::Style style)
     return QMessageBox::Information;
 }
 
-/// A message box that can always be closed, and never takes that for an answer: Escape and the
-/// window's close button stand for "Cancel" where there is one, and else for no button at all.
-/// QMessageBox would take them for "No" or "OK", or would not close.
+/// A message box that can always be closed without choosing an answer: Escape and the window's
+/// close button mean "Cancel" if there is such a button, otherwise no button at all. QMessageBox
+/// would treat them as "No" or "OK", or would not close.
 class AlertBox : public QMessageBox
 {
 public:

@@ -26,8 +26,8 @@ public:
 
     /// The coefficient in column x and row y, both from 0 to size() - 1.
     ///
-    /// A position outside the table ends the program with an assertion in every build type, since
-    /// whatever the caller would do with a value from beside the table is wrong too.
+    /// A position outside the table ends the program with an assertion in every build type, because
+    /// any result computed from a value outside the table would be wrong too.
     [[nodiscard]] virtual T coeff(int x, int y) const { return _coefficients[index(x, y)]; }
 
 protected:
@@ -37,8 +37,8 @@ protected:
     void setCoeff(int x, int y, T value) { _coefficients[index(x, y)] = value; }
 
     /// Divides every coefficient by the sum of all, so that the table sums to 1 and convolving
-    /// keeps the brightness of a picture. A table without a sum (tables of one sample have only
-    /// the kernel's zero end in them) stays as it is.
+    /// keeps the brightness of a picture. A table whose sum is zero stays as it is (a table of one
+    /// sample holds only the kernel's zero end).
     void normalize()
     {
         const T sum = std::accumulate(_coefficients.cbegin(), _coefficients.cend(), T(0));

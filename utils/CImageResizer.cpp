@@ -31,8 +31,8 @@ void readPixels(const QImage& premultiplied, int y, Sample* samples)
     }
 }
 
-/// The sample as a premultiplied pixel. The kernels' negative lobes overshoot at hard edges: alpha
-/// is held within its range, and colours within alpha.
+/// Converts the sample to a premultiplied pixel. The kernels' negative lobes overshoot at hard
+/// edges: alpha is clamped to its range, and colours to alpha.
 QRgb pixelOf(const Sample& sample)
 {
     const auto rounded = [](float value, int limit) {
@@ -43,7 +43,7 @@ QRgb pixelOf(const Sample& sample)
                  alpha);
 }
 
-/// Not empty, and within what Qt's older interfaces can count in an image: 2 GiB of pixels.
+/// Not empty, and at most 2 GiB of pixels, which is what Qt's older interfaces can count.
 bool isReasonable(const QSize& size)
 {
     constexpr auto limit = static_cast<qint64>(std::numeric_limits<int>::max());

@@ -30,7 +30,7 @@ public:
         Bicubic = 2   ///< Convolution, see bicubicInterpolation.
     };
 
-    /// Whether the sides of the result keep their ratio; every value but Keep ignores it.
+    /// Whether the result keeps the aspect ratio; every value except Keep ignores it.
     enum AspectRatio : int { Keep = 0, Ignore = 1 };
 
     /// The picture scaled to `size` by the method; another method than the three gives a null

@@ -17,8 +17,8 @@ using KernelResampling::Sample;
 constexpr int cubicSupport = 2;
 constexpr float cubicSlope = -0.5F;
 constexpr int lanczosSupport = 3;
-/// Samples of a kernel function for one unit of x: how finely a position between two pixels is
-/// told apart. At 128 steps the deviation stays below one level of 255.
+/// Samples of a kernel function per unit of x, which is the precision of positions between two
+/// pixels. At 128 the deviation stays below one level of 255.
 constexpr int samplesPerUnit = 128;
 
 /// The source pixels (first, first + 1, …) that make one output pixel along one axis, and their
@@ -36,8 +36,8 @@ struct Filter
     int support;
 };
 
-/// The kernel's function at `x`, up to a factor that normalising the taps takes out again: the
-/// table's middle column is the function times its value at 0.
+/// The kernel's function at `x`, up to a factor that normalising the taps removes: the table's
+/// middle column is the function multiplied by its value at 0.
 float weightAt(const Filter& filter, double x)
 {
     const int size = filter.kernel.size();
@@ -45,7 +45,7 @@ float weightAt(const Filter& filter, double x)
     return sample >= 0 && sample < size ? filter.kernel.coeff(size / 2, sample) : 0.0F;
 }
 
-/// Adds a weight for the source position, where positions beyond an edge stand for the edge.
+/// Adds a weight for the source position; positions beyond an edge are replaced by the edge.
 void addWeight(Taps& taps, int position, int length, float weight)
 {
     const int clamped = qBound(0, position, length - 1);

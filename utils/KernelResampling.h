@@ -5,14 +5,14 @@
 #include <array>
 #include <functional>
 
-/// Scales pictures by convolution, of whatever kind their samples are.
+/// Scales pictures of any sample type by convolution.
 ///
 /// Pixels beyond an edge count as the edge's own. Along an axis that shrinks, the kernel is
 /// stretched by the factor, so that fine patterns do not alias. Without state: callable from any
 /// thread.
 namespace KernelResampling {
 
-/// Four channels of a pixel. Where one of them is alpha, the others are to be multiplied by it.
+/// Four channels of a pixel. If one of them is alpha, the others must be premultiplied by it.
 using Sample = std::array<float, 4>;
 
 enum class Kernel {
@@ -27,7 +27,7 @@ struct Kernels
     Kernel vertical = Kernel::Lanczos;
 };
 
-/// Fills a line of the source picture, which has room for its width.
+/// Fills a line of the source picture; `line` has room for its width.
 using ReadLine = std::function<void(int y, Sample* line)>;
 /// Takes a line of the scaled picture. Negative lobes of the kernels overshoot at hard edges: the
 /// samples may lie outside the range of the source's.

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Nothing where not all of them could be read.
+/// Nothing if not all of them could be read.
 QVector<qint64> readTimes(const QString& path, const QtAV::IsCancelled& isCancelled)
 {
     QtAV::FrameReader reader;

@@ -11,13 +11,13 @@
 
 class QThread;
 
-/// Knows which frame of a video comes when, by its number.
+/// Maps between the numbers and the times of a video's frames.
 ///
-/// For that the whole file has to be read once, though nothing is decoded. That is done in the
-/// background, and only when it is asked for.
+/// This requires reading the whole file once, without decoding. It happens in the background, and
+/// only on request.
 ///
-/// Belongs to one thread, which needs an event loop; nothing here waits for the disk, except the
-/// destructor for the packet that is being read.
+/// Belongs to one thread, which needs an event loop. No function waits for the disk, except that
+/// the destructor waits for the packet being read.
 class FrameCounter : public QObject
 {
     Q_OBJECT
@@ -26,26 +26,26 @@ public:
     explicit FrameCounter(QObject* parent = nullptr);
     ~FrameCounter() override;
 
-    /// The video from now on; an empty path for none. What is being counted is dropped.
+    /// Sets the video; an empty path for none. Drops the counting in progress.
     void setSource(const QString& path);
 
-    /// Counts the frames, unless that is done or being done.
+    /// Counts the frames, unless that is done or in progress.
     void count();
     bool isCounted() const { return !m_times.isEmpty(); }
     bool isCounting() const { return m_thread != nullptr; }
 
-    /// How many frames there are; 0 before they are counted.
+    /// The number of frames; 0 before they are counted.
     int frames() const { return m_times.size(); }
 
-    /// The number, from 0 on, of the frame that is on screen at a time in whole milliseconds, cut
-    /// off; nothing before they are counted.
+    /// The number, from 0 on, of the frame that is on screen at a time in whole milliseconds,
+    /// truncated; nothing before the frames are counted.
     [[nodiscard]] std::optional<int> numberAt(qint64 ms) const;
-    /// The time of a frame in whole milliseconds, cut off; nothing where there is no such frame, or
-    /// nothing is counted yet.
+    /// The time of a frame in whole milliseconds, truncated; nothing if there is no such frame or
+    /// the frames are not counted yet.
     [[nodiscard]] std::optional<qint64> timeOf(qint64 number) const;
 
 Q_SIGNALS:
-    /// The counting has ended; isCounted() tells whether anything could be counted.
+    /// Counting has ended; isCounted() tells whether it succeeded.
     void finished();
 
 private:
@@ -54,9 +54,9 @@ private:
 
     QString m_path;
     QVector<qint64> m_times; ///< in rising order
-    int m_run = 0;           ///< changes when what is being counted is not wanted any more
+    int m_run = 0;           ///< changes when the counting in progress is no longer wanted
     std::shared_ptr<std::atomic<bool>> m_isCancelled;
-    std::unique_ptr<QThread> m_thread; ///< null while nothing is being counted
-    /// What was counting before. They end soon, but run only when nothing else does.
+    std::unique_ptr<QThread> m_thread; ///< null when not counting
+    /// Threads of earlier counts. They end soon, but run only when the machine is otherwise idle.
     std::vector<std::unique_ptr<QThread>> m_ending;
 };

@@ -18,12 +18,12 @@ constexpr qint64 longestShortVideo = 9999;
 constexpr qint64 startPosition = -1000;
 constexpr qint64 farthestPosition = qint64(1) << 52;
 
-// Where an extraction found that it was aborted.
+// Where an extraction detected that it was aborted.
 constexpr const char* beforeRead = "abort seek before read";
 constexpr const char* beforeKeyFrame = "abort seek before decoding key frames";
 constexpr const char* afterKeyFrame = "abort seek after key frame before read";
 
-/// How far apart two positions are; no two are too far apart for it.
+/// Distance of two positions, without overflow.
 quint64 distance(qint64 a, qint64 b)
 {
     const auto [low, high] = std::minmax(a, b);
@@ -32,7 +32,7 @@ quint64 distance(qint64 a, qint64 b)
 
 } // namespace
 
-/// What one extraction knows while it runs.
+/// State of one extraction.
 struct FrameGrabber::Extraction
 {
     /// Target in milliseconds.
@@ -42,10 +42,10 @@ struct FrameGrabber::Extraction
     QString err = QStringLiteral("");
     bool aborted = false;
 
-    /// The same, or a position behind any video or before it that is small enough to calculate
-    /// with.
+    /// The target, limited to positions that are small enough to avoid overflow and still lie
+    /// outside any video.
     qint64 target() const { return std::clamp(value, -farthestPosition, farthestPosition); }
-    /// How far behind the target something lies, in milliseconds.
+    /// How far something lies behind the target, in milliseconds.
     qint64 distanceOf(double seconds) const { return toMilliseconds(seconds) - target(); }
 };
 
@@ -77,7 +77,7 @@ void FrameGrabber::setSource(const QString& url)
 
 qint64 FrameGrabber::getDuration()
 {
-    // What could not be opened has the duration 0: the caller needs no second answer.
+    // A video that could not be opened has the duration 0, so the result is not needed.
     static_cast<void>(checkAndOpen());
     return m_reader.demuxer().duration();
 }
@@ -201,14 +201,15 @@ bool FrameGrabber::extractInPrecision(qint64 value, int range, QString& err, boo
     Extraction extraction{value < start ? value + start : value, range};
     m_deadline->start(m_positionTimeout);
     const bool extracted = land(extraction) && (takeKeyFrame(extraction) || takeFrame(extraction));
-    // The decoder's threads may be ahead when the next extraction comes.
+    // The decoder's threads may still be running ahead when the next extraction starts.
     m_deadline->start(std::chrono::milliseconds(0));
     err = extraction.err;
     aborted = extraction.aborted;
     return extracted;
 }
 
-/// True, with the reason noted, when abort() was called. `checkpoint` says where that was seen.
+/// True, with the reason recorded, if abort() was called. `checkpoint` names the place of the
+/// check.
 bool FrameGrabber::isAbortedAt(Extraction& extraction, const char* checkpoint) const
 {
     if (!m_abort) {
@@ -220,7 +221,7 @@ bool FrameGrabber::isAbortedAt(Extraction& extraction, const char* checkpoint) c
     return true;
 }
 
-/// True, with the reason noted, when the time for the extraction is over.
+/// True, with the reason recorded, if the time limit of the extraction is exceeded.
 bool FrameGrabber::isOverdue(Extraction& extraction) const
 {
     if (!m_deadline->hasPassed()) {
@@ -237,7 +238,7 @@ bool FrameGrabber::failed(Extraction& extraction, const QString& reason) const
     return false;
 }
 
-/// Goes to the key frame from which decoding starts.
+/// Seeks to the key frame from which decoding starts.
 bool FrameGrabber::land(Extraction& extraction)
 {
     m_reader.seek(extraction.target());
@@ -260,14 +261,14 @@ bool FrameGrabber::land(Extraction& extraction)
     return true;
 }
 
-/// Takes the key frame where it is near enough; decodes it at once only where it may be.
+/// Takes the key frame if it is near enough; decodes it at once only if it may be.
 bool FrameGrabber::takeKeyFrame(Extraction& extraction)
 {
     const qint64 away = std::abs(extraction.distanceOf(*m_reader.landing()));
     if (away > extraction.range || isAbortedAt(extraction, beforeKeyFrame)) {
         return false;
     }
-    // Whether it failed or was aborted shows when decoding goes on.
+    // Decoding on will show whether this failed or was aborted.
     const QtAV::FrameResult first = m_reader.next(isCancelled());
     m_frame = first.frame;
     if (!isKeyFrameNearEnough(extraction)) {
@@ -280,10 +281,11 @@ bool FrameGrabber::takeKeyFrame(Extraction& extraction)
     return true;
 }
 
-/// The key frame will do on either side of the target, but no frame that came out instead of it.
+/// The key frame is accepted on either side of the target, but not a frame that was decoded instead
+/// of it.
 bool FrameGrabber::isKeyFrameNearEnough(const Extraction& extraction) const
 {
-    // Where exactly the frame at the position is wanted, it has to look as on any other way to it.
+    // With precision 0, the frame must have the same picture as on any other way to it.
     const bool looksRight = extraction.range > 0 || !m_frame.isValid() || m_reader.looksAsEver();
     return m_frame.isValid() && looksRight && m_reader.isAtLanding() &&
            m_reader.landedOnKeyFrame() &&
@@ -302,7 +304,7 @@ bool FrameGrabber::takeFrame(Extraction& extraction)
     search.isReached = [target](const QtAV::VideoFrame& frame) {
         return toMilliseconds(frame.timestamp()) >= target;
     };
-    // Before the target, later extractions decode only the frames that others need.
+    // Before the target, later extractions skip disposable frames.
     search.completeFrom = m_seekCount != 0 ? target : 0;
     search.damage = QtAV::FrameReader::Damage::Report;
     const int invalidPackets = m_reader.invalidPackets();
@@ -346,7 +348,8 @@ void FrameGrabber::logFrame(const Extraction& extraction) const
     qDebug("got frame at %fs, diff=%lld", m_frame.timestamp(), diff);
 }
 
-/// A decoder that was drained at the end takes no more packets: the next extraction opens anew.
+/// A decoder that was drained at the end accepts no more packets: the next extraction reopens the
+/// file.
 void FrameGrabber::closeAtEnd()
 {
     if (m_reader.demuxer().atEnd()) {

@@ -11,18 +11,18 @@
 #include <chrono>
 #include <memory>
 
-/// Takes single frames out of a video file at positions in milliseconds.
+/// Extracts single frames from a video file at positions in milliseconds.
 ///
-/// An extraction seeks to the last key frame at or before the target. That frame is taken when it
-/// lies within the precision of the target, on either side; otherwise the grabber gives the first
-/// frame at or after the target, however far behind it that is, and behind the last frame the last
-/// one. Precision 0 means exact: the key frame is taken only where it is that frame. Files are
-/// opened by the first extraction or question for the duration, and stay open until an extraction
-/// reaches the end of the video.
+/// An extraction seeks to the last key frame at or before the target. If that frame lies within the
+/// precision of the target, on either side, it is the result. Otherwise the result is the first
+/// frame at or after the target, however far behind it that is, and for targets behind the last
+/// frame the last one. Precision 0 means exact: the key frame is taken only if it is that frame.
+/// The first extraction, or a call of getDuration(), opens the file, which stays open until an
+/// extraction reaches the end of the video.
 ///
-/// Threads: everything happens in the thread that calls, and the signals are emitted there, before
-/// the call returns. One thread at a time may use a grabber; only abort() may be called from any
-/// other thread at any time.
+/// Threads: all work happens in the calling thread, where the signals are emitted before the call
+/// returns. One thread at a time may use a grabber; only abort() may be called from any other
+/// thread at any time.
 class FrameGrabber : public QObject
 {
     Q_OBJECT
@@ -34,75 +34,76 @@ public:
     explicit FrameGrabber(QObject* parent = nullptr);
     ~FrameGrabber() override;
 
-    /// The video file. Setting another one closes what is open; nothing is opened yet.
+    /// The path of the video file. Setting another one closes the current file; nothing is opened
+    /// yet.
     QString getSource() const { return m_source; }
     void setSource(const QString& url);
 
-    /// Length of the video in milliseconds, opening it if needed; 0 when it cannot be opened. A
-    /// file without video is closed again and reports 0 too.
+    /// Length of the video in milliseconds, opening it if needed; 0 if it cannot be opened. A file
+    /// without video is closed again and also reports 0.
     qint64 getDuration();
 
-    /// What the video that was opened last says of itself; nothing before one was.
+    /// What the most recently opened video states about itself; empty before one was opened.
     const QtAV::MediaFacts& facts() const { return m_facts; }
 
-    /// The position in milliseconds that extract() takes. Setting one that is nearer to the
-    /// current position than the precision changes nothing, nor does setting any after a file
-    /// turned out to hold no video.
+    /// The position in milliseconds that extract() uses. Setting a position that is nearer to the
+    /// current one than the precision has no effect, nor has setting any once a file turned out to
+    /// hold no video.
     qint64 getPosition() const { return m_position; }
     void setPosition(qint64 value);
 
-    /// How far from the target, in milliseconds, a key frame may lie. A negative value lets every
-    /// opening choose from the length of the video: 500 from 10 seconds up, else 250. That is
-    /// also how a new grabber starts.
+    /// How far from the target, in milliseconds, a key frame may lie. A negative value, the
+    /// default, chooses it on each opening from the length of the video: 500 from 10 seconds up,
+    /// otherwise 250.
     int getPrecision() const { return m_precision; }
     void setPrecision(int value);
 
-    /// What becomes of interlaced pictures, from the next extraction on.
+    /// How interlaced pictures are treated, from the next extraction on.
     void setDeinterlacing(QtAV::Deinterlacing deinterlacing)
     {
         m_reader.setDeinterlacing(deinterlacing);
     }
 
-    /// What one picture may take in memory, in bytes, from the next opening on.
+    /// Memory limit for one picture in bytes, from the next opening on.
     void setPictureMemory(qint64 bytes) { m_reader.setPictureMemory(bytes); }
 
-    /// How long opening or one extraction may take; error() says so then. 0, as at first, for any
-    /// time.
+    /// Time limit for opening and for each extraction, which is reported by error(). 0, the initial
+    /// value, means no limit.
     void setPositionTimeout(std::chrono::milliseconds limit) { m_positionTimeout = limit; }
 
     /// Makes a running extraction end with aborted() at its next packet, also while the disk does
-    /// not answer. Without one it does nothing, since every extraction starts by forgetting earlier
-    /// requests. From any thread.
+    /// not answer. Has no effect on later extractions, because each one clears earlier requests.
+    /// From any thread.
     void abort();
 
-    /// Closes the file and gives the last frame's memory back.
+    /// Closes the file and frees the last frame.
     void safeReleaseResource();
     /// Closes the file; keeps the last frame unless `releaseFrame`.
     void releaseResourceInternal(bool releaseFrame);
 
-    /// Makes the file and a decoder ready; true when they are. May change the precision.
+    /// Opens the file and a decoder; true if that succeeded. May change the precision.
     [[nodiscard]] bool checkAndOpen();
 
-    /// The extraction proper, in the opened file: leaves the frame to be handed out by
-    /// extractInternal().
+    /// Carries out an extraction in the open file. Leaves the frame for extractInternal() to
+    /// deliver.
     ///
     /// @param value   target in milliseconds
     /// @param range   tolerance in milliseconds
     /// @param err     why it failed
     /// @param aborted whether it failed because of abort()
-    /// @return true when it ended well, which includes running to the end of the video: the frame
-    ///         is then the last one, or an invalid one where none can be decoded.
+    /// @return true on success, which includes reaching the end of the video: the frame is then the
+    ///     last one, or an invalid one if none can be decoded.
     [[nodiscard]] bool extractInPrecision(qint64 value, int range, QString& err, bool& aborted);
 
 public Q_SLOTS:
     /// Extracts the frame at position().
     void extract();
-    /// Extracts the frame at `pos` milliseconds and emits exactly one of frameExtracted(), error()
-    /// and aborted(), the first perhaps after precisionChanged().
+    /// Extracts the frame at `pos` milliseconds. Emits exactly one of frameExtracted(), error() and
+    /// aborted(); the first may follow precisionChanged().
     void extractInternal(qint64 pos);
 
 Q_SIGNALS:
-    /// An extraction ended well. The frame is invalid when nothing could be decoded up to the end.
+    /// An extraction succeeded. The frame is invalid if nothing could be decoded up to the end.
     void frameExtracted(const QtAV::VideoFrame& frame);
     void sourceChanged();
     /// An extraction failed. The grabber stays usable.

@@ -6,14 +6,14 @@
 
 class QSettings;
 
-/// What reading a video may take, so that no file fills the memory or holds a batch up for ever.
+/// Limits for reading a video, so that no file fills the memory or blocks a batch forever.
 struct ReadingLimits
 {
     qint64 pictureBytes = QtAV::usualPictureBytes;
     std::chrono::milliseconds positionTimeout{60000};
 
-    /// What the application's settings say under "limits/pictureMemoryMiB" (1 to 1048576) and
-    /// "limits/positionTimeoutSeconds" (0, for any time, to 86400); the values above where they say
-    /// nothing or nothing that can be used. User-interface thread only.
+    /// Reads the limits from "limits/pictureMemoryMiB" (1 to 1048576) and
+    /// "limits/positionTimeoutSeconds" (0, for no limit, to 86400) of the application's settings.
+    /// Missing and invalid values keep the defaults above. User-interface thread only.
     [[nodiscard]] static ReadingLimits of(const QSettings& settings);
 };

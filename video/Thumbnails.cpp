@@ -16,11 +16,11 @@
 
 namespace {
 
-/// Some hundred pictures.
+/// Enough for some hundred pictures.
 constexpr int mostBytes = 8 * 1024 * 1024;
 
-/// A newer request ends the work on an older one only then: while the pointer moves on, some
-/// pictures are to come all the same.
+/// A newer request interrupts the work on an older one only after this time, so that some pictures
+/// are finished while the pointer moves on.
 constexpr std::chrono::milliseconds patience{150};
 
 QImage smallPicture(const QtAV::VideoFrame& frame)
@@ -34,7 +34,7 @@ QImage smallPicture(const QtAV::VideoFrame& frame)
 
 } // namespace
 
-/// The thread. Its owner's calls never wait for more than the copy of a text.
+/// The thread. Calls by its owner wait at most for the copy of a text.
 class Thumbnails::Maker
 {
 public:
@@ -57,7 +57,8 @@ public:
         }
         m_changed.notify_one();
         m_thread->wait();
-        // Thread sanitizer does not see Qt's wait, but that the thread has let the lock go.
+        // Thread sanitizer does not see Qt's wait, but it sees that the thread has released the
+        // lock.
         const std::lock_guard lock(m_mutex);
     }
 
@@ -108,7 +109,7 @@ private:
         }
     }
 
-    /// Closes the old file; the new one is opened once there is something to make of it.
+    /// Closes the old file; the new one is opened on the first request.
     void useSource(std::unique_lock<std::mutex>& lock)
     {
         m_openSource = m_source;
@@ -157,7 +158,7 @@ private:
         if (m_reader.isOpen() || m_isUnreadable) {
             return m_reader.isOpen();
         }
-        // Threads of the decoder's own would not wait for others as this one does.
+        // The decoder's own threads would not have this thread's idle priority.
         m_reader.setThreads(1);
         QString error;
         const bool isOpen = m_reader.open(m_openPath, isCancelled, error);
@@ -177,16 +178,17 @@ private:
     std::optional<qint64> m_wanted;
     bool m_quits = false;
 
-    std::atomic<bool> m_isOutdated{false}; ///< what is being made is not wanted any more
-    std::atomic<bool> m_hasNewer{false};   ///< something else is wanted more
+    std::atomic<bool> m_isOutdated{false}; ///< the picture in progress is no longer wanted
+    std::atomic<bool> m_hasNewer{false};   ///< another picture is wanted more
 
-    // Of the thread.
+    // Used only by the thread.
     int m_openSource = 0;
     QString m_openPath;
     bool m_isUnreadable = true;
     QtAV::FrameReader m_reader;
 
-    const std::unique_ptr<QThread> m_thread; ///< last, so that it finds everything made
+    const std::unique_ptr<QThread> m_thread; ///< last, so that all other members exist when it
+                                             ///< starts
 };
 
 Thumbnails::Thumbnails(QObject* parent)
@@ -228,7 +230,7 @@ void Thumbnails::cancel()
 
 void Thumbnails::take(int source, qint64 ms, const QImage& picture)
 {
-    // The video may have been changed while the picture was on its way here.
+    // The video may have changed while the picture was in transit.
     if (source != m_source) {
         return;
     }

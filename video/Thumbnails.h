@@ -10,12 +10,12 @@
 
 /// Small pictures of the frames of one video, made in the background.
 ///
-/// One thread decodes them, with a decoder of its own and only while the machine has nothing else
-/// to do, so that playing goes on undisturbed. Of what is asked for only the newest is made; the
-/// last pictures are kept, up to a limit of memory. A video that cannot be read gives none.
+/// One thread decodes them with its own decoder, and only while the machine is otherwise idle, so
+/// that playback is undisturbed. Only the newest request is carried out. The most recent pictures
+/// are kept, up to a memory limit. A video that cannot be read gives none.
 ///
-/// Belongs to one thread, which needs an event loop; nothing here waits for the disk, except the
-/// destructor for the packet that is being read.
+/// Belongs to one thread, which needs an event loop. No function waits for the disk, except that
+/// the destructor waits for the packet being read.
 class Thumbnails : public QObject
 {
     Q_OBJECT
@@ -24,24 +24,24 @@ public:
     explicit Thumbnails(QObject* parent = nullptr);
     ~Thumbnails() override;
 
-    /// The video from now on; an empty path for none. What was asked for is dropped, and so are the
-    /// pictures. The file is opened with the first request.
+    /// Sets the video; an empty path for none. Drops pending requests and the pictures. The first
+    /// request opens the file.
     void setSource(const QString& path);
 
-    /// The picture of the first frame at or after `ms` milliseconds, where it is there already;
-    /// else null.
+    /// The picture of the first frame at or after `ms` milliseconds if it is available; otherwise
+    /// null.
     [[nodiscard]] QImage at(qint64 ms) const;
 
-    /// Has that picture made, unless it is there. Replaces what was asked for before.
+    /// Requests that picture, unless it is available. Replaces the pending request.
     void request(qint64 ms);
-    /// Nothing is wanted any more of what was asked for.
+    /// Drops the pending request.
     void cancel();
 
-    /// No picture is larger, in pixels.
+    /// Maximum size of a picture in pixels.
     static constexpr QSize largest{192, 108};
 
 Q_SIGNALS:
-    /// What was asked for is there.
+    /// The requested picture is available.
     void made(qint64 ms);
 
 private:
@@ -49,7 +49,7 @@ private:
 
     Q_INVOKABLE void take(int source, qint64 ms, const QImage& picture);
 
-    QCache<qint64, QImage> m_pictures; ///< by what was asked for, at a cost in bytes
+    QCache<qint64, QImage> m_pictures; ///< by requested position, with costs in bytes
     int m_source = 0;                  ///< changes with the video
-    std::unique_ptr<Maker> m_maker;    ///< last: its thread calls for the others
+    std::unique_ptr<Maker> m_maker;    ///< last, since its thread calls the other members
 };

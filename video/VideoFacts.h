@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-/// The basic facts of a video file as a plain value, which may travel between threads. VideoInfo
-/// says what each of them is.
+/// Basic properties of a video file as a plain value that may be passed between threads. They are
+/// documented in VideoInfo.
 struct VideoFacts
 {
     qint64 duration = 0; ///< in milliseconds

@@ -42,7 +42,7 @@ CodecPtr openedCodec(const AVStream& stream)
     return context;
 }
 
-/// The first frame that comes out; null when none does.
+/// The first frame decoded; null if there is none.
 FramePtr firstFrame(const QString& video)
 {
     const InputPtr input = openedInput(video);
@@ -67,7 +67,7 @@ FramePtr firstFrame(const QString& video)
             return frame;
         }
     }
-    // A decoder may hold a lone frame back until it is told that nothing follows.
+    // A decoder may hold a single frame back until it is drained.
     if (avcodec_send_packet(codec.get(), nullptr) < 0 ||
         avcodec_receive_frame(codec.get(), frame.get()) < 0) {
         return nullptr;

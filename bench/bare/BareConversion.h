@@ -8,21 +8,22 @@
 
 namespace bench {
 
-/// How FFmpeg's scaler is told to convert.
+/// FFmpeg's flags for the conversion.
 enum class ScalerFlags {
-    Default, ///< SWS_BICUBIC, its default: takes the fast conversions, which are several levels off
-    Exact,   ///< the same with SWS_ACCURATE_RND and SWS_FULL_CHR_H_INT: right to the last level
+    Default, ///< SWS_BICUBIC, its default: uses the fast conversions, which are several levels off
+    Exact,   ///< with SWS_ACCURATE_RND and SWS_FULL_CHR_H_INT: exact to the last level
 };
 
-/// The first picture of a video and FFmpeg's bare conversion of it to BGRA of the same size: what
-/// VideoFrame::toImage() is measured against.
+/// The first picture of a video, and FFmpeg's bare conversion of it to BGRA of the same size, for
+/// comparison with VideoFrame::toImage().
 ///
-/// Scaler and target are made once, so that a run() is sws_scale() and nothing else. Colours go by
-/// the BT.709 matrix from limited to full range. One thread at a time.
+/// Scaler and target are created once, so that run() is only sws_scale(). Colours are converted by
+/// the BT.709 matrix from limited to full range. One thread at a time may use an object.
 class BareConversion
 {
 public:
-    /// Opens and decodes. On failure the object stays invalid and error() says why.
+    /// Opens the video and decodes. On failure the object stays invalid, and error() has the
+    /// reason.
     BareConversion(const QString& video, ScalerFlags flags);
     ~BareConversion();
     BareConversion(const BareConversion&) = delete;
@@ -32,10 +33,10 @@ public:
     /// Empty unless something failed.
     [[nodiscard]] QString error() const { return m_error; }
 
-    /// Converts once; false when FFmpeg refuses. Only when valid.
+    /// Converts once; false if FFmpeg refuses. Call only if valid.
     [[nodiscard]] bool run();
 
-    /// The result of run(), owned by this object: four bytes a pixel, bytesPerLine() a line.
+    /// The result of run(), owned by this object: four bytes per pixel, bytesPerLine() per line.
     [[nodiscard]] std::uint8_t* pixels();
     [[nodiscard]] int bytesPerLine() const;
     /// The picture's size in pixels; empty when not valid.

@@ -7,7 +7,7 @@
 
 namespace bench {
 
-/// libjpeg-turbo's bare encoder, writing into memory: what saving a JPEG file is measured against.
+/// libjpeg-turbo's bare encoder, writing to memory, for comparison with saving a JPEG file.
 ///
 /// Chroma is halved in both directions (4:2:0), as in the files that the program writes. One thread
 /// at a time.
@@ -21,7 +21,7 @@ public:
     BareJpeg& operator=(const BareJpeg&) = delete;
 
     /// Encodes pixels of four bytes (blue, green, red, unused) with a quality from 1 to 100.
-    /// Gives the bytes that the file would have, 0 on failure.
+    /// Returns the size of the result in bytes, 0 on failure.
     [[nodiscard]] std::size_t encode(const std::uint8_t* pixels, std::size_t bytesPerLine,
                                      int quality);
 

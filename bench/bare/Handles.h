@@ -7,7 +7,7 @@ extern "C" {
 
 #include <memory>
 
-/// FFmpeg's objects with an owner.
+/// Owners for FFmpeg's objects.
 namespace bench {
 
 struct CloseInput

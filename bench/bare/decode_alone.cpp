@@ -2,9 +2,9 @@
 //
 //   decode_alone VIDEO LANES MILLISECONDS…
 //
-// Each lane is a thread with an input and a single-threaded decoder of its own, for its share of
-// the positions, which rise. It goes to a key frame where one lies between two positions, decodes
-// each frame at most once, and leaves out those that no other frame needs and nobody asked for.
+// The positions must rise. Each lane is a thread with an input and a single-threaded decoder of its
+// own, for its share of the positions. It seeks to a key frame if one lies between two positions,
+// decodes each frame at most once, and skips disposable frames that are not requested.
 
 #include "bench/bare/Handles.h"
 

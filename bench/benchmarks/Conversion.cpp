@@ -16,7 +16,7 @@ QString stillPath(const std::string& name)
     return mediaPath(QString::fromStdString(name + ".nut"));
 }
 
-/// Conversion of a frame of a video, to its own size for an empty one.
+/// Conversion of a frame of a video to a size, or to its own size if that is empty.
 void toImage(benchmark::State& state, const QString& video, qint64 position, const QSize& size)
 {
     FrameSource source(video, 0);
@@ -50,7 +50,7 @@ void bareConversion(benchmark::State& state, const std::string& still, ScalerFla
 template <typename Function>
 void add(const std::string& name, Function function)
 {
-    // Real time: the work may go to other threads.
+    // Wall time, because the work may be done by other threads.
     benchmark::RegisterBenchmark(name.c_str(), function)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
@@ -70,7 +70,7 @@ void registerHdr(const std::string& size)
     }
 }
 
-/// A picture that combs, made whole of those around it.
+/// A combing picture, made whole from its neighbours.
 void registerInterlaced()
 {
     const QString video = mediaPath(QStringLiteral("1080i_mpeg2.ts"));

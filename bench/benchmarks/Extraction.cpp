@@ -16,8 +16,8 @@ namespace {
 struct Sample
 {
     const char* name;
-    /// Positions in a run: few where one takes seconds. Every run takes the same ones, for how long
-    /// an extraction takes is a matter of how far behind a key frame it is.
+    /// Number of positions per run: few if one takes seconds. Every run uses the same ones, because
+    /// the time of an extraction depends on its distance from a key frame.
     int positions;
 };
 
@@ -30,7 +30,7 @@ void extractAtRandomPositions(benchmark::State& state, const Sample& sample)
 {
     FrameSource source(mediaPath(QString::fromLatin1(sample.name)));
     const std::vector<qint64> positions = randomPositions(source.duration(), sample.positions);
-    // The first extraction after opening decodes every frame on its way; the later ones count.
+    // The first extraction after opening decodes every frame on its way; only later ones count.
     if (!source.frameAt(0).isValid()) {
         state.SkipWithError(qPrintable(source.error()));
         return;

@@ -90,7 +90,7 @@ void frameToJpeg(benchmark::State& state, const QString& path, const std::string
     }
 }
 
-/// What becomes of a frame in a shape: the part that is taken, and the size it gets.
+/// The part of a frame that is taken for a shape, and its final size.
 struct Geometry
 {
     cv::Rect region;
@@ -106,8 +106,8 @@ Geometry geometryOf(const cv::Mat& frame, Shape shape)
     return {{(frame.cols - width) / 2, 0, width, frame.rows}, {640, 480}};
 }
 
-/// The still as FFmpeg converts it; an empty matrix, and the benchmark skipped, when it cannot be
-/// had. The matrix uses the conversion's memory.
+/// The still as converted by FFmpeg; on failure an empty matrix, and the benchmark is skipped. The
+/// matrix uses the conversion's memory.
 cv::Mat bareFrame(benchmark::State& state, BareConversion& conversion)
 {
     if (!conversion.isValid() || !conversion.run()) {
@@ -157,7 +157,7 @@ void bareJpeg(benchmark::State& state, const std::string& size, Shape shape)
 template <typename Function>
 void add(const std::string& name, Function function)
 {
-    // Real time: the work may go to other threads, and to the disk.
+    // Wall time, because other threads and the disk may be involved.
     benchmark::RegisterBenchmark(name.c_str(), function)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();

@@ -14,7 +14,7 @@ BaseProfile* newImageProfile()
     return new ImageProfile;
 }
 
-/// A manager with that many profiles in a file of its own, which nobody deletes but this object.
+/// A manager with this many profiles in a file of its own, all owned by this object.
 class Profiles
 {
 public:

@@ -3,10 +3,10 @@
 #
 #   make_bench_media.sh [FOLDER]     default: build/bench-media in the project's folder
 #
-# Each shows a detailed picture that is panned over, a test pattern moving in front of it, and fresh
-# noise in every frame, so that decoding costs what it costs with a camera's video. Key frames stand
-# at fixed distances: positions can be chosen that are equally far behind one. Videos that are there
-# already are kept. Needs Debian's ffmpeg with libx264 and libx265.
+# Each shows a detailed picture that is panned over, a test pattern moving in front of it, and new
+# noise in every frame, so that decoding costs as much as with a camera's video. Key frames are at
+# fixed distances, so that positions can be chosen that are equally far behind one. Existing videos
+# are kept. Needs Debian's ffmpeg with libx264 and libx265.
 set -euo pipefail
 
 here=$(cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")" && pwd)
@@ -14,7 +14,7 @@ folder=${1:-$here/../../build/bench-media}
 mkdir -p "$folder"
 folder=$(cd -- "$folder" && pwd)
 
-# Half-made files carry another name, so that an interrupted run leaves nothing that looks whole.
+# Unfinished files have another name, so that an interrupted run leaves nothing that looks complete.
 work=$(mktemp -d "$folder/.making.XXXXXX")
 trap 'rm -rf -- "$work"' EXIT
 
@@ -33,7 +33,7 @@ scene() {
         "noise=alls=10:allf=t,setparams=colorspace=bt709:color_primaries=bt709:color_trc=bt709:range=tv"
 }
 
-# missing NAME…: whether any of these videos is still to be made.
+# missing NAME…: whether any of these videos has not been made yet.
 missing() {
     local name
     for name in "$@"; do
@@ -63,7 +63,7 @@ sound=(-c:a aac -b:a 128k)
 tone="sine=frequency=220:sample_rate=48000"
 
 if missing 1080p_h264_gop250.mp4 1080p_h264_gop30.mp4; then
-    # One picture source for both: making it costs as much as encoding it.
+    # One picture source for both, because making it costs as much as encoding it.
     "${ffmpeg[@]}" -filter_complex "$(scene 1920 1080),split[a][b];$tone,asplit[c][d]" \
         -map '[a]' -map '[c]' "${gop250[@]}" "${sound[@]}" -t 60 "$work/1080p_h264_gop250.mp4" \
         -map '[b]' -map '[d]' "${gop30[@]}" "${sound[@]}" -t 60 "$work/1080p_h264_gop30.mp4"
@@ -71,7 +71,7 @@ if missing 1080p_h264_gop250.mp4 1080p_h264_gop30.mp4; then
 fi
 
 if missing 1080p30_h264_gop30.mp4; then
-    # The same pictures shown faster, for a minute of the rate that most cameras have.
+    # The same pictures shown faster, to get a minute at the frame rate of most cameras.
     "${ffmpeg[@]}" -itsscale 0.8333333333 -stream_loop 1 -i "$folder/1080p_h264_gop30.mp4" \
         -f lavfi -i "$tone" -map 0:v -map 1 -c:v copy "${sound[@]}" -t 60 \
         "$work/1080p30_h264_gop30.mp4"
@@ -100,7 +100,7 @@ if missing 180p_h264_gop25.mp4; then
     publish 180p_h264_gop25.mp4
 fi
 
-# still VIDEO FORMAT NAME: one frame of a video, undecoded pixels in the given format.
+# still VIDEO FORMAT NAME: one frame of a video as uncompressed pixels in the given format.
 still() {
     local video=$1 format=$2 name=$3
     missing "$name" || return 0
@@ -109,7 +109,7 @@ still() {
     publish "$name"
 }
 
-# hdr_still VIDEO TRANSFER NAME: the same in ten bits, tagged as high dynamic range.
+# hdr_still VIDEO TRANSFER NAME: the same with ten bits, tagged as high dynamic range.
 hdr_still() {
     local video=$1 transfer=$2 name=$3
     missing "$name" || return 0
@@ -121,7 +121,7 @@ hdr_still() {
 }
 
 if missing 1080i_mpeg2.ts; then
-    # Fields of 50 moments a second, as broadcast has them.
+    # Fields of 50 moments per second, as in broadcasts.
     "${ffmpeg[@]}" -filter_complex "$(scene 1920 1080),setpts=PTS/2,fps=50,tinterlace=interleave_top,fieldorder=tff[v]" \
         -map '[v]' -c:v mpeg2video -flags +ilme+ildct -b:v 20M -maxrate 25M -bufsize 8M -g 12 -bf 2 \
         -t 4 "$work/1080i_mpeg2.ts"

@@ -58,7 +58,7 @@ double milliseconds(const QElapsedTimer& timer)
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-/// Answers one position; false when it could not be answered.
+/// Answers one position; returns false on failure.
 bool answer(qint64 position, const QDir& folder, bench::FrameSource& source,
             bench::OutputProfiles& profiles)
 {

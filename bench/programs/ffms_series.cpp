@@ -1,8 +1,8 @@
-// Takes frames of a video by their numbers with the library FFMS2, for comparison:
+// Extracts frames of a video by number with the library FFMS2, for comparison:
 //
 //   ffms_series VIDEO FOLDER NUMBER…
 //
-// The index is made anew each time, as for a video that is opened for the first time. The frames
+// The index is created each time, as for a video that is opened for the first time. The frames
 // are converted to RGB by the library and written as JPEG files of quality 90.
 
 #include <QFile>

@@ -17,14 +17,14 @@
 
 namespace {
 
-/// Makes the kernel forget the peak so far.
+/// Makes the kernel reset the peak.
 bool resetPeak()
 {
     QFile file(QStringLiteral("/proc/self/clear_refs"));
     return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write("5") == 1;
 }
 
-/// Peak of resident memory in KiB since the last reset; nothing when the kernel does not tell.
+/// Peak of resident memory in KiB since the last reset; nothing if the kernel does not report it.
 std::optional<long> peak()
 {
     QFile file(QStringLiteral("/proc/self/status"));
@@ -43,7 +43,7 @@ std::optional<long> peak()
 
 using Iterator = std::vector<qint64>::const_iterator;
 
-/// Takes a frame at each of the positions and saves it; false on the first failure.
+/// Takes a frame at each of the positions and saves it; returns false on the first failure.
 bool takeFrames(bench::FrameSource& source, const QString& path, Iterator position, Iterator end)
 {
     bench::OutputProfiles profiles;
@@ -61,7 +61,7 @@ bool takeFrames(bench::FrameSource& source, const QString& path, Iterator positi
     return true;
 }
 
-/// The peak in KiB of taking these frames; nothing on failure.
+/// The peak in KiB while taking these frames; nothing on failure.
 std::optional<long> peakOf(bench::FrameSource& source, const QString& path, Iterator begin,
                            Iterator end)
 {

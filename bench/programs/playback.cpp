@@ -39,7 +39,7 @@ double cpuSeconds()
     return double(std::clock()) / CLOCKS_PER_SEC;
 }
 
-/// Plays until the end or for so many seconds; false, with a message, when that fails.
+/// Plays until the end or for this many seconds; returns false, with a message, on failure.
 bool play(const QString& path, QSize size, int seconds)
 {
     QtAV::VideoOutput output(QtAV::VideoOutput::Drawing::Raster);

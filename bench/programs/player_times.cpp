@@ -1,5 +1,5 @@
-// A player with a window, told on standard input what to do, one command a line. Each is answered
-// by one line of JSON once its picture has been painted:
+// A player with a window that reads commands from standard input, one per line. Each is answered by
+// one line of JSON once its picture has been painted:
 //
 //   open PATH        play() and pause(): up to the first frame
 //   stop
@@ -43,10 +43,10 @@ using QtAV::AVPlayer;
 
 namespace {
 
-/// What takes longer has failed.
+/// A longer time counts as a failure.
 constexpr int patienceMs = 120000;
 
-/// Shows frames in a window and says when one has been painted.
+/// Shows frames in a window and reports when one has been painted.
 class Screen : public QtAV::VideoRenderer
 {
     Q_OBJECT
@@ -72,7 +72,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        // The filter comes before the painting: what is queued here comes after it.
+        // The filter is called before the painting: what is queued here runs after it.
         const bool isPaint = event->type() == QEvent::Paint && m_output.isUpToDate();
         if (isPaint && std::exchange(m_awaitsPaint, false)) {
             QMetaObject::invokeMethod(this, &Screen::painted, Qt::QueuedConnection);
@@ -98,7 +98,7 @@ QJsonObject failure(const QString& text)
     return {{QStringLiteral("error"), text}};
 }
 
-/// Carries the commands out. While it waits, the event loop runs as it does in the program.
+/// Carries out the commands. While it waits, the event loop runs as in the program.
 class Session : public QObject
 {
     Q_OBJECT
@@ -226,7 +226,7 @@ private:
     AVPlayer m_player;
 };
 
-/// Reads commands and has them answered one after the other on the session's thread.
+/// Reads commands and lets the session's thread answer them one after another.
 void readCommands(Session& session)
 {
     std::string line;

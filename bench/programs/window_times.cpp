@@ -1,6 +1,7 @@
-// Uses the main window as a person does, with a video in it, and prints for each thing done how
-// long single events kept the user-interface thread: how many took longer than 50 ms, and which
-// took longest, with how much of that the thread had a processor. Exits with 1 where one did.
+// Uses the main window like a person, with a video, and prints for each action how long single
+// events occupied the user-interface thread: how many took longer than 50 ms, and which took
+// longest, with the part of that time for which the thread had a processor. Exits with 1 if one
+// took longer.
 
 #include "app/MemoryPolicy.h"
 #include "app/Startup.h"
@@ -90,7 +91,7 @@ public:
         doing("zoom the snapshot", [this] { turnWheel("snapshotImageView"); });
         doing("resize the window", [this] { resize(); });
         doing("go back to a snapshot", [this] {
-            // The last but one, which is in the video's own size, as what is saved then.
+            // The last but one, which has the video's own size and is saved then.
             const QModelIndex index = strip().shelf().index(strip().shelf().rowCount() - 2);
             Q_EMIT strip().chosen(index.data(SnapshotShelf::IdRole).toString());
             wait(2000);
@@ -129,7 +130,7 @@ private:
     QtAV::AVPlayer& player() { return *m_window.findChild<QtAV::AVPlayer*>(); }
     Filmstrip& strip() { return *m_window.findChild<Filmstrip*>(); }
 
-    /// Runs what is done as an event of the loop, as a person's would be.
+    /// Runs an action as an event of the loop, like one by a person.
     void doing(const char* what, const std::function<void()>& task)
     {
         wait(300);
@@ -242,7 +243,7 @@ private:
         wait(500);
     }
 
-    /// With the dialogs of batch mode, whose buttons are pressed as they come up.
+    /// Also uses the dialogs of batch mode, pressing their buttons when they appear.
     void runBatch(const QString& video)
     {
         QTimer presses;
@@ -268,7 +269,7 @@ private:
                     auto* const count =
                         mode->findChild<QLineEdit*>(QStringLiteral("intervalImagesTextEdit"));
                     count->setText(QStringLiteral("12"));
-                    // Not in this call, in which the timer does not tick.
+                    // Not in this call, during which the timer does not fire.
                     QTimer::singleShot(0,
                                        mode->findChild<QPushButton*>(QStringLiteral("startButton")),
                                        &QPushButton::click);

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int mostKept = 5;
 
-/// What the calling thread has had so far.
+/// Processor time of the calling thread so far.
 double processorMs()
 {
     timespec time{};
@@ -49,7 +49,7 @@ bool EventTimes::notify(QObject* receiver, QEvent* event)
     const int level = QThread::currentThread()->loopLevel();
     const bool isOurs = QThread::currentThread() == thread();
     const bool isSent = !m_what.empty() && level <= m_loopLevel;
-    // Events that are sent by the one that runs are parts of it.
+    // Events sent by the running event are part of it.
     if (!isOurs || isSent) {
         return QApplication::notify(receiver, event);
     }

@@ -8,11 +8,11 @@
 
 namespace bench {
 
-/// An application that measures how long each event keeps the user-interface thread.
+/// An application that measures how long each event occupies the user-interface thread.
 ///
-/// What is measured are stretches of work: an event up to its end, or up to the beginning of
-/// another one in a loop that it runs itself, as a dialog does. Waiting for events does not count.
-/// What a stretch is told by is the class of the receiver and the type of its event.
+/// It measures stretches of work: from the beginning of an event to its end, or to the beginning of
+/// another event in a loop that it runs itself, as a dialog does. Waiting for events does not
+/// count. A stretch is identified by the class of the receiver and the type of its event.
 class EventTimes : public QApplication
 {
 public:
@@ -22,7 +22,7 @@ public:
     struct Work
     {
         double ms = 0.0;
-        double processorMs = 0.0; ///< of that, in which the thread had a processor
+        double processorMs = 0.0; ///< the part for which the thread had a processor
         std::string what;
     };
 
@@ -30,8 +30,8 @@ public:
     struct Summary
     {
         int events = 0;
-        int above = 0;         ///< longer than limitMs
-        QVector<Work> longest; ///< five at most
+        int above = 0;         ///< number that were longer than limitMs
+        QVector<Work> longest; ///< at most five
     };
     [[nodiscard]] Summary take();
 
@@ -44,9 +44,9 @@ private:
     void end();
 
     QElapsedTimer m_timer;
-    double m_processorMs = 0.0; ///< of the thread, when the stretch began
+    double m_processorMs = 0.0; ///< of the thread, at the start of the stretch
     bool m_isWorking = false;
-    int m_loopLevel = 0; ///< of the event that runs
+    int m_loopLevel = 0; ///< of the current event
     std::string m_what;
     Summary m_summary;
 };

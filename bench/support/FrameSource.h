@@ -9,19 +9,19 @@
 
 namespace bench {
 
-/// A video that stays open in a FrameGrabber, asked for frames the way a batch job asks.
+/// A video that stays open in a FrameGrabber, from which frames are requested as by a batch job.
 class FrameSource : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Keeps the grabber's own choice of precision: 500 ms, or 250 ms for a short video.
+    /// Uses the grabber's automatic precision: 500 ms, or 250 ms for a short video.
     static constexpr int automaticPrecision = -1;
 
-    /// Opens nothing yet; see FrameGrabber for the precision, in milliseconds.
+    /// Does not open the video yet; see FrameGrabber for the precision, in milliseconds.
     explicit FrameSource(const QString& video, int precision = automaticPrecision);
 
-    /// Length of the video in milliseconds; 0 when it cannot be opened.
+    /// Length of the video in milliseconds; 0 if it cannot be opened.
     [[nodiscard]] qint64 duration();
 
     /// The frame at a position in milliseconds. An invalid one when there is none: error() says

@@ -4,20 +4,20 @@
 
 namespace bench {
 
-/// Keeps a program of this folder away from its user's settings, its display and its own
-/// debug lines: they would be measured too. Construct it before the application object.
+/// Isolates a program of this folder from its user's settings, its display and its own debug
+/// messages, which would be measured too. Construct it before the application object.
 class Sandbox
 {
 public:
     enum class Display {
         None,
-        Own, ///< the one that the program was started with, for what shows windows
+        Own, ///< the one that the program was started with, for programs that show windows
     };
 
-    /// Ends the program when no temporary folder can be made.
+    /// Ends the program if no temporary folder can be created.
     explicit Sandbox(Display display = Display::None);
 
-    /// A path in a temporary folder that goes with this object.
+    /// A path in a temporary folder that is removed with this object.
     [[nodiscard]] QString filePath(const QString& name) const { return m_folder.filePath(name); }
 
 private:

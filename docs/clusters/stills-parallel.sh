@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Takes pictures out of all videos of a list with GNU parallel: on this machine, or on several hosts
-# that see the same folders at the same paths. After whatever stopped it, run it again: it goes on.
+# Extracts pictures from all videos of a list with GNU parallel: on this machine, or on several hosts
+# with the same folders at the same paths. If it was stopped, run it again to continue.
 #   stills-parallel.sh LIST LOG [OPTION OF STILLS]...
 #
-# LIST has one video a line, or NUL characters between them. LOG is a folder, made if it is missing:
-# parallel.log in it says which tasks are done, and the files *.json what became of each picture.
+# LIST has one video per line, or NUL characters between them. LOG is a folder, created if it is
+# missing: its parallel.log lists the finished tasks, and its *.json files the result of each picture.
 #
-#   STILLS_TASKS    how many tasks the list is cut into (100)
-#   STILLS_AT_ONCE  how many of them run at once on a host (1, which uses all its cores)
-#   STILLS_HOSTS    a file with the hosts, one a line, as ssh knows them (this machine alone)
+#   STILLS_TASKS    number of tasks that the list is divided into (100)
+#   STILLS_AT_ONCE  number of tasks that run at once on a host (1, which uses all its cores)
+#   STILLS_HOSTS    a file with the hosts, one per line, as named by ssh (only this machine)
 #   STILLS          the program (stills)
 set -euo pipefail
 
@@ -26,7 +26,7 @@ shift 2
 tasks=${STILLS_TASKS:-100}
 
 # A task is a number: no name of a video, of a folder or of an option passes through parallel, ssh
-# or another machine's shell. What the number means stands in a file.
+# or another machine's shell. The file "task" says what to do with the number.
 task=$(
     printf '# the list: %s\n' "$(cksum <"$list")"
     printf 'cd -- %q || exit\n' "$PWD"

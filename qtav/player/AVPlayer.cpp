@@ -80,7 +80,7 @@ void AVPlayer::setSpeed(qreal speed)
     if (!(std::abs(wanted - d->speed) > 0.0)) {
         return;
     }
-    // The time goes on from the frame on screen, for the sound as well.
+    // Time continues from the frame on screen, for the sound as well.
     d->haltTime();
     d->speed = wanted;
     d->clock.setSpeed(wanted);

@@ -7,11 +7,11 @@ namespace QtAV {
 
 namespace {
 
-/// A picture that is later than this by the monotonic clock is shown all the same, and the clock
-/// set back to it: nothing was heard that it would have to follow.
+/// A picture later than this by the monotonic clock is still shown, and the clock is set back to
+/// it: there is no sound that it would have to follow.
 constexpr double mostLatenessSeconds = 0.5;
 
-/// The last frame is shown no longer than this, however late the file is said to end.
+/// Maximum duration of the last frame, however late the stated end of the file is.
 constexpr double longestLastFrameSeconds = 1.0;
 
 } // namespace
@@ -85,7 +85,7 @@ void AVPlayer::Private::close(MediaStatus statusAfterwards)
     const quint64 serial = openSerial;
     show(VideoFrame());
     setDuration(0);
-    // A connected slot may have opened another file, or will now.
+    // A connected slot may have opened another file, or may do so now.
     if (openSerial != serial) {
         return;
     }
@@ -149,7 +149,7 @@ void AVPlayer::Private::stepField(PlaybackEngine::Direction direction)
     isFieldStepUnderWay = true;
 }
 
-/// Goes to the other moment of the frame on screen, where that lies in this direction.
+/// Switches to the other moment of the frame on screen if it lies in this direction.
 bool AVPlayer::Private::showOtherField(PlaybackEngine::Direction direction)
 {
     const bool goesBack = direction == PlaybackEngine::Direction::Backward;
@@ -167,7 +167,7 @@ void AVPlayer::Private::handle(const PlaybackEngine::Answer& answer)
 {
     using Kind = PlaybackEngine::Answer::Kind;
     const bool isFrame = answer.result.answer == FrameAnswer::Frame;
-    // What was captured is answered also when the file has been closed since.
+    // Captures are answered even if the file has been closed since.
     if (answer.serial < openSerial && answer.kind != Kind::Captured) {
         return;
     }
@@ -260,7 +260,7 @@ void AVPlayer::Private::fail(const QString& reason)
     close(InvalidMedia);
 }
 
-/// Lets the time run on from the frame on screen, if playing and nothing else is awaited.
+/// Lets time continue from the frame on screen if playing and no other answer is pending.
 void AVPlayer::Private::resumeTime()
 {
     if (!plays()) {
@@ -300,7 +300,7 @@ bool AVPlayer::Private::playsSound() const
     return hasSound && speed >= slowestSound && speed <= fastestSound;
 }
 
-/// @param playedSeconds  how much of the video is to be played until then
+/// @param playedSeconds  how much of the video is played until then
 void AVPlayer::Private::schedule(double playedSeconds)
 {
     const double seconds = std::clamp(playedSeconds / speed, 0.0, 1.0);
@@ -342,7 +342,7 @@ void AVPlayer::Private::presentDue()
     }
 }
 
-/// When playback is over: with the last frame's time on screen, or with the sound.
+/// When playback ends: at the end of the last frame, or of the sound.
 double AVPlayer::Private::endTime(bool soundLeads) const
 {
     const double end = double(duration) / 1000.0;
@@ -350,7 +350,7 @@ double AVPlayer::Private::endTime(bool soundLeads) const
     return soundLeads ? std::max(end, last) : std::clamp(end, last, last + longestLastFrameSeconds);
 }
 
-/// No way on from here, but what is on screen stays, and other places may be readable.
+/// Stops here, but the picture on screen stays, and other places may be readable.
 void AVPlayer::Private::halt(const QString& reason)
 {
     error = reason;

@@ -13,7 +13,7 @@
 
 namespace QtAV {
 
-/// What a player knows, and how it goes from one state to the next. User-interface thread.
+/// State of a player and the transitions between its states. User-interface thread only.
 class AVPlayer::Private
 {
 public:
@@ -58,7 +58,7 @@ public:
     bool isLoaded = false;
     bool hasSound = false;
     bool hasStarted = false; ///< started() has been sent since opening
-    /// play() was called on a frame that turns out to be the last when none follows.
+    /// play() was called on a frame; if no frame follows it, playback starts over.
     bool startsOverAtEnd = false;
     qint64 duration = 0;
     int interval = 0;
@@ -68,19 +68,20 @@ public:
     QPointer<VideoRenderer> renderer;
     Statistics statistics;
 
-    std::optional<qint64> soughtMs; ///< the target of the seek that runs
-    quint64 seekSerial = 0;         ///< of the newest seek; older seeks and steps come too late
+    std::optional<qint64> soughtMs; ///< the target of the pending seek
+    quint64 seekSerial = 0;         ///< of the newest seek; answers to older seeks and steps are
+                                    ///< dropped
     quint64 fieldStepSerial = 0;    ///< of the newest step by fields that went to another frame
     bool isFieldStepUnderWay = false;
-    bool wantsSecondField = false; ///< of the frame that this step gives
-    quint64 openSerial = 0;        ///< of opening or closing; all that is older comes too late
+    bool wantsSecondField = false; ///< show the second field of the frame that this step gives
+    quint64 openSerial = 0;        ///< of the newest opening or closing; older answers are dropped
 
     PlaybackClock clock;
     QTimer timer;
     VideoCapture* const capture;
     AudioOutput* const audio;
     SoundPlayer sound;
-    PlaybackEngine engine; ///< last: its thread calls for the others
+    PlaybackEngine engine; ///< last, since its thread calls the other members
 };
 
 } // namespace QtAV

@@ -9,18 +9,18 @@ namespace QtAV {
 
 namespace {
 
-/// A pass begins when fewer frames than this part of the room are left, and brings as many as there
-/// is room for then. Sooner, most of each pass would be decoded a second time; later, there would
-/// be too few left to step through while it runs.
+/// A pass begins when less than this part of the room is filled, and decodes as many frames as then
+/// fit. Earlier, most of each pass would be decoded twice; later, too few frames would be left to
+/// step through while it runs.
 constexpr qint64 partLeft = 2;
 
-/// The share that a new measurement of the speed has against all before it.
+/// Weight of a new speed measurement relative to the earlier ones.
 constexpr double newShare = 0.1;
 
-/// What is decoded up to a frame that is sought skips some frames; a pass does not.
+/// Decoding up to a seek target skips some frames; a pass does not.
 constexpr double speedOfPass = 0.7;
 
-/// Longer gaps between two calls are not counted as decoding.
+/// Longer gaps between two calls do not count as decoding.
 constexpr std::chrono::milliseconds longestGap{20};
 
 double secondsOf(std::chrono::steady_clock::duration duration)
@@ -39,7 +39,7 @@ BackwardFill::BackwardFill(FrameReader& reader, std::function<void()> onFrame, C
 bool BackwardFill::startIfNeeded(const FrameCache::Run& run, qint64 room, qint64 gapMs)
 {
     const bool isEnough = run.isAtStart || run.framesBefore * partLeft >= room;
-    // Another pass to the same frame would end the same.
+    // Another pass to the same frame would end in the same way.
     if (m_pass || isEnough || m_filledUpTo == run.start) {
         return m_pass.has_value();
     }
@@ -72,7 +72,7 @@ bool BackwardFill::isOnTheWayTo(double seconds) const
 std::optional<FrameResult> BackwardFill::advance(const IsCancelled& isCancelled)
 {
     const std::optional<double> from = m_reader.last();
-    // Decoding threads go on while others are at work here: that is part of what a frame takes.
+    // Decoding threads continue while other work is done here: that is part of a frame's cost.
     m_measuredUntil = std::max(m_measuredUntil, m_clock() - longestGap);
     std::optional<FrameResult> result = walkOn(isCancelled);
     measure(from);
@@ -149,7 +149,7 @@ void BackwardFill::reset()
     m_longestGroup = 0.0;
 }
 
-/// The first frame of a pass tells nothing: it fills the decoder, too.
+/// The first frame of a pass is not measured: it also fills the decoder.
 void BackwardFill::measure(std::optional<double> from)
 {
     const std::optional<double> last = m_reader.last();
@@ -162,7 +162,7 @@ void BackwardFill::measure(std::optional<double> from)
         return;
     }
     const double speed = (*last - *from) / took;
-    // Frames come in bursts, out of several threads: what counts is the mean time, not speed.
+    // Several threads deliver frames in bursts: the mean time counts, not the speed.
     m_speed = m_speed > 0.0 ? 1.0 / ((1.0 - newShare) / m_speed + newShare / speed) : speed;
 }
 

@@ -10,35 +10,34 @@
 
 namespace QtAV {
 
-/// Decodes what lies before the focus, so that steps back find it in the cache.
+/// Decodes frames before the focus ahead of time, so that steps back find them in the cache.
 ///
-/// Video can only be decoded forward from a key frame. So this works in passes: each starts at the
-/// key frame before a frame, the target, and ends when it has come to that. What lies directly
-/// before the target comes last. Frames that the cache has no room for are skipped where no other
-/// needs them. When the target is a key frame the pass leads through the group of pictures before
-/// it.
+/// Video can only be decoded forward from a key frame, so this works in passes. Each pass starts at
+/// the key frame before a target frame and ends when it reaches the target, so the target's direct
+/// predecessor comes last. Disposable frames for which the cache has no room are skipped. If the
+/// target is a key frame, the pass decodes the group of pictures before it.
 ///
-/// Where a codec gives no whole picture at a place that the container calls a key frame, a pass
-/// starts again further back, until nothing can be missing before its target.
+/// If a codec gives no whole picture at what the container calls a key frame, the pass starts again
+/// further back until nothing can be missing before its target.
 ///
-/// Works with a reader that others use as well: who moves it must call leave(). Not thread-safe,
-/// but tied to no thread.
+/// Shares its reader with others: call leave() before moving the reader. Not thread-safe, but tied
+/// to no thread.
 class BackwardFill
 {
 public:
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
-    /// @param onFrame  called for each frame that the reader has come to.
-    /// @param clock    what the estimates are made with.
+    /// @param onFrame  called for each frame that the reader reaches.
+    /// @param clock    clock for the estimates.
     BackwardFill(FrameReader& reader, std::function<void()> onFrame,
                  Clock clock = std::chrono::steady_clock::now);
 
-    /// Begins the pass that is needed next, if one is. Touches no file yet.
+    /// Begins the next pass if one is needed. Does not access the file yet.
     /// @param run    the cached frames around the focus.
     /// @param room   how many frames the cache has room for before the focus.
     /// @param gapMs  the longest time between two frames, in milliseconds.
-    /// @return whether a pass is under way then. None begins while half of the room is filled, at
-    ///         the start of the video, nor for a target that one has led to already.
+    /// @return whether a pass is in progress then. None begins while half of the room is filled, at
+    ///     the start of the video, or for a target that an earlier pass has already reached.
     [[nodiscard]] bool startIfNeeded(const FrameCache::Run& run, qint64 room, qint64 gapMs);
 
     /// Begins a pass to a target in seconds. Frames before a position in milliseconds may be
@@ -47,45 +46,45 @@ public:
 
     bool isUnderWay() const { return m_pass.has_value(); }
 
-    /// The time in seconds of the frame that the pass leads to; only while one is under way.
+    /// The target of the pass in seconds; only while a pass is in progress.
     double target() const { return m_pass->target; }
 
-    /// True when the pass under way comes to a time in seconds sooner than starting at the key
-    /// frame before it would.
+    /// True if the pass in progress reaches a time in seconds sooner than decoding from the key
+    /// frame before that time would.
     bool isOnTheWayTo(double seconds) const;
 
-    /// Decodes one frame. Nothing while the pass goes on, else what it has come to: the frame
-    /// directly before the target; End where none is; Failed where the file cannot be read there.
-    /// Cancelled leaves the pass under way.
+    /// Decodes one frame. Nothing while the pass continues, otherwise its result: the direct
+    /// predecessor of the target, End if there is none, or Failed if the file cannot be read there.
+    /// Cancelled leaves the pass in progress.
     [[nodiscard]] std::optional<FrameResult> advance(const IsCancelled& isCancelled);
 
-    /// Goes to the end of the pass.
+    /// Runs the pass to its end.
     [[nodiscard]] FrameResult finish(const IsCancelled& isCancelled);
 
-    /// Gives the pass up: the reader goes elsewhere. Its target may be wanted again.
+    /// Abandons the pass because the reader is used elsewhere. Its target may be requested again.
     void leave();
 
     /// Forgets the file.
     void reset();
 
-    /// Tells of decoding that others have done: from a key frame to a time, both in seconds of the
-    /// video, in so many seconds.
+    /// Records decoding done by others, for the estimates: from a key frame up to a time, both in
+    /// seconds of the video, which took that many seconds.
     void noteDecoded(double keyFrame, double upTo, double took);
 
-    /// For how many seconds the pass under way is going to decode on; nothing when none is, or
-    /// nothing was measured yet.
+    /// Estimated remaining time of the pass in progress in seconds; nothing if no pass is in
+    /// progress or no speed was measured yet.
     std::optional<double> remainingSeconds() const;
 
 private:
     struct Pass
     {
         double target;
-        /// The key frame from which the reader had come to where it stood.
+        /// The key frame from which the reader had reached its previous place.
         std::optional<double> cameFrom = {};
         qint64 completeFrom = 0;
         qint64 stepBackMs = 0;
         VideoFrame previous = {};      ///< the last frame before the target
-        bool isPreviousAsEver = false; ///< see FrameReader
+        bool isPreviousAsEver = false; ///< see FrameReader::looksAsEver()
     };
 
     void land();
@@ -100,7 +99,7 @@ private:
     std::chrono::steady_clock::time_point m_measuredUntil;
     std::optional<double> m_filledUpTo; ///< the target of the last pass that was needed
     double m_speed = 0.0;               ///< seconds of video decoded in a second; 0 when unknown
-    double m_longestGroup = 0.0;        ///< that has been seen, in seconds
+    double m_longestGroup = 0.0;        ///< the longest group of pictures seen so far, in seconds
 };
 
 } // namespace QtAV

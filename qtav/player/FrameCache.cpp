@@ -10,16 +10,16 @@ namespace QtAV {
 
 namespace {
 
-/// Frames after the focus go this much sooner than those before it: decoding gets to the next frame
-/// at once, but to the one before only from its key frame.
+/// Frames after the focus are dropped this much earlier than those before it: the next frame is
+/// decoded at once, but the previous one only from its key frame.
 constexpr double weightAfter = 2.0;
 
-/// So many bytes of decoded frames stay as they are, or so many frames where those are large: what
-/// is captured and stepped to right after a seek.
+/// This many bytes of decoded frames are kept unscaled, or this many frames if those are large:
+/// what is captured and stepped to right after a seek.
 constexpr qint64 wholeBytes = qint64(32) << 20;
 constexpr qint64 wholeFrames = 6;
 
-/// Frames that would not get smaller than these parts are not worth scaling.
+/// Scaling must shrink a frame at least to this fraction to be worthwhile.
 constexpr qint64 worthParts = 3;
 constexpr qint64 worthOf = 4;
 
@@ -97,7 +97,7 @@ void FrameCache::add(Entry& entry, const VideoFrame& frame)
     }
 }
 
-/// Takes a frame out of the counts.
+/// Subtracts a frame from the counts.
 void FrameCache::remove(double seconds, const VideoFrame& frame)
 {
     m_bytes -= frame.byteCount();
@@ -164,7 +164,7 @@ qint64 FrameCache::roomBefore() const
     return static_cast<qint64>(double(bytes / m_keptBytes) * weightAfter / (1.0 + weightAfter));
 }
 
-/// The nearest one stays as it is however large it is.
+/// The nearest frame is never reduced, however large it is.
 void FrameCache::reduceFarFrames()
 {
     while (m_wholeBytes > mostWholeBytes() && m_whole.size() > 1) {
@@ -180,14 +180,14 @@ void FrameCache::reduceFarFrames()
         if (small.isScaledDown()) {
             add(entry, small);
         } else {
-            // Kinds of pictures that cannot be scaled down take what they take.
+            // Pictures that cannot be scaled down keep their size.
             m_bytes += whole.byteCount();
             m_keptBytes = whole.byteCount();
         }
     }
 }
 
-/// One frame stays however large it is.
+/// One frame always stays, however large it is.
 void FrameCache::shrink()
 {
     while (m_bytes > m_mostBytes && m_frames.size() > 1) {

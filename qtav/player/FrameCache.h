@@ -10,28 +10,28 @@
 
 namespace QtAV {
 
-/// Decoded frames around the one on screen, by their times, up to a number of bytes.
+/// Decoded frames around the one on screen, by time, limited to a number of bytes.
 ///
-/// The few nearest to the focus are kept as they were decoded; those further off are scaled down to
-/// the size at which they are shown, where that makes them smaller, so that the stretches of steps
-/// fit. The cache knows which frames are direct neighbours, so that it never gives a frame further
-/// off for the next or the previous one. When it is full, the frames furthest from the focus go
-/// first, with those after it counting as further away.
+/// The few frames nearest to the focus are kept as decoded. Those further away are scaled down to
+/// the size at which they are shown if that makes them smaller, so that enough frames for steps
+/// fit. The cache knows which frames are direct neighbours, so that it never mistakes a frame
+/// further away for the next or previous one. When it is full, it drops the frames furthest from
+/// the focus first; frames after the focus count as further away.
 ///
-/// A frame is known by its exact time in seconds, the one that VideoFrame::timestamp() gives.
-/// Not thread-safe: one thread uses it.
+/// A frame is identified by its exact time in seconds, VideoFrame::timestamp(). Not thread-safe:
+/// one thread uses it.
 class FrameCache
 {
 public:
     static constexpr qint64 defaultBytes = qint64(224) << 20;
 
-    /// For which screen frames are scaled down while none is known, in pixels.
+    /// Screen size in pixels that frames are scaled down for while the real one is unknown.
     static constexpr QSize usualScreen{960, 540};
 
-    /// What becomes of frames that are not among the few nearest to the focus.
+    /// How frames other than the few nearest to the focus are treated.
     enum class FarFrames {
         ScaleDown,
-        Drop, ///< while frames pass by too quickly for the time that scaling takes
+        Drop, ///< while frames pass too quickly for scaling
     };
 
     /// Cached frames without a gap between them, around a given one.
@@ -46,44 +46,44 @@ public:
 
     explicit FrameCache(qint64 mostBytes = defaultBytes);
 
-    /// The screen's size in pixels, into which pictures are fitted. Frames that are scaled down
-    /// already stay as they are. Ignored when empty.
+    /// Size of the screen in pixels, into which pictures are fitted. Frames that are already scaled
+    /// down stay as they are. Ignored when empty.
     void setScreen(const QSize& size);
     void setFarFrames(FarFrames farFrames) { m_farFrames = farFrames; }
 
-    /// Adds a frame, or what is newly known of a cached one. A decoded frame replaces one that is
-    /// scaled down where it would stay as it is, or be scaled to another size.
-    /// @param predecessor  the time of the frame directly before it; nothing where unknown.
+    /// Adds a frame, or adds newly known facts about a cached one. A decoded frame replaces a
+    /// scaled-down one if it would stay as decoded or be scaled to another size.
+    /// @param predecessor  the time of the direct predecessor; nothing if unknown.
     void insert(const VideoFrame& frame, std::optional<double> predecessor);
 
-    /// Says that no frame comes before the one of this time.
+    /// Records that the frame with this time is the first of the video.
     void setFirst(double seconds) { m_first = seconds; }
     std::optional<double> first() const { return m_first; }
 
     /// The time around which frames are kept.
     void setFocus(double seconds);
 
-    /// Changes how much may be kept, and lets go of what is too much.
+    /// Changes the limit and drops frames beyond it.
     void setMostBytes(qint64 bytes);
 
     void clear();
 
-    /// The frames below are invalid ones where the cache does not hold them.
+    /// The following return an invalid frame if the cache does not hold the requested one.
     VideoFrame at(double seconds) const;
-    /// The frame directly before or after the one of that time.
+    /// The direct predecessor or successor of the frame with that time.
     VideoFrame before(double seconds) const;
     VideoFrame after(double seconds) const;
-    /// The first frame of the video whose whole milliseconds are at or after a position.
+    /// The first frame of the video whose whole milliseconds lie at or after a position.
     VideoFrame atOrAfter(qint64 ms) const;
 
-    /// The run in which the frame of that time is; nothing when that is not cached.
+    /// The run that contains the frame with that time; nothing if it is not cached.
     std::optional<Run> runAround(double seconds) const;
 
     qint64 byteCount() const { return m_bytes; }
     qint64 mostBytes() const { return m_mostBytes; }
     int frameCount() const { return static_cast<int>(m_frames.size()); }
 
-    /// About how many frames there is room for before the focus; 0 before the first insert().
+    /// Estimated number of frames that fit before the focus; 0 before the first insert().
     qint64 roomBefore() const;
 
 private:
@@ -112,9 +112,9 @@ private:
     std::map<double, Entry> m_frames;
     qint64 m_bytes = 0;
     std::set<double> m_whole;  ///< times of the frames that scaling down would make smaller
-    qint64 m_wholeBytes = 0;   ///< that those take
-    qint64 m_decodedBytes = 0; ///< of the largest frame inserted
-    qint64 m_keptBytes = 0;    ///< of a frame as it is kept far from the focus
+    qint64 m_wholeBytes = 0;   ///< their total size
+    qint64 m_decodedBytes = 0; ///< size of the largest inserted frame
+    qint64 m_keptBytes = 0;    ///< size of a frame as it is kept far from the focus
 };
 
 } // namespace QtAV

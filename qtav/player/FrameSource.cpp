@@ -13,20 +13,20 @@ namespace QtAV {
 
 namespace {
 
-/// So many frames before a target are decoded with it, for the steps back that often follow. Each
-/// costs a part of the seek's time; those before them are decoded behind the seek's back.
+/// Number of frames before a target that are decoded with it, for the steps back that often follow.
+/// Each makes the seek slower; those before them are decoded in the background.
 constexpr qint64 framesBeforeTarget = 7;
 
-/// So many frames after the focus are decoded before the reader goes away, so that steps forward
-/// find some until it is back.
+/// Number of frames after the focus that are decoded before the reader leaves, so that steps
+/// forward find some until it returns.
 constexpr qint64 framesAhead = 12;
 
-/// How long the user rests until what may be wanted is decoded. At first the processor's cores are
-/// needed to get the picture to the screen, or to follow with the next step.
+/// How long the user rests before likely frames are decoded. At first the processor is needed to
+/// show the picture, or to carry out the next step.
 constexpr FrameSource::Rest beforeFilling{25};
-/// Going back to where going forward goes on would be in vain while steps back follow.
+/// Returning to the end of the cached frames would be in vain while steps back follow.
 constexpr FrameSource::Rest beforeReturning{300};
-/// A user who went forward is more likely to go on forward.
+/// A user who went forward will more likely continue forward.
 constexpr FrameSource::Rest beforeTurningBack{1000};
 
 constexpr int usualGapMs = 40;
@@ -107,15 +107,14 @@ void FrameSource::setDeinterlacing(Deinterlacing deinterlacing)
     }
     m_deinterlacing = deinterlacing;
     m_reader.setDeinterlacing(deinterlacing);
-    // The reader must not go on with frames of the old kind either.
+    // The reader must not continue with frames of the old setting either.
     leaveBackgroundWork();
     m_reader.seek(toMilliseconds(m_focus));
     m_cache.clear();
     m_cache.setFocus(m_focus);
 }
 
-/// Frames with others left out between them answer no question: they would only take the memory of
-/// those that do.
+/// Frames with gaps between them cannot answer any request and would only take up memory.
 void FrameSource::keep()
 {
     const VideoFrame& frame = m_reader.lastFrame();
@@ -230,7 +229,7 @@ FrameResult FrameSource::look(bool goesOn, const FrameReader::Search& search,
     return found;
 }
 
-/// True when m_reader comes to a time by going on, sooner than from the key frame before it, and
+/// True if m_reader reaches a time sooner by continuing than from the key frame before it, and
 /// misses nothing from there on.
 bool FrameSource::isShortlyBefore(double seconds) const
 {
@@ -241,7 +240,7 @@ bool FrameSource::isShortlyBefore(double seconds) const
            m_reader.isCompleteFrom(seconds);
 }
 
-/// The reader goes elsewhere.
+/// Call before the reader goes elsewhere.
 void FrameSource::leaveBackgroundWork()
 {
     m_fill.leave();
@@ -313,7 +312,7 @@ FrameSource::Supply FrameSource::supplyBehind()
     return {run->framesBefore, isComing ? m_fill.remainingSeconds() : std::nullopt};
 }
 
-/// Whether a pass back is under way; begins one when that is needed.
+/// Whether a pass back is in progress; begins one if needed.
 bool FrameSource::fillsBehind(const FrameCache::Run& run)
 {
     if (m_fill.isUnderWay()) {
@@ -336,7 +335,7 @@ bool FrameSource::fillBehind(const IsCancelled& isCancelled)
     return !result || result->answer != FrameAnswer::Failed;
 }
 
-/// Decodes one of the frames after the focus, if the reader is where they follow.
+/// Decodes one of the frames after the focus if the reader is positioned there.
 bool FrameSource::decodeAhead(const FrameCache::Run& run, const IsCancelled& isCancelled)
 {
     const bool isEnough = run.framesAfter >= framesAhead || run.end == m_lastTime;
@@ -351,7 +350,7 @@ bool FrameSource::decodeAhead(const FrameCache::Run& run, const IsCancelled& isC
     return next.answer == FrameAnswer::Frame;
 }
 
-/// Goes to the last of the cached frames around the focus, by way of the focus where the cache does
+/// Moves to the last cached frame of the run around the focus. Passes the focus if the cache does
 /// not hold that in full size.
 bool FrameSource::returnToEnd(const FrameCache::Run& run, const IsCancelled& isCancelled)
 {
@@ -376,7 +375,7 @@ bool FrameSource::returnToEnd(const FrameCache::Run& run, const IsCancelled& isC
     return goesOn;
 }
 
-/// False when the same has been tried in vain.
+/// Returns false if the same was tried in vain before.
 bool FrameSource::startReturn(double target, double end)
 {
     if (m_returnedTo == m_focus) {

@@ -13,13 +13,14 @@
 
 namespace QtAV {
 
-/// Gives exactly the frame that is asked for: the first at or after a position, the very next and
-/// the very one before.
+/// Delivers exactly the requested frame: the first at or after a position, or the direct successor
+/// or predecessor of another frame.
 ///
-/// What was decoded is kept in a FrameCache, and frames far from the focus come out of it scaled
-/// down. One reader walks in the file, since each decoder takes the memory of a dozen pictures.
-/// While nothing is asked for, prepare() sends it back to fill the cache with what lies before the
-/// focus, and on again to where the cached frames end, so that going forward goes on decoding.
+/// Decoded frames are kept in a FrameCache, and frames far from the focus come out of it scaled
+/// down. There is only one reader, because each decoder takes the memory of a dozen pictures. While
+/// nothing is requested, prepare() moves the reader back to fill the cache before the focus, and
+/// then forward again to the end of the cached frames, so that going forward simply continues
+/// decoding.
 ///
 /// Not thread-safe, but tied to no thread.
 class FrameSource
@@ -28,77 +29,78 @@ public:
     using Rest = std::chrono::milliseconds;
     static constexpr Rest longestRest = Rest::max();
 
-    /// What there is for steps back.
+    /// What is available for steps back.
     struct Supply
     {
-        qint64 frames = 0; ///< before the focus that are cached
-        /// How many seconds of decoding it takes until there are more; nothing when enough are
-        /// there, when these reach the start, and while it is not known.
+        qint64 frames = 0; ///< number of cached frames before the focus
+        /// Estimated decoding time in seconds until there are more; nothing if there are enough, if
+        /// they reach the start, or if it is unknown.
         std::optional<double> secondsToMore = {};
     };
 
     FrameSource();
 
-    /// Opens a file and decodes its first frame, which goes into the cache. False, with a text for
-    /// people, when no frame comes out.
-    /// @param cacheBytes  most memory for kept frames.
+    /// Opens a file and decodes its first frame into the cache. Returns false, with a text for
+    /// people, if no frame can be decoded.
+    /// @param cacheBytes  maximum memory for cached frames.
     [[nodiscard]] bool open(const QString& path, qint64 cacheBytes, const IsCancelled& isCancelled,
                             QString& error);
     void close();
     bool isOpen() const { return m_reader.isOpen(); }
 
-    /// In milliseconds, 0 when nothing is open. Grows when frames lie behind the stated end.
+    /// Length in milliseconds; 0 when nothing is open. Grows when frames turn up behind the stated
+    /// end.
     qint64 duration() const;
-    /// The usual time between two frames in milliseconds, 1 or more.
+    /// Usual time between two frames in milliseconds, 1 or more.
     int frameInterval() const;
-    /// What the file says of itself.
+    /// What the file states about itself.
     MediaFacts facts() const { return m_reader.demuxer().facts(); }
     bool hasSound() const { return !m_reader.demuxer().audioStreams().isEmpty(); }
 
     /// The first frame at or after a position in milliseconds; behind the last frame, the last.
     [[nodiscard]] FrameResult frameAt(qint64 ms, const IsCancelled& isCancelled);
 
-    /// The frame directly after the one of that time in seconds; none after the last.
+    /// The successor of the frame with that time in seconds; End after the last.
     [[nodiscard]] FrameResult after(double seconds, const IsCancelled& isCancelled);
 
-    /// The frame directly before the one of that time in seconds; none before the first.
+    /// The predecessor of the frame with that time in seconds; End before the first.
     [[nodiscard]] FrameResult before(double seconds, const IsCancelled& isCancelled);
 
-    /// The frame of that time in seconds, decoded anew: in its full size whatever is kept of it.
-    /// Failed when the file does not give it any more.
+    /// Decodes the frame with that time in seconds again, in full size, regardless of the cache.
+    /// Failed if the file no longer delivers it.
     [[nodiscard]] FrameResult decodeAnew(double seconds, const IsCancelled& isCancelled);
 
-    /// The time in seconds around which frames are kept and before which they are decoded ahead.
+    /// Time in seconds around which frames are kept and before which they are decoded ahead.
     void setFocus(double seconds);
 
-    /// The size in pixels of the screen that frames are shown on; ignored when empty.
+    /// Size in pixels of the screen on which frames are shown; ignored when empty.
     void setScreen(const QSize& size) { m_cache.setScreen(size); }
 
-    /// What becomes of interlaced pictures. Another choice drops what is cached: decodeAnew() gives
-    /// the frame on screen as it is to be.
+    /// How interlaced pictures are treated. A change clears the cache; decodeAnew() then gives the
+    /// frame on screen with the new setting.
     void setDeinterlacing(Deinterlacing deinterlacing);
     Deinterlacing deinterlacing() const { return m_deinterlacing; }
 
-    /// What one picture may take in memory, from the next open() on.
+    /// Memory limit for one picture, from the next open() on.
     void setPictureMemory(qint64 bytes) { m_reader.setPictureMemory(bytes); }
 
-    /// While frames pass by in playback, those far from the focus are not kept.
+    /// Whether frames far from the focus are kept; not while frames pass by in playback.
     void setFarFrames(FrameCache::FarFrames farFrames) { m_cache.setFarFrames(farFrames); }
 
-    /// Decodes one frame of those that are likely to be wanted next: before the focus and, when the
-    /// user rests longer, the one at the focus in full size and those from there on.
-    /// @param rest  how long nothing has been asked for.
-    /// @return false when there is nothing to do, or not yet: see nextRest().
+    /// Decodes one frame that is likely to be requested next: before the focus and, after a longer
+    /// rest, the one at the focus in full size and its successors.
+    /// @param rest  how long nothing has been requested.
+    /// @return false if there is nothing to do, or not yet: see nextRest().
     [[nodiscard]] bool prepare(Rest rest, const IsCancelled& isCancelled);
 
-    /// The next longer rest after which prepare() may do more; nothing when no rest is long enough.
+    /// The next longer rest after which prepare() may do more; nothing if no rest is long enough.
     static std::optional<Rest> nextRest(Rest rest);
 
-    /// Plans the next pass back when one is needed, so that prepare() goes for it.
+    /// Plans the next pass back if one is needed, so that prepare() runs it.
     Supply supplyBehind();
 
-    /// Decodes one frame of the pass back that is under way. False when none is, or it cannot go
-    /// on.
+    /// Decodes one frame of the current pass back. Returns false if there is none or it cannot
+    /// continue.
     [[nodiscard]] bool fillBehind(const IsCancelled& isCancelled);
 
     const FrameCache& cache() const { return m_cache; }
@@ -128,12 +130,12 @@ private:
     BackwardFill m_fill;
     std::optional<double> m_lastTime; ///< of the video's last frame, once it has been seen
     qint64 m_latestMs = 0;            ///< the time of the latest frame that has been seen
-    qint64 m_longestGapMs = 0;        ///< between two neighbours that have been seen
+    qint64 m_longestGapMs = 0;        ///< between two neighbouring frames seen so far
     double m_focus = 0.0;
     Move m_move = Move::Seek; ///< the last one
-    /// The last cached frame's time, when the reader is on its way back there.
+    /// Time of the last cached frame while the reader is returning there.
     std::optional<double> m_returnsTo;
-    std::optional<double> m_returnedTo; ///< the focus that it has been sent to already
+    std::optional<double> m_returnedTo; ///< the focus for which it has already returned
 };
 
 } // namespace QtAV

@@ -4,8 +4,8 @@
 
 namespace QtAV {
 
-/// The time of playback in seconds, by a monotonic clock: what the pictures follow where no sound
-/// leads. Stands still until it is started. Goes as fast as real time times a speed.
+/// Playback time in seconds by a monotonic clock, used for the pictures where no sound leads. It
+/// stands still until started, and runs at real time multiplied by a speed.
 class PlaybackClock
 {
 public:

@@ -11,13 +11,15 @@
 
 namespace QtAV {
 
-/// The commands for a decoding thread that it has not taken yet.
+/// The wait queue of commands for a decoding thread.
 ///
-/// At most one file, one seek and a number of steps wait at a time: a newer file replaces all, a
-/// newer seek the seeks and steps before it, and steps in opposite directions cancel each other.
+/// It holds at most one file, one seek and a number of steps: a newer file replaces everything, a
+/// newer seek replaces the seeks and steps before it, and steps in opposite directions cancel each
+/// other.
 ///
-/// Not thread-safe: the owner's mutex guards it. Only the questions marked so may be asked without
-/// that, by the decoding thread at work, which stops when the answer is true.
+/// Not thread-safe: the owner's mutex guards it. Only the functions marked "from any thread" may be
+/// called without it. The decoding thread polls them while it works and stops when they return
+/// true.
 class PlaybackCommands
 {
 public:
@@ -25,7 +27,7 @@ public:
 
     struct File
     {
-        QString path;          ///< empty to close the one that is open
+        QString path;          ///< empty to close the open file
         qint64 cacheBytes = 0; ///< see FrameSource::open()
         quint64 serial = 0;
     };
@@ -45,52 +47,52 @@ public:
         quint64 serial;
     };
 
-    /// One second of a keyboard's repeat: more would go on long after the key was released.
+    /// One second of keyboard repeat: more steps would continue long after the key was released.
     static constexpr int mostWaitingSteps = 30;
 
-    /// More are asked for by mistake only, and each holds a frame.
+    /// More are requested only by mistake, and each holds a frame.
     static constexpr size_t mostWaitingCaptures = 8;
 
-    /// Each gives the command's serial number, which rises. Further steps than may wait in one
+    /// Each returns the command's serial number, which rises. Steps beyond the maximum in one
     /// direction are dropped.
     quint64 open(const QString& path, qint64 cacheBytes);
     quint64 close();
     quint64 seek(qint64 ms);
     quint64 step(Direction direction);
-    /// Nothing replaces a capture. 0 when too many wait.
+    /// Nothing replaces a capture. Returns 0 if too many wait.
     [[nodiscard]] quint64 capture(const VideoFrame& frame);
-    /// The thread is to end. All that waits is dropped.
+    /// Ends the thread and drops all waiting commands.
     void quit();
 
     bool quits() const { return m_quits; }
     bool hasFile() const { return m_file.has_value(); }
     bool hasSeek() const { return m_seek.has_value(); }
-    /// The direction of the next step that waits.
+    /// Direction of the next waiting step.
     std::optional<Direction> nextStep() const;
 
     bool hasCapture() const { return !m_captures.empty(); }
 
-    /// Each takes a command that waits; to be called only where there is one.
+    /// Each takes a waiting command; call it only if there is one.
     Capture takeCapture();
     File takeFile();
     Seek takeSeek();
-    /// To be followed by endStep() once the step has been made or given up.
+    /// Call endStep() after the step has been carried out or abandoned.
     Step takeStep();
 
-    /// False when a step in the other direction or a seek has come meanwhile: then nothing is to
-    /// change, and nothing to be answered.
+    /// False if a step in the other direction or a seek has arrived meanwhile: the step then must
+    /// have no effect and no answer.
     [[nodiscard]] bool endStep();
 
-    /// No command has arrived since, until the next one does.
+    /// Clears hasArrived() until the next command arrives.
     void acknowledge() { m_hasArrived = false; }
 
     /// From any thread: a command has arrived since acknowledge().
     bool hasArrived() const { return m_hasArrived; }
-    /// From any thread: what is being opened is not wanted any more.
+    /// From any thread: the file being opened is no longer wanted.
     bool isFileOutdated() const { return m_isFileOutdated; }
-    /// From any thread: what is sought is not wanted any more.
+    /// From any thread: the current seek is no longer wanted.
     bool isSeekOutdated() const { return m_isSeekOutdated; }
-    /// From any thread: the step that has been taken is not wanted any more.
+    /// From any thread: the step taken is no longer wanted.
     bool isStepOutdated() const { return m_isStepOutdated; }
 
 private:
@@ -101,9 +103,9 @@ private:
     std::deque<Capture> m_captures;
     std::optional<File> m_file;
     std::optional<Seek> m_seek;
-    int m_steps = 0; ///< that wait; negative ones go backward
+    int m_steps = 0; ///< waiting steps; negative means backward
     quint64 m_stepSerial = 0;
-    std::optional<Direction> m_taken; ///< of the step that is being made
+    std::optional<Direction> m_taken; ///< of the step in progress
     bool m_quits = false;
     std::atomic<bool> m_hasArrived{false};
     std::atomic<bool> m_isFileOutdated{false};

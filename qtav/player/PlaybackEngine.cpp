@@ -10,7 +10,7 @@ namespace QtAV {
 
 namespace {
 
-/// Further behind than this, decoding leaves frames out to catch up with the sound.
+/// Further behind than this, decoding skips frames to catch up with the sound.
 constexpr double mostLagSeconds = 0.5;
 
 } // namespace
@@ -30,7 +30,7 @@ PlaybackEngine::~PlaybackEngine()
     m_thread.join();
 }
 
-/// Called with the mutex held, as are all below that touch what it guards.
+/// Call with the mutex held, like all functions below that access what it guards.
 quint64 PlaybackEngine::posted(quint64 serial)
 {
     m_changed.notify_one();
@@ -179,7 +179,7 @@ void PlaybackEngine::run()
     }
 }
 
-/// Does what is most urgent; false when there is nothing to do.
+/// Does the most urgent work; returns false if there is none.
 bool PlaybackEngine::workOnce(Lock& lock)
 {
     m_commands.acknowledge();
@@ -210,7 +210,7 @@ bool PlaybackEngine::workOnce(Lock& lock)
     return true;
 }
 
-/// Before everything else, since the frame is of the file that is still open.
+/// Comes before all other work because the frame belongs to the file that is still open.
 void PlaybackEngine::carryOutCapture(Lock& lock)
 {
     PlaybackCommands::Capture capture = m_commands.takeCapture();
@@ -299,8 +299,8 @@ void PlaybackEngine::carryOutSeek(Lock& lock)
     answer({Answer::Kind::Sought, seek.serial, std::move(found)});
 }
 
-/// A place that cannot be read costs only itself: the frame on screen stays as long as it could
-/// still be had from the file.
+/// A place that cannot be read affects only itself: the frame on screen stays as long as the file
+/// can still deliver it.
 FrameResult PlaybackEngine::stayingAt(const VideoFrame& frame, FrameResult failed,
                                       const IsCancelled& isCancelled)
 {
@@ -371,7 +371,7 @@ void PlaybackEngine::decodeAhead(Lock& lock)
     if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled) {
         return;
     }
-    // Catching up at the end of the video may give the frame that was there before.
+    // Catching up at the end of the video may give the same frame again.
     const bool isNew = found.answer == FrameAnswer::Frame && found.frame.timestamp() > from;
     if (isNew) {
         m_queue.push_back(found.frame);
@@ -385,14 +385,14 @@ void PlaybackEngine::decodeAhead(Lock& lock)
     }
 }
 
-/// Whether only a step back waits, and is to wait longer: see StepPacing.
+/// Whether only a step back waits, and must wait longer: see StepPacing.
 bool PlaybackEngine::isTooSoon() const
 {
     return m_commands.nextStep() == Direction::Backward && !m_playing &&
            std::chrono::steady_clock::now() < m_noStepBackBefore;
 }
 
-/// Decodes on until the step is due, or what it waits for is there.
+/// Decodes ahead until the step is due, or the frames that it waits for are there.
 void PlaybackEngine::prepareForStep(Lock& lock)
 {
     const Time due = m_noStepBackBefore;
@@ -427,7 +427,7 @@ void PlaybackEngine::prepare(Lock& lock)
     }
 }
 
-/// Gives the current frame once more, as it is to be deinterlaced now.
+/// Delivers the current frame again with the new deinterlacing setting.
 void PlaybackEngine::makeAnew(Lock& lock)
 {
     const double seconds = m_current.timestamp();
@@ -437,7 +437,7 @@ void PlaybackEngine::makeAnew(Lock& lock)
     const FrameResult found =
         m_source.decodeAnew(seconds, [this] { return m_commands.hasArrived(); });
     lock.lock();
-    // What has come meanwhile may have made it another frame, or have interrupted this.
+    // A command that has arrived meanwhile may have changed the frame or interrupted this.
     if (generation != m_queueGeneration || found.answer == FrameAnswer::Cancelled) {
         return;
     }
@@ -450,7 +450,7 @@ void PlaybackEngine::makeAnew(Lock& lock)
     answer({Answer::Kind::Refined, m_currentSerial, found});
 }
 
-/// Gives the current frame once more when it has come in full size meanwhile.
+/// Delivers the current frame again once it is available in full size.
 void PlaybackEngine::refine()
 {
     if (!m_current.isScaledDown() || m_commands.hasArrived()) {

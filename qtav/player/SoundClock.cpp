@@ -6,7 +6,7 @@ namespace QtAV {
 
 namespace {
 
-/// Longer than a block, for what is known of it comes with some delay.
+/// Longer than a block, because what is known about it comes with some delay.
 constexpr double spanToBlock = 1.2;
 
 double secondsBetween(SoundClock::Time from, SoundClock::Time to)

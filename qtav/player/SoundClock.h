@@ -5,16 +5,16 @@
 
 namespace QtAV {
 
-/// Tells the time that is heard from how much a sound device has taken.
+/// Derives the time that is heard from the amount of sound that a device has taken.
 ///
-/// A device takes samples in blocks, which may last for a fifth of a second, and systems say only
-/// what has been taken, not how much of it is still to be heard. But a block is taken when the one
-/// before has been played, and just then the two are the same. So what is heard runs evenly, as
-/// far behind real time as what was taken is at most.
+/// A device takes samples in blocks, which may last up to a fifth of a second. Systems report only
+/// what has been taken, not how much of it is still to be heard. A block is taken when the previous
+/// one has been played, and at that moment both amounts are equal. So the heard time runs evenly,
+/// behind real time by the largest lag of the taken amount.
 ///
-/// On a busy machine it may be known late what was taken, once in a while; after an interruption
-/// all is later. To tell the one from the other, what is believed is the median of three spans,
-/// each long enough for a block to begin in it.
+/// A busy machine occasionally notices late what was taken, while after an interruption everything
+/// is later. To tell these apart, the estimate is the median of three spans, each long enough for a
+/// block to begin in it.
 ///
 /// Not thread-safe, but tied to no thread.
 class SoundClock
@@ -22,12 +22,12 @@ class SoundClock
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    /// The device begins with its next samples, of which nothing is heard yet.
-    /// @param longestBlock  no more than this is taken at once, in seconds.
+    /// The device starts with its next samples, none of which has been heard yet.
+    /// @param longestBlock  maximum length of a block, in seconds.
     void reset(double longestBlock, Time now);
 
-    /// Looks at how much has been taken since reset(), in seconds, and gives how much of that has
-    /// been heard. It knows the better the oftener it looks.
+    /// Records how many seconds of sound have been taken since reset() and returns how many of
+    /// these have been heard. Call it often for accuracy.
     double heard(double takenSeconds, Time now);
 
 private:
@@ -36,7 +36,7 @@ private:
     double m_spanSeconds = 0.0;
     Time m_start;     ///< when nothing had been taken for the last time
     Time m_spanStart; ///< of the last of the three
-    /// How far behind the time since the start, in seconds, what was taken was at most in each.
+    /// Largest lag of the taken amount behind the time since the start, in seconds, per span.
     std::array<double, 3> m_lags{};
 };
 

@@ -17,7 +17,7 @@ namespace QtAV {
 
 namespace {
 
-// What Qt Multimedia calls a device and its output, and which samples of 16 bits it takes.
+// Names of a device and its output in Qt Multimedia, and the format of its 16-bit samples.
 #if QT_VERSION_MAJOR >= 6
 using DeviceInfo = QAudioDevice;
 using Output = QAudioSink;
@@ -73,7 +73,7 @@ QAudioFormat formatFor(const DeviceInfo& info, int preferredRate)
 }
 #endif
 
-/// A device of Qt Multimedia's.
+/// A device of Qt Multimedia.
 class SystemDevice : public SoundDevice
 {
 public:
@@ -98,14 +98,14 @@ public:
     {
         const bool isStarved =
             m_output.state() == QAudio::IdleState && m_output.error() == QAudio::UnderrunError;
-        // A device that was taken away has nothing free, not even nothing.
+        // For a device that was removed, bytesFree() is negative.
         const bool isThere = m_output.bytesFree() >= 0;
         return isThere && (m_output.state() == QAudio::ActiveState || isStarved);
     }
 
     double heardSeconds() override
     {
-        // What was read from the source less what still waits for the device to take it.
+        // Read from the source minus what still waits for the device.
         const auto buffered =
             std::max(0, static_cast<int>(m_output.bufferSize() - m_output.bytesFree()));
         const qint64 us = m_output.processedUSecs() - m_format.durationForBytes(buffered);

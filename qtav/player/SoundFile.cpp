@@ -13,23 +13,23 @@ namespace QtAV {
 
 namespace {
 
-/// Decoding begins this much earlier: sound codecs need some packets to come into their own.
+/// Decoding begins this much earlier: sound codecs need some packets to settle.
 constexpr double leadSeconds = 0.3;
 
-/// How far to land before the target, where a container's jump ends behind it.
+/// How far before the target to land if a container's seek ends behind it.
 constexpr double stepsBackSeconds[] = {0.0, 2.0, 10.0};
 
-/// Sound whose times are further off than this is moved to where they say.
+/// Sound whose times deviate more than this is moved to where they say.
 constexpr double mostOffsetSeconds = 0.05;
 
-/// No gap that damaged times claim is filled with more silence than this.
+/// Maximum silence that fills a gap, which damaged times may claim to be any length.
 constexpr double longestSilenceSeconds = 3600.0;
 
 } // namespace
 
 bool SoundFile::open(const QString& path, QString& error)
 {
-    // The thread of sound is left behind where the disk does not answer: see SoundPlayer.
+    // If the disk does not answer, the sound thread is abandoned: see SoundPlayer.
     const IsCancelled never = [] { return false; };
     m_file = Container::open(path, never, error);
     if (!m_file) {
@@ -64,7 +64,7 @@ void SoundFile::setFormat(int sampleRate, int channels, double speed)
     makeTempo();
 }
 
-/// A new one knows nothing of what was heard before.
+/// A new object, because the old one still holds sound from before.
 void SoundFile::makeTempo()
 {
     const bool isWanted = m_speed != 1.0 && m_speed >= SoundTempo::slowestSpeed &&
@@ -87,7 +87,7 @@ bool SoundFile::seek(double seconds)
         m_placed.clear();
         m_ready.clear();
         m_readyFrom = 0;
-        m_made = -1; // the first frame places itself
+        m_made = -1; // the first frame determines its own position
         m_toSkip = 0;
         m_isDrained = false;
         if (!decodeMore()) {
@@ -104,7 +104,7 @@ bool SoundFile::seek(double seconds)
 bool SoundFile::goTo(double seconds)
 {
     const auto ms = static_cast<qint64>(std::max(0.0, seconds) * 1000.0);
-    // PCM files go to exactly the tick they are asked for, and a millisecond has many.
+    // Seeks in PCM files reach exactly the requested tick, and a millisecond has many.
     return m_file->seekNear(m_stream, m_timeline.lastTickOf(ms - 1)) ||
            (seconds <= 0.0 && m_file->reopen());
 }
@@ -128,7 +128,7 @@ qint64 SoundFile::read(char* data, qint64 bytes)
     return done;
 }
 
-/// False at the end.
+/// Returns false at the end.
 bool SoundFile::makeMore()
 {
     if (decodeMore()) {
@@ -140,7 +140,7 @@ bool SoundFile::makeMore()
     return m_readyFrom < m_ready.size();
 }
 
-/// Decodes one more frame; false at the end.
+/// Decodes one more frame; returns false at the end.
 bool SoundFile::decodeMore()
 {
     if (m_readyFrom == m_ready.size()) {
@@ -158,14 +158,14 @@ bool SoundFile::decodeMore()
         if (result == AVERROR_EOF || m_isDrained) {
             return false;
         }
-        // What a damaged packet fails with is over with the next one.
+        // The error of a damaged packet does not affect the next one.
         if (!sendPacket()) {
             m_isDrained = true;
         }
     }
 }
 
-/// False when no packet is left and the decoder drains.
+/// Returns false when no packet is left and the decoder drains.
 bool SoundFile::sendPacket()
 {
     PacketPtr packet;
@@ -184,7 +184,7 @@ bool SoundFile::sendPacket()
 
 void SoundFile::passOn()
 {
-    // Without the tempo's sound there is none, but the next seek makes another one.
+    // Without SoundTempo there is no sound, but the next seek creates another one.
     if (!m_tempo) {
         m_ready.append(m_placed);
     } else if (!m_tempo->put(m_placed, m_ready)) {
@@ -206,13 +206,14 @@ void SoundFile::take(const AVFrame& frame)
     convert(&frame);
 }
 
-/// How many samples that are given last as long as a stretch of the file.
+/// How many output samples cover a duration of the file.
 qint64 SoundFile::samplesFor(double fileSeconds) const
 {
     return std::llround(fileSeconds * m_rate / m_tapeSpeed);
 }
 
-/// Puts what is converted next where its time says: behind silence, or cut off at its beginning.
+/// Places the next converted samples at their time: behind silence, or truncated at their
+/// beginning.
 void SoundFile::placeAt(double seconds)
 {
     const bool isFirst = m_made < 0;
@@ -273,7 +274,7 @@ bool SoundFile::prepareResampler(const AVFrame& frame)
     AVChannelLayout out{};
     av_channel_layout_default(&out, m_channels);
     SwrContext* context = nullptr;
-    // Samples that are taken to come faster than they do are given in less time.
+    // Declaring a higher input rate makes the samples take less time.
     const auto inputRate = static_cast<int>(std::lround(frame.sample_rate * m_tapeSpeed));
     const int result =
         swr_alloc_set_opts2(&context, &out, AV_SAMPLE_FMT_S16, m_rate, &in,

@@ -14,30 +14,30 @@ namespace QtAV {
 /// The sound of a file as one stream of samples: interleaved, 16 bit, signed, in the machine's
 /// byte order.
 ///
-/// It opens the file for itself: sound is read from another place than pictures, as far ahead as
-/// the device wants it, and a seek of the one need not disturb the other.
+/// It opens the file a second time: sound is read at another place than pictures, as far ahead as
+/// the device needs it, and seeks of one do not disturb the other.
 ///
 /// Not thread-safe, but tied to no thread.
 class SoundFile
 {
 public:
-    /// Opens the first audio stream. False, with a text for people, when there is none or none
-    /// that can be decoded.
+    /// Opens the first audio stream. Returns false, with a text for people, if there is none that
+    /// can be decoded.
     [[nodiscard]] bool open(const QString& path, QString& error);
 
-    /// The stream's own, which need no conversion.
+    /// The sample rate and channels of the stream, which need no conversion.
     int sampleRate() const { return m_decoder->sample_rate; }
 
-    /// What read() gives from the next seek on: so many seconds of the file in one second of
-    /// samples. The pitch stays; where FFmpeg has no filter for that, and beyond what SoundTempo
-    /// makes, it goes with the speed, as that of a tape does.
+    /// Format and speed of what read() gives, from the next seek on; the speed is seconds of the
+    /// file per second of samples. The pitch is kept. Without an FFmpeg filter for that, and beyond
+    /// the range of SoundTempo, it follows the speed, as on a tape.
     void setFormat(int sampleRate, int channels, double speed = 1.0);
 
-    /// The next sample that read() gives is the one at this time in seconds; silence where the
-    /// sound begins later. False when the file cannot be read.
+    /// Sets the time in seconds of the next sample that read() gives; silence where the sound
+    /// begins later. Returns false if the file cannot be read.
     [[nodiscard]] bool seek(double seconds);
 
-    /// Fills a buffer with samples. Less than asked for only at the end of the sound.
+    /// Fills a buffer with samples. Gives fewer than requested only at the end of the sound.
     [[nodiscard]] qint64 read(char* data, qint64 bytes);
 
 private:
@@ -65,15 +65,15 @@ private:
     int m_rate = 48000;
     int m_channels = 2;
     double m_speed = 1.0;
-    double m_tapeSpeed = 1.0;            ///< what of that changes the pitch
-    std::unique_ptr<SoundTempo> m_tempo; ///< makes the rest of it; null for none
-    double m_start = 0.0;                ///< what was sought, in seconds
-    qint64 m_made = 0;                   ///< samples of a channel placed since then
-    qint64 m_toSkip = 0;                 ///< samples of a channel that come before it
+    double m_tapeSpeed = 1.0;            ///< the part of the speed that changes the pitch
+    std::unique_ptr<SoundTempo> m_tempo; ///< handles the rest of the speed; null if not needed
+    double m_start = 0.0;                ///< the position of the last seek, in seconds
+    qint64 m_made = 0;                   ///< samples per channel placed since then
+    qint64 m_toSkip = 0;                 ///< samples per channel before it that are skipped
     bool m_isDrained = false;
-    QByteArray m_placed; ///< converted, and in its place in time
-    QByteArray m_ready;  ///< the same at the speed that is wanted, and not yet read
-    int m_readyFrom = 0; ///< in bytes
+    QByteArray m_placed; ///< converted samples at their place in time
+    QByteArray m_ready;  ///< the same at the requested speed, not yet read
+    int m_readyFrom = 0; ///< read position in m_ready, in bytes
 };
 
 } // namespace QtAV

@@ -10,12 +10,12 @@
 
 namespace QtAV {
 
-/// Plays the sound of one file in a thread of its own and gives the time by it.
+/// Plays the sound of one file on its own thread and provides its time.
 ///
-/// Where there is no device, or it fails, the sound falls silent and gives no time; nothing else
-/// happens. A worker that a device blocks is left behind with its thread, which ends by itself if
-/// the device ever returns; the next open() or play() starts another one. All functions are for
-/// the thread that made the player, and only the destructor waits.
+/// If there is no device, or it fails, there is silence and no time, and nothing else happens. A
+/// worker that is blocked by a device is abandoned with its thread, which ends by itself if the
+/// device ever returns; the next open() or play() starts another one. All functions must be called
+/// from the thread that created the player, and only the destructor waits.
 class SoundPlayer
 {
 public:
@@ -40,7 +40,7 @@ public:
     /// From 0 to 1; 0 is silence.
     void setVolume(qreal volume);
 
-    /// The time in seconds that can be heard now; nothing while no sound comes out.
+    /// The time in seconds that is heard now; nothing while no sound is played.
     std::optional<double> position() const;
 
 private:

@@ -8,7 +8,7 @@
 
 namespace QtAV {
 
-/// Makes sound last longer or shorter without changing its pitch, by FFmpeg's filter `atempo`.
+/// Stretches or shortens sound without changing its pitch, using FFmpeg's filter `atempo`.
 ///
 /// Samples are interleaved, of 16 bits, signed, in the machine's byte order. One thread at a time
 /// may use an object.
@@ -18,16 +18,15 @@ public:
     static constexpr double slowestSpeed = 0.5;
     static constexpr double fastestSpeed = 2.0;
 
-    /// @param speed  how many seconds of sound are given in one: from slowestSpeed to fastestSpeed
-    /// @return null where FFmpeg has no such filter, or no memory is left
+    /// @param speed  seconds of sound per second of output: from slowestSpeed to fastestSpeed
+    /// @return null if FFmpeg lacks the filter or memory runs out
     [[nodiscard]] static std::unique_ptr<SoundTempo> make(int sampleRate, int channels,
                                                           double speed);
 
-    /// Takes samples, whole ones of all channels, and appends to `out` what has become of those
-    /// taken so far. The last of them come with later ones, or with finish(). False when that
-    /// failed.
+    /// Takes samples, complete for all channels, and appends the output available so far to `out`.
+    /// The rest follows with later samples or with finish(). Returns false if that failed.
     [[nodiscard]] bool put(const QByteArray& samples, QByteArray& out);
-    /// No more samples come: appends the rest. Only the first call gives something.
+    /// Ends the input and appends the rest. Only the first call has an effect.
     void finish(QByteArray& out);
 
 private:
@@ -40,9 +39,9 @@ private:
     int m_rate;
     int m_channels;
     FilterGraphPtr m_graph;
-    AVFilterContext* m_source = nullptr; ///< of m_graph
-    AVFilterContext* m_sink = nullptr;   ///< of m_graph
-    qint64 m_taken = 0;                  ///< samples of a channel
+    AVFilterContext* m_source = nullptr; ///< owned by m_graph
+    AVFilterContext* m_sink = nullptr;   ///< owned by m_graph
+    qint64 m_taken = 0;                  ///< in samples per channel
     bool m_isFinished = false;
 };
 

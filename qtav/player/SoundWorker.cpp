@@ -225,7 +225,7 @@ void SoundWorker::stopDevice()
     report(std::nullopt);
 }
 
-/// A device that failed, or has played everything, gives no time any more.
+/// A device that failed, or has played everything, no longer provides the time.
 void SoundWorker::reportTime()
 {
     beginWork();

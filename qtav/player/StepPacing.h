@@ -9,22 +9,22 @@ namespace QtAV {
 
 /// Spreads steps back over the time that decoding more frames takes.
 ///
-/// Steps that come as soon as the one before is answered use the cached frames up in a moment, and
-/// then all wait for the frames before those, which a pass of decoding gives only at its end.
-/// Answered evenly, the same steps are done at the same time, and none of them seems to hang.
+/// Steps that follow each other without delay use up the cached frames in a moment, and then all
+/// wait for frames that a pass of decoding gives only at its end. Evenly spread, the same steps are
+/// done at the same time, and none of them seems to hang.
 class StepPacing
 {
 public:
     using Duration = std::chrono::duration<double>;
 
-    /// Steps are not spread further apart than this: more looks like a program that hangs.
+    /// Maximum pause between steps: a longer one looks as if the program hangs.
     static constexpr Duration longestPause{1.0};
-    /// About what a step takes by itself. A shorter pause makes no difference.
+    /// Duration of a step itself. A shorter pause makes no difference.
     static constexpr Duration shortestPause{0.004};
 
-    /// How long after a step back the next one is to be answered.
-    /// @param framesLeft    how many frames are there for further steps.
-    /// @param secondsToMore how long it takes until there are more; nothing when none are needed.
+    /// Pause after a step back before the next one is answered.
+    /// @param framesLeft    number of frames available for further steps.
+    /// @param secondsToMore time until there are more, in seconds; nothing if none are needed.
     [[nodiscard]] static Duration pauseFor(qint64 framesLeft, std::optional<double> secondsToMore);
 };
 

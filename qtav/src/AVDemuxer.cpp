@@ -20,13 +20,13 @@ namespace QtAV {
 
 namespace {
 
-/// More frames than any decoder holds back: re-ordering keeps at most 16, and as many threads.
+/// More frames than any decoder holds back: at most 16 for reordering, and one per thread.
 constexpr int mostHeldFrames = 64;
 
-/// Positions behind this are the end of any video, and small enough to be calculated with.
+/// Later positions are behind the end of any video. Small enough to avoid overflow.
 constexpr qint64 lastPositionMs = qint64(1) << 40;
 
-/// An index that ends further before the end of the video does not hold all of it.
+/// An index that ends further before the end of the video does not cover all of it.
 constexpr qint64 longestGroupMs = 20000;
 
 QList<int> listOf(const QVector<int>& streams)
@@ -65,7 +65,7 @@ public:
     qint64 usualStepBackMs = 0;
 
     bool positioned = false;
-    bool lost = false;          ///< reading failed for good, or was interrupted: only a seek helps
+    bool lost = false;          ///< reading failed for good or was interrupted: only a seek helps
     std::deque<PacketPtr> kept; ///< read by the last seek
     bool fileEnded = false;
     int drainsLeft = 0;
@@ -169,7 +169,7 @@ bool AVDemuxer::Private::selectVideo(int streamNumber)
     return isReady;
 }
 
-/// Measuring the length has moved the file: reading begins at its start all the same.
+/// Measuring the length changes the position in the file; reading must still begin at its start.
 bool AVDemuxer::Private::ensurePosition()
 {
     if (positioned) {
@@ -207,7 +207,7 @@ void AVDemuxer::Private::takePacket(PacketPtr source)
     }
     ++videoPackets;
     lastVideoPts = packet.pts;
-    // The file goes on behind what was taken for its end.
+    // The file continues behind its supposed end.
     const qint64 ms = toMilliseconds(packet.pts);
     if (ms > duration) {
         duration = ms + toMilliseconds(packet.duration);
@@ -362,8 +362,8 @@ QVector<qint64> AVDemuxer::indexedKeyFrames()
     if (!d->video) {
         return {};
     }
-    // The index tells when pictures are decoded. Those that wait for others to be shown before them
-    // are shown later by as many frames as the decoder holds back.
+    // The index holds decoding times. Reordered pictures are shown later, by as many frames as the
+    // decoder holds back.
     const StreamParameters& parameters = *d->video->parameters();
     const double delayMs = parameters.codec->video_delay * frameDurationMs();
     QVector<qint64> keys = d->container->indexedKeyFrames(d->video->stream());

@@ -11,14 +11,14 @@ namespace QtAV {
 
 namespace {
 
-/// Larger ones are no boxes of this kind.
+/// A larger box is not of this kind.
 constexpr qint64 largestDescription = 1 << 20;
 
-/// The fixed part of a box in `stsd`, and of what describes pictures in it, up to the boxes inside.
+/// Size of the fixed part of a box in `stsd` and of a video sample entry, before the boxes inside.
 constexpr qint64 listHeaderBytes = 8;
 constexpr qint64 entryHeaderBytes = 8 + 78;
 
-/// The track's number, behind the header's times, which have 4 or 8 bytes each.
+/// The track's number, which follows the header's times of 4 or 8 bytes each.
 int trackNumber(Mp4Boxes& boxes, const Mp4Box& header)
 {
     const QByteArray data = boxes.read(header.begin, 24);
@@ -44,7 +44,7 @@ std::optional<Mp4Box> descriptionOf(Mp4Boxes& boxes, qint64 fileBytes, int track
     return std::nullopt;
 }
 
-/// A fraction of two numbers of 32 bits.
+/// A fraction of two 32-bit numbers.
 std::optional<double> fraction(const QByteArray& data, int index)
 {
     const auto numerator = qFromBigEndian<qint32>(data.constData() + 8 * index);
@@ -65,7 +65,7 @@ std::optional<QRect> apertureFrom(const QByteArray& data, const QSize& stored)
     if (!width || !height || !x || !y) {
         return std::nullopt;
     }
-    // The offsets are those of the middle.
+    // The offsets are those of the centre.
     const QRect aperture(static_cast<int>(std::lround((stored.width() - *width) / 2.0 + *x)),
                          static_cast<int>(std::lround((stored.height() - *height) / 2.0 + *y)),
                          static_cast<int>(std::lround(*width)),
@@ -84,7 +84,7 @@ std::optional<QRect> cleanApertureOf(FileInput& input, int track, const QSize& s
     if (!list || list->end - list->begin > largestDescription) {
         return std::nullopt;
     }
-    // The first entry is the one that FFmpeg decodes by.
+    // FFmpeg decodes by the first entry.
     const Mp4Box entry{list->begin + listHeaderBytes + entryHeaderBytes, list->end};
     const std::optional<Mp4Box> aperture = boxes.find("clap", entry);
     if (!aperture || aperture->end - aperture->begin < 32) {

@@ -9,9 +9,9 @@
 
 namespace QtAV {
 
-/// The part of a track's pictures that an MP4 or QuickTime file wants shown, in pixels as stored:
-/// cameras and capture cards store columns beside it that hold no picture. Nothing where the file
-/// does not say, or says nonsense. Reads the file's boxes, not its pictures.
+/// The part of a track's pictures that an MP4 or QuickTime file declares visible, in stored pixels.
+/// Cameras and capture cards store columns outside it that hold no picture. Nothing if the file
+/// does not state it or states nonsense. Reads the file's boxes, not its pictures.
 ///
 /// @param track   the track's number in the file
 /// @param stored  the size of its pictures

@@ -9,12 +9,11 @@ namespace QtAV {
 
 namespace {
 
-/// A table of this many entries and one is finer than what it is asked for, and stays near the
-/// processor.
+/// A table with this many steps is precise enough and still fits into the processor's cache.
 constexpr int steps = 4096;
 
-/// As far from the nearest colour inside as a colour outside may be shown, at black and at white:
-/// less than ten of 255.
+/// Maximum distance of a shown colour from the nearest colour inside, at black and at white: less
+/// than ten of 255.
 constexpr float outsideAtBlack = 0.002F;
 constexpr float outsideAtWhite = 0.06F;
 
@@ -54,7 +53,7 @@ void lookUp(const float* __restrict table, float* __restrict values, size_t coun
     }
 }
 
-/// Apart from the look-up, so that several are taken at once.
+/// Separate from the look-up, so that several are computed at once.
 FOR_SEVERAL_PROCESSORS
 void takeRoots(float* __restrict values, size_t count)
 {
@@ -109,15 +108,15 @@ inline float cut(float value)
     return std::min(std::max(value, 0.0F), 1.0F);
 }
 
-/// Towards where a colour outside comes in on the way to its grey, by little.
+/// Moves slightly towards the point where an outside colour enters on the way to its grey.
 inline float softened(float inside, float faded)
 {
     const float most = outsideAtBlack + outsideAtWhite * inside;
     return inside + std::min(std::max(faded - inside, -most), most);
 }
 
-/// Cuts colours outside off. On top of that they are faded a little, the more the further outside
-/// they are: else surfaces of strong colour lose all their drawing.
+/// Clips colours outside. Also fades them a little, more so the further outside they are: otherwise
+/// surfaces of strong colour would lose all detail.
 FOR_SEVERAL_PROCESSORS
 void cutSoftly(float* __restrict red, float* __restrict green, float* __restrict blue, size_t count)
 {

@@ -21,13 +21,13 @@ struct RgbLine
     std::vector<float> blue;
 };
 
-/// Makes sRGB of pictures with high dynamic range or other primaries.
+/// Converts pictures with high dynamic range or other primaries to sRGB.
 ///
-/// Light beyond white is brought down by ITU-R BT.2390's curve, by the brightest of the three
-/// channels, so that no colour changes its hue; white of the result is 203 cd/m². Colours outside
-/// sRGB become the nearest inside, with some of their differences kept.
+/// Light beyond white is compressed by ITU-R BT.2390's curve. The curve is applied to the brightest
+/// of the three channels, so that no colour changes its hue; white of the result is 203 cd/m².
+/// Colours outside sRGB become the nearest ones inside, and keep some of their differences.
 ///
-/// Immutable once made, so that several threads may use it.
+/// Immutable once made, so several threads may use it.
 class ColourMap
 {
 public:
@@ -36,7 +36,7 @@ public:
 
     const Colours& colours() const { return m_colours; }
 
-    /// From the picture's own R'G'B' to that of sRGB, all 0 to 1; what lies outside is cut off.
+    /// Converts the picture's own R'G'B' to that of sRGB, all 0 to 1; values outside are clipped.
     void apply(RgbLine& line) const;
 
 private:
@@ -44,11 +44,12 @@ private:
 
     Colours m_colours;
     bool m_isHdr;
-    float m_brightest; ///< of light, white being 1
+    float m_brightest; ///< of light, relative to white
     Table m_light;     ///< by value
-    Table m_system;    ///< HLG: what light of the display is to that of the scene, by its root
-    Table m_gain;      ///< by the root of light, less than or equal to 1
-    Table m_values;    ///< sRGB's value, by the root of light
+    Table m_system;    ///< HLG: the ratio of display light to scene light, by the root of the
+                       ///< latter
+    Table m_gain;      ///< by the root of light, at most 1
+    Table m_values;    ///< the sRGB value, by the root of light
     std::array<float, 9> m_matrix;
 };
 

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double usualPeakNits = 1000.0;
 
-/// Less is no statement, and more than PQ has is none either.
+/// Values outside this range are not valid statements; PQ ends at the upper limit.
 constexpr double leastPeakNits = 100.0;
 constexpr double brightestNits = 10000.0;
 
@@ -36,7 +36,7 @@ double hlgC()
     return 0.5 - hlgA * std::log(4.0 * hlgA);
 }
 
-/// Copies a statement of the stream for a picture; without memory it goes without.
+/// Copies side data of the stream to a picture. Skips it when memory runs out.
 void addSideData(AVFrame& frame, AVFrameSideDataType type, const SideData& data)
 {
     AVFrameSideData* const copy =
@@ -111,7 +111,7 @@ Colours::Primaries primariesOf(const AVFrame& frame)
     default:
         break;
     }
-    // High dynamic range comes with these, also where a file leaves them out.
+    // The defaults for high dynamic range if the file does not state them.
     const bool isHdr = transferOf(frame) != Colours::Transfer::Standard;
     return isHdr && frame.color_primaries == AVCOL_PRI_UNSPECIFIED ? Colours::Primaries::Bt2020
                                                                    : Colours::Primaries::Standard;

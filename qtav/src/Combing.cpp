@@ -12,38 +12,38 @@ namespace QtAV {
 
 namespace {
 
-/// Pictures are judged in tiles, for something small may move in front of something that does not.
+/// Pictures are judged in tiles, because something small may move in front of something still.
 constexpr int tileWidth = 64;
 constexpr int tileLines = 16; ///< of the second field
 
-/// Differences of less, in levels of 8 bits, are noise.
+/// Smaller differences, in levels of 8 bits, are noise.
 constexpr int combNoise = 6;
-/// A sample and its neighbours above and below have moved when they differ by more in all.
+/// A sample and its neighbours above and below have moved if they differ by more in total.
 constexpr int motionNoise = 28;
-/// The mean comb, over all samples of a tile, that can be seen.
+/// The mean comb over all samples of a tile from which on it is visible.
 constexpr double visibleComb = 0.75;
 
-/// Two moments stick out of each other about as much as out of the next one: by so much less at
-/// most…
+/// Two moments stick out of each other about as much as out of the next one: at most by this factor
+/// less…
 constexpr double asGoodAsOther = 1.35;
-/// …and more than lines of one field do out of each other, by so much.
+/// …and more than the lines of one field stick out of each other, by this factor.
 constexpr double moreThanDetail = 1.5;
 
-/// Fields that fit leave at most so much of the comb, which is what fine detail and noise leave.
+/// Matching fields leave at most this fraction of the comb, which comes from fine detail and noise.
 constexpr double combOfFitting = 0.7;
 
-/// A field that is shown once more differs in so few samples, beside those of the other field.
+/// A repeated field differs in so few samples relative to the other field.
 constexpr int movedOfRepeated = 10; // per cent
-constexpr int fewestMoved = 64;     ///< else nothing moves in either
+constexpr int fewestMoved = 64;     ///< otherwise nothing moves in either
 
-/// Which pictures the two fields of a picture come from.
+/// The pictures that the two fields of a picture are taken from.
 struct Weave
 {
     const AVFrame* first = nullptr;
     const AVFrame* second = nullptr;
 };
 
-/// Sums over the samples of a tile that differ between two weaves; without another weave, over all.
+/// Sums over the samples of a tile that differ between two weaves; over all without another weave.
 struct Tile
 {
     int own = 0;    ///< how far lines of the second field stick out between those of the first
@@ -59,7 +59,7 @@ struct Tile
     }
 };
 
-/// A line between two others.
+/// How far a line sticks out between two others.
 template <typename Sample>
 struct Lines
 {
@@ -83,8 +83,8 @@ inline int16_t distance(int16_t a, int16_t b)
     return static_cast<int16_t>(std::max(a, b) - std::min(a, b));
 }
 
-/// A tile's part of a line of the second field between two of the first one, in two weaves, and of
-/// one between two of its own field. Its sums fit into 16 bits, which is what makes it quick.
+/// Compares a tile's part of a line of the second field with two lines of the first one, in two
+/// weaves, and a line with two of its own field. The sums fit into 16 bits, which makes it fast.
 template <typename Sample>
 Tile sumOf(const Lines<Sample>& own, const Lines<Sample>& other, const Lines<Sample>& field,
            int from, int count, int shift, int16_t motion)
@@ -124,7 +124,7 @@ int movedIn(const Sample* a, const Sample* b, int count, int shift)
     return moved;
 }
 
-/// The tiles of a picture, line by line of tiles.
+/// The tiles of a picture, row by row.
 class Comparison
 {
 public:
@@ -137,21 +137,21 @@ public:
         , m_rows((like.height / 2 + tileLines - 1) / tileLines)
     {}
 
-    /// One weave beside another.
+    /// Compares two weaves.
     std::vector<Tile> compare(const Weave& weave, const Weave& other) const
     {
         return m_depth > 8 ? compareAs<uint16_t>(weave, other, motionNoise)
                            : compareAs<uint8_t>(weave, other, motionNoise);
     }
 
-    /// One weave alone, all of it.
+    /// Examines a single weave as a whole.
     std::vector<Tile> look(const Weave& weave) const
     {
         return m_depth > 8 ? compareAs<uint16_t>(weave, weave, -1)
                            : compareAs<uint8_t>(weave, weave, -1);
     }
 
-    /// How many samples differ between the first fields of two pictures, or their second ones.
+    /// Number of samples that differ between the first or the second fields of two pictures.
     int movement(const AVFrame& a, const AVFrame& b, bool isOfFirst) const
     {
         const int from = isOfFirst == (m_firstLine == 1) ? 0 : 1;
@@ -165,7 +165,7 @@ public:
     }
 
 private:
-    /// Large pictures show the same in every other line of a field.
+    /// In large pictures every other line of a field is enough.
     int lineStep() const { return m_height >= 720 ? 2 : 1; }
 
     template <typename Sample>
@@ -197,8 +197,8 @@ private:
     {
         std::vector<Tile> tiles(static_cast<size_t>(m_columns) * static_cast<size_t>(m_rows));
         const int shift = std::max(0, m_depth - 8);
-        // Noise makes a line stick out and seem to move. So detail is that of the field which
-        // differs.
+        // Noise makes a line stick out and seem to move. So the detail is measured in the field
+        // that differs.
         const bool isOtherFirst = weave.first != other.first;
         const AVFrame& field = isOtherFirst ? *weave.first : *weave.second;
         const int offset = isOtherFirst ? 1 : 0;
@@ -225,17 +225,17 @@ private:
     int m_rows;
 };
 
-/// How a picture's fields fit each other, beside how its first field fits the second one of the
-/// picture before, and its second field the first one of the picture after: the fields next in
-/// time. Missing where there is no neighbour.
+/// How a picture's fields match each other, compared with the fields next in time: the first field
+/// with the second one of the previous picture, and the second field with the first one of the next
+/// picture. Empty for a missing neighbour.
 struct Sides
 {
     std::vector<Tile> before;
     std::vector<Tile> after;
 };
 
-/// How much better the fields fit each other than the one next in time; where there is no comb that
-/// could be seen, as well as can be.
+/// How much better the fields match each other than the field next in time; the maximum if no comb
+/// is visible.
 double fit(const Tile& tile, int visible)
 {
     constexpr double perfect = 1000.0;
@@ -266,7 +266,7 @@ bool combs(const Sides& sides, int visible)
     return false;
 }
 
-/// Without neighbours: much sticks out, and more than fine detail does.
+/// Without neighbours: lines stick out visibly, and more than fine detail does.
 bool combsByItself(const std::vector<Tile>& tiles, int visible)
 {
     return std::any_of(tiles.begin(), tiles.end(), [visible](const Tile& tile) {
@@ -274,7 +274,7 @@ bool combsByItself(const std::vector<Tile>& tiles, int visible)
     });
 }
 
-/// The other weave leaves nothing of the comb but what fine detail makes of it.
+/// True if the other weave leaves no more of the comb than fine detail does.
 bool leavesNone(const std::vector<Tile>& tiles, int visible)
 {
     Tile all;
@@ -284,8 +284,8 @@ bool leavesNone(const std::vector<Tile>& tiles, int visible)
     return all.own >= visible && all.other <= combOfFitting * all.own;
 }
 
-/// Film is shown for three fields and two in turn: of pictures with fields of two moments, one
-/// field is shown once more by a neighbour.
+/// Film is shown for three and two fields alternately: of pictures with fields of two moments, a
+/// neighbour repeats one field.
 bool isFilm(const FieldPictures& pictures, const Comparison& comparison)
 {
     const auto isRepeated = [&](const AVFrame* neighbour, bool isFirst) {
@@ -340,8 +340,8 @@ combing::Fields combing::fieldsOf(const FieldPictures& pictures, bool isTopFirst
     if (!isFilm(pictures, comparison)) {
         return Fields::Apart;
     }
-    // What seems to fit may also be the next moment after a cut, so it is looked at like any
-    // picture.
+    // A field that seems to match may be the next moment after a cut, so the woven picture is
+    // examined like any other.
     const auto fits = [&](const Weave& weave, const Weave& third) {
         return !combs({{}, comparison.compare(weave, third)}, visible);
     };

@@ -15,7 +15,7 @@ namespace QtAV {
 
 namespace {
 
-/// A packet that takes longer to read is given up when that is asked for.
+/// Reading a packet is abandoned after this time if an interrupt is requested.
 constexpr std::chrono::milliseconds longestPacket{100};
 
 template <size_t Count>
@@ -30,7 +30,7 @@ bool isMp4(const AVInputFormat& format)
     return isOneOf(format, {"mov,mp4,m4a,3gp,3g2,mj2"});
 }
 
-/// What names other files, or what it takes for pictures, instead of holding them.
+/// Formats that name other files, or commands for making pictures, instead of holding pictures.
 bool isScript(const AVInputFormat& format)
 {
     return isOneOf(format, {"hls", "dash", "concat", "imf", "sdp", "rtsp", "image2", "image2pipe",
@@ -49,8 +49,8 @@ bool hasUnknownSize(const AVStream& stream)
            (parameters.width <= 0 || parameters.height <= 0);
 }
 
-/// MP4 and MOV files state of each stream all that reading and seeking need, except where FFmpeg
-/// does not trust the size that they state.
+/// MP4 and MOV files state everything about each stream that reading and seeking need, except if
+/// FFmpeg does not trust the stated size.
 bool describesItsStreams(const AVFormatContext& format)
 {
     return isMp4(*format.iformat) &&
@@ -58,8 +58,8 @@ bool describesItsStreams(const AVFormatContext& format)
                         [](const AVStream* stream) { return hasUnknownSize(*stream); });
 }
 
-/// Finds out what the streams are like, for which FFmpeg decodes some pictures unless it is denied
-/// all decoders. Nobody sees those pictures: they need not be filtered.
+/// Determines the parameters of the streams. FFmpeg decodes some pictures for that unless it is
+/// denied all decoders. Those pictures are never shown, so they need no loop filter.
 int findStreamInfo(AVFormatContext& format, const PictureLimit& limit)
 {
     std::optional<FFmpegLogPause> expectedErrors;
@@ -81,7 +81,7 @@ int findStreamInfo(AVFormatContext& format, const PictureLimit& limit)
     return result;
 }
 
-/// No file leads to another one.
+/// Prevents a file from opening other files.
 int refuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
 {
     return AVERROR(EACCES);
@@ -99,7 +99,7 @@ std::unique_ptr<Container> Container::open(const QString& path, const IsCancelle
                                            QString& error, const PictureLimit& limit)
 {
     routeFFmpegLog();
-    // For the whole process: what is declared in other ways than those that are looked for.
+    // Applies to the whole process and covers declarations that are not checked explicitly.
     av_max_alloc(limit.mostAtOnce());
     std::unique_ptr<Container> container(new Container(path));
     container->m_isCancelled = isCancelled;
@@ -149,7 +149,7 @@ std::optional<Container::View> Container::makeView(QString& error)
         return std::nullopt;
     }
     if (result >= 0) {
-        // It frees the context where it fails.
+        // This function frees the context on failure.
         AVFormatContext* opened = view.format.release();
         result = avformat_open_input(&opened, name.constData(), format, nullptr);
         view.format.reset(opened);
@@ -193,7 +193,7 @@ void Container::begin(Patience patience)
     m_wasInterrupted = false;
 }
 
-/// What was interrupted once stays so: FFmpeg asks in several places on its way out.
+/// An interrupt stays set: FFmpeg polls it in several places on its way out.
 bool Container::isInterrupted()
 {
     if (m_wasInterrupted) {
@@ -229,8 +229,8 @@ void Container::findStart()
     if (m_format->start_time == AV_NOPTS_VALUE) {
         return;
     }
-    // An MP4 is shown from 0 on. FFmpeg 5.1 counts what a sound encoder puts before that, in files
-    // in fragments.
+    // An MP4 is shown from 0 on. In fragmented files FFmpeg 5.1 includes the priming samples of a
+    // sound encoder before that.
     if (isMp4(*m_format->iformat) && m_format->start_time < 0) {
         return;
     }
@@ -241,7 +241,7 @@ void Container::findStart()
         if (stream.start_time == AV_NOPTS_VALUE) {
             continue;
         }
-        // The container's start is some stream's, rounded: take it from there unrounded.
+        // The container's start is the rounded start of a stream: use the unrounded value.
         const qint64 rounded = av_rescale_q(stream.start_time, stream.time_base, microsecond);
         if (qAbs(rounded - m_format->start_time) <= 1) {
             m_startTicks = stream.start_time;
@@ -327,7 +327,7 @@ PacketAnswer Container::failed(int result)
         m_isLost = true;
         return PacketAnswer::Cancelled;
     }
-    // FFmpeg takes what cannot be read for the end of the file.
+    // FFmpeg reports a read error as the end of the file.
     if (m_input->error() != 0) {
         m_errorText = ffmpegErrorText(m_input->error());
         m_isLost = true;
@@ -410,7 +410,7 @@ bool Container::reopen()
                                                   "The file was overwritten by another program.");
         return false;
     }
-    // The old context reads from the old stream to its end.
+    // The old context reads from the old stream until it is destroyed.
     m_view.format = std::move(view->format);
     m_view.stream = std::move(view->stream);
     m_format = m_view.format.get();

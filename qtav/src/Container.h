@@ -17,29 +17,28 @@
 
 namespace QtAV {
 
-/// What asking for a packet gave.
+/// Result of reading a packet.
 enum class PacketAnswer {
     Packet,
     End,
-    Failed,    ///< the packet could not be read; the next may, while canGoOn() is true
-    Cancelled, ///< the interrupt asked for it; where the file stands is known no more
+    Failed,    ///< the packet could not be read; the next may be, while canGoOn() is true
+    Cancelled, ///< interrupted; the position in the file is now undefined
 };
 
-/// One open video file: its streams, its packets as they stand in the file, and FFmpeg's rough
-/// seeks.
+/// One open video file: its streams, its packets as they are stored, and FFmpeg's inexact seeks.
 ///
-/// Only local regular files are opened, and no playlists, manifests or scripts, which would lead
-/// FFmpeg to other files.
+/// Opens only local regular files. Playlists, manifests and scripts are refused because they would
+/// make FFmpeg open other files.
 ///
 /// Not thread-safe, but tied to no thread: one thread at a time may use it.
 class Container
 {
 public:
-    /// So many failures in a row count as the end of a file whose bytes can be read.
+    /// This many failures in a row count as the end of a file whose bytes can be read.
     static constexpr int maximumFailures = 64;
 
-    /// Null, with a text for people in `error`, for what cannot be opened. Pictures beyond the
-    /// limit are not decoded where FFmpeg wants to know what a stream is like.
+    /// Opens a file. Null, with a text for people in `error`, if it cannot be opened. Pictures
+    /// beyond the limit are not decoded when FFmpeg determines the parameters of the streams.
     [[nodiscard]] static std::unique_ptr<Container>
     open(const QString& path, const IsCancelled& isCancelled, QString& error,
          const PictureLimit& limit = PictureLimit());
@@ -47,85 +46,85 @@ public:
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
 
-    /// Asked while reading and seeking, until it is set anew. Must not be empty. A packet that is
-    /// being read is given up only after some time, for reading cannot go on where it was.
+    /// Sets the callback that is polled while reading and seeking. Must not be empty. A packet
+    /// being read is abandoned only after some time, because reading cannot resume where it was.
     void setInterrupt(IsCancelled isCancelled);
 
-    /// The numbers of the streams with pictures and with sound; a cover picture is neither.
+    /// Stream numbers of the video and audio streams; cover pictures are neither.
     const QVector<int>& videoStreams() const { return m_videoStreams; }
     const QVector<int>& audioStreams() const { return m_audioStreams; }
 
     const AVStream& stream(int index) const { return *m_format->streams[index]; }
     Timeline timeline(int stream) const;
 
-    /// What the file and one of its streams say of themselves; of the file alone for -1.
+    /// What the file and one of its streams state about themselves; for -1, the file alone.
     MediaFacts facts(int stream) const;
 
-    /// Frames in a second; 0/1 where the file does not say.
+    /// Frames per second; 0/1 if the file does not state it.
     AVRational frameRate(int stream) const;
 
     bool isAvi() const;
-    /// The part of a stream's pictures that the file wants shown; nothing for all of them.
+    /// The part of a stream's pictures that the file declares visible; nothing for all of them.
     [[nodiscard]] std::optional<QRect> cleanAperture(int stream);
-    /// A bare sequence of pictures, without a container that would tell times.
+    /// True for a bare sequence of pictures without a container that would hold times.
     bool isRawStream() const;
-    /// A stream for transmission: seeks land on any packet instead of a key frame.
+    /// True for a transmission format: seeks land on any packet instead of a key frame.
     bool isTransmission() const { return m_format->iformat->flags & AVFMT_TS_DISCONT; }
-    /// FFmpeg knows all packets of a stream from the file's head or index.
+    /// True if FFmpeg knows all packets of a stream from the file's header or index.
     bool indexesAllPackets() const;
 
-    /// The decoding times of a stream's key frames in ticks, in rising order, as the file's index
-    /// says: it may leave some out, and call a packet one that is none. Empty where there is no
-    /// index, or not of the whole file. May move the file to another packet.
+    /// Decoding times of a stream's key frames in ticks, in rising order, as listed in the file's
+    /// index. The index may omit key frames and list packets that are none. Empty if no index
+    /// covers the whole file. May change the position in the file.
     QVector<qint64> indexedKeyFrames(int stream);
 
-    /// Whether FFmpeg makes up times that packets do not bear, as it does at first.
+    /// Whether FFmpeg guesses the times that packets do not have; it does initially.
     enum class MissingTimes { Guess, Leave };
     void setMissingTimes(MissingTimes missing);
 
-    /// Reads the next packet, of whatever stream.
+    /// Reads the next packet of any stream.
     [[nodiscard]] PacketAnswer read(PacketPtr& packet);
 
-    /// False when reading fails for good: until the next seek.
+    /// False if reading failed for good, until the next seek.
     bool canGoOn() const { return !m_isLost; }
 
-    /// What was done last ended because the interrupt asked for it.
+    /// True if the last operation was interrupted.
     bool wasInterrupted() const { return m_wasInterrupted; }
 
-    /// A text for people for the last failure; empty when there was none.
+    /// A text for people about the last failure; empty if there was none.
     const QString& errorText() const { return m_errorText; }
 
-    /// Goes to some packet near a time in the stream's ticks, before it if the container can. False
-    /// when that is refused or interrupted.
+    /// Seeks to some packet near a time in the stream's ticks, before it if the container supports
+    /// that. Returns false if that fails or is interrupted.
     [[nodiscard]] bool seekNear(int stream, qint64 ticks);
 
-    /// Goes to the packet that stands so many before the last one in FFmpeg's index of a stream.
-    /// How many bytes there are from there to the end of the file; nothing where that is not
+    /// Seeks to the packet this many packets before the last one in FFmpeg's index of a stream.
+    /// Returns the number of bytes from there to the end of the file; nothing if it is not
     /// possible.
     [[nodiscard]] std::optional<qint64> seekToTail(int stream, int packets);
 
-    /// Goes to a byte. False when the container does not go by bytes.
+    /// Seeks to a byte position. Returns false if the container does not support it.
     [[nodiscard]] bool seekToByte(qint64 position);
 
-    /// Opens the file anew, for containers that do not find back to their start. False, with all as
-    /// before, when it cannot be opened any more or holds other streams than it did.
+    /// Opens the file again, for containers that cannot return to their start. Returns false, with
+    /// the state unchanged, if it can no longer be opened or holds other streams than before.
     [[nodiscard]] bool reopen();
 
-    /// True, and a failure, once another program has cut the file short.
+    /// True, and recorded as a failure, once another program has truncated the file.
     [[nodiscard]] bool isOverwritten();
 
-    /// How many bytes follow those that were read; 0 where that is unknown.
+    /// Number of bytes behind those that were read; 0 if unknown.
     qint64 remainingBytes();
 
-    /// The length that the file states, in milliseconds; 0 where it states none, or FFmpeg guessed
-    /// it from a bit rate.
+    /// The stated length in milliseconds; 0 if the file states none or FFmpeg guessed it from a bit
+    /// rate.
     qint64 statedDuration() const;
 
-    /// FFmpeg took the stated length from the last packets itself.
+    /// True if FFmpeg itself determined the length from the last packets.
     bool durationIsMeasured() const;
 
 private:
-    /// What must not change while a file is open.
+    /// Properties that must not change while a file is open.
     struct StreamFacts
     {
         AVMediaType type;
@@ -142,7 +141,7 @@ private:
         FormatContextPtr format;
     };
 
-    /// What FFmpeg does now, and whether it may be interrupted at once.
+    /// Whether the current FFmpeg call may be interrupted at once.
     enum class Patience { None, Some };
 
     explicit Container(QString path);

@@ -22,7 +22,7 @@ bool isAlike(const AVFrame* neighbour, const AVFrame& picture)
            neighbour->format == picture.format;
 }
 
-/// Without the neighbours that are of another size or format.
+/// Removes neighbours of another size or format.
 FieldPictures onlyAlike(const FieldPictures& pictures)
 {
     const AVFrame& picture = *pictures.picture;

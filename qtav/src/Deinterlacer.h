@@ -12,27 +12,27 @@
 
 namespace QtAV {
 
-/// Makes whole pictures of those that comb, from their neighbours.
+/// Makes whole pictures from combing ones, with the help of their neighbours.
 ///
-/// Film that was spread over more fields than it has gets its own pictures back, without loss.
-/// Other pictures that comb are filtered by FFmpeg. What does not comb stays as it is, to the byte.
+/// Film that was spread over additional fields gets its original pictures back, without loss. Other
+/// combing pictures are filtered by FFmpeg. Pictures that do not comb stay unchanged, to the byte.
 ///
 /// May be called from several threads at once.
 class Deinterlacer
 {
 public:
-    /// Whether a picture can gain from its neighbours, so that these are worth having.
+    /// Whether a picture can gain from its neighbours, so that these should be decoded.
     static bool mayTake(const AVFrame& picture, Deinterlacing deinterlacing);
 
-    /// Whether a picture combs, as far as it shows that without its neighbours.
+    /// Whether a picture combs, judged without its neighbours.
     static bool combsByItself(const AVFrame& picture);
 
-    /// Whether a picture shows two moments that no other picture has a part of: each can be made a
+    /// Whether a picture shows two moments that no other picture shares, so that each can become a
     /// picture of its own.
     static bool isOfTwoMoments(const FieldPictures& pictures, Deinterlacing deinterlacing);
 
-    /// The picture of one moment; null where it stays as it is, which it also does when its format
-    /// cannot be filtered or memory runs out.
+    /// The picture of one moment. Null if the picture stays as it is, which is also the case if its
+    /// format cannot be filtered or memory runs out.
     [[nodiscard]] FramePtr deinterlaced(const FieldPictures& pictures, Deinterlacing deinterlacing,
                                         FieldFilter::Moment moment = FieldFilter::Moment::First);
 
@@ -42,7 +42,7 @@ private:
     [[nodiscard]] std::optional<FieldFilter> takeFilter(const FieldFilter::Task& task);
     void keepFilter(FieldFilter filter);
 
-    /// More kinds of pictures than a video has at a time.
+    /// Enough for the kinds of pictures that a video has at a time.
     static constexpr size_t mostIdleFilters = 2;
 
     std::mutex m_mutex;

@@ -6,8 +6,9 @@
 
 namespace QtAV {
 
-/// What is added to values before their fraction is cut off, so that the mean of neighbours keeps
-/// what a single pixel with fewer bits cannot say. It repeats every eight lines and columns.
+/// The value added to samples before their fraction is truncated, so that the mean of neighbouring
+/// pixels keeps the precision that a single pixel with fewer bits cannot. The pattern repeats every
+/// eight lines and columns.
 template <typename Value>
 class Dither
 {
@@ -15,8 +16,8 @@ public:
     static constexpr int size = 8;
     static constexpr int orders = size * size;
 
-    /// For lines of a width. `added` gives what belongs to a place in the order, 0 to 63, of those
-    /// in eight by eight pixels.
+    /// Prepares lines of a width. `added` returns the value for a rank from 0 to 63 within eight by
+    /// eight pixels.
     template <typename Added>
     Dither(int width, const Added& added)
     {
@@ -35,7 +36,7 @@ public:
     }
 
 private:
-    /// Bayer's order: what follows each other in it lies far apart.
+    /// Bayer's order: successive ranks lie far apart.
     static int orderAt(int x, int y)
     {
         int order = 0;

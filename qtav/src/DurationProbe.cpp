@@ -9,7 +9,7 @@ namespace QtAV {
 
 namespace {
 
-/// So much is read behind the stated end, to see whether anything follows.
+/// This much is read behind the stated end to check whether anything follows.
 constexpr qint64 cheapBytes = qint64(16) << 20;
 
 } // namespace
@@ -30,7 +30,7 @@ DurationProbe::Length DurationProbe::run()
     return {measure(), true};
 }
 
-/// Nothing where the file states no length, or is cut off long before it.
+/// Nothing if the file states no length, or is truncated long before it.
 std::optional<DurationProbe::Length> DurationProbe::checkedStatement()
 {
     const qint64 stated = m_container.statedDuration();
@@ -44,7 +44,7 @@ std::optional<DurationProbe::Length> DurationProbe::checkedStatement()
         return Length{stated, m_container.durationIsMeasured()};
     }
 
-    // Landing this close to the end shows that the file is whole, or misses a little at most.
+    // Landing this close to the end shows that the file is complete or nearly complete.
     const qint64 closeMs = std::min<qint64>(15000, stated / 10);
     const qint64 roundingMs = std::min<qint64>(1000, stated / 10);
     const std::optional<qint64> landed = firstTimeAt(stated);
@@ -65,7 +65,7 @@ std::optional<DurationProbe::Length> DurationProbe::checkedStatement()
     return std::nullopt;
 }
 
-/// FFmpeg measures by the last packet that bears a time.
+/// FFmpeg measures up to the last packet that has a time.
 qint64 DurationProbe::endOfPictures(qint64 statedMs)
 {
     constexpr qint64 longestGapMs = 2000;
@@ -86,9 +86,9 @@ qint64 DurationProbe::endOfPictures(qint64 statedMs)
     }
 }
 
-/// True when the file stands where reading it to its end shows what follows, and costs little. Some
-/// releases of FFmpeg end an MP4 file where its last packet has been decoded: a picture that was
-/// decoded before may be shown after that.
+/// True if reading the file to its end from here shows what follows and costs little. Some releases
+/// of FFmpeg end an MP4 file at the packet decoded last: a picture decoded earlier may be shown
+/// after it.
 bool DurationProbe::isWorthReadingOn()
 {
     // No codec lets more pictures than this wait for one that is decoded later.
@@ -101,8 +101,8 @@ bool DurationProbe::isWorthReadingOn()
 
 qint64 DurationProbe::measure()
 {
-    // Halve towards the last position at which anything can be read. A file that states no length
-    // at all is read through.
+    // Binary search for the last position at which anything can be read. A file that states no
+    // length is read through.
     qint64 readable = 0;
     if (m_video && m_container.statedDuration() > 0) {
         qint64 unreadable = m_container.statedDuration() + 1000;

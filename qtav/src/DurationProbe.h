@@ -9,29 +9,29 @@ namespace QtAV {
 class Container;
 class VideoPackets;
 
-/// Finds out how long a video is: what the file states, where its packets bear that out in either
-/// direction, else what its last packets say. Moves the position.
+/// Determines the length of a video: the stated one if the packets confirm it in both directions,
+/// otherwise the one of the last packets. Changes the position in the file.
 class DurationProbe
 {
 public:
     struct Length
     {
         qint64 ms = 0;
-        bool isMeasured = false; ///< taken from the packets, not from the file's head
+        bool isMeasured = false; ///< taken from the packets, not from the file's header
     };
 
-    /// @param video  null for a file without video: a stated length is believed then.
+    /// @param video  null for a file without video: its stated length is accepted then.
     DurationProbe(Container& container, VideoPackets* video);
 
-    /// 0 for a file without packets, and where reading failed.
+    /// 0 for a file without packets, and if reading failed.
     [[nodiscard]] Length run();
 
 private:
-    /// What is known of the end of the file.
+    /// What is known about the end of the file.
     struct End
     {
-        qint64 ms = 0;        ///< when the last picture or sound is over
-        qint64 pictureMs = 0; ///< when the last picture begins
+        qint64 ms = 0;        ///< end of the last picture or sound
+        qint64 pictureMs = 0; ///< start of the last picture
     };
 
     [[nodiscard]] std::optional<Length> checkedStatement();

@@ -17,7 +17,7 @@ BaseLayer baseLayerOf(const AVStream& stream)
         return BaseLayer::Whole;
     }
     const auto& record = *reinterpret_cast<const AVDOVIDecoderConfigurationRecord*>(data.data);
-    // Its profile 5 has colours of a kind of its own.
+    // Profile 5 of Dolby Vision has a colour representation of its own.
     return record.dv_bl_signal_compatibility_id == 0 ? BaseLayer::OfDolbyVisionAlone
                                                      : BaseLayer::OfDolbyVision;
 }

@@ -6,10 +6,11 @@
 
 namespace QtAV {
 
-/// What a container says of a stream's instructions for each picture.
+/// The base layer according to what a container states about a stream's instructions for each
+/// picture.
 [[nodiscard]] BaseLayer baseLayerOf(const AVStream& stream);
 
-/// What a picture brings along itself, else what its container has said.
+/// The base layer according to the instructions of a picture itself, otherwise the stated one.
 [[nodiscard]] BaseLayer baseLayerOf(const AVFrame& frame, BaseLayer stated);
 
 } // namespace QtAV

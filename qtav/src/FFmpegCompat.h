@@ -12,9 +12,9 @@ extern "C" {
 #include <libavutil/version.h>
 }
 
-/// What the supported FFmpeg releases, 5.1 to 7.1, do differently. Nothing else tests FFmpeg's
-/// version: each difference is a named feature here, with the release that brought it, and a
-/// function that reads the same with every release.
+/// Differences between the supported FFmpeg releases, 5.1 to 7.1. FFmpeg's version is tested
+/// nowhere else: each difference is a named feature here, with the release that introduced it, and
+/// a function that reads the same with every release.
 
 /// AVFrame::duration, which replaced pkt_duration: 6.0.
 #define QTAV_FFMPEG_HAS_FRAME_DURATION (LIBAVUTIL_VERSION_INT >= AV_VERSION_INT(58, 2, 100))
@@ -27,17 +27,17 @@ extern "C" {
 /// AVCodecParameters::coded_side_data, which replaced AVStream's side data: 6.1.
 #define QTAV_FFMPEG_HAS_CODED_SIDE_DATA (LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(60, 31, 102))
 
-/// Callbacks of a decoder are always called from its threads, and the field that says that they may
-/// be is gone: 6.0.
+/// Callbacks of a decoder are always called from its threads, and the field that allowed it is
+/// gone: 6.0.
 #define QTAV_FFMPEG_HAS_THREAD_SAFE_CALLBACKS (LIBAVCODEC_VERSION_INT >= AV_VERSION_INT(60, 0, 100))
 
 namespace QtAV {
 
-/// Which version of the library of filters these headers belong to, as its file's name has it.
+/// Version of the filter library that these headers belong to, as in its file name.
 constexpr int filterLibraryVersion = LIBAVFILTER_VERSION_MAJOR;
 
-/// Lets a decoder with several threads call what it asks for memory from each of them. Without that
-/// they would wait for each other.
+/// Lets a decoder with several threads call its memory callback from each of them. Otherwise they
+/// would wait for each other.
 inline void allowCallsFromThreads(AVCodecContext& context)
 {
 #if QTAV_FFMPEG_HAS_THREAD_SAFE_CALLBACKS
@@ -50,7 +50,7 @@ inline void allowCallsFromThreads(AVCodecContext& context)
 #endif
 }
 
-/// How long a decoded frame is shown, in ticks of its packet; 0 where the file does not say.
+/// Duration of a decoded frame in ticks of its packet; 0 if the file does not state it.
 inline qint64 durationTicks(const AVFrame& frame)
 {
 #if QTAV_FFMPEG_HAS_FRAME_DURATION
@@ -60,7 +60,7 @@ inline qint64 durationTicks(const AVFrame& frame)
 #endif
 }
 
-/// Whether the lines of a picture belong to two moments in turn.
+/// Whether the lines of a picture alternate between two moments.
 inline bool isInterlaced(const AVFrame& frame)
 {
 #if QTAV_FFMPEG_HAS_INTERLACED_FLAG
@@ -70,8 +70,8 @@ inline bool isInterlaced(const AVFrame& frame)
 #endif
 }
 
-/// Whether the upper lines of such a picture are the earlier ones. Where nobody says they are,
-/// since that is usual.
+/// Whether the upper lines of such a picture are the earlier ones. Defaults to true, the usual
+/// order.
 inline bool isTopFieldFirst(const AVFrame& frame)
 {
 #if QTAV_FFMPEG_HAS_INTERLACED_FLAG
@@ -81,7 +81,7 @@ inline bool isTopFieldFirst(const AVFrame& frame)
 #endif
 }
 
-/// Makes a picture say that its lines belong to two moments in turn, or to one.
+/// Marks a picture as interlaced or progressive.
 inline void setInterlaced(AVFrame& frame, bool isInterlaced, bool isTopFirst)
 {
 #if QTAV_FFMPEG_HAS_INTERLACED_FLAG
@@ -95,15 +95,15 @@ inline void setInterlaced(AVFrame& frame, bool isInterlaced, bool isTopFirst)
 #endif
 }
 
-/// Where a chroma sample lies, from the upper left luma sample that it belongs to, in 1/256 of the
-/// distance between luma samples.
+/// Position of a chroma sample relative to its upper left luma sample, in 1/256 of the distance
+/// between luma samples.
 struct ChromaPosition
 {
     int x = 0;
     int y = 0;
 };
 
-/// Null for a location that is not known.
+/// Null for an unknown location.
 inline std::optional<ChromaPosition> chromaPositionOf(AVChromaLocation location)
 {
     ChromaPosition position;
@@ -115,14 +115,14 @@ inline std::optional<ChromaPosition> chromaPositionOf(AVChromaLocation location)
     return result < 0 ? std::nullopt : std::optional(position);
 }
 
-/// Bytes that belong to somebody else; null where there are none.
+/// Bytes owned by another object; null if there are none.
 struct SideData
 {
     const uint8_t* data = nullptr;
     size_t size = 0;
 };
 
-/// What a container says of a stream beside its packets. It belongs to the stream.
+/// Side data that a container holds for a stream. Owned by the stream.
 inline SideData sideDataOf(const AVStream& stream, AVPacketSideDataType type)
 {
     SideData found;
@@ -139,8 +139,7 @@ inline SideData sideDataOf(const AVStream& stream, AVPacketSideDataType type)
     return found;
 }
 
-/// The nine numbers that say how a container wants its pictures turned; null where it does not say.
-/// They belong to the stream.
+/// The display matrix of the container, nine numbers owned by the stream; null if there is none.
 inline const qint32* displayMatrixOf(const AVStream& stream)
 {
     const SideData found = sideDataOf(stream, AV_PKT_DATA_DISPLAYMATRIX);

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Owners for FFmpeg's objects: the only place where they are freed, and the only one that includes
-/// FFmpeg's headers for everybody else in this folder.
+/// Owners for FFmpeg's objects: the only place where these are freed, and the only place that
+/// includes FFmpeg's headers for the rest of this folder.
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -55,7 +55,7 @@ using ParserPtr = std::unique_ptr<AVCodecParserContext, FreeByPointer<av_parser_
 using ResamplerPtr = std::unique_ptr<SwrContext, FreeByAddress<swr_free>>;
 using ScalerPtr = std::unique_ptr<SwsContext, FreeByPointer<sws_freeContext>>;
 
-/// A new, empty packet or frame; running out of memory for one ends the program, as `new` does.
+/// A new, empty packet or frame. Running out of memory for one ends the program, as `new` does.
 PacketPtr makePacket();
 FramePtr makeFrame();
 

@@ -5,14 +5,15 @@
 
 namespace QtAV {
 
-/// The library's own lines, FFmpeg's included.
+/// Messages of this library and of FFmpeg.
 Q_DECLARE_LOGGING_CATEGORY(lcQtAV)
 
-/// Makes FFmpeg write to Qt's message log; the first call does it. From any thread.
+/// Redirects FFmpeg's messages to Qt's message log; only the first call has an effect. From any
+/// thread.
 void routeFFmpegLog();
 
-/// While one lives, what FFmpeg has to say on this thread is dropped: for calls whose complaints
-/// are expected.
+/// Drops FFmpeg's messages of this thread during its lifetime, for calls whose complaints are
+/// expected.
 class FFmpegLogPause
 {
 public:
@@ -22,7 +23,7 @@ public:
     FFmpegLogPause& operator=(const FFmpegLogPause&) = delete;
 };
 
-/// FFmpeg's own text for one of its error numbers.
+/// FFmpeg's text for one of its error numbers.
 QString ffmpegErrorText(int error);
 
 } // namespace QtAV

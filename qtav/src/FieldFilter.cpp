@@ -58,7 +58,7 @@ std::optional<FieldFilter> FieldFilter::make(const Task& task)
         return std::nullopt;
     }
     graph->nb_threads = 1;
-    // Only what is marked as interlaced is filtered, the neighbours go through as they are.
+    // Only pictures marked as interlaced are filtered; the neighbours pass unchanged.
     const char* options = task.moment == Moment::First ? "mode=send_frame:deint=interlaced"
                                                        : "mode=send_field:deint=interlaced";
     AVFilterContext* source = makeSource(*library, *graph, task);
@@ -76,8 +76,8 @@ FramePtr FieldFilter::filter(const FieldPictures& pictures, bool isTopFirst)
     const AVFrame& picture = *pictures.picture;
     const AVFrame& before = pictures.before ? *pictures.before : picture;
     const AVFrame& after = pictures.after ? *pictures.after : picture;
-    // FFmpeg makes the first picture of a video of one field alone, and of the first two pictures
-    // it gives none. What comes before others has no influence on these.
+    // FFmpeg makes the first picture of a video from one field alone, and gives none for the first
+    // two pictures. Pictures before those have no influence on them.
     if (!std::exchange(m_isRunIn, true) && !filter({&before, &picture, &after}, isTopFirst)) {
         return nullptr;
     }
@@ -103,7 +103,7 @@ bool FieldFilter::push(const AVFrame& picture, bool isFiltered, bool isTopFirst)
     setInterlaced(*pushed, isFiltered, isTopFirst);
     pushed->repeat_pict = 0;
     pushed->pts = m_ticks++;
-    // The graph knows of no colours, and need not: they are those of the picture in any case.
+    // The graph needs no colour properties: the picture's own are kept in any case.
     pushed->colorspace = AVCOL_SPC_UNSPECIFIED;
     pushed->color_range = AVCOL_RANGE_UNSPECIFIED;
     return FilterLibrary::get()->sourceAddFrame(m_source, pushed.get(),
@@ -111,7 +111,7 @@ bool FieldFilter::push(const AVFrame& picture, bool isFiltered, bool isTopFirst)
                                                     AV_BUFFERSRC_FLAG_PUSH) >= 0;
 }
 
-/// What has come out for a time in halves of a tick; all else that has come out is dropped.
+/// The output for a time in half ticks; all other output is dropped.
 FramePtr FieldFilter::pull(qint64 halfTicks)
 {
     const FilterLibrary& library = *FilterLibrary::get();

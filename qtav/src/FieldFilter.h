@@ -11,17 +11,17 @@
 
 namespace QtAV {
 
-/// FFmpeg's filter that makes whole pictures of single fields, in a graph of its own with one
-/// thread. Fit for pictures of one size and format; making one takes longer than using it.
+/// FFmpeg's filter that makes whole pictures from single fields, in a graph of its own with one
+/// thread. It suits pictures of one size and format; creating it takes longer than using it.
 ///
-/// It keeps what it was given last. One thread at a time may use it.
+/// It keeps its last input. One thread at a time may use it.
 class FieldFilter
 {
 public:
-    /// Which of the two moments a picture is made of: the earlier or the later one.
+    /// The moment that is made a picture: the earlier or the later one.
     enum class Moment { First, Second };
 
-    /// What a filter is made for.
+    /// The properties of the pictures that a filter is made for.
     struct Task
     {
         QSize size;
@@ -34,12 +34,12 @@ public:
         }
     };
 
-    /// Nothing when FFmpeg has no filter for such pictures.
+    /// Nothing if FFmpeg has no filter for such pictures.
     [[nodiscard]] static std::optional<FieldFilter> make(const Task& task);
 
     const Task& task() const { return m_task; }
 
-    /// The picture of one moment, whole. A missing neighbour is taken to be like the picture. Null
+    /// The whole picture of one moment. A missing neighbour is assumed to equal the picture. Null
     /// when memory runs out.
     [[nodiscard]] FramePtr filter(const FieldPictures& pictures, bool isTopFirst);
 
@@ -51,9 +51,9 @@ private:
 
     Task m_task;
     FilterGraphPtr m_graph;
-    AVFilterContext* m_source; ///< of m_graph
-    AVFilterContext* m_sink;   ///< of m_graph
-    qint64 m_ticks = 0;        ///< the time of the picture that is pushed next
+    AVFilterContext* m_source; ///< owned by m_graph
+    AVFilterContext* m_sink;   ///< owned by m_graph
+    qint64 m_ticks = 0;        ///< the time of the next picture that is pushed
     bool m_isRunIn = false;
 };
 

@@ -23,13 +23,13 @@ namespace QtAV {
 
 namespace {
 
-/// How often a caller that waits for the disk is asked whether it still wants to.
+/// How often the interrupt callback is polled while waiting for the disk.
 constexpr std::chrono::milliseconds impatience{20};
 
 /// Small enough that a seek costs little, large enough for few calls.
 constexpr int bufferBytes = 64 << 10;
 
-/// What the system has in memory already; negative where it would have to wait for the disk.
+/// Reads what the system has cached; negative if it would have to wait for the disk.
 int readWithoutWaiting(int file, qint64 position, uint8_t* buffer, int bytes)
 {
 #ifdef RWF_NOWAIT
@@ -46,8 +46,8 @@ int readWithoutWaiting(int file, qint64 position, uint8_t* buffer, int bytes)
 
 } // namespace
 
-/// The file, and what is to be done with it in its thread. Owned by both sides, so that it lasts
-/// until the one that comes later is done with it.
+/// The file, and the job for its thread. Owned by both sides, so that it lasts until both are done
+/// with it.
 class FileInput::Reader
 {
 public:
@@ -55,23 +55,23 @@ public:
 
     ~Reader();
 
-    /// What a job gave in the thread; AVERROR_EXIT when the caller would not wait for it.
+    /// The result of a job in the thread; AVERROR_EXIT if the caller stopped waiting for it.
     qint64 carryOut(Job job, const IsCancelled& isCancelled);
 
     /// Runs jobs until the input is gone.
     void run();
 
-    /// The input is gone. False when the thread may never come back.
+    /// Called when the input is gone. Returns false if the thread may never return.
     [[nodiscard]] bool end();
 
     int file = -1;
-    std::vector<uint8_t> buffer; ///< of the thread alone while a job runs
+    std::vector<uint8_t> buffer; ///< used only by the thread while a job runs
 
 private:
     std::mutex m_mutex;
     // Guarded by m_mutex.
     std::condition_variable m_changed;
-    Job m_job; ///< empty while there is nothing to do
+    Job m_job; ///< empty when there is nothing to do
     qint64 m_result = 0;
     bool m_ends = false;
 };
@@ -137,8 +137,8 @@ qint64 bytesIn(int file)
     return ::fstat(file, &facts) == 0 ? facts.st_size : AVERROR(errno);
 }
 
-/// Opens a regular file, and no pipe or device: those would wait for somebody to write to them.
-/// EINVAL stands for these.
+/// Opens a regular file. Refuses pipes and devices with EINVAL, because opening them would wait for
+/// a writer.
 int openRegular(const char* name)
 {
     struct stat facts = {};
@@ -188,7 +188,7 @@ FileInput::~FileInput()
     }
 }
 
-/// Null where the system gives no more threads.
+/// Null if the system provides no more threads.
 std::unique_ptr<FileInput> FileInput::make(const IsCancelled& isCancelled, QString& error)
 {
     try {

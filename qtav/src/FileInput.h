@@ -13,18 +13,18 @@ namespace QtAV {
 
 /// One local file, open for reading.
 ///
-/// A disk, a memory card or a network share that stops answering blocks its readers without end. So
-/// a file is opened, and read where the system does not have the data at hand, in a thread of its
-/// own, for which the caller waits no longer than it wants to. A thread that never comes back is
-/// left behind with the file.
+/// A disk, a memory card or a network share that stops answering blocks its readers forever. So a
+/// file is opened in a thread of its own, and read there if the system does not have the data
+/// cached. The caller waits only as long as it wants to. A thread that never returns is abandoned
+/// together with the file.
 ///
-/// A failure to read is remembered, since FFmpeg takes it for the end of the file in places.
+/// Read failures are remembered because FFmpeg treats them as the end of the file in places.
 ///
 /// Not thread-safe: one thread at a time may use it.
 class FileInput
 {
 public:
-    /// Opens a regular file for reading. Null, with a text for people in `error`, when that is not
+    /// Opens a regular file for reading. Null, with a text for people in `error`, if that is not
     /// possible or was cancelled.
     [[nodiscard]] static std::unique_ptr<FileInput>
     open(const QString& path, const IsCancelled& isCancelled, QString& error);
@@ -32,22 +32,22 @@ public:
     FileInput(const FileInput&) = delete;
     FileInput& operator=(const FileInput&) = delete;
 
-    /// Asked while waiting for the disk, until it is set anew. Must not be empty.
+    /// Sets the callback that is polled while waiting for the disk. Must not be empty.
     void setInterrupt(IsCancelled isCancelled) { m_isCancelled = std::move(isCancelled); }
 
-    /// Reads up to so many bytes into a buffer. How many were read, 0 at the end of the file, or
-    /// one of FFmpeg's error numbers: AVERROR_EXIT when it was interrupted.
+    /// Reads up to this many bytes into a buffer. Returns the number of bytes read, 0 at the end of
+    /// the file, or one of FFmpeg's error numbers: AVERROR_EXIT if it was interrupted.
     [[nodiscard]] int readAt(qint64 position, uint8_t* buffer, int bytes);
 
-    /// How long the file is now, in bytes, or one of FFmpeg's error numbers.
+    /// The current size of the file in bytes, or one of FFmpeg's error numbers.
     [[nodiscard]] qint64 size();
 
-    /// FFmpeg's number for the first failure since clearError(); 0 for none.
+    /// FFmpeg's number of the first failure since clearError(); 0 for none.
     int error() const { return m_error; }
     void clearError() { m_error = 0; }
 
-    /// True once the file is shorter than it has been while open: another program writes into it,
-    /// and nothing that is known of it holds any more.
+    /// True once the file is shorter than before while open: another program is writing to it, and
+    /// nothing known about it is valid any more.
     [[nodiscard]] bool hasShrunk();
 
 private:
@@ -65,8 +65,8 @@ private:
     int m_error = 0;
 };
 
-/// A place in a file from which FFmpeg reads and seeks. Several of one file do not disturb each
-/// other. Must not outlive the file.
+/// A position in a file, from which FFmpeg reads and seeks. Several streams of one file are
+/// independent. Must not outlive the file.
 class FileStream
 {
 public:

@@ -1,8 +1,8 @@
 #pragma once
 
-/// The one place where FFmpeg's filters come from.
+/// The only place that gives access to FFmpeg's filters.
 
-#include <cstdint> // FFmpeg's headers want its macros
+#include <cstdint> // required by FFmpeg's headers
 
 extern "C" {
 #include <libavfilter/avfilter.h>
@@ -14,10 +14,10 @@ extern "C" {
 
 namespace QtAV {
 
-/// What is used of FFmpeg's library of filters.
+/// The functions used of FFmpeg's filter library.
 ///
-/// It is loaded when it is first needed, for it brings some thirty other libraries along: linked,
-/// it would make each start of a program a quarter longer, and few videos are interlaced.
+/// It is loaded on first use because it depends on some thirty other libraries. Linking it would
+/// make each start of a program a quarter longer, and few videos are interlaced.
 struct FilterLibrary
 {
     decltype(&avfilter_graph_alloc) graphAlloc = nullptr;
@@ -34,7 +34,7 @@ struct FilterLibrary
     decltype(&av_buffersink_get_time_base) sinkTimeBase = nullptr;
     decltype(&av_buffersink_get_frame) sinkGetFrame = nullptr;
 
-    /// The library; null where it cannot be loaded, which the debug stream says once. From any
+    /// The library; null if it cannot be loaded, which is logged once as a debug message. From any
     /// thread.
     static const FilterLibrary* get();
 };

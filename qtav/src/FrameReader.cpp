@@ -15,7 +15,7 @@ namespace QtAV {
 
 namespace {
 
-/// Most of what readAhead() keeps while no key frame comes.
+/// Maximum size of what readAhead() keeps while no key frame comes.
 constexpr qint64 mostAheadBytes = 64 * 1024 * 1024;
 
 QVariantHash decoderOptions(bool skips, bool hurries)
@@ -26,7 +26,7 @@ QVariantHash decoderOptions(bool skips, bool hurries)
         {QStringLiteral("start"), QVariantHash{{QStringLiteral("key_frame_at_once"), hurries}}}};
 }
 
-/// Lets a question interrupt the demuxer while it is in scope.
+/// Sets the demuxer's interrupt callback during its lifetime.
 class Interruptible
 {
 public:
@@ -176,7 +176,7 @@ FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
     return answer;
 }
 
-/// Where reading was interrupted it begins anew at the last frame that was given.
+/// After an interruption, reading restarts at the last delivered frame.
 FrameAnswer FrameReader::lost(const IsCancelled& isCancelled)
 {
     if (!isCancelled()) {
@@ -258,10 +258,10 @@ FrameReader::Decoded FrameReader::decodeNext(const IsCancelled& isCancelled)
         }
         chooseSkipping(packet);
         const bool isDecoded = m_decoder->decode(packet);
-        // All others are as large.
+        // All other pictures are as large.
         const bool isRefused = !isDecoded && !m_decoder->errorString().isEmpty();
         m_isLost = m_isLost || isRefused;
-        // Without the picture that it began with a search starts further back.
+        // A search that misses its first picture starts further back.
         if (!isDecoded && (!isLanding || isRefused)) {
             return {{FrameAnswer::Failed, {}, damageText()}};
         }
@@ -311,7 +311,7 @@ FrameAnswer FrameReader::readAhead(qint64 ms, const IsCancelled& isCancelled)
     return FrameAnswer::Frame;
 }
 
-/// What a seek to one of the packets that were read ahead would have done.
+/// Has the same effect as a seek to one of the packets that were read ahead.
 void FrameReader::landOnAhead(size_t index)
 {
     std::deque<Packet> ahead = std::move(m_ahead);
@@ -366,8 +366,8 @@ FrameResult FrameReader::nextKeyFrame(qint64 beforeMs, const IsCancelled& isCanc
         if (toMilliseconds(packet.pts) >= beforeMs) {
             return {FrameAnswer::End, {}, {}};
         }
-        // Key frames refer to nothing, and a decoder that was given one more expects what is
-        // between them.
+        // Key frames refer to no other frame. A decoder that gets the next one would expect the
+        // frames between them.
         m_decoder->flush();
         const bool isDecoded = m_decoder->decode(packet);
         const VideoFrame frame = m_decoder->frame();
@@ -408,7 +408,7 @@ void FrameReader::chooseSkipping(const Packet& packet)
     if (skips) {
         m_skippedUpTo = std::max(m_skippedUpTo, packet.pts);
     }
-    // Where frames are skipped, the key frame is not looked at either.
+    // Where frames are skipped, the key frame is not shown either.
     const bool hurries = m_keyFrameAtOnce && !skips;
     if (skips == m_skips && hurries == m_decoderHurries) {
         return;
@@ -418,11 +418,11 @@ void FrameReader::chooseSkipping(const Packet& packet)
     m_decoder->setOptions(decoderOptions(skips, hurries));
 }
 
-/// A frame that came out of the decoder, with what is known of it.
+/// A decoded frame with what is known about it.
 FrameReader::Decoded FrameReader::arrived(const VideoFrame& frame, bool isLanding)
 {
     Decoded decoded{{FrameAnswer::Frame, frame}};
-    // What was interrupted may begin behind frames that cannot be decoded any more.
+    // After an interruption, reading may begin behind frames that cannot be decoded any more.
     decoded.isInSequence = m_newest && !std::exchange(m_resumes, false);
     if (decoded.isInSequence && *m_newest >= m_skippedUpTo) {
         decoded.predecessor = m_newest;
@@ -459,7 +459,7 @@ bool FrameReader::wantsNeighbours(const VideoFrame& frame) const
     return Deinterlacer::mayTake(*VideoFramePrivate::of(frame)->frame, m_deinterlacing);
 }
 
-/// The frame with the pictures around it, as far as it wants and they are known.
+/// The frame with its neighbouring pictures, as far as it needs them and they are known.
 VideoFrame FrameReader::withNeighbours(const Decoded& decoded) const
 {
     const VideoFrame& frame = decoded.result.frame;

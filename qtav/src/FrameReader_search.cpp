@@ -6,8 +6,8 @@
 
 namespace QtAV {
 
-/// True when no frame that was not skipped can be missing directly before last(). Once one has come
-/// out, all do.
+/// True if no frame can be missing directly before last(), except skipped ones. Once a frame has
+/// been decoded, all that follow are.
 bool FrameReader::isCertain() const
 {
     return m_isInSequence || m_isAtFirst || (m_landing && *m_last <= *m_landing);
@@ -82,13 +82,13 @@ FrameResult FrameReader::findFrom(Search search, const IsCancelled& isCancelled)
     }
 }
 
-/// Whether last() is the video's last frame and looks as ever, once the reader is at the end.
+/// Whether last() is the video's last frame and looksAsEver(), once the reader is at the end.
 bool FrameReader::isWholeLast() const
 {
     return !skippedSinceLast() && looksAsEver();
 }
 
-/// The video's last frame, once the reader has come to the end.
+/// The video's last frame, once the reader has reached the end.
 FrameResult FrameReader::lastOfVideo(const Search& search, const IsCancelled& isCancelled)
 {
     if (isWholeLast()) {

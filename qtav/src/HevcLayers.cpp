@@ -8,7 +8,7 @@ namespace {
 
 constexpr int sequenceParameterSet = 33;
 
-/// The record of ISO/IEC 14496-15 that stands in MP4 and Matroska files.
+/// The configuration record of ISO/IEC 14496-15, used in MP4 and Matroska files.
 bool isConfigurationRecord(const uint8_t* data, qsizetype size)
 {
     return size >= 23 && data[0] == 1;
@@ -19,7 +19,7 @@ int layersInConfigurationRecord(const uint8_t* data)
     return (data[21] >> 3) & 0x07;
 }
 
-/// A parameter set: two bytes of header, then 4 bits of id and 3 bits of layer count less one.
+/// A parameter set: two bytes of header, then 4 bits of id and 3 bits of layer count minus one.
 bool parameterSetHasSubLayers(const NalUnits::Unit& unit)
 {
     const bool isParameterSet = unit.type == sequenceParameterSet && unit.size >= 3;

@@ -9,14 +9,14 @@
 
 namespace QtAV {
 
-/// Memory for images of one size after the other, used again once their last copy is gone: to
-/// begin with fresh memory for each picture of a video costs more than to fill it.
+/// Memory for images of one size at a time, reused once the last copy of an image is gone. Using
+/// fresh memory for each picture of a video costs more than filling it.
 ///
-/// Images may outlive the pool. May be called from several threads at once.
+/// Images may outlive the pool. Thread-safe.
 class ImagePool
 {
 public:
-    /// A Format_ARGB32 image whose pixels have any values; null when memory runs out.
+    /// A Format_ARGB32 image with undefined pixels; null when memory runs out.
     [[nodiscard]] QImage take(const QSize& size);
 
 private:

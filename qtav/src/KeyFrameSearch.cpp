@@ -23,7 +23,7 @@ KeyFrameSearch::KeyFrameSearch(VideoPackets& video, qint64 durationMs, qint64 fi
 PacketAnswer KeyFrameSearch::run(qint64 targetMs)
 {
     m_targetMs = targetMs;
-    // Searches near the start say nothing of how far to step back elsewhere.
+    // Searches near the start do not tell how far to step back elsewhere.
     const qint64 usualStepBackMs = m_stepBackMs;
     const qint64 base = m_durationMs > 0 ? std::min(targetMs, m_durationMs) : targetMs;
     while (base - m_stepBackMs > 0) {
@@ -41,7 +41,7 @@ PacketAnswer KeyFrameSearch::run(qint64 targetMs)
 PacketAnswer KeyFrameSearch::searchFromStart()
 {
     PacketAnswer answer = scanIf(m_video.rewind(), Accept::FirstKeyFrame);
-    // Some containers claim to go to their start and end up elsewhere.
+    // Some containers report success for a seek to their start and end up elsewhere.
     for (const Accept accept : {Accept::FirstKeyFrame, Accept::AnyPacket}) {
         if (answer != PacketAnswer::End) {
             return answer;
@@ -54,7 +54,7 @@ PacketAnswer KeyFrameSearch::searchFromStart()
     return answer;
 }
 
-/// Scans from where a seek went to; a seek that was refused found nothing.
+/// Scans from where a seek landed; a failed seek finds nothing.
 PacketAnswer KeyFrameSearch::scanIf(bool isThere, Accept accept)
 {
     if (isThere) {
@@ -63,7 +63,7 @@ PacketAnswer KeyFrameSearch::scanIf(bool isThere, Accept accept)
     return m_video.wasInterrupted() ? PacketAnswer::Cancelled : PacketAnswer::End;
 }
 
-/// End where no packet is acceptable.
+/// Returns End if no packet is acceptable.
 PacketAnswer KeyFrameSearch::scan(Accept accept)
 {
     m_packets.clear();
@@ -80,7 +80,7 @@ PacketAnswer KeyFrameSearch::scan(Accept accept)
         if (answer == PacketAnswer::Failed && m_video.canGoOn()) {
             continue;
         }
-        // What was found before a failure is there all the same.
+        // What was found before a failure remains valid.
         if (answer != PacketAnswer::Packet) {
             return found && answer == PacketAnswer::Failed ? PacketAnswer::Packet : answer;
         }
@@ -110,7 +110,7 @@ PacketAnswer KeyFrameSearch::scan(Accept accept)
     }
 }
 
-/// False when no more may be kept.
+/// Returns false if the maximum is reached.
 bool KeyFrameSearch::keep(PacketPtr packet)
 {
     m_keptBytes += packet->size;

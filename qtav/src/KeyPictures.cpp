@@ -6,10 +6,10 @@ namespace QtAV {
 
 namespace {
 
-/// The message that announces a point of recovery, in both codecs.
+/// The message that announces a recovery point, in both codecs.
 constexpr int recoveryPoint = 6;
 
-/// Reads unsigned Exp-Golomb codes, which may be up to 31 zeros long; 0 behind the end.
+/// Reads unsigned Exp-Golomb codes with up to 31 leading zeros; gives 0 behind the end.
 class Bits
 {
 public:
@@ -47,7 +47,7 @@ private:
     qsizetype m_place = 0;
 };
 
-/// An H.264 slice: its first macroblock, then its type, of which 2 and 4 are intra ones.
+/// An H.264 slice: its first macroblock, then its type, of which 2 and 4 are intra types.
 bool isIntraSlice(const NalUnits::Unit& unit)
 {
     Bits bits(unit.data + 1, unit.size - 1);
@@ -56,7 +56,7 @@ bool isIntraSlice(const NalUnits::Unit& unit)
     return type == 2 || type == 4;
 }
 
-/// A number in bytes of 255 and a last one below.
+/// A number coded as bytes of 255 followed by a smaller one.
 int messageNumber(const NalUnits::Unit& unit, qsizetype& place)
 {
     int number = 0;
@@ -81,7 +81,7 @@ bool announcesRecovery(const NalUnits::Unit& unit, qsizetype headerBytes)
     return false;
 }
 
-/// MPEG-1 and MPEG-2: ten bits of place in its group, then three bits of type, 1 for intra.
+/// MPEG-1 and MPEG-2: ten bits of temporal reference, then three bits of type, 1 for intra.
 bool isMpegKey(const uint8_t* data, qsizetype size)
 {
     constexpr uint8_t picture = 0x00;
@@ -94,8 +94,8 @@ bool isMpegKey(const uint8_t* data, qsizetype size)
     return false;
 }
 
-/// MPEG-4: two bits of type, 0 for intra. The empty picture that ends a pack of pictures has the
-/// type of the first of them.
+/// MPEG-4: two bits of type, 0 for intra. The empty picture that ends a packed group has the type
+/// of the group's first picture.
 bool isMpeg4Key(const uint8_t* data, qsizetype size)
 {
     constexpr uint8_t picture = 0xb6;
@@ -140,7 +140,7 @@ bool KeyPictures::isIn(const uint8_t* data, qsizetype size) const
     }
 }
 
-/// Of two fields in a packet the first one counts, and of a picture its first slice.
+/// The first of two fields in a packet counts, and the first slice of a picture.
 bool KeyPictures::isInUnits(const uint8_t* data, qsizetype size) const
 {
     const bool isHevc = m_codec == AV_CODEC_ID_HEVC;

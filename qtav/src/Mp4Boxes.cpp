@@ -9,10 +9,10 @@ namespace QtAV {
 
 namespace {
 
-/// More boxes beside each other are not looked through.
+/// Maximum number of boxes examined side by side.
 constexpr int mostBoxes = 1000;
 
-/// Up to here the memory for what is declared does no harm: files that were cut short declare more
+/// Up to this number the memory for declared pictures is harmless: truncated files declare more
 /// than they hold.
 constexpr qint64 harmlessPictures = 1000000;
 
@@ -28,8 +28,8 @@ bool isVideo(Mp4Boxes& boxes, const Mp4Box& track)
     return head.endsWith("vide");
 }
 
-/// How many bytes the pictures have together that are all of one size; 0 where each has its own,
-/// since those sizes stand in the file.
+/// Total size of the pictures if all have one size; 0 if each has its own, since those sizes are
+/// stored in the file.
 qint64 declaredBytes(Mp4Boxes& boxes, const Mp4Box& track, qint64& pictures)
 {
     const std::optional<Mp4Box> sizes = boxes.find(track, "mdia", "minf", "stbl", "stsz");

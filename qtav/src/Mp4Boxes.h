@@ -8,7 +8,7 @@
 
 namespace QtAV {
 
-/// The content of a box of an MP4 or MOV file, as places in the file.
+/// The content of a box of an MP4 or MOV file, as byte positions in the file.
 struct Mp4Box
 {
     qint64 begin = 0;
@@ -17,8 +17,8 @@ struct Mp4Box
     qint64 bytes() const { return end - begin; }
 };
 
-/// Looks for boxes in an MP4 or MOV file, where FFmpeg does not tell what they hold. Believes no
-/// size that goes beyond the box around it, and looks through a thousand boxes beside each other.
+/// Finds boxes in an MP4 or MOV file whose contents FFmpeg does not provide. Ignores sizes that
+/// exceed the enclosing box, and examines at most a thousand boxes side by side.
 class Mp4Boxes
 {
 public:
@@ -26,14 +26,14 @@ public:
         : m_input(input)
     {}
 
-    /// So many bytes; none where not all can be read.
+    /// Reads this many bytes; returns none if not all can be read.
     [[nodiscard]] QByteArray read(qint64 position, int bytes);
 
-    /// The next box of a name at or behind a position; `after` is where it ends.
+    /// The next box with a name at or behind a position. `after` receives the end of that box.
     [[nodiscard]] std::optional<Mp4Box> find(const char* name, const Mp4Box& within,
                                              qint64* after = nullptr);
 
-    /// The first box of a name within the first of another one, and so on.
+    /// The first box with a name within the first box with another name, and so on.
     template <typename... Names>
     [[nodiscard]] std::optional<Mp4Box> find(const Mp4Box& within, const char* name, Names... names)
     {
@@ -50,7 +50,7 @@ private:
 };
 
 /// Whether a video track of an MP4 or MOV file declares more pictures than the file can hold.
-/// FFmpeg takes memory for each picture that is declared, and a kilobyte can declare many millions.
+/// FFmpeg allocates memory for each declared picture, and a kilobyte can declare many millions.
 [[nodiscard]] bool declaresTooManyPictures(FileInput& input);
 
 } // namespace QtAV

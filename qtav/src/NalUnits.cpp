@@ -6,8 +6,8 @@ namespace QtAV {
 
 namespace {
 
-/// How long the lengths before units are, by the records of ISO/IEC 14496-15; 0 where there is no
-/// such record, and start codes part the units.
+/// Size of the length before each unit, by the records of ISO/IEC 14496-15; 0 if there is no such
+/// record, and start codes separate the units.
 int lengthBytesOf(const AVCodecParameters& parameters)
 {
     const uint8_t* record = parameters.extradata;
@@ -33,7 +33,7 @@ NalUnits::Unit unitAt(AVCodecID codec, const uint8_t* data, qsizetype size)
 
 qsizetype behindStartCode(const uint8_t* data, qsizetype from, qsizetype size)
 {
-    // Start codes end in a 1, which is rare among other bytes.
+    // Start codes end in a 1, which is rarer than a 0.
     for (qsizetype i = from + 2; i < size; ++i) {
         const void* one = std::memchr(data + i, 1, static_cast<size_t>(size - i));
         if (!one) {
@@ -79,7 +79,7 @@ NalUnits::Cursor::Cursor(const NalUnits& units, const uint8_t* data, qsizetype s
     }
 }
 
-/// The length before a unit; nothing where it leads out of the packet.
+/// The length before a unit; nothing if it exceeds the packet.
 std::optional<qsizetype> NalUnits::Cursor::nextLength()
 {
     if (m_size - m_place <= m_lengthBytes) {

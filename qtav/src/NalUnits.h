@@ -8,8 +8,8 @@
 
 namespace QtAV {
 
-/// The units that the packets and parameter sets of an H.264 or HEVC stream consist of: with a
-/// length before each (MP4, Matroska) or parted by start codes (transport and raw streams).
+/// The units that make up the packets and parameter sets of an H.264 or HEVC stream: each preceded
+/// by its length (MP4, Matroska) or separated by start codes (transport and raw streams).
 class NalUnits
 {
 public:
@@ -17,26 +17,26 @@ public:
     {
         int type = 0;                  ///< nal_unit_type
         bool isReference = true;       ///< H.264: nal_ref_idc is not 0
-        const uint8_t* data = nullptr; ///< with its header
+        const uint8_t* data = nullptr; ///< includes its header
         qsizetype size = 0;            ///< of data, in bytes; at least that of the header
     };
 
-    /// Knows no stream: gives no units.
+    /// For an unknown stream: gives no units.
     NalUnits() = default;
     explicit NalUnits(const AVCodecParameters& parameters);
 
-    /// True for the two codecs that are made of units.
+    /// True for H.264 and HEVC, the two codecs made of units.
     bool areKnown() const { return m_codec != AV_CODEC_ID_NONE; }
     AVCodecID codec() const { return m_codec; }
 
-    /// Goes through the units of a packet one after the other.
+    /// Iterates over the units of a packet.
     class Cursor
     {
     public:
-        /// The next unit; nothing at the end, and where the packet is damaged.
+        /// The next unit; nothing at the end, and if the packet is damaged.
         [[nodiscard]] std::optional<Unit> next();
 
-        /// True at the end of a packet that could be followed to its end.
+        /// True at the end of a packet that could be parsed completely.
         bool isWhole() const { return !m_isDamaged && m_place == m_size; }
 
     private:
@@ -53,18 +53,19 @@ public:
         bool m_isDamaged = false;
     };
 
-    /// The data must outlive the cursor.
+    /// Iterates over the units of `data`, which must outlive the cursor.
     [[nodiscard]] Cursor of(const uint8_t* data, qsizetype size) const;
 
-    /// The same for units that are parted by start codes whatever the stream's packets look like.
+    /// Like of(), for units separated by start codes regardless of the format of the stream's
+    /// packets.
     [[nodiscard]] static Cursor ofMarked(AVCodecID codec, const uint8_t* data, qsizetype size);
 
 private:
     AVCodecID m_codec = AV_CODEC_ID_NONE;
-    int m_lengthBytes = 0; ///< of the length before each unit; 0 where start codes part them
+    int m_lengthBytes = 0; ///< size of the length before each unit; 0 if start codes separate them
 };
 
-/// The place behind the next start code (00 00 01); `size` where none follows.
+/// The position behind the next start code (00 00 01); `size` if none follows.
 [[nodiscard]] qsizetype behindStartCode(const uint8_t* data, qsizetype from, qsizetype size);
 
 } // namespace QtAV

@@ -11,7 +11,7 @@ Orientation orientationFromDisplayMatrix(const qint32* matrix)
     if (!matrix) {
         return Orientation::Upright;
     }
-    // A stored point (p, q) is shown at (a p + c q, b p + d q), y pointing downwards.
+    // A stored point (p, q) is shown at (a p + c q, b p + d q), with y pointing downwards.
     const double a = matrix[0];
     const double b = matrix[1];
     const double c = matrix[3];

@@ -6,8 +6,8 @@
 
 namespace QtAV {
 
-/// What has to be done to a stored picture to show it upright: one of the eight ways in which a
-/// rectangle covers itself or its transposition.
+/// What makes a stored picture upright: one of the eight symmetries that map a rectangle to itself
+/// or to its transpose.
 enum class Orientation {
     Upright,
     Rotated90,  ///< turn clockwise by a quarter
@@ -19,14 +19,14 @@ enum class Orientation {
     AntiTransposed, ///< mirror on the diagonal from the top right
 };
 
-/// The orientation that FFmpeg's display matrix (nine 16.16 numbers, row by row) asks for; a
-/// rotation in between goes to the nearest quarter. Null and degenerate matrices mean upright.
+/// The orientation of an FFmpeg display matrix (nine 16.16 numbers, row by row), rounded to the
+/// nearest quarter turn. Null and degenerate matrices mean upright.
 Orientation orientationFromDisplayMatrix(const qint32* matrix);
 
-/// True where width and height change places.
+/// True if width and height are swapped.
 bool swapsSides(Orientation orientation);
 
-/// The picture turned upright; the image itself when it is so already.
+/// The picture turned upright; the image itself if it already is.
 [[nodiscard]] QImage oriented(const QImage& image, Orientation orientation);
 
 } // namespace QtAV

@@ -7,7 +7,7 @@
 
 namespace QtAV {
 
-/// The FFmpeg packet behind a Packet: what the decoder is given, side data included.
+/// The FFmpeg packet behind a Packet: what the decoder receives, side data included.
 class PacketHandle
 {
 public:
@@ -17,21 +17,20 @@ public:
 
     const AVPacket* get() const { return m_packet.get(); }
 
-    /// The Packet for what the demuxer read.
+    /// Wraps a packet that the demuxer read.
     static Packet wrap(PacketPtr source, const Timeline& timeline);
 
-    /// A packet that carries nothing and makes a decoder hand out a held frame.
+    /// A packet without data that makes a decoder release a frame that it holds.
     static Packet drain(double pts);
 
-    /// The FFmpeg packet of a Packet; null for a drain packet and for one that was never read.
+    /// The FFmpeg packet of a Packet; null for a drain packet and for a default-constructed one.
     static std::shared_ptr<const PacketHandle> of(const Packet& packet) { return packet.m_handle; }
 
 private:
     PacketPtr m_packet;
 };
 
-/// The presentation time in ticks, or the decoding time where there is none; AV_NOPTS_VALUE where
-/// there is neither.
+/// The presentation time in ticks, otherwise the decoding time, otherwise AV_NOPTS_VALUE.
 qint64 presentationTicks(const AVPacket& packet);
 
 } // namespace QtAV

@@ -19,7 +19,7 @@ bool isXyz(AVPixelFormat format)
     return format == AV_PIX_FMT_XYZ12LE || format == AV_PIX_FMT_XYZ12BE;
 }
 
-/// The format that keeps all that a picture has and that can be read directly.
+/// The format that preserves everything a picture has and can be read directly.
 AVPixelFormat readableFormatFor(AVPixelFormat format)
 {
     const AVPixFmtDescriptor& descriptor = *av_pix_fmt_desc_get(format);
@@ -37,7 +37,7 @@ AVPixelFormat readableFormatFor(AVPixelFormat format)
     return isDeep ? AV_PIX_FMT_YUV444P16LE : AV_PIX_FMT_YUV444P;
 }
 
-/// The same without a statement of the range, which the scaler wants to be told otherwise.
+/// The same format without an implied range, which the scaler expects to be set separately.
 AVPixelFormat withoutRange(AVPixelFormat format)
 {
     switch (format) {
@@ -66,8 +66,8 @@ void setOption(SwsContext& context, const char* name, int64_t value)
     av_opt_set_int(&context, name, value, 0);
 }
 
-/// Says where chroma lies, in directions in which there is less of it than of luma. The side is
-/// "src" or "dst".
+/// Sets the position of chroma, in directions in which it is subsampled. The side is "src" or
+/// "dst".
 void setChromaPlace(SwsContext& context, const QByteArray& side, AVPixelFormat format,
                     AVChromaLocation location)
 {
@@ -84,7 +84,7 @@ void setChromaPlace(SwsContext& context, const QByteArray& side, AVPixelFormat f
     }
 }
 
-/// Chroma that belongs to two moments in turn cannot be scaled as if it were one's.
+/// Chroma of two alternating moments cannot be scaled like that of one.
 bool hasFieldChroma(const AVFrame& frame)
 {
     const AVPixFmtDescriptor& format =
@@ -92,8 +92,8 @@ bool hasFieldChroma(const AVFrame& frame)
     return isInterlaced(frame) && format.log2_chroma_h == 1;
 }
 
-/// Smaller pictures are made by area: every pixel counts, and what is fine neither vanishes nor
-/// flickers. That smooths too much where a picture becomes larger.
+/// Smaller pictures are made by area: every pixel counts, and fine detail neither vanishes nor
+/// flickers. For enlarging, that smooths too much.
 int filterFor(const QSize& from, const QSize& to)
 {
     const bool isSmaller = to.width() <= from.width() && to.height() <= from.height();
@@ -134,7 +134,7 @@ QImage PictureConverter::convertAsStored(const AVFrame& frame, const QSize& size
                        hasAlpha(frame) ? QImage::Format_RGBA64 : QImage::Format_RGBX64);
 }
 
-/// Brings colours that are not standard ones to those of sRGB.
+/// Converts non-standard colours to sRGB.
 QImage PictureConverter::convertFrom(const Colours& colours, const AVFrame& frame,
                                      const QSize& size, QImage::Format wanted)
 {
@@ -155,7 +155,7 @@ QImage PictureConverter::convertFrom(const Colours& colours, const AVFrame& fram
     return picture ? scaledImage(*picture, {}, size, wanted) : QImage();
 }
 
-/// Brings the picture to the size and into a format that can be read.
+/// Scales the picture to the size and into a format that can be read.
 QImage PictureConverter::scaledImage(const AVFrame& frame, const Colours& colours,
                                      const QSize& size, QImage::Format wanted)
 {
@@ -203,8 +203,8 @@ FramePtr PictureConverter::scaled(const AVFrame& frame, const QSize& size)
     return picture;
 }
 
-/// An interlaced picture in red, green and blue, in which no chroma belongs to a field any more.
-/// Null when memory runs out.
+/// An interlaced picture converted to red, green and blue, in which no chroma belongs to a field
+/// any more. Null when memory runs out.
 ///
 /// @param format  AV_PIX_FMT_BGRA or, for 16 bits, AV_PIX_FMT_RGBA64
 FramePtr PictureConverter::withoutFields(const Colours& colours, const AVFrame& frame,
@@ -251,7 +251,7 @@ QImage PictureConverter::imageOf(const AVFrame& picture, const Colours& colours,
     return image;
 }
 
-/// The tables for colours; null for standard ones. A video's colours hardly ever change.
+/// The tables for colours; null for standard ones. The colours of a video hardly ever change.
 std::shared_ptr<const ColourMap> PictureConverter::mapFor(const Colours& colours)
 {
     if (colours.isStandard()) {
@@ -275,7 +275,7 @@ PictureConverter::Task PictureConverter::taskFor(const AVFrame& frame, const QSi
             YuvToRgb::chromaLocationOf(frame)};
 }
 
-/// Scales a picture, which keeps its own colours. False when that is impossible.
+/// Scales a picture, which keeps its own colours. Returns false if that is impossible.
 bool PictureConverter::scale(const AVFrame& frame, const Scaler& scaler, AVFrame& picture)
 {
     picture.color_range = isFullRangeFormat(frame) ? AVCOL_RANGE_JPEG : frame.color_range;
@@ -299,7 +299,7 @@ std::optional<PictureConverter::Scaler> PictureConverter::takeScaler(const Task&
     return makeScaler(task);
 }
 
-/// Null when FFmpeg cannot scale so.
+/// Null if FFmpeg cannot do this scaling.
 ScalerPtr PictureConverter::makeScalerContext(const Task& task)
 {
     ScalerPtr context(sws_alloc_context());
@@ -326,7 +326,7 @@ std::optional<PictureConverter::Scaler> PictureConverter::makeScaler(const Task&
     if (!context) {
         return std::nullopt;
     }
-    // The same range on both sides: the conversion to full range is YuvToRgb's.
+    // The same range on both sides, since YuvToRgb converts to full range.
     const int* coefficients = sws_getCoefficients(SWS_CS_DEFAULT);
     constexpr int neutral = 1 << 16;
     sws_setColorspaceDetails(context.get(), coefficients, task.isFullRange, coefficients,

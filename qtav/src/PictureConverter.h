@@ -17,37 +17,38 @@ namespace QtAV {
 
 /// Turns decoded pictures of any pixel format into full-range sRGB images.
 ///
-/// Colours are converted by YuvToRgb, which is exact and reads the common formats as they are, and
-/// by TrueColours where that is not enough. Rare formats are brought into one of those by FFmpeg's
-/// scaler first, and so are pictures whose pixels are not square. Scalers, tables and memory are
-/// kept for the next picture of the same kind.
+/// YuvToRgb converts colours: it is exact and reads the common formats directly. TrueColours
+/// handles what goes beyond it. Rare formats, and pictures whose pixels are not square, are first
+/// converted by FFmpeg's scaler. Scalers, tables and memory are kept for the next picture of the
+/// same kind.
 ///
-/// May be called from several threads at once.
+/// Thread-safe.
 class PictureConverter
 {
 public:
-    /// The picture at a size in pixels, in Format_ARGB32 or Format_RGBA64 or, without its alpha, in
-    /// Format_RGB888 or Format_RGBX64; a null image when it cannot be converted or memory runs out.
+    /// The picture at a size in pixels: in Format_ARGB32 or Format_RGBA64 or, without its alpha, in
+    /// Format_RGB888 or Format_RGBX64. A null image if it cannot be converted or memory runs out.
     [[nodiscard]] QImage convert(const AVFrame& frame, const QSize& size,
                                  QImage::Format format = QImage::Format_ARGB32);
 
-    /// The same in the picture's own R'G'B' instead of sRGB's, see coloursOf(); in 16 bits.
+    /// Like convert(), but in the picture's own R'G'B' instead of sRGB's, see coloursOf(), and with
+    /// 16 bits.
     [[nodiscard]] QImage convertAsStored(const AVFrame& frame, const QSize& size);
 
-    /// True when the picture's format has alpha, be all of it opaque or not.
+    /// True if the picture's format has alpha, even if all of it is opaque.
     static bool hasAlpha(const AVFrame& frame);
 
-    /// The picture itself, smaller: in its own format where that can be read directly, with its own
-    /// colours and square pixels. Null when it cannot be scaled or memory runs out.
+    /// The picture itself, scaled down: in its own format if that can be read directly, with its
+    /// own colours and square pixels. Null if it cannot be scaled or memory runs out.
     FramePtr scaled(const AVFrame& frame, const QSize& size);
 
-    /// True for pictures of luma and chroma alone. What convert() gives of them is opaque, and at a
-    /// smaller size shows what it shows at full size, at a part of the time and memory: scaling
-    /// luma and chroma comes to the same as scaling colours.
+    /// True for pictures that consist of luma and chroma only. The result of convert() is then
+    /// opaque, and at a smaller size looks like the one at full size, at a fraction of the time and
+    /// memory: scaling luma and chroma is equivalent to scaling colours.
     static bool isOpaqueYuv(const AVFrame& frame);
 
 private:
-    /// What a scaler was made for.
+    /// The properties that a scaler was made for.
     struct Task
     {
         QSize from;
@@ -64,10 +65,10 @@ private:
     {
         Task task;
         ScalerPtr context;
-        FramePtr picture; ///< for convert() to write to; made when it is first needed
+        FramePtr picture; ///< output of the scaler for convert(); created when it is first needed
     };
 
-    /// More kinds of pictures than a video and its conversions have at a time.
+    /// Enough for the kinds of pictures that a video and its conversions have at a time.
     static constexpr size_t mostIdleScalers = 4;
 
     [[nodiscard]] QImage imageOf(const AVFrame& picture, const Colours& colours,
@@ -90,7 +91,7 @@ private:
     ImagePool m_images;
     std::mutex m_mutex;
     std::vector<Scaler> m_idle;             ///< guarded by m_mutex
-    std::shared_ptr<const ColourMap> m_map; ///< used last; guarded by m_mutex
+    std::shared_ptr<const ColourMap> m_map; ///< the most recent one; guarded by m_mutex
 };
 
 } // namespace QtAV

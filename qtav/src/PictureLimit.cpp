@@ -11,13 +11,13 @@ namespace QtAV {
 
 namespace {
 
-/// Of the images that are made: red, green, blue and one byte beside them.
+/// For the images: red, green, blue and one more byte.
 constexpr qint64 imagePixelBytes = 4;
 
-/// Luma alone is the least that a decoded pixel takes in common formats.
+/// Luma alone is the minimum for a decoded pixel in common formats.
 constexpr qint64 leastPixelBytes = 1;
 
-/// What is read of files of all kinds fits into this.
+/// Everything that is read from files of any kind fits into this.
 constexpr qint64 leastBlock = qint64(256) << 20;
 
 qint64 pixelsOf(const QSize& size)
@@ -25,7 +25,7 @@ qint64 pixelsOf(const QSize& size)
     return qint64(size.width()) * size.height();
 }
 
-/// Of a picture as it is decoded. The format that most videos have stands for an unknown one.
+/// Memory of a decoded picture. An unknown format is assumed to be the most common one.
 qint64 decodedBytes(AVPixelFormat format, const QSize& stored)
 {
     const AVPixFmtDescriptor* const known = av_pix_fmt_desc_get(format);
@@ -46,7 +46,7 @@ qint64 PictureLimit::bytesOf(AVPixelFormat format, const QSize& stored, const QS
     return decodedBytes(format, stored) + pixelsOf(shown) * imagePixelBytes;
 }
 
-/// The deepest pictures take twice of what their images do.
+/// The deepest pictures take twice the memory of their images.
 size_t PictureLimit::mostAtOnce() const
 {
     return static_cast<size_t>(std::clamp<qint64>(m_bytes / 4 * 3, leastBlock, INT_MAX));

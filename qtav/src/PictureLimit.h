@@ -9,10 +9,10 @@
 
 namespace QtAV {
 
-/// How much memory a video's pictures may take, by what their headers declare.
+/// Limits the memory of a video's pictures, based on what their headers declare.
 ///
-/// A file of a few kilobytes can declare pictures of a gigabyte, and a decoder takes the memory for
-/// them before it looks whether there is anything in them.
+/// A file of a few kilobytes can declare pictures of a gigabyte, and a decoder allocates their
+/// memory before it checks whether they have any content.
 class PictureLimit
 {
 public:
@@ -20,22 +20,23 @@ public:
         : m_bytes(bytes)
     {}
 
-    /// A picture of that format and size, and the image of the shown size that is made of it.
+    /// Memory of a picture of that format and size and of the image at the display size made from
+    /// it, in bytes.
     [[nodiscard]] static qint64 bytesOf(AVPixelFormat format, const QSize& stored,
                                         const QSize& shown);
 
     [[nodiscard]] bool allows(qint64 bytes) const { return bytes <= m_bytes; }
 
-    /// The largest block of memory that FFmpeg needs for a picture, or for anything else.
+    /// The largest block of memory that FFmpeg needs, for a picture or anything else.
     [[nodiscard]] size_t mostAtOnce() const;
 
-    /// Larger pictures are too large in whatever format.
+    /// Pictures with more pixels are too large in every format.
     [[nodiscard]] qint64 mostPixels() const;
 
-    /// How many threads may decode pictures of that size: each of them holds some.
+    /// How many threads may decode pictures of that size, since each thread holds some of them.
     [[nodiscard]] int threadsFor(AVPixelFormat format, const QSize& stored, int wanted) const;
 
-    /// A text for people: why a picture of that size is refused.
+    /// Why a picture of that size is refused, as a text for people.
     [[nodiscard]] QString refusal(const QSize& stored, qint64 bytes) const;
 
 private:

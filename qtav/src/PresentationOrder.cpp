@@ -9,10 +9,10 @@ namespace QtAV {
 
 namespace {
 
-/// In a stream that has no times at all none need be waited for.
+/// In a stream without any times, pictures need not wait for one.
 constexpr size_t maximumUnplaced = 64;
 
-/// Longer than any picture is shown, and small enough to be calculated with.
+/// Longer than any picture is shown, and small enough to avoid overflow.
 constexpr qint64 maximumFrameTicks = qint64(1) << 40;
 
 constexpr qint64 noOrder = std::numeric_limits<qint64>::min();
@@ -22,10 +22,10 @@ bool hasOrderCount(AVCodecID codec)
     return codec == AV_CODEC_ID_H264 || codec == AV_CODEC_ID_HEVC;
 }
 
-/// True for two times that differ by less than half a picture.
+/// True if two times differ by less than half a picture.
 bool isNear(qint64 a, qint64 b, qint64 frameTicks)
 {
-    // Damaged files state any time: the distance of two need not fit.
+    // Damaged files state any time: the distance of two need not fit into 64 bits.
     const Timeline::Wide distance = Timeline::Wide(a) - b;
     const qint64 limit = std::max<qint64>(1, frameTicks / 2);
     return -limit < distance && distance < limit;
@@ -81,7 +81,7 @@ void PresentationOrder::parse(const AVPacket& packet)
                      packet.pts, packet.dts, packet.pos);
 }
 
-/// Film on an NTSC DVD is stored at its own rate: each picture says for how many fields it is
+/// Film on an NTSC DVD is stored at its own rate: each picture states for how many fields it is
 /// shown.
 qint64 PresentationOrder::shownTicks(const AVPacket& packet, qint64 frameTicks) const
 {
@@ -98,7 +98,7 @@ qint64 PresentationOrder::shownTicks(const AVPacket& packet, qint64 frameTicks) 
 void PresentationOrder::placeByOrderCount(Waiting picture)
 {
     picture.order = m_parser ? m_parser->output_picture_number : 0;
-    // The count starts over where nothing later refers to anything before.
+    // The count restarts where no later picture refers to an earlier one.
     const bool startsOver = picture.isKey && picture.order <= m_highestOrder;
     if (startsOver) {
         showAll();
@@ -162,7 +162,7 @@ void PresentationOrder::time(const Waiting& picture)
     }
 }
 
-/// Times the pictures that were shown before one whose time is known, back from that.
+/// Assigns times to the pictures shown before one whose time is known, going backward.
 void PresentationOrder::timeUnplaced(const Waiting& known)
 {
     constexpr int largestError = 3;
@@ -170,7 +170,7 @@ void PresentationOrder::timeUnplaced(const Waiting& known)
     for (auto picture = m_unplaced.rbegin(); picture != m_unplaced.rend(); ++picture) {
         ticks -= picture->frameTicks;
         const bool isOwn = picture->ticks != AV_NOPTS_VALUE;
-        // Beyond that the pictures between them do not follow one another without a gap.
+        // Beyond that there are gaps between the pictures.
         const bool fits =
             isOwn && !known.isKey &&
             isNear(picture->ticks, ticks, 2 * (largestError + 1) * picture->frameTicks - 1);
@@ -182,7 +182,7 @@ void PresentationOrder::timeUnplaced(const Waiting& known)
     m_unplaced.clear();
 }
 
-/// What they bear themselves has to do.
+/// Falls back to the times that the packets have themselves.
 void PresentationOrder::giveUpUnplaced()
 {
     for (const Waiting& picture : m_unplaced) {
@@ -196,7 +196,7 @@ void PresentationOrder::giveUpUnplaced()
     m_unplaced.clear();
 }
 
-/// Sets the time of a picture, unless it has gone with its own.
+/// Sets the time of a picture, unless it was already delivered with its own.
 void PresentationOrder::settle(quint64 place, qint64 ticks)
 {
     if (place < m_firstPlace) {

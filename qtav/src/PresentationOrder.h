@@ -10,23 +10,23 @@
 
 namespace QtAV {
 
-/// Gives the packets of a stream presentation times where the container has none.
+/// Gives the packets of a stream presentation times if the container has none.
 ///
 /// AVI and raw streams store pictures in decoding order and number them in that order, although
-/// codecs with B-frames show them in another. The n-th picture shown belongs at the n-th of those
-/// times. Program streams time only the first picture that begins in each of their own packets: a
-/// picture without a time is shown as long after the one shown before it as that lasts. Where such
-/// a packet begins between the headers of a key picture and the picture itself, programs do not
-/// agree whose time it bears: a key picture's own time must fit those of its neighbours.
+/// codecs with B-frames show them in another. The n-th picture shown gets the n-th of those times.
+/// Program streams give a time only to the first picture that begins in each of their own packets:
+/// a picture without a time is shown when its predecessor ends. If such a packet begins between the
+/// headers of a key picture and the picture itself, programs disagree about which picture the time
+/// belongs to: a key picture's own time must fit those of its neighbours.
 ///
-/// What is shown when follows from the bitstream: from the picture order count where the codec has
-/// one, else from the picture types (a B-picture is shown at once, any other after the B-pictures
-/// that follow it).
+/// The presentation order follows from the bitstream: from the picture order count if the codec has
+/// one, otherwise from the picture types (a B-picture is shown at once, any other after the
+/// B-pictures that follow it).
 ///
-/// push() packets in decoding order, starting at a key frame, and pop() them in the same order;
-/// a packet comes out as soon as its time is certain, a few packets later. Since everything
-/// before a key frame is shown before the pictures that follow it, the times are the same
-/// wherever one starts.
+/// push() packets in decoding order, starting at a key frame, and pop() them in the same order. A
+/// packet comes out as soon as its time is certain, a few packets later. Everything before a key
+/// frame is shown before the pictures that follow it, so the times do not depend on where decoding
+/// starts.
 class PresentationOrder
 {
 public:
@@ -35,22 +35,22 @@ public:
         WithGaps,   ///< some packets have a presentation time
     };
 
-    /// @param reorderDelay how many pictures the codec may hold back, as FFmpeg measured it.
+    /// @param reorderDelay how many pictures the codec may hold back, as measured by FFmpeg.
     /// @param timeBase     the length of a tick, in seconds.
     PresentationOrder(const AVCodecParameters& codec, int reorderDelay, Times times,
                       AVRational timeBase);
 
-    /// Takes a packet.
-    /// @param frameTicks  how long its picture is shown, in ticks, unless it says so itself.
+    /// Adds a packet.
+    /// @param frameTicks  duration of its picture in ticks, unless the packet states it.
     void push(PacketPtr packet, qint64 frameTicks);
 
-    /// No more packets will come: all that are held are certain now.
+    /// Ends the input: all packets held are certain now.
     void finish();
 
-    /// Forgets everything that is held, for a new start at another key frame.
+    /// Drops all packets held, for a new start at another key frame.
     void reset();
 
-    /// The next packet, its presentation time set; null when none is certain yet.
+    /// The next packet, with its presentation time set; null if none is certain yet.
     PacketPtr pop();
 
 private:
@@ -60,13 +60,13 @@ private:
         bool certain = false;
     };
 
-    /// A picture that waits for its turn: by order count, then by the place in decoding order.
+    /// A picture waiting for its turn, sorted by order count, then by position in decoding order.
     struct Waiting
     {
         qint64 order;
         quint64 place;
-        qint64 ticks;      ///< its own presentation time; AV_NOPTS_VALUE without one
-        qint64 frameTicks; ///< how long it is shown
+        qint64 ticks;      ///< its own presentation time; AV_NOPTS_VALUE if it has none
+        qint64 frameTicks; ///< its duration
         bool isKey;
         bool operator<(const Waiting& other) const
         {
@@ -94,12 +94,12 @@ private:
     size_t m_reorderDelay;
 
     std::deque<Held> m_held;
-    quint64 m_firstPlace = 0;   ///< the place of m_held's front in decoding order
-    std::deque<qint64> m_times; ///< the decoding times not yet given away, in order
+    quint64 m_firstPlace = 0;   ///< position of m_held's front in decoding order
+    std::deque<qint64> m_times; ///< decoding times not assigned yet, in order
     std::set<Waiting> m_waiting;
     qint64 m_highestOrder = 0;
-    qint64 m_nextTicks = AV_NOPTS_VALUE; ///< when the picture shown last is over
-    std::vector<Waiting> m_unplaced;     ///< shown already, in order, before a time is certain
+    qint64 m_nextTicks = AV_NOPTS_VALUE; ///< end of the picture shown last
+    std::vector<Waiting> m_unplaced;     ///< already shown, in order, before a time is certain
 };
 
 } // namespace QtAV

@@ -52,7 +52,7 @@ void writeToMessageLog(void* source, int level, const char* format, va_list argu
         return;
     }
     char line[1024];
-    // A line that goes on where the last one ended would need state; each stands for itself here.
+    // Continuing an unfinished line would need state; here each stands alone.
     int printPrefix = 1;
     av_log_format_line2(source, level, format, arguments, line, sizeof line, &printPrefix);
     const QString text = QString::fromUtf8(line).trimmed();

@@ -6,7 +6,7 @@
 
 namespace QtAV {
 
-/// Where the key frames of a raw stream are, which has no container that would tell.
+/// Positions of the key frames of a raw stream, which has no container to list them.
 class RawStreamIndex
 {
 public:
@@ -17,10 +17,10 @@ public:
         qint64 presentationTicks;
     };
 
-    /// Key frames are added in file order.
+    /// Adds a key frame; call it in file order.
     void add(const KeyFrame& keyFrame) { m_keyFrames.append(keyFrame); }
 
-    /// The last key frame shown at or before a time; nothing when the first one is shown later.
+    /// The last key frame shown at or before a time; nothing if the first one is shown later.
     [[nodiscard]] std::optional<KeyFrame> atOrBefore(qint64 presentationTicks) const;
 
     /// The number of frames, and so the length of the stream in ticks.

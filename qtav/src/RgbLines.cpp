@@ -48,7 +48,7 @@ bool isYuv(AVPixelFormat format)
     return YuvToRgb::reads(format);
 }
 
-/// The rows of R'G'B' from luma and chroma, both in their own scale.
+/// The matrix rows that give R'G'B' from luma and chroma, both in their own scale.
 std::array<double, 9> rowsFor(AVColorSpace space)
 {
     if (space == AVCOL_SPC_YCGCO) {
@@ -67,7 +67,7 @@ std::array<double, 9> rowsFor(AVColorSpace space)
             0.0};
 }
 
-// BT.2020's transfer, in which constant luminance is defined.
+// BT.2020's transfer function, by which constant luminance is defined.
 constexpr double alpha = 1.09929682680944;
 constexpr double beta = 0.018053968510807;
 
@@ -94,7 +94,7 @@ RgbLines::RgbLines(const AVFrame& frame)
     }
     m_yuv = std::make_unique<YuvLines>(frame);
     const bool isFull = YuvToRgb::isFullRange(frame);
-    // The widest sample, brought to 15 bits, is 1 in full range.
+    // The widest sample, scaled to 15 bits, is 1 in full range.
     constexpr double unit = 1 << (YuvLines::sampleBits - 8);
     const int depth = m_yuv->depth();
     const double whole = double((1 << depth) - 1) * std::pow(2.0, YuvLines::sampleBits - depth);
@@ -151,7 +151,7 @@ void RgbLines::readYuv(int line, RgbLine& target)
             target.green.data(), target.blue.data(), target.red.size());
 }
 
-/// Luma is that of light here, so that green follows from light too.
+/// Here luma is computed from light, so green follows from light too.
 void RgbLines::readConstantLuminance(int line, RgbLine& target)
 {
     m_yuv->moveTo(line);
@@ -180,7 +180,7 @@ void RgbLines::readRgb(int line, RgbLine& target)
     readComponent(2, line, target.blue);
 }
 
-/// Planes in the processor's own order are read as they are; all others sample by sample.
+/// Planes in native byte order are read directly; all others sample by sample.
 void RgbLines::readComponent(int component, int line, std::vector<float>& target)
 {
     const AVComponentDescriptor& c = m_format.comp[component];

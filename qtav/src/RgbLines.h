@@ -10,12 +10,12 @@
 
 namespace QtAV {
 
-/// Reads a picture of any format line by line as R'G'B' in floating point: the way for pictures
-/// whose colours a matrix on bytes cannot express, and for those with more bits than the screen.
+/// Reads a picture of any format line by line as R'G'B' in floating point, for pictures whose
+/// colours cannot be converted by a matrix on bytes, and for those with more bits than the screen.
 class RgbLines
 {
 public:
-    /// The picture has to outlive this.
+    /// The picture must outlive this object.
     explicit RgbLines(const AVFrame& frame);
     ~RgbLines();
     RgbLines(const RgbLines&) = delete;
@@ -25,11 +25,11 @@ public:
     /// packed, of any depth up to 16 bits, without a palette.
     static bool reads(AVPixelFormat format);
 
-    /// The pixels of a line, 0 to 1 but for what is out of range.
+    /// Reads the pixels of a line, from 0 to 1 except for values out of range.
     void read(int line, RgbLine& target);
 
     bool hasAlpha() const;
-    /// The alpha of the line that was read last, 0 to 1.
+    /// The alpha of the most recently read line, 0 to 1.
     const std::vector<float>& alpha() const { return m_alpha; }
 
 private:
@@ -42,7 +42,8 @@ private:
     const AVFrame& m_frame;
     const AVPixFmtDescriptor& m_format;
     std::unique_ptr<YuvLines> m_yuv; ///< null for red, green and blue
-    /// R'G'B' from luma, Cb and Cr with 15 bits: three rows of factors, then what is subtracted.
+    /// R'G'B' from luma, Cb and Cr with 15 bits: three rows of factors, then the offsets to
+    /// subtract.
     std::array<float, 9> m_factors{};
     float m_black = 0.0F;
     float m_lumaScale = 0.0F;

@@ -12,7 +12,7 @@ QByteArray bytes(const uint8_t* data, qsizetype size)
     return QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size));
 }
 
-/// Width and height, twelve bits each, as they stand at the beginning of a sequence header.
+/// Width and height, twelve bits each, from the beginning of a sequence header.
 QByteArray mpegSize(const uint8_t* data, qsizetype size)
 {
     constexpr uint8_t sequenceHeader = 0xb3;

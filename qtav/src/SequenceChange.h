@@ -6,7 +6,7 @@
 
 namespace QtAV {
 
-/// Notices where a stream begins anew with other parameters, such as another size: broadcasts do so
+/// Detects where a stream continues with other parameters, such as another size, as broadcasts do
 /// between programmes. FFmpeg's decoders lose the pictures that they still hold there.
 class SequenceChange
 {
@@ -14,11 +14,11 @@ public:
     SequenceChange() = default;
     explicit SequenceChange(const AVCodecParameters& parameters);
 
-    /// True when a packet, given in the order of decoding, bears other parameters than the last one
-    /// that bore any.
+    /// True if a packet has other parameters than the last packet that had any. Call it in decoding
+    /// order.
     [[nodiscard]] bool isAt(const AVPacket& packet);
 
-    /// Decoding goes on somewhere else.
+    /// Call it when decoding continues elsewhere.
     void reset() { m_last.clear(); }
 
 private:

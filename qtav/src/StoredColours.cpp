@@ -21,7 +21,7 @@ std::array<double, 3> toPrimaries(StoredColours::Primaries primaries,
             m[6] * light[0] + m[7] * light[1] + m[8] * light[2]};
 }
 
-/// HLG's values for light of the display, 0 to 1.
+/// HLG values for light of the display, 0 to 1.
 std::array<double, 3> hlgValuesOf(const std::array<double, 3>& light)
 {
     const double luminance = 0.2627 * light[0] + 0.6780 * light[1] + 0.0593 * light[2];

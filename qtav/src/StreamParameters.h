@@ -12,23 +12,23 @@
 
 namespace QtAV {
 
-/// What the demuxer knows of a video stream and the decoder needs. Immutable once made.
+/// What the demuxer knows about a video stream and the decoder needs. Immutable once made.
 class StreamParameters
 {
 public:
     CodecParametersPtr codec;
     Timeline timeline;
-    /// Frames in a second; 0/1 where the container does not say.
+    /// Frames per second; 0/1 if the container does not state it.
     AVRational frameRate{0, 1};
     /// The container's sample aspect ratio, which takes precedence over the codec's; 0/1 = unset.
     AVRational sampleAspectRatio{0, 1};
     Orientation orientation = Orientation::Upright;
-    /// The part of the stored pictures that the container wants shown.
+    /// The part of the stored pictures that the container declares visible.
     std::optional<QRect> cleanAperture;
-    /// A picture without pixels that bears what the container says of the colours; see
+    /// A picture without pixels that holds what the container states about the colours; see
     /// completeColours().
     FramePtr statedColours;
-    /// What the container says of instructions for each picture.
+    /// The base layer according to the container, see DynamicMetadata.h.
     BaseLayer baseLayer = BaseLayer::Whole;
     /// The container announces an alpha channel beside the pictures (VP8, VP9).
     bool hasAlphaLayer = false;

@@ -16,7 +16,7 @@ Wide floorDivide(Wide numerator, Wide denominator)
     return numerator % denominator < 0 ? quotient - 1 : quotient;
 }
 
-// Damaged files state times of thousands of years; up to here no product below overflows.
+// Damaged files state times of thousands of years; below this limit no product overflows.
 constexpr qint64 mostTicks = qint64(1) << 52;
 
 qint64 narrowed(Wide value)
@@ -49,7 +49,7 @@ double Timeline::seconds(qint64 ticks) const
 {
     const Fraction exact = exactSeconds(ticks);
     const qint64 ms = narrowed(exact.numerator * 1000 / exact.denominator);
-    // Beyond that, neighbouring numbers are further apart than the steps below would ever cover.
+    // Beyond that, neighbouring numbers are too far apart for the steps below.
     double result = ms < mostTicks ? double(exact.numerator) / double(exact.denominator)
                                    : double(mostTicks) / 1000.0;
     while (static_cast<qint64>(result * 1000.0) < ms) {

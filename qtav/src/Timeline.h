@@ -8,20 +8,20 @@ namespace QtAV {
 
 /// Converts one stream's ticks to the library's times, which start at 0 where the container starts.
 ///
-/// The container's start is kept as the ticks of the stream that starts first, not in FFmpeg's
-/// rounded microseconds: a frame at 40 ms must not come out at 39.9997 ms, since callers cut off
-/// to whole milliseconds.
+/// The container's start is kept in the ticks of the stream that starts first, not in FFmpeg's
+/// rounded microseconds: callers truncate to whole milliseconds, so a frame at 40 ms must not come
+/// out at 39.9997 ms.
 class Timeline
 {
 public:
     Timeline() = default;
 
     /// @param timeBase       the length of one tick of the stream, in seconds
-    /// @param startTicks     where the container starts, in ticks of
-    /// @param startTimeBase  this length
+    /// @param startTicks     the start of the container, in ticks of startTimeBase
+    /// @param startTimeBase  the length of one tick of startTicks, in seconds
     Timeline(AVRational timeBase, qint64 startTicks, AVRational startTimeBase);
 
-    /// Whole milliseconds, cut off; 0 for ticks before the start.
+    /// Whole milliseconds, truncated; 0 for ticks before the start.
     qint64 milliseconds(qint64 ticks) const;
 
     /// Seconds; 0 for ticks before the start. `qint64(seconds(t) * 1000.0)` is milliseconds(t).
@@ -30,7 +30,7 @@ public:
     /// The last tick whose whole milliseconds are `ms`.
     qint64 lastTickOf(qint64 ms) const;
 
-    /// A length of time in seconds.
+    /// A duration in seconds.
     double lengthSeconds(qint64 ticks) const { return double(ticks) * av_q2d(m_timeBase); }
 
     AVRational timeBase() const { return m_timeBase; }

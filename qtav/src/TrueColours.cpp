@@ -49,7 +49,7 @@ bool isUsualMatrix(AVColorSpace space)
     return space != AVCOL_SPC_YCGCO && space != AVCOL_SPC_BT2020_CL;
 }
 
-/// More than eight bits are dithered, others rounded.
+/// Dithers more than eight bits, rounds others.
 Dither<float> ditherFor(const AVFrame& frame)
 {
     const int depth = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format))->comp[0].depth;
@@ -58,7 +58,7 @@ Dither<float> ditherFor(const AVFrame& frame)
     });
 }
 
-/// A line of the picture after the other, mapped.
+/// Maps the lines of a picture one after another.
 class MappedLines
 {
 public:
@@ -86,14 +86,14 @@ private:
     RgbLine m_line;
 };
 
-/// Lines of the picture and of the image, from the first to before the end.
+/// A range of lines of the picture and of the image; the end is exclusive.
 struct Band
 {
     int first;
     int end;
 };
 
-/// The memory of an image, which is written by several threads.
+/// The memory of an image that several threads write to.
 class Target
 {
 public:
@@ -153,7 +153,7 @@ void fill(const AVFrame& frame, const ColourMap* map, const Target& target, Band
     }
 }
 
-/// A band for each core, unless starting a thread for it takes longer than what it would save.
+/// One band per core, unless starting a thread for it takes longer than it saves.
 std::vector<Band> bandsOf(const AVFrame& frame)
 {
     constexpr qint64 fewestPixels = 250'000;
@@ -193,7 +193,7 @@ void TrueColours::convert(const AVFrame& frame, QImage& image) const
     const auto fillBand = [&](Band band) { fill(frame, m_map.get(), target, band); };
     std::vector<std::future<void>> others;
     for (size_t i = 1; i < bands.size(); ++i) {
-        // Where the system gives no thread, the band is filled when it is asked for.
+        // If the system provides no thread, the band is filled when its result is requested.
         const auto policy = std::launch::async | std::launch::deferred;
         others.push_back(std::async(policy, fillBand, bands[i]));
     }

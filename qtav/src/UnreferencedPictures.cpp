@@ -26,7 +26,7 @@ Meaning meaningInH264(const NalUnits::Unit& unit)
 
 Meaning meaningInHevc(const NalUnits::Unit& unit)
 {
-    // Slices of pictures that are referred to have odd types.
+    // Slices of reference pictures have odd types.
     if (unit.type <= hevc::lastOrdinarySlice) {
         return unit.type % 2 ? Meaning::Needed : Meaning::Unreferenced;
     }
@@ -36,7 +36,7 @@ Meaning meaningInHevc(const NalUnits::Unit& unit)
     return isNeutral ? Meaning::Neutral : Meaning::Needed;
 }
 
-/// MPEG-4: B-pictures, with nothing before them but what users may write there.
+/// MPEG-4: B-pictures preceded by nothing except user data.
 bool areBidirectional(const uint8_t* data, qsizetype size)
 {
     bool hasPicture = false;

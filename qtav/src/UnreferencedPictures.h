@@ -6,19 +6,18 @@
 
 namespace QtAV {
 
-/// Tells the packets of an H.264, HEVC or MPEG-4 stream that hold nothing but a picture to which no
-/// other picture refers.
+/// Detects the packets of an H.264, HEVC or MPEG-4 stream that hold nothing but disposable
+/// pictures, to which no other picture refers.
 ///
-/// FFmpeg skips such pictures when asked to, but hands their packets to its threads all the same,
-/// so that most of the threads have nothing to do. Not sending them keeps all threads busy with
-/// what must be decoded.
+/// FFmpeg skips such pictures when asked to, but still passes their packets to its threads, so that
+/// most threads have nothing to do. Not sending them keeps all threads busy.
 ///
-/// Packets that cannot be understood count as referred to, as do those of other codecs. In an HEVC
-/// stream with temporal sub-layers the answer holds for the picture's own layer only.
+/// Packets that cannot be parsed, and those of other codecs, count as referred to. In an HEVC
+/// stream with temporal sub-layers the result holds only within the picture's own layer.
 class UnreferencedPictures
 {
 public:
-    /// Knows no stream: every picture counts as referred to.
+    /// For an unknown stream: every picture counts as referred to.
     UnreferencedPictures() = default;
     explicit UnreferencedPictures(const AVCodecParameters& parameters);
 

@@ -6,7 +6,7 @@ namespace QtAV {
 
 namespace {
 
-/// The size of the part of the stored pictures that is to be shown.
+/// The size of the visible part of the stored pictures.
 QSize sizeOf(const StreamParameters& parameters)
 {
     return parameters.cleanAperture ? parameters.cleanAperture->size()

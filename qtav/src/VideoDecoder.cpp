@@ -21,7 +21,7 @@ namespace QtAV {
 
 namespace {
 
-/// Leaves the picture as it is where it has another size than the container says.
+/// Does nothing if the picture's size differs from what the container states.
 void cutTo(const QRect& part, AVFrame& frame, const AVCodecParameters& codec)
 {
     if (frame.width != codec.width || frame.height != codec.height) {
@@ -66,10 +66,10 @@ static_assert(int(VideoDecoder::DiscardNonReference) == int(AVDISCARD_NONREF));
 class VideoDecoder::Private
 {
 public:
-    /// Where the decoder stands on its way past the key frame that it was started with.
+    /// State of the decoder between its first key frame and the frames that follow.
     enum class Start {
-        NeedsKeyFrame, ///< nothing was decoded since opening or flushing
-        KeyFrameTaken, ///< the key frame came out early; FFmpeg must be given it once more
+        NeedsKeyFrame, ///< nothing has been decoded since opening or flushing
+        KeyFrameTaken, ///< the key frame came out early; FFmpeg must get it again
         Running,
     };
 
@@ -94,24 +94,25 @@ public:
     PictureLimit limit;
     std::shared_ptr<const Deadline> deadline;
     std::mutex refusalMutex;
-    QString refusal; ///< guarded by refusalMutex: the decoder's threads set it
+    QString refusal; ///< set by the decoder's threads; guarded by refusalMutex
     CodecContextPtr context;
     QVariantHash options;
     std::shared_ptr<PictureConverter> converter;
 
     Start start = Start::NeedsKeyFrame;
     std::shared_ptr<const PacketHandle> keyPacket;
-    /// Frames up to these presentation ticks are dropped: those of the key frame that comes out a
-    /// second time, or just before one that comes out once.
+    /// Frames up to these presentation ticks are dropped: those of a key frame that comes out a
+    /// second time, or just before a key frame that comes out only once.
     qint64 repeatedTicks = AV_NOPTS_VALUE;
-    /// Presentation ticks of the key frame that decoding started at, until one behind it is sent.
+    /// Presentation ticks of the key frame at which decoding started, until a packet behind it is
+    /// sent.
     qint64 startTicks = AV_NOPTS_VALUE;
     bool draining = false;
     bool hasSubLayers = false;
     UnreferencedPictures unreferenced;
     SequenceChange sequenceChange;
-    qint64 lastTicks = AV_NOPTS_VALUE; ///< of the frame that came out last
-    qint64 nextTicks = 0;              ///< for frames to which FFmpeg can give no time
+    qint64 lastTicks = AV_NOPTS_VALUE; ///< of the most recent frame
+    qint64 nextTicks = 0;              ///< for frames to which FFmpeg can assign no time
 
     std::deque<VideoFrame> frames;
     VideoFrame current;
@@ -150,7 +151,7 @@ QString VideoDecoder::errorString() const
     return d->refusal;
 }
 
-/// Whether a picture is small enough; notes why not.
+/// Whether a picture is small enough; records the reason if not.
 bool VideoDecoder::Private::allows(const QSize& stored, AVPixelFormat format,
                                    AVRational sampleAspectRatio)
 {
@@ -204,8 +205,8 @@ bool VideoDecoder::open()
     context->opaque = d.get();
     context->get_buffer2 = &Private::takeMemory;
     allowCallsFromThreads(*context);
-    // Pictures that are cut at the left or the top are else cut at a column that suits the
-    // processor.
+    // Otherwise pictures that are cropped at the left or the top are cropped at a column that suits
+    // the processor.
     context->flags |= AV_CODEC_FLAG_UNALIGNED;
     if (avcodec_open2(context.get(), codec, nullptr) < 0) {
         return false;
@@ -273,8 +274,8 @@ bool VideoDecoder::Private::leavesOut(const AVPacket& packet) const
     return mayLeaveOut && unreferenced.areAllOf(packet);
 }
 
-/// What leads up to an open group's key frame refers to the group before and cannot be decoded from
-/// there. FFmpeg 7.1's MPEG-4 decoder tries, and then gives other pictures twice.
+/// Pictures that lead up to an open group's key frame refer to the previous group and cannot be
+/// decoded from there. FFmpeg 7.1's MPEG-4 decoder tries, and then gives other pictures twice.
 bool VideoDecoder::Private::leadsUpToKeyFrame(const AVPacket& packet)
 {
     if (startTicks == AV_NOPTS_VALUE) {
@@ -321,7 +322,7 @@ bool VideoDecoder::decode(const Packet& packet)
     if (!d->context || (!handle && !packet.isDrain())) {
         return false;
     }
-    // The caller asks once more for the frame of the key packet it has just given.
+    // The caller requests the frame of the key packet again that it has just passed.
     const bool isRepeated = d->start == Private::Start::KeyFrameTaken && handle == d->keyPacket;
     if (isRepeated) {
         return true;
@@ -365,8 +366,8 @@ bool VideoDecoder::Private::wantsKeyFrameAtOnce() const
     return section.value(QStringLiteral("key_frame_at_once"), true).toBool();
 }
 
-/// The key frame comes out when FFmpeg has got packets enough for it. What leads up to an open
-/// group's key frame cannot be decoded from there.
+/// The key frame comes out once FFmpeg has enough packets. Pictures that lead up to an open group's
+/// key frame cannot be decoded from there.
 void VideoDecoder::Private::startBehindKeyFrame(const AVPacket& packet)
 {
     nextTicks = presentationTicks(packet);
@@ -375,9 +376,9 @@ void VideoDecoder::Private::startBehindKeyFrame(const AVPacket& packet)
     }
 }
 
-/// A decoder that re-orders frames or decodes several at a time holds the key frame back.
-/// Draining makes it come out; since that ends a stream for FFmpeg, the packet is given once more
-/// before the one that follows it, and the frame's second appearance dropped.
+/// A decoder that reorders frames or decodes several at a time holds the key frame back. Draining
+/// releases it. Since that ends the stream for FFmpeg, the packet is sent again before its
+/// successor, and the second copy of the frame is dropped.
 bool VideoDecoder::Private::startAtKeyFrame(const Packet& packet)
 {
     const std::shared_ptr<const PacketHandle> handle = PacketHandle::of(packet);
@@ -400,7 +401,7 @@ bool VideoDecoder::Private::resumeAfterKeyFrame()
     keyPacket.reset();
     avcodec_flush_buffers(context.get());
     draining = false;
-    // What follows refers to no other picture.
+    // The following pictures refer to no other picture.
     if (isIntraOnly(context->codec_id)) {
         return true;
     }
@@ -429,7 +430,7 @@ bool VideoDecoder::Private::sendAndReceive(const AVPacket* packet)
     return !failed;
 }
 
-/// Makes what is held come out, and the decoder ready for a new beginning.
+/// Releases all frames held and prepares the decoder for a new start.
 void VideoDecoder::Private::drain(bool& failed)
 {
     if (avcodec_send_packet(context.get(), nullptr) >= 0) {
@@ -459,7 +460,7 @@ void VideoDecoder::Private::deliver(FramePtr frame)
     const bool hasTime = frame->best_effort_timestamp != AV_NOPTS_VALUE;
     const qint64 ticks = hasTime ? frame->best_effort_timestamp : nextTicks;
     if (repeatedTicks != AV_NOPTS_VALUE && ticks <= repeatedTicks) {
-        // Also what leads up to an open group's key frame and cannot be decoded from there.
+        // This also drops pictures that lead up to an open group's key frame and cannot be decoded.
         if (ticks == repeatedTicks) {
             repeatedTicks = AV_NOPTS_VALUE;
         }

@@ -15,7 +15,7 @@ namespace QtAV {
 
 namespace {
 
-/// What a picture says of itself takes precedence over what its container says.
+/// What a picture states about itself takes precedence over its container.
 Orientation orientationOf(const AVFrame& frame, const StreamParameters& parameters)
 {
     const AVFrameSideData* own = av_frame_get_side_data(&frame, AV_FRAME_DATA_DISPLAYMATRIX);
@@ -32,10 +32,10 @@ AVRational sampleAspectRatioOf(const AVFrame& frame, const StreamParameters& par
     return stated.num > 0 && stated.den > 0 ? stated : AVRational{1, 1};
 }
 
-/// A Format_ARGB32 image in Format_RGB888; null when memory runs out.
+/// Converts a Format_ARGB32 image to Format_RGB888; null when memory runs out.
 ///
-/// Qt's own conversion divides the work between threads, and waits for ever where there is no
-/// memory to start one.
+/// Qt's own conversion divides the work between threads, and waits forever if there is no memory to
+/// start one.
 QImage withoutAlpha(const QImage& image)
 {
     QImage result(image.size(), QImage::Format_RGB888);
@@ -46,7 +46,7 @@ QImage withoutAlpha(const QImage& image)
     return result;
 }
 
-/// The format that is made of a picture at once, on the way to the one that is wanted.
+/// The format that a picture is first converted to, on the way to the requested one.
 QImage::Format convertedFormat(QImage::Format wanted, bool isScaledLater)
 {
     switch (wanted) {
@@ -60,13 +60,13 @@ QImage::Format convertedFormat(QImage::Format wanted, bool isScaledLater)
     }
 }
 
-/// Damaged headers claim ratios that no picture has; stretching by them would fill the memory.
+/// Damaged headers state ratios that no picture has; stretching by them would fill the memory.
 constexpr double widestPixel = 16.0;
 
-/// In images of at most so small a part of the lines, nobody sees the moments of two fields.
+/// In images with at most this fraction of the lines, the moments of two fields are not visible.
 constexpr int fewLines = 8;
 
-/// The same picture in the same memory; null for none.
+/// A reference to the same picture in the same memory; null for null.
 FramePtr shared(const FramePtr& picture)
 {
     if (!picture) {
@@ -82,7 +82,7 @@ FramePtr sharedPicture(const VideoFramePrivate* data)
     return data ? shared(data->frame) : nullptr;
 }
 
-/// A time in seconds that is not cut off to the millisecond before because halves are not exact.
+/// A time in seconds, corrected so that an inexact half is not truncated to the millisecond before.
 double withoutShortfall(double seconds)
 {
     constexpr double shortfall = 1e-6;
@@ -97,7 +97,7 @@ double withoutShortfall(double seconds)
     return result;
 }
 
-/// The time in seconds in the middle between a frame and the next one, as far as that is known.
+/// The time in seconds halfway between a frame and its successor, as far as that is known.
 double secondMoment(const VideoFramePrivate& frame, const VideoFramePrivate* before,
                     const VideoFramePrivate* after)
 {
@@ -287,7 +287,7 @@ qint64 VideoFrame::byteCount() const
     if (!d) {
         return 0;
     }
-    // Planes may share a buffer, and buffers are larger than the planes in them: ask the buffers.
+    // Planes may share a buffer, and buffers are larger than their planes: count the buffers.
     qint64 bytes = 0;
     for (const AVBufferRef* buffer : d->frame->buf) {
         bytes += buffer ? static_cast<qint64>(buffer->size) : 0;
@@ -337,7 +337,7 @@ try {
     const bool isTiny = isReduced && size.height() * fewLines <= whole.height();
     const FramePtr deinterlaced = isTiny ? nullptr : d->deinterlaced();
     const AVFrame& picture = deinterlaced ? *deinterlaced : *d->frame;
-    // What was scaled down may have another format, but has no alpha either.
+    // A scaled-down frame may have another format, but has no alpha either.
     const bool isOpaque = d->isScaledDown || PictureConverter::isOpaqueYuv(picture);
     const QSize upright = isReduced && isOpaque ? size : whole;
     const QSize stored = swapsSides(d->orientation) ? upright.transposed() : upright;
@@ -355,7 +355,7 @@ try {
     if (!size.isEmpty() && size != image.size()) {
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
-    // Without transparent parts these formats are the same in memory.
+    // Without transparency these formats are identical in memory.
     if (isOpaque && wanted == QImage::Format_ARGB32_Premultiplied) {
         image.reinterpretAsFormat(wanted);
     }

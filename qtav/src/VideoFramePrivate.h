@@ -19,18 +19,18 @@ class PictureConverter;
 class StreamParameters;
 class VideoFrame;
 
-/// What makes a whole picture of one that combs.
+/// How combing pictures are made whole.
 struct FieldSettings
 {
     Deinterlacing deinterlacing = Deinterlacing::Off;
-    std::shared_ptr<Deinterlacer> deinterlacer; ///< never null, unless it is off
+    std::shared_ptr<Deinterlacer> deinterlacer; ///< null only if deinterlacing is off
     FieldFilter::Moment moment = FieldFilter::Moment::First;
 };
 
-/// The stored size of a picture with square pixels.
+/// The size of a stored picture once its pixels are square.
 [[nodiscard]] QSize squareSizeOf(const QSize& stored, AVRational sampleAspectRatio);
 
-/// What the copies of one VideoFrame share. Immutable.
+/// The data shared by copies of a VideoFrame. Immutable.
 class VideoFramePrivate : public QSharedData
 {
 public:
@@ -41,29 +41,29 @@ public:
     /// The same frame with a smaller picture.
     VideoFramePrivate(const VideoFramePrivate& whole, FramePtr smaller);
 
-    /// The same frame with the pictures around it, of which the whole one is made. They belong to
-    /// frames that may be invalid where they are not known.
+    /// The same frame with its neighbouring pictures, from which the whole picture is made. A
+    /// neighbour that is unknown is given as an invalid frame.
     VideoFramePrivate(const VideoFramePrivate& alone, const VideoFrame& before,
                       const VideoFrame& after, FieldSettings fieldSettings);
 
-    /// The frame of one moment of a frame that has the pictures around it.
+    /// The frame for one moment of a frame that has its neighbouring pictures.
     VideoFramePrivate(const VideoFramePrivate& other, FieldFilter::Moment moment);
 
-    /// What a frame holds; null for an invalid one.
+    /// The data of a frame; null for an invalid one.
     static const VideoFramePrivate* of(const VideoFrame& frame);
 
     /// Whether the picture shows two moments, see Deinterlacer.
     [[nodiscard]] bool isOfTwoMoments() const;
     FieldFilter::Moment moment() const { return m_fields.moment; }
 
-    /// The picture that is shown: null where that is `frame` itself. Made anew by each call.
+    /// The picture to show; null if that is `frame` itself. Each call makes it again.
     [[nodiscard]] FramePtr deinterlaced() const;
 
-    const FramePtr frame; ///< as it was decoded
+    const FramePtr frame; ///< as decoded
     const double seconds;
     const Orientation orientation;
     const QSize squareSize;    ///< of the decoded picture, with square pixels
-    const BaseLayer baseLayer; ///< what it is, where there is more
+    const BaseLayer baseLayer; ///< which part of high dynamic range it shows
     const bool isScaledDown = false;
     const std::shared_ptr<PictureConverter> converter;
 

@@ -12,7 +12,7 @@ namespace QtAV {
 
 namespace {
 
-/// Codecs of which the order of presentation is known by the picture types alone.
+/// Codecs whose presentation order follows from the picture types alone.
 bool isOrderedByType(AVCodecID codec)
 {
     return codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG2VIDEO ||
@@ -166,8 +166,8 @@ void VideoPackets::order(PacketPtr packet)
     takeOrdered();
 }
 
-/// Reading a transmission from the middle may begin with the end of a picture, which is of no use.
-/// FFmpeg puts it before the next picture, or gives it that one's time. True where nothing is left.
+/// Reading a transmission from the middle may begin with the useless end of a picture. FFmpeg puts
+/// it before the next picture, or gives it that picture's time. Returns true if nothing is left.
 bool VideoPackets::joinsBehindTail(AVPacket& packet)
 {
     if (!m_joins) {
@@ -197,7 +197,7 @@ void VideoPackets::takeOrdered()
     }
 }
 
-/// An AVI index with packed B-frames flags the chunk behind the key frame instead of it.
+/// An AVI index with packed B-frames marks the chunk behind the key frame instead of the key frame.
 void VideoPackets::flagKey(AVPacket& packet) const
 {
     const bool isFlagged = packet.flags & AV_PKT_FLAG_KEY;
@@ -295,7 +295,7 @@ bool VideoPackets::seekNear(qint64 ms)
 bool VideoPackets::rewind()
 {
     forgetPosition();
-    // Searching a damaged stream for its first time may end anywhere; its first byte is certain.
+    // Searching a damaged stream for its first time may end anywhere; its first byte is reliable.
     const bool goesByBytes = m_isRaw || m_container.isTransmission();
     if (goesByBytes && m_container.seekToByte(0)) {
         return true;

@@ -12,12 +12,12 @@
 
 namespace QtAV {
 
-/// The packets of one video stream in file order, each with a presentation time and a true key
-/// flag, and beside them those of one audio stream as they are.
+/// The packets of one video stream in file order, each with a presentation time and a correct key
+/// flag, together with the unmodified packets of one audio stream.
 ///
-/// Packets of raw streams are numbered, those of AVI files and program streams put in order of
-/// presentation, packed B-frames taken apart, gaps bridged. What the seeks of containers lack in
-/// exactness KeyFrameSearch makes up for.
+/// Packets of raw streams are numbered, those of AVI files and program streams get times in
+/// presentation order, packed B-frames are split, and gaps are bridged. KeyFrameSearch makes up for
+/// inexact seeks of containers.
 ///
 /// Not thread-safe, but tied to no thread. The container must outlive it.
 class VideoPackets
@@ -28,39 +28,41 @@ public:
     VideoPackets(const VideoPackets&) = delete;
     VideoPackets& operator=(const VideoPackets&) = delete;
 
-    /// Finds the key frames of a raw stream, for which it is read through; does nothing for others.
-    /// False when that failed or was interrupted: no seek will work.
+    /// Finds the key frames of a raw stream by reading it through; does nothing for others. Returns
+    /// false if that failed or was interrupted: seeks then do not work.
     [[nodiscard]] bool index();
 
     int stream() const { return m_stream; }
     const std::shared_ptr<const StreamParameters>& parameters() const { return m_parameters; }
     const Timeline& timeline() const { return m_parameters->timeline; }
 
-    /// Whose packets are given beside those of the video; -1, as at first, for none.
+    /// The audio stream whose packets are delivered besides those of the video; -1, the initial
+    /// value, for none.
     void setAudioStream(int stream) { m_audioStream = stream; }
 
-    /// The next packet. After Cancelled and a failure for good, only a seek helps.
+    /// Reads the next packet. After Cancelled, and after a failure for good, only a seek helps.
     [[nodiscard]] PacketAnswer read(PacketPtr& packet);
 
-    /// False when reading fails for good: until the next seek.
+    /// False if reading failed for good, until the next seek.
     bool canGoOn() const { return m_container.canGoOn(); }
 
-    /// What was done last ended because the container's interrupt asked for it.
+    /// True if the last operation was interrupted.
     bool wasInterrupted() const { return m_container.wasInterrupted(); }
 
-    /// Goes to some packet near a position, before it if the container can. False when refused.
+    /// Seeks to some packet near a position, before it if the container supports that. Returns
+    /// false on failure.
     [[nodiscard]] bool seekNear(qint64 ms);
 
-    /// Goes to the first packet of the file. False when the file cannot be read any more.
+    /// Seeks to the first packet of the file. Returns false if the file can no longer be read.
     [[nodiscard]] bool rewind();
 
-    /// Opens the file anew, see Container::reopen().
+    /// Opens the file again, see Container::reopen().
     [[nodiscard]] bool reopen();
 
-    /// The container leaves some packets without a time, also at the end of the file.
+    /// True if the container has packets without a time, also at the end of the file.
     bool hasMissingTimes() const { return m_fillsGaps; }
 
-    /// How long the picture of a packet is shown, in ticks, as far as the stream says.
+    /// Duration of a packet's picture in ticks, as far as the stream states it.
     qint64 frameTicks(const AVPacket& packet) const;
 
     bool isRawStream() const { return m_isRaw; }
@@ -86,16 +88,17 @@ private:
     const bool m_isRaw;
     std::shared_ptr<const StreamParameters> m_parameters;
     BitstreamFilterPtr m_unpackBFrames;
-    std::unique_ptr<PresentationOrder> m_order; ///< null where the container times all packets
+    std::unique_ptr<PresentationOrder> m_order; ///< null if the container gives a time to all
+                                                ///< packets
     bool m_fillsGaps = false;
     std::optional<KeyPictures> m_keyPictures;
     RawStreamIndex m_rawIndex;
 
-    std::deque<PacketPtr> m_ready; ///< read, but not yet given
-    qint64 m_nextTicks = 0;        ///< where the next packet without any time belongs
+    std::deque<PacketPtr> m_ready; ///< read and not delivered yet
+    qint64 m_nextTicks = 0;        ///< time of the next packet without any time
     bool m_ended = false;
-    bool m_joins = false;                ///< nothing was read since the last seek
-    qint64 m_tailTicks = AV_NOPTS_VALUE; ///< what a tail before the first picture was given
+    bool m_joins = false;                ///< nothing has been read since the last seek
+    qint64 m_tailTicks = AV_NOPTS_VALUE; ///< time assigned to a tail before the first picture
 };
 
 } // namespace QtAV

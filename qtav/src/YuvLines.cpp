@@ -25,14 +25,14 @@ FOR_SEVERAL_PROCESSORS
 void widenDeepLuma(const uint16_t* __restrict source, int16_t* __restrict target, int count,
                    int depth)
 {
-    // One bit more than wanted, so that 16 bits shift the same way as fewer do.
+    // One bit more than needed, so that 16 bits are shifted in the same direction as fewer.
     const int shift = sampleBits + 1 - depth;
     for (int i = 0; i < count; ++i) {
         target[i] = static_cast<int16_t>((uint32_t(source[i]) << shift) >> 1);
     }
 }
 
-/// Two lines of chroma, mixed in eighths, the middle taken off.
+/// Two lines of chroma, mixed in eighths, with the middle subtracted.
 FOR_SEVERAL_PROCESSORS
 void mix(const uint8_t* __restrict near, const uint8_t* __restrict far, int nearEighths,
          int16_t* __restrict target, int count)
@@ -43,7 +43,7 @@ void mix(const uint8_t* __restrict near, const uint8_t* __restrict far, int near
     }
 }
 
-/// The same for every second byte.
+/// Does the same for every second byte.
 FOR_SEVERAL_PROCESSORS
 void mixInterleaved(const uint8_t* __restrict near, const uint8_t* __restrict far, int nearEighths,
                     int16_t* __restrict target, int count)
@@ -67,7 +67,7 @@ void mixDeep(const uint16_t* __restrict near, const uint16_t* __restrict far, in
     }
 }
 
-/// Twice as many samples: every second one on its own place, the others half-way to the next.
+/// Doubles the samples: every second one stays in place, the others lie halfway to the next.
 /// source[count] repeats the last.
 FOR_SEVERAL_PROCESSORS
 void doubleFromLeft(const int16_t* __restrict source, int16_t* __restrict target, int count)
@@ -78,8 +78,8 @@ void doubleFromLeft(const int16_t* __restrict source, int16_t* __restrict target
     }
 }
 
-/// Twice as many samples, a quarter to the left and to the right of the old ones.
-/// source[-1] and source[count] repeat the outermost.
+/// Doubles the samples, a quarter to the left and to the right of the old ones. source[-1] and
+/// source[count] repeat the outermost.
 FOR_SEVERAL_PROCESSORS
 void doubleFromCentre(const int16_t* __restrict source, int16_t* __restrict target, int count)
 {
@@ -190,9 +190,9 @@ YuvLines::ChromaLines YuvLines::chromaLinesFor(int line, int lines, Siting::Vert
 
 /// The lines of an interlaced picture belong to two moments: chroma stays within its own field.
 ///
-/// Between the fields' lines, those of chroma lie where they lie in the whole picture. Half-way
-/// between two lines of the picture is a quarter below a line of the upper field, and three
-/// quarters below one of the lower field.
+/// Chroma lines keep their position relative to the whole picture. Halfway between two lines of the
+/// picture is a quarter below a line of the upper field, and three quarters below one of the lower
+/// field.
 YuvLines::ChromaLines YuvLines::fieldChromaLinesFor(int line, int lines, Siting::Vertical vertical)
 {
     const int field = line % 2;
@@ -205,7 +205,7 @@ YuvLines::ChromaLines YuvLines::fieldChromaLinesFor(int line, int lines, Siting:
     const bool isUpper = lineOfField % 2 == 0;
     const int above = std::max(own - 1, 0);
     const int below = std::min(own + 1, fieldLines - 1);
-    // In the picture's lines, as they are for others.
+    // Converts to the lines of the picture, as used for progressive pictures.
     const auto inPicture = [field](int near, int far, int nearEighths) {
         return ChromaLines{2 * near + field, 2 * far + field, nearEighths};
     };
@@ -232,7 +232,7 @@ const uint16_t* YuvLines::deepAt(int component, int line) const
     return reinterpret_cast<const uint16_t*>(at(component, line));
 }
 
-/// The chroma at the line of luma, as many samples as are stored.
+/// The chroma for the line of luma, with as many samples as are stored.
 void YuvLines::mixChroma(int component, int16_t* samples) const
 {
     const ChromaLines lines = chromaLines();
@@ -254,7 +254,7 @@ void YuvLines::repeatEnds(std::vector<int16_t>& narrow)
     narrow.back() = narrow[narrow.size() - 2];
 }
 
-/// From the pixel `from` on, which is even.
+/// Starts at the pixel `from`, which must be even.
 void YuvLines::widenChroma(const std::vector<int16_t>& narrow, std::vector<int16_t>& wide,
                            int from) const
 {

@@ -7,31 +7,32 @@
 
 namespace QtAV {
 
-/// Reads a picture of luma and chroma line by line, with chroma interpolated at the place where it
-/// was sampled, and within its own field where the picture is interlaced.
+/// Reads a picture of luma and chroma line by line. Chroma is interpolated for the position at
+/// which it was sampled, and within its own field if the picture is interlaced.
 ///
-/// Samples have 15 bits, whatever the picture's depth, and those of chroma are less their middle.
+/// Samples have 15 bits, whatever the picture's depth; the middle of the range is subtracted from
+/// those of chroma.
 class YuvLines
 {
 public:
     static constexpr int sampleBits = 15;
     static constexpr int chromaMiddle = 1 << (sampleBits - 1);
 
-    /// The picture, in one of the formats that YuvToRgb reads, has to outlive this.
+    /// @param frame  in a format that YuvToRgb reads; must outlive this object.
     explicit YuvLines(const AVFrame& frame);
 
-    /// Goes to a line.
+    /// Moves to a line.
     void moveTo(int line);
 
-    /// Where the picture has 8 bits and half as many chroma samples, each on the place of every
-    /// second luma sample: luma as stored, and that chroma, with its last sample repeated behind
-    /// it.
+    /// True if the picture has 8 bits and half as many chroma samples, each at the position of
+    /// every second luma sample. Then the following give luma as stored, and that chroma with its
+    /// last sample repeated.
     bool isPlainHalved() const;
     const uint8_t* storedLuma() const { return at(0, m_line); }
     const int16_t* halvedCb() const { return m_narrowCb.data() + 1; }
     const int16_t* halvedCr() const { return m_narrowCr.data() + 1; }
 
-    /// Makes what the following give, from an even column on to the line's end.
+    /// Computes the following values, from an even column to the line's end.
     void widen(int from = 0);
     const int16_t* luma() const { return m_luma.data(); }
     const int16_t* cb() const { return m_cb.data(); }
@@ -45,7 +46,7 @@ public:
     int depth() const { return m_depth; }
 
 private:
-    /// Where chroma was sampled between the lines and columns of luma.
+    /// Position of chroma samples between the lines and columns of luma.
     struct Siting
     {
         enum class Vertical { Top, Centre, Bottom };
@@ -53,7 +54,7 @@ private:
         Vertical vertical = Vertical::Centre;
     };
 
-    /// The two lines of chroma that a line of luma lies between.
+    /// The two lines of chroma between which a line of luma lies.
     struct ChromaLines
     {
         int near;
@@ -84,7 +85,7 @@ private:
     const int m_chromaHeight;
     int m_line = 0;
     std::vector<int16_t> m_luma;
-    std::vector<int16_t> m_narrowCb; ///< a line of chroma with a neighbour at either end
+    std::vector<int16_t> m_narrowCb; ///< a line of chroma with one extra sample at either end
     std::vector<int16_t> m_narrowCr;
     std::vector<int16_t> m_cb; ///< zero, the middle, in a grey picture
     std::vector<int16_t> m_cr;

@@ -13,15 +13,15 @@ namespace QtAV {
 
 namespace {
 
-// A result has 5 bits behind the binary point.
+// Results have 5 fractional bits.
 constexpr int factorBits = 13;
 constexpr int fractionBits = 5;
 
-/// A picture of more columns or lines that does not tell its matrix is in high definition.
+/// A picture with more columns or lines that does not state its matrix is high definition.
 constexpr int standardColumns = 1279;
 constexpr int standardLines = 576;
 
-// The pattern that compilers turn into one rounding multiplication of 16-bit lanes.
+// Compilers turn this pattern into one rounding multiplication of 16-bit lanes.
 inline int16_t multiplied(int16_t a, int16_t b)
 {
     return static_cast<int16_t>((((int32_t(a) * b) >> 14) + 1) >> 1);
@@ -80,7 +80,7 @@ YuvToRgb::Matrix makeMatrix(AVColorSpace space, bool fullRange, int depth)
 {
     const auto [red, blue] = YuvToRgb::sharesOf(space);
     const double green = 1.0 - red - blue;
-    // The widest sample, brought to 15 bits, stands for 255 in full range.
+    // The widest sample, scaled to 15 bits, stands for 255 in full range.
     const double fullScale =
         255.0 * (1 << (YuvLines::sampleBits - 8)) /
         (double((1 << depth) - 1) * std::pow(2.0, YuvLines::sampleBits - depth));
@@ -94,7 +94,7 @@ YuvToRgb::Matrix makeMatrix(AVColorSpace space, bool fullRange, int depth)
             static_cast<int16_t>(fullRange ? 0 : 16 << (YuvLines::sampleBits - 8))};
 }
 
-/// Reads one kind of picture line by line and converts each.
+/// Reads one kind of picture line by line and converts each line.
 class LineConverter
 {
 public:
@@ -199,7 +199,7 @@ AVChromaLocation YuvToRgb::chromaLocationOf(const AVFrame& frame)
     if (frame.chroma_location != AVCHROMA_LOC_UNSPECIFIED) {
         return frame.chroma_location;
     }
-    // JPEG's way, which full-range pictures follow where chroma has half the lines too, and MPEG's.
+    // Full-range pictures with halved lines of chroma follow JPEG, all others MPEG.
     const AVPixFmtDescriptor* const format =
         av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
     const bool isHalvedTwice = format && format->log2_chroma_w == 1 && format->log2_chroma_h == 1;

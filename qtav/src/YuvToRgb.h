@@ -12,26 +12,26 @@ namespace QtAV {
 /// Converts luma and chroma to full-range R'G'B' by a picture's own matrix and range.
 ///
 /// FFmpeg's fast conversions are up to 3 of 255 off and repeat chroma samples; its exact ones cost
-/// several times as much. This one calculates with 15 bits, interpolates chroma at the place where
-/// it was sampled, and deviates by no more than 1 of 255 from the standards' formulas. Pictures of
-/// more than eight bits are dithered: their mean deviates less.
+/// several times as much. This one calculates with 15 bits, interpolates chroma for the position at
+/// which it was sampled, and deviates by at most 1 of 255 from the standards' formulas. Pictures
+/// with more than eight bits are dithered: their mean deviates less.
 class YuvToRgb
 {
 public:
-    /// For pictures with this one's matrix, range and format.
+    /// Prepares for pictures with the matrix, range and format of `frame`.
     explicit YuvToRgb(const AVFrame& frame);
 
-    /// True for the formats that convert() takes: planar YUV with or without alpha, 8 to 16 bits,
-    /// chroma in full or half width and height, grey, NV12 and NV21.
+    /// True for the supported formats: planar YUV with or without alpha, 8 to 16 bits, chroma in
+    /// full or half width and height, grey, NV12 and NV21.
     static bool reads(AVPixelFormat format);
 
-    /// The matrix that applies: the picture's own, or the one that its size implies.
+    /// The matrix to use: the picture's own, or the one that its size implies.
     static AVColorSpace matrixOf(const AVFrame& frame);
 
-    /// Where chroma was sampled: what the picture says, or what its range implies.
+    /// Where chroma was sampled: as stated by the picture, or as implied by its range.
     static AVChromaLocation chromaLocationOf(const AVFrame& frame);
 
-    /// True for the formats that mean full range by themselves.
+    /// True for formats that imply full range.
     static bool isJpegFormat(int format);
     static bool isFullRange(const AVFrame& frame);
 
@@ -43,7 +43,8 @@ public:
     };
     static Shares sharesOf(AVColorSpace space);
 
-    /// Fills an image of the picture's stored size: Format_ARGB32, or Format_RGB888 without alpha.
+    /// Fills an image of the picture's stored size, in Format_ARGB32, or Format_RGB888 without
+    /// alpha.
     void convert(const AVFrame& frame, QImage& image) const;
 
     /// Factors in 1/8192 and the luma level of black, for samples of 15 bits.
@@ -61,7 +62,7 @@ private:
     Matrix m_matrix;
 };
 
-/// Makes pixels of Format_RGB888 of as many of Format_ARGB32.
+/// Converts pixels of Format_ARGB32 to Format_RGB888.
 void dropAlpha(const QRgb* source, uchar* target, ptrdiff_t count);
 
 } // namespace QtAV

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int step = 16;
 
-/// Sixteen samples out of eight: each on its place, and the middle between it and the next.
+/// Doubles eight samples: each stays in place, followed by the middle between it and the next.
 AVX2 inline __m256i doubled(const int16_t* samples)
 {
     const __m128i own = _mm_loadu_si128(reinterpret_cast<const __m128i*>(samples));
@@ -30,7 +30,7 @@ AVX2 inline __m256i rounded(__m256i value)
     return _mm256_srai_epi16(_mm256_add_epi16(value, _mm256_set1_epi16(16)), 5);
 }
 
-/// Stores sixteen pixels; the channels saturate to bytes.
+/// Stores sixteen pixels; the channels are saturated to bytes.
 AVX2 inline void store(uint32_t* pixels, __m256i red, __m256i green, __m256i blue)
 {
     const __m256i blueRed = _mm256_packus_epi16(blue, red);

@@ -6,14 +6,14 @@
 
 namespace QtAV {
 
-/// Converts the front of a line by the processor's widest instructions.
+/// Converts the beginning of a line with the processor's widest instructions.
 ///
-/// For 8-bit luma and half as many chroma samples, each on the place of every second luma sample;
-/// one more chroma sample than needed is read. The result is the one that the plain loops of
-/// YuvToRgb give, to the bit.
+/// For 8-bit luma and half as many chroma samples, each at the position of every second luma
+/// sample. Reads one more chroma sample than needed. The result is bit-identical to that of the
+/// plain loops of YuvToRgb.
 ///
-/// @return how many pixels were written: `count` cut off to the width of a step, and 0 where the
-///         processor has no such instructions. What remains is the caller's.
+/// @return the number of pixels written: `count` rounded down to the width of a step, or 0 if the
+///     processor lacks such instructions. The caller converts the rest.
 int convertHalvedLine(const uint8_t* luma, const int16_t* cb, const int16_t* cr, uint32_t* pixels,
                       int count, const YuvToRgb::Matrix& matrix);
 

@@ -9,54 +9,55 @@
 
 namespace QtAV {
 
-/// What VideoOutput asks of the widgets that it shows frames in. User-interface thread only.
+/// Interface of the widgets in which VideoOutput shows frames. User-interface thread only.
 class FrameWidget
 {
 public:
     virtual ~FrameWidget() = default;
 
-    /// A picture of a frame, or of a part of it.
+    /// A picture of a frame or of a part of it.
     struct Picture
     {
         QImage image;
         QSize proportions;               ///< of the whole frame
-        QRectF part{0.0, 0.0, 1.0, 1.0}; ///< of the frame that it shows, 0 to 1 both ways
+        QRectF part{0.0, 0.0, 1.0, 1.0}; ///< the part of the frame that it shows, 0 to 1 in both
+                                         ///< directions
     };
 
-    /// Shows a picture from the next repaint on; a null one for black. One of another size than
-    /// that at which it is shown is scaled in the quickest way.
+    /// Shows a picture from the next repaint on; a null one for black. A picture whose size differs
+    /// from the one at which it is shown is scaled in the fastest way.
     virtual void setPicture(const Picture& picture) = 0;
 
-    /// Shows the whole frame there from the next repaint on, in the screen's pixels; fitted for a
-    /// null rectangle.
+    /// Shows the whole frame at this place from the next repaint on, in screen pixels; a null
+    /// rectangle fits it into the widget.
     void setPlace(const QRect& place);
 
-    /// The format in which pictures can be shown without being converted; an opaque one.
+    /// The opaque format in which pictures can be shown without conversion.
     virtual QImage::Format pictureFormat() const = 0;
 
-    /// Says what is called when screenSize() has changed.
+    /// Sets the function that is called when screenSize() has changed.
     void setScreenHandler(std::function<void()> handler) { m_handleScreen = std::move(handler); }
 
-    /// The size of the widget in the screen's pixels, as it was painted or resized last.
+    /// Size of the widget in screen pixels, as of the last paint or resize.
     QSize screenSize() const { return m_screen; }
 
 protected:
     void noteScreen(const QSize& screen);
-    /// Where a picture goes, in the screen's pixels; empty for one of nothing.
+    /// Where a picture is drawn, in screen pixels; empty for a null picture.
     [[nodiscard]] QRect target(const Picture& picture) const;
     virtual void repaintAll() = 0;
 
 private:
     std::function<void()> m_handleScreen;
     QSize m_screen;
-    QRect m_place; ///< null for fitted
+    QRect m_place; ///< null if fitted
 };
 
-/// The rectangle that a part of another one is, in whole pixels.
+/// A relative part of a rectangle, in whole pixels.
 [[nodiscard]] QRect partOf(const QRect& whole, const QRectF& part);
 
-/// Where a picture goes on a screen of the same unit: in the middle, as large as fits, with its own
-/// proportions. Empty when either is.
+/// Where a picture is drawn on a screen: centred, as large as fits, in its own proportions. Both
+/// sizes are in the same unit. Empty if either is.
 [[nodiscard]] QRect letterboxed(const QSize& picture, const QSize& screen);
 
 } // namespace QtAV

@@ -36,7 +36,7 @@ OpenGLSupport tryOpenGL()
 
 OpenGLSupport openGLSupport()
 {
-    // With this the environment keeps Qt from using OpenGL under X11.
+    // This setting of the environment keeps Qt from using OpenGL under X11.
     const bool isAvoided = qgetenv("QT_XCB_GL_INTEGRATION") == "none";
     if (isAvoided || !qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
         return OpenGLSupport::None;

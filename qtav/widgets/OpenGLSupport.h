@@ -2,15 +2,16 @@
 
 namespace QtAV {
 
-/// What becomes of drawing with OpenGL.
+/// How well OpenGL is supported.
 enum class OpenGLSupport {
-    None,     ///< no context can be made
-    Software, ///< it works, but the processor imitates it, slower than it draws by itself
+    None,     ///< no context can be created
+    Software, ///< it works, but is emulated by the processor, which is slower than drawing without
+              ///< it
     Hardware,
 };
 
-/// What there is here; found out at the first call, by making a context. None before there is a
-/// graphical application. User-interface thread only.
+/// The support on this machine, determined on the first call by creating a context. None before
+/// there is a graphical application. User-interface thread only.
 [[nodiscard]] OpenGLSupport openGLSupport();
 
 } // namespace QtAV

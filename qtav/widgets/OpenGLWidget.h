@@ -11,8 +11,8 @@
 
 namespace QtAV {
 
-/// Shows the pictures of frames as textures. They come at the size at which they are shown, so that
-/// nothing is left to the graphics processor but to put them in their place.
+/// Shows the pictures of frames as textures. They come at the size at which they are shown, so the
+/// graphics processor only has to place them.
 class OpenGLWidget : public QOpenGLWidget, public FrameWidget
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     ~OpenGLWidget() override;
 
     void setPicture(const Picture& picture) override;
-    /// Byte order R, G, B, X, which every OpenGL takes.
+    /// Byte order R, G, B, X, which every OpenGL supports.
     QImage::Format pictureFormat() const override { return QImage::Format_RGBX8888; }
     QSize sizeHint() const override;
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr auto madeFormat = QImage::Format_ARGB32_Premultiplied;
 
-/// Enlarged so that each pixel of the frame stays a rectangle.
+/// Enlarges so that each pixel of the frame stays a sharp rectangle.
 QImage enlarged(const PictureMaker::Request& request)
 {
     const QRect whole(QPoint(), request.frame.displaySize());
@@ -32,7 +32,7 @@ QImage make(const PictureMaker::Request& request)
         !request.region.isNull() && request.size.width() > request.region.width() + 0.5;
     QImage image = enlarges ? enlarged(request)
                             : request.frame.toImage(madeFormat, request.size, request.region);
-    // What is multiplied by its alpha is what it looks like on black.
+    // A premultiplied picture looks like this on black.
     image.reinterpretAsFormat(QImage::Format_RGB32);
     return std::move(image).convertToFormat(request.format);
 }

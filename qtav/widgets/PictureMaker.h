@@ -14,10 +14,10 @@
 
 namespace QtAV {
 
-/// Makes the pictures that widgets show out of frames, on a thread of its own.
+/// Makes the pictures that widgets show from frames, on a thread of its own.
 ///
-/// Only the newest request is carried out: one that waits is replaced. All public functions are for
-/// the owner's thread.
+/// Only the newest request is carried out; it replaces a waiting one. All public functions must be
+/// called from the owner's thread.
 class PictureMaker
 {
 public:
@@ -25,33 +25,33 @@ public:
     {
         VideoFrame frame;
         QSize size;            ///< of the picture in pixels, not empty
-        QImage::Format format; ///< an opaque one
+        QImage::Format format; ///< must be opaque
         quint64 serial;        ///< repeated by the picture
         QRectF region = {};    ///< of the frame at displaySize(); null for all of it
     };
 
     struct Picture
     {
-        QImage image; ///< transparent parts lie on black; null when memory ran out
+        QImage image; ///< with black behind transparent parts; null when memory ran out
         quint64 serial;
         QSize frame = {};   ///< displaySize() of the frame
         QRectF region = {}; ///< as it was requested
     };
 
-    /// @param wake  called on the maker's thread when a picture can be taken. Must not call the
-    /// maker.
+    /// @param wake  called on the maker's thread when a picture is ready. Must not call the maker.
     explicit PictureMaker(std::function<void()> wake);
-    /// Waits until the picture in the making is done.
+    /// Waits until the current picture is done.
     ~PictureMaker();
     PictureMaker(const PictureMaker&) = delete;
     PictureMaker& operator=(const PictureMaker&) = delete;
 
     void request(Request request);
 
-    /// Drops what waits, and the picture that was not taken. One in the making still comes.
+    /// Drops the waiting request and the picture that was not taken. The current picture is still
+    /// delivered.
     void cancel();
 
-    /// The newest picture that has been made since the last call; nothing when none has.
+    /// The newest picture made since the last call; nothing if there is none.
     [[nodiscard]] std::optional<Picture> take();
 
 private:
@@ -65,7 +65,7 @@ private:
     std::optional<Picture> m_picture;
     bool m_quits = false;
 
-    std::thread m_thread; ///< last, so that it finds everything made
+    std::thread m_thread; ///< last, so that all other members exist when it starts
 };
 
 } // namespace QtAV

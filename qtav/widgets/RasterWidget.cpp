@@ -8,7 +8,7 @@ namespace QtAV {
 RasterWidget::RasterWidget(QWidget* parent)
     : QWidget(parent)
 {
-    // Every pixel is painted below, and nothing before: that would flicker.
+    // Every pixel is painted below. Painting a background first would flicker.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -38,7 +38,7 @@ void RasterWidget::paintEvent(QPaintEvent*)
     const QRect place = target(m_picture);
     QImage& image = m_picture.image;
     const QRectF area(QPointF(place.topLeft()) / ratio, QSizeF(place.size()) / ratio);
-    // Only the border: filling what is painted over costs as much as painting it.
+    // Only the border, because filling what is painted over costs as much as painting it.
     for (const QRect& border : QRegion(rect()) - QRegion(area.toRect().intersected(rect()))) {
         painter.fillRect(border, Qt::black);
     }

@@ -7,7 +7,7 @@
 
 namespace QtAV {
 
-/// Shows frames by painting their pictures: works everywhere.
+/// Shows frames by painting their pictures. Works on every system.
 class RasterWidget : public QWidget, public FrameWidget
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ bool usesOpenGL(VideoOutput::Drawing drawing)
     return false;
 }
 
-/// The part of the frame that a picture is of, 0 to 1 both ways.
+/// The part of the frame that a picture shows, 0 to 1 in both directions.
 QRectF partShown(const PictureMaker::Picture& picture)
 {
     if (picture.region.isNull() || picture.frame.isEmpty()) {
@@ -59,21 +59,21 @@ public:
               [output] { QMetaObject::invokeMethod(output, "showPicture", Qt::QueuedConnection); })
     {}
 
-    /// Null when there is no widget.
+    /// Null if there is no widget.
     FrameWidget* shown() const { return dynamic_cast<FrameWidget*>(widget.data()); }
     void request();
     void requestPart(const QSize& screen);
 
     QPointer<QWidget> widget;
-    QRect place; ///< of the whole picture; null for fitted
+    QRect place; ///< place of the whole picture; null for fitted
     VideoFrame frame;
-    quint64 serial = 0;      ///< of the newest picture that was asked for
-    quint64 firstSerial = 1; ///< of the first one after the screen was black
+    quint64 serial = 0;      ///< of the newest requested picture
+    quint64 firstSerial = 1; ///< of the first one after the screen was cleared
     quint64 shownSerial = 0;
     PictureMaker maker;
 };
 
-/// Asks for the picture of the frame at the widget's size; none when that is empty.
+/// Requests the picture of the frame at the widget's size; none if that is empty.
 void VideoOutput::Private::request()
 {
     const FrameWidget* const target = shown();
@@ -91,7 +91,7 @@ void VideoOutput::Private::request()
     }
 }
 
-/// What is seen of a picture that lies anywhere.
+/// Requests the visible part of a picture at any place.
 void VideoOutput::Private::requestPart(const QSize& screen)
 {
     const QRect seen = place.intersected(QRect(QPoint(), screen));
@@ -142,7 +142,7 @@ bool VideoOutput::isUpToDate() const
     return d->shownSerial == d->serial;
 }
 
-/// The picture that is there moves at once; the one made for the place follows.
+/// The current picture moves at once; the one made for the new place follows.
 void VideoOutput::setPlace(const QRect& place)
 {
     if (place == d->place) {

@@ -23,13 +23,13 @@ namespace {
 
 constexpr int patienceMs = 60000;
 
-/// As a download or a recording under the same name begins.
+/// Like the start of a download or a recording under the same name.
 bool cutToNothing(const QString& path)
 {
     return QFile::resize(path, 0);
 }
 
-/// The same, when it has gone on for a while.
+/// Like cutToNothing(), after that has progressed for a while.
 bool overwrite(const QString& path)
 {
     QFile other(samplePath(QStringLiteral("vp9.webm")));
@@ -39,7 +39,7 @@ bool overwrite(const QString& path)
            file.write(other.readAll()) == other.size();
 }
 
-/// As programs save that write a new file first.
+/// Like programs that save by writing a new file first.
 bool replaceByFewerStreams(const QString& path)
 {
     const QString beside = path + QStringLiteral(".mp4");
@@ -47,7 +47,7 @@ bool replaceByFewerStreams(const QString& path)
            QFile::remove(path) && QFile::rename(beside, path);
 }
 
-/// Of the finished images.
+/// The contents of the finished images.
 QHash<QString, QByteArray> contents(const QString& folder)
 {
     QHash<QString, QByteArray> result;
@@ -60,7 +60,7 @@ QHash<QString, QByteArray> contents(const QString& folder)
     return result;
 }
 
-/// Starts taking images; true once some are there.
+/// Starts taking images; returns true once some exist.
 bool startTaking(QProcess& process, const QString& video, const QString& destination)
 {
     process.setProcessEnvironment(commandline::environment());
@@ -74,7 +74,7 @@ bool startTaking(QProcess& process, const QString& video, const QString& destina
 
 } // namespace
 
-/// Videos that other programs change while the command line takes images out of them.
+/// Videos that other programs change while the command line takes images from them.
 class ChangingVideoTest : public QObject
 {
     Q_OBJECT
@@ -94,7 +94,7 @@ void ChangingVideoTest::imagesMadeBefore_stay_whenTheVideoChanges_data()
         const QString name = QString::fromLatin1(sample);
         QTest::addRow("%s, cut", sample) << name << Change(cutToNothing) << true;
         QTest::addRow("%s, overwritten", sample) << name << Change(overwrite) << true;
-        // The open file stays what it was.
+        // The open file does not change.
         QTest::addRow("%s, replaced", sample) << name << Change(replaceByFewerStreams) << false;
     }
 }

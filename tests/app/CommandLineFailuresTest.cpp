@@ -22,7 +22,7 @@ using testsupport::Sample;
 using testsupport::samplePath;
 using testsupport::TestDir;
 
-// How the names of the libraries begin.
+// Prefix of the names of Qt's libraries.
 #define QT "Qt" QT_STRINGIFY(QT_VERSION_MAJOR)
 
 namespace {
@@ -35,7 +35,7 @@ std::unique_ptr<QProcess> start(const QStringList& arguments)
     return process;
 }
 
-/// Whether every finished image in the folder can be read to its last line.
+/// Whether every finished image in the folder can be read up to its last line.
 bool areComplete(const QString& folder)
 {
     const QStringList images = QDir(folder).entryList({QStringLiteral("*.png")}, QDir::Files);
@@ -44,7 +44,7 @@ bool areComplete(const QString& folder)
     });
 }
 
-/// What the program prints where the arguments are wrong, or null.
+/// The program's message for wrong arguments, or null.
 QByteArray complaint(const QStringList& arguments)
 {
     const ProgramResult result = commandline::run(arguments);
@@ -140,7 +140,7 @@ void CommandLineFailuresTest::help_listsTheOptionsInOrder()
 {
     const ProgramResult result = commandline::run({QStringLiteral("-help")});
     QVERIFY(result.succeeded());
-    // Line breaks and indentation are the parser's.
+    // The parser determines line breaks and indentation.
     const QString help = QString::fromUtf8(result.standardOutput).simplified();
     const QStringList parts{
         QStringLiteral("[options] source [destination]"),
@@ -195,7 +195,7 @@ void CommandLineFailuresTest::version_isPrinted()
     QCOMPARE(result.standardOutput, "Morvantile " + ProductInfo::version().toUtf8() + "\n");
 }
 
-/// The other runs have no display either; here the environment asks for one all the same.
+/// The other runs have no display either, but here the environment requests one.
 void CommandLineFailuresTest::displayless_platformsAreNotNeeded()
 {
     const TestDir dir;
@@ -207,7 +207,7 @@ void CommandLineFailuresTest::displayless_platformsAreNotNeeded()
     QCOMPARE(imagesIn(dir.path()).size(), 4);
 }
 
-/// Servers install it without the libraries of a desktop.
+/// Servers install it without desktop libraries.
 void CommandLineFailuresTest::program_needsNoWidgetsAndNoSound()
 {
     const ProgramResult result =
@@ -252,7 +252,7 @@ void CommandLineFailuresTest::brokenFile_endsInTime_withCompleteImages_data()
     }
 }
 
-/// The time limit is the one that the program is run with.
+/// The time limit is that for running the program.
 void CommandLineFailuresTest::brokenFile_endsInTime_withCompleteImages()
 {
     QFETCH(QString, path);
@@ -273,7 +273,7 @@ void CommandLineFailuresTest::brokenFile_endsInTime_withCompleteImages()
     }
 }
 
-/// In /proc nobody can make a file, not even the superuser.
+/// Nobody, not even the superuser, can create a file in /proc.
 void CommandLineFailuresTest::unwritableDestination_givesNothing()
 {
     const ProgramResult result =
@@ -289,7 +289,7 @@ void CommandLineFailuresTest::imageBeyondTheMemory_isAnError_withFileAndPosition
     }
     const TestDir destination;
     const QString video = samplePath(longSample);
-    // A gibibyte, for images of nearly two.
+    // A gibibyte, for images of nearly two gibibytes.
     const ProgramResult result = testsupport::runProgram(
         QStringLiteral("/bin/sh"),
         {QStringLiteral("-c"), QStringLiteral("ulimit -d 1048576; exec \"$@\""),
@@ -346,7 +346,7 @@ void CommandLineFailuresTest::twoRunsAtOnce_loseAndReplaceNothing()
     QCOMPARE(numbers, expected);
 }
 
-/// Killed at ever later moments, so that some fall into the writing of an image.
+/// Killed at increasing delays, so that some kills happen while an image is written.
 void CommandLineFailuresTest::killedRun_leavesNoHalfImage()
 {
     const TestDir destination;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Bytes in blocks that go back to the system by themselves when they are freed.
+/// Bytes in blocks that are returned to the system individually when they are freed.
 size_t bytesOnTheirOwn()
 {
     return mallinfo2().hblkhd;

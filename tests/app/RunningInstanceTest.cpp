@@ -30,7 +30,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Passes the files on as another program would, while this one's event loop runs.
+/// Passes the files on like another program, while this one's event loop runs.
 bool passOn(const QStringList& files, const QString& place)
 {
     auto passed =

@@ -21,7 +21,7 @@ QString guide()
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// What the pattern's first group matches, each once.
+/// The matches of the pattern's first group, without duplicates.
 QSet<QString> allOf(const QString& pattern, const QString& text)
 {
     QSet<QString> found;
@@ -82,7 +82,7 @@ void UserGuideContentTest::everyOptionOfTheCommandLine_isExplained()
         QString::fromLocal8Bit(commandline::run({QStringLiteral("--help")}).standardOutput);
     QSet<QString> options = allOf(QStringLiteral("(?m)^ *(?:-\\w, )?(--[a-z-]+)"), help);
     QVERIFY(options.contains(QStringLiteral("--skipback")));
-    // Qt's own, which say nothing of videos.
+    // Qt's own option, which has nothing to do with videos.
     options.remove(QStringLiteral("--help-all"));
     const QSet<QString> explained = allOf(QStringLiteral("<code>(--[a-z-]+)</code>"), guide());
     QCOMPARE(missingFrom(explained, options), QStringList());

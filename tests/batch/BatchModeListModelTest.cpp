@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Also makes indexes that the model itself does not give.
+/// Can also create indexes that the model itself does not provide.
 class Model : public BatchModeListModel
 {
 public:
@@ -45,7 +45,7 @@ struct Jobs
     Model model{nullptr};
 };
 
-/// Has every change of the model checked, and the test ended by a wrong one.
+/// Checks every change of the model, and ends the test on a wrong one.
 void watch(Model& model)
 {
     new QAbstractItemModelTester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest,
@@ -239,7 +239,7 @@ void BatchModeListModelTest::removeRows_takesOutTheRightJobs_whateverTheOrder()
     QCOMPARE(jobs.names(), left);
 }
 
-/// The second attempt finds no row, of which those are told who listen.
+/// The second attempt finds no row, which is still notified.
 void BatchModeListModelTest::removeRows_takesOutAJobOnce_forTwoOfItsColumns()
 {
     Jobs jobs;

@@ -13,7 +13,7 @@
 using testsupport::samplePath;
 using testsupport::TestDir;
 
-/// What a worker says that it missed, and another one that makes just that.
+/// What a worker reports as missed, and another worker that makes exactly that.
 class BatchRetryTest : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// 520 frames, 25 a second.
+/// 520 frames, 25 per second.
 const QString clip = QStringLiteral("h264_gop250.mp4");
 
 /// Images every 4.3 seconds: five.
@@ -40,7 +40,7 @@ QString imagesIn(const TestDir& dir)
     return dir.filePath(QStringLiteral("images"));
 }
 
-/// A job into a folder of the case, run as often as wanted.
+/// A job into a folder of the case, which can be run repeatedly.
 class RetryJob
 {
 public:
@@ -69,7 +69,7 @@ public:
         m_worker->setConfig(&m_config);
     }
 
-    /// The folder vanishes after the first image.
+    /// Makes the folder vanish after the first image.
     void failAfterTheFirst()
     {
         QObject::connect(m_worker.get(), &BatchWorker::imageReady, m_worker.get(),
@@ -105,7 +105,7 @@ void addKinds()
     QTest::newRow("one after another") << false;
 }
 
-/// What the job makes when nothing comes between.
+/// The result of the job without interruption.
 QList<int> framesOfAll(bool isExact)
 {
     const TestDir dir;

@@ -1,4 +1,4 @@
-// A batch whose disk is full: it waits, asks, and goes on or stops.
+// A batch on a full disk: it waits, asks, and continues or stops.
 
 #include "batch/BatchThread.h"
 #include "batch/BatchWorker.h"
@@ -21,13 +21,13 @@ namespace {
 
 constexpr int patienceMs = 30000;
 
-/// A disk of a megabyte, all but filled.
+/// A disk of a megabyte, almost full.
 class FullDisk : public testsupport::SmallDisk
 {
 public:
     FullDisk() { fill(); }
 
-    /// How many pictures are there; -1 where one is not whole, or something else is there.
+    /// Number of pictures; -1 if one is incomplete, or something else is there.
     [[nodiscard]] int pictures() const
     {
         const QStringList names = QDir(path()).entryList(QDir::Files | QDir::Hidden);
@@ -72,7 +72,7 @@ struct Batch
 
     BatchWorkerConfig config;
     BatchThread thread;
-    BatchWorker* worker; ///< the thread's, once added
+    BatchWorker* worker; ///< owned by the thread once added
     WorkerEvents events;
 };
 
@@ -107,7 +107,7 @@ private Q_SLOTS:
             ++questions;
             isInOwnThread = isInOwnThread && QThread::currentThread() == thread();
             missing = failure.missing;
-            // As a dialog does, while the user looks for what may go.
+            // As a dialog does while the user frees some space.
             QTest::qWait(300);
             if (questions == 2) {
                 disk.makeRoom();

@@ -24,10 +24,10 @@ namespace {
 
 constexpr int limitMs = 60000;
 
-/// Tells the test program to add a worker to a running thread.
+/// Makes the test program add a worker to a running thread.
 const char* const addLate = "--add-a-worker-after-start";
 
-/// A worker that does what the test says, in the thread that runs it.
+/// A worker that does what the test specifies, in the thread that runs it.
 class ScriptedWorker : public BatchWorker
 {
 public:
@@ -46,7 +46,7 @@ private:
     Script m_script;
 };
 
-/// Writes down the signals of a thread as texts, in the order of their arrival in this thread.
+/// Records the signals of a thread as texts, in the order of their arrival in this thread.
 class ThreadEvents : public QObject
 {
 public:
@@ -303,7 +303,7 @@ void BatchThreadTest::lastImages_areSavedAndTold_howeverBusyTheirThreadIs()
     QCOMPARE(workerEvents.of(QStringLiteral("image")).size(), 2);
 }
 
-/// Deletions can be served before other events that are older, as Qt Test's own waiting does.
+/// Deletions can be processed before older events, for example by Qt Test's own waiting.
 void BatchThreadTest::workers_outliveTheNewsOfThem()
 {
     BatchThread thread;
@@ -409,8 +409,8 @@ void BatchThreadTest::thread_canEnd_whileItRuns()
     QVERIFY(wasInterrupted);
 }
 
-/// Real jobs, cancelled everywhere between the start and some way into the second one. That nothing
-/// is touched after its end, and nothing by two at a time, is for the sanitizers to see.
+/// Real jobs, cancelled at various points between the start and the second job. The sanitizers
+/// check that nothing is used after its end, and nothing by two threads at a time.
 void BatchThreadTest::thread_canBeStartedAndCancelled_manyTimes()
 {
     const TestDir dir;

@@ -22,7 +22,7 @@ using testsupport::TestDir;
 
 namespace {
 
-/// A worker with its job and what it emits.
+/// A worker with its job and its signals.
 struct Job
 {
     explicit Job(const QString& video, const QString& folder)
@@ -49,7 +49,7 @@ QString makeMinute(const TestDir& dir)
     return path;
 }
 
-/// The positions that the worker's grabber is sent to from now on.
+/// Records the positions that the worker's grabber is sent to from now on.
 std::shared_ptr<QList<qint64>> watchPositions(const Job& job)
 {
     auto positions = std::make_shared<QList<qint64>>();
@@ -270,7 +270,7 @@ void BatchWorkerTest::run_takesNothing_forAnUnknownType()
     QCOMPARE(job.events.all, expected);
 }
 
-/// A recording begins anew under the name of the video while that is worked on.
+/// A recording restarts under the name of the video while that is being processed.
 void BatchWorkerTest::run_goesOn_afterAnExtractionError()
 {
     const TestDir dir;
@@ -369,7 +369,7 @@ void BatchWorkerTest::run_savesInTheWorkersThread_whenCalledInAnother()
             isElsewhere = isElsewhere || QThread::currentThread() != job.worker.thread();
         },
         Qt::DirectConnection);
-    // Not a QThread: its end is seen by thread sanitizer.
+    // Not a QThread, because thread sanitizer sees the end of a std::thread.
     std::thread thread([&job] { job.worker.run(); });
     const auto isDone = [&job] {
         return job.events.of(QStringLiteral("image")).size() == 3 &&
@@ -382,7 +382,7 @@ void BatchWorkerTest::run_savesInTheWorkersThread_whenCalledInAnother()
     QCOMPARE(QDir(dir.path()).entryList({QStringLiteral("*.jpeg")}).size(), 3);
 }
 
-/// A second is time for ten frames, were they let to pile up.
+/// In a second, ten frames could pile up.
 void BatchWorkerTest::run_waitsForItsImages_whenTheyFallBehind()
 {
     const TestDir dir;

@@ -42,7 +42,7 @@ private:
     std::vector<std::unique_ptr<BatchWorkerConfig>> m_jobs;
 };
 
-/// What a loader reports.
+/// The signals of a loader.
 class Reports
 {
 public:
@@ -61,7 +61,7 @@ private:
     QSignalSpy m_finished;
 };
 
-/// Lets the event loop run for that many events of a timer.
+/// Runs the event loop for this many events of a timer.
 void turnEventLoop(int times)
 {
     int turns = 0;
@@ -231,7 +231,7 @@ void VideoInfoLoaderTest::cancel_isSilent_whenNothingWaits()
     QCOMPARE(reports.finished(), 1);
 }
 
-/// The cancelled read may still be going on.
+/// The cancelled read may still be running.
 void VideoInfoLoaderTest::jobs_areLoaded_afterACancelledRead()
 {
     const TestDir dir;

@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/// Writes down all signals of a worker as text, in the order and thread of their arrival.
+/// Records all signals of a worker as text, in the order and thread of their arrival.
 class WorkerEvents : public QObject
 {
     Q_OBJECT

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fails unless clusters.md quotes each script in clusters/ as it stands, and bash understands them.
+# Fails unless clusters.md quotes each script in clusters/ verbatim, and bash accepts them.
 #   check_document.sh DOCS
 set -euo pipefail
 cd -- "$1"

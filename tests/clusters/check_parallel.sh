@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Has stills-parallel.sh take pictures out of videos whose names try shells, whole, in part and on
-# hosts, and compares with one call of stills: the same files, the same bytes.
+# Runs stills-parallel.sh on videos with names that need quoting, completely, in parts and on hosts,
+# and compares with one call of stills: the same files, the same bytes.
 #   check_parallel.sh SCRIPT STILLS
 set -euo pipefail
 script=$1
@@ -18,7 +18,7 @@ die() {
 }
 
 folder=$(mktemp -d)
-# descendants PROCESS: its number and those of the processes below it, parents first.
+# descendants PROCESS: its number and those of its descendants, parents first.
 descendants() {
     local child
     printf '%s\n' "$1"
@@ -28,7 +28,7 @@ descendants() {
 }
 
 run='' # the process of a run that is to be killed
-# Parents first: parallel would start another task when it sees one die.
+# Parents first, because parallel would start another task when it sees one die.
 kill_run() {
     local processes
     mapfile -t processes < <(descendants "$run")
@@ -60,7 +60,7 @@ cp -- "$media/h264_gop250.mp4" 'again/clip 1.mp4' # another video of the same na
 find . -name '*.mp4' -print0 | LC_ALL=C sort -z >list
 "$STILLS" --quiet --files-from list -o expected "${SERIES[@]}"
 
-# expect_all FOLDER WHEN: it holds what one call makes, and nothing else.
+# expect_all FOLDER WHEN: it contains exactly what one call makes.
 expect_all() {
     find "$1" -name '.morvantile-*.part' -delete # of a call that was killed
     diff -r expected "$1" >&2 || die "not the same pictures $2"
@@ -125,7 +125,7 @@ killed_run_goes_on() {
     expect_all killed "after a kill"
 }
 
-# In place of ssh, a program that gives the command to a shell of this machine, and sets SHELL as a
+# Replaces ssh by a program that passes the command to a shell of this machine, and sets SHELL as a
 # login does.
 hosts_share_the_work() {
     cat >"$folder/ssh" <<'END'

@@ -1,6 +1,6 @@
-// A small window in the corner of the screen from which files can be dragged: the file manager of
-// the end-to-end tests. Arguments: the files. It says "taken" whenever what the pointer is over
-// would take them.
+// A small window in the corner of the screen from which files can be dragged; it stands for the
+// file manager in the end-to-end tests. Arguments: the files. It shows "taken" while the pointer is
+// over a window that would accept them.
 
 #include <QApplication>
 #include <QDrag>
@@ -19,7 +19,7 @@ public:
     explicit DragSource(QList<QUrl> files)
         : m_files(std::move(files))
     {
-        // Without the window manager, which would give it the keyboard and a place of its own.
+        // Bypasses the window manager, which would give it the focus and another place.
         setWindowFlags(Qt::Window | Qt::X11BypassWindowManagerHint);
         setWindowTitle(QStringLiteral("DragSource"));
         setGeometry(0, 0, 80, 80);

@@ -176,7 +176,7 @@ class BatchTest(MorvantileCase):
         self.program.window(MODE)
 
     def load(self, *videos):
-        """Loads the videos, all in one go."""
+        """Loads all videos at once."""
         self.program.click("push button", "Load Video")
         self.program.window("Open")
         self.program.enter(" ".join(f'"{video}"' for video in videos))
@@ -190,7 +190,7 @@ class BatchTest(MorvantileCase):
         return [cell for i, cell in enumerate(cells) if i % COLUMNS == column]
 
     def column(self, column):
-        """What the column of the list of videos says, row by row."""
+        """The texts of a column of the list of videos, by row."""
         return [cell.name for cell in self.cells(column)]
 
     def select(self, first, *others):
@@ -219,7 +219,7 @@ class BatchTest(MorvantileCase):
         self.program.window(MODE)
 
     def wait_for_completion(self, outcome):
-        """Waits until the log says how the batch ended and nothing else; gives what it says."""
+        """Waits until the log contains only the result of the batch; returns it."""
         self.program.find("push button", "Done")
         log = self.program.find("text", "Log")
         wait_until(lambda: log.text.startswith(outcome), lambda: f"log: {log.text}")

@@ -1,4 +1,4 @@
-"""What another program gets from the clipboard."""
+"""The clipboard as seen by another program."""
 
 import io
 
@@ -46,7 +46,7 @@ class ClipboardTest(MorvantileCase):
         self.assertEqual(frame_number(self.wait_for_picture((160, 120))), self.number)
 
     def wait_for_picture(self, size):
-        """The picture in the clipboard, once it is one of the size."""
+        """The picture in the clipboard, once it has the size."""
 
         def wanted():
             content = self.desktop.clipboard("image/png")

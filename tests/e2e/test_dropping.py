@@ -71,7 +71,7 @@ class DroppingTest(MorvantileCase):
         self.source = wait_until(lambda: self.desktop.window_area("DragSource"), "no source")
 
     def drag_to(self, control):
-        """Drags the files over the control and waits until the program would take them."""
+        """Drags the files over the control and waits until the program would accept them."""
         left, top, right, bottom = self.source
         self.desktop.move((left + right) // 2, (top + bottom) // 2)
         self.desktop.press()

@@ -1,4 +1,4 @@
-"""The filmstrip: snapshots that were taken before, their frames, and what survives the program."""
+"""The filmstrip: earlier snapshots, their frames, and what survives the program."""
 
 from PIL import Image
 
@@ -69,7 +69,7 @@ class FilmstripTest(MorvantileCase):
     # --- what the cases are made of ------------------------------------------------------------
 
     def snap(self, name):
-        """Opens the sample and takes a snapshot of the frame whose number is given."""
+        """Opens the sample and takes a snapshot of the frame with the number."""
         number = self.open_paused(self.program, self.sample(name))
         self.take_snapshot(self.program)
         number = self.wait_for_standstill(self.program)
@@ -89,7 +89,7 @@ class FilmstripTest(MorvantileCase):
         self.desktop.click(*self.snapshots()[place].middle)
 
     def delete_and_undo(self):
-        """Deletes both by the keyboard, and takes that back."""
+        """Deletes both by keyboard, and undoes it."""
         with self.desktop.holding("ctrl"):
             self.choose(0)
         self.desktop.key("Delete")

@@ -108,7 +108,7 @@ class KeyboardTest(MorvantileCase):
     # --- what the cases are made of ------------------------------------------------------------
 
     def focus(self):
-        """The role and the name of the control with the keyboard, as in STOPS."""
+        """The role and the name of the focused control, as in STOPS."""
         control = self.program.focused()
         if control is None:
             return None
@@ -128,7 +128,7 @@ class KeyboardTest(MorvantileCase):
         return self.program.has(role, name)
 
     def go_to(self, role, name):
-        """Presses Tab until the control has the keyboard."""
+        """Presses Tab until the control has the focus."""
         for _ in range(2 * len(STOPS)):
             before = self.focus()
             if before == (role, name):

@@ -1,4 +1,4 @@
-"""The window for those who do not see it: by keys, and by what a screen reader is told."""
+"""The window without sight: by keys, and by the announcements of a screen reader."""
 
 from PIL import Image
 
@@ -21,7 +21,7 @@ class ListeningTest(MorvantileCase):
         return self.enterContext(Announcements(self.desktop))
 
     def go_to(self, control):
-        """Presses Tab until the control has the keyboard."""
+        """Presses Tab until the control has the focus."""
         for _ in range(40):
             before = str(self.program.focused())
             if before == str(control):

@@ -165,14 +165,14 @@ class PlayingTest(MorvantileCase):
     # --- what the cases are made of ------------------------------------------------------------
 
     def open_long_video(self):
-        """Paused; gives the frame at which it stands."""
+        """Paused; returns the number of its frame."""
         return self.open_paused(self.program, self.sample("h264_gop250.mp4"))
 
     def slider(self):
         return self.program.find("slider", "Position")
 
     def wait_for_slider_at(self, number):
-        """Waits until the handle is where the frame is."""
+        """Waits until the handle is at the frame's position."""
         slider = self.slider()
         wait_until(
             lambda: slider.value == number * FRAME_MS // SLIDER_STEP_MS,
@@ -184,7 +184,7 @@ class PlayingTest(MorvantileCase):
         return left + (right - left) * part, (top + bottom) // 2
 
     def grab_slider(self):
-        """Takes the handle where it is, with the mouse button held down."""
+        """Presses the mouse button on the handle and holds it."""
         slider = self.slider()
         handle = 16
         left, top, right, bottom = slider.area

@@ -201,14 +201,14 @@ class ProfilesTest(MorvantileCase):
     # --- what the cases are made of ------------------------------------------------------------
 
     def open_with_snapshot(self):
-        """Opens the video and takes a snapshot, of the frame whose number is given."""
+        """Opens the video and takes a snapshot of the frame with the number."""
         number = self.open_paused(self.program, self.sample("h264_gop250.mp4"))
         self.take_snapshot(self.program)
         wait_until(self.program.shown_snapshot, "no snapshot is shown")
         return number
 
     def edit_image_profile(self):
-        """Opens the dialog, makes it smaller and moves it off the snapshot behind it."""
+        """Opens the dialog, shrinks it and moves it away from the snapshot behind it."""
         self.program.click("push button", "Edit image profiles")
         dialog = self.program.window("Image Profile Settings")
         self.desktop.resize_window(*DIALOG_SIZE)
@@ -228,12 +228,12 @@ class ProfilesTest(MorvantileCase):
         self.program.set_number("Contrast", CONTRAST)
 
     def save_dialog(self, title):
-        """Clicks on the button of the dialog, not on the one of the main window."""
+        """Clicks on the button of the dialog, not on that of the main window."""
         self.program.click_in(title, "Save")
         wait_until(lambda: self.program.window().name != title, "the dialog stays open")
 
     def use_profile_menu(self, entry):
-        """Chooses an entry of the menu for the profile in the dialog."""
+        """Selects an entry of the profile menu in the dialog."""
         left, _, right, bottom = self.program.find(
             name="Rename, duplicate or delete this profile"
         ).area
@@ -258,12 +258,12 @@ class ProfilesTest(MorvantileCase):
         return self.desktop.picture(self.program.snapshot_view().area).tobytes()
 
     def preview(self, shape):
-        """What a snapshot of the shape fills in the main window, less its edges."""
+        """The area of a snapshot with the shape in the main window, without its edges."""
         left, top, right, bottom = fitted(shape, self.program.snapshot_view().area)
         return self.desktop.picture((left + 2, top + 2, right - 2, bottom - 2))
 
     def fills_its_part(self, shape):
-        """Whether the snapshot in the main window has the shape, which is a wide one."""
+        """Whether the snapshot in the main window has the (wide) shape."""
         area = self.program.snapshot_view().area
         left, top, right, _ = fitted(shape, area)
         above = self.desktop.picture((left, area[1], right, top - 2))

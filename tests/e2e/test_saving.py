@@ -24,7 +24,7 @@ SIGNATURES = {
 
 @contextlib.contextmanager
 def file_manager(desktop, shown):
-    """One that writes what it shows into the file."""
+    """A file manager that writes the files it shows to a file."""
     process = processes.start(
         [sys.executable, "-m", "tests.e2e.driver.file_manager", shown],
         env={**desktop.environment, "PYTHONDONTWRITEBYTECODE": "1"},
@@ -42,7 +42,7 @@ def file_manager(desktop, shown):
 class FirstMinuteTest(MorvantileCase):
 
     def test_eight_actions_lead_from_the_video_to_the_file_in_its_folder(self):
-        """As the guide counts them; nothing was set before."""
+        """The actions as counted in the guide, without earlier settings."""
         shown = self.folder / "shown"
         with file_manager(self.desktop, shown):
             program = self.start([self.sample("h264_gop250.mp4")])  # 1, in a file manager
@@ -240,7 +240,7 @@ class SavingTest(MorvantileCase):
     # --- what the cases are made of ------------------------------------------------------------
 
     def open_video(self):
-        """Paused; gives the frame at which it stands."""
+        """Paused; returns the number of its frame."""
         return self.open_paused(self.program, self.sample("h264_gop250.mp4"))
 
     def save_automatically_into(self, folder):

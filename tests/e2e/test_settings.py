@@ -1,4 +1,4 @@
-"""What a second start finds of the first one."""
+"""What a second start restores from the first one."""
 
 from tests.e2e.driver.case import MorvantileCase
 from tests.e2e.driver.waiting import wait_until
@@ -109,13 +109,13 @@ class SettingsTest(MorvantileCase):
     # --- what the cases are made of ------------------------------------------------------------
 
     def open_volume(self, program):
-        """Opens the popup and gives its place on the screen."""
+        """Opens the popup and returns its place on the screen."""
         program.open_with_dialog(self.sample("h264_gop250.mp4"))
         program.click("push button", "Volume Control")
         return wait_until(lambda: self.desktop.window_area("Form"), "no popup")
 
     def wait_for_setting(self, key, wanted):
-        """Waits until the file of the settings has a value that is wanted."""
+        """Waits until the settings file has an expected value."""
         file = self.home / "config/Morvantile/Morvantile.conf"
 
         def value():
@@ -129,7 +129,7 @@ class SettingsTest(MorvantileCase):
         )
 
     def handle_height(self, popup):
-        """The row of the screen with the middle of the slider's handle; none while it has none."""
+        """The row of the screen with the middle of the slider's handle; none if it is not visible."""
         left, top, right, bottom = popup
         middle = (left + right) // 2
         # Inside the frame that the slider may have. The handle is white, its groove is not.
@@ -138,7 +138,7 @@ class SettingsTest(MorvantileCase):
         return top + 16 + sum(rows) // len(rows) if rows else None
 
     def is_ticked(self, popup):
-        """Whether the box is blue inside, but for the tick."""
+        """Whether the box is blue inside, except for the tick."""
         left, _, _, bottom = popup
         area = self.desktop.picture((left + 11, bottom - 28, left + 20, bottom - 19))
         red, _, blue = (sum(channel.getdata()) for channel in area.convert("RGB").split())

@@ -1,4 +1,4 @@
-"""One way through the window, for builds in which every test takes long."""
+"""A single path through the window, for builds in which tests take long."""
 
 from PIL import Image
 

@@ -50,7 +50,7 @@ class StartUpTest(MorvantileCase):
         second.window("Morvantile - h264_gop250.mp4")
 
     def run_with(self, *files):
-        """Starts the program once more and waits until it has passed the files on; its exit code."""
+        """Starts the program again, waits until it has passed the files on, and returns its exit code."""
         return Program(self.desktop, self.home, map(str, files)).run()
 
     def test_video_plays_without_opengl(self):

@@ -1,4 +1,4 @@
-"""The quick ways to a frame: the slider, the time that is typed, the marked stretch, the keys."""
+"""Navigation to a frame: the slider, the typed time, the marked stretch, the keys."""
 
 from PIL import Image
 
@@ -94,7 +94,7 @@ class SteeringTest(MorvantileCase):
     # --- what the cases are made of ------------------------------------------------------------
 
     def preview_above(self, slider):
-        """A function that gives the frame in the preview; none while there is none."""
+        """A function that returns the frame in the preview; none if there is none."""
 
         def frame():
             x, _ = self.desktop.pointer()

@@ -24,7 +24,7 @@ def sample(name):
 
 
 class Result:
-    """How a program ended and what it said."""
+    """The exit code and output of a program."""
 
     def __init__(self, status, output, faults):
         self.status = status
@@ -89,18 +89,18 @@ class FaultCase(unittest.TestCase):
         return sorted((folder or self.out).glob(HIDDEN))
 
     def check_whole(self, folder=None):
-        """Every file under a final name is a whole picture."""
+        """Every file under a final name must be a complete picture."""
         for path in self.visible(folder):
             with Image.open(path) as picture:
                 picture.load()
 
     def check_clean(self, folder=None):
-        """The same, and nothing of ours is left beside them."""
+        """The same, and no other files of ours may remain."""
         self.check_whole(folder)
         self.assertEqual(self.hidden(folder), [])
 
     def check_told(self, result, *texts):
-        """A failure ends with status 1, and the text names each of these."""
+        """A failure must end with status 1, and the text must name each of these."""
         self.assertEqual(result.status, 1, str(result))
         for text in texts:
             self.assertIn(str(text), result.output, str(result))
@@ -108,7 +108,7 @@ class FaultCase(unittest.TestCase):
 
 @contextlib.contextmanager
 def small_disk(folder, size):
-    """Makes the folder a disk of that size while it lasts; yields False without the rights to."""
+    """Mounts a disk of that size on the folder; yields False without permission."""
     is_mounted = subprocess.run(
         ["mount", "-t", "tmpfs", "-o", f"size={size}", "tmpfs", str(folder)],
         capture_output=True, check=False).returncode == 0

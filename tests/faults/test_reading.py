@@ -1,4 +1,4 @@
-"""Reading fails, is short or slow: what is given is right, and a file never holds a run up."""
+"""Reading fails, is short or slow: results must be right, and a file must never block a run."""
 
 import os
 import pathlib
@@ -70,7 +70,7 @@ class Reading(FaultCase):
 
 
 class Pipes(FaultCase):
-    """A pipe that nobody writes into holds up nothing."""
+    """A pipe without a writer must not block."""
 
     def setUp(self):
         super().setUp()
@@ -140,10 +140,10 @@ class Pipes(FaultCase):
 
 
 class Hostile(FaultCase):
-    """What a file declares is not believed before memory is taken."""
+    """Declarations in a file must be checked before memory is allocated."""
 
     def memory(self, *arguments):
-        """The result of a run and the most memory that it had, in MiB."""
+        """The result of a run and its peak memory, in MiB."""
         report = self.folder / "memory"
         process = subprocess.run(
             ["/usr/bin/python3", "-c",

@@ -1,4 +1,4 @@
-"""Writing fails: nothing half stands under a final name, nothing is overwritten, all is told."""
+"""Writing fails: no incomplete final files, nothing overwritten, every failure reported."""
 
 import fcntl
 import os
@@ -159,7 +159,7 @@ class Folders(FaultCase):
 
 
 class Killing(FaultCase):
-    """SIGKILL at random moments; as often as FAULTS_KILLS says, five times unless it does."""
+    """SIGKILL at random moments; FAULTS_KILLS sets how often, five times by default."""
 
     def test_killed_runs_leave_whole_files_and_can_be_completed(self):
         kills = int(os.environ.get("FAULTS_KILLS", "5"))

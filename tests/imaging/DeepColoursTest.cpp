@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Every pixel has codes that no 8 bits can hold.
+/// Every pixel has codes that 8 bits cannot represent.
 QImage deepPicture(QImage::Format format)
 {
     QImage image(61, 37, format);

@@ -25,7 +25,7 @@ struct stat statusOf(const QString& path)
 
 } // namespace
 
-/// FilePublisher where the old file may be written, but no other one can take its place.
+/// FilePublisher with an old file that is writable but cannot be replaced.
 class FileOverwritingTest : public QObject
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ private:
     [[nodiscard]] QStringList files() const { return filesIn(m_folder->path()); }
 
 private slots:
-    /// Everybody may write the file, but only its owner the folder, who is another user.
+    /// Everybody may write to the file, but only another user, its owner, to the folder.
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();

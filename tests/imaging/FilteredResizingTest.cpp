@@ -13,7 +13,7 @@ namespace {
 constexpr ResizeFilter filters[] = {ResizeFilter::Area, ResizeFilter::Lanczos,
                                     ResizeFilter::Bicubic, ResizeFilter::Nearest};
 
-/// White and black pixels by turns, in all channels but alpha, which is full.
+/// Alternating white and black pixels in all channels except alpha, which is opaque.
 cv::Mat chequers(int type, cv::Size size)
 {
     const double white = CV_MAT_DEPTH(type) == CV_16U ? 65535.0 : 255.0;
@@ -28,7 +28,7 @@ cv::Mat chequers(int type, cv::Size size)
     return mat;
 }
 
-/// The sample of one channel in the middle, as a part of the highest.
+/// The sample of one channel in the middle, relative to the maximum.
 double middle(const cv::Mat& mat, int channel = 0)
 {
     cv::Mat plane;
@@ -60,7 +60,7 @@ private Q_SLOTS:
         QCOMPARE(coded.type(), type);
         QCOMPARE(linear.type(), type);
         QVERIFY2(std::abs(middle(coded) - 0.5) < 0.07, qPrintable(QString::number(middle(coded))));
-        // Half of the light is the code 188 of 255.
+        // Half of the light corresponds to the code 188 of 255.
         QVERIFY2(std::abs(middle(linear) - 0.7354) < 0.06,
                  qPrintable(QString::number(middle(linear))));
         if (source.channels() == 4) {
@@ -120,7 +120,7 @@ private Q_SLOTS:
 
     void transparentColours_doNotShow()
     {
-        // Red, beside green that nobody sees.
+        // Red beside transparent green.
         cv::Mat source(8, 8, CV_8UC4, cv::Scalar(0, 0, 255, 255));
         cv::Mat right = source(cv::Rect(4, 0, 4, 8));
         right = cv::Scalar(0, 255, 0, 0);

@@ -31,7 +31,7 @@ QImage picture()
     return image;
 }
 
-/// A picture that no format makes much smaller.
+/// A picture that no format compresses much.
 QImage noise(QSize size)
 {
     QRandomGenerator generator(7);
@@ -251,7 +251,7 @@ private slots:
             return ImageFileWriter::write(path, image, 100, ExistingFile::Replace);
         };
         const QImage image = noise(QSize(2000, 1500));
-        // The plugin of the format takes its own memory now.
+        // The plugin of the format allocates its memory only now.
         QCOMPARE(write(image), WriteResult::Written);
         const QByteArray whole = contentOf(path);
         int failures = 0;

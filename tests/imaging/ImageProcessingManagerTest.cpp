@@ -54,7 +54,7 @@ void setSize(ImageProfile& profile, const QSize& size)
     profile.setImageHeight(size.height());
 }
 
-/// The pipeline step by step, with a copy at each.
+/// The pipeline step by step, with a copy after each.
 QImage plainResult(const QImage& image, const ImageProfile& profile, const QSize& size)
 {
     cv::Mat mat = QtOcv::imageToMat(image, -8, QtOcv::Bgr);
@@ -190,7 +190,7 @@ private slots:
         profile.setImageContrast(contrast);
         const QImage image = randomImage(QSize(97, 61), format);
         const QImage before = image.copy();
-        // The bounds' own ratio, so that only the scaling is compared.
+        // Bounds with the same ratio, so that only the scaling is compared.
         const cv::Mat fitted = manager().resizeImage(cv::Mat(61, 97, CV_8UC1, cv::Scalar(0)),
                                                      size.width(), size.height(), true, false);
         const QImage result = manager().processImage(image, &profile, nullptr);
@@ -392,7 +392,7 @@ private slots:
         const cv::Mat mat(720, 1280, CV_8UC4, cv::Scalar(1, 2, 3, 4));
         const cv::Mat result = manager().resizeImage(mat, 640, 999999, true, false);
         QCOMPARE(QSize(result.cols, result.rows), QSize(640, 360));
-        // Cutting to these bounds would fill them.
+        // Cropping to these bounds would fill the memory.
         QVERIFY(manager().resizeImage(mat, 640, 999999, false, false).data == mat.data);
     }
 
@@ -413,7 +413,7 @@ private slots:
         mat.at<uchar>(1, 0) = 100;
         mat.at<uchar>(1, 1) = 200;
         QCOMPARE(int(manager().resizeImage(mat, 1, 1, true, false).at<uchar>(0, 0)), 100);
-        // Enlarged to a whole multiple, every pixel becomes an even block.
+        // Enlarged by a whole factor, every pixel becomes a uniform block.
         const cv::Mat large = manager().resizeImage(mat, 4, 4, true, false);
         for (int y = 0; y < 4; ++y) {
             for (int x = 0; x < 4; ++x) {
@@ -427,7 +427,7 @@ private slots:
         QVERIFY(savedSize("low.jpg", "jpg", 5) < savedSize("high.jpg", "jpg", 95));
         QVERIFY(savedSize("low.JPG", "JPG", 5) < savedSize("high.JPG", "JPG", 95));
         QVERIFY(savedSize("low.jpeg", "Jpeg", 5) < savedSize("high.jpeg", "jpEG", 95));
-        // Another type leaves the format's own quality, whatever the name says.
+        // Another type uses the format's default quality, whatever the name says.
         QCOMPARE(savedSize("low2.jpg", "png", 5), savedSize("high2.jpg", "png", 95));
         QCOMPARE(savedSize("low.png", "png", 5), savedSize("high.png", "png", 95));
         QCOMPARE(QImageReader::imageFormat(path("low2.jpg")), QByteArray("jpeg"));

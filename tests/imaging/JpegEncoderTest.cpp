@@ -25,7 +25,7 @@ QImage redOnBlue(QImage::Format format)
     return converted;
 }
 
-/// The root of the mean square of how far the red of two pictures is apart, in levels of 255.
+/// The root mean square difference in red of two pictures, in levels of 255.
 double redError(const QImage& a, const QImage& b)
 {
     double sum = 0.0;
@@ -38,7 +38,7 @@ double redError(const QImage& a, const QImage& b)
     return std::sqrt(sum / (a.width() * a.height()));
 }
 
-/// An sRGB profile with so many bytes behind what counts.
+/// An sRGB profile with this many additional bytes.
 QColorSpace longProfile(int bytes)
 {
     QByteArray profile = QColorSpace(QColorSpace::SRgb).iccProfile();
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QImage image = redOnBlue(QImage::Format_RGB888);
         const QColorSpace space = longProfile(150000);
         QVERIFY(space.isValid());
-        // Spaces that mean the same count as equal, and the first would stay.
+        // Spaces with the same meaning compare equal, and the first would be kept.
         image.setColorSpace(QColorSpace());
         image.setColorSpace(space);
         const QImage decoded = QImage::fromData(JpegEncoder::encode(image, 95), "jpeg");

@@ -50,7 +50,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Pixels of 1,000 cd/m² and black by turns show 500.
+    /// Alternating pixels of 1,000 cd/m² and black give 500.
     void chequers_becomeHalfOfTheirLight_inValuesOfHdr()
     {
         const double bright = testsupport::pqOf(1000.0);

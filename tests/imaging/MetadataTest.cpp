@@ -40,7 +40,7 @@ QImage picture()
     return image;
 }
 
-/// A frame of a video that says all that a video can say.
+/// A frame of a video with all supported metadata.
 PictureSource holiday()
 {
     const QMap<QString, QString> tags{

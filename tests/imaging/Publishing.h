@@ -9,11 +9,11 @@
 #include <sys/types.h>
 #include <unistd.h>
 
-/// What the tests of publishing files need of files and processes.
+/// Helpers for the tests of publishing: files and processes.
 namespace publishing {
 
 constexpr int largeSize = 4 * 1024 * 1024;
-/// After so long a child ends itself, should the test that started it fail.
+/// A child ends itself after this time, in case the test that started it fails.
 constexpr unsigned childSeconds = 30;
 
 /// The file's content, or "no file".
@@ -24,7 +24,7 @@ constexpr unsigned childSeconds = 30;
 /// The names of all files in the folder, hidden ones included.
 [[nodiscard]] QStringList filesIn(const QString& folder);
 
-/// Runs the function in a process of its own, whose exit code is what the function returns.
+/// Runs the function in a separate process, whose exit code is the function's result.
 template <typename Function>
 pid_t startProcess(Function function)
 {
@@ -36,10 +36,10 @@ pid_t startProcess(Function function)
     return child;
 }
 
-/// Waits for the end of the process; -1 when it was a signal.
+/// Waits for the end of the process; returns -1 if a signal ended it.
 [[nodiscard]] int exitCode(pid_t child);
 
-/// What a process of a user without privileges, which root is not, gets to hear.
+/// The result for a process of a user without privileges, unlike root.
 [[nodiscard]] WriteResult publishedByNobody(const QString& path, ExistingFile existing,
                                             const QByteArray& content = "new");
 

@@ -18,7 +18,7 @@ QImage filledImage(QImage::Format format, QRgb color, const QSize& size = QSize(
     return image.convertToFormat(format);
 }
 
-/// A picture in which no pixel is like its neighbours, of an odd width.
+/// A picture of odd width in which every pixel differs from its neighbours.
 QImage variedImage(QImage::Format format)
 {
     QImage image(7, 5, QImage::Format_ARGB32);
@@ -146,8 +146,8 @@ private slots:
         QVERIFY(QtOcv::imageToMat(QImage(), CV_8UC4, QtOcv::Bgr).empty());
     }
 
-    /// The table of formats, seen by what the matrix holds: one channel of grey or index, three of
-    /// an opaque picture, four straight or premultiplied.
+    /// The table of formats, as visible in the matrix: one channel of grey or index, three of an
+    /// opaque picture, four straight or premultiplied.
     void imageToMat_takesTheClosestFormat_data()
     {
         QTest::addColumn<QImage::Format>("format");
@@ -355,7 +355,7 @@ private slots:
     }
 
 private:
-    /// What a coarse format's pixel is after Qt has taken it to the format it belongs to.
+    /// A coarse format's pixel after Qt's conversion to the corresponding format.
     static Values coarsePixel(const QImage& image)
     {
         const auto argbValues = [](const QImage& converted) {

@@ -99,9 +99,9 @@ private Q_SLOTS:
 
     void recipesOfTheSameEffect_haveTheSameTexts()
     {
-        // Shrinks, whether it might enlarge or not.
+        // It shrinks, whether enlarging is allowed or not.
         QCOMPARE(textsOf(sized({100, 100}, true, true)), textsOf(sized({100, 100}, true, false)));
-        // Keeps the size, since the frame fits already.
+        // It keeps the size, since the frame already fits.
         QCOMPARE(textsOf(sized({999, 999}, true, false)), textsOf(ImageRecipe()));
         QVERIFY(textsOf(sized({999, 999}, true, true)) != textsOf(ImageRecipe()));
         QVERIFY(textsOf(sized({100, 100}, true, true)) != textsOf(sized({100, 100}, false, true)));

@@ -61,7 +61,7 @@ void setUpText(WatermarkProfile& profile, const QString& text)
     profile.setYMargin(yMargin);
 }
 
-/// Saves the picture under the name where profiles look for it, and chooses it.
+/// Saves the picture under the name where profiles expect it, and selects it.
 void setUpPicture(WatermarkProfile& profile, const QImage& picture, const QString& name)
 {
     QVERIFY(picture.save(WatermarkProfile::pathForImage(name)));
@@ -183,7 +183,7 @@ private slots:
         setUpPicture(profile, picture, QStringLiteral("large.png"));
         profile.setAlignmentIndex(8);
         const QImage result = draw(blackImage(), profile);
-        // It ends at the margins, and its beginning lies outside.
+        // It ends at the margins, and its beginning is outside.
         QCOMPARE(boundsOf(result, isNotBlack), QRect(0, 0, 625, 470));
         QCOMPARE(result.pixel(3, 4), qRgb(255, 0, 0));
     }
@@ -230,7 +230,7 @@ private slots:
         profile.setAlignmentIndex(index);
         const QImage result = draw(blackImage(), profile);
 
-        // The text's box, placed by hand.
+        // The text's box, placed manually.
         QImage expected = blackImage();
         const QFontMetrics metrics(testFont(), &expected);
         const QSize box = metrics.boundingRect(QRect(0, 0, 1000, 1000), Qt::AlignLeft, text).size();
@@ -304,7 +304,7 @@ private slots:
         profile.setAlignmentIndex(4);
         profile.setTextColor(QColor(0, 0, 255, 128));
         profile.setTextShadowColor(QColor(255, 0, 0));
-        // Also without an offset: it shines through.
+        // Also without an offset: it is visible through the text.
         const QRgb both = draw(blackImage(), profile).pixel(imageWidth / 2, imageHeight / 2);
         QVERIFY(qRed(both) > 64 && qRed(both) < 192);
         QVERIFY(qBlue(both) > 64 && qBlue(both) < 192);

@@ -52,7 +52,7 @@ WatermarkRecipe pictureRecipe(const QSize& size, int percent)
     return recipe;
 }
 
-/// Blocks from edge to edge, so that what is seen is as wide as what is measured.
+/// Blocks from edge to edge, so that the visible width equals the measured one.
 WatermarkRecipe textRecipe(const QString& text, int percent)
 {
     WatermarkRecipe recipe;
@@ -78,7 +78,7 @@ QRect drawn(const QSize& image, const WatermarkRecipe& recipe)
 
 } // namespace
 
-/// Watermarks that take a part of the picture's width, and texts without a shadow.
+/// Watermarks with a relative width, and texts without a shadow.
 class WatermarkSizeTest : public QObject
 {
     Q_OBJECT

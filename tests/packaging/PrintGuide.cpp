@@ -1,4 +1,4 @@
-// Prints the address of the user guide, as a program in this one's folder finds it.
+// Prints the URL of the user guide, as found by a program in this one's folder.
 
 #include "ui/mainwindow/UserGuide.h"
 

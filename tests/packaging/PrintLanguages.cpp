@@ -1,4 +1,4 @@
-// Prints the languages that a program in this one's folder has catalogues of, and a German text.
+// Prints the languages for which a program in this one's folder has catalogues, and a German text.
 
 #include "ui/language/Languages.h"
 

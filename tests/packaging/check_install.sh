@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs a build into a folder, moves the folder elsewhere, and fails unless the programs run
-# there, find what belongs to them, and the files for desktops, shells and `man` are in order.
+# there and find their files, and the files for desktops, shells and `man` are valid.
 #   check_install.sh CMAKE BUILD VIDEO PRINT_GUIDE PRINT_LANGUAGES
 set -euo pipefail
 cmake=$1 build=$2 video=$3 print_guide=$4 print_languages=$5
@@ -17,7 +17,7 @@ complain() {
     cat "$work/log" >&2
     exit 1
 }
-# A space is what scripts around the programs would stumble over.
+# A space is a common problem for scripts that call the programs.
 moved="$work/moved elsewhere"
 mv "$work/first" "$moved"
 share=$moved/share

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A kind with every sort of property, which notes the order in which they are read and written.
+/// A kind with every type of property, which records the order of reading and writing.
 class SampleProfile : public BaseProfile
 {
     Q_OBJECT

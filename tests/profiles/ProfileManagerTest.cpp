@@ -12,7 +12,7 @@ namespace {
 
 const QString lastUsedKey = QStringLiteral("lastUsedPofileId");
 
-/// Translates the one text of the manager.
+/// Translates the manager's only text.
 class OneTextTranslator : public QTranslator
 {
 public:

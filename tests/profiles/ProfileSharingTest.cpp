@@ -1,4 +1,4 @@
-// Several programs have the same profiles: each is a manager of its own here.
+// Several programs with the same profiles, each represented by a manager.
 
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
@@ -150,7 +150,7 @@ private Q_SLOTS:
 
     void colourOfAnUnknownModel_becomesARealOne()
     {
-        // A brush whose colour says 255 where its model belongs.
+        // A brush whose colour has 255 as its model.
         QVERIFY(m_home->writeSettingsFile(
             QStringLiteral("Marks.ini"),
             "[profiles]\nB\\id=B\nB\\textColor=@Variant(\\0\\0\\0\\x42\\x1\\xff\\xff\\xff\\xff"

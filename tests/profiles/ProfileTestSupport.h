@@ -12,8 +12,8 @@
 
 class ProfileManager;
 
-/// A user's home for one test case: from its construction on, the configuration and data folders
-/// lie in a temporary folder, and the application bears its real names.
+/// A user's home for one test case: during its lifetime, the configuration and data folders are in
+/// a temporary folder, and the application has its real names.
 class TestHome
 {
 public:
@@ -24,21 +24,22 @@ public:
     /// Full path of `relativePath` in the temporary folder.
     QString path(const QString& relativePath) const { return m_folder.filePath(relativePath); }
 
-    /// Full path of a settings file in the configuration folder, made without the code under test.
+    /// Full path of a settings file in the configuration folder, determined without the code under
+    /// test.
     QString settingsFile(const QString& fileName) const;
 
-    /// Writes a settings file as a user's editor would. False when that fails.
+    /// Writes a settings file as a user's editor would. Returns false on failure.
     [[nodiscard]] bool writeSettingsFile(const QString& fileName, const QByteArray& text) const;
 
-    /// Copies a settings file beside itself. QSettings remembers the typed values of a file that it
-    /// wrote in this process; only under a new name is the text itself read back.
+    /// Copies a settings file to another name in the same folder. QSettings caches the typed values
+    /// of a file that it wrote in this process; only under a new name does it read the text back.
     [[nodiscard]] bool copySettingsFile(const QString& from, const QString& to) const;
 
 private:
     QTemporaryDir m_folder;
 };
 
-/// Deletes, at the end of a case, the profiles that a manager keeps for good.
+/// Deletes, at the end of a case, the profiles that a manager would keep until the program ends.
 class ProfileKeeper
 {
 public:
@@ -46,7 +47,7 @@ public:
     ~ProfileKeeper();
     Q_DISABLE_COPY(ProfileKeeper)
 
-    /// A factory of profiles of the kind `Kind` that this keeper deletes, and that it outlives.
+    /// A factory of profiles of the kind `Kind`, which this keeper deletes and must outlive.
     template <typename Kind>
     std::function<BaseProfile*()> factory()
     {
@@ -63,9 +64,9 @@ private:
     QList<QPointer<BaseProfile>> m_made;
 };
 
-/// Starts a case with a kind's own manager, which outlives all cases, as empty as on the first day:
-/// deletes its profiles and the settings file with the bare name `fileName` in the current home.
+/// Resets a kind's own manager, which outlives all cases, to its initial state: deletes its
+/// profiles and the settings file with the bare name `fileName` in the current home.
 void forgetProfiles(ProfileManager& manager, const QString& fileName);
 
-/// The names of the properties of `type` that are persisted, in the order of the walk.
+/// The names of the properties of `type` that are persisted, in the order of iteration.
 QStringList persistedPropertyNames(const QMetaObject& type);

@@ -10,7 +10,7 @@
 
 #include <sys/stat.h>
 
-/// Has the address sanitizer answer as the system does when so much memory is asked for.
+/// Makes address sanitizer respond like the system to a request for this much memory.
 extern "C" const char* __asan_default_options();
 extern "C" const char* __asan_default_options()
 {
@@ -107,7 +107,7 @@ private Q_SLOTS:
 
     void listsThatDeclareTooMuch_areDamage()
     {
-        // Qt would throw while it reads the value.
+        // Qt would throw while reading the value.
         const QByteArray text = "[profiles]\nA\\id=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n";
         QVERIFY(m_home->writeSettingsFile(settingsFileName, text));
         QCOMPARE(SettingsFile::putDamagedAside().size(), 1);

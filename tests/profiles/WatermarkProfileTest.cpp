@@ -34,7 +34,7 @@ private:
     }
 
 private slots:
-    // Must stay first: it speaks of the cache before its first use.
+    // Must stay first, because it tests the cache before its first use.
     void image_isNullWithoutTouchingTheDisk_whenFileNameIsEmptyAtFirstUse()
     {
         const TestHome home;
@@ -223,7 +223,7 @@ private slots:
         const TestHome home;
         QVERIFY(writePicture(QStringLiteral("case.png"), Qt::red));
         QCOMPARE(imageOf(QStringLiteral("case.png")).pixelColor(0, 0), QColor(Qt::red));
-        // Overwritten through the other name too, for file systems that ignore case.
+        // Also overwritten through the other name, for case-insensitive file systems.
         QVERIFY(writePicture(QStringLiteral("CASE.png"), Qt::blue));
         QCOMPARE(imageOf(QStringLiteral("CASE.png")).pixelColor(0, 0), QColor(Qt::blue));
     }

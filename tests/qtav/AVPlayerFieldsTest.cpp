@@ -16,7 +16,7 @@ namespace {
 /// Two moments in each picture, 25 pictures a second.
 const QString fields = QStringLiteral("fields_mpeg2_tff.ts");
 
-/// The frame at a position, as a reader of its own gives it.
+/// The frame at a position, from a separate reader.
 QImage pictureAt(qint64 ms, Deinterlacing deinterlacing)
 {
     const auto never = [] { return false; };
@@ -34,7 +34,7 @@ QImage pictureAt(qint64 ms, Deinterlacing deinterlacing)
     return reader.find(search, never).frame.toImage();
 }
 
-/// Steps by fields, and gives the time that the player is at then; -1 when it stays.
+/// Steps by fields and returns the player's new time; -1 if it does not move.
 qint64 stepField(Stage& stage, void (AVPlayer::*step)())
 {
     QSignalSpy positions(&stage.player, &AVPlayer::positionChanged);

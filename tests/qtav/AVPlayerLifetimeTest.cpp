@@ -13,7 +13,7 @@ using QtAV::AVPlayer;
 
 namespace {
 
-/// So many turns of the event loop.
+/// Runs the event loop this many times.
 void turnEventLoop(int times)
 {
     for (int i = 0; i < times; ++i) {
@@ -28,7 +28,7 @@ constexpr int roundCount = 100;
 constexpr int roundCount = 500;
 #endif
 
-/// What the process holds that would be missed if it were not given back.
+/// Resources of the process that would leak if they were not released.
 struct Resources
 {
     int files;
@@ -51,7 +51,7 @@ int entriesIn(const char* folder)
     return QDir(QString::fromLatin1(folder)).entryList(QDir::AllEntries | QDir::System).size();
 }
 
-/// Once what is being closed is closed; both are 0 on systems that do not tell.
+/// Measured after everything being closed is closed; both are 0 on systems that do not report them.
 Resources settledResources()
 {
     const auto now = [] {
@@ -73,8 +73,8 @@ Resources settledResources()
 
 } // namespace
 
-/// Players that end, and files that change, in the middle of everything. That nothing is touched
-/// after its end is for the sanitizers to see.
+/// Players that end, and files that change, in the middle of every action. The sanitizers check
+/// that nothing is used after its end.
 class AVPlayerLifetimeTest : public QObject
 {
     Q_OBJECT
@@ -135,7 +135,7 @@ void AVPlayerLifetimeTest::player_canEnd_withAnsweredButUnreadCommands()
     for (int round = 0; round < 20; ++round) {
         auto stage = std::make_unique<Stage>();
         QVERIFY(stage->open(QStringLiteral("h264_baseline.mp4")));
-        // This one's answer shows that the decoding thread is running; the next are not waited for.
+        // This answer shows that the decoding thread is running; the next ones are not awaited.
         QVERIFY(stage->seek(400));
         for (int i = 0; i < round; ++i) {
             stage->player.stepForward();
@@ -220,7 +220,7 @@ void AVPlayerLifetimeTest::commands_inAnyOrder_leaveAPlayerThatWorks()
     QCOMPARE(stage.number(), 50);
 }
 
-/// Each round something is begun, and the next round may come before it is done.
+/// Each round begins an action, and the next round may come before it is done.
 void AVPlayerLifetimeTest::players_comeAndGo_withoutLeavingAnything()
 {
     const QStringList files{QStringLiteral("h264_bframes.mp4"), QStringLiteral("sound.mp4"),
@@ -230,7 +230,7 @@ void AVPlayerLifetimeTest::players_comeAndGo_withoutLeavingAnything()
     std::mt19937 random(29);
     auto stage = std::make_unique<Stage>();
     for (int round = 0; round < roundCount; ++round) {
-        // By then, what is made once for all players has been made.
+        // By then, everything that is created once for all players exists.
         if (round == roundCount / 10) {
             stage.reset();
             before = settledResources();

@@ -15,7 +15,7 @@ namespace {
 
 #ifdef __SANITIZE_THREAD__
 // The threads do the same for all files, and thread sanitizer takes minutes for what some decoders
-// copy: one file for the steps and one for the moves will do there.
+// copy: one file for the steps and one for the moves is enough.
 constexpr int mostFiles = 1;
 constexpr int moveCount = 200;
 #else
@@ -136,8 +136,8 @@ void AVPlayerSeekTest::mixedStepsAndSeeks_endOnTheRightFrame_data()
                      "h264_open_gop_bframes.mp4", "hevc_open_gop.mp4"}));
 }
 
-/// Many moves: to the next frame, to the one before, to any, and to any with a few steps that
-/// wait for nothing. The cache has room for few frames, so that most are decoded again.
+/// Many moves: to the next frame, to the previous one, to any, and to any followed by a few steps
+/// without waiting. The cache has room for few frames, so that most are decoded again.
 void AVPlayerSeekTest::mixedStepsAndSeeks_endOnTheRightFrame()
 {
     QFETCH(QString, file);

@@ -47,7 +47,7 @@ void AVPlayerSpeedTest::video_isPlayedToItsEnd_atTheLimits_data()
     QTest::newRow("fast") << 8.0 << 0;
 }
 
-/// Its frames come in order, some of them left out where there is no time for all.
+/// The frames come in order; some are dropped if there is no time for all.
 void AVPlayerSpeedTest::video_isPlayedToItsEnd_atTheLimits()
 {
     QFETCH(const double, speed);
@@ -108,7 +108,8 @@ void AVPlayerSpeedTest::sound_goesOnFromThePicture_whenTheSpeedChanges()
     QCOMPARE(devices.record.started.load(), startedBefore);
 }
 
-/// Pictures that followed what is heard, and not twice that, would need twice as much of it.
+/// If the pictures followed the heard time itself, not multiplied by the speed, they would need
+/// twice as much sound.
 void AVPlayerSpeedTest::sound_tellsTheTime_atItsSpeed()
 {
     constexpr double bytesASecond = rate * 4.0;

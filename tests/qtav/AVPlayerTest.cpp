@@ -10,7 +10,7 @@ using namespace playing;
 using QtAV::AVPlayer;
 using testsupport::Sample;
 
-/// What a player does when it is told to: opening, playing, pausing, ending, capturing.
+/// The commands of a player: opening, playing, pausing, ending, capturing.
 class AVPlayerTest : public QObject
 {
     Q_OBJECT
@@ -131,12 +131,12 @@ void AVPlayerTest::play_startsOver_fromTheLastFrame_howeverItCameThere()
     QTRY_VERIFY_WITH_TIMEOUT(stage.screen.shown.size() >= 3, patienceMs);
     QCOMPARE(stage.screen.shown.constFirst().number, 0);
     QVERIFY(stage.player.isPlaying());
-    // Once, not for ever.
+    // Not forever.
     QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
     QVERIFY(stage.player.isPaused());
 }
 
-/// As with a recording that goes on: the rest of the file comes once it is open.
+/// As with a recording in progress: the rest of the file appears after it was opened.
 void AVPlayerTest::duration_grows_whenFramesComeBehindIt()
 {
     QFile whole(testsupport::samplePath(QStringLiteral("mpeg2.ts")));
@@ -163,7 +163,7 @@ void AVPlayerTest::duration_grows_whenFramesComeBehindIt()
     QVERIFY(!durations.isEmpty());
     QCOMPARE(durations.constLast().at(0).toLongLong(), stage.player.duration());
     QVERIFY(stage.player.duration() >= stage.player.displayPosition());
-    // What is known to exist can be gone to.
+    // The player can seek to what is known to exist.
     const int number = stage.number();
     QVERIFY(stage.stepBackward());
     QVERIFY(stage.seek(stage.player.duration()));
@@ -382,7 +382,7 @@ void AVPlayerTest::capture_givesTheFrameOnScreen_asADecoderDoes()
     QCOMPARE(image.hasAlphaChannel(), sample.has(testsupport::Trait::Alpha));
     QCOMPARE(image.size(), sample.displaySize);
 
-    // What decoding the whole file gives for that frame.
+    // The result of decoding the whole file for that frame.
     Player decoded(testsupport::samplePath(file));
     QVERIFY(decoded.isReady());
     int count = 0;

@@ -13,8 +13,7 @@ using QtAV::FrameResult;
 
 namespace {
 
-/// A reader with a fill, the frames that come out, and a clock that goes on by 10 ms with each
-/// frame.
+/// A reader with a fill, its frames, and a clock that advances by 10 ms per frame.
 struct Filled
 {
     explicit Filled(const char* file)
@@ -36,7 +35,7 @@ struct Filled
                       [this] { return now; }};
 };
 
-/// The frames of a run that begins at a time, with so many before the focus.
+/// The frames of a run that begins at a time, with this many before the focus.
 FrameCache::Run runFrom(double start, qint64 framesBefore)
 {
     return {start, start + double(framesBefore) * 0.04, framesBefore, 0, false};
@@ -44,7 +43,7 @@ FrameCache::Run runFrom(double start, qint64 framesBefore)
 
 } // namespace
 
-/// What passes back decode, at 25 frames a second.
+/// The frames that passes back decode, at 25 frames per second.
 class BackwardFillTest : public QObject
 {
     Q_OBJECT
@@ -119,7 +118,7 @@ void BackwardFillTest::pass_skipsFrames_thatNeedNotBeComplete()
     QCOMPARE(filled.fill.target(), 8.0);
     QCOMPARE(shown(filled.fill.finish(never).frame).number, 199);
     QVERIFY(filled.numbers.size() < 180); // of 200
-    // The room that is left is filled without a gap.
+    // The remaining room is filled without a gap.
     for (int i = 0; i < 20; ++i) {
         QCOMPARE(filled.numbers.at(filled.numbers.size() - 1 - i), 200 - i);
     }
@@ -166,7 +165,7 @@ void BackwardFillTest::pass_isOnTheWay_toWhatFollowsItsTarget()
     QVERIFY(!filled.fill.isOnTheWayTo(1.96));
     QVERIFY(!filled.fill.isOnTheWayTo(4.0));
     filled.fill.leave();
-    // A key frame lies between: from there it is not far.
+    // A key frame lies between, and from there it is not far.
     filled.reader.seek(10000);
     QCOMPARE(filled.reader.land(never), FrameAnswer::Frame);
     filled.fill.start(10.0, 0);
@@ -192,7 +191,7 @@ void BackwardFillTest::remainingTime_isKnownFromDecodingBefore()
     Filled filled("h264_gop250.mp4");
     filled.fill.noteDecoded(10.0, 18.0, 1.0);
     filled.fill.start(10.0, 0);
-    // As long a group, more slowly: nothing is skipped.
+    // The group is as long, but decoded more slowly: nothing is skipped.
     QVERIFY(filled.fill.remainingSeconds());
     QVERIFY(*filled.fill.remainingSeconds() > 1.0);
     QVERIFY(*filled.fill.remainingSeconds() < 2.0);

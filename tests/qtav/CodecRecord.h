@@ -6,9 +6,9 @@
 
 namespace codecrecord {
 
-/// Makes a class that is made from the parameters of a stream and keeps none of them.
-/// @param lengthBytes  how long the lengths before an H.264 or HEVC stream's units are; 0 where
-///                     start codes part them.
+/// Creates an object from the parameters of a stream, of which it keeps none.
+/// @param lengthBytes  size of the length before each unit of an H.264 or HEVC stream; 0 if start
+///     codes separate them.
 template <typename T>
 [[nodiscard]] T madeFor(AVCodecID codec, int lengthBytes = 0)
 {
@@ -24,7 +24,7 @@ template <typename T>
     return T(parameters);
 }
 
-/// The bytes as FFmpeg's interface has them.
+/// The bytes as FFmpeg's interface expects them.
 [[nodiscard]] inline const uint8_t* dataOf(const QByteArray& bytes)
 {
     return reinterpret_cast<const uint8_t*>(bytes.constData());

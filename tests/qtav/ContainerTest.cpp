@@ -48,7 +48,7 @@ QByteArray contentsOf(const QString& path)
     return file.readAll();
 }
 
-/// Packets up to the first answer of another kind, which is put into `last`.
+/// Reads packets up to the first answer of another kind, which is stored in `last`.
 int readAll(Container& container, PacketAnswer& last)
 {
     int packets = 0;
@@ -70,7 +70,7 @@ QString makeCutOffFile(const TestDir& dir)
     return path;
 }
 
-/// Puts gigabytes of nothing behind a file, in which FFmpeg looks for the next packet.
+/// Appends gigabytes of zeros to a file, in which FFmpeg searches for the next packet.
 void growEndless(const QString& path)
 {
     QFile file(path);
@@ -194,7 +194,7 @@ void ContainerTest::read_fails_whenTheFileIsCutToNothing_data()
     }
 }
 
-/// What FFmpeg has read ahead may still come, but never the end.
+/// Packets that FFmpeg has read ahead may still come, but never the end.
 void ContainerTest::read_fails_whenTheFileIsCutToNothing()
 {
     QFETCH(const QString, file);

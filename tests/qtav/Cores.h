@@ -1,12 +1,12 @@
 #pragma once
 
-/// Lets a test see what happens on other machines.
+/// Simulates other machines.
 namespace decoding {
 
-/// As long as it lives, decoders that are opened take the machine for one with so many cores: with
-/// one they decode in one thread, with more in a thread more than cores, 16 at most.
+/// During its lifetime, decoders that are opened detect this number of cores: with one they decode
+/// in one thread, otherwise in one thread more than cores, at most 16.
 ///
-/// One at a time.
+/// Only one object at a time.
 class PretendedCores
 {
 public:

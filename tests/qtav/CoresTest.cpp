@@ -17,8 +17,8 @@ int threads()
         .size();
 }
 
-/// How many threads a decoder brings that is opened on a machine with so many cores, beside those
-/// of the open file.
+/// The number of threads that a decoder creates on a machine with this many cores, in addition to
+/// those of the open file.
 int threadsOfDecoder(int cores)
 {
     const PretendedCores pretended(cores);
@@ -30,7 +30,7 @@ int threadsOfDecoder(int cores)
 
 } // namespace
 
-/// Whether tests that pretend to run on other machines do.
+/// Checks that tests which simulate other machines really do so.
 class CoresTest : public QObject
 {
     Q_OBJECT

@@ -3,11 +3,11 @@
 #include <QList>
 #include <QtGlobal>
 
-/// Counts what is given to FFmpeg's decoders in this process.
+/// Counts the packets given to FFmpeg's decoders in this process.
 namespace decoding {
 
-/// How often each packet was given to a decoder, of whichever reader, in the order of their
-/// presentation times; and which times these are, in the stream's time base.
+/// How often each packet was given to a decoder of any reader, in the order of their presentation
+/// times; and these times, in the stream's time base.
 struct DecodedPackets
 {
     QList<qint64> times;
@@ -16,7 +16,7 @@ struct DecodedPackets
     [[nodiscard]] int total() const;
 };
 
-/// What was decoded since the last call. Thread-safe.
+/// Packets decoded since the last call. Thread-safe.
 [[nodiscard]] DecodedPackets takeDecodedPackets();
 
 } // namespace decoding

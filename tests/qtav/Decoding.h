@@ -10,7 +10,7 @@
 #include <memory>
 #include <optional>
 
-/// What several tests of the video library do with a demuxer and a decoder.
+/// Helpers for tests of the video library with a demuxer and a decoder.
 namespace decoding {
 
 /// For what nobody cancels.
@@ -19,7 +19,7 @@ inline bool never()
     return false;
 }
 
-/// A frame that came out: the number in its picture and its whole milliseconds.
+/// A decoded frame: the number in its picture and its whole milliseconds.
 struct Shown
 {
     int number;
@@ -38,7 +38,7 @@ char* toString(const Shown& shown);
 class Player
 {
 public:
-    /// @param threads  how many decode; 0 = as many as there are cores.
+    /// @param threads  number of decoding threads; 0 = one per core.
     explicit Player(const QString& path, int threads = 0);
 
     [[nodiscard]] bool isReady() const { return m_ready; }
@@ -46,10 +46,10 @@ public:
     /// Reads up to the next packet of the video stream; nothing at the end.
     [[nodiscard]] std::optional<QtAV::Packet> nextVideoPacket();
 
-    /// All frames from here to the end. A number of -1 stands for a picture without a readable one.
+    /// All frames from here to the end. A number of -1 means that it is unreadable.
     [[nodiscard]] QList<Shown> showRest();
 
-    /// Decodes a key packet as the callers of the library do: at most twice.
+    /// Decodes a key packet as the users of the library do: at most twice.
     [[nodiscard]] QtAV::VideoFrame decodeKeyFrame(const QtAV::Packet& packet);
 
     QtAV::AVDemuxer demuxer;
@@ -64,7 +64,7 @@ private:
 /// What the n-th shown frame of a sample, counted from 0, must be.
 [[nodiscard]] Shown expected(const testsupport::Sample& sample, int n);
 
-/// What must come out from the n-th shown frame of a sample on.
+/// The expected frames from the n-th shown frame of a sample on.
 [[nodiscard]] QList<Shown> expectedFrom(const testsupport::Sample& sample, int n);
 
 } // namespace decoding

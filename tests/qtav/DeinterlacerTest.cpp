@@ -19,9 +19,9 @@ using testsupport::TestDir;
 
 namespace {
 
-/// Within so much of one of FFmpeg's filters a picture is as good.
+/// A picture within this distance of one of FFmpeg's filters is equally good.
 constexpr double tolerance = 0.5; // dB
-/// Combing: so many times as much as there, and so many per cent of the samples, is none.
+/// Maximum combing that counts as none: a factor, and a percentage of the samples.
 constexpr double combingFactor = 1.5;
 constexpr double combingRest = 0.5;
 
@@ -43,7 +43,7 @@ QList<QtAV::VideoFrame> framesOf(const QString& file)
     }
 }
 
-/// The pictures that FFmpeg makes of a sample with a filter.
+/// The pictures that FFmpeg makes from a sample with a filter.
 QList<QImage> filtered(const TestDir& folder, const QString& sample, const QString& filter)
 {
     const QString target = folder.filePath(filter + QStringLiteral(".mkv"));
@@ -55,14 +55,14 @@ QList<QImage> filtered(const TestDir& folder, const QString& sample, const QStri
     return result.succeeded() ? grey::picturesOf(target, Deinterlacing::Off) : QList<QImage>();
 }
 
-/// The moments of a sample's pictures: of its first fields, or of its film.
+/// The true moments of a sample's pictures: of its first fields, or of its film.
 struct Truth
 {
     QList<QImage> moments;
     double step; ///< moments from one picture to the next
 
-    /// How alike a picture is to its moment. Of film, which moment a picture shows is known only
-    /// from the picture.
+    /// Similarity of a picture to its moment. For film, the moment of a picture is known only from
+    /// the picture.
     double likenessOf(const QImage& picture, int n) const
     {
         if (step == double(int(step))) {
@@ -98,13 +98,13 @@ Quality qualityOf(const QList<QImage>& pictures, const Truth& truth)
 
 } // namespace
 
-/// Whether pictures of fields come out whole, and all others as they are.
+/// Checks that pictures of fields become whole, and that all others stay unchanged.
 class DeinterlacerTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    // First, for what is loaded stays.
+    // First, because loaded libraries stay loaded.
     void filters_areLoaded_onlyForPicturesThatComb();
     void toImage_isAsGoodAsFiltering_whenFieldsAreApart_data();
     void toImage_isAsGoodAsFiltering_whenFieldsAreApart();
@@ -182,7 +182,7 @@ void DeinterlacerTest::toImage_isAsGoodAsFiltering_whenFieldsAreApart()
           stored.combing);
     QVERIFY(ours.likeness >= theirs.likeness - tolerance);
     QVERIFY(ours.combing <= combingFactor * newer.combing + combingRest);
-    // The sample is one that a reader without fields fails with.
+    // The sample is one with which a reader without deinterlacing fails.
     QVERIFY(stored.likeness < theirs.likeness - tolerance);
 }
 
@@ -200,7 +200,7 @@ void DeinterlacerTest::toImage_givesThePicturesOfTheFilm_whenTheyWereSpread()
     const Truth truth{
         grey::picturesOf(samplePath(QStringLiteral("moments_film.mkv")), Deinterlacing::Off), 0.8};
     const QList<QImage> pictures = grey::picturesOf(samplePath(file), Deinterlacing::Automatic);
-    // Marked as what it was, so that its chroma is read likewise.
+    // Marked as it was, so that its chroma is read in the same way.
     const QList<QImage> matched = filtered(folder, file, QStringLiteral("fieldmatch,setfield=tff"));
     const QList<QImage> yadif = filtered(folder, file, QStringLiteral("yadif"));
     QVERIFY(!pictures.isEmpty());
@@ -244,7 +244,7 @@ void DeinterlacerTest::toImage_isTheSame_onEachWayToTheFrame_data()
     }
 }
 
-/// Also where frames that no other needs are skipped on the way to it.
+/// Also if disposable frames are skipped on the way to it.
 void DeinterlacerTest::toImage_isTheSame_onEachWayToTheFrame()
 {
     QFETCH(const QString, file);

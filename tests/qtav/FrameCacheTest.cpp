@@ -97,7 +97,7 @@ void FrameCacheTest::neighbour_isGiven_whenItBecomesKnownLater()
     insert(cache, 2, 4);
     QCOMPARE(cache.before(time(4)).timestamp(), time(3));
     QCOMPARE(cache.frameCount(), 4);
-    // What is known is not forgotten when decoding starts at the frame once more.
+    // Known facts are kept when decoding starts at the frame again.
     insert(cache, 4, 4);
     QCOMPARE(cache.before(time(4)).timestamp(), time(3));
 }
@@ -108,7 +108,7 @@ void FrameCacheTest::atOrAfter_givesTheFirstSuchFrame_onlyWhenCertain()
     insert(cache, 2, 4);
     QCOMPARE(cache.atOrAfter(120).timestamp(), time(3));
     QCOMPARE(cache.atOrAfter(81).timestamp(), time(3));
-    QVERIFY(!cache.atOrAfter(80).isValid()); // what is before frame 2 is not known
+    QVERIFY(!cache.atOrAfter(80).isValid()); // what precedes frame 2 is unknown
     QVERIFY(!cache.atOrAfter(161).isValid());
 }
 
@@ -203,7 +203,7 @@ void FrameCacheTest::clear_leavesNothing()
     QVERIFY(!cache.at(time(2)).isValid());
 }
 
-/// Room for four frames as they were decoded, half of which may stay so.
+/// Room for four decoded frames, half of which may stay unscaled.
 void FrameCacheTest::farFrames_areScaledDown_andTheNearestStay()
 {
     FrameCache cache(4 * m_frames.at(0).byteCount());

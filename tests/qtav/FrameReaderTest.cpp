@@ -221,7 +221,7 @@ void FrameReaderTest::frames_fail_whenTheFileIsOverwritten_data()
     }
 }
 
-/// A download or a recording begins anew under the same name.
+/// A download or a recording restarts under the same name.
 void FrameReaderTest::frames_fail_whenTheFileIsOverwritten()
 {
     QFETCH(const QString, file);

@@ -19,13 +19,13 @@ using testsupport::Sample;
 
 namespace {
 
-/// Bounds of how much is decoded for one row of seeks, in frames of 320x240.
+/// Limit on decoding for one row of seeks, in frames of 320x240.
 constexpr int mostDecoded = 500;
 constexpr int mostDecodedOnManyCores = 150;
 
 constexpr int manyCores = 8;
 
-/// Frames are decoded ahead so many at a time between two steps, as while the player is idle.
+/// Number of frames decoded ahead between two steps, as while the player is idle.
 constexpr int fillsBetweenSteps = 3;
 
 const QString theEnd = QStringLiteral("the end");
@@ -48,7 +48,7 @@ QString text(const FrameResult& result)
     return {};
 }
 
-/// A machine with one core keeps few frames, so that most of them are decoded again.
+/// With one core, few frames are cached, so that most of them are decoded again.
 qint64 cacheBytes(const Sample& sample, int cores)
 {
     constexpr int fewFrames = 12;
@@ -57,7 +57,7 @@ qint64 cacheBytes(const Sample& sample, int cores)
     return cores == 1 ? few : QtAV::FrameCache::defaultBytes;
 }
 
-/// A source in a sample, and what it answered wrongly.
+/// A source in a sample, and its wrong answers.
 class Asking
 {
 public:
@@ -69,7 +69,7 @@ public:
         isOpen = source.open(path, cacheBytes(sample, cores), never, error);
     }
 
-    /// Asks for a position at which only the n-th frame is right.
+    /// Requests a position at which only the n-th frame is right.
     void expectFrameAt(qint64 ms, int n)
     {
         const FrameResult result = source.frameAt(ms, never);
@@ -119,7 +119,7 @@ private:
 
 } // namespace
 
-/// Whether the player could miss any frame of any sample, however many threads decode.
+/// Checks that the player cannot miss any frame of any sample, with any number of decoding threads.
 class FrameSourceEveryFrameTest : public QObject
 {
     Q_OBJECT
@@ -169,7 +169,7 @@ void FrameSourceEveryFrameTest::steps_meetEveryFrame_backwards()
     QVERIFY2(asking.mistakes.isEmpty(), qPrintable(asking.mistakes.text()));
 }
 
-/// At its time, and by turns at the first millisecond behind its predecessor and at the last one
+/// At its time, and alternately at the first millisecond behind its predecessor and at the last one
 /// before it.
 void FrameSourceEveryFrameTest::frameAt_givesEachFrame_atItsTimeAndBefore()
 {

@@ -32,7 +32,7 @@ qint64 smallCache(const VideoFrame& frame)
 
 } // namespace
 
-/// Which frame is found, for every format: recognized by the number in its picture.
+/// Which frame is found, for every format, identified by the number in its picture.
 class FrameSourceTest : public QObject
 {
     Q_OBJECT
@@ -184,7 +184,7 @@ void FrameSourceTest::preparing_waits_untilTheUserRests()
     QVERIFY(!FrameSource::nextRest(FrameSource::longestRest));
 }
 
-/// The next frames come into the cache; the reader goes back only when the user rests long.
+/// The next frames are cached; the reader goes back only when the user rests long.
 void FrameSourceTest::preparing_keepsForward_afterAStepForward()
 {
     LongGroups opened(9000);
@@ -212,7 +212,7 @@ void FrameSourceTest::smallFrames_areMetOnceEach_toTheEndAndBack_data()
     }
 }
 
-/// With so little memory that only small frames fit, and steps that find what was prepared.
+/// With memory only for small frames, and steps that find what was prepared.
 void FrameSourceTest::smallFrames_areMetOnceEach_toTheEndAndBack()
 {
     QFETCH(QString, file);
@@ -367,7 +367,7 @@ void FrameSourceTest::cache_takesNoMoreThanAllowed()
 void FrameSourceTest::cancelledSearch_givesNoFrame_andTheNextOneIsRight()
 {
     for (const int packets : {0, 1, 5, 50, 100}) {
-        // Opened anew: what is in the cache needs no search.
+        // Reopened, because cached frames need no search.
         FrameSource source;
         QString error;
         QVERIFY(source.open(testsupport::samplePath(QStringLiteral("h264_gop250.mp4")),
@@ -413,8 +413,8 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack_data(
     }
 }
 
-/// Which frames a damaged file still gives depends on where decoding starts; that going through it
-/// comes to its end, and back to its start, does not.
+/// Which frames a damaged file gives depends on where decoding starts, but reading it always
+/// reaches its end, and going back its start.
 void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
 {
     QFETCH(QString, file);
@@ -438,7 +438,7 @@ void FrameSourceTest::damagedFile_givesRisingFrames_toTheEndAndTheSameBack()
     const double last = source.frameAt(3600000, never).frame.timestamp();
     QCOMPARE(last, time);
     QVERIFY(forwards > 1);
-    // What is done meanwhile comes to its end as well.
+    // Background work reaches its end as well.
     int prepared = 0;
     while (source.prepare(FrameSource::longestRest, never)) {
         QVERIFY(++prepared <= 10 * sample.frames);

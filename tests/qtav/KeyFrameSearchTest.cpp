@@ -29,10 +29,10 @@ qint64 durationMs(const Sample& sample)
     return frameTimeMs(sample, sample.frames - 1) + 40;
 }
 
-/// While true, nothing is in the system's memory and the disk does not answer.
+/// While true, nothing is cached in memory and the disk does not answer.
 std::atomic<bool> diskHangs{false};
 
-/// Makes the disk hang as long as it lives.
+/// Makes the disk hang during its lifetime.
 class HangingDisk
 {
 public:
@@ -50,7 +50,7 @@ Function* systemsOwn(const char* name)
 
 } // namespace
 
-// These take the place of the system's functions in this program.
+// These functions replace the system's in this program.
 extern "C" ssize_t pread(int file, void* buffer, size_t bytes, off_t position)
 {
     static const auto original = systemsOwn<decltype(pread)>("pread");
@@ -160,7 +160,7 @@ void KeyFrameSearchTest::reading_goesOnWhereTheSearchEnded_data()
               "h264_bframes.mkv", "h264_bframes.flv", "raw.h264"});
 }
 
-/// Nothing is missing between what the search kept and what is read next, and nothing comes twice.
+/// Nothing is missing or repeated between what the search kept and what is read next.
 void KeyFrameSearchTest::reading_goesOnWhereTheSearchEnded()
 {
     QFETCH(QString, file);
@@ -233,7 +233,7 @@ void KeyFrameSearchTest::firstKeyFrame_isFound_forAPositionBeforeIt()
     }
 }
 
-/// A seek in a transport stream lands behind its target at first.
+/// A seek in a transport stream initially lands behind its target.
 void KeyFrameSearchTest::nextSearch_landsAsFarBackAsTheLast()
 {
     const Sample& sample = sampleNamed(QStringLiteral("h264.ts"));
@@ -259,7 +259,7 @@ void KeyFrameSearchTest::memory_isLimited_alsoForPacketsOfOtherStreams()
     constexpr qint64 limit = 3000;
     const Sample& sample = sampleNamed(file);
     OpenVideo video(file);
-    // Deep in the first group of pictures, behind more than may be kept.
+    // Deep in the first group of pictures, behind more than the maximum kept.
     KeyFrameSearch search(video.packets, durationMs(sample), 0, limit);
     QCOMPARE(search.run(frameTimeMs(sample, 20)), PacketAnswer::Packet);
     const AVPacket& first = *search.packets().front();
@@ -279,13 +279,13 @@ void KeyFrameSearchTest::search_isCancelled_whileTheDiskHangs_data()
               "raw.h264", "mpeg4_bframes.avi", "h264_bframes.mp4"});
 }
 
-/// After that a search that nothing interrupts finds its key frame.
+/// Afterwards, a search that is not interrupted finds its key frame.
 void KeyFrameSearchTest::search_isCancelled_whileTheDiskHangs()
 {
     QFETCH(QString, file);
     const Sample& sample = sampleNamed(file);
     OpenVideo video(file);
-    const QList<Read> all = video.readRest(); // so that what is sought is in no buffer
+    const QList<Read> all = video.readRest(); // so that no buffer holds the target
     video.container->setInterrupt([] { return true; });
     {
         const HangingDisk disk;

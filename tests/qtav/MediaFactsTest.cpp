@@ -16,7 +16,7 @@ using testsupport::TestDir;
 
 namespace {
 
-/// The facts of a file; ends the case's checks with none where it cannot be opened.
+/// The facts of a file; empty, with a failed check, if it cannot be opened.
 MediaFacts factsOf(const QString& path)
 {
     AVDemuxer demuxer;

@@ -20,7 +20,7 @@ struct Walk
     bool isWhole = false;
 };
 
-/// No unit ends in a zero: zeros before a start code belong to the start code.
+/// Units do not end in zeros: zeros before a start code belong to the start code.
 QByteArray withoutZerosBehind(QByteArray unit)
 {
     while (unit.endsWith('\0')) {
@@ -168,7 +168,7 @@ void NalUnitsTest::damagedLength_endsTheUnits()
     QFETCH(int, codec);
     QFETCH(int, lengthBytes);
     QFETCH(QByteArray, packet);
-    // On the heap and as large as its bytes, so that sanitizers see what is read behind them.
+    // On the heap with the exact size, so that sanitizers detect reads behind the end.
     const std::vector<uint8_t> bytes(packet.cbegin(), packet.cend());
     const NalUnits units = madeFor<NalUnits>(static_cast<AVCodecID>(codec), lengthBytes);
     NalUnits::Cursor cursor = units.of(bytes.data(), qsizetype(bytes.size()));
@@ -235,7 +235,7 @@ void NalUnitsTest::bothForms_giveTheSameSlices_data()
     QTest::newRow("HEVC") << QStringLiteral("hevc_8bit.mp4") << QStringLiteral("hevc_mp4toannexb");
 }
 
-/// FFmpeg puts start codes in the place of the lengths, and parameter sets before key frames.
+/// FFmpeg replaces the lengths by start codes, and adds parameter sets before key frames.
 void NalUnitsTest::bothForms_giveTheSameSlices()
 {
     QFETCH(QString, file);

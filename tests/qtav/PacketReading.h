@@ -10,22 +10,22 @@
 #include <memory>
 #include <vector>
 
-/// What several tests of the library's packets do with a sample.
+/// Helpers for tests of the library's packets.
 namespace packetreading {
 
 /// Adds a row with a column "file" for each sample.
 void addFiles(std::initializer_list<const char*> files);
 
-/// Opens a sample; ends the test program when that fails.
+/// Opens a sample; ends the test program on failure.
 [[nodiscard]] std::unique_ptr<QtAV::Container> open(const QString& file);
 
-/// All packets of the first video stream as the container gives them.
+/// All packets of the first video stream as returned by the container.
 [[nodiscard]] std::vector<QtAV::PacketPtr> packetsOf(QtAV::Container& container);
 
-/// What tells one packet of a stream from another.
+/// Identifies a packet of a stream.
 struct Read
 {
-    qint64 ticks; ///< of presentation; AV_NOPTS_VALUE where it has no time at all
+    qint64 ticks; ///< presentation time; AV_NOPTS_VALUE if it has no time at all
     qint64 ms;
     int size;
     bool isKey;
@@ -45,10 +45,10 @@ char* toString(const Read& read);
 class OpenVideo
 {
 public:
-    /// Ends the test program when the sample cannot be opened.
+    /// Ends the test program if the sample cannot be opened.
     explicit OpenVideo(const QString& file);
 
-    /// The video packets from here to the end. Ends the test program when one cannot be read.
+    /// The video packets from here to the end. Ends the test program if one cannot be read.
     [[nodiscard]] QList<Read> readRest();
 
     std::unique_ptr<QtAV::Container> container;
@@ -58,10 +58,10 @@ public:
 [[nodiscard]] QList<Read> described(const std::deque<QtAV::PacketPtr>& packets,
                                     const QtAV::Timeline& timeline);
 
-/// The times in order of presentation, in milliseconds.
+/// The times in presentation order, in milliseconds.
 [[nodiscard]] QList<qint64> sortedTimes(const QList<Read>& packets);
 
-/// The places of the key packets in order of presentation, counted from 0.
+/// The positions of the key packets in presentation order, counted from 0.
 [[nodiscard]] QList<int> keyPlaces(QList<Read> packets);
 
 } // namespace packetreading

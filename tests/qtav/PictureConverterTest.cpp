@@ -22,7 +22,7 @@ double slopeAt(double x)
     return middle + slope * (x - frameWidth / 2.0);
 }
 
-/// Luma is the same everywhere; Cb rises steadily from left to right.
+/// Luma is constant; Cb rises steadily from left to right.
 FramePtr ramp(AVPixelFormat format, AVChromaLocation location, double offset)
 {
     FramePtr frame = QtAV::makeFrame();
@@ -81,7 +81,7 @@ FramePtr grey(int width, int height, const QString& pattern)
     return frame;
 }
 
-/// The mean of luma under a pixel of the picture at another size; parts of pixels count as such.
+/// The mean of luma under a pixel of the picture at another size, with fractions of pixels.
 double meanUnder(const AVFrame& frame, const QSize& size, int x, int y)
 {
     const double stepX = double(frame.width) / size.width();
@@ -101,7 +101,7 @@ double meanUnder(const AVFrame& frame, const QSize& size, int x, int y)
 
 } // namespace
 
-/// Scaled pictures, against the standard's formula.
+/// Compares scaled pictures with the standard's formula.
 class PictureConverterTest : public QObject
 {
     Q_OBJECT
@@ -139,7 +139,7 @@ void PictureConverterTest::chroma_staysWhereItWasSampled_whenScaled()
     PictureConverter converter;
     const QImage image = converter.convert(*frame, QSize(times * frameWidth, frameHeight));
     QCOMPARE(image.size(), QSize(times * frameWidth, frameHeight));
-    // Blue by ITU-R BT.709, where nothing is cut off; the ends of lines have no neighbours.
+    // Blue by ITU-R BT.709 where nothing is clipped; the ends of lines have no neighbours.
     for (int x = times * frameWidth / 4; x < times * frameWidth * 3 / 4; ++x) {
         const double place = (x + 0.5) / times - 0.5;
         const double blue =
@@ -166,8 +166,8 @@ void PictureConverterTest::smallerPicture_isTheMeanOfTheAreaUnderEachPixel_data(
     }
 }
 
-/// What is finest: lines and squares of a pixel, and noise. Nothing of it vanishes or makes
-/// patterns that are not there.
+/// The finest details: lines and squares of one pixel, and noise. Nothing vanishes, and no false
+/// patterns appear.
 void PictureConverterTest::smallerPicture_isTheMeanOfTheAreaUnderEachPixel()
 {
     QFETCH(QSize, size);
@@ -211,7 +211,7 @@ void PictureConverterTest::scaledPicture_keepsFormatAndColours()
     }
 }
 
-/// Also where chroma lies beside luma: by the ramp it shows when it has moved.
+/// Also for interleaved chroma: the ramp shows whether it was shifted.
 void PictureConverterTest::scaledPicture_becomesTheSameImage_asTheWhole()
 {
     for (const AVChromaLocation location :

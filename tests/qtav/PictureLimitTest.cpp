@@ -43,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(PictureLimit::bytesOf(AV_PIX_FMT_YUV444P10LE, stored, stored),
                  qint64(6000 + 4000));
         QCOMPARE(PictureLimit::bytesOf(AV_PIX_FMT_NONE, stored, {200, 10}), qint64(1500 + 8000));
-        // No product of sides is too large to be counted.
+        // The product of the sides never overflows.
         QCOMPARE(PictureLimit::bytesOf(AV_PIX_FMT_YUV420P, {65535, 65535}, {1 << 20, 65535}),
                  qint64(65535) * 65535 * 12 / 8 + (qint64(65535) << 20) * 4);
     }
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QVERIFY(result.answer == FrameAnswer::Failed);
         QVERIFY2(result.error.contains(QStringLiteral("too large")), qUtf8Printable(result.error));
         QVERIFY(!reader.canGoOn());
-        // A search there says the same, and one before it succeeds.
+        // A search there reports the same, and an earlier one succeeds.
         QtAV::FrameReader::Search search;
         search.isReached = [](const QtAV::VideoFrame&) { return false; };
         search.ms = reader.demuxer().duration();

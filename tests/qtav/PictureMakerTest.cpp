@@ -11,12 +11,12 @@ using QtAV::VideoFrame;
 
 namespace {
 
-/// How long anything may take, in milliseconds; far more than it does.
+/// Maximum time for any action, in milliseconds; far more than needed.
 constexpr int patience = 30000;
 
 } // namespace
 
-/// The thread that makes pictures out of frames.
+/// The thread that makes pictures from frames.
 class PictureMakerTest : public QObject
 {
     Q_OBJECT

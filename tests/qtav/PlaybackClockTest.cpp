@@ -24,7 +24,7 @@ void PlaybackClockTest::clock_standsStill_untilItIsStarted()
     QCOMPARE(clock.now(), 3.0);
 }
 
-/// Between what a timer told before and after, however long all of it took.
+/// The result lies between timer values taken before and after, however long it took.
 void PlaybackClockTest::clock_goesAsFastAsItIsTold()
 {
     for (const double speed : {0.1, 1.0, 8.0}) {

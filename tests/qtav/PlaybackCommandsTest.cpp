@@ -6,7 +6,7 @@ using QtAV::PlaybackCommands;
 
 namespace {
 
-/// How many steps are taken until none waits; those backward count negative.
+/// Number of steps taken until none waits; backward steps count negative.
 int takeSteps(PlaybackCommands& commands)
 {
     int steps = 0;

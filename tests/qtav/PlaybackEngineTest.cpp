@@ -17,14 +17,14 @@ using Answer = PlaybackEngine::Answer;
 
 namespace {
 
-/// How long anything may take, in milliseconds; far more than it does.
+/// Maximum time for any action, in milliseconds; far more than needed.
 constexpr int patience = 30000;
 
-/// An engine, and the answers that it has given.
+/// An engine and its answers.
 class Harness
 {
 public:
-    /// The next answer; nothing when none comes.
+    /// The next answer; nothing if there is none.
     std::optional<Answer> next()
     {
         while (m_answers.empty()) {
@@ -40,7 +40,7 @@ public:
         return first;
     }
 
-    /// The answer to a command, all older ones passed over.
+    /// The answer to a command, skipping older ones.
     std::optional<Answer> to(quint64 serial)
     {
         std::optional<Answer> answer = next();
@@ -68,7 +68,8 @@ private:
 
 constexpr int longSampleFrames = 520;
 
-/// Opens a copy of a sample that is much longer than what is decoded ahead, and cuts it to nothing.
+/// Opens a copy of a sample that is much longer than what is decoded ahead, and truncates it to
+/// nothing.
 bool openAndLose(Harness& harness, const testsupport::TestDir& dir)
 {
     const QString path = dir.filePath(QStringLiteral("video.mp4"));
@@ -85,7 +86,7 @@ int numberOf(const std::optional<Answer>& answer)
 
 } // namespace
 
-/// The decoding thread: that commands are answered, and with what.
+/// The decoding thread: that commands are answered, and how.
 class PlaybackEngineTest : public QObject
 {
     Q_OBJECT

@@ -53,7 +53,7 @@ bool Stage::stepBackward()
     return waitForOther([this] { player.stepBackward(); });
 }
 
-/// The frame on screen may come once more meanwhile, in full size: that is no answer.
+/// The frame on screen may be delivered again in full size, which is not the answer.
 bool Stage::waitForOther(const std::function<void()>& action)
 {
     const double before = screen.frame.timestamp();
@@ -67,7 +67,7 @@ bool Stage::waitForOther(const std::function<void()>& action)
     return true;
 }
 
-/// A player that has been told nothing for this long has nothing more to answer.
+/// A player without requests for this long has no more answers.
 void Stage::settle()
 {
     constexpr int quietMs = 150;

@@ -10,12 +10,12 @@
 
 #include <functional>
 
-/// What the tests of the player share.
+/// Shared by the tests of the player.
 namespace playing {
 
 using testsupport::patienceMs;
 
-/// Remembers what it was given to show.
+/// Records what it has to show.
 class Screen : public QtAV::VideoRenderer
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     void present(const QtAV::VideoFrame& newFrame) override;
 
     QtAV::VideoFrame frame;
-    /// Without the invalid frames, and without those that came again in full size.
+    /// Without invalid frames, and without those repeated in full size.
     QList<decoding::Shown> shown;
 
 Q_SIGNALS:
@@ -40,16 +40,16 @@ public:
     /// Opens a sample, paused on its first frame.
     [[nodiscard]] bool open(const QString& file);
 
-    /// Each waits for its effect; false when it does not come.
+    /// Each waits for its effect; false if it does not occur.
     [[nodiscard]] bool waitForStatus(QtAV::MediaStatus status);
     [[nodiscard]] bool seek(qint64 ms);
     [[nodiscard]] bool stepForward();
     [[nodiscard]] bool stepBackward();
 
-    /// Lets the decoding thread answer everything that it was told before.
+    /// Waits until the decoding thread has answered all requests.
     void settle();
 
-    /// The number in the picture on screen; -1 where it cannot be read.
+    /// The number in the picture on screen; -1 if it is unreadable.
     [[nodiscard]] int number() const { return decoding::shown(screen.frame).number; }
 
     Screen screen;

@@ -15,7 +15,7 @@ using Times = PresentationOrder::Times;
 
 namespace {
 
-/// The video packets of a sample whose container times all of them.
+/// The video packets of a sample with a container that times all of them.
 struct Stream
 {
     explicit Stream(const QString& file)
@@ -53,7 +53,7 @@ void takeAll(PresentationOrder& order, QList<qint64>& times)
     }
 }
 
-/// The times that copies of the packets get, from one of them on.
+/// The times assigned to copies of the packets, from one of them on.
 QList<qint64> timesFrom(const Stream& stream, PresentationOrder& order, size_t first = 0)
 {
     QList<qint64> times;
@@ -68,7 +68,7 @@ QList<qint64> timesFrom(const Stream& stream, PresentationOrder& order, size_t f
 
 } // namespace
 
-/// The times that packets get whose container has none for them.
+/// The times assigned to packets of containers without times.
 class PresentationOrderTest : public QObject
 {
     Q_OBJECT
@@ -131,7 +131,7 @@ void PresentationOrderTest::keyPacket_getsItsOwnTime_whenItBearsThatOfTheNext_da
     addFiles({"mpeg2.ts", "mpeg2_interlaced.ts"});
 }
 
-/// The first one follows no other picture in whose pack its headers could begin.
+/// The first one does not follow another picture in whose packet its headers could begin.
 void PresentationOrderTest::keyPacket_getsItsOwnTime_whenItBearsThatOfTheNext()
 {
     QFETCH(QString, file);
@@ -168,7 +168,7 @@ void PresentationOrderTest::decodingTimes_areGivenInOrderOfPresentation_data()
               "mpeg2_interlaced.ts", "mpeg4.mp4"});
 }
 
-/// The n-th picture shown belongs at the n-th time.
+/// The n-th picture shown gets the n-th time.
 void PresentationOrderTest::decodingTimes_areGivenInOrderOfPresentation()
 {
     QFETCH(QString, file);
@@ -189,7 +189,7 @@ void PresentationOrderTest::decodingTimes_areGivenInOrderOfPresentation()
     QCOMPARE(timesFrom(stream, order), expected);
 }
 
-/// Of pictures shown before that key picture none can be decoded.
+/// Pictures shown before that key picture cannot be decoded.
 void PresentationOrderTest::order_isTheSame_fromAnotherKeyPacketOn()
 {
     Stream stream(QStringLiteral("mpeg2.ts"));

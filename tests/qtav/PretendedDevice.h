@@ -12,12 +12,12 @@
 #include <memory>
 #include <mutex>
 
-/// Sound devices that only pretend to play, and do what a test wants.
+/// Simulated sound devices, controlled by a test.
 namespace playing {
 
 constexpr int rate = 48000;
 
-/// Where devices can be held up until it is opened.
+/// Blocks devices until it is opened.
 class Gate
 {
 public:
@@ -52,7 +52,7 @@ private:
     int m_waiting = 0;
 };
 
-/// What the devices of a test did; of both threads.
+/// What the devices of a test did; used by both threads.
 struct Record
 {
     Gate start;
@@ -62,13 +62,13 @@ struct Record
     std::atomic<int> started{0};
     std::atomic<qint64> heardBytes{0};
     std::atomic<double> volume{-1.0};
-    /// Fails when so many bytes have been heard.
+    /// Fails when this many bytes have been played.
     std::atomic<qint64> failsAfter{std::numeric_limits<qint64>::max()};
-    /// Says that it runs even where it does not, as systems do.
+    /// Reports that it runs even if it does not, as real systems do.
     std::atomic<bool> saysItRuns{false};
 };
 
-/// Takes samples as fast as a real one would play them, times a factor.
+/// Takes samples as fast as a real device would play them, multiplied by a factor.
 class PretendedDevice : public QtAV::SoundDevice
 {
 public:
@@ -131,7 +131,7 @@ private:
     qint64 m_heard = 0;
 };
 
-/// All players made while it lives have this device, whose record may outlive them all.
+/// During its lifetime, all players created have this device. Its record may outlive them.
 class Devices
 {
 public:

@@ -11,7 +11,7 @@ using namespace decoding;
 using testsupport::Sample;
 using testsupport::Trait;
 
-/// Seeking, for every format: which key frame the demuxer lands on, and what follows from there.
+/// Seeking, for every format: the key frame on which the demuxer lands, and what follows.
 class SeekTest : public QObject
 {
     Q_OBJECT
@@ -42,10 +42,10 @@ void SeekTest::addSamples(const QList<Sample>& samples)
 
 namespace {
 
-/// The frame, counted from 0, with which everything from a position on begins.
+/// The frame, counted from 0, with which decoding from a position begins.
 int firstFrameFor(const Sample& sample, const QList<int>& keyFrames, qint64 ms)
 {
-    // Before its first key frame such a sample shows the rest of a group whose key frame it hides.
+    // Before its first key frame such a sample shows the rest of a group with a hidden key frame.
     const bool isInCutGroup = sample.has(Trait::StartsInsideGop) &&
                               ms < testsupport::frameTimeMs(sample, keyFrames.constFirst());
     int found = isInCutGroup ? 0 : keyFrames.constFirst();
@@ -74,7 +74,7 @@ QList<qint64> positions(const Sample& sample, const QList<int>& keyFrames)
     return all;
 }
 
-/// Forwards, backwards, and at random with a fixed seed; for sanitizers at random alone.
+/// Forwards, backwards, and at random with a fixed seed; with sanitizers only at random.
 QList<QList<qint64>> inEveryOrder(const QList<qint64>& forwards)
 {
     QList<qint64> backwards = forwards;
@@ -87,11 +87,11 @@ QList<QList<qint64>> inEveryOrder(const QList<qint64>& forwards)
     return {forwards, backwards, random};
 }
 
-/// Compares what was shown from the n-th frame on with what had to be.
+/// Compares what was shown from the n-th frame on with what was expected.
 bool areAllFramesFrom(const Sample& sample, int n, const QList<Shown>& got)
 {
     QList<Shown> expected = expectedFrom(sample, n);
-    // A stream that refreshes bit by bit has whole pictures only some time after its key packets.
+    // A stream with gradual refresh has complete pictures only some time after its key packets.
     if (sample.has(Trait::IntraRefresh) && !got.isEmpty()) {
         expected = expected.mid(expected.size() - got.size());
     }
@@ -120,7 +120,7 @@ void SeekTest::seek_landsOnTheKeyFrameAtOrBefore_andAllFramesFollow()
     QVERIFY(player.isReady());
     QSet<int> decodedFrom;
     for (const QList<qint64>& order : inEveryOrder(positions(sample, keyFrames))) {
-        // Large pictures take long to decode: once from each key frame has to do.
+        // Large pictures take long to decode: once from each key frame is enough.
         if (!sample.has(Trait::Large)) {
             decodedFrom.clear();
         }

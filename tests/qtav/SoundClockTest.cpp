@@ -10,12 +10,12 @@ using QtAV::SoundClock;
 
 namespace {
 
-/// A device of which only what it has taken is known, and that late and not to the sample.
+/// A device that reports only how much it has taken, with delay and limited precision.
 class BlockDevice
 {
 public:
     /// @param block    how much it takes at once, in seconds.
-    /// @param quantum  what is known of that is a multiple of this, in seconds.
+    /// @param quantum  precision of its reports, in seconds.
     BlockDevice(double block, double quantum)
         : m_block(block)
         , m_quantum(quantum)
@@ -23,7 +23,7 @@ public:
         m_clock.reset(std::max(block, 0.25), at(0.0));
     }
 
-    /// Lets time go on, looking every 8 to 12 ms, and gives how far off the clock was at most.
+    /// Lets time pass, polling every 8 to 12 ms, and returns the maximum error of the clock.
     double run(double seconds)
     {
         double mostOff = 0.0;
@@ -43,7 +43,7 @@ public:
         }
     }
 
-    /// What is taken is not told for so long, while the device plays on.
+    /// The device plays on without reports for this long.
     double runUnknown(double seconds)
     {
         const double taken = known();
@@ -75,7 +75,7 @@ private:
     double m_block;
     double m_quantum;
     double m_now = 0.0;
-    double m_silence = 0.0; ///< how long nothing was heard
+    double m_silence = 0.0; ///< how long there was silence
     std::mt19937 m_random{23};
     SoundClock m_clock;
 };
@@ -84,7 +84,7 @@ constexpr double largestOffset = 0.032; ///< the quantum of 20 ms and the 12 ms 
 
 } // namespace
 
-/// What is heard of a device that takes samples in blocks.
+/// What is heard from a device that takes samples in blocks.
 class SoundClockTest : public QObject
 {
     Q_OBJECT
@@ -121,7 +121,7 @@ void SoundClockTest::time_standsStill_beforeTheFirstSound()
 {
     BlockDevice device(0.21, 0.02);
     device.interrupt(2.0);
-    QVERIFY(device.look() <= 0.0101); // since the last look
+    QVERIFY(device.look() <= 0.0101); // since the last poll
     QVERIFY(device.run(5.0) <= largestOffset);
 }
 

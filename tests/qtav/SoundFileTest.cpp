@@ -17,7 +17,7 @@ namespace {
 
 constexpr int soundRate = 48000;
 
-/// Opens a file and has it give samples of one channel.
+/// Opens a file and makes it deliver samples of one channel.
 [[nodiscard]] bool openMono(SoundFile& sound, const QString& path)
 {
     QString error;
@@ -29,7 +29,7 @@ constexpr int soundRate = 48000;
     return true;
 }
 
-/// All samples from here to the end, in portions that no packet is as long as.
+/// All samples from here to the end, in portions whose size matches no packet.
 QVector<qint16> readRest(SoundFile& sound)
 {
     QVector<qint16> all;
@@ -108,7 +108,7 @@ QByteArray toneOf(double hertz, int samples)
     return wav;
 }
 
-/// How often a second the samples rise through zero; their ends do not count.
+/// Number of upward zero crossings per second; the ends do not count.
 double frequencyOf(const QVector<qint16>& samples)
 {
     const int from = soundRate / 10;
@@ -198,7 +198,7 @@ void SoundFileTest::speed_givesTheFileInLessTime_orInMore()
     for (const double speed : {0.5, 1.25, 2.0}) {
         sound.setFormat(soundRate, 1, speed);
         QVERIFY(sound.seek(0.0));
-        // Sound that keeps its pitch is made of pieces some hundredths of a second long.
+        // Sound that keeps its pitch consists of pieces of some hundredths of a second.
         QVERIFY(std::abs(readRest(sound).size() - stored / speed) < 0.03 * soundRate);
         QVERIFY(sound.seek(1.5));
         QVERIFY(std::abs(readRest(sound).size() - stored / speed / 4.0) < 0.03 * soundRate);
@@ -228,7 +228,7 @@ void SoundFileTest::speed_keepsThePitch()
     SoundFile sound;
     QVERIFY(openMono(sound, path));
     sound.setFormat(soundRate, 1, speed);
-    // From a place inside, too: nothing is heard of what lies before it.
+    // Also from a place inside: nothing before it is heard.
     for (const double from : {0.0, 1.0}) {
         QVERIFY(sound.seek(from));
         const QVector<qint16> samples = readRest(sound);
@@ -237,7 +237,7 @@ void SoundFileTest::speed_keepsThePitch()
         QVERIFY2(std::abs(seconds - wanted) < 0.03, qPrintable(QString::number(seconds)));
         const double hertz = frequencyOf(samples);
         QVERIFY2(std::abs(hertz - 440.0) < 3.0, qPrintable(QString::number(hertz)));
-        // As loud as ever, without gaps.
+        // As loud as before, without gaps.
         for (double at = 0.1; at + 0.1 < seconds; at += 0.1) {
             QVERIFY(std::abs(strength(samples, at, at + 0.1) - 10000.0 / std::sqrt(2.0)) < 1500.0);
         }
@@ -274,7 +274,7 @@ void SoundFileTest::sound_endsWhereTheFileEndsIt()
     for (const double from : {0.0, 0.5, 1.2}) {
         QVERIFY(sound.seek(from));
         const double end = double(readRest(sound).size()) / soundRate + from;
-        // The encoder's packets are 21 ms long, and the last one is filled up.
+        // The encoder's packets are 21 ms long, and the last one is padded.
         QVERIFY2(end > 1.499 && end < 1.545, QByteArray::number(end).constData());
     }
 }

@@ -14,10 +14,9 @@ constexpr int lastOfBeeps = 199; ///< the last frame's number in flashes_and_bee
 
 } // namespace
 
-/// Players whose sound server holds up who starts a device: Qt Multimedia then waits in a function
-/// that does not return, for ever where the server dies. Not for thread sanitizer, like
-/// SoundSyncTest. The server dies in the last case, and the process ends in spite of what still
-/// waits for it.
+/// Players whose sound server blocks starting a device: Qt Multimedia then waits in a function that
+/// does not return, forever if the server dies. Like SoundSyncTest, not for thread sanitizer. The
+/// server dies in the last case, and the process ends although threads still wait for it.
 class SoundHangTest : public QObject
 {
     Q_OBJECT

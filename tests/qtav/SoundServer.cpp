@@ -28,7 +28,7 @@ constexpr auto deviceArguments = "sink_name=quiet rate=48000 channels=2";
 
 SoundServer::SoundServer()
 {
-    // A sanitizer's runtime is no concern of the server's, nor is the tests' platform.
+    // The server must not inherit a sanitizer's runtime, nor the tests' platform.
     qputenv("PULSE_SERVER", "unix:" + m_dir.filePath(QStringLiteral("native")).toLocal8Bit());
     qputenv("PULSE_RUNTIME_PATH", m_dir.path().toLocal8Bit());
     qputenv("PULSE_STATE_PATH", m_dir.path().toLocal8Bit());
@@ -141,8 +141,8 @@ void SoundRecording::stop()
     m_process.waitForFinished(patienceMs);
 }
 
-/// The device hands on a block of samples when its first one is heard, and nothing between two
-/// blocks, of at least 10 ms: what comes after a pause begins one.
+/// The device passes on a block of samples when its first one is heard, and nothing for at least 10
+/// ms between two blocks: samples after a pause begin a new block.
 void SoundRecording::take()
 {
     constexpr std::chrono::milliseconds pauseBetweenBlocks(5);
@@ -156,8 +156,8 @@ void SoundRecording::take()
     m_lastArrival = now;
 }
 
-/// The median, for single blocks may be late on a busy machine, and the first ones come before the
-/// device has adapted its blocks.
+/// The median, because single blocks may be late on a busy machine, and the first ones come before
+/// the device has adapted its block size.
 SoundRecording::Time SoundRecording::begin() const
 {
     std::vector<Time> begins = m_begins;

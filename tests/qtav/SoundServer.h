@@ -10,37 +10,37 @@
 #include <chrono>
 #include <vector>
 
-/// A sound server of a test's own, and what can be heard there.
+/// A sound server for a test, and what is heard there.
 namespace playing {
 
-/// PulseAudio with one device, which plays into nothing, as fast as a real one would. It uses no
-/// configuration and no folder but a temporary one.
+/// PulseAudio with one device that discards its sound at the speed of a real one. It uses no
+/// configuration, and only a temporary folder.
 ///
-/// Qt Multimedia connects to one server in the life of a process, when it first looks for devices:
-/// make the server before any sound is played, and not a second one.
+/// Qt Multimedia connects to one server during the life of a process, when it first searches for
+/// devices: start the server before any sound is played, and do not start a second one.
 class SoundServer
 {
 public:
-    /// Makes this process, and what it starts, use the server.
+    /// Makes this process and its children use the server.
     SoundServer();
     ~SoundServer();
     SoundServer(const SoundServer&) = delete;
     SoundServer& operator=(const SoundServer&) = delete;
 
-    /// Runs the server; false, with a message, when it does not come up.
+    /// Starts the server; false, with a message, if that fails.
     [[nodiscard]] bool start();
-    /// Ends it as a crash would.
+    /// Ends it like a crash.
     void kill();
 
-    /// Lets it answer nobody any more, or go on.
+    /// Stops it from answering, or lets it continue.
     void freeze();
     void thaw();
 
-    /// Takes the device away from under who plays on it, or brings it back.
+    /// Removes the device during playback, or restores it.
     [[nodiscard]] bool removeDevice();
     [[nodiscard]] bool addDevice();
 
-    /// How many programs' sounds are being played.
+    /// Number of programs whose sound is being played.
     [[nodiscard]] int streamCount() const;
 
 private:
@@ -50,7 +50,7 @@ private:
     QProcess m_process;
 };
 
-/// Listens to the server's device.
+/// Records the server's device.
 class SoundRecording : public QObject
 {
     Q_OBJECT
@@ -58,14 +58,14 @@ class SoundRecording : public QObject
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    /// @param latencyMs  what the recorder asks for, to which the device adapts the size of the
-    ///                   blocks that it plays; 0 leaves it as the player wishes.
+    /// @param latencyMs  the latency that the recorder requests, to which the device adapts the
+    ///     size of its blocks; 0 leaves it to the player.
     [[nodiscard]] bool start(int latencyMs);
     void stop();
 
-    /// When the tones that were heard began, off by a block and more where the device plays large
-    /// ones; what lies between two of them is exact. Only the first of one playing can be told:
-    /// what a player stops, the server takes back.
+    /// When the recorded tones began, with an error of a block or more if the device plays large
+    /// ones; the intervals between them are exact. Only the first tone of a playback can be
+    /// measured, because the server discards what a player stops.
     [[nodiscard]] QList<Time> toneStarts() const;
 
 private:
@@ -75,7 +75,7 @@ private:
     QProcess m_process;
     QByteArray m_samples;
     Time m_lastArrival;
-    std::vector<Time> m_begins; ///< when the first sample was heard, told by each block
+    std::vector<Time> m_begins; ///< when the first sample was heard, as computed from each block
 };
 
 } // namespace playing

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int seconds = 8; ///< of flashes_and_beeps.mp4, each with one flash and one beep
 
-/// Remembers when each flash was shown whose first frame was: one that was dropped tells nothing.
+/// Records when each flash was shown, if its first frame was not dropped.
 class FlashScreen : public QtAV::VideoRenderer
 {
 public:
@@ -53,7 +53,7 @@ private:
     }
 };
 
-/// How long after its beep each flash came, in milliseconds, rising.
+/// How long after its beep each flash was shown, in milliseconds, sorted.
 std::vector<double> offsets(const QList<SoundRecording::Time>& flashes,
                             const QList<SoundRecording::Time>& beeps)
 {
@@ -72,7 +72,7 @@ std::vector<double> offsets(const QList<SoundRecording::Time>& flashes,
     return all;
 }
 
-/// Plays the clip once; nothing where a beep was not recorded well.
+/// Plays the clip once; empty if a beep was not recorded well.
 std::vector<double> offsetsInOnePlay(int recordingLatencyMs)
 {
     SoundRecording recording;
@@ -97,8 +97,8 @@ std::vector<double> offsetsInOnePlay(int recordingLatencyMs)
 } // namespace
 
 /// Players whose sound goes to a real sound server. Not for thread sanitizer, which is too slow to
-/// play in real time and is shown the same threads by other tests. The server goes away in the last
-/// cases, in the order in which they stand here.
+/// play in real time, and for which other tests cover the same threads. The server is removed in
+/// the last cases, which depend on their order.
 class SoundSyncTest : public QObject
 {
     Q_OBJECT
@@ -126,14 +126,14 @@ void SoundSyncTest::flashesAndBeeps_comeTogether_data()
     QTest::addColumn<int>("latencyMs");
     QTest::addColumn<bool>("isTimeExact");
     QTest::newRow("device that plays small blocks") << 10 << true;
-    // The player's own wish, blocks of a fifth of a second: when they are heard is not known so
-    // well, but that the picture runs evenly with them is.
+    // The block size requested by the player, a fifth of a second: it is less certain when blocks
+    // are heard, but the picture must run evenly with them.
     QTest::newRow("device that plays large blocks") << 0 << false;
 }
 
-/// What else the machine does holds picture and sound apart for moments, in the player, in the
-/// server and in listening to it. So one play in which they are together will do: what the player
-/// itself does wrong, it does in each.
+/// Other load on the machine separates picture and sound for moments, in the player, in the server
+/// and in the recording. So one play without an offset is enough: an error of the player itself
+/// would occur in each.
 void SoundSyncTest::flashesAndBeeps_comeTogether()
 {
     QFETCH(int, latencyMs);

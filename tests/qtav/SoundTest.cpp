@@ -35,7 +35,7 @@ QVector<qint16> samplesFrom(SoundFile& file, double seconds)
 
 } // namespace
 
-/// Sound: what is read from a file, and a player with devices that work, fail or are missing.
+/// Sound: reading it from a file, and a player with devices that work, fail or are missing.
 class SoundTest : public QObject
 {
     Q_OBJECT
@@ -82,7 +82,7 @@ void SoundTest::file_givesTheSameSamples_fromAnywhere()
     for (const double part : {0.5, 0.1, 0.9, 0.0, 0.7}) {
         const qint64 start = std::llround(part * length * rate);
         const QVector<qint16> rest = samplesFrom(sound, double(start) / rate);
-        // Times in milliseconds are off by up to half of one.
+        // Times in milliseconds have an error of up to half a millisecond.
         QVERIFY(std::abs(rest.size() - (all.size() - 2 * start)) <= 2 * rate / 500);
         // The tone's loudness does not depend on where reading began, and neither does silence.
         const int count = std::min(int(rest.size()), rate / 5);
@@ -138,13 +138,13 @@ void SoundTest::sound_isPlayed_withThePicture()
     QVERIFY(stage.waitForStatus(QtAV::EndOfMedia));
     QCOMPARE(stage.number(), 74);
     QCOMPARE(devices.record.started.load(), 1);
-    // The sound is shorter than the picture, which goes on without it.
+    // The sound is shorter than the video, which continues without it.
     QVERIFY(devices.record.heardBytes > 2.4 * rate * 4);
 }
 
 void SoundTest::sound_leadsThePicture()
 {
-    // A device that plays twice as fast as the clock runs: the picture keeps up with it.
+    // A device that plays twice as fast as the clock: the picture keeps up with it.
     Devices devices(2.0);
     Stage stage;
     stage.player.setMediaEndAction(QtAV::MediaEndAction_Pause);
@@ -167,7 +167,7 @@ void SoundTest::sound_leadsThePicture()
     QVERIFY(devices.record.heardBytes > 2.4 * rate * 4);
     QVERIFY(pictures > 0);
     qInfo("The picture was at most %lld ms off the sound.", furthest);
-    // By the clock alone it would be 1150 ms behind in the end.
+    // With the clock alone it would be 1150 ms late at the end.
     QVERIFY(furthest < 500);
 }
 

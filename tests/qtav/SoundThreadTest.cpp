@@ -22,7 +22,7 @@ Gate& gateNamed(const QString& function, Record& record)
     return function == QLatin1String("stop") ? record.stop : record.query;
 }
 
-/// A time after which a device that has been held up is given up.
+/// Waits until a blocked device has been abandoned.
 void waitUntilItIsGivenUp()
 {
     QTest::qWait(int(SoundWorker::longestWork.count()));
@@ -30,7 +30,7 @@ void waitUntilItIsGivenUp()
 
 } // namespace
 
-/// Players with sound devices that do not return from a function for as long as a test wants.
+/// Players with sound devices whose functions block as long as a test wants.
 class SoundThreadTest : public QObject
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp_data()
     QTest::newRow("when it is asked what was heard") << QStringLiteral("query");
 }
 
-/// Without sound at first, which comes back on another thread when it is wanted anew.
+/// Initially without sound, which returns on another thread when it is requested again.
 void SoundThreadTest::picture_playsOn_whenTheDeviceHoldsItUp()
 {
     QFETCH(QString, function);

@@ -29,7 +29,7 @@ void StepPacingTest::steps_doNotWait_whenPlentyAreLeft()
 
 void StepPacingTest::steps_areSpreadEvenly_overTheTimeToMore()
 {
-    // Each step takes one frame away, and its pause from the time.
+    // Each step uses up one frame, and its pause the time.
     double seconds = 1.5;
     const double pause = StepPacing::pauseFor(14, seconds).count();
     QCOMPARE(pause, 0.1);

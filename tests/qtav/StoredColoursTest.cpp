@@ -48,7 +48,7 @@ Rgb lightOf(const StoredColours& colours, const Rgb& values)
 
 } // namespace
 
-/// What the values of high dynamic range stand for, against the standards' formulas.
+/// Compares the meaning of high dynamic range values with the standards' formulas.
 class StoredColoursTest : public QObject
 {
     Q_OBJECT

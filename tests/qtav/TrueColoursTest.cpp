@@ -33,7 +33,7 @@ FramePtr flat(AVPixelFormat format, const std::array<int, 3>& codes)
     if (av_frame_get_buffer(frame.get(), 0) < 0) {
         qFatal("out of memory");
     }
-    // What is written is added to the bits that are there.
+    // Writing adds to the existing bits.
     for (const AVBufferRef* const buffer : frame->buf) {
         if (buffer) {
             std::memset(buffer->data, 0, buffer->size);
@@ -72,7 +72,7 @@ Rgb shown(const Rgb& nits, double peak)
     return {srgbOf(light[0]), srgbOf(light[1]), srgbOf(light[2])};
 }
 
-/// The mean of a picture in the middle, where dithering has done its part.
+/// The mean of a picture's middle, where dithering averages out.
 Rgb meanOf(const QImage& image)
 {
     Rgb sum{};
@@ -122,7 +122,7 @@ QImage trueColoursOf(const AVFrame& frame, QImage::Format format = QImage::Forma
 
 } // namespace
 
-/// Pictures with high dynamic range, wide gamut and unusual matrices, against the standards'
+/// Compares pictures with high dynamic range, wide gamut and unusual matrices with the standards'
 /// formulas.
 class TrueColoursTest : public QObject
 {

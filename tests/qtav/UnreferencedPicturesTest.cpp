@@ -42,8 +42,8 @@ void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips_data()
     }
 }
 
-/// As many frames are left out as there are such packets: no more, which would be pictures that
-/// FFmpeg takes for unreferenced and we do not, and no fewer, which would be damage.
+/// The decoder skips as many frames as there are such packets. More would mean pictures that only
+/// FFmpeg treats as unreferenced, fewer would mean damage.
 void UnreferencedPicturesTest::packets_areThoseThatTheDecoderSkips()
 {
     QFETCH(QString, file);

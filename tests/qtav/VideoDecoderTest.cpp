@@ -176,7 +176,7 @@ void VideoDecoderTest::lastKeyFrame_comesOutOnce_howeverOftenItIsDecoded_data()
     }
 }
 
-/// Of this file's last group there is but the key frame and one that leads up to it.
+/// This file's last group has only the key frame and one picture that leads up to it.
 void VideoDecoderTest::lastKeyFrame_comesOutOnce_howeverOftenItIsDecoded()
 {
     QFETCH(int, threads);
@@ -200,8 +200,8 @@ void VideoDecoderTest::target_isTheSamePicture_whenNonReferenceFramesBeforeItAre
 {
     QTest::addColumn<QString>("file");
     for (const Sample& sample : testsupport::videoSamplesToRepeat()) {
-        // A stream that refreshes bit by bit gives its first picture when FFmpeg takes it for
-        // whole, which can be later where pictures are skipped. FrameReader searches anew then.
+        // A stream with gradual refresh gives its first picture when FFmpeg considers it complete,
+        // which can be later if pictures are skipped. FrameReader then searches again.
         if (!sample.has(Trait::Large) && !sample.has(Trait::IntraRefresh)) {
             QTest::newRow(qPrintable(sample.file)) << sample.file;
         }
@@ -285,7 +285,7 @@ void VideoDecoderTest::decoder_staysUsable_afterDamagedPackets()
 {
     const QString name = QStringLiteral("h264_bframes.mp4");
     const Sample& sample = testsupport::sampleNamed(name);
-    // A file like the sample, but with noise in place of its third packet's picture.
+    // A file like the sample, but with noise instead of its third packet's picture.
     Player whole(testsupport::samplePath(name));
     QVERIFY(whole.isReady());
     QByteArray damaged;

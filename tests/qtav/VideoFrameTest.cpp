@@ -26,7 +26,7 @@ QtAV::VideoFrame firstFrameOf(const QString& file)
     return packet ? player.decodeKeyFrame(*packet) : QtAV::VideoFrame();
 }
 
-/// The next frame that comes out; an invalid one at the end.
+/// The next decoded frame; an invalid one at the end.
 QtAV::VideoFrame nextFrameOf(Player& player)
 {
     while (const auto packet = player.nextVideoPacket()) {
@@ -74,7 +74,7 @@ double meanDifference(const QImage& one, const QImage& other)
     return sum / 3.0 / one.width() / one.height();
 }
 
-/// How far a colour may be from the standards' formulas: those outside sRGB keep some of their
+/// How far a colour may be from the standards' formulas: colours outside sRGB keep some of their
 /// differences.
 double allowedFor(const testsupport::Rgb& light, const ColourSample& sample)
 {
@@ -256,7 +256,7 @@ void VideoFrameTest::imageFormat_hasAlpha_onlyWhereThePictureHas_data()
 void VideoFrameTest::imageFormat_hasAlpha_onlyWhereThePictureHas()
 {
     QFETCH(QString, file);
-    // The pictures of a GIF may be see-through, although those of the samples are not.
+    // The pictures of a GIF may have transparency, although those of the samples do not.
     const bool hasAlpha =
         testsupport::sampleNamed(file).has(Trait::Alpha) || file.endsWith(QLatin1String(".gif"));
     Player player(testsupport::samplePath(file));
@@ -420,7 +420,7 @@ void VideoFrameTest::image_keepsItsPixels_whenOthersAreMade()
 
 void VideoFrameTest::image_isTheSame_fromSeveralThreadsAtOnce()
 {
-    // A format that goes through the scalers, which the threads share.
+    // A format that uses the scalers, which the threads share.
     const QtAV::VideoFrame frame = firstFrameOf(QStringLiteral("anamorphic_4_3.mkv"));
     const QImage expected = frame.toImage();
     QVERIFY(!expected.isNull());
@@ -463,7 +463,7 @@ void VideoFrameTest::scaledDown_keepsTimeSizeAndPicture()
     const QImage whole = frame.toImage(QImage::Format_RGB32, size);
     QCOMPARE(own.size(), size);
     QCOMPARE(small.toImage().size(), frame.displaySize());
-    // Less chroma is kept, so that edges between colours differ; what is light and dark does not.
+    // With less chroma, edges between colours differ, but not light and dark.
     qint64 difference = 0;
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {

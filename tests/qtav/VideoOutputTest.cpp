@@ -15,7 +15,7 @@ using testsupport::Sample;
 
 namespace {
 
-/// A frame of a sample: its first.
+/// The first frame of a sample.
 QtAV::VideoFrame firstFrame(const QString& file)
 {
     decoding::Player player(testsupport::samplePath(file));
@@ -221,7 +221,7 @@ void VideoOutputTest::openGL_drawsWhatRasterDraws()
     }
 }
 
-/// Each pixel of the frame is sixteen of the screen.
+/// Each pixel of the frame covers sixteen of the screen.
 void VideoOutputTest::enlargedFrame_hasSharpPixels_inItsPlace()
 {
     const QtAV::VideoFrame frame = firstFrame(QStringLiteral("h264_bframes.mp4")); // 320 x 240
@@ -246,7 +246,7 @@ void VideoOutputTest::frameInFullSize_isShownPixelByPixel_inItsPlace()
     output.present(frame);
     output.setPlace({-110, -80, 320, 240});
     QCOMPARE(shownBy(output), frame.toImage(QImage::Format_RGB32).copy(110, 80, 100, 80));
-    // Back to the whole.
+    // Back to the whole picture.
     output.setPlace({});
     QCOMPARE(testsupport::frameNumber(shownBy(output).copy(0, 2, 100, 75)).value_or(-1), 0);
 }
@@ -259,7 +259,7 @@ void VideoOutputTest::picture_movesAtOnce_whenItsPlaceDoes()
     output.present(frame);
     const QImage before = shownBy(output);
     output.setPlace({40, 30, 320, 240});
-    // No event loop runs here, so that no picture can come.
+    // No event loop runs here, so no picture can arrive.
     const QImage moved = grabbed(*output.widget());
     QVERIFY(!output.isUpToDate());
     QCOMPARE(moved.copy(40, 30, 280, 210), before.copy(0, 0, 280, 210));
@@ -294,7 +294,7 @@ void VideoOutputTest::oldPicture_staysScaled_untilTheNewOneComes()
     output.present(firstFrame(QStringLiteral("h264_bframes.mp4")));
     const QImage before = shownBy(output);
     output.widget()->resize(640, 480);
-    // No event loop runs here, so that no picture can come.
+    // No event loop runs here, so no picture can arrive.
     const QImage scaled = grabbed(*output.widget());
     QVERIFY(!output.isUpToDate());
     QCOMPARE(scaled, before.scaled(640, 480));
@@ -321,7 +321,7 @@ void VideoOutputTest::present_returnsAtOnce_andOnlyTheNewestFrameIsShown()
     }
     QVERIFY(last > 10);
     QCOMPARE(testsupport::frameNumber(shownBy(output)).value_or(-1), last);
-    // A picture that is late is none of a black screen.
+    // A late picture must not replace a black screen.
     output.widget()->resize(160, 120);
     output.present(firstFrame(QStringLiteral("h264_bframes.mp4")));
     output.present(QtAV::VideoFrame());

@@ -25,8 +25,8 @@ QList<qint64> frameTimes(const Sample& sample)
     return times;
 }
 
-/// What can be decoded of packets that begin with a key packet: pictures shown before that refer to
-/// what was not read. Where reading began between the headers of the key picture and the picture
+/// The packets that can be decoded, starting with a key packet: earlier pictures refer to packets
+/// that were not read. If reading began between the headers of the key picture and the picture
 /// itself, the headers are missing, so that its packet is shorter.
 QList<Read> decodable(const QList<Read>& packets)
 {
@@ -120,7 +120,7 @@ void VideoPacketsTest::keyPackets_areTheRealOnes()
     QCOMPARE(keyPlaces(video.readRest()), expected);
 }
 
-/// Each packet shows one picture: the parts of a pack are no longer behind one another.
+/// Each packet shows one picture: packed parts are split.
 void VideoPacketsTest::packedPictures_comeInPacketsOfTheirOwn()
 {
     OpenVideo video(QStringLiteral("mpeg4_xvid_packed.avi"));
@@ -147,7 +147,7 @@ void VideoPacketsTest::reading_givesTheSameTimes_fromTheMiddle_data()
               "h264_bframes.avi", "raw.h264", "raw.m2v", "h264_bframes.mp4", "h264_bframes.mkv"});
 }
 
-/// From the first key packet on; those before it cannot be decoded.
+/// From the first key packet on, because those before it cannot be decoded.
 void VideoPacketsTest::reading_givesTheSameTimes_fromTheMiddle()
 {
     QFETCH(QString, file);

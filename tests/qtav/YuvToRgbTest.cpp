@@ -44,7 +44,7 @@ FramePtr noise(AVPixelFormat format, int width, int height, AVColorRange range)
     return frame;
 }
 
-/// A stored sample; places outside are those at the edge.
+/// A stored sample; positions outside are those at the edge.
 double stored(const AVFrame& frame, int component, int x, int y)
 {
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(AVPixelFormat(frame.format));
@@ -58,14 +58,14 @@ double stored(const AVFrame& frame, int component, int x, int y)
     return c.depth > 8 ? *reinterpret_cast<const uint16_t*>(place) : *place;
 }
 
-/// Between the two nearest samples; `place` is in steps of chroma.
+/// Interpolates between the two nearest samples; `place` is in steps of chroma.
 double between(double a, double b, double place)
 {
     const double part = place - std::floor(place);
     return a * (1 - part) + b * part;
 }
 
-/// Chroma at a place of luma: on every second column, between the lines of halved height.
+/// Chroma at a position of luma: on every second column, between the lines of halved height.
 double chroma(const AVFrame& frame, int component, int x, int y, double left)
 {
     const AVPixFmtDescriptor& d = *av_pix_fmt_desc_get(AVPixelFormat(frame.format));
@@ -91,7 +91,7 @@ std::array<double, 3> expected(const AVFrame& frame, int x, int y)
     const double luma =
         (stored(frame, 0, x, y) - (full ? 0 : 16 * unit)) / (full ? top : 219 * unit);
     const auto part = [&](int component) {
-        // MPEG's place of chroma is on the left; JPEG's, with half the lines, in the middle.
+        // Chroma is sampled on the left in MPEG; in JPEG, with halved lines, in the middle.
         const bool isCentred = full && d.log2_chroma_h == 1;
         const double value = chroma(frame, component, x, y, isCentred ? 0.5 : 0.0) - 128 * unit;
         return hasChroma ? value / (full ? top : 224 * unit) : 0.0;
@@ -186,7 +186,7 @@ void YuvToRgbTest::pixels_areTheSame_whicheverInstructionsMakeThem()
         part->data[1] += left / 2;
         part->data[2] += left / 2;
         const QImage strip = converted(*part);
-        // The last pixel lies between two chroma samples, of which the part has but one.
+        // The last pixel lies between two chroma samples, of which the partial line has only one.
         const QRect same(0, 0, shortWidth - 1, image.height());
         QCOMPARE(strip.copy(same), image.copy(same.translated(left, 0)));
     }

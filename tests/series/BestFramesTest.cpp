@@ -31,7 +31,7 @@ BestFrames bestIn(const QString& video, qint64 fromMs, qint64 toMs, int count)
                             {160, 160}, never);
 }
 
-/// What a series gives.
+/// Receives the results of a series.
 class Output : public SeriesOutput
 {
 public:

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-/// Pictures and frames that were made for a trait each.
+/// Pictures and frames made for one property each.
 class FrameQualityTest : public QObject
 {
     Q_OBJECT
@@ -52,7 +52,7 @@ QImage textured(int from = 40, int to = 220)
     return image;
 }
 
-/// As a camera sees it that moves so many pixels while its shutter is open.
+/// Simulates a camera that moves by this many pixels while its shutter is open.
 QImage moved(const QImage& image, int dx, int dy)
 {
     QImage blurred = image.copy();
@@ -88,7 +88,7 @@ FrameQuality qualityOf(const QImage& image)
     return FrameJudge().judge(0, image);
 }
 
-/// Frames 40 ms apart, of that sharpness.
+/// Frames 40 ms apart with this sharpness.
 QVector<FrameQuality> framesOf(int count, double sharpness = 0.1)
 {
     QVector<FrameQuality> frames;
@@ -185,7 +185,7 @@ void FrameQualityTest::partWithoutGoodFrames_isMadeUpFor()
     frames[60].sharpness = 0.12;
     frames[90].sharpness = 0.12;
     frames[75].sharpness = 0.11;
-    // The fourth is as far from the others as half a part.
+    // The fourth is half a part away from the others.
     QCOMPARE(bestOf(frames, {0, 4000}, 4), (QVector<qint64>{400, 2400, 3000, 3600}));
 }
 
@@ -206,7 +206,7 @@ void FrameQualityTest::framesAtCuts_areNotTaken()
         frames[i].sharpness = 0.2;
     }
     frames[3].sharpness = 0.19;
-    // 9 and 10 are beside the cut, 8, 11 and 12 within 100 ms of its first frame.
+    // 9 and 10 are next to the cut, 8, 11 and 12 within 100 ms of its first frame.
     QCOMPARE(bestOf(frames, {0, 800}, 1), QVector<qint64>{280});
 }
 

@@ -10,7 +10,7 @@ using seriestests::every;
 
 namespace {
 
-/// More packets are not needed before a frame of the samples comes out.
+/// Maximum number of packets before a frame of the samples is delivered.
 constexpr int mostReordered = 3;
 
 /// Counts the pictures.
@@ -22,7 +22,7 @@ public:
     int count = 0;
 };
 
-/// What is decoded for such positions of a sample.
+/// Number of packets decoded for such positions of a sample.
 DecodedPackets decodedFor(const QString& file, const FramePositions& positions, int lanes,
                           int pictures)
 {
@@ -48,7 +48,7 @@ FramePositions at(std::initializer_list<double> milliseconds)
 
 } // namespace
 
-/// How much the engine decodes for its pictures: the time that a series takes is the decoders'.
+/// How much the engine decodes for its pictures, which determines the time of a series.
 class SeriesDecodingTest : public QObject
 {
     Q_OBJECT
@@ -85,8 +85,8 @@ void SeriesDecodingTest::frames_areDecodedOnce_howeverDenseThePositions()
     QFETCH(const int, lanes);
     const DecodedPackets decoded = decodedFor(file, every(everyMs), lanes, pictures);
     QVERIFY(decoded.times.size() >= pictures);
-    // A decoder gives a frame when it has got those that may be shown before it: at the end of a
-    // group of pictures these are the first of the next one, whose turn comes once more.
+    // A decoder delivers a frame when it has the packets that may be shown before it: at the end of
+    // a group of pictures these are the first of the next one, which is decoded again later.
     const int groups = testsupport::keyFrames(testsupport::sampleNamed(file)).size();
     const int repeated = decoded.total() - decoded.times.size();
     QVERIFY2(repeated <= mostReordered * (groups - 1), qPrintable(QString::number(repeated)));

@@ -65,7 +65,7 @@ void SeriesPlanTest::stretches_holdEachTargetOnce_inOrder()
 
 void SeriesPlanTest::stretches_beginAtKeyFrames_whereTheseAreKnown()
 {
-    // 20 targets to a group of pictures, whatever the number of targets that stay together.
+    // 20 targets per group of pictures, whatever the number of targets that stay together.
     const SeriesPlan plan = planTargets(targetsEvery(500, 60), keysEvery(10000, 3), 2);
     QCOMPARE(plan.stretches.size(), 3);
     QCOMPARE(plan.stretches.at(1).begin, 20);

@@ -38,7 +38,7 @@ private Q_SLOTS:
     void contentOfWaitingPictures_canBeStored();
 };
 
-/// Three colours of two seconds each, beside a number that changes with every frame.
+/// Three colours of two seconds each, with a number that changes on every frame.
 void SeriesRunnerTest::scenes_beginWhereTheContentChanges()
 {
     Record record;
@@ -196,7 +196,7 @@ void SeriesRunnerTest::brokenVideos_endWithAnError_andOthersGoOn()
     QVERIFY(!record.of(6).isEmpty());
 }
 
-/// Cut to nothing while it is read.
+/// Truncated to nothing while being read.
 void SeriesRunnerTest::vanishingVideos_failTheirPictures_andOthersGoOn()
 {
     const testsupport::TestDir dir;
@@ -237,7 +237,7 @@ void SeriesRunnerTest::nothing_isTaken_whenCancelledBefore()
     QVERIFY(record.pictures.isEmpty());
 }
 
-/// The first picture holds up all that come after it in another lane.
+/// The first picture delays all later ones of other lanes.
 void SeriesRunnerTest::contentOfWaitingPictures_canBeStored()
 {
     const QByteArray mark("stored");

@@ -15,7 +15,7 @@ CommandLine parsed(const std::vector<std::string>& arguments)
     return stills::parseCommandLine(arguments);
 }
 
-/// The options of a right call; those of an empty one, and a failure, after a wrong one.
+/// The options of a valid call; after an invalid one, default options and a failed check.
 Options optionsOf(const std::vector<std::string>& arguments)
 {
     const CommandLine line = parsed(arguments);

@@ -33,7 +33,7 @@ void FileNameCodecTest::text_isReadAsUtf8_data()
     QTest::newRow("umlauts") << QStringLiteral(u"Übergröße");
     QTest::newRow("kanji") << QStringLiteral(u"映像");
     QTest::newRow("beyond U+FFFF") << QStringLiteral(u"🎬.mp4");
-    // The second half of these looks like the mark of a byte.
+    // The second half of these looks like an escaped byte.
     QTest::newRow("U+104FF") << QStringLiteral(u"\U000104ff\U00010480");
     QTest::newRow("empty") << QString();
 }
@@ -62,8 +62,8 @@ void FileNameCodecTest::allBytes_comeBack()
     if (!stills::FileNameCodec::isWhole) {
         QSKIP("This version of Qt takes all names for UTF-8.");
     }
-    // Each pair of bytes, and what UTF-8 forbids: long forms, surrogates, beyond the last
-    // character.
+    // Invalid pairs of bytes, and sequences forbidden in UTF-8: overlong forms, surrogates, beyond
+    // the last character.
     QList<QByteArray> names{"\xc0\x80",         "\xed\xa0\x80\xed\xb0\x80",
                             "\xf4\x90\x80\x80", "\xe0\x80\x80",
                             "\xf0\x9f\x8e",     "\xf8\x88\x80\x80\x80"};

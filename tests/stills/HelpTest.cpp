@@ -28,7 +28,7 @@ private Q_SLOTS:
 void HelpTest::shortHelp_fitsAScreen()
 {
     const QList<QByteArray> lines = bytes(stills::shortHelp()).split('\n');
-    // The line behind the last one is where the shell asks for the next command.
+    // The shell's prompt needs the line after the last one.
     QVERIFY(lines.size() <= 24);
     for (const QByteArray& line : lines) {
         QVERIFY2(line.size() < 80, line.constData());
@@ -65,7 +65,7 @@ void HelpTest::manualPage_hasEveryOption()
     }
     for (const QByteArray& line : page.split('\n')) {
         QVERIFY2(line.size() <= 80, line.constData());
-        // A point or an apostrophe at the start of a line is a command.
+        // A full stop or an apostrophe at the start of a line is a command.
         QVERIFY2(!line.startsWith('\''), line.constData());
     }
 }

@@ -27,7 +27,7 @@ constexpr int quality = 77;
 constexpr QSize smaller{101, 67};
 const QString usual = QStringLiteral("auto");
 
-/// Like the window's profiles; full size for an empty one.
+/// Settings like the window's profiles; full size if the size is empty.
 std::unique_ptr<ImageProfile> profileFor(const QSize& size, const QString& deinterlacing,
                                          const WatermarkProfile* mark)
 {
@@ -44,7 +44,7 @@ std::unique_ptr<ImageProfile> profileFor(const QSize& size, const QString& deint
     return profile;
 }
 
-/// What to ask for to get the picture of a file whose name is its time.
+/// The position to request for a file that is named by its time.
 QString timeIn(const QString& file)
 {
     const QStringList parts = file.split(QLatin1Char('.'));
@@ -106,7 +106,7 @@ QByteArray byBatchJob(const QString& video, qint64 ms, const QSize& size,
     return onlyContent(dir.path());
 }
 
-/// What the window does with the frame on screen.
+/// The result of the window for the frame on screen.
 QByteArray bySnapshot(const QString& video, qint64 ms, const QSize& size,
                       const QString& deinterlacing = usual, const WatermarkProfile* mark = nullptr)
 {
@@ -134,7 +134,7 @@ QByteArray bySnapshot(const QString& video, qint64 ms, const QSize& size,
 
 } // namespace
 
-/// Whatever takes a frame, the same settings make the same file of it.
+/// The same settings make the same file, whichever part of the program takes the frame.
 class SamePictureTest : public QObject
 {
     Q_OBJECT
@@ -189,7 +189,7 @@ void SamePictureTest::metadata_isTheSame_whateverTookThePicture()
     QVERIFY(bySnapshot(video, 1000, QSize()) == bytes);
 }
 
-/// What makes a whole picture of one is the frame before it, too, in another group of pictures.
+/// A whole picture also depends on the previous frame, which is in another group of pictures.
 void SamePictureTest::combingKeyFrames_areTheSame_byThemselvesAndByTheirTimes()
 {
     for (const char* const name : {"fields_mpeg2_tff.ts", "fields_h264_tff.mp4"}) {
@@ -215,7 +215,7 @@ void SamePictureTest::combingKeyFrames_areTheSame_byThemselvesAndByTheirTimes()
     }
 }
 
-/// Of a picture that combs.
+/// With a combing picture.
 void SamePictureTest::deinterlacing_isTheSame_forStillsBatchJobsAndSnapshots()
 {
     const QString video = samplePath(QStringLiteral("fields_mpeg2_tff.ts"));
@@ -232,7 +232,7 @@ void SamePictureTest::deinterlacing_isTheSame_forStillsBatchJobsAndSnapshots()
         near[deinterlacing] = byBatchJob(video, ms, {}, deinterlacing, Frames::Near);
         QVERIFY(!near[deinterlacing].isEmpty());
     }
-    // The files tell what was asked for, so that it is the pictures that are the same.
+    // The files record the requested position, so only the pictures are compared.
     for (const auto& outcome : {exact, near}) {
         const QImage automatic = QImage::fromData(outcome[QStringLiteral("auto")]);
         QVERIFY(!automatic.isNull());
@@ -250,7 +250,7 @@ void SamePictureTest::watermark_isTheSame_forStillsBatchJobsAndSnapshots_data()
     QTest::newRow("picture, relative") << false << true;
 }
 
-/// The profile is read from its file, as users have it.
+/// The profile is read from its file, as for users.
 void SamePictureTest::watermark_isTheSame_forStillsBatchJobsAndSnapshots()
 {
     QFETCH(bool, isText);

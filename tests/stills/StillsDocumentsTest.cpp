@@ -28,7 +28,7 @@ QString guide()
     return contentOf(QStringLiteral("docs/user-guide/user-guide.html"));
 }
 
-/// The lines of a document's examples that start the program, as a shell reads them.
+/// The lines of a document's examples that start the program, as interpreted by a shell.
 QStringList commandsIn(const QString& document)
 {
     QStringList commands;
@@ -45,7 +45,7 @@ QStringList commandsIn(const QString& document)
     return commands;
 }
 
-/// A film of 70 seconds with 350 frames, as the examples ask for it.
+/// A film of 70 seconds with 350 frames, as required by the examples.
 void makeFilm(const QString& path)
 {
     const ProgramResult result =
@@ -163,7 +163,7 @@ void StillsDocumentsTest::objects_haveTheDocumentedKeys()
         if (line.isEmpty()) {
             continue;
         }
-        // The keys in their order: those of the document's example of the same type.
+        // The keys must be those of the document's example of the same type, in the same order.
         static const QRegularExpression key(QStringLiteral("[{,](\"[a-z_]+\"):"));
         const auto keysOf = [](const QString& text) {
             QStringList keys;

@@ -28,7 +28,7 @@ namespace {
 
 const QString largeSample = QStringLiteral("h264_2160p.mp4");
 
-/// Whether every file is a whole picture, and none is one that was begun.
+/// Whether every file is a complete picture, without unfinished ones.
 bool areWhole(const QString& folder)
 {
     for (const QString& name : filesIn(folder)) {
@@ -182,7 +182,7 @@ void StillsFailuresTest::interruption_endsAtOnce_withWholeFiles()
     QFETCH(const int, status);
     QFETCH(const QString, file);
     const TestDir dir;
-    // More work than is ever done: the same video under many names.
+    // More work than can be finished: the same video under many names.
     QStringList arguments = words("--every 1ms -f png -o") + QStringList{dir.path()};
     for (int i = 0; i < 200; ++i) {
         arguments += QString(i, QLatin1Char('/')) + samplePath(file);
@@ -289,7 +289,7 @@ void StillsFailuresTest::closedPipe_endsTheRun()
                     QStringLiteral("bash"), stillsprogram::program()} +
             options.split(QLatin1Char(' ')) + words("--every 1ms -f png") + QStringList{video},
         60000, stillsprogram::environment());
-    // No signal ended it: the status would be above 128.
+    // A signal would give a status above 128.
     QCOMPARE(result.exitCode, 1);
     for (const QString& name : filesIn(dir.path())) {
         QVERIFY(!name.startsWith(QLatin1Char('.')));

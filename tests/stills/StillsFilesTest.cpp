@@ -30,7 +30,7 @@ QString copySample(const QString& to, const QString& sample = shortSample)
     return to;
 }
 
-/// The names and times of all files, which tell whether any was written again.
+/// The names and times of all files, which show whether any was written again.
 QStringList state(const QString& folder)
 {
     QStringList files;
@@ -217,7 +217,7 @@ void StillsFilesTest::skipExisting_decodesNothing_whenAllIsThere()
     const QStringList arguments =
         words("--every 500ms --skip-existing -o") + QStringList{out, video};
     QVERIFY(stillsprogram::run(arguments).succeeded());
-    // What is left of the video tells its length, and none of its frames can be decoded.
+    // The rest of the video states its length, but none of its frames can be decoded.
     QFile file(video);
     QVERIFY(file.open(QIODevice::ReadWrite));
     const QByteArray content = file.readAll();
@@ -235,7 +235,7 @@ void StillsFilesTest::skipExisting_decodesNothing_whenAllIsThere()
 
 void StillsFilesTest::skipExisting_makesNoSecondPicture_ofAFrame()
 {
-    // One frame a second: four positions mean each.
+    // One frame per second: four positions mean the same frame.
     const TestDir dir;
     const QStringList arguments{samplePath(QStringLiteral("h264_1fps.mp4")),
                                 QStringLiteral("--every"),

@@ -30,7 +30,7 @@ const ColourSample& colourSample(const QString& file)
                          [&](const ColourSample& sample) { return sample.file == file; });
 }
 
-/// Takes the first picture of a video into the folder; its path, or an empty text.
+/// Takes the first picture of a video into the folder; returns its path, or an empty text.
 QString takeFirst(const QString& video, const QStringList& options, const QString& folder)
 {
     const ProgramResult result =
@@ -65,7 +65,7 @@ bool isNear(QRgba64 pixel, const Rgb& expected)
 
 } // namespace
 
-/// High dynamic range that stays what it is, for those who grade on.
+/// High dynamic range that stays as it is stored, for colour grading.
 class StillsHdrTest : public QObject
 {
     Q_OBJECT
@@ -114,7 +114,7 @@ void StillsHdrTest::storedPictures_haveTheVideosValues()
             reinterpret_cast<const QRgba64*>(image.constScanLine(middle.y()))[middle.x()];
         QVERIFY(isNear(pixel, testsupport::valuesOf(patches[i], sample)));
     }
-    // In the profile, and for PNG in a chunk of its own.
+    // In the profile, and for PNG also in a chunk.
     const QByteArray profile = QImage(path).colorSpace().iccProfile();
     QVERIFY(profile.contains("cicp" + QByteArray(4, '\0') + codePoints));
     const bool hasChunk = contentOf(path).contains("cICP" + codePoints);

@@ -27,7 +27,7 @@ struct Studio
     QString out = dir.filePath(QStringLiteral("out"));
     QString still;
 
-    /// False where the still could not be made.
+    /// Returns false if the still could not be made.
     [[nodiscard]] bool make(const QStringList& options)
     {
         if (!QFile::copy(samplePath(shortSample), video)) {
@@ -39,7 +39,7 @@ struct Studio
         return result.succeeded() && filesIn(out).size() == 1;
     }
 
-    /// The path of the picture that the options make beside --like, in a new folder; empty where
+    /// The path of the picture made by the options together with --like, in a new folder; empty if
     /// there is none.
     [[nodiscard]] QString again(const QStringList& options, const QString& folder) const
     {
@@ -93,7 +93,7 @@ void StillsLikeTest::like_makesTheSameFileAgain()
     QVERIFY(!path.isEmpty());
     QCOMPARE(QFileInfo(path).suffix(), QFileInfo(studio.still).suffix());
     if (options.contains(QLatin1String("--frames"))) {
-        // Its file alone tells the frame's number.
+        // Only its file contains the frame's number.
         QCOMPARE(QImage(path), QImage(studio.still));
     } else {
         QVERIFY(contentOf(path) == contentOf(studio.still));

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int videoCount = testsupport::isSanitized ? 200 : 1000;
 
-/// Each tenth is broken.
+/// Every tenth one is broken.
 bool isBroken(int i)
 {
     return i % 10 == 7;
@@ -61,7 +61,7 @@ void StillsManyVideosTest::everyVideo_isAccountedFor_alsoBrokenAndVanishedOnes()
                                                  QStringLiteral("-c1"), QStringLiteral("--json"),
                                                  QStringLiteral("-o"), out});
     QVERIFY(process.waitForReadyRead());
-    // The program is at work; these are gone before their turn comes, or while they are read.
+    // The program is running; these are removed before their turn, or while being read.
     for (int i = videoCount - 100; i < videoCount; ++i) {
         QVERIFY(QFile::remove(QDir(videos).filePath(videoName(i))));
     }

@@ -19,7 +19,7 @@ using testsupport::TestDir;
 
 namespace {
 
-/// What another program reads in a picture, by group and name as in "EXIF:Make".
+/// What another program reads from a picture, by group and name as in "EXIF:Make".
 QJsonObject tagsOf(const QString& path)
 {
     const ProgramResult result = testsupport::runProgram(
@@ -36,7 +36,7 @@ QString textOf(const QJsonObject& tags, const char* key)
     return tags.value(QLatin1String(key)).toVariant().toString();
 }
 
-/// Takes one picture of a video into the folder; its path, or an empty text.
+/// Takes one picture of a video into the folder; returns its path, or an empty text.
 QString takeOne(const QString& video, const QStringList& options, const QString& folder)
 {
     const ProgramResult result =

@@ -93,7 +93,7 @@ QList<int> stillsprogram::numbersIn(const QString& folder)
 
 stillsprogram::InterruptibleProcess::InterruptibleProcess(const QStringList& arguments)
 {
-    // Shells start what runs in the background with this one ignored, and so would the program be.
+    // Shells ignore this signal for background processes, and the program would inherit that.
     static_cast<void>(std::signal(SIGINT, SIG_DFL));
     setProcessEnvironment(stillsprogram::environment());
     start(stillsprogram::program(), arguments);

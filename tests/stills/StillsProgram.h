@@ -9,7 +9,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Starts the program `stills` as users do, and looks at what it leaves.
+/// Starts the program `stills` as users do, and inspects its results.
 namespace stillsprogram {
 
 /// 100 frames, 25 a second.
@@ -18,26 +18,27 @@ inline const QString shortSample = QStringLiteral("h264_bframes.mp4");
 /// The program's path.
 [[nodiscard]] QString program();
 
-/// A machine without a display and in no country's language.
+/// A machine without a display and with a neutral locale.
 [[nodiscard]] QProcessEnvironment environment();
 
-/// Runs the program to its end.
+/// Runs the program until it ends.
 [[nodiscard]] testsupport::ProgramResult run(const QStringList& arguments);
 
-/// Runs it with `--json` and `-o folder`, and expects no message beside the objects' own.
+/// Runs it with `--json` and `-o folder`; there must be no messages other than those of the
+/// objects.
 [[nodiscard]] testsupport::ProgramResult runJson(const QStringList& arguments,
                                                  const QString& folder);
 
-/// The objects on standard output; ends the test program where a line is none.
+/// The objects on standard output; ends the test program if a line is not an object.
 [[nodiscard]] QList<QJsonObject> objects(const QByteArray& output);
 
-/// Those of one type.
+/// The objects of one type.
 [[nodiscard]] QList<QJsonObject> objects(const QByteArray& output, const QString& type);
 
-/// The names of all files in the folder, hidden ones too, in order.
+/// The names of all files in the folder, including hidden ones, sorted.
 [[nodiscard]] QStringList filesIn(const QString& folder);
 
-/// The bytes of a file; none where it cannot be read.
+/// The bytes of a file; empty if it cannot be read.
 [[nodiscard]] QByteArray contentOf(const QString& path);
 
 /// The words of a text, as arguments.
@@ -46,7 +47,7 @@ inline const QString shortSample = QStringLiteral("h264_bframes.mp4");
 /// The numbers in the pictures of a folder, by name; -1 for a picture without a readable one.
 [[nodiscard]] QList<int> numbersIn(const QString& folder);
 
-/// A process that can be interrupted however the tests themselves were started.
+/// A process that can be interrupted regardless of how the tests were started.
 class InterruptibleProcess : public QProcess
 {
 public:
@@ -54,7 +55,7 @@ public:
     explicit InterruptibleProcess(const QStringList& arguments);
     ~InterruptibleProcess() override;
 
-    /// Waits until a file is in the folder; false after a while.
+    /// Waits until a file is in the folder; false after a time limit.
     [[nodiscard]] bool waitForFileIn(const QString& folder);
 };
 

@@ -10,12 +10,12 @@
 using testsupport::ProgramResult;
 using testsupport::runProgram;
 
-// How the names of the libraries begin.
+// Prefix of the names of Qt's libraries.
 #define QT "Qt" QT_STRINGIFY(QT_VERSION_MAJOR)
 
 namespace {
 
-/// The libraries that a file needs at its start, by the dynamic linker's own account.
+/// The libraries that a file needs at its start, as reported by the dynamic linker.
 QByteArray librariesOf(const QString& file)
 {
     const ProgramResult result = runProgram(QStringLiteral("ldd"), {file});

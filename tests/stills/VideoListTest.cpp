@@ -21,7 +21,7 @@ void putFile(const QString& path, const QByteArray& content = {})
     }
 }
 
-/// The videos that are found, by their paths within the folder.
+/// The videos found, by their paths within the folder.
 QStringList found(const Options& options, const TestDir& dir)
 {
     QStringList names;

@@ -43,7 +43,7 @@ Matrix3 inverse(const Matrix3& m)
     return result;
 }
 
-/// XYZ of linear red, green and blue whose white is D65.
+/// XYZ of linear red, green and blue with the white point D65.
 Matrix3 toXyz(const Chromaticities& primaries)
 {
     Matrix3 columns{};
@@ -63,7 +63,7 @@ Matrix3 toXyz(const Chromaticities& primaries)
     return columns;
 }
 
-/// ITU-R BT.2390, section 5.4, without a lift of black.
+/// ITU-R BT.2390, section 5.4, without black lift.
 double shownNits(double nits, double peakNits)
 {
     const double value = std::min(pqOf(nits) / pqOf(peakNits), 1.0);
@@ -79,7 +79,7 @@ double shownNits(double nits, double peakNits)
     return nitsOfPq(result * pqOf(peakNits));
 }
 
-/// The shares of red and blue in luma, by ITU-R BT.601, BT.709 and BT.2020.
+/// The weights of red and blue in luma, by ITU-R BT.601, BT.709 and BT.2020.
 std::array<double, 2> sharesOf(Matrix matrix)
 {
     switch (matrix) {

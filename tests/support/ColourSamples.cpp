@@ -63,7 +63,7 @@ const QList<ColourSample>& colourSamples()
 
 QList<PatchCodes> patchCodes(const ColourSample& sample)
 {
-    // As tests/media/recipes/40_colours.sh has them.
+    // The values of tests/media/recipes/40_colours.sh.
     QList<PatchCodes> codes{{16, 128, 128},  {235, 128, 128}, {60, 128, 128},  {120, 100, 160},
                             {120, 160, 100}, {150, 100, 110}, {100, 150, 150}, {81, 90, 240}};
     if (sample.bits == 10) {

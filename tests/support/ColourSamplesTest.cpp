@@ -36,7 +36,7 @@ QByteArray rangeTag(const ColourSample& sample)
     return sample.fullRange ? "pc" : "tv";
 }
 
-/// The stored planes of the first frame, each code in the bytes of its depth.
+/// The stored planes of the first frame, with each code in the bytes of its depth.
 QByteArray storedFrame(const ColourSample& sample)
 {
     return runProgram(QStringLiteral("ffmpeg"),
@@ -77,7 +77,7 @@ private slots:
              QStringLiteral("stream=width,height,color_range,color_space"), QStringLiteral("-of"),
              QStringLiteral("csv=p=0"), samplePath(sample.file)});
         if (sample.file == QLatin1String("colour_pq_boxes.mp4")) {
-            // The stream says nothing, and then ffprobe forgets what the container said.
+            // The stream states nothing, and then ffprobe drops what the container states.
             QFile file(samplePath(sample.file));
             QVERIFY(file.open(QIODevice::ReadOnly));
             QVERIFY(file.readAll().contains(QByteArray("colrnclx\0\x09\0\x10\0\x09\0", 15)));
@@ -85,7 +85,7 @@ private slots:
         }
         const QByteArray size = QByteArray::number(sample.size.width()) + "," +
                                 QByteArray::number(sample.size.height());
-        // A comma behind them where the stream has side data, too.
+        // A comma follows them if the stream has side data, too.
         const QList<QByteArray> told = result.standardOutput.trimmed().split(',').mid(0, 4);
         QCOMPARE(told.join(','), size + "," + rangeTag(sample) + "," + matrixTag(sample));
     }

@@ -10,15 +10,15 @@ namespace {
 
 constexpr int blockCount = 16;
 constexpr int numberBits = blockCount - 2;
-// The two rows together are a sixth of the picture's height.
+// The two rows together take a sixth of the picture's height.
 constexpr int rowsPerHeight = 12;
 constexpr QSize smallestPicture{32, 24};
 
-// Limits of what passes for black and for white. Between them a block is a blend or damaged.
+// Limits for black and for white. A block between them is a blend or damaged.
 constexpr int darkest = 95;
 constexpr int brightest = 160;
 
-/// Average brightness of the inner half of a block, clear of what bleeds in from its neighbours.
+/// Average brightness of the inner half of a block, unaffected by its neighbours.
 int blockBrightness(const QImage& picture, int column, int row)
 {
     const double blockWidth = double(picture.width()) / blockCount;
@@ -36,7 +36,7 @@ int blockBrightness(const QImage& picture, int column, int row)
     return int(sum / ((right - left) * (bottom - top)));
 }
 
-/// The bit of a column, where both rows agree on it.
+/// The bit of a column, if both rows agree on it.
 std::optional<bool> columnBit(const QImage& picture, int column)
 {
     const int upper = blockBrightness(picture, column, 0);
@@ -50,7 +50,7 @@ std::optional<bool> columnBit(const QImage& picture, int column)
     return std::nullopt;
 }
 
-/// The picture as it was before it was laid as named.
+/// Reverts the orientation of the picture.
 QImage laidBack(const QImage& picture, Orientation laid)
 {
     const auto turned = [&](int degrees) {

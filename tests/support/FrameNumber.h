@@ -4,7 +4,7 @@
 
 #include <optional>
 
-/// Reads what the sample videos write into their pictures.
+/// Reads the frame numbers in the pictures of sample videos.
 ///
 /// The top sixth of a picture is two rows of 16 blocks. The upper row is a white block, the 14 bits
 /// of the frame's number (white for 1, highest first) and a black block; the lower row is its
@@ -12,11 +12,11 @@
 /// the outer blocks tell an upright picture from a turned or mirrored one.
 namespace testsupport {
 
-/// The number in an upright picture of any size from 32x24 up, stretched or not. Nothing when the
-/// blocks cannot be read beyond doubt, which includes turned and mirrored pictures.
+/// The number in an upright picture of any size from 32x24 up, stretched or not. Nothing if the
+/// blocks cannot be read reliably, which includes rotated and mirrored pictures.
 [[nodiscard]] std::optional<int> frameNumber(const QImage& picture);
 
-/// How a picture lies: what was done to an upright one to get it. Turns are clockwise.
+/// The orientation of a picture: how an upright one was transformed. Rotations are clockwise.
 enum class Orientation {
     Upright,
     Turned90,
@@ -28,10 +28,10 @@ enum class Orientation {
     AntiTransposed, ///< mirrored at the diagonal from the upper right
 };
 
-/// How the picture lies; nothing when no orientation shows a number.
+/// The orientation of the picture; nothing if no orientation shows a number.
 [[nodiscard]] std::optional<Orientation> orientation(const QImage& picture);
 
-/// True for a picture with a readable number that is neither turned nor mirrored.
+/// True for a picture with a readable number that is neither rotated nor mirrored.
 [[nodiscard]] bool isUpright(const QImage& picture);
 
 } // namespace testsupport

@@ -9,7 +9,7 @@ Q_DECLARE_METATYPE(testsupport::Orientation)
 
 namespace {
 
-/// A picture as the sample videos have them, drawn independently of them.
+/// A picture like those of the sample videos, drawn independently.
 QImage numberedPicture(int number, QSize size = {320, 240})
 {
     QImage picture(size, QImage::Format_RGB32);
@@ -81,7 +81,7 @@ private slots:
     {
         QTest::addColumn<QTransform>("transform");
         QTest::addColumn<Orientation>("expected");
-        // QTransform takes the matrix row by row, for row vectors: x' = m11 x + m21 y.
+        // QTransform expects the matrix row by row, for row vectors: x' = m11 x + m21 y.
         QTest::newRow("upright") << QTransform() << Orientation::Upright;
         QTest::newRow("90") << QTransform(0, 1, -1, 0, 0, 0) << Orientation::Turned90;
         QTest::newRow("180") << QTransform(-1, 0, 0, -1, 0, 0) << Orientation::Turned180;

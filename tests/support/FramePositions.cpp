@@ -10,7 +10,7 @@ namespace {
 constexpr qint64 pixelsOfSmallPicture = 320 * 240;
 constexpr int namedMistakes = 8;
 
-/// How many small pictures must be decoded to reach each frame from its key frame, in all.
+/// Total number of small pictures to decode for reaching each frame from its key frame.
 qint64 decodedInAll(const Sample& sample, const QList<int>& keys)
 {
     qint64 frames = 0;
@@ -43,7 +43,7 @@ QList<int> framesToAskFor(const Sample& sample, int mostDecoded)
     for (int n = 0; n < sample.frames; ++n) {
         const bool isAtEnd = n == 0 || n == sample.frames - 1;
         const bool isAtKey = keys.contains(n) || keys.contains(n + 1);
-        // All-key videos have no frame that is not near one.
+        // In all-key videos every frame is near one.
         const bool isSpecial = isAtEnd || (isAtKey && keys.size() * 6 < sample.frames);
         if (n % stride == 0 || isSpecial) {
             frames.append(n);

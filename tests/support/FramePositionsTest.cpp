@@ -7,7 +7,7 @@
 
 using namespace testsupport;
 
-/// What the tests of every frame build on.
+/// The basis of the tests of every frame.
 class FramePositionsTest : public QObject
 {
     Q_OBJECT

@@ -5,8 +5,7 @@
 namespace testsupport {
 
 /// Writes a copy of mjpeg.avi in which all pictures from a number on declare 1000 by 1000 pixels,
-/// which is more than 1 MiB may hold; returns false if that fails. The pictures before them are
-/// whole.
+/// which exceeds a limit of 1 MiB. The pictures before them are intact. Returns false on failure.
 [[nodiscard]] bool writeGrowingVideo(int number, const QString& path);
 
 } // namespace testsupport

@@ -5,8 +5,8 @@
 
 namespace testsupport {
 
-/// The picture's pixels in a format, to be compared: Qt 6 calls pictures different whose colour
-/// profiles are.
+/// The picture's pixels in a format, for comparison: in Qt 6 pictures with different colour
+/// profiles are not equal.
 inline QImage pixelsOf(const QImage& image, QImage::Format format)
 {
     QImage pixels = image.convertToFormat(format);

@@ -13,8 +13,8 @@ namespace testsupport {
 
 namespace {
 
-/// The bytes that the process can write to and shares with no other one. (Not all of its address
-/// space: the C library reserves much of that beforehand.)
+/// Writable bytes that the process does not share with others. (Not its whole address space, much
+/// of which the C library reserves beforehand.)
 rlim_t takenMemory()
 {
     constexpr int dataField = 5;

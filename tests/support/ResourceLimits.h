@@ -7,7 +7,7 @@
 
 namespace testsupport {
 
-/// While it lives, no file of the process can grow beyond the size: what a full disk is like.
+/// During its lifetime, no file of the process can grow beyond the size, as on a full disk.
 class FileSizeLimit
 {
 public:
@@ -21,9 +21,10 @@ private:
     sighandler_t m_handler = SIG_DFL;
 };
 
-/// While it lives, the process gets only so much memory beside what it has.
+/// During its lifetime, the process gets only this much additional memory.
 ///
-/// Leave some room for the small things that the code under test and the test itself need. Large
+/// Leave some room for small allocations of the code under test and of the test itself. Large
+/// blocks freed before might be reused, so call prepare() when the test program starts.
 /// blocks freed before might still be found, so call prepare() when the test program starts.
 class MemoryLimit
 {
@@ -33,11 +34,11 @@ public:
     MemoryLimit(const MemoryLimit&) = delete;
     MemoryLimit& operator=(const MemoryLimit&) = delete;
 
-    /// False where a case has to be skipped: sanitizers end the program that gets no memory, and
-    /// what a process has is known on Linux only.
+    /// False if a case must be skipped: sanitizers end a program that gets no memory, and the
+    /// memory of a process is known only on Linux.
     [[nodiscard]] static bool isPossible();
 
-    /// Makes the process give large blocks of memory back to the system as soon as they are freed.
+    /// Makes the process return large blocks of memory to the system as soon as they are freed.
     static void prepare();
 
 private:

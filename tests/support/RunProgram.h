@@ -7,14 +7,14 @@
 
 namespace testsupport {
 
-/// How a program that a test ran came to its end.
+/// How a program run by a test ended.
 struct ProgramResult
 {
     enum class End {
-        Exited,     ///< by itself; exitCode holds
+        Exited,     ///< by itself; exitCode is valid
         Crashed,    ///< by a signal
         TimedOut,   ///< it was killed at the time limit
-        NotStarted, ///< there is no such program, or it may not be run
+        NotStarted, ///< there is no such program, or it is not executable
     };
 
     End end = End::NotStarted;
@@ -22,12 +22,12 @@ struct ProgramResult
     QByteArray standardOutput;
     QByteArray standardError;
 
-    /// True when the program exited by itself with status 0.
+    /// True if the program exited by itself with status 0.
     [[nodiscard]] bool succeeded() const { return end == End::Exited && exitCode == 0; }
 };
 
-/// Runs a program without standard input, waits for its end and collects what it wrote. Blocks, at
-/// most timeoutMs milliseconds and the moment that killing takes.
+/// Runs a program without standard input, waits for its end and collects its output. Blocks at most
+/// timeoutMs milliseconds, plus the time for killing it.
 [[nodiscard]] ProgramResult
 runProgram(const QString& program, const QStringList& arguments, int timeoutMs = 60000,
            const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());

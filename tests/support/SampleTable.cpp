@@ -17,7 +17,7 @@ constexpr Rational ntscFields{60000, 1001};
 constexpr QSize palSize{720, 576};
 constexpr QSize oddSize{321, 241};
 
-/// The unit of the times in a container, told by the file's extension.
+/// The unit of the times in a container, determined by the file's extension.
 Rational tickOf(const QString& file)
 {
     const QString extension = QFileInfo(file).suffix();
@@ -38,7 +38,7 @@ Rational tickOf(const QString& file)
     return {0, 1};
 }
 
-/// Builds one entry of the table; what is not said is as in most samples.
+/// Builds one entry of the table, with the defaults of most samples.
 struct Entry : Sample
 {
     Entry(const char* name, int frameCount, Rational rate = pal, QSize size = small)
@@ -149,7 +149,7 @@ QList<Sample> codecSamples()
         Entry("wmv2.wmv", 75),
         Entry("flv1.flv", 75),
         Entry("h264_bframes.flv", 75),
-        // The AVI says that its pixels are square, whatever the pictures in it say.
+        // The AVI states that its pixels are square, unlike the pictures in it.
         Entry("dv.avi", 15, pal, palSize).with(Trait::NoPresentationTimes),
         Entry("dv.dv", 15, pal, palSize)
             .shownAs({768, 576})
@@ -268,7 +268,7 @@ QList<Sample> containerSamples()
     };
 }
 
-/// What the encoder's packed B-frames leave: two empty chunks behind the first picture.
+/// The effect of the encoder's packed B-frames: two empty chunks behind the first picture.
 QList<qint64> xvidTimes()
 {
     QList<qint64> times{0};
@@ -308,7 +308,7 @@ QList<Sample> missingTimesSamples()
     };
 }
 
-/// Bursts of five frames 100 ms apart, each followed by 3, 10, 5 or 7 seconds without any.
+/// Bursts of five frames 100 ms apart, each followed by 3, 10, 5 or 7 seconds without frames.
 QList<qint64> screenRecordingTimes()
 {
     QList<qint64> times;
@@ -344,7 +344,7 @@ QList<Sample> gapSamples()
     };
 }
 
-/// Frames that come when they are ready: 33 ms apart, some of them left out.
+/// Frames that arrive when they are ready: 33 ms apart, some of them missing.
 QList<qint64> unsteadyTimes()
 {
     QList<qint64> times;

@@ -2,7 +2,7 @@
 
 #include "tests/support/Samples.h"
 
-/// The entries behind the lists of Samples.h, which is what tests include.
+/// The entries behind the lists of Samples.h. Tests include Samples.h.
 namespace testsupport {
 
 [[nodiscard]] QList<Sample> videoSampleTable();

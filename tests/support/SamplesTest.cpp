@@ -18,7 +18,7 @@ Q_DECLARE_METATYPE(testsupport::Sample)
 
 namespace {
 
-/// A filter that leaves what is to be shown. Newer FFmpeg has hidden the rest already.
+/// A filter that keeps the visible part. Newer FFmpeg has already hidden the rest.
 QString shownPart(const Sample& sample)
 {
     return sample.has(Trait::CleanAperture)
@@ -26,15 +26,15 @@ QString shownPart(const Sample& sample)
                : QStringLiteral("null");
 }
 
-/// The pictures of the first video, upright, in the order of showing and in the size as stored.
-/// Of a damaged file, those that come out.
+/// The pictures of the first video, upright, in presentation order and in the stored size. For a
+/// damaged file, those that can be decoded.
 QList<QImage> decodedByFfmpeg(const Sample& sample)
 {
     const bool sideways = sample.has(Trait::Sideways);
     const QSize size = sideways ? sample.codedSize.transposed() : sample.codedSize;
     const QStringList arguments{
         QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-nostdin"),
-        // Else it crops the left to a multiple of what its memory likes.
+        // Otherwise FFmpeg rounds the cropping at the left for aligned memory.
         QStringLiteral("-flags"), QStringLiteral("unaligned"), QStringLiteral("-i"),
         samplePath(sample.file), QStringLiteral("-map"), QStringLiteral("0:V:0"),
         QStringLiteral("-vsync"), QStringLiteral("passthrough"), QStringLiteral("-vf"),
@@ -61,8 +61,8 @@ ProgramResult ffprobe(const QStringList& arguments)
                       QStringList{QStringLiteral("-v"), QStringLiteral("error")} + arguments);
 }
 
-/// What ffprobe tells of each frame of the first video, beside its rate and the container's start.
-/// It decodes all of them: once for each sample.
+/// ffprobe's output for each frame of the first video, with its rate and the container's start. It
+/// decodes all of them, once per sample.
 QJsonObject probe(const Sample& sample)
 {
     static QHash<QString, QJsonObject> known;
@@ -86,15 +86,15 @@ double number(const QJsonObject& object, const QString& key)
     return isNumber ? value : std::nan("");
 }
 
-/// When the container starts. An MP4 is shown from 0 on, whatever FFmpeg 5.1 counts before that.
+/// The start of the container. An MP4 is shown from 0 on, whatever FFmpeg 5.1 counts before that.
 double startOf(const QJsonObject& format, const Sample& sample)
 {
     const double start = number(format, QStringLiteral("start_time"));
     return sample.file.endsWith(QLatin1String(".mp4")) && start < 0.0 ? 0.0 : start;
 }
 
-/// The shown frames that the ffmpeg program gives. It drops the picture that its MPEG-2 decoder
-/// holds back when pictures of another size follow.
+/// The shown frames from the ffmpeg program. It drops the picture that its MPEG-2 decoder holds
+/// back when the size of the pictures changes.
 QList<int> shownByFfmpeg(const Sample& sample)
 {
     const bool dropsOne =
@@ -108,15 +108,15 @@ QList<int> shownByFfmpeg(const Sample& sample)
     return frames;
 }
 
-/// Whole milliseconds since the container starts. Printed times are rounded to microseconds: 2 of
-/// them are not enough to reach the next tick of any container.
+/// Whole milliseconds since the container starts. Printed times are rounded to microseconds: adding
+/// 2 of them does not reach the next tick of any container.
 qint64 wholeMs(double seconds)
 {
     return qint64(std::floor((seconds + 2e-6) * 1000));
 }
 
-/// The times that the packets of the first video state, in the order of the file: those of
-/// decoding for what has no others. Nothing that ffprobe makes up.
+/// The times stated by the packets of the first video, in file order: decoding times for packets
+/// without others. Excludes times that ffprobe generates.
 QList<qint64> statedTimes(const Sample& sample)
 {
     const auto result =
@@ -125,7 +125,7 @@ QList<qint64> statedTimes(const Sample& sample)
                  QStringLiteral("-show_entries"), QStringLiteral("packet=pts_time,dts_time"),
                  QStringLiteral("-of"), QStringLiteral("json"), samplePath(sample.file)});
     const QJsonObject probed = QJsonDocument::fromJson(result.standardOutput).object();
-    // Not told when nothing is to be made up.
+    // Not printed if generating times is disabled.
     const QJsonObject format = probe(sample).value(QStringLiteral("format")).toObject();
     const double start = startOf(format, sample);
     const bool hasNone = sample.has(Trait::NoPresentationTimes);
@@ -165,7 +165,7 @@ class SamplesTest : public QObject
         }
     }
 
-    /// For files of which frames get no times from ffmpeg, or wrong ones.
+    /// For files in which ffmpeg gives frames no times, or wrong ones.
     static void checkStatedTimes(const Sample& sample)
     {
         const QList<qint64> times = frameTimes(sample);
@@ -183,11 +183,12 @@ class SamplesTest : public QObject
             QCOMPARE(stated, times);
             return;
         }
-        // What is stated there are decoding times at most; the rate is all that the file tells.
+        // They state at most decoding times; the file states only the rate.
         const QJsonArray streams = probe(sample).value(QStringLiteral("streams")).toArray();
         const QString rate =
             QStringLiteral("%1/%2").arg(sample.frameRate.num).arg(sample.frameRate.den);
-        // Newer FFmpeg finds fields' rate in raw.h264, or no average in dv.dv, but never both.
+        // Newer FFmpeg finds the rate of fields in raw.h264, or no average in dv.dv, but never
+        // both.
         const QJsonObject stream = streams.first().toObject();
         const QStringList rates{stream.value(QStringLiteral("r_frame_rate")).toString(),
                                 stream.value(QStringLiteral("avg_frame_rate")).toString()};
@@ -243,7 +244,7 @@ private slots:
         QCOMPARE(expected.first() == 0, !sample.has(Trait::StartsInsideGop));
         const QList<int> listed = keyFrames(sample);
         if (sample.has(Trait::IntraRefresh)) {
-            // The later ones are marked in the container, but no whole picture comes from them.
+            // The container marks later ones, but they give no complete picture.
             QVERIFY(listed.size() > expected.size());
             QCOMPARE(expected, QList<int>{0});
             QCOMPARE(listed.first(), 0);

@@ -2,7 +2,7 @@
 
 namespace testsupport {
 
-/// Whether a sanitizer watches, which makes every step several times as long.
+/// Whether a sanitizer is active, which makes every step several times slower.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool isSanitized = true;
 #else

@@ -5,8 +5,8 @@
 
 namespace testsupport {
 
-/// A folder that is a disk of a megabyte; gone with this object. Making one needs Linux and root's
-/// rights: without them, the folder is an ordinary one, and a case should be skipped.
+/// A folder that is a disk of a megabyte, removed with this object. It needs Linux and root
+/// privileges: without them, the folder is an ordinary one, and a case should be skipped.
 class SmallDisk
 {
 public:
@@ -16,10 +16,10 @@ public:
     SmallDisk& operator=(const SmallDisk&) = delete;
 
     [[nodiscard]] bool isThere() const { return m_isMounted; }
-    /// Of a file in it; of itself without a name.
+    /// The path of a file in it; its own path without a name.
     [[nodiscard]] QString path(const QString& name = {}) const { return m_folder.filePath(name); }
 
-    /// Takes all but some kilobytes, in a file of the name fillerName().
+    /// Uses all but some kilobytes, with a file of the name fillerName().
     void fill() const;
     /// Removes that file.
     void makeRoom() const;

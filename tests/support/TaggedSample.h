@@ -5,9 +5,9 @@
 
 namespace testsupport {
 
-/// Copies a sample to a path and writes metadata into it, each "key=value" of the file or, behind
-/// "s:", of its video. The path's suffix decides the container, which keeps what it can hold.
-/// False, with ffmpeg's message in the log, where that cannot be done.
+/// Copies a sample to a path and adds metadata: each "key=value" applies to the file or, with the
+/// prefix "s:", to its video. The path's suffix selects the container, which keeps what it
+/// supports. Returns false, with ffmpeg's message in the log, on failure.
 [[nodiscard]] bool tagSample(const QString& sample, const QString& path, const QStringList& tags);
 
 } // namespace testsupport

@@ -6,12 +6,12 @@
 
 namespace testsupport {
 
-/// A temporary folder for one test case: removed at the end of the case, but kept, and its path
-/// printed, when the case failed. Create it on the case's stack.
+/// A temporary folder for one test case. It is removed at the end of the case; if the case failed,
+/// it is kept and its path printed. Create it on the case's stack.
 class TestDir
 {
 public:
-    /// Ends the test program when no folder can be made.
+    /// Ends the test program if no folder can be created.
     TestDir();
     ~TestDir();
     TestDir(const TestDir&) = delete;

@@ -22,7 +22,7 @@ Selection showAndEndWith(long response, Style style, Buttons buttons)
     return boxer::show("Message", "Title", style, buttons);
 }
 
-/// The journal's lines that start so, without that start.
+/// The journal's lines with this prefix, without the prefix.
 QStringList journalAfter(const QString& start)
 {
     QStringList found;
@@ -37,7 +37,7 @@ QStringList journalAfter(const QString& start)
 
 } // namespace
 
-/// The message box of macOS, messaging a stand-in of the runtime that keeps a journal.
+/// The message box of macOS, calling a fake runtime that keeps a journal.
 class BoxerMacTest : public QObject
 {
     Q_OBJECT

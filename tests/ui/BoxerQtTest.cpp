@@ -20,7 +20,7 @@ namespace {
 
 using Action = std::function<void(QMessageBox& box)>;
 
-/// Shows a box and does that to it once it is up.
+/// Shows a box and performs the action once it is visible.
 Selection showAnd(const Action& act, Style style, Buttons buttons)
 {
     QTimer::singleShot(0, qApp, [&act] {

@@ -29,7 +29,7 @@ QStringList images(const QString& pattern)
     return QDir(QStringLiteral(":/Images")).entryList({pattern}, QDir::Files);
 }
 
-/// How bright a colour is to the eye, 0 to 1 (WCAG's relative luminance).
+/// Perceived brightness of a colour, 0 to 1 (WCAG's relative luminance).
 double luminance(const QColor& color)
 {
     const auto linear = [](double value) {
@@ -109,7 +109,7 @@ void ResourcesTest::styleSheet_namesOnlyImagesThatExist()
 
 void ResourcesTest::styleSheet_leavesFontsAlone()
 {
-    // Font labels show a font of the user's.
+    // Font labels show the user's font.
     QLabel label;
     label.setFont(QFont(QStringLiteral("Courier"), 14, QFont::Bold));
     const QString before = label.font().toString();
@@ -177,7 +177,7 @@ void ResourcesTest::icons_areDrawn()
     QVERIFY(renderer.isValid());
     QCOMPARE(renderer.defaultSize().width(), renderer.defaultSize().height());
 
-    // What buttons show: through the icon engine, with room left around it.
+    // The icon as buttons show it: through the icon engine, with a margin.
     const QImage image = QIcon(QStringLiteral(":/Images/") + name).pixmap(QSize(48, 48)).toImage();
     QCOMPARE(image.size(), QSize(48, 48));
     int drawn = 0;
@@ -199,7 +199,7 @@ void ResourcesTest::icons_standOutOnLightAndDark_data()
     QTest::addColumn<QString>("name");
     const QStringList names = images(QStringLiteral("*.svg"));
     for (const QString& name : names) {
-        // The marks in check boxes lie on the highlight colour.
+        // The marks in check boxes are drawn on the highlight colour.
         if (name != QLatin1String("Check.svg") && name != QLatin1String("Dash.svg")) {
             QTest::newRow(qPrintable(name)) << name;
         }
@@ -208,7 +208,7 @@ void ResourcesTest::icons_standOutOnLightAndDark_data()
 
 void ResourcesTest::icons_standOutOnLightAndDark()
 {
-    // 3 : 1 is what the accessibility guidelines ask for controls.
+    // The accessibility guidelines require 3 : 1 for controls.
     QFETCH(QString, name);
     const QByteArray svg = contents(QStringLiteral(":/Images/") + name);
     const QRegularExpression colour(QStringLiteral("#[0-9a-f]{6}"));

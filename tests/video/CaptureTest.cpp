@@ -11,7 +11,7 @@ using testsupport::Sample;
 
 namespace {
 
-/// What the player captures: what is on screen.
+/// The player's capture of the picture on screen.
 QImage captured(Stage& stage)
 {
     QSignalSpy spy(stage.player.videoCapture(), &QtAV::VideoCapture::imageCaptured);
@@ -19,7 +19,7 @@ QImage captured(Stage& stage)
     return spy.wait(patienceMs) ? spy.at(0).at(0).value<QImage>() : QImage();
 }
 
-/// What a batch job takes at that time.
+/// The result of a batch job for that time.
 QImage extracted(FrameGrabber& grabber, qint64 ms)
 {
     QSignalSpy spy(&grabber, &FrameGrabber::frameExtracted);
@@ -33,7 +33,7 @@ QImage extracted(FrameGrabber& grabber, qint64 ms)
 
 } // namespace
 
-/// What is seen is what one gets: the player's picture is that of a batch job, to the byte.
+/// What you see is what you get: the player's picture equals that of a batch job, to the byte.
 class CaptureTest : public QObject
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ void CaptureTest::capture_isWhatIsExtracted_forEachFormat()
     QFETCH(QString, file);
     const Sample& sample = testsupport::sampleNamed(file);
     const int last = sample.frames - 1;
-    // Where an intra-refresh stream has whole pictures again: before, batch jobs take no frame.
+    // From here on an intra-refresh stream has complete pictures; before, batch jobs take no frame.
     const int middle = last * 5 / 7;
     Stage stage;
     QVERIFY(stage.open(file));

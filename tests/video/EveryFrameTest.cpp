@@ -21,16 +21,16 @@ using testsupport::Sample;
 
 namespace {
 
-/// How much is decoded for one row, in frames of 320x240, when each frame is to be had at its time:
+/// Limit on decoding for one row, in frames of 320x240, when each frame is requested at its time:
 /// all frames of most samples, some of those with long groups of pictures.
 constexpr int mostDecoded = 1700;
 constexpr int mostDecodedOnManyCores = 150;
-/// How many times less for what is asked beside that.
+/// Divisor of that limit for the other requests.
 constexpr int restShare = 5;
 
 constexpr int manyCores = 8;
 
-/// A grabber in a sample, and what it answered wrongly.
+/// A grabber in a sample, and its wrong answers.
 struct Grabbing
 {
     explicit Grabbing(const Sample& asked)
@@ -40,7 +40,7 @@ struct Grabbing
         grabber.setSource(testsupport::samplePath(sample.file));
     }
 
-    /// Asks for a position at which only the n-th frame is right.
+    /// Requests a position at which only the n-th frame is right.
     void expectFrame(qint64 ms, int n)
     {
         extractor.extract(ms);
@@ -104,7 +104,7 @@ void EveryFrameTest::extract_givesEachFrame_atItsTime()
     QVERIFY2(grabbing.mistakes.isEmpty(), qPrintable(grabbing.mistakes.text()));
 }
 
-/// By turns the first millisecond behind its predecessor, and the last one before it.
+/// Alternately the first millisecond behind its predecessor, and the last one before it.
 void EveryFrameTest::extract_givesEachFrame_shortlyBeforeItsTime()
 {
     QFETCH(const QString, file);

@@ -42,7 +42,7 @@ private Q_SLOTS:
     void abort_endsARunningExtraction();
 };
 
-/// However far behind the target the next frame is, it is the one that is on screen next.
+/// However far behind the target the next frame is, it is the one shown next.
 void FrameGrabberFailuresTest::extract_givesTheNextFrame_howeverFarAway()
 {
     FrameGrabber grabber;
@@ -144,8 +144,8 @@ void FrameGrabberFailuresTest::abort_isForgotten_beforeAnExtraction()
     QCOMPARE(frames.count(), 1);
 }
 
-/// When the request arrives is up to the threads: it is tried at rising delays until it was seen
-/// in the longest stretch, the decoding towards the target.
+/// The arrival of the request depends on the threads: it is tried with rising delays until it was
+/// noticed in the longest phase, decoding towards the target.
 void FrameGrabberFailuresTest::abort_endsARunningExtraction()
 {
     constexpr qint64 position = 9400;

@@ -19,17 +19,17 @@ namespace {
 
 /// A second between two frames is a gap, as in the slowest videos with a constant rate.
 constexpr qint64 longGapMs = 900;
-/// What a user may set, from exactly to hardly at all, and automatic.
+/// Typical settings, from exact to nearly arbitrary, and automatic.
 constexpr int precisions[] = {0, 8, -1};
 
-/// As far from a key frame it is not the answer, in milliseconds.
+/// At this distance from a key frame it is not the answer, in milliseconds.
 constexpr qint64 beyond(int precision)
 {
     constexpr int widestAutomatic = 500;
     return (precision < 0 ? widestAutomatic : precision) + 1;
 }
 
-/// The longest time without a frame in a sample, in milliseconds; before its first one too.
+/// The longest time without a frame in a sample, in milliseconds, including before its first one.
 qint64 longestGap(const Sample& sample)
 {
     qint64 longest = frameTimeMs(sample, 0);
@@ -41,8 +41,8 @@ qint64 longestGap(const Sample& sample)
 
 } // namespace
 
-/// What comes out at positions far away from any frame: a still that shows what follows is better
-/// than none, however long it takes until then.
+/// Results at positions far away from any frame: a still of what follows is better than none,
+/// however far away that is.
 class FrameGrabberGapsTest : public QObject
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ using testsupport::Trait;
 
 namespace {
 
-/// The key frame that a seek finds, counted among the shown frames; -1 for one that is never shown.
+/// The key frame that a seek finds, as an index of shown frames; -1 for one that is never shown.
 int keyFrameFor(const Sample& sample, qint64 target)
 {
     const QList<int> keys = testsupport::keyFrames(sample);
@@ -33,7 +33,7 @@ int keyFrameFor(const Sample& sample, qint64 target)
     return found < 0 && !hiddenKey && !keys.isEmpty() ? keys.first() : found;
 }
 
-/// The shown frame that must come out, counted from 0.
+/// The expected frame, as an index of shown frames.
 int expectedFrame(const Sample& sample, qint64 target, int precision)
 {
     const int key = keyFrameFor(sample, target);
@@ -49,7 +49,7 @@ QString expectedAnswer(const Sample& sample, qint64 target, int precision)
     return text(decoding::expected(sample, expectedFrame(sample, target, precision)));
 }
 
-/// An intra-refresh stream has no whole picture near most of its key packets: the first one may
+/// An intra-refresh stream has no complete picture near most of its key packets: the first one may
 /// come later, within tolerance or not, but never before the target.
 bool isAnswer(const Sample& sample, const Extractor& extractor, qint64 target, int precision)
 {
@@ -66,7 +66,7 @@ bool isAnswer(const Sample& sample, const Extractor& extractor, qint64 target, i
     return late >= 0 && late <= precision;
 }
 
-/// Frames worth asking for: the first and last ones, and those around the key frames.
+/// The most relevant frames: the first and last ones, and those around the key frames.
 QList<int> interestingFrames(const Sample& sample)
 {
     QSet<int> frames{0, 1, sample.frames / 2, sample.frames - 2, sample.frames - 1};
@@ -89,7 +89,7 @@ QList<int> interestingFrames(const Sample& sample)
     return list;
 }
 
-/// Positions at and just before the interesting frames; each has a frame in reach.
+/// Positions at and just before these frames; each has a frame within reach.
 QList<qint64> interestingTargets(const Sample& sample, int precision)
 {
     QList<qint64> targets;
@@ -102,7 +102,7 @@ QList<qint64> interestingTargets(const Sample& sample, int precision)
     return targets;
 }
 
-/// Every fourth of the positions, jumping to and fro.
+/// Every fourth of the positions, alternating between both ends.
 QList<qint64> shuffled(const QList<qint64>& targets)
 {
     QList<qint64> result;

@@ -22,7 +22,7 @@ namespace {
 
 const QString bframesSample = QStringLiteral("h264_bframes.mp4");
 
-/// How many handles this process has on the file.
+/// Number of open handles of this process on the file.
 int openHandles(const QString& path)
 {
     const QString target = QFileInfo(path).canonicalFilePath();
@@ -186,7 +186,7 @@ void FrameGrabberTest::setPrecision_emitsNothing_forTheSameNumber()
     grabber.setPrecision(500);
     QVERIFY(log.names.isEmpty());
 
-    // Nor did that end the automatic choice.
+    // The automatic choice is still active.
     grabber.setSource(samplePath(bframesSample));
     QVERIFY(grabber.checkAndOpen());
     QCOMPARE(grabber.getPrecision(), 250);
@@ -279,8 +279,7 @@ void FrameGrabberTest::extract_givesTheKeyFrame_slightlyBeforeTheTarget()
     QCOMPARE(lastNumber(frames), 32);
 }
 
-/// The only key frame is not at the front of the timeline, so that a seek can end behind its
-/// target.
+/// The only key frame is not at the start of the timeline, so a seek can end behind its target.
 void FrameGrabberTest::extract_givesTheKeyFrame_slightlyAfterTheTarget()
 {
     FrameGrabber grabber;

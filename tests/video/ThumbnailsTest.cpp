@@ -19,7 +19,7 @@ namespace {
 
 const QString clip = QStringLiteral("h264_gop250.mp4"); // 520 frames, 25 a second
 
-/// The number in a thumbnail, once it is there.
+/// The number in a thumbnail, once it is available.
 std::optional<int> numberAt(Thumbnails& thumbnails, qint64 ms)
 {
     thumbnails.request(ms);
@@ -67,7 +67,7 @@ void ThumbnailsTest::newestRequest_wins_andIsToldOnce()
     }
     const auto isMade = [&] { return !thumbnails.at(8000).isNull(); };
     QVERIFY(QTest::qWaitFor(isMade, patienceMs));
-    // One may have been begun before the others came.
+    // One may have been begun before the others were requested.
     QVERIFY(made.count() <= 2);
     QCOMPARE(made.last().first().toLongLong(), 8000);
     made.clear();

@@ -27,10 +27,10 @@
 
 namespace {
 
-/// Room for the names of videos and folders.
+/// Minimum size for the names of videos and folders, in average letters and lines.
 constexpr QSize openLetters{150, 42};
 
-/// The data of the first item of each combo box, which stands for no choice.
+/// The data of the first item of each combo box, which means no choice.
 QString noChoice()
 {
     return QStringLiteral("-");
@@ -72,12 +72,12 @@ BatchModeDialog::~BatchModeDialog() = default;
 
 void BatchModeDialog::arrangeButtons()
 {
-    // Each platform has an order of its own, which the box knows.
+    // The button box knows the platform's order.
     m_ui->buttonBox->addButton(m_ui->startButton, QDialogButtonBox::AcceptRole);
     m_ui->buttonBox->addButton(m_ui->cancelButton, QDialogButtonBox::RejectRole);
 }
 
-/// The groups stand one above the other and read as one form.
+/// Aligns the captions of all groups, which are stacked and read as one form.
 void BatchModeDialog::alignCaptions()
 {
     EqualWidths::apply({m_ui->imageProfileEditButton, m_ui->filenameProfileEditButton});
@@ -104,7 +104,7 @@ void BatchModeDialog::setupFilesTable()
     for (const int letters : {22, 30, 14, 28, 9}) {
         table.setColumnWidth(column++, letters * letter);
     }
-    // What each video gives is seen first, where it goes may be scrolled to.
+    // The number of images comes first; the folder may need scrolling.
     table.horizontalHeader()->moveSection(BatchModeListModel::Images, 1);
     table.horizontalHeader()->moveSection(BatchModeListModel::Interval + 1, 2);
     const int rowHeight = fontMetrics().height() + 8;
@@ -199,7 +199,7 @@ void BatchModeDialog::loadSingleShotComboBox()
     setupComboBox(&comboBox);
 }
 
-/// The first item says that there is no choice, or more than one: it cannot be chosen itself.
+/// The first item means no choice, or several; users cannot select it.
 void BatchModeDialog::setupComboBox(QComboBox* comboBox)
 {
     if (auto* const items = qobject_cast<QStandardItemModel*>(comboBox->model())) {
@@ -282,7 +282,7 @@ void BatchModeDialog::fieldUpdated(Field* field)
     }
 }
 
-/// Whether jobs can have what is typed: a text for a text, for a number one that is large enough.
+/// Whether the typed value is valid: any text for a text, a sufficiently large number for a number.
 bool BatchModeDialog::isSensible(const QLineEdit& edit) const
 {
     if (&edit == m_ui->fileOutputFolderTextEdit) {
@@ -298,7 +298,7 @@ bool BatchModeDialog::isSensible(const QLineEdit& edit) const
     return time && *time >= (mayBeZero ? 0 : 1) && *time <= std::numeric_limits<int>::max();
 }
 
-/// What was typed meant this kind of interval.
+/// Typing a value selects its kind of interval.
 void BatchModeDialog::useInterval(QRadioButton& radioButton, QLineEdit& edit, const QString& text)
 {
     if (m_isLoading || text.isEmpty() || radioButton.isChecked()) {
@@ -307,7 +307,7 @@ void BatchModeDialog::useInterval(QRadioButton& radioButton, QLineEdit& edit, co
     const int cursor = edit.cursorPosition();
     resetIntervalWidgets();
     radioButton.click();
-    // The click has filled the form anew. Unlike setText(), this can be undone.
+    // The click has refilled the form. Unlike setText(), this can be undone.
     edit.selectAll();
     edit.insert(text);
     edit.setCursorPosition(cursor);
@@ -331,7 +331,7 @@ void BatchModeDialog::on_intervalImagesTextEdit_textChanged(QString const& arg1)
     useInterval(*m_ui->intervalImagesRadioButton, *m_ui->intervalImagesTextEdit, arg1);
 }
 
-/// A text that was not typed here, like the one that stands for several, is left alone.
+/// Leaves a text alone that was not typed here, such as the placeholder for several values.
 void BatchModeDialog::takeBackUnlessSensible(QLineEdit& edit)
 {
     const bool isUntouched = edit.text().isEmpty() && !edit.placeholderText().isEmpty();
@@ -370,7 +370,7 @@ void BatchModeDialog::keyPressEvent(QKeyEvent* event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReturn && qobject_cast<QLineEdit*>(focusWidget()) != nullptr) {
-        // Ends the typing, and shall not start the batch as well.
+        // Return ends the typing and must not start the batch as well.
         event->accept();
         return;
     }

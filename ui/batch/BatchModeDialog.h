@@ -28,22 +28,20 @@ namespace Ui {
 class BatchModeDialog;
 }
 
-/// Prepares a batch: a list of videos, each a job, and one form that edits all selected jobs
-/// together; starts it.
+/// Prepares and starts a batch: a list of videos, one job each, and a form that edits all selected
+/// jobs together.
 ///
-/// What is typed or chosen goes into the selected jobs at once, but for numbers that make no sense:
-/// these are taken back when their field is left. Where the selected jobs differ, the form shows
-/// "[Multiple]". New jobs begin with the settings that "Use for New Videos" kept last, also in the
-/// next dialog.
+/// Input is applied to the selected jobs at once, except invalid numbers, which are reverted when
+/// their field is left. If the selected jobs differ, the form shows "[Multiple]". New jobs start
+/// with the settings last stored by "Use for New Videos", also in later dialogs.
 ///
-/// Videos are read in the background, and each one's job is listed when it has been read. The batch
-/// can start when all are. Closing the dialog drops those that have not been read, unless the list
-/// is kept.
+/// Videos are read in the background, and a job is listed when its video has been read. The batch
+/// can start when all are. Closing the dialog drops unread videos, unless the list is kept.
 ///
-/// Before a batch starts, missing folders are made if the user agrees, and large numbers of images
-/// are asked about. Jobs for which something failed are marked and can be run again alone.
+/// Before a batch starts, missing folders are created if the user agrees, and a large number of
+/// images has to be confirmed. Jobs with failures are marked, and only these can be run again.
 ///
-/// The jobs live as long as the dialog, removed ones too. User-interface thread only.
+/// Jobs, including removed ones, live as long as the dialog. User-interface thread only.
 class BatchModeDialog : public QDialog
 {
     Q_OBJECT
@@ -52,22 +50,23 @@ public:
     explicit BatchModeDialog(QWidget* parent = nullptr);
     ~BatchModeDialog() override;
 
-    /// Begins to read the videos, behind those being read, and returns at once. They are listed in
-    /// this order, unreadable ones too, each with a job of the settings for new ones. When all are,
-    /// they become selected alone, unless other jobs were selected meanwhile.
+    /// Starts reading the videos, after those already being read, and returns at once. They are
+    /// listed in this order, including unreadable ones, each as a job with the settings for new
+    /// videos. When all have been read, only they become selected, unless other jobs were selected
+    /// meanwhile.
     void loadVideos(const QStringList& files);
 
-    /// Brings back the list of the last dialog that did so, and keeps the one of this dialog for
-    /// the next, from each start of a batch and from the end of the dialog on. To be called once,
-    /// while the list is empty.
+    /// Restores the list of the previous dialog that called this, and stores the list of this
+    /// dialog at each start of a batch and when the dialog ends. Call it once, while the list is
+    /// empty.
     void keepList();
 
-    /// Has the job of a video take the images of one stretch of it alone, with so many milliseconds
-    /// skipped at both ends: the first job of that video in the list, or else a new one, which is
-    /// read as in loadVideos().
+    /// Makes the job of a video take images from one stretch only, with this many milliseconds
+    /// skipped at both ends. Uses the first job of that video in the list, or else creates one,
+    /// which is read as in loadVideos().
     void loadStretch(const QString& video, qint64 skipFront, qint64 skipBack);
 
-    /// Whether videos are still being read.
+    /// True while videos are being read.
     bool isLoading() const;
 
 Q_SIGNALS:
@@ -135,7 +134,7 @@ private:
     void showImageSum();
     [[nodiscard]] bool areFoldersUsable(const QList<BatchWorkerConfig*>& jobs);
     [[nodiscard]] bool isNumberWanted(const QList<BatchWorkerConfig*>& jobs);
-    /// What a batch does with jobs of which something failed before.
+    /// How a batch treats jobs with earlier failures.
     enum class Extent { WholeJobs, WhatFailed };
     void run(const QList<BatchWorkerConfig*>& jobs, Extent extent);
     [[nodiscard]] QVector<qint64> positionsToRetry(const BatchWorkerConfig& job) const;
@@ -145,21 +144,21 @@ private:
     const std::unique_ptr<Ui::BatchModeDialog> m_ui;
     BatchModeListModel* const m_model;
     VideoInfoLoader* const m_loader;
-    /// What loadVideos() was last called for; empty once all is loaded.
+    /// The jobs of the last loadVideos(); empty once all are loaded.
     QSet<BatchWorkerConfig*> m_newJobs;
-    /// Runs until it shows that videos are being read.
+    /// Delays the display of loading progress.
     QTimer m_loadingDelay;
-    /// Shown in the list as long as it is empty.
+    /// Shown in the list while it is empty.
     QLabel* m_emptyListHint = nullptr;
     QList<Field*> m_fields;
-    /// What is left to do of a job for which something failed, as long as it asks for the same.
+    /// What remains to be done of a failed job, as long as its sampling settings are unchanged.
     struct Rest
     {
-        QVector<qint64> positions; ///< in milliseconds; empty where they are not known
-        QVariantList settings;     ///< which say the positions of the whole job
+        QVector<qint64> positions; ///< in milliseconds; empty if unknown
+        QVariantList settings;     ///< the settings that determine the positions of the whole job
     };
     QHash<const BatchWorkerConfig*, Rest> m_rests;
-    /// True while the program fills the form, so that nothing of it is taken for the user's wish.
+    /// True while the program fills the form, so that changes are not treated as user input.
     bool m_isLoading = false;
     bool m_keepsList = false;
 };

@@ -1,4 +1,4 @@
-// What batch mode opens: folders, profiles and batches.
+// The actions of batch mode: choosing folders, editing profiles, running batches.
 
 #include "ui/batch/BatchModeDialog.h"
 
@@ -17,7 +17,7 @@
 
 namespace {
 
-/// What all the jobs have for a profile; null where they differ.
+/// The profile that all jobs share; null if they differ.
 template <typename Getter>
 auto common(const QList<BatchWorkerConfig*>& configs, Getter profileOf)
 {
@@ -34,7 +34,7 @@ void BatchModeDialog::on_removeVideoButton_clicked()
 {
     QItemSelectionModel& selection = *m_ui->filesTableView->selectionModel();
     const QModelIndexList rows = selection.selectedRows(0);
-    // Or else the form would be filled anew with each removal.
+    // Otherwise each removal would refill the form.
     selection.clearSelection();
     m_model->removeRows(rows);
     updateFieldsEnabled();
@@ -84,7 +84,7 @@ void BatchModeDialog::on_imageProfileEditButton_clicked()
         common(configs, [](const BatchWorkerConfig& config) { return config.imageProfile(); }));
     dialog.exec();
     for (BatchWorkerConfig* const config : configs) {
-        // Null, when there was no common one and none was saved, changes nothing.
+        // Null, if there was no common profile and none was saved, has no effect.
         config->setImageProfile(dialog.selectedProfile());
     }
     loadProfileComboBox(m_ui->imageProfileComboBox, ImageProfile::profileManager());
@@ -108,8 +108,8 @@ void BatchModeDialog::on_filenameProfileEditButton_clicked()
     showJobsAnew();
 }
 
-/// For changes that come from elsewhere, and may concern jobs that are not selected. In the place
-/// of a profile that was deleted comes the one used last.
+/// For changes made elsewhere, which may affect jobs that are not selected. The last used profile
+/// replaces a deleted one.
 void BatchModeDialog::showJobsAnew()
 {
     ProfileManager& images = *ImageProfile::profileManager();

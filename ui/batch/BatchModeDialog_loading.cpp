@@ -1,4 +1,4 @@
-// How videos come into batch mode: chosen or dropped, then read one after another.
+// Adding videos to batch mode: they are chosen or dropped, then read one after another.
 
 #include "ui/batch/BatchModeDialog.h"
 
@@ -21,7 +21,7 @@
 
 namespace {
 
-/// How long videos are read before it shows: most are read at once, and nothing should flash up.
+/// Delay before reading is shown: most videos are read at once, and nothing should flash up.
 constexpr std::chrono::milliseconds longestUnseenLoading{300};
 
 /// In average letters.
@@ -91,7 +91,7 @@ void BatchModeDialog::loadStretch(const QString& video, qint64 skipFront, qint64
     }
 }
 
-/// The first one of the video, listed or being read; null for none.
+/// The first job of the video, listed or being read; null if there is none.
 BatchWorkerConfig* BatchModeDialog::jobOf(const QString& video) const
 {
     const QFileInfo wanted(video);
@@ -106,7 +106,7 @@ BatchWorkerConfig* BatchModeDialog::jobOf(const QString& video) const
 BatchWorkerConfig* BatchModeDialog::newJob(const QString& video)
 {
     auto* const config = new BatchWorkerConfig(this);
-    // The choice of the user, once there is one.
+    // Default until the user has stored a choice.
     config->setExactFrames(true);
     config->loadFromLastUsed();
     config->setSource(video);
@@ -116,7 +116,7 @@ BatchWorkerConfig* BatchModeDialog::newJob(const QString& video)
 void BatchModeDialog::addVideos(const QStringList& files)
 {
     if (!files.isEmpty()) {
-        // Also where they were dropped, or typed with their folder.
+        // Also for dropped videos, and for typed paths.
         QSettings().setValue(QStringLiteral("openDialog_dialogPath"),
                              QFileInfo(files.constLast()).absolutePath());
     }
@@ -127,7 +127,7 @@ void BatchModeDialog::addVideos(const QStringList& files)
     read(jobs);
 }
 
-/// The selection is cleared first: what a person selects before all is read stays selected then.
+/// Clears the selection first, so that a selection made by the user while reading remains.
 void BatchModeDialog::read(const QList<BatchWorkerConfig*>& jobs)
 {
     if (jobs.isEmpty()) {
@@ -181,7 +181,7 @@ void BatchModeDialog::endLoading()
     Q_EMIT loadingFinished();
 }
 
-/// They come last in the list. Some may be missing, since loading can be stopped and jobs be
+/// They are last in the list. Some may be missing, since loading can be stopped and jobs can be
 /// removed.
 void BatchModeDialog::selectNewJobs()
 {
@@ -196,7 +196,7 @@ void BatchModeDialog::selectNewJobs()
     const QItemSelection rows(m_model->index(first, 0), m_model->index(end - 1, 0));
     QItemSelectionModel& selection = *m_ui->filesTableView->selectionModel();
     selection.setCurrentIndex(m_model->index(first, 0), QItemSelectionModel::NoUpdate);
-    // In one go: the form is filled anew with each change.
+    // With one call, because each change refills the form.
     selection.select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 

@@ -1,4 +1,4 @@
-// How a batch starts: what it will make, where that goes, and what it is asked about before.
+// Starting a batch: what it will make and where, and the questions before it.
 
 #include "ui/batch/BatchModeDialog.h"
 
@@ -18,13 +18,13 @@
 
 namespace {
 
-/// More images are asked about: they are rarely meant.
+/// A larger number of images must be confirmed: it is rarely intended.
 constexpr int manyImages = 2000;
 
-/// So many folders are named in a question.
+/// Maximum number of folders named in a question.
 constexpr int mostNamedFolders = 8;
 
-/// The folders of the jobs that are not there, each once.
+/// The missing folders of the jobs, without duplicates.
 QStringList missingFolders(const QList<BatchWorkerConfig*>& jobs)
 {
     QStringList missing;
@@ -52,7 +52,7 @@ QString namesOf(const QStringList& folders)
 struct ImageSum
 {
     qint64 images = 0;
-    bool isComplete = true; ///< what all the jobs make is known
+    bool isComplete = true; ///< the number of images of all jobs is known
 };
 
 ImageSum sumOf(const QList<BatchWorkerConfig*>& jobs)
@@ -66,7 +66,7 @@ ImageSum sumOf(const QList<BatchWorkerConfig*>& jobs)
     return sum;
 }
 
-/// What the positions of a job follow from.
+/// The settings that determine the positions of a job.
 QVariantList samplingOf(const BatchWorkerConfig& job)
 {
     return {job.source(),       job.skipFront(),         job.skipBack(),
@@ -74,7 +74,7 @@ QVariantList samplingOf(const BatchWorkerConfig& job)
             job.exactFrames(),  job.intervalSingleShot()};
 }
 
-/// What chooses the plural form that goes with the number.
+/// The number used to select a plural form.
 int forPlural(qint64 number)
 {
     return int(std::min<qint64>(number, std::numeric_limits<int>::max()));
@@ -97,7 +97,7 @@ void BatchModeDialog::showImageSum()
                          : tr("About %1 of %n videos", nullptr, jobs.size()).arg(images));
 }
 
-/// Makes folders that are missing, if the user agrees. False where the batch cannot start.
+/// Creates missing folders if the user agrees. Returns false if the batch cannot start.
 bool BatchModeDialog::areFoldersUsable(const QList<BatchWorkerConfig*>& jobs)
 {
     const QStringList missing = missingFolders(jobs);
@@ -136,7 +136,7 @@ bool BatchModeDialog::isNumberWanted(const QList<BatchWorkerConfig*>& jobs)
                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
-/// Empty where all of the job is to be done again.
+/// Empty if the whole job has to be repeated.
 QVector<qint64> BatchModeDialog::positionsToRetry(const BatchWorkerConfig& job) const
 {
     const Rest rest = m_rests.value(&job);
@@ -197,7 +197,7 @@ void BatchModeDialog::saveList(const QList<BatchWorkerConfig*>& unread) const
     }
 }
 
-/// What has not been read yet is read when the list comes back.
+/// Videos that have not been read are read when the list is restored.
 void BatchModeDialog::endList()
 {
     const QList<BatchWorkerConfig*> unread = m_loader->cancel();

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A progress from 0 to 1 as whole percent: 100 means done and nothing less.
+/// Progress from 0 to 1 in whole per cent; 100 only if everything is done.
 int percent(float progress)
 {
     return static_cast<int>(progress * 100.0F);
@@ -61,7 +61,7 @@ BatchWorker* BatchProcessingDialog::addWorker(BatchWorkerConfig* config)
     worker->setRoomQuestion([this](const WriteFailure& failure) { return askForRoom(failure); });
     connect(worker, &BatchWorker::statusUpdate, this, &BatchProcessingDialog::workerStatusUpdate);
     connect(worker, &BatchWorker::imageReady, this, &BatchProcessingDialog::workerImageReady);
-    // A job says what it does only when it has its first frame, which may take a while.
+    // A job reports its activity only with its first frame, which may take a while.
     connect(worker, &BatchWorker::progressUpdate, this,
             [this](BatchWorker* running) { showCurrentVideo(*running); });
     connect(worker, &BatchWorker::jobDone, this, [this](BatchWorker* done) { noteMissed(*done); });
@@ -166,7 +166,7 @@ void BatchProcessingDialog::logFailure(BatchWorkerConfig* job, const QString& me
     const BatchReport::Line line = m_report.addFailure(job, message);
     if (line.isNew) {
         logMessage(line.text, nullptr);
-        // Behind the line there is an empty block.
+        // An empty block follows the line.
         m_causeBlocks.append(m_ui->logTextEdit->document()->blockCount() - 2);
     } else {
         replaceLogLine(m_causeBlocks.at(line.cause), line.text);
@@ -194,10 +194,10 @@ void BatchProcessingDialog::threadProgressUpdate(float overallProgress, float cu
 
 void BatchProcessingDialog::threadDone()
 {
-    // The signal is the thread's last act but not yet its end, after which the button goes.
+    // The signal is the thread's last act but not yet its end; wait before the button disappears.
     m_thread->wait();
     updateDoneButton();
-    // One that was interrupted has not said that it is done, but is still there.
+    // An interrupted worker has not reported its end, but still exists.
     const auto left = m_thread->findChildren<BatchWorker*>();
     for (const BatchWorker* const worker : left) {
         noteMissed(*worker);
@@ -209,7 +209,7 @@ void BatchProcessingDialog::threadDone()
     m_announcer->announce(outcome);
 }
 
-/// A worker that was interrupted has not told of all, but is still there.
+/// An interrupted worker has not reported all images, but still exists.
 int BatchProcessingDialog::savedImages() const
 {
     QHash<const BatchWorker*, int> images = m_images;
@@ -237,6 +237,6 @@ void BatchProcessingDialog::updateDoneButton()
                               : isStopping ? tr("Stopping\u2026")
                                            : tr("Cancel"));
     m_ui->doneButton->setEnabled(!isStopping);
-    // The return key shall close what is done, and not cancel what runs.
+    // Return must close a finished dialog, and not cancel a running batch.
     m_ui->doneButton->setDefault(isFinished);
 }

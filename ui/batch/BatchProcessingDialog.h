@@ -21,52 +21,53 @@ namespace Ui {
 class BatchProcessingDialog;
 }
 
-/// Runs a batch and shows how it goes: the video, the last image, the progress, and a log of what
-/// went wrong, one line a cause. Errors of a job never stop the batch. At the end it says how many
-/// images there are and how much failed.
+/// Runs a batch and shows its progress: the video, the last image, progress bars, and a log of
+/// failures with one line per cause. Errors of a job never stop the batch. At the end it reports
+/// the number of images and of failures.
 ///
-/// Add the jobs, then exec(). While jobs run, the dialog closes for nobody: whoever tries to is
-/// asked whether to cancel the batch. User-interface thread only.
+/// Add the jobs, then call exec(). While jobs run, any attempt to close the dialog asks whether to
+/// cancel the batch. User-interface thread only.
 class BatchProcessingDialog : public QDialog
 {
     Q_OBJECT
 
 public:
     explicit BatchProcessingDialog(QWidget* parent = nullptr);
-    /// Stops what still runs, and waits for its next step.
+    /// Stops a running batch, and waits for its next step.
     ~BatchProcessingDialog() override;
 
-    /// Adds a job, before exec(). The job is not owned and must outlive the dialog.
+    /// Adds a job; call it before exec(). The job is not owned and must outlive the dialog.
     void addWorkerWithConfig(BatchWorkerConfig* config);
-    /// The same for these positions alone, in milliseconds and rising order.
+    /// Like addWorkerWithConfig(), for these positions only, in milliseconds and rising order.
     void addWorkerForPositions(BatchWorkerConfig* config, const QVector<qint64>& positions);
 
     /// Shows the dialog, runs the jobs in the order in which they were added, and returns when the
-    /// user has closed the dialog. Once for each dialog.
+    /// user has closed the dialog. Call it once per dialog.
     int exec() override;
 
-    /// Appends a line to the log, headed by the path of the worker's video; null for none.
+    /// Appends a line to the log, preceded by the path of the worker's video unless the worker is
+    /// null.
     void logMessage(const QString& message, BatchWorker* worker);
 
-    /// What became of the batch so far.
+    /// The results of the batch so far.
     const BatchReport& report() const { return m_report; }
 
-    /// The positions of a job, in milliseconds, of which there is no image; nothing where that is
-    /// not known. When exec() has returned.
+    /// The positions of a job, in milliseconds, without an image; nothing if unknown. Valid when
+    /// exec() has returned.
     [[nodiscard]] std::optional<QVector<qint64>> missedPositions(BatchWorkerConfig* job) const;
 
     /// Asks the user whether to cancel the batch.
     [[nodiscard]] bool confirmAbort();
 
-    /// Tells that there is no room for an image and asks whether to try again, for which it gives
-    /// true, or to cancel the batch.
+    /// Reports that there is no room for an image and asks whether to try again (true) or to cancel
+    /// the batch (false).
     [[nodiscard]] bool askForRoom(const WriteFailure& failure);
 
     /// Cancels the batch, which ends after the running job's next step.
     void abort();
 
 public Q_SLOTS:
-    /// Escape, too, goes the way of closing.
+    /// Escape is handled like closing the dialog.
     void reject() override;
 
 protected:
@@ -93,9 +94,9 @@ private:
     BatchThread* const m_thread;
     Announcer* const m_announcer;
     BatchReport m_report;
-    /// The blocks of the log that tell of the causes in m_report.
+    /// The blocks of the log for the causes in m_report.
     QList<int> m_causeBlocks;
-    /// Of the workers that have told of images. They may be gone.
+    /// Number of images by worker. The workers may no longer exist.
     QHash<const BatchWorker*, int> m_images;
-    QHash<BatchWorkerConfig*, QVector<qint64>> m_missed; ///< of the jobs of which it is known
+    QHash<BatchWorkerConfig*, QVector<qint64>> m_missed; ///< for jobs of which it is known
 };

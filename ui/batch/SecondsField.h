@@ -4,8 +4,8 @@
 
 class QLineEdit;
 
-/// Binds a property in milliseconds to an edit in which people read and type seconds, with a
-/// fraction. Its value is invalid while the text is no time. User-interface thread only.
+/// Binds a property in milliseconds to an edit in seconds with a fraction. Its value is invalid
+/// while the text is not a time. User-interface thread only.
 class SecondsField : public Field
 {
     Q_OBJECT

@@ -34,7 +34,7 @@ AboutDialog::AboutDialog(QWidget* parent)
 
 AboutDialog::~AboutDialog() = default;
 
-/// By as much as suits the system's letters, whatever their size.
+/// Scales with the system's font size.
 void AboutDialog::enlargeHeading()
 {
     constexpr double factor = 1.4;

@@ -8,8 +8,7 @@ namespace Ui {
 class AboutDialog;
 }
 
-/// The about box: what the program is called, its version, and where its maker is found.
-/// User-interface thread only.
+/// The about box: name and version of the product, and its web site. User-interface thread only.
 class AboutDialog : public QDialog
 {
     Q_OBJECT

@@ -54,7 +54,7 @@ void FileNameProfileDialog::setSelectedProfile(FileNameProfile* profile)
     if (!profile) {
         m_ui->profileSelector->loadDefaultValues();
     }
-    // The selector is silent about a profile that was selected already or is not listed.
+    // The selector emits nothing for a profile that was selected already or is not listed.
     updateExampleDisplay();
 }
 
@@ -137,7 +137,7 @@ void FileNameProfileDialog::fillTypes()
 
 void FileNameProfileDialog::arrangeButtons()
 {
-    // Each platform has an order of its own, which the box knows.
+    // The button box knows the platform's order.
     m_ui->buttonBox->addButton(m_ui->resetToDefaultsButton, QDialogButtonBox::ResetRole);
     m_ui->buttonBox->addButton(m_ui->saveButton, QDialogButtonBox::AcceptRole);
     m_ui->buttonBox->addButton(m_ui->cancelButton, QDialogButtonBox::RejectRole);
@@ -145,7 +145,7 @@ void FileNameProfileDialog::arrangeButtons()
 
 void FileNameProfileDialog::alignCaptions()
 {
-    // The two forms stand one above the other and read as one.
+    // The two forms are stacked and read as one.
     QList<QWidget*> captions;
     for (const QFormLayout* const form : {m_ui->formatLayout, m_ui->exampleLayout}) {
         for (int row = 0; row < form->rowCount(); ++row) {

@@ -13,36 +13,36 @@ namespace Ui {
 class FileNameProfileDialog;
 }
 
-/// Edits how output files are named, and shows, while the user types, which names come out for an
+/// Edits how output files are named. Shows, while the user types, the resulting names for an
 /// example video: with a counter, and without one as for the single picture of a batch job.
 ///
-/// Whether counters are padded with zeros is not offered: it stays as it is in the profile saved,
-/// and the examples show it on. User-interface thread only.
+/// Zero padding of counters cannot be edited: the saved profile keeps its setting, and the examples
+/// show it switched on. User-interface thread only.
 class FileNameProfileDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Lists all file-name profiles and selects none; the examples are shown from the first of
-    /// setSelectedProfile() and setExampleFileName() on.
+    /// Lists all file-name profiles and selects none. The examples appear with the first call of
+    /// setSelectedProfile() or setExampleFileName().
     explicit FileNameProfileDialog(QWidget* parent);
     ~FileNameProfileDialog() override;
 
-    /// Shows the profile, which is not owned, in the form. With null the form shows the values of a
-    /// new profile, without a name.
+    /// Shows the profile, which is not owned, in the form. Null shows the values of a new profile,
+    /// without a name.
     void setSelectedProfile(FileNameProfile* profile);
 
-    /// The profile that was saved, or else the one set; null at first. Null once that was deleted.
+    /// The saved profile, or else the one that was set; initially null. Null after it was deleted.
     FileNameProfile* selectedProfile() const { return m_selectedProfile; }
 
-    /// The name of the video that the examples are for, "MyVideo.mpeg" unless set. Its base name is
-    /// what goes before the first dot.
+    /// The name of the video for the examples; "MyVideo.mpeg" by default. Its base name ends before
+    /// the first dot.
     void setExampleFileName(const QString& fileName);
 
-    /// Binds the form and lists the profiles; a step of the construction.
+    /// Binds the form and lists the profiles; called during construction.
     void loadProfiles();
 
-    /// Shows which names the form as it is now gives.
+    /// Shows the names that result from the current form.
     void updateExampleDisplay();
 
 private Q_SLOTS:

@@ -10,14 +10,14 @@
 #include <chrono>
 
 namespace {
-/// Where the sliders of both values leave an image as it is.
+/// The position of both sliders that leaves an image unchanged.
 constexpr int neutralPosition = 100;
 
-/// Slider movements that come faster are shown together.
+/// Faster slider movements are combined.
 constexpr std::chrono::milliseconds filterDelay{30};
 
-/// Corrections treat a fourth channel like a colour: an opaque picture goes without it, as frames
-/// do.
+/// Corrections treat a fourth channel like a colour, so opaque pictures are passed without one, as
+/// frames are.
 QImage withoutUnusedChannel(const QImage& image)
 {
     return image.format() == QImage::Format_RGB32 ? image.convertToFormat(QImage::Format_RGB888)
@@ -85,7 +85,7 @@ void ImageFiltersDialog::setProfile(ImageProfile* profile)
     updateImages();
 }
 
-/// The values of the controls.
+/// Writes the values of the controls to the profile.
 void ImageFiltersDialog::enter(ImageProfile& profile) const
 {
     profile.setImageBrightness(m_ui->brightnessSlider->value() - neutralPosition);

@@ -12,31 +12,31 @@ namespace Ui {
 class ImageFiltersDialog;
 }
 
-/// Compares a frame as it is with what brightness, contrast and the filter for another size make of
-/// it, in one divided picture. What was found can go into the image profile that it began with; the
-/// dialog is accepted then. User-interface thread only.
+/// Compares a frame with the result of brightness, contrast and resize filter in one divided
+/// picture. The values can be applied to the image profile they started from; the dialog is then
+/// accepted. User-interface thread only.
 class ImageFiltersDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Shows a picture of its own until there is a frame.
+    /// Shows a sample picture until a frame is set.
     explicit ImageFiltersDialog(QWidget* parent);
     ~ImageFiltersDialog() override;
 
-    /// What is compared; a null one changes nothing.
+    /// The frame to compare; a null one has no effect.
     void setFrame(const QImage& frame);
-    /// Where the values begin, and where they may go; not owned.
+    /// The profile that provides the initial values and receives the result; not owned.
     void setProfile(ImageProfile* profile);
 
-    /// What the sliders were last dragged to, in this dialog or an earlier one. A factor; 1 leaves
-    /// an image as it is.
+    /// The last dragged slider value, in this dialog or an earlier one. A factor; 1 leaves an image
+    /// unchanged.
     static inline double contrast = 1.0;
-    /// Likewise; is added to each channel, 0 leaves an image as it is.
+    /// The same for brightness, which is added to each channel; 0 leaves an image unchanged.
     static inline float brightness = 0.0F;
 
 public Q_SLOTS:
-    /// Shows the values as pictures.
+    /// Applies the values to the pictures.
     void updateImages();
 
 private Q_SLOTS:

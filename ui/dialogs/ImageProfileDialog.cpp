@@ -23,7 +23,7 @@ namespace {
 
 constexpr auto updateDelay = 50ms;
 
-/// Room for a preview that shows something.
+/// Minimum size of a useful preview.
 constexpr QSize imageProfileLetters{140, 38};
 
 constexpr int minAdjustment = -100;
@@ -115,7 +115,7 @@ void ImageProfileDialog::updateImageTimerFired()
     }
 }
 
-/// Both pictures have the size of the output, so that the watermark has its true proportion.
+/// Both pictures have the output size, so that the watermark has its true proportion.
 void ImageProfileDialog::showComparison(const ImageProfile& entered)
 {
     const QVariantList size{entered.sameSizeAsVideo(), entered.imageWidth(), entered.imageHeight(),
@@ -139,7 +139,7 @@ void ImageProfileDialog::on_sameSizeAsVideoCheckbox_toggled(bool checked)
         m_videoHeightDisplay = makeVideoDisplay(*m_ui->imageHeightLineEdit);
         showVideoDimensions();
     }
-    // What the user typed stays in the editors, and is what the form saves.
+    // The editors keep the user's input, and the form saves it.
     if (checked) {
         swap(*m_ui->imageWidthLineEdit, *m_videoWidthDisplay);
         swap(*m_ui->imageHeightLineEdit, *m_videoHeightDisplay);
@@ -164,7 +164,7 @@ void ImageProfileDialog::on_watermarkProfileEditButton_clicked()
     dialog.setExampleImage(m_exampleImage, &entered);
     dialog.exec();
 
-    // There may be more profiles now, or other names.
+    // There may be new or renamed profiles.
     setupWatermarkProfileComboBox();
     if (const WatermarkProfile* const selected = dialog.selectedProfile()) {
         m_ui->watermarkProfileComboBox->setCurrentIndex(m_ui->watermarkProfileComboBox->findData(
@@ -192,7 +192,7 @@ void ImageProfileDialog::on_cancelButton_clicked()
     reject();
 }
 
-/// Gives the buttons to the box that knows the platform's order.
+/// Adds the buttons to the button box, which knows the platform's order.
 void ImageProfileDialog::setupButtons()
 {
     m_ui->buttonBox->addButton(m_ui->resetToDefaultsButton, QDialogButtonBox::ResetRole);
@@ -200,7 +200,7 @@ void ImageProfileDialog::setupButtons()
     m_ui->buttonBox->addButton(m_ui->cancelButton, QDialogButtonBox::RejectRole);
 }
 
-/// The sections stand one above the other and read as one form.
+/// The sections are stacked and read as one form.
 void ImageProfileDialog::alignCaptions()
 {
     EqualWidths::apply({m_ui->imageWidthLabel, m_ui->imageHeightLabel, m_ui->resizeFilterLabel,
@@ -279,7 +279,7 @@ void ImageProfileDialog::setupProfileSelector()
             m_selectedProfile = nullptr;
         }
     });
-    // Another profile in the form is reported by no field, but is as much to be seen.
+    // Selecting another profile changes the form without a field signal.
     connect(selector, &ProfileSelector::profileSelected, this, &ImageProfileDialog::updateImage);
 }
 
@@ -288,7 +288,7 @@ void ImageProfileDialog::addField(const char* propertyName, QWidget* widget)
     m_ui->profileSelector->addField(new Field(propertyName, widget, Field::noChoice, this));
 }
 
-/// A disabled line edit that can stand where the editor stands.
+/// A disabled line edit of the same size as the editor.
 QLineEdit* ImageProfileDialog::makeVideoDisplay(const QLineEdit& editor)
 {
     auto* const display = new QLineEdit(editor.parentWidget());
@@ -308,7 +308,7 @@ void ImageProfileDialog::showVideoDimensions()
     m_videoHeightDisplay->setText(isKnown ? QString::number(m_videoHeight) : QString());
 }
 
-/// Puts a hidden widget of the size group in the place of one that is shown.
+/// Replaces a visible widget of the size group by a hidden one.
 void ImageProfileDialog::swap(QWidget& shown, QWidget& hidden)
 {
     const std::unique_ptr<QLayoutItem> replaced(

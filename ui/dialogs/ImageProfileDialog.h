@@ -21,9 +21,9 @@ class ImageProfileDialog;
 
 /// Edits image profiles: size, corrections, JPEG quality, metadata and the watermark.
 ///
-/// Shows an example frame before and after, and hands every edit to the preview as well, a moment
-/// after the last one. The caller sets up the dialog,
-/// runs it and asks for selectedProfile(). User-interface thread only.
+/// Shows an example frame before and after, and passes every edit to the preview shortly after the
+/// last change. The caller sets up the dialog, runs it and reads selectedProfile(). User-interface
+/// thread only.
 class ImageProfileDialog : public QDialog
 {
     Q_OBJECT
@@ -35,24 +35,24 @@ public:
     /// Selects the profile in the list and shows it in the form.
     void setSelectedProfile(ImageProfile* profile);
 
-    /// The profile that was saved, else the one given to setSelectedProfile(); null before. Its
-    /// manager owns it. Null once that was deleted.
+    /// The saved profile, or else the one passed to setSelectedProfile(); initially null. Owned by
+    /// its manager. Null after it was deleted.
     ImageProfile* selectedProfile() const { return m_selectedProfile; }
 
-    /// The size of the current video in pixels, shown in place of the entered one where the
-    /// profile keeps it; nothing is shown while a side is 0.
+    /// The size of the current video in pixels, shown instead of the entered size if the profile
+    /// keeps the video's size; nothing is shown while a side is 0.
     void setVideoDimensions(int width, int height);
 
-    /// The frame of which before and after are shown, also in the watermark dialog; a sample
-    /// picture where there is none.
+    /// The frame for before and after, also used by the watermark dialog; without one, a sample
+    /// picture.
     void setExampleImage(const QImage& image);
 
-    /// What shows the picture as a profile makes it. The profile that it is given is not null,
-    /// holds what is entered at the moment, belongs to no manager and is gone after the call.
+    /// Shows the picture as made by a profile. The profile is not null, holds the values currently
+    /// entered, belongs to no manager and is valid only during the call.
     using Preview = std::function<void(ImageProfile* profile)>;
     void setPreview(Preview preview) { m_preview = std::move(preview); }
 
-    /// Has the preview updated in a moment; every call puts it off again.
+    /// Schedules an update of the preview; each call restarts the delay.
     void updateImage();
 
 protected:
@@ -88,11 +88,11 @@ private:
     ImageProfile* m_selectedProfile = nullptr;
     int m_videoWidth = 0;
     int m_videoHeight = 0;
-    /// Take the places of the editors; children of the form, null before they are needed.
+    /// Replace the editors; children of the form, null until needed.
     QLineEdit* m_videoWidthDisplay = nullptr;
     QLineEdit* m_videoHeightDisplay = nullptr;
     QImage m_exampleImage;
-    /// The example in the size that the profile asks for, and what that followed from.
+    /// The example at the size that the profile requests, and the settings that it depends on.
     QImage m_before;
     QVariantList m_beforeSize;
     Preview m_preview;

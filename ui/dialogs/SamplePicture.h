@@ -2,10 +2,10 @@
 
 class QImage;
 
-/// What dialogs show the effect of their settings on where there is no frame.
+/// A picture that shows the effect of settings in dialogs if there is no frame.
 namespace SamplePicture {
 
-/// An opaque picture in a format of three channels, as frames of videos are. User-interface thread
+/// An opaque picture in a format with three channels, like frames of videos. User-interface thread
 /// only.
 [[nodiscard]] QImage image();
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// More than any view of a dialog shows, also on screens with small pixels.
+/// More than any view of a dialog shows, even on high-resolution screens.
 constexpr QSize displayBounds{1024, 1024};
 
 bool isTooLarge(QSize size)
@@ -27,7 +27,7 @@ bool WatermarkPicture::isTooLarge(const QString& path)
 
 QImage WatermarkPicture::readForDisplay(const QString& path)
 {
-    // A pipe would be waited for.
+    // A pipe would block.
     if (!QFileInfo(path).isFile()) {
         return {};
     }
@@ -37,7 +37,7 @@ QImage WatermarkPicture::readForDisplay(const QString& path)
         return {};
     }
     if (size.width() > displayBounds.width() || size.height() > displayBounds.height()) {
-        // Most decoders make it smaller on the way, without ever holding the whole picture.
+        // Most decoders scale it down without ever holding the whole picture.
         const QSize fitting = size.scaled(displayBounds, Qt::KeepAspectRatio);
         reader.setScaledSize(fitting.expandedTo({1, 1}));
     }

@@ -5,25 +5,25 @@
 #include <QImage>
 #include <QString>
 
-/// The picture files of watermarks: a look into them, and the copies that profiles own.
+/// The picture files of watermarks: previews, and the copies that profiles own.
 namespace WatermarkPicture {
 
-/// What a picture may hold. A watermark is drawn pixel by pixel, so one this large covers any image
-/// many times over; reading it would take more memory than it is worth (4 bytes a pixel), and
-/// seconds.
+/// Maximum size of a picture. A watermark is drawn pixel by pixel, so one this large covers any
+/// image many times over. Reading a larger one would take too much memory (4 bytes per pixel) and
+/// seconds of time.
 constexpr qint64 maxPixels = WatermarkProfile::mostPixels;
 
-/// Whether the file states more than maxPixels. Reads no more than its header; false for a file
-/// that is no picture.
+/// Whether the file declares more than maxPixels. Reads only its header; false for a file that is
+/// not a picture.
 [[nodiscard]] bool isTooLarge(const QString& path);
 
-/// The picture in the file made to fit a screen, in its own proportions; never enlarged. Null if
-/// there is no such file, no picture in it, or one that is too large.
+/// The picture in the file, scaled down to fit a screen in its own proportions; never enlarged.
+/// Null if there is no such file, it is not a picture, or the picture is too large.
 [[nodiscard]] QImage readForDisplay(const QString& path);
 
-/// Copies the file into the watermark folder, under a name that no other picture has, and gives
-/// that name: what WatermarkProfile::imageFile() holds. The user may do with the original whatever
-/// he likes from then on. That copying fails shows when the copy is read.
+/// Copies the file into the watermark folder under a unique name and returns that name, for
+/// WatermarkProfile::imageFile(). The original is no longer needed afterwards. A failure to copy
+/// shows when the copy is read.
 [[nodiscard]] QString addCopyOf(const QString& path);
 
 } // namespace WatermarkPicture

@@ -26,13 +26,13 @@ namespace {
 
 constexpr auto previewDelay = 200ms;
 
-/// Room for a preview that shows something.
+/// Minimum size of a useful preview.
 constexpr QSize watermarkProfileLetters{140, 38};
 
 constexpr int textType = 0;
 constexpr int imageType = 1;
 
-/// Without this the whole dialog would change its proportions with the type of the watermark.
+/// Otherwise the whole dialog would change its proportions with the type of the watermark.
 void keepPlaceWhenHidden(QWidget& widget)
 {
     QSizePolicy policy = widget.sizePolicy();
@@ -40,7 +40,7 @@ void keepPlaceWhenHidden(QWidget& widget)
     widget.setSizePolicy(policy);
 }
 
-/// Lets the user change the colour. One picked is opaque, since the dialog offers no alpha.
+/// Lets the user change the colour. A picked colour is opaque, since the dialog offers no alpha.
 void pickColor(ColorLabel& label, QWidget* parent)
 {
     const QColor picked = QColorDialog::getColor(label.colorValue(), parent, QString());
@@ -61,14 +61,14 @@ WatermarkProfileDialog::WatermarkProfileDialog(QWidget* parent)
     m_ui->setupUi(this);
     GroupBoxMargins::apply(*this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    // Nothing stands behind it yet.
+    // It has no function yet.
     m_ui->imageBrowseButton_2->hide();
     keepPlaceWhenHidden(*m_ui->textFormatGroupBox);
     keepPlaceWhenHidden(*m_ui->textShadowGroupBox);
     setupButtons();
     setupEffects();
-    // Not in the form: a frame that is off disables its children while they are still being made,
-    // and to screen readers they would then stay what they were at that moment, plain areas.
+    // Not set in the form: an unchecked group box disables its children while they are still being
+    // created, and screen readers would keep treating them as plain areas.
     showType();
 
     setupAlignmentComboBox();
@@ -99,7 +99,7 @@ void WatermarkProfileDialog::setSelectedProfile(WatermarkProfile* profile)
         m_ui->profileSelector->loadDefaultValues();
     }
 
-    // Nothing is reported about a profile that is selected already or not listed.
+    // Nothing is emitted for a profile that is selected already or not listed.
     showType();
     updateWatermark();
 }
@@ -121,8 +121,8 @@ void WatermarkProfileDialog::updateWatermark()
 void WatermarkProfileDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    // A profile may lack its picture already when the dialog opens. The question for it belongs
-    // before the dialog, not before the window that is about to open it.
+    // A profile may lack its picture when the dialog opens. The question about it belongs in front
+    // of the dialog, not in front of the window that is about to open it.
     if (event->spontaneous()) {
         return;
     }
@@ -230,7 +230,7 @@ void WatermarkProfileDialog::on_saveButton_clicked()
         return;
     }
     {
-        // A new profile is selected on the way, which would ask for its picture in between.
+        // Otherwise selecting the new profile would ask for its picture in between.
         const QSignalBlocker blocker(m_ui->profileSelector);
         m_selectedProfile = qobject_cast<WatermarkProfile*>(m_ui->profileSelector->saveProfile());
     }
@@ -242,7 +242,7 @@ void WatermarkProfileDialog::on_cancelButton_clicked()
     reject();
 }
 
-/// Gives the buttons to the box that knows the platform's order.
+/// Adds the buttons to the button box, which knows the platform's order.
 void WatermarkProfileDialog::setupButtons()
 {
     m_ui->buttonBox->addButton(m_ui->saveButton, QDialogButtonBox::AcceptRole);
@@ -259,7 +259,7 @@ void WatermarkProfileDialog::setupEffects()
     };
     slider.setValue(slider.maximum());
     show();
-    // It shall not move with its digits.
+    // A fixed width, so that the layout does not move with the digits.
     value.setMinimumWidth(value.sizeHint().width());
     connect(&slider, &QSlider::valueChanged, &value, show);
     EqualWidths::apply({m_ui->textFontButton, m_ui->textColorButton});
@@ -309,7 +309,7 @@ void WatermarkProfileDialog::addChoice(const char* propertyName, QWidget* widget
     m_ui->profileSelector->addField(new Field(propertyName, widget, choiceValue, this));
 }
 
-/// The nine places row by row, with the indices that profiles have for them.
+/// The nine places row by row, with the indexes used by profiles.
 void WatermarkProfileDialog::setupAlignmentComboBox()
 {
     const QStringList places{tr("Top Left"),    tr("Top"),    tr("Top Right"),
@@ -320,7 +320,7 @@ void WatermarkProfileDialog::setupAlignmentComboBox()
     }
 }
 
-/// Offers only what the type of the watermark has.
+/// Shows only the controls of the watermark's type.
 void WatermarkProfileDialog::showType()
 {
     const bool isText = m_ui->watermarkTypeTextRadioButton->isChecked();

@@ -16,10 +16,10 @@ namespace Ui {
 class WatermarkProfileDialog;
 }
 
-/// Edits watermark profiles, and shows on an example image what they make of it.
+/// Edits watermark profiles and shows their effect on an example image.
 ///
-/// The preview is what the real pipeline gives for the values in the form, so that it shows every
-/// effect of size and position. It follows once the user pauses for a moment. User-interface thread
+/// The preview is made by the real pipeline from the values in the form, so it shows every effect
+/// of size and position. It is updated when the user pauses for a moment. User-interface thread
 /// only.
 class WatermarkProfileDialog : public QDialog
 {
@@ -29,20 +29,20 @@ public:
     explicit WatermarkProfileDialog(QWidget* parent);
     ~WatermarkProfileDialog() override;
 
-    /// Selects the profile and shows it in the form. Null shows the first profile there is, or, if
-    /// there is none, default values that become a profile when they are saved under a name.
+    /// Selects the profile and shows it in the form. Null shows the first profile or, if there is
+    /// none, default values, which become a profile when they are saved under a name.
     void setSelectedProfile(WatermarkProfile* profile);
 
-    /// The profile that was saved, else the one given to setSelectedProfile(); may be null. Its
-    /// manager owns it. Null once that was deleted.
+    /// The saved profile, or else the one passed to setSelectedProfile(); may be null. Owned by its
+    /// manager. Null after it was deleted.
     WatermarkProfile* selectedProfile() const { return m_selectedProfile; }
 
-    /// What the preview shows: `image`, as `imageProfile` makes it, with the watermark. Without
-    /// this call it is a sample picture and a default profile; a null image leaves the picture as
-    /// it is. The profile is not null, not owned, and outlives the dialog's run.
+    /// Sets the preview: `image`, as made by `imageProfile`, with the watermark. By default it is a
+    /// sample picture with a default profile; a null image keeps the picture. The profile is not
+    /// null, not owned, and must outlive the dialog's run.
     void setExampleImage(const QImage& image, ImageProfile* imageProfile);
 
-    /// Renders the preview anew in a moment; every call puts it off again.
+    /// Schedules rendering of the preview; each call restarts the delay.
     void updateWatermark();
 
 protected:

@@ -21,10 +21,11 @@
 
 namespace {
 
-/// So many deletions can be taken back.
+/// Maximum number of deletions that can be undone.
 constexpr int mostUndoSteps = 50;
 
-/// Snapshots that were taken out of the strip. Their files go when this goes and they are out.
+/// Snapshots removed from the strip. Their files are removed with this object unless they were put
+/// back.
 class Deletion : public QUndoCommand
 {
 public:
@@ -65,7 +66,7 @@ public:
 private:
     SnapshotShelf& m_shelf;
     QVector<QPersistentModelIndex> m_indexes;
-    QVector<SnapshotShelf::Taken> m_taken; ///< while they are out
+    QVector<SnapshotShelf::Taken> m_taken; ///< valid while they are removed
 };
 
 } // namespace
@@ -94,7 +95,7 @@ Filmstrip::Filmstrip(QWidget* parent)
 
 Filmstrip::~Filmstrip()
 {
-    // The deletions use the shelf.
+    // The deletions use the shelf, so they must be destroyed before it.
     m_undoStack->clear();
 }
 
@@ -115,7 +116,7 @@ void Filmstrip::layOut()
     m_list->setFocusPolicy(Qt::TabFocus);
     QStyleOptionViewItem option;
     option.fontMetrics = m_list->fontMetrics();
-    // With the scroll bar, so that the video keeps its size when the strip gets longer.
+    // Includes the scroll bar, so that the video keeps its size when the strip grows.
     m_list->setFixedHeight(delegate->sizeHint(option, {}).height() +
                            m_list->horizontalScrollBar()->sizeHint().height() +
                            2 * m_list->frameWidth());
@@ -150,7 +151,7 @@ void Filmstrip::setupActions()
     connect(m_deleteAction, &QAction::triggered, this, &Filmstrip::deleteSelected);
     connect(m_list, &QListView::activated, this, &Filmstrip::choose);
     connect(m_list, &QListView::clicked, this, [this](const QModelIndex& index) {
-        // With these, a click selects.
+        // With these modifiers, a click selects.
         if ((QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) == 0) {
             choose(index);
         }

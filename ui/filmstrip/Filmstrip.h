@@ -12,9 +12,8 @@ class QLabel;
 class QListView;
 class QPushButton;
 
-/// The snapshots that were taken, as a strip of small pictures: one is chosen by a click or by
-/// Return, several are selected, deleted and brought back, or saved. Hidden while there are none.
-/// User-interface thread only.
+/// A strip of small pictures of the snapshots taken. A click or Return chooses one; several can be
+/// selected, deleted (with undo) or saved. Hidden while there are none. User-interface thread only.
 class Filmstrip : public QWidget
 {
     Q_OBJECT
@@ -23,22 +22,21 @@ public:
     explicit Filmstrip(QWidget* parent = nullptr);
     ~Filmstrip() override;
 
-    /// What is in the strip. Owned by it.
+    /// The contents of the strip. Owned by it.
     [[nodiscard]] SnapshotShelf& shelf() { return *m_shelf; }
 
-    /// Deletes what is selected; enabled while something is.
+    /// Deletes the selection; disabled while there is none.
     [[nodiscard]] QAction* deleteAction() const { return m_deleteAction; }
-    /// Take deletions back and make them again, and say so in their texts.
+    /// Undo and redo deletions; their texts name the deletion.
     [[nodiscard]] QAction* undoAction() const { return m_undoAction; }
     [[nodiscard]] QAction* redoAction() const { return m_redoAction; }
 
-    /// Marks a snapshot as the one that is shown elsewhere, and brings it into view; an empty name
-    /// marks none.
+    /// Marks a snapshot as the one shown elsewhere, and scrolls to it; an empty name marks none.
     void setCurrent(const QString& id);
 
     [[nodiscard]] QStringList selected() const;
 
-    /// Has Tab come here from another control of the same window.
+    /// Places the strip after another control of the same window in the tab order.
     void comeAfter(QWidget& control);
 
 public Q_SLOTS:
@@ -46,11 +44,11 @@ public Q_SLOTS:
     void deleteSelected();
 
 Q_SIGNALS:
-    /// The user wants to see the snapshot, and the frame in its video.
+    /// The user requests the snapshot, and the frame in its video.
     void chosen(const QString& id);
-    /// The user wants these as files.
+    /// The user requests to save these.
     void saveRequested(const QStringList& ids);
-    /// Something of what is in the strip is another.
+    /// A snapshot of the strip, or its state, has changed.
     void contentChanged();
 
 protected:
@@ -67,7 +65,7 @@ private:
     QListView* const m_list;
     QLabel* const m_countLabel;
     QPushButton* const m_saveAllButton;
-    /// Keeps the deleted ones. Goes before the shelf.
+    /// Holds the deleted ones. Destroyed before the shelf.
     QUndoStack* const m_undoStack;
     QAction* m_undoAction = nullptr;
     QAction* m_redoAction = nullptr;

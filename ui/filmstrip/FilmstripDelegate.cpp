@@ -8,7 +8,7 @@
 
 namespace {
 
-/// In which every small picture finds room, in its own proportions.
+/// Area into which every small picture is fitted.
 constexpr QSize pictureArea{112, 63};
 constexpr int margin = 5;
 constexpr int tickSize = 15;

@@ -6,7 +6,7 @@ FilmstripList::FilmstripList(QWidget* parent)
 
 QModelIndex FilmstripList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
-    // It runs the other way from right to left.
+    // The direction is reversed in right-to-left layouts.
     switch (action) {
     case MoveUp:
         return QListView::moveCursor(isRightToLeft() ? MoveRight : MoveLeft, modifiers);

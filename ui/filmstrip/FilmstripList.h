@@ -2,9 +2,9 @@
 
 #include <QListView>
 
-/// The list of a filmstrip. Up and Down go from one snapshot to another, since Left and Right are
-/// shortcuts of the window, which steps through the video by them; where the window has no use for
-/// them, they go from one snapshot to another, too. User-interface thread only.
+/// The list of a filmstrip. Up and Down move between snapshots, because Left and Right are
+/// shortcuts of the window for stepping through the video; if the window does not handle them, they
+/// move between snapshots, too. User-interface thread only.
 class FilmstripList : public QListView
 {
     Q_OBJECT

@@ -8,14 +8,15 @@
 #include <QString>
 #include <QtGlobal>
 
-/// What is known of a snapshot that is kept, without its picture. A plain value, for any thread.
+/// Properties of a stored snapshot, without its picture. A plain value, for any thread.
 struct KeptSnapshot
 {
-    QString id;                  ///< of letters, digits and hyphens; its files are named by it
+    QString id;                  ///< consists of letters, digits and hyphens; base of its file
+                                 ///< names
     QDateTime takenAt;           ///< in UTC
-    QString profileId;           ///< of the image profile that it is shown and saved with
-    QString profileName;         ///< as it was called then
+    QString profileId;           ///< of the image profile used to show and save it
+    QString profileName;         ///< its name at that time
     PictureSource source;        ///< the video and the frame
-    QtAV::StoredColours colours; ///< of the values of high dynamic range, where there are some
-    bool isSaved = false;        ///< as a file of the user's
+    QtAV::StoredColours colours; ///< of the stored values of high dynamic range, if there are any
+    bool isSaved = false;        ///< saved by the user as a file
 };

@@ -21,16 +21,16 @@ const QString indexName = QStringLiteral("index.json");
 const QString lockName = QStringLiteral("lock");
 const QString asideMark = QStringLiteral("-damaged-");
 
-/// What a snapshot's files are called behind its name.
+/// Endings of a snapshot's file names.
 const QString imageEnd = QStringLiteral(".png");
 const QString deepEnd = QStringLiteral(".deep.png");
 const QString storedEnd = QStringLiteral(".hdr.png");
 const QString thumbnailEnd = QStringLiteral(".small.png");
 
-/// PNG loses nothing at any: this one takes a third of the time of the smallest file.
+/// PNG is lossless at any setting; this one takes a third of the time of the smallest file.
 constexpr int pngQuality = 80;
 
-/// A longer list is nobody's of ours.
+/// A longer list does not come from this program.
 constexpr qint64 longestIndexBytes = 64 << 20;
 
 [[nodiscard]] bool writeImage(const QString& path, const QImage& image)
@@ -40,8 +40,8 @@ constexpr qint64 longestIndexBytes = 64 << 20;
            FilePublisher::publish(path, content, ExistingFile::Replace) == WriteResult::Written;
 }
 
-/// As it was written: opaque pictures have three channels, and the file's colour space was none of
-/// the image's own.
+/// Restores the image as it was written: opaque pictures have three channels, and the file's colour
+/// space was not a property of the image.
 [[nodiscard]] QImage readImage(const QString& path, bool isDeep)
 {
     QImage image(path, "png");
@@ -77,7 +77,7 @@ SnapshotContents SnapshotFolder::open()
     sweepOldFolders();
     QFile index(pathOf(indexName));
     if (index.exists()) {
-        // One that cannot even be opened may be readable again one day, and stays.
+        // A file that cannot even be opened may become readable again, so it stays.
         const bool isOpen = index.open(QIODevice::ReadOnly);
         const auto listed = SnapshotIndex::fromJson(index.read(longestIndexBytes));
         index.close();
@@ -97,7 +97,7 @@ SnapshotContents SnapshotFolder::open()
     return contents;
 }
 
-/// Makes the folder where it is missing. False where that fails, or another program has it.
+/// Creates the folder if it is missing. Returns false if that fails, or another program uses it.
 bool SnapshotFolder::claim()
 {
     auto lock = std::make_unique<QLockFile>(pathOf(lockName));
@@ -105,7 +105,7 @@ bool SnapshotFolder::claim()
     if (!QDir().mkpath(m_path) || !lock->tryLock()) {
         return false;
     }
-    // Frames may show what is nobody else's business.
+    // Frames may show private content.
     QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_lock = std::move(lock);
     return true;
@@ -118,8 +118,8 @@ bool SnapshotFolder::isWorthKeeping(const KeptSnapshot& snapshot) const
            QFileInfo(pathOf(snapshot.id + imageEnd)).isFile();
 }
 
-/// The whole folder, since its files are worth nothing without their list, and could be had back
-/// with it. An empty one takes its place. False where that fails.
+/// Moves the whole folder aside, since its files are useless without their list, and might be
+/// recovered with it. An empty folder replaces it. Returns false if that fails.
 bool SnapshotFolder::putAside(QString& where)
 {
     const QString stamp =

@@ -11,47 +11,49 @@
 #include <memory>
 #include <optional>
 
-/// What a folder of snapshots has when it is opened.
+/// The content of a folder of snapshots when it is opened.
 struct SnapshotContents
 {
     QVector<KeptSnapshot> snapshots;
-    QVector<QImage> thumbnails; ///< of the snapshots; null where one is missing
-    /// Where a list went that could not be read, with its files; empty where all is well.
+    QVector<QImage> thumbnails; ///< of the snapshots; null if missing
+    /// Where an unreadable list was moved, with its files; empty if everything is fine.
     QString putAside;
-    /// The pictures cannot be kept in this folder, or another program uses it.
+    /// True if pictures cannot be stored in this folder, or another program uses it.
     bool isRefused = false;
 };
 
-/// The folder in which snapshots are kept that are not saved yet: the list "index.json" and, for
-/// each, PNG files that hold its frame without a loss, and a small picture of it.
+/// The folder that stores unsaved snapshots: the list "index.json" and, for each snapshot, PNG
+/// files that hold its frame without loss, and a small picture of it.
 ///
-/// Only one program at a time uses a folder. All files are written whole or not at all, and an
-/// entry is listed after its files. Everything here waits for the disk; one thread at a time.
+/// Only one program at a time uses a folder. All files are written completely or not at all, and an
+/// entry is listed only after its files exist. All functions wait for the disk; one thread at a
+/// time may use an object.
 class SnapshotFolder
 {
 public:
-    /// What is older than this is not brought back.
+    /// Older snapshots are not restored.
     static constexpr int keptDays = 90;
-    /// The size of the small pictures, in pixels: at most.
+    /// Maximum size of the small pictures in pixels.
     static constexpr QSize thumbnailSize{256, 144};
 
     explicit SnapshotFolder(QString path);
 
-    /// Takes the folder for this program and reads what it has. Snapshots that were saved, whose
-    /// picture is gone, or that are too old go, and with them all files that belong to none. A
-    /// list that cannot be read is put aside, in a folder beside this one. Once.
+    /// Claims the folder for this program and reads its content. Removes snapshots that were saved,
+    /// lack their picture or are too old, and all files that belong to no snapshot. An unreadable
+    /// list is moved to a folder next to this one. Call it once.
     [[nodiscard]] SnapshotContents open();
 
-    /// Writes the files of a snapshot. False where one could not be written, and then none stays.
+    /// Writes the files of a snapshot. Returns false if one could not be written; none remains
+    /// then.
     [[nodiscard]] bool write(const QString& id, const CapturedPicture& unpacked,
                              const QImage& thumbnail);
     /// Replaces the list.
     [[nodiscard]] bool writeIndex(const QVector<KeptSnapshot>& snapshots);
-    /// Nothing where the files are gone or damaged.
+    /// Nothing if the files are missing or damaged.
     [[nodiscard]] std::optional<CapturedPicture> read(const KeptSnapshot& snapshot) const;
     void remove(const QString& id);
 
-    /// What all files take, in bytes.
+    /// Total size of all files in bytes.
     [[nodiscard]] qint64 byteCount() const;
 
 private:
@@ -63,5 +65,5 @@ private:
     [[nodiscard]] bool isWorthKeeping(const KeptSnapshot& snapshot) const;
 
     const QString m_path;
-    std::unique_ptr<QLockFile> m_lock; ///< held where the folder is this program's
+    std::unique_ptr<QLockFile> m_lock; ///< held if the folder belongs to this program
 };

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int version = 1;
 
-/// More are nobody's of ours.
+/// A list with more entries does not come from this program.
 constexpr int mostSnapshots = 10000;
 
 const QLatin1String versionKey("version");
@@ -116,7 +116,7 @@ QJsonObject fromSnapshot(const KeptSnapshot& snapshot)
             {QStringLiteral("source"), fromSource(snapshot.source)}};
 }
 
-/// Its files are named by it, so that it must not lead out of their folder.
+/// Used for file names, so it must not lead out of their folder.
 bool isName(const QString& id)
 {
     static const QRegularExpression name(QStringLiteral("\\A[A-Za-z0-9-]{1,64}\\z"));

@@ -7,14 +7,14 @@
 
 #include <optional>
 
-/// The list of the snapshots that are kept, as the text of a file. Without state, for any thread.
+/// The list of stored snapshots as the text of a file. Stateless, for any thread.
 namespace SnapshotIndex {
 
 /// JSON, in the order of the snapshots.
 [[nodiscard]] QByteArray toJson(const QVector<KeptSnapshot>& snapshots);
 
-/// Nothing where the text is not such a list as a whole: cut off, of another version, with an entry
-/// that lacks its name or has one that could lead out of the folder.
+/// Nothing unless the whole text is a valid list: not truncated, of this version, and with a safe
+/// name in each entry.
 [[nodiscard]] std::optional<QVector<KeptSnapshot>> fromJson(const QByteArray& json);
 
 } // namespace SnapshotIndex

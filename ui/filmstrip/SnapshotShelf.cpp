@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Made smaller in two steps, of which the first is quick: fine detail needs no more here.
+/// Scaled in two steps, the first one fast: the result does not need finer detail.
 QImage thumbnailOf(const QImage& image)
 {
     const QSize size = image.size().scaled(SnapshotFolder::thumbnailSize, Qt::KeepAspectRatio);
@@ -39,7 +39,7 @@ void SnapshotShelf::keepIn(const QString& folder)
     post(open, [this, contents] { bringBack(*contents); });
 }
 
-/// What was added meanwhile comes behind.
+/// Snapshots added meanwhile follow.
 void SnapshotShelf::bringBack(const SnapshotContents& contents)
 {
     if (contents.isRefused) {
@@ -88,7 +88,7 @@ QString SnapshotShelf::add(const CapturedPicture& picture, const QString& profil
     m_entries.append(entry);
     keepInMemory(m_entries.last(), picture);
     endInsertRows();
-    // Those that could not be written may find room now.
+    // There may be room now for those that could not be written.
     for (Entry& one : m_entries) {
         if (one.place == Place::InMemory && !one.isBeingWritten) {
             write(one);
@@ -112,7 +112,7 @@ void SnapshotShelf::makeRoom()
         if (oldest == m_entries.cend()) {
             return;
         }
-        // About; it is counted when the next one is written.
+        // An estimate; it is measured again when the next one is written.
         m_diskBytes -= m_diskBytes / m_entries.size();
         discard(take({index(int(oldest - m_entries.cbegin()))}));
     }
@@ -157,7 +157,7 @@ void SnapshotShelf::write(Entry& entry)
     });
 }
 
-/// The snapshot may have been taken out meanwhile.
+/// The snapshot may have been removed meanwhile.
 void SnapshotShelf::noticeWritten(const QString& id, const QImage& thumbnail, bool isWritten)
 {
     Entry* const entry = find(id);
@@ -183,8 +183,8 @@ void SnapshotShelf::noticeFailure()
     }
 }
 
-/// It comes behind what is being written. One that cannot be written is named as well, which does
-/// no harm: without its picture it is not brought back.
+/// Queued after pending writes. A snapshot that cannot be written is listed as well, which is
+/// harmless: without its picture it is not restored.
 void SnapshotShelf::writeIndex()
 {
     if (m_folder == nullptr) {
@@ -328,7 +328,7 @@ void SnapshotShelf::process(const QString& id,
     post(task, [done = std::move(done), result] { done(*result); });
 }
 
-/// The end of this object waits for the tasks, and what they would call then is dropped with it.
+/// The destructor waits for the tasks; callbacks that they post then are dropped.
 void SnapshotShelf::post(std::function<void()> task, std::function<void()> done)
 {
     ++m_pendingTasks;
@@ -425,7 +425,7 @@ QModelIndex SnapshotShelf::indexOf(const QString& id) const
 void SnapshotShelf::notice(const QString& id, const QVector<int>& roles)
 {
     const QModelIndex changed = indexOf(id);
-    // Texts tell of everything.
+    // The texts show all properties.
     Q_EMIT dataChanged(changed, changed, roles + QVector<int>{Qt::DisplayRole, Qt::ToolTipRole});
 }
 

@@ -17,31 +17,31 @@
 class SnapshotFolder;
 struct SnapshotContents;
 
-/// The snapshots that were taken, in the order in which they were: a list for views, which survives
-/// the program where it has a folder to keep them in.
+/// The snapshots taken, in order: a list for views, which survives the program if it has a folder
+/// to store them in.
 ///
-/// A snapshot is listed at once and written in the background; meanwhile, and where it cannot be
-/// written, its picture stays in memory. It is safe once its files and the list that names it are
-/// on the disk, or it was saved. When there are too many, saved ones make room, the oldest first;
-/// without one of these no more are taken.
+/// A snapshot is listed at once and written in the background. Its picture stays in memory until
+/// then, or if it cannot be written. It is safe once its files and the list that names it are on
+/// the disk, or it was saved. If there are too many, the oldest saved ones make room; if none is
+/// saved, no more are accepted.
 ///
-/// User-interface thread only, which never waits for the disk, but at the end of the object: that
-/// waits until all is written.
+/// User-interface thread only. No function waits for the disk, except the destructor, which waits
+/// until everything is written.
 class SnapshotShelf : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    /// Beside the display, which is the time in the video, and the tool tip.
+    /// In addition to the display role, the time in the video, and the tool tip.
     enum Role {
-        ThumbnailRole = Qt::UserRole, ///< QImage; null until it is made
+        ThumbnailRole = Qt::UserRole, ///< QImage; null until it is available
         IdRole,
         TimeRole,    ///< "00:00:03.520"
         ProfileRole, ///< the name of the image profile
         IsSavedRole,
     };
 
-    /// How much may be kept.
+    /// Limits on the stored snapshots.
     struct Limits
     {
         int count = 500;
@@ -49,49 +49,49 @@ public:
         qint64 memoryBytes = qint64(512) << 20; ///< of pictures that are not on the disk
     };
 
-    /// What was taken out, to be put back or discarded.
+    /// Removed snapshots, to be put back or discarded.
     struct Taken;
 
     explicit SnapshotShelf(QObject* parent = nullptr);
     ~SnapshotShelf() override;
 
-    /// Brings back what is kept in the folder, and keeps the snapshots there from now on. Once, and
-    /// before one is added.
+    /// Restores the snapshots in the folder, and stores snapshots there from now on. Call it once,
+    /// before adding any.
     void keepIn(const QString& folder);
 
-    /// Adds a snapshot at the end. Gives its name; an empty one where there is no room.
+    /// Appends a snapshot. Returns its name; empty if there is no room.
     [[nodiscard]] QString add(const CapturedPicture& picture, const QString& profileId,
                               const QString& profileName);
-    /// The snapshot is shown and saved with another profile from now on.
+    /// Sets another profile for showing and saving the snapshot.
     void setProfile(const QString& id, const QString& profileId, const QString& profileName);
     void markSaved(const QString& id);
 
-    /// Takes snapshots out of the list; their files stay until they are discarded.
+    /// Removes snapshots from the list; their files stay until they are discarded.
     [[nodiscard]] QVector<Taken> take(const QModelIndexList& indexes);
-    /// Lists them again where they were.
+    /// Lists them again at their places.
     void putBack(const QVector<Taken>& taken);
     /// Removes their files.
     void discard(const QVector<Taken>& taken);
 
-    /// Reads the picture, and answers by loaded() or loadFailed().
+    /// Reads the picture, and answers with loaded() or loadFailed().
     void load(const QString& id);
 
-    /// Does something with the picture in the background, null where it cannot be read, and then
-    /// something with the result in this thread, unless the shelf is gone by then.
+    /// Processes the picture in the background, with null if it cannot be read, and then passes the
+    /// result to a function in this thread, unless the shelf is gone by then.
     void process(const QString& id, std::function<bool(const CapturedPicture* picture)> work,
                  std::function<void(bool)> done);
 
     [[nodiscard]] std::optional<KeptSnapshot> snapshot(const QString& id) const;
     [[nodiscard]] QStringList unsaved() const;
-    /// Where in a video, an absolute path, snapshots were taken: milliseconds in rising order, each
-    /// once.
+    /// The times of the snapshots of a video, given by its absolute path: milliseconds in rising
+    /// order, without duplicates.
     [[nodiscard]] QVector<qint64> timesIn(const QString& video) const;
     [[nodiscard]] QModelIndex indexOf(const QString& id) const;
-    /// The end of the program would not lose it.
+    /// True if the snapshot survives the end of the program.
     [[nodiscard]] bool isSafe(const QString& id) const;
-    /// How many the end of the program would lose.
+    /// The number of snapshots that the end of the program would lose.
     [[nodiscard]] int unsafeCount() const;
-    /// Nothing is being written or read. Without a folder there is nothing to wait for.
+    /// True if nothing is being written or read. Always true without a folder.
     [[nodiscard]] bool isSettled() const { return m_pendingTasks == 0 || m_folder == nullptr; }
     void setLimits(const Limits& limits) { m_limits = limits; }
 
@@ -101,21 +101,21 @@ public:
 Q_SIGNALS:
     void loaded(const QString& id, const CapturedPicture& picture);
     void loadFailed(const QString& id);
-    /// Something to tell the user.
+    /// A message for the user.
     void noticed(const QString& text);
     void settled();
 
 private:
     enum class Place {
-        InMemory, ///< being written, or could not be
-        OnDisk,   ///< but the list there may not name it yet
+        InMemory, ///< being written, or could not be written
+        OnDisk,   ///< the list on the disk may not name it yet
         Listed,
     };
     struct Entry
     {
         KeptSnapshot note;
         QImage thumbnail;
-        CapturedPicture picture; ///< while it is in memory only
+        CapturedPicture picture; ///< held only while it is not on the disk
         Place place = Place::InMemory;
         bool isBeingWritten = false;
     };
@@ -142,10 +142,10 @@ private:
     QVector<Entry> m_entries;
     int m_pendingTasks = 0;
     qint64 m_memoryBytes = 0;                 ///< of the pictures in m_entries
-    qint64 m_diskBytes = 0;                   ///< when it was last counted
-    bool m_hasFailed = false;                 ///< to write; told once
-    std::shared_ptr<SnapshotFolder> m_folder; ///< null without one; for the tasks
-    /// Ends first: its tasks use what stands above.
+    qint64 m_diskBytes = 0;                   ///< as last measured
+    bool m_hasFailed = false;                 ///< writing has failed; reported once
+    std::shared_ptr<SnapshotFolder> m_folder; ///< null without one; used by the tasks
+    /// Destroyed first: its tasks use the members above.
     std::unique_ptr<TaskThread> m_thread;
 };
 

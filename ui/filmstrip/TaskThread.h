@@ -6,10 +6,10 @@
 #include <mutex>
 #include <thread>
 
-/// A thread that carries out one task after another, in the order in which they were given.
+/// A thread that carries out tasks one after another, in the order in which they were posted.
 ///
-/// It belongs to the thread that made it, and starts with the first task. Its end waits until all
-/// tasks are done. A task must not throw.
+/// Belongs to the thread that created it, and starts with the first task. The destructor waits
+/// until all tasks are done. A task must not throw.
 class TaskThread
 {
 public:
@@ -18,7 +18,7 @@ public:
     TaskThread(const TaskThread&) = delete;
     TaskThread& operator=(const TaskThread&) = delete;
 
-    /// Where the system gives no thread, the task is carried out at once, in the calling one.
+    /// If the system provides no thread, the task runs at once in the calling one.
     void post(std::function<void()> task);
 
 private:

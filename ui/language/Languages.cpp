@@ -27,7 +27,7 @@ QString qtFolder()
 #endif
 }
 
-/// Loads the first such catalogue into the application. False when no folder has one.
+/// Loads the first such catalogue into the application. Returns false if no folder has one.
 bool load(QCoreApplication& app, const QString& name, const QStringList& folders)
 {
     auto translator = std::make_unique<QTranslator>();
@@ -67,7 +67,7 @@ QStringList Languages::available(const QStringList& folders)
 
 QString Languages::nativeName(const QString& language)
 {
-    // Qt has "American English", for one, where no country is named.
+    // Qt says, for example, "American English" if no country is given.
     if (language == english) {
         return QStringLiteral("English");
     }

@@ -56,7 +56,7 @@ void BestFramesDialog::layOut()
     m_takeButton->setToolTip(tr("Take a snapshot of the selected frame"));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     buttons->addButton(m_takeButton, QDialogButtonBox::ActionRole);
-    // Return is the list's: a button that takes it as well would take a second snapshot.
+    // Return belongs to the list: a default button would also react and take a second snapshot.
     m_takeButton->setAutoDefault(false);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -115,7 +115,7 @@ std::optional<qint64> BestFramesDialog::currentMs() const
                            : std::optional<qint64>(item->data(Qt::UserRole).toLongLong());
 }
 
-/// Nobody waits for what is still being looked for.
+/// Nobody waits for a search while the dialog is hidden.
 void BestFramesDialog::hideEvent(QHideEvent* event)
 {
     m_finder->cancel();

@@ -12,31 +12,31 @@ class QLabel;
 class QListWidget;
 class QPushButton;
 
-/// Proposes the best frames of a stretch as small pictures: a click goes to the frame, another
-/// action takes the snapshot. It stays open beside the window. User-interface thread only.
+/// Proposes the best frames of a stretch as small pictures: a click shows the frame, another action
+/// takes the snapshot. It stays open beside the window. User-interface thread only.
 class BestFramesDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// So many are proposed.
+    /// Number of proposals.
     static constexpr int proposals = 5;
 
     explicit BestFramesDialog(QWidget* parent = nullptr);
     ~BestFramesDialog() override;
 
-    /// Looks for the best frames of a stretch of a video, in place of those that are shown, and
-    /// shows the dialog.
+    /// Shows the dialog and searches a stretch of a video for its best frames, which replace those
+    /// shown.
     void propose(const QString& video, QtAV::Deinterlacing deinterlacing,
                  const VideoStretch& stretch);
 
-    /// Shows nothing, as for a video that was closed.
+    /// Shows nothing, for example after a video was closed.
     void reset();
 
 Q_SIGNALS:
-    /// The user wants to see the frame at that position of the video, in milliseconds.
+    /// The user requests the frame at that position of the video, in milliseconds.
     void frameChosen(qint64 ms);
-    /// The user wants a snapshot of it.
+    /// The user requests a snapshot of it.
     void snapshotWanted(qint64 ms);
 
 protected:

@@ -28,7 +28,7 @@ void BestFramesFinder::cancel()
 
 void BestFramesFinder::take(int search, const BestFrames& best)
 {
-    // It may have been cancelled while its result was on its way here.
+    // The search may have been cancelled while its result was in transit.
     if (search == m_search) {
         Q_EMIT found(best);
     }

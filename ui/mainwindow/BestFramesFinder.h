@@ -9,9 +9,9 @@
 
 Q_DECLARE_METATYPE(BestFrames)
 
-/// Looks for the best frames of a stretch in a thread of its own. One search at a time: a new one
-/// ends the one before. User-interface thread only, and nothing waits there; only the end of the
-/// object waits for the search's next step.
+/// Searches a stretch for its best frames on a thread of its own. A new search cancels the previous
+/// one. User-interface thread only; calls do not wait, except that the destructor waits for the
+/// search's next step.
 class BestFramesFinder : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     explicit BestFramesFinder(QObject* parent = nullptr);
     ~BestFramesFinder() override;
 
-    /// Begins a search, which ends in one found(), unless it is cancelled.
+    /// Starts a search, which ends in one found() unless it is cancelled.
     void search(const QString& video, QtAV::Deinterlacing deinterlacing,
                 const VideoStretch& stretch, int count, const QSize& pictureSize);
     /// Returns at once; what the search still finds is dropped.
@@ -33,5 +33,5 @@ private:
     Q_INVOKABLE void take(int search, const BestFrames& best);
 
     int m_search = 0;  ///< changes with each search and each cancel()
-    NewestTask m_task; ///< last: its thread calls for the others
+    NewestTask m_task; ///< last, since its thread calls the other members
 };

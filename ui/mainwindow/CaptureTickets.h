@@ -1,23 +1,23 @@
 #pragma once
 
-/// Tells which answers of a capture that runs in the background still matter.
+/// Tells which answers of a background capture are still relevant.
 ///
-/// Captures are answered in the order in which they were asked for. Once the video is closed, the
-/// answers still to come belong to it and not to the one opened next.
+/// Captures are answered in the order of the requests. After the video is closed, pending answers
+/// belong to it and not to the next video.
 class CaptureTickets
 {
 public:
-    /// A capture was asked for.
+    /// Call it when a capture is requested.
     void ask() { ++m_current; }
 
-    /// Nothing asked for so far matters any more.
+    /// Makes all pending answers irrelevant.
     void forgetAll()
     {
         m_stale += m_current;
         m_current = 0;
     }
 
-    /// An answer came. True when it matters; so does one that nobody here asked for.
+    /// Call it when an answer arrives. Returns true if it is relevant, or was not requested here.
     [[nodiscard]] bool answer()
     {
         if (m_stale > 0) {

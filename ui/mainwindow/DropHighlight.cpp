@@ -6,7 +6,8 @@
 
 namespace {
 
-/// A frame in the colour of the theme, between black and white: one of these is seen on any ground.
+/// A frame in the theme's colour between black and white lines, so that it is visible on any
+/// ground.
 constexpr int lineWidth = 2;
 constexpr int colourWidth = 4;
 constexpr int textMargin = 12;

@@ -2,18 +2,18 @@
 
 #include <QWidget>
 
-/// A frame and a line of text over a window, which say that what is dragged can be dropped there.
-/// It covers the whole window without moving anything in it, and takes no mouse events.
+/// A frame and a line of text over a window, showing that the dragged object can be dropped there.
+/// It covers the whole window without changing its layout, and takes no mouse events.
 /// User-interface thread only.
 class DropHighlight : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Hidden at first.
+    /// Hidden initially.
     explicit DropHighlight(QWidget& window);
 
-    /// Covers the window as it is now.
+    /// Covers the window at its current size.
     void appear();
 
 protected:

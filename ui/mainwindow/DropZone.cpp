@@ -11,7 +11,7 @@
 
 namespace {
 
-/// A search that takes no longer needs no dialog.
+/// A shorter search needs no dialog.
 constexpr int patienceMs = 500;
 
 } // namespace
@@ -27,7 +27,7 @@ DropZone::~DropZone() = default;
 void DropZone::enter(QDragEnterEvent& event)
 {
     if (!DroppedVideos::pathsIn(*event.mimeData()).isEmpty()) {
-        // Never a move: the program where the file comes from would delete it.
+        // Never a move, because the source program would then delete the file.
         event.setDropAction(Qt::CopyAction);
         event.accept();
         m_highlight->appear();
@@ -90,7 +90,7 @@ void DropZone::take(int search, const QStringList& videos)
     }
     m_isSearching = false;
     if (m_progress != nullptr) {
-        // Closing it would cancel.
+        // Closing the dialog would cancel the search.
         m_progress->disconnect(this);
         m_progress->close();
     }

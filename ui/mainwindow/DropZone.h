@@ -12,17 +12,17 @@ class QDropEvent;
 class QProgressDialog;
 class QWidget;
 
-/// Takes files and folders that are dropped onto a window, and finds the videos in them. The window
-/// is highlighted while they are over it.
+/// Accepts files and folders that are dropped onto a window, and finds the videos in them. The
+/// window is highlighted during the drag.
 ///
-/// Folders and more than one file are looked at in the background, with a dialog to cancel that
-/// when it takes long. User-interface thread only.
+/// Folders and multiple files are examined in the background, with a dialog for cancelling if that
+/// takes long. User-interface thread only.
 class DropZone : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Its drag events are to be handed on to this object, which it owns.
+    /// The window must forward its drag events to this object, which it owns.
     explicit DropZone(QWidget& window);
     ~DropZone() override;
 
@@ -30,13 +30,13 @@ public:
     void leave();
     void drop(QDropEvent& event);
 
-    /// A drop is still being looked at.
+    /// True while a drop is being examined.
     [[nodiscard]] bool isSearching() const { return m_isSearching; }
 
 Q_SIGNALS:
-    /// What was dropped, when the program that it comes from no longer waits: at least one.
+    /// At least one video was dropped. Emitted after the source program has stopped waiting.
     void dropped(const QStringList& videos);
-    /// Nothing that could be opened was dropped.
+    /// The drop contained nothing that could be opened.
     void nothingFound();
 
 private:
@@ -47,8 +47,8 @@ private:
 
     QWidget& m_window;
     DropHighlight* const m_highlight;
-    QPointer<QProgressDialog> m_progress; ///< while a search takes long
+    QPointer<QProgressDialog> m_progress; ///< exists while a search takes long
     bool m_isSearching = false;
     int m_search = 0;  ///< changes with each drop
-    NewestTask m_task; ///< last: its thread calls for the others
+    NewestTask m_task; ///< last, since its thread calls the other members
 };

@@ -7,21 +7,21 @@
 
 class QMimeData;
 
-/// What a drop onto the window means. From any thread.
+/// Interprets a drop onto the window. From any thread.
 namespace DroppedVideos {
 
 using IsCancelled = std::function<bool()>;
 
-/// No more are taken of one drop.
+/// Maximum number of videos taken from one drop.
 constexpr int most = 5000;
 
-/// The files and folders of this machine that are dropped, as they are named; the disk is not
-/// asked. Empty when there are none.
+/// The local files and folders that are dropped, as named; does not access the disk. Empty if there
+/// are none.
 [[nodiscard]] QStringList pathsIn(const QMimeData& data);
 
-/// The videos among them, which reads the disk: files that look like a video by name and content,
-/// and what folders hold, see VideoNames::below(). Where nothing is one, the first file, for the
-/// player knows best. Each once, in the order of the paths.
+/// The videos among them: files that are videos by name and content, and the contents of folders,
+/// see VideoNames::below(). Reads the disk. If nothing qualifies, the first file, because the
+/// player can tell best. Without duplicates, in the order of the paths.
 [[nodiscard]] QStringList among(const QStringList& paths, const IsCancelled& isCancelled);
 
 } // namespace DroppedVideos

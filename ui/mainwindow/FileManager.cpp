@@ -41,7 +41,7 @@ void FileManager::show(const QString& file)
         openFolderOf(file);
         return;
     }
-    // What file managers of all desktops answer to.
+    // A name that the file managers of all desktops provide.
     const QString name = QStringLiteral("org.freedesktop.FileManager1");
     QDBusMessage request = QDBusMessage::createMethodCall(
         name, QStringLiteral("/org/freedesktop/FileManager1"), name, QStringLiteral("ShowItems"));

@@ -5,8 +5,8 @@
 /// The desktop's file manager. User-interface thread only.
 namespace FileManager {
 
-/// Shows the file in its folder and selects it, where the file manager can do that; otherwise opens
-/// the folder. Returns at once; a desktop without any file manager shows nothing.
+/// Shows the file selected in its folder if the file manager supports that; otherwise opens the
+/// folder. Returns at once. Without a file manager nothing happens.
 void show(const QString& file);
 
 } // namespace FileManager

@@ -21,7 +21,7 @@ FolderSteps::FolderSteps(QAction& next, QAction& previous, QObject* parent)
     m_settling.setInterval(settlingMs);
     connect(&m_settling, &QTimer::timeout, this, &FolderSteps::look);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, [this] {
-        // Not started anew by each change: a folder that never rests is to be looked at, too.
+        // Not restarted by each change, so that a constantly changing folder is read, too.
         if (!m_settling.isActive()) {
             m_settling.start();
         }
@@ -62,7 +62,7 @@ void FolderSteps::look()
 
 void FolderSteps::take(int look, const QString& previous, const QString& next)
 {
-    // Another video may have been opened while this was on its way here.
+    // Another video may have been opened while the result was in transit.
     if (look == m_look) {
         show(previous, next);
     }

@@ -9,24 +9,24 @@
 
 class QAction;
 
-/// The two actions that open the next and the previous video of the open one's folder. Each is
-/// enabled while there is such a video: the folder is looked at in the background, and again when
-/// it changes. User-interface thread only.
+/// The two actions that open the next and the previous video in the folder of the open one. Each is
+/// enabled while there is such a video. The folder is read in the background, and again when it
+/// changes. User-interface thread only.
 class FolderSteps : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param next      enabled and disabled from now on; both must outlive this object
-    /// @param previous  likewise
+    /// @param next      this object enables and disables it; must outlive this object
+    /// @param previous  like next
     FolderSteps(QAction& next, QAction& previous, QObject* parent);
     ~FolderSteps() override;
 
-    /// The video that is open; an empty path for none.
+    /// Sets the open video; an empty path for none.
     void setVideo(const QString& path);
 
 Q_SIGNALS:
-    /// The user wants to open that video.
+    /// The user requests to open that video.
     void chosen(const QString& path);
 
 private:
@@ -39,8 +39,8 @@ private:
     QString m_video;
     QString m_next;
     QString m_previous;
-    int m_look = 0; ///< changes with each look at the folder
+    int m_look = 0; ///< changes whenever the folder is read
     QFileSystemWatcher m_watcher;
-    QTimer m_settling; ///< a folder in which much happens is looked at once in a while
-    NewestTask m_task; ///< last: its thread calls for the others
+    QTimer m_settling; ///< limits how often a busy folder is read
+    NewestTask m_task; ///< last, since its thread calls the other members
 };

@@ -5,12 +5,12 @@
 #include <QSet>
 #include <QString>
 
-/// Removes what killed programs have left in the folders that snapshots are saved in, in the
-/// background and once for each folder: see FilePublisher::sweep(). User-interface thread only.
+/// Removes files that killed programs have left in the folders of snapshots, in the background and
+/// once per folder: see FilePublisher::sweep(). User-interface thread only.
 class FolderSweeper
 {
 public:
-    /// Returns at once. Nothing happens to a folder that was swept before.
+    /// Returns at once. Does nothing for a folder that was swept before.
     void sweep(const QString& folder);
 
 private:

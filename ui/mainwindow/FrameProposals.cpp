@@ -11,7 +11,7 @@
 
 namespace {
 
-/// How far around the frame on screen frames are looked at.
+/// How far around the frame on screen to search.
 constexpr qint64 aroundMs = 1000;
 
 } // namespace
@@ -52,7 +52,7 @@ void FrameProposals::goTo(qint64 ms)
     m_player.setPosition(ms);
 }
 
-/// Unless the user has gone somewhere else meanwhile.
+/// Not if the user has moved elsewhere meanwhile.
 void FrameProposals::noteShown()
 {
     const std::optional<qint64> wanted = std::exchange(m_takenWhenShown, std::nullopt);

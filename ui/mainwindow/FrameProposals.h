@@ -16,28 +16,28 @@ namespace QtAV {
 class AVPlayer;
 } // namespace QtAV
 
-/// The way from proposals of the best frames to the frame on screen, and to a snapshot of it.
-/// User-interface thread only.
+/// Connects proposals of the best frames with the player and with taking a snapshot. User-interface
+/// thread only.
 class FrameProposals : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param player  goes to the frames; must outlive this object
-    /// @param window  the dialog stays in front of it, and owns this object
+    /// @param player  shows the frames; must outlive this object
+    /// @param window  parent of the dialog; owns this object
     FrameProposals(QtAV::AVPlayer& player, QWidget& window);
 
-    /// Shows the best frames of a stretch of the open video as soon as they are found.
+    /// Shows the best frames of a stretch of the open video once they are found.
     void propose(const QString& video, QtAV::Deinterlacing deinterlacing,
                  const VideoStretch& stretch);
-    /// What was proposed is of a video that is closed.
+    /// Call it when the video of the proposals is closed.
     void reset();
 
-    /// A second before and behind a frame.
+    /// A stretch from a second before a frame to a second after it.
     [[nodiscard]] static VideoStretch around(qint64 ms);
 
 Q_SIGNALS:
-    /// The frame that the user wants a snapshot of is on screen.
+    /// The frame of which the user requested a snapshot is on screen.
     void snapshotWanted();
 
 private:
@@ -46,5 +46,5 @@ private:
 
     QtAV::AVPlayer& m_player;
     BestFramesDialog* const m_dialog;
-    std::optional<qint64> m_takenWhenShown; ///< a snapshot is wanted as soon as this one is
+    std::optional<qint64> m_takenWhenShown; ///< a snapshot is taken once this position is shown
 };

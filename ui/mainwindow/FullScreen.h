@@ -6,14 +6,14 @@
 class QMainWindow;
 class QWidget;
 
-/// Shows the player of a window on the whole screen: without what would take room from it, which
-/// comes back with the window. User-interface thread only.
+/// Shows a window's player full screen, hiding the other widgets; these return with the normal
+/// window. User-interface thread only.
 class FullScreen : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param others  what is hidden meanwhile; both are to outlive this.
+    /// @param others  widgets to hide meanwhile; both must outlive this object
     FullScreen(QMainWindow& window, QVector<QWidget*> others);
 
     bool isOn() const { return m_isOn; }

@@ -8,7 +8,7 @@
 
 class QWidget;
 
-/// Tells in the tool tips of controls which keys do the same, as the actions say at that moment.
+/// Adds the current keyboard shortcuts of actions to the tool tips of their controls.
 /// User-interface thread only.
 class KeyTips : public QObject
 {
@@ -17,13 +17,14 @@ class KeyTips : public QObject
 public:
     using QObject::QObject;
 
-    /// The control does what the action does, which has the keys. Both may go before this.
+    /// Associates a control with the action that has its keys. Both may be deleted before this
+    /// object.
     void add(QWidget& control, QAction& action);
 
     /// The tool tip of a control with its keys, such as "Play/Pause (Space or K)".
     [[nodiscard]] QString textFor(const QWidget& control) const;
 
-    /// The keys of an action as people read them; empty for none.
+    /// The keys of an action in readable form; empty for none.
     [[nodiscard]] static QString keysOf(const QAction& action);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -5,8 +5,8 @@
 
 class QActionGroup;
 
-/// The languages to choose from. What is chosen is stored, and is in effect from the next start on.
-/// User-interface thread only.
+/// The menu of languages. A choice is stored, and takes effect at the next start. User-interface
+/// thread only.
 class LanguageMenu : public QMenu
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     explicit LanguageMenu(QWidget* parent = nullptr);
 
 Q_SIGNALS:
-    /// Another language was chosen; the text, for people, says when it is in effect.
+    /// Another language was chosen; the text, for people, says when it takes effect.
     void message(const QString& text);
 
 private:

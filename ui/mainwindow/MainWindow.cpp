@@ -23,13 +23,13 @@ QDir storedOpenDir(const QSettings& settings)
     return QDir(settings.value(QStringLiteral("lastOpenDir"), QDir::homePath()).toString());
 }
 
-/// Room for the widest time, so that the row does not shake while the digits change.
+/// Width of the widest time, so that the row does not move while the digits change.
 int widestTime(const QWidget& widget)
 {
     return widget.fontMetrics().horizontalAdvance(QStringLiteral("00:00:00.000"));
 }
 
-/// A control that the space key presses.
+/// Whether the space key presses the control.
 bool isPressedBySpace(const QWidget* control)
 {
     const auto* const box = qobject_cast<const QGroupBox*>(control);
@@ -52,8 +52,8 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     , m_saveDialogDir(m_lastOpenDir)
 {
     m_ui->setupUi(this);
-    // Not in the form: a box that is off disables its children while they are still being made, and
-    // to screen readers they would then stay what they were at that moment, plain areas.
+    // Not set in the form: an unchecked group box disables its children while they are still being
+    // created, and screen readers would keep treating them as plain areas.
     m_ui->automaticFileNameGroupBox->setChecked(false);
     GroupBoxMargins::apply(*this);
     keepKeysForVideo();
@@ -69,7 +69,7 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
 
 MainWindow::~MainWindow()
 {
-    // The control that has the keyboard tells when it loses it, and while all is there still.
+    // Clears the focus while everything still exists, because its control reacts to losing it.
     if (QWidget* const control = focusWidget()) {
         control->clearFocus();
     }
@@ -117,7 +117,7 @@ void MainWindow::setupLanguages()
             [this](const QString& text) { statusBar()->showMessage(text, messageMs); });
 }
 
-/// Says that there is nothing to show videos with, and leaves only what works without.
+/// Reports that no video can be shown, and leaves only what works without a player.
 void MainWindow::refusePlayer()
 {
     QMessageBox::warning(nullptr, tr("Morvantile error"), tr("Can not create video renderer"),
@@ -137,7 +137,7 @@ void MainWindow::connectPlayer()
     connect(m_player, &AVPlayer::started, this, &MainWindow::noticeBaseLayer);
     connect(m_player, &AVPlayer::durationChanged, this, &MainWindow::durationChanged);
     connect(m_player, &AVPlayer::positionChanged, this, &MainWindow::positionChanged);
-    // The frame at the place sought may be the one that was on screen, and lie beside it.
+    // The frame at the sought position may already have been on screen, and differ from the slider.
     connect(m_player, &AVPlayer::seekFinished, this, updateSliderNow);
     connect(m_player, &AVPlayer::notifyIntervalChanged, this, &MainWindow::updateSliderUnit);
     connect(m_player, &AVPlayer::stateChanged, this, &MainWindow::updatePlayButton);
@@ -173,12 +173,12 @@ void MainWindow::connectTransport()
             &QtAV::AVPlayer::stepFieldBackward);
     connect(m_ui->snapshotButton, &QPushButton::clicked, this, &MainWindow::snapshotButtonPressed);
     connect(m_ui->saveButton, &QPushButton::clicked, this, &MainWindow::saveButtonPressed);
-    // Not at every key: each folder on the way to the one that is meant would raise the counter.
+    // Not on every key, because each partial path would raise the counter.
     connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this, [this] {
         noteOutputFolder();
         updateAutomaticFileNameDisplay();
     });
-    // The field has uses of its own for Space and the keys that take, copy and step.
+    // The field itself uses Space and the keys that take, copy and step.
     connect(m_ui->outputFolderLineEdit, &QLineEdit::returnPressed, this,
             [this] { m_ui->videoFrame->setFocus(); });
 }
@@ -186,7 +186,7 @@ void MainWindow::connectTransport()
 void MainWindow::alignControls()
 {
     m_ui->splitter->setChildrenCollapsible(false);
-    // Two lines of it, so that the snapshot keeps its size when its line comes up.
+    // Two lines, so that the snapshot keeps its size when its line appears.
     m_ui->snapshotSummaryLabel->setFixedHeight(
         2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());
     m_ui->timecodeField->setTextWidth(widestTime(*m_ui->timecodeField));
@@ -194,9 +194,8 @@ void MainWindow::alignControls()
     m_ui->durationLabel->setMinimumWidth(widestTime(*m_ui->durationLabel) + rounding);
 }
 
-/// The keys are the video's wherever the keyboard is, except while somebody types: Return, and not
-/// Space, presses the control that somebody went to by Tab. A click does not take the keyboard
-/// along.
+/// Keys control the video wherever the focus is, except while typing: Return, not Space, presses a
+/// control reached by Tab. A click does not move the focus.
 void MainWindow::keepKeysForVideo()
 {
     ReturnKey::pressControls(*m_ui->centralWidget);

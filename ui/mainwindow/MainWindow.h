@@ -50,19 +50,18 @@ namespace Ui {
 class MainWindow;
 }
 
-/// The application's one window: on the left a video player, on the right the snapshot taken from
-/// it, which is saved or copied.
+/// The application's only window: a video player on the left, and on the right the snapshot taken
+/// from it, which is saved or copied.
 ///
-/// Its sources are split by topic: construction in MainWindow.cpp, videos from outside and ending
-/// in MainWindow_files.cpp, what is remembered in MainWindow_memory.cpp, the player in
-/// MainWindow_player.cpp and how large it shows the video in MainWindow_zoom.cpp, the snapshot in
-/// MainWindow_snapshot.cpp and what is told of it in MainWindow_summary.cpp, those that were taken
-/// before in MainWindow_filmstrip.cpp, the best frames in MainWindow_best.cpp, the menus in
-/// MainWindow_menus.cpp, and the ways to a frame that PlayerSteering adds, with the keys, in
-/// MainWindow_steering.cpp.
+/// The implementation is split by topic: construction in MainWindow.cpp, files from outside and
+/// closing in MainWindow_files.cpp, stored settings in MainWindow_memory.cpp, the player in
+/// MainWindow_player.cpp and its zoom in MainWindow_zoom.cpp, the snapshot in
+/// MainWindow_snapshot.cpp and its description in MainWindow_summary.cpp, earlier snapshots in
+/// MainWindow_filmstrip.cpp, the best frames in MainWindow_best.cpp, the menus in
+/// MainWindow_menus.cpp, and the keys and navigation of PlayerSteering in MainWindow_steering.cpp.
 ///
-/// Settings: "lastOpenDir", the folder that the save dialog starts in, and "lastSaveDir" in place
-/// of it where the user saved elsewhere; "outputFolder" of the automatic names,
+/// Settings: "lastOpenDir", the initial folder of the save dialog, and "lastSaveDir", which
+/// replaces it if the user saved elsewhere; "outputFolder" for automatic names,
 /// "automaticFileName", "recentFiles", "windowGeometry", "splitterState". User-interface thread
 /// only.
 class MainWindow : public QMainWindow
@@ -70,23 +69,23 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Which way step() goes. What is not Forward counts as Backward.
+    /// The direction of step(). Any value other than Forward counts as Backward.
     enum SeekDirection { Backward = -1, Forward = 1 };
 
-    /// Makes what shows the video, as a child of the object that it is given.
+    /// Creates the video output as a child of the given object.
     using VideoOutputFactory = std::function<QtAV::VideoOutput*(QObject*)>;
 
     explicit MainWindow(QWidget* parent = nullptr);
-    /// The same with another video output. Where that has no widget, says so in a message box and
-    /// gives a window without a player.
+    /// Like above with another video output. If that has no widget, a message box reports it and
+    /// the window has no player.
     MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutput);
     ~MainWindow() override;
 
-    /// A video is open, or being opened; it may still turn out to be unplayable.
+    /// True if a video is open or being opened; it may still turn out to be unplayable.
     bool isVideoLoaded() const;
     /// The path of the open video; empty without one.
     QString currentVideoFilePath() const;
-    /// About the file that the player has.
+    /// File information about the player's file.
     QFileInfo currentVideoFileInfo() const;
     /// The name with its extension.
     QString currentVideoFileName() const;
@@ -94,54 +93,55 @@ public:
     QString currentVideoFileBaseName() const;
     QDir currentVideoFileDir() const;
 
-    /// Names the open video in the title.
+    /// Shows the name of the open video in the title.
     void updateWindowTitle();
-    /// Enables or disables whatever works on a video.
+    /// Enables or disables everything that needs a video.
     void setVideoControlsEnabled(bool on);
     void setupVolumePopup();
 
-    /// Writes the snapshot, in place of a file of that name. Notes the outcome on the debug stream
-    /// and in the status bar; false when nothing was written.
+    /// Writes the snapshot, replacing a file of that name. Reports the result as a debug message
+    /// and in the status bar; returns false if nothing was written.
     [[nodiscard]] bool saveSnapshot(QString path);
-    /// The name of the next picture in the folder: the first from the file counter on that is free.
-    /// The counter stays there.
+    /// The name of the next picture in the folder: the first free one from the file counter on.
+    /// Does not change the counter.
     [[nodiscard]] QString automaticFileName(QDir dir);
     void updateAutomaticFileNameDisplay();
-    /// Enables or disables whatever works on a snapshot.
+    /// Enables or disables everything that needs a snapshot.
     void setSnapshotControlsEnabled(bool on);
-    /// Fill the choices from the profiles; what was used last becomes the selected one.
+    /// Fill the boxes with the profiles and select the last used one.
     void loadImageProfileComboBox();
     void loadFileNameProfileComboBox();
-    /// Makes the save dialog; to be called once.
+    /// Creates the save dialog; call it once.
     void setupFileDialogs();
 
-    /// Gives the window the size, the place and all else that the last one kept at its end. Before
-    /// it is shown, and before a video is opened.
+    /// Restores size, place and everything else that the previous window stored at its end. Call it
+    /// before the window is shown and before a video is opened.
     void restoreLayout();
 
-    /// Brings back the unsaved snapshots of the window before, and keeps those of this one in the
-    /// folder from now on. Once. A window that does not do so asks about each at its end.
+    /// Restores the unsaved snapshots of the previous window, and stores those of this one in the
+    /// folder from now on. Call it once. Without it, the window asks about each unsaved snapshot at
+    /// its end.
     void keepSnapshots(const QString& folder);
 
-    /// Where in the open video snapshots were taken that are in the filmstrip: milliseconds, in
-    /// rising order, each once.
+    /// The times in the open video of the snapshots in the filmstrip: milliseconds in rising order,
+    /// without duplicates.
     [[nodiscard]] QVector<qint64> snapshotTimes() const;
 
-    /// The desktop's session ends, or the system asks the program to: keeps all that can be kept,
-    /// and waits until that is written.
-    /// @param mayAsk  about what cannot be kept
-    /// @return false where the user wants to stay
+    /// Called when the desktop session ends or the system asks the program to end: stores
+    /// everything that can be kept, and waits until it is written.
+    /// @param mayAsk  whether to ask about what cannot be kept
+    /// @return false if the user wants to stay
     [[nodiscard]] bool prepareForSessionEnd(bool mayAsk);
 
 Q_SIGNALS:
-    /// snapshotTimes() is another one.
+    /// The result of snapshotTimes() has changed.
     void snapshotTimesChanged(const QVector<qint64>& ms);
 
 public Q_SLOTS:
-    /// Proposes the best frames of a stretch of the open video: those at `fromMs` or later and
-    /// before `toMs`.
+    /// Proposes the best frames of a stretch of the open video, at or after `fromMs` and before
+    /// `toMs`.
     void proposeBestFrames(qint64 fromMs, qint64 toMs);
-    /// The same a second before and behind the frame on screen.
+    /// Does so for the stretch from a second before the frame on screen to a second after it.
     void proposeBestFramesHere();
 
     /// Fits the video into its pane, shows it in full size (a pixel of the video is one of the
@@ -152,7 +152,7 @@ public Q_SLOTS:
     /// Full size, or fitted where it is in full size.
     void toggleActualSize();
     // The player.
-    /// Plays and pauses the video that is shown; where there is none, asks for one.
+    /// Plays or pauses the video on screen; if there is none, asks for one.
     void openVideoLabelClicked();
     void showSelectVideoDialog();
     void openVideo(QString path);
@@ -165,13 +165,13 @@ public Q_SLOTS:
     void updateSlider(qint64 position);
     void durationChanged(qint64 duration);
     void positionChanged(qint64 position);
-    /// Go where the slider stands, or would stand at this value; plays on if it was playing.
+    /// Seek to the slider's position, or to that of a value; playback continues if it was running.
     void seekBySlider(int value);
     void seekBySlider();
     void skipBackward();
     void skipForward();
-    /// Pauses and goes `ms` milliseconds on, or back where it is negative, from where the player is
-    /// going: calls that come before a frame does add up.
+    /// Pauses and moves by `ms` milliseconds, negative for back, from the position of a pending
+    /// seek: successive calls add up.
     void seekRelative(qint64 ms);
     void stepBackward();
     void stepForward();
@@ -185,14 +185,14 @@ public Q_SLOTS:
     void snapshotButtonPressed();
     void snapshotCaptured(const QImage& image);
     void onCaptureError();
-    /// Makes the snapshot anew from the full frame; with the selected profile when given null. Says
-    /// in the status bar when that fails, and there is no snapshot then.
+    /// Makes the snapshot again from the full frame, with the selected profile if null is passed. A
+    /// failure is reported in the status bar, and there is no snapshot then.
     void processFullFrameImage(ImageProfile* profile);
-    /// Shows the snapshot as the profile makes it; nothing happens while there is none.
+    /// Shows the snapshot as made by the profile; does nothing while there is none.
     void imageProfileUpdated(ImageProfile* profile);
     void saveButtonPressed();
     void on_actionSaveSnapshot_triggered();
-    /// Shows the file that was saved last in the file manager.
+    /// Shows the most recently saved file in the file manager.
     void on_actionShow_in_Folder_triggered();
     void saveWithAutomaticFileName();
     void showSaveDialog();
@@ -201,9 +201,10 @@ public Q_SLOTS:
     void takeAndSave();
     void on_actionCopy_Snapshot_triggered();
     void on_actionCopy_Full_Frame_triggered();
-    /// The chosen profile is used from now on, also for the snapshot that is there.
+    /// Applies the chosen profile, also to the current snapshot.
     void on_imageProfileComboBox_activated(int index);
-    /// Selects a profile like the selected one, but in the video's own size; makes it if need be.
+    /// Selects a profile that equals the selected one except for keeping the video's own size;
+    /// creates it if necessary.
     void on_originalSizeButton_clicked();
     void on_filenameProfileComboBox_activated(int index);
     void on_selectOutputFolderButton_clicked();
@@ -219,25 +220,25 @@ public Q_SLOTS:
     void on_actionCommandLineOptions_triggered();
     void on_actionExit_triggered();
 
-    /// Ends the application, without a question.
+    /// Ends the application without a question.
     void confirmQuit();
-    /// Ends the application without a question, once what can be kept is written.
+    /// Ends the application without a question, once everything that can be kept is written.
     void quitWhenKept();
-    /// Opens what another program passed on, when a snapshot that is not saved may go.
+    /// Opens a video passed by another program, if an unsaved snapshot may be dropped.
     void openFromOutside(const QString& path);
     void retakeFocusAfterDialog();
-    /// Shows the window above all others, also where it was minimised.
+    /// Raises the window, even if it was minimised.
     void comeToFront();
 
 protected:
-    /// Asks about what would be lost; then ends the application.
+    /// Asks about what would be lost, then ends the application.
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
-    /// How long the outcome of what was done stays in the status bar.
+    /// How long results stay in the status bar.
     static constexpr int messageMs = 8000;
 
     void setupPlayer(const VideoOutputFactory& makeVideoOutput);
@@ -335,38 +336,39 @@ private:
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QSettings m_settings;
-    /// As processed; null until the first capture.
+    /// The processed snapshot; null until the first capture.
     QImage m_snapshotImage;
-    /// There is none, or it was saved or copied.
+    /// True if there is no snapshot, or it was saved or copied.
     bool m_isSnapshotKept = true;
-    /// What m_snapshotImage was made by.
+    /// The recipe of m_snapshotImage.
     ImageRecipe m_snapshotRecipe;
-    /// What m_snapshotImage was made of.
+    /// The frame of m_snapshotImage.
     CapturedPicture m_captured;
-    Filmstrip* m_filmstrip = nullptr;         ///< made first
-    SnapshotSaver* m_snapshotSaver = nullptr; ///< likewise
-    SnapshotMaker* m_snapshotMaker = nullptr; ///< likewise
-    QString m_shownSnapshot;                  ///< its name in the filmstrip; empty for none there
-    QString m_wantedSnapshot;                 ///< to be shown when it has been read
+    Filmstrip* m_filmstrip = nullptr;         ///< created first
+    SnapshotSaver* m_snapshotSaver = nullptr; ///< created first
+    SnapshotMaker* m_snapshotMaker = nullptr; ///< created first
+    QString m_shownSnapshot;                  ///< its name in the filmstrip; empty if it is not
+                                              ///< there
+    QString m_wantedSnapshot;                 ///< to be shown once it has been read
     QVector<qint64> m_toldSnapshotTimes;
-    RecentMenu* m_recentMenu = nullptr;    ///< made first
-    FolderSteps* m_folderSteps = nullptr;  ///< likewise
-    DropZone* m_dropZone = nullptr;        ///< likewise
-    VideoZoom* m_videoZoom = nullptr;      ///< likewise
-    FrameProposals* m_proposals = nullptr; ///< likewise
-    QAction* m_bestFramesAction = nullptr; ///< likewise
+    RecentMenu* m_recentMenu = nullptr;    ///< created first
+    FolderSteps* m_folderSteps = nullptr;  ///< created first
+    DropZone* m_dropZone = nullptr;        ///< created first
+    VideoZoom* m_videoZoom = nullptr;      ///< created first
+    FrameProposals* m_proposals = nullptr; ///< created first
+    QAction* m_bestFramesAction = nullptr; ///< created first
     const std::unique_ptr<FolderSweeper> m_sweeper;
-    bool m_isEnding = false;    ///< as soon as all is written
-    bool m_endsUnasked = false; ///< likewise
-    /// The file and the time of the last capture, for messages.
+    bool m_isEnding = false;    ///< end as soon as everything is written
+    bool m_endsUnasked = false; ///< end without asking
+    /// The file and time of the last capture, for messages.
     QString m_capturedPlace;
     QString m_currentVideoPath;
     QtAV::AVPlayer* m_player = nullptr;
-    /// Goes before the window when the application ends.
+    /// Deleted before the window when the application ends.
     QPointer<QtAV::VideoOutput> m_videoOutput;
     QDir m_lastOpenDir;
     QDir m_saveDialogDir;
-    /// Of the automatic names, as the user chose it; empty for that of the video.
+    /// For automatic names, as chosen by the user; empty for the video's folder.
     QString m_outputFolder;
     QString m_lastSavedFile;
     QString m_saveDialogFileName;
@@ -383,10 +385,10 @@ private:
     ImageProfile* m_imageProfile = nullptr;
     FileNameProfile* m_fileNameProfile = nullptr;
     CaptureTickets m_captures;
-    /// Of the captures that are still to come, which are to be saved at once.
+    /// For each pending capture, whether to save it at once.
     std::deque<bool> m_savesCapture;
     /// Null in a window without a player, as are m_spoken and m_fullScreen.
     PlayerSteering* m_steering = nullptr;
-    SpokenEvents* m_spoken = nullptr; ///< likewise
+    SpokenEvents* m_spoken = nullptr; ///< null in a window without a player
     FullScreen* m_fullScreen = nullptr;
 };

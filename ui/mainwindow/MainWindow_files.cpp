@@ -1,4 +1,4 @@
-// What comes from outside, and what must not be lost: dropped and passed videos, the end.
+// Files from outside, and closing without losing anything: dropped and passed videos, the end.
 
 #include "ui/mainwindow/MainWindow.h"
 
@@ -24,12 +24,12 @@
 
 namespace {
 
-/// What is written when the session ends; then it ends all the same.
+/// Maximum time for writing when the session ends; it ends in any case.
 constexpr qint64 longestWaitMs = 10000;
 
 } // namespace
 
-/// Asks about a snapshot that would be lost with its video. False where it must stay.
+/// Asks about a snapshot that would be lost with its video. Returns false if it must stay.
 bool MainWindow::maySnapshotGo()
 {
     if (!isSnapshotAtRisk()) {
@@ -46,7 +46,7 @@ bool MainWindow::maySnapshotGo()
     }
 }
 
-/// Asks about all snapshots that the end would lose. False where it must wait.
+/// Asks about all snapshots that closing would lose. Returns false if the window must stay.
 bool MainWindow::mayAllGo()
 {
     const int count = snapshotsAtRisk();
@@ -62,7 +62,7 @@ bool MainWindow::mayAllGo()
         if (isShownOne || isSnapshotAtRisk()) {
             return m_isSnapshotKept;
         }
-        // The end comes when these are written, or there is another question.
+        // The window closes when these are written, or another question follows.
         m_isEnding = true;
         saveSnapshots(m_filmstrip->shelf().unsaved());
         return false;
@@ -138,7 +138,7 @@ void MainWindow::dropEvent(QDropEvent* event)
     m_dropZone->drop(*event);
 }
 
-/// One is opened. Of several, the user may want pictures without opening them.
+/// A single video is opened. With several, the user may want pictures without opening them.
 void MainWindow::openDropped(const QStringList& videos)
 {
     if (videos.size() == 1) {
@@ -181,7 +181,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     endWhenSafe();
 }
 
-/// What is being written is waited for; the window stays alive meanwhile.
+/// Waits for pending writes; the window stays responsive meanwhile.
 void MainWindow::endWhenSafe()
 {
     if (!m_filmstrip->shelf().isSettled()) {
@@ -228,7 +228,7 @@ void MainWindow::setupShowInFolder()
             &MainWindow::on_actionShow_in_Folder_triggered);
 }
 
-/// Where the eye is after saving; the text is that of what was saved.
+/// Shows a notice near the button; the text names the saved file.
 void MainWindow::offerToShowSavedFile(const QString& text)
 {
     m_ui->savedNotice->tellSaved(text);

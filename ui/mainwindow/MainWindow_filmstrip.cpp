@@ -1,5 +1,5 @@
-// The snapshots that were taken before: the strip of them, the way back to their frames, and what
-// the end of the window would lose.
+// Earlier snapshots: their strip, returning to their frames, and what closing the window would
+// lose.
 
 #include "ui/mainwindow/MainWindow.h"
 
@@ -20,7 +20,7 @@
 
 namespace {
 
-/// Of the same file, as far as their paths tell.
+/// Whether both paths name the same file.
 bool isSameFile(const QString& a, const QString& b)
 {
     return !a.isEmpty() && QFileInfo(a).absoluteFilePath() == QFileInfo(b).absoluteFilePath();
@@ -87,7 +87,7 @@ void MainWindow::addToFilmstrip()
     }
 }
 
-/// The frame and the picture come as soon as they can, each by itself.
+/// The frame and the picture arrive independently.
 void MainWindow::returnToSnapshot(const QString& id)
 {
     const std::optional<KeptSnapshot> snapshot = m_filmstrip->shelf().snapshot(id);
@@ -121,7 +121,8 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
         return;
     }
     m_wantedSnapshot.clear();
-    // Before the profile is chosen, which would be noted for the one shown till now.
+    // Cleared before the profile is chosen, which would be recorded for the snapshot shown until
+    // now.
     m_shownSnapshot.clear();
     ProfileManager& profiles = *ImageProfile::profileManager();
     BaseProfile* const profile = profiles.profileForId(snapshot->profileId);
@@ -143,14 +144,14 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
     setSnapshotControlsEnabled(true);
 }
 
-/// Something in the strip has changed: the shown snapshot may have been saved there, or deleted, or
-/// come back.
+/// Handles a change in the strip: the shown snapshot may have been saved there, deleted, or
+/// restored.
 void MainWindow::followShownSnapshot()
 {
     const std::optional<KeptSnapshot> shown = m_filmstrip->shelf().snapshot(m_shownSnapshot);
     m_isSnapshotKept = m_isSnapshotKept || (shown && shown->isSaved);
     if (!shown && !m_shownSnapshot.isEmpty()) {
-        // Deleted on purpose, so that nobody wants to be asked about it.
+        // Deleted on purpose, so no question is needed.
         m_shownSnapshot.clear();
         m_isSnapshotKept = true;
     }
@@ -182,23 +183,23 @@ void MainWindow::tellSnapshotTimes()
     }
 }
 
-/// Another video, or another snapshot, would lose the one that is shown.
+/// Whether another video or snapshot would lose the one that is shown.
 bool MainWindow::isSnapshotAtRisk() const
 {
     return !m_isSnapshotKept && m_shownSnapshot.isEmpty();
 }
 
-/// How many snapshots the end of the window would lose.
+/// How many snapshots closing the window would lose.
 int MainWindow::snapshotsAtRisk() const
 {
     const SnapshotShelf& shelf = m_filmstrip->shelf();
-    // One that was copied is in the user's hands.
+    // A copied snapshot is in the user's hands.
     const bool isCopied =
         m_isSnapshotKept && !m_shownSnapshot.isEmpty() && !shelf.isSafe(m_shownSnapshot);
     return shelf.unsafeCount() - (isCopied ? 1 : 0) + (isSnapshotAtRisk() ? 1 : 0);
 }
 
-/// The folder of the automatic names, or one that the user chooses; empty for none.
+/// The folder of the automatic names, or one that the user chooses; empty if cancelled.
 QString MainWindow::folderForSnapshots()
 {
     const QDir automatic(m_ui->outputFolderLineEdit->text());
@@ -212,7 +213,7 @@ QString MainWindow::folderForSnapshots()
     return folder;
 }
 
-/// Under automatic names, each with the profile that it was taken with.
+/// Saves under automatic names, each with the profile that it was taken with.
 void MainWindow::saveSnapshots(const QStringList& ids)
 {
     const QString folder = ids.isEmpty() ? QString() : folderForSnapshots();
@@ -237,7 +238,7 @@ void MainWindow::saveSnapshots(const QStringList& ids)
 
 void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& lastFile)
 {
-    // An end that waited for them should not go on without them.
+    // Closing must not continue if saving failed.
     m_isEnding = m_isEnding && failed == 0;
     const QString count =
         saved == 1 ? tr("Saved 1 snapshot") : tr("Saved %n snapshots", nullptr, saved);

@@ -1,4 +1,4 @@
-// How the window guides the eye: what is said where nothing is open, and which button comes next.
+// Guidance in the window: what an empty window says, and which button stands out.
 
 #include "ui/mainwindow/MainWindow.h"
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Of the width of the window, as long as nobody moved the bar between.
+/// Share of the window's width, unless the user moved the splitter.
 constexpr int playerShare = 735;
 constexpr int snapshotShare = 265;
 
@@ -25,7 +25,7 @@ void MainWindow::setupLooks()
     m_ui->originalSizeButton->giveWayTo(*m_ui->snapshotSummaryLabel, 2);
     m_ui->splitter->setSizes({playerShare, snapshotShare});
     if (layoutDirection() == Qt::RightToLeft) {
-        // The pane that has a margin of its own is at the other edge.
+        // The pane with margins of its own is at the other edge.
         const QMargins margins = m_ui->centralLayout->contentsMargins();
         m_ui->centralLayout->setContentsMargins(margins.right(), margins.top(), margins.left(),
                                                 margins.bottom());
@@ -40,7 +40,7 @@ void MainWindow::setupLooks()
     m_ui->snapshotButton->setKeys(keyOf(*m_ui->actionTake_Snapshot));
     m_ui->saveButton->setKeys(keyOf(*m_ui->actionSaveSnapshot));
     connect(m_ui->openVideoLabel, &OpenVideoButton::fileChosen, this, &MainWindow::openFromOutside);
-    // Its list may have been cleared.
+    // The list of recent files may have been cleared there.
     connect(m_ui->menuFile, &QMenu::aboutToHide, this, &MainWindow::showRecentFiles,
             Qt::QueuedConnection);
     showOpenButton(m_ui->openVideoLabel->text());
@@ -60,7 +60,7 @@ void MainWindow::showSpeed(qreal speed)
     m_ui->speedButton->setAccessibleDescription(text);
 }
 
-/// One button stands out: to save, while there is something that is not saved, else to take.
+/// One button stands out: saving if something is unsaved, otherwise taking.
 void MainWindow::showWhatIsNext()
 {
     const bool isToBeSaved = !m_snapshotImage.isNull() && !m_isSnapshotKept;

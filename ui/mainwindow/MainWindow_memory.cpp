@@ -1,4 +1,4 @@
-// What the next window finds as this one left it.
+// State that is stored for the next window.
 
 #include "ui/mainwindow/MainWindow.h"
 
@@ -12,7 +12,7 @@ const QString splitterKey = QStringLiteral("splitterState");
 const QString automaticKey = QStringLiteral("automaticFileName");
 const QString outputFolderKey = QStringLiteral("outputFolder");
 const QString saveFolderKey = QStringLiteral("lastSaveDir");
-// That of the dialog for videos: see SmartFileDialog.
+// The key of the dialog for videos: see SmartFileDialog.
 const QString openFolderKey = QStringLiteral("openDialog_dialogPath");
 
 } // namespace
@@ -39,7 +39,7 @@ void MainWindow::saveLayout()
     m_settings.setValue(automaticKey, m_ui->automaticFileNameGroupBox->isChecked());
 }
 
-/// Unless the user chose one that is still there, it is the video's own.
+/// Uses the video's folder, unless the user chose one that still exists.
 void MainWindow::showOutputFolder(const QFileInfo& video)
 {
     const bool isChosen = !m_outputFolder.isEmpty() && QDir(m_outputFolder).exists();
@@ -47,7 +47,7 @@ void MainWindow::showOutputFolder(const QFileInfo& video)
         QDir::toNativeSeparators(isChosen ? m_outputFolder : video.absolutePath()));
 }
 
-/// An empty field, and the video's own folder, give the choice up.
+/// An empty field, or the video's own folder, clears the choice.
 void MainWindow::noteOutputFolder()
 {
     const QString typed = m_ui->outputFolderLineEdit->text();

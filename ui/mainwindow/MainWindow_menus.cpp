@@ -19,8 +19,8 @@
 
 namespace {
 
-/// Makes the profile that a dialog came back with, if any, the one used last: it then is the one
-/// selected in the window, and again after the next start.
+/// Makes the profile that a dialog returned, if any, the last used one: it is then selected in the
+/// window, now and after the next start.
 void adopt(ProfileManager& manager, BaseProfile* profile)
 {
     if (profile != nullptr) {
@@ -42,7 +42,7 @@ void MainWindow::on_editImageProfileButton_clicked()
     dialog.exec();
     adopt(*ImageProfile::profileManager(), dialog.selectedProfile());
     loadImageProfileComboBox();
-    // Also takes back what the preview showed of a cancelled change.
+    // This also reverts the preview of a cancelled change.
     imageProfileUpdated(m_imageProfile);
     retakeFocusAfterDialog();
 }
@@ -65,7 +65,7 @@ void MainWindow::on_actionBatch_Mode_triggered()
     runBatchMode({});
 }
 
-/// Adds these to the list first.
+/// Adds these videos to the list first.
 void MainWindow::runBatchMode(const QStringList& videos)
 {
     pause();
@@ -94,7 +94,7 @@ void MainWindow::on_actionImage_Filters_Test_triggered()
     retakeFocusAfterDialog();
 }
 
-/// The menus that show and change the selected image profile.
+/// The menus that show and change settings of the selected image profile.
 void MainWindow::setupProfileMenus()
 {
     auto* const deinterlacing = new QActionGroup(this);
@@ -136,7 +136,7 @@ void MainWindow::chooseHdr(int hdr)
     followImageProfile();
 }
 
-/// Has the player and the menus follow the selected image profile.
+/// Updates the player and the menus for the selected image profile.
 void MainWindow::followImageProfile()
 {
     noteProfileOfSnapshot();

@@ -20,10 +20,10 @@
 
 namespace {
 
-/// How far the skip buttons go.
+/// Distance of the skip buttons.
 constexpr qint64 skipMs = 1000;
 
-/// How precise the slider is: finer than a frame of most videos.
+/// Resolution of the slider: finer than a frame of most videos.
 constexpr qint64 sliderUnitMs = 30;
 
 int sliderSteps(qint64 ms, qint64 unit)
@@ -103,7 +103,7 @@ void MainWindow::openVideoLabelClicked()
     }
 }
 
-/// A video is open, and nothing says that it cannot be played.
+/// True if a video is open and playable.
 bool MainWindow::isVideoShown() const
 {
     return isVideoLoaded() && m_player->mediaStatus() != QtAV::InvalidMedia;
@@ -141,7 +141,7 @@ void MainWindow::openVideo(QString path)
     m_recentMenu->note(path);
     m_folderSteps->setVideo(path);
     hideOpenButton();
-    // The keys are the video's, and no button asks for them.
+    // Keys control the video, so no button needs the focus.
     m_ui->videoFrame->setFocus();
     setVideoControlsEnabled(true);
     m_fileCounter = 1;
@@ -153,7 +153,7 @@ void MainWindow::openVideo(QString path)
     noticeMediaStatus();
 }
 
-/// Keeps the type that the user saved the last picture as.
+/// Keeps the type that the user last saved.
 void MainWindow::proposeFileName(const QFileInfo& video)
 {
     const QString suffix = QFileInfo(m_saveDialogFileName).suffix();
@@ -163,7 +163,7 @@ void MainWindow::proposeFileName(const QFileInfo& video)
     }
 }
 
-/// Unless the user saves somewhere else on purpose, pictures go where their video is.
+/// Saves pictures in the video's folder unless the user chose another folder.
 void MainWindow::followVideoFolder(const QFileInfo& video)
 {
     if (m_saveDialogDir.exists() && m_saveDialogDir != m_lastOpenDir) {
@@ -205,8 +205,8 @@ void MainWindow::showOpenButton(const QString& text)
     m_ui->openVideoLabel->raise();
 }
 
-/// Behind the video, the button still takes the clicks on it. It has no tool tip there, which would
-/// cover the picture.
+/// The invisible button still receives the clicks on the video. It has no tool tip then, which
+/// would cover the picture.
 void MainWindow::hideOpenButton()
 {
     m_ui->openVideoLabel->withdraw();
@@ -217,7 +217,7 @@ void MainWindow::hideOpenButton()
     m_ui->openVideoLabel->setFocusPolicy(Qt::NoFocus);
 }
 
-/// What cannot be played would leave a black screen, and nobody would know why.
+/// Otherwise an unplayable file would just leave a black screen.
 void MainWindow::noticeMediaStatus()
 {
     if (!isVideoLoaded() || m_player->mediaStatus() != QtAV::InvalidMedia) {
@@ -231,7 +231,7 @@ void MainWindow::noticeMediaStatus()
     showOpenButton(
         tr("%1\ncannot be played as a video.\n\nClick to open another video").arg(fitting(name)));
     statusBar()->showMessage(m_player->errorString());
-    // A snapshot that was taken before stays.
+    // A snapshot taken before stays.
     setVideoControlsEnabled(false);
 }
 
@@ -243,7 +243,7 @@ void MainWindow::noticeBaseLayer()
     }
 }
 
-/// The picture that stays on screen does not tell why the video does not go on.
+/// The picture that stays on screen does not explain why the video stops.
 void MainWindow::noticeFailedRead(const QString& reason)
 {
     statusBar()->showMessage(tr("%1: %2").arg(currentVideoFileName(), reason), messageMs);
@@ -369,7 +369,7 @@ void MainWindow::volumeChanged(int volume)
 
 void MainWindow::on_volumeButton_clicked()
 {
-    // Showing would widen it, once it stands.
+    // Showing it again would otherwise widen it.
     m_volumePopup->resize(m_volumePopup->size().expandedTo(m_volumePopup->minimumSizeHint()));
     const QPoint button = m_ui->volumeButton->mapToGlobal(QPoint(0, 0));
     const int x = button.x() + (m_ui->volumeButton->width() - m_volumePopup->width()) / 2;

@@ -24,8 +24,8 @@
 
 namespace {
 
-/// Fills the box with the manager's profiles and makes the one used last current. Gives that
-/// profile: the first, where the one used last is unknown.
+/// Fills the box with the manager's profiles and selects the last used one. Returns the selected
+/// profile: the first one if the last used one is unknown.
 BaseProfile* fillProfiles(QComboBox& box, const ProfileManager& manager)
 {
     box.clear();
@@ -41,7 +41,8 @@ BaseProfile* fillProfiles(QComboBox& box, const ProfileManager& manager)
     return lastUsed;
 }
 
-/// The profile that the user chose in the box, which is then the one used last. Null for none.
+/// Makes the profile that the user chose in the box the last used one and returns it. Null for
+/// none.
 BaseProfile* chooseProfile(const QComboBox& box, ProfileManager& manager)
 {
     BaseProfile* const profile = manager.profileForId(box.currentData().toString());
@@ -86,7 +87,7 @@ void MainWindow::takeAndSave()
     capture(true);
 }
 
-/// Whether the capture that has just been answered is to be saved at once.
+/// Whether the capture that has just been answered has to be saved at once.
 bool MainWindow::takeSaving()
 {
     if (m_savesCapture.empty()) {
@@ -119,7 +120,7 @@ void MainWindow::takeCapture(const MadeSnapshot& made)
     m_ui->savedNotice->clear();
     showWhatIsNext();
     addToFilmstrip();
-    // Without a snapshot as well: the profile may be to blame, and is edited there.
+    // Even without a snapshot: the profile may be the cause, and can be edited then.
     setSnapshotControlsEnabled(true);
     if (!made.rendering.error.isEmpty()) {
         warnOfCapture(made.rendering.error);
@@ -131,7 +132,7 @@ void MainWindow::takeCapture(const MadeSnapshot& made)
     }
 }
 
-/// What matters of the captures is of the video that is open.
+/// The source of a capture of the open video.
 PictureSource MainWindow::sourceOfCapture(const CapturedPicture& picture) const
 {
     if (!isVideoLoaded()) {
@@ -151,7 +152,7 @@ void MainWindow::onCaptureError()
     }
 }
 
-/// Says what could not be captured and, where that is known, why not.
+/// Reports what could not be captured and the reason, if known.
 void MainWindow::warnOfCapture(const QString& reason)
 {
     QMessageBox box(QMessageBox::Warning, tr("Morvantile video capture"),
@@ -159,7 +160,7 @@ void MainWindow::warnOfCapture(const QString& reason)
     QStringList details{m_capturedPlace.toHtmlEscaped(), reason.toHtmlEscaped()};
     details.removeAll(QString());
     if (!details.isEmpty()) {
-        // Said to be mark-up, or the box would guess from the file's name whether it is.
+        // Marked as rich text, because otherwise the box guesses from the file's name.
         box.setInformativeText(
             QStringLiteral("<qt>%1</qt>").arg(details.join(QStringLiteral("<br>"))));
     }
@@ -237,17 +238,17 @@ void MainWindow::on_actionSaveSnapshot_triggered()
     saveButtonPressed();
 }
 
-/// What is saved stays the same while it is written, whatever is shown by then.
+/// The parameters of a save, which stay fixed while it is written, whatever is shown by then.
 struct MainWindow::Saving
 {
     CapturedPicture captured;
     QImage shown;
     ImageRecipe recipe;
-    QString type; ///< of files whose names have none
-    QString id;   ///< in the filmstrip
+    QString type; ///< for file names without a suffix
+    QString id;   ///< its name in the filmstrip
 };
 
-/// What belongs to the file, and not to the picture, is up to the profile that is chosen now.
+/// Settings of the file, not of the picture, are taken from the profile that is selected now.
 MainWindow::Saving MainWindow::savingNow()
 {
     m_snapshotMaker->finishRemaking();
@@ -268,7 +269,7 @@ WriteResult MainWindow::write(const Saving& saving, const QString& path, Existin
     ResponsiveWait::run([&] {
         const ImageRecipe recipe = forType(saving.recipe, QFileInfo(path).suffix());
         const CapturedPicture& captured = saving.captured;
-        // The file may hold more than the screen.
+        // The file may hold more than the screen shows.
         const QImage image =
             imaging::wantsMore(captured, recipe)
                 ? imaging::render(imaging::pictureOf(captured, recipe), recipe).image
@@ -283,7 +284,7 @@ WriteResult MainWindow::save(const Saving& saving, const QString& path, Existing
     const WriteResult result = write(saving, path, existing);
     if (result == WriteResult::Written) {
         m_filmstrip->shelf().markSaved(saving.id);
-        // Another one may be shown by now.
+        // Another snapshot may be shown by now.
         const bool isShown = saving.captured.image.cacheKey() == m_captured.image.cacheKey();
         m_isSnapshotKept = m_isSnapshotKept || isShown;
     }
@@ -322,7 +323,7 @@ void MainWindow::saveWithAutomaticFileName()
     while (result == WriteResult::AlreadyExists) {
         const QString path = folder.absoluteFilePath(automaticFileName(folder));
         result = save(saving, path, ExistingFile::Keep);
-        // The number is used up, also by a file that came in between.
+        // The number is used up, even if another program created the file.
         if (result != WriteResult::Failed) {
             ++m_fileCounter;
         }
@@ -330,7 +331,7 @@ void MainWindow::saveWithAutomaticFileName()
     updateAutomaticFileNameDisplay();
 }
 
-/// Asks whether to make a folder that is missing. One that cannot be made fails the saving.
+/// Asks whether to create a missing folder. If that fails, saving fails.
 bool MainWindow::isOutputFolderUsable(const QDir& folder)
 {
     if (folder.isRelative()) {
@@ -420,7 +421,7 @@ void MainWindow::showSaveDialog()
     retakeFocusAfterDialog();
 }
 
-/// The dialog asked about replacing the file of the name as it was typed, not of a completed one.
+/// The dialog asked about replacing the name as typed, not the completed one.
 void MainWindow::saveAs(const QString& chosen)
 {
     const QString path = SavePath::completed(chosen, m_saveDialog->selectedNameFilter());
@@ -428,7 +429,7 @@ void MainWindow::saveAs(const QString& chosen)
         return;
     }
     if (saveSnapshot(path)) {
-        // Not the one that the dialog shows: the name may have been typed with another.
+        // Not the dialog's folder, because the name may have been typed with another one.
         m_saveDialogDir = QFileInfo(path).absoluteDir();
         m_saveDialogFileName = QFileInfo(path).fileName();
         m_saveDialogNameFilter = m_saveDialog->selectedNameFilter();

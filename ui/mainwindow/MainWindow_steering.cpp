@@ -1,4 +1,4 @@
-// The ways to a frame beside playing and stepping, the keys, and the full screen.
+// Navigation besides playing and stepping, the keys, and the full screen.
 
 #include "ui/mainwindow/MainWindow.h"
 
@@ -22,7 +22,7 @@
 
 namespace {
 
-/// How far the keys go that go far.
+/// Distance of the keys for large jumps.
 constexpr qint64 leapMs = 10000;
 
 } // namespace
@@ -112,7 +112,7 @@ void MainWindow::setupKeyTips()
     tips->add(*m_ui->timecodeField, *m_ui->actionGoToTime);
 }
 
-/// The picture bears its description too, for those who come to it later.
+/// The picture also gets a description, for users who reach it later.
 void MainWindow::setupSpokenEvents()
 {
     m_spoken = new SpokenEvents(*this, *m_player, [this] {
@@ -130,7 +130,7 @@ QString MainWindow::spokenPlace() const
     return frame ? tr("%1, frame %2").arg(time).arg(frame->value) : time;
 }
 
-/// Those that the menu of the player does not have itself.
+/// Controls that the player's menu does not contain.
 void MainWindow::setSteeringEnabled(bool on)
 {
     const QList<QAction*> actions = m_ui->menuSpeed->actions() + m_ui->menuStretch->actions();
@@ -149,7 +149,7 @@ void MainWindow::giveKeyboardToVideo()
     m_ui->videoFrame->setFocus();
 }
 
-/// What is marked in the open video is what batch mode takes of it.
+/// Passes the marked stretch of the open video to batch mode.
 void MainWindow::loadMarkedStretch(BatchModeDialog& dialog) const
 {
     const MarkedStretch stretch = m_steering == nullptr ? MarkedStretch() : m_steering->stretch();

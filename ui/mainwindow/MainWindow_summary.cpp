@@ -1,4 +1,4 @@
-// What will be saved: the line under the snapshot, and the way to the video's own size.
+// What will be saved: the line under the snapshot, and the button for the video's own size.
 
 #include "ui/mainwindow/MainWindow.h"
 
@@ -11,7 +11,7 @@
 #include "ui/mainwindow/SnapshotSummary.h"
 #include "ui_MainWindow.h"
 
-/// What is shown is what is saved.
+/// The selection also updates the snapshot, because what is shown is what is saved.
 void MainWindow::selectImageProfile(ImageProfile& profile)
 {
     m_imageProfile = &profile;
@@ -28,7 +28,7 @@ void MainWindow::on_originalSizeButton_clicked()
     m_ui->videoFrame->setFocus();
 }
 
-/// The suffix that the next saved file will have, as far as is known before a name is chosen.
+/// The suffix of the next saved file, as far as it is known before a name is chosen.
 QString MainWindow::typeToSave() const
 {
     if (m_ui->automaticFileNameGroupBox->isChecked()) {
@@ -47,7 +47,7 @@ void MainWindow::showSnapshotSummary()
 {
     const bool isShown = !m_snapshotImage.isNull();
     const bool hasOtherSize = m_snapshotImage.size() != m_captured.image.size();
-    // Its place stays, so that the picture above keeps its size.
+    // The button is only disabled, so that the picture above keeps its size.
     m_ui->originalSizeButton->setEnabled(isShown && hasOtherSize);
     m_ui->snapshotImageView->setAccessibleDescription(isShown ? m_capturedPlace : QString());
     m_ui->snapshotSummaryLabel->setText(

@@ -1,4 +1,4 @@
-// How large the video is shown.
+// The zoom of the video.
 
 #include "ui/mainwindow/MainWindow.h"
 
@@ -14,7 +14,7 @@ constexpr int scaleMessageMs = 1500;
 
 } // namespace
 
-/// The button over the video gets the mouse in its place.
+/// The button over the video receives its mouse events.
 void MainWindow::setupZoom()
 {
     m_videoZoom = new VideoZoom(*m_ui->openVideoLabel, *m_player, *m_videoOutput, this);

@@ -4,8 +4,8 @@
 
 #include <optional>
 
-/// The stretch of a video that is marked, in milliseconds. Where one of its ends is not marked, it
-/// goes to that end of the video. A plain value.
+/// The marked stretch of a video, in milliseconds. An unmarked end is that of the video. A plain
+/// value.
 struct MarkedStretch
 {
     std::optional<qint64> fromMs;
@@ -13,7 +13,7 @@ struct MarkedStretch
 
     [[nodiscard]] bool isEmpty() const { return !fromMs && !toMs; }
 
-    /// Each gives the other end up where the stretch would not go forward any more.
+    /// Each clears the other end if the stretch would become empty or reversed.
     void markStart(qint64 ms)
     {
         fromMs = ms;

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The letter that a text marks already; null for none.
+/// The letter already marked in a text; null for none.
 QChar markIn(const QString& text)
 {
     for (int i = 0; i + 1 < text.size(); ++i) {
@@ -25,7 +25,7 @@ QChar markIn(const QString& text)
     return {};
 }
 
-/// Written by a method of input, not by a key.
+/// Whether the letter is written with an input method instead of a key.
 bool isIdeographic(QChar letter)
 {
     const QChar::Script script = letter.script();
@@ -33,7 +33,7 @@ bool isIdeographic(QChar letter)
            script == QChar::Script_Katakana || letter == QChar(0x30fc);
 }
 
-/// Takes the first letter that is free.
+/// Takes the first free letter.
 QChar takeLatin(QSet<QChar>& taken, const QString& hint)
 {
     const QString letters = hint.toLower() + QStringLiteral("abcdefghijklmnopqrstuvwxyz");
@@ -101,7 +101,7 @@ QString Mnemonics::marked(const QString& text, QSet<QChar>& taken, const QString
 QString Mnemonics::plain(const QString& text)
 {
     static const QRegularExpression behind(QStringLiteral("\\(&\\w\\)"));
-    // Two stand for one that is shown, one for a letter that is marked.
+    // Two ampersands are shown as one; a single one marks the next letter.
     const QString both = QStringLiteral("&&");
     QStringList parts = text.split(both);
     for (QString& part : parts) {

@@ -8,26 +8,25 @@ class QAction;
 class QMenu;
 class QMenuBar;
 
-/// Gives the entries of menus letters to be chosen by, none twice in a menu: those of the bar at
-/// once, those of a menu each time it opens. So entries that come later, and those in other
-/// languages, have theirs too. An entry that has a letter of its own keeps it. User-interface
-/// thread only.
+/// Assigns mnemonic letters to menu entries, unique within a menu: for the menu bar at once, for a
+/// menu whenever it opens. So entries that are added later or translated have letters, too. An
+/// entry that has a letter of its own keeps it. User-interface thread only.
 class Mnemonics : public QObject
 {
     Q_OBJECT
 
 public:
-    /// For the bar and all menus that are in it now, as long as the bar lives.
+    /// Applies to the bar and all menus that it contains now, during the lifetime of the bar.
     static void giveTo(QMenuBar& bar);
 
-    /// The text of an entry with a letter marked that is not taken yet, which is then taken. The
-    /// first letters of words come first; without a mark where all are taken. A text in Chinese or
-    /// Japanese, whose letters no key types, gets one in brackets behind it, as is usual there.
+    /// Returns the text with an unused letter marked, which is added to `taken`. Initial letters of
+    /// words are preferred; without a mark if all are taken. A text in Chinese or Japanese, which
+    /// keys cannot type, gets a letter in brackets after it, as is customary there.
     /// @param hint  Latin letters that suit such a text, the best one first
     [[nodiscard]] static QString marked(const QString& text, QSet<QChar>& taken,
                                         const QString& hint = {});
 
-    /// The text without marks, as it is read elsewhere than in a menu.
+    /// The text without marks, for use outside menus.
     [[nodiscard]] static QString plain(const QString& text);
 
 private:

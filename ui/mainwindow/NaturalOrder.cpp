@@ -11,7 +11,8 @@ bool isDigit(QChar character)
     return character >= QLatin1Char('0') && character <= QLatin1Char('9');
 }
 
-/// The part of the text from a place on that is all digits, or all something else.
+/// The longest part of the text from a position on that consists only of digits or only of other
+/// characters.
 QStringView runAt(const QString& text, int from)
 {
     const bool isNumber = isDigit(text.at(from));
@@ -30,7 +31,7 @@ QStringView withoutLeadingZeros(QStringView digits)
     return digits;
 }
 
-/// By their values; numbers may be of any length.
+/// Compares by value; numbers may have any length.
 int compareNumbers(QStringView a, QStringView b)
 {
     const QStringView left = withoutLeadingZeros(a);

@@ -3,8 +3,8 @@
 #include <QCollator>
 #include <QString>
 
-/// Compares names as people sort them: by letters whatever their case, and numbers in them by their
-/// value, so that "take 9" comes before "take 10". Names that differ in any way are never equal.
+/// Compares names as people sort them: case-insensitively, and numbers in them by value, so that
+/// "take 9" comes before "take 10". Different names never compare equal.
 ///
 /// One thread at a time may use an object.
 class NaturalOrder

@@ -104,14 +104,15 @@ QPushButton* OpenVideoButton::makeEntry(const QString& path)
     entry->setFocusPolicy(Qt::TabFocus);
     entry->setCursor(Qt::PointingHandCursor);
     m_list->layout()->addWidget(entry);
-    // The list is made anew when a video is opened: not under the button that is being pressed.
+    // Queued, because opening a video rebuilds the list, which must not happen while its button is
+    // pressed.
     connect(
         entry, &QPushButton::clicked, this, [this, path] { Q_EMIT fileChosen(path); },
         Qt::QueuedConnection);
     return entry;
 }
 
-/// The older ones go where there is little room.
+/// Hides the older entries if there is little room.
 void OpenVideoButton::showEntriesWithRoom()
 {
     m_invitation->setGeometry(rect());
@@ -137,7 +138,7 @@ void OpenVideoButton::showEntriesWithRoom()
     m_picture->setVisible(hasRoom());
 }
 
-/// The button's own text is for screen readers: the labels show it.
+/// The button's own text is only for screen readers; the labels show it.
 void OpenVideoButton::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)

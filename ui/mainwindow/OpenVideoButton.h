@@ -6,9 +6,9 @@
 
 class QLabel;
 
-/// What lies in the place of the video where none is open: a button that opens one, which says so
-/// in its middle, with the videos that were opened last as buttons below. Behind a video it is
-/// without all that. User-interface thread only.
+/// Fills the place of the video while none is open: a button that opens one, labelled in its
+/// middle, with the recent videos as buttons below. Behind a video it shows nothing. User-interface
+/// thread only.
 class OpenVideoButton : public QPushButton
 {
     Q_OBJECT
@@ -16,16 +16,16 @@ class OpenVideoButton : public QPushButton
 public:
     explicit OpenVideoButton(QWidget* parent = nullptr);
 
-    /// Shows the text, and what to do, in its middle.
+    /// Shows a text and instructions in its middle.
     void invite(const QString& text);
-    /// Shows nothing of its own.
+    /// Shows nothing.
     void withdraw();
 
-    /// Offers the files, by their names; of many, as many as there is room for.
+    /// Offers the files by name; as many as there is room for.
     void setRecentFiles(const QStringList& paths);
 
 Q_SIGNALS:
-    /// One of the recent files was.
+    /// One of the recent files was chosen.
     void fileChosen(const QString& path);
 
 protected:

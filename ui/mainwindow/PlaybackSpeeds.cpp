@@ -12,7 +12,7 @@ constexpr std::array<qreal, 13> speeds{
     QtAV::AVPlayer::slowest, 0.25, 0.5, 0.75, 1.0, 1.25, 1.5, 1.75, 2.0, 3.0, 4.0, 6.0,
     QtAV::AVPlayer::fastest};
 
-/// What is nearer is the same.
+/// Smaller differences count as equal.
 constexpr qreal tolerance = 0.001;
 
 } // namespace

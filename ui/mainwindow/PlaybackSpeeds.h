@@ -6,11 +6,11 @@
 /// The speeds that the player offers, from 0.1 to 8.
 namespace PlaybackSpeeds {
 
-/// The next one below or above a speed; at the ends the last one.
+/// The next lower or higher speed; the limit at the ends.
 [[nodiscard]] qreal slower(qreal speed);
 [[nodiscard]] qreal faster(qreal speed);
 
-/// Such as "1.5×".
+/// A text such as "1.5×".
 [[nodiscard]] QString text(qreal speed);
 
 } // namespace PlaybackSpeeds

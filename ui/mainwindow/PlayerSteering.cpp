@@ -17,8 +17,8 @@
 
 namespace {
 
-/// The frames of files up to this size are counted at once: reading them takes about a second where
-/// the disk is slow, and they have hardly left its cache.
+/// Frames of files up to this size are counted at once: reading them takes about a second on a slow
+/// disk, and most of the file is still cached.
 constexpr qint64 quicklyReadBytes = 64 * 1024 * 1024;
 
 } // namespace
@@ -45,7 +45,7 @@ PlayerSteering::PlayerSteering(const Parts& parts, QObject* parent)
     connect(&m_field, &TimecodeField::entered, this, &PlayerSteering::goToTyped);
 }
 
-/// A video that has just been opened.
+/// Prepares for a video that has just been opened.
 void PlayerSteering::followVideo()
 {
     if (m_isFollowing || !m_player.isLoaded()) {
@@ -171,7 +171,7 @@ void PlayerSteering::preview(qint64 ms, int x)
     }
     m_previewed = ms;
     const QImage picture = m_thumbnails.at(ms);
-    // Until the new one is there, the old one is better than none.
+    // The old picture stays until the new one is available.
     if (picture.isNull()) {
         m_thumbnails.request(ms);
     } else {
@@ -256,13 +256,13 @@ void PlayerSteering::noticeCounted()
 {
     showFacts();
     const auto typed = std::exchange(m_typed, std::nullopt);
-    // Nobody waits for it any more where the field was left.
+    // If the field was left, the result is no longer wanted.
     if (typed && m_field.isTyping()) {
         goTo(*typed, m_typedText);
     }
 }
 
-/// Nothing for a place that the video has not.
+/// Nothing for a position outside the video.
 std::optional<qint64> PlayerSteering::timeOf(const TypedPosition& typed) const
 {
     const qint64 duration = m_player.duration();

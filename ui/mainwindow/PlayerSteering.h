@@ -22,17 +22,17 @@ namespace QtAV {
 class AVPlayer;
 } // namespace QtAV
 
-/// What leads to a frame beside playing and stepping: the marks and the preview of the slider, the
-/// time that is typed, the marked stretch, the speed; and the line that tells what is on screen.
+/// Navigation to a frame besides playing and stepping: the marks and the preview of the slider,
+/// typed times, the marked stretch and the speed. Also the line that describes the frame on screen.
 ///
-/// It follows the player from video to video: what belongs to one goes with it, and the speed is
-/// the normal one again. User-interface thread only; nothing here waits for the disk or a decoder.
+/// It follows the player from video to video: data of one video is dropped with it, and the speed
+/// is reset. User-interface thread only; no function waits for the disk or a decoder.
 class PlayerSteering : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What it works with; all are to outlive it.
+    /// The objects that it uses; all must outlive it.
     struct Parts
     {
         QtAV::AVPlayer& player;
@@ -43,34 +43,34 @@ public:
 
     explicit PlayerSteering(const Parts& parts, QObject* parent = nullptr);
 
-    /// What is marked in the open video.
+    /// The marked stretch of the open video.
     const MarkedStretch& stretch() const { return m_stretch; }
 
-    /// The number of the frame on screen, as far as it is known.
+    /// The number of the frame on screen, if known.
     [[nodiscard]] std::optional<VideoFactsText::FrameNumber> frameOnScreen() const;
 
     void slower();
     void faster();
     void playNormally();
 
-    /// Each marks the frame on screen as an end of the stretch.
+    /// Mark the frame on screen as an end of the stretch.
     void markStart();
     void markEnd();
     void clearStretch();
     void setLooping(bool on);
 
-    /// Pause and show the first frame, and the last.
+    /// Pause and show the first or the last frame.
     void goToStart();
     void goToEnd();
 
-    /// Goes where the text says. Where it says nothing that there is in the video, the field is
-    /// marked and nothing moves.
+    /// Goes to the position described by the text. If it is invalid or outside the video, the field
+    /// is marked and the position does not change.
     void goToTyped(const QString& text);
 
 Q_SIGNALS:
-    /// Something to be told in the status bar.
+    /// A message for the status bar.
     void message(const QString& text);
-    /// What was typed has been reached, or is on its way.
+    /// The typed position has been reached or is being sought.
     void typedPositionTaken();
 
 private:
@@ -103,7 +103,7 @@ private:
     StretchLoop m_loop;
     MarkedStretch m_stretch;
     bool m_isFollowing = false;           ///< the player has a video
-    std::optional<qint64> m_previewed;    ///< what the preview is of
+    std::optional<qint64> m_previewed;    ///< the position of the preview
     std::optional<TypedPosition> m_typed; ///< waits until the frames are counted
-    QString m_typedText;                  ///< of m_typed
+    QString m_typedText;                  ///< the text of m_typed
 };

@@ -5,14 +5,14 @@
 
 class QSettings;
 
-/// The videos that were opened last, kept in the settings under "recentFiles". User-interface
-/// thread only.
+/// The recently opened videos, stored in the settings under "recentFiles". User-interface thread
+/// only.
 namespace RecentFiles {
 
-/// So many are remembered.
+/// Maximum number of files.
 constexpr int most = 10;
 
-/// The absolute paths, the newest first; also of files that are gone.
+/// The absolute paths, the newest first, including files that no longer exist.
 [[nodiscard]] QStringList in(const QSettings& settings);
 
 /// Puts the file at the front.

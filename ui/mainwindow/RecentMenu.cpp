@@ -16,7 +16,7 @@ RecentMenu::RecentMenu(QSettings& settings, QWidget* parent)
     connect(this, &QMenu::aboutToShow, this, &RecentMenu::fill);
 }
 
-/// Files that are gone are not offered; they may come back, as on a disk that is plugged in again.
+/// Missing files are not offered but kept: their disk may be plugged in again.
 void RecentMenu::fill()
 {
     clear();

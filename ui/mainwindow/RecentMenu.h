@@ -5,21 +5,21 @@
 
 class QSettings;
 
-/// The menu of the videos that were opened last: those that are there, by their names, and a way to
-/// forget them all. Disabled while none is remembered. User-interface thread only.
+/// The menu of recent videos: the existing ones by name, and an action that clears the list.
+/// Disabled while the list is empty. User-interface thread only.
 class RecentMenu : public QMenu
 {
     Q_OBJECT
 
 public:
-    /// @param settings  where they are remembered; must outlive the menu
+    /// @param settings  stores the list; must outlive the menu
     RecentMenu(QSettings& settings, QWidget* parent);
 
-    /// A video is opened: it comes first from now on.
+    /// Moves a video to the front of the list; call it when one is opened.
     void note(const QString& path);
 
 Q_SIGNALS:
-    /// The user wants to open that video.
+    /// The user requests to open that video.
     void chosen(const QString& path);
 
 private:

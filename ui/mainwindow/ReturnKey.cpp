@@ -7,7 +7,7 @@
 
 namespace {
 
-/// False for a control that is not to be pressed.
+/// Returns false for a control that cannot be pressed.
 bool press(QObject& control)
 {
     if (auto* const button = qobject_cast<QAbstractButton*>(&control)) {
@@ -39,7 +39,7 @@ void ReturnKey::pressControls(QWidget& widget)
 
 bool ReturnKey::eventFilter(QObject* watched, QEvent* event)
 {
-    // Keys that a field leaves alone come to the box around it as well.
+    // Keys that a field ignores are also sent to its container.
     const auto* const control = qobject_cast<QWidget*>(watched);
     if (event->type() != QEvent::KeyPress || control == nullptr || !control->hasFocus()) {
         return QObject::eventFilter(watched, event);

@@ -4,15 +4,14 @@
 
 class QWidget;
 
-/// Has Return press the control that has the keyboard: buttons are pressed, boxes checked, choices
-/// opened. In a window whose Space key belongs to something else, nothing else would.
-/// User-interface thread only.
+/// Makes Return press the control with the focus: buttons are pressed, boxes checked, combo boxes
+/// opened. Needed in a window whose Space key has another use. User-interface thread only.
 class ReturnKey : public QObject
 {
     Q_OBJECT
 
 public:
-    /// For the controls that are in the widget now; lives as long as that.
+    /// Applies to the controls that the widget contains now; lives as long as the widget.
     static void pressControls(QWidget& widget);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -19,7 +19,7 @@ QStringList suffixesIn(const QString& nameFilters)
     return suffixes;
 }
 
-/// A name in its parts: "film-", 7 and ".png" for "film-07.png", with the number's width.
+/// The parts of a name: "film-", 7 and ".png" for "film-07.png", with the number's width.
 struct NumberedName
 {
     QString head;

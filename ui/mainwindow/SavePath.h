@@ -4,19 +4,19 @@
 #include <QString>
 #include <QStringList>
 
-/// What the save dialog offers, and what becomes of the name chosen in it.
+/// The types that the save dialog offers, and the completion of the chosen name.
 namespace SavePath {
 
 /// The image types that this machine can write, in the order in which they are offered.
 [[nodiscard]] QStringList nameFilters();
 
-/// The path, which ends in the first suffix of the name filter unless it ends in one of an image
-/// already. A video's name often has dots of its own, so that any suffix does not do.
+/// Appends the first suffix of the name filter to the path, unless it already ends in an image
+/// suffix. Other suffixes do not count, because video names often contain dots.
 [[nodiscard]] QString completed(const QString& path, const QString& nameFilter);
 
-/// The name itself if the folder has no such file, else the next one that is free: a number at its
-/// end counts on, any other name gets one. The number that a video's own name ends in is none.
-/// Whether there is a file is asked for the name as the name filter completes it.
+/// The name itself if the folder has no such file, otherwise the next free one: a number at its end
+/// is incremented, any other name gets one. A number at the end of the video's own name does not
+/// count. Existence is checked for the name as completed by the name filter.
 [[nodiscard]] QString nextFree(const QDir& folder, const QString& name, const QString& nameFilter,
                                const QString& videoBaseName);
 

@@ -16,7 +16,7 @@ constexpr int markEdge = 18;
 
 } // namespace
 
-/// A line icon, drawn anew when the colours change.
+/// A line icon that follows changes of the palette.
 class SavedNotice::Mark : public QWidget
 {
 public:

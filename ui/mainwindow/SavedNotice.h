@@ -6,9 +6,8 @@ class ActionButton;
 class ElidedLabel;
 class QPushButton;
 
-/// Says, below the button that saves, what became of it: the name of the file that was saved, with
-/// a way to its folder, or that it could not be saved. Its place is kept while it says nothing.
-/// User-interface thread only.
+/// Shows the result of saving below the button: the name of the saved file with a link to its
+/// folder, or a failure. Its place is reserved while it is empty. User-interface thread only.
 class SavedNotice : public QWidget
 {
     Q_OBJECT
@@ -18,7 +17,7 @@ public:
 
     void tellSaved(const QString& text);
     void tellFailed(const QString& text);
-    /// Another snapshot is there. The way to the folder stays.
+    /// Clears the text for another snapshot. The link to the folder stays.
     void clear();
 
     [[nodiscard]] QString text() const;

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The application's style, but for what a click beside the handle does.
+/// The application's style, except for clicks beside the handle.
 class JumpStyle : public QProxyStyle
 {
 public:

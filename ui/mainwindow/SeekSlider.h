@@ -2,9 +2,9 @@
 
 #include <QSlider>
 
-/// A slider for places in a video: a click goes to where it points, as in every player, and counts
-/// as taking the handle. The wheel does not move it, since that would show a place where the video
-/// is not. User-interface thread only.
+/// A slider for positions in a video: a click moves the handle to the pointer and grabs it, as in
+/// other players. The wheel does not move it, because it would then show a position other than the
+/// video's. User-interface thread only.
 class SeekSlider : public QSlider
 {
     Q_OBJECT

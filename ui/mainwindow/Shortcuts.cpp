@@ -25,10 +25,10 @@ QString translatedKeys(const char* text)
 struct Keys
 {
     const char* action;
-    QList<QKeySequence> keys; ///< the first is the one that menus show
+    QList<QKeySequence> keys; ///< menus show the first one
 };
 
-/// Actions with one key have it in the form.
+/// Actions with a single key have it in the form.
 QList<Keys> severalKeys()
 {
     const auto shift = [](int key) { return QKeySequence(int(Qt::SHIFT) + key); };
@@ -99,7 +99,7 @@ void Shortcuts::giveTo(QWidget& window, const QMenuBar& bar)
     for (const Keys& keys : table) {
         window.findChild<QAction*>(QLatin1String(keys.action))->setShortcuts(keys.keys);
     }
-    // What only a hidden bar has does not get its keys.
+    // Otherwise the keys of actions in a hidden menu bar would not work.
     const auto menus = bar.findChildren<QMenu*>();
     for (const QMenu* const menu : menus) {
         window.addActions(menu->actions());

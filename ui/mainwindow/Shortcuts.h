@@ -8,14 +8,14 @@
 class QMenuBar;
 class QWidget;
 
-/// The keys of the main window: which action has which, and the page that tells them all.
+/// The keys of the main window: their assignment to actions, and the page that lists them.
 namespace Shortcuts {
 
-/// Gives the actions of the window's menus their keys, and has them work where the menu bar is not
-/// shown, too. An action that has one key has it from the form.
+/// Assigns keys to the actions of the window's menus, and makes them work while the menu bar is
+/// hidden. Actions with a single key have it in the form.
 void giveTo(QWidget& window, const QMenuBar& bar);
 
-/// The actions of one menu that have keys, as they are told to people.
+/// The actions of one menu that have keys, with texts for people.
 struct Section
 {
     struct Entry
@@ -28,14 +28,14 @@ struct Section
     QVector<Entry> entries;
 };
 
-/// One section for each menu of the bar in which an action has a key, in their order, submenus with
-/// the menu that they are in. Made from the actions as they are at this moment.
+/// One section for each menu of the bar that contains an action with keys, in order; submenus
+/// belong to the section of their menu. Uses the current state of the actions.
 [[nodiscard]] QVector<Section> sectionsOf(const QMenuBar& bar);
 
-/// The sections as a page of HTML, and below it the ways with the mouse that no action tells of.
+/// The sections as an HTML page, followed by the mouse actions, which no menu lists.
 [[nodiscard]] QString pageOf(const QVector<Section>& sections);
 
-/// Shows that page for the window, until it is closed.
+/// Shows that page in front of the window until it is closed.
 void showPage(QWidget& window, const QMenuBar& bar);
 
 } // namespace Shortcuts

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int margin = 4;
-/// Between the window and the slider.
+/// Between the popup and the slider.
 constexpr int distance = 6;
 
 } // namespace

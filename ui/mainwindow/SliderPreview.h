@@ -7,8 +7,8 @@
 
 class QLabel;
 
-/// What lies at the pointer over the slider: a small picture and its time, in a little window above
-/// it that takes neither keyboard nor mouse. User-interface thread only.
+/// A preview of the position under the pointer: a small picture and its time, in a popup above the
+/// slider that takes neither focus nor mouse events. User-interface thread only.
 class SliderPreview : public QFrame
 {
     Q_OBJECT
@@ -16,9 +16,9 @@ class SliderPreview : public QFrame
 public:
     explicit SliderPreview(QWidget* parent);
 
-    /// Shows it above a place on the screen.
+    /// Shows the popup above a place on the screen.
     void showAt(const QPoint& place, const QString& text);
-    /// The picture; null for none so far, in whose place there is room.
+    /// Sets the picture; null leaves its place empty.
     void setPicture(const QImage& picture);
 
 private:

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// What is larger than full HD takes too long for an event.
+/// Pictures larger than full HD take too long for one event.
 constexpr qint64 mostAtOnce = 1920 * 1088;
 
 bool isLarge(const CapturedPicture& picture)
@@ -29,7 +29,7 @@ SnapshotMaker::~SnapshotMaker() = default;
 
 void SnapshotMaker::capture(const CapturedPicture& picture, const ImageRecipe& recipe)
 {
-    // What comes later must not be shown earlier.
+    // Results must be shown in order.
     if (m_capturesToCome == 0 && !isLarge(picture)) {
         Q_EMIT captured(made(picture, recipe));
         return;
@@ -45,7 +45,7 @@ void SnapshotMaker::capture(const CapturedPicture& picture, const ImageRecipe& r
 void SnapshotMaker::takeCaptured(const MadeSnapshot& made)
 {
     --m_capturesToCome;
-    // That would be one of the frame before.
+    // It would belong to the previous frame.
     forgetRemaking();
     Q_EMIT captured(made);
 }

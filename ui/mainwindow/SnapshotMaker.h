@@ -11,7 +11,7 @@
 
 #include <optional>
 
-/// What a recipe has made of a captured frame.
+/// The result of applying a recipe to a captured frame.
 struct MadeSnapshot
 {
     CapturedPicture picture;
@@ -20,8 +20,8 @@ struct MadeSnapshot
 };
 Q_DECLARE_METATYPE(MadeSnapshot)
 
-/// Makes snapshots of captured frames: small ones at once, before the call returns, large ones in
-/// the background, so that no event waits for them. User-interface thread only.
+/// Makes snapshots from captured frames: small ones before the call returns, large ones in the
+/// background, so that no event waits for them. User-interface thread only.
 class SnapshotMaker : public QObject
 {
     Q_OBJECT
@@ -30,15 +30,14 @@ public:
     explicit SnapshotMaker(QObject* parent = nullptr);
     ~SnapshotMaker() override;
 
-    /// Makes the first snapshot of a frame. Each call is answered by captured(), in their order.
+    /// Makes the first snapshot of a frame. Every call is answered by captured(), in order.
     void capture(const CapturedPicture& picture, const ImageRecipe& recipe);
 
-    /// Makes another snapshot of a frame. Of what is asked for only the newest is answered, by
-    /// remade().
+    /// Makes another snapshot of a frame. Only the newest request is answered, by remade().
     void remake(const CapturedPicture& picture, const ImageRecipe& recipe);
-    /// Has what was asked for last answered before this returns. Waits for a large one.
+    /// Completes the pending request before it returns. Waits for a large one.
     void finishRemaking();
-    /// What was asked for last is not answered any more.
+    /// Drops the pending request.
     void forgetRemaking();
 
 Q_SIGNALS:
@@ -50,9 +49,9 @@ private:
     Q_INVOKABLE void takeRemade(int request, const MadeSnapshot& made);
 
     int m_capturesToCome = 0;
-    int m_request = 0;                     ///< changes with what is asked for
-    std::optional<MadeSnapshot> m_pending; ///< what is being made anew
-    // Last: their threads call for the others.
+    int m_request = 0;                     ///< changes with each request
+    std::optional<MadeSnapshot> m_pending; ///< the pending request
+    // Last, since their threads call the other members.
     TaskThread m_captures;
     NewestTask m_remaking;
 };

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Gives the path of the new file; an empty one where there is none.
+/// Returns the path of the new file; empty on failure.
 [[nodiscard]] QString saved(const CapturedPicture& picture, const ImageRecipe& wanted,
                             const QString& type, FreePaths& paths)
 {
@@ -43,7 +43,7 @@ void SnapshotSaver::start(const QVector<Job>& jobs, const QString& folder,
         m_lastFile.clear();
     }
     m_left += jobs.size();
-    // One counter for each video, used by the tasks alone.
+    // One counter per video, used only by the tasks.
     QHash<QString, std::shared_ptr<FreePaths>> counters;
     for (const Job& job : jobs) {
         std::shared_ptr<FreePaths>& paths = counters[job.videoBaseName];

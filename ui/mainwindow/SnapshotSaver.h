@@ -13,35 +13,35 @@
 class FreePaths;
 class SnapshotShelf;
 
-/// Saves snapshots of a shelf as files of the user's, one after another in the background. Those
-/// that are written are marked as saved there. User-interface thread only.
+/// Saves snapshots of a shelf as files, one after another in the background. Those written are
+/// marked as saved in the shelf. User-interface thread only.
 class SnapshotSaver : public QObject
 {
     Q_OBJECT
 
 public:
-    /// One snapshot, and what becomes of it.
+    /// A snapshot and the parameters for saving it.
     struct Job
     {
         QString id;
-        QString videoBaseName; ///< for the file's name
+        QString videoBaseName; ///< used in the file's name
         ImageRecipe recipe;
     };
 
     /// @param shelf  not owned; must outlive this object
     explicit SnapshotSaver(SnapshotShelf& shelf, QObject* parent = nullptr);
 
-    /// Begins to save into the folder, under free names only; nothing is ever replaced. What is
-    /// started while others are being saved comes behind them.
+    /// Starts saving into the folder, under free names only; nothing is ever replaced. Jobs started
+    /// while others are being saved follow them.
     void start(const QVector<Job>& jobs, const QString& folder, const OutputNaming& naming);
 
-    /// While this is true, finished() is still to come.
+    /// True while finished() is still to come.
     [[nodiscard]] bool isRunning() const { return m_left > 0; }
 
 Q_SIGNALS:
     void progressed(int done, int all);
-    /// What became of all that was started.
-    /// @param lastFile  the path of the one written last; empty where there is none
+    /// The result of all jobs started.
+    /// @param lastFile  the path of the file written last; empty if none was written
     void finished(int saved, int failed, const QString& lastFile);
 
 private:

@@ -12,7 +12,8 @@
 
 namespace {
 
-/// So long a video stands still before its place is told: a held key moves it further before.
+/// How long the video must stand still before its position is announced: a held key keeps moving
+/// it.
 constexpr std::chrono::milliseconds restTime{250};
 
 } // namespace
@@ -37,7 +38,7 @@ void SpokenEvents::tell(const QString& text)
     m_announcer->announce(text);
 }
 
-/// The place of a video that plays changes all the time, and is heard.
+/// The position of a playing video changes constantly, and its sound is heard.
 void SpokenEvents::followPlayer()
 {
     if (m_player.isPaused()) {

@@ -13,17 +13,17 @@ namespace QtAV {
 class AVPlayer;
 } // namespace QtAV
 
-/// What the main window tells those who listen to a screen reader: what its status bar says, and
-/// where the video stands once it was moved and rests. User-interface thread only.
+/// Announces events of the main window to screen readers: the messages of its status bar, and the
+/// position of the video once it was moved and rests. User-interface thread only.
 class SpokenEvents : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param place  the place in the video in words, asked for when it is told
+    /// @param place  returns the position in words; called when it is announced
     SpokenEvents(QMainWindow& window, QtAV::AVPlayer& player, std::function<QString()> place);
 
-    /// Tells this as well.
+    /// Announces an additional text.
     void tell(const QString& text);
 
 private:

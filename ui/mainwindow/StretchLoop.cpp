@@ -8,12 +8,12 @@ StretchLoop::StretchLoop(QtAV::AVPlayer& player, QObject* parent)
 {
     using QtAV::AVPlayer;
     connect(&player, &AVPlayer::positionChanged, this, &StretchLoop::noticePosition);
-    // The player is about to pause, and would do so after it was told to play.
+    // Queued, because the player is about to pause, which would override a call of play() here.
     connect(&player, &AVPlayer::mediaStatusChanged, this, &StretchLoop::noticeEnd,
             Qt::QueuedConnection);
 }
 
-/// The last frame of the stretch stays on screen while the first is looked for.
+/// The last frame of the stretch stays on screen while the first is being sought.
 void StretchLoop::noticePosition(qint64 ms)
 {
     if (loops() && m_player.isPlaying() && m_stretch.toMs && ms >= *m_stretch.toMs) {

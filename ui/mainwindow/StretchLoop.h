@@ -8,15 +8,14 @@ namespace QtAV {
 class AVPlayer;
 } // namespace QtAV
 
-/// Has a player play the marked stretch over and over: when it comes to its end, it goes on at its
-/// start. Does nothing while the player is paused, nor without a stretch. User-interface thread
-/// only.
+/// Makes a player repeat the marked stretch: at its end, playback continues at its start. Does
+/// nothing while the player is paused, or without a stretch. User-interface thread only.
 class StretchLoop : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param player  is to outlive the loop.
+    /// @param player  must outlive the loop.
     explicit StretchLoop(QtAV::AVPlayer& player, QObject* parent = nullptr);
 
     void setStretch(const MarkedStretch& stretch) { m_stretch = stretch; }

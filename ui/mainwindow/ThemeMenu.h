@@ -4,13 +4,12 @@
 
 class QSettings;
 
-/// The menu in which people choose how the program looks. A choice is applied at once and stored.
-/// User-interface thread only.
+/// The menu of themes. A choice is applied at once and stored. User-interface thread only.
 class ThemeMenu : public QMenu
 {
     Q_OBJECT
 
 public:
-    /// @param settings  must outlive it
+    /// @param settings  must outlive the menu
     ThemeMenu(QSettings& settings, QWidget* parent);
 };

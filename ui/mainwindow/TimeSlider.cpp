@@ -10,7 +10,7 @@
 
 namespace {
 
-/// High enough to be hit without aiming.
+/// Large enough to be hit without aiming.
 constexpr int leastHeight = 32;
 
 constexpr int pixelsPerFrame = 6;
@@ -73,7 +73,7 @@ int TimeSlider::placeOf(qint64 ms) const
     return way.begin + QStyle::sliderPositionFromValue(minimum(), maximum(), int(step), way.length);
 }
 
-/// The time beside the pointer says more than the tool tip, which would cover it.
+/// The time beside the pointer replaces the tool tip, which would cover it.
 bool TimeSlider::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && isEnabled()) {
@@ -83,7 +83,7 @@ bool TimeSlider::event(QEvent* event)
     return SeekSlider::event(event);
 }
 
-/// The handle and the way that it goes stay on top.
+/// The handle and the progress stay on top.
 void TimeSlider::paintEvent(QPaintEvent* event)
 {
     if (isEnabled() && maximum() > minimum()) {
@@ -172,7 +172,7 @@ void TimeSlider::mouseMoveEvent(QMouseEvent* event)
     }
 }
 
-/// From where the video is, whatever place on the slider that would be.
+/// Relative to the video's position, whatever place on the slider that is.
 void TimeSlider::scrubTo(int x)
 {
     const int frames = (x - m_scrubbedTo) / pixelsPerFrame;

@@ -5,11 +5,12 @@
 
 #include <QVector>
 
-/// The slider of the player: it shows where snapshots were taken, where chapters begin and which
-/// stretch is marked, tells which time the pointer is at, and goes frame by frame where the whole
-/// video is too long for that: with Shift held down while dragging, and by the wheel.
+/// The slider of the player. It shows the snapshots, the chapters, the marked stretch and the time
+/// under the pointer. Dragging with Shift, and the wheel, move frame by frame, for videos too long
+/// for the slider's resolution.
 ///
-/// Its steps are as long as it is told; all times are milliseconds. User-interface thread only.
+/// The owner sets the length of its steps; all times are in milliseconds. User-interface thread
+/// only.
 class TimeSlider : public SeekSlider
 {
     Q_OBJECT
@@ -19,7 +20,7 @@ public:
 
     void setStepMs(qint64 ms) { m_stepMs = ms; }
 
-    /// Times of the snapshots that were taken, in any order. Those behind the end are not shown.
+    /// Times of the snapshots, in any order. Those behind the end are not shown.
     void setSnapshotTicks(const QVector<qint64>& times);
     const QVector<qint64>& snapshotTicks() const { return m_snapshots; }
     void setChapterTicks(const QVector<qint64>& times);
@@ -28,16 +29,16 @@ public:
     void setStretch(const MarkedStretch& stretch);
     const MarkedStretch& stretch() const { return m_stretch; }
 
-    /// Where a click at this place, in pixels from the left, leads.
+    /// The time that a click at this place selects, in pixels from the left.
     [[nodiscard]] qint64 timeAt(int x) const;
-    /// The place in pixels from the left where a time is.
+    /// The place of a time, in pixels from the left.
     [[nodiscard]] int placeOf(qint64 ms) const;
 
 Q_SIGNALS:
-    /// The pointer is over the slider, at this place in pixels from the left, or left it.
+    /// The pointer is at this place, in pixels from the left, or has left the slider.
     void pointedAt(qint64 ms, int x);
     void pointedAway();
-    /// The user goes so many frames on, or back where it is negative.
+    /// The user moves by this many frames, negative for back.
     void stepped(int frames);
 
 protected:
@@ -51,7 +52,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// Where the middle of the handle can be, in pixels.
+    /// The range of the handle's middle, in pixels.
     struct Way
     {
         int begin = 0;
@@ -67,7 +68,7 @@ private:
     QVector<qint64> m_snapshots;
     QVector<qint64> m_chapters;
     MarkedStretch m_stretch;
-    bool m_scrubs = false; ///< it is being dragged frame by frame
-    int m_scrubbedTo = 0;  ///< the place up to which the steps have been made
-    int m_wheelAngle = 0;  ///< what is left of the wheel's turns, in eighths of a degree
+    bool m_scrubs = false; ///< being dragged frame by frame
+    int m_scrubbedTo = 0;  ///< the place up to which steps have been made
+    int m_wheelAngle = 0;  ///< remaining rotation of the wheel, in eighths of a degree
 };

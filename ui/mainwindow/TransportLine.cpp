@@ -8,7 +8,7 @@
 
 namespace {
 
-/// So many letters of the facts are worth a place in the row.
+/// Minimum number of letters of the facts for a single row.
 constexpr int lettersOfFacts = 24;
 
 int widthOf(const QWidget* part)
@@ -41,7 +41,7 @@ bool TransportLine::isInOneRow() const
     return m_isInOneRow;
 }
 
-/// Also in one row it may be made narrow enough for two.
+/// The minimum of two rows also applies to one row, so that the line can become two rows.
 QSize TransportLine::minimumSizeHint() const
 {
     if (m_time == nullptr) {

@@ -4,12 +4,12 @@
 
 class QGridLayout;
 
-/// The line below the video: its time, the buttons that move it, what is told of the frame, and the
-/// button that takes it. All in one row where that has room for them, else in two.
+/// The line below the video: its time, the buttons that move it, the facts about the frame, and the
+/// button that takes it. Uses one row if there is room for everything, otherwise two.
 ///
-/// The form puts four widgets into it, see the enumeration; they are its layout's to arrange. In
-/// one row they stand in this order, in two the time is above with the facts beside it; so the
-/// order of reading is that of the keyboard. User-interface thread only.
+/// The form puts four widgets into it, see the enumeration; its layout arranges them. One row has
+/// them in this order; with two rows, the time is above with the facts beside it. So the reading
+/// order matches the tab order. User-interface thread only.
 class TransportLine : public QFrame
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class TransportLine : public QFrame
 public:
     explicit TransportLine(QWidget* parent = nullptr);
 
-    /// Takes them into its layout, as its children. Once.
+    /// Adds the widgets to its layout, as its children. Call it once.
     void setParts(QWidget& time, QWidget& buttons, QWidget& facts, QWidget& take);
 
     [[nodiscard]] bool isInOneRow() const;

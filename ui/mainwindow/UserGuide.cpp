@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Beside the program as it is installed on Linux, and inside its bundle on macOS.
+/// Relative to the program: as installed on Linux, and inside its bundle on macOS.
 QStringList installedFolders()
 {
     const QDir programs(QCoreApplication::applicationDirPath());

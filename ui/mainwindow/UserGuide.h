@@ -4,14 +4,14 @@
 #include <QStringList>
 #include <QUrl>
 
-/// Where the user guide is.
+/// Location of the user guide.
 namespace UserGuide {
 
-/// The address of the guide, or of one section of it. The installed guide, which can be read
-/// offline, where there is one; else the one on the product's web site.
+/// The URL of the guide, or of one of its sections: the installed guide, which works offline, or
+/// else the one on the product's web site.
 [[nodiscard]] QUrl url(const QString& section = {});
 
-/// The same, with the installed guide looked for in the folders, in this order.
+/// Like above, searching these folders in order for the installed guide.
 [[nodiscard]] QUrl url(const QString& section, const QStringList& folders);
 
 } // namespace UserGuide

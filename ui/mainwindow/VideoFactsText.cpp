@@ -33,7 +33,7 @@ QString rateText(double rate)
 
 QString frameText(const VideoFactsText::FrameNumber& frame)
 {
-    // As it is typed to go there.
+    // In the form in which it can be typed.
     return (frame.isExact ? QStringLiteral("f%1") : QStringLiteral("\u2248f%1")).arg(frame.value);
 }
 
@@ -45,7 +45,7 @@ std::optional<VideoFactsText::FrameNumber> VideoFactsText::estimated(qint64 ms,
     if (!hasRate(facts)) {
         return std::nullopt;
     }
-    // The time is cut off, so that a frame's own may be up to a millisecond later.
+    // The time is truncated, so the frame's own may be up to a millisecond later.
     const double frames = (static_cast<double>(ms) + 0.5) * rateOf(facts) / 1000.0;
     return FrameNumber{std::llround(frames), false};
 }

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// One line on the video and the frame on screen, such as
+/// A line about the video and the frame on screen, such as
 /// "f1234 · 25 fps · 1920 × 1080 · H.264".
 namespace VideoFactsText {
 
@@ -15,18 +15,18 @@ namespace VideoFactsText {
 struct FrameNumber
 {
     qint64 value = 0;
-    bool isExact = false; ///< else it follows from the time and the rate
+    bool isExact = false; ///< otherwise computed from the time and the rate
 };
 
-/// The number by the time in milliseconds and the rate; nothing where the rate is unknown.
+/// The number computed from the time in milliseconds and the rate; nothing if the rate is unknown.
 [[nodiscard]] std::optional<FrameNumber> estimated(qint64 ms, const QtAV::MediaFacts& facts);
 
-/// What is unknown is not told.
-/// @param size  of the picture as it is seen
+/// Omits what is unknown.
+/// @param size  display size of the picture
 [[nodiscard]] QString line(const std::optional<FrameNumber>& frame, const QtAV::MediaFacts& facts,
                            const QSize& size, qreal speed);
 
-/// The name of a codec as people know it, such as "H.264" for "h264".
+/// The common name of a codec, such as "H.264" for "h264".
 [[nodiscard]] QString codecName(const QString& codec);
 
 } // namespace VideoFactsText

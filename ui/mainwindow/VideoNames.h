@@ -5,27 +5,26 @@
 
 #include <functional>
 
-/// Videos in folders, told by their names alone: those that the dialog for opening offers. They
-/// read the disk, and may be called in any thread.
+/// Videos in folders, recognised by the names that the dialog for opening offers. Functions that
+/// read the disk may be called in any thread.
 namespace VideoNames {
 
 using IsCancelled = std::function<bool()>;
 
-/// Whether the dialog for opening would offer the file; also a path.
+/// Whether the dialog for opening offers a file of this name or path.
 [[nodiscard]] bool isVideo(const QString& name);
 
-/// The names of the folder's own videos, in the natural order.
+/// The names of the videos directly in the folder, in natural order.
 [[nodiscard]] QStringList in(const QString& folder);
 
-/// The paths of a folder's videos and, behind them, those of the folders in it, in the natural
-/// order. Hidden folders and links to folders are passed over, and so is what lies deeper than
-/// sixteen folders.
+/// The paths of the videos in a folder, followed by those in its subfolders, in natural order.
+/// Skips hidden folders, links to folders, and folders more than sixteen levels deep.
 ///
-/// @param most  so many are looked for
+/// @param most  maximum number of videos
 [[nodiscard]] QStringList below(const QString& folder, int most, const IsCancelled& isCancelled);
 
-/// The videos that come before and behind one in its folder, as paths; empty where none does. The
-/// one between need not be there.
+/// The paths of the previous and the next video in a folder; empty if there is none. The given
+/// video need not exist.
 struct Neighbours
 {
     QString previous;

@@ -11,7 +11,7 @@ class AVPlayer;
 class VideoOutput;
 } // namespace QtAV
 
-/// How large the main window shows its video: by the mouse, by keys, and from frame to frame.
+/// The zoom of the main window's video: by mouse, by keys, and across frames.
 ///
 /// A double click zooms. Its first click has already played or paused the video, which is undone.
 /// User-interface thread only.
@@ -20,24 +20,24 @@ class VideoZoom : public QObject
     Q_OBJECT
 
 public:
-    /// @param area    gets the mouse in place of the video that is shown in it
+    /// @param area    receives the mouse events for the video shown in it
     /// @param player  must outlive this object
     /// @param output  may be deleted earlier
     VideoZoom(QWidget& area, QtAV::AVPlayer& player, QtAV::VideoOutput& output, QObject* parent);
 
 public Q_SLOTS:
-    /// The whole picture, as large as its area allows.
+    /// Shows the whole picture, as large as its area allows.
     void fit();
-    /// A pixel of the picture is one of the screen.
+    /// Shows one pixel of the picture per pixel of the screen.
     void showActualSize();
     void showFourfold();
-    /// Full size, or fitted where it is in full size.
+    /// Switches between full size and fitted.
     void toggleActualSize();
-    /// Takes over the size of the frame on screen, which a video may change.
+    /// Uses the size of the frame on screen, which may change within a video.
     void followFrame();
 
 Q_SIGNALS:
-    /// The picture is shown at a scale of its own, or lies elsewhere at that scale.
+    /// The picture is shown at another scale, or was moved.
     void scaled(int percent);
 
 private:
@@ -48,7 +48,7 @@ private:
     QtAV::AVPlayer& m_player;
     const QPointer<QtAV::VideoOutput> m_output;
     ZoomGestures* const m_gestures;
-    /// Where the video stood, and whether it played, when a click began.
+    /// Position and playback state of the video when a click began.
     qint64 m_pressedAtMs = 0;
     bool m_playedWhenPressed = false;
 };

@@ -59,7 +59,7 @@ void ActionButton::fit()
         return;
     }
     const QFontMetrics metrics = m_label->fontMetrics();
-    // Lines are broken between words, so that they are not all full.
+    // Lines break between words, so not all of them are full.
     const int slack = m_lines == 1 ? 0 : metrics.averageCharWidth() * 8;
     const int wanted = metrics.horizontalAdvance(m_label->text()) / m_lines + slack;
     const int room = m_label->geometry().united(geometry()).width() - theme::spacing::normal;
@@ -109,7 +109,7 @@ void ActionButton::paintEvent(QPaintEvent* event)
                      int(side | Qt::AlignVCenter), m_keys);
 }
 
-/// The area is where it is in writing from the left.
+/// The area is given for left-to-right layouts.
 void ActionButton::paintLabel(QPainter& painter, const QRect& area) const
 {
     const QSize edge = icon().isNull() ? QSize(0, 0) : iconSize();

@@ -4,9 +4,9 @@
 
 class QLabel;
 
-/// A push button that shows its icon and its text side by side, in both directions of writing, and
-/// the key of its action behind them where there is room. Made narrower than its text needs, it
-/// shows the icon alone. User-interface thread only.
+/// A push button that shows its icon and text side by side, in both layout directions, followed by
+/// the key of its action if there is room. If it is too narrow for its text, it shows only the
+/// icon. User-interface thread only.
 class ActionButton : public QPushButton
 {
     Q_OBJECT
@@ -14,15 +14,15 @@ class ActionButton : public QPushButton
 public:
     explicit ActionButton(QWidget* parent = nullptr);
 
-    /// Such as "Ctrl+A"; nothing is shown where it is empty.
+    /// A text such as "Ctrl+A"; empty to show nothing.
     void setKeys(const QString& keys);
     [[nodiscard]] QString keys() const;
 
-    /// Shows its icon alone whenever the label beside it, in the same row, would else not have room
-    /// for its text in so many lines.
+    /// Shows only the icon whenever the label beside it, in the same row, would otherwise not have
+    /// room for its text in this many lines.
     /// @param label  must outlive the button
     void giveWayTo(QLabel& label, int lines);
-    /// To be called when the label says something else; that it has another size is noticed.
+    /// Call it when the label's text changes; changes of its size are detected.
     void fit();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -34,11 +34,11 @@ protected:
 
 private:
     [[nodiscard]] QFont keysFont() const;
-    /// With the gap before it; 0 without keys.
+    /// Includes the gap before it; 0 without keys.
     [[nodiscard]] int widthOfKeys() const;
     void paintLabel(QPainter& painter, const QRect& area) const;
 
     QString m_keys;
-    QLabel* m_label = nullptr; ///< the one to give way to
-    int m_lines = 1;           ///< of its text
+    QLabel* m_label = nullptr; ///< the label that takes precedence
+    int m_lines = 1;           ///< maximum number of lines of its text
 };

@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Greys are neutral: the three channels are equal, and only the accent has a hue.
+/// Greys are neutral, with three equal channels; only the accent has a hue.
 struct Colours
 {
     QRgb window;

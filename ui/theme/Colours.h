@@ -2,16 +2,15 @@
 
 #include <QPalette>
 
-/// The colours of the program. All of them are roles of the application's palette, so that a
-/// widget, a delegate or a rule of the style sheet takes them from there and follows when they
-/// change.
+/// The colours of the program. All are roles of the application's palette, so that widgets,
+/// delegates and rules of the style sheet follow when it changes.
 namespace theme {
 
 enum class Scheme { Dark, Light };
 
-// What the roles are used for that Qt gives no exact meaning.
+// Uses of the roles to which Qt gives no exact meaning.
 
-/// The ground of pictures: a neutral grey, beside which colours are judged rightly.
+/// The background of pictures: a neutral grey, so that colours are judged correctly.
 constexpr QPalette::ColorRole canvasRole = QPalette::Shadow;
 /// The outlines of controls.
 constexpr QPalette::ColorRole outlineRole = QPalette::Mid;
@@ -19,21 +18,21 @@ constexpr QPalette::ColorRole outlineRole = QPalette::Mid;
 constexpr QPalette::ColorRole separatorRole = QPalette::Dark;
 /// A control that is pointed at.
 constexpr QPalette::ColorRole hoverRole = QPalette::Light;
-/// A control that is pressed, and grooves.
+/// A pressed control, and grooves.
 constexpr QPalette::ColorRole pressedRole = QPalette::Midlight;
-/// The ground of what is selected, and of the button that a window is there for.
+/// The background of a selection, and of a window's primary button.
 constexpr QPalette::ColorRole accentRole = QPalette::Highlight;
-/// The accent where it is a line or a text on a window's ground: the focus ring, links.
+/// The accent as a line or text on a window's background: the focus ring, links.
 constexpr QPalette::ColorRole accentLineRole = QPalette::Link;
-/// What is wrong: the outline of a refused text, and what is said of it.
+/// Errors: the outline of a rejected text, and error messages.
 constexpr QPalette::ColorRole errorRole = QPalette::BrightText;
-/// Texts that matter less.
+/// Less important texts.
 constexpr QPalette::ColorRole quietTextRole = QPalette::PlaceholderText;
 
 /// All roles, for enabled, inactive and disabled widgets.
 [[nodiscard]] QPalette palette(Scheme scheme);
 
-/// What another palette is nearer to.
+/// The scheme that is closest to another palette.
 [[nodiscard]] Scheme schemeOf(const QPalette& palette);
 
 } // namespace theme

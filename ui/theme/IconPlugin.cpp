@@ -7,6 +7,6 @@
 QIconEngine* LineIconPlugin::create(const QString& fileName)
 {
     Q_UNUSED(fileName)
-    // QIcon takes it over, and names the file by addFile().
+    // QIcon takes ownership, and passes the file name to addFile().
     return std::make_unique<LineIconEngine>().release();
 }

@@ -2,7 +2,7 @@
 
 #include <QIconEnginePlugin>
 
-/// Has Qt draw the files whose names end in ".icon", as forms name them, by a LineIconEngine.
+/// Makes Qt draw files with names that end in ".icon", as used in forms, with a LineIconEngine.
 class LineIconPlugin : public QIconEnginePlugin
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ QIcon theme::icon(const QString& name, Ink ink)
     if (!QFile::exists(LineIconEngine::fileOf(name))) {
         return {};
     }
-    // QIcon takes it over.
+    // QIcon takes ownership.
     return QIcon(std::make_unique<LineIconEngine>(name, ink).release());
 }
 

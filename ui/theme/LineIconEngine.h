@@ -17,7 +17,7 @@ public:
     void addFile(const QString& fileName, const QSize& size, QIcon::Mode mode,
                  QIcon::State state) override;
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
-    /// @param size  in pixels of the screen
+    /// @param size  in screen pixels
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
     QIconEngine* clone() const override;
     QString key() const override;

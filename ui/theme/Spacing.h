@@ -1,7 +1,7 @@
 #pragma once
 
-/// Distances in device-independent pixels, on a grid of four. Layouts whose form sets no margin and
-/// no spacing get `wide` and `normal` from ThemeStyle.
+/// Distances in device-independent pixels, on a grid of four. ThemeStyle applies `wide` and
+/// `normal` to layouts whose forms set neither margins nor spacing.
 namespace theme::spacing {
 
 constexpr int tight = 4;    ///< between parts of one control

@@ -59,7 +59,7 @@ std::optional<theme::TextSize> theme::textSizeNamed(const QString& name)
 
 void theme::applyHeading(QWidget& widget)
 {
-    QFont font; // of which only what is set here counts
+    QFont font; // only the properties set here take effect
     if (qobject_cast<QGroupBox*>(&widget) != nullptr) {
         font.setWeight(QFont::DemiBold);
         widget.setFont(font);

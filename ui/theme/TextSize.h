@@ -7,33 +7,33 @@
 
 class QWidget;
 
-/// The sizes of text, all relative to a base font: the application's, which people make larger.
+/// Text sizes relative to a base font: the application's, which users can enlarge.
 namespace theme {
 
 enum class TextSize {
-    Caption, ///< beside pictures, and facts: 0.9 of the base
-    Body,    ///< as it is
-    Heading, ///< above a group of controls: as large, and bold
+    Caption, ///< for facts and texts beside pictures: 0.9 of the base
+    Body,    ///< the base itself
+    Heading, ///< above a group of controls: the base in bold
     Title,   ///< above a page: 1.3 of the base
 };
 
 [[nodiscard]] QFont font(TextSize size, const QFont& base);
 
-/// By its name in forms, such as "heading": see textSizeProperty.
+/// The size for a name used in forms, such as "heading": see textSizeProperty.
 [[nodiscard]] std::optional<TextSize> textSizeNamed(const QString& name);
 
-/// A form gives a widget a text size by a dynamic property of this name ("caption", "body",
-/// "heading" or "title"); ThemeStyle sees to it.
+/// Name of the dynamic property by which forms set the text size of a widget ("caption", "body",
+/// "heading" or "title"); ThemeStyle applies it.
 constexpr char textSizeProperty[] = "textSize";
-/// A form marks a label that matters less by setting this dynamic property to true.
+/// Name of the dynamic property that marks a label as less important.
 constexpr char quietProperty[] = "quiet";
 
-/// Makes the title of a group box a heading; what is inside keeps its weight by itself, for fonts
-/// come down from parents. For each widget of a window, parents first.
+/// Makes the title of a group box a heading. Its children get explicit weights, because they would
+/// inherit the font. Call it for each widget of a window, parents first.
 void applyHeading(QWidget& widget);
 
-/// Gives the widget the size that its property names, from the application's font for its class.
-/// Without such a property, nothing happens.
+/// Applies the size named by the widget's property, based on the application's font for its class.
+/// Does nothing without such a property.
 void applyTextSize(QWidget& widget);
 
 } // namespace theme

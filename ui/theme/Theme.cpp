@@ -17,7 +17,7 @@ const QString key = QStringLiteral("theme");
 const QString lightName = QStringLiteral("light");
 const QString systemName = QStringLiteral("system");
 
-/// The style sheet marks buttons that have it.
+/// The style sheet highlights buttons with this property.
 constexpr char primaryProperty[] = "primary";
 
 } // namespace
@@ -64,12 +64,13 @@ void Theme::apply(Choice choice)
 {
     if (!m_isApplied) {
         m_isApplied = true;
-        // The application takes it over.
+        // The application takes ownership.
         QApplication::setStyle(std::make_unique<ThemeStyle>().release());
     }
     m_choice = choice;
     QApplication::setPalette(theme::palette(scheme()));
-    // Widgets keep what a sheet's rules made of the palette, until the sheet is set again.
+    // Widgets keep colours that style sheet rules took from the palette until the sheet is set
+    // again.
     if (!qApp->styleSheet().isEmpty()) {
         qApp->setStyleSheet(qApp->styleSheet());
     }

@@ -7,10 +7,10 @@
 class QPushButton;
 class QSettings;
 
-/// How the program looks: style, palette and style sheet together, and the user's choice of them.
+/// The appearance of the program: style, palette and style sheet, and the user's choice of theme.
 ///
-/// The choice is in the settings under "theme": "dark", "light" or "system". User-interface thread
-/// only.
+/// The choice is stored in the settings under "theme": "dark", "light" or "system". User-interface
+/// thread only.
 class Theme : public QObject
 {
     Q_OBJECT
@@ -18,33 +18,33 @@ class Theme : public QObject
 public:
     enum class Choice { Dark, Light, System };
 
-    /// That of the application, made when it is first asked for; it ends with the application.
+    /// The application's theme, created on first use; deleted with the application.
     [[nodiscard]] static Theme& instance();
 
-    /// What was chosen before; dark where nothing was.
+    /// The stored choice; dark by default.
     [[nodiscard]] static Choice storedIn(const QSettings& settings);
     static void store(QSettings& settings, Choice choice);
 
-    /// Gives all windows, open ones too, the looks that were chosen.
+    /// Applies the chosen theme to all windows, including open ones.
     void apply(Choice choice);
 
     [[nodiscard]] Choice choice() const;
-    /// What the choice comes to here.
+    /// The scheme that results from the choice.
     [[nodiscard]] theme::Scheme scheme() const;
 
-    /// Makes a button the one that its window is there for, which stands out in the accent colour,
-    /// or an ordinary one again.
+    /// Makes a button the window's primary one, which stands out in the accent colour, or an
+    /// ordinary one again.
     static void setPrimary(QPushButton& button, bool isPrimary);
     [[nodiscard]] static bool isPrimary(const QPushButton& button);
 
 Q_SIGNALS:
-    /// Other looks are applied.
+    /// Another theme has been applied.
     void changed();
 
 private:
     explicit Theme(QObject* parent);
 
-    theme::Scheme m_systemScheme; ///< as it was before anything was applied
+    theme::Scheme m_systemScheme; ///< determined before any theme was applied
     Choice m_choice = Choice::Dark;
     bool m_isApplied = false;
 };

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The name of the line icon for what Qt itself shows; empty where Qt's own stays.
+/// The line icon that replaces an icon of Qt; empty if Qt's own is used.
 QString lineIconOf(QStyle::StandardPixmap pixmap)
 {
     switch (pixmap) {
@@ -104,7 +104,7 @@ QPixmap ThemeStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* op
     return icon.pixmap(edge, edge);
 }
 
-/// In dialogs, the text of a button says it all.
+/// In dialogs, the text of a button is sufficient.
 int ThemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* returnData) const
 {

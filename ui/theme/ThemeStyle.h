@@ -2,8 +2,8 @@
 
 #include <QProxyStyle>
 
-/// Qt's Fusion style with the program's distances, text sizes and icons. Colours come from the
-/// palette, and the shapes of most controls from the style sheet. User-interface thread only.
+/// Qt's Fusion style with the program's distances, text sizes and icons. The palette provides the
+/// colours, and the style sheet the shapes of most controls. User-interface thread only.
 class ThemeStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -12,11 +12,11 @@ public:
     ThemeStyle();
 
     using QProxyStyle::polish;
-    /// Gives a widget what its properties ask for: see theme::textSizeProperty.
+    /// Applies the properties of a widget: see theme::textSizeProperty.
     void polish(QWidget* widget) override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override;
-    /// Those of message boxes and of the file dialog are line icons too.
+    /// Icons of message boxes and of the file dialog are line icons, too.
     QIcon standardIcon(StandardPixmap pixmap, const QStyleOption* option,
                        const QWidget* widget) const override;
     QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption* option,

@@ -40,7 +40,7 @@ Announcer::Announcer(QWidget* parent)
     setObjectName(QStringLiteral("announcer"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
-    // It must be shown to be told of.
+    // Only visible widgets are announced.
     resize(1, 1);
 }
 
@@ -55,7 +55,7 @@ void Announcer::announce(const QString& text)
     }
     QAccessibleEvent renamed(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&renamed);
-    // Screen readers speak notifications as they show up.
+    // Screen readers announce notifications when they are shown.
     QAccessibleEvent shown(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);
 }

@@ -3,9 +3,9 @@
 #include <QString>
 #include <QWidget>
 
-/// Tells those who listen to a screen reader what happens elsewhere than where the keyboard is: a
-/// part of its window that is too small to be seen, and that assistive technology knows as a
-/// notification which shows up anew with each text. User-interface thread only.
+/// Announces events outside the focused control to screen readers: a part of its window that is too
+/// small to be seen, which assistive technology treats as a notification that is shown again with
+/// each text. User-interface thread only.
 class Announcer : public QWidget
 {
     Q_OBJECT
@@ -13,10 +13,10 @@ class Announcer : public QWidget
 public:
     explicit Announcer(QWidget* parent);
 
-    /// Tells the text, once. An empty one is nothing to tell.
+    /// Announces the text once. Ignores an empty text.
     void announce(const QString& text);
 
-    /// What was told last.
+    /// The text announced last.
     [[nodiscard]] const QString& text() const { return m_text; }
 
 private:

@@ -74,7 +74,7 @@ void CentredSlider::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(zero - markWidth / 2, middle - markHeight / 2 + 1, markWidth, markHeight,
                      mark);
 
-    // A style sheet would fill one side of the groove along with the handle.
+    // A style sheet would fill one side of the groove together with the handle.
     painter.setClipRect(handle);
     option.subControls = QStyle::SC_SliderHandle;
     painter.drawComplexControl(QStyle::CC_Slider, option);

@@ -2,14 +2,14 @@
 
 #include <QSlider>
 
-/// A horizontal slider for values that go both ways from one that changes nothing: it is filled
-/// from there to its handle, has a mark there, and a double click brings it back there.
+/// A horizontal slider for values on both sides of a neutral one: it is filled from there to its
+/// handle, has a mark there, and a double click resets it.
 ///
 /// User-interface thread only.
 class CentredSlider : public QSlider
 {
     Q_OBJECT
-    /// The value that changes nothing; 0 unless set.
+    /// The neutral value; 0 by default.
     Q_PROPERTY(int neutral READ neutral WRITE setNeutral)
 
 public:

@@ -22,7 +22,7 @@ void ColorLabel::setColorValue(const QColor& color)
 
 void ColorLabel::paintEvent(QPaintEvent* /*event*/)
 {
-    // An invalid colour would be painted black, as if somebody had chosen that.
+    // An invalid colour would be painted black, as if it had been chosen.
     if (m_colorValue.isValid()) {
         QPainter(this).fillRect(0, 0, swatchWidth, height(), m_colorValue);
     }

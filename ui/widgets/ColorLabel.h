@@ -14,13 +14,13 @@ public:
     /// Invalid until one is set.
     QColor colorValue() const;
 
-    /// Stores the colour; the swatch shows it from its next repaint on, which is the caller's to
-    /// ask for.
+    /// Stores the colour. The swatch shows it from its next repaint on, which the caller must
+    /// request.
     void setColorValue(const QColor& color);
 
 protected:
-    /// Fills a rectangle at the left over the full height; no text and no frame. An invalid colour
-    /// paints nothing.
+    /// Fills a rectangle at the left over the full height, without text and frame. Paints nothing
+    /// for an invalid colour.
     void paintEvent(QPaintEvent* event) override;
 
 private:

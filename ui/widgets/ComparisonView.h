@@ -3,8 +3,8 @@
 #include <QImage>
 #include <QWidget>
 
-/// Shows two pictures of one size as one, divided by a line: the first to the left of it, the
-/// second to the right. The line follows the mouse while its button is down, and the arrow keys.
+/// Shows two pictures of one size as one, divided by a line: the first on its left, the second on
+/// its right. The line follows the mouse while its button is pressed, and the arrow keys.
 ///
 /// The pictures are shown as large as fits, in their own proportions. User-interface thread only.
 class ComparisonView : public QWidget
@@ -17,7 +17,7 @@ public:
     /// Null pictures show nothing.
     void setPictures(const QImage& before, const QImage& after);
 
-    /// Where the line is, from 0 (left) to 1 (right); in the middle at first.
+    /// Position of the line from 0 (left) to 1 (right); initially in the middle.
     double divider() const { return m_divider; }
     void setDivider(double divider);
 

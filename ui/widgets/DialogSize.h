@@ -4,16 +4,15 @@
 
 class QWidget;
 
-/// How large a dialog opens. User-interface thread only.
+/// The initial size of dialogs. User-interface thread only.
 namespace DialogSize {
 
-/// Has the style take hold of all that is in the dialog, as it does when that is shown: size hints
-/// hold from then on.
+/// Applies the style to all widgets of the dialog, as happens when it is shown, so that size hints
+/// are valid from then on.
 void polish(const QWidget& dialog);
 
-/// Gives the dialog the size that it asks for, or this one in average letters and lines of its font
-/// where that is larger, but never more than its screen has room for. To be called once the form is
-/// built.
+/// Resizes the dialog to its size hint, or to this size in average letters and lines of its font if
+/// that is larger, limited to its screen. Call it once the form is built.
 void open(QWidget& dialog, const QSize& letters);
 
 } // namespace DialogSize

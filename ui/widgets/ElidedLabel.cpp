@@ -9,7 +9,7 @@
 ElidedLabel::ElidedLabel(QWidget* parent)
     : QLabel(parent)
 {
-    // Names of files may look like mark-up, which would be measured as such.
+    // File names may look like rich text, and would be measured as such.
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
@@ -49,7 +49,7 @@ QString ElidedLabel::elidedText() const
 
 QString ElidedLabel::wholeToolTip() const
 {
-    // Said to be mark-up in any case, since it is a guess otherwise.
+    // Explicitly rich text, because otherwise the format is guessed.
     const QString whole = Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal);
     if (toolTip().isEmpty()) {
         return whole;

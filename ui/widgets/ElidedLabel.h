@@ -3,10 +3,9 @@
 #include <QLabel>
 #include <QString>
 
-/// A label of one line of plain text that shows as much of it as there is room for, with dots in
-/// the place of the middle. Its tool tip shows the whole text; one that was set for it comes below,
-/// or alone where the label shows everything. It never makes its window wider. User-interface
-/// thread only.
+/// A label for one line of plain text, elided in the middle if there is not enough room. Its tool
+/// tip shows the whole text, followed by its own tool tip if one is set; only the latter if the
+/// label shows everything. It never makes its window wider. User-interface thread only.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT

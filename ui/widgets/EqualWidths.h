@@ -4,10 +4,10 @@
 
 class QWidget;
 
-/// Lines up columns of forms that stand one above the other. User-interface thread only.
+/// Aligns columns of stacked forms. User-interface thread only.
 namespace EqualWidths {
 
-/// Gives all the widgets the width that the widest of them asks for, as their least one.
+/// Sets the minimum width of all widgets to the largest width that any of them needs.
 void apply(const QList<QWidget*>& column);
 
 } // namespace EqualWidths

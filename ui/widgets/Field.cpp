@@ -20,7 +20,7 @@ namespace {
 
 void selectItem(QComboBox& box, const QVariant& value)
 {
-    // No value is not the empty text, which an item may stand for.
+    // An invalid value is different from the empty text, which an item may have.
     const int index = value.isValid() ? box.findData(value.toString(), Qt::UserRole,
                                                      Qt::MatchExactly | Qt::MatchCaseSensitive)
                                       : -1;
@@ -33,7 +33,8 @@ void showColor(ColorLabel& label, const QColor& color)
     label.update();
 }
 
-/// Also unchecks the only checked button among its kind, which Qt does only for another of them.
+/// Also unchecks the only checked button of a group, for which Qt requires another one to be
+/// checked.
 void check(QRadioButton& button, bool on)
 {
     QButtonGroup* const group = button.group();
@@ -50,7 +51,8 @@ void check(QRadioButton& button, bool on)
     setExclusive(isExclusive);
 }
 
-/// False for other widgets. Colour and font labels are labels as well, so they come first.
+/// Returns false for other widgets. Colour and font labels come first because they are labels as
+/// well.
 bool showInLabel(QWidget* widget, const QVariant& value)
 {
     if (auto* const color = qobject_cast<ColorLabel*>(widget)) {

@@ -2,6 +2,6 @@
 
 void FixTristateCheckbox::nextCheckState()
 {
-    // Not isChecked(), which is true for the partial state as well.
+    // Not isChecked(), which is also true for the partial state.
     setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
 }

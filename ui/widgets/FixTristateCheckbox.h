@@ -2,8 +2,8 @@
 
 #include <QCheckBox>
 
-/// A check box whose partial state ("several values") only the program sets: clicks go between
-/// checked and unchecked, and make a partially checked box checked.
+/// A check box whose partial state ("several values") is only set by the program: clicks toggle
+/// between checked and unchecked, and turn partially checked into checked.
 class FixTristateCheckbox : public QCheckBox
 {
     Q_OBJECT

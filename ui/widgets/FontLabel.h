@@ -3,8 +3,8 @@
 #include <QFont>
 #include <QLabel>
 
-/// Names the font chosen beside it, in that font, always at one legible size. User-interface thread
-/// only.
+/// Shows the name of the font chosen beside it in that font, always at one legible size.
+/// User-interface thread only.
 class FontLabel : public QLabel
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ class FontLabel : public QLabel
 public:
     explicit FontLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
 
-    /// The font as it was set, in its own size; the default font until one is set.
+    /// The font that was set, in its own size; initially the default font.
     QFont fontValue() const;
 
     /// Stores the font and names its family and size in points, as in "Courier, 24pt".

@@ -17,12 +17,12 @@ FormScrollArea::FormScrollArea(QWidget* parent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    // Its widgets get the keyboard, the area itself has no use for it.
+    // Its widgets take the focus; the area itself does not need it.
     setFocusPolicy(Qt::NoFocus);
-    // Screen readers come by them.
+    // Screen readers reach them.
     verticalScrollBar()->setAccessibleName(tr("Scroll the form"));
     horizontalScrollBar()->setAccessibleName(tr("Scroll the form"));
-    // The window's own ground shows through.
+    // The window's own background shows through.
     viewport()->setAutoFillBackground(false);
 }
 
@@ -50,7 +50,7 @@ QSize FormScrollArea::minimumSizeHint() const
 bool FormScrollArea::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
-        // Its own size hints follow those of the form.
+        // The area's size hints depend on those of the form.
         updateGeometry();
     }
     return QScrollArea::eventFilter(watched, event);

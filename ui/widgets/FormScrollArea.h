@@ -2,8 +2,8 @@
 
 #include <QScrollArea>
 
-/// A form that scrolls up and down where a screen is too low for it; it is never narrower than its
-/// widgets need. What gets the keyboard comes into view. User-interface thread only.
+/// A form that scrolls vertically if the screen is too low; it is never narrower than its widgets
+/// need. The focused widget is scrolled into view. User-interface thread only.
 class FormScrollArea : public QScrollArea
 {
     Q_OBJECT
@@ -11,9 +11,9 @@ class FormScrollArea : public QScrollArea
 public:
     explicit FormScrollArea(QWidget* parent = nullptr);
 
-    /// All of the form, with room for the scroll bar.
+    /// The size of the whole form including the scroll bar.
     QSize sizeHint() const override;
-    /// As wide as the form, and some lines high.
+    /// The width of the form and the height of some lines.
     QSize minimumSizeHint() const override;
 
 protected:

@@ -2,12 +2,12 @@
 
 class QWidget;
 
-/// The room that every group box of the program leaves around its contents.
+/// The content margins of all group boxes of the program.
 namespace GroupBoxMargins {
 
-/// Sets the contents margins of the layout of every group box inside the widget, however deep, to
-/// 10 pixels on each side. To be called once the form is built; group boxes without a layout are
-/// left alone. User-interface thread only.
+/// Sets the contents margins of the layout of every group box inside the widget, at any depth, to
+/// 10 pixels on each side. Call it once the form is built; group boxes without a layout stay
+/// unchanged. User-interface thread only.
 void apply(const QWidget& widget);
 
 } // namespace GroupBoxMargins

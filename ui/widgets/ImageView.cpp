@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Making a larger image smaller would keep events waiting.
+/// Scaling a larger image down would delay events.
 constexpr qint64 mostAtOnce = 1920 * 1088;
 
 qint64 area(const QSize& size)
@@ -89,7 +89,7 @@ void ImageView::paintPlaceholder(QPainter& painter) const
                      fontMetrics().elidedText(m_placeholderText, Qt::ElideRight, width()));
 }
 
-/// In the screen's pixels.
+/// In screen pixels.
 void ImageView::paintZoomed(QPainter& painter, const QRect& place)
 {
     const QImage& image = imageFor(place.size());
@@ -102,10 +102,10 @@ void ImageView::paintZoomed(QPainter& painter, const QRect& place)
     painter.drawImage(visible, image, source);
 }
 
-/// The image to draw into so many pixels of the screen.
+/// The image to draw into this many screen pixels.
 ///
-/// A painter that makes an image smaller looks at four of its pixels for each of its own, and fine
-/// detail turns into noise. So it gets an image in which every pixel has been averaged.
+/// A painter that scales an image down samples only four of its pixels for each of its own, which
+/// turns fine detail into noise. So it gets an image in which all pixels were averaged.
 const QImage& ImageView::imageFor(QSize pixels)
 {
     if (pixels.isEmpty() || pixels.width() >= m_image.width() ||
@@ -117,7 +117,8 @@ const QImage& ImageView::imageFor(QSize pixels)
     }
     if (area(m_image.size()) > mostAtOnce) {
         request(pixels);
-        // That of another size till then; at first the whole one, as well as the painter can.
+        // Until then the previous one; initially the whole image, as well as the painter can scale
+        // it.
         return m_smallImage.isNull() ? m_image : m_smallImage;
     }
     m_smallImage = averaged(m_image, pixels);
@@ -140,7 +141,7 @@ void ImageView::request(const QSize& pixels)
 
 void ImageView::take(int request, const QImage& image)
 {
-    // Another image, or another size, may be wanted by now.
+    // Another image or size may be requested by now.
     if (request == m_request) {
         m_smallImage = image;
         update();

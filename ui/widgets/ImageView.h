@@ -12,13 +12,12 @@ class QPainter;
 class ZoomGestures;
 
 /// Shows one image as large as fits, centred, in its own proportions; the mouse zooms it, see
-/// ZoomGestures. Above its full size its pixels are sharp, below that it is smooth.
+/// ZoomGestures. Its pixels are sharp above full size, and smoothed below.
 ///
-/// A large image is made smaller in the background. Until that is done, and is painted, it is shown
-/// less smoothly.
+/// A large image is scaled down in the background, and shown less smoothly until that is done.
 ///
-/// Around the picture, and where there is none, the parent's background shows. User-interface
-/// thread only.
+/// Around the picture, and without one, the parent's background is visible. User-interface thread
+/// only.
 class ImageView : public QWidget
 {
     Q_OBJECT
@@ -27,14 +26,14 @@ public:
     explicit ImageView(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
     ~ImageView() override;
 
-    /// Shows the image from the next repaint on; a null image shows nothing. One of the size of the
-    /// last one keeps its zoom, else it is fitted.
+    /// Shows the image from the next repaint on; a null image shows nothing. The zoom is kept if
+    /// the size is that of the previous image, otherwise reset.
     void setImage(const QImage& image);
 
-    /// What is shown, quietly and in the middle, while there is no image; nothing by default.
+    /// Icon and text shown in the middle while there is no image; none by default.
     void setPlaceholder(const QIcon& icon, const QString& text);
 
-    /// How the image lies, and the way to change that. Owned by the view.
+    /// The current zoom and the way to change it. Owned by the view.
     [[nodiscard]] ZoomGestures& zoom() { return *m_zoom; }
 
 protected:
@@ -51,9 +50,9 @@ private:
     QImage m_image;
     QIcon m_placeholderIcon;
     QString m_placeholderText;
-    /// m_image made smaller for the screen; null until it is painted at a smaller size.
+    /// m_image scaled down for the screen; null until it is painted at a smaller size.
     QImage m_smallImage;
-    QSize m_wantedSize; ///< that m_smallImage is being made in, or has
-    int m_request = 0;  ///< changes with each image and each size that is wanted
-    NewestTask m_task;  ///< last: its thread calls for the others
+    QSize m_wantedSize; ///< the size for which m_smallImage is, or is being, made
+    int m_request = 0;  ///< changes with each requested image and size
+    NewestTask m_task;  ///< last, since its thread calls the other members
 };

@@ -7,16 +7,17 @@
 #include <mutex>
 #include <thread>
 
-/// A thread that carries out only the task that was given last: a newer one cancels the one that
-/// runs, and replaces one that has not begun.
+/// A thread that carries out only the newest task: a new one cancels the running task, and replaces
+/// one that waits.
 ///
-/// It belongs to the thread that made it, whose calls never wait; only the destructor waits until
-/// the running task has seen that it is cancelled. The thread starts with the first task.
+/// Belongs to the thread that created it, whose calls never wait; only the destructor waits until
+/// the running task has noticed its cancellation. The thread starts with the first task.
 class NewestTask
 {
 public:
     using IsCancelled = std::function<bool()>;
-    /// Must not throw, and should ask often whether it is cancelled: then nobody wants its result.
+    /// Must not throw, and should poll often for cancellation, after which its result is not
+    /// wanted.
     using Task = std::function<void(const IsCancelled&)>;
 
     NewestTask() = default;
@@ -24,9 +25,9 @@ public:
     NewestTask(const NewestTask&) = delete;
     NewestTask& operator=(const NewestTask&) = delete;
 
-    /// Where the system gives no thread, the task is carried out at once, in the calling one.
+    /// If the system provides no thread, the task runs at once in the calling one.
     void start(Task task);
-    /// The running task is not wanted any more, nor one that waits.
+    /// Cancels the running task and drops a waiting one.
     void cancel();
 
 private:

@@ -2,8 +2,8 @@
 
 #include <QItemDelegate>
 
-/// Paints items without the focus frame around the current cell: in a table whose rows are selected
-/// as a whole it would single out a cell for no reason.
+/// Paints items without the focus frame around the current cell, which would single out a cell in a
+/// table whose rows are selected as a whole.
 class NoFocusItemDelegate : public QItemDelegate
 {
     Q_OBJECT

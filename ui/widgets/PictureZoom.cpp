@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The nearest middle at which no gap is left beside the picture, as a part of it.
+/// The nearest centre, relative to the picture, at which there is no gap beside the picture.
 double keptInside(double middle, double picture, double screen)
 {
     if (picture <= screen) {

@@ -6,13 +6,13 @@
 
 #include <optional>
 
-/// How a picture lies on a screen: fitted into it, or at a scale of its own and moved. A plain
-/// value. Sizes and points of the screen are in its pixels, so that at a scale of 1 a pixel of the
-/// picture is one of the screen.
+/// The position of a picture on a screen: fitted, or scaled and moved. A plain value. Sizes and
+/// points of the screen are in its pixels, so that a scale of 1 shows one pixel of the picture per
+/// pixel of the screen.
 class PictureZoom
 {
 public:
-    /// It is not enlarged beyond this, nor made smaller than fitted or full size.
+    /// Maximum scale. The minimum is the smaller of fitted and full size.
     static constexpr double largestScale = 16.0;
 
     void setPicture(const QSize& size) { m_picture = size; }
@@ -20,20 +20,20 @@ public:
     [[nodiscard]] QSize picture() const { return m_picture; }
 
     [[nodiscard]] bool isFitted() const { return !m_scale; }
-    /// Of the whole picture; 0 while the picture or the screen is empty.
+    /// The scale of the whole picture; 0 while the picture or the screen is empty.
     [[nodiscard]] double scale() const;
 
     void fit() { m_scale.reset(); }
-    /// Shows the picture at a scale; what lies under a point of the screen stays there where it
-    /// can. A smaller one than that of the fitted picture, and than 1, fits it.
+    /// Sets the scale while keeping the point `at` of the screen fixed if possible. A scale below
+    /// both that of the fitted picture and 1 fits it.
     void setScale(double scale, const QPointF& at);
-    /// Moves the picture by so much; not beyond its edges, and not while it is fitted.
+    /// Moves the picture, not beyond its edges, and not while it is fitted.
     void pan(const QPointF& distance);
 
-    /// Where the whole picture lies, which may be larger than the screen. Empty while there is
-    /// none.
+    /// The place of the whole picture, which may be larger than the screen. Empty without a
+    /// picture.
     [[nodiscard]] QRect place() const;
-    /// The picture is larger than the screen.
+    /// True if the picture is larger than the screen.
     [[nodiscard]] bool canPan() const;
     [[nodiscard]] QPointF centreOfScreen() const;
 
@@ -44,6 +44,7 @@ private:
 
     QSize m_picture;
     QSize m_screen;
-    std::optional<double> m_scale; ///< nothing while it is fitted
-    QPointF m_centre;              ///< what lies in the middle of the screen, 0 to 1 both ways
+    std::optional<double> m_scale; ///< nothing while fitted
+    QPointF m_centre;              ///< the point in the middle of the screen, 0 to 1 in both
+                                   ///< directions
 };

@@ -16,15 +16,15 @@ ProfileSelector::ProfileSelector(QWidget* parent)
 {
     m_ui->setupUi(this);
     setFocusProxy(m_ui->profileComboBox);
-    // The least size of the combo box is for small letters only.
+    // The combo box's minimum size assumes small letters.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     QLineEdit* const nameEdit = m_ui->profileComboBox->lineEdit();
     nameEdit->setPlaceholderText(tr("[Type to Name Profile]"));
-    // It is what has the keyboard, and to screen readers a field of its own.
+    // It has the focus, and to screen readers it is a field of its own.
     nameEdit->setAccessibleName(m_ui->profileComboBox->accessibleName());
-    // Left alone, the combo box would complete a new name to an old one that begins like it, and
-    // would load the profile of a typed name over the form before that could be saved under it.
+    // Otherwise the combo box would complete a new name to an existing one, and load the profile of
+    // a typed name into the form before that could be saved under the name.
     m_ui->profileComboBox->setCompleter(nullptr);
     disconnect(nameEdit, &QLineEdit::editingFinished, m_ui->profileComboBox, nullptr);
     setupMenu();
@@ -80,7 +80,7 @@ BaseProfile* ProfileSelector::currentListedProfile() const
     if (name.isEmpty()) {
         return nullptr;
     }
-    // Fixed strings match in any letter case.
+    // Fixed strings match case-insensitively.
     const int index = m_ui->profileComboBox->findText(name, Qt::MatchFixedString);
     return index >= 0 ? m_profiles.at(index) : nullptr;
 }
@@ -150,7 +150,7 @@ BaseProfile* ProfileSelector::addTypedProfile()
 {
     BaseProfile* const profile = m_profileManager->createProfile();
     profile->setName(m_ui->profileComboBox->currentText());
-    // Selecting it shows its values in the form, which must be the user's by then.
+    // Selecting the profile shows its values in the form, so it must have the user's by then.
     loadFormIntoProfile(profile);
     m_profileManager->addProfile(profile);
     addProfile(profile);
@@ -181,7 +181,7 @@ void ProfileSelector::on_profileComboBox_currentIndexChanged(int index)
     BaseProfile* const profile = m_profiles.at(index);
     const int position = m_profiles.indexOf(profile);
     if (position != index) {
-        // Listed twice: its first place stands for it, and selecting that comes by here again.
+        // It is listed twice: use its first place, whose selection calls this function again.
         m_ui->profileComboBox->setCurrentIndex(position);
         return;
     }

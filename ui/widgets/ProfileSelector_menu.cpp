@@ -1,4 +1,4 @@
-// What becomes of whole profiles: renamed, duplicated, deleted, saved over.
+// Actions for whole profiles: renaming, duplicating, deleting, and confirming an overwrite.
 
 #include "ui/widgets/ProfileSelector.h"
 
@@ -31,7 +31,7 @@ void ProfileSelector::setupMenu()
         const bool hasProfile = selectedProfile() != nullptr;
         rename->setEnabled(hasProfile);
         duplicate->setEnabled(hasProfile);
-        // There is always one to choose.
+        // One profile must always remain.
         remove->setEnabled(hasProfile && m_profiles.size() > 1);
     });
     m_ui->profileMenuButton->setMenu(menu);
@@ -86,7 +86,7 @@ void ProfileSelector::renameProfile()
     m_profileManager->saveProfiles();
 }
 
-/// What is entered in the form goes into the copy, so that nothing of it is lost.
+/// The copy gets the values entered in the form, so that none are lost.
 void ProfileSelector::duplicateProfile()
 {
     const BaseProfile* const profile = selectedProfile();
@@ -123,7 +123,7 @@ void ProfileSelector::deleteProfile()
     const int index = m_profiles.indexOf(profile);
     m_profiles.removeAt(index);
     {
-        // Until both lists agree again.
+        // Blocked until both lists match again.
         const QSignalBlocker noSelection(*m_ui->profileComboBox);
         m_ui->profileComboBox->removeItem(index);
         m_ui->profileComboBox->setCurrentIndex(-1);

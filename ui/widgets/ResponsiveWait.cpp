@@ -18,7 +18,7 @@ void ResponsiveWait::run(const std::function<void()>& work)
         work();
         return;
     }
-    // Ends at once in an application that quits: then its end waits.
+    // Returns at once while the application quits: the thread is then waited for below.
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     thread.join();
 }

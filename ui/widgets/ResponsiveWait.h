@@ -2,13 +2,13 @@
 
 #include <functional>
 
-/// Work that the user has to wait for, without a window that looks dead. User-interface thread
+/// Runs work that the user has to wait for without blocking the windows. User-interface thread
 /// only.
 namespace ResponsiveWait {
 
-/// Carries the work out in another thread, and returns when it is done. Meanwhile windows are
-/// painted and videos play; what the user types or clicks comes afterwards. The work must not
-/// throw. Where the system gives no thread, it is carried out in the calling one.
+/// Runs the work in another thread, and returns when it is done. Meanwhile windows are painted and
+/// videos play; user input is processed afterwards. The work must not throw. If the system provides
+/// no thread, it runs in the calling one.
 void run(const std::function<void()>& work);
 
 } // namespace ResponsiveWait

@@ -13,7 +13,7 @@ SectionBox::SectionBox(const QString& title, QWidget* parent)
     : QGroupBox(title, parent)
 {}
 
-/// The group box's own font would be that of all that is in it.
+/// The group box's own font would apply to its contents as well.
 QFont SectionBox::headingFont() const
 {
     QFont heading = font();

@@ -2,8 +2,8 @@
 
 #include <QGroupBox>
 
-/// A group of a form that is set apart by a heading and space instead of a frame. To screen readers
-/// and in all else it is a group box. User-interface thread only.
+/// A group of a form separated by a heading and space instead of a frame. Otherwise, also for
+/// screen readers, it is a group box. User-interface thread only.
 class SectionBox : public QGroupBox
 {
     Q_OBJECT

@@ -73,8 +73,8 @@ void SmartFileDialog::dialogFinished(int result)
     if (result == Accepted) {
         saveSettings();
     }
-    // A main window gets both calls twice: some window managers ignore the first request, which
-    // reaches them while the dialog is still closing.
+    // Both calls are made twice for a main window: some window managers ignore the first request,
+    // which arrives while the dialog is still closing.
     if (auto* window = qobject_cast<QMainWindow*>(parent())) {
         bringToFront(window);
     }

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The style sheet marks a field that has this property.
+/// The style sheet highlights a field with this property.
 constexpr char refusedProperty[] = "refused";
 
 } // namespace
@@ -87,7 +87,7 @@ void TimecodeField::type()
     setCurrentWidget(m_edit);
     m_edit->setFocus(Qt::OtherFocusReason);
     m_edit->selectAll();
-    // Or Shift+Tab would come back to here.
+    // Otherwise Shift+Tab would return here.
     setFocusPolicy(Qt::NoFocus);
 }
 
@@ -143,7 +143,7 @@ bool TimecodeField::eventFilter(QObject* watched, QEvent* event)
 void TimecodeField::focusInEvent(QFocusEvent* event)
 {
     QStackedWidget::focusInEvent(event);
-    // When its window gets the keyboard back, nobody wants to type.
+    // The user does not want to type when the window becomes active again.
     if (event->reason() != Qt::ActiveWindowFocusReason) {
         type();
     }

@@ -6,12 +6,12 @@
 class QLabel;
 class QLineEdit;
 
-/// Shows the position in a video as a label, and is a field to type another one into as soon as it
-/// is clicked on or gets the keyboard.
+/// Shows the position in a video as a label, which becomes a field for typing another one when it
+/// is clicked or gets the focus.
 ///
-/// What is typed is for the owner to judge, who takes it by finish() or marks it by refuse(): until
-/// then nothing changes. Escape, and leaving the field, give the shown time back. User-interface
-/// thread only.
+/// The owner evaluates the typed text and calls finish() to accept it or refuse() to mark it as
+/// wrong; until then nothing changes. Escape, and leaving the field, restore the shown time.
+/// User-interface thread only.
 class TimecodeField : public QStackedWidget
 {
     Q_OBJECT
@@ -22,29 +22,29 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /// The time as it is shown. While somebody types, it changes behind the field.
+    /// Sets the shown time. During typing, it changes in the background.
     void setTime(const QString& text);
     QString time() const;
 
-    /// The room that the widest time takes, in pixels: so the field keeps its width.
+    /// Width of the widest time in pixels, so that the field keeps its width.
     void setTextWidth(int width);
 
-    /// The field is open for typing.
+    /// True while the field is open for typing.
     bool isTyping() const;
-    /// What was typed last has been refused, and not been changed since.
+    /// True if the typed text was refused and not changed since.
     bool isRefused() const;
 
-    /// Opens the field and gives it the keyboard; what is shown is there, selected.
+    /// Opens the field with the shown text selected, and gives it the focus.
     void type();
     /// Shows the time again.
     void finish();
-    /// Marks what was typed as wrong. It stays there to be corrected.
+    /// Marks the typed text as wrong; it stays there to be corrected.
     void refuse();
 
 Q_SIGNALS:
-    /// The user entered a text. Nothing changes by itself.
+    /// The user entered a text. Nothing else changes.
     void entered(const QString& text);
-    /// The user gave up; the time is shown again, and nothing has the keyboard.
+    /// The user cancelled; the time is shown again, and the field loses the focus.
     void givenUp();
 
 protected:

@@ -27,10 +27,10 @@ VolumePopup::VolumePopup(QWidget* parent)
 {
     m_ui->setupUi(this);
     setFrameStyle(QFrame::WinPanel | QFrame::Raised);
-    // A popup without a focus takes the keys from its window and does nothing with them.
+    // A popup without a focused widget takes the keys from its window and ignores them.
     m_ui->volumeSlider->setFocus();
 
-    // Showing what is remembered is no change: nothing is to be written or reported.
+    // Restoring the stored values is not a change: nothing must be written or reported.
     const QSignalBlocker noChange(m_ui->volumeSlider);
     m_ui->volumeSlider->setRange(0, maximumVolume);
     m_ui->volumeSlider->setValue(m_settings.value(volumeKey(), defaultVolume).toInt());

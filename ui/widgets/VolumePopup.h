@@ -11,14 +11,14 @@ class VolumePopup;
 
 /// A volume slider and a mute check box that pop up beside a button and close on a click elsewhere.
 ///
-/// Both are remembered in the application's default QSettings ("volume", "muted") at every change,
-/// so that the next run starts as loud as this one was. User-interface thread only.
+/// Every change of either is stored in the application's default QSettings ("volume", "muted") and
+/// restored in the next run. User-interface thread only.
 class VolumePopup : public QFrame
 {
     Q_OBJECT
 
 public:
-    /// Starts with what was remembered: half volume, not muted, where nothing was. Hidden.
+    /// Starts with the stored values; half volume, not muted by default. Hidden.
     explicit VolumePopup(QWidget* parent);
     ~VolumePopup() override;
 
@@ -26,7 +26,7 @@ public:
     int volume();
 
     bool isMuted() const;
-    /// As if the user had set or taken away the check mark.
+    /// Acts as if the user had changed the check mark.
     void setMuted(bool muted);
 
 Q_SIGNALS:

@@ -9,37 +9,37 @@ class QMouseEvent;
 class QWheelEvent;
 class QWidget;
 
-/// Zooms a picture in a widget by mouse: the wheel zooms at the pointer, dragging moves what is
-/// larger than the widget, a double click changes between fitted and full size. Clicks that drag
-/// nothing stay the widget's. User-interface thread only.
+/// Zooms a picture in a widget by mouse: the wheel zooms at the pointer, dragging moves a picture
+/// larger than the widget, a double click switches between fitted and full size. Other clicks are
+/// left to the widget. User-interface thread only.
 class ZoomGestures : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The child of the widget, whose mouse events it sees first.
+    /// A child of the widget; it filters the widget's mouse events.
     explicit ZoomGestures(QWidget& area);
 
-    /// The size of the picture that is shown, in pixels. Another one keeps the zoom.
+    /// The size of the picture in pixels. A change keeps the zoom.
     void setPicture(const QSize& size);
 
     [[nodiscard]] const PictureZoom& zoom() const { return m_zoom; }
 
 public Q_SLOTS:
     void fit();
-    /// A pixel of the picture is one of the screen.
+    /// Shows one pixel of the picture per pixel of the screen.
     void showActualSize();
-    /// Shows the picture at a scale; its middle stays.
+    /// Sets the scale; the middle of the picture stays.
     void setScale(double scale);
-    /// Full size, or fitted where it is in full size.
+    /// Switches between full size and fitted.
     void toggleActualSize();
 
 Q_SIGNALS:
-    /// The picture lies elsewhere, or is of another size.
+    /// The picture was moved or scaled.
     void changed();
-    /// The first press of what may become a double click.
+    /// The first press of a potential double click.
     void pressed();
-    /// A double click has changed the zoom. What its first click did is not wanted.
+    /// A double click has changed the zoom; the effect of its first click is not wanted.
     void doubleClicked();
 
 protected:
@@ -60,5 +60,5 @@ private:
     QPoint m_draggedTo;
     bool m_isPressed = false;
     bool m_isDragging = false;
-    bool m_swallowsRelease = false; ///< the one that ends a double click
+    bool m_swallowsRelease = false; ///< ignores the release that ends a double click
 };

@@ -23,10 +23,10 @@ namespace QtAV {
 /// milliseconds, `qint64(pts * 1000.0)`, are exact: they never come out one too small through
 /// floating-point rounding.
 ///
-/// A read error is not the end: readFrame() then returns false while atEnd() is still false, and
-/// reading may go on behind the damage, unless canGoOn() is false. A file whose contents give
-/// nothing but errors, though its bytes can be read, ends after a bounded number of them, with
-/// errorString() set.
+/// A read error is not the end of the file: readFrame() then returns false while atEnd() is still
+/// false, and reading may continue behind the damage unless canGoOn() is false. If the bytes of a
+/// file can be read but yield nothing except errors, reading ends after a bounded number of them,
+/// with errorString() set.
 ///
 /// Not thread-safe, but tied to no thread: one thread at a time may use it.
 class AVDemuxer : public QObject
@@ -46,20 +46,20 @@ public:
     explicit AVDemuxer(QObject* parent = nullptr);
     ~AVDemuxer() override;
 
-    /// Names the file for the next load(); what is loaded is unloaded when the name differs.
+    /// Names the file for the next load(). Unloads the current file if the name differs.
     void setMedia(const QString& fileName);
 
-    /// Asked while the file is opened, read and sought in, and while the disk does not answer. Once
-    /// it says true, load(), seek() and readFrame() return false as soon as they can. Empty, as at
-    /// first, for none.
+    /// Sets a callback that is polled while the file is opened, read and sought in, and while the
+    /// disk does not answer. Once it returns true, load(), seek() and readFrame() return false as
+    /// soon as they can. Empty, the initial value, disables it.
     void setInterrupt(IsCancelled isCancelled);
 
-    /// What one picture may take in memory, in bytes, where opening has to decode some to find out
-    /// what the streams are like; from the next load() on.
+    /// Sets the memory limit for one picture, in bytes. It applies from the next load() on, where
+    /// opening has to decode pictures to find the parameters of the streams.
     void setPictureMemory(qint64 bytes);
 
-    /// Opens the file and selects its first video stream and no audio stream. False, with
-    /// errorString() set, for what cannot be opened; a file without video opens.
+    /// Opens the file and selects its first video stream and no audio stream. Returns false, with
+    /// errorString() set, if the file cannot be opened. A file without video can be opened.
     [[nodiscard]] bool load();
 
     /// Closes the file; the file name stays.
@@ -75,17 +75,17 @@ public:
     /// loaded.
     bool atEnd() const;
 
-    /// Length in milliseconds; 0 when nothing is loaded or nothing could be measured. It grows when
-    /// packets turn up behind it.
+    /// Length in milliseconds; 0 when nothing is loaded or no length could be measured. It grows
+    /// when packets turn up behind it.
     qint64 duration() const;
     DurationSource durationSource() const;
 
-    /// Where the timeline starts, in milliseconds: always 0, since the container's own start is
-    /// taken off all times.
+    /// Start of the timeline in milliseconds: always 0, because the container's own start is
+    /// subtracted from all times.
     qint64 startTime() const;
 
-    /// The container's numbers of its video streams; cover pictures are none. Empty when nothing
-    /// is loaded.
+    /// The container's stream numbers of its video streams, without cover pictures. Empty when
+    /// nothing is loaded.
     QList<int> videoStreams() const;
     QList<int> audioStreams() const;
 
@@ -94,41 +94,42 @@ public:
     /// The container's number of the selected audio stream; -1 without one.
     int audioStream() const;
 
-    /// Selects by place in videoStreams() or audioStreams(); -1 selects none. Only packets of
-    /// selected streams are read. False for a place that does not exist, and where the stream could
-    /// not be read through, see errorString().
+    /// Selects a stream by its index in videoStreams() or audioStreams(); -1 selects none. Only
+    /// packets of selected streams are read. Returns false if the index does not exist, or if the
+    /// stream could not be read through; see errorString().
     [[nodiscard]] bool setStreamIndex(StreamType type, int index);
 
     /// The stream that the last packet belongs to; -1 before the first.
     int stream() const;
 
-    /// Facts of the selected video stream, owned by the demuxer until it is unloaded or another
-    /// stream is selected; null without one.
+    /// Parameters of the selected video stream; null without one. Owned by the demuxer and valid
+    /// until the file is unloaded or another stream is selected.
     const VideoCodecContext* videoCodecContext() const;
 
-    /// What the file says of itself, as far as it was read so far; nothing when none is loaded.
+    /// What the file states about itself, as far as it has been read. Empty when nothing is loaded.
     MediaFacts facts() const;
 
-    /// Where the key frames of the video stream lie, in milliseconds in rising order, as far as the
-    /// file's index tells without reading the file: good for planning, since the index may leave
-    /// some out, call others so that are none, and be some frames off. Empty where there is no
-    /// index of the whole file. Afterwards only seek() goes on.
+    /// Times of the video stream's key frames in milliseconds, in rising order, as listed in the
+    /// file's index; the file itself is not read. Use this for planning only: an index may omit key
+    /// frames, list packets that are none, and be some frames off. Empty if no index covers the
+    /// whole file. Reading can only continue after a seek().
     QVector<qint64> indexedKeyFrames();
 
-    /// How long a frame is usually shown, in milliseconds; 0 where the file does not say.
+    /// Usual duration of a frame in milliseconds; 0 if the file does not state it.
     double frameDurationMs() const;
 
-    /// Goes to a position in milliseconds, so that the next packet of the video stream is the
-    /// last key frame whose whole milliseconds lie at or before it: the stream's first key frame
-    /// when none does, its last one for positions at and past the end. False when the file
-    /// allows no seeking at all or holds no packet, cannot be read any more or was overwritten.
+    /// Seeks so that the next packet of the video stream is the last key frame whose whole
+    /// milliseconds lie at or before the position `ms`. That is the stream's first key frame for
+    /// positions before all of them, and its last one for positions at or past the end. Returns
+    /// false if the file does not support seeking, holds no packet, can no longer be read or was
+    /// overwritten.
     [[nodiscard]] bool seek(qint64 ms);
 
-    /// Reads the next packet of the selected streams. False at the end and when reading failed;
-    /// atEnd() tells them apart.
+    /// Reads the next packet of the selected streams. Returns false at the end and when reading
+    /// failed; atEnd() tells these apart.
     [[nodiscard]] bool readFrame();
 
-    /// False after reading failed for good, or was interrupted: only seek() helps, and load().
+    /// False after reading failed for good or was interrupted. Only seek() and load() help then.
     bool canGoOn() const;
 
     /// The packet that readFrame() read last.

@@ -4,7 +4,7 @@
 
 namespace QtAV {
 
-/// How loud a player plays. Owned by its player; holds for every file that it plays.
+/// Volume and mute of a player. Owned by its player; applies to every file that it plays.
 /// User-interface thread only.
 class AudioOutput : public QObject
 {
@@ -13,14 +13,14 @@ class AudioOutput : public QObject
 public:
     explicit AudioOutput(QObject* parent = nullptr);
 
-    /// From 0, silent, to 1, as recorded, which it is at first.
+    /// From 0, silent, to 1, as recorded, which is the initial value.
     qreal volume() const { return m_volume; }
     bool isMute() const { return m_isMute; }
 
 public Q_SLOTS:
-    /// Values outside of 0 to 1 are clamped.
+    /// Values outside 0 to 1 are clamped.
     void setVolume(qreal volume);
-    /// Silences without touching the volume.
+    /// Silences the sound without changing the volume.
     void setMute(bool mute);
 
 Q_SIGNALS:

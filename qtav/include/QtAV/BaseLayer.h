@@ -4,16 +4,16 @@
 
 namespace QtAV {
 
-/// Which part of high dynamic range the pictures show, where the video has more of it: instructions
-/// for each picture that only its inventor's decoders carry out.
+/// Which part of a high dynamic range video the pictures show. Some videos carry additional
+/// instructions for each picture that only proprietary decoders apply.
 enum class BaseLayer {
     Whole, ///< there is nothing more
     OfHdr10Plus,
     OfDolbyVision,
-    OfDolbyVisionAlone, ///< which nobody else can show: the colours are not right
+    OfDolbyVisionAlone, ///< only proprietary decoders can show it correctly: the colours are wrong
 };
 
-/// A sentence for people; empty where the whole is shown. Callable from any thread.
+/// A sentence for people; empty if the whole range is shown. Callable from any thread.
 [[nodiscard]] QString textOf(BaseLayer layer);
 
 } // namespace QtAV

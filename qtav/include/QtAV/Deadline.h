@@ -5,11 +5,11 @@
 
 namespace QtAV {
 
-/// The end of the time that something may take. Without start() it never comes. Thread-safe.
+/// A time limit. It never expires unless start() is called. Thread-safe.
 class Deadline
 {
 public:
-    /// Lets so much time pass from now on; 0 or less for any.
+    /// Expires after this time, counted from now; 0 or less means no limit.
     void start(std::chrono::milliseconds limit)
     {
         m_end = limit.count() > 0 ? (Clock::now() + limit).time_since_epoch().count() : never;

@@ -5,19 +5,19 @@
 
 namespace QtAV {
 
-/// What becomes of pictures whose lines belong to two moments in turn.
+/// How to treat pictures whose lines alternate between two moments.
 enum class Deinterlacing {
     /// A picture that is marked as interlaced and combs is made whole from its neighbours. All
-    /// others stay as they are, be they marked or not.
+    /// others stay as they are, whether they are marked or not.
     Automatic,
-    /// Each picture is taken for an interlaced one, whatever it says and shows. For videos whose
+    /// Every picture is treated as interlaced, regardless of its mark and content. For videos whose
     /// marks are wrong; sharp pictures lose detail.
     On,
     /// Pictures stay as they are decoded.
     Off,
 };
 
-/// The one of that name, as settings and options have it: "auto", "on" or "off". Automatic for any
+/// The value for a name used in settings and options: "auto", "on" or "off". Automatic for any
 /// other name.
 [[nodiscard]] Deinterlacing deinterlacingNamed(const QString& name);
 

@@ -8,24 +8,24 @@
 
 namespace QtAV {
 
-/// Says that what is being done is not wanted any more. Asked often and from the thread that works,
-/// so it must be quick and safe to call there.
+/// Returns true when the current work is no longer wanted. It is called often and from the working
+/// thread, so it must be quick and thread-safe.
 using IsCancelled = std::function<bool()>;
 
-/// The four answers to the question for a frame. The end of a video is never a failure, nor a
-/// failure the end.
+/// The outcome of a request for a frame. The end of a video is never reported as a failure, nor a
+/// failure as the end.
 enum class FrameAnswer {
     Frame,
-    End,       ///< no frame comes in that direction
-    Failed,    ///< there may be one, but it cannot be read or decoded
-    Cancelled, ///< nothing is known: the question was withdrawn
+    End,       ///< there is no frame in that direction
+    Failed,    ///< there may be a frame, but it cannot be read or decoded
+    Cancelled, ///< nothing is known: the request was cancelled
 };
 
 struct FrameResult
 {
     FrameAnswer answer = FrameAnswer::End;
-    VideoFrame frame = {}; ///< valid for Frame alone
-    QString error = {};    ///< a text for people; set for Failed alone
+    VideoFrame frame = {}; ///< valid only for Frame
+    QString error = {};    ///< a text for people; set only for Failed
 };
 
 } // namespace QtAV

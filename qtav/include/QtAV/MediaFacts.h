@@ -12,36 +12,36 @@ namespace QtAV {
 struct Chapter
 {
     qint64 startMs = 0; ///< on the timeline that starts at 0 where the file starts
-    QString title;      ///< empty where the file gives none
+    QString title;      ///< empty if the file gives none
 };
 
-/// What a video file says of itself, for those who keep it with its pictures. A plain value.
+/// What a video file states about itself, for storing it with extracted pictures. A plain value.
 ///
-/// Nothing here has been checked: files say what they like, also in the wrong encoding.
+/// Nothing here has been checked: a file may contain any text, in any encoding.
 struct MediaFacts
 {
-    /// Texts by FFmpeg's keys in small letters, such as "creation_time": those of the file, and of
-    /// its video stream where the file has none of that key. Long ones are cut, and of very many
-    /// only the first are there.
+    /// Texts by FFmpeg's keys in lower case, such as "creation_time": the tags of the file,
+    /// supplemented by those of its video stream. Long texts are truncated, and only the first of
+    /// very many are kept.
     QMap<QString, QString> tags;
 
-    /// How long one tick of the video stream's times is, as a fraction of a second; 0/1 without a
+    /// Duration of one tick of the video stream's times, as a fraction of a second; 0/1 without a
     /// video stream.
     int tickNumerator = 0;
     int tickDenominator = 1;
 
-    /// How many frames a second the video stream is said to show, as a fraction; 0/1 where the file
-    /// does not say. Single frames may be shown for another time.
+    /// Stated frame rate of the video stream in frames per second, as a fraction; 0/1 if the file
+    /// does not state it. The duration of single frames may differ.
     int rateNumerator = 0;
     int rateDenominator = 1;
 
     /// The short name of the video stream's codec, such as "h264"; empty without one.
     QString codec;
 
-    /// In the order of their starts; of very many only the first are there.
+    /// In the order of their starts; only the first of very many are kept.
     QVector<Chapter> chapters;
 
-    /// Of the first picture, where the file has been decoded so far; what the container says else.
+    /// Taken from the first picture if one has been decoded, otherwise from the container.
     BaseLayer baseLayer = BaseLayer::Whole;
 };
 

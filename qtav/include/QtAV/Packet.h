@@ -8,9 +8,9 @@ namespace QtAV {
 
 class PacketHandle;
 
-/// One piece of compressed data as the demuxer read it: for video, what one picture is made of.
+/// One piece of compressed data as the demuxer read it; for video, the data of one picture.
 ///
-/// A value: cheap to copy, free to hand to another thread. The times are in seconds on the
+/// A value: cheap to copy, and may be passed to another thread. The times are in seconds on the
 /// library's timeline, which starts at 0 where the file starts.
 class Packet
 {
@@ -22,18 +22,18 @@ public:
     Packet& operator=(const Packet&);
     Packet& operator=(Packet&&) noexcept;
 
-    /// True for a packet that a decoder can be given: not corrupt, with data, and with neither a
-    /// negative time nor a negative duration. A packet that was never read is not valid; the
-    /// drain packets at the end of a file are.
+    /// True for a packet that can be passed to a decoder: not corrupt, with data, and with no
+    /// negative time or duration. Drain packets at the end of a file are valid; a
+    /// default-constructed packet is not.
     bool isValid() const;
 
-    /// True for the packets at the end of a file that carry no data of their own and make the
-    /// decoder hand out one held picture each.
+    /// True for the packets at the end of a file that carry no data and each make the decoder
+    /// release one picture that it holds.
     bool isDrain() const { return m_drain; }
 
-    /// The presentation time in seconds, 0 or more; -1 in a packet that was never read.
+    /// Presentation time in seconds, 0 or more; -1 in a default-constructed packet.
     double pts = -1.0;
-    /// How long the picture is shown, in seconds; 0 where the file does not say.
+    /// How long the picture is shown, in seconds; 0 if the file does not state it.
     double duration = 0.0;
     /// Decoding can start here.
     bool hasKeyFrame = false;

@@ -2,8 +2,8 @@
 
 namespace QtAV {
 
-/// How much the video library writes to the message log, from nothing to everything.
-/// Each level includes the ones before it.
+/// How much the video library writes to the message log, from nothing to everything. Each level
+/// includes the ones before it.
 enum LogLevel {
     LogOff,
     LogFatal,
@@ -13,17 +13,16 @@ enum LogLevel {
     LogAll,
 };
 
-/// Sets the level for the whole process, the decoding library underneath included.
-/// Its lines go to Qt's message log. The level at start is LogWarning.
-/// May be called from any thread.
+/// Sets the level for the whole process, including FFmpeg. Messages go to Qt's message log. The
+/// initial level is LogWarning. May be called from any thread.
 void setLogLevel(LogLevel level);
 
 /// The level that setLogLevel() set last.
 LogLevel logLevel();
 
-/// Gives what has been freed in smaller blocks back to the system, once, after much was freed.
-/// Takes some milliseconds; does nothing where the C library cannot be told. May be called from any
-/// thread.
+/// Returns freed small blocks of memory to the system. Call it once after much memory was freed; it
+/// takes some milliseconds. Does nothing if the C library does not support it. May be called from
+/// any thread.
 void trimFreedMemory();
 
 } // namespace QtAV

@@ -2,19 +2,19 @@
 
 namespace QtAV {
 
-/// Figures of what a player shows.
+/// Statistics of a player's display.
 struct Statistics
 {
     struct VideoOnly
     {
-        /// Size of the picture on screen as it is meant to be seen, upright and with square
-        /// pixels; 0 when there is none.
+        /// Display size of the picture on screen, upright and with square pixels; 0 if there is
+        /// none.
         int width = 0;
         int height = 0;
     };
 
     VideoOnly video_only;
-    /// Since the file was opened: frames that came too late to be shown in playback.
+    /// Number of frames, since the file was opened, that were decoded too late to be shown.
     int droppedFrames = 0;
 };
 

@@ -4,18 +4,18 @@
 
 namespace QtAV {
 
-/// What the values of a picture's own R'G'B' stand for, as far as it is not taken for sRGB. A plain
-/// value, for any thread.
+/// What the R'G'B' values of a picture stand for where they are not sRGB. A plain value, usable in
+/// any thread.
 struct StoredColours
 {
     enum class Transfer {
-        Standard, ///< as sRGB's
+        Standard, ///< that of sRGB
         Pq,       ///< of SMPTE ST 2084: absolute light
         Hlg,      ///< hybrid log-gamma
     };
     enum class Primaries {
-        Standard, ///< as sRGB's, or so near that all players take them for these
-        P3,       ///< of displays and cameras, white as sRGB's
+        Standard, ///< those of sRGB, or so close that all players treat them as such
+        P3,       ///< of displays and cameras, with the white of sRGB
         Bt2020,
     };
 
@@ -28,17 +28,17 @@ struct StoredColours
         return transfer == other.transfer && primaries == other.primaries;
     }
 
-    /// The light of its brightest value in cd/m²: 10,000 for PQ, 1,000 for HLG, which is relative
-    /// and meant for such a display here, and that of sRGB's white else.
+    /// The light of the highest value in cd/m²: 10,000 for PQ; 1,000 for HLG, which is relative and
+    /// assumed to be shown on such a display; otherwise that of sRGB's white.
     [[nodiscard]] double brightestNits() const;
 
-    /// The light of a grey, as a part of the brightest, for a value; all from 0 to 1.
+    /// The light of a grey value relative to the brightest light; both from 0 to 1.
     [[nodiscard]] double lightOf(double value) const;
 
-    /// The values, 0 to 1, that show a colour of sRGB as bright as a picture with standard range:
-    /// its white at 203 cd/m².
+    /// The values from 0 to 1 that show an sRGB colour as bright as in a picture of standard range,
+    /// whose white is 203 cd/m².
     ///
-    /// @param rgb  sRGB's own values, 0 to 1
+    /// @param rgb  sRGB values, 0 to 1
     [[nodiscard]] std::array<double, 3> valuesOf(const std::array<double, 3>& rgb) const;
 };
 

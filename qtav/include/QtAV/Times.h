@@ -4,7 +4,8 @@
 
 namespace QtAV {
 
-/// A frame's or packet's seconds as whole milliseconds, cut off; exact, see AVDemuxer.
+/// Converts the time of a frame or packet from seconds to whole milliseconds, truncated; exact, see
+/// AVDemuxer.
 inline qint64 toMilliseconds(double seconds)
 {
     return static_cast<qint64>(seconds * 1000.0);

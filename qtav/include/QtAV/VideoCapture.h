@@ -18,27 +18,26 @@ class VideoCapture : public QObject
 public:
     explicit VideoCapture(QObject* parent = nullptr);
 
-    /// For the player: what capture() calls. It must return at once, and lead to one deliver() each
-    /// time, later.
+    /// Called by the player: sets the function that capture() calls. It must return at once and
+    /// later lead to exactly one deliver() per call.
     void setTaker(std::function<void()> take);
 
-    /// For the player: answers a capture(); a null image when there is none.
+    /// Called by the player: answers a capture(); a null image means failure.
     void deliver(const QImage& image, const VideoFrame& frame);
 
-    /// The frame that was captured last, of which there may be more than the image shows: for the
-    /// slots of imageCaptured(), and gone after them.
+    /// The frame of the last capture, which may hold more than the image shows. Valid only in slots
+    /// connected to imageCaptured().
     const VideoFrame& capturedFrame() const { return m_frame; }
 
 public Q_SLOTS:
-    /// Takes the frame that is on screen now. Each call is answered by one signal, later, from the
-    /// event loop: at once, or, where the frame has to be decoded again for it, as soon as a seek
-    /// is.
+    /// Captures the frame that is on screen now. Each call is answered later by one signal from the
+    /// event loop: at once, or, if the frame has to be decoded again, as soon as a seek would be.
     void capture();
 
 Q_SIGNALS:
-    /// The picture as it is meant to be seen, in its full size and in VideoFrame::imageFormat().
+    /// The captured picture in display orientation, full size and VideoFrame::imageFormat().
     void imageCaptured(const QImage& image);
-    /// There is no picture on screen, no memory for it, or it cannot be read any more.
+    /// There is no picture on screen, no memory for it, or it can no longer be read.
     void failed();
 
 private:

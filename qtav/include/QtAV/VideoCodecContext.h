@@ -8,10 +8,10 @@ namespace QtAV {
 
 class StreamParameters;
 
-/// What a container says of one video stream, enough to make a decoder for it.
+/// What a container states about one video stream, enough to create a decoder for it.
 ///
-/// Made by the demuxer, read by VideoDecoder::setCodecContext(). Immutable, so that it may be
-/// read from any thread.
+/// Created by the demuxer, read by VideoDecoder::setCodecContext(). Immutable, so it may be read
+/// from any thread.
 class VideoCodecContext
 {
 public:
@@ -20,8 +20,7 @@ public:
     VideoCodecContext(const VideoCodecContext&) = delete;
     VideoCodecContext& operator=(const VideoCodecContext&) = delete;
 
-    /// The stored picture's size in pixels, before turning it upright and making its pixels
-    /// square.
+    /// Size of the stored picture in pixels, before rotation and before its pixels are made square.
     const int width;
     const int height;
 

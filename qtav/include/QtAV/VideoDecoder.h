@@ -19,10 +19,10 @@ namespace QtAV {
 class VideoDecoder
 {
 public:
-    /// Which pictures the decoder skips, as the options have it: FFmpeg's AVDiscard values.
+    /// Which pictures the decoder skips, with FFmpeg's AVDiscard values as used in options.
     enum Discard { DiscardDefault = 0, DiscardNonReference = 8 };
 
-    /// The decoder of that name, owned by the caller. There is one, "FFmpeg"; any other name
+    /// Creates the decoder of that name, owned by the caller. The only name is "FFmpeg"; any other
     /// gives null.
     static VideoDecoder* create(const char* name);
 
@@ -30,43 +30,45 @@ public:
     VideoDecoder(const VideoDecoder&) = delete;
     VideoDecoder& operator=(const VideoDecoder&) = delete;
 
-    /// Says which stream open() is for. The decoder keeps what it needs: the context may go.
+    /// Sets the stream for open(). The decoder copies what it needs, so the context need not
+    /// outlive it.
     void setCodecContext(const VideoCodecContext* context);
 
-    /// What one picture may take in memory, in bytes (see usualPictureBytes), from the next open()
-    /// on. Larger pictures are refused, where the stream declares them by open() itself.
+    /// Memory limit for one picture in bytes (see usualPictureBytes), from the next open() on.
+    /// Larger pictures are refused, by open() itself if the stream declares them.
     void setPictureMemory(qint64 bytes);
 
-    /// No picture is begun after it: decode() fails then. Null for none; from the next open() on.
+    /// No picture is begun after the deadline: decode() then fails. Null for none. From the next
+    /// open() on.
     void setDeadline(std::shared_ptr<const Deadline> deadline);
 
-    /// False where no decoder exists for the codec or the stream's parameters are refused.
+    /// Returns false if there is no decoder for the codec or the stream's parameters are refused.
     [[nodiscard]] bool open();
     void close();
     bool isOpen() const;
 
-    /// Options by section and key. Understood, from the next packet on: section "avcodec" with
-    /// the integers "skip_frame" and "skip_loop_filter" (each a Discard), and, before
-    /// open(), "threads" (0 = as many as there are cores); section "start" with the bool
-    /// "key_frame_at_once", true unless said. All others are ignored.
+    /// Options by section and key, effective from the next packet on. Section "avcodec" has the
+    /// integers "skip_frame" and "skip_loop_filter" (each a Discard) and, only before open(),
+    /// "threads" (0 = one per core). Section "start" has the bool "key_frame_at_once", true by
+    /// default. All others are ignored.
     void setOptions(const QVariantHash& options);
     QVariantHash options() const;
 
     /// Forgets all packets and frames; the next packet should be a key frame.
     void flush();
 
-    /// Decodes one packet. True also when no frame came out yet, which frame() then shows by
-    /// being invalid. The first key packet after open() or flush() gives its frame at once; where
-    /// only later frames matter, the option "key_frame_at_once" saves what that costs. False for a
-    /// packet that is damaged; the decoder stays usable.
+    /// Decodes one packet. Returns true also if no frame is available yet; frame() is then invalid.
+    /// The first key packet after open() or flush() gives its frame at once; if only later frames
+    /// matter, disable "key_frame_at_once" to save that cost. Returns false for a damaged packet;
+    /// the decoder stays usable.
     [[nodiscard]] bool decode(const Packet& packet);
 
-    /// Why a picture was refused since the last open() or flush(), or by open() itself, for people;
-    /// empty where none was.
+    /// Why a picture was refused since the last open() or flush(), or by open() itself, as a text
+    /// for people; empty if none was.
     [[nodiscard]] QString errorString() const;
 
-    /// The frame of the last decode(), taken away by this call: at most one a packet, in the
-    /// order of presentation, each once.
+    /// Takes the frame of the last decode(): at most one per packet, in presentation order, each
+    /// only once.
     [[nodiscard]] VideoFrame frame();
 
 private:

@@ -14,11 +14,11 @@ namespace QtAV {
 
 class VideoFramePrivate;
 
-/// One decoded picture and its time: an implicitly shared, immutable value that may travel between
-/// threads and outlive the decoder.
+/// One decoded picture and its time: an implicitly shared, immutable value that may be passed
+/// between threads and outlive the decoder.
 ///
-/// Where the picture combs, images are made of what the frames around it make it, see
-/// Deinterlacing: toImage() and scaledDown() do so, each time anew.
+/// If the picture combs, toImage() and scaledDown() make their result from a deinterlaced picture,
+/// see Deinterlacing. Each call deinterlaces again.
 class VideoFrame
 {
 public:
@@ -32,81 +32,81 @@ public:
     /// For the library itself.
     explicit VideoFrame(VideoFramePrivate* data);
 
-    /// False for a default-made frame, which stands for "no frame".
+    /// False for a default-constructed frame, which stands for "no frame".
     bool isValid() const;
 
-    /// Presentation time in seconds on the demuxer's timeline; 0 when not valid.
+    /// Presentation time in seconds on the demuxer's timeline; 0 if invalid.
     double timestamp() const;
 
-    /// The stored picture's size in pixels, before turning it upright and making its pixels
-    /// square; 0 when not valid. Of a frame that is scaled down, that of the smaller picture.
+    /// Size of the stored picture in pixels, before rotation and before its pixels are made square;
+    /// 0 if invalid. For a scaled-down frame, the size of the smaller picture.
     int width() const;
     int height() const;
 
-    /// The size at which the picture is meant to be seen: upright and with square pixels. To get
-    /// there the shorter of width and height is stretched, so that no stored pixel is lost. The
-    /// same for a frame that is scaled down.
+    /// The display size: upright and with square pixels. The shorter side is stretched to get
+    /// there, so that no stored pixel is lost. The same for a scaled-down frame.
     QSize displaySize() const;
 
-    /// The frame with a smaller picture, to be kept where it is only shown: luma and chroma as they
-    /// are stored, scaled to square pixels so that toImage() at that size shows about the same at a
-    /// part of the time and memory. Every pixel counts by the area that it covers.
+    /// The frame with a smaller picture, for keeping frames that are only shown. Luma and chroma
+    /// stay as they are stored but are scaled to square pixels, so that toImage() at that size
+    /// gives nearly the same result with a fraction of the time and memory. Every pixel contributes
+    /// by the area that it covers.
     ///
-    /// @param size  upright, as displaySize() is.
-    /// @return the frame itself where the size is not smaller in both directions, the picture is
-    ///         not one of luma and chroma alone, or memory runs out. May be called from any thread.
+    /// @param size  upright, like displaySize().
+    /// @return the frame itself if the size is not smaller in both directions, the picture has more
+    ///     than luma and chroma, or memory runs out. May be called from any thread.
     VideoFrame scaledDown(const QSize& size) const;
 
-    /// True for what scaledDown() made: not what was decoded.
+    /// True for a frame that scaledDown() made.
     bool isScaledDown() const;
 
-    /// The later one of the two moments that an interlaced picture shows, as a frame of its own;
-    /// its time is in the middle between this one and the next. The frame itself stands for the
-    /// earlier moment. Invalid where the picture is not one of two moments, and for a frame that is
-    /// scaled down. Has to look at the picture for that, which takes some milliseconds.
+    /// The later of the two moments that an interlaced picture shows, as a frame of its own, with a
+    /// time halfway to the next frame. The frame itself stands for the earlier moment. Invalid if
+    /// the picture does not show two moments, and for a scaled-down frame. The check reads the
+    /// picture, which takes some milliseconds.
     [[nodiscard]] VideoFrame secondField() const;
-    /// The frame that secondField() was made of; else the frame itself.
+    /// The frame that secondField() was called on; otherwise the frame itself.
     [[nodiscard]] VideoFrame firstField() const;
     bool isSecondField() const;
 
-    /// The memory that the stored picture takes, in bytes; 0 when not valid.
+    /// Memory of the stored picture in bytes; 0 if invalid.
     qint64 byteCount() const;
 
-    /// The pixel format's name, such as "yuv420p"; empty when not valid.
+    /// Name of the pixel format, such as "yuv420p"; empty if invalid.
     QString format() const;
 
-    /// The format of an image that keeps the whole picture: Format_ARGB32 where the pixel format
-    /// has alpha, else Format_RGB888. An opaque picture should be passed on in that, since whatever
-    /// works on alpha like on colours would make it see-through. Format_Invalid when not valid.
+    /// The format of an image that keeps the whole picture: Format_ARGB32 if the pixel format has
+    /// alpha, otherwise Format_RGB888. Pass on opaque pictures in that format, because a step that
+    /// treats alpha like a colour would make them see-through. Format_Invalid if invalid.
     QImage::Format imageFormat() const;
 
-    /// The same, with 16 bits a channel where the picture has more than 8: Format_RGBA64 where the
-    /// pixel format has alpha, else Format_RGBX64.
+    /// Like imageFormat(), with 16 bits per channel if the picture has more than 8: Format_RGBA64
+    /// if the pixel format has alpha, otherwise Format_RGBX64.
     QImage::Format deepImageFormat() const;
 
-    /// The picture as it is meant to be seen: upright, with square pixels, in full-range sRGB
-    /// values, converted by the frame's own matrix and range, with its alpha where it has one.
+    /// The picture as it should be seen: upright, with square pixels, in full-range sRGB values
+    /// converted by the frame's own matrix and range, with its alpha if it has one.
     ///
     /// @param format  the image's format; Format_Invalid gives Format_ARGB32.
     /// @param size    the size to scale the result to; an empty size keeps that of the region. A
-    ///                frame that is scaled down is enlarged to get there.
-    /// @param region  the part to take, in pixels of the whole picture at displaySize(), clipped
-    ///                to it; a null rectangle takes all.
-    /// @return a null image for an invalid frame, for a region outside the picture and when
-    ///         memory runs out. May be called from any thread.
+    ///     scaled-down frame is enlarged if necessary.
+    /// @param region  the part to take, in pixels of the whole picture at displaySize(), clipped to
+    ///     it; a null rectangle takes all.
+    /// @return a null image for an invalid frame, for a region outside the picture and when memory
+    ///     runs out. May be called from any thread.
     [[nodiscard]] QImage toImage(QImage::Format format = QImage::Format_ARGB32,
                                  const QSize& size = QSize(),
                                  const QRectF& region = QRectF()) const;
 
-    /// What the picture is where the video has more of high dynamic range than this shows.
+    /// Which part of high dynamic range the picture shows, if the video has more.
     BaseLayer baseLayer() const;
 
-    /// What the values of the stored picture stand for; sRGB's when not valid.
+    /// What the values of the stored picture stand for; sRGB if invalid.
     StoredColours storedColours() const;
 
-    /// The whole picture in the values as they are stored, see storedColours(), and 16 bits a
-    /// channel, for those who go on working with high dynamic range: Format_RGBA64 where the pixel
-    /// format has alpha, else Format_RGBX64. All else as toImage() does it.
+    /// The whole picture with its values as they are stored, see storedColours(), and 16 bits per
+    /// channel, for further work in high dynamic range: Format_RGBA64 if the pixel format has
+    /// alpha, otherwise Format_RGBX64. Otherwise like toImage().
     [[nodiscard]] QImage toStoredImage() const;
 
 private:

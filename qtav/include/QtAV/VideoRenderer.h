@@ -7,7 +7,7 @@
 
 namespace QtAV {
 
-/// Where a player shows its frames. User-interface thread only.
+/// Receives the frames that a player shows. User-interface thread only.
 class VideoRenderer : public QObject
 {
     Q_OBJECT
@@ -15,10 +15,10 @@ class VideoRenderer : public QObject
 public:
     using QObject::QObject;
 
-    /// Shows a frame from now on; an invalid one for nothing.
+    /// Shows a frame from now on; an invalid frame clears the display.
     virtual void present(const VideoFrame& frame) = 0;
 
-    /// The size in pixels of the screen into which frames are fitted; empty while it is not known.
+    /// Size in screen pixels into which frames are fitted; empty while unknown.
     virtual QSize screenSize() const { return {}; }
 
 Q_SIGNALS:

@@ -1,4 +1,4 @@
-"""What a program tells those who use a screen reader."""
+"""The announcements of a program for users of screen readers."""
 
 import json
 import os
@@ -11,8 +11,8 @@ from tests.e2e.driver.waiting import wait_until
 
 
 class Announcements:
-    """Listens on the desktop, as a screen reader does: to notifications that show up, and to values
-    that change. To be used in a `with`.
+    """Listens on the desktop like a screen reader: to new notifications, and to changed values. Use it in
+    a `with`.
     """
 
     def __init__(self, desktop):
@@ -46,9 +46,9 @@ class Announcements:
         )
 
     def wait_for(self, text):
-        """Waits until an announcement has the text in it."""
+        """Waits until an announcement contains the text."""
         self._wait_for("notification", text)
 
     def wait_for_value_of(self, role):
-        """Waits until the value of a control of the role has changed."""
+        """Waits until the value of a control with the role has changed."""
         self._wait_for(role, "")

@@ -1,4 +1,4 @@
-"""What all end-to-end tests have in common."""
+"""The basis of all end-to-end tests."""
 
 import contextlib
 import functools
@@ -43,7 +43,7 @@ def _stands_at(program, number):
 
 
 class MorvantileCase(unittest.TestCase):
-    """A test with a desktop, an empty folder, and a home in which no program ran before."""
+    """A test with a desktop, an empty folder and a new home folder."""
 
     def __init_subclass__(cls):
         super().__init_subclass__()
@@ -61,7 +61,7 @@ class MorvantileCase(unittest.TestCase):
         self.videos.mkdir()
 
     def start(self, arguments=(), environment=None):
-        """Starts the program, which ends with the test at the latest."""
+        """Starts the program, which ends no later than the test."""
         return self.enterContext(Program(self.desktop, self.home, arguments, environment))
 
     def sample(self, name, copy=None):
@@ -69,14 +69,14 @@ class MorvantileCase(unittest.TestCase):
         return pathlib.Path(shutil.copy(MEDIA / name, self.videos / (copy or name)))
 
     def open_paused(self, program, video):
-        """Opens the video and pauses it with frames before and behind; gives the frame's number."""
+        """Opens the video and pauses it with frames on either side; returns the frame's number."""
         program.open_with_dialog(video)
         wait_until(lambda: (program.shown_frame() or 0) >= 5, "it does not play")
         self.desktop.key("space")
         return self.wait_for_standstill(program)
 
     def wait_for_standstill(self, program):
-        """Waits until the video is paused; gives the number of the frame at which it stands."""
+        """Waits until the video is paused; returns the number of its frame."""
         wait_until(
             lambda: _stands_at(program, program.shown_frame()),
             lambda: f"frame {program.shown_frame()} at {program.position} ms",
@@ -96,7 +96,7 @@ class MorvantileCase(unittest.TestCase):
         wait_until(lambda: program.find("push button", "Save").is_enabled, "no snapshot was taken")
 
     def save_as(self, program, file):
-        """Saves the snapshot through the dialog and gives the file."""
+        """Saves the snapshot through the dialog and returns the file."""
         title = program.window().name
         self.desktop.key("ctrl+s")
         program.window("Save As")
@@ -107,7 +107,7 @@ class MorvantileCase(unittest.TestCase):
         return file
 
     def name_automatically(self, program):
-        """Switches the box of the automatic names on."""
+        """Checks the box for automatic names."""
         box = program.find("check box", "Automatic File Name")
         left, top, _, _ = box.area
         self.desktop.click(left + 12, top + 8)

@@ -37,12 +37,12 @@ class Control:
 
     @property
     def text(self):
-        """What is written in an edit field."""
+        """The text of an edit field."""
         return Atspi.Text.get_text(self._accessible, 0, -1)
 
     @property
     def value(self):
-        """Where a slider stands."""
+        """The position of a slider."""
         return Atspi.Value.get_current_value(self._accessible)
 
     @property
@@ -71,7 +71,7 @@ class Control:
 
     @property
     def area(self):
-        """Where it is on the screen: (left, top, right, bottom)."""
+        """Its place on the screen: (left, top, right, bottom)."""
         box = self._accessible.get_extents(Atspi.CoordType.SCREEN)
         return (box.x, box.y, box.x + box.width, box.y + box.height)
 
@@ -91,7 +91,7 @@ class Control:
         return [Control(child) for child in found if child is not None]
 
     def all(self, role=None, name=None, description=None):
-        """The controls shown inside it, to any depth, of which all that is given is true."""
+        """The visible controls inside it, at any depth, that match all given conditions."""
         for child in self.children:
             if not child.is_showing:
                 continue
@@ -108,7 +108,7 @@ class Control:
 
 
 def windows_of(process_id):
-    """The windows and dialogs of a program; none while it has not shown up."""
+    """The windows and dialogs of a program; none before it has started."""
     desktop = Atspi.get_desktop(0)
     for i in range(desktop.get_child_count()):
         application = desktop.get_child_at_index(i)

@@ -1,4 +1,4 @@
-"""A desktop of its own for the tests: an X server, a window manager, accessibility, input."""
+"""A separate desktop for the tests: an X server, a window manager, accessibility, input."""
 
 import atexit
 import contextlib
@@ -26,7 +26,7 @@ class Desktop:
 
     @classmethod
     def shared(cls):
-        """The one that all tests of this process use. It ends with the process."""
+        """The desktop that all tests of this process use. It ends with the process."""
         if cls._shared is None:
             stack = contextlib.ExitStack()
             atexit.register(stack.close)
@@ -80,7 +80,7 @@ class Desktop:
 
     @staticmethod
     def _new_environment(folder):
-        """Nothing of the user's: neither settings nor language, theme, sound server or session."""
+        """Without anything of the user's: settings, language, theme, sound server or session."""
         return {
             "PATH": os.environ["PATH"],
             "HOME": str(folder),
@@ -100,7 +100,7 @@ class Desktop:
     # --- windows -------------------------------------------------------------------------------
 
     def resize_window(self, width, height):
-        """Gives the window that has the keyboard this size, without its frame."""
+        """Resizes the active window to this size, without its frame."""
         self._do("getactivewindow", "windowsize", "--sync", str(width), str(height))
 
     def window_area(self, title):
@@ -143,7 +143,7 @@ class Desktop:
             self._do("keyup", key)
 
     def turn_wheel(self, notches):
-        """Away from the user, or towards them where it is negative."""
+        """Turns the wheel away from the user, or towards them if negative."""
         self._do("click", "--repeat", str(abs(notches)), "4" if notches > 0 else "5")
 
     def click(self, x, y):
@@ -151,7 +151,7 @@ class Desktop:
         self._do("mousemove", str(int(x)), str(int(y)), "click", "1")
 
     def drag(self, x, y, steps=10):
-        """Moves the pointer as a hand does, over the places between."""
+        """Moves the pointer like a hand, through the places between."""
         from_x, from_y = self.pointer()
         for step in range(1, steps + 1):
             self.move(from_x + (x - from_x) * step / steps, from_y + (y - from_y) * step / steps)
@@ -166,7 +166,7 @@ class Desktop:
     # --- the clipboard -------------------------------------------------------------------------
 
     def clipboard(self, kind):
-        """The bytes that another program gets from the clipboard; none when it has not the kind."""
+        """The bytes that another program gets from the clipboard; none if it lacks the format."""
         answer = self._run("xclip", "-selection", "clipboard", "-target", kind, "-out")
         return answer.stdout if answer.returncode == 0 else b""
 

@@ -1,4 +1,4 @@
-"""Reads the number that each frame of the sample videos carries, as FrameNumber.h describes it."""
+"""Reads the numbers in the frames of the sample videos, as documented in FrameNumber.h."""
 
 BLOCKS = 16
 ROWS_TO_HEIGHT = 12
@@ -9,7 +9,7 @@ BRIGHTEST = 160
 
 
 def frame_number(picture):
-    """The number in an upright Pillow image of any size; none when there is a doubt."""
+    """The number in an upright Pillow image of any size; none if it is not readable with certainty."""
     if picture.width < SMALLEST[0] or picture.height < SMALLEST[1]:
         return None
     strip = picture.crop((0, 0, picture.width, picture.height * 2 // ROWS_TO_HEIGHT + 1))
@@ -23,7 +23,7 @@ def frame_number(picture):
 
 
 def _bit(strip, picture, column):
-    """1 or 0 where the two rows confirm each other, none otherwise."""
+    """1 or 0 if the two rows confirm each other, otherwise none."""
     upper, lower = (_brightness(strip, picture, column, row) for row in (0, 1))
     if upper > BRIGHTEST and lower < DARKEST:
         return 1
@@ -33,7 +33,7 @@ def _bit(strip, picture, column):
 
 
 def _brightness(strip, picture, column, row):
-    """The average of the block's inner half, clear of its neighbours."""
+    """The average of the block's inner half, unaffected by its neighbours."""
     width = picture.width / BLOCKS
     height = picture.height / ROWS_TO_HEIGHT
     left, top = int((column + 0.25) * width), int((row + 0.25) * height)

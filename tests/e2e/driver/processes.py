@@ -1,4 +1,4 @@
-"""Starting programs so that none outlives the test."""
+"""Starts programs so that none outlives the test."""
 
 import ctypes
 import os
@@ -37,7 +37,7 @@ def start_announcing(command, **options):
 
 
 def stop(process):
-    """Ends the process, by force when it does not obey, and forgets it."""
+    """Ends the process, by force if necessary, and forgets it."""
     if process.poll() is None:
         process.terminate()
         try:

@@ -1,4 +1,4 @@
-"""The real program, started on a desktop and watched."""
+"""The real program, started and observed on a desktop."""
 
 import contextlib
 import os
@@ -51,7 +51,7 @@ class Program:
             )
 
     def run(self):
-        """Runs it in place of a `with`, where it shows no window; gives its exit code."""
+        """Runs it without a `with` if it shows no window; returns its exit code."""
         self._start()
         try:
             return self.wait_for_end()
@@ -59,11 +59,11 @@ class Program:
             processes.stop(self._process)
 
     def terminate(self):
-        """Asks it to end, as the system does when it shuts down."""
+        """Requests it to end, as the system does on shutdown."""
         self._process.terminate()
 
     def kill(self):
-        """Ends it in a way that leaves it no time for anything."""
+        """Kills it without leaving it any time."""
         self._process.kill()
         self._process.wait()
 
@@ -93,7 +93,7 @@ class Program:
             return []
 
     def window(self, title=None, limit=LIMIT_S):
-        """The window or dialog that has the keyboard, once that is one of the title, if given."""
+        """The active window or dialog, once it has the title, if given."""
 
         def wanted():
             with contextlib.suppress(Control.Gone):
@@ -113,34 +113,34 @@ class Program:
                 yield from window.all(role, name, description)
 
     def find_all(self, role=None, name=None, description=None):
-        """The controls on the screen, in all windows, of which all that is given is true."""
+        """The visible controls in all windows that match all given conditions."""
         return list(self._controls(role, name, description))
 
     def has(self, role=None, name=None, description=None):
         return next(self._controls(role, name, description), None) is not None
 
     def find(self, role=None, name=None, description=None):
-        """The first control on the screen of that kind, once there is one."""
+        """The first matching control on the screen, once there is one."""
         return wait_until(
             lambda: next(self._controls(role, name, description), None),
             lambda: f"no {role or 'control'} {name or ''} {description or ''} on the screen",
         )
 
     def click(self, role=None, name=None, description=None):
-        """Clicks on the control of that kind, once it can be clicked on."""
+        """Clicks on the matching control, once it can be clicked."""
         control = self.find(role, name, description)
         wait_until(lambda: control.is_enabled, f"{control} stays disabled")
         self.desktop.click(*control.middle)
         return control
 
     def click_in(self, title, button):
-        """Clicks on the button of the active window, where others have one of the name, too."""
+        """Clicks on the button of the active window, if others have one with that name, too."""
         control = next(self.window(title).all("push button", button))
         wait_until(lambda: control.is_enabled, f"{control} stays disabled")
         self.desktop.click(*control.middle)
 
     def enter(self, text):
-        """Types into the edit field that has the keyboard, in place of what is there."""
+        """Replaces the text of the focused edit field by typing."""
         field = wait_until(self._focused_field, "no edit field has the keyboard")
 
         def typed():
@@ -156,7 +156,7 @@ class Program:
         return field
 
     def fill(self, name, text):
-        """Clicks into the edit field and types into it, in place of what is there."""
+        """Clicks into the edit field and replaces its text by typing."""
         field = self.find("text", name)
         self.desktop.click(*field.middle)
         wait_until(lambda: field.is_focused, f"{field} does not take the keyboard")
@@ -173,7 +173,7 @@ class Program:
         wait_until(lambda: box.value == number, lambda: f"{box} is at {box.value}")
 
     def choose(self, description, item):
-        """Chooses the item from the list of the combo box."""
+        """Selects the item in the list of the combo box."""
         box = self.find("combo box", description=description)
         entries = box.children[0]
         items = [entry.name for entry in entries.children]
@@ -194,7 +194,7 @@ class Program:
         return next((field for field in self.find_all("text") if field.is_focused), None)
 
     def focused(self):
-        """The control that has the keyboard, or none."""
+        """The control with the focus, or none."""
         controls = [control for control in self.find_all() if control.is_focused]
         # The current item of a list says so even while another control has the keyboard.
         return next((c for c in controls if c.role != "list item"), next(iter(controls), None))
@@ -203,7 +203,7 @@ class Program:
 
     @property
     def position(self):
-        """The time shown as the position, in milliseconds."""
+        """The shown position, in milliseconds."""
         return _milliseconds(self.find("label", description="Position").name)
 
     @property
@@ -211,7 +211,7 @@ class Program:
         return _milliseconds(self.find("label", description="Duration").name)
 
     def open_button(self):
-        """The button in the place of the video, which also lies behind a video that is shown."""
+        """The button in the place of the video, which is also behind a visible video."""
         wanted = ("Open a video, or drop one here", "Plays and pauses")
 
         def found():
@@ -221,7 +221,7 @@ class Program:
         return wait_until(found, "neither a video nor a button that opens one")
 
     def open_with_dialog(self, path):
-        """Opens the video as a user does, and waits until it is on the screen."""
+        """Opens the video like a user, and waits until it is on the screen."""
         self.desktop.key("ctrl+o")
         self.window("Open")
         self.enter(str(path))
@@ -229,15 +229,15 @@ class Program:
         self.window(f"Morvantile - {pathlib.Path(path).name}")
 
     def shown_frame(self):
-        """The number in the picture of the player; none when no number can be read."""
+        """The number in the picture of the player; none if it is unreadable."""
         return self._frame_in(self.open_button().parent)
 
     def shown_snapshot(self):
-        """The number in the picture of the snapshot; none when no number can be read."""
+        """The number in the picture of the snapshot; none if it is unreadable."""
         return self._frame_in(self.snapshot_view())
 
     def snapshot_view(self):
-        """The part of the window in which the snapshot is shown."""
+        """The part of the window that shows the snapshot."""
         return self.find(name="Snapshot")
 
     def offers_to_play(self):

@@ -1,4 +1,4 @@
-"""Waiting for what takes its time, however slow the machine is."""
+"""Waiting for conditions, however slow the machine is."""
 
 import time
 
@@ -8,7 +8,7 @@ PAUSE_S = 0.02
 
 
 def wait_until(condition, what, limit=LIMIT_S):
-    """The first true value that `condition` gives.
+    """The first true value that `condition` returns.
 
     `what` completes the sentence of the AssertionError that is raised after `limit` seconds; it is
     a text, or a function that makes one of what is the case then.
@@ -25,7 +25,7 @@ def wait_until(condition, what, limit=LIMIT_S):
 
 
 def holds_for(condition, seconds):
-    """Whether `condition` is true all the time. For what must not happen."""
+    """Whether `condition` stays true, for events that must not happen."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         if not condition():

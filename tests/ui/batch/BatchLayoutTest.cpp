@@ -8,7 +8,7 @@ using testsupport::misfits;
 using testsupport::ModeDialog;
 using testsupport::ProgramLook;
 
-/// How the dialogs of batch mode fit a small screen, in the program's style.
+/// Whether the dialogs of batch mode fit a small screen, in the program's style.
 class BatchLayoutTest : public QObject
 {
     Q_OBJECT

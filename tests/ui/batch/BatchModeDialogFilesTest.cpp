@@ -45,7 +45,7 @@ void chooseFiles(SmartFileDialog& dialog, const QString& folder, const QStringLi
     static_cast<QDialog&>(dialog).accept();
 }
 
-/// Drops files on the list: what the list does not take goes on to the dialog.
+/// Drops files on the list, which passes them on to the dialog.
 bool drop(const ModeDialog& mode, const QList<QUrl>& urls)
 {
     QMimeData data;
@@ -93,7 +93,7 @@ private Q_SLOTS:
 
 void BatchModeDialogFilesTest::initTestCase()
 {
-    // File dialogs of the platform cannot be driven.
+    // The platform's native file dialogs cannot be driven.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
 }
 
@@ -301,7 +301,7 @@ void BatchModeDialogFilesTest::savedImageProfile_goesIntoTheSelectedJobs()
     QCOMPARE(mode.comboText("imageProfileComboBox"), QStringLiteral("Small"));
 }
 
-/// The button is for one profile alone, so this goes around it.
+/// The button requires a common profile, so this bypasses it.
 void BatchModeDialogFilesTest::cancelledImageProfile_changesNothing_whereJobsDiffer()
 {
     ModeDialog mode;
@@ -348,7 +348,7 @@ void BatchModeDialogFilesTest::start_runsAllJobs_andKeepsTheList()
     QCOMPARE(mode.selectedRows(), QList<int>{0});
 }
 
-/// One image of many is a single shot, which the worker makes of it.
+/// One image of many is a single shot, and the worker converts it.
 void BatchModeDialogFilesTest::start_showsIntervalsThatWereCorrected()
 {
     ModeDialog mode;

@@ -22,7 +22,7 @@ using testsupport::samplePath;
 
 namespace {
 
-/// A video in the case's folder that is read for longer than any case takes.
+/// A video in the case's folder that takes longer to read than any case.
 QString slowVideo(const ModeDialog& mode)
 {
     const QString path = mode.dir().filePath(QStringLiteral("slow %1.mkv"));
@@ -39,7 +39,7 @@ QStringList names(const ModeDialog& mode)
     return listed;
 }
 
-/// Lets the event loop run for that many events of a timer.
+/// Runs the event loop for this many events of a timer.
 void turnEventLoop(int times)
 {
     int turns = 0;
@@ -140,7 +140,7 @@ void BatchModeDialogLoadingTest::stopping_keepsWhatIsRead_andSelectsIt()
     turnEventLoop(20);
     QCOMPARE(mode.model().rowCount(), 3);
     QVERIFY(mode.find<QPushButton>("startButton").isEnabled());
-    // The same once more: the read that was stopped keeps nothing from being loaded.
+    // Once more: the cancelled read does not prevent later loading.
     mode.load({goodVideo()});
     QCOMPARE(mode.selectedRows(), QList<int>{3});
 }
@@ -203,7 +203,7 @@ void BatchModeDialogLoadingTest::start_isDisabled_withAReason_untilAllAreRead()
     QCOMPARE(start.toolTip(), QString());
 }
 
-/// What was found earlier stands, though it would be found out to be wrong.
+/// The earlier result is kept, even if it would turn out to be wrong.
 void BatchModeDialogLoadingTest::start_readsNoVideoAgain()
 {
     ModeDialog mode;
@@ -244,7 +244,7 @@ void BatchModeDialogLoadingTest::stretch_isThatOfANewJob_whereTheVideoHasNone()
 {
     ModeDialog mode;
     mode.dialog().loadStretch(goodVideo(), 400, 1200);
-    // It is there though it has not been read yet.
+    // The job exists although its video has not been read yet.
     mode.dialog().loadStretch(goodVideo(), 500, 1300);
     mode.waitUntilLoaded();
     QCOMPARE(names(mode), QStringList{QStringLiteral("h264_bframes")});

@@ -8,7 +8,7 @@
 using testsupport::ModeDialog;
 using testsupport::multiple;
 
-/// Intervals and skips: what is typed, and what is taken back.
+/// Intervals and skips: typed values, and reverted ones.
 class BatchModeDialogNumbersTest : public QObject
 {
     Q_OBJECT

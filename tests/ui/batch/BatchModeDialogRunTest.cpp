@@ -22,7 +22,7 @@ using testsupport::ModeDialog;
 using testsupport::samplePath;
 using testsupport::writeGrowingVideo;
 
-/// What happens around a batch: what it is asked about, and what stays of it.
+/// Before and after a batch: the questions asked, and what remains.
 class BatchModeDialogRunTest : public QObject
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ bool isMarked(const ModeDialog& mode, int row)
            QLatin1String("Failed");
 }
 
-/// Expects a question, and gives what it says when it is answered.
+/// Expects a question, and stores its text when it is answered.
 void answer(ModalScript& script, QMessageBox::StandardButton button, QString& said)
 {
     script.expect<QMessageBox>([button, &said](QMessageBox& box) {
@@ -134,7 +134,7 @@ void BatchModeDialogRunTest::missingFolder_keepsTheBatchFromStarting_whenNotWant
         QVERIFY(script.isDone());
         QVERIFY(!QDir(folder).exists());
     }
-    // One that cannot be made is told of in place of hundreds of failures.
+    // A folder that cannot be created is reported instead of hundreds of failures.
     QFile file(folder);
     QVERIFY(file.open(QIODevice::WriteOnly));
     ModalScript script;
@@ -181,7 +181,7 @@ void BatchModeDialogRunTest::failedJobs_areMarked_andCanBeRetriedAlone()
              (QStringList{QStringLiteral("b-.jpeg"), QStringLiteral("h264_bframes-.jpeg")}));
 }
 
-/// The images that had come out are not made again.
+/// Existing images are not made again.
 void BatchModeDialogRunTest::retry_makesFailedPositionsAlone_data()
 {
     QTest::addColumn<bool>("isExact");

@@ -379,7 +379,7 @@ void BatchModeDialogTest::editButtons_needAProfile()
     QVERIFY(!imageEdit.isEnabled() && !nameEdit.isEnabled());
 }
 
-/// The work for a change must not grow with the square of the jobs: the form is filled once.
+/// The cost of a change must not grow quadratically with the jobs: the form is filled once.
 void BatchModeDialogTest::manyJobs_areFilledInOnce_whenSelected()
 {
     ModeDialog mode;

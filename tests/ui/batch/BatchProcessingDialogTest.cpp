@@ -31,7 +31,7 @@ QString finished(const QString& images)
     return QStringLiteral("Finished: ") + images;
 }
 
-/// 20.8 seconds: every quarter of a second makes a job that does not end by itself soon.
+/// 20.8 seconds: one image per quarter of a second makes a job that does not end soon.
 BatchWorkerConfig& addLongJob(RunningBatch& batch, const QString& folder)
 {
     BatchWorkerConfig& config = batch.addJob(samplePath(QStringLiteral("h264_gop250.mp4")), folder);
@@ -78,7 +78,7 @@ void BatchProcessingDialogTest::form_isReadyForABatch()
     QCOMPARE(batch.button().text(), QStringLiteral("Cancel"));
     QCOMPARE(batch.labelText("currentVideoLabel"), QStringLiteral("TextLabel"));
     QCOMPARE(batch.labelText("statusLabel"), QStringLiteral("Status"));
-    // A name would be read out in place of the text.
+    // A name would be read out instead of the text.
     for (const char* const name : {"currentVideoLabel", "statusLabel"}) {
         QVERIFY(batch.find<QLabel>(name).accessibleName().isEmpty());
         QVERIFY(!batch.find<QLabel>(name).accessibleDescription().isEmpty());
@@ -305,7 +305,7 @@ void BatchProcessingDialogTest::cancelling_endsTheBatch_andCountsItsImages()
         QVERIFY(batch.dialog().isVisible());
         QCOMPARE(batch.button().text(), QStringLiteral("Stopping…"));
         QVERIFY(!batch.button().isEnabled());
-        // Closing once more neither asks nor closes.
+        // Closing it again neither asks nor closes.
         QVERIFY(!batch.dialog().close());
         QVERIFY(batch.waitForEnd());
         QVERIFY(batch.button().isEnabled());
@@ -355,7 +355,7 @@ void BatchProcessingDialogTest::batch_isStopped_whenTheDialogEnds()
     QCOMPARE(filesIn(dir.path()), files);
 }
 
-/// As in the program, with its style sheet.
+/// With the program's style sheet.
 void BatchProcessingDialogTest::largeFonts_areNotCutOff()
 {
     QFile styles(QStringLiteral(":/Styles.qss"));

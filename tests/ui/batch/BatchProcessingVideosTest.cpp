@@ -61,13 +61,13 @@ QStringList allSampleFiles()
     return files;
 }
 
-/// Whether a single frame can be taken out of the middle: not of videos below half a second.
+/// Whether a single frame can be taken from the middle; not for videos below half a second.
 bool givesAnImage(const Sample& sample)
 {
     return testsupport::frameTimeMs(sample, sample.frames - 1) > 450;
 }
 
-/// The large sample over and over, since by itself it is too short for a batch.
+/// The large sample repeated, since it is too short for a batch.
 QString makeLongLargeVideo(const TestDir& dir, const QString& sample)
 {
     QString path = dir.filePath(sample);
@@ -81,7 +81,7 @@ QString makeLongLargeVideo(const TestDir& dir, const QString& sample)
     return isMade ? path : QString();
 }
 
-/// How often the only job of the batch has gone to a position.
+/// Counts how often the only job of the batch has gone to a position.
 std::shared_ptr<std::atomic<int>> countPositions(const RunningBatch& batch)
 {
     auto count = std::make_shared<std::atomic<int>>(0);
@@ -101,7 +101,7 @@ BatchWorkerConfig& addSpreadJob(RunningBatch& batch, const QString& video, const
     return config;
 }
 
-/// The longest time that an event had to wait while it lives.
+/// Measures the longest time that an event had to wait during its lifetime.
 class Heartbeat : public QObject
 {
 public:
@@ -120,10 +120,10 @@ private:
     qint64 m_longestMs = 0;
 };
 
-/// What a user does not yet take for a window that hangs.
+/// Maximum wait that a user does not perceive as a hanging window.
 constexpr qint64 longestWaitMs = testsupport::isSanitized ? 2000 : 200;
 
-/// The longest wait for an event while images are taken out of a video; -1 if some are missing.
+/// The longest wait for an event while images are taken from a video; -1 if some are missing.
 qint64 longestWaitDuring(const QString& video)
 {
     const TestDir images;
@@ -188,7 +188,7 @@ void BatchProcessingVideosTest::everySample_givesItsImageOrALogLine()
     }
 }
 
-/// Large images take long to be written, so that most cancels come in the middle of one.
+/// Large images take long to write, so that most cancellations happen during writing.
 void BatchProcessingVideosTest::cancelling_leavesWholeImages_andNoMorePositions()
 {
     const TestDir dir;
@@ -225,7 +225,7 @@ void BatchProcessingVideosTest::window_staysResponsive_duringLargeVideos_data()
     QTest::newRow("HEVC") << "hevc_2160p.mp4";
 }
 
-/// A busy machine may hold one run up; what holds up every one is our own.
+/// A busy machine may delay one run; a delay in all of them is our own.
 void BatchProcessingVideosTest::window_staysResponsive_duringLargeVideos()
 {
     QFETCH(const QString, sample);
@@ -260,7 +260,7 @@ void BatchProcessingVideosTest::deletedVideo_isLogged_andTheOthersGoOn()
     QCOMPARE(filesIn(folder).size(), 5);
 }
 
-/// Where a file can be deleted while it is open, it can still be read.
+/// On systems where an open file can be deleted, it can still be read.
 void BatchProcessingVideosTest::videoDeletedWhileItRuns_doesNotStopTheBatch()
 {
     const TestDir dir;
@@ -301,7 +301,7 @@ void BatchProcessingVideosTest::vanishedFolder_isLogged_andTheOthersGoOn()
     });
     const QStringList lines = batch.logLines();
     const QString head = video + QStringLiteral(": Could not save ") + doomed;
-    // One line for all that is missing, which tells how many there are.
+    // One line for all missing images, with their number.
     QCOMPARE(lines.filter(head).size(), saved < 6 ? 1 : 0);
     QCOMPARE(lines.last(),
              QStringLiteral("Finished: %1 images, %2 failed").arg(saved + 1).arg(6 - saved));
@@ -315,7 +315,7 @@ void BatchProcessingVideosTest::readOnlyFolder_isLogged()
     QString folder = makeFolder(dir, QStringLiteral("images"));
     QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
     if (QFileInfo(folder).isWritable()) {
-        // Permissions do not stop the superuser, but nobody makes files here.
+        // Permissions do not stop the superuser, but nobody can create files here.
         folder = QStringLiteral("/proc");
     }
     const QString video = samplePath(QStringLiteral("mpeg4.mp4"));

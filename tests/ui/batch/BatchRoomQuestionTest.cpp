@@ -14,7 +14,7 @@ namespace {
 
 const QString path = QStringLiteral("/mnt/pictures/film-00001.jpg");
 
-/// What there is no room for.
+/// The failure for a picture without room.
 WriteFailure failure()
 {
     WriteFailure full;
@@ -25,7 +25,7 @@ WriteFailure failure()
     return full;
 }
 
-/// Clicks a button of the next message box, by its text, and keeps what the box says.
+/// Clicks a button of the next message box, by its text, and stores the box's text.
 struct Answer
 {
     explicit Answer(const QString& button)

@@ -21,7 +21,8 @@ namespace {
 
 constexpr int longestLoadingMs = 30000;
 
-/// The managers live as long as the program; every case finds these profiles, the first used last.
+/// The managers live as long as the program; every case finds these profiles, with the first one
+/// last used.
 template <typename Profile>
 void useTwoProfiles()
 {

@@ -28,8 +28,8 @@ inline const QString multiple = QStringLiteral("[Multiple]");
 /// Waits until the batch is over and closes its dialog; fails the case when that takes too long.
 void endBatch(BatchProcessingDialog& dialog);
 
-/// A batch mode dialog for one test case, with settings, a configuration folder and profiles of its
-/// own. Create it on the case's stack.
+/// A batch mode dialog for one test case, with its own settings, configuration folder and profiles.
+/// Create it on the case's stack.
 class ModeDialog
 {
 public:
@@ -41,20 +41,20 @@ public:
     BatchModeListModel& model() const;
     BatchWorkerConfig& job(int row) const { return *model().getConfig(row); }
 
-    /// Lists that many files, a.mov, b.mov and so on, which hold no video. They become selected.
+    /// Lists this many files, a.mov, b.mov and so on, which contain no video. They become selected.
     void load(int count);
     /// Lists these videos.
     void load(const QStringList& files);
-    /// Ends the test program when loading takes longer than any test may.
+    /// Ends the test program if loading takes longer than any test may.
     void waitUntilLoaded();
     QString file(int row) const;
 
     void select(const QList<int>& rows) const;
     QList<int> selectedRows() const;
 
-    /// Types over what is in the edit, without leaving it.
+    /// Replaces the text of the edit by typing, without leaving it.
     void type(const char* edit, const QString& text) const;
-    /// The same, and leaves it.
+    /// Like type(), and then leaves the edit.
     void enter(const char* edit, const QString& text) const;
 
     QString text(const char* edit) const;
@@ -65,13 +65,13 @@ public:
     bool isChecked(const char* radioButton) const;
     void click(const char* button) const;
 
-    /// Which of the named widgets are enabled, for all that are so only with a selection.
+    /// The named widgets that are enabled, of all that need a selection.
     QStringList enabledOnes() const;
 
-    /// What the file of batch defaults holds.
+    /// The content of the file of batch defaults.
     QVariantMap defaults() const;
 
-    /// The object of the form with that name; ends the test program when there is none.
+    /// The object of the form with that name; ends the test program if there is none.
     template <typename Object>
     Object& find(const char* name) const
     {

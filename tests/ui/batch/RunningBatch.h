@@ -23,16 +23,16 @@ namespace testsupport {
 class RunningBatch
 {
 public:
-    /// Adds a job of small images, a single one from the middle unless it is changed.
+    /// Adds a job of small images; by default a single one from the middle.
     BatchWorkerConfig& addJob(const QString& video, const QString& folder);
 
-    /// Runs the batch, and `during` while the dialog is open; ends the dialog when that returns, by
-    /// cancelling if it must. Tests in `during` fail the case, but end only `during`.
+    /// Runs the batch, and `during` while the dialog is open. Ends the dialog when that returns, by
+    /// cancelling if necessary. Checks in `during` fail the case, but end only `during`.
     void exec(const std::function<void()>& during);
-    /// Runs the batch to its end. False when that takes too long.
+    /// Runs the batch until it ends. Returns false if that takes too long.
     [[nodiscard]] bool execToItsEnd();
 
-    /// Waits until the button says that all is done. False when that takes too long.
+    /// Waits until the button shows that everything is done. Returns false if that takes too long.
     [[nodiscard]] bool waitForEnd();
     bool isDone() const;
 
@@ -44,7 +44,7 @@ public:
     QString labelText(const char* name) const;
     int percent(const char* name) const;
 
-    /// The object of the form with that name; ends the test program when there is none.
+    /// The object of the form with that name; ends the test program if there is none.
     template <typename Object>
     Object& find(const char* name) const
     {
@@ -57,7 +57,7 @@ public:
 
 private:
     std::vector<std::unique_ptr<BatchWorkerConfig>> m_configs;
-    // Ends before the jobs, whose workers look at them.
+    // Destroyed before the jobs, which its workers use.
     BatchProcessingDialog m_dialog;
 };
 

@@ -35,7 +35,7 @@ void addFontSizes()
 
 } // namespace
 
-/// How the dialogs look in the program's style.
+/// Checks the dialogs in the program's style.
 class DialogLayoutTest : public QObject
 {
     Q_OBJECT

@@ -155,7 +155,7 @@ void FileNameProfileDialogTest::tabKey_goesThroughTheForm_inOrder()
     names->setSelectedProfile(profile);
     QVERIFY(names.show());
     names.profiles().setFocus();
-    // The buttons stand in the order of the platform.
+    // The buttons are in the order of the platform.
     QStringList expected{
         QStringLiteral("profileComboBox"),      QStringLiteral("profileMenuButton"),
         QStringLiteral("formatPrefixLineEdit"), QStringLiteral("formatBasenameLineEdit"),

@@ -14,7 +14,7 @@ using testsupport::TestProfiles;
 
 namespace {
 
-/// Moves the handle as a drag does.
+/// Moves the handle like a drag.
 void drag(const ImageFiltersDialog& dialog, const char* name, int position)
 {
     auto* slider = dialog.findChild<QSlider*>(QLatin1String(name));

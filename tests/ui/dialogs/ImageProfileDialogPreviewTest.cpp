@@ -30,7 +30,7 @@ using testsupport::textOf;
 
 namespace {
 
-/// A multiple of what the dialog waits before it reports.
+/// A multiple of the dialog's delay before it reports.
 constexpr int aWhileMs = 200;
 constexpr int patienceMs = 20000;
 
@@ -169,7 +169,7 @@ void ImageProfileDialogPreviewTest::preview_showsWhatIsEntered_andSavesNothing()
     QCOMPARE(window.size, QSize(320, 480));
     QCOMPARE(window.contrast, -30);
     QCOMPARE(window.quality, 7);
-    // It was the dialog's for this one call.
+    // It belonged to the dialog, for this one call.
     QVERIFY(window.last.isNull());
     QCOMPARE(ImageProfile::profileManager()->profiles(), QList<BaseProfile*>{&profile});
     QCOMPARE(profile.imageWidth(), 640);

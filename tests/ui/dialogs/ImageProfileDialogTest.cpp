@@ -27,7 +27,7 @@ using testsupport::typeProfileName;
 
 namespace {
 
-/// Enters something else than the defaults everywhere.
+/// Enters values that differ from all defaults.
 void fillForm(ImageProfileDialog& dialog)
 {
     child<QCheckBox>(dialog, "sameSizeAsVideoCheckbox").click();
@@ -66,7 +66,7 @@ QPushButton& saveButton(const ImageProfileDialog& dialog)
     return child<QPushButton>(dialog, "saveButton");
 }
 
-/// What stands in the size group beside the label.
+/// The widget of the size group beside the label.
 QLineEdit& sizeField(const ImageProfileDialog& dialog, int row)
 {
     auto& layout =

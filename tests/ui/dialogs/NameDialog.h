@@ -20,7 +20,7 @@ public:
     FileNameProfileDialog* operator->() { return &m_dialog; }
     FileNameProfileDialog& dialog() { return m_dialog; }
 
-    /// The object of the form with that name; ends the test program when there is none.
+    /// The object of the form with that name; ends the test program if there is none.
     template <typename Object>
     Object& find(const char* name)
     {

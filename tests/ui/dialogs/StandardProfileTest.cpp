@@ -12,7 +12,7 @@
 using testsupport::child;
 using testsupport::TestProfiles;
 
-/// The profile that is made where there is none, whose stored name is none for people.
+/// The profile that is created if there is none, whose stored name is not meant for people.
 class StandardProfileTest : public QObject
 {
     Q_OBJECT

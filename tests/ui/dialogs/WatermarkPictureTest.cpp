@@ -24,7 +24,7 @@ QImage plainPicture(QSize size, const QColor& color)
     return image;
 }
 
-/// Of two colours, since one bit a pixel is all that so many pixels leave room for.
+/// Two colours, since only one bit per pixel fits for so many pixels.
 QImage huge(QSize size)
 {
     QImage image(size, QImage::Format_Mono);

@@ -62,7 +62,7 @@ void WatermarkProfileDialogFontColorTest::pickedColor_isOpaque()
     });
     click(dialog, button.constData());
     QVERIFY(script.isDone());
-    // Even the colour that was there loses its alpha.
+    // Even the current colour loses its alpha.
     QCOMPARE(offered.rgb(), before.rgb());
     QVERIFY(!options.testFlag(QColorDialog::ShowAlphaChannel));
     QCOMPARE(swatch.colorValue(), QColor(before.rgb()));

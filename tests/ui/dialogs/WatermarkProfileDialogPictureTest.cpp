@@ -58,7 +58,7 @@ void cancelBrowser(ModalScript& script)
         [](SmartFileDialog& browser) { static_cast<QDialog&>(browser).reject(); });
 }
 
-/// Puts what the warning says in `said` and closes it.
+/// Stores the text of the warning in `said` and closes it.
 void readWarning(ModalScript& script, QStringList& said)
 {
     script.expect<QMessageBox>([&said](QMessageBox& box) {
@@ -132,7 +132,7 @@ void WatermarkProfileDialogPictureTest::type_followsTheSelectedProfile()
     QVERIFY(!child<QWidget>(dialog, "textFormatGroupBox").isHidden());
     dialog.setSelectedProfile(&picture);
     QVERIFY(!child<QWidget>(dialog, "textTypeFrame").isEnabled());
-    // Selected already, but changed meanwhile.
+    // It is already selected, but has changed.
     testsupport::pickProfile(dialog, 0);
     text.setWatermarkType(1);
     text.setImageFile(textOf("some.png"));

@@ -29,7 +29,7 @@ using testsupport::textOf;
 namespace {
 
 constexpr QSize viewSize{400, 300};
-/// Twice what the dialog waits before it renders.
+/// Twice the dialog's delay before it renders.
 constexpr int aWhileMs = 400;
 constexpr int patienceMs = 20000;
 
@@ -45,7 +45,7 @@ QImage shown(const WatermarkProfileDialog& dialog)
     return testsupport::paintedAt(child<ImageView>(dialog, "watermarkPositioner"), viewSize);
 }
 
-/// What the preview looks like when it shows this image.
+/// The appearance of the preview for this image.
 QImage asShown(const QImage& image)
 {
     ImageView view;
@@ -182,7 +182,7 @@ void WatermarkProfileDialogPreviewTest::samplePicture_isShown_untilThereIsAFrame
     const TestProfiles profiles;
     WatermarkProfileDialog dialog(nullptr);
     dialog.setSelectedProfile(nullptr);
-    // Opaque, also when it is darkened.
+    // Opaque, even if it is darkened.
     const QImage sample =
         QImage(textOf(":/Images/watermarkBackground.jpg")).convertToFormat(QImage::Format_RGB888);
     QVERIFY(!sample.isNull());

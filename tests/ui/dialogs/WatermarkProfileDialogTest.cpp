@@ -32,7 +32,7 @@ using testsupport::typeProfileName;
 
 namespace {
 
-/// Enters something else than the defaults everywhere.
+/// Enters values that differ from all defaults.
 void fillForm(WatermarkProfileDialog& dialog)
 {
     child<QTextEdit>(dialog, "textTextEdit").setPlainText(textOf("two\nlines"));
@@ -140,7 +140,7 @@ void WatermarkProfileDialogTest::form_hasItsTexts()
         QVERIFY2(!child<QPushButton>(dialog, name).autoDefault(), name);
     }
     QVERIFY(saveButton(dialog).isDefault());
-    // It has no action, so it is not offered.
+    // It has no function, so it is hidden.
     QVERIFY(!child<QPushButton>(dialog, "imageBrowseButton_2").isVisibleTo(&dialog));
 }
 
@@ -225,7 +225,7 @@ void WatermarkProfileDialogTest::inputs_areNoPlainAreas_toScreenReaders()
         return QAccessible::queryAccessibleInterface(&child<QWidget>(dialog, name))->role();
     };
     QCOMPARE(role("textTextEdit"), QAccessible::EditableText);
-    // These are off, as is what they stand in, while the watermark is a text.
+    // While the watermark is a text, these are disabled together with their parent.
     QCOMPARE(role("imageFileNameLineEdit"), QAccessible::EditableText);
     QCOMPARE(role("imageBrowseButton"), QAccessible::Button);
     QVERIFY(!child<QWidget>(dialog, "imageTypeFrame").isEnabled());

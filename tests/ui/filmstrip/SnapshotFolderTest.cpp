@@ -40,7 +40,7 @@ QString folderIn(const TestDir& dir)
     return dir.filePath(QStringLiteral("data/snapshots"));
 }
 
-/// Writes a snapshot with a full note, which the caller may have changed.
+/// Writes a snapshot with a complete note, which the caller may modify.
 [[nodiscard]] bool keep(SnapshotFolder& folder, const KeptSnapshot& note)
 {
     return folder.write(note.id, pictureAt(1.0), smallPicture);
@@ -152,7 +152,7 @@ void SnapshotFolderTest::damagedList_isPutAside_withItsFiles()
         QVERIFY(folder.writeIndex({fullNote(QStringLiteral("b"))}));
     }
     QCOMPARE(filesIn(aside), (QStringList{QStringLiteral("a.png"), QStringLiteral("a.small.png")}));
-    // Told once.
+    // Reported once.
     SnapshotFolder folder(folderIn(dir));
     const SnapshotContents contents = folder.open();
     QVERIFY(contents.putAside.isEmpty());

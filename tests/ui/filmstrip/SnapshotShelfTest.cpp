@@ -36,7 +36,7 @@ namespace {
 const QString profile = QStringLiteral("{p}");
 const QString profileName = QStringLiteral("Default");
 
-/// A shelf that keeps its snapshots in a folder.
+/// A shelf that stores its snapshots in a folder.
 class Shelf : public SnapshotShelf
 {
 public:
@@ -163,7 +163,7 @@ void SnapshotShelfTest::deletedSnapshot_isBack_whenPutBack_andGoneForGoodElse()
     shelf.discard(taken);
     QVERIFY(QTest::qWaitFor(settled));
     QCOMPARE(pngsIn(dir), 4);
-    // One that is taken out while it is still being written.
+    // It is removed while still being written.
     static_cast<void>(shelf.add(pictureAt(4.0), profile, profileName));
     shelf.putBack(shelf.take({shelf.index(2)}));
     QVERIFY(QTest::qWaitFor(settled));
@@ -188,7 +188,7 @@ void SnapshotShelfTest::snapshotThatCannotBeWritten_staysInMemory_andIsNotSafe()
         QVERIFY(shelf.settle());
         QCOMPARE(loaded, 1);
     }
-    // The next one brings it along.
+    // The next one includes it.
     static_cast<void>(shelf.take(2.0));
     QVERIFY(shelf.settle());
     QCOMPARE(shelf.unsafeCount(), 0);

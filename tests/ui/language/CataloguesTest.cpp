@@ -61,7 +61,7 @@ QVector<Message> messagesIn(const QString& language)
     return messages;
 }
 
-/// What is replaced in a text, such as %1 and %n, in alphabetical order.
+/// The placeholders of a text, such as %1 and %n, sorted.
 QStringList placesIn(const QString& text)
 {
     static const QRegularExpression place(QStringLiteral("%(?:L?\\d|n|p%)"));
@@ -84,7 +84,7 @@ QString edgesOf(const QString& text)
 
 } // namespace
 
-/// That the catalogues are whole, and keep what the program puts into its texts.
+/// Checks that the catalogues are complete, and keep the placeholders of the texts.
 class CataloguesTest : public QObject
 {
     Q_OBJECT

@@ -77,13 +77,13 @@ void BestFramesFinderTest::cancelledSearch_neverAnswers_andNothingWaits()
     QSignalSpy found(&finder, &BestFramesFinder::found);
     search(finder, m_video, {0, 4000});
     finder.cancel();
-    // Also where the result is on its way already.
+    // Also if the result is already in transit.
     search(finder, m_video, {800, 1200});
     QTest::qSleep(200);
     finder.cancel();
     QTest::qWait(100);
     QVERIFY(found.isEmpty());
-    // The thread goes on with what comes next.
+    // The thread continues with the next task.
     search(finder, m_video, {400, 800});
     QVERIFY(found.wait(patienceMs));
     QCOMPARE(timesIn(found), QVector<qint64>{600});

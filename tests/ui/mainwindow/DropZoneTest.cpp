@@ -81,7 +81,7 @@ struct Zone
     QSignalSpy nothing{&zone, &DropZone::nothingFound};
 };
 
-/// Of a colour, by WCAG.
+/// Relative luminance of a colour, by WCAG.
 double luminance(const QColor& colour)
 {
     const auto linear = [](double value) {
@@ -121,7 +121,7 @@ void DropZoneTest::highlight_isShown_whileFilesAreOverTheWindow()
     QVERIFY(!zone.highlight().isVisible());
 }
 
-/// One line of the frame is seen on any ground. Looked at as it is painted.
+/// One line of the frame is visible on any ground. Checked on the painted result.
 void DropZoneTest::highlight_isReadable()
 {
     const TestDir dir;
@@ -149,7 +149,7 @@ void DropZoneTest::textThatIsDragged_isRefused()
     QVERIFY(!zone.zone.isSearching());
 }
 
-/// Never moved: the program where it comes from would delete it.
+/// Never moved, because the source program would then delete it.
 void DropZoneTest::oneFile_isDropped_asACopy()
 {
     const TestDir dir;
@@ -157,7 +157,7 @@ void DropZoneTest::oneFile_isDropped_asACopy()
     const QString video = dir.makeFile(QStringLiteral("a.mp4"));
     zone.offer({video});
     QCOMPARE(zone.drop(), Qt::CopyAction);
-    // The other program does not wait for what is made of it.
+    // The other program does not wait for the result.
     QVERIFY(zone.dropped.isEmpty());
     QVERIFY(zone.dropped.wait(patienceMs));
     QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(video));

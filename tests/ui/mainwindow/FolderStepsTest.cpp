@@ -111,7 +111,7 @@ void FolderStepsTest::closedVideo_hasNoNeighbours()
     dir.makeFile(QStringLiteral("b.mp4"));
     Steps steps;
     steps.steps.setVideo(a);
-    // Also when the folder has been looked at already, but not been told.
+    // Also if the folder has been read already, but the result was not delivered.
     steps.steps.setVideo({});
     QTest::qWait(50);
     QVERIFY(!steps.next.isEnabled());

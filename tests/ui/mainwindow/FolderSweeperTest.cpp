@@ -20,7 +20,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// As a killed program has left it there two hours ago; gives its path.
+/// Creates a file as left by a killed program two hours ago; returns its path.
 QString leaveFileIn(const TestDir& dir)
 {
     QFile file(dir.filePath(QStringLiteral(".morvantile-0123456789abcdef.part")));
@@ -45,7 +45,7 @@ void FolderSweeperTest::leftOverFile_goes_onceForEachFolder()
         static_cast<void>(leaveFileIn(dir));
         sweeper.sweep(dir.path());
     }
-    // The end has waited for all that was begun.
+    // The destructor has waited for all started work.
     QVERIFY(QFile::exists(path));
     {
         FolderSweeper sweeper;

@@ -43,8 +43,8 @@ void click(const QDialog& dialog, const char* button)
 
 } // namespace
 
-/// The dialogs that the window opens, and what it makes of their results. The profiles are the same
-/// for all cases: their managers live as long as the process.
+/// The dialogs that the window opens, and the use of their results. All cases share the profiles,
+/// because their managers live as long as the process.
 class MainWindowDialogsTest : public QObject
 {
     Q_OBJECT

@@ -23,7 +23,7 @@
 
 using namespace testsupport;
 
-/// Snapshots that were taken before: the way back to them, and what is never lost.
+/// Earlier snapshots: going back to them, and never losing them.
 class MainWindowFilmstripTest : public QObject
 {
     Q_OBJECT
@@ -50,7 +50,7 @@ private:
 
 namespace {
 
-/// A window that keeps its snapshots in the case's folder.
+/// A window that stores its snapshots in the case's folder.
 class Window : public OpenWindow
 {
 public:
@@ -67,7 +67,7 @@ public:
         return QTest::qWaitFor([this] { return shelf().isSettled(); }, patienceMs);
     }
 
-    /// Goes to the frame and takes it; gives the snapshot's name.
+    /// Goes to the frame and takes it; returns the snapshot's name.
     QString takeAt(qint64 ms)
     {
         player().setPosition(ms);
@@ -86,7 +86,7 @@ public:
 
     void choose(const QString& id) { Q_EMIT strip().chosen(id); }
 
-    /// The number in the full frame of the snapshot that is shown.
+    /// The number in the full frame of the shown snapshot.
     std::optional<int> shownFrame()
     {
         QApplication::clipboard()->clear();
@@ -103,7 +103,7 @@ public:
 
 } // namespace
 
-/// The profiles of the test program are the same for all cases: they live as long as the process.
+/// The profiles of the test program are shared by all cases: they live as long as the process.
 void MainWindowFilmstripTest::initTestCase()
 {
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_config.path()));
@@ -157,7 +157,7 @@ void MainWindowFilmstripTest::chosenSnapshot_isShown_whenItsVideoIsGone()
     QVERIFY(!window->isVideoLoaded());
 }
 
-/// Deep colours, too: the file is the same as one that is saved at once.
+/// Including deep colours: the file equals one that is saved at once.
 void MainWindowFilmstripTest::snapshot_outlivesItsWindow_withAllItsBits()
 {
     const TestDir kept;
@@ -173,13 +173,13 @@ void MainWindowFilmstripTest::snapshot_outlivesItsWindow_withAllItsBits()
         QVERIFY(window.openPaused(samplePath(QStringLiteral("hevc_10bit.mkv"))));
         id = window.takeAt(1000);
         QVERIFY(window.settle());
-        // Saved aside, so that the strip knows nothing of it.
+        // Saved separately, so that the strip does not know about it.
         window.shelf().setProfile(id, profile->id(), profile->name());
         QVERIFY(window->saveSnapshot(direct));
     }
     QVERIFY(QImage(direct).depth() == 64);
     {
-        // Saved ones do not come back.
+        // Saved ones are not restored.
         Window window(kept);
         QVERIFY(window.settle());
         QCOMPARE(window.shelf().rowCount(), 0);
@@ -209,7 +209,7 @@ void MainWindowFilmstripTest::saveAll_savesEachWithItsProfile_underFreeNames()
     window.saveInto(folder);
     static_cast<void>(window.takeAt(1000));
     static_cast<void>(window.takeAt(2000));
-    // That of the snapshot that is shown, and no other.
+    // Only that of the shown snapshot changes.
     window.chooseImageProfile(QStringLiteral("Small"));
     window.choose(window.shelf().index(0).data(SnapshotShelf::IdRole).toString());
     QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), patienceMs);
@@ -299,7 +299,7 @@ void MainWindowFilmstripTest::closing_asksOnce_whatTheDiskDoesNotTake()
     answerNextBox(QMessageBox::Cancel, box);
     window->close();
     QCOMPARE(box.text, QStringLiteral("2 snapshots have not been saved."));
-    // What was copied is in the user's hands.
+    // A copied snapshot is in the user's hands.
     window.find<QAction>("actionCopy_Snapshot").trigger();
     box = {};
     answerNextBox(QMessageBox::Cancel, box);

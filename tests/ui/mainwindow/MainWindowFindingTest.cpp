@@ -28,7 +28,7 @@
 
 using namespace testsupport;
 
-/// The ways to a video, to a frame and to a closer look at it, in the whole window.
+/// Finding a video and a frame, and zooming, in the whole window.
 class MainWindowFindingTest : public QObject
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ void press(int key, Qt::KeyboardModifiers modifiers = {})
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
 }
 
-/// Presses a button of the next message box, by its text.
+/// Presses a button of the next message box, identified by its text.
 void pressInNextBox(QObject& owner, const QString& text)
 {
     auto* const timer = new QTimer(&owner);
@@ -91,7 +91,7 @@ void MainWindowFindingTest::zoom_isByKeys()
     press(Qt::Key_4);
     press(Qt::Key_0);
     window->statusBar()->clearMessage();
-    // Fitted now: stays so, whatever is asked for twice.
+    // It is fitted now, and stays so even if requested twice.
     press(Qt::Key_0);
     QCOMPARE(shown(), QString());
     press(Qt::Key_1);
@@ -256,7 +256,7 @@ void MainWindowFindingTest::bestFrame_isTaken()
     QCOMPARE(window->snapshotTimes().size(), 1);
     QCOMPARE(window->snapshotTimes().first() % 400, 200);
     QVERIFY(window->findChild<BestFramesDialog*>()->isVisible());
-    // What is looked for is of this video alone.
+    // The search belongs to this video only.
     window->closeVideo();
     QCOMPARE(list.count(), 0);
 }

@@ -32,7 +32,7 @@ void press(int key, Qt::KeyboardModifiers modifiers = {})
     QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
 }
 
-/// All actions in the menus that do something.
+/// All menu entries with an action.
 QList<QAction*> entriesOf(const QList<QAction*>& actions)
 {
     QList<QAction*> entries;
@@ -48,7 +48,7 @@ QList<QAction*> entriesOf(const QList<QAction*>& actions)
 
 } // namespace
 
-/// What the keys do, wherever the keyboard is.
+/// The effects of the keys, wherever the focus is.
 class MainWindowKeysTest : public QObject
 {
     Q_OBJECT
@@ -366,7 +366,7 @@ void MainWindowKeysTest::fullScreen_isLeftByEscape_andBringsAllBack()
     QVERIFY(waitForPosition(window.player(), 0));
     press(Qt::Key_Right);
     QVERIFY(waitForPosition(window.player(), 40));
-    // The first Escape is the field's.
+    // The field handles the first Escape.
     auto& field = window.find<TimecodeField>("timecodeField");
     field.type();
     press(Qt::Key_Escape);

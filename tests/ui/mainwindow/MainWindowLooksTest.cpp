@@ -27,10 +27,10 @@ using testsupport::samplePath;
 
 namespace {
 
-/// The size of Qt's font on a desktop that names none.
+/// Qt's font size on a desktop that sets none.
 constexpr double usualPoints = 9.0;
 
-/// The buttons of the recent files that can be seen.
+/// The visible buttons of the recent files.
 QList<QPushButton*> recentEntries(OpenWindow& window)
 {
     QList<QPushButton*> entries;
@@ -45,7 +45,7 @@ QList<QPushButton*> recentEntries(OpenWindow& window)
 
 } // namespace
 
-/// How the window guides the eye.
+/// Guidance in the window.
 class MainWindowLooksTest : public QObject
 {
     Q_OBJECT

@@ -21,8 +21,8 @@
 
 using namespace testsupport;
 
-/// What a person would lose by mistake, and what asks or stays in place of that. What the filmstrip
-/// does about it is tested with that.
+/// What a user could lose by mistake, and the questions or safeguards against it. The part of the
+/// filmstrip is tested with the filmstrip.
 class MainWindowLosingTest : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// A window with a snapshot of a paused video, for which there is no room in the filmstrip.
+/// A window with a snapshot of a paused video, for which the filmstrip has no room.
 class Snapshot : public OpenWindow
 {
 public:
@@ -123,7 +123,7 @@ void MainWindowLosingTest::snapshot_isNotAskedAbout_onceSavedOrCopied()
     keep(window);
     window->openFromOutside(window.next);
     QCOMPARE(window->currentVideoFilePath(), window.next);
-    // The next one is asked about again.
+    // The window asks about the next one again.
     QTRY_VERIFY_WITH_TIMEOUT(window.player().displayedFrame().isValid(), patienceMs);
     QVERIFY(window.takeSnapshot());
     SeenBox box;

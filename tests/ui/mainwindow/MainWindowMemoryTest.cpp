@@ -18,7 +18,7 @@
 
 using namespace testsupport;
 
-/// What the next window, and the next video, find as the last one left it.
+/// The state that the next window, and the next video, find.
 class MainWindowMemoryTest : public QObject
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ QString folderIn(OpenWindow& window)
     return window.find<QLineEdit>("outputFolderLineEdit").text();
 }
 
-/// As the program ends one.
+/// Ends a window like the program does.
 void end(OpenWindow& window)
 {
     window->confirmQuit();
@@ -70,7 +70,7 @@ QString makeFolder(OpenWindow& window, const QString& name)
 
 } // namespace
 
-/// There is no bus of a session that would have a file manager.
+/// There is no session bus that could have a file manager.
 void MainWindowMemoryTest::initTestCase()
 {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");

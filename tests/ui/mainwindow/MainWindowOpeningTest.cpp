@@ -61,7 +61,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Whether the open button lies over the video or the video over it.
+/// Whether the open button is above the video or below it.
 bool isOpenButtonOnTop(OpenWindow& window)
 {
     QPushButton& button = window.find<QPushButton>("openVideoLabel");
@@ -133,13 +133,13 @@ void MainWindowOpeningTest::newWindow_tellsScreenReadersWhatItsControlsAre()
         return QAccessible::queryAccessibleInterface(&window.find<QWidget>(name));
     };
     const auto role = [&told](const char* name) { return told(name)->role(); };
-    // These are in a box that is off.
+    // These are in an unchecked group box.
     QCOMPARE(role("filenameProfileComboBox"), QAccessible::ComboBox);
     QCOMPARE(role("editFileNameProfileButton"), QAccessible::Button);
     QCOMPARE(role("outputFolderLineEdit"), QAccessible::EditableText);
     QCOMPARE(role("selectOutputFolderButton"), QAccessible::Button);
     QCOMPARE(role("nextFileNameLabel"), QAccessible::StaticText);
-    // What it is must not stand in for what it says.
+    // The role must not be announced instead of the text.
     QCOMPARE(told("openVideoLabel")->text(QAccessible::Name),
              QStringLiteral("Click to open video"));
     QCOMPARE(told("positionLabel")->text(QAccessible::Name), QStringLiteral("00:00:00.000"));

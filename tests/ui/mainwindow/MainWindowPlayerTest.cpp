@@ -53,7 +53,7 @@ namespace {
 
 const QString interlacedClip = QStringLiteral("fields_mpeg2_tff.ts"); // 25 pictures a second
 
-/// Reads the profiles anew, as another start would.
+/// Reads the profiles again, like another start.
 void reloadProfiles(ProfileManager& manager, OpenWindow& window)
 {
     const QList<BaseProfile*> old = manager.profiles();
@@ -149,7 +149,7 @@ void MainWindowPlayerTest::stepField_goesToTheOtherMoment_ofAnInterlacedPicture(
     QVERIFY(waitForPosition(window.player(), 400));
 }
 
-/// The menu shows it and changes it, also in the file of the profiles.
+/// The menu shows and changes it, also in the file of the profiles.
 void MainWindowPlayerTest::deinterlacing_isThatOfTheSelectedProfile()
 {
     ProfileManager& manager = *ImageProfile::profileManager();
@@ -264,7 +264,7 @@ void MainWindowPlayerTest::slider_seeks_whenPaused()
     QVERIFY(window.player().isPaused());
     slider.setSliderPosition(50);
     slider.setSliderDown(false);
-    // Where the video is going, before its frame is there.
+    // The position being sought, before its frame is there.
     QCOMPARE(slider.value(), 50);
     QVERIFY(waitForPosition(window.player(), 1520));
     QTRY_COMPARE(slider.value(), 1520 / 30);

@@ -87,7 +87,7 @@ void writeFile(const QString& path, const QByteArray& content)
     }
 }
 
-/// Saves through the dialog, which `answer` gets once it is open.
+/// Saves through the dialog, which is passed to `answer` once it is open.
 void saveWithDialog(OpenWindow& window, const std::function<void(QFileDialog&)>& answer)
 {
     QTimer::singleShot(0, &window.window(), [&answer] {
@@ -136,7 +136,7 @@ void MainWindowSavingTest::automaticSaving_takesTheFirstFreeNumber_andReplacesNo
     QCOMPARE(QFileInfo(window.dir().filePath(QStringLiteral("clip-00003.jpeg"))).size(), 4);
 }
 
-/// The window goes on while a file is written: another frame may be captured then.
+/// The window stays responsive while a file is written: another frame may be captured then.
 void MainWindowSavingTest::automaticSaving_savesTheSnapshotItBeganWith_whenAnotherComesMeanwhile()
 {
     Snapshot window;
@@ -305,12 +305,12 @@ void MainWindowSavingTest::saveDialog_remembersWhatWasSaved()
     QCOMPARE(window.images(), QStringList{QStringLiteral("one.png")});
     saveWithDialog(window, [&png](QFileDialog& dialog) {
         QCOMPARE(dialog.selectedNameFilter(), png);
-        // The next name that is free.
+        // The next free name.
         QCOMPARE(QFileInfo(dialog.selectedFiles().value(0)).fileName(),
                  QStringLiteral("one-2.png"));
         dialog.reject();
     });
-    // The next video is offered the type as well.
+    // The type is also proposed for the next video.
     QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("a.b.mp4"))));
     QVERIFY(window.takeSnapshot());
     saveWithDialog(window, [](QFileDialog& dialog) {
@@ -395,7 +395,7 @@ void MainWindowSavingTest::savedFile_tellsWhichFrameItIs_andWhatMadeIt()
     window.player().setPosition(1500);
     QTRY_COMPARE(window.player().displayPosition(), 1520);
     QVERIFY(window.takeSnapshot());
-    // What the snapshot was made by is not what its profile says by now.
+    // The snapshot was made with other values than its profile has now.
     profile.setImageContrast(3);
     const QString path = window.dir().filePath(QStringLiteral("a.jpg"));
     QVERIFY(window->saveSnapshot(path));

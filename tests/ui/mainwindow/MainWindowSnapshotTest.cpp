@@ -54,7 +54,7 @@ private:
 
 namespace {
 
-/// Enough for the window, and not for an image of 25000 by 25000 pixels.
+/// Enough for the window, but not for an image of 25000 by 25000 pixels.
 constexpr rlim_t roomBytes = 512 * 1024 * 1024;
 
 QImage clipboardAfter(OpenWindow& window, const char* action)
@@ -66,7 +66,7 @@ QImage clipboardAfter(OpenWindow& window, const char* action)
 
 } // namespace
 
-/// The profiles of the test program are the same for all cases: they live as long as the process.
+/// All cases share the profiles of the test program, which live as long as the process.
 void MainWindowSnapshotTest::initTestCase()
 {
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_config.path()));
@@ -309,7 +309,7 @@ void MainWindowSnapshotTest::originalSize_isOneClickAway_andKeepsTheOtherSetting
     QCOMPARE(chosen.imageBrightness(), -50);
     QCOMPARE(window.find<QComboBox>("imageProfileComboBox").currentText(), chosen.name());
     QCOMPARE(dark.sameSizeAsVideo(), false);
-    // The next time, there is one.
+    // The next time it succeeds.
     window.chooseImageProfile(dark.name());
     button.click();
     QCOMPARE(manager.lastUsedProfile(), &chosen);

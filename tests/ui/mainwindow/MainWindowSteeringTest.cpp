@@ -36,7 +36,7 @@ QString factsOf(OpenWindow& window)
     return window.find<QLabel>("videoFactsLabel").text();
 }
 
-/// Types over the time, as a user does.
+/// Replaces the time by typing, like a user.
 void type(OpenWindow& window, const QString& text)
 {
     window.find<QAction>("actionGoToTime").trigger();
@@ -47,7 +47,7 @@ void type(OpenWindow& window, const QString& text)
 
 } // namespace
 
-/// The ways to a frame beside playing and stepping.
+/// Navigation to a frame besides playing and stepping.
 class MainWindowSteeringTest : public QObject
 {
     Q_OBJECT
@@ -276,7 +276,7 @@ void MainWindowSteeringTest::snapshot_isTakenAndSavedAtOnce()
     window.player().setPosition(4000);
     QVERIFY(waitForPosition(window.player(), 4000));
     const QString first = window.dir().filePath(QStringLiteral("a-00001.jpeg"));
-    // One that is only taken comes before, and is not saved.
+    // An unsaved capture comes first, and is not saved.
     window->snapshotButtonPressed();
     window.find<QAction>("actionTakeAndSave").trigger();
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(first), patienceMs);

@@ -28,7 +28,7 @@ public:
     MainWindow& window() { return m_window; }
     const TestDir& dir() const { return m_settings.dir(); }
 
-    /// The object of the form with that name; ends the test program when there is none.
+    /// The object of the form with that name; ends the test program if there is none.
     template <typename Object>
     Object& find(const char* name)
     {

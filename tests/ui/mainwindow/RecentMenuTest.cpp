@@ -30,7 +30,7 @@ struct Menu
         : settings(dir.filePath(QStringLiteral("s.ini")), QSettings::IniFormat)
     {}
 
-    /// As it is when it has come up.
+    /// The texts when the menu opens.
     QStringList texts()
     {
         Q_EMIT menu.aboutToShow();

@@ -93,7 +93,7 @@ void SnapshotMakerTest::onlyTheNewestRemaking_isAnswered()
     QCOMPARE(image.pixelColor(10, 10), QColor(Qt::blue));
 }
 
-/// Saving gets what was asked for last.
+/// Saving gets the newest request.
 void SnapshotMakerTest::finishing_answersAtOnce_andOnlyOnce()
 {
     Maker made;

@@ -12,7 +12,7 @@ namespace {
 constexpr int stepMs = 30;
 constexpr int lastStep = 1000;
 
-/// Shown, over half a minute.
+/// A visible slider over half a minute.
 struct Slider : TimeSlider
 {
     Slider()
@@ -31,7 +31,7 @@ struct Slider : TimeSlider
         QCoreApplication::sendEvent(this, &event);
     }
 
-    /// Moves the pointer with the button held down.
+    /// Moves the pointer with the button pressed.
     void drag(int x)
     {
         QMouseEvent event(QEvent::MouseMove, {double(x), 16.0}, mapToGlobal(QPoint(x, 16)),

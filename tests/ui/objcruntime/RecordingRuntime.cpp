@@ -4,10 +4,10 @@
 #include <memory>
 #include <vector>
 
-// <objc/message.h> is left out: it declares objc_msgSend without the parameters that it has. Like
-// the real one it is called through pointers of many types, which works since all arguments and
-// results are pointers or integers as wide, passed alike. Those that a message lacks are not looked
-// at.
+// <objc/message.h> is not included because it declares objc_msgSend without its parameters. Like
+// the real function, it is called through pointers of many types. That works because all arguments
+// and results are pointers or integers of the same size, passed in the same way. Superfluous
+// parameters are ignored.
 
 namespace {
 
@@ -70,7 +70,7 @@ Result makeString(Argument text, Argument encoding)
     return pointer(make(name));
 }
 
-/// Messages without an argument.
+/// Messages without arguments.
 Result answer(Argument receiver, const QString& selector)
 {
     runtime().journal += nameOf(receiver) + QLatin1Char(' ') + selector;
@@ -92,7 +92,7 @@ Result answer(Argument receiver, const QString& selector)
     return 0;
 }
 
-/// Messages with one argument: an object for texts and titles, a number for the others.
+/// Messages with one argument: an object for texts and titles, otherwise a number.
 Result answer(Argument receiver, const QString& selector, Argument argument)
 {
     const bool takesObject =

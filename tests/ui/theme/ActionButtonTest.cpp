@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Where something is drawn in a row of the button, from the left; empty for nothing.
+/// The columns of the button in which something is drawn, from the left; empty for none.
 QVector<int> inked(QWidget& widget)
 {
     const QImage image = widget.grab().toImage();
@@ -71,7 +71,7 @@ void ActionButtonTest::keys_makeItWider_butMayBeLeftOut()
 
 void ActionButtonTest::iconStandsBesideTheText_inBothDirections()
 {
-    // In a wide button they are near each other, and in its middle.
+    // In a wide button they are close to each other, and in its middle.
     for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         ActionButton button;
         fill(button);

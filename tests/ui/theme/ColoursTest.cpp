@@ -10,9 +10,9 @@ using theme::Scheme;
 
 namespace {
 
-/// What the accessibility guidelines ask for between a text and its ground.
+/// Required by the accessibility guidelines between a text and its background.
 constexpr double forText = 4.5;
-/// The same for the outline of a control.
+/// Required for the outline of a control.
 constexpr double forControls = 3.0;
 
 using Role = QPalette::ColorRole;
@@ -154,7 +154,7 @@ void ColoursTest::chrome_isNeutral_data()
 
 void ColoursTest::chrome_isNeutral()
 {
-    // A tint beside a picture makes its colours look like others.
+    // A tint beside a picture changes how its colours are perceived.
     QFETCH(const bool, isDark);
     const QPalette palette = theme::palette(isDark ? Scheme::Dark : Scheme::Light);
     for (const Role role : {Role::Window, Role::Base, Role::Button, Role::WindowText,

@@ -80,7 +80,7 @@ void IconsTest::allIcons_areOfOneSet()
     QVERIFY(renderer.isValid());
     QCOMPARE(renderer.defaultSize(), QSize(24, 24));
 
-    // One line everywhere, and one colour, which the theme replaces.
+    // The same line width everywhere, and one colour, which the theme replaces.
     const QRegularExpression widths(QStringLiteral("stroke-width=\"([^\"]*)\""));
     auto matches = widths.globalMatch(QString::fromLatin1(svg));
     QVERIFY(matches.hasNext());
@@ -142,7 +142,7 @@ void IconsTest::icon_ofAForm_isALineIcon()
 
 void IconsTest::icon_isSharpOnADenseScreen()
 {
-    // As it is painted: each pixel of the screen is drawn, not one for four.
+    // In the painted result each screen pixel is drawn, not one for four.
     QImage screen(48, 48, QImage::Format_ARGB32_Premultiplied);
     screen.setDevicePixelRatio(2.0);
     screen.fill(Qt::transparent);

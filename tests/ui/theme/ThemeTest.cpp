@@ -87,7 +87,7 @@ void ThemeTest::open_window_changesAtOnce()
 
 void ThemeTest::system_isWhatTheDesktopIs()
 {
-    // The one of the tests has Qt's own light palette.
+    // The tests start with Qt's own light palette.
     Theme::instance().apply(Theme::Choice::Dark);
     Theme::instance().apply(Theme::Choice::System);
     QCOMPARE(Theme::instance().scheme(), theme::Scheme::Light);

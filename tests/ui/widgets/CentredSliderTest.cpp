@@ -5,7 +5,7 @@
 
 namespace {
 
-/// How many columns of the slider have the colour of what is filled, left and right of its middle.
+/// Number of filled columns of the slider, left and right of its middle.
 struct Filled
 {
     int left = 0;

@@ -37,7 +37,7 @@ QString shownToolTip(ElidedLabel& label)
     return QToolTip::text();
 }
 
-/// What a tool tip that is mark-up shows.
+/// The visible text of a rich-text tool tip.
 QString asPlainText(const QString& toolTip)
 {
     QTextDocument document;

@@ -15,7 +15,7 @@ struct Choice
     Field zeroField{"type", &zero, 0, nullptr};
     Field oneField{"type", &one, 1, nullptr};
 
-    /// From then on it is the group that decides which buttons exclude each other.
+    /// Afterwards the group decides which buttons exclude each other.
     void join(QButtonGroup& group)
     {
         group.addButton(&zero);

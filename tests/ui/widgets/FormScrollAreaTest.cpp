@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A form of so many fields that it is higher than any screen.
+/// A form with so many fields that it is higher than any screen.
 class HighForm
 {
 public:
@@ -31,7 +31,7 @@ public:
 
 } // namespace
 
-/// The parts that forms are laid out with.
+/// The building blocks of forms.
 class FormScrollAreaTest : public QObject
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ QImage filled(const QSize& size, const QColor& color)
     return image;
 }
 
-/// Black and white columns in turn, each one pixel wide.
+/// Alternating black and white columns of one pixel each.
 QImage stripes(const QSize& size)
 {
     QImage image = filled(size, Qt::black);
@@ -199,7 +199,7 @@ void ImageViewTest::fineDetail_isAveraged_whenMadeSmaller()
     }
 }
 
-/// And what is shown afterwards is of the image that was set last.
+/// Afterwards, the image that was set last is shown.
 void ImageViewTest::fineDetailOfALargeImage_isAveraged_inTheBackground()
 {
     ImageView view;

@@ -72,7 +72,7 @@ void NewestTaskTest::cancel_returnsAtOnce_whileTheTaskRunsOn()
             wasCancelled = isCancelled();
         });
         QVERIFY(begun.tryAcquire(1, patienceMs));
-        // Would never return if it waited for the task.
+        // This would never return if it waited for the task.
         tasks.cancel();
         QVERIFY(!wasCancelled);
         mayEnd.release();

@@ -39,7 +39,7 @@ private Q_SLOTS:
 
 void NoFocusItemDelegateTest::focus_leavesNoTrace()
 {
-    // The ordinary delegate shows that there is something to leave out.
+    // The ordinary delegate does draw the frame.
     const QItemDelegate ordinary;
     QVERIFY(painted(ordinary, focused) != painted(ordinary, plain));
     const NoFocusItemDelegate delegate;

@@ -46,7 +46,7 @@ void PictureZoomTest::pointUnderThePointer_stays()
     for (const double scale : {1.0, 4.0, 2.5, 0.75}) {
         zoom.setScale(scale, pointer);
         QCOMPARE(zoom.scale(), scale);
-        // 600 to 400 of the picture, in its own pixels.
+        // 600 by 400 of the picture, in its own pixels.
         const QPointF under = (pointer - zoom.place().topLeft()) / scale;
         QVERIFY2(std::abs(under.x() - 600.0) < 1.0 && std::abs(under.y() - 400.0) < 1.0,
                  qPrintable(QStringLiteral("%1 %2").arg(under.x()).arg(under.y())));

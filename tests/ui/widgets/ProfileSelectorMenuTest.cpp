@@ -72,7 +72,7 @@ void ProfileSelectorMenuTest::renamedProfile_isListedAndStoredUnderItsNewName()
     QCOMPARE(form.combo().currentText(), QStringLiteral("Bee"));
     QCOMPARE(form.profile(1)->id(), id);
     QCOMPARE(form.profile(1)->name(), QStringLiteral("Bee"));
-    // What was entered is neither lost nor saved by it.
+    // The entered value is neither lost nor saved by this.
     QCOMPARE(form.prefix().text(), QStringLiteral("entered"));
     QCOMPARE(form.storedPrefixes().value(1), QStringLiteral("of B"));
 }

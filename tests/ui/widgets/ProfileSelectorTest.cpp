@@ -137,7 +137,7 @@ void ProfileSelectorTest::loadProfile_fillsForm_andReportsItOnce()
 void ProfileSelectorTest::loadProfile_fillsFormTwice_whenSelectionChanges()
 {
     NameForm form(abc());
-    // What is changed between the two is put right by the second.
+    // The second call reverts changes made between the two.
     connect(&form.selector(), &ProfileSelector::profileSelected, &form.prefix(),
             [&form] { form.prefix().setText(form.prefix().text() + QStringLiteral(" seen")); });
     const QSignalSpy texts(&form.prefix(), &QLineEdit::textChanged);

@@ -14,7 +14,7 @@ using testsupport::TestSettings;
 
 namespace {
 
-/// Keeps the debug lines written while it lives.
+/// Collects the debug messages written during its lifetime.
 class DebugLines
 {
 public:
@@ -60,7 +60,7 @@ QString makeFile(const TestSettings& settings, const QString& fileName)
     return file.open(QIODevice::WriteOnly) ? path : QString();
 }
 
-/// Chooses the file and accepts, as its user would. QFileDialog hides what QDialog offers.
+/// Selects the file and accepts, like a user. QFileDialog hides these functions of QDialog.
 void accept(SmartFileDialog& dialog, const QString& file)
 {
     dialog.setOption(QFileDialog::DontUseNativeDialog);

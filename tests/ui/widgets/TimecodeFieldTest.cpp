@@ -11,7 +11,7 @@ namespace {
 
 const QString shownTime = QStringLiteral("00:00:01.500");
 
-/// A field that shows a time, in a window with something else to go to.
+/// A field that shows a time, in a window with another widget to focus.
 struct Window
 {
     Window()

@@ -35,7 +35,7 @@ QVariant remembered(const char* key)
     return QSettings().value(QLatin1String(key));
 }
 
-/// What the signal has carried so far.
+/// The values that the signal has carried so far.
 QList<int> volumes(const QSignalSpy& spy)
 {
     QList<int> found;

@@ -14,14 +14,15 @@ using namespace testsupport;
 
 namespace {
 
-/// Screen readers say these beside the control; its name must say what it is for.
+/// Screen readers announce this text with the control; its name must state the purpose.
 QString accessibleName(QWidget& widget)
 {
     const QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&widget);
     return interface == nullptr ? QString() : interface->text(QAccessible::Name).trimmed();
 }
 
-/// A combo box says what is chosen in place of its name; its description says what for.
+/// A combo box is announced by its current item instead of its name; its description must state the
+/// purpose.
 bool isNamed(QWidget& widget)
 {
     if (qobject_cast<QComboBox*>(&widget) != nullptr) {
@@ -31,7 +32,7 @@ bool isNamed(QWidget& widget)
     return !accessibleName(widget).isEmpty();
 }
 
-/// As the keys do that bring the focus there.
+/// Scrolls to the control, as keys do that move the focus there.
 void bringIntoView(QWidget& control)
 {
     for (QWidget* parent = control.parentWidget(); parent != nullptr;
@@ -49,7 +50,7 @@ QImage pictureOf(QWidget& window, const QWidget& control)
     return window.grab(area.adjusted(-4, -4, 4, 4)).toImage();
 }
 
-/// The control that a widget with the keyboard is, or is a part of.
+/// The control that the focused widget is, or is part of.
 QWidget* controlOf(QWidget* widget, const QList<QWidget*>& controls)
 {
     while (widget != nullptr && !controls.contains(widget)) {
@@ -58,7 +59,7 @@ QWidget* controlOf(QWidget* widget, const QList<QWidget*>& controls)
     return widget;
 }
 
-/// The stops of the tabulator key, from the first one until it comes around.
+/// The tab stops, from the first one until they repeat.
 QList<QWidget*> stopsOf(QWidget& window)
 {
     QList<QWidget*> stops;
@@ -79,7 +80,8 @@ QList<QWidget*> stopsOf(QWidget& window)
     return stops;
 }
 
-/// Where the keys go up and to the left. From the last control to the first they may.
+/// The places where the focus moves up or to the left. That is allowed from the last control to the
+/// first.
 QStringList waysBack(const QWidget& window, const QList<QWidget*>& stops)
 {
     QStringList back;
@@ -95,7 +97,7 @@ QStringList waysBack(const QWidget& window, const QList<QWidget*>& stops)
     return back;
 }
 
-/// Radio buttons of a group are one stop: the arrow keys go from one to another.
+/// The radio buttons of a group are one tab stop: the arrow keys move between them.
 bool isReachedByArrows(const QWidget& control, const QList<QWidget*>& reached)
 {
     const auto* const radio = qobject_cast<const QRadioButton*>(&control);
@@ -106,8 +108,8 @@ bool isReachedByArrows(const QWidget& control, const QList<QWidget*>& reached)
            });
 }
 
-/// The picture of a video that is shown is a button for the mouse; Space does the same. The
-/// slider's keys are the whole window's, and the field of the position goes where the slider does.
+/// The picture of the video is a button for the mouse; Space does the same. The slider's keys work
+/// in the whole window, and the position field goes wherever the slider does.
 bool isMouseOnly(const QWidget& control)
 {
     return control.objectName() == QLatin1String("openVideoLabel") ||
@@ -116,7 +118,7 @@ bool isMouseOnly(const QWidget& control)
 
 } // namespace
 
-/// That the windows can be used without a mouse and without seeing them.
+/// Checks that the windows can be used without a mouse and without seeing them.
 class AccessibilityTest : public QObject
 {
     Q_OBJECT
@@ -181,7 +183,7 @@ void AccessibilityTest::focus_isSeen()
     QStringList unseen;
     visitAllWindows([&](QWidget& window) {
         const QList<QWidget*> controls = controlsOf(window);
-        // As the first Tab does.
+        // Like the first Tab.
         window.setAttribute(Qt::WA_KeyboardFocusChange);
         QList<QWidget*> stops;
         for (QWidget* const control : controls) {

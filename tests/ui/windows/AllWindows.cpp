@@ -46,7 +46,7 @@ void visitPages(QWidget& window, const WindowVisitor& visit)
 {
     auto* const tabs = window.findChild<QTabWidget*>();
     if (tabs == nullptr) {
-        // What was said last may be laid out anew.
+        // The latest texts may need a new layout.
         QCoreApplication::processEvents();
         visit(window);
         return;

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A line may be this much higher where letters come from another font.
+/// A line may be this much higher if letters come from another font.
 constexpr int anotherFont = 3;
 
 bool hasLetters(const QString& text)
@@ -36,7 +36,7 @@ QStringList testsupport::cutIn(const QWidget& window)
             continue;
         }
         const auto* const button = qobject_cast<const QAbstractButton*>(widget);
-        // Where there is no room for its text, it shows its icon, and its tip says what it is.
+        // Without enough room for its text, it shows its icon, and its tool tip has the text.
         if (qobject_cast<const ActionButton*>(widget) != nullptr && !button->icon().isNull()) {
             if (button->toolTip().isEmpty() &&
                 button->width() < button->minimumSizeHint().width()) {

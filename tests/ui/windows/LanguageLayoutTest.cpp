@@ -18,7 +18,7 @@ namespace {
 const QStringList languages{QStringLiteral("ar"), QStringLiteral("de"), QStringLiteral("es"),
                             QStringLiteral("fr"), QStringLiteral("ja"), QStringLiteral("zh_CN")};
 
-/// The letters that are marked in a menu, and the texts without one.
+/// The marked letters of a menu, and the texts without one.
 QStringList marksIn(const QMenu& menu, QStringList& unmarked)
 {
     static const QRegularExpression mark(QStringLiteral("(?<!&)&([^&])"));

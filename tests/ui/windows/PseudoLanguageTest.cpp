@@ -21,7 +21,7 @@ using namespace testsupport;
 
 namespace {
 
-/// What Qt itself says, as if its catalogue were of the same language.
+/// Qt's own texts, as if its catalogue were in the same language.
 class PseudoQt : public QTranslator
 {
 public:
@@ -36,7 +36,7 @@ public:
     }
 };
 
-/// What is the same in all languages.
+/// Whether a text is the same in all languages.
 bool isExempt(const QString& text)
 {
     static const QRegularExpression exempt(QStringLiteral(
@@ -129,7 +129,7 @@ QStringList untranslatedIn(const QWidget& window)
 
 } // namespace
 
-/// The program in a language in which each text has brackets.
+/// The program in a language that puts each text in brackets.
 class PseudoLanguageTest : public QObject
 {
     Q_OBJECT

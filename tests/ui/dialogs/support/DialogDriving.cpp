@@ -34,7 +34,7 @@ bool takesInput(const QWidget& widget)
            qobject_cast<const QAbstractSlider*>(&widget);
 }
 
-/// The fields inside combo boxes and spin boxes: their owners speak for them.
+/// The fields inside combo boxes and spin boxes, which are announced by their parents.
 bool isPartOfInput(const QWidget& widget)
 {
     for (const QWidget* above = widget.parentWidget(); above; above = above->parentWidget()) {
@@ -45,7 +45,7 @@ bool isPartOfInput(const QWidget& widget)
     return false;
 }
 
-/// What screen readers say of a widget. The name of a combo box is what it holds at the moment.
+/// What screen readers announce for a widget. The name of a combo box is its current text.
 QString spokenName(const QWidget& widget)
 {
     if (const auto* const box = qobject_cast<const QComboBox*>(&widget)) {
@@ -128,7 +128,7 @@ QImage testsupport::paintedAt(QWidget& widget, QSize size)
 void testsupport::chooseFile(QDialog& browser, const QString& path)
 {
     qobject_cast<QFileDialog*>(&browser)->setDirectory(QFileInfo(path).path());
-    // Typed, for a file selected by the program stays without effect while the field has the focus.
+    // Typed, because selecting a file programmatically has no effect while the field has the focus.
     child<QLineEdit>(browser, "fileNameEdit").setText(path);
     browser.accept();
 }

@@ -11,7 +11,7 @@ class QDialog;
 
 namespace testsupport {
 
-/// The child of this name and class; ends the program where there is none.
+/// The child with this name and class; ends the program if there is none.
 template <typename Widget>
 Widget& child(const QWidget& parent, const char* name)
 {
@@ -48,7 +48,7 @@ void pickProfile(const QWidget& dialog, int index);
 /// The names of the widgets that the tabulator key leads to, from the first one on.
 [[nodiscard]] QStringList tabOrder(const QDialog& dialog);
 
-/// The names of the widgets that take input but say nothing to those who do not see them.
+/// The names of the input widgets without a name for screen readers.
 [[nodiscard]] QStringList inputsWithoutName(const QDialog& dialog);
 
 /// What the widget of a form paints when it has this size, whatever room the form gives it.

@@ -13,8 +13,8 @@
 
 namespace {
 
-/// From the top of the highest letter to the bottom of the lowest, in the widget's font: less than
-/// a line, which has empty rows above and below.
+/// From the top of the highest letter to the bottom of the lowest in the widget's font. This is
+/// less than a line, which has empty rows above and below.
 int glyphHeight(const QWidget& widget)
 {
     return widget.fontMetrics().tightBoundingRect(QStringLiteral("Ågq|")).height();
@@ -25,7 +25,7 @@ bool isWrapped(const QLabel& label)
     return label.wordWrap() && label.height() >= label.heightForWidth(label.width());
 }
 
-/// What the text needs, with what is around it. Tool buttons may be narrower than they would like.
+/// The width that the text needs, including margins. Tool buttons may be narrower than their hint.
 int textWidth(const QWidget& widget)
 {
     const auto* const tool = qobject_cast<const QToolButton*>(&widget);
@@ -43,7 +43,7 @@ bool isCut(const QWidget& widget)
                          qobject_cast<const QLineEdit*>(&widget) != nullptr;
     const auto* const group = qobject_cast<const QGroupBox*>(&widget);
     const auto* const comboBox = qobject_cast<const QComboBox*>(&widget);
-    // Names that people give are shortened, what we offer is not.
+    // Names given by users may be elided, our own texts may not.
     const bool isItemCut =
         comboBox != nullptr && !comboBox->isEditable() &&
         comboBox->sizeAdjustPolicy() != QComboBox::AdjustToMinimumContentsLengthWithIcon &&
@@ -52,7 +52,7 @@ bool isCut(const QWidget& widget)
         group != nullptr && group->width() < group->fontMetrics().horizontalAdvance(group->title());
     const bool isTooNarrow = isText && widget.width() < textWidth(widget);
     const bool isTooLow = (isText || isField) && widget.height() < glyphHeight(widget);
-    // The button that clears a field and the like have no text.
+    // Buttons inside line edits, such as the clear button, have no text.
     const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
     const bool isBare = button != nullptr && button->text().isEmpty();
     return !isBare && (isTooNarrow || isTooLow || isHeadingCut || isItemCut);

@@ -7,13 +7,13 @@
 
 namespace testsupport {
 
-/// The least that people have: a screen of 800 by 600 less a title bar, with letters 1.5 times as
-/// large as usual.
+/// The smallest supported size: a screen of 800 by 600 minus a title bar, with letters 1.5 times
+/// the usual size.
 constexpr QSize smallScreen{800, 560};
 constexpr double largeFont = 1.5;
 
-/// Gives the program its style sheet, and letters so many times as large as they are; takes both
-/// back at its end.
+/// Sets the program's style sheet, and enlarges its fonts by a factor; reverts both in the
+/// destructor.
 class ProgramLook
 {
 public:

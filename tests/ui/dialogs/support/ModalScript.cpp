@@ -24,8 +24,8 @@ void ModalScript::look()
         return;
     }
     if (!m_steps.empty() && m_steps.front().fits(*modal)) {
-        // Not from here: a timer does not fire while it is being answered, and the answer may open
-        // the next dialog.
+        // Not from here: a timer does not fire while its slot runs, and the slot may open the next
+        // dialog.
         m_answering = true;
         QMetaObject::invokeMethod(this, &ModalScript::answerNext, Qt::QueuedConnection);
     } else if (m_sinceProgress.hasExpired(patienceMs)) {

@@ -14,9 +14,9 @@ namespace testsupport {
 /// Answers the modal dialogs that the code under test opens, in the order in which they are
 /// expected.
 ///
-/// Each step waits until a dialog of its kind is the active modal one. A dialog that nobody
-/// expects, or that is still open when time is up, is closed so that the case ends, and isDone()
-/// stays false. Create it on the case's stack before what opens the dialogs.
+/// Each step waits until a dialog of its class is the active modal one. An unexpected dialog, or
+/// one that is still open at the time limit, is closed so that the case ends, and isDone() stays
+/// false. Create it on the case's stack before the object that opens the dialogs.
 class ModalScript : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ class ModalScript : public QObject
 public:
     ModalScript();
 
-    /// Does `answer`, which should close the dialog, once the next dialog is a `Dialog`.
+    /// Calls `answer`, which should close the dialog, once the next dialog is a `Dialog`.
     template <typename Dialog>
     void expect(const std::function<void(Dialog&)>& answer)
     {

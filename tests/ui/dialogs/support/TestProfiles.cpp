@@ -12,7 +12,7 @@ using testsupport::TestProfiles;
 
 namespace {
 
-/// Reads the profiles of an empty configuration folder. The case before has deleted its own.
+/// Reads the profiles of an empty configuration folder. The previous case has deleted its own.
 void startEmpty(ProfileManager& manager)
 {
     manager.loadProfilesFromFile();
@@ -28,7 +28,7 @@ void deleteAll(ProfileManager& manager)
 
 TestProfiles::TestProfiles()
 {
-    // The managers list what they find when they are made, which is not the case's.
+    // The managers list the profiles that existed when they were created, which are not the case's.
     const QList<ProfileManager*> managers{ImageProfile::profileManager(),
                                           WatermarkProfile::profileManager()};
     static const bool first = [&managers] {
