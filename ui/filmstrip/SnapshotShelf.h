@@ -2,7 +2,6 @@
 
 #include "imaging/CapturedPicture.h"
 #include "ui/filmstrip/KeptSnapshot.h"
-#include "ui/filmstrip/TaskThread.h"
 
 #include <QAbstractListModel>
 #include <QImage>
@@ -15,6 +14,7 @@
 #include <optional>
 
 class SnapshotFolder;
+class TaskThread;
 struct SnapshotContents;
 
 /// The snapshots that were taken, in the order in which they were: a list for views, which survives

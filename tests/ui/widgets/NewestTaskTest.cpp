@@ -4,6 +4,9 @@
 #include <QTest>
 
 #include <atomic>
+#include <memory>
+#include <thread>
+#include <utility>
 
 class NewestTaskTest : public QObject
 {
@@ -13,6 +16,7 @@ private Q_SLOTS:
     void task_runsInAnotherThread();
     void newerTask_cancelsTheRunningOne_andReplacesTheWaitingOne();
     void cancel_returnsAtOnce_whileTheTaskRunsOn();
+    void cancel_dropsAtOnce_whatAWaitingTaskHolds();
     void end_waitsForTheTask();
 };
 
@@ -80,6 +84,26 @@ void NewestTaskTest::cancel_returnsAtOnce_whileTheTaskRunsOn()
         mayEnd.release();
     }
     QVERIFY(wasCancelled);
+}
+
+/// Such tasks hold large pictures.
+void NewestTaskTest::cancel_dropsAtOnce_whatAWaitingTaskHolds()
+{
+    QSemaphore begun;
+    QSemaphore mayEnd;
+    NewestTask tasks;
+    tasks.start([&](const NewestTask::IsCancelled&) {
+        begun.release();
+        mayEnd.tryAcquire(1, limitMs);
+    });
+    QVERIFY(begun.tryAcquire(1, limitMs));
+    auto picture = std::make_shared<int>(0);
+    const std::weak_ptr<int> held = picture;
+    tasks.start([picture = std::move(picture)](const NewestTask::IsCancelled&) {});
+    QVERIFY(!held.expired());
+    tasks.cancel();
+    QVERIFY(held.expired());
+    mayEnd.release();
 }
 
 void NewestTaskTest::end_waitsForTheTask()
