@@ -1,5 +1,8 @@
 #include "tests/support/TestDir.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 namespace testsupport {
@@ -26,6 +29,16 @@ QString TestDir::path() const
 QString TestDir::filePath(const QString& name) const
 {
     return m_dir.filePath(name);
+}
+
+QString TestDir::addFile(const QString& name) const
+{
+    const QString path = filePath(name);
+    QFile file(path);
+    if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly)) {
+        qFatal("cannot write %s", qUtf8Printable(path));
+    }
+    return path;
 }
 
 } // namespace testsupport

@@ -19,6 +19,9 @@ public:
     [[nodiscard]] QString path() const;
     /// The path of a file in the folder, which need not exist.
     [[nodiscard]] QString filePath(const QString& name) const;
+    /// Makes an empty file in the folder, with the folders that its name has, and gives its path.
+    /// Ends the test program where that fails.
+    QString addFile(const QString& name) const;
 
 private:
     QTemporaryDir m_dir;

@@ -30,16 +30,6 @@ namespace {
 
 const auto never = [] { return false; };
 
-QString fileIn(const TestDir& dir, const QString& name)
-{
-    QDir().mkpath(QFileInfo(dir.filePath(name)).path());
-    QFile file(dir.filePath(name));
-    if (!file.open(QIODevice::WriteOnly)) {
-        qFatal("cannot write %s", qPrintable(name));
-    }
-    return file.fileName();
-}
-
 QStringList among(const QStringList& paths)
 {
     return DroppedVideos::among(paths, never);
@@ -61,19 +51,19 @@ void DroppedVideosTest::paths_areTheLocalOnes()
 void DroppedVideosTest::videos_areFound_amongOtherFiles()
 {
     const TestDir dir;
-    const QString first = fileIn(dir, QStringLiteral("b ä.mkv"));
-    const QString second = fileIn(dir, QStringLiteral("a.mp4"));
-    QCOMPARE(among({fileIn(dir, QStringLiteral("notes.txt")), first, second, first}),
+    const QString first = dir.addFile(QStringLiteral("b ä.mkv"));
+    const QString second = dir.addFile(QStringLiteral("a.mp4"));
+    QCOMPARE(among({dir.addFile(QStringLiteral("notes.txt")), first, second, first}),
              (QStringList{first, second}));
 }
 
 void DroppedVideosTest::firstFile_isTaken_whenNoneLooksLikeAVideo()
 {
     const TestDir dir;
-    const QString notes = fileIn(dir, QStringLiteral("notes.txt"));
+    const QString notes = dir.addFile(QStringLiteral("notes.txt"));
     QDir(dir.path()).mkdir(QStringLiteral("empty"));
     QCOMPARE(among({dir.filePath(QStringLiteral("empty")), notes,
-                    fileIn(dir, QStringLiteral("more.txt"))}),
+                    dir.addFile(QStringLiteral("more.txt"))}),
              QStringList(notes));
 }
 
@@ -87,13 +77,13 @@ void DroppedVideosTest::nothing_isFound_withoutFiles()
 void DroppedVideosTest::folders_giveTheirVideos_inNaturalOrder()
 {
     const TestDir dir;
-    const QString alone = fileIn(dir, QStringLiteral("alone.mkv"));
-    const QString tenth = fileIn(dir, QStringLiteral("day/Take 10.MP4"));
-    const QString ninth = fileIn(dir, QStringLiteral("day/take 9.mp4"));
-    const QString inner = fileIn(dir, QStringLiteral("day/a/inner.mov"));
-    const QString hidden = fileIn(dir, QStringLiteral("day/.trash/old.mp4"));
-    fileIn(dir, QStringLiteral("day/take 9.jpeg"));
-    fileIn(dir, QStringLiteral("day/notes.txt"));
+    const QString alone = dir.addFile(QStringLiteral("alone.mkv"));
+    const QString tenth = dir.addFile(QStringLiteral("day/Take 10.MP4"));
+    const QString ninth = dir.addFile(QStringLiteral("day/take 9.mp4"));
+    const QString inner = dir.addFile(QStringLiteral("day/a/inner.mov"));
+    const QString hidden = dir.addFile(QStringLiteral("day/.trash/old.mp4"));
+    dir.addFile(QStringLiteral("day/take 9.jpeg"));
+    dir.addFile(QStringLiteral("day/notes.txt"));
     QCOMPARE(among({alone, dir.filePath(QStringLiteral("day"))}),
              (QStringList{alone, ninth, tenth, inner}));
     QVERIFY(QFile::exists(hidden));
@@ -102,7 +92,7 @@ void DroppedVideosTest::folders_giveTheirVideos_inNaturalOrder()
 void DroppedVideosTest::folderWithoutVideos_givesNothing()
 {
     const TestDir dir;
-    fileIn(dir, QStringLiteral("day/notes.txt"));
+    dir.addFile(QStringLiteral("day/notes.txt"));
     QVERIFY(among({dir.filePath(QStringLiteral("day"))}).isEmpty());
 }
 
@@ -110,7 +100,7 @@ void DroppedVideosTest::folderWithoutVideos_givesNothing()
 void DroppedVideosTest::linkedFolder_isNotFollowed()
 {
     const TestDir dir;
-    const QString video = fileIn(dir, QStringLiteral("day/a.mp4"));
+    const QString video = dir.addFile(QStringLiteral("day/a.mp4"));
     QVERIFY(QFile::link(dir.path(), dir.filePath(QStringLiteral("day/up"))));
     QCOMPARE(among({dir.filePath(QStringLiteral("day"))}), QStringList(video));
 }
@@ -119,16 +109,16 @@ void DroppedVideosTest::deepFolders_areLeft()
 {
     const TestDir dir;
     const QString sixteen = QStringLiteral("d/").repeated(16);
-    const QString found = fileIn(dir, sixteen + QStringLiteral("a.mp4"));
-    fileIn(dir, sixteen + QStringLiteral("d/b.mp4"));
+    const QString found = dir.addFile(sixteen + QStringLiteral("a.mp4"));
+    dir.addFile(sixteen + QStringLiteral("d/b.mp4"));
     QCOMPARE(among({dir.filePath(QStringLiteral("d"))}), QStringList(found));
 }
 
 void DroppedVideosTest::cancelled_searchEnds()
 {
     const TestDir dir;
-    fileIn(dir, QStringLiteral("day/a.mp4"));
-    fileIn(dir, QStringLiteral("day/inner/b.mp4"));
+    dir.addFile(QStringLiteral("day/a.mp4"));
+    dir.addFile(QStringLiteral("day/inner/b.mp4"));
     int asked = 0;
     const auto afterTheFirst = [&asked] { return ++asked > 1; };
     const QStringList found =

@@ -27,15 +27,6 @@ namespace {
 
 constexpr int limitMs = 10000;
 
-QString fileIn(const TestDir& dir, const QString& name)
-{
-    QFile file(dir.filePath(name));
-    if (!file.open(QIODevice::WriteOnly)) {
-        qFatal("cannot write %s", qPrintable(name));
-    }
-    return file.fileName();
-}
-
 struct Steps
 {
     QAction next{nullptr};
@@ -48,11 +39,11 @@ struct Steps
 void FolderStepsTest::neighbours_areThoseInNaturalOrder_amongVideos()
 {
     const TestDir dir;
-    const QString ninth = fileIn(dir, QStringLiteral("take 9.mp4"));
-    const QString tenth = fileIn(dir, QStringLiteral("Take 10.MKV"));
-    const QString last = fileIn(dir, QStringLiteral("take 11.webm"));
-    fileIn(dir, QStringLiteral("take 9.5.txt"));
-    fileIn(dir, QStringLiteral("take 10.mkv.part"));
+    const QString ninth = dir.addFile(QStringLiteral("take 9.mp4"));
+    const QString tenth = dir.addFile(QStringLiteral("Take 10.MKV"));
+    const QString last = dir.addFile(QStringLiteral("take 11.webm"));
+    dir.addFile(QStringLiteral("take 9.5.txt"));
+    dir.addFile(QStringLiteral("take 10.mkv.part"));
     QCOMPARE(VideoNames::neighboursOf(tenth).previous, ninth);
     QCOMPARE(VideoNames::neighboursOf(tenth).next, last);
     QCOMPARE(VideoNames::neighboursOf(ninth).previous, QString());
@@ -63,8 +54,8 @@ void FolderStepsTest::neighbours_areThoseInNaturalOrder_amongVideos()
 void FolderStepsTest::neighbours_ofAVideoThatIsGone_areThoseAroundItsPlace()
 {
     const TestDir dir;
-    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
-    const QString c = fileIn(dir, QStringLiteral("c.mp4"));
+    const QString a = dir.addFile(QStringLiteral("a.mp4"));
+    const QString c = dir.addFile(QStringLiteral("c.mp4"));
     const VideoNames::Neighbours around =
         VideoNames::neighboursOf(dir.filePath(QStringLiteral("b.mp4")));
     QCOMPARE(around.previous, a);
@@ -76,8 +67,8 @@ void FolderStepsTest::neighbours_ofAVideoThatIsGone_areThoseAroundItsPlace()
 void FolderStepsTest::actions_areEnabled_whileThereIsAVideo_andTellIt()
 {
     const TestDir dir;
-    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
-    const QString b = fileIn(dir, QStringLiteral("b.mp4"));
+    const QString a = dir.addFile(QStringLiteral("a.mp4"));
+    const QString b = dir.addFile(QStringLiteral("b.mp4"));
     Steps steps;
     QSignalSpy chosen(&steps.steps, &FolderSteps::chosen);
     QVERIFY(!steps.next.isEnabled() && !steps.previous.isEnabled());
@@ -96,13 +87,13 @@ void FolderStepsTest::actions_areEnabled_whileThereIsAVideo_andTellIt()
 void FolderStepsTest::newFile_isNoticed()
 {
     const TestDir dir;
-    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
-    const QString c = fileIn(dir, QStringLiteral("c.mp4"));
+    const QString a = dir.addFile(QStringLiteral("a.mp4"));
+    const QString c = dir.addFile(QStringLiteral("c.mp4"));
     Steps steps;
     QSignalSpy chosen(&steps.steps, &FolderSteps::chosen);
     steps.steps.setVideo(a);
     QTRY_VERIFY_WITH_TIMEOUT(steps.next.isEnabled(), limitMs);
-    const QString b = fileIn(dir, QStringLiteral("b.mp4"));
+    const QString b = dir.addFile(QStringLiteral("b.mp4"));
     const auto next = [&] {
         steps.next.trigger();
         return chosen.takeLast().first().toString();
@@ -116,8 +107,8 @@ void FolderStepsTest::newFile_isNoticed()
 void FolderStepsTest::closedVideo_hasNoNeighbours()
 {
     const TestDir dir;
-    const QString a = fileIn(dir, QStringLiteral("a.mp4"));
-    fileIn(dir, QStringLiteral("b.mp4"));
+    const QString a = dir.addFile(QStringLiteral("a.mp4"));
+    dir.addFile(QStringLiteral("b.mp4"));
     Steps steps;
     steps.steps.setVideo(a);
     // Also when the folder has been looked at already, but not been told.

@@ -26,19 +26,7 @@ using namespace testsupport;
 
 namespace {
 
-constexpr int limitMs = 30000;
-
 const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a second
-
-bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
-{
-    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
-}
-
-void press(int key, Qt::KeyboardModifiers modifiers = {})
-{
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-}
 
 /// All actions in the menus that do something.
 QList<QAction*> entriesOf(const QList<QAction*>& actions)

@@ -56,11 +56,6 @@ const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a sec
 
 const QString interlacedClip = QStringLiteral("fields_mpeg2_tff.ts"); // 25 pictures a second
 
-bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
-{
-    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
-}
-
 /// Reads the profiles anew, as another start would.
 void reloadProfiles(ProfileManager& manager, OpenWindow& window)
 {

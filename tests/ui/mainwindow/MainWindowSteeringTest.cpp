@@ -28,11 +28,6 @@ const QString clip = QStringLiteral("h264_bframes.mp4"); // 100 frames, 25 a sec
 const QString film = QStringLiteral("h264_gop250.mp4");  // 520 frames, 25 a second
 const QString uneven = QStringLiteral("variable_rate.mkv");
 
-bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
-{
-    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
-}
-
 TimeSlider& sliderOf(OpenWindow& window)
 {
     return window.find<TimeSlider>("videoSlider");

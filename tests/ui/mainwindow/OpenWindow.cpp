@@ -7,6 +7,7 @@
 #include <QtAV/AVPlayer.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QTest>
@@ -15,7 +16,7 @@ namespace testsupport {
 
 namespace {
 
-constexpr int limitMs = 30000;
+constexpr int limitMs = 60000;
 
 } // namespace
 
@@ -62,6 +63,16 @@ void OpenWindow::chooseImageProfile(const QString& name)
     auto& box = find<QComboBox>("imageProfileComboBox");
     box.setCurrentIndex(box.findText(name));
     m_window.on_imageProfileComboBox_activated(box.currentIndex());
+}
+
+bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
+{
+    return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, limitMs);
+}
+
+void press(int key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
 }
 
 ImageProfile* addImageProfile(const QString& name, int width)

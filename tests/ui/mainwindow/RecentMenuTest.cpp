@@ -23,15 +23,6 @@ private Q_SLOTS:
 
 namespace {
 
-QString fileIn(const TestDir& dir, const QString& name)
-{
-    QFile file(dir.filePath(name));
-    if (!file.open(QIODevice::WriteOnly)) {
-        qFatal("cannot write %s", qPrintable(name));
-    }
-    return file.fileName();
-}
-
 /// A menu whose settings are in a folder of the case.
 struct Menu
 {
@@ -62,8 +53,8 @@ struct Menu
 void RecentMenuTest::videos_areOffered_theNewestFirst_andChosen()
 {
     const TestDir dir;
-    const QString film = fileIn(dir, QStringLiteral("film.mp4"));
-    const QString both = fileIn(dir, QStringLiteral("this & that.mp4"));
+    const QString film = dir.addFile(QStringLiteral("film.mp4"));
+    const QString both = dir.addFile(QStringLiteral("this & that.mp4"));
     Menu menu(dir);
     QVERIFY(!menu.menu.isEnabled());
     menu.menu.note(film);
@@ -83,13 +74,13 @@ void RecentMenuTest::videos_areOffered_theNewestFirst_andChosen()
 void RecentMenuTest::videosThatAreGone_areNotOffered()
 {
     const TestDir dir;
-    const QString film = fileIn(dir, QStringLiteral("film.mp4"));
+    const QString film = dir.addFile(QStringLiteral("film.mp4"));
     Menu menu(dir);
     menu.menu.note(film);
     QVERIFY(QFile::remove(film));
     QCOMPARE(menu.texts().first(), QStringLiteral("None of them is there"));
     QVERIFY(!menu.menu.actions().first()->isEnabled());
-    fileIn(dir, QStringLiteral("film.mp4"));
+    dir.addFile(QStringLiteral("film.mp4"));
     QCOMPARE(menu.texts().first(), QStringLiteral("film.mp4"));
 }
 
@@ -97,7 +88,7 @@ void RecentMenuTest::list_isCleared()
 {
     const TestDir dir;
     Menu menu(dir);
-    menu.menu.note(fileIn(dir, QStringLiteral("film.mp4")));
+    menu.menu.note(dir.addFile(QStringLiteral("film.mp4")));
     static_cast<void>(menu.texts());
     menu.menu.actions().last()->trigger();
     QVERIFY(!menu.menu.isEnabled());
