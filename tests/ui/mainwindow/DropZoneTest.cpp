@@ -2,19 +2,23 @@
 
 #include "tests/support/TestDir.h"
 
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QFile>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMimeData>
+#include <QPointer>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QUrl>
 #include <QWidget>
 
+#include <chrono>
 #include <cmath>
 
+using namespace std::chrono_literals;
 using testsupport::TestDir;
 
 class DropZoneTest : public QObject
@@ -29,25 +33,19 @@ private Q_SLOTS:
     void folder_isSearched_andItsVideosDropped();
     void dropWithoutVideos_saysSo();
     void newerDrop_takesThePlaceOfTheOlder();
+    void longSearch_showsADialog_untilTheVideosAreFound();
+    void quickSearch_showsNoDialog();
+    void cancelledSearch_dropsNothing_andTheNextHasItsDialogAgain();
 };
 
 namespace {
 
 constexpr int limitMs = 10000;
 
-QString fileIn(const TestDir& dir, const QString& name)
-{
-    QDir().mkpath(QFileInfo(dir.filePath(name)).path());
-    QFile file(dir.filePath(name));
-    if (!file.open(QIODevice::WriteOnly)) {
-        qFatal("cannot write %s", qPrintable(name));
-    }
-    return file.fileName();
-}
-
 struct Zone
 {
-    Zone()
+    explicit Zone(std::chrono::milliseconds patience = DropZone::usualPatience)
+        : zone(*new DropZone(window, patience))
     {
         window.resize(300, 200);
         window.show();
@@ -86,9 +84,33 @@ struct Zone
     const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
     QMimeData data;
     QWidget window;
-    DropZone& zone = *new DropZone(window);
+    DropZone& zone;
     QSignalSpy dropped{&zone, &DropZone::dropped};
     QSignalSpy nothing{&zone, &DropZone::nothingFound};
+};
+
+/// Counts the dialogs that come up while a search lasts, and may press their button at once.
+class Dialogs : public QObject
+{
+public:
+    Dialogs() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* const dialog = qobject_cast<QProgressDialog*>(watched);
+        if (dialog != nullptr && event->type() == QEvent::Show) {
+            ++shown;
+            last = dialog;
+            if (areCancelled) {
+                dialog->findChild<QPushButton*>()->click();
+            }
+        }
+        return false;
+    }
+
+    int shown = 0;
+    bool areCancelled = false;
+    QPointer<QProgressDialog> last;
 };
 
 /// Of a colour, by WCAG.
@@ -118,7 +140,7 @@ void DropZoneTest::highlight_isShown_whileFilesAreOverTheWindow()
     beside.move(20, 20);
     beside.show();
     const QRect before = beside.geometry();
-    zone.offer({fileIn(dir, QStringLiteral("a.mp4"))});
+    zone.offer({dir.addFile(QStringLiteral("a.mp4"))});
     QVERIFY(!zone.highlight().isVisible());
     QVERIFY(zone.enter());
     QVERIFY(zone.highlight().isVisible());
@@ -140,7 +162,7 @@ void DropZoneTest::highlight_isReadable()
         QPalette palette = zone.window.palette();
         palette.setColor(QPalette::Window, ground);
         zone.window.setPalette(palette);
-        zone.offer({fileIn(dir, QStringLiteral("a.mp4"))});
+        zone.offer({dir.addFile(QStringLiteral("a.mp4"))});
         QVERIFY(zone.enter());
         const QImage picture = zone.window.grab().toImage();
         const double seen = std::max(contrast(picture.pixelColor(1, 100), ground),
@@ -164,7 +186,7 @@ void DropZoneTest::oneFile_isDropped_asACopy()
 {
     const TestDir dir;
     Zone zone;
-    const QString video = fileIn(dir, QStringLiteral("a.mp4"));
+    const QString video = dir.addFile(QStringLiteral("a.mp4"));
     zone.offer({video});
     QCOMPARE(zone.drop(), Qt::CopyAction);
     // The other program does not wait for what is made of it.
@@ -177,9 +199,9 @@ void DropZoneTest::folder_isSearched_andItsVideosDropped()
 {
     const TestDir dir;
     Zone zone;
-    const QString ninth = fileIn(dir, QStringLiteral("day/9.mp4"));
-    const QString tenth = fileIn(dir, QStringLiteral("day/10.mp4"));
-    fileIn(dir, QStringLiteral("day/notes.txt"));
+    const QString ninth = dir.addFile(QStringLiteral("day/9.mp4"));
+    const QString tenth = dir.addFile(QStringLiteral("day/10.mp4"));
+    dir.addFile(QStringLiteral("day/notes.txt"));
     zone.offer({dir.filePath(QStringLiteral("day"))});
     QVERIFY(zone.enter());
     QCOMPARE(zone.drop(), Qt::CopyAction);
@@ -193,7 +215,7 @@ void DropZoneTest::dropWithoutVideos_saysSo()
 {
     const TestDir dir;
     Zone zone;
-    fileIn(dir, QStringLiteral("day/notes.txt"));
+    dir.addFile(QStringLiteral("day/notes.txt"));
     zone.offer({dir.filePath(QStringLiteral("day"))});
     QCOMPARE(zone.drop(), Qt::CopyAction);
     QVERIFY(zone.nothing.wait(limitMs));
@@ -204,8 +226,8 @@ void DropZoneTest::newerDrop_takesThePlaceOfTheOlder()
 {
     const TestDir dir;
     Zone zone;
-    const QString second = fileIn(dir, QStringLiteral("b.mp4"));
-    zone.offer({fileIn(dir, QStringLiteral("a.mp4"))});
+    const QString second = dir.addFile(QStringLiteral("b.mp4"));
+    zone.offer({dir.addFile(QStringLiteral("a.mp4"))});
     static_cast<void>(zone.drop());
     zone.offer({second});
     static_cast<void>(zone.drop());
@@ -213,6 +235,64 @@ void DropZoneTest::newerDrop_takesThePlaceOfTheOlder()
     QTest::qWait(50);
     QCOMPARE(zone.dropped.size(), 1);
     QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(second));
+}
+
+void DropZoneTest::longSearch_showsADialog_untilTheVideosAreFound()
+{
+    const TestDir dir;
+    Zone zone{0ms};
+    Dialogs dialogs;
+    const QString video = dir.addFile(QStringLiteral("day/a.mp4"));
+    zone.offer({dir.filePath(QStringLiteral("day"))});
+    static_cast<void>(zone.drop());
+    QVERIFY(zone.dropped.wait(limitMs));
+    QCOMPARE(dialogs.shown, 1);
+    QVERIFY(dialogs.last == nullptr || !dialogs.last->isVisible());
+    QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(video));
+}
+
+void DropZoneTest::quickSearch_showsNoDialog()
+{
+    const TestDir dir;
+    constexpr auto patience = 300ms;
+    Zone zone{patience};
+    Dialogs dialogs;
+    zone.offer({dir.addFile(QStringLiteral("a.mp4"))});
+    QElapsedTimer sinceDrop;
+    sinceDrop.start();
+    static_cast<void>(zone.drop());
+    QVERIFY(zone.dropped.wait(limitMs));
+    if (sinceDrop.hasExpired(patience.count())) {
+        QSKIP("The machine is too busy for a quick search.");
+    }
+    QTest::qWait(int(patience.count()));
+    QCOMPARE(dialogs.shown, 0);
+}
+
+void DropZoneTest::cancelledSearch_dropsNothing_andTheNextHasItsDialogAgain()
+{
+    const TestDir dir;
+    Zone zone{0ms};
+    Dialogs dialogs;
+    dialogs.areCancelled = true;
+    dir.addFile(QStringLiteral("day/a.mp4"));
+    zone.offer({dir.filePath(QStringLiteral("day"))});
+    static_cast<void>(zone.drop());
+    QTRY_VERIFY_WITH_TIMEOUT(!zone.zone.isSearching(), limitMs);
+    QCOMPARE(dialogs.shown, 1);
+    QVERIFY(dialogs.last == nullptr || !dialogs.last->isVisible());
+    QVERIFY(zone.dropped.isEmpty());
+
+    dialogs.areCancelled = false;
+    const QString second = dir.addFile(QStringLiteral("night/b.mp4"));
+    zone.offer({dir.filePath(QStringLiteral("night"))});
+    static_cast<void>(zone.drop());
+    QVERIFY(zone.dropped.wait(limitMs));
+    QCOMPARE(dialogs.shown, 2);
+    // The same thread searches for both, so that the first would have come before.
+    QCOMPARE(zone.dropped.size(), 1);
+    QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(second));
+    QVERIFY(zone.nothing.isEmpty());
 }
 
 QTEST_MAIN(DropZoneTest)
