@@ -16,4 +16,7 @@ void polish(const QWidget& dialog);
 /// built.
 void open(QWidget& dialog, const QSize& letters);
 
+/// The same with a size in pixels.
+void openInPixels(QWidget& dialog, const QSize& pixels);
+
 } // namespace DialogSize
