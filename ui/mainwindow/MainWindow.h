@@ -31,9 +31,9 @@ class FrameProposals;
 class FullScreen;
 class ImageProfile;
 class PlayerSteering;
-class QFileDialog;
 class QPushButton;
 class RecentMenu;
+class SaveDialog;
 class SnapshotMaker;
 class SnapshotSaver;
 struct MadeSnapshot;
@@ -61,10 +61,8 @@ class MainWindow;
 /// MainWindow_menus.cpp, and the ways to a frame that PlayerSteering adds, with the keys, in
 /// MainWindow_steering.cpp.
 ///
-/// Settings: "lastOpenDir", the folder that the save dialog starts in, and "lastSaveDir" in place
-/// of it where the user saved elsewhere; "outputFolder" of the automatic names,
-/// "automaticFileName", "recentFiles", "windowGeometry", "splitterState". User-interface thread
-/// only.
+/// Settings: those of SaveDialog; "outputFolder" of the automatic names, "automaticFileName",
+/// "recentFiles", "windowGeometry", "splitterState". User-interface thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -275,10 +273,7 @@ private:
 
     void showOutputFolder(const QFileInfo& video);
     void noteOutputFolder();
-    void noteSaveFolder();
     void noteOpenFolder(const QFileInfo& video);
-    void followVideoFolder(const QFileInfo& video);
-    void proposeFileName(const QFileInfo& video);
     void noticeMediaStatus();
     void noticeBaseLayer();
     void noticeFailedRead(const QString& reason);
@@ -330,8 +325,6 @@ private:
     [[nodiscard]] WriteResult save(const Saving& saving, const QString& path,
                                    ExistingFile existing);
     void reportSaving(const QString& path, bool success);
-    void saveAs(const QString& chosen);
-    [[nodiscard]] bool isReplacingWanted(const QString& path);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QSettings m_settings;
@@ -356,6 +349,7 @@ private:
     FrameProposals* m_proposals = nullptr; ///< likewise
     QAction* m_bestFramesAction = nullptr; ///< likewise
     const std::unique_ptr<FolderSweeper> m_sweeper;
+    const std::unique_ptr<SaveDialog> m_saveDialog;
     bool m_isEnding = false;    ///< as soon as all is written
     bool m_endsUnasked = false; ///< likewise
     /// The file and the time of the last capture, for messages.
@@ -364,14 +358,9 @@ private:
     QtAV::AVPlayer* m_player = nullptr;
     /// Goes before the window when the application ends.
     QPointer<QtAV::VideoOutput> m_videoOutput;
-    QDir m_lastOpenDir;
-    QDir m_saveDialogDir;
     /// Of the automatic names, as the user chose it; empty for that of the video.
     QString m_outputFolder;
     QString m_lastSavedFile;
-    QString m_saveDialogFileName;
-    QString m_saveDialogNameFilter;
-    QFileDialog* m_saveDialog = nullptr;
     /// Null in a window without a player.
     VolumePopup* m_volumePopup = nullptr;
     /// Milliseconds per step of the slider.
