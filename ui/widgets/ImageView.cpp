@@ -1,18 +1,11 @@
 #include "ui/widgets/ImageView.h"
 
+#include "ui/widgets/LargePicture.h"
 #include "ui/widgets/ZoomGestures.h"
 
 #include <QPainter>
 
 namespace {
-
-/// Making a larger image smaller would keep events waiting.
-constexpr qint64 mostAtOnce = 1920 * 1088;
-
-qint64 area(const QSize& size)
-{
-    return qint64(size.width()) * size.height();
-}
 
 QImage averaged(const QImage& image, const QSize& size)
 {
@@ -115,7 +108,7 @@ const QImage& ImageView::imageFor(QSize pixels)
     if (m_smallImage.size() == pixels) {
         return m_smallImage;
     }
-    if (area(m_image.size()) > mostAtOnce) {
+    if (LargePicture::isLarge(m_image.size())) {
         request(pixels);
         // That of another size till then; at first the whole one, as well as the painter can.
         return m_smallImage.isNull() ? m_image : m_smallImage;
