@@ -9,6 +9,9 @@
 #include "bench/support/Sandbox.h"
 #include "ui/batch/BatchModeDialog.h"
 #include "ui/batch/BatchProcessingDialog.h"
+#include "ui/dialogs/ImageFiltersDialog.h"
+#include "ui/dialogs/ImageProfileDialog.h"
+#include "ui/dialogs/WatermarkProfileDialog.h"
 #include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/MainWindow.h"
 
@@ -88,6 +91,9 @@ public:
             }
         });
         doing("choose image profiles", [this] { chooseProfiles(); });
+        doing("edit an image profile", [this] { editProfile(); });
+        doing("edit a watermark", [this] { editWatermark(); });
+        doing("compare filters", [this] { compareFilters(); });
         doing("zoom the snapshot", [this] { turnWheel("snapshotImageView"); });
         doing("resize the window", [this] { resize(); });
         doing("go back to a snapshot", [this] {
@@ -219,6 +225,61 @@ private:
         box.setCurrentIndex(before);
         m_window.on_imageProfileComboBox_activated(before);
         wait(800);
+    }
+
+    /// Does something in the dialog that opening it brings up, and closes that.
+    template <typename Dialog>
+    void inDialog(const std::function<void()>& open, const std::function<void(Dialog&)>& act)
+    {
+        QTimer::singleShot(500, &m_window, [&act] {
+            auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) {
+                qFatal("the dialog does not open");
+            }
+            act(*dialog);
+            dialog->reject();
+        });
+        open();
+    }
+
+    static void slide(QDialog& dialog, const char* slider)
+    {
+        for (const int value : {10, 20, 30}) {
+            dialog.findChild<QSlider*>(QLatin1String(slider))->setValue(value);
+            wait(800);
+        }
+    }
+
+    void editProfile()
+    {
+        inDialog<ImageProfileDialog>(
+            [this] { find<QPushButton>("editImageProfileButton").click(); },
+            [](ImageProfileDialog& dialog) {
+                slide(dialog, "brightnessSlider");
+                dialog.resize(dialog.size() + QSize(40, 20));
+                wait(800);
+            });
+    }
+
+    void editWatermark()
+    {
+        const auto edit = [this](ImageProfileDialog& profile) {
+            const auto open = [&profile] {
+                profile.findChild<QPushButton*>(QStringLiteral("watermarkProfileEditButton"))
+                    ->click();
+            };
+            inDialog<WatermarkProfileDialog>(
+                open, [](WatermarkProfileDialog& dialog) { slide(dialog, "alphaSlider"); });
+        };
+        inDialog<ImageProfileDialog>(
+            [this] { find<QPushButton>("editImageProfileButton").click(); }, edit);
+    }
+
+    void compareFilters()
+    {
+        inDialog<ImageFiltersDialog>(
+            [this] { find<QAction>("actionImage_Filters_Test").trigger(); },
+            [](ImageFiltersDialog& dialog) { slide(dialog, "brightnessSlider"); });
     }
 
     void resize()

@@ -1,9 +1,9 @@
 #include "ui/dialogs/ImageFiltersDialog.h"
 
 #include "imaging/ImageRecipe.h"
-#include "imaging/Rendering.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "ui/dialogs/PreviewMaker.h"
 #include "ui/dialogs/SamplePicture.h"
 #include "ui_ImageFiltersDialog.h"
 
@@ -30,6 +30,7 @@ ImageFiltersDialog::ImageFiltersDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ImageFiltersDialog>())
     , m_frame(SamplePicture::image())
+    , m_comparison(new PreviewMaker(this))
 {
     m_ui->setupUi(this);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -59,6 +60,9 @@ void ImageFiltersDialog::connectControls()
             [this, showNumber](int value) { showNumber(*m_ui->contrastValueLabel, value); });
     connect(m_ui->filterComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged),
             &m_updateTimer, QOverload<>::of(&QTimer::start));
+    connect(m_comparison, &PreviewMaker::made, this, [this](const QVector<QImage>& pictures) {
+        m_ui->comparisonView->setPictures(pictures.first(), pictures.last());
+    });
     connect(m_ui->closeButton, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -103,11 +107,11 @@ void ImageFiltersDialog::updateImages()
     }
     profile.setWatermarkProfileId(QString());
     enter(profile);
-    const QImage after = imaging::render(m_frame, recipes::of(profile)).image;
+    const ImageRecipe after = recipes::of(profile);
     profile.setImageBrightness(0);
     profile.setImageContrast(0);
     profile.setResizeFilter(ImageProfile::AreaFilter);
-    m_ui->comparisonView->setPictures(imaging::render(m_frame, recipes::of(profile)).image, after);
+    m_comparison->make(m_frame, {recipes::of(profile), after});
 }
 
 void ImageFiltersDialog::on_contrastSlider_sliderMoved(int value)

@@ -7,6 +7,7 @@
 #include <memory>
 
 class ImageProfile;
+class PreviewMaker;
 
 namespace Ui {
 class ImageFiltersDialog;
@@ -50,6 +51,7 @@ private:
 
     std::unique_ptr<Ui::ImageFiltersDialog> m_ui;
     QImage m_frame;
+    PreviewMaker* const m_comparison;
     ImageProfile* m_profile = nullptr;
     QTimer m_updateTimer;
 };

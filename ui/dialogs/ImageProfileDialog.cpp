@@ -1,10 +1,10 @@
 #include "ui/dialogs/ImageProfileDialog.h"
 
 #include "imaging/ImageRecipe.h"
-#include "imaging/Rendering.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
+#include "ui/dialogs/PreviewMaker.h"
 #include "ui/dialogs/SamplePicture.h"
 #include "ui/dialogs/WatermarkProfileDialog.h"
 #include "ui/widgets/DialogSize.h"
@@ -35,6 +35,7 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ImageProfileDialog>())
     , m_exampleImage(SamplePicture::image())
+    , m_comparison(new PreviewMaker(this))
 {
     m_ui->setupUi(this);
     m_updateTimer.setSingleShot(true);
@@ -54,6 +55,7 @@ ImageProfileDialog::ImageProfileDialog(QWidget* parent)
     connectSlider(m_ui->contrastSlider, m_ui->contrastSpinBox, minAdjustment, maxAdjustment);
     setupProfileSelector();
     connect(&m_updateTimer, &QTimer::timeout, this, &ImageProfileDialog::updateImageTimerFired);
+    connect(m_comparison, &PreviewMaker::made, this, &ImageProfileDialog::showComparison);
     DialogSize::open(*this, imageProfileLetters);
 }
 
@@ -75,6 +77,7 @@ void ImageProfileDialog::setVideoDimensions(int width, int height)
 void ImageProfileDialog::setExampleImage(const QImage& image)
 {
     m_exampleImage = image.isNull() ? SamplePicture::image() : image;
+    m_comparison->cancel();
     m_beforeSize.clear();
 }
 
@@ -84,7 +87,7 @@ void ImageProfileDialog::showEvent(QShowEvent* event)
     if (!event->spontaneous()) {
         ImageProfile entered(nullptr);
         m_ui->profileSelector->loadFormIntoProfile(&entered);
-        showComparison(entered);
+        makeComparison(entered);
     }
 }
 
@@ -108,7 +111,7 @@ void ImageProfileDialog::updateImageTimerFired()
     ImageProfile profile(nullptr);
     m_ui->profileSelector->loadFormIntoProfile(&profile);
     if (isVisible()) {
-        showComparison(profile);
+        makeComparison(profile);
     }
     if (m_preview) {
         m_preview(&profile);
@@ -116,20 +119,29 @@ void ImageProfileDialog::updateImageTimerFired()
 }
 
 /// Both pictures have the output size, so that the watermark has its true proportion.
-void ImageProfileDialog::showComparison(const ImageProfile& entered)
+void ImageProfileDialog::makeComparison(const ImageProfile& entered)
 {
     const QVariantList size{entered.sameSizeAsVideo(), entered.imageWidth(), entered.imageHeight(),
                             entered.maintainAspectRatio()};
+    QVector<ImageRecipe> wanted{recipes::of(entered)};
     if (m_beforeSize != size) {
         ImageRecipe plain;
         plain.keepsSize = entered.sameSizeAsVideo();
         plain.bounds = QSize(entered.imageWidth(), entered.imageHeight());
         plain.keepsAspectRatio = entered.maintainAspectRatio();
-        m_before = imaging::render(m_exampleImage, plain).image;
-        m_beforeSize = size;
+        wanted.append(plain);
     }
-    m_ui->comparisonView->setPictures(m_before,
-                                      imaging::render(m_exampleImage, recipes::of(entered)).image);
+    m_askedSize = size;
+    m_comparison->make(m_exampleImage, wanted);
+}
+
+void ImageProfileDialog::showComparison(const QVector<QImage>& pictures)
+{
+    if (pictures.size() > 1) {
+        m_before = pictures.last();
+        m_beforeSize = m_askedSize;
+    }
+    m_ui->comparisonView->setPictures(m_before, pictures.first());
 }
 
 void ImageProfileDialog::on_sameSizeAsVideoCheckbox_toggled(bool checked)

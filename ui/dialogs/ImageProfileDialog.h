@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QTimer>
 #include <QVariantList>
+#include <QVector>
 
 #include <functional>
 #include <memory>
@@ -11,6 +12,7 @@
 
 class Field;
 class ImageProfile;
+class PreviewMaker;
 class QLineEdit;
 class QSlider;
 class QSpinBox;
@@ -71,7 +73,8 @@ private Q_SLOTS:
 private:
     void setupButtons();
     void alignCaptions();
-    void showComparison(const ImageProfile& entered);
+    void makeComparison(const ImageProfile& entered);
+    void showComparison(const QVector<QImage>& pictures);
     void setupWatermarkProfileComboBox();
     void setupResizeFilterComboBox();
     void setupMetadataComboBox();
@@ -92,9 +95,11 @@ private:
     QLineEdit* m_videoWidthDisplay = nullptr;
     QLineEdit* m_videoHeightDisplay = nullptr;
     QImage m_exampleImage;
+    PreviewMaker* const m_comparison;
     /// The example at the size that the profile requests, and the settings that it depends on.
     QImage m_before;
     QVariantList m_beforeSize;
+    QVariantList m_askedSize; ///< the same for what is being made
     Preview m_preview;
     QTimer m_updateTimer;
 };

@@ -1,8 +1,9 @@
 #include "ui/dialogs/WatermarkProfileDialog.h"
 
-#include "imaging/ImageProcessingManager.h"
+#include "imaging/ImageRecipe.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
+#include "ui/dialogs/PreviewMaker.h"
 #include "ui/dialogs/SamplePicture.h"
 #include "ui/dialogs/WatermarkPicture.h"
 #include "ui/widgets/DialogSize.h"
@@ -57,6 +58,7 @@ WatermarkProfileDialog::WatermarkProfileDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::WatermarkProfileDialog>())
     , m_exampleImage(SamplePicture::image())
+    , m_preview(new PreviewMaker(this))
 {
     m_ui->setupUi(this);
     GroupBoxMargins::apply(*this);
@@ -80,6 +82,9 @@ WatermarkProfileDialog::WatermarkProfileDialog(QWidget* parent)
     m_previewTimer.setSingleShot(true);
     connect(&m_previewTimer, &QTimer::timeout, this,
             &WatermarkProfileDialog::updateWatermarkTimerFired);
+    connect(m_preview, &PreviewMaker::made, this, [this](const QVector<QImage>& pictures) {
+        m_ui->watermarkPositioner->setImage(pictures.first());
+    });
     updateWatermark();
 }
 
@@ -166,8 +171,7 @@ void WatermarkProfileDialog::updateWatermarkTimerFired()
     if (WatermarkPicture::isTooLarge(WatermarkProfile::pathForImage(profile.imageFile()))) {
         profile.setImageFile(QString());
     }
-    m_ui->watermarkPositioner->setImage(
-        ImageProcessingManager::instance()->processImage(m_exampleImage, m_imageProfile, &profile));
+    m_preview->make(m_exampleImage, {recipes::of(*m_imageProfile, &profile)});
 }
 
 void WatermarkProfileDialog::on_watermarkTypeTextRadioButton_clicked(bool /*checked*/)

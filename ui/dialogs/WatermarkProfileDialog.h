@@ -10,6 +10,7 @@
 
 class BaseProfile;
 class Field;
+class PreviewMaker;
 class WatermarkProfile;
 
 namespace Ui {
@@ -77,6 +78,7 @@ private:
     std::unique_ptr<Ui::WatermarkProfileDialog> m_ui;
     WatermarkProfile* m_selectedProfile = nullptr;
     QImage m_exampleImage;
+    PreviewMaker* const m_preview;
     ImageProfile m_defaultImageProfile;
     ImageProfile* m_imageProfile = &m_defaultImageProfile;
     QTimer m_previewTimer;

@@ -2,6 +2,7 @@
 
 #include "profiles/ProfileNames.h"
 #include "ui/filmstrip/SnapshotFolder.h"
+#include "ui/widgets/TaskThread.h"
 #include "ui/widgets/TimeText.h"
 
 #include <QFileInfo>

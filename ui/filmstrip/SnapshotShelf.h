@@ -2,7 +2,6 @@
 
 #include "imaging/CapturedPicture.h"
 #include "ui/filmstrip/KeptSnapshot.h"
-#include "ui/filmstrip/TaskThread.h"
 
 #include <QAbstractListModel>
 #include <QImage>
@@ -15,6 +14,7 @@
 #include <optional>
 
 class SnapshotFolder;
+class TaskThread;
 struct SnapshotContents;
 
 /// The snapshots taken, in order: a list for views, which survives the program if it has a folder

@@ -1,18 +1,23 @@
 #include "ui/mainwindow/BestFramesDialog.h"
 
 #include "ui/mainwindow/BestFramesFinder.h"
+#include "ui/widgets/DialogSize.h"
 #include "ui/widgets/TimeText.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr QSize pictureSize{144, 81};
-constexpr QSize cellSize{156, 112};
+/// Between a picture, its time and the edges of their cell.
+constexpr int gap = 6;
+/// As many can be seen without scrolling, however small the dialog is made.
+constexpr int leastCells = 3;
 
 } // namespace
 
@@ -47,11 +52,9 @@ void BestFramesDialog::layOut()
     m_list->setWrapping(false);
     m_list->setFlow(QListView::LeftToRight);
     m_list->setIconSize(pictureSize);
-    m_list->setGridSize(cellSize);
     m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    const int frame = 2 * m_list->frameWidth() + 4;
-    m_list->setMinimumWidth(proposals * cellSize.width() + frame);
-    m_list->setFixedHeight(cellSize.height() + frame);
+    // Errors are long.
+    m_label->setWordWrap(true);
     m_takeButton->setObjectName(QStringLiteral("takeBestButton"));
     m_takeButton->setToolTip(tr("Take a snapshot of the selected frame"));
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
@@ -64,6 +67,17 @@ void BestFramesDialog::layOut()
     layout->addWidget(m_label);
     layout->addWidget(m_list, 1);
     layout->addWidget(buttons);
+    DialogSize::polish(*this);
+    const QSize cell(pictureSize.width() + 2 * gap,
+                     pictureSize.height() + m_list->fontMetrics().height() + 3 * gap);
+    m_list->setGridSize(cell);
+    const int frame = 2 * m_list->frameWidth() + 4;
+    m_list->setMinimumWidth(leastCells * cell.width() + frame);
+    m_list->setFixedHeight(cell.height() + frame +
+                           m_list->horizontalScrollBar()->sizeHint().height());
+    const QMargins margins = layout->contentsMargins();
+    DialogSize::openInPixels(
+        *this, {proposals * cell.width() + frame + margins.left() + margins.right(), 0});
 }
 
 void BestFramesDialog::propose(const QString& video, QtAV::Deinterlacing deinterlacing,

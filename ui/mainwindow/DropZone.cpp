@@ -9,16 +9,10 @@
 #include <QProgressDialog>
 #include <QTimer>
 
-namespace {
-
-/// A shorter search needs no dialog.
-constexpr int patienceMs = 500;
-
-} // namespace
-
-DropZone::DropZone(QWidget& window)
+DropZone::DropZone(QWidget& window, std::chrono::milliseconds patience)
     : QObject(&window)
     , m_window(window)
+    , m_patience(patience)
     , m_highlight(new DropHighlight(window))
 {}
 
@@ -55,12 +49,12 @@ void DropZone::search(const QStringList& paths)
 {
     m_isSearching = true;
     const int search = ++m_search;
+    QTimer::singleShot(m_patience, this, [this, search] { showProgress(search); });
     m_task.start([this, search, paths](const NewestTask::IsCancelled& isCancelled) {
         const QStringList videos = DroppedVideos::among(paths, isCancelled);
         QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, search),
                                   Q_ARG(QStringList, videos));
     });
-    QTimer::singleShot(patienceMs, this, [this, search] { showProgress(search); });
 }
 
 void DropZone::showProgress(int search)
@@ -70,7 +64,6 @@ void DropZone::showProgress(int search)
     }
     m_progress = new QProgressDialog(tr("Looking for videos\u2026"), tr("Cancel"), 0, 0, &m_window);
     m_progress->setObjectName(QStringLiteral("dropProgress"));
-    m_progress->setAttribute(Qt::WA_DeleteOnClose);
     m_progress->setWindowModality(Qt::WindowModal);
     connect(m_progress, &QProgressDialog::canceled, this, &DropZone::cancel);
     m_progress->show();
@@ -81,6 +74,17 @@ void DropZone::cancel()
     ++m_search;
     m_isSearching = false;
     m_task.cancel();
+    hideProgress();
+}
+
+void DropZone::hideProgress()
+{
+    if (m_progress != nullptr) {
+        // It may be the sender of what is handled now.
+        m_progress->hide();
+        m_progress->deleteLater();
+        m_progress.clear();
+    }
 }
 
 void DropZone::take(int search, const QStringList& videos)
@@ -89,11 +93,7 @@ void DropZone::take(int search, const QStringList& videos)
         return;
     }
     m_isSearching = false;
-    if (m_progress != nullptr) {
-        // Closing the dialog would cancel the search.
-        m_progress->disconnect(this);
-        m_progress->close();
-    }
+    hideProgress();
     if (videos.isEmpty()) {
         Q_EMIT nothingFound();
     } else {

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <chrono>
+
 class DropHighlight;
 class QDragEnterEvent;
 class QDropEvent;
@@ -22,8 +24,11 @@ class DropZone : public QObject
     Q_OBJECT
 
 public:
+    /// A search that takes no longer needs no dialog.
+    static constexpr std::chrono::milliseconds usualPatience{500};
+
     /// The window must forward its drag events to this object, which it owns.
-    explicit DropZone(QWidget& window);
+    explicit DropZone(QWidget& window, std::chrono::milliseconds patience = usualPatience);
     ~DropZone() override;
 
     void enter(QDragEnterEvent& event);
@@ -43,9 +48,11 @@ private:
     void search(const QStringList& paths);
     void cancel();
     void showProgress(int search);
+    void hideProgress();
     Q_INVOKABLE void take(int search, const QStringList& videos);
 
     QWidget& m_window;
+    const std::chrono::milliseconds m_patience;
     DropHighlight* const m_highlight;
     QPointer<QProgressDialog> m_progress; ///< exists while a search takes long
     bool m_isSearching = false;

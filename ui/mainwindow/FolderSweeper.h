@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/filmstrip/TaskThread.h"
+#include "ui/widgets/TaskThread.h"
 
 #include <QSet>
 #include <QString>

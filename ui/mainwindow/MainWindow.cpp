@@ -3,6 +3,7 @@
 #include "ui/mainwindow/FolderSweeper.h"
 #include "ui/mainwindow/LanguageMenu.h"
 #include "ui/mainwindow/ReturnKey.h"
+#include "ui/mainwindow/SaveDialog.h"
 #include "ui/widgets/GroupBoxMargins.h"
 #include "ui_MainWindow.h"
 #include "video/ReadingLimits.h"
@@ -17,11 +18,6 @@
 #include <QStatusBar>
 
 namespace {
-
-QDir storedOpenDir(const QSettings& settings)
-{
-    return QDir(settings.value(QStringLiteral("lastOpenDir"), QDir::homePath()).toString());
-}
 
 /// Width of the widest time, so that the row does not move while the digits change.
 int widestTime(const QWidget& widget)
@@ -48,8 +44,7 @@ MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutpu
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
     , m_sweeper(std::make_unique<FolderSweeper>())
-    , m_lastOpenDir(storedOpenDir(m_settings))
-    , m_saveDialogDir(m_lastOpenDir)
+    , m_saveDialog(std::make_unique<SaveDialog>(m_settings))
 {
     m_ui->setupUi(this);
     // Not set in the form: an unchecked group box disables its children while they are still being

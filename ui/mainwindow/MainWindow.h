@@ -31,9 +31,9 @@ class FrameProposals;
 class FullScreen;
 class ImageProfile;
 class PlayerSteering;
-class QFileDialog;
 class QPushButton;
 class RecentMenu;
+class SaveDialog;
 class SnapshotMaker;
 class SnapshotSaver;
 struct MadeSnapshot;
@@ -60,10 +60,8 @@ class MainWindow;
 /// MainWindow_filmstrip.cpp, the best frames in MainWindow_best.cpp, the menus in
 /// MainWindow_menus.cpp, and the keys and navigation of PlayerSteering in MainWindow_steering.cpp.
 ///
-/// Settings: "lastOpenDir", the initial folder of the save dialog, and "lastSaveDir", which
-/// replaces it if the user saved elsewhere; "outputFolder" for automatic names,
-/// "automaticFileName", "recentFiles", "windowGeometry", "splitterState". User-interface thread
-/// only.
+/// Settings: those of SaveDialog; "outputFolder" of the automatic names, "automaticFileName",
+/// "recentFiles", "windowGeometry", "splitterState". User-interface thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -276,10 +274,7 @@ private:
 
     void showOutputFolder(const QFileInfo& video);
     void noteOutputFolder();
-    void noteSaveFolder();
     void noteOpenFolder(const QFileInfo& video);
-    void followVideoFolder(const QFileInfo& video);
-    void proposeFileName(const QFileInfo& video);
     void noticeMediaStatus();
     void noticeBaseLayer();
     void noticeFailedRead(const QString& reason);
@@ -331,8 +326,6 @@ private:
     [[nodiscard]] WriteResult save(const Saving& saving, const QString& path,
                                    ExistingFile existing);
     void reportSaving(const QString& path, bool success);
-    void saveAs(const QString& chosen);
-    [[nodiscard]] bool isReplacingWanted(const QString& path);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QSettings m_settings;
@@ -358,6 +351,7 @@ private:
     FrameProposals* m_proposals = nullptr; ///< created first
     QAction* m_bestFramesAction = nullptr; ///< created first
     const std::unique_ptr<FolderSweeper> m_sweeper;
+    const std::unique_ptr<SaveDialog> m_saveDialog;
     bool m_isEnding = false;    ///< end as soon as everything is written
     bool m_endsUnasked = false; ///< end without asking
     /// The file and time of the last capture, for messages.
@@ -366,14 +360,9 @@ private:
     QtAV::AVPlayer* m_player = nullptr;
     /// Deleted before the window when the application ends.
     QPointer<QtAV::VideoOutput> m_videoOutput;
-    QDir m_lastOpenDir;
-    QDir m_saveDialogDir;
     /// For automatic names, as chosen by the user; empty for the video's folder.
     QString m_outputFolder;
     QString m_lastSavedFile;
-    QString m_saveDialogFileName;
-    QString m_saveDialogNameFilter;
-    QFileDialog* m_saveDialog = nullptr;
     /// Null in a window without a player.
     VolumePopup* m_volumePopup = nullptr;
     /// Milliseconds per step of the slider.

@@ -7,6 +7,7 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "ui/filmstrip/Filmstrip.h"
+#include "ui/mainwindow/SaveDialog.h"
 #include "ui/mainwindow/SnapshotMaker.h"
 #include "ui/mainwindow/SnapshotSaver.h"
 #include "ui_MainWindow.h"
@@ -207,7 +208,7 @@ QString MainWindow::folderForSnapshots()
         return isOutputFolderUsable(automatic) ? automatic.absolutePath() : QString();
     }
     const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("Save Snapshots"), m_saveDialogDir.absolutePath(),
+        this, tr("Save Snapshots"), m_saveDialog->folder(),
         QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     retakeFocusAfterDialog();
     return folder;

@@ -3,6 +3,7 @@
 #include "ui/mainwindow/MainWindow.h"
 
 #include "ui/mainwindow/FullScreen.h"
+#include "ui/mainwindow/SaveDialog.h"
 #include "ui_MainWindow.h"
 
 namespace {
@@ -11,7 +12,6 @@ const QString geometryKey = QStringLiteral("windowGeometry");
 const QString splitterKey = QStringLiteral("splitterState");
 const QString automaticKey = QStringLiteral("automaticFileName");
 const QString outputFolderKey = QStringLiteral("outputFolder");
-const QString saveFolderKey = QStringLiteral("lastSaveDir");
 // The key of the dialog for videos: see SmartFileDialog.
 const QString openFolderKey = QStringLiteral("openDialog_dialogPath");
 
@@ -23,10 +23,7 @@ void MainWindow::restoreLayout()
     m_ui->splitter->restoreState(m_settings.value(splitterKey).toByteArray());
     m_ui->automaticFileNameGroupBox->setChecked(m_settings.value(automaticKey).toBool());
     m_outputFolder = m_settings.value(outputFolderKey).toString();
-    const QString saveFolder = m_settings.value(saveFolderKey).toString();
-    if (!saveFolder.isEmpty() && QDir(saveFolder).exists()) {
-        m_saveDialogDir = QDir(saveFolder);
-    }
+    m_saveDialog->restoreFolder();
 }
 
 void MainWindow::saveLayout()
@@ -56,12 +53,6 @@ void MainWindow::noteOutputFolder()
         QDir::isAbsolutePath(typed) && QDir(typed) != QDir(videoFolder) && isVideoLoaded();
     m_outputFolder = isChosen ? QDir(typed).absolutePath() : QString();
     m_settings.setValue(outputFolderKey, m_outputFolder);
-}
-
-void MainWindow::noteSaveFolder()
-{
-    const bool isChosen = m_saveDialogDir != m_lastOpenDir;
-    m_settings.setValue(saveFolderKey, isChosen ? m_saveDialogDir.absolutePath() : QString());
 }
 
 void MainWindow::noteOpenFolder(const QFileInfo& video)

@@ -3,6 +3,7 @@
 #include "ui/mainwindow/FolderSteps.h"
 #include "ui/mainwindow/FrameProposals.h"
 #include "ui/mainwindow/RecentMenu.h"
+#include "ui/mainwindow/SaveDialog.h"
 #include "ui/mainwindow/VideoZoom.h"
 #include "ui/theme/Icons.h"
 #include "ui/widgets/SmartFileDialog.h"
@@ -134,8 +135,7 @@ void MainWindow::openVideo(QString path)
     m_currentVideoPath = path;
     m_player->play(path);
     volumeChanged(m_volumePopup->volume());
-    proposeFileName(video);
-    followVideoFolder(video);
+    m_saveDialog->follow(video);
     showOutputFolder(video);
     noteOpenFolder(video);
     m_recentMenu->note(path);
@@ -151,28 +151,6 @@ void MainWindow::openVideo(QString path)
     updateSliderUnit();
     tellSnapshotTimes();
     noticeMediaStatus();
-}
-
-/// Keeps the type that the user last saved.
-void MainWindow::proposeFileName(const QFileInfo& video)
-{
-    const QString suffix = QFileInfo(m_saveDialogFileName).suffix();
-    m_saveDialogFileName = video.completeBaseName();
-    if (!suffix.isEmpty()) {
-        m_saveDialogFileName += QLatin1Char('.') + suffix;
-    }
-}
-
-/// Saves pictures in the video's folder unless the user chose another folder.
-void MainWindow::followVideoFolder(const QFileInfo& video)
-{
-    if (m_saveDialogDir.exists() && m_saveDialogDir != m_lastOpenDir) {
-        return;
-    }
-    m_lastOpenDir = video.absoluteDir();
-    m_saveDialogDir = m_lastOpenDir;
-    m_settings.setValue(QStringLiteral("lastOpenDir"), m_lastOpenDir.absolutePath());
-    noteSaveFolder();
 }
 
 void MainWindow::closeVideo()

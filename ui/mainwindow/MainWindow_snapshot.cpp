@@ -9,7 +9,7 @@
 #include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/FolderSweeper.h"
 #include "ui/mainwindow/PlayerSteering.h"
-#include "ui/mainwindow/SavePath.h"
+#include "ui/mainwindow/SaveDialog.h"
 #include "ui/mainwindow/SnapshotMaker.h"
 #include "ui/mainwindow/SpokenEvents.h"
 #include "ui/widgets/ResponsiveWait.h"
@@ -399,52 +399,17 @@ void MainWindow::on_selectOutputFolderButton_clicked()
 
 void MainWindow::setupFileDialogs()
 {
-    m_saveDialog = new QFileDialog(this);
-    m_saveDialog->setObjectName(QStringLiteral("saveDialog"));
-    m_saveDialog->setDirectory(m_saveDialogDir.absolutePath());
-    m_saveDialog->setNameFilters(SavePath::nameFilters());
-    m_saveDialog->setAcceptMode(QFileDialog::AcceptSave);
+    m_saveDialog->makeIn(*this);
 }
 
 void MainWindow::showSaveDialog()
 {
-    m_saveDialog->setDirectory(m_saveDialogDir);
-    if (!m_saveDialogNameFilter.isEmpty()) {
-        m_saveDialog->selectNameFilter(m_saveDialogNameFilter);
-    }
-    m_saveDialog->selectFile(SavePath::nextFree(m_saveDialogDir, m_saveDialogFileName,
-                                                m_saveDialog->selectedNameFilter(),
-                                                QFileInfo(m_currentVideoPath).completeBaseName()));
-    if (m_saveDialog->exec() == QDialog::Accepted) {
-        saveAs(m_saveDialog->selectedFiles().value(0));
-    }
-    retakeFocusAfterDialog();
-}
-
-/// The dialog asked about replacing the name as typed, not the completed one.
-void MainWindow::saveAs(const QString& chosen)
-{
-    const QString path = SavePath::completed(chosen, m_saveDialog->selectedNameFilter());
-    if (path != chosen && QFileInfo::exists(path) && !isReplacingWanted(path)) {
-        return;
-    }
-    if (saveSnapshot(path)) {
-        // Not the dialog's folder, because the name may have been typed with another one.
-        m_saveDialogDir = QFileInfo(path).absoluteDir();
-        m_saveDialogFileName = QFileInfo(path).fileName();
-        m_saveDialogNameFilter = m_saveDialog->selectedNameFilter();
-        noteSaveFolder();
+    const QString path = m_saveDialog->ask(QFileInfo(m_currentVideoPath));
+    if (!path.isEmpty() && saveSnapshot(path)) {
+        m_saveDialog->noteSaved(path);
         showSnapshotSummary();
     }
-}
-
-bool MainWindow::isReplacingWanted(const QString& path)
-{
-    const QString question =
-        tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName());
-    return QMessageBox::question(this, tr("Save Snapshot"), question,
-                                 QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::No) == QMessageBox::Yes;
+    retakeFocusAfterDialog();
 }
 
 void MainWindow::on_actionCopy_Snapshot_triggered()

@@ -2,12 +2,11 @@
 
 #include "ui/mainwindow/MainWindow.h"
 
-#include "imaging/ImageFormats.h"
 #include "profiles/FileNameProfile.h"
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/ReadyProfiles.h"
-#include "ui/mainwindow/SavePath.h"
+#include "ui/mainwindow/SaveDialog.h"
 #include "ui/mainwindow/SnapshotSummary.h"
 #include "ui_MainWindow.h"
 
@@ -34,13 +33,7 @@ QString MainWindow::typeToSave() const
     if (m_ui->automaticFileNameGroupBox->isChecked()) {
         return m_fileNameProfile->fileOutputType();
     }
-    const QString suffix = QFileInfo(m_saveDialogFileName).suffix();
-    if (ImageFormats::canWrite(suffix)) {
-        return suffix;
-    }
-    const QString filter = m_saveDialogNameFilter.isEmpty() ? SavePath::nameFilters().constFirst()
-                                                            : m_saveDialogNameFilter;
-    return QFileInfo(SavePath::completed(QStringLiteral("a"), filter)).suffix();
+    return m_saveDialog->type();
 }
 
 void MainWindow::showSnapshotSummary()

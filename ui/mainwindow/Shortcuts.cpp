@@ -2,6 +2,7 @@
 
 #include "ui/mainwindow/KeyTips.h"
 #include "ui/mainwindow/Mnemonics.h"
+#include "ui/widgets/DialogSize.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -149,7 +150,6 @@ void Shortcuts::showPage(QWidget& window, const QMenuBar& bar)
     auto* const layout = new QVBoxLayout(&dialog);
     layout->addWidget(text);
     layout->addWidget(buttons);
-    const QFontMetrics metrics = dialog.fontMetrics();
-    dialog.resize(metrics.averageCharWidth() * 80, metrics.lineSpacing() * 34);
+    DialogSize::open(dialog, {80, 34});
     dialog.exec();
 }

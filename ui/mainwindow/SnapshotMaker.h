@@ -3,8 +3,8 @@
 #include "imaging/CapturedPicture.h"
 #include "imaging/ImageRecipe.h"
 #include "imaging/Rendering.h"
-#include "ui/filmstrip/TaskThread.h"
 #include "ui/widgets/NewestTask.h"
+#include "ui/widgets/TaskThread.h"
 
 #include <QMetaType>
 #include <QObject>

@@ -21,10 +21,14 @@ void DialogSize::polish(const QWidget& dialog)
 
 void DialogSize::open(QWidget& dialog, const QSize& letters)
 {
-    polish(dialog);
     const QFontMetrics metrics = dialog.fontMetrics();
-    const QSize wanted(letters.width() * metrics.averageCharWidth(),
-                       letters.height() * metrics.lineSpacing());
+    openInPixels(dialog, {letters.width() * metrics.averageCharWidth(),
+                          letters.height() * metrics.lineSpacing()});
+}
+
+void DialogSize::openInPixels(QWidget& dialog, const QSize& pixels)
+{
+    polish(dialog);
     const QSize room = dialog.screen()->availableSize() - frame;
-    dialog.resize(dialog.sizeHint().expandedTo(wanted).boundedTo(room));
+    dialog.resize(dialog.sizeHint().expandedTo(pixels).boundedTo(room));
 }

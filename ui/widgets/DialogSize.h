@@ -15,4 +15,7 @@ void polish(const QWidget& dialog);
 /// that is larger, limited to its screen. Call it once the form is built.
 void open(QWidget& dialog, const QSize& letters);
 
+/// The same with a size in pixels.
+void openInPixels(QWidget& dialog, const QSize& pixels);
+
 } // namespace DialogSize

@@ -1,18 +1,11 @@
 #include "ui/widgets/ImageView.h"
 
+#include "ui/widgets/LargePicture.h"
 #include "ui/widgets/ZoomGestures.h"
 
 #include <QPainter>
 
 namespace {
-
-/// Scaling a larger image down would delay events.
-constexpr qint64 mostAtOnce = 1920 * 1088;
-
-qint64 area(const QSize& size)
-{
-    return qint64(size.width()) * size.height();
-}
 
 QImage averaged(const QImage& image, const QSize& size)
 {
@@ -115,7 +108,7 @@ const QImage& ImageView::imageFor(QSize pixels)
     if (m_smallImage.size() == pixels) {
         return m_smallImage;
     }
-    if (area(m_image.size()) > mostAtOnce) {
+    if (LargePicture::isLarge(m_image.size())) {
         request(pixels);
         // Until then the previous one; initially the whole image, as well as the painter can scale
         // it.

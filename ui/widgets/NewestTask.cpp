@@ -1,73 +1,37 @@
 #include "ui/widgets/NewestTask.h"
 
-#include <system_error>
+#include <atomic>
 #include <utility>
+
+struct NewestTask::Job
+{
+    Task task; ///< taken by the thread when it begins
+    std::atomic<bool> isCancelled{false};
+};
 
 NewestTask::~NewestTask()
 {
-    if (!m_thread.joinable()) {
-        return;
-    }
     cancel();
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_isEnding = true;
-    }
-    m_hasNews.notify_one();
-    m_thread.join();
 }
 
 void NewestTask::start(Task task)
 {
     cancel();
-    if (!isStarted()) {
-        task([] { return false; });
-        return;
-    }
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_next = std::move(task);
-        m_cancelsNext = std::make_shared<std::atomic<bool>>(false);
-    }
-    m_hasNews.notify_one();
+    m_newest = std::make_shared<Job>();
+    m_newest->task = std::move(task);
+    // A job that is cancelled while it waits is gone at once, with all that its task holds.
+    m_thread.post([waiting = std::weak_ptr<Job>(m_newest)] {
+        if (const std::shared_ptr<Job> job = waiting.lock()) {
+            const Task begun = std::exchange(job->task, nullptr);
+            begun([job] { return job->isCancelled.load(); });
+        }
+    });
 }
 
 void NewestTask::cancel()
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_next = nullptr;
-    if (m_cancelsRunning != nullptr) {
-        *m_cancelsRunning = true;
-    }
-}
-
-bool NewestTask::isStarted()
-{
-    if (m_thread.joinable()) {
-        return true;
-    }
-    try {
-        m_thread = std::thread([this] { run(); });
-    } catch (const std::system_error&) {
-        return false;
-    }
-    return true;
-}
-
-void NewestTask::run()
-{
-    std::unique_lock<std::mutex> lock(m_mutex);
-    for (;;) {
-        m_hasNews.wait(lock, [this] { return m_isEnding || m_next != nullptr; });
-        if (m_isEnding) {
-            return;
-        }
-        const Task task = std::exchange(m_next, nullptr);
-        const auto flag = m_cancelsNext;
-        m_cancelsRunning = flag;
-        lock.unlock();
-        task([flag] { return flag->load(); });
-        lock.lock();
-        m_cancelsRunning.reset();
+    if (m_newest != nullptr) {
+        m_newest->isCancelled = true;
+        m_newest.reset();
     }
 }

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <atomic>
-#include <condition_variable>
+#include "ui/widgets/TaskThread.h"
+
 #include <functional>
 #include <memory>
-#include <mutex>
-#include <thread>
 
 /// A thread that carries out only the newest task: a new one cancels the running task, and replaces
 /// one that waits.
@@ -31,15 +29,8 @@ public:
     void cancel();
 
 private:
-    [[nodiscard]] bool isStarted();
-    void run();
+    struct Job;
 
-    std::thread m_thread;
-    std::mutex m_mutex;
-    std::condition_variable m_hasNews;
-    // Guarded by m_mutex.
-    Task m_next;
-    std::shared_ptr<std::atomic<bool>> m_cancelsNext;
-    std::shared_ptr<std::atomic<bool>> m_cancelsRunning;
-    bool m_isEnding = false;
+    std::shared_ptr<Job> m_newest; ///< null once it is cancelled
+    TaskThread m_thread;
 };

@@ -1,5 +1,6 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/WatermarkProfile.h"
+#include "tests/support/TestDir.h"
 #include "tests/ui/dialogs/support/DialogDriving.h"
 #include "tests/ui/dialogs/support/DialogFit.h"
 #include "tests/ui/dialogs/support/TestProfiles.h"
@@ -8,12 +9,19 @@
 #include "ui/dialogs/ImageFiltersDialog.h"
 #include "ui/dialogs/ImageProfileDialog.h"
 #include "ui/dialogs/WatermarkProfileDialog.h"
+#include "ui/mainwindow/BestFramesDialog.h"
+#include "ui/mainwindow/Shortcuts.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <memory>
@@ -33,6 +41,12 @@ void addFontSizes()
     QTest::newRow("large font") << testsupport::largeFont;
 }
 
+bool isInsideTheScreen(const QWidget& window)
+{
+    const QSize room = window.screen()->availableSize();
+    return window.width() <= room.width() && window.height() <= room.height();
+}
+
 } // namespace
 
 /// Checks the dialogs in the program's style.
@@ -50,6 +64,10 @@ private Q_SLOTS:
     void imageProfileDialog_showsEverything_atItsLeastSize_data();
     void imageProfileDialog_showsEverything_atItsLeastSize();
     void imageProfileDialog_keepsItsSize_withTheVideosSize();
+    void bestFramesDialog_showsEverything_atItsLeastSize_data();
+    void bestFramesDialog_showsEverything_atItsLeastSize();
+    void pageOfKeys_showsEverything_atItsLeastSize_data();
+    void pageOfKeys_showsEverything_atItsLeastSize();
 };
 
 void DialogLayoutTest::everyDialog_hasOneDefaultButton_andEndsByEscape()
@@ -165,6 +183,55 @@ void DialogLayoutTest::imageProfileDialog_keepsItsSize_withTheVideosSize()
     QVERIFY(std::any_of(displays.begin(), displays.end(), [editor](const QLineEdit* edit) {
         return edit->isVisible() && !edit->isEnabled() && edit->geometry() == editor;
     }));
+}
+
+void DialogLayoutTest::bestFramesDialog_showsEverything_atItsLeastSize_data()
+{
+    addFontSizes();
+}
+
+/// With what it says of a video that cannot be read.
+void DialogLayoutTest::bestFramesDialog_showsEverything_atItsLeastSize()
+{
+    QFETCH(double, factor);
+    const ProgramLook look(factor);
+    const testsupport::TestDir dir;
+    BestFramesDialog dialog;
+    const QString video = dir.makeFile(QStringLiteral("Harbour in the Morning.mp4"));
+    const auto& label = *dialog.findChild<QLabel*>();
+    dialog.propose(video, QtAV::Deinterlacing::Off, {0, 2000});
+    QVERIFY(isInsideTheScreen(dialog));
+    QVERIFY(label.text().startsWith(QStringLiteral("Looking")));
+    QTRY_VERIFY(!label.text().startsWith(QStringLiteral("Looking")));
+    QVERIFY(!label.text().isEmpty());
+    QCOMPARE(misfits(dialog), QString());
+}
+
+void DialogLayoutTest::pageOfKeys_showsEverything_atItsLeastSize_data()
+{
+    addFontSizes();
+}
+
+void DialogLayoutTest::pageOfKeys_showsEverything_atItsLeastSize()
+{
+    QFETCH(double, factor);
+    const ProgramLook look(factor);
+    QWidget window;
+    QMenuBar bar(&window);
+    QAction* const action = bar.addMenu(QStringLiteral("Edit"))->addAction(QStringLiteral("Copy"));
+    action->setShortcut(QKeySequence::Copy);
+    window.show();
+    bool isInside = false;
+    QString found = QStringLiteral("never shown");
+    QTimer::singleShot(0, &window, [&] {
+        auto* const page = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        isInside = isInsideTheScreen(*page);
+        found = misfits(*page);
+        page->close();
+    });
+    Shortcuts::showPage(window, bar);
+    QVERIFY(isInside);
+    QCOMPARE(found, QString());
 }
 
 QTEST_MAIN(DialogLayoutTest)

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void preview_followsTheReset();
     void preview_isLeftOut_whereThereIsNone();
     void comparison_showsTheFrame_beforeAndAfter();
+    void comparison_showsALargeFrame_andFollowsTheNextOne();
     void watermarks_areNoneAndTheProfiles();
     void watermarks_areNone_whenThereIsNoProfile();
     void watermark_isThatOfTheProfile_data();
@@ -237,6 +238,33 @@ void ImageProfileDialogPreviewTest::comparison_showsTheFrame_beforeAndAfter()
     child<QSpinBox>(dialog, "brightnessSpinBox").setValue(-50);
     QTRY_COMPARE(greyAt(0.8), 50);
     QCOMPARE(greyAt(0.2), 100);
+}
+
+/// It is made in the background.
+void ImageProfileDialogPreviewTest::comparison_showsALargeFrame_andFollowsTheNextOne()
+{
+    const TestProfiles profiles;
+    auto& profile = profiles.add<ImageProfile>(textOf("mine"));
+    profile.setSameSizeAsVideo(true);
+    profile.setImageBrightness(40);
+    ImageProfileDialog dialog(nullptr);
+    dialog.setSelectedProfile(&profile);
+    QImage frame(3840, 2160, QImage::Format_RGB888);
+    frame.fill(QColor(100, 100, 100));
+    dialog.setExampleImage(frame);
+    QVERIFY(testsupport::showActive(dialog));
+    auto& view = child<ComparisonView>(dialog, "comparisonView");
+    const auto greyAt = [&view](double part) {
+        const QImage shown = view.grab().toImage();
+        return qRed(shown.pixel(int(part * shown.width()), shown.height() / 2));
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(greyAt(0.8), 140, PatienceMs);
+    QCOMPARE(greyAt(0.2), 100);
+    frame.fill(QColor(50, 50, 50));
+    dialog.updateImage();
+    dialog.setExampleImage(frame);
+    QTRY_COMPARE_WITH_TIMEOUT(greyAt(0.8), 90, PatienceMs);
+    QCOMPARE(greyAt(0.2), 50);
 }
 
 void ImageProfileDialogPreviewTest::watermarks_areNoneAndTheProfiles()

@@ -3,20 +3,24 @@
 #include "tests/support/Patience.h"
 #include "tests/support/TestDir.h"
 
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QFile>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMimeData>
+#include <QPointer>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QUrl>
 #include <QWidget>
 
+#include <chrono>
 #include <cmath>
 
 using testsupport::patienceMs;
+using namespace std::chrono_literals;
 using testsupport::TestDir;
 
 class DropZoneTest : public QObject
@@ -31,13 +35,17 @@ private Q_SLOTS:
     void folder_isSearched_andItsVideosDropped();
     void dropWithoutVideos_saysSo();
     void newerDrop_takesThePlaceOfTheOlder();
+    void longSearch_showsADialog_untilTheVideosAreFound();
+    void quickSearch_showsNoDialog();
+    void cancelledSearch_dropsNothing_andTheNextHasItsDialogAgain();
 };
 
 namespace {
 
 struct Zone
 {
-    Zone()
+    explicit Zone(std::chrono::milliseconds patience = DropZone::usualPatience)
+        : zone(*new DropZone(window, patience))
     {
         window.resize(300, 200);
         window.show();
@@ -76,9 +84,33 @@ struct Zone
     const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
     QMimeData data;
     QWidget window;
-    DropZone& zone = *new DropZone(window);
+    DropZone& zone;
     QSignalSpy dropped{&zone, &DropZone::dropped};
     QSignalSpy nothing{&zone, &DropZone::nothingFound};
+};
+
+/// Counts the dialogs that come up while a search lasts, and may press their button at once.
+class Dialogs : public QObject
+{
+public:
+    Dialogs() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* const dialog = qobject_cast<QProgressDialog*>(watched);
+        if (dialog != nullptr && event->type() == QEvent::Show) {
+            ++shown;
+            last = dialog;
+            if (areCancelled) {
+                dialog->findChild<QPushButton*>()->click();
+            }
+        }
+        return false;
+    }
+
+    int shown = 0;
+    bool areCancelled = false;
+    QPointer<QProgressDialog> last;
 };
 
 /// Relative luminance of a colour, by WCAG.
@@ -203,6 +235,64 @@ void DropZoneTest::newerDrop_takesThePlaceOfTheOlder()
     QTest::qWait(50);
     QCOMPARE(zone.dropped.size(), 1);
     QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(second));
+}
+
+void DropZoneTest::longSearch_showsADialog_untilTheVideosAreFound()
+{
+    const TestDir dir;
+    Zone zone{0ms};
+    Dialogs dialogs;
+    const QString video = dir.makeFile(QStringLiteral("day/a.mp4"));
+    zone.offer({dir.filePath(QStringLiteral("day"))});
+    static_cast<void>(zone.drop());
+    QVERIFY(zone.dropped.wait(patienceMs));
+    QCOMPARE(dialogs.shown, 1);
+    QVERIFY(dialogs.last == nullptr || !dialogs.last->isVisible());
+    QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(video));
+}
+
+void DropZoneTest::quickSearch_showsNoDialog()
+{
+    const TestDir dir;
+    constexpr auto patience = 300ms;
+    Zone zone{patience};
+    Dialogs dialogs;
+    zone.offer({dir.makeFile(QStringLiteral("a.mp4"))});
+    QElapsedTimer sinceDrop;
+    sinceDrop.start();
+    static_cast<void>(zone.drop());
+    QVERIFY(zone.dropped.wait(patienceMs));
+    if (sinceDrop.hasExpired(patience.count())) {
+        QSKIP("The machine is too busy for a quick search.");
+    }
+    QTest::qWait(int(patience.count()));
+    QCOMPARE(dialogs.shown, 0);
+}
+
+void DropZoneTest::cancelledSearch_dropsNothing_andTheNextHasItsDialogAgain()
+{
+    const TestDir dir;
+    Zone zone{0ms};
+    Dialogs dialogs;
+    dialogs.areCancelled = true;
+    dir.makeFile(QStringLiteral("day/a.mp4"));
+    zone.offer({dir.filePath(QStringLiteral("day"))});
+    static_cast<void>(zone.drop());
+    QTRY_VERIFY_WITH_TIMEOUT(!zone.zone.isSearching(), patienceMs);
+    QCOMPARE(dialogs.shown, 1);
+    QVERIFY(dialogs.last == nullptr || !dialogs.last->isVisible());
+    QVERIFY(zone.dropped.isEmpty());
+
+    dialogs.areCancelled = false;
+    const QString second = dir.makeFile(QStringLiteral("night/b.mp4"));
+    zone.offer({dir.filePath(QStringLiteral("night"))});
+    static_cast<void>(zone.drop());
+    QVERIFY(zone.dropped.wait(patienceMs));
+    QCOMPARE(dialogs.shown, 2);
+    // The same thread searches for both, so that the first would have come before.
+    QCOMPARE(zone.dropped.size(), 1);
+    QCOMPARE(zone.dropped.first().first().toStringList(), QStringList(second));
+    QVERIFY(zone.nothing.isEmpty());
 }
 
 QTEST_MAIN(DropZoneTest)

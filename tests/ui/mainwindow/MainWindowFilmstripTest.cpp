@@ -72,9 +72,8 @@ public:
     {
         player().setPosition(ms);
         const int before = shelf().rowCount();
-        const auto isThere = [this, ms] { return player().displayPosition() == ms; };
         const auto isTaken = [this, before] { return shelf().rowCount() > before; };
-        if (!QTest::qWaitFor(isThere, patienceMs)) {
+        if (!waitForPosition(player(), ms)) {
             qFatal("the frame is not shown");
         }
         window().snapshotButtonPressed();

@@ -46,11 +46,6 @@ private Q_SLOTS:
 
 namespace {
 
-void press(int key, Qt::KeyboardModifiers modifiers = {})
-{
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-}
-
 /// Presses a button of the next message box, identified by its text.
 void pressInNextBox(QObject& owner, const QString& text)
 {

@@ -27,11 +27,6 @@ using namespace testsupport;
 
 namespace {
 
-void press(int key, Qt::KeyboardModifiers modifiers = {})
-{
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-}
-
 /// All menu entries with an action.
 QList<QAction*> entriesOf(const QList<QAction*>& actions)
 {

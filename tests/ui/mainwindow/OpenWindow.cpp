@@ -8,6 +8,7 @@
 #include "tests/support/Samples.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QTest>
@@ -62,6 +63,11 @@ void OpenWindow::chooseImageProfile(const QString& name)
 bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms)
 {
     return QTest::qWaitFor([&player, ms] { return player.displayPosition() == ms; }, patienceMs);
+}
+
+void press(int key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
 }
 
 ImageProfile* addImageProfile(const QString& name, int width)

@@ -59,8 +59,12 @@ private:
     MainWindow m_window;
 };
 
-/// Waits until the frame at this time is on screen. False when that takes too long.
+/// Waits until the frame of that time is on screen, in milliseconds. False when that takes too
+/// long.
 [[nodiscard]] bool waitForPosition(const QtAV::AVPlayer& player, qint64 ms);
+
+/// Presses a key where the keyboard is.
+void press(int key, Qt::KeyboardModifiers modifiers = {});
 
 /// Adds an image profile of that name and width to those of all windows, which own it.
 ImageProfile* addImageProfile(const QString& name, int width);

@@ -6,6 +6,9 @@
 #include <QTest>
 
 #include <atomic>
+#include <memory>
+#include <thread>
+#include <utility>
 
 using testsupport::patienceMs;
 
@@ -17,6 +20,7 @@ private Q_SLOTS:
     void task_runsInAnotherThread();
     void newerTask_cancelsTheRunningOne_andReplacesTheWaitingOne();
     void cancel_returnsAtOnce_whileTheTaskRunsOn();
+    void cancel_dropsAtOnce_whatAWaitingTaskHolds();
     void end_waitsForTheTask();
 };
 
@@ -78,6 +82,26 @@ void NewestTaskTest::cancel_returnsAtOnce_whileTheTaskRunsOn()
         mayEnd.release();
     }
     QVERIFY(wasCancelled);
+}
+
+/// Such tasks hold large pictures.
+void NewestTaskTest::cancel_dropsAtOnce_whatAWaitingTaskHolds()
+{
+    QSemaphore begun;
+    QSemaphore mayEnd;
+    NewestTask tasks;
+    tasks.start([&](const NewestTask::IsCancelled&) {
+        begun.release();
+        mayEnd.tryAcquire(1, patienceMs);
+    });
+    QVERIFY(begun.tryAcquire(1, patienceMs));
+    auto picture = std::make_shared<int>(0);
+    const std::weak_ptr<int> held = picture;
+    tasks.start([picture = std::move(picture)](const NewestTask::IsCancelled&) {});
+    QVERIFY(!held.expired());
+    tasks.cancel();
+    QVERIFY(held.expired());
+    mayEnd.release();
 }
 
 void NewestTaskTest::end_waitsForTheTask()

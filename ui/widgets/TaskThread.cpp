@@ -1,4 +1,4 @@
-#include "ui/filmstrip/TaskThread.h"
+#include "ui/widgets/TaskThread.h"
 
 #include <system_error>
 #include <utility>
