@@ -104,8 +104,10 @@ constexpr std::chrono::milliseconds usualPositionTimeout{60000};
 
 struct SeriesOptions
 {
-    int lanes = 0;          ///< how many decoders work side by side; 0 for one a core
-    qint64 memoryBytes = 0; ///< for pictures that wait for their turn; 0 for the default
+    int lanes = 0; ///< how many decoders work side by side; 0 for one a core
+    /// For pictures that wait for their turn; 0 for the default. Where pictures are so large that
+    /// one of each lane takes more than that and than pictureBytes, fewer lanes work at once.
+    qint64 memoryBytes = 0;
     /// What one picture of a video may take, see QtAV::usualPictureBytes.
     qint64 pictureBytes = QtAV::usualPictureBytes;
     /// How long one position may take, or the opening of a video; 0 for any time. Reading a video

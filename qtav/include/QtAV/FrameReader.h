@@ -67,6 +67,9 @@ public:
     /// What one picture may take in memory, in bytes, from the next open() on.
     void setPictureMemory(qint64 bytes) { m_pictureMemory = bytes; }
 
+    /// What one picture of the open video takes in memory, see VideoDecoder; 0 when none is open.
+    [[nodiscard]] qint64 pictureBytes() const { return m_decoder ? m_decoder->pictureBytes() : 0; }
+
     /// Once it has passed no picture is decoded any more, however many a packet holds; from the
     /// next open() on. It ends no waiting for the disk: that is for IsCancelled.
     void setDeadline(std::shared_ptr<const Deadline> deadline) { m_deadline = std::move(deadline); }

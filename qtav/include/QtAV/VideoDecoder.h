@@ -34,8 +34,14 @@ public:
     void setCodecContext(const VideoCodecContext* context);
 
     /// What one picture may take in memory, in bytes (see usualPictureBytes), from the next open()
-    /// on. Larger pictures are refused, where the stream declares them by open() itself.
+    /// on. Larger pictures are refused, where the stream declares them by open() itself; and so is
+    /// a picture when those that the decoder keeps for others would take more than twice as much,
+    /// beside one for each of its threads.
     void setPictureMemory(qint64 bytes);
+
+    /// What one picture of the stream takes in memory, decoded and as an image, by what the stream
+    /// declares; 0 before setCodecContext().
+    [[nodiscard]] qint64 pictureBytes() const;
 
     /// No picture is begun after it: decode() fails then. Null for none; from the next open() on.
     void setDeadline(std::shared_ptr<const Deadline> deadline);
