@@ -30,12 +30,13 @@ qint64 bytesOf(const SeriesPicture& picture)
 } // namespace
 
 SeriesBoard::SeriesBoard(const QVector<SeriesJob>& jobs, SeriesOutput& output,
-                         const QtAV::IsCancelled& isCancelled, int lanes, qint64 memoryBytes)
+                         const QtAV::IsCancelled& isCancelled, const SeriesOptions& options)
     : m_jobs(jobs)
     , m_output(output)
     , m_isCancelled(isCancelled)
-    , m_lanes(lanes)
-    , m_memoryBytes(memoryBytes)
+    , m_lanes(options.lanes)
+    , m_memoryBytes(options.memoryBytes)
+    , m_mostWorkingBytes(std::max(options.memoryBytes, options.pictureBytes))
     , m_videos(static_cast<size_t>(jobs.size()))
 {}
 
@@ -200,6 +201,41 @@ void SeriesBoard::extendBack(int video, int stretch, qint64 fromMs)
 bool SeriesBoard::isAtHead(int video, int stretch) const
 {
     return video == m_head && stretch == m_videos[static_cast<size_t>(video)].stretch;
+}
+
+bool SeriesBoard::entersNow(int video, int stretch, qint64 pictureBytes)
+{
+    const bool hasRoom = m_workingBytes + pictureBytes <= m_mostWorkingBytes;
+    if (!hasRoom && m_workingBytes > 0 && !isAtHead(video, stretch)) {
+        return false;
+    }
+    m_workingBytes += pictureBytes;
+    return true;
+}
+
+bool SeriesBoard::enter(int video, int stretch, qint64 pictureBytes)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return entersNow(video, stretch, pictureBytes);
+}
+
+bool SeriesBoard::waitToEnter(int video, int stretch, qint64 pictureBytes)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    while (!m_isCancelled()) {
+        if (entersNow(video, stretch, pictureBytes)) {
+            return true;
+        }
+        m_changed.wait_for(lock, patience);
+    }
+    return false;
+}
+
+void SeriesBoard::leave(qint64 pictureBytes)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_workingBytes -= pictureBytes;
+    m_changed.notify_all();
 }
 
 bool SeriesBoard::deliver(int video, int stretch, Delivery delivery)

@@ -43,7 +43,7 @@ public:
     };
 
     SeriesBoard(const QVector<SeriesJob>& jobs, SeriesOutput& output,
-                const QtAV::IsCancelled& isCancelled, int lanes, qint64 memoryBytes);
+                const QtAV::IsCancelled& isCancelled, const SeriesOptions& options);
 
     /// Tells the output about the targets of a video before it is asked about each.
     void announce(int video, const QVector<SeriesTarget>& targets)
@@ -71,6 +71,15 @@ public:
 
     /// The part of the video that a stretch covers.
     [[nodiscard]] SeriesPlan::Stretch stretch(int video, int stretch) const;
+
+    /// Whether a lane may decode in the stretch now: while several do, what one picture takes of
+    /// each of them fits into the memory for pictures. The lane that the output waits for always
+    /// may. Says leave() when it is done.
+    [[nodiscard]] bool enter(int video, int stretch, qint64 pictureBytes);
+
+    /// The same, but waits. False once cancelled.
+    [[nodiscard]] bool waitToEnter(int video, int stretch, qint64 pictureBytes);
+    void leave(qint64 pictureBytes);
 
     /// Takes the stretch's next target; nothing if it has no more.
     [[nodiscard]] std::optional<int> take(int video, int stretch);
@@ -119,12 +128,14 @@ private:
     [[nodiscard]] bool drainOne(std::unique_lock<std::mutex>& lock);
     void giveNext(std::unique_lock<std::mutex>& lock, StretchState& stretch);
     [[nodiscard]] bool isAtHead(int video, int stretch) const;
+    [[nodiscard]] bool entersNow(int video, int stretch, qint64 pictureBytes);
 
     const QVector<SeriesJob>& m_jobs;
     SeriesOutput& m_output;
     const QtAV::IsCancelled& m_isCancelled;
     const int m_lanes;
     const qint64 m_memoryBytes;
+    const qint64 m_mostWorkingBytes;
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
@@ -134,5 +145,6 @@ private:
     int m_opening = 0;
     int m_head = 0; ///< video whose pictures the output is receiving
     qint64 m_waitingBytes = 0;
+    qint64 m_workingBytes = 0; ///< of one picture of each lane that decodes
     bool m_isDraining = false;
 };

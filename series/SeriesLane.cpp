@@ -260,23 +260,51 @@ void SeriesLane::walk(const Task& task)
 {
     QString error;
     if (open(task.video, error)) {
-        beginPosition();
-        m_reader.setThreads(task.threads);
-        m_knowsKeyFrames = !m_board.plan(task.video).keyFramesMs.isEmpty();
-        m_lastSeconds.reset();
-        switch (m_jobs.at(task.video).positions.kind) {
-        case FramePositions::Kind::KeyFrames:
-            error = walkKeyFrames(task);
-            break;
-        case FramePositions::Kind::Scenes:
-            error = walkScenes(task);
-            break;
-        default:
-            walkTargets(task);
-            break;
+        const qint64 pictureBytes = m_reader.pictureBytes();
+        if (enter(task, error)) {
+            error = walkStretch(task);
+            m_board.leave(pictureBytes);
         }
     }
     m_board.finished(task.video, task.stretch, error);
+}
+
+/// Waits until there is memory for pictures of that size, without those that the decoder keeps.
+/// False where that was in vain.
+bool SeriesLane::enter(const Task& task, QString& error)
+{
+    const qint64 pictureBytes = m_reader.pictureBytes();
+    if (m_board.enter(task.video, task.stretch, pictureBytes)) {
+        return true;
+    }
+    m_video = -1;
+    m_second.reset();
+    m_reader.close();
+    if (!m_board.waitToEnter(task.video, task.stretch, pictureBytes)) {
+        return false;
+    }
+    const bool isOpen = open(task.video, error);
+    if (!isOpen) {
+        m_board.leave(pictureBytes);
+    }
+    return isOpen;
+}
+
+QString SeriesLane::walkStretch(const Task& task)
+{
+    beginPosition();
+    m_reader.setThreads(task.threads);
+    m_knowsKeyFrames = !m_board.plan(task.video).keyFramesMs.isEmpty();
+    m_lastSeconds.reset();
+    switch (m_jobs.at(task.video).positions.kind) {
+    case FramePositions::Kind::KeyFrames:
+        return walkKeyFrames(task);
+    case FramePositions::Kind::Scenes:
+        return walkScenes(task);
+    default:
+        walkTargets(task);
+        return {};
+    }
 }
 
 void SeriesLane::walkTargets(const Task& task)

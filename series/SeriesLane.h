@@ -39,6 +39,8 @@ private:
     [[nodiscard]] bool isGivenUp() const;
 
     void walk(const Task& task);
+    [[nodiscard]] bool enter(const Task& task, QString& error);
+    [[nodiscard]] QString walkStretch(const Task& task);
     void walkTargets(const Task& task);
     [[nodiscard]] bool walkTarget(const Task& task, int index);
     void begin(const Task& task);

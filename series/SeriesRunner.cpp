@@ -78,17 +78,16 @@ qint64 series::defaultMemoryBytes()
 bool series::run(const QVector<SeriesJob>& jobs, SeriesOutput& output,
                  const QtAV::IsCancelled& isCancelled, const SeriesOptions& options)
 {
-    const int lanes = options.lanes > 0 ? options.lanes : coreCount();
-    const qint64 memory = options.memoryBytes > 0 ? options.memoryBytes : defaultMemoryBytes();
-    SeriesBoard board(jobs, output, isCancelled, lanes, memory);
     SeriesOptions resources = options;
-    resources.lanes = lanes;
+    resources.lanes = options.lanes > 0 ? options.lanes : coreCount();
+    resources.memoryBytes = options.memoryBytes > 0 ? options.memoryBytes : defaultMemoryBytes();
+    SeriesBoard board(jobs, output, isCancelled, resources);
     const auto work = [&board, &jobs, &isCancelled, &resources] {
         SeriesLane(board, jobs, resources, isCancelled).run();
     };
     {
         Threads others;
-        others.start(lanes - 1, work);
+        others.start(resources.lanes - 1, work);
         work();
     }
     return !isCancelled();

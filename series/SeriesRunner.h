@@ -108,8 +108,10 @@ constexpr std::chrono::milliseconds usualPositionTimeout{60000};
 /// Resources and limits of a run.
 struct SeriesOptions
 {
-    int lanes = 0;          ///< number of parallel decoders; 0 for one per core
-    qint64 memoryBytes = 0; ///< for pictures that wait for their turn; 0 for the default
+    int lanes = 0; ///< how many decoders work side by side; 0 for one a core
+    /// For pictures that wait for their turn; 0 for the default. Where pictures are so large that
+    /// one of each lane takes more than that and than pictureBytes, fewer lanes work at once.
+    qint64 memoryBytes = 0;
     /// Memory limit for one picture of a video in bytes, see QtAV::usualPictureBytes.
     qint64 pictureBytes = QtAV::usualPictureBytes;
     /// Time limit for one position and for opening a video; 0 for none. Reading a video through may

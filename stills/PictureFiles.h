@@ -36,6 +36,7 @@ public:
         Kind kind = Kind::Failed;
         QString path;            ///< of the file that was written or that exists
         QString error;           ///< a text for people
+        qint64 bytes = 0;        ///< of the picture, unless it was skipped
         qint64 missingBytes = 0; ///< how much does not fit, if that is the reason
     };
 
@@ -47,6 +48,8 @@ public:
             : bytes(std::move(encoded))
             , file(std::move(prepared))
         {}
+
+        [[nodiscard]] qint64 size() const;
 
         QByteArray bytes;
         std::shared_ptr<HiddenFile> file;

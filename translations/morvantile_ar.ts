@@ -1993,6 +1993,10 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
         <translation>الصور كبيرة جدًا: صورة بحجم %1 × %2 تحتاج إلى %3 من الذاكرة، والمسموح %4.</translation>
     </message>
+    <message>
+        <source>The video needs too many large pictures at once: they take %1 of memory, and %2 are allowed.</source>
+        <translation>يحتاج الفيديو إلى عدد كبير جدًا من الصور الكبيرة في آن واحد: تحتاج إلى %1 من الذاكرة، والمسموح %2.</translation>
+    </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>

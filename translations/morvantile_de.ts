@@ -1939,6 +1939,10 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
         <translation>Die Bilder sind zu groß: Eines von %1 × %2 belegt %3 Arbeitsspeicher, und %4 sind erlaubt.</translation>
     </message>
+    <message>
+        <source>The video needs too many large pictures at once: they take %1 of memory, and %2 are allowed.</source>
+        <translation>Das Video braucht zu viele große Bilder auf einmal: Sie belegen %1 Arbeitsspeicher, und %2 sind erlaubt.</translation>
+    </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>

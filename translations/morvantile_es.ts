@@ -1941,6 +1941,10 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
         <translation>Las imágenes son demasiado grandes: una de %1 × %2 ocupa %3 de memoria, y se permiten %4.</translation>
     </message>
+    <message>
+        <source>The video needs too many large pictures at once: they take %1 of memory, and %2 are allowed.</source>
+        <translation>El vídeo necesita demasiadas imágenes grandes a la vez: ocupan %1 de memoria, y se permiten %2.</translation>
+    </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>

@@ -1941,6 +1941,10 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
         <translation>Les images sont trop grandes : une image de %1 × %2 occupe %3 de mémoire, et %4 sont autorisés.</translation>
     </message>
+    <message>
+        <source>The video needs too many large pictures at once: they take %1 of memory, and %2 are allowed.</source>
+        <translation>La vidéo a besoin de trop de grandes images à la fois : elles occupent %1 de mémoire, et %2 sont autorisés.</translation>
+    </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>

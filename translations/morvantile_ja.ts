@@ -1928,6 +1928,10 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
         <translation>画像が大きすぎます。%1 × %2 の画像には %3 のメモリーが必要ですが、%4 までに制限されています。</translation>
     </message>
+    <message>
+        <source>The video needs too many large pictures at once: they take %1 of memory, and %2 are allowed.</source>
+        <translation>この動画は大きな画像を一度に多く必要とします。%1 のメモリーが必要ですが、%2 までに制限されています。</translation>
+    </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>

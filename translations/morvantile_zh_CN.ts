@@ -1928,6 +1928,10 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
         <source>The pictures are too large: one of %1 x %2 takes %3 of memory, and %4 are allowed.</source>
         <translation>画面过大：一个 %1 × %2 的画面需要 %3 内存，而上限为 %4。</translation>
     </message>
+    <message>
+        <source>The video needs too many large pictures at once: they take %1 of memory, and %2 are allowed.</source>
+        <translation>此视频同时需要过多的大画面：它们需要 %1 内存，而上限为 %2。</translation>
+    </message>
 </context>
 <context>
     <name>QtAV::VideoFrame</name>

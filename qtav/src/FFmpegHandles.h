@@ -50,6 +50,7 @@ using CodecParametersPtr =
 using PacketPtr = std::unique_ptr<AVPacket, FreeByAddress<av_packet_free>>;
 using FramePtr = std::unique_ptr<AVFrame, FreeByAddress<av_frame_free>>;
 using BitstreamFilterPtr = std::unique_ptr<AVBSFContext, FreeByAddress<av_bsf_free>>;
+using BufferPtr = std::unique_ptr<AVBufferRef, FreeByAddress<av_buffer_unref>>;
 using BufferPoolPtr = std::unique_ptr<AVBufferPool, FreeByAddress<av_buffer_pool_uninit>>;
 using ParserPtr = std::unique_ptr<AVCodecParserContext, FreeByPointer<av_parser_close>>;
 using ResamplerPtr = std::unique_ptr<SwrContext, FreeByAddress<swr_free>>;

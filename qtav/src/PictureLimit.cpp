@@ -25,13 +25,9 @@ qint64 pixelsOf(const QSize& size)
     return qint64(size.width()) * size.height();
 }
 
-/// Memory of a decoded picture. An unknown format is assumed to be the most common one.
-qint64 decodedBytes(AVPixelFormat format, const QSize& stored)
+int coreCount()
 {
-    const AVPixFmtDescriptor* const known = av_pix_fmt_desc_get(format);
-    const AVPixFmtDescriptor* const description =
-        known ? known : av_pix_fmt_desc_get(AV_PIX_FMT_YUV420P);
-    return pixelsOf(stored) * av_get_padded_bits_per_pixel(description) / 8;
+    return static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
 }
 
 QString sizeText(qint64 bytes)
@@ -40,6 +36,15 @@ QString sizeText(qint64 bytes)
 }
 
 } // namespace
+
+/// The format that most videos have stands for an unknown one.
+qint64 PictureLimit::decodedBytes(AVPixelFormat format, const QSize& stored)
+{
+    const AVPixFmtDescriptor* const known = av_pix_fmt_desc_get(format);
+    const AVPixFmtDescriptor* const description =
+        known ? known : av_pix_fmt_desc_get(AV_PIX_FMT_YUV420P);
+    return pixelsOf(stored) * av_get_padded_bits_per_pixel(description) / 8;
+}
 
 qint64 PictureLimit::bytesOf(AVPixelFormat format, const QSize& stored, const QSize& shown)
 {
@@ -59,10 +64,22 @@ qint64 PictureLimit::mostPixels() const
 
 int PictureLimit::threadsFor(AVPixelFormat format, const QSize& stored, int wanted) const
 {
-    const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
-    const int threads = wanted > 0 ? wanted : cores;
+    const int threads = wanted > 0 ? wanted : coreCount();
     const qint64 room = m_bytes / std::max<qint64>(1, decodedBytes(format, stored));
     return room >= threads ? wanted : static_cast<int>(std::max<qint64>(1, room));
+}
+
+qint64 PictureLimit::heldBytes(AVPixelFormat format, const QSize& stored, int threads) const
+{
+    return 2 * m_bytes + (threads > 0 ? threads : coreCount()) * decodedBytes(format, stored);
+}
+
+QString PictureLimit::heldRefusal(qint64 bytes, qint64 most)
+{
+    return QCoreApplication::translate("QtAV::VideoDecoder",
+                                       "The video needs too many large pictures at once: they take "
+                                       "%1 of memory, and %2 are allowed.")
+        .arg(sizeText(bytes), sizeText(most));
 }
 
 QString PictureLimit::refusal(const QSize& stored, qint64 bytes) const

@@ -36,6 +36,16 @@ public:
     /// How many threads may decode pictures of that size, since each thread holds some of them.
     [[nodiscard]] int threadsFor(AVPixelFormat format, const QSize& stored, int wanted) const;
 
+    /// What all pictures that one decoder keeps may take: twice what one may, beside those that its
+    /// threads work on. Streams that keep to their standard's levels need less.
+    [[nodiscard]] qint64 heldBytes(AVPixelFormat format, const QSize& stored, int threads) const;
+
+    /// What a picture of that format and size takes while the decoder keeps it.
+    [[nodiscard]] static qint64 decodedBytes(AVPixelFormat format, const QSize& stored);
+
+    /// A text for people: why the pictures that a decoder keeps are refused.
+    [[nodiscard]] static QString heldRefusal(qint64 bytes, qint64 most);
+
     /// Why a picture of that size is refused, as a text for people.
     [[nodiscard]] QString refusal(const QSize& stored, qint64 bytes) const;
 

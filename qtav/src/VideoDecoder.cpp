@@ -4,6 +4,7 @@
 #include "qtav/src/FFmpegCompat.h"
 #include "qtav/src/FFmpegHandles.h"
 #include "qtav/src/FFmpegLog.h"
+#include "qtav/src/HeldPictures.h"
 #include "qtav/src/HevcLayers.h"
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/PictureConverter.h"
@@ -88,10 +89,14 @@ public:
     bool leadsUpToKeyFrame(const AVPacket& packet);
 
     bool allows(const QSize& stored, AVPixelFormat format, AVRational sampleAspectRatio);
+    bool allowsToHold(qint64 bytes);
+    void refuse(const QString& reason);
     static int takeMemory(AVCodecContext* context, AVFrame* frame, int flags);
 
     std::shared_ptr<const StreamParameters> parameters;
     PictureLimit limit;
+    HeldPictures held;
+    qint64 mostHeldBytes = 0;
     std::shared_ptr<const Deadline> deadline;
     std::mutex refusalMutex;
     QString refusal; ///< set by the decoder's threads; guarded by refusalMutex
@@ -160,9 +165,25 @@ bool VideoDecoder::Private::allows(const QSize& stored, AVPixelFormat format,
     if (limit.allows(bytes)) {
         return true;
     }
-    const std::lock_guard lock(refusalMutex);
-    refusal = limit.refusal(stored, bytes);
+    refuse(limit.refusal(stored, bytes));
     return false;
+}
+
+/// Whether the decoder may keep one more picture; notes why not.
+bool VideoDecoder::Private::allowsToHold(qint64 bytes)
+{
+    const qint64 all = held.bytes() + bytes;
+    if (all <= mostHeldBytes) {
+        return true;
+    }
+    refuse(PictureLimit::heldRefusal(all, mostHeldBytes));
+    return false;
+}
+
+void VideoDecoder::Private::refuse(const QString& reason)
+{
+    const std::lock_guard lock(refusalMutex);
+    refusal = reason;
 }
 
 /// Called for each picture that is begun, from any of the decoder's threads.
@@ -171,13 +192,18 @@ int VideoDecoder::Private::takeMemory(AVCodecContext* context, AVFrame* frame, i
     auto& self = *static_cast<Private*>(context->opaque);
     const QSize stored(frame->width, frame->height);
     const auto format = static_cast<AVPixelFormat>(frame->format);
-    if (!self.allows(stored, format, context->sample_aspect_ratio)) {
+    const qint64 bytes = PictureLimit::decodedBytes(format, stored);
+    if (!self.allows(stored, format, context->sample_aspect_ratio) || !self.allowsToHold(bytes)) {
         return AVERROR(ENOMEM);
     }
     if (self.deadline && self.deadline->hasPassed()) {
         return AVERROR_EXIT;
     }
-    return avcodec_default_get_buffer2(context, frame, flags);
+    const int result = avcodec_default_get_buffer2(context, frame, flags);
+    if (result < 0) {
+        return result;
+    }
+    return self.held.add(*frame, bytes) ? result : AVERROR(ENOMEM);
 }
 
 bool VideoDecoder::open()
@@ -202,6 +228,7 @@ bool VideoDecoder::open()
     const QVariantHash section = d->options.value(QStringLiteral("avcodec")).toHash();
     const int threads = section.value(QStringLiteral("threads"), 0).toInt();
     context->thread_count = d->limit.threadsFor(format, stored, threads);
+    d->mostHeldBytes = d->limit.heldBytes(format, stored, context->thread_count);
     context->opaque = d.get();
     context->get_buffer2 = &Private::takeMemory;
     allowCallsFromThreads(*context);
@@ -226,6 +253,17 @@ void VideoDecoder::close()
     d->context.reset();
     d->converter.reset();
     d->restart();
+}
+
+qint64 VideoDecoder::pictureBytes() const
+{
+    if (!d->parameters)
+        return 0;
+    const AVCodecParameters& stream = *d->parameters->codec;
+    const QSize stored(stream.width, stream.height);
+    const QSize shown =
+        squareSizeOf(stored, sampleAspectRatioOf(*d->parameters, stream.sample_aspect_ratio));
+    return PictureLimit::bytesOf(static_cast<AVPixelFormat>(stream.format), stored, shown);
 }
 
 bool VideoDecoder::isOpen() const
@@ -457,6 +495,7 @@ void VideoDecoder::Private::receiveAll(bool& failed)
 
 void VideoDecoder::Private::deliver(FramePtr frame)
 {
+    HeldPictures::giveAway(*frame);
     const bool hasTime = frame->best_effort_timestamp != AV_NOPTS_VALUE;
     const qint64 ticks = hasTime ? frame->best_effort_timestamp : nextTicks;
     if (repeatedTicks != AV_NOPTS_VALUE && ticks <= repeatedTicks) {

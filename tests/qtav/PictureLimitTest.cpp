@@ -2,6 +2,7 @@
 
 #include "tests/qtav/Decoding.h"
 #include "tests/support/GrowingVideo.h"
+#include "tests/support/RunProgram.h"
 
 #include <QtAV/FrameReader.h>
 
@@ -103,6 +104,49 @@ private Q_SLOTS:
         QVERIFY(result.answer == FrameAnswer::Failed);
         QVERIFY2(result.error.contains(QStringLiteral("too large")), qUtf8Printable(result.error));
         QVERIFY(firstFrame(reader).answer == FrameAnswer::Frame);
+    }
+
+    void reader_refusesVideos_whoseDecoderKeepsTooMany_data()
+    {
+        QTest::addColumn<int>("pictures");
+        QTest::addColumn<bool>("isAllowed");
+        // Of 320 x 240: each takes 115,200 bytes decoded and 307,200 as an image.
+        QTest::newRow("memory for one") << 1 << false;
+        QTest::newRow("memory for four") << 4 << true;
+    }
+    void reader_refusesVideos_whoseDecoderKeepsTooMany()
+    {
+        QFETCH(const int, pictures);
+        QFETCH(const bool, isAllowed);
+        const QString path = m_folder.filePath(QStringLiteral("references.mp4"));
+        const QString command =
+            QStringLiteral("-v error -y -f lavfi -i testsrc2=size=320x240:rate=10:duration=4 "
+                           "-c:v libx264 -pix_fmt yuv420p -threads 1 "
+                           "-x264-params ref=16:bframes=0:keyint=1000:scenecut=0");
+        const auto made = testsupport::runProgram(
+            QStringLiteral("ffmpeg"), command.split(QLatin1Char(' ')) + QStringList{path});
+        QVERIFY2(made.succeeded(), made.standardError.constData());
+        QtAV::FrameReader reader;
+        reader.setThreads(1);
+        reader.setPictureMemory(pictures *
+                                PictureLimit::bytesOf(AV_PIX_FMT_YUV420P, {320, 240}, {320, 240}));
+        QString error;
+        QVERIFY2(reader.open(path, never, error), qUtf8Printable(error));
+        int good = 0;
+        QtAV::FrameResult result = reader.next(never);
+        for (; result.answer == FrameAnswer::Frame; result = reader.next(never)) {
+            ++good;
+        }
+        if (isAllowed) {
+            QCOMPARE(good, 40);
+            QVERIFY(result.answer == FrameAnswer::End);
+        } else {
+            // Twice the memory for one holds seven, and the thread works on an eighth.
+            QVERIFY2(good >= 6 && good <= 8, qPrintable(QString::number(good)));
+            QVERIFY(result.answer == FrameAnswer::Failed);
+            QVERIFY2(result.error.contains(QStringLiteral("too many large pictures")),
+                     qUtf8Printable(result.error));
+        }
     }
 
     void decoder_beginsNoPicture_behindTheDeadline()

@@ -322,10 +322,11 @@ private:
     struct Saving;
     [[nodiscard]] Saving savingNow();
     [[nodiscard]] WriteResult write(const Saving& saving, const QString& path,
-                                    ExistingFile existing);
+                                    ExistingFile existing, WriteFailure& failure);
     [[nodiscard]] WriteResult save(const Saving& saving, const QString& path,
                                    ExistingFile existing);
-    void reportSaving(const QString& path, bool success);
+    void reportSaved(const QString& path);
+    void reportUnsaved(const QString& path, const WriteFailure& failure);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QSettings m_settings;

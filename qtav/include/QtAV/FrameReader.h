@@ -75,6 +75,9 @@ public:
     /// Memory limit for one picture in bytes, from the next open() on.
     void setPictureMemory(qint64 bytes) { m_pictureMemory = bytes; }
 
+    /// What one picture of the open video takes in memory, see VideoDecoder; 0 when none is open.
+    [[nodiscard]] qint64 pictureBytes() const { return m_decoder ? m_decoder->pictureBytes() : 0; }
+
     /// Once the deadline has expired no further picture is decoded, however many a packet holds.
     /// Applies from the next open() on. It does not interrupt waiting for the disk; IsCancelled
     /// does that.

@@ -35,8 +35,14 @@ public:
     void setCodecContext(const VideoCodecContext* context);
 
     /// Memory limit for one picture in bytes (see usualPictureBytes), from the next open() on.
-    /// Larger pictures are refused, by open() itself if the stream declares them.
+    /// on. Larger pictures are refused, where the stream declares them by open() itself; and so is
+    /// a picture when those that the decoder keeps for others would take more than twice as much,
+    /// beside one for each of its threads.
     void setPictureMemory(qint64 bytes);
+
+    /// What one picture of the stream takes in memory, decoded and as an image, by what the stream
+    /// declares; 0 before setCodecContext().
+    [[nodiscard]] qint64 pictureBytes() const;
 
     /// No picture is begun after the deadline: decode() then fails. Null for none. From the next
     /// open() on.
