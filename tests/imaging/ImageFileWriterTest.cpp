@@ -2,6 +2,7 @@
 
 #include "tests/support/Pixels.h"
 #include "tests/support/ResourceLimits.h"
+#include "tests/support/TestDir.h"
 
 #include <QColorSpace>
 #include <QDir>
@@ -15,6 +16,7 @@
 #include <cstdlib>
 #include <memory>
 
+using testsupport::contentOf;
 using testsupport::MemoryLimit;
 using testsupport::pixelsOf;
 
@@ -41,12 +43,6 @@ QImage noise(QSize size)
         std::generate(line, line + 3 * size.width(), [&] { return uchar(generator.generate()); });
     }
     return image;
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace

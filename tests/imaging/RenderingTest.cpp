@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+using testsupport::contentOf;
 using testsupport::TestDir;
 
 namespace {
@@ -49,12 +50,6 @@ std::unique_ptr<WatermarkProfile> someText()
     profile->setText(QStringLiteral("© Morvantile"));
     profile->setTextFont(QFont(QStringLiteral("DejaVu Sans"), 14));
     return profile;
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace

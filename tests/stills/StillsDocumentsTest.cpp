@@ -17,7 +17,7 @@ using testsupport::TestDir;
 
 namespace {
 
-QString contentOf(const QString& path)
+QString textOf(const QString& path)
 {
     QFile file(QStringLiteral(MORVANTILE_SOURCES "/") + path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
@@ -25,7 +25,7 @@ QString contentOf(const QString& path)
 
 QString guide()
 {
-    return contentOf(QStringLiteral("docs/user-guide/user-guide.html"));
+    return textOf(QStringLiteral("docs/user-guide/user-guide.html"));
 }
 
 /// The lines of a document's examples that start the program, as interpreted by a shell.
@@ -86,7 +86,7 @@ void StillsDocumentsTest::examples_work_data()
 {
     QTest::addColumn<QString>("command");
     const QStringList commands =
-        commandsIn(contentOf(QStringLiteral("README.md"))) + commandsIn(guide()) +
+        commandsIn(textOf(QStringLiteral("README.md"))) + commandsIn(guide()) +
         commandsIn(QString::fromUtf8(stillsprogram::run({QStringLiteral("--help")}).standardOutput)
                        .replace(QStringLiteral("\n  stills "), QStringLiteral("\nstills "))
                        .replace(QRegularExpression(QStringLiteral("(stills \\S.*\\S)  +.*")),
@@ -122,7 +122,7 @@ void StillsDocumentsTest::examples_work()
 void StillsDocumentsTest::readme_tellsTheNamesThatComeOut()
 {
     const TestDir dir;
-    const QString readme = contentOf(QStringLiteral("README.md"));
+    const QString readme = textOf(QStringLiteral("README.md"));
     const QString first =
         QRegularExpression(QStringLiteral("\\./run\\.sh (samples/.*)")).match(readme).captured(1);
     QVERIFY(first.endsWith(QStringLiteral(" -o out")));
@@ -152,7 +152,7 @@ void StillsDocumentsTest::everyOption_isExplained()
 
 void StillsDocumentsTest::objects_haveTheDocumentedKeys()
 {
-    const QString document = contentOf(QStringLiteral("docs/stills-json.md"));
+    const QString document = textOf(QStringLiteral("docs/stills-json.md"));
     const TestDir dir;
     const ProgramResult result = stillsprogram::runJson(
         {m_films.filePath(QStringLiteral("film.mkv")), QStringLiteral("/no/such.mkv"),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/RunProgram.h"
+#include "tests/support/TestDir.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -11,6 +12,8 @@
 
 /// Starts the program `stills` as users do, and inspects its results.
 namespace stillsprogram {
+
+using testsupport::contentOf;
 
 /// 100 frames, 25 a second.
 inline const QString shortSample = QStringLiteral("h264_bframes.mp4");
@@ -37,9 +40,6 @@ inline const QString shortSample = QStringLiteral("h264_bframes.mp4");
 
 /// The names of all files in the folder, including hidden ones, sorted.
 [[nodiscard]] QStringList filesIn(const QString& folder);
-
-/// The bytes of a file; empty if it cannot be read.
-[[nodiscard]] QByteArray contentOf(const QString& path);
 
 /// The words of a text, as arguments.
 [[nodiscard]] QStringList words(const char* text);

@@ -43,4 +43,10 @@ QString TestDir::makeFile(const QString& name, const QByteArray& content) const
     return file.fileName();
 }
 
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 } // namespace testsupport

@@ -29,4 +29,7 @@ private:
     QTemporaryDir m_dir;
 };
 
+/// The bytes of a file; none if it cannot be read.
+[[nodiscard]] QByteArray contentOf(const QString& path);
+
 } // namespace testsupport

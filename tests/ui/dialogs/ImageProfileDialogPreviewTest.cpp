@@ -2,6 +2,7 @@
 
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
+#include "tests/support/Patience.h"
 #include "tests/ui/dialogs/support/DialogDriving.h"
 #include "tests/ui/dialogs/support/ModalScript.h"
 #include "tests/ui/dialogs/support/PreviewWindow.h"
@@ -24,6 +25,7 @@
 
 using testsupport::child;
 using testsupport::ModalScript;
+using testsupport::patienceMs;
 using testsupport::PreviewWindow;
 using testsupport::TestProfiles;
 using testsupport::textOf;
@@ -32,7 +34,6 @@ namespace {
 
 /// A multiple of the dialog's delay before it reports.
 constexpr int aWhileMs = 200;
-constexpr int patienceMs = 20000;
 
 QComboBox& watermarks(const ImageProfileDialog& dialog)
 {
@@ -258,12 +259,12 @@ void ImageProfileDialogPreviewTest::comparison_showsALargeFrame_andFollowsTheNex
         const QImage shown = view.grab().toImage();
         return qRed(shown.pixel(int(part * shown.width()), shown.height() / 2));
     };
-    QTRY_COMPARE_WITH_TIMEOUT(greyAt(0.8), 140, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(greyAt(0.8), 140, patienceMs);
     QCOMPARE(greyAt(0.2), 100);
     frame.fill(QColor(50, 50, 50));
     dialog.updateImage();
     dialog.setExampleImage(frame);
-    QTRY_COMPARE_WITH_TIMEOUT(greyAt(0.8), 90, PatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(greyAt(0.8), 90, patienceMs);
     QCOMPARE(greyAt(0.2), 50);
 }
 

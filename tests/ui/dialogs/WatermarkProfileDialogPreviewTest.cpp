@@ -4,6 +4,7 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "profiles/WatermarkProfile.h"
+#include "tests/support/Patience.h"
 #include "tests/ui/dialogs/support/DialogDriving.h"
 #include "tests/ui/dialogs/support/ModalScript.h"
 #include "tests/ui/dialogs/support/TestProfiles.h"
@@ -22,6 +23,7 @@
 #include <QTextEdit>
 
 using testsupport::child;
+using testsupport::patienceMs;
 using testsupport::ProcessingCounter;
 using testsupport::TestProfiles;
 using testsupport::textOf;
@@ -30,9 +32,7 @@ namespace {
 
 constexpr QSize viewSize{400, 300};
 /// Twice the dialog's delay before it renders.
-constexpr int aWhileMs = 400;
-constexpr int patienceMs = 20000;
-
+constexpr int longWhileMs = 400;
 QImage plain(QSize size, const QColor& color)
 {
     QImage image(size, QImage::Format_RGB888);
@@ -233,7 +233,7 @@ void WatermarkProfileDialogPreviewTest::changes_areRenderedOnce_afterTheLast()
     dialog.updateWatermark();
     QCOMPARE(processed.count(), 1);
     QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 2, patienceMs);
-    QTest::qWait(aWhileMs);
+    QTest::qWait(longWhileMs);
     QCOMPARE(processed.count(), 2);
     QCOMPARE(shown(dialog), asShown(withRedAt({310, 250})));
 }
@@ -253,7 +253,7 @@ void WatermarkProfileDialogPreviewTest::pickedColor_isShownWithTheNextChange()
     });
     child<QPushButton>(dialog, "textColorButton").click();
     QVERIFY(script.isDone());
-    QTest::qWait(aWhileMs);
+    QTest::qWait(longWhileMs);
     QCOMPARE(processed.count(), 1);
     child<QTextEdit>(dialog, "textTextEdit").setPlainText(textOf("x"));
     QTRY_COMPARE_WITH_TIMEOUT(processed.count(), 2, patienceMs);

@@ -135,7 +135,7 @@ void IconsTest::icon_isPalerWhenDisabled()
 void IconsTest::icon_ofAForm_isALineIcon()
 {
     QIcon icon;
-    icon.makeFile(QStringLiteral(":/Icons/Save.icon"));
+    icon.addFile(QStringLiteral(":/Icons/Save.icon"));
     QCOMPARE(icon.name(), QStringLiteral("Save"));
     QCOMPARE(drawn(icon, 24), drawn(theme::icon(QStringLiteral("Save")), 24));
 }
