@@ -191,12 +191,16 @@ std::shared_ptr<HiddenFile> FilePublisher::prepare(const QString& folder, const 
     return file->create(folder) && file->fill(content) ? file : nullptr;
 }
 
+qint64 FilePublisher::sizeOf(const HiddenFile& prepared)
+{
+    return prepared.size();
+}
+
 WriteResult FilePublisher::publishPrepared(const QString& fileName, const HiddenFile& prepared,
                                            WriteFailure* failure)
 {
     const QByteArray target = QFile::encodeName(QFileInfo(fileName).absoluteFilePath());
-    const qint64 bytes = QFileInfo(QFile::decodeName(prepared.path())).size();
-    return told(keeping(prepared.path(), target), fileName, bytes, failure);
+    return told(keeping(prepared.path(), target), fileName, prepared.size(), failure);
 }
 
 int FilePublisher::sweep(const QString& folder)

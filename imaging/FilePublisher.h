@@ -62,6 +62,9 @@ namespace FilePublisher {
 /// publishing the content itself then tells why.
 [[nodiscard]] std::shared_ptr<HiddenFile> prepare(const QString& folder, const QByteArray& content);
 
+/// How many bytes a prepared file holds.
+[[nodiscard]] qint64 sizeOf(const HiddenFile& prepared);
+
 /// As publish() with ExistingFile::Keep, for content that is prepared in the folder of `fileName`.
 /// After AlreadyExists and Failed it may be tried again, under another name.
 [[nodiscard]] WriteResult publishPrepared(const QString& fileName, const HiddenFile& prepared,

@@ -94,6 +94,7 @@ bool HiddenFile::fill(const QByteArray& content)
             return failed();
         }
         done += written;
+        m_size += written;
     }
     const int result = ::close(m_file);
     m_file = -1;

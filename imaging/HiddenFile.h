@@ -26,6 +26,9 @@ public:
     /// In the file system's encoding.
     const QByteArray& path() const { return m_path; }
 
+    /// How many bytes it was filled with.
+    qint64 size() const { return m_size; }
+
     /// The system's number for what went wrong last; 0 where nothing did.
     int error() const { return m_error; }
 
@@ -37,6 +40,7 @@ private:
     [[nodiscard]] bool failed();
 
     QByteArray m_path;
+    qint64 m_size = 0;
     int m_file = -1;
     int m_error = 0;
 };

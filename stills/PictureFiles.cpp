@@ -43,6 +43,11 @@ bool isHopeless(const WriteFailure& failure)
 
 } // namespace
 
+qint64 PictureFiles::Content::size() const
+{
+    return file ? FilePublisher::sizeOf(*file) : bytes.size();
+}
+
 bool PictureFiles::exists(const QString& folder, const QByteArray& name)
 {
     return isThere(pathIn(folder, name));
@@ -61,13 +66,13 @@ PictureFiles::Outcome PictureFiles::writeUnder(const QString& path, const Conten
         if (m_existing != Existing::NextName) {
             m_written.insert(path);
         }
-        return {Kind::Written, path, {}};
+        return {Kind::Written, path, {}, content.size()};
     case WriteResult::AlreadyExists:
         return {Kind::Skipped, path, {}};
     case WriteResult::Failed:
         break;
     }
-    return {isHopeless(failure) ? Kind::NoRoom : Kind::Failed, path, failure.text(),
+    return {isHopeless(failure) ? Kind::NoRoom : Kind::Failed, path, failure.text(), content.size(),
             failure.missing};
 }
 

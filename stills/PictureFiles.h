@@ -35,6 +35,7 @@ public:
         Kind kind = Kind::Failed;
         QString path;            ///< of the file that was written or that exists
         QString error;           ///< for people
+        qint64 bytes = 0;        ///< of the picture, unless it was skipped
         qint64 missingBytes = 0; ///< that there is no room for, where that is the reason
     };
 
@@ -46,6 +47,8 @@ public:
             : bytes(std::move(encoded))
             , file(std::move(prepared))
         {}
+
+        [[nodiscard]] qint64 size() const;
 
         QByteArray bytes;
         std::shared_ptr<HiddenFile> file;

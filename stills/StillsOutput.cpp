@@ -91,6 +91,7 @@ void StillsOutput::beginVideo(int video)
     }
     m_begun = video;
     m_isOnly = false;
+    m_expected.reset();
     m_durationMs = 0;
     m_pictureSize = QSize();
     m_sheet.reset();
@@ -112,6 +113,7 @@ void StillsOutput::store(SeriesPicture& picture)
     const QString folder = pathOf(m_tasks[static_cast<std::size_t>(picture.video)].folder);
     picture.file = FilePublisher::prepare(folder, picture.content);
     if (picture.file) {
+        m_preparedBytes += FilePublisher::sizeOf(*picture.file);
         picture.content.clear();
     }
 }
@@ -120,6 +122,7 @@ void StillsOutput::begin(const SeriesFacts& facts)
 {
     beginVideo(facts.video);
     m_durationMs = facts.durationMs;
+    m_expected = facts.expected;
     int skipped = 0;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -149,6 +152,9 @@ void StillsOutput::take(SeriesPicture picture)
 {
     if (m_wantsToStop) {
         return;
+    }
+    if (picture.file) {
+        m_preparedBytes -= FilePublisher::sizeOf(*picture.file);
     }
     // The engine gives the last frame there, which is not what was meant.
     if (picture.askedMs && picture.askedMs > m_durationMs) {
@@ -184,13 +190,14 @@ void StillsOutput::writePicture(const SeriesPicture& picture, int number)
         }
         return;
     }
-    const auto outcome = m_files.write(
+    auto outcome = m_files.write(
         pathOf(task.folder),
         [&](int attempt) { return m_names.name(task, picture, number, m_isOnly, attempt); },
         {picture.content, picture.file});
     switch (outcome.kind) {
     case PictureFiles::Outcome::Kind::Written:
         written.path = outcome.path;
+        m_room.addWritten(outcome.bytes);
         m_report.addPicture(written);
         break;
     case PictureFiles::Outcome::Kind::Skipped:
@@ -198,6 +205,7 @@ void StillsOutput::writePicture(const SeriesPicture& picture, int number)
         break;
     case PictureFiles::Outcome::Kind::Failed:
     case PictureFiles::Outcome::Kind::NoRoom:
+        outcome.error += roomText(picture, outcome);
         fail(picture.askedMs, outcome);
         break;
     }
@@ -211,6 +219,56 @@ void StillsOutput::fail(std::optional<qint64> askedMs, const PictureFiles::Outco
     const bool isHopeless = outcome.kind == PictureFiles::Outcome::Kind::NoRoom &&
                             (hasOneFolder() || m_options.writesToStandardOutput);
     m_wantsToStop = m_wantsToStop || isHopeless || m_options.failsFast;
+}
+
+/// What the rest of the run needs on a disk that is full; empty where nobody knows, where nothing
+/// is left, and for another failure.
+QString StillsOutput::roomText(const SeriesPicture& picture, const PictureFiles::Outcome& outcome)
+{
+    const PicturesLeft left = picturesLeft(picture.number);
+    if (outcome.missingBytes == 0 || left.count < 2) {
+        return {};
+    }
+    const qint64 missing =
+        m_room.missingFor(left.count, outcome.bytes, outcome.missingBytes, m_preparedBytes);
+    return QStringLiteral(", ") + RoomEstimate::text(missing, left);
+}
+
+/// From the picture of that number of the video at work on, if the run ends there.
+PicturesLeft StillsOutput::picturesLeft(int number)
+{
+    if (!m_expected || !hasOneFolder()) {
+        return {};
+    }
+    const int ofVideo = *m_expected - number + 1;
+    int ofAll = ofVideo;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (int video = m_begun + 1; video < static_cast<int>(m_tasks.size()); ++video) {
+        const std::optional<int> count = expectedOf(video);
+        if (!count) {
+            return {ofVideo, true};
+        }
+        ofAll += *count;
+    }
+    return {ofAll, false};
+}
+
+/// Of a video that has not begun; needs the lock. Nothing where only opening it would tell.
+std::optional<int> StillsOutput::expectedOf(int video) const
+{
+    const auto plan = m_plans.constFind(video);
+    if (plan != m_plans.constEnd()) {
+        return plan->needed.size();
+    }
+    switch (m_options.positions.kind) {
+    case FramePositions::Kind::Spread:
+    case FramePositions::Kind::Best:
+        return m_options.positions.count;
+    case FramePositions::Kind::List:
+        return static_cast<int>(m_options.positions.list.size());
+    default:
+        return std::nullopt;
+    }
 }
 
 void StillsOutput::failVideo(const QString& message)

@@ -8,6 +8,7 @@
 #include "stills/PictureNames.h"
 #include "stills/Profiles.h"
 #include "stills/Report.h"
+#include "stills/RoomEstimate.h"
 #include "stills/VideoTask.h"
 
 #include <QHash>
@@ -59,6 +60,10 @@ private:
     void finishSheet(const VideoTask& task);
     void writeSheet(const VideoTask& task, const QImage& sheet);
     void fail(std::optional<qint64> askedMs, const PictureFiles::Outcome& outcome);
+    [[nodiscard]] QString roomText(const SeriesPicture& picture,
+                                   const PictureFiles::Outcome& outcome);
+    [[nodiscard]] PicturesLeft picturesLeft(int number);
+    [[nodiscard]] std::optional<int> expectedOf(int video) const;
     void failVideo(const QString& message);
     [[nodiscard]] QString factsText() const;
     [[nodiscard]] bool hasOneFolder() const { return m_options.folder.has_value(); }
@@ -71,10 +76,13 @@ private:
     PictureFiles m_files;
     OutputStream m_standardOutput;
     std::unique_ptr<ContactSheet> m_sheet;
+    RoomEstimate m_room;
+    std::atomic<qint64> m_preparedBytes{0}; ///< in files of pictures that wait for their turn
     std::atomic<bool> m_wantsToStop{false};
 
     int m_begun = -1; ///< the video at work
     bool m_isOnly = false;
+    std::optional<int> m_expected; ///< pictures of it
     qint64 m_durationMs = 0;
     QSize m_pictureSize;
 
