@@ -326,10 +326,11 @@ private:
     struct Saving;
     [[nodiscard]] Saving savingNow();
     [[nodiscard]] WriteResult write(const Saving& saving, const QString& path,
-                                    ExistingFile existing);
+                                    ExistingFile existing, WriteFailure& failure);
     [[nodiscard]] WriteResult save(const Saving& saving, const QString& path,
                                    ExistingFile existing);
-    void reportSaving(const QString& path, bool success);
+    void reportSaved(const QString& path);
+    void reportUnsaved(const QString& path, const WriteFailure& failure);
     void saveAs(const QString& chosen);
     [[nodiscard]] bool isReplacingWanted(const QString& path);
 

@@ -243,12 +243,13 @@ void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& last
         saved == 1 ? tr("Saved 1 snapshot") : tr("Saved %n snapshots", nullptr, saved);
     const QString text =
         failed == 0 ? count : tr("%1, %n could not be saved", nullptr, failed).arg(count);
+    const QString& cause = m_snapshotSaver->failure();
     if (!lastFile.isEmpty()) {
         m_lastSavedFile = QFileInfo(lastFile).absoluteFilePath();
         offerToShowSavedFile(text);
         updateAutomaticFileNameDisplay();
     } else {
-        m_ui->savedNotice->tellFailed(text);
+        m_ui->savedNotice->tellFailed(text, cause);
     }
-    statusBar()->showMessage(text, messageMs);
+    statusBar()->showMessage(cause.isEmpty() ? text : tr("%1: %2").arg(text, cause), messageMs);
 }

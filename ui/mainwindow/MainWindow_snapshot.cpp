@@ -261,7 +261,8 @@ MainWindow::Saving MainWindow::savingNow()
     return saving;
 }
 
-WriteResult MainWindow::write(const Saving& saving, const QString& path, ExistingFile existing)
+WriteResult MainWindow::write(const Saving& saving, const QString& path, ExistingFile existing,
+                              WriteFailure& failure)
 {
     m_sweeper->sweep(QFileInfo(path).absolutePath());
     auto result = WriteResult::Failed;
@@ -273,21 +274,27 @@ WriteResult MainWindow::write(const Saving& saving, const QString& path, Existin
             imaging::wantsMore(captured, recipe)
                 ? imaging::render(imaging::pictureOf(captured, recipe), recipe).image
                 : saving.shown;
-        result = imaging::save(path, image, recipe, saving.type, captured.source, existing);
+        result =
+            imaging::save(path, image, recipe, saving.type, captured.source, existing, &failure);
     });
     return result;
 }
 
 WriteResult MainWindow::save(const Saving& saving, const QString& path, ExistingFile existing)
 {
-    const WriteResult result = write(saving, path, existing);
+    WriteFailure failure;
+    const WriteResult result = write(saving, path, existing, failure);
     if (result == WriteResult::Written) {
         m_filmstrip->shelf().markSaved(saving.id);
         // Another one may be shown by now.
         const bool isShown = saving.captured.image.cacheKey() == m_captured.image.cacheKey();
         m_isSnapshotKept = m_isSnapshotKept || isShown;
     }
-    reportSaving(path, result == WriteResult::Written);
+    if (result == WriteResult::Written) {
+        reportSaved(path);
+    } else {
+        reportUnsaved(path, failure);
+    }
     return result;
 }
 
@@ -296,19 +303,27 @@ bool MainWindow::saveSnapshot(QString path)
     return save(savingNow(), path, ExistingFile::Replace) == WriteResult::Written;
 }
 
-void MainWindow::reportSaving(const QString& path, bool success)
+void MainWindow::reportSaved(const QString& path)
 {
-    qDebug() << (success ? "Save success" : "Save failure") << path;
-    const QString shownPath = QDir::toNativeSeparators(path);
-    if (success) {
-        m_lastSavedFile = QFileInfo(path).absoluteFilePath();
-        offerToShowSavedFile(tr("Saved %1").arg(QFileInfo(path).fileName()));
-    } else {
-        m_ui->savedNotice->tellFailed(tr("Could not save %1").arg(QFileInfo(path).fileName()));
-    }
+    qDebug() << "Save success" << path;
+    m_lastSavedFile = QFileInfo(path).absoluteFilePath();
+    offerToShowSavedFile(tr("Saved %1").arg(QFileInfo(path).fileName()));
     showWhatIsNext();
-    statusBar()->showMessage((success ? tr("Saved %1") : tr("Could not save %1")).arg(shownPath),
-                             messageMs);
+    statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)), messageMs);
+}
+
+/// The cause names the file with its folder, unless a file of that name came in between.
+void MainWindow::reportUnsaved(const QString& path, const WriteFailure& failure)
+{
+    qDebug() << "Save failure" << path;
+    const QString text = tr("Could not save %1").arg(QFileInfo(path).fileName());
+    const QString cause = failure.path.isEmpty() ? QString() : failure.text();
+    m_ui->savedNotice->tellFailed(text, cause);
+    showWhatIsNext();
+    const QString shown = cause.isEmpty()
+                              ? tr("Could not save %1").arg(QDir::toNativeSeparators(path))
+                              : tr("%1: %2").arg(text, cause);
+    statusBar()->showMessage(shown, messageMs);
 }
 
 void MainWindow::saveWithAutomaticFileName()

@@ -77,9 +77,9 @@ void SavedNotice::tellSaved(const QString& text)
     m_folderButton->show();
 }
 
-void SavedNotice::tellFailed(const QString& text)
+void SavedNotice::tellFailed(const QString& text, const QString& cause)
 {
-    tell(QStringLiteral("Warning"), text);
+    tell(QStringLiteral("Warning"), text, cause);
 }
 
 void SavedNotice::clear()
@@ -87,10 +87,11 @@ void SavedNotice::clear()
     tell({}, {});
 }
 
-void SavedNotice::tell(const QString& iconName, const QString& text)
+void SavedNotice::tell(const QString& iconName, const QString& text, const QString& details)
 {
     m_mark->setIcon(theme::icon(iconName));
     m_text->setText(text);
+    m_text->setToolTip(details);
     m_folderButton->fit();
 }
 

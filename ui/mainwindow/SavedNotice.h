@@ -17,7 +17,8 @@ public:
     explicit SavedNotice(QWidget* parent = nullptr);
 
     void tellSaved(const QString& text);
-    void tellFailed(const QString& text);
+    /// @param cause  shown as a tool tip; may be empty
+    void tellFailed(const QString& text, const QString& cause = {});
     /// Another snapshot is there. The way to the folder stays.
     void clear();
 
@@ -25,7 +26,7 @@ public:
     [[nodiscard]] QPushButton& folderButton() const;
 
 private:
-    void tell(const QString& iconName, const QString& text);
+    void tell(const QString& iconName, const QString& text, const QString& details = {});
 
     class Mark;
     Mark* m_mark;

@@ -12,19 +12,27 @@
 
 namespace {
 
-/// Gives the path of the new file; an empty one where there is none.
-[[nodiscard]] QString saved(const CapturedPicture& picture, const ImageRecipe& wanted,
-                            const QString& type, FreePaths& paths)
+/// The path of the new file, or why there is none.
+struct Saved
+{
+    QString path;
+    QString failure;
+};
+
+[[nodiscard]] Saved saved(const CapturedPicture& picture, const ImageRecipe& wanted,
+                          const QString& type, FreePaths& paths)
 {
     const ImageRecipe recipe = forType(wanted, type);
     const QImage image = imaging::render(imaging::pictureOf(picture, recipe), recipe).image;
     auto result = WriteResult::AlreadyExists;
     QString path;
+    WriteFailure failure;
     while (result == WriteResult::AlreadyExists) {
         path = paths.next();
-        result = imaging::save(path, image, recipe, type, picture.source, ExistingFile::Keep);
+        result =
+            imaging::save(path, image, recipe, type, picture.source, ExistingFile::Keep, &failure);
     }
-    return result == WriteResult::Written ? path : QString();
+    return result == WriteResult::Written ? Saved{path, {}} : Saved{{}, failure.text()};
 }
 
 } // namespace
@@ -41,6 +49,7 @@ void SnapshotSaver::start(const QVector<Job>& jobs, const QString& folder,
         m_saved = 0;
         m_failed = 0;
         m_lastFile.clear();
+        m_failure.clear();
     }
     m_left += jobs.size();
     // One counter for each video, used by the tasks alone.
@@ -61,21 +70,24 @@ void SnapshotSaver::start(const QVector<Job>& jobs, const QString& folder,
 void SnapshotSaver::save(const Job& job, const QString& type,
                          const std::shared_ptr<FreePaths>& paths)
 {
-    const auto path = std::make_shared<QString>();
-    const auto work = [job, type, paths, path](const CapturedPicture* picture) {
+    const auto outcome = std::make_shared<Saved>();
+    const auto work = [job, type, paths, outcome](const CapturedPicture* picture) {
         if (picture != nullptr) {
-            *path = saved(*picture, job.recipe, type, *paths);
+            *outcome = saved(*picture, job.recipe, type, *paths);
         }
-        return !path->isEmpty();
+        return !outcome->path.isEmpty();
     };
-    m_shelf.process(job.id, work, [this, id = job.id, path](bool) { notice(id, *path); });
+    m_shelf.process(job.id, work, [this, id = job.id, outcome](bool) {
+        notice(id, outcome->path, outcome->failure);
+    });
 }
 
-void SnapshotSaver::notice(const QString& id, const QString& path)
+void SnapshotSaver::notice(const QString& id, const QString& path, const QString& failure)
 {
     --m_left;
     if (path.isEmpty()) {
         ++m_failed;
+        m_failure = failure;
     } else {
         ++m_saved;
         m_lastFile = path;

@@ -38,6 +38,9 @@ public:
     /// While this is true, finished() is still to come.
     [[nodiscard]] bool isRunning() const { return m_left > 0; }
 
+    /// Why the one that failed last could not be saved, for people; empty where that is unknown.
+    [[nodiscard]] const QString& failure() const { return m_failure; }
+
 Q_SIGNALS:
     void progressed(int done, int all);
     /// What became of all that was started.
@@ -46,11 +49,12 @@ Q_SIGNALS:
 
 private:
     void save(const Job& job, const QString& type, const std::shared_ptr<FreePaths>& paths);
-    void notice(const QString& id, const QString& path);
+    void notice(const QString& id, const QString& path, const QString& failure);
 
     SnapshotShelf& m_shelf;
     int m_saved = 0;
     int m_failed = 0;
     QString m_lastFile;
+    QString m_failure;
     int m_left = 0;
 };

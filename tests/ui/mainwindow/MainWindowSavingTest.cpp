@@ -382,7 +382,9 @@ void MainWindowSavingTest::saveSnapshot_writesTheFile_orSaysThatItCouldNot()
     QVERIFY(window->saveSnapshot(window.dir().filePath(QStringLiteral("a.png"))));
     QVERIFY(window->statusBar()->currentMessage().startsWith(QStringLiteral("Saved ")));
     QVERIFY(!window->saveSnapshot(window.dir().filePath(QStringLiteral("none/a.png"))));
-    QVERIFY(window->statusBar()->currentMessage().startsWith(QStringLiteral("Could not save ")));
+    QCOMPARE(window->statusBar()->currentMessage(),
+             QStringLiteral("Could not save a.png: The folder is gone: ") +
+                 window.dir().filePath(QStringLiteral("none")));
 }
 
 void MainWindowSavingTest::savedFile_tellsWhichFrameItIs_andWhatMadeIt()
