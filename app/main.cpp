@@ -38,11 +38,15 @@ int main(int argc, char** argv)
     QtAV::Widgets::registerRenderers();
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();
-    const QStringList damage = SettingsFile::putDamagedAside();
+    QStringList news = SettingsFile::putDamagedAside();
+    const QString problem = SettingsFile::writeProblem();
+    if (!problem.isEmpty()) {
+        news += problem;
+    }
     // Kept for the whole run, so that temporary settings objects share its open file.
     const QSettings settings;
     const QString asked = Languages::inArguments(QCoreApplication::arguments());
     Languages::use(*app, asked.isEmpty() ? Languages::chosen(settings) : asked);
-    showMainWindow(*app, files, damage);
+    showMainWindow(*app, files, news);
     return 0;
 }

@@ -63,6 +63,9 @@ namespace FilePublisher {
 /// How many bytes a prepared file holds.
 [[nodiscard]] qint64 sizeOf(const HiddenFile& prepared);
 
+/// How many bytes a prepared file holds.
+[[nodiscard]] qint64 sizeOf(const HiddenFile& prepared);
+
 /// Like publish() with ExistingFile::Keep, for content prepared in the folder of `fileName`. After
 /// AlreadyExists and Failed it may be called again with another name.
 [[nodiscard]] WriteResult publishPrepared(const QString& fileName, const HiddenFile& prepared,

@@ -29,6 +29,9 @@ public:
     /// How many bytes it was filled with.
     qint64 size() const { return m_size; }
 
+    /// How many bytes it was filled with.
+    qint64 size() const { return m_size; }
+
     /// The system's number of the last error; 0 for none.
     int error() const { return m_error; }
 

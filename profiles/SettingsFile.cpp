@@ -4,10 +4,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QSettings>
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <new>
 
 namespace {
@@ -61,21 +64,68 @@ bool canBeParsed(const QString& path)
     }
 }
 
+/// A block of most file systems: an empty file can be made on a full disk, too.
+constexpr int probeBytes = 4096;
+
+QDir folderOfProfiles()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+}
+
+/// Named without an object of settings, which would read it.
+QString ownFile()
+{
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    return folder.filePath(QCoreApplication::organizationName() + QLatin1Char('/') +
+                           QCoreApplication::applicationName() + QStringLiteral(".conf"));
+}
+
 /// The application's own settings file, and those of the profiles and of batch mode.
 QStringList allFiles()
 {
     QStringList files;
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+    const QDir folder = folderOfProfiles();
     const QStringList names =
         folder.entryList({QStringLiteral("*.ini")}, QDir::AllEntries | QDir::System, QDir::Name);
     for (const QString& name : names) {
         files += folder.filePath(name);
     }
-    // Determined without a QSettings object, which would read the file.
-    const QDir ownFolder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
-    files += ownFolder.filePath(QCoreApplication::organizationName() + QLatin1Char('/') +
-                                QCoreApplication::applicationName() + QStringLiteral(".conf"));
+    files += ownFile();
     return files;
+}
+
+QString unsavable(const QString& path, const QString& reason)
+{
+    return QCoreApplication::translate("SettingsFile",
+                                       "Settings cannot be saved in %1 (%2). What you change is "
+                                       "lost when the window closes.")
+        .arg(QDir::toNativeSeparators(path), reason);
+}
+
+QString reasonOf(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error));
+}
+
+/// Why no file can be written in a folder, which is made if it is missing; empty where one can.
+QString problemIn(const QString& folder)
+{
+    errno = 0;
+    if (!QDir().mkpath(folder)) {
+        return unsavable(folder, reasonOf(errno != 0 ? errno : ENOTDIR));
+    }
+    // As QSettings writes: beside the place, then renamed. Only flush() tells of a full disk, and
+    // commit() does not.
+    const QString name =
+        QStringLiteral("/.morvantile-probe-%1").arg(QCoreApplication::applicationPid());
+    QSaveFile probe(folder + name);
+    if (!probe.open(QIODevice::WriteOnly) ||
+        probe.write(QByteArray(probeBytes, ' ')) != probeBytes || !probe.flush() ||
+        !probe.commit()) {
+        return unsavable(folder, probe.errorString());
+    }
+    static_cast<void>(QFile::remove(probe.fileName()));
+    return {};
 }
 
 } // namespace
@@ -125,4 +175,14 @@ QStringList SettingsFile::putDamagedAside()
         }
     }
     return texts;
+}
+
+QString SettingsFile::writeProblem()
+{
+    const QFileInfo own(ownFile());
+    if (own.exists() && !own.isWritable()) {
+        return unsavable(own.filePath(), reasonOf(EACCES));
+    }
+    const QString problem = problemIn(own.absolutePath());
+    return problem.isEmpty() ? problemIn(folderOfProfiles().absolutePath()) : problem;
 }

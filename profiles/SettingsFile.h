@@ -24,4 +24,9 @@ namespace SettingsFile {
 /// application's name is set, and before settings are read.
 [[nodiscard]] QStringList putDamagedAside();
 
+/// Why settings cannot be saved, for people: a folder or a file that may not be written, a disk
+/// that is full or read-only. Empty where they can. Tries by writing a file beside them, which is
+/// removed again. After the application has its name.
+[[nodiscard]] QString writeProblem();
+
 } // namespace SettingsFile

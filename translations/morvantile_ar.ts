@@ -2068,6 +2068,10 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
         <translation>لا يمكن قراءة الإعدادات في %1. حُفظت باسم %2.</translation>
     </message>
+    <message>
+        <source>Settings cannot be saved in %1 (%2). What you change is lost when the window closes.</source>
+        <translation>لا يمكن حفظ الإعدادات في %1 (%2). ما تغيّره يضيع عند إغلاق النافذة.</translation>
+    </message>
 </context>
 <context>
     <name>Shortcuts</name>

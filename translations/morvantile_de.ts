@@ -2014,6 +2014,10 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
         <translation>Die Einstellungen in %1 lassen sich nicht lesen. Sie werden als %2 aufbewahrt.</translation>
     </message>
+    <message>
+        <source>Settings cannot be saved in %1 (%2). What you change is lost when the window closes.</source>
+        <translation>Einstellungen lassen sich in %1 nicht speichern (%2). Was Sie ändern, geht verloren, wenn das Fenster geschlossen wird.</translation>
+    </message>
 </context>
 <context>
     <name>Shortcuts</name>

@@ -2016,6 +2016,10 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
         <translation>No se pueden leer los ajustes de %1. Se conservan como %2.</translation>
     </message>
+    <message>
+        <source>Settings cannot be saved in %1 (%2). What you change is lost when the window closes.</source>
+        <translation>No se pueden guardar los ajustes en %1 (%2). Lo que cambie se perderá al cerrar la ventana.</translation>
+    </message>
 </context>
 <context>
     <name>Shortcuts</name>

@@ -2016,6 +2016,10 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
         <translation>Les réglages dans %1 ne peuvent pas être lus. Ils sont conservés sous %2.</translation>
     </message>
+    <message>
+        <source>Settings cannot be saved in %1 (%2). What you change is lost when the window closes.</source>
+        <translation>Les réglages ne peuvent pas être enregistrés dans %1 (%2). Ce que vous modifiez sera perdu à la fermeture de la fenêtre.</translation>
+    </message>
 </context>
 <context>
     <name>Shortcuts</name>

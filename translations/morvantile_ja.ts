@@ -2003,6 +2003,10 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
         <translation>%1 の設定を読み込めません。%2 として残してあります。</translation>
     </message>
+    <message>
+        <source>Settings cannot be saved in %1 (%2). What you change is lost when the window closes.</source>
+        <translation>%1 に設定を保存できません (%2)。変更した内容はウィンドウを閉じると失われます。</translation>
+    </message>
 </context>
 <context>
     <name>Shortcuts</name>

@@ -2003,6 +2003,10 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
         <source>The settings in %1 cannot be read. They are kept as %2.</source>
         <translation>无法读取 %1 中的设置。它们已保留为 %2。</translation>
     </message>
+    <message>
+        <source>Settings cannot be saved in %1 (%2). What you change is lost when the window closes.</source>
+        <translation>无法在 %1 中保存设置（%2）。您所做的更改会在窗口关闭时丢失。</translation>
+    </message>
 </context>
 <context>
     <name>Shortcuts</name>

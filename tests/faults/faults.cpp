@@ -392,6 +392,14 @@ int link(const char* from, const char* to)
                : real<int (*)(const char*, const char*)>("link")(from, to);
 }
 
+int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags)
+{
+    return strikeName(Call::Rename, toFolder, to).fails
+               ? -1
+               : real<int (*)(int, const char*, int, const char*, int)>("linkat")(
+                     fromFolder, from, toFolder, to, flags);
+}
+
 #define SYNC(name)                                                                                 \
     int name(int file)                                                                             \
     {                                                                                              \

@@ -9,7 +9,7 @@ from PIL import Image
 
 from tests.e2e.driver.case import MEDIA, MorvantileCase
 from tests.e2e.driver.frames import frame_number
-from tests.e2e.driver.waiting import wait_until
+from tests.e2e.driver.waiting import holds_for, wait_until
 
 # How long the window may take for an answer on a busy machine; one that waits for a slow read takes
 # twice as long.
@@ -133,6 +133,39 @@ class ReadingFaults(WindowFaults):
         self.check_answers(program, 2.0)
         self.desktop.key("alt+F4")
         self.assertEqual(program.wait_for_end(15), 0)
+
+
+class SettingsFaults(WindowFaults):
+    def check_told_once(self, faults, cause):
+        config = self.home / "config"
+        config.mkdir(parents=True)
+        program = self.start_with(faults, config)
+        label = "Settings cannot be saved"
+
+        def told():
+            return [text for text in program.find_all("label") if label in text.name]
+
+        wait_until(lambda: len(told()) == 1, lambda: f"{len(told())} messages")
+        self.assertIn(cause, told()[0].name)
+        self.desktop.key("Return")
+        wait_until(lambda: not told(), "the message stays")
+        program.window("Morvantile")
+        self.open_paused(program, self.sample("h264_gop250.mp4"))
+        self.take_snapshot(program)
+        self.assertTrue(holds_for(lambda: not told(), 0.5))
+        self.desktop.key("alt+F4")
+        self.assertEqual(program.wait_for_end(), 0)
+        left = [path for path in config.rglob("*") if "probe" in path.name]
+        self.assertEqual(left, [], "what the program tried stays")
+
+    def test_full_disk_is_told_once(self):
+        self.check_told_once("call=write,error=ENOSPC", "No space left on device")
+
+    def test_settings_that_cannot_be_renamed_are_told_once(self):
+        self.check_told_once("call=rename,error=EACCES", "Permission denied")
+
+    def test_failing_disk_is_told_once(self):
+        self.check_told_once("call=write,error=EIO", "Input/output error")
 
 
 if __name__ == "__main__":

@@ -105,17 +105,23 @@ private Q_SLOTS:
         }
     }
 
-    void listsThatDeclareTooMuch_areDamage()
+    void listsThatDeclareTooMuch_areDamage_whereQtWouldThrow()
     {
-        // Qt would throw while reading the value.
         const QByteArray text = "[profiles]\nA\\id=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n";
         QVERIFY(m_home->writeSettingsFile(settingsFileName, text));
-        QCOMPARE(SettingsFile::putDamagedAside().size(), 1);
+        const QStringList texts = SettingsFile::putDamagedAside();
         QSettings settings(path(), QSettings::IniFormat);
+#if QT_VERSION_MAJOR >= 6
+        // It comes to the end of the value before it takes the memory.
+        QCOMPARE(texts, QStringList());
+        QCOMPARE(settings.value(QStringLiteral("profiles/A/id")).toList(), QVariantList());
+#else
+        QCOMPARE(texts.size(), 1);
         QCOMPARE(settings.allKeys(), QStringList());
+#endif
         settings.setValue(QStringLiteral("a"), 1);
         settings.sync();
-        QCOMPARE(contentOf(path()), QByteArray("[General]\na=1\n"));
+        QVERIFY(contentOf(path()).startsWith("[General]\na=1\n"));
     }
 
     void ownSettings_areLookedAtToo()
@@ -128,6 +134,28 @@ private Q_SLOTS:
         file.close();
         QCOMPARE(SettingsFile::putDamagedAside().size(), 1);
         QVERIFY(QFile::exists(own + QStringLiteral(".bad")));
+    }
+
+    void settingsThatCanBeSaved_areNoProblem_andNothingIsLeft()
+    {
+        QCOMPARE(SettingsFile::writeProblem(), QString());
+        const QFileInfo config(path());
+        for (const QString& folder :
+             {config.absolutePath(), config.dir().filePath(QStringLiteral(".."))}) {
+            const QStringList left = QDir(folder).entryList({QStringLiteral(".morvantile*")},
+                                                            QDir::Files | QDir::Hidden);
+            QCOMPARE(left, QStringList());
+        }
+    }
+
+    void folderThatCannotBeMade_isAProblem_thatNamesIt()
+    {
+        const QString folder = QFileInfo(path()).absolutePath();
+        QVERIFY(QDir().mkpath(QFileInfo(folder).absolutePath()));
+        QFile file(folder);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QString problem = SettingsFile::writeProblem();
+        QVERIFY2(problem.contains(folder), qUtf8Printable(problem));
     }
 };
 
