@@ -111,6 +111,9 @@ void SoundThreadTest::player_canEnd_whenTheDeviceHoldsItUp()
         stage.player.play(testsupport::samplePath(QStringLiteral("sound.mp4")));
         QTRY_COMPARE_WITH_TIMEOUT(devices.record.started.load(), 1, patienceMs);
         gate.shut();
+        if (function == QLatin1String("query")) {
+            QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, patienceMs);
+        }
         stage.player.stop();
     }
     QTRY_COMPARE_WITH_TIMEOUT(gate.waiting(), 1, patienceMs);
