@@ -4,13 +4,15 @@
 
 #include <QObject>
 
+#include <optional>
+
 class QPushButton;
 class QSettings;
 
 /// How the program looks: style, palette and style sheet together, and the user's choice of them.
 ///
-/// The choice is in the settings under "theme": "dark", "light" or "system". User-interface thread
-/// only.
+/// The choice is in the settings under "theme": "dark", "light" or "system", which follows the
+/// desktop while the program runs. User-interface thread only.
 class Theme : public QObject
 {
     Q_OBJECT
@@ -29,7 +31,7 @@ public:
     void apply(Choice choice);
 
     [[nodiscard]] Choice choice() const;
-    /// What the choice comes to here.
+    /// What the choice comes to here, and now.
     [[nodiscard]] theme::Scheme scheme() const;
 
     /// Makes a button the one that its window is there for, which stands out in the accent colour,
@@ -41,10 +43,18 @@ Q_SIGNALS:
     /// Other looks are applied.
     void changed();
 
+protected:
+    /// Notices a palette that the desktop has given the application.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     explicit Theme(QObject* parent);
 
-    theme::Scheme m_systemScheme; ///< as it was before anything was applied
+    void noteSystemPalette(const QPalette& palette);
+    void applyLater();
+
+    theme::Scheme m_paletteScheme; ///< of the system's palette, as Qt last told it
+    theme::Scheme m_systemScheme;  ///< what the desktop asked for last, in one way or another
     Choice m_choice = Choice::Dark;
-    bool m_isApplied = false;
+    std::optional<theme::Scheme> m_applied; ///< what the application's palette was made by last
 };
