@@ -5,8 +5,8 @@
 class QLabel;
 
 /// A push button that shows its icon and its text side by side, in both directions of writing, and
-/// the key of its action behind them where there is room. Made narrower than its text needs, it
-/// shows the icon alone. User-interface thread only.
+/// the key of its action behind them where there is room. Made narrower than icon and text need,
+/// it shows the icon alone. User-interface thread only.
 class ActionButton : public QPushButton
 {
     Q_OBJECT

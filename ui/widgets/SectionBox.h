@@ -2,6 +2,9 @@
 
 #include <QGroupBox>
 
+class QStyleOptionGroupBox;
+class QStylePainter;
+
 /// A group of a form that is set apart by a heading and space instead of a frame. To screen readers
 /// and in all else it is a group box. User-interface thread only.
 class SectionBox : public QGroupBox
@@ -19,4 +22,5 @@ protected:
 
 private:
     [[nodiscard]] QFont headingFont() const;
+    void paintMirrored(QStylePainter& painter, const QStyleOptionGroupBox& option);
 };
