@@ -3,7 +3,10 @@
 #include <QScrollArea>
 
 /// A form that scrolls up and down where a screen is too low for it; it is never narrower than its
-/// widgets need. What gets the keyboard comes into view. User-interface thread only.
+/// widgets need. What gets the keyboard comes into view.
+///
+/// The wheel scrolls the form, also over a field, unless that has the keyboard: else a field that
+/// happens to be under the pointer would get another value. User-interface thread only.
 class FormScrollArea : public QScrollArea
 {
     Q_OBJECT
@@ -17,8 +20,10 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     [[nodiscard]] int formWidth() const;
+    [[nodiscard]] bool isToScroll(const QWidget& field) const;
 };
