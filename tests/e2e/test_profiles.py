@@ -16,7 +16,41 @@ SHOWN_WHITE = 210
 # Leaves room for the snapshot beside it.
 DIALOG_SIZE = (700, 640)
 
+# The least that people have: a screen of 800 by 600 less a title bar, with larger letters.
+SMALL_SCREEN = (792, 560)
+LARGE_FONTS = {"QT_FONT_DPI": "144", "QT_ENABLE_HIGHDPI_SCALING": "0"}
+
 WINDOW = "Morvantile - h264_gop250.mp4"
+
+
+class SmallScreenTest(MorvantileCase):
+
+    def test_watermark_is_reached_on_a_small_screen_with_large_fonts(self):
+        program = self.start(environment=LARGE_FONTS)
+        self.open_paused(program, self.sample("h264_gop250.mp4"))
+        self.take_snapshot(program)
+        program.click("push button", "Edit image profiles")
+        dialog = program.window("Image Profile Settings")
+        self.desktop.resize_window(*SMALL_SCREEN)
+        wait_until(lambda: dialog.area[2] - dialog.area[0] <= SMALL_SCREEN[0], "it stays large")
+        # Below what is in view, behind the dialog's own buttons.
+        button = program.find("push button", "Edit Watermark")
+        end = next(program.window().all("push button", "Save")).area[1]
+        self.assertGreater(button.area[3], end)
+        brightness = program.find("spin button", "Brightness")
+        before = brightness.value
+        # Over fields, which keep their values.
+        self.desktop.move(*brightness.middle)
+
+        def in_view():
+            self.desktop.turn_wheel(-1)
+            return button.area[3] < end - 20
+
+        wait_until(in_view, lambda: f"it stays at {button.area}")
+        self.assertEqual(brightness.value, before)
+        self.assertFalse(brightness.is_focused)
+        program.click("push button", "Edit Watermark")
+        program.window("Watermark Settings")
 
 
 class ProfilesTest(MorvantileCase):

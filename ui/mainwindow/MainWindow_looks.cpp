@@ -4,6 +4,7 @@
 
 #include "ui/mainwindow/PlaybackSpeeds.h"
 #include "ui/mainwindow/RecentFiles.h"
+#include "ui/mainwindow/VideoFactsText.h"
 #include "ui/theme/Icons.h"
 #include "ui/theme/Theme.h"
 #include "ui_MainWindow.h"
@@ -22,6 +23,7 @@ void MainWindow::setupLooks()
 {
     m_ui->videoControlsFrame->setParts(*m_ui->timePart, *m_ui->transportPart,
                                        *m_ui->videoFactsLabel, *m_ui->snapshotButton);
+    m_ui->videoFactsLabel->setSeparator(VideoFactsText::separator);
     m_ui->originalSizeButton->giveWayTo(*m_ui->snapshotSummaryLabel, 2);
     m_ui->splitter->setSizes({playerShare, snapshotShare});
     if (layoutDirection() == Qt::RightToLeft) {
@@ -34,6 +36,7 @@ void MainWindow::setupLooks()
                                             tr("No snapshot yet"));
     m_ui->speedButton->setMenu(m_ui->menuSpeed);
     connect(m_player, &QtAV::AVPlayer::speedChanged, this, &MainWindow::showSpeed);
+    showSpeed(m_player->speed());
     const auto keyOf = [](const QAction& action) {
         return action.shortcut().toString(QKeySequence::NativeText);
     };
@@ -56,7 +59,9 @@ void MainWindow::showRecentFiles()
 void MainWindow::showSpeed(qreal speed)
 {
     const QString text = PlaybackSpeeds::text(speed);
-    m_ui->speedButton->setText(text);
+    // As all of the line, it runs from left to right in every language.
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    m_ui->speedButton->setText(isMirrored ? QChar(0x200e) + text : text);
     m_ui->speedButton->setAccessibleDescription(text);
 }
 

@@ -1,15 +1,15 @@
 #include "ui/mainwindow/SnapshotMaker.h"
 
+#include "ui/widgets/LargePicture.h"
+
 #include <utility>
 
 namespace {
 
-/// Pictures larger than full HD take too long for one event.
-constexpr qint64 mostAtOnce = 1920 * 1088;
-
-bool isLarge(const CapturedPicture& picture)
+bool isLarge(const CapturedPicture& picture, const ImageRecipe& recipe)
 {
-    return qint64(picture.image.width()) * picture.image.height() > mostAtOnce;
+    return LargePicture::isLarge(picture.image.size()) ||
+           (!recipe.keepsSize && LargePicture::isLarge(recipe.bounds));
 }
 
 MadeSnapshot made(const CapturedPicture& picture, const ImageRecipe& recipe)
@@ -30,7 +30,7 @@ SnapshotMaker::~SnapshotMaker() = default;
 void SnapshotMaker::capture(const CapturedPicture& picture, const ImageRecipe& recipe)
 {
     // Results must be shown in order.
-    if (m_capturesToCome == 0 && !isLarge(picture)) {
+    if (m_capturesToCome == 0 && !isLarge(picture, recipe)) {
         Q_EMIT captured(made(picture, recipe));
         return;
     }
@@ -53,7 +53,7 @@ void SnapshotMaker::takeCaptured(const MadeSnapshot& made)
 void SnapshotMaker::remake(const CapturedPicture& picture, const ImageRecipe& recipe)
 {
     forgetRemaking();
-    if (!isLarge(picture)) {
+    if (!isLarge(picture, recipe)) {
         Q_EMIT remade(made(picture, recipe));
         return;
     }

@@ -85,5 +85,5 @@ QString VideoFactsText::line(const std::optional<FrameNumber>& frame, const QtAV
         parts += translatedFacts(QT_TRANSLATE_NOOP("VideoFactsText", "speed %1"))
                      .arg(PlaybackSpeeds::text(speed));
     }
-    return parts.join(QStringLiteral(" \u00b7 "));
+    return parts.join(separator);
 }

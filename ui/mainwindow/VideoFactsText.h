@@ -11,6 +11,9 @@
 /// "f1234 · 25 fps · 1920 × 1080 · H.264".
 namespace VideoFactsText {
 
+/// Between what is told.
+inline const QString separator = QStringLiteral(" \u00b7 ");
+
 /// A frame's number, counted from 0.
 struct FrameNumber
 {

@@ -116,7 +116,9 @@ void ActionButton::paintLabel(QPainter& painter, const QRect& area) const
     const int gap = icon().isNull() ? 0 : iconGap;
     const int flags = Qt::AlignVCenter | Qt::TextShowMnemonic;
     const int textWidth = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
-    const bool isIconAlone = !icon().isNull() && width() < minimumSizeHint().width();
+    // The margins give way before the text does.
+    const int leastWidth = edge.width() + gap + textWidth + 2 * theme::spacing::normal;
+    const bool isIconAlone = !icon().isNull() && width() < leastWidth;
     const int wanted = edge.width() + (isIconAlone ? 0 : gap + textWidth);
     const int left = area.left() + std::max(0, area.width() - wanted) / 2;
     const auto placed = [this](const QRect& place) {

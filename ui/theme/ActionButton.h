@@ -5,7 +5,7 @@
 class QLabel;
 
 /// A push button that shows its icon and text side by side, in both layout directions, followed by
-/// the key of its action if there is room. If it is too narrow for its text, it shows only the
+/// the key of its action if there is room. If it is too narrow for icon and text, it shows only the
 /// icon. User-interface thread only.
 class ActionButton : public QPushButton
 {

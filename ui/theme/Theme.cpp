@@ -4,11 +4,14 @@
 #include "ui/theme/ThemeStyle.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPushButton>
 #include <QSettings>
 #include <QStyle>
+#include <QTimer>
 #include <QVariant>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -20,12 +23,22 @@ const QString systemName = QStringLiteral("system");
 /// The style sheet highlights buttons with this property.
 constexpr char primaryProperty[] = "primary";
 
+bool areAlike(const QPalette& a, const QPalette& b)
+{
+    const auto roles = {QPalette::Window, QPalette::Base, QPalette::Button, QPalette::Highlight};
+    return std::all_of(roles.begin(), roles.end(),
+                       [&](QPalette::ColorRole role) { return a.color(role) == b.color(role); });
+}
+
 } // namespace
 
 Theme::Theme(QObject* parent)
     : QObject(parent)
-    , m_systemScheme(theme::schemeOf(QGuiApplication::palette()))
-{}
+    , m_paletteScheme(theme::schemeOf(QGuiApplication::palette()))
+    , m_systemScheme(m_paletteScheme)
+{
+    qApp->installEventFilter(this);
+}
 
 Theme& Theme::instance()
 {
@@ -62,19 +75,53 @@ void Theme::store(QSettings& settings, Choice choice)
 
 void Theme::apply(Choice choice)
 {
-    if (!m_isApplied) {
-        m_isApplied = true;
+    if (!m_applied) {
+        auto style = std::make_unique<ThemeStyle>();
+        connect(style.get(), &ThemeStyle::systemPaletteSeen, this, &Theme::noteSystemPalette);
         // The application takes ownership.
-        QApplication::setStyle(std::make_unique<ThemeStyle>().release());
+        QApplication::setStyle(style.release());
     }
     m_choice = choice;
-    QApplication::setPalette(theme::palette(scheme()));
+    m_applied = scheme();
+    QApplication::setPalette(theme::palette(*m_applied));
     // Widgets keep colours that style sheet rules took from the palette until the sheet is set
     // again.
     if (!qApp->styleSheet().isEmpty()) {
         qApp->setStyleSheet(qApp->styleSheet());
     }
     Q_EMIT changed();
+}
+
+/// Some desktops give the application a palette of their own instead, over ours.
+bool Theme::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationPaletteChange && watched == qApp && m_applied) {
+        const QPalette palette = QGuiApplication::palette();
+        if (!areAlike(palette, theme::palette(*m_applied))) {
+            m_systemScheme = theme::schemeOf(palette);
+            applyLater();
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Theme::noteSystemPalette(const QPalette& palette)
+{
+    const theme::Scheme scheme = theme::schemeOf(palette);
+    if (scheme == m_paletteScheme) {
+        return;
+    }
+    m_paletteScheme = scheme;
+    m_systemScheme = scheme;
+    if (m_choice == Choice::System) {
+        applyLater();
+    }
+}
+
+/// Qt is in the middle of changing palettes.
+void Theme::applyLater()
+{
+    QTimer::singleShot(0, this, [this] { apply(m_choice); });
 }
 
 Theme::Choice Theme::choice() const

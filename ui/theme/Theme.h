@@ -4,13 +4,15 @@
 
 #include <QObject>
 
+#include <optional>
+
 class QPushButton;
 class QSettings;
 
 /// The appearance of the program: style, palette and style sheet, and the user's choice of theme.
 ///
-/// The choice is stored in the settings under "theme": "dark", "light" or "system". User-interface
-/// thread only.
+/// The choice is stored in the settings under "theme": "dark", "light" or "system", which follows
+/// the desktop while the program runs. User-interface thread only.
 class Theme : public QObject
 {
     Q_OBJECT
@@ -29,7 +31,7 @@ public:
     void apply(Choice choice);
 
     [[nodiscard]] Choice choice() const;
-    /// The scheme that results from the choice.
+    /// The scheme that results from the choice now.
     [[nodiscard]] theme::Scheme scheme() const;
 
     /// Makes a button the window's primary one, which stands out in the accent colour, or an
@@ -41,10 +43,18 @@ Q_SIGNALS:
     /// Another theme has been applied.
     void changed();
 
+protected:
+    /// Notices a palette that the desktop has given the application.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     explicit Theme(QObject* parent);
 
-    theme::Scheme m_systemScheme; ///< determined before any theme was applied
+    void noteSystemPalette(const QPalette& palette);
+    void applyLater();
+
+    theme::Scheme m_paletteScheme; ///< of the system's palette, as last reported by Qt
+    theme::Scheme m_systemScheme;  ///< what the desktop last requested, in one way or another
     Choice m_choice = Choice::Dark;
-    bool m_isApplied = false;
+    std::optional<theme::Scheme> m_applied; ///< what the application's palette was made by last
 };

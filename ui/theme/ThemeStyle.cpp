@@ -69,6 +69,12 @@ void ThemeStyle::polish(QWidget* widget)
     }
 }
 
+void ThemeStyle::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    Q_EMIT systemPaletteSeen(palette);
+}
+
 int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                             const QWidget* widget) const
 {

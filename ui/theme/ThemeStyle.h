@@ -14,6 +14,9 @@ public:
     using QProxyStyle::polish;
     /// Applies the properties of a widget: see theme::textSizeProperty.
     void polish(QWidget* widget) override;
+    /// Leaves the palette as it is. Qt hands over that of the system whenever it may have changed,
+    /// before the application's own goes over it.
+    void polish(QPalette& palette) override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override;
     /// Icons of message boxes and of the file dialog are line icons, too.
@@ -24,4 +27,8 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returnData) const override;
     QPalette standardPalette() const override;
+
+Q_SIGNALS:
+    /// What Qt takes for the palette of the system, which may be the same as before.
+    void systemPaletteSeen(const QPalette& palette);
 };

@@ -14,6 +14,12 @@ ElidedLabel::ElidedLabel(QWidget* parent)
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
+void ElidedLabel::setSeparator(const QString& separator)
+{
+    m_separator = separator;
+    update();
+}
+
 QSize ElidedLabel::minimumSizeHint() const
 {
     return {0, QLabel::minimumSizeHint().height()};
@@ -44,7 +50,13 @@ void ElidedLabel::paintEvent(QPaintEvent* event)
 
 QString ElidedLabel::elidedText() const
 {
-    return fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+    const int room = contentsRect().width();
+    QString shown = text();
+    while (!m_separator.isEmpty() && shown.contains(m_separator) &&
+           fontMetrics().horizontalAdvance(shown) > room) {
+        shown.truncate(shown.lastIndexOf(m_separator));
+    }
+    return fontMetrics().elidedText(shown, Qt::ElideMiddle, room);
 }
 
 QString ElidedLabel::wholeToolTip() const

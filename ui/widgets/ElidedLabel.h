@@ -13,6 +13,10 @@ class ElidedLabel : public QLabel
 public:
     explicit ElidedLabel(QWidget* parent = nullptr);
 
+    /// What stands between the parts of a text of which the first matter most: where there is no
+    /// room, whole parts are missing at its end, and there are dots only in the last one left.
+    void setSeparator(const QString& separator);
+
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
@@ -23,4 +27,6 @@ protected:
 private:
     QString elidedText() const;
     QString wholeToolTip() const;
+
+    QString m_separator; ///< empty for a text of one part
 };

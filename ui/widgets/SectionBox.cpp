@@ -5,6 +5,24 @@
 
 #include <algorithm>
 
+namespace {
+
+QRect partOf(const QStyleOptionGroupBox& option, QStyle::SubControl part, const QWidget& widget)
+{
+    return widget.style()->subControlRect(QStyle::CC_GroupBox, &option, part, &widget);
+}
+
+/// Style sheets leave a check box at the left of its text where writing runs from right to left,
+/// and let the text stick out at the right.
+bool isMisplaced(const QStyleOptionGroupBox& option, const QGroupBox& box)
+{
+    return box.layoutDirection() == Qt::RightToLeft &&
+           (!box.isCheckable() || partOf(option, QStyle::SC_GroupBoxCheckBox, box).left() <
+                                      partOf(option, QStyle::SC_GroupBoxLabel, box).left());
+}
+
+} // namespace
+
 SectionBox::SectionBox(QWidget* parent)
     : QGroupBox(parent)
 {}
@@ -37,5 +55,26 @@ void SectionBox::paintEvent(QPaintEvent* /*event*/)
     option.fontMetrics = QFontMetrics(headingFont());
     QStylePainter painter(this);
     painter.setFont(headingFont());
-    painter.drawComplexControl(QStyle::CC_GroupBox, option);
+    if (isMisplaced(option, *this)) {
+        paintMirrored(painter, option);
+    } else {
+        painter.drawComplexControl(QStyle::CC_GroupBox, option);
+    }
+}
+
+void SectionBox::paintMirrored(QStylePainter& painter, const QStyleOptionGroupBox& option)
+{
+    const QRect text = partOf(option, QStyle::SC_GroupBoxLabel, *this);
+    QRect both = text;
+    if (isCheckable()) {
+        const QRect box = partOf(option, QStyle::SC_GroupBoxCheckBox, *this);
+        both = box.united(text);
+        QStyleOptionButton indicator;
+        indicator.QStyleOption::operator=(option);
+        indicator.rect = QStyle::visualRect(Qt::RightToLeft, both, box);
+        painter.drawPrimitive(QStyle::PE_IndicatorCheckBox, indicator);
+    }
+    painter.drawItemText(QStyle::visualRect(Qt::RightToLeft, both, text),
+                         int(Qt::AlignRight | Qt::AlignVCenter | Qt::TextShowMnemonic), palette(),
+                         isEnabled(), title(), QPalette::WindowText);
 }

@@ -2,6 +2,9 @@
 
 #include <QGroupBox>
 
+class QStyleOptionGroupBox;
+class QStylePainter;
+
 /// A group of a form separated by a heading and space instead of a frame. Otherwise, also for
 /// screen readers, it is a group box. User-interface thread only.
 class SectionBox : public QGroupBox
@@ -19,4 +22,5 @@ protected:
 
 private:
     [[nodiscard]] QFont headingFont() const;
+    void paintMirrored(QStylePainter& painter, const QStyleOptionGroupBox& option);
 };

@@ -14,6 +14,7 @@ class SnapshotMakerTest : public QObject
 private Q_SLOTS:
     void smallPicture_isMadeAtOnce();
     void largePicture_isMadeInTheBackground();
+    void largeResult_isMadeInTheBackground();
     void captures_areAnsweredInTheirOrder();
     void onlyTheNewestRemaking_isAnswered();
     void finishing_answersAtOnce_andOnlyOnce();
@@ -67,6 +68,18 @@ void SnapshotMakerTest::largePicture_isMadeInTheBackground()
     QCOMPARE(snapshot.picture.image.size(), large);
     QVERIFY(!snapshot.rendering.image.isNull());
     QCOMPARE(snapshot.rendering.image.pixelColor(10, 10), QColor(Qt::red));
+}
+
+void SnapshotMakerTest::largeResult_isMadeInTheBackground()
+{
+    ImageRecipe enlarging;
+    enlarging.keepsSize = false;
+    enlarging.bounds = large;
+    Maker made;
+    made.maker.capture(pictureOf(small), enlarging);
+    QVERIFY(made.captured.isEmpty());
+    QVERIFY(made.captured.wait(limitMs));
+    QCOMPARE(madeIn(made.captured.first()).rendering.image.size(), large);
 }
 
 void SnapshotMakerTest::captures_areAnsweredInTheirOrder()

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void init();
     void keys_makeItWider_butMayBeLeftOut();
     void iconStandsBesideTheText_inBothDirections();
+    void margins_giveWay_beforeTheTextDoes();
     void narrowButton_showsItsIconAlone();
     void button_givesWay_untilTheLabelHasRoom();
 
@@ -82,6 +83,17 @@ void ActionButtonTest::iconStandsBesideTheText_inBothDirections()
         QVERIFY(columns.last() - columns.first() < button.minimumSizeHint().width());
         QVERIFY(std::abs(columns.first() + columns.last() - 400) < 12);
     }
+}
+
+void ActionButtonTest::margins_giveWay_beforeTheTextDoes()
+{
+    ActionButton button;
+    fill(button);
+    button.resize(button.minimumSizeHint());
+    const QVector<int> whole = inked(button);
+    // Of the 24 pixels of padding, eight can go.
+    button.resize(button.width() - 8, button.height());
+    QCOMPARE(inked(button).size(), whole.size());
 }
 
 void ActionButtonTest::narrowButton_showsItsIconAlone()

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QImage>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -13,6 +14,37 @@
 using testsupport::TestSettings;
 
 namespace {
+
+/// A desktop whose palette changes, as the program's style gets to see it.
+class ChangingDesktop : public QProxyStyle
+{
+public:
+    ChangingDesktop()
+        : QProxyStyle(QApplication::style())
+    {}
+
+    using QProxyStyle::polish;
+    void polish(QPalette& palette) override
+    {
+        palette = m_palette;
+        QProxyStyle::polish(palette);
+    }
+
+    void change(const QColor& ground)
+    {
+        m_palette = QPalette(ground);
+        // Has Qt look at the system's palette, as a change of it does.
+        QApplication::setPalette(QApplication::palette());
+    }
+
+private:
+    QPalette m_palette{Qt::white};
+};
+
+QColor windowColour(theme::Scheme scheme)
+{
+    return theme::palette(scheme).color(QPalette::Window);
+}
 
 QColor groundOf(QWidget& widget)
 {
@@ -32,6 +64,9 @@ private Q_SLOTS:
     void choice_isRemembered();
     void open_window_changesAtOnce();
     void system_isWhatTheDesktopIs();
+    void system_isFollowed_whenItsPaletteChanges();
+    void system_isFollowed_whenItGivesTheApplicationAPalette();
+    void chosenTheme_stays_whateverTheSystemBecomes();
     void sheet_isMadeAnew_forThePaletteOfTheTheme();
     void primaryButton_standsOut_untilItIsAnOrdinaryOneAgain();
     void messageBox_hasALineIcon();
@@ -93,6 +128,60 @@ void ThemeTest::system_isWhatTheDesktopIs()
     QCOMPARE(Theme::instance().scheme(), theme::Scheme::Light);
     QCOMPARE(QApplication::palette().color(QPalette::Window),
              theme::palette(theme::Scheme::Light).color(QPalette::Window));
+}
+
+void ThemeTest::system_isFollowed_whenItsPaletteChanges()
+{
+    Theme& theme = Theme::instance();
+    theme.apply(Theme::Choice::System);
+    auto* const desktop = new ChangingDesktop;
+    QApplication::setStyle(desktop);
+    QCOMPARE(theme.scheme(), theme::Scheme::Light);
+    QWidget window;
+    window.resize(40, 40);
+    window.show();
+    QSignalSpy changed(&theme, &Theme::changed);
+    desktop->change(QColor(40, 40, 40));
+    QTRY_COMPARE(changed.size(), 1);
+    QCOMPARE(theme.choice(), Theme::Choice::System);
+    QCOMPARE(theme.scheme(), theme::Scheme::Dark);
+    QCOMPARE(groundOf(window), windowColour(theme::Scheme::Dark));
+    desktop->change(Qt::white);
+    QTRY_COMPARE(changed.size(), 2);
+    QCOMPARE(groundOf(window), windowColour(theme::Scheme::Light));
+    // It stays at that.
+    QCoreApplication::processEvents();
+    QCOMPARE(changed.size(), 2);
+}
+
+void ThemeTest::system_isFollowed_whenItGivesTheApplicationAPalette()
+{
+    Theme& theme = Theme::instance();
+    theme.apply(Theme::Choice::System);
+    QWidget window;
+    window.resize(40, 40);
+    window.show();
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    QTRY_COMPARE(groundOf(window), windowColour(theme::Scheme::Dark));
+    QCOMPARE(theme.scheme(), theme::Scheme::Dark);
+    QApplication::setPalette(QPalette(QColor(Qt::white)));
+    QTRY_COMPARE(groundOf(window), windowColour(theme::Scheme::Light));
+}
+
+void ThemeTest::chosenTheme_stays_whateverTheSystemBecomes()
+{
+    Theme& theme = Theme::instance();
+    theme.apply(Theme::Choice::Light);
+    QWidget window;
+    window.resize(40, 40);
+    window.show();
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    QTRY_COMPARE(groundOf(window), windowColour(theme::Scheme::Light));
+    // What it became is taken when it is asked for.
+    theme.apply(Theme::Choice::System);
+    QCOMPARE(groundOf(window), windowColour(theme::Scheme::Dark));
+    QApplication::setPalette(QPalette(QColor(Qt::white)));
+    QTRY_COMPARE(groundOf(window), windowColour(theme::Scheme::Light));
 }
 
 void ThemeTest::sheet_isMadeAnew_forThePaletteOfTheTheme()

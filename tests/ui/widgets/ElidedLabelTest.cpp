@@ -18,6 +18,7 @@ class ElidedLabelTest : public QObject
 private Q_SLOTS:
     void longText_asksForNoWidth_andKeepsItsText();
     void longText_isPaintedWhollyInside_withItsEnd();
+    void textOfParts_losesWholeParts_atItsEnd();
     void markup_isPlainText();
     void toolTip_isTheWholeText();
     void toolTip_isTheOneThatWasSet_whileTextFits();
@@ -69,6 +70,26 @@ void ElidedLabelTest::longText_isPaintedWhollyInside_withItsEnd()
     QVERIFY(paintedBounds(elided).width() > 60);
     label.setText(longText + QStringLiteral("x"));
     QVERIFY(paintedBy(label) != elided);
+}
+
+void ElidedLabelTest::textOfParts_losesWholeParts_atItsEnd()
+{
+    const QString two = QStringLiteral("f14 - 25 fps");
+    ElidedLabel label;
+    label.resize(label.fontMetrics().horizontalAdvance(two) + 10, 20);
+    label.setText(two + QStringLiteral(" - 1280 x 720 - H.264"));
+    const QImage inTheMiddle = paintedBy(label);
+    label.setSeparator(QStringLiteral(" - "));
+    const QImage shortened = paintedBy(label);
+    QVERIFY(shortened != inTheMiddle);
+    label.setText(two);
+    QCOMPARE(shortened, paintedBy(label));
+    // All that is left is shortened like any other text.
+    label.resize(label.fontMetrics().horizontalAdvance(QStringLiteral("f")) * 3, 20);
+    label.setText(QStringLiteral("f1400000 - 25 fps"));
+    const QImage least = paintedBy(label);
+    label.setText(QStringLiteral("f1400000"));
+    QCOMPARE(least, paintedBy(label));
 }
 
 void ElidedLabelTest::markup_isPlainText()
