@@ -60,10 +60,7 @@ namespace FilePublisher {
 /// publish the content itself then, which reports the reason.
 [[nodiscard]] std::shared_ptr<HiddenFile> prepare(const QString& folder, const QByteArray& content);
 
-/// How many bytes a prepared file holds.
-[[nodiscard]] qint64 sizeOf(const HiddenFile& prepared);
-
-/// How many bytes a prepared file holds.
+/// The number of bytes in a prepared file.
 [[nodiscard]] qint64 sizeOf(const HiddenFile& prepared);
 
 /// Like publish() with ExistingFile::Keep, for content prepared in the folder of `fileName`. After

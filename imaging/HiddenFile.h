@@ -26,10 +26,7 @@ public:
     /// The path in the file system's encoding.
     const QByteArray& path() const { return m_path; }
 
-    /// How many bytes it was filled with.
-    qint64 size() const { return m_size; }
-
-    /// How many bytes it was filled with.
+    /// The number of bytes that fill() wrote.
     qint64 size() const { return m_size; }
 
     /// The system's number of the last error; 0 for none.

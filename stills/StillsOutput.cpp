@@ -157,9 +157,6 @@ void StillsOutput::take(SeriesPicture picture)
     if (picture.file) {
         m_preparedBytes -= FilePublisher::sizeOf(*picture.file);
     }
-    if (picture.file) {
-        m_preparedBytes -= FilePublisher::sizeOf(*picture.file);
-    }
     // The engine gives the last frame there, which is not what was requested.
     if (picture.askedMs && picture.askedMs > m_durationMs) {
         picture.error = tr("The video ends at %1.").arg(exactClockTime(m_durationMs));

@@ -78,7 +78,7 @@ void SnapshotMakerTest::largeResult_isMadeInTheBackground()
     Maker made;
     made.maker.capture(pictureOf(small), enlarging);
     QVERIFY(made.captured.isEmpty());
-    QVERIFY(made.captured.wait(limitMs));
+    QVERIFY(made.captured.wait(patienceMs));
     QCOMPARE(madeIn(made.captured.first()).rendering.image.size(), large);
 }
 
