@@ -16,7 +16,7 @@ namespace QtAV {
 namespace {
 
 /// Maximum size of what readAhead() keeps while no key frame comes.
-constexpr qint64 mostAheadBytes = 64 * 1024 * 1024;
+constexpr qint64 mostAheadBytes = qint64{64} * 1024 * 1024;
 
 QVariantHash decoderOptions(bool skips, bool hurries)
 {
