@@ -36,7 +36,6 @@ void MainWindow::setupLooks()
                                             tr("No snapshot yet"));
     m_ui->speedButton->setMenu(m_ui->menuSpeed);
     connect(m_player, &QtAV::AVPlayer::speedChanged, this, &MainWindow::showSpeed);
-    showSpeed(m_player->speed());
     const auto keyOf = [](const QAction& action) {
         return action.shortcut().toString(QKeySequence::NativeText);
     };
@@ -59,9 +58,7 @@ void MainWindow::showRecentFiles()
 void MainWindow::showSpeed(qreal speed)
 {
     const QString text = PlaybackSpeeds::text(speed);
-    // As all of the line, it runs from left to right in every language.
-    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
-    m_ui->speedButton->setText(isMirrored ? QChar(0x200e) + text : text);
+    m_ui->speedButton->setText(text);
     m_ui->speedButton->setAccessibleDescription(text);
 }
 
