@@ -43,8 +43,9 @@ bool HeldPictures::add(AVFrame& frame, qint64 bytes) const
     auto share = std::make_unique<Share>(m_bytes, bytes);
     BufferPtr buffer(av_buffer_create(reinterpret_cast<std::uint8_t*>(share.get()), sizeof(Share),
                                       &freeShare, nullptr, AV_BUFFER_FLAG_READONLY));
-    if (!buffer)
+    if (!buffer) {
         return false;
+    }
     static_cast<void>(share.release());
     frame.opaque_ref = buffer.release();
     return true;

@@ -257,8 +257,9 @@ void VideoDecoder::close()
 
 qint64 VideoDecoder::pictureBytes() const
 {
-    if (!d->parameters)
+    if (!d->parameters) {
         return 0;
+    }
     const AVCodecParameters& stream = *d->parameters->codec;
     const QSize stored(stream.width, stream.height);
     const QSize shown =
