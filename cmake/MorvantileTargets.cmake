@@ -109,6 +109,8 @@ function(morvantile_add_library name)
   if(MORVANTILE_QUICK_BUILD)
     set_target_properties(${name} PROPERTIES
       UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${MORVANTILE_BATCH_SIZE})
+    # The compiler takes what is included for headers, where nothing may be in an anonymous namespace.
+    target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
   endif()
   if(MORVANTILE_QUICK_BUILD AND ARG_PRECOMPILED)
     target_precompile_headers(${name} REUSE_FROM morvantile_${ARG_PRECOMPILED}_headers)

@@ -2,19 +2,14 @@
 
 #include "tests/qtav/Decoding.h"
 #include "tests/support/FrameNumber.h"
+#include "tests/support/Patience.h"
 
 #include <QSemaphore>
 #include <QTest>
 
 using QtAV::PictureMaker;
 using QtAV::VideoFrame;
-
-namespace {
-
-/// Maximum time for any action, in milliseconds; far more than needed.
-constexpr int patience = 30000;
-
-} // namespace
+using testsupport::patienceMs;
 
 /// The thread that makes pictures from frames.
 class PictureMakerTest : public QObject
@@ -55,7 +50,7 @@ void PictureMakerTest::picture_isThatOfTheFrame_atItsSize()
     for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_RGBX8888}) {
         for (const QSize size : {QSize(320, 240), QSize(160, 120), QSize(480, 360)}) {
             maker.request({m_frames.at(3), size, format, ++serial});
-            QVERIFY(woken.tryAcquire(1, patience));
+            QVERIFY(woken.tryAcquire(1, patienceMs));
             const auto picture = maker.take();
             QVERIFY(picture);
             QCOMPARE(picture->serial, serial);
@@ -77,7 +72,7 @@ void PictureMakerTest::transparentParts_lieOnBlack()
     QSemaphore woken;
     PictureMaker maker([&woken] { woken.release(); });
     maker.request({frame, size, QImage::Format_RGB32, 1});
-    QVERIFY(woken.tryAcquire(1, patience));
+    QVERIFY(woken.tryAcquire(1, patienceMs));
     const QImage image = maker.take()->image;
     const QPoint transparent(size.width() / 4, size.height() * 7 / 8);
     QCOMPARE(image.pixel(transparent), qRgb(0, 0, 0));
@@ -99,7 +94,7 @@ void PictureMakerTest::newestRequest_isCarriedOut_whateverWasAskedBefore()
     quint64 last = 0;
     int pictures = 0;
     while (last < serial) {
-        QVERIFY(woken.tryAcquire(1, patience));
+        QVERIFY(woken.tryAcquire(1, patienceMs));
         if (const auto picture = maker.take()) {
             QVERIFY(picture->serial > last);
             last = picture->serial;
@@ -114,7 +109,7 @@ void PictureMakerTest::cancelledRequest_givesNoPicture()
     QSemaphore woken;
     PictureMaker maker([&woken] { woken.release(); });
     maker.request({m_frames.at(0), {320, 240}, QImage::Format_RGB32, 1});
-    QVERIFY(woken.tryAcquire(1, patience));
+    QVERIFY(woken.tryAcquire(1, patienceMs));
     maker.cancel();
     QVERIFY(!maker.take());
 }

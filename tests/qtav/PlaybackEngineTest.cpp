@@ -1,6 +1,7 @@
 #include "qtav/player/PlaybackEngine.h"
 
 #include "tests/qtav/Decoding.h"
+#include "tests/support/Patience.h"
 #include "tests/support/TestDir.h"
 
 #include <QFile>
@@ -10,15 +11,13 @@
 #include <deque>
 #include <optional>
 
+using testsupport::patienceMs;
 using namespace decoding;
 using QtAV::FrameAnswer;
 using QtAV::PlaybackEngine;
 using Answer = PlaybackEngine::Answer;
 
 namespace {
-
-/// Maximum time for any action, in milliseconds; far more than needed.
-constexpr int patience = 30000;
 
 /// An engine and its answers.
 class Harness
@@ -28,7 +27,7 @@ public:
     std::optional<Answer> next()
     {
         while (m_answers.empty()) {
-            if (!m_woken.tryAcquire(1, patience)) {
+            if (!m_woken.tryAcquire(1, patienceMs)) {
                 return std::nullopt;
             }
             for (Answer& answer : engine.takeAnswers()) {
@@ -200,7 +199,7 @@ void PlaybackEngineTest::queue_holdsTheFramesInOrder_untilTheEnd()
     harness.engine.setPlaying(true);
     int number = 40;
     bool isEnded = false;
-    for (int i = 0; !isEnded && i < patience; ++i) {
+    for (int i = 0; !isEnded && i < patienceMs; ++i) {
         const PlaybackEngine::Due due =
             harness.engine.takeDue((number + 1) * 0.04, PlaybackEngine::CatchUp::No);
         QVERIFY(!due.failure);
@@ -262,7 +261,7 @@ void PlaybackEngineTest::queue_fails_insteadOfEnding_whereTheFileIsLost()
     harness.engine.setPlaying(true);
     PlaybackEngine::Due due;
     int number = 0;
-    for (int i = 0; !due.failure && !due.isEnded && i < patience; ++i) {
+    for (int i = 0; !due.failure && !due.isEnded && i < patienceMs; ++i) {
         due = harness.engine.takeDue((number + 1) * 0.04, PlaybackEngine::CatchUp::No);
         if (due.frame.isValid()) {
             number = shown(due.frame).number;
