@@ -74,8 +74,8 @@ function(morvantile_spare_moc target)
   set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
 endfunction()
 
-# So many sources are compiled as one where MORVANTILE_QUICK_BUILD is on, for they include much the
-# same. Enough of these batches are left to keep the cores busy.
+# Number of sources that are compiled as one with MORVANTILE_QUICK_BUILD, because they include much the
+# same. The remaining batches are enough to keep all cores busy.
 set(MORVANTILE_BATCH_SIZE 8)
 
 # morvantile_add_library(NAME SOURCES file… [PRIVATE_HEADERS file…] [HEADER_ROOT folder]
@@ -109,7 +109,7 @@ function(morvantile_add_library name)
   if(MORVANTILE_QUICK_BUILD)
     set_target_properties(${name} PROPERTIES
       UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${MORVANTILE_BATCH_SIZE})
-    # The compiler takes what is included for headers, where nothing may be in an anonymous namespace.
+    # The compiler takes the included sources for headers, which must not use anonymous namespaces.
     target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
   endif()
   if(MORVANTILE_QUICK_BUILD AND ARG_PRECOMPILED)

@@ -1,6 +1,6 @@
 # How the folders declare their tests.
 
-# Tests of a sanitizer's build say so in their names, since ./test.sh runs all builds as one suite.
+# Tests of a sanitizer's build have it in their names, since ./test.sh runs all builds as one suite.
 if(MORVANTILE_SANITIZE MATCHES "thread")
   set(MORVANTILE_TEST_SUFFIX ".tsan")
 elseif(MORVANTILE_SANITIZE)
@@ -8,8 +8,8 @@ elseif(MORVANTILE_SANITIZE)
 endif()
 
 # morvantile_run_moc(TARGET TESTS file… [HEADERS file…])
-# Has moc run on the tests' own files, which include the outcome, and on the headers that need it.
-# CMake's search for what needs moc takes longer than compiling a short test.
+# Runs moc on the tests' own files, which include the result, and on the headers that need it.
+# CMake's search for input of moc takes longer than compiling a short test.
 function(morvantile_run_moc target)
   cmake_parse_arguments(ARG "" "" "TESTS;HEADERS" ${ARGN})
   set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
@@ -35,19 +35,19 @@ endfunction()
 # morvantile_add_test(FOLDER/NAME [SOURCES file…] LIBS lib… [DEFINITIONS definition…]
 #                     [NEEDS target…] [MEDIA] [EXHAUSTIVE] [OPTIMISED] [CORE_ONLY] [ALONE]
 #                     [LABELS label…] [TIMEOUT s])
-# One Qt Test class: FOLDER/NAME.cpp. MEDIA makes the sample videos first. NEEDS names what has to be
-# built for it to run.
-# EXHAUSTIVE is a test that asks for the frames of all samples one by one. Sanitizers do without it:
-# for the time it takes they would see nothing that the tests beside it do not show them.
-# OPTIMISED is one that has to run in a release build as well: the optimiser may change its outcome,
-# it measures time or limits memory, or it does less under sanitizers. Without MORVANTILE_ALL_TESTS a
-# release build has these and the exhaustive ones alone.
-# CORE_ONLY is one that is built without Qt::Gui, and so without the precompiled headers.
-# ALONE is one that is a program of its own in every build; so are those with CORE_ONLY. Of the
-# others, where MORVANTILE_QUICK_BUILD is on, each folder makes one program.
-# It runs on the offscreen platform, in no country's language, with a home of its own.
-# The label `threads` marks a test of what runs in several threads: thread sanitizer runs these
-# alone, for Qt's own libraries are not built for it and the other tests would tell it nothing.
+# A Qt Test class: FOLDER/NAME.cpp. MEDIA makes the sample videos first. NEEDS lists other targets that
+# must be built before the test runs.
+# EXHAUSTIVE is a test that requests the frames of all samples one by one. Sanitizers skip it: it
+# takes too long for what they would find beyond the other tests.
+# OPTIMISED is a test that must also run in a release build: the optimiser may change its result, it
+# measures time or limits memory, or sanitizers cover less of it. Without MORVANTILE_ALL_TESTS a
+# release build contains only these and the exhaustive ones.
+# CORE_ONLY is a test that is built without Qt::Gui, and so without precompiled headers.
+# ALONE is a test with a program of its own in every build, as are those with CORE_ONLY. With
+# MORVANTILE_QUICK_BUILD the other tests of a folder share one program.
+# Tests run on the offscreen platform, in a neutral locale, with a home folder of their own.
+# The label `threads` marks tests of multi-threaded code. Thread sanitizer runs only these, because
+# Qt's own libraries are not instrumented and the other tests would find nothing.
 function(morvantile_add_test path)
   cmake_parse_arguments(ARG "MEDIA;EXHAUSTIVE;OPTIMISED;CORE_ONLY;ALONE" "TIMEOUT"
     "SOURCES;LIBS;DEFINITIONS;NEEDS;LABELS" ${ARGN})
@@ -68,7 +68,7 @@ function(morvantile_add_test path)
     morvantile_add_test_program(${name} TESTS ${path}.cpp SOURCES ${ARG_SOURCES}
       LIBS ${ARG_LIBS} DEFINITIONS ${ARG_DEFINITIONS} NEEDS ${ARG_NEEDS})
   endif()
-  # Qt 6 tells each test where it was built, and what was precompiled elsewhere does not fit.
+  # Qt 6 passes each test its build folder, so headers precompiled elsewhere do not match.
   if(MORVANTILE_QUICK_BUILD AND ARG_ALONE AND MORVANTILE_QT EQUAL 5)
     target_precompile_headers(${name} REUSE_FROM morvantile_test_support)
   endif()
@@ -83,14 +83,14 @@ function(morvantile_add_test path)
     set_property(TEST ${test} PROPERTY FIXTURES_REQUIRED media)
   endif()
   if(ARG_TIMEOUT)
-    # The longest begin first, so that none of them is left alone at the end.
+    # The longest start first, so that none of them remains alone at the end.
     set_tests_properties(${test} PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_TIMEOUT})
   endif()
 endfunction()
 
 # morvantile_add_test_program(NAME TESTS file… [SOURCES file…] LIBS lib… [DEFINITIONS definition…]
 #                             [NEEDS target…] [GENERATED file…])
-# A program of one test or several; GENERATED are the sources that include those of several.
+# A program of one or more tests. GENERATED sources include the TESTS if there are several.
 function(morvantile_add_test_program name)
   cmake_parse_arguments(ARG "" "" "TESTS;SOURCES;LIBS;DEFINITIONS;NEEDS;GENERATED" ${ARGN})
   set(compiled ${ARG_TESTS})
@@ -106,8 +106,8 @@ function(morvantile_add_test_program name)
 endfunction()
 
 # morvantile_join_test(COMMAND file)
-# Makes a test part of its folder's program, and sets COMMAND to what runs it there. Compiled
-# together, tests take a third of the time: they include and instantiate much the same.
+# Adds a test to its folder's program and sets COMMAND to the command that runs it. Compiled
+# together, tests take a third of the time, because they include and instantiate much the same.
 function(morvantile_join_test command test)
   cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY "${CMAKE_SOURCE_DIR}"
     OUTPUT_VARIABLE program)
@@ -126,8 +126,8 @@ function(morvantile_join_test command test)
 endfunction()
 
 # morvantile_add_joined_tests()
-# The program of the tests that the folder has joined: its first argument is the name of one, the
-# others are for that. Each test's main() gets a name of its own.
+# Adds the folder's program. Its first argument is the name of a test, which gets the other arguments.
+# The main() of each test is renamed.
 function(morvantile_add_joined_tests)
   foreach(kind PROGRAM TESTS SOURCES LIBS DEFINITIONS NEEDS)
     get_property(${kind} DIRECTORY PROPERTY MORVANTILE_${kind})
@@ -168,7 +168,7 @@ ${choices}    return 2;
 " @ONLY)
   morvantile_add_test_program(${PROGRAM} TESTS ${TESTS} SOURCES ${SOURCES} LIBS ${LIBS}
     DEFINITIONS ${DEFINITIONS} NEEDS ${NEEDS} GENERATED ${generated})
-  # The compiler takes what is included for headers, where nothing may be in an anonymous namespace.
+  # The compiler takes the included tests for headers, which must not use anonymous namespaces.
   target_compile_options(${PROGRAM} PRIVATE -Wno-subobject-linkage)
   if(MORVANTILE_QT EQUAL 5)
     target_precompile_headers(${PROGRAM} REUSE_FROM morvantile_test_support)

@@ -2,7 +2,8 @@
 
 namespace testsupport {
 
-/// How long a test waits for what takes far less, in milliseconds: machines may be busy.
+/// Time limit for anything a test waits for, in milliseconds. Far more than needed, for busy
+/// machines.
 constexpr int patienceMs = 60000;
 
 } // namespace testsupport

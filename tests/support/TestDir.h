@@ -21,8 +21,8 @@ public:
     /// The path of a file in the folder, which need not exist.
     [[nodiscard]] QString filePath(const QString& name) const;
 
-    /// Makes a file in the folder, and the folders on its way; the file's path. Ends the test
-    /// program where that fails.
+    /// Creates a file in the folder, with missing parent folders, and returns its path. Ends the
+    /// test program on failure.
     QString makeFile(const QString& name, const QByteArray& content = {}) const;
 
 private:

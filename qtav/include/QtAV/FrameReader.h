@@ -39,7 +39,8 @@ public:
     /// Decoding on to a frame at most this far ahead is cheaper than starting at a key frame.
     static constexpr double nearSeconds = 1.0;
 
-    /// A search that landed too late goes back by at least this much more, then twice as far.
+    /// If a search lands too late, the next one starts at least this much earlier, then twice as
+    /// much.
     static constexpr qint64 smallestStepBackMs = 500;
 
     /// How packets that cannot be decoded are treated on the way to a frame.
