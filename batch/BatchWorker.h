@@ -110,8 +110,8 @@ private Q_SLOTS:
     void tellNews();
 
 private:
-    /// How often to look whether fewer images wait or an answer has come, and how long to wait for
-    /// images: should the worker's thread make none, the job goes on all the same.
+    /// Interval of checks for fewer waiting images or for an answer, and the maximum time of
+    /// waiting for images: if the worker's thread makes none, the job continues.
     static constexpr unsigned long lookMilliseconds = 10;
     static constexpr qint64 longestWaitMilliseconds = 5000;
 

@@ -1,7 +1,6 @@
 #pragma once
 
-// Values of nal_unit_type that say whether a picture is a key picture, and whether any other needs
-// it.
+// Values of nal_unit_type that tell key pictures and unreferenced pictures.
 namespace QtAV {
 
 /// ITU-T H.264, table 7-1.

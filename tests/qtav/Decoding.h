@@ -13,7 +13,7 @@
 /// Helpers for tests of the video library with a demuxer and a decoder.
 namespace decoding {
 
-/// For what nobody cancels.
+/// A cancellation test for operations that are never cancelled.
 inline bool never()
 {
     return false;
