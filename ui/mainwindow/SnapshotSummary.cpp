@@ -14,7 +14,7 @@ QString translatedSummary(const char* text)
 
 QString sizeText(const QSize& size)
 {
-    return QStringLiteral("%1\u00a0\u00d7\u00a0%2").arg(size.width()).arg(size.height());
+    return QStringLiteral("%1 \u00d7 %2").arg(size.width()).arg(size.height());
 }
 
 } // namespace
@@ -45,10 +45,10 @@ QString SnapshotSummary::text(const QSize& saved, const QSize& frame, const QStr
                             : translatedSummary(QT_TRANSLATE_NOOP("SnapshotSummary", "%1 of %2"))
                                   .arg(sizeText(saved), sizeText(frame));
     parts += ImageFormats::hasQuality(type)
-                 ? QStringLiteral("%1\u00a0%2").arg(formatName(type)).arg(recipe.jpegQuality)
+                 ? QStringLiteral("%1 %2").arg(formatName(type)).arg(recipe.jpegQuality)
                  : formatName(type);
     if (recipe.watermark) {
         parts += translatedSummary(QT_TRANSLATE_NOOP("SnapshotSummary", "watermark"));
     }
-    return parts.join(QStringLiteral("\u00a0\u00b7 "));
+    return parts.join(QStringLiteral(" \u00b7 "));
 }
