@@ -1,4 +1,5 @@
 #include "tests/support/Patience.h"
+#include "tests/support/TestDir.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "tests/support/FrameNumber.h"
@@ -15,6 +16,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
+#include <QFile>
 #include <QListView>
 #include <QListWidget>
 #include <QMenu>
@@ -34,6 +36,7 @@ class MainWindowFindingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void zoom_isByKeys();
     void arrowKeys_stepThroughTheVideo_whileTheFilmstripHasTheKeyboard();
     void nextAndPreviousVideo_areOpenedByKeys();
@@ -42,6 +45,9 @@ private Q_SLOTS:
     void severalVideos_areOpenedOrGoToBatchMode_data();
     void severalVideos_areOpenedOrGoToBatchMode();
     void bestFrame_isTaken();
+
+private:
+    TestDir m_config;
 };
 
 namespace {
@@ -69,6 +75,12 @@ void pressInNextBox(QObject& owner, const QString& text)
 }
 
 } // namespace
+
+/// Without the list of videos that batch mode kept in an earlier run.
+void MainWindowFindingTest::initTestCase()
+{
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_config.path()));
+}
 
 void MainWindowFindingTest::zoom_isByKeys()
 {
