@@ -1,9 +1,9 @@
-#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "tests/support/FrameNumber.h"
+#include "tests/support/Patience.h"
 #include "tests/support/ResourceLimits.h"
 #include "tests/support/Samples.h"
 #include "ui/filmstrip/Filmstrip.h"

@@ -1,10 +1,10 @@
-#include "tests/support/Patience.h"
-#include "tests/support/TestDir.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "tests/support/FrameNumber.h"
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "tests/support/SharpFrames.h"
+#include "tests/support/TestDir.h"
 #include "ui/batch/BatchModeDialog.h"
 #include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/BestFramesDialog.h"

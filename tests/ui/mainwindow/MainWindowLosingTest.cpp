@@ -1,6 +1,6 @@
-#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "tests/ui/dialogs/support/ModalScript.h"
 #include "ui/batch/BatchModeDialog.h"

@@ -1,6 +1,6 @@
-#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "ui/widgets/VolumePopup.h"
 

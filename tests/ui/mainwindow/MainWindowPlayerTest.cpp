@@ -1,8 +1,8 @@
-#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "ui/widgets/VolumePopup.h"
 

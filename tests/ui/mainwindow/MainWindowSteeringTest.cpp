@@ -1,7 +1,7 @@
-#include "tests/support/Patience.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "tests/support/FrameNumber.h"
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "ui/batch/BatchModeDialog.h"
 #include "ui/mainwindow/TimeSlider.h"
