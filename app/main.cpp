@@ -39,14 +39,14 @@ int main(int argc, char** argv)
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();
     QStringList news = SettingsFile::putDamagedAside();
-    const QString problem = SettingsFile::writeProblem();
-    if (!problem.isEmpty()) {
-        news += problem;
-    }
     // Kept for the whole run, so that temporary settings objects share its open file.
     const QSettings settings;
     const QString asked = Languages::inArguments(QCoreApplication::arguments());
     Languages::use(*app, asked.isEmpty() ? Languages::chosen(settings) : asked);
+    const QString problem = SettingsFile::writeProblem();
+    if (!problem.isEmpty()) {
+        news += problem;
+    }
     showMainWindow(*app, files, news);
     return 0;
 }
