@@ -261,7 +261,7 @@ void SeriesLane::walk(const Task& task)
     QString error;
     if (open(task.video, error)) {
         const qint64 pictureBytes = m_reader.pictureBytes();
-        if (enter(task, error)) {
+        if (enter(task, pictureBytes, error)) {
             error = walkStretch(task);
             m_board.leave(pictureBytes);
         }
@@ -271,9 +271,8 @@ void SeriesLane::walk(const Task& task)
 
 /// Waits until there is memory for pictures of that size, without those that the decoder keeps.
 /// False where that was in vain.
-bool SeriesLane::enter(const Task& task, QString& error)
+bool SeriesLane::enter(const Task& task, qint64 pictureBytes, QString& error)
 {
-    const qint64 pictureBytes = m_reader.pictureBytes();
     if (m_board.enter(task.video, task.stretch, pictureBytes)) {
         return true;
     }

@@ -39,7 +39,7 @@ private:
     [[nodiscard]] bool isGivenUp() const;
 
     void walk(const Task& task);
-    [[nodiscard]] bool enter(const Task& task, QString& error);
+    [[nodiscard]] bool enter(const Task& task, qint64 pictureBytes, QString& error);
     [[nodiscard]] QString walkStretch(const Task& task);
     void walkTargets(const Task& task);
     [[nodiscard]] bool walkTarget(const Task& task, int index);
