@@ -120,35 +120,6 @@ class Writing(FaultCase):
                              self.out, faults="call=write,error=ENOSPC,after=2")
         self.check_told(result, "pictures left of this video")
 
-    def test_full_disk_says_how_much_the_rest_of_the_run_needs(self):
-        # Pictures of one size, whichever video's the disk has no room for.
-        again = self.folder / "again.mp4"
-        shutil.copy(VIDEO, again)
-        arguments = [VIDEO, again, "-c20", "-f", "png", "-o"]
-        whole = self.folder / "whole"
-        whole.mkdir()
-        self.assertEqual(self.stills(*arguments, whole).status, 0)
-        sizes = [path.stat().st_size for path in self.visible(whole)]
-        disk = sum(sizes) // 3 // 4096 * 4096
-        with small_disk(self.out, disk) as is_mounted:
-            faults = None if is_mounted else "call=write,error=ENOSPC,after=10"
-            result = self.stills(*arguments, self.out, faults=faults)
-            left = len(sizes) - len(self.visible())
-            said = re.search(r"and about ([0-9.]+) (kB|MB) for the (\d+) pictures left\n",
-                             result.output)
-            self.assertTrue(said, str(result))
-            self.assertEqual(int(said[3]), left, str(result))
-            missing = float(said[1]) * {"kB": 1e3, "MB": 1e6}[said[2]]
-            # What is free where no disk could be mounted is unknown; the pictures differ in size.
-            needed = sum(sizes) - disk if is_mounted else sum(sizes) * left / len(sizes)
-            self.assertGreater(missing, needed * 0.7)
-            self.assertLess(missing, needed * 1.3)
-
-    def test_full_disk_tells_of_the_video_alone_whose_pictures_are_known(self):
-        result = self.stills(VIDEO, sample("h264_gop250.mp4"), "--every", "100ms", "-j1", "-o",
-                             self.out, faults="call=write,error=ENOSPC,after=2")
-        self.check_told(result, "pictures left of this video")
-
     def test_older_command_tells_what_it_cannot_save(self):
         result = self.run_program("MORVANTILE_CLI", VIDEO, self.out, "--count", "3",
                                   faults="call=write,error=ENOSPC,after=1")
