@@ -114,13 +114,14 @@ void YuvLines::moveTo(int line)
     if (!m_hasChroma) {
         return;
     }
+    const ChromaLines lines = chromaLines();
     if (!m_halvesWidth) {
-        mixChroma(1, m_cb.data());
-        mixChroma(2, m_cr.data());
+        mixChroma(1, lines, m_cb.data());
+        mixChroma(2, lines, m_cr.data());
         return;
     }
-    mixChroma(1, m_narrowCb.data() + 1);
-    mixChroma(2, m_narrowCr.data() + 1);
+    mixChroma(1, lines, m_narrowCb.data() + 1);
+    mixChroma(2, lines, m_narrowCr.data() + 1);
     repeatEnds(m_narrowCb);
     repeatEnds(m_narrowCr);
 }
@@ -232,10 +233,9 @@ const uint16_t* YuvLines::deepAt(int component, int line) const
     return reinterpret_cast<const uint16_t*>(at(component, line));
 }
 
-/// The chroma for the line of luma, with as many samples as are stored.
-void YuvLines::mixChroma(int component, int16_t* samples) const
+/// As many samples as are stored.
+void YuvLines::mixChroma(int component, ChromaLines lines, int16_t* samples) const
 {
-    const ChromaLines lines = chromaLines();
     if (m_depth > 8) {
         mixDeep(deepAt(component, lines.near), deepAt(component, lines.far), lines.nearEighths,
                 samples, m_chromaWidth, m_depth);

@@ -69,7 +69,7 @@ private:
 
     const uint8_t* at(int component, int line) const;
     const uint16_t* deepAt(int component, int line) const;
-    void mixChroma(int component, int16_t* samples) const;
+    void mixChroma(int component, ChromaLines lines, int16_t* samples) const;
     static void repeatEnds(std::vector<int16_t>& narrow);
     void widenChroma(const std::vector<int16_t>& narrow, std::vector<int16_t>& wide,
                      int from) const;

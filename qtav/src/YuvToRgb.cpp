@@ -113,16 +113,23 @@ public:
             done = convertHalvedLine(m_lines.storedLuma(), m_lines.halvedCb(), m_lines.halvedCr(),
                                      pixels, m_lines.width(), m_matrix);
         }
-        m_lines.widen(done);
-        const int16_t* const added = m_lines.depth() > 8 ? m_dither.line(line) : m_plain.data();
-        combine(m_lines.luma() + done, m_lines.cb() + done, m_lines.cr() + done, added + done,
-                pixels + done, m_lines.width() - done, m_matrix);
+        if (done < m_lines.width()) {
+            convertRest(line, pixels, done);
+        }
         if (m_lines.hasAlpha()) {
             addAlpha(pixels);
         }
     }
 
 private:
+    void convertRest(int line, uint32_t* pixels, int done)
+    {
+        m_lines.widen(done);
+        const int16_t* const added = m_lines.depth() > 8 ? m_dither.line(line) : m_plain.data();
+        combine(m_lines.luma() + done, m_lines.cb() + done, m_lines.cr() + done, added + done,
+                pixels + done, m_lines.width() - done, m_matrix);
+    }
+
     static int16_t ditherAt(int order)
     {
         return static_cast<int16_t>((order << fractionBits) / Dither<int16_t>::orders);
