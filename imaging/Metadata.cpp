@@ -1,5 +1,6 @@
 #include "imaging/Metadata.h"
 
+#include "imaging/JpegSegments.h"
 #include "imaging/RecipeTexts.h"
 #include "imaging/Rendering.h"
 #include "product/ProductInfo.h"
@@ -224,8 +225,9 @@ std::string packetOf(const PictureSource& source, const ImageRecipe& recipe, con
     return packet;
 }
 
-QByteArray written(const QByteArray& content, const Exiv2::ExifData& exif,
-                   const std::string& packet)
+/// For every format that can hold metadata.
+QByteArray rewritten(const QByteArray& content, const Exiv2::ExifData& exif,
+                     const std::string& packet)
 {
     const auto image = Exiv2::ImageFactory::open(
         reinterpret_cast<const Exiv2::byte*>(content.constData()), content.size());
@@ -239,6 +241,39 @@ QByteArray written(const QByteArray& content, const Exiv2::ExifData& exif,
     Exiv2::BasicIo& io = image->io();
     const auto* const bytes = reinterpret_cast<const char*>(io.mmap());
     return {bytes, static_cast<int>(io.size())};
+}
+
+/// The segments of a JPEG file; empty if anything is too long for one.
+QByteArray jpegSegments(Exiv2::ExifData& exif, const std::string& packet)
+{
+    const QByteArray exifName("Exif\0", 6);
+    const QByteArray xmpName("http://ns.adobe.com/xap/1.0/", 29);
+    Exiv2::Blob bytes;
+    Exiv2::ExifParser::encode(bytes, Exiv2::littleEndian, exif);
+    const QByteArray exifBytes(reinterpret_cast<const char*>(bytes.data()),
+                               static_cast<int>(bytes.size()));
+    const QByteArray xmpBytes = QByteArray::fromStdString(packet);
+    const bool fits = exifName.size() + exifBytes.size() <= JpegSegments::largestContent &&
+                      xmpName.size() + xmpBytes.size() <= JpegSegments::largestContent;
+    return fits ? JpegSegments::segment(1, exifName, exifBytes) +
+                      JpegSegments::segment(1, xmpName, xmpBytes)
+                : QByteArray();
+}
+
+bool isJpeg(const QString& type)
+{
+    const QString name = type.toLower();
+    return name == QLatin1String("jpg") || name == QLatin1String("jpeg");
+}
+
+/// Changes nothing if it throws.
+void addTo(QByteArray& content, const QString& type, Exiv2::ExifData exif,
+           const std::string& packet)
+{
+    const QByteArray segments = isJpeg(type) ? jpegSegments(exif, packet) : QByteArray();
+    if (segments.isEmpty() || !JpegSegments::add(content, segments)) {
+        content = rewritten(content, exif, packet);
+    }
 }
 
 QString textOf(const Exiv2::XmpData& xmp, const std::string& key)
@@ -289,8 +324,8 @@ std::optional<imaging::StillOrigin> originFrom(const Exiv2::XmpData& xmp)
 
 } // namespace
 
-QByteArray imaging::withMetadata(const QByteArray& content, const QString& type,
-                                 const ImageRecipe& recipe, const PictureSource& source)
+QByteArray imaging::withMetadata(QByteArray content, const QString& type, const ImageRecipe& recipe,
+                                 const PictureSource& source)
 {
     const bool hasWords = recipe.metadata != PictureMetadata::None && source.isKnown();
     if (content.isEmpty() || !hasWords || !canHoldMetadata(type)) {
@@ -298,7 +333,8 @@ QByteArray imaging::withMetadata(const QByteArray& content, const QString& type,
     }
     try {
         const bool tellsPlace = recipe.metadata == PictureMetadata::All;
-        return written(content, exifOf(source, tellsPlace), packetOf(source, recipe, type));
+        addTo(content, type, exifOf(source, tellsPlace), packetOf(source, recipe, type));
+        return content;
     } catch (const std::bad_alloc&) {
         return {};
     } catch (const std::exception& exception) {

@@ -28,7 +28,7 @@ namespace imaging {
 /// @return the unchanged content if there is nothing to store, and in formats other than JPEG, PNG,
 ///     TIFF and WebP. Empty if memory runs out. If metadata cannot be added for another reason, a
 ///     message is logged and the picture is returned without it.
-[[nodiscard]] QByteArray withMetadata(const QByteArray& content, const QString& type,
+[[nodiscard]] QByteArray withMetadata(QByteArray content, const QString& type,
                                       const ImageRecipe& recipe, const PictureSource& source);
 
 /// What is needed to make a still again.

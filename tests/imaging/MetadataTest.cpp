@@ -119,6 +119,8 @@ private Q_SLOTS:
     void everyFormat_tellsWhereThePictureComesFrom();
     void pixelsAndProfile_stayAsTheyAre_data() { formats(); }
     void pixelsAndProfile_stayAsTheyAre();
+    void jpegs_haveTheirSegmentsInTheUsualOrder();
+    void textsTooLongForASegment_leaveThePicture();
     void place_isToldOnlyIfAll_data() { formats(); }
     void place_isToldOnlyIfAll();
     void nothing_isTold_ifNone_data() { formats(); }
@@ -198,6 +200,34 @@ void MetadataTest::pixelsAndProfile_stayAsTheyAre()
     QCOMPARE(after.dotsPerMeterX(), before.dotsPerMeterX());
     QCOMPARE(before.colorSpace(), QColorSpace(QColorSpace::SRgb));
     QCOMPARE(after.colorSpace(), before.colorSpace());
+}
+
+void MetadataTest::jpegs_haveTheirSegmentsInTheUsualOrder()
+{
+    for (const int quality : {80, 95}) {
+        ImageRecipe recipe = telling(PictureMetadata::All);
+        recipe.jpegQuality = quality;
+        const QByteArray content = made(QStringLiteral("jpg"), recipe, holiday());
+        const std::vector<QByteArray> starts{
+            QByteArray("\xff\xd8\xff\xe0", 4), QByteArray("JFIF\0", 5),
+            QByteArray("Exif\0\0", 6),         QByteArray("http://ns.adobe.com/xap/1.0/\0", 29),
+            QByteArray("ICC_PROFILE\0", 12),   QByteArray("\xff\xdb", 2)};
+        int from = 0;
+        for (const QByteArray& start : starts) {
+            const int at = content.indexOf(start, from);
+            QVERIFY2(at >= from, start.constData());
+            from = at + start.size();
+        }
+    }
+}
+
+void MetadataTest::textsTooLongForASegment_leaveThePicture()
+{
+    PictureSource source = holiday();
+    source.recording.model = QString(70000, QLatin1Char('x'));
+    const QByteArray content = made(QStringLiteral("jpg"), telling(PictureMetadata::All), source);
+    const QByteArray plain = made(QStringLiteral("jpg"), telling(PictureMetadata::None), source);
+    QCOMPARE(QImage::fromData(content), QImage::fromData(plain));
 }
 
 void MetadataTest::place_isToldOnlyIfAll()
