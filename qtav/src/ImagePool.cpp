@@ -4,7 +4,8 @@ namespace QtAV {
 
 namespace {
 
-constexpr int pixelBytes = 4;
+/// QImage needs lines that begin at multiples of this.
+constexpr int lineAlignment = 4;
 
 void giveBack(void* buffer)
 {
@@ -14,15 +15,19 @@ void giveBack(void* buffer)
 
 } // namespace
 
-QImage ImagePool::take(const QSize& size)
+QImage ImagePool::take(const QSize& size, QImage::Format format)
 {
-    const int lineBytes = size.width() * pixelBytes;
+    const int pixelBytes = QImage::toPixelFormat(format).bitsPerPixel() / 8;
+    const int lineBytes = FFALIGN(size.width() * pixelBytes, lineAlignment);
     AVBufferRef* buffer = takeBuffer(size_t(lineBytes) * size_t(size.height()));
     if (!buffer) {
         return {};
     }
-    return QImage(buffer->data, size.width(), size.height(), lineBytes, QImage::Format_ARGB32,
-                  giveBack, buffer);
+    QImage image(buffer->data, size.width(), size.height(), lineBytes, format, giveBack, buffer);
+    if (image.isNull()) {
+        giveBack(buffer);
+    }
+    return image;
 }
 
 AVBufferRef* ImagePool::takeBuffer(size_t bytes)

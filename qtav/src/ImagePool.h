@@ -9,15 +9,15 @@
 
 namespace QtAV {
 
-/// Memory for images of one size at a time, reused once the last copy of an image is gone. Using
-/// fresh memory for each picture of a video costs more than filling it.
+/// Memory for images of one size and format at a time, reused once the last copy of an image is
+/// gone. Using fresh memory for each picture of a video costs more than filling it.
 ///
 /// Images may outlive the pool. Thread-safe.
 class ImagePool
 {
 public:
-    /// A Format_ARGB32 image with undefined pixels; null when memory runs out.
-    [[nodiscard]] QImage take(const QSize& size);
+    /// An image with undefined pixels; null when memory runs out.
+    [[nodiscard]] QImage take(const QSize& size, QImage::Format format);
 
 private:
     AVBufferRef* takeBuffer(size_t bytes);

@@ -88,6 +88,7 @@ private:
     [[nodiscard]] std::optional<Scaler> takeScaler(const Task& task);
     void keepScaler(Scaler scaler);
 
+    ImagePool m_imagesWithAlpha; ///< for the screen, while others are captured
     ImagePool m_images;
     std::mutex m_mutex;
     std::vector<Scaler> m_idle;             ///< guarded by m_mutex

@@ -107,6 +107,36 @@ class PictureConverterTest : public QObject
     Q_OBJECT
 
 private slots:
+    void convert_reusesTheMemoryOfImagesThatAreGone_data()
+    {
+        QTest::addColumn<QImage::Format>("format");
+        QTest::newRow("with alpha") << QImage::Format_ARGB32;
+        QTest::newRow("without") << QImage::Format_RGB888;
+        QTest::newRow("16 bits") << QImage::Format_RGBX64;
+    }
+    void convert_reusesTheMemoryOfImagesThatAreGone()
+    {
+        QFETCH(const QImage::Format, format);
+        // Lines of an odd width end with bytes that belong to no pixel.
+        const FramePtr frame = grey(63, 32, QStringLiteral("lines"));
+        const FramePtr other = grey(63, 32, QStringLiteral("squares"));
+        const QSize size(frame->width, frame->height);
+        PictureConverter converter;
+        const QImage kept = converter.convert(*frame, size, format);
+        QCOMPARE(kept.format(), format);
+        const QImage copy = kept.copy();
+        const uchar* memory = nullptr;
+        {
+            const QImage second = converter.convert(*other, size, format);
+            QVERIFY(second.constBits() != kept.constBits());
+            memory = second.constBits();
+        }
+        const QImage third = converter.convert(*other, size, format);
+        QVERIFY(third.constBits() == memory);
+        QCOMPARE(kept, copy);
+        QVERIFY(third != kept);
+    }
+
     void chroma_staysWhereItWasSampled_whenScaled_data();
     void chroma_staysWhereItWasSampled_whenScaled();
     void smallerPicture_isTheMeanOfTheAreaUnderEachPixel_data();
