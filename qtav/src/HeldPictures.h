@@ -9,10 +9,10 @@
 
 namespace QtAV {
 
-/// Counts the memory of the pictures that a decoder keeps, because others refer to them or because
-/// its threads work on them. What the decoder has given away and keeps no longer is not counted.
+/// Counts the memory of the pictures that a decoder holds as references for others, or because its
+/// threads are decoding them. Pictures that it has output and no longer refers to are not counted.
 ///
-/// Pictures may be added and let go of from any thread, also when this object is gone.
+/// Thread-safe. Pictures may be released after this object is destroyed.
 class HeldPictures
 {
 public:
@@ -20,12 +20,12 @@ public:
 
     [[nodiscard]] qint64 bytes() const { return *m_bytes; }
 
-    /// Counts a picture of so many bytes until the decoder's last reference to it goes. False,
-    /// with nothing counted, where there is no memory for that. The frame's `opaque_ref` must be
-    /// free.
+    /// Counts a picture of that many bytes until the decoder releases its last reference to it.
+    /// Returns false, without counting it, if memory runs out. The frame's `opaque_ref` must be
+    /// unused.
     [[nodiscard]] bool add(AVFrame& frame, qint64 bytes) const;
 
-    /// To be called for a frame that comes out: from then on this reference counts no longer.
+    /// Call this for a frame that the decoder outputs: this reference is then no longer counted.
     static void giveAway(AVFrame& frame);
 
 private:

@@ -6,7 +6,7 @@
 
 #include <QString>
 
-/// A source in a video whose key frames are 250 frames apart, and the frame on screen.
+/// A source for a video whose key frames are 250 frames apart, and the frame on screen.
 struct LongGroups
 {
     explicit LongGroups(qint64 ms, qint64 cacheBytes = QtAV::FrameCache::defaultBytes)
@@ -26,7 +26,7 @@ struct LongGroups
         source.setFocus(frame.timestamp());
     }
 
-    /// Steps, and counts the packets that this takes.
+    /// Steps once and counts the packets that are read for it.
     QtAV::FrameResult
     step(QtAV::FrameResult (QtAV::FrameSource::*direction)(double, const QtAV::IsCancelled&))
     {
@@ -41,7 +41,7 @@ struct LongGroups
         return found;
     }
 
-    /// Fills until there is no more to do, or so many packets have been taken.
+    /// Fills the cache until it is complete or `mostPackets` packets have been read.
     void fill(int mostPackets = 1000000,
               QtAV::FrameSource::Rest rest = QtAV::FrameSource::longestRest)
     {
@@ -51,7 +51,7 @@ struct LongGroups
         }
     }
 
-    /// As far as the rest between two steps allows.
+    /// Fills as much as the pause between two steps allows.
     void fillShortly() { fill(1000000, QtAV::FrameSource::Rest(100)); }
 
     QtAV::FrameSource source;

@@ -13,10 +13,10 @@
 #include <initializer_list>
 #include <optional>
 
-/// What series are asked for in tests, and what comes of it.
+/// Jobs for series in tests, and a record of their results.
 namespace seriestests {
 
-/// Keeps all that it is given.
+/// Stores everything it receives.
 class Record : public SeriesOutput
 {
 public:
@@ -73,7 +73,7 @@ inline bool neverCancelled()
     return false;
 }
 
-/// Pictures as they are, not encoded.
+/// A job that gives images instead of encoded files.
 inline SeriesJob jobFor(const QString& file, const FramePositions& positions)
 {
     SeriesJob job;
@@ -140,7 +140,7 @@ inline QStringList listed(std::initializer_list<int> frames)
     return all;
 }
 
-/// The frames at or after positions, none twice.
+/// The numbers of the frames at or after the positions, without repetitions.
 inline QStringList expectedAt(const testsupport::Sample& sample, const QList<qint64>& positions)
 {
     QStringList all;
