@@ -56,17 +56,19 @@ void add(const std::string& name, Function function)
         ->UseRealTime();
 }
 
+/// The size of the picture in a window.
+constexpr QSize window(1280, 720);
+
 /// High dynamic range, at its own size and at that of a window.
 void registerHdr(const std::string& size)
 {
-    constexpr QSize window(1280, 720);
     for (const char* const transfer : {"smpte2084", "arib-std-b67"}) {
         const std::string still = size + '_' + transfer;
         const QString video = mediaPath(QString::fromStdString(still + ".mkv"));
         add("ToImage/" + still,
             [video](benchmark::State& state) { toImage(state, video, 0, QSize()); });
         add("ToImageOfWindow/" + still,
-            [video, window](benchmark::State& state) { toImage(state, video, 0, window); });
+            [video](benchmark::State& state) { toImage(state, video, 0, window); });
     }
 }
 
@@ -87,6 +89,8 @@ void registerConversion()
             const std::string still = std::string(size) + '_' + format;
             add("ToImage/" + still,
                 [still](benchmark::State& state) { toImage(state, stillPath(still), 0, QSize()); });
+            add("ToImageOfWindow/" + still,
+                [still](benchmark::State& state) { toImage(state, stillPath(still), 0, window); });
             add("BareSwsScale/" + still, [still](benchmark::State& state) {
                 bareConversion(state, still, ScalerFlags::Default);
             });

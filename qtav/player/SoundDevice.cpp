@@ -12,6 +12,7 @@
 #endif
 
 #include <algorithm>
+#include <atomic>
 
 namespace QtAV {
 
@@ -73,6 +74,35 @@ QAudioFormat formatFor(const DeviceInfo& info, int preferredRate)
 }
 #endif
 
+/// Counts what is read from another source. Some systems read in a thread of their own.
+class CountedSource : public QIODevice
+{
+public:
+    /// Begins to count anew, in this source.
+    void reset(QIODevice* source)
+    {
+        close();
+        m_source = source;
+        m_bytes = 0;
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    bool isSequential() const override { return true; }
+    qint64 bytes() const { return m_bytes; }
+
+protected:
+    qint64 readData(char* data, qint64 maximum) override
+    {
+        const qint64 got = m_source->read(data, maximum);
+        m_bytes += std::max(got, qint64(0));
+        return got;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    QIODevice* m_source = nullptr;
+    std::atomic<qint64> m_bytes{0};
+};
+
 /// A device of Qt Multimedia.
 class SystemDevice : public SoundDevice
 {
@@ -87,7 +117,8 @@ public:
 
     bool start(QIODevice* source) override
     {
-        m_output.start(source);
+        m_source.reset(source);
+        m_output.start(&m_source);
         const qint64 bufferUs = m_format.durationForBytes(static_cast<int>(m_output.bufferSize()));
         m_clock.reset(double(bufferUs) / 1e6, std::chrono::steady_clock::now());
         return m_output.error() == QAudio::NoError;
@@ -105,11 +136,13 @@ public:
 
     double heardSeconds() override
     {
-        // Read from the source minus what still waits for the device.
+        // Not processedUSecs(): with Qt 5 that is what was read, and with Qt 6 on some systems an
+        // estimate of what was heard, which is far too large before the first sound.
         const auto buffered =
-            std::max(0, static_cast<int>(m_output.bufferSize() - m_output.bytesFree()));
-        const qint64 us = m_output.processedUSecs() - m_format.durationForBytes(buffered);
-        return m_clock.heard(std::max(0.0, double(us) / 1e6), std::chrono::steady_clock::now());
+            std::max(qint64(0), qint64(m_output.bufferSize()) - m_output.bytesFree());
+        const qint64 taken = std::max(qint64(0), m_source.bytes() - buffered);
+        const double seconds = double(taken) / m_format.bytesPerFrame() / m_format.sampleRate();
+        return m_clock.heard(seconds, std::chrono::steady_clock::now());
     }
 
     void setVolume(qreal volume) override { m_output.setVolume(volume); }
@@ -117,6 +150,7 @@ public:
 private:
     SoundClock m_clock;
     QAudioFormat m_format;
+    CountedSource m_source; ///< declared before the output, which reads it until it is destroyed
     Output m_output;
 };
 

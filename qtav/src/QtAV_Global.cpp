@@ -23,9 +23,9 @@ Q_LOGGING_CATEGORY(lcQtAV, "qtav")
 
 namespace {
 
-std::atomic<LogLevel> s_level{LogWarning};
+std::atomic<LogLevel> chosenLevel{LogWarning};
 
-thread_local int t_pauses = 0;
+thread_local int pausesOfThread = 0;
 
 int ffmpegLevel(LogLevel level)
 {
@@ -48,7 +48,7 @@ int ffmpegLevel(LogLevel level)
 
 void writeToMessageLog(void* source, int level, const char* format, va_list arguments)
 {
-    if (level > av_log_get_level() || t_pauses > 0) {
+    if (level > av_log_get_level() || pausesOfThread > 0) {
         return;
     }
     char line[1024];
@@ -72,14 +72,14 @@ void writeToMessageLog(void* source, int level, const char* format, va_list argu
 
 void setLogLevel(LogLevel level)
 {
-    s_level = level;
+    chosenLevel = level;
     av_log_set_level(ffmpegLevel(level));
     routeFFmpegLog();
 }
 
 LogLevel logLevel()
 {
-    return s_level;
+    return chosenLevel;
 }
 
 void trimFreedMemory()
@@ -93,19 +93,19 @@ void routeFFmpegLog()
 {
     static std::once_flag once;
     std::call_once(once, [] {
-        av_log_set_level(ffmpegLevel(s_level));
+        av_log_set_level(ffmpegLevel(chosenLevel));
         av_log_set_callback(writeToMessageLog);
     });
 }
 
 FFmpegLogPause::FFmpegLogPause()
 {
-    ++t_pauses;
+    ++pausesOfThread;
 }
 
 FFmpegLogPause::~FFmpegLogPause()
 {
-    --t_pauses;
+    --pausesOfThread;
 }
 
 QString ffmpegErrorText(int error)

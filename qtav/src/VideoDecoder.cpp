@@ -1,6 +1,7 @@
 #include <QtAV/VideoDecoder.h>
 
 #include "qtav/src/Colours.h"
+#include "qtav/src/DecoderMemory.h"
 #include "qtav/src/FFmpegCompat.h"
 #include "qtav/src/FFmpegHandles.h"
 #include "qtav/src/FFmpegLog.h"
@@ -8,14 +9,13 @@
 #include "qtav/src/HevcLayers.h"
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/PictureConverter.h"
-#include "qtav/src/PictureLimit.h"
 #include "qtav/src/SequenceChange.h"
 #include "qtav/src/StreamParameters.h"
 #include "qtav/src/UnreferencedPictures.h"
 #include "qtav/src/VideoFramePrivate.h"
 
+#include <algorithm>
 #include <deque>
-#include <mutex>
 #include <utility>
 
 namespace QtAV {
@@ -54,11 +54,6 @@ bool isIntraOnly(AVCodecID codec)
     return descriptor && (descriptor->props & AV_CODEC_PROP_INTRA_ONLY);
 }
 
-AVRational sampleAspectRatioOf(const StreamParameters& parameters, AVRational ofPicture)
-{
-    return parameters.sampleAspectRatio.num > 0 ? parameters.sampleAspectRatio : ofPicture;
-}
-
 static_assert(int(VideoDecoder::DiscardDefault) == int(AVDISCARD_DEFAULT));
 static_assert(int(VideoDecoder::DiscardNonReference) == int(AVDISCARD_NONREF));
 
@@ -88,19 +83,9 @@ public:
     bool leavesOut(const AVPacket& packet) const;
     bool leadsUpToKeyFrame(const AVPacket& packet);
 
-    bool allows(const QSize& stored, AVPixelFormat format, AVRational sampleAspectRatio);
-    bool allowsToHold(qint64 bytes);
-    void refuse(const QString& reason);
-    static int takeMemory(AVCodecContext* context, AVFrame* frame, int flags);
-
     std::shared_ptr<const StreamParameters> parameters;
-    PictureLimit limit;
-    HeldPictures held;
-    qint64 mostHeldBytes = 0;
-    std::shared_ptr<const Deadline> deadline;
-    std::mutex refusalMutex;
-    QString refusal; ///< set by the decoder's threads; guarded by refusalMutex
-    CodecContextPtr context;
+    DecoderMemory memory;
+    CodecContextPtr context; ///< declared after the memory that it uses
     QVariantHash options;
     std::shared_ptr<PictureConverter> converter;
 
@@ -142,68 +127,17 @@ void VideoDecoder::setCodecContext(const VideoCodecContext* context)
 
 void VideoDecoder::setPictureMemory(qint64 bytes)
 {
-    d->limit = PictureLimit(bytes);
+    d->memory.setLimit(PictureLimit(bytes));
 }
 
 void VideoDecoder::setDeadline(std::shared_ptr<const Deadline> deadline)
 {
-    d->deadline = std::move(deadline);
+    d->memory.setDeadline(std::move(deadline));
 }
 
 QString VideoDecoder::errorString() const
 {
-    const std::lock_guard lock(d->refusalMutex);
-    return d->refusal;
-}
-
-/// Whether a picture is small enough; records the reason if not.
-bool VideoDecoder::Private::allows(const QSize& stored, AVPixelFormat format,
-                                   AVRational sampleAspectRatio)
-{
-    const QSize shown = squareSizeOf(stored, sampleAspectRatioOf(*parameters, sampleAspectRatio));
-    const qint64 bytes = PictureLimit::bytesOf(format, stored, shown);
-    if (limit.allows(bytes)) {
-        return true;
-    }
-    refuse(limit.refusal(stored, bytes));
-    return false;
-}
-
-/// Whether the decoder may keep one more picture; notes why not.
-bool VideoDecoder::Private::allowsToHold(qint64 bytes)
-{
-    const qint64 all = held.bytes() + bytes;
-    if (all <= mostHeldBytes) {
-        return true;
-    }
-    refuse(PictureLimit::heldRefusal(all, mostHeldBytes));
-    return false;
-}
-
-void VideoDecoder::Private::refuse(const QString& reason)
-{
-    const std::lock_guard lock(refusalMutex);
-    refusal = reason;
-}
-
-/// Called for each picture that is begun, from any of the decoder's threads.
-int VideoDecoder::Private::takeMemory(AVCodecContext* context, AVFrame* frame, int flags)
-{
-    auto& self = *static_cast<Private*>(context->opaque);
-    const QSize stored(frame->width, frame->height);
-    const auto format = static_cast<AVPixelFormat>(frame->format);
-    const qint64 bytes = PictureLimit::decodedBytes(format, stored);
-    if (!self.allows(stored, format, context->sample_aspect_ratio) || !self.allowsToHold(bytes)) {
-        return AVERROR(ENOMEM);
-    }
-    if (self.deadline && self.deadline->hasPassed()) {
-        return AVERROR_EXIT;
-    }
-    const int result = avcodec_default_get_buffer2(context, frame, flags);
-    if (result < 0) {
-        return result;
-    }
-    return self.held.add(*frame, bytes) ? result : AVERROR(ENOMEM);
+    return d->memory.refusal();
 }
 
 bool VideoDecoder::open()
@@ -214,9 +148,7 @@ bool VideoDecoder::open()
     }
     routeFFmpegLog();
     const AVCodecParameters& stream = *d->parameters->codec;
-    const QSize stored(stream.width, stream.height);
-    const auto format = static_cast<AVPixelFormat>(stream.format);
-    if (!d->allows(stored, format, stream.sample_aspect_ratio)) {
+    if (!d->memory.begin(*d->parameters)) {
         return false;
     }
     const AVCodec* codec = decoderFor(*d->parameters);
@@ -226,12 +158,7 @@ bool VideoDecoder::open()
     }
     context->pkt_timebase = d->parameters->timeline.timeBase();
     const QVariantHash section = d->options.value(QStringLiteral("avcodec")).toHash();
-    const int threads = section.value(QStringLiteral("threads"), 0).toInt();
-    context->thread_count = d->limit.threadsFor(format, stored, threads);
-    d->mostHeldBytes = d->limit.heldBytes(format, stored, context->thread_count);
-    context->opaque = d.get();
-    context->get_buffer2 = &Private::takeMemory;
-    allowCallsFromThreads(*context);
+    d->memory.provideFor(*context, section.value(QStringLiteral("threads"), 0).toInt());
     // Otherwise pictures that are cropped at the left or the top are cropped at a column that suits
     // the processor.
     context->flags |= AV_CODEC_FLAG_UNALIGNED;
@@ -257,14 +184,7 @@ void VideoDecoder::close()
 
 qint64 VideoDecoder::pictureBytes() const
 {
-    if (!d->parameters) {
-        return 0;
-    }
-    const AVCodecParameters& stream = *d->parameters->codec;
-    const QSize stored(stream.width, stream.height);
-    const QSize shown =
-        squareSizeOf(stored, sampleAspectRatioOf(*d->parameters, stream.sample_aspect_ratio));
-    return PictureLimit::bytesOf(static_cast<AVPixelFormat>(stream.format), stored, shown);
+    return d->parameters ? DecoderMemory::declaredBytes(*d->parameters) : 0;
 }
 
 bool VideoDecoder::isOpen() const
@@ -338,10 +258,7 @@ void VideoDecoder::flush()
 
 void VideoDecoder::Private::restart()
 {
-    {
-        const std::lock_guard lock(refusalMutex);
-        refusal.clear();
-    }
+    memory.clearRefusal();
     start = Start::NeedsKeyFrame;
     keyPacket.reset();
     repeatedTicks = AV_NOPTS_VALUE;

@@ -22,6 +22,12 @@ using testsupport::TestDir;
 
 namespace {
 
+#if QT_VERSION_MAJOR >= 6
+constexpr auto movableType = QMetaType::RelocatableType;
+#else
+constexpr auto movableType = QMetaType::MovableType;
+#endif
+
 /// A worker with its job and its signals.
 struct Job
 {
@@ -449,7 +455,7 @@ void BatchWorkerTest::metaTypes_areRegistered()
     QVERIFY(type != QMetaType::UnknownType);
     QCOMPARE(QMetaType::sizeOf(type), 4);
     QVERIFY(QMetaType::typeFlags(type).testFlag(QMetaType::IsEnumeration));
-    QVERIFY(QMetaType::typeFlags(type).testFlag(QMetaType::MovableType));
+    QVERIFY(QMetaType::typeFlags(type).testFlag(movableType));
     QVERIFY(QMetaType::metaObjectForType(type) == nullptr);
     QVERIFY(QMetaType::type("QtAV::VideoFrame") != QMetaType::UnknownType);
 }

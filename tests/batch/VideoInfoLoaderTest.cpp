@@ -153,7 +153,8 @@ void VideoInfoLoaderTest::counts_tellHowFarItIs()
     VideoInfoLoader loader;
     QList<QList<int>> counts;
     connect(&loader, &VideoInfoLoader::loaded, this, [&] {
-        counts.append({loader.loadedCount(), loader.jobCount(), all.indexOf(loader.currentJob())});
+        const int current = int(all.indexOf(loader.currentJob()));
+        counts.append({loader.loadedCount(), loader.jobCount(), current});
     });
     for (int round = 0; round < 2; ++round) {
         counts.clear();

@@ -136,6 +136,10 @@ void BatchModeDialog::setupFilesTable()
 
 void BatchModeDialog::setupPropertyFields()
 {
+#if QT_VERSION_MAJOR >= 6
+    connect(m_ui->filenameProfileComboBox, &QComboBox::textActivated, this,
+            &BatchModeDialog::on_filenameProfileComboBox_activated);
+#endif
     addField("source", m_ui->selectedVideoFileNameLabel, Field::noChoice);
     addField("imageProfileId", m_ui->imageProfileComboBox, Field::noChoice);
     addField("fileOutputPath", m_ui->fileOutputFolderTextEdit, Field::noChoice);

@@ -104,7 +104,11 @@ private Q_SLOTS:
     void on_imageProfileEditButton_clicked();
     void on_filenameProfileComboBox_currentIndexChanged(int index);
     void on_filenameProfileEditButton_clicked();
+#if QT_VERSION_MAJOR >= 6 // has no such signal: the constructor connects its successor
+private:
+#endif
     void on_filenameProfileComboBox_activated(QString const&);
+private Q_SLOTS:
     void resetIntervalWidgets();
     void saveBatchWorkerConfigDefault();
 

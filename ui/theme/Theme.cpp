@@ -84,6 +84,8 @@ void Theme::apply(Choice choice)
     m_choice = choice;
     m_applied = scheme();
     QApplication::setPalette(theme::palette(*m_applied));
+    // Qt 6 posts it to the windows, where it would arrive only after the style sheet.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::ApplicationPaletteChange);
     // Widgets keep colours that style sheet rules took from the palette until the sheet is set
     // again.
     if (!qApp->styleSheet().isEmpty()) {

@@ -35,8 +35,8 @@ public:
     void setCodecContext(const VideoCodecContext* context);
 
     /// Memory limit for one picture in bytes (see usualPictureBytes), from the next open() on.
-    /// on. Larger pictures are refused, where the stream declares them by open() itself; and so is
-    /// a picture when those that the decoder keeps for others would take more than twice as much,
+    /// Larger pictures are refused, where the stream declares them by open() itself; and so is a
+    /// picture when those that the decoder keeps for others would take more than twice as much,
     /// beside one for each of its threads.
     void setPictureMemory(qint64 bytes);
 

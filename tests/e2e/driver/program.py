@@ -196,8 +196,12 @@ class Program:
     def focused(self):
         """The control with the focus, or none."""
         controls = [control for control in self.find_all() if control.is_focused]
-        # The current item of a list says so even while another control has the keyboard.
-        return next((c for c in controls if c.role != "list item"), next(iter(controls), None))
+        # The current item of a list says so even while another control has the keyboard. With Qt 6,
+        # its list says so, too, while it has the keyboard.
+        items = [control for control in controls if control.role == "list item"]
+        others = [control for control in controls if control.role != "list item"]
+        has_item = not others or others[0].role == "list"
+        return next(iter(items if items and has_item else others), None)
 
     # --- the main window -----------------------------------------------------------------------
 

@@ -1,5 +1,7 @@
 #include "ui/batch/BatchModeDialog.h"
 
+#include "profiles/FileNameProfile.h"
+#include "profiles/ProfileManager.h"
 #include "tests/ui/batch/ModeDialog.h"
 #include "tests/ui/dialogs/support/DialogDriving.h"
 #include "ui/widgets/Field.h"
@@ -11,6 +13,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
@@ -50,6 +53,7 @@ private Q_SLOTS:
     void newJobs_takeExactFrames_unlessTheLastDidNot();
     void exactFrames_areChosenForAllSelectedJobs();
     void chosenProfile_goesIntoTheJobs();
+    void chosenFileNameProfile_showsItsExample();
     void editButtons_needAProfile();
     void manyJobs_areFilledInOnce_whenSelected();
 };
@@ -363,6 +367,17 @@ void BatchModeDialogTest::chosenProfile_goesIntoTheJobs()
     mode.choose("filenameProfileComboBox", 2);
     QCOMPARE(mode.job(0).imageProfile()->name(), QStringLiteral("Two"));
     QCOMPARE(mode.job(1).filenameProfile()->name(), QStringLiteral("Two"));
+}
+
+void BatchModeDialogTest::chosenFileNameProfile_showsItsExample()
+{
+    ModeDialog mode;
+    mode.load(1);
+    auto& two = *static_cast<FileNameProfile*>(FileNameProfile::profileManager()->profiles().at(1));
+    two.setFileOutputPrefix(QStringLiteral("two-"));
+    const auto reset = qScopeGuard([&two] { two.setFileOutputPrefix(QString()); });
+    mode.choose("filenameProfileComboBox", 2);
+    QCOMPARE(mode.labelText("filenameOutputExampleLabel"), QStringLiteral("two-a-00001.jpeg"));
 }
 
 void BatchModeDialogTest::editButtons_needAProfile()

@@ -6,6 +6,7 @@
 #include "ui/batch/BatchProcessingDialog.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFile>
 #include <QItemSelectionModel>
@@ -144,8 +145,9 @@ QString ModeDialog::comboText(const char* name) const
 void ModeDialog::choose(const char* comboBox, int index) const
 {
     auto& box = find<QComboBox>(comboBox);
-    box.setCurrentIndex(index);
-    QMetaObject::invokeMethod(&box, "activated", Q_ARG(QString, box.currentText()));
+    box.showPopup();
+    box.view()->setCurrentIndex(box.model()->index(index, box.modelColumn()));
+    QTest::keyClick(box.view(), Qt::Key_Return);
 }
 
 bool ModeDialog::isChecked(const char* radioButton) const

@@ -117,5 +117,5 @@ void FolderStepsTest::closedVideo_hasNoNeighbours()
     QVERIFY(!steps.next.isEnabled());
 }
 
-QTEST_GUILESS_MAIN(FolderStepsTest)
+QTEST_MAIN(FolderStepsTest)
 #include "FolderStepsTest.moc"

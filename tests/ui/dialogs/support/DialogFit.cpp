@@ -11,13 +11,17 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace {
 
 /// From the top of the highest letter to the bottom of the lowest in the widget's font. This is
-/// less than a line, which has empty rows above and below.
+/// less than a line, which has empty rows above and below. In small fonts, Qt 6 rounds it up to a
+/// row more than a line.
 int glyphHeight(const QWidget& widget)
 {
-    return widget.fontMetrics().tightBoundingRect(QStringLiteral("Ågq|")).height();
+    const QFontMetrics metrics = widget.fontMetrics();
+    return std::min(metrics.tightBoundingRect(QStringLiteral("Ågq|")).height(), metrics.height());
 }
 
 bool isWrapped(const QLabel& label)
