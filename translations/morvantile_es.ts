@@ -1084,80 +1084,8 @@
         <translation>Capturar la imagen de la pantalla</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>Captura</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>Lo que se guardará</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>Tamaño original</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>Guardar la captura con el tamaño del vídeo</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>Perfil de imagen</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>Perfil de imagen</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>Editar</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>Editar perfiles de imagen</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>Nombre de archivo automático</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>Guardar sin preguntar, con el siguiente nombre libre</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>Perfil de nombre de archivo</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>Editar perfiles de nombre de archivo</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>Carpeta de las imágenes</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Carpeta de salida</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Examinar</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>Elegir la carpeta de las imágenes</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>Siguiente:</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>Siguiente nombre de archivo</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Guardar</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1543,10 +1471,6 @@
         <translation>%1 en %2</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>Guardar capturas</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>1 captura guardada</translation>
     </message>
@@ -1603,30 +1527,6 @@ Haga clic para abrir otro vídeo</translation>
         <translation>No se pudo capturar el fotograma</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>Sin imagen de %1: %2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 guardado</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>No se pudo guardar %1</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>Carpeta desconocida</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>La carpeta no existe</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>Abrir carpeta</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 ya existe.
@@ -1635,10 +1535,6 @@ Do you want to replace it?</source>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Create folder?</source>
-        <translation>¿Crear la carpeta?</translation>
     </message>
     <message>
         <source>Snapshot taken: %1</source>
@@ -1706,14 +1602,6 @@ Do you want to replace it?</source>
     <message>
         <source>Batch</source>
         <translation>Lote</translation>
-    </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>Aún no hay captura</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>Escriba una carpeta de salida válida en «Nombre de archivo automático».</translation>
     </message>
 </context>
 <context>
@@ -2097,6 +1985,133 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
     <message>
         <source>Image Files</source>
         <translation>Archivos de imagen</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>Captura</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>Lo que se guardará</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>Tamaño original</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>Guardar la captura con el tamaño del vídeo</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>Perfil de imagen</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>Perfil de imagen</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>Editar perfiles de imagen</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>Nombre de archivo automático</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>Guardar sin preguntar, con el siguiente nombre libre</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>Perfil de nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>Editar perfiles de nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>Carpeta de las imágenes</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>Carpeta de salida</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Examinar</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>Elegir la carpeta de las imágenes</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>Siguiente:</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>Siguiente nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>Guardar la captura</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>Aún no hay captura</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>Sin imagen de %1: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 guardado</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>No se pudo guardar %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>Carpeta desconocida</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>Escriba una carpeta de salida válida en «Nombre de archivo automático».</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>¿Crear la carpeta?</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>La carpeta no existe</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>Guardar capturas</translation>
     </message>
 </context>
 <context>

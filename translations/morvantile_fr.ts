@@ -1084,80 +1084,8 @@
         <translation>Capturer l’image à l’écran</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>Capture</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>Ce qui sera enregistré</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>Taille d’origine</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>Enregistrer la capture à la taille de la vidéo</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>Profil d’image</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>Profil d’image</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>Modifier</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>Modifier les profils d’image</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>Nom de fichier automatique</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>Enregistrer sans demander, sous le prochain nom libre</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>Profil de nom de fichier</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>Modifier les profils de nom de fichier</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>Dossier des images</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Dossier de sortie</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Parcourir</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>Choisir le dossier des images</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>Suivant :</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>Nom de fichier suivant</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1543,10 +1471,6 @@
         <translation>%1 à %2</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>Enregistrer les captures</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>1 capture enregistrée</translation>
     </message>
@@ -1603,30 +1527,6 @@ Cliquez pour ouvrir une autre vidéo</translation>
         <translation>Échec de la capture de l’image</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>Pas d’image de %1 : %2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 enregistré</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>Impossible d’enregistrer %1</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>Dossier inconnu</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>Dossier inexistant</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>Ouvrir un dossier</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 existe déjà.
@@ -1635,10 +1535,6 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Create folder?</source>
-        <translation>Créer le dossier ?</translation>
     </message>
     <message>
         <source>Snapshot taken: %1</source>
@@ -1706,14 +1602,6 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>Batch</source>
         <translation>Lot</translation>
-    </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>Aucune capture pour l’instant</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>Veuillez saisir un dossier de sortie valable sous « Nom de fichier automatique ».</translation>
     </message>
 </context>
 <context>
@@ -2097,6 +1985,133 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
     <message>
         <source>Image Files</source>
         <translation>Fichiers image</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>Capture</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>Ce qui sera enregistré</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>Taille d’origine</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>Enregistrer la capture à la taille de la vidéo</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>Profil d’image</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>Profil d’image</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>Modifier les profils d’image</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>Nom de fichier automatique</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>Enregistrer sans demander, sous le prochain nom libre</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>Profil de nom de fichier</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>Modifier les profils de nom de fichier</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>Dossier des images</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>Dossier de sortie</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Parcourir</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>Choisir le dossier des images</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>Suivant :</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>Nom de fichier suivant</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>Enregistrer la capture</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>Aucune capture pour l’instant</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>Pas d’image de %1 : %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>Impossible d’enregistrer %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>Dossier inconnu</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>Veuillez saisir un dossier de sortie valable sous « Nom de fichier automatique ».</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>Créer le dossier ?</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>Dossier inexistant</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Ouvrir un dossier</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>Enregistrer les captures</translation>
     </message>
 </context>
 <context>

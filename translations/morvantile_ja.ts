@@ -1075,80 +1075,8 @@
         <translation>画面の画像を撮ります</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>スナップショット</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>保存されるもの</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>元のサイズ</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>スナップショットを動画のサイズで保存します</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>画像プロファイル</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>画像プロファイル</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>編集</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>画像プロファイルを編集します</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>自動ファイル名</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>確認せずに次の空いている名前で保存します</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>ファイル名プロファイル</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>ファイル名プロファイルを編集します</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>画像のフォルダー</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>出力フォルダー</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>参照</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>画像のフォルダーを選びます</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>次:</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>次のファイル名</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1533,10 +1461,6 @@
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>スナップショットの保存</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>スナップショットを 1 枚保存しました</translation>
     </message>
@@ -1591,30 +1515,6 @@ Click to open another video</source>
         <translation>フレームを取り込めませんでした</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>%1 の画像がありません: %2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 を保存しました</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>%1 を保存できませんでした</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>不明なフォルダー</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>フォルダーがありません</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>フォルダーを開く</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 はすでに存在します。
@@ -1623,10 +1523,6 @@ Do you want to replace it?</source>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Create folder?</source>
-        <translation>フォルダーを作成しますか?</translation>
     </message>
     <message>
         <source>Snapshot taken: %1</source>
@@ -1693,14 +1589,6 @@ Do you want to replace it?</source>
     <message>
         <source>Batch</source>
         <translation>バッチ</translation>
-    </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>スナップショットはまだありません</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>「自動ファイル名」に有効な出力フォルダーを入力してください。</translation>
     </message>
 </context>
 <context>
@@ -2084,6 +1972,133 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
     <message>
         <source>Image Files</source>
         <translation>画像ファイル</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>スナップショット</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>保存されるもの</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>元のサイズ</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>スナップショットを動画のサイズで保存します</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>画像プロファイル</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>画像プロファイル</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>画像プロファイルを編集します</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>自動ファイル名</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>確認せずに次の空いている名前で保存します</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>ファイル名プロファイル</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>ファイル名プロファイルを編集します</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>画像のフォルダー</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>出力フォルダー</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>参照</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>画像のフォルダーを選びます</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>次:</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>次のファイル名</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>スナップショットを保存します</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>スナップショットはまだありません</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>%1 の画像がありません: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 を保存しました</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 を保存できませんでした</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>不明なフォルダー</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>「自動ファイル名」に有効な出力フォルダーを入力してください。</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>フォルダーを作成しますか?</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>フォルダーがありません</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>スナップショットの保存</translation>
     </message>
 </context>
 <context>

@@ -1075,80 +1075,8 @@
         <translation>截取屏幕上的画面</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>快照</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>将要保存的内容</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>原始尺寸</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>以视频尺寸保存快照</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>图像配置</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>图像配置</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>编辑</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>编辑图像配置</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>自动文件名</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>不询问，直接以下一个可用的名称保存</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>文件名配置</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>编辑文件名配置</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>存放图像的文件夹</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>输出文件夹</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>浏览</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>选择存放图像的文件夹</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>下一个：</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>下一个文件名</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1533,10 +1461,6 @@
         <translation>%1（%2）</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>保存快照</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>已保存 1 张快照</translation>
     </message>
@@ -1591,30 +1515,6 @@ Click to open another video</source>
         <translation>无法截取视频帧</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>没有 %1 的图像：%2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>已保存 %1</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>无法保存 %1</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>未知文件夹</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>文件夹不存在</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>打开文件夹</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 已存在。
@@ -1623,10 +1523,6 @@ Do you want to replace it?</source>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Create folder?</source>
-        <translation>要创建文件夹吗？</translation>
     </message>
     <message>
         <source>Snapshot taken: %1</source>
@@ -1693,14 +1589,6 @@ Do you want to replace it?</source>
     <message>
         <source>Batch</source>
         <translation>批处理</translation>
-    </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>还没有快照</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>请在“自动文件名”部分输入有效的输出文件夹。</translation>
     </message>
 </context>
 <context>
@@ -2084,6 +1972,133 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
     <message>
         <source>Image Files</source>
         <translation>图像文件</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>快照</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>将要保存的内容</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>原始尺寸</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>以视频尺寸保存快照</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>图像配置</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>图像配置</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>编辑图像配置</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>自动文件名</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>不询问，直接以下一个可用的名称保存</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>文件名配置</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>编辑文件名配置</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>存放图像的文件夹</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>输出文件夹</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>浏览</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>选择存放图像的文件夹</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>下一个：</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>下一个文件名</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>保存快照</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>还没有快照</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>没有 %1 的图像：%2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>已保存 %1</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>无法保存 %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>未知文件夹</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>请在“自动文件名”部分输入有效的输出文件夹。</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>要创建文件夹吗？</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>文件夹不存在</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>保存快照</translation>
     </message>
 </context>
 <context>

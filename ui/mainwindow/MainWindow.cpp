@@ -1,10 +1,8 @@
 #include "ui/mainwindow/MainWindow.h"
 
-#include "ui/mainwindow/FolderSweeper.h"
 #include "ui/mainwindow/LanguageMenu.h"
 #include "ui/mainwindow/ReturnKey.h"
-#include "ui/mainwindow/SaveDialog.h"
-#include "ui/widgets/GroupBoxMargins.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui_MainWindow.h"
 #include "video/ReadingLimits.h"
 
@@ -43,17 +41,14 @@ MainWindow::MainWindow(QWidget* parent)
 MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutput)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
-    , m_sweeper(std::make_unique<FolderSweeper>())
-    , m_saveDialog(std::make_unique<SaveDialog>(m_settings))
 {
     m_ui->setupUi(this);
-    // Not set in the form: an unchecked group box disables its children while they are still being
-    // created, and screen readers would keep treating them as plain areas.
-    m_ui->automaticFileNameGroupBox->setChecked(false);
-    GroupBoxMargins::apply(*this);
+    m_snapshotPane = new SnapshotPane(m_settings, m_ui->splitter);
     keepKeysForVideo();
+    connectActions();
     updateWindowTitle();
     setupLanguages();
+    setupSnapshotPane();
     setupFilmstrip();
     setupThemeMenu();
     setupFileMenu();
@@ -98,7 +93,6 @@ void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
     setSnapshotControlsEnabled(false);
     updateAutomaticFileNameDisplay();
     setupVolumePopup();
-    setupShowInFolder();
     setupSteering();
     setupLooks();
 }
@@ -166,24 +160,13 @@ void MainWindow::connectTransport()
             &QtAV::AVPlayer::stepFieldForward);
     connect(m_ui->actionStepFieldBackward, &QAction::triggered, m_player,
             &QtAV::AVPlayer::stepFieldBackward);
+    connect(m_ui->volumeButton, &QPushButton::clicked, this, &MainWindow::on_volumeButton_clicked);
     connect(m_ui->snapshotButton, &QPushButton::clicked, this, &MainWindow::snapshotButtonPressed);
-    connect(m_ui->saveButton, &QPushButton::clicked, this, &MainWindow::saveButtonPressed);
-    // Not on every key, because each partial path would raise the counter.
-    connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this, [this] {
-        noteOutputFolder();
-        updateAutomaticFileNameDisplay();
-    });
-    // The field itself uses Space and the keys that take, copy and step.
-    connect(m_ui->outputFolderLineEdit, &QLineEdit::returnPressed, this,
-            [this] { m_ui->videoFrame->setFocus(); });
 }
 
 void MainWindow::alignControls()
 {
     m_ui->splitter->setChildrenCollapsible(false);
-    // Two lines, so that the snapshot keeps its size when its line appears.
-    m_ui->snapshotSummaryLabel->setFixedHeight(
-        2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());
     m_ui->timecodeField->setTextWidth(widestTime(*m_ui->timecodeField));
     constexpr int rounding = 2;
     m_ui->durationLabel->setMinimumWidth(widestTime(*m_ui->durationLabel) + rounding);

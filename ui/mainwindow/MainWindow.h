@@ -1,15 +1,12 @@
 #pragma once
 
 #include "imaging/CapturedPicture.h"
-#include "imaging/FilePublisher.h"
-#include "imaging/ImageRecipe.h"
 #include "imaging/PictureSource.h"
 #include "ui/mainwindow/CaptureTickets.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
-#include <QImage>
 #include <QMainWindow>
 #include <QPointer>
 #include <QSettings>
@@ -23,18 +20,15 @@
 
 class BatchModeDialog;
 class DropZone;
-class FileNameProfile;
 class Filmstrip;
 class FolderSteps;
-class FolderSweeper;
 class FrameProposals;
 class FullScreen;
 class ImageProfile;
 class PlayerSteering;
-class QPushButton;
+class QImage;
 class RecentMenu;
-class SaveDialog;
-class SnapshotMaker;
+class SnapshotPane;
 class SnapshotSaver;
 struct MadeSnapshot;
 class VideoZoom;
@@ -55,13 +49,13 @@ class MainWindow;
 ///
 /// The implementation is split by topic: construction in MainWindow.cpp, files from outside and
 /// closing in MainWindow_files.cpp, stored settings in MainWindow_memory.cpp, the player in
-/// MainWindow_player.cpp and its zoom in MainWindow_zoom.cpp, the snapshot in
-/// MainWindow_snapshot.cpp and its description in MainWindow_summary.cpp, earlier snapshots in
+/// MainWindow_player.cpp and its zoom in MainWindow_zoom.cpp, capturing for the SnapshotPane in
+/// MainWindow_snapshot.cpp, what that does in MainWindow_panes.cpp, earlier snapshots in
 /// MainWindow_filmstrip.cpp, the best frames in MainWindow_best.cpp, the menus in
 /// MainWindow_menus.cpp, and the keys and navigation of PlayerSteering in MainWindow_steering.cpp.
 ///
-/// Settings: those of SaveDialog; "outputFolder" of the automatic names, "automaticFileName",
-/// "recentFiles", "windowGeometry", "splitterState". User-interface thread only.
+/// Settings: those of SnapshotPane; "recentFiles", "windowGeometry", "splitterState".
+/// User-interface thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -241,6 +235,7 @@ private:
 
     void setupPlayer(const VideoOutputFactory& makeVideoOutput);
     void setupLanguages();
+    void connectActions();
     void refusePlayer();
     void connectPlayer();
     void connectTransport();
@@ -250,7 +245,7 @@ private:
     void setupLooks();
     void showRecentFiles();
     void showSpeed(qreal speed);
-    void showWhatIsNext();
+    void showWhatIsNext(bool isUnsaved);
     void chooseDeinterlacing(const QString& name);
     void chooseHdr(int hdr);
     void followImageProfile();
@@ -269,11 +264,6 @@ private:
     void quit();
     void endWhenSafe();
     void saveLayout();
-    void setupShowInFolder();
-    void offerToShowSavedFile(const QString& text);
-
-    void showOutputFolder(const QFileInfo& video);
-    void noteOutputFolder();
     void noteOpenFolder(const QFileInfo& video);
     void noticeMediaStatus();
     void noticeBaseLayer();
@@ -305,44 +295,20 @@ private:
     void tellSnapshotTimes();
     void saveSnapshots(const QStringList& ids);
     void reportSavedSnapshots(int saved, int failed, const QString& lastFile);
-    [[nodiscard]] QString folderForSnapshots();
 
+    void setupSnapshotPane();
     void capture(bool isToBeSaved = false);
     [[nodiscard]] bool takeSaving();
     void takeCapture(const MadeSnapshot& made);
-    void takeRemade(const MadeSnapshot& made);
-    void showSnapshot(const MadeSnapshot& made);
     void warnOfCapture(const QString& reason);
     void resetSnapshot();
-    void selectImageProfile(ImageProfile& profile);
-    [[nodiscard]] QString typeToSave() const;
-    void showSnapshotSummary();
-    [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
     [[nodiscard]] PictureSource sourceOfCapture(const CapturedPicture& picture) const;
-    struct Saving;
-    [[nodiscard]] Saving savingNow();
-    [[nodiscard]] WriteResult write(const Saving& saving, const QString& path,
-                                    ExistingFile existing, WriteFailure& failure);
-    [[nodiscard]] WriteResult save(const Saving& saving, const QString& path,
-                                   ExistingFile existing);
-    void reportSaved(const QString& path);
-    void reportUnsaved(const QString& path, const WriteFailure& failure);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QSettings m_settings;
-    /// The processed snapshot; null until the first capture.
-    QImage m_snapshotImage;
-    /// True if there is no snapshot, or it was saved or copied.
-    bool m_isSnapshotKept = true;
-    /// The recipe of m_snapshotImage.
-    ImageRecipe m_snapshotRecipe;
-    /// The frame of m_snapshotImage.
-    CapturedPicture m_captured;
+    SnapshotPane* m_snapshotPane = nullptr;   ///< created first
     Filmstrip* m_filmstrip = nullptr;         ///< created first
     SnapshotSaver* m_snapshotSaver = nullptr; ///< created first
-    SnapshotMaker* m_snapshotMaker = nullptr; ///< created first
-    QString m_shownSnapshot;                  ///< its name in the filmstrip; empty if it is not
-                                              ///< there
     QString m_wantedSnapshot;                 ///< to be shown once it has been read
     QVector<qint64> m_toldSnapshotTimes;
     RecentMenu* m_recentMenu = nullptr;    ///< created first
@@ -351,29 +317,20 @@ private:
     VideoZoom* m_videoZoom = nullptr;      ///< created first
     FrameProposals* m_proposals = nullptr; ///< created first
     QAction* m_bestFramesAction = nullptr; ///< created first
-    const std::unique_ptr<FolderSweeper> m_sweeper;
-    const std::unique_ptr<SaveDialog> m_saveDialog;
-    bool m_isEnding = false;    ///< end as soon as everything is written
-    bool m_endsUnasked = false; ///< end without asking
+    bool m_isEnding = false;               ///< end as soon as everything is written
+    bool m_endsUnasked = false;            ///< end without asking
     /// The file and time of the last capture, for messages.
     QString m_capturedPlace;
     QString m_currentVideoPath;
     QtAV::AVPlayer* m_player = nullptr;
     /// Deleted before the window when the application ends.
     QPointer<QtAV::VideoOutput> m_videoOutput;
-    /// For automatic names, as chosen by the user; empty for the video's folder.
-    QString m_outputFolder;
-    QString m_lastSavedFile;
     /// Null in a window without a player.
     VolumePopup* m_volumePopup = nullptr;
     /// Milliseconds per step of the slider.
     qint64 m_sliderUnit = 1000;
     QIcon m_playIcon;
     QIcon m_pauseIcon;
-    /// The number of the next automatic file name.
-    int m_fileCounter = 1;
-    ImageProfile* m_imageProfile = nullptr;
-    FileNameProfile* m_fileNameProfile = nullptr;
     CaptureTickets m_captures;
     /// For each pending capture, whether to save it at once.
     std::deque<bool> m_savesCapture;

@@ -5,6 +5,7 @@
 #include "profiles/ImageProfile.h"
 #include "ui/mainwindow/FrameProposals.h"
 #include "ui/mainwindow/PlayerSteering.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
@@ -40,5 +41,6 @@ void MainWindow::proposeBestFrames(qint64 fromMs, qint64 toMs)
     }
     pause();
     m_proposals->propose(m_currentVideoPath,
-                         QtAV::deinterlacingNamed(m_imageProfile->deinterlacing()), {fromMs, toMs});
+                         QtAV::deinterlacingNamed(m_snapshotPane->imageProfile()->deinterlacing()),
+                         {fromMs, toMs});
 }

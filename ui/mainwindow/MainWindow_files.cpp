@@ -5,9 +5,9 @@
 #include "ui/batch/BatchModeDialog.h"
 #include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/DropZone.h"
-#include "ui/mainwindow/FileManager.h"
 #include "ui/mainwindow/FolderSteps.h"
 #include "ui/mainwindow/RecentMenu.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/VideoOutput.h>
@@ -37,8 +37,8 @@ bool MainWindow::maySnapshotGo()
     }
     switch (askAboutSnapshots(1)) {
     case QMessageBox::Save:
-        saveButtonPressed();
-        return m_isSnapshotKept;
+        m_snapshotPane->save();
+        return m_snapshotPane->isKept();
     case QMessageBox::Discard:
         return true;
     default:
@@ -53,14 +53,14 @@ bool MainWindow::mayAllGo()
     if (count == 0) {
         return true;
     }
-    const bool isShownOne = count == 1 && !m_isSnapshotKept;
+    const bool isShownOne = count == 1 && !m_snapshotPane->isKept();
     switch (askAboutSnapshots(count)) {
     case QMessageBox::Save:
         if (isShownOne || isSnapshotAtRisk()) {
-            saveButtonPressed();
+            m_snapshotPane->save();
         }
         if (isShownOne || isSnapshotAtRisk()) {
-            return m_isSnapshotKept;
+            return m_snapshotPane->isKept();
         }
         // The window closes when these are written, or another question follows.
         m_isEnding = true;
@@ -219,23 +219,4 @@ void MainWindow::quit()
         m_videoOutput->deleteLater();
     }
     QCoreApplication::quit();
-}
-
-void MainWindow::setupShowInFolder()
-{
-    m_ui->actionShow_in_Folder->setEnabled(false);
-    connect(&m_ui->savedNotice->folderButton(), &QPushButton::clicked, this,
-            &MainWindow::on_actionShow_in_Folder_triggered);
-}
-
-/// Shows a notice near the button; the text names the saved file.
-void MainWindow::offerToShowSavedFile(const QString& text)
-{
-    m_ui->savedNotice->tellSaved(text);
-    m_ui->actionShow_in_Folder->setEnabled(true);
-}
-
-void MainWindow::on_actionShow_in_Folder_triggered()
-{
-    FileManager::show(m_lastSavedFile);
 }

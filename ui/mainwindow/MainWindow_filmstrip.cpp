@@ -7,14 +7,12 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "ui/filmstrip/Filmstrip.h"
-#include "ui/mainwindow/SaveDialog.h"
-#include "ui/mainwindow/SnapshotMaker.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui/mainwindow/SnapshotSaver.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
 
-#include <QFileDialog>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -36,9 +34,7 @@ void MainWindow::setupFilmstrip()
     m_filmstrip->comeAfter(*m_ui->snapshotButton);
     SnapshotShelf& shelf = m_filmstrip->shelf();
     m_snapshotSaver = new SnapshotSaver(shelf, m_filmstrip);
-    m_snapshotMaker = new SnapshotMaker(this);
-    connect(m_snapshotMaker, &SnapshotMaker::captured, this, &MainWindow::takeCapture);
-    connect(m_snapshotMaker, &SnapshotMaker::remade, this, &MainWindow::takeRemade);
+    connect(m_snapshotPane, &SnapshotPane::saved, &shelf, &SnapshotShelf::markSaved);
 
     QAction* const first = m_ui->menuEdit->actions().value(0);
     m_ui->menuEdit->insertAction(first, m_filmstrip->undoAction());
@@ -75,14 +71,15 @@ void MainWindow::keepSnapshots(const QString& folder)
 void MainWindow::addToFilmstrip()
 {
     m_wantedSnapshot.clear();
-    m_shownSnapshot.clear();
-    if (m_isSnapshotKept) {
+    if (m_snapshotPane->isKept()) {
         return;
     }
-    m_shownSnapshot =
-        m_filmstrip->shelf().add(m_captured, m_imageProfile->id(), m_imageProfile->name());
-    m_filmstrip->setCurrent(m_shownSnapshot);
-    if (m_shownSnapshot.isEmpty()) {
+    const ImageProfile& profile = *m_snapshotPane->imageProfile();
+    const QString id =
+        m_filmstrip->shelf().add(m_snapshotPane->captured(), profile.id(), profile.name());
+    m_snapshotPane->setId(id);
+    m_filmstrip->setCurrent(id);
+    if (id.isEmpty()) {
         statusBar()->showMessage(tr("The filmstrip is full: save or delete some of its snapshots."),
                                  messageMs);
     }
@@ -92,7 +89,7 @@ void MainWindow::addToFilmstrip()
 void MainWindow::returnToSnapshot(const QString& id)
 {
     const std::optional<KeptSnapshot> snapshot = m_filmstrip->shelf().snapshot(id);
-    if (!snapshot || (id != m_shownSnapshot && !maySnapshotGo())) {
+    if (!snapshot || (id != m_snapshotPane->id() && !maySnapshotGo())) {
         return;
     }
     returnToFrame(snapshot->source);
@@ -124,23 +121,18 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
     m_wantedSnapshot.clear();
     // Cleared before the profile is chosen, which would be recorded for the snapshot shown until
     // now.
-    m_shownSnapshot.clear();
+    m_snapshotPane->setId({});
     ProfileManager& profiles = *ImageProfile::profileManager();
     BaseProfile* const profile = profiles.profileForId(snapshot->profileId);
-    if (profile != nullptr && profile != m_imageProfile) {
+    if (profile != nullptr && profile != m_snapshotPane->imageProfile()) {
         profiles.setLastUsedProfile(profile);
         loadImageProfileComboBox();
     }
-    m_captured = picture;
-    m_capturedPlace =
+    const QString place =
         tr("%1 at %2")
             .arg(QFileInfo(picture.source.video).fileName(),
                  m_filmstrip->shelf().indexOf(id).data(SnapshotShelf::TimeRole).toString());
-    m_isSnapshotKept = snapshot->isSaved;
-    m_shownSnapshot = id;
-    m_ui->savedNotice->clear();
-    processFullFrameImage(nullptr);
-    showWhatIsNext();
+    m_snapshotPane->showEarlier(picture, place, id, snapshot->isSaved);
     m_filmstrip->setCurrent(id);
     setSnapshotControlsEnabled(true);
 }
@@ -149,22 +141,25 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
 /// restored.
 void MainWindow::followShownSnapshot()
 {
-    const std::optional<KeptSnapshot> shown = m_filmstrip->shelf().snapshot(m_shownSnapshot);
-    m_isSnapshotKept = m_isSnapshotKept || (shown && shown->isSaved);
-    if (!shown && !m_shownSnapshot.isEmpty()) {
-        // Deleted on purpose, so no question is needed.
-        m_shownSnapshot.clear();
-        m_isSnapshotKept = true;
+    const QString id = m_snapshotPane->id();
+    const std::optional<KeptSnapshot> shown = m_filmstrip->shelf().snapshot(id);
+    if (shown && shown->isSaved) {
+        m_snapshotPane->setKept();
     }
-    showWhatIsNext();
+    if (!shown && !id.isEmpty()) {
+        // Deleted on purpose, so no question is needed.
+        m_snapshotPane->setId({});
+        m_snapshotPane->setKept();
+    }
     tellSnapshotTimes();
 }
 
 void MainWindow::noteProfileOfSnapshot()
 {
-    if (!m_shownSnapshot.isEmpty()) {
-        m_filmstrip->shelf().setProfile(m_shownSnapshot, m_imageProfile->id(),
-                                        m_imageProfile->name());
+    const QString& id = m_snapshotPane->id();
+    if (!id.isEmpty()) {
+        const ImageProfile& profile = *m_snapshotPane->imageProfile();
+        m_filmstrip->shelf().setProfile(id, profile.id(), profile.name());
     }
 }
 
@@ -187,7 +182,7 @@ void MainWindow::tellSnapshotTimes()
 /// Whether another video or snapshot would lose the one that is shown.
 bool MainWindow::isSnapshotAtRisk() const
 {
-    return !m_isSnapshotKept && m_shownSnapshot.isEmpty();
+    return !m_snapshotPane->isKept() && m_snapshotPane->id().isEmpty();
 }
 
 /// How many snapshots closing the window would lose.
@@ -195,29 +190,15 @@ int MainWindow::snapshotsAtRisk() const
 {
     const SnapshotShelf& shelf = m_filmstrip->shelf();
     // A copied snapshot is in the user's hands.
-    const bool isCopied =
-        m_isSnapshotKept && !m_shownSnapshot.isEmpty() && !shelf.isSafe(m_shownSnapshot);
+    const QString& id = m_snapshotPane->id();
+    const bool isCopied = m_snapshotPane->isKept() && !id.isEmpty() && !shelf.isSafe(id);
     return shelf.unsafeCount() - (isCopied ? 1 : 0) + (isSnapshotAtRisk() ? 1 : 0);
-}
-
-/// The folder of the automatic names, or one that the user chooses; empty if cancelled.
-QString MainWindow::folderForSnapshots()
-{
-    const QDir automatic(m_ui->outputFolderLineEdit->text());
-    if (m_ui->automaticFileNameGroupBox->isChecked() && automatic.isAbsolute()) {
-        return isOutputFolderUsable(automatic) ? automatic.absolutePath() : QString();
-    }
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("Save Snapshots"), m_saveDialog->folder(),
-        QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-    retakeFocusAfterDialog();
-    return folder;
 }
 
 /// Saves under automatic names, each with the profile that it was taken with.
 void MainWindow::saveSnapshots(const QStringList& ids)
 {
-    const QString folder = ids.isEmpty() ? QString() : folderForSnapshots();
+    const QString folder = ids.isEmpty() ? QString() : m_snapshotPane->folderForSnapshots();
     if (folder.isEmpty()) {
         m_isEnding = false;
         return;
@@ -231,10 +212,10 @@ void MainWindow::saveSnapshots(const QStringList& ids)
         }
         const BaseProfile* const own = profiles.profileForId(snapshot->profileId);
         const auto* const profile =
-            own == nullptr ? m_imageProfile : static_cast<const ImageProfile*>(own);
+            own == nullptr ? m_snapshotPane->imageProfile() : static_cast<const ImageProfile*>(own);
         jobs.append({id, QFileInfo(snapshot->source.video).baseName(), recipes::of(*profile)});
     }
-    m_snapshotSaver->start(jobs, folder, m_fileNameProfile->naming());
+    m_snapshotSaver->start(jobs, folder, m_snapshotPane->fileNameProfile()->naming());
 }
 
 void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& lastFile)
@@ -247,11 +228,10 @@ void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& last
         failed == 0 ? count : tr("%1, %n could not be saved", nullptr, failed).arg(count);
     const QString& cause = m_snapshotSaver->failure();
     if (!lastFile.isEmpty()) {
-        m_lastSavedFile = QFileInfo(lastFile).absoluteFilePath();
-        offerToShowSavedFile(text);
-        updateAutomaticFileNameDisplay();
+        m_snapshotPane->tellSaved(text, lastFile);
+        m_snapshotPane->updateAutomaticFileNameDisplay();
     } else {
-        m_ui->savedNotice->tellFailed(text, cause);
+        m_snapshotPane->tellFailed(text, cause);
     }
     statusBar()->showMessage(cause.isEmpty() ? text : tr("%1: %2").arg(text, cause), messageMs);
 }

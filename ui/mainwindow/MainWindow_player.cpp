@@ -3,7 +3,7 @@
 #include "ui/mainwindow/FolderSteps.h"
 #include "ui/mainwindow/FrameProposals.h"
 #include "ui/mainwindow/RecentMenu.h"
-#include "ui/mainwindow/SaveDialog.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui/mainwindow/VideoZoom.h"
 #include "ui/theme/Icons.h"
 #include "ui/widgets/SmartFileDialog.h"
@@ -135,8 +135,7 @@ void MainWindow::openVideo(QString path)
     m_currentVideoPath = path;
     m_player->play(path);
     volumeChanged(m_volumePopup->volume());
-    m_saveDialog->follow(video);
-    showOutputFolder(video);
+    m_snapshotPane->setVideo(path);
     noteOpenFolder(video);
     m_recentMenu->note(path);
     m_folderSteps->setVideo(path);
@@ -144,8 +143,6 @@ void MainWindow::openVideo(QString path)
     // Keys control the video, so no button needs the focus.
     m_ui->videoFrame->setFocus();
     setVideoControlsEnabled(true);
-    m_fileCounter = 1;
-    updateAutomaticFileNameDisplay();
     updateWindowTitle();
     updatePlayButton();
     updateSliderUnit();
@@ -158,6 +155,7 @@ void MainWindow::closeVideo()
     m_player->stop();
     m_player->setFile(QString());
     m_currentVideoPath.clear();
+    m_snapshotPane->setVideo({});
     m_captures.forgetAll();
     m_folderSteps->setVideo({});
     m_proposals->reset();

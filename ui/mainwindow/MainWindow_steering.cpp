@@ -9,7 +9,9 @@
 #include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/ReturnKey.h"
 #include "ui/mainwindow/Shortcuts.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui/mainwindow/SpokenEvents.h"
+#include "ui/theme/ActionButton.h"
 #include "ui/widgets/VolumePopup.h"
 #include "ui_MainWindow.h"
 
@@ -90,7 +92,7 @@ void MainWindow::connectMute()
 
 void MainWindow::setupFullScreen()
 {
-    m_fullScreen = new FullScreen(*this, {m_ui->menuBar, m_ui->snapshotPane});
+    m_fullScreen = new FullScreen(*this, {m_ui->menuBar, m_snapshotPane});
     connect(m_ui->actionFullScreen, &QAction::triggered, m_fullScreen, &FullScreen::setOn);
     connect(m_fullScreen, &FullScreen::toggled, m_ui->actionFullScreen, &QAction::setChecked);
     auto* const escape = new QShortcut(Qt::Key_Escape, this);
@@ -108,7 +110,7 @@ void MainWindow::setupKeyTips()
     tips->add(*m_ui->skipForwardButton, *m_ui->actionSkipForward);
     tips->add(*m_ui->skipBackwardButton, *m_ui->actionSkipBackward);
     tips->add(*m_ui->snapshotButton, *m_ui->actionTake_Snapshot);
-    tips->add(*m_ui->saveButton, *m_ui->actionSaveSnapshot);
+    tips->add(m_snapshotPane->saveButton(), *m_ui->actionSaveSnapshot);
     tips->add(*m_ui->timecodeField, *m_ui->actionGoToTime);
 }
 
