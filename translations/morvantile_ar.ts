@@ -1060,34 +1060,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>انقر لفتح فيديو</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>افتح فيديو أو أفلته هنا</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>الموضع في الفيديو</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>الموضع</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>الموضع. انقر لكتابة موضع آخر: 1:02:03.5, +10s, -2s, f1234 أو 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>المدة</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>رقم الإطار والمعدل والحجم والترميز</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>الرجوع قليلاً</translation>
     </message>
@@ -1096,20 +1068,12 @@
         <translation>الرجوع إطارًا واحدًا</translation>
     </message>
     <message>
-        <source>Play/Pause</source>
-        <translation>تشغيل/إيقاف مؤقت</translation>
-    </message>
-    <message>
         <source>Step forward one frame</source>
         <translation>التقدم إطارًا واحدًا</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
         <translation>التقدم قليلاً</translation>
-    </message>
-    <message>
-        <source>Volume Control</source>
-        <translation>التحكم في مستوى الصوت</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
@@ -1545,24 +1509,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>فيديو</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>يشغّل ويوقف مؤقتًا</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-لا يمكن تشغيله كفيديو.
-
-انقر لفتح فيديو آخر</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1587,14 +1533,6 @@ Do you want to replace it?</source>
     <message>
         <source>Snapshot taken: %1</source>
         <translation>أُخذت اللقطة: %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>صورة الفيديو</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1، الإطار %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1665,6 +1603,103 @@ Do you want to replace it?</source>
     <message>
         <source>Opened last</source>
         <translation>المفتوحة مؤخرًا</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>انقر لفتح فيديو</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>افتح فيديو أو أفلته هنا</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>الموضع في الفيديو</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>الموضع. انقر لكتابة موضع آخر: 1:02:03.5, +10s, -2s, f1234 أو 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>الرجوع قليلاً</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>الرجوع إطارًا واحدًا</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>تشغيل/إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>التقدم إطارًا واحدًا</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>التقدم قليلاً</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>السرعة</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>التحكم في مستوى الصوت</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>رقم الإطار والمعدل والحجم والترميز</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>أخذ لقطة</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>التقاط الصورة المعروضة على الشاشة</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>صورة الفيديو</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>فيديو</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>يشغّل ويوقف مؤقتًا</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+لا يمكن تشغيله كفيديو.
+
+انقر لفتح فيديو آخر</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1، الإطار %2</translation>
     </message>
 </context>
 <context>

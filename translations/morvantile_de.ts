@@ -1024,34 +1024,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>Klicken, um ein Video zu öffnen</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>Ein Video öffnen oder hier ablegen</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>Position im Video</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>Position. Klicken, um eine andere einzugeben: 1:02:03.5, +10s, -2s, f1234 oder 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>Dauer</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>Bildnummer, Bildrate, Größe und Codec</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>Ein Stück zurückspringen</translation>
     </message>
@@ -1060,20 +1032,12 @@
         <translation>Ein Einzelbild zurück</translation>
     </message>
     <message>
-        <source>Play/Pause</source>
-        <translation>Wiedergabe/Pause</translation>
-    </message>
-    <message>
         <source>Step forward one frame</source>
         <translation>Ein Einzelbild weiter</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
         <translation>Ein Stück vorspringen</translation>
-    </message>
-    <message>
-        <source>Volume Control</source>
-        <translation>Lautstärke regeln</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
@@ -1497,24 +1461,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>Video</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>Spielt ab und hält an</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-lässt sich nicht als Video abspielen.
-
-Klicken, um ein anderes Video zu öffnen</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1539,14 +1485,6 @@ Möchten Sie die Datei ersetzen?</translation>
     <message>
         <source>Snapshot taken: %1</source>
         <translation>Schnappschuss aufgenommen: %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>Bild des Videos</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1, Einzelbild %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1613,6 +1551,103 @@ Möchten Sie die Datei ersetzen?</translation>
     <message>
         <source>Opened last</source>
         <translation>Zuletzt geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>Klicken, um ein Video zu öffnen</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>Ein Video öffnen oder hier ablegen</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Position im Video</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>Position. Klicken, um eine andere einzugeben: 1:02:03.5, +10s, -2s, f1234 oder 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>Ein Stück zurückspringen</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>Ein Einzelbild zurück</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Wiedergabe/Pause</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>Ein Einzelbild weiter</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>Ein Stück vorspringen</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>Lautstärke regeln</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>Bildnummer, Bildrate, Größe und Codec</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>Schnappschuss aufnehmen</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>Das Bild auf dem Schirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Bild des Videos</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>Spielt ab und hält an</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+lässt sich nicht als Video abspielen.
+
+Klicken, um ein anderes Video zu öffnen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1, Einzelbild %2</translation>
     </message>
 </context>
 <context>

@@ -1024,34 +1024,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>Haga clic para abrir un vídeo</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>Abra un vídeo o suéltelo aquí</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>Posición en el vídeo</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Posición</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>Posición. Haga clic para escribir otra: 1:02:03.5, +10s, -2s, f1234 o 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>Duración</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>Fotograma, frecuencia, tamaño y códec</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>Retroceder un poco</translation>
     </message>
@@ -1060,20 +1032,12 @@
         <translation>Retroceder un fotograma</translation>
     </message>
     <message>
-        <source>Play/Pause</source>
-        <translation>Reproducir/Pausa</translation>
-    </message>
-    <message>
         <source>Step forward one frame</source>
         <translation>Avanzar un fotograma</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
         <translation>Avanzar un poco</translation>
-    </message>
-    <message>
-        <source>Volume Control</source>
-        <translation>Control de volumen</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
@@ -1497,24 +1461,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>Vídeo</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>Reproduce y pausa</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-no se puede reproducir como vídeo.
-
-Haga clic para abrir otro vídeo</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1539,14 +1485,6 @@ Do you want to replace it?</source>
     <message>
         <source>Snapshot taken: %1</source>
         <translation>Captura tomada: %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>Imagen del vídeo</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1, fotograma %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1613,6 +1551,103 @@ Do you want to replace it?</source>
     <message>
         <source>Opened last</source>
         <translation>Abiertos recientemente</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>Haga clic para abrir un vídeo</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>Abra un vídeo o suéltelo aquí</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Posición en el vídeo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>Posición. Haga clic para escribir otra: 1:02:03.5, +10s, -2s, f1234 o 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>Retroceder un poco</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>Retroceder un fotograma</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Reproducir/Pausa</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>Avanzar un fotograma</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>Avanzar un poco</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>Control de volumen</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>Fotograma, frecuencia, tamaño y códec</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>Tomar captura</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>Capturar la imagen de la pantalla</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Imagen del vídeo</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>Reproduce y pausa</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+no se puede reproducir como vídeo.
+
+Haga clic para abrir otro vídeo</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1, fotograma %2</translation>
     </message>
 </context>
 <context>

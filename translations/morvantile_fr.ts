@@ -1024,34 +1024,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>Cliquez pour ouvrir une vidéo</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>Ouvrez une vidéo ou déposez-la ici</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>Position dans la vidéo</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>Position. Cliquez pour en saisir une autre : 1:02:03.5, +10s, -2s, f1234 ou 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>Durée</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>Numéro d’image, cadence, taille et codec</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>Reculer un peu</translation>
     </message>
@@ -1060,20 +1032,12 @@
         <translation>Reculer d’une image</translation>
     </message>
     <message>
-        <source>Play/Pause</source>
-        <translation>Lecture/Pause</translation>
-    </message>
-    <message>
         <source>Step forward one frame</source>
         <translation>Avancer d’une image</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
         <translation>Avancer un peu</translation>
-    </message>
-    <message>
-        <source>Volume Control</source>
-        <translation>Réglage du volume</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
@@ -1497,24 +1461,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>Vidéo</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>Lance la lecture et la met en pause</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-ne peut pas être lu comme une vidéo.
-
-Cliquez pour ouvrir une autre vidéo</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
     </message>
@@ -1539,14 +1485,6 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>Snapshot taken: %1</source>
         <translation>Capture prise : %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>Image de la vidéo</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1, image %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1613,6 +1551,103 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>Opened last</source>
         <translation>Ouvertes récemment</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>Cliquez pour ouvrir une vidéo</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>Ouvrez une vidéo ou déposez-la ici</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Position dans la vidéo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>Position. Cliquez pour en saisir une autre : 1:02:03.5, +10s, -2s, f1234 ou 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>Reculer un peu</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>Reculer d’une image</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Lecture/Pause</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>Avancer d’une image</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>Avancer un peu</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>Réglage du volume</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>Numéro d’image, cadence, taille et codec</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>Prendre une capture</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>Capturer l’image à l’écran</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Image de la vidéo</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>Lance la lecture et la met en pause</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+ne peut pas être lu comme une vidéo.
+
+Cliquez pour ouvrir une autre vidéo</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1, image %2</translation>
     </message>
 </context>
 <context>

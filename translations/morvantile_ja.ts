@@ -1015,34 +1015,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>クリックして動画を開く</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>動画を開くか、ここにドロップします</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>動画内の位置</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>位置</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>位置。クリックして別の位置を入力できます: 1:02:03.5, +10s, -2s, f1234, 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>長さ</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>フレーム、レート、サイズ、コーデック</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>少し後ろへスキップ</translation>
     </message>
@@ -1051,20 +1023,12 @@
         <translation>1 フレーム戻る</translation>
     </message>
     <message>
-        <source>Play/Pause</source>
-        <translation>再生/一時停止</translation>
-    </message>
-    <message>
         <source>Step forward one frame</source>
         <translation>1 フレーム進む</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
         <translation>少し先へスキップ</translation>
-    </message>
-    <message>
-        <source>Volume Control</source>
-        <translation>音量の調整</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
@@ -1485,24 +1449,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>動画</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>再生と一時停止を切り替えます</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-は動画として再生できません。
-
-クリックして別の動画を開く</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1527,14 +1473,6 @@ Do you want to replace it?</source>
     <message>
         <source>Snapshot taken: %1</source>
         <translation>スナップショットを撮りました: %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>動画の画像</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1、フレーム %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1600,6 +1538,103 @@ Do you want to replace it?</source>
     <message>
         <source>Opened last</source>
         <translation>最近開いた動画</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>クリックして動画を開く</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>動画を開くか、ここにドロップします</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>動画内の位置</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>位置。クリックして別の位置を入力できます: 1:02:03.5, +10s, -2s, f1234, 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>長さ</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>少し後ろへスキップ</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>1 フレーム戻る</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>再生/一時停止</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>1 フレーム進む</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>少し先へスキップ</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>音量の調整</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>フレーム、レート、サイズ、コーデック</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>スナップショットを撮る</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>画面の画像を撮ります</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>動画の画像</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>再生と一時停止を切り替えます</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+は動画として再生できません。
+
+クリックして別の動画を開く</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1、フレーム %2</translation>
     </message>
 </context>
 <context>

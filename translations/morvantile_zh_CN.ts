@@ -1015,34 +1015,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>单击以打开视频</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>打开视频，或将视频拖放到此处</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>在视频中的位置</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>位置</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>位置。单击可输入其他位置：1:02:03.5, +10s, -2s, f1234 或 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>时长</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>帧号、帧率、尺寸和编码</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>后退一小段</translation>
     </message>
@@ -1051,20 +1023,12 @@
         <translation>后退一帧</translation>
     </message>
     <message>
-        <source>Play/Pause</source>
-        <translation>播放/暂停</translation>
-    </message>
-    <message>
         <source>Step forward one frame</source>
         <translation>前进一帧</translation>
     </message>
     <message>
         <source>Skip forward a bit</source>
         <translation>前进一小段</translation>
-    </message>
-    <message>
-        <source>Volume Control</source>
-        <translation>音量控制</translation>
     </message>
     <message>
         <source>Take Snapshot</source>
@@ -1485,24 +1449,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>视频</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>播放和暂停</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-无法作为视频播放。
-
-单击以打开其他视频</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
@@ -1527,14 +1473,6 @@ Do you want to replace it?</source>
     <message>
         <source>Snapshot taken: %1</source>
         <translation>已截取快照：%1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>视频画面</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1，第 %2 帧</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1600,6 +1538,103 @@ Do you want to replace it?</source>
     <message>
         <source>Opened last</source>
         <translation>最近打开</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>单击以打开视频</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>打开视频，或将视频拖放到此处</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>在视频中的位置</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>位置。单击可输入其他位置：1:02:03.5, +10s, -2s, f1234 或 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>后退一小段</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>后退一帧</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>播放/暂停</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>前进一帧</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>前进一小段</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>音量控制</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>帧号、帧率、尺寸和编码</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>截取快照</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>截取屏幕上的画面</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>视频画面</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>播放和暂停</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+无法作为视频播放。
+
+单击以打开其他视频</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1，第 %2 帧</translation>
     </message>
 </context>
 <context>

@@ -29,12 +29,11 @@ bool isSameFile(const QString& a, const QString& b)
 
 void MainWindow::setupFilmstrip()
 {
-    m_filmstrip = new Filmstrip(m_ui->playerPane);
-    m_ui->playerLayout->addWidget(m_filmstrip);
-    m_filmstrip->comeAfter(*m_ui->snapshotButton);
+    m_filmstrip = new Filmstrip(playerPane());
+    playerPane()->addFilmstrip(*m_filmstrip);
     SnapshotShelf& shelf = m_filmstrip->shelf();
     m_snapshotSaver = new SnapshotSaver(shelf, m_filmstrip);
-    connect(m_snapshotPane, &SnapshotPane::saved, &shelf, &SnapshotShelf::markSaved);
+    connect(snapshotPane(), &SnapshotPane::saved, &shelf, &SnapshotShelf::markSaved);
 
     QAction* const first = m_ui->menuEdit->actions().value(0);
     m_ui->menuEdit->insertAction(first, m_filmstrip->undoAction());
@@ -46,10 +45,8 @@ void MainWindow::setupFilmstrip()
     connect(m_filmstrip, &Filmstrip::saveRequested, this, &MainWindow::saveSnapshots);
     connect(m_filmstrip, &Filmstrip::contentChanged, this, &MainWindow::followShownSnapshot);
     connect(&shelf, &SnapshotShelf::loaded, this, &MainWindow::showKeptSnapshot);
-    connect(&shelf, &SnapshotShelf::loadFailed, this, [this] {
-        statusBar()->showMessage(tr("The picture of this snapshot cannot be read any more."),
-                                 messageMs);
-    });
+    connect(&shelf, &SnapshotShelf::loadFailed, this,
+            [this] { showMessage(tr("The picture of this snapshot cannot be read any more.")); });
     connect(&shelf, &SnapshotShelf::noticed, this,
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(&shelf, &SnapshotShelf::settled, this, [this] {
@@ -71,17 +68,16 @@ void MainWindow::keepSnapshots(const QString& folder)
 void MainWindow::addToFilmstrip()
 {
     m_wantedSnapshot.clear();
-    if (m_snapshotPane->isKept()) {
+    if (snapshotPane()->isKept()) {
         return;
     }
-    const ImageProfile& profile = *m_snapshotPane->imageProfile();
+    const ImageProfile& profile = *snapshotPane()->imageProfile();
     const QString id =
-        m_filmstrip->shelf().add(m_snapshotPane->captured(), profile.id(), profile.name());
-    m_snapshotPane->setId(id);
+        m_filmstrip->shelf().add(snapshotPane()->captured(), profile.id(), profile.name());
+    snapshotPane()->setId(id);
     m_filmstrip->setCurrent(id);
     if (id.isEmpty()) {
-        statusBar()->showMessage(tr("The filmstrip is full: save or delete some of its snapshots."),
-                                 messageMs);
+        showMessage(tr("The filmstrip is full: save or delete some of its snapshots."));
     }
 }
 
@@ -89,7 +85,7 @@ void MainWindow::addToFilmstrip()
 void MainWindow::returnToSnapshot(const QString& id)
 {
     const std::optional<KeptSnapshot> snapshot = m_filmstrip->shelf().snapshot(id);
-    if (!snapshot || (id != m_snapshotPane->id() && !maySnapshotGo())) {
+    if (!snapshot || (id != snapshotPane()->id() && !maySnapshotGo())) {
         return;
     }
     returnToFrame(snapshot->source);
@@ -99,17 +95,16 @@ void MainWindow::returnToSnapshot(const QString& id)
 
 void MainWindow::returnToFrame(const PictureSource& source)
 {
-    if (!isSameFile(source.video, m_currentVideoPath) || !isVideoShown()) {
+    if (!isSameFile(source.video, playerPane()->video()) || !playerPane()->isVideoShown()) {
         if (!QFileInfo::exists(source.video)) {
-            statusBar()->showMessage(tr("%1 is not there any more; this is its snapshot.")
-                                         .arg(QDir::toNativeSeparators(source.video)),
-                                     messageMs);
+            showMessage(tr("%1 is not there any more; this is its snapshot.")
+                            .arg(QDir::toNativeSeparators(source.video)));
             return;
         }
         openVideo(source.video);
     }
-    m_player->pause();
-    m_player->setPosition(source.positionMs());
+    playerPane()->pause();
+    playerPane()->player().setPosition(source.positionMs());
 }
 
 void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& picture)
@@ -121,10 +116,10 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
     m_wantedSnapshot.clear();
     // Cleared before the profile is chosen, which would be recorded for the snapshot shown until
     // now.
-    m_snapshotPane->setId({});
+    snapshotPane()->setId({});
     ProfileManager& profiles = *ImageProfile::profileManager();
     BaseProfile* const profile = profiles.profileForId(snapshot->profileId);
-    if (profile != nullptr && profile != m_snapshotPane->imageProfile()) {
+    if (profile != nullptr && profile != snapshotPane()->imageProfile()) {
         profiles.setLastUsedProfile(profile);
         loadImageProfileComboBox();
     }
@@ -132,7 +127,7 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
         tr("%1 at %2")
             .arg(QFileInfo(picture.source.video).fileName(),
                  m_filmstrip->shelf().indexOf(id).data(SnapshotShelf::TimeRole).toString());
-    m_snapshotPane->showEarlier(picture, place, id, snapshot->isSaved);
+    snapshotPane()->showEarlier(picture, place, id, snapshot->isSaved);
     m_filmstrip->setCurrent(id);
     setSnapshotControlsEnabled(true);
 }
@@ -141,24 +136,24 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
 /// restored.
 void MainWindow::followShownSnapshot()
 {
-    const QString id = m_snapshotPane->id();
+    const QString id = snapshotPane()->id();
     const std::optional<KeptSnapshot> shown = m_filmstrip->shelf().snapshot(id);
     if (shown && shown->isSaved) {
-        m_snapshotPane->setKept();
+        snapshotPane()->setKept();
     }
     if (!shown && !id.isEmpty()) {
         // Deleted on purpose, so no question is needed.
-        m_snapshotPane->setId({});
-        m_snapshotPane->setKept();
+        snapshotPane()->setId({});
+        snapshotPane()->setKept();
     }
     tellSnapshotTimes();
 }
 
 void MainWindow::noteProfileOfSnapshot()
 {
-    const QString& id = m_snapshotPane->id();
+    const QString& id = snapshotPane()->id();
     if (!id.isEmpty()) {
-        const ImageProfile& profile = *m_snapshotPane->imageProfile();
+        const ImageProfile& profile = *snapshotPane()->imageProfile();
         m_filmstrip->shelf().setProfile(id, profile.id(), profile.name());
     }
 }
@@ -166,7 +161,7 @@ void MainWindow::noteProfileOfSnapshot()
 QVector<qint64> MainWindow::snapshotTimes() const
 {
     return isVideoLoaded()
-               ? m_filmstrip->shelf().timesIn(QFileInfo(m_currentVideoPath).absoluteFilePath())
+               ? m_filmstrip->shelf().timesIn(QFileInfo(playerPane()->video()).absoluteFilePath())
                : QVector<qint64>();
 }
 
@@ -179,26 +174,20 @@ void MainWindow::tellSnapshotTimes()
     }
 }
 
-/// Whether another video or snapshot would lose the one that is shown.
-bool MainWindow::isSnapshotAtRisk() const
-{
-    return !m_snapshotPane->isKept() && m_snapshotPane->id().isEmpty();
-}
-
 /// How many snapshots closing the window would lose.
 int MainWindow::snapshotsAtRisk() const
 {
     const SnapshotShelf& shelf = m_filmstrip->shelf();
     // A copied snapshot is in the user's hands.
-    const QString& id = m_snapshotPane->id();
-    const bool isCopied = m_snapshotPane->isKept() && !id.isEmpty() && !shelf.isSafe(id);
-    return shelf.unsafeCount() - (isCopied ? 1 : 0) + (isSnapshotAtRisk() ? 1 : 0);
+    const QString& id = snapshotPane()->id();
+    const bool isCopied = snapshotPane()->isKept() && !id.isEmpty() && !shelf.isSafe(id);
+    return shelf.unsafeCount() - (isCopied ? 1 : 0) + (snapshotPane()->isAtRisk() ? 1 : 0);
 }
 
 /// Saves under automatic names, each with the profile that it was taken with.
 void MainWindow::saveSnapshots(const QStringList& ids)
 {
-    const QString folder = ids.isEmpty() ? QString() : m_snapshotPane->folderForSnapshots();
+    const QString folder = ids.isEmpty() ? QString() : snapshotPane()->folderForSnapshots();
     if (folder.isEmpty()) {
         m_isEnding = false;
         return;
@@ -212,10 +201,10 @@ void MainWindow::saveSnapshots(const QStringList& ids)
         }
         const BaseProfile* const own = profiles.profileForId(snapshot->profileId);
         const auto* const profile =
-            own == nullptr ? m_snapshotPane->imageProfile() : static_cast<const ImageProfile*>(own);
+            own == nullptr ? snapshotPane()->imageProfile() : static_cast<const ImageProfile*>(own);
         jobs.append({id, QFileInfo(snapshot->source.video).baseName(), recipes::of(*profile)});
     }
-    m_snapshotSaver->start(jobs, folder, m_snapshotPane->fileNameProfile()->naming());
+    m_snapshotSaver->start(jobs, folder, snapshotPane()->fileNameProfile()->naming());
 }
 
 void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& lastFile)
@@ -228,10 +217,10 @@ void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& last
         failed == 0 ? count : tr("%1, %n could not be saved", nullptr, failed).arg(count);
     const QString& cause = m_snapshotSaver->failure();
     if (!lastFile.isEmpty()) {
-        m_snapshotPane->tellSaved(text, lastFile);
-        m_snapshotPane->updateAutomaticFileNameDisplay();
+        snapshotPane()->tellSaved(text, lastFile);
+        snapshotPane()->updateAutomaticFileNameDisplay();
     } else {
-        m_snapshotPane->tellFailed(text, cause);
+        snapshotPane()->tellFailed(text, cause);
     }
-    statusBar()->showMessage(cause.isEmpty() ? text : tr("%1: %2").arg(text, cause), messageMs);
+    showMessage(cause.isEmpty() ? text : tr("%1: %2").arg(text, cause));
 }

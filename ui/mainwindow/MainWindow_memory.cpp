@@ -10,8 +10,6 @@ namespace {
 
 const QString geometryKey = QStringLiteral("windowGeometry");
 const QString splitterKey = QStringLiteral("splitterState");
-// The key of the dialog for videos: see SmartFileDialog.
-const QString openFolderKey = QStringLiteral("openDialog_dialogPath");
 
 } // namespace
 
@@ -19,7 +17,7 @@ void MainWindow::restoreLayout()
 {
     restoreGeometry(m_settings.value(geometryKey).toByteArray());
     m_ui->splitter->restoreState(m_settings.value(splitterKey).toByteArray());
-    m_snapshotPane->restoreState();
+    snapshotPane()->restoreState();
 }
 
 void MainWindow::saveLayout()
@@ -29,10 +27,5 @@ void MainWindow::saveLayout()
     }
     m_settings.setValue(geometryKey, saveGeometry());
     m_settings.setValue(splitterKey, m_ui->splitter->saveState());
-    m_snapshotPane->storeState();
-}
-
-void MainWindow::noteOpenFolder(const QFileInfo& video)
-{
-    m_settings.setValue(openFolderKey, video.absolutePath());
+    snapshotPane()->storeState();
 }

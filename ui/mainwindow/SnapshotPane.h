@@ -79,6 +79,9 @@ public:
     /// Marks the snapshot as saved elsewhere, or given up.
     void setKept();
 
+    /// Whether the snapshot would be lost if it were replaced: neither kept, nor the owner's.
+    [[nodiscard]] bool isAtRisk() const { return !m_isKept && m_id.isEmpty(); }
+
     /// The name that the owner gave to the snapshot; empty for none.
     [[nodiscard]] const QString& id() const { return m_id; }
     void setId(const QString& id) { m_id = id; }
