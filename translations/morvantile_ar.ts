@@ -1060,44 +1060,12 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>انقر لفتح فيديو</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>افتح فيديو أو أفلته هنا</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>الموضع في الفيديو</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>الموضع</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>الموضع. انقر لكتابة موضع آخر: 1:02:03.5, +10s, -2s, f1234 أو 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>المدة</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>رقم الإطار والمعدل والحجم والترميز</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>الرجوع قليلاً</translation>
     </message>
     <message>
         <source>Step back one frame</source>
         <translation>الرجوع إطارًا واحدًا</translation>
-    </message>
-    <message>
-        <source>Play/Pause</source>
-        <translation>تشغيل/إيقاف مؤقت</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
@@ -1108,10 +1076,6 @@
         <translation>التقدم قليلاً</translation>
     </message>
     <message>
-        <source>Volume Control</source>
-        <translation>التحكم في مستوى الصوت</translation>
-    </message>
-    <message>
         <source>Take Snapshot</source>
         <translation>أخذ لقطة</translation>
     </message>
@@ -1120,80 +1084,8 @@
         <translation>التقاط الصورة المعروضة على الشاشة</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>اللقطة</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>ما سيُحفظ</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>الحجم الأصلي</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>حفظ اللقطة بحجم الفيديو</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>نمط الصورة</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>نمط الصورة</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>تحرير</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>تحرير أنماط الصورة</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>اسم ملف تلقائي</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>الحفظ دون سؤال، بالاسم التالي المتاح</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>نمط اسم الملف</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>تحرير أنماط اسم الملف</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>مجلد الصور</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>مجلد الإخراج</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>استعراض</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>اختيار مجلد الصور</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>التالي:</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>اسم الملف التالي</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>حفظ</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1583,10 +1475,6 @@
         <translation>%1 عند %2</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>حفظ اللقطات</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>حُفظت لقطة واحدة</translation>
     </message>
@@ -1621,24 +1509,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>فيديو</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>يشغّل ويوقف مؤقتًا</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-لا يمكن تشغيله كفيديو.
-
-انقر لفتح فيديو آخر</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1651,30 +1521,6 @@ Click to open another video</source>
         <translation>تعذر التقاط إطار الفيديو</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>لا صورة من %1: %2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>حُفظ %1</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>تعذر حفظ %1</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>مجلد غير معروف</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>المجلد غير موجود</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>فتح مجلد</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 موجود بالفعل.
@@ -1685,20 +1531,8 @@ Do you want to replace it?</source>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Create folder?</source>
-        <translation>هل تريد إنشاء المجلد؟</translation>
-    </message>
-    <message>
         <source>Snapshot taken: %1</source>
         <translation>أُخذت اللقطة: %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>صورة الفيديو</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1، الإطار %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1759,14 +1593,6 @@ Do you want to replace it?</source>
         <source>Batch</source>
         <translation>دفعة</translation>
     </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>لا لقطة بعد</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>أدخل مجلد إخراج صالحًا في قسم «اسم ملف تلقائي».</translation>
-    </message>
 </context>
 <context>
     <name>OpenVideoButton</name>
@@ -1777,6 +1603,103 @@ Do you want to replace it?</source>
     <message>
         <source>Opened last</source>
         <translation>المفتوحة مؤخرًا</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>انقر لفتح فيديو</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>افتح فيديو أو أفلته هنا</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>الموضع في الفيديو</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>الموضع. انقر لكتابة موضع آخر: 1:02:03.5, +10s, -2s, f1234 أو 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>الرجوع قليلاً</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>الرجوع إطارًا واحدًا</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>تشغيل/إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>التقدم إطارًا واحدًا</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>التقدم قليلاً</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>السرعة</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>التحكم في مستوى الصوت</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>رقم الإطار والمعدل والحجم والترميز</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>أخذ لقطة</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>التقاط الصورة المعروضة على الشاشة</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>صورة الفيديو</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>فيديو</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>يشغّل ويوقف مؤقتًا</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+لا يمكن تشغيله كفيديو.
+
+انقر لفتح فيديو آخر</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1، الإطار %2</translation>
     </message>
 </context>
 <context>
@@ -2149,6 +2072,133 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>Image Files</source>
         <translation>ملفات الصور</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>اللقطة</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>ما سيُحفظ</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>الحجم الأصلي</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>حفظ اللقطة بحجم الفيديو</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>نمط الصورة</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>نمط الصورة</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>تحرير</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>تحرير أنماط الصورة</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>اسم ملف تلقائي</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>الحفظ دون سؤال، بالاسم التالي المتاح</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>نمط اسم الملف</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>تحرير أنماط اسم الملف</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>مجلد الصور</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>مجلد الإخراج</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>استعراض</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>اختيار مجلد الصور</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>التالي:</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>اسم الملف التالي</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>حفظ اللقطة</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>لا لقطة بعد</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>لا صورة من %1: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>حُفظ %1</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>تعذر حفظ %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>مجلد غير معروف</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>أدخل مجلد إخراج صالحًا في قسم «اسم ملف تلقائي».</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>هل تريد إنشاء المجلد؟</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>المجلد غير موجود</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>فتح مجلد</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>حفظ اللقطات</translation>
     </message>
 </context>
 <context>

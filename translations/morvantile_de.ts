@@ -1024,44 +1024,12 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>Klicken, um ein Video zu öffnen</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>Ein Video öffnen oder hier ablegen</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>Position im Video</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>Position. Klicken, um eine andere einzugeben: 1:02:03.5, +10s, -2s, f1234 oder 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>Dauer</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>Bildnummer, Bildrate, Größe und Codec</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>Ein Stück zurückspringen</translation>
     </message>
     <message>
         <source>Step back one frame</source>
         <translation>Ein Einzelbild zurück</translation>
-    </message>
-    <message>
-        <source>Play/Pause</source>
-        <translation>Wiedergabe/Pause</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
@@ -1072,10 +1040,6 @@
         <translation>Ein Stück vorspringen</translation>
     </message>
     <message>
-        <source>Volume Control</source>
-        <translation>Lautstärke regeln</translation>
-    </message>
-    <message>
         <source>Take Snapshot</source>
         <translation>Schnappschuss aufnehmen</translation>
     </message>
@@ -1084,80 +1048,8 @@
         <translation>Das Bild auf dem Schirm aufnehmen</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>Schnappschuss</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>Was gespeichert wird</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>Originalgröße</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>Den Schnappschuss in der Größe des Videos speichern</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>Bildprofil</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>Bildprofil</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>Bearbeiten</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>Bildprofile bearbeiten</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>Automatischer Dateiname</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>Ohne Rückfrage unter dem nächsten freien Namen speichern</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>Dateinamenprofil</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>Dateinamenprofile bearbeiten</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>Ordner für die Bilder</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Ausgabeordner</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Durchsuchen</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>Den Ordner für die Bilder wählen</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>Nächster:</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>Nächster Dateiname</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Speichern</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1543,10 +1435,6 @@
         <translation>%1 bei %2</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>Schnappschüsse speichern</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>1 Schnappschuss gespeichert</translation>
     </message>
@@ -1573,24 +1461,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>Video</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>Spielt ab und hält an</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-lässt sich nicht als Video abspielen.
-
-Klicken, um ein anderes Video zu öffnen</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1603,30 +1473,6 @@ Klicken, um ein anderes Video zu öffnen</translation>
         <translation>Das Einzelbild konnte nicht aufgenommen werden</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>Kein Bild von %1: %2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 gespeichert</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>%1 konnte nicht gespeichert werden</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>Unbekannter Ordner</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>Ordner nicht vorhanden</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>Ordner öffnen</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 ist schon vorhanden.
@@ -1637,20 +1483,8 @@ Möchten Sie die Datei ersetzen?</translation>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Create folder?</source>
-        <translation>Ordner erstellen?</translation>
-    </message>
-    <message>
         <source>Snapshot taken: %1</source>
         <translation>Schnappschuss aufgenommen: %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>Bild des Videos</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1, Einzelbild %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1707,14 +1541,6 @@ Möchten Sie die Datei ersetzen?</translation>
         <source>Batch</source>
         <translation>Stapel</translation>
     </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>Noch kein Schnappschuss</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>Bitte geben Sie unter „Automatischer Dateiname“ einen gültigen Ausgabeordner ein.</translation>
-    </message>
 </context>
 <context>
     <name>OpenVideoButton</name>
@@ -1725,6 +1551,103 @@ Möchten Sie die Datei ersetzen?</translation>
     <message>
         <source>Opened last</source>
         <translation>Zuletzt geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>Klicken, um ein Video zu öffnen</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>Ein Video öffnen oder hier ablegen</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Position im Video</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>Position. Klicken, um eine andere einzugeben: 1:02:03.5, +10s, -2s, f1234 oder 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>Ein Stück zurückspringen</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>Ein Einzelbild zurück</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Wiedergabe/Pause</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>Ein Einzelbild weiter</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>Ein Stück vorspringen</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>Lautstärke regeln</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>Bildnummer, Bildrate, Größe und Codec</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>Schnappschuss aufnehmen</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>Das Bild auf dem Schirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Bild des Videos</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>Spielt ab und hält an</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+lässt sich nicht als Video abspielen.
+
+Klicken, um ein anderes Video zu öffnen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1, Einzelbild %2</translation>
     </message>
 </context>
 <context>
@@ -2095,6 +2018,133 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
     <message>
         <source>Image Files</source>
         <translation>Bilddateien</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>Schnappschuss</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>Was gespeichert wird</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>Den Schnappschuss in der Größe des Videos speichern</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>Bildprofil</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>Bildprofil</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>Bildprofile bearbeiten</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>Automatischer Dateiname</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>Ohne Rückfrage unter dem nächsten freien Namen speichern</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>Dateinamenprofil</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>Dateinamenprofile bearbeiten</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>Ordner für die Bilder</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>Ausgabeordner</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Durchsuchen</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>Den Ordner für die Bilder wählen</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>Nächster:</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>Nächster Dateiname</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>Den Schnappschuss speichern</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>Noch kein Schnappschuss</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>Kein Bild von %1: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>Unbekannter Ordner</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>Bitte geben Sie unter „Automatischer Dateiname“ einen gültigen Ausgabeordner ein.</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>Ordner erstellen?</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>Ordner nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>Schnappschüsse speichern</translation>
     </message>
 </context>
 <context>

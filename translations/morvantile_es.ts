@@ -1024,44 +1024,12 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>Haga clic para abrir un vídeo</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>Abra un vídeo o suéltelo aquí</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>Posición en el vídeo</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Posición</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>Posición. Haga clic para escribir otra: 1:02:03.5, +10s, -2s, f1234 o 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>Duración</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>Fotograma, frecuencia, tamaño y códec</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>Retroceder un poco</translation>
     </message>
     <message>
         <source>Step back one frame</source>
         <translation>Retroceder un fotograma</translation>
-    </message>
-    <message>
-        <source>Play/Pause</source>
-        <translation>Reproducir/Pausa</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
@@ -1072,10 +1040,6 @@
         <translation>Avanzar un poco</translation>
     </message>
     <message>
-        <source>Volume Control</source>
-        <translation>Control de volumen</translation>
-    </message>
-    <message>
         <source>Take Snapshot</source>
         <translation>Tomar captura</translation>
     </message>
@@ -1084,80 +1048,8 @@
         <translation>Capturar la imagen de la pantalla</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>Captura</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>Lo que se guardará</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>Tamaño original</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>Guardar la captura con el tamaño del vídeo</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>Perfil de imagen</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>Perfil de imagen</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>Editar</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>Editar perfiles de imagen</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>Nombre de archivo automático</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>Guardar sin preguntar, con el siguiente nombre libre</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>Perfil de nombre de archivo</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>Editar perfiles de nombre de archivo</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>Carpeta de las imágenes</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Carpeta de salida</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Examinar</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>Elegir la carpeta de las imágenes</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>Siguiente:</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>Siguiente nombre de archivo</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Guardar</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1543,10 +1435,6 @@
         <translation>%1 en %2</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>Guardar capturas</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>1 captura guardada</translation>
     </message>
@@ -1573,24 +1461,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>Vídeo</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>Reproduce y pausa</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-no se puede reproducir como vídeo.
-
-Haga clic para abrir otro vídeo</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1603,30 +1473,6 @@ Haga clic para abrir otro vídeo</translation>
         <translation>No se pudo capturar el fotograma</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>Sin imagen de %1: %2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 guardado</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>No se pudo guardar %1</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>Carpeta desconocida</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>La carpeta no existe</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>Abrir carpeta</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 ya existe.
@@ -1637,20 +1483,8 @@ Do you want to replace it?</source>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Create folder?</source>
-        <translation>¿Crear la carpeta?</translation>
-    </message>
-    <message>
         <source>Snapshot taken: %1</source>
         <translation>Captura tomada: %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>Imagen del vídeo</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1, fotograma %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1707,14 +1541,6 @@ Do you want to replace it?</source>
         <source>Batch</source>
         <translation>Lote</translation>
     </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>Aún no hay captura</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>Escriba una carpeta de salida válida en «Nombre de archivo automático».</translation>
-    </message>
 </context>
 <context>
     <name>OpenVideoButton</name>
@@ -1725,6 +1551,103 @@ Do you want to replace it?</source>
     <message>
         <source>Opened last</source>
         <translation>Abiertos recientemente</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>Haga clic para abrir un vídeo</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>Abra un vídeo o suéltelo aquí</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Posición en el vídeo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>Posición. Haga clic para escribir otra: 1:02:03.5, +10s, -2s, f1234 o 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>Retroceder un poco</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>Retroceder un fotograma</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Reproducir/Pausa</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>Avanzar un fotograma</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>Avanzar un poco</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>Control de volumen</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>Fotograma, frecuencia, tamaño y códec</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>Tomar captura</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>Capturar la imagen de la pantalla</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Imagen del vídeo</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>Reproduce y pausa</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+no se puede reproducir como vídeo.
+
+Haga clic para abrir otro vídeo</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1, fotograma %2</translation>
     </message>
 </context>
 <context>
@@ -2097,6 +2020,133 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
     <message>
         <source>Image Files</source>
         <translation>Archivos de imagen</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>Captura</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>Lo que se guardará</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>Tamaño original</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>Guardar la captura con el tamaño del vídeo</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>Perfil de imagen</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>Perfil de imagen</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>Editar perfiles de imagen</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>Nombre de archivo automático</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>Guardar sin preguntar, con el siguiente nombre libre</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>Perfil de nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>Editar perfiles de nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>Carpeta de las imágenes</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>Carpeta de salida</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Examinar</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>Elegir la carpeta de las imágenes</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>Siguiente:</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>Siguiente nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>Guardar la captura</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>Aún no hay captura</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>Sin imagen de %1: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 guardado</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>No se pudo guardar %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>Carpeta desconocida</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>Escriba una carpeta de salida válida en «Nombre de archivo automático».</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>¿Crear la carpeta?</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>La carpeta no existe</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>Guardar capturas</translation>
     </message>
 </context>
 <context>

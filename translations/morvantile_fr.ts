@@ -1024,44 +1024,12 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>Cliquez pour ouvrir une vidéo</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>Ouvrez une vidéo ou déposez-la ici</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>Position dans la vidéo</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>Position. Cliquez pour en saisir une autre : 1:02:03.5, +10s, -2s, f1234 ou 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>Durée</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>Numéro d’image, cadence, taille et codec</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>Reculer un peu</translation>
     </message>
     <message>
         <source>Step back one frame</source>
         <translation>Reculer d’une image</translation>
-    </message>
-    <message>
-        <source>Play/Pause</source>
-        <translation>Lecture/Pause</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
@@ -1072,10 +1040,6 @@
         <translation>Avancer un peu</translation>
     </message>
     <message>
-        <source>Volume Control</source>
-        <translation>Réglage du volume</translation>
-    </message>
-    <message>
         <source>Take Snapshot</source>
         <translation>Prendre une capture</translation>
     </message>
@@ -1084,80 +1048,8 @@
         <translation>Capturer l’image à l’écran</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>Capture</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>Ce qui sera enregistré</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>Taille d’origine</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>Enregistrer la capture à la taille de la vidéo</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>Profil d’image</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>Profil d’image</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>Modifier</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>Modifier les profils d’image</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>Nom de fichier automatique</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>Enregistrer sans demander, sous le prochain nom libre</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>Profil de nom de fichier</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>Modifier les profils de nom de fichier</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>Dossier des images</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Dossier de sortie</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Parcourir</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>Choisir le dossier des images</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>Suivant :</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>Nom de fichier suivant</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1543,10 +1435,6 @@
         <translation>%1 à %2</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>Enregistrer les captures</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>1 capture enregistrée</translation>
     </message>
@@ -1573,24 +1461,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>Vidéo</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>Lance la lecture et la met en pause</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-ne peut pas être lu comme une vidéo.
-
-Cliquez pour ouvrir une autre vidéo</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
     </message>
@@ -1603,30 +1473,6 @@ Cliquez pour ouvrir une autre vidéo</translation>
         <translation>Échec de la capture de l’image</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>Pas d’image de %1 : %2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 enregistré</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>Impossible d’enregistrer %1</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>Dossier inconnu</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>Dossier inexistant</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>Ouvrir un dossier</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 existe déjà.
@@ -1637,20 +1483,8 @@ Voulez-vous le remplacer ?</translation>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Create folder?</source>
-        <translation>Créer le dossier ?</translation>
-    </message>
-    <message>
         <source>Snapshot taken: %1</source>
         <translation>Capture prise : %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>Image de la vidéo</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1, image %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1707,14 +1541,6 @@ Voulez-vous le remplacer ?</translation>
         <source>Batch</source>
         <translation>Lot</translation>
     </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>Aucune capture pour l’instant</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>Veuillez saisir un dossier de sortie valable sous « Nom de fichier automatique ».</translation>
-    </message>
 </context>
 <context>
     <name>OpenVideoButton</name>
@@ -1725,6 +1551,103 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>Opened last</source>
         <translation>Ouvertes récemment</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>Cliquez pour ouvrir une vidéo</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>Ouvrez une vidéo ou déposez-la ici</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>Position dans la vidéo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>Position. Cliquez pour en saisir une autre : 1:02:03.5, +10s, -2s, f1234 ou 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>Reculer un peu</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>Reculer d’une image</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>Lecture/Pause</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>Avancer d’une image</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>Avancer un peu</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>Réglage du volume</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>Numéro d’image, cadence, taille et codec</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>Prendre une capture</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>Capturer l’image à l’écran</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Image de la vidéo</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>Lance la lecture et la met en pause</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+ne peut pas être lu comme une vidéo.
+
+Cliquez pour ouvrir une autre vidéo</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1, image %2</translation>
     </message>
 </context>
 <context>
@@ -2097,6 +2020,133 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
     <message>
         <source>Image Files</source>
         <translation>Fichiers image</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>Capture</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>Ce qui sera enregistré</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>Taille d’origine</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>Enregistrer la capture à la taille de la vidéo</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>Profil d’image</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>Profil d’image</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>Modifier les profils d’image</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>Nom de fichier automatique</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>Enregistrer sans demander, sous le prochain nom libre</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>Profil de nom de fichier</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>Modifier les profils de nom de fichier</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>Dossier des images</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>Dossier de sortie</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Parcourir</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>Choisir le dossier des images</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>Suivant :</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>Nom de fichier suivant</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>Enregistrer la capture</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>Aucune capture pour l’instant</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>Pas d’image de %1 : %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>Impossible d’enregistrer %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>Dossier inconnu</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>Veuillez saisir un dossier de sortie valable sous « Nom de fichier automatique ».</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>Créer le dossier ?</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>Dossier inexistant</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Ouvrir un dossier</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>Enregistrer les captures</translation>
     </message>
 </context>
 <context>

@@ -1015,44 +1015,12 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>クリックして動画を開く</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>動画を開くか、ここにドロップします</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>動画内の位置</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>位置</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>位置。クリックして別の位置を入力できます: 1:02:03.5, +10s, -2s, f1234, 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>長さ</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>フレーム、レート、サイズ、コーデック</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>少し後ろへスキップ</translation>
     </message>
     <message>
         <source>Step back one frame</source>
         <translation>1 フレーム戻る</translation>
-    </message>
-    <message>
-        <source>Play/Pause</source>
-        <translation>再生/一時停止</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
@@ -1063,10 +1031,6 @@
         <translation>少し先へスキップ</translation>
     </message>
     <message>
-        <source>Volume Control</source>
-        <translation>音量の調整</translation>
-    </message>
-    <message>
         <source>Take Snapshot</source>
         <translation>スナップショットを撮る</translation>
     </message>
@@ -1075,80 +1039,8 @@
         <translation>画面の画像を撮ります</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>スナップショット</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>保存されるもの</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>元のサイズ</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>スナップショットを動画のサイズで保存します</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>画像プロファイル</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>画像プロファイル</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>編集</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>画像プロファイルを編集します</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>自動ファイル名</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>確認せずに次の空いている名前で保存します</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>ファイル名プロファイル</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>ファイル名プロファイルを編集します</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>画像のフォルダー</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>出力フォルダー</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>参照</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>画像のフォルダーを選びます</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>次:</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>次のファイル名</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1533,10 +1425,6 @@
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>スナップショットの保存</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>スナップショットを 1 枚保存しました</translation>
     </message>
@@ -1561,24 +1449,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>動画</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>再生と一時停止を切り替えます</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-は動画として再生できません。
-
-クリックして別の動画を開く</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1591,30 +1461,6 @@ Click to open another video</source>
         <translation>フレームを取り込めませんでした</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>%1 の画像がありません: %2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 を保存しました</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>%1 を保存できませんでした</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>不明なフォルダー</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>フォルダーがありません</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>フォルダーを開く</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 はすでに存在します。
@@ -1625,20 +1471,8 @@ Do you want to replace it?</source>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Create folder?</source>
-        <translation>フォルダーを作成しますか?</translation>
-    </message>
-    <message>
         <source>Snapshot taken: %1</source>
         <translation>スナップショットを撮りました: %1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>動画の画像</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1、フレーム %2</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1694,14 +1528,6 @@ Do you want to replace it?</source>
         <source>Batch</source>
         <translation>バッチ</translation>
     </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>スナップショットはまだありません</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>「自動ファイル名」に有効な出力フォルダーを入力してください。</translation>
-    </message>
 </context>
 <context>
     <name>OpenVideoButton</name>
@@ -1712,6 +1538,103 @@ Do you want to replace it?</source>
     <message>
         <source>Opened last</source>
         <translation>最近開いた動画</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>クリックして動画を開く</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>動画を開くか、ここにドロップします</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>動画内の位置</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>位置。クリックして別の位置を入力できます: 1:02:03.5, +10s, -2s, f1234, 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>長さ</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>少し後ろへスキップ</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>1 フレーム戻る</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>再生/一時停止</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>1 フレーム進む</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>少し先へスキップ</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>音量の調整</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>フレーム、レート、サイズ、コーデック</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>スナップショットを撮る</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>画面の画像を撮ります</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>動画の画像</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>再生と一時停止を切り替えます</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+は動画として再生できません。
+
+クリックして別の動画を開く</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1、フレーム %2</translation>
     </message>
 </context>
 <context>
@@ -2084,6 +2007,133 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
     <message>
         <source>Image Files</source>
         <translation>画像ファイル</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>スナップショット</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>保存されるもの</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>元のサイズ</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>スナップショットを動画のサイズで保存します</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>画像プロファイル</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>画像プロファイル</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>画像プロファイルを編集します</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>自動ファイル名</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>確認せずに次の空いている名前で保存します</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>ファイル名プロファイル</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>ファイル名プロファイルを編集します</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>画像のフォルダー</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>出力フォルダー</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>参照</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>画像のフォルダーを選びます</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>次:</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>次のファイル名</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>スナップショットを保存します</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>スナップショットはまだありません</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>%1 の画像がありません: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 を保存しました</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 を保存できませんでした</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>不明なフォルダー</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>「自動ファイル名」に有効な出力フォルダーを入力してください。</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>フォルダーを作成しますか?</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>フォルダーがありません</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>スナップショットの保存</translation>
     </message>
 </context>
 <context>

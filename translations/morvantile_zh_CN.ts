@@ -1015,44 +1015,12 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Click to open video</source>
-        <translation>单击以打开视频</translation>
-    </message>
-    <message>
-        <source>Open a video, or drop one here</source>
-        <translation>打开视频，或将视频拖放到此处</translation>
-    </message>
-    <message>
-        <source>Position in the video</source>
-        <translation>在视频中的位置</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>位置</translation>
-    </message>
-    <message>
-        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
-        <translation>位置。单击可输入其他位置：1:02:03.5, +10s, -2s, f1234 或 75%</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>时长</translation>
-    </message>
-    <message>
-        <source>Frame, rate, size and codec</source>
-        <translation>帧号、帧率、尺寸和编码</translation>
-    </message>
-    <message>
         <source>Skip back a bit</source>
         <translation>后退一小段</translation>
     </message>
     <message>
         <source>Step back one frame</source>
         <translation>后退一帧</translation>
-    </message>
-    <message>
-        <source>Play/Pause</source>
-        <translation>播放/暂停</translation>
     </message>
     <message>
         <source>Step forward one frame</source>
@@ -1063,10 +1031,6 @@
         <translation>前进一小段</translation>
     </message>
     <message>
-        <source>Volume Control</source>
-        <translation>音量控制</translation>
-    </message>
-    <message>
         <source>Take Snapshot</source>
         <translation>截取快照</translation>
     </message>
@@ -1075,80 +1039,8 @@
         <translation>截取屏幕上的画面</translation>
     </message>
     <message>
-        <source>Snapshot</source>
-        <translation>快照</translation>
-    </message>
-    <message>
-        <source>What will be saved</source>
-        <translation>将要保存的内容</translation>
-    </message>
-    <message>
-        <source>Original Size</source>
-        <translation>原始尺寸</translation>
-    </message>
-    <message>
-        <source>Save the snapshot in the size of the video</source>
-        <translation>以视频尺寸保存快照</translation>
-    </message>
-    <message>
-        <source>Image Profile</source>
-        <translation>图像配置</translation>
-    </message>
-    <message>
-        <source>Image profile</source>
-        <translation>图像配置</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>编辑</translation>
-    </message>
-    <message>
-        <source>Edit image profiles</source>
-        <translation>编辑图像配置</translation>
-    </message>
-    <message>
-        <source>Automatic File Name</source>
-        <translation>自动文件名</translation>
-    </message>
-    <message>
-        <source>Save without asking, under the next free name</source>
-        <translation>不询问，直接以下一个可用的名称保存</translation>
-    </message>
-    <message>
-        <source>File-name profile</source>
-        <translation>文件名配置</translation>
-    </message>
-    <message>
-        <source>Edit file-name profiles</source>
-        <translation>编辑文件名配置</translation>
-    </message>
-    <message>
-        <source>Folder for the images</source>
-        <translation>存放图像的文件夹</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>输出文件夹</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>浏览</translation>
-    </message>
-    <message>
-        <source>Choose the folder for the images</source>
-        <translation>选择存放图像的文件夹</translation>
-    </message>
-    <message>
-        <source>Next:</source>
-        <translation>下一个：</translation>
-    </message>
-    <message>
-        <source>Next file name</source>
-        <translation>下一个文件名</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
     </message>
     <message>
         <source>Save the snapshot</source>
@@ -1533,10 +1425,6 @@
         <translation>%1（%2）</translation>
     </message>
     <message>
-        <source>Save Snapshots</source>
-        <translation>保存快照</translation>
-    </message>
-    <message>
         <source>Saved 1 snapshot</source>
         <translation>已保存 1 张快照</translation>
     </message>
@@ -1561,24 +1449,6 @@
         <translation>Morvantile</translation>
     </message>
     <message>
-        <source>Video</source>
-        <translation>视频</translation>
-    </message>
-    <message>
-        <source>Plays and pauses</source>
-        <translation>播放和暂停</translation>
-    </message>
-    <message>
-        <source>%1
-cannot be played as a video.
-
-Click to open another video</source>
-        <translation>%1
-无法作为视频播放。
-
-单击以打开其他视频</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
@@ -1591,30 +1461,6 @@ Click to open another video</source>
         <translation>无法截取视频帧</translation>
     </message>
     <message>
-        <source>No image of %1: %2</source>
-        <translation>没有 %1 的图像：%2</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>已保存 %1</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>无法保存 %1</translation>
-    </message>
-    <message>
-        <source>Unknown Folder</source>
-        <translation>未知文件夹</translation>
-    </message>
-    <message>
-        <source>Folder does not exist</source>
-        <translation>文件夹不存在</translation>
-    </message>
-    <message>
-        <source>Open Directory</source>
-        <translation>打开文件夹</translation>
-    </message>
-    <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
         <translation>%1 已存在。
@@ -1625,20 +1471,8 @@ Do you want to replace it?</source>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Create folder?</source>
-        <translation>要创建文件夹吗？</translation>
-    </message>
-    <message>
         <source>Snapshot taken: %1</source>
         <translation>已截取快照：%1</translation>
-    </message>
-    <message>
-        <source>Picture of the video</source>
-        <translation>视频画面</translation>
-    </message>
-    <message>
-        <source>%1, frame %2</source>
-        <translation>%1，第 %2 帧</translation>
     </message>
     <message>
         <source>Fit to Window</source>
@@ -1694,14 +1528,6 @@ Do you want to replace it?</source>
         <source>Batch</source>
         <translation>批处理</translation>
     </message>
-    <message>
-        <source>No snapshot yet</source>
-        <translation>还没有快照</translation>
-    </message>
-    <message>
-        <source>Please enter a valid output folder in the Automatic File Name section.</source>
-        <translation>请在“自动文件名”部分输入有效的输出文件夹。</translation>
-    </message>
 </context>
 <context>
     <name>OpenVideoButton</name>
@@ -1712,6 +1538,103 @@ Do you want to replace it?</source>
     <message>
         <source>Opened last</source>
         <translation>最近打开</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPane</name>
+    <message>
+        <source>Click to open video</source>
+        <translation>单击以打开视频</translation>
+    </message>
+    <message>
+        <source>Open a video, or drop one here</source>
+        <translation>打开视频，或将视频拖放到此处</translation>
+    </message>
+    <message>
+        <source>Position in the video</source>
+        <translation>在视频中的位置</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Position. Click to type another one: 1:02:03.5, +10s, -2s, f1234 or 75%</source>
+        <translation>位置。单击可输入其他位置：1:02:03.5, +10s, -2s, f1234 或 75%</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Skip back a bit</source>
+        <translation>后退一小段</translation>
+    </message>
+    <message>
+        <source>Step back one frame</source>
+        <translation>后退一帧</translation>
+    </message>
+    <message>
+        <source>Play/Pause</source>
+        <translation>播放/暂停</translation>
+    </message>
+    <message>
+        <source>Step forward one frame</source>
+        <translation>前进一帧</translation>
+    </message>
+    <message>
+        <source>Skip forward a bit</source>
+        <translation>前进一小段</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Volume Control</source>
+        <translation>音量控制</translation>
+    </message>
+    <message>
+        <source>Frame, rate, size and codec</source>
+        <translation>帧号、帧率、尺寸和编码</translation>
+    </message>
+    <message>
+        <source>Take Snapshot</source>
+        <translation>截取快照</translation>
+    </message>
+    <message>
+        <source>Take the picture on screen</source>
+        <translation>截取屏幕上的画面</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>视频画面</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Plays and pauses</source>
+        <translation>播放和暂停</translation>
+    </message>
+    <message>
+        <source>%1
+cannot be played as a video.
+
+Click to open another video</source>
+        <translation>%1
+无法作为视频播放。
+
+单击以打开其他视频</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1, frame %2</source>
+        <translation>%1，第 %2 帧</translation>
     </message>
 </context>
 <context>
@@ -2084,6 +2007,133 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
     <message>
         <source>Image Files</source>
         <translation>图像文件</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotPane</name>
+    <message>
+        <source>Snapshot</source>
+        <translation>快照</translation>
+    </message>
+    <message>
+        <source>What will be saved</source>
+        <translation>将要保存的内容</translation>
+    </message>
+    <message>
+        <source>Original Size</source>
+        <translation>原始尺寸</translation>
+    </message>
+    <message>
+        <source>Save the snapshot in the size of the video</source>
+        <translation>以视频尺寸保存快照</translation>
+    </message>
+    <message>
+        <source>Image Profile</source>
+        <translation>图像配置</translation>
+    </message>
+    <message>
+        <source>Image profile</source>
+        <translation>图像配置</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Edit image profiles</source>
+        <translation>编辑图像配置</translation>
+    </message>
+    <message>
+        <source>Automatic File Name</source>
+        <translation>自动文件名</translation>
+    </message>
+    <message>
+        <source>Save without asking, under the next free name</source>
+        <translation>不询问，直接以下一个可用的名称保存</translation>
+    </message>
+    <message>
+        <source>File-name profile</source>
+        <translation>文件名配置</translation>
+    </message>
+    <message>
+        <source>Edit file-name profiles</source>
+        <translation>编辑文件名配置</translation>
+    </message>
+    <message>
+        <source>Folder for the images</source>
+        <translation>存放图像的文件夹</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>输出文件夹</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>浏览</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the images</source>
+        <translation>选择存放图像的文件夹</translation>
+    </message>
+    <message>
+        <source>Next:</source>
+        <translation>下一个：</translation>
+    </message>
+    <message>
+        <source>Next file name</source>
+        <translation>下一个文件名</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save the snapshot</source>
+        <translation>保存快照</translation>
+    </message>
+    <message>
+        <source>No snapshot yet</source>
+        <translation>还没有快照</translation>
+    </message>
+    <message>
+        <source>No image of %1: %2</source>
+        <translation>没有 %1 的图像：%2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>已保存 %1</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>无法保存 %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Unknown Folder</source>
+        <translation>未知文件夹</translation>
+    </message>
+    <message>
+        <source>Please enter a valid output folder in the Automatic File Name section.</source>
+        <translation>请在“自动文件名”部分输入有效的输出文件夹。</translation>
+    </message>
+    <message>
+        <source>Create folder?</source>
+        <translation>要创建文件夹吗？</translation>
+    </message>
+    <message>
+        <source>Folder does not exist</source>
+        <translation>文件夹不存在</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Save Snapshots</source>
+        <translation>保存快照</translation>
     </message>
 </context>
 <context>

@@ -1,10 +1,7 @@
 #include "ui/mainwindow/MainWindow.h"
 
-#include "ui/mainwindow/FolderSweeper.h"
-#include "ui/mainwindow/LanguageMenu.h"
 #include "ui/mainwindow/ReturnKey.h"
-#include "ui/mainwindow/SaveDialog.h"
-#include "ui/widgets/GroupBoxMargins.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui_MainWindow.h"
 #include "video/ReadingLimits.h"
 
@@ -15,15 +12,11 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QMessageBox>
-#include <QStatusBar>
 
 namespace {
 
-/// Width of the widest time, so that the row does not move while the digits change.
-int widestTime(const QWidget& widget)
-{
-    return widget.fontMetrics().horizontalAdvance(QStringLiteral("00:00:00.000"));
-}
+/// How long results stay in the status bar.
+constexpr int messageMs = 8000;
 
 /// Whether the space key presses the control.
 bool isPressedBySpace(const QWidget* control)
@@ -41,21 +34,17 @@ MainWindow::MainWindow(QWidget* parent)
 {}
 
 MainWindow::MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutput)
-    : QMainWindow(parent)
+    : PaneWindow(parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
-    , m_sweeper(std::make_unique<FolderSweeper>())
-    , m_saveDialog(std::make_unique<SaveDialog>(m_settings))
 {
     m_ui->setupUi(this);
-    // Not set in the form: an unchecked group box disables its children while they are still being
-    // created, and screen readers would keep treating them as plain areas.
-    m_ui->automaticFileNameGroupBox->setChecked(false);
-    GroupBoxMargins::apply(*this);
+    makePanes(m_settings, *m_ui->splitter);
     keepKeysForVideo();
+    connectActions();
     updateWindowTitle();
-    setupLanguages();
+    connectSnapshotPane();
     setupFilmstrip();
-    setupThemeMenu();
+    setupViewMenu();
     setupFileMenu();
     setupDrops();
     setupPlayer(makeVideoOutput);
@@ -72,44 +61,24 @@ MainWindow::~MainWindow()
 
 void MainWindow::setupPlayer(const VideoOutputFactory& makeVideoOutput)
 {
-    m_player = new QtAV::AVPlayer(this);
-    m_player->setPictureMemory(ReadingLimits::of(m_settings).pictureBytes);
-    m_videoOutput = makeVideoOutput(this);
+    const bool isShown =
+        playerPane()->setupPlayer(makeVideoOutput, ReadingLimits::of(m_settings).pictureBytes);
     setupBestFrames();
     setupZoom();
-    QWidget* const screen = m_videoOutput->widget();
-    if (screen == nullptr) {
+    if (!isShown) {
         refusePlayer();
         return;
     }
-    m_player->setRenderer(m_videoOutput);
-    m_player->setMediaEndAction(QtAV::MediaEndAction_Pause);
-    screen->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_ui->videoLayout->addWidget(screen, 0, 0);
-    m_ui->openVideoLabel->raise();
-    connectPlayer();
-    connectTransport();
-    alignControls();
+    connectPlayerPane();
     setupProfileMenus();
     loadImageProfileComboBox();
     loadFileNameProfileComboBox();
     setupFileDialogs();
     setVideoControlsEnabled(false);
     setSnapshotControlsEnabled(false);
-    updateAutomaticFileNameDisplay();
     setupVolumePopup();
-    setupShowInFolder();
     setupSteering();
     setupLooks();
-}
-
-void MainWindow::setupLanguages()
-{
-    auto* const menu = new LanguageMenu(m_ui->menuView);
-    m_ui->menuView->addSeparator();
-    m_ui->menuView->addMenu(menu);
-    connect(menu, &LanguageMenu::message, this,
-            [this](const QString& text) { statusBar()->showMessage(text, messageMs); });
 }
 
 /// Reports that no video can be shown, and leaves only what works without a player.
@@ -124,69 +93,22 @@ void MainWindow::refusePlayer()
     m_ui->actionOpen->setEnabled(false);
 }
 
-void MainWindow::connectPlayer()
+void MainWindow::connectPlayerPane()
 {
-    using QtAV::AVPlayer;
-    const auto updateSliderNow = [this] { updateSlider(); };
-    connect(m_player, &AVPlayer::started, this, updateSliderNow);
-    connect(m_player, &AVPlayer::started, this, &MainWindow::noticeBaseLayer);
-    connect(m_player, &AVPlayer::durationChanged, this, &MainWindow::durationChanged);
-    connect(m_player, &AVPlayer::positionChanged, this, &MainWindow::positionChanged);
-    // The frame at the sought position may already have been on screen, and differ from the slider.
-    connect(m_player, &AVPlayer::seekFinished, this, updateSliderNow);
-    connect(m_player, &AVPlayer::notifyIntervalChanged, this, &MainWindow::updateSliderUnit);
-    connect(m_player, &AVPlayer::stateChanged, this, &MainWindow::updatePlayButton);
-    connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::updatePlayButton);
-    connect(m_player, &AVPlayer::mediaStatusChanged, this, &MainWindow::noticeMediaStatus);
-    connect(m_player, &AVPlayer::failed, this, &MainWindow::noticeFailedRead);
+    connect(playerPane(), &PlayerPane::videoRequested, this, &MainWindow::showSelectVideoDialog);
+    connect(playerPane(), &PlayerPane::fileChosen, this, &MainWindow::openFromOutside);
+    connect(playerPane(), &PlayerPane::snapshotRequested, this, &MainWindow::snapshotButtonPressed);
+    connect(playerPane(), &PlayerPane::unplayable, this, [this](const QString& reason) {
+        statusBar()->showMessage(reason);
+        // A snapshot taken before stays.
+        setVideoControlsEnabled(false);
+    });
+    connect(playerPane(), &PlayerPane::message, this, &MainWindow::showMessage);
+    connect(this, &MainWindow::snapshotTimesChanged, playerPane(), &PlayerPane::setSnapshotTimes);
 
-    const QtAV::VideoCapture* const capture = m_player->videoCapture();
+    const QtAV::VideoCapture* const capture = playerPane()->player().videoCapture();
     connect(capture, &QtAV::VideoCapture::imageCaptured, this, &MainWindow::snapshotCaptured);
     connect(capture, &QtAV::VideoCapture::failed, this, &MainWindow::onCaptureError);
-}
-
-void MainWindow::connectTransport()
-{
-    connect(m_ui->openVideoLabel, &QPushButton::clicked, this, &MainWindow::openVideoLabelClicked);
-    connect(m_ui->videoSlider, &QSlider::sliderMoved, this,
-            [this](int value) { seekBySlider(value); });
-    connect(m_ui->videoSlider, &QSlider::sliderPressed, this, [this] { seekBySlider(); });
-    connect(m_ui->videoSlider, &QSlider::sliderReleased, this, [this] { updateSlider(); });
-    connect(m_ui->playButton, &QPushButton::clicked, this, &MainWindow::playPause);
-    connect(m_ui->stepBackwardButton, &QPushButton::clicked, this, &MainWindow::stepBackward);
-    connect(m_ui->stepForwardButton, &QPushButton::clicked, this, &MainWindow::stepForward);
-    connect(m_ui->skipBackwardButton, &QPushButton::clicked, this, &MainWindow::skipBackward);
-    connect(m_ui->skipForwardButton, &QPushButton::clicked, this, &MainWindow::skipForward);
-    connect(m_ui->actionPlayPause, &QAction::triggered, this, &MainWindow::playPause);
-    connect(m_ui->actionSkipBackward, &QAction::triggered, this, &MainWindow::skipBackward);
-    connect(m_ui->actionSkipForward, &QAction::triggered, this, &MainWindow::skipForward);
-    connect(m_ui->actionStepBackward, &QAction::triggered, this, &MainWindow::stepBackward);
-    connect(m_ui->actionStepForward, &QAction::triggered, this, &MainWindow::stepForward);
-    connect(m_ui->actionStepFieldForward, &QAction::triggered, m_player,
-            &QtAV::AVPlayer::stepFieldForward);
-    connect(m_ui->actionStepFieldBackward, &QAction::triggered, m_player,
-            &QtAV::AVPlayer::stepFieldBackward);
-    connect(m_ui->snapshotButton, &QPushButton::clicked, this, &MainWindow::snapshotButtonPressed);
-    connect(m_ui->saveButton, &QPushButton::clicked, this, &MainWindow::saveButtonPressed);
-    // Not on every key, because each partial path would raise the counter.
-    connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this, [this] {
-        noteOutputFolder();
-        updateAutomaticFileNameDisplay();
-    });
-    // The field itself uses Space and the keys that take, copy and step.
-    connect(m_ui->outputFolderLineEdit, &QLineEdit::returnPressed, this,
-            [this] { m_ui->videoFrame->setFocus(); });
-}
-
-void MainWindow::alignControls()
-{
-    m_ui->splitter->setChildrenCollapsible(false);
-    // Two lines, so that the snapshot keeps its size when its line appears.
-    m_ui->snapshotSummaryLabel->setFixedHeight(
-        2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());
-    m_ui->timecodeField->setTextWidth(widestTime(*m_ui->timecodeField));
-    constexpr int rounding = 2;
-    m_ui->durationLabel->setMinimumWidth(widestTime(*m_ui->durationLabel) + rounding);
 }
 
 /// Keys control the video wherever the focus is, except while typing: Return, not Space, presses a
@@ -206,4 +128,10 @@ void MainWindow::retakeFocusAfterDialog()
 {
     raise();
     activateWindow();
+}
+
+/// Shows the result of an action for a while.
+void MainWindow::showMessage(const QString& text)
+{
+    statusBar()->showMessage(text, messageMs);
 }

@@ -1,116 +1,58 @@
 #pragma once
 
 #include "imaging/CapturedPicture.h"
-#include "imaging/FilePublisher.h"
-#include "imaging/ImageRecipe.h"
 #include "imaging/PictureSource.h"
 #include "ui/mainwindow/CaptureTickets.h"
+#include "ui/mainwindow/PaneWindow.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QIcon>
-#include <QImage>
-#include <QMainWindow>
-#include <QPointer>
 #include <QSettings>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
 #include <deque>
-#include <functional>
 #include <memory>
 
 class BatchModeDialog;
 class DropZone;
-class FileNameProfile;
 class Filmstrip;
 class FolderSteps;
-class FolderSweeper;
 class FrameProposals;
 class FullScreen;
-class ImageProfile;
-class PlayerSteering;
-class QPushButton;
+class QAction;
+class QImage;
 class RecentMenu;
-class SaveDialog;
-class SnapshotMaker;
 class SnapshotSaver;
 struct MadeSnapshot;
-class VideoZoom;
 class SpokenEvents;
-class VolumePopup;
-
-namespace QtAV {
-class AVPlayer;
-class VideoOutput;
-} // namespace QtAV
 
 namespace Ui {
 class MainWindow;
 }
 
-/// The application's only window: a video player on the left, and on the right the snapshot taken
-/// from it, which is saved or copied.
+/// The application's only window: the PlayerPane with the filmstrip on the left, and on the right
+/// the SnapshotPane. The window connects these with each other, the menus, and other files.
 ///
-/// The implementation is split by topic: construction in MainWindow.cpp, files from outside and
-/// closing in MainWindow_files.cpp, stored settings in MainWindow_memory.cpp, the player in
-/// MainWindow_player.cpp and its zoom in MainWindow_zoom.cpp, the snapshot in
-/// MainWindow_snapshot.cpp and its description in MainWindow_summary.cpp, earlier snapshots in
-/// MainWindow_filmstrip.cpp, the best frames in MainWindow_best.cpp, the menus in
-/// MainWindow_menus.cpp, and the keys and navigation of PlayerSteering in MainWindow_steering.cpp.
+/// Construction is in MainWindow.cpp; the other files, MainWindow_*.cpp, start with their topic.
 ///
-/// Settings: those of SaveDialog; "outputFolder" of the automatic names, "automaticFileName",
-/// "recentFiles", "windowGeometry", "splitterState". User-interface thread only.
-class MainWindow : public QMainWindow
+/// Settings: those of SnapshotPane; "recentFiles", "windowGeometry", "splitterState".
+/// User-interface thread only.
+class MainWindow : public PaneWindow
 {
     Q_OBJECT
 
 public:
-    /// The direction of step(). Any value other than Forward counts as Backward.
-    enum SeekDirection { Backward = -1, Forward = 1 };
-
-    /// Creates the video output as a child of the given object.
-    using VideoOutputFactory = std::function<QtAV::VideoOutput*(QObject*)>;
-
     explicit MainWindow(QWidget* parent = nullptr);
     /// Like above with another video output. If that has no widget, a message box reports it and
     /// the window has no player.
     MainWindow(QWidget* parent, const VideoOutputFactory& makeVideoOutput);
     ~MainWindow() override;
 
-    /// True if a video is open or being opened; it may still turn out to be unplayable.
-    bool isVideoLoaded() const;
-    /// The path of the open video; empty without one.
-    QString currentVideoFilePath() const;
-    /// File information about the player's file.
-    QFileInfo currentVideoFileInfo() const;
-    /// The name with its extension.
-    QString currentVideoFileName() const;
-    /// The name up to its first dot.
-    QString currentVideoFileBaseName() const;
-    QDir currentVideoFileDir() const;
-
     /// Shows the name of the open video in the title.
     void updateWindowTitle();
-    /// Enables or disables everything that needs a video.
+    /// Enable or disable everything that needs a video or a snapshot, in the panes and the menus.
     void setVideoControlsEnabled(bool on);
-    void setupVolumePopup();
-
-    /// Writes the snapshot, replacing a file of that name. Reports the result as a debug message
-    /// and in the status bar; returns false if nothing was written.
-    [[nodiscard]] bool saveSnapshot(QString path);
-    /// The name of the next picture in the folder: the first free one from the file counter on.
-    /// Does not change the counter.
-    [[nodiscard]] QString automaticFileName(QDir dir);
-    void updateAutomaticFileNameDisplay();
-    /// Enables or disables everything that needs a snapshot.
     void setSnapshotControlsEnabled(bool on);
-    /// Fill the boxes with the profiles and select the last used one.
-    void loadImageProfileComboBox();
-    void loadFileNameProfileComboBox();
-    /// Creates the save dialog; call it once.
-    void setupFileDialogs();
 
     /// Restores size, place and everything else that the previous window stored at its end. Call it
     /// before the window is shown and before a video is opened.
@@ -120,7 +62,6 @@ public:
     /// folder from now on. Call it once. Without it, the window asks about each unsaved snapshot at
     /// its end.
     void keepSnapshots(const QString& folder);
-
     /// The times in the open video of the snapshots in the filmstrip: milliseconds in rising order,
     /// without duplicates.
     [[nodiscard]] QVector<qint64> snapshotTimes() const;
@@ -136,97 +77,44 @@ Q_SIGNALS:
     void snapshotTimesChanged(const QVector<qint64>& ms);
 
 public Q_SLOTS:
-    /// Proposes the best frames of a stretch of the open video, at or after `fromMs` and before
-    /// `toMs`.
-    void proposeBestFrames(qint64 fromMs, qint64 toMs);
-    /// Does so for the stretch from a second before the frame on screen to a second after it.
-    void proposeBestFramesHere();
-
-    /// Fits the video into its pane, shows it in full size (a pixel of the video is one of the
-    /// screen) or four times that.
-    void fitVideo();
-    void showActualSize();
-    void showFourfold();
-    /// Full size, or fitted where it is in full size.
-    void toggleActualSize();
-    // The player.
-    /// Plays or pauses the video on screen; if there is none, asks for one.
-    void openVideoLabelClicked();
     void showSelectVideoDialog();
     void openVideo(QString path);
     void closeVideo();
-    void pause();
-    void playPause();
-    void updatePlayButton();
-    void updateSliderUnit();
-    void updateSlider();
-    void updateSlider(qint64 position);
-    void durationChanged(qint64 duration);
-    void positionChanged(qint64 position);
-    /// Seek to the slider's position, or to that of a value; playback continues if it was running.
-    void seekBySlider(int value);
-    void seekBySlider();
-    void skipBackward();
-    void skipForward();
-    /// Pauses and moves by `ms` milliseconds, negative for back, from the position of a pending
-    /// seek: successive calls add up.
-    void seekRelative(qint64 ms);
-    void stepBackward();
-    void stepForward();
-    void step(SeekDirection direction);
-    /// @param volume  0 to 100
-    void volumeChanged(int volume);
-    void on_volumeButton_clicked();
-    void on_actionOpen_triggered();
+    /// Opens a video, if an unsaved snapshot may be dropped.
+    void openFromOutside(const QString& path);
 
-    // The snapshot.
+    /// Proposes the best frames of the open video at or after `fromMs` and before `toMs`.
+    void proposeBestFrames(qint64 fromMs, qint64 toMs);
+    /// Does so for the marked stretch, or from a second before the frame on screen to a second
+    /// after it.
+    void proposeBestFramesHere();
+
+    /// Takes a snapshot of the frame on screen; the player answers with one of the next two.
     void snapshotButtonPressed();
     void snapshotCaptured(const QImage& image);
     void onCaptureError();
-    /// Makes the snapshot again from the full frame, with the selected profile if null is passed. A
-    /// failure is reported in the status bar, and there is no snapshot then.
-    void processFullFrameImage(ImageProfile* profile);
-    /// Shows the snapshot as made by the profile; does nothing while there is none.
-    void imageProfileUpdated(ImageProfile* profile);
-    void saveButtonPressed();
-    void on_actionSaveSnapshot_triggered();
-    /// Shows the most recently saved file in the file manager.
-    void on_actionShow_in_Folder_triggered();
-    void saveWithAutomaticFileName();
-    void showSaveDialog();
-    void on_actionTake_Snapshot_triggered();
     /// Takes a snapshot and saves it without asking, under the next automatic name.
     void takeAndSave();
-    void on_actionCopy_Snapshot_triggered();
-    void on_actionCopy_Full_Frame_triggered();
-    /// Applies the chosen profile, also to the current snapshot.
-    void on_imageProfileComboBox_activated(int index);
-    /// Selects a profile that equals the selected one except for keeping the video's own size;
-    /// creates it if necessary.
-    void on_originalSizeButton_clicked();
-    void on_filenameProfileComboBox_activated(int index);
-    void on_selectOutputFolderButton_clicked();
-    void on_automaticFileNameGroupBox_toggled(bool on);
-
-    // Profile editing and the menus.
-    void on_editImageProfileButton_clicked();
-    void on_editFileNameProfileButton_clicked();
-    void on_actionBatch_Mode_triggered();
-    void on_actionImage_Filters_Test_triggered();
-    void on_actionAbout_triggered();
-    void on_actionDocumentation_triggered();
-    void on_actionCommandLineOptions_triggered();
-    void on_actionExit_triggered();
 
     /// Ends the application without a question.
     void confirmQuit();
     /// Ends the application without a question, once everything that can be kept is written.
     void quitWhenKept();
-    /// Opens a video passed by another program, if an unsaved snapshot may be dropped.
-    void openFromOutside(const QString& path);
     void retakeFocusAfterDialog();
     /// Raises the window, even if it was minimised.
     void comeToFront();
+
+    // Dialogs and menus, named after their controls.
+    void on_actionOpen_triggered();
+    void on_actionExit_triggered();
+    void on_actionTake_Snapshot_triggered();
+    void on_actionBatch_Mode_triggered();
+    void on_actionImage_Filters_Test_triggered();
+    void on_actionAbout_triggered();
+    void on_actionDocumentation_triggered();
+    void on_actionCommandLineOptions_triggered();
+    void on_editImageProfileButton_clicked();
+    void on_editFileNameProfileButton_clicked();
 
 protected:
     /// Asks about what would be lost, then ends the application.
@@ -236,64 +124,44 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    /// How long results stay in the status bar.
-    static constexpr int messageMs = 8000;
-
     void setupPlayer(const VideoOutputFactory& makeVideoOutput);
-    void setupLanguages();
     void refusePlayer();
-    void connectPlayer();
-    void connectTransport();
-    void alignControls();
+    void connectPlayerPane();
+    void connectSnapshotPane();
+    void keepKeysForVideo();
+    void showMessage(const QString& text);
+
+    void connectActions();
     void setupProfileMenus();
-    void setupThemeMenu();
+    void setupViewMenu();
+    void setupFileMenu();
     void setupLooks();
-    void showRecentFiles();
-    void showSpeed(qreal speed);
-    void showWhatIsNext();
+    void showWhatIsNext(bool isUnsaved);
     void chooseDeinterlacing(const QString& name);
     void chooseHdr(int hdr);
     void followImageProfile();
-    void keepKeysForVideo();
+    void runBatchMode(const QStringList& videos);
+    void loadMarkedStretch(BatchModeDialog& dialog) const;
+
     void setupSteering();
+    void connectPlayback();
     void connectSteering();
-    void connectStretch();
+    void setupZoom();
     void connectMute();
     void setupFullScreen();
-    void setupKeyTips();
-    void setupSpokenEvents();
-    [[nodiscard]] QString spokenPlace() const;
     void setSteeringEnabled(bool on);
-    void giveKeyboardToVideo();
-    void loadMarkedStretch(BatchModeDialog& dialog) const;
+    void setupBestFrames();
+
+    void setupDrops();
+    void openDropped(const QStringList& videos);
     void quit();
     void endWhenSafe();
     void saveLayout();
-    void setupShowInFolder();
-    void offerToShowSavedFile(const QString& text);
-
-    void showOutputFolder(const QFileInfo& video);
-    void noteOutputFolder();
-    void noteOpenFolder(const QFileInfo& video);
-    void noticeMediaStatus();
-    void noticeBaseLayer();
-    void noticeFailedRead(const QString& reason);
-    void showOpenButton(const QString& text);
-    void hideOpenButton();
-    [[nodiscard]] bool isVideoShown() const;
 
     [[nodiscard]] bool maySnapshotGo();
-    [[nodiscard]] bool isSnapshotAtRisk() const;
     [[nodiscard]] int snapshotsAtRisk() const;
     [[nodiscard]] bool mayAllGo();
     [[nodiscard]] int askAboutSnapshots(int count);
-
-    void setupFileMenu();
-    void setupDrops();
-    void openDropped(const QStringList& videos);
-    void runBatchMode(const QStringList& videos);
-    void setupZoom();
-    void setupBestFrames();
 
     void setupFilmstrip();
     void addToFilmstrip();
@@ -305,80 +173,28 @@ private:
     void tellSnapshotTimes();
     void saveSnapshots(const QStringList& ids);
     void reportSavedSnapshots(int saved, int failed, const QString& lastFile);
-    [[nodiscard]] QString folderForSnapshots();
 
     void capture(bool isToBeSaved = false);
     [[nodiscard]] bool takeSaving();
     void takeCapture(const MadeSnapshot& made);
-    void takeRemade(const MadeSnapshot& made);
-    void showSnapshot(const MadeSnapshot& made);
-    void warnOfCapture(const QString& reason);
-    void resetSnapshot();
-    void selectImageProfile(ImageProfile& profile);
-    [[nodiscard]] QString typeToSave() const;
-    void showSnapshotSummary();
-    [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
-    [[nodiscard]] PictureSource sourceOfCapture(const CapturedPicture& picture) const;
-    struct Saving;
-    [[nodiscard]] Saving savingNow();
-    [[nodiscard]] WriteResult write(const Saving& saving, const QString& path,
-                                    ExistingFile existing, WriteFailure& failure);
-    [[nodiscard]] WriteResult save(const Saving& saving, const QString& path,
-                                   ExistingFile existing);
-    void reportSaved(const QString& path);
-    void reportUnsaved(const QString& path, const WriteFailure& failure);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QSettings m_settings;
-    /// The processed snapshot; null until the first capture.
-    QImage m_snapshotImage;
-    /// True if there is no snapshot, or it was saved or copied.
-    bool m_isSnapshotKept = true;
-    /// The recipe of m_snapshotImage.
-    ImageRecipe m_snapshotRecipe;
-    /// The frame of m_snapshotImage.
-    CapturedPicture m_captured;
-    Filmstrip* m_filmstrip = nullptr;         ///< created first
-    SnapshotSaver* m_snapshotSaver = nullptr; ///< created first
-    SnapshotMaker* m_snapshotMaker = nullptr; ///< created first
-    QString m_shownSnapshot;                  ///< its name in the filmstrip; empty if it is not
-                                              ///< there
-    QString m_wantedSnapshot;                 ///< to be shown once it has been read
+    // Their parents own them; the constructor sets those without a comment.
+    Filmstrip* m_filmstrip = nullptr;
+    SnapshotSaver* m_snapshotSaver = nullptr;
+    RecentMenu* m_recentMenu = nullptr;
+    FolderSteps* m_folderSteps = nullptr;
+    DropZone* m_dropZone = nullptr;
+    FrameProposals* m_proposals = nullptr;
+    QAction* m_bestFramesAction = nullptr;
+    SpokenEvents* m_spoken = nullptr;   ///< null in a window without a player
+    FullScreen* m_fullScreen = nullptr; ///< null in a window without a player
+    CaptureTickets m_captures;
+    std::deque<bool> m_savesCapture; ///< for each pending capture, whether to save it at once
+    QString m_capturedPlace;         ///< the file and time of the last capture, for messages
+    QString m_wantedSnapshot;        ///< to be shown once it has been read
     QVector<qint64> m_toldSnapshotTimes;
-    RecentMenu* m_recentMenu = nullptr;    ///< created first
-    FolderSteps* m_folderSteps = nullptr;  ///< created first
-    DropZone* m_dropZone = nullptr;        ///< created first
-    VideoZoom* m_videoZoom = nullptr;      ///< created first
-    FrameProposals* m_proposals = nullptr; ///< created first
-    QAction* m_bestFramesAction = nullptr; ///< created first
-    const std::unique_ptr<FolderSweeper> m_sweeper;
-    const std::unique_ptr<SaveDialog> m_saveDialog;
     bool m_isEnding = false;    ///< end as soon as everything is written
     bool m_endsUnasked = false; ///< end without asking
-    /// The file and time of the last capture, for messages.
-    QString m_capturedPlace;
-    QString m_currentVideoPath;
-    QtAV::AVPlayer* m_player = nullptr;
-    /// Deleted before the window when the application ends.
-    QPointer<QtAV::VideoOutput> m_videoOutput;
-    /// For automatic names, as chosen by the user; empty for the video's folder.
-    QString m_outputFolder;
-    QString m_lastSavedFile;
-    /// Null in a window without a player.
-    VolumePopup* m_volumePopup = nullptr;
-    /// Milliseconds per step of the slider.
-    qint64 m_sliderUnit = 1000;
-    QIcon m_playIcon;
-    QIcon m_pauseIcon;
-    /// The number of the next automatic file name.
-    int m_fileCounter = 1;
-    ImageProfile* m_imageProfile = nullptr;
-    FileNameProfile* m_fileNameProfile = nullptr;
-    CaptureTickets m_captures;
-    /// For each pending capture, whether to save it at once.
-    std::deque<bool> m_savesCapture;
-    /// Null in a window without a player, as are m_spoken and m_fullScreen.
-    PlayerSteering* m_steering = nullptr;
-    SpokenEvents* m_spoken = nullptr; ///< null in a window without a player
-    FullScreen* m_fullScreen = nullptr;
 };

@@ -5,13 +5,14 @@
 #include "profiles/ImageProfile.h"
 #include "ui/mainwindow/FrameProposals.h"
 #include "ui/mainwindow/PlayerSteering.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
 
 void MainWindow::setupBestFrames()
 {
-    m_proposals = new FrameProposals(*m_player, *this);
+    m_proposals = new FrameProposals(playerPane()->player(), *this);
     m_bestFramesAction = new QAction(tr("Best of These\u2026"), this);
     m_bestFramesAction->setObjectName(QStringLiteral("actionBestFrames"));
     m_bestFramesAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+B")));
@@ -24,21 +25,22 @@ void MainWindow::setupBestFrames()
 
 void MainWindow::proposeBestFramesHere()
 {
-    const MarkedStretch& marked = m_steering->stretch();
+    const MarkedStretch& marked = playerPane()->steering()->stretch();
     if (marked.fromMs && marked.toMs) {
         proposeBestFrames(*marked.fromMs, *marked.toMs + 1);
         return;
     }
-    const VideoStretch here = FrameProposals::around(m_player->displayPosition());
+    const VideoStretch here = FrameProposals::around(playerPane()->player().displayPosition());
     proposeBestFrames(here.fromMs, here.toMs);
 }
 
 void MainWindow::proposeBestFrames(qint64 fromMs, qint64 toMs)
 {
-    if (!isVideoShown()) {
+    if (!playerPane()->isVideoShown()) {
         return;
     }
     pause();
-    m_proposals->propose(m_currentVideoPath,
-                         QtAV::deinterlacingNamed(m_imageProfile->deinterlacing()), {fromMs, toMs});
+    m_proposals->propose(playerPane()->video(),
+                         QtAV::deinterlacingNamed(snapshotPane()->imageProfile()->deinterlacing()),
+                         {fromMs, toMs});
 }

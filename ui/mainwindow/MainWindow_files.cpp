@@ -5,12 +5,10 @@
 #include "ui/batch/BatchModeDialog.h"
 #include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/DropZone.h"
-#include "ui/mainwindow/FileManager.h"
 #include "ui/mainwindow/FolderSteps.h"
 #include "ui/mainwindow/RecentMenu.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui_MainWindow.h"
-
-#include <QtAV/VideoOutput.h>
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -20,7 +18,6 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QStatusBar>
 
 namespace {
 
@@ -32,13 +29,13 @@ constexpr qint64 longestWaitMs = 10000;
 /// Asks about a snapshot that would be lost with its video. Returns false if it must stay.
 bool MainWindow::maySnapshotGo()
 {
-    if (!isSnapshotAtRisk()) {
+    if (!snapshotPane()->isAtRisk()) {
         return true;
     }
     switch (askAboutSnapshots(1)) {
     case QMessageBox::Save:
-        saveButtonPressed();
-        return m_isSnapshotKept;
+        snapshotPane()->save();
+        return snapshotPane()->isKept();
     case QMessageBox::Discard:
         return true;
     default:
@@ -53,14 +50,14 @@ bool MainWindow::mayAllGo()
     if (count == 0) {
         return true;
     }
-    const bool isShownOne = count == 1 && !m_isSnapshotKept;
+    const bool isShownOne = count == 1 && !snapshotPane()->isKept();
     switch (askAboutSnapshots(count)) {
     case QMessageBox::Save:
-        if (isShownOne || isSnapshotAtRisk()) {
-            saveButtonPressed();
+        if (isShownOne || snapshotPane()->isAtRisk()) {
+            snapshotPane()->save();
         }
-        if (isShownOne || isSnapshotAtRisk()) {
-            return m_isSnapshotKept;
+        if (isShownOne || snapshotPane()->isAtRisk()) {
+            return snapshotPane()->isKept();
         }
         // The window closes when these are written, or another question follows.
         m_isEnding = true;
@@ -119,7 +116,7 @@ void MainWindow::setupDrops()
     m_dropZone = new DropZone(*this);
     connect(m_dropZone, &DropZone::dropped, this, &MainWindow::openDropped);
     connect(m_dropZone, &DropZone::nothingFound, this,
-            [this] { statusBar()->showMessage(tr("No video was dropped."), messageMs); });
+            [this] { showMessage(tr("No video was dropped.")); });
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
@@ -215,27 +212,6 @@ bool MainWindow::prepareForSessionEnd(bool mayAsk)
 void MainWindow::quit()
 {
     saveLayout();
-    if (m_videoOutput != nullptr) {
-        m_videoOutput->deleteLater();
-    }
+    playerPane()->releaseVideo();
     QCoreApplication::quit();
-}
-
-void MainWindow::setupShowInFolder()
-{
-    m_ui->actionShow_in_Folder->setEnabled(false);
-    connect(&m_ui->savedNotice->folderButton(), &QPushButton::clicked, this,
-            &MainWindow::on_actionShow_in_Folder_triggered);
-}
-
-/// Shows a notice near the button; the text names the saved file.
-void MainWindow::offerToShowSavedFile(const QString& text)
-{
-    m_ui->savedNotice->tellSaved(text);
-    m_ui->actionShow_in_Folder->setEnabled(true);
-}
-
-void MainWindow::on_actionShow_in_Folder_triggered()
-{
-    FileManager::show(m_lastSavedFile);
 }

@@ -7,14 +7,12 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "ui/filmstrip/Filmstrip.h"
-#include "ui/mainwindow/SaveDialog.h"
-#include "ui/mainwindow/SnapshotMaker.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui/mainwindow/SnapshotSaver.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
 
-#include <QFileDialog>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -31,14 +29,11 @@ bool isSameFile(const QString& a, const QString& b)
 
 void MainWindow::setupFilmstrip()
 {
-    m_filmstrip = new Filmstrip(m_ui->playerPane);
-    m_ui->playerLayout->addWidget(m_filmstrip);
-    m_filmstrip->comeAfter(*m_ui->snapshotButton);
+    m_filmstrip = new Filmstrip(playerPane());
+    playerPane()->addFilmstrip(*m_filmstrip);
     SnapshotShelf& shelf = m_filmstrip->shelf();
     m_snapshotSaver = new SnapshotSaver(shelf, m_filmstrip);
-    m_snapshotMaker = new SnapshotMaker(this);
-    connect(m_snapshotMaker, &SnapshotMaker::captured, this, &MainWindow::takeCapture);
-    connect(m_snapshotMaker, &SnapshotMaker::remade, this, &MainWindow::takeRemade);
+    connect(snapshotPane(), &SnapshotPane::saved, &shelf, &SnapshotShelf::markSaved);
 
     QAction* const first = m_ui->menuEdit->actions().value(0);
     m_ui->menuEdit->insertAction(first, m_filmstrip->undoAction());
@@ -50,10 +45,8 @@ void MainWindow::setupFilmstrip()
     connect(m_filmstrip, &Filmstrip::saveRequested, this, &MainWindow::saveSnapshots);
     connect(m_filmstrip, &Filmstrip::contentChanged, this, &MainWindow::followShownSnapshot);
     connect(&shelf, &SnapshotShelf::loaded, this, &MainWindow::showKeptSnapshot);
-    connect(&shelf, &SnapshotShelf::loadFailed, this, [this] {
-        statusBar()->showMessage(tr("The picture of this snapshot cannot be read any more."),
-                                 messageMs);
-    });
+    connect(&shelf, &SnapshotShelf::loadFailed, this,
+            [this] { showMessage(tr("The picture of this snapshot cannot be read any more.")); });
     connect(&shelf, &SnapshotShelf::noticed, this,
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(&shelf, &SnapshotShelf::settled, this, [this] {
@@ -75,16 +68,16 @@ void MainWindow::keepSnapshots(const QString& folder)
 void MainWindow::addToFilmstrip()
 {
     m_wantedSnapshot.clear();
-    m_shownSnapshot.clear();
-    if (m_isSnapshotKept) {
+    if (snapshotPane()->isKept()) {
         return;
     }
-    m_shownSnapshot =
-        m_filmstrip->shelf().add(m_captured, m_imageProfile->id(), m_imageProfile->name());
-    m_filmstrip->setCurrent(m_shownSnapshot);
-    if (m_shownSnapshot.isEmpty()) {
-        statusBar()->showMessage(tr("The filmstrip is full: save or delete some of its snapshots."),
-                                 messageMs);
+    const ImageProfile& profile = *snapshotPane()->imageProfile();
+    const QString id =
+        m_filmstrip->shelf().add(snapshotPane()->captured(), profile.id(), profile.name());
+    snapshotPane()->setId(id);
+    m_filmstrip->setCurrent(id);
+    if (id.isEmpty()) {
+        showMessage(tr("The filmstrip is full: save or delete some of its snapshots."));
     }
 }
 
@@ -92,7 +85,7 @@ void MainWindow::addToFilmstrip()
 void MainWindow::returnToSnapshot(const QString& id)
 {
     const std::optional<KeptSnapshot> snapshot = m_filmstrip->shelf().snapshot(id);
-    if (!snapshot || (id != m_shownSnapshot && !maySnapshotGo())) {
+    if (!snapshot || (id != snapshotPane()->id() && !maySnapshotGo())) {
         return;
     }
     returnToFrame(snapshot->source);
@@ -102,17 +95,16 @@ void MainWindow::returnToSnapshot(const QString& id)
 
 void MainWindow::returnToFrame(const PictureSource& source)
 {
-    if (!isSameFile(source.video, m_currentVideoPath) || !isVideoShown()) {
+    if (!isSameFile(source.video, playerPane()->video()) || !playerPane()->isVideoShown()) {
         if (!QFileInfo::exists(source.video)) {
-            statusBar()->showMessage(tr("%1 is not there any more; this is its snapshot.")
-                                         .arg(QDir::toNativeSeparators(source.video)),
-                                     messageMs);
+            showMessage(tr("%1 is not there any more; this is its snapshot.")
+                            .arg(QDir::toNativeSeparators(source.video)));
             return;
         }
         openVideo(source.video);
     }
-    m_player->pause();
-    m_player->setPosition(source.positionMs());
+    playerPane()->pause();
+    playerPane()->player().setPosition(source.positionMs());
 }
 
 void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& picture)
@@ -124,23 +116,18 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
     m_wantedSnapshot.clear();
     // Cleared before the profile is chosen, which would be recorded for the snapshot shown until
     // now.
-    m_shownSnapshot.clear();
+    snapshotPane()->setId({});
     ProfileManager& profiles = *ImageProfile::profileManager();
     BaseProfile* const profile = profiles.profileForId(snapshot->profileId);
-    if (profile != nullptr && profile != m_imageProfile) {
+    if (profile != nullptr && profile != snapshotPane()->imageProfile()) {
         profiles.setLastUsedProfile(profile);
         loadImageProfileComboBox();
     }
-    m_captured = picture;
-    m_capturedPlace =
+    const QString place =
         tr("%1 at %2")
             .arg(QFileInfo(picture.source.video).fileName(),
                  m_filmstrip->shelf().indexOf(id).data(SnapshotShelf::TimeRole).toString());
-    m_isSnapshotKept = snapshot->isSaved;
-    m_shownSnapshot = id;
-    m_ui->savedNotice->clear();
-    processFullFrameImage(nullptr);
-    showWhatIsNext();
+    snapshotPane()->showEarlier(picture, place, id, snapshot->isSaved);
     m_filmstrip->setCurrent(id);
     setSnapshotControlsEnabled(true);
 }
@@ -149,29 +136,32 @@ void MainWindow::showKeptSnapshot(const QString& id, const CapturedPicture& pict
 /// restored.
 void MainWindow::followShownSnapshot()
 {
-    const std::optional<KeptSnapshot> shown = m_filmstrip->shelf().snapshot(m_shownSnapshot);
-    m_isSnapshotKept = m_isSnapshotKept || (shown && shown->isSaved);
-    if (!shown && !m_shownSnapshot.isEmpty()) {
-        // Deleted on purpose, so no question is needed.
-        m_shownSnapshot.clear();
-        m_isSnapshotKept = true;
+    const QString id = snapshotPane()->id();
+    const std::optional<KeptSnapshot> shown = m_filmstrip->shelf().snapshot(id);
+    if (shown && shown->isSaved) {
+        snapshotPane()->setKept();
     }
-    showWhatIsNext();
+    if (!shown && !id.isEmpty()) {
+        // Deleted on purpose, so no question is needed.
+        snapshotPane()->setId({});
+        snapshotPane()->setKept();
+    }
     tellSnapshotTimes();
 }
 
 void MainWindow::noteProfileOfSnapshot()
 {
-    if (!m_shownSnapshot.isEmpty()) {
-        m_filmstrip->shelf().setProfile(m_shownSnapshot, m_imageProfile->id(),
-                                        m_imageProfile->name());
+    const QString& id = snapshotPane()->id();
+    if (!id.isEmpty()) {
+        const ImageProfile& profile = *snapshotPane()->imageProfile();
+        m_filmstrip->shelf().setProfile(id, profile.id(), profile.name());
     }
 }
 
 QVector<qint64> MainWindow::snapshotTimes() const
 {
     return isVideoLoaded()
-               ? m_filmstrip->shelf().timesIn(QFileInfo(m_currentVideoPath).absoluteFilePath())
+               ? m_filmstrip->shelf().timesIn(QFileInfo(playerPane()->video()).absoluteFilePath())
                : QVector<qint64>();
 }
 
@@ -184,40 +174,20 @@ void MainWindow::tellSnapshotTimes()
     }
 }
 
-/// Whether another video or snapshot would lose the one that is shown.
-bool MainWindow::isSnapshotAtRisk() const
-{
-    return !m_isSnapshotKept && m_shownSnapshot.isEmpty();
-}
-
 /// How many snapshots closing the window would lose.
 int MainWindow::snapshotsAtRisk() const
 {
     const SnapshotShelf& shelf = m_filmstrip->shelf();
     // A copied snapshot is in the user's hands.
-    const bool isCopied =
-        m_isSnapshotKept && !m_shownSnapshot.isEmpty() && !shelf.isSafe(m_shownSnapshot);
-    return shelf.unsafeCount() - (isCopied ? 1 : 0) + (isSnapshotAtRisk() ? 1 : 0);
-}
-
-/// The folder of the automatic names, or one that the user chooses; empty if cancelled.
-QString MainWindow::folderForSnapshots()
-{
-    const QDir automatic(m_ui->outputFolderLineEdit->text());
-    if (m_ui->automaticFileNameGroupBox->isChecked() && automatic.isAbsolute()) {
-        return isOutputFolderUsable(automatic) ? automatic.absolutePath() : QString();
-    }
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("Save Snapshots"), m_saveDialog->folder(),
-        QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
-    retakeFocusAfterDialog();
-    return folder;
+    const QString& id = snapshotPane()->id();
+    const bool isCopied = snapshotPane()->isKept() && !id.isEmpty() && !shelf.isSafe(id);
+    return shelf.unsafeCount() - (isCopied ? 1 : 0) + (snapshotPane()->isAtRisk() ? 1 : 0);
 }
 
 /// Saves under automatic names, each with the profile that it was taken with.
 void MainWindow::saveSnapshots(const QStringList& ids)
 {
-    const QString folder = ids.isEmpty() ? QString() : folderForSnapshots();
+    const QString folder = ids.isEmpty() ? QString() : snapshotPane()->folderForSnapshots();
     if (folder.isEmpty()) {
         m_isEnding = false;
         return;
@@ -231,10 +201,10 @@ void MainWindow::saveSnapshots(const QStringList& ids)
         }
         const BaseProfile* const own = profiles.profileForId(snapshot->profileId);
         const auto* const profile =
-            own == nullptr ? m_imageProfile : static_cast<const ImageProfile*>(own);
+            own == nullptr ? snapshotPane()->imageProfile() : static_cast<const ImageProfile*>(own);
         jobs.append({id, QFileInfo(snapshot->source.video).baseName(), recipes::of(*profile)});
     }
-    m_snapshotSaver->start(jobs, folder, m_fileNameProfile->naming());
+    m_snapshotSaver->start(jobs, folder, snapshotPane()->fileNameProfile()->naming());
 }
 
 void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& lastFile)
@@ -247,11 +217,10 @@ void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& last
         failed == 0 ? count : tr("%1, %n could not be saved", nullptr, failed).arg(count);
     const QString& cause = m_snapshotSaver->failure();
     if (!lastFile.isEmpty()) {
-        m_lastSavedFile = QFileInfo(lastFile).absoluteFilePath();
-        offerToShowSavedFile(text);
-        updateAutomaticFileNameDisplay();
+        snapshotPane()->tellSaved(text, lastFile);
+        snapshotPane()->updateAutomaticFileNameDisplay();
     } else {
-        m_ui->savedNotice->tellFailed(text, cause);
+        snapshotPane()->tellFailed(text, cause);
     }
-    statusBar()->showMessage(cause.isEmpty() ? text : tr("%1: %2").arg(text, cause), messageMs);
+    showMessage(cause.isEmpty() ? text : tr("%1: %2").arg(text, cause));
 }

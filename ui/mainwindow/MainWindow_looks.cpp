@@ -1,15 +1,11 @@
-// Guidance in the window: what an empty window says, and which button stands out.
+// The division of the window, and which button stands out.
 
 #include "ui/mainwindow/MainWindow.h"
 
-#include "ui/mainwindow/PlaybackSpeeds.h"
-#include "ui/mainwindow/RecentFiles.h"
-#include "ui/mainwindow/VideoFactsText.h"
-#include "ui/theme/Icons.h"
+#include "ui/mainwindow/SnapshotPane.h"
+#include "ui/theme/ActionButton.h"
 #include "ui/theme/Theme.h"
 #include "ui_MainWindow.h"
-
-#include <QtAV/AVPlayer.h>
 
 namespace {
 
@@ -21,10 +17,7 @@ constexpr int snapshotShare = 265;
 
 void MainWindow::setupLooks()
 {
-    m_ui->videoControlsFrame->setParts(*m_ui->timePart, *m_ui->transportPart,
-                                       *m_ui->videoFactsLabel, *m_ui->snapshotButton);
-    m_ui->videoFactsLabel->setSeparator(VideoFactsText::separator);
-    m_ui->originalSizeButton->giveWayTo(*m_ui->snapshotSummaryLabel, 2);
+    m_ui->splitter->setChildrenCollapsible(false);
     m_ui->splitter->setSizes({playerShare, snapshotShare});
     if (layoutDirection() == Qt::RightToLeft) {
         // The pane with margins of its own is at the other edge.
@@ -32,40 +25,18 @@ void MainWindow::setupLooks()
         m_ui->centralLayout->setContentsMargins(margins.right(), margins.top(), margins.left(),
                                                 margins.bottom());
     }
-    m_ui->snapshotImageView->setPlaceholder(theme::icon(QStringLiteral("Image"), theme::Ink::Quiet),
-                                            tr("No snapshot yet"));
-    m_ui->speedButton->setMenu(m_ui->menuSpeed);
-    connect(m_player, &QtAV::AVPlayer::speedChanged, this, &MainWindow::showSpeed);
-    const auto keyOf = [](const QAction& action) {
-        return action.shortcut().toString(QKeySequence::NativeText);
-    };
-    m_ui->snapshotButton->setKeys(keyOf(*m_ui->actionTake_Snapshot));
-    m_ui->saveButton->setKeys(keyOf(*m_ui->actionSaveSnapshot));
-    connect(m_ui->openVideoLabel, &OpenVideoButton::fileChosen, this, &MainWindow::openFromOutside);
+    playerPane()->setSpeedMenu(*m_ui->menuSpeed);
+    snapshotPane()->saveButton().setKeys(
+        m_ui->actionSaveSnapshot->shortcut().toString(QKeySequence::NativeText));
     // The list of recent files may have been cleared there.
-    connect(m_ui->menuFile, &QMenu::aboutToHide, this, &MainWindow::showRecentFiles,
+    connect(m_ui->menuFile, &QMenu::aboutToHide, playerPane(), &PlayerPane::showRecentFiles,
             Qt::QueuedConnection);
-    showOpenButton(m_ui->openVideoLabel->text());
-    showWhatIsNext();
+    showWhatIsNext(false);
 }
 
-void MainWindow::showRecentFiles()
+/// One button stands out: that of the snapshot's pane if it is unsaved, otherwise the one that
+/// takes a snapshot.
+void MainWindow::showWhatIsNext(bool isUnsaved)
 {
-    m_ui->openVideoLabel->setRecentFiles(isVideoLoaded() ? QStringList()
-                                                         : RecentFiles::in(m_settings));
-}
-
-void MainWindow::showSpeed(qreal speed)
-{
-    const QString text = PlaybackSpeeds::text(speed);
-    m_ui->speedButton->setText(text);
-    m_ui->speedButton->setAccessibleDescription(text);
-}
-
-/// One button stands out: saving if something is unsaved, otherwise taking.
-void MainWindow::showWhatIsNext()
-{
-    const bool isToBeSaved = !m_snapshotImage.isNull() && !m_isSnapshotKept;
-    Theme::setPrimary(*m_ui->saveButton, isToBeSaved);
-    Theme::setPrimary(*m_ui->snapshotButton, !isToBeSaved);
+    Theme::setPrimary(playerPane()->snapshotButton(), !isUnsaved);
 }

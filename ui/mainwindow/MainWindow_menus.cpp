@@ -1,3 +1,5 @@
+// The menus, and the dialogs that they and the panes open.
+
 #include "ui/mainwindow/MainWindow.h"
 
 #include "profiles/FileNameProfile.h"
@@ -8,6 +10,9 @@
 #include "ui/dialogs/FileNameProfileDialog.h"
 #include "ui/dialogs/ImageFiltersDialog.h"
 #include "ui/dialogs/ImageProfileDialog.h"
+#include "ui/mainwindow/LanguageMenu.h"
+#include "ui/mainwindow/Shortcuts.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui/mainwindow/ThemeMenu.h"
 #include "ui/mainwindow/UserGuide.h"
 #include "ui_MainWindow.h"
@@ -35,15 +40,15 @@ void MainWindow::on_editImageProfileButton_clicked()
     pause();
     ImageProfileDialog dialog(this);
     dialog.setPreview([this](ImageProfile* edited) { imageProfileUpdated(edited); });
-    const QtAV::Statistics& video = m_player->statistics();
+    const QtAV::Statistics& video = playerPane()->player().statistics();
     dialog.setVideoDimensions(video.video_only.width, video.video_only.height);
-    dialog.setExampleImage(m_captured.image);
-    dialog.setSelectedProfile(m_imageProfile);
+    dialog.setExampleImage(snapshotPane()->captured().image);
+    dialog.setSelectedProfile(snapshotPane()->imageProfile());
     dialog.exec();
     adopt(*ImageProfile::profileManager(), dialog.selectedProfile());
     loadImageProfileComboBox();
     // This also reverts the preview of a cancelled change.
-    imageProfileUpdated(m_imageProfile);
+    imageProfileUpdated(snapshotPane()->imageProfile());
     retakeFocusAfterDialog();
 }
 
@@ -52,7 +57,7 @@ void MainWindow::on_editFileNameProfileButton_clicked()
     pause();
     FileNameProfileDialog dialog(this);
     dialog.setExampleFileName(currentVideoFileName());
-    dialog.setSelectedProfile(m_fileNameProfile);
+    dialog.setSelectedProfile(snapshotPane()->fileNameProfile());
     dialog.exec();
     adopt(*FileNameProfile::profileManager(), dialog.selectedProfile());
     loadFileNameProfileComboBox();
@@ -77,7 +82,7 @@ void MainWindow::runBatchMode(const QStringList& videos)
     // Profiles may have been added, renamed and chosen there.
     loadImageProfileComboBox();
     loadFileNameProfileComboBox();
-    imageProfileUpdated(m_imageProfile);
+    imageProfileUpdated(snapshotPane()->imageProfile());
     updateAutomaticFileNameDisplay();
     retakeFocusAfterDialog();
 }
@@ -86,12 +91,37 @@ void MainWindow::on_actionImage_Filters_Test_triggered()
 {
     pause();
     ImageFiltersDialog dialog(this);
-    dialog.setFrame(m_captured.image.isNull() ? m_player->displayedFrame().toImage()
-                                              : m_captured.image);
-    dialog.setProfile(m_imageProfile);
+    dialog.setFrame(snapshotPane()->captured().image.isNull()
+                        ? playerPane()->player().displayedFrame().toImage()
+                        : snapshotPane()->captured().image);
+    dialog.setProfile(snapshotPane()->imageProfile());
     dialog.exec();
-    imageProfileUpdated(m_imageProfile);
+    imageProfileUpdated(snapshotPane()->imageProfile());
     retakeFocusAfterDialog();
+}
+
+void MainWindow::connectActions()
+{
+    const auto on = [this](const QAction* action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
+    on(m_ui->actionOpen, &MainWindow::on_actionOpen_triggered);
+    on(m_ui->actionSaveSnapshot, &MainWindow::on_actionSaveSnapshot_triggered);
+    on(m_ui->actionShow_in_Folder, &MainWindow::on_actionShow_in_Folder_triggered);
+    on(m_ui->actionExit, &MainWindow::on_actionExit_triggered);
+    on(m_ui->actionTake_Snapshot, &MainWindow::on_actionTake_Snapshot_triggered);
+    on(m_ui->actionTakeAndSave, &MainWindow::takeAndSave);
+    on(m_ui->actionCopy_Snapshot, &MainWindow::on_actionCopy_Snapshot_triggered);
+    on(m_ui->actionCopy_Full_Frame, &MainWindow::on_actionCopy_Full_Frame_triggered);
+    on(m_ui->actionBatch_Mode, &MainWindow::on_actionBatch_Mode_triggered);
+    on(m_ui->actionImage_Filters_Test, &MainWindow::on_actionImage_Filters_Test_triggered);
+    on(m_ui->actionShortcuts, [this] {
+        Shortcuts::showPage(*this, *m_ui->menuBar);
+        retakeFocusAfterDialog();
+    });
+    on(m_ui->actionDocumentation, &MainWindow::on_actionDocumentation_triggered);
+    on(m_ui->actionCommandLineOptions, &MainWindow::on_actionCommandLineOptions_triggered);
+    on(m_ui->actionAbout, &MainWindow::on_actionAbout_triggered);
 }
 
 /// The menus that show and change settings of the selected image profile.
@@ -116,22 +146,26 @@ void MainWindow::setupProfileMenus()
     addHdr(m_ui->actionHdrAsStored, ImageProfile::HdrAsStored);
 }
 
-void MainWindow::setupThemeMenu()
+void MainWindow::setupViewMenu()
 {
+    auto* const languages = new LanguageMenu(m_ui->menuView);
+    m_ui->menuView->addSeparator();
+    m_ui->menuView->addMenu(languages);
+    connect(languages, &LanguageMenu::message, this, &MainWindow::showMessage);
     m_ui->menuView->addSeparator();
     m_ui->menuView->addMenu(new ThemeMenu(m_settings, this));
 }
 
 void MainWindow::chooseDeinterlacing(const QString& name)
 {
-    m_imageProfile->setDeinterlacing(name);
+    snapshotPane()->imageProfile()->setDeinterlacing(name);
     ImageProfile::profileManager()->saveProfiles();
     followImageProfile();
 }
 
 void MainWindow::chooseHdr(int hdr)
 {
-    m_imageProfile->setHdr(hdr);
+    snapshotPane()->imageProfile()->setHdr(hdr);
     ImageProfile::profileManager()->saveProfiles();
     followImageProfile();
 }
@@ -140,14 +174,14 @@ void MainWindow::chooseHdr(int hdr)
 void MainWindow::followImageProfile()
 {
     noteProfileOfSnapshot();
-    const QString name = m_imageProfile->deinterlacing();
+    const QString name = snapshotPane()->imageProfile()->deinterlacing();
     const QtAV::Deinterlacing deinterlacing = QtAV::deinterlacingNamed(name);
-    m_player->setDeinterlacing(deinterlacing);
+    playerPane()->player().setDeinterlacing(deinterlacing);
     const QList<QAction*> actions = m_ui->menuDeinterlace->actions();
     for (QAction* const action : actions) {
         action->setChecked(QtAV::deinterlacingNamed(action->data().toString()) == deinterlacing);
     }
-    const bool keepsHdr = m_imageProfile->hdr() == ImageProfile::HdrAsStored;
+    const bool keepsHdr = snapshotPane()->imageProfile()->hdr() == ImageProfile::HdrAsStored;
     (keepsHdr ? m_ui->actionHdrAsStored : m_ui->actionHdrToneMapped)->setChecked(true);
 }
 

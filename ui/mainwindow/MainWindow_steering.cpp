@@ -9,12 +9,14 @@
 #include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/ReturnKey.h"
 #include "ui/mainwindow/Shortcuts.h"
+#include "ui/mainwindow/SnapshotPane.h"
 #include "ui/mainwindow/SpokenEvents.h"
+#include "ui/mainwindow/VideoZoom.h"
+#include "ui/theme/ActionButton.h"
 #include "ui/widgets/VolumePopup.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
-#include <QtAV/VideoOutput.h>
 
 #include <QShortcut>
 
@@ -25,109 +27,96 @@ namespace {
 /// Distance of the keys for large jumps.
 constexpr qint64 leapMs = 10000;
 
+constexpr int scaleMessageMs = 1500;
+
 } // namespace
 
 void MainWindow::setupSteering()
 {
-    const PlayerSteering::Parts parts{*m_player, *m_ui->videoSlider, *m_ui->timecodeField,
-                                      *m_ui->videoFactsLabel};
-    m_steering = new PlayerSteering(parts, this);
+    connectPlayback();
     connectSteering();
-    connectStretch();
     connectMute();
     setupFullScreen();
     Shortcuts::giveTo(*this, *m_ui->menuBar);
     Mnemonics::giveTo(*m_ui->menuBar);
     ReturnKey::pressControls(*m_ui->statusBar);
-    setupKeyTips();
-    setupSpokenEvents();
+    auto* const tips = new KeyTips(this);
+    playerPane()->showKeys(*tips, {*m_ui->actionPlayPause, *m_ui->actionStepForward,
+                                   *m_ui->actionStepBackward, *m_ui->actionSkipForward,
+                                   *m_ui->actionSkipBackward, *m_ui->actionTake_Snapshot,
+                                   *m_ui->actionGoToTime});
+    tips->add(snapshotPane()->saveButton(), *m_ui->actionSaveSnapshot);
+    m_spoken = new SpokenEvents(*this, playerPane()->player(),
+                                [this] { return playerPane()->describePlace(); });
     setSteeringEnabled(false);
 }
 
 void MainWindow::connectSteering()
 {
-    const auto on = [this](const QAction* action, auto&& does) {
-        connect(action, &QAction::triggered, m_steering, does);
+    PlayerSteering* const steering = playerPane()->steering();
+    const auto on = [steering](const QAction* action, auto does) {
+        connect(action, &QAction::triggered, steering, does);
     };
-    on(m_ui->actionSlower, [this] { m_steering->slower(); });
-    on(m_ui->actionFaster, [this] { m_steering->faster(); });
-    on(m_ui->actionNormalSpeed, [this] { m_steering->playNormally(); });
-    on(m_ui->actionLeapForward, [this] { seekRelative(leapMs); });
-    on(m_ui->actionLeapBackward, [this] { seekRelative(-leapMs); });
-    on(m_ui->actionGoToStart, [this] { m_steering->goToStart(); });
-    on(m_ui->actionGoToEnd, [this] { m_steering->goToEnd(); });
-    on(m_ui->actionGoToTime, [this] { m_ui->timecodeField->type(); });
-    on(m_ui->actionTakeAndSave, [this] { takeAndSave(); });
-    on(m_ui->actionShortcuts, [this] {
-        Shortcuts::showPage(*this, *m_ui->menuBar);
-        retakeFocusAfterDialog();
-    });
-    connect(this, &MainWindow::snapshotTimesChanged, m_ui->videoSlider,
-            &TimeSlider::setSnapshotTicks);
-    connect(m_steering, &PlayerSteering::message, this,
-            [this](const QString& text) { statusBar()->showMessage(text, messageMs); });
-    connect(m_steering, &PlayerSteering::typedPositionTaken, this,
-            &MainWindow::giveKeyboardToVideo);
-    connect(m_ui->timecodeField, &TimecodeField::givenUp, this, &MainWindow::giveKeyboardToVideo);
+    on(m_ui->actionSlower, &PlayerSteering::slower);
+    on(m_ui->actionFaster, &PlayerSteering::faster);
+    on(m_ui->actionNormalSpeed, &PlayerSteering::playNormally);
+    on(m_ui->actionGoToStart, &PlayerSteering::goToStart);
+    on(m_ui->actionGoToEnd, &PlayerSteering::goToEnd);
+    on(m_ui->actionMarkStart, &PlayerSteering::markStart);
+    on(m_ui->actionMarkEnd, &PlayerSteering::markEnd);
+    on(m_ui->actionClearStretch, &PlayerSteering::clearStretch);
+    connect(m_ui->actionLoopStretch, &QAction::toggled, steering, &PlayerSteering::setLooping);
 }
 
-void MainWindow::connectStretch()
+void MainWindow::connectPlayback()
 {
-    connect(m_ui->actionMarkStart, &QAction::triggered, m_steering, &PlayerSteering::markStart);
-    connect(m_ui->actionMarkEnd, &QAction::triggered, m_steering, &PlayerSteering::markEnd);
-    connect(m_ui->actionClearStretch, &QAction::triggered, m_steering,
-            &PlayerSteering::clearStretch);
-    connect(m_ui->actionLoopStretch, &QAction::toggled, m_steering, &PlayerSteering::setLooping);
+    const auto on = [this](const QAction* action, auto does) {
+        connect(action, &QAction::triggered, playerPane(), does);
+    };
+    on(m_ui->actionPlayPause, &PlayerPane::playPause);
+    on(m_ui->actionSkipBackward, &PlayerPane::skipBackward);
+    on(m_ui->actionSkipForward, &PlayerPane::skipForward);
+    on(m_ui->actionLeapForward, [this] { playerPane()->seekRelative(leapMs); });
+    on(m_ui->actionLeapBackward, [this] { playerPane()->seekRelative(-leapMs); });
+    on(m_ui->actionStepBackward, &PlayerPane::stepBackward);
+    on(m_ui->actionStepForward, &PlayerPane::stepForward);
+    on(m_ui->actionGoToTime, &PlayerPane::typePosition);
+    QtAV::AVPlayer& player = playerPane()->player();
+    connect(m_ui->actionStepFieldForward, &QAction::triggered, &player,
+            &QtAV::AVPlayer::stepFieldForward);
+    connect(m_ui->actionStepFieldBackward, &QAction::triggered, &player,
+            &QtAV::AVPlayer::stepFieldBackward);
+}
+
+void MainWindow::setupZoom()
+{
+    const VideoZoom& zoom = playerPane()->zoom();
+    connect(&zoom, &VideoZoom::scaled, this, [this](int percent) {
+        statusBar()->showMessage(tr("%1 %").arg(percent), scaleMessageMs);
+    });
+    connect(m_ui->actionFitVideo, &QAction::triggered, &zoom, &VideoZoom::fit);
+    connect(m_ui->actionActualSize, &QAction::triggered, &zoom, &VideoZoom::toggleActualSize);
+    connect(m_ui->actionFourfold, &QAction::triggered, &zoom, &VideoZoom::showFourfold);
 }
 
 void MainWindow::connectMute()
 {
-    const auto show = [this] { m_ui->actionMute->setChecked(m_volumePopup->isMuted()); };
+    VolumePopup* const popup = playerPane()->volumePopup();
+    const auto show = [this, popup] { m_ui->actionMute->setChecked(popup->isMuted()); };
     show();
-    connect(m_volumePopup, &VolumePopup::volumeChanged, m_ui->actionMute, show);
-    connect(m_ui->actionMute, &QAction::triggered, m_volumePopup, &VolumePopup::setMuted);
+    connect(popup, &VolumePopup::volumeChanged, m_ui->actionMute, show);
+    connect(m_ui->actionMute, &QAction::triggered, popup, &VolumePopup::setMuted);
 }
 
 void MainWindow::setupFullScreen()
 {
-    m_fullScreen = new FullScreen(*this, {m_ui->menuBar, m_ui->snapshotPane});
+    m_fullScreen = new FullScreen(*this, {m_ui->menuBar, snapshotPane()});
     connect(m_ui->actionFullScreen, &QAction::triggered, m_fullScreen, &FullScreen::setOn);
     connect(m_fullScreen, &FullScreen::toggled, m_ui->actionFullScreen, &QAction::setChecked);
     auto* const escape = new QShortcut(Qt::Key_Escape, this);
     escape->setEnabled(false);
     connect(m_fullScreen, &FullScreen::toggled, escape, &QShortcut::setEnabled);
     connect(escape, &QShortcut::activated, m_fullScreen, [this] { m_fullScreen->setOn(false); });
-}
-
-void MainWindow::setupKeyTips()
-{
-    auto* const tips = new KeyTips(this);
-    tips->add(*m_ui->playButton, *m_ui->actionPlayPause);
-    tips->add(*m_ui->stepForwardButton, *m_ui->actionStepForward);
-    tips->add(*m_ui->stepBackwardButton, *m_ui->actionStepBackward);
-    tips->add(*m_ui->skipForwardButton, *m_ui->actionSkipForward);
-    tips->add(*m_ui->skipBackwardButton, *m_ui->actionSkipBackward);
-    tips->add(*m_ui->snapshotButton, *m_ui->actionTake_Snapshot);
-    tips->add(*m_ui->saveButton, *m_ui->actionSaveSnapshot);
-    tips->add(*m_ui->timecodeField, *m_ui->actionGoToTime);
-}
-
-/// The picture also gets a description, for users who reach it later.
-void MainWindow::setupSpokenEvents()
-{
-    m_spoken = new SpokenEvents(*this, *m_player, [this] {
-        const QString place = spokenPlace();
-        m_videoOutput->widget()->setAccessibleDescription(place);
-        return place;
-    });
-    m_videoOutput->widget()->setAccessibleName(tr("Picture of the video"));
-}
-
-QString MainWindow::spokenPlace() const
-{
-    const QString time = m_ui->timecodeField->time();
-    const auto frame = m_steering->frameOnScreen();
-    return frame ? tr("%1, frame %2").arg(time).arg(frame->value) : time;
 }
 
 /// Controls that the player's menu does not contain.
@@ -144,19 +133,15 @@ void MainWindow::setSteeringEnabled(bool on)
     }
 }
 
-void MainWindow::giveKeyboardToVideo()
-{
-    m_ui->videoFrame->setFocus();
-}
-
 /// Passes the marked stretch of the open video to batch mode.
 void MainWindow::loadMarkedStretch(BatchModeDialog& dialog) const
 {
-    const MarkedStretch stretch = m_steering == nullptr ? MarkedStretch() : m_steering->stretch();
+    const PlayerSteering* const steering = playerPane()->steering();
+    const MarkedStretch stretch = steering == nullptr ? MarkedStretch() : steering->stretch();
     if (stretch.isEmpty()) {
         return;
     }
-    const qint64 duration = m_player->duration();
+    const qint64 duration = playerPane()->player().duration();
     const qint64 end = std::min(stretch.toMs.value_or(duration), duration);
-    dialog.loadStretch(m_currentVideoPath, stretch.fromMs.value_or(0), duration - end);
+    dialog.loadStretch(playerPane()->video(), stretch.fromMs.value_or(0), duration - end);
 }

@@ -87,6 +87,8 @@ void TimecodeField::type()
     setCurrentWidget(m_edit);
     m_edit->setFocus(Qt::OtherFocusReason);
     m_edit->selectAll();
+    // A form moves this widget in the tab order, but not what it contains.
+    setTabOrder(this, m_edit);
     // Otherwise Shift+Tab would return here.
     setFocusPolicy(Qt::NoFocus);
 }

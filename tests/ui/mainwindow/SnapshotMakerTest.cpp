@@ -31,8 +31,8 @@ CapturedPicture pictureOf(const QSize& size, const QColor& colour = Qt::red)
     return picture;
 }
 
-const QSize small(320, 240);
-const QSize large(3840, 2160);
+const QSize smallSize(320, 240);
+const QSize largeSize(3840, 2160);
 
 MadeSnapshot madeIn(const QList<QVariant>& arguments)
 {
@@ -51,21 +51,21 @@ struct Maker
 void SnapshotMakerTest::smallPicture_isMadeAtOnce()
 {
     Maker made;
-    made.maker.capture(pictureOf(small), {});
+    made.maker.capture(pictureOf(smallSize), {});
     QCOMPARE(made.captured.size(), 1);
     QVERIFY(!madeIn(made.captured.first()).rendering.image.isNull());
-    made.maker.remake(pictureOf(small), {});
+    made.maker.remake(pictureOf(smallSize), {});
     QCOMPARE(made.remade.size(), 1);
 }
 
 void SnapshotMakerTest::largePicture_isMadeInTheBackground()
 {
     Maker made;
-    made.maker.capture(pictureOf(large), {});
+    made.maker.capture(pictureOf(largeSize), {});
     QVERIFY(made.captured.isEmpty());
     QVERIFY(made.captured.wait(patienceMs));
     const MadeSnapshot snapshot = madeIn(made.captured.first());
-    QCOMPARE(snapshot.picture.image.size(), large);
+    QCOMPARE(snapshot.picture.image.size(), largeSize);
     QVERIFY(!snapshot.rendering.image.isNull());
     QCOMPARE(snapshot.rendering.image.pixelColor(10, 10), QColor(Qt::red));
 }
@@ -74,31 +74,31 @@ void SnapshotMakerTest::largeResult_isMadeInTheBackground()
 {
     ImageRecipe enlarging;
     enlarging.keepsSize = false;
-    enlarging.bounds = large;
+    enlarging.bounds = largeSize;
     Maker made;
-    made.maker.capture(pictureOf(small), enlarging);
+    made.maker.capture(pictureOf(smallSize), enlarging);
     QVERIFY(made.captured.isEmpty());
     QVERIFY(made.captured.wait(patienceMs));
-    QCOMPARE(madeIn(made.captured.first()).rendering.image.size(), large);
+    QCOMPARE(madeIn(made.captured.first()).rendering.image.size(), largeSize);
 }
 
 void SnapshotMakerTest::captures_areAnsweredInTheirOrder()
 {
     Maker made;
-    made.maker.capture(pictureOf(large), {});
-    made.maker.capture(pictureOf(small), {});
+    made.maker.capture(pictureOf(largeSize), {});
+    made.maker.capture(pictureOf(smallSize), {});
     QVERIFY(made.captured.isEmpty());
     QTRY_COMPARE_WITH_TIMEOUT(made.captured.size(), 2, patienceMs);
-    QCOMPARE(madeIn(made.captured.at(0)).picture.image.size(), large);
-    QCOMPARE(madeIn(made.captured.at(1)).picture.image.size(), small);
+    QCOMPARE(madeIn(made.captured.at(0)).picture.image.size(), largeSize);
+    QCOMPARE(madeIn(made.captured.at(1)).picture.image.size(), smallSize);
 }
 
 void SnapshotMakerTest::onlyTheNewestRemaking_isAnswered()
 {
     Maker made;
-    made.maker.remake(pictureOf(large, Qt::red), {});
-    made.maker.remake(pictureOf(large, Qt::green), {});
-    made.maker.remake(pictureOf(large, Qt::blue), {});
+    made.maker.remake(pictureOf(largeSize, Qt::red), {});
+    made.maker.remake(pictureOf(largeSize, Qt::green), {});
+    made.maker.remake(pictureOf(largeSize, Qt::blue), {});
     QVERIFY(made.remade.wait(patienceMs));
     QTest::qWait(100);
     QCOMPARE(made.remade.size(), 1);
@@ -110,7 +110,7 @@ void SnapshotMakerTest::onlyTheNewestRemaking_isAnswered()
 void SnapshotMakerTest::finishing_answersAtOnce_andOnlyOnce()
 {
     Maker made;
-    made.maker.remake(pictureOf(large), {});
+    made.maker.remake(pictureOf(largeSize), {});
     made.maker.finishRemaking();
     QCOMPARE(made.remade.size(), 1);
     made.maker.finishRemaking();
@@ -121,7 +121,7 @@ void SnapshotMakerTest::finishing_answersAtOnce_andOnlyOnce()
 void SnapshotMakerTest::forgottenRemaking_isNotAnswered()
 {
     Maker made;
-    made.maker.remake(pictureOf(large), {});
+    made.maker.remake(pictureOf(largeSize), {});
     made.maker.forgetRemaking();
     QTest::qWait(300);
     QVERIFY(made.remade.isEmpty());
