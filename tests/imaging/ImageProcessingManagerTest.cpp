@@ -71,11 +71,11 @@ QImage plainResult(const QImage& image, const ImageProfile& profile, const QSize
     return QtOcv::matToImage(mat, QtOcv::Bgr, QImage::Format_Invalid);
 }
 
-QString s_lastMessage;
+QString lastMessage;
 
 void rememberMessage(QtMsgType, const QMessageLogContext&, const QString& message)
 {
-    s_lastMessage = message;
+    lastMessage = message;
 }
 
 } // namespace
@@ -328,7 +328,7 @@ private slots:
         const auto before = qInstallMessageHandler(rememberMessage);
         static_cast<void>(manager().processImage(filledImage(0), &profile, nullptr));
         qInstallMessageHandler(before);
-        QCOMPARE(s_lastMessage, QStringLiteral("Contrast:  -12  Brightness:  34"));
+        QCOMPARE(lastMessage, QStringLiteral("Contrast:  -12  Brightness:  34"));
     }
 
     void process_drawsTheWatermark_afterResizing()
