@@ -31,8 +31,8 @@ int main(int argc, char** argv)
     Startup::makeSignalsErrors();
     const auto app = Startup::makeApplication<QGuiApplication>(argc, argv);
     Startup::setIdentity();
-    for (const QString& text : SettingsFile::putDamagedAside()) {
-        qWarning().noquote() << text;
+    for (const SettingsFile::PutAside& damaged : SettingsFile::putDamagedAside()) {
+        qWarning().noquote() << SettingsFile::text(damaged);
     }
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();

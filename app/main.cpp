@@ -38,11 +38,15 @@ int main(int argc, char** argv)
     QtAV::Widgets::registerRenderers();
     Startup::quietVideoLibrary();
     Startup::registerMetaTypes();
-    QStringList news = SettingsFile::putDamagedAside();
+    const auto damagedFiles = SettingsFile::putDamagedAside();
     // Kept for the whole run, so that temporary settings objects share its open file.
     const QSettings settings;
     const QString asked = Languages::inArguments(QCoreApplication::arguments());
     Languages::use(*app, asked.isEmpty() ? Languages::chosen(settings) : asked);
+    QStringList news;
+    for (const SettingsFile::PutAside& damaged : damagedFiles) {
+        news += SettingsFile::text(damaged);
+    }
     const QString problem = SettingsFile::writeProblem();
     if (!problem.isEmpty()) {
         news += problem;

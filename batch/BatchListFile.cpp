@@ -2,6 +2,7 @@
 
 #include "batch/BatchWorkerConfig.h"
 #include "profiles/ProfileManager.h"
+#include "profiles/SettingsFile.h"
 
 #include <QMetaProperty>
 #include <QSettings>
@@ -32,7 +33,11 @@ void forEachSetting(const std::function<void(const char* name)>& use)
 
 void BatchListFile::save(const QList<BatchWorkerConfig*>& jobs)
 {
-    QSettings settings(path(), QSettings::IniFormat);
+    const auto file = SettingsFile::open(path());
+    if (file == nullptr) {
+        return;
+    }
+    QSettings& settings = *file;
     settings.remove(jobsArray);
     settings.beginWriteArray(jobsArray, jobs.size());
     for (int i = 0; i < jobs.size(); ++i) {
@@ -46,7 +51,11 @@ void BatchListFile::save(const QList<BatchWorkerConfig*>& jobs)
 
 QList<BatchWorkerConfig*> BatchListFile::load(QObject* parent)
 {
-    QSettings settings(path(), QSettings::IniFormat);
+    const auto file = SettingsFile::open(path());
+    if (file == nullptr) {
+        return {};
+    }
+    QSettings& settings = *file;
     QList<BatchWorkerConfig*> jobs;
     const int count = settings.beginReadArray(jobsArray);
     for (int i = 0; i < count; ++i) {

@@ -1,6 +1,7 @@
 #include "profiles/ProfileManager.h"
 
 #include "profiles/ProfileNames.h"
+#include "profiles/SettingsFile.h"
 
 #include <QDebug>
 #include <QDir>
@@ -81,7 +82,13 @@ ProfileManager::~ProfileManager() = default;
 
 void ProfileManager::loadProfilesFromFile()
 {
-    QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
+    const auto file = SettingsFile::open(getSettingsPath(m_fileName));
+    if (file == nullptr) {
+        m_stored.clear();
+        m_profiles.clear();
+        return;
+    }
+    QSettings& settings = *file;
 
     std::vector<LoadedProfile> loaded;
     QHash<const BaseProfile*, QVariantMap> stored;
@@ -133,7 +140,11 @@ void ProfileManager::loadProfilesFromFile()
 /// Writes only what has changed here: another program may have changed the rest meanwhile.
 void ProfileManager::saveProfiles()
 {
-    QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
+    const auto file = SettingsFile::open(getSettingsPath(m_fileName));
+    if (file == nullptr) {
+        return;
+    }
+    QSettings& settings = *file;
 
     settings.beginGroup(profilesGroup);
     int sortOrder = 0;
@@ -190,10 +201,9 @@ bool ProfileManager::removeProfile(BaseProfile* profile)
     if (m_lastUsedProfile == profile) {
         m_lastUsedProfile = m_profiles.first();
     }
-    {
-        QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
-        settings.beginGroup(profilesGroup);
-        settings.remove(profile->id());
+    if (const auto file = SettingsFile::open(getSettingsPath(m_fileName))) {
+        file->beginGroup(profilesGroup);
+        file->remove(profile->id());
     }
     saveProfiles();
     return true;

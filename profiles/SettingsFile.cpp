@@ -146,7 +146,7 @@ bool SettingsFile::isDamaged(const QString& path)
     return !isSettings(file.read(largestFile + 1)) || !canBeParsed(path);
 }
 
-QString SettingsFile::putAsideIfDamaged(const QString& path)
+std::optional<SettingsFile::PutAside> SettingsFile::putAsideIfDamaged(const QString& path)
 {
     if (!isDamaged(path)) {
         return {};
@@ -156,25 +156,35 @@ QString SettingsFile::putAsideIfDamaged(const QString& path)
             path + QStringLiteral(".bad") + (number > 1 ? QString::number(number) : QString());
         // QFile::rename() never replaces a file.
         if (QFile::rename(path, aside)) {
-            return QCoreApplication::translate(
-                       "SettingsFile", "The settings in %1 cannot be read. They are kept as %2.")
-                .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(aside));
+            return PutAside{path, aside};
         }
     }
     return {};
 }
 
-QStringList SettingsFile::putDamagedAside()
+QVector<SettingsFile::PutAside> SettingsFile::putDamagedAside()
 {
-    QStringList texts;
+    QVector<PutAside> damaged;
     const QStringList files = allFiles();
     for (const QString& file : files) {
-        const QString text = putAsideIfDamaged(file);
-        if (!text.isEmpty()) {
-            texts += text;
+        if (const auto aside = putAsideIfDamaged(file)) {
+            damaged += *aside;
         }
     }
-    return texts;
+    return damaged;
+}
+
+QString SettingsFile::text(const PutAside& damaged)
+{
+    return QCoreApplication::translate("SettingsFile",
+                                       "The settings in %1 cannot be read. They are kept as %2.")
+        .arg(QDir::toNativeSeparators(damaged.path), QDir::toNativeSeparators(damaged.keptPath));
+}
+
+std::unique_ptr<QSettings> SettingsFile::open(const QString& path)
+{
+    return QFileInfo(path).isAbsolute() ? std::make_unique<QSettings>(path, QSettings::IniFormat)
+                                        : nullptr;
 }
 
 QString SettingsFile::writeProblem()

@@ -1,7 +1,12 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
+#include <QVector>
+
+#include <memory>
+#include <optional>
+
+class QSettings;
 
 /// The files in which settings and profiles are stored.
 ///
@@ -11,18 +16,34 @@
 /// so the programs move it aside before that.
 namespace SettingsFile {
 
+/// A damaged file, and the path at which it is kept.
+struct PutAside
+{
+    QString path;
+    QString keptPath;
+};
+
 /// True if the path is not one of our settings files: no regular file, larger than any settings, or
 /// with lines or characters that no settings file has. False if there is no file or it cannot be
 /// read.
 [[nodiscard]] bool isDamaged(const QString& path);
 
 /// Renames a damaged settings file: appends ".bad", or ".bad2" and so on if that name is taken.
-/// Returns a text for people with both names; empty if the file is valid or could not be renamed.
-[[nodiscard]] QString putAsideIfDamaged(const QString& path);
+/// Returns nothing if the file is valid or could not be renamed.
+[[nodiscard]] std::optional<PutAside> putAsideIfDamaged(const QString& path);
 
-/// Does so for all files of the application and returns the texts in order. Call it after the
-/// application's name is set, and before settings are read.
-[[nodiscard]] QStringList putDamagedAside();
+/// Does so for all files of the application and returns the damaged ones in order. Call it after
+/// the application's name is set, and before settings are read.
+[[nodiscard]] QVector<PutAside> putDamagedAside();
+
+/// A text for people with both names, in the current language. The settings hold the language, so
+/// that it is known only after damaged files were put aside.
+[[nodiscard]] QString text(const PutAside& damaged);
+
+/// The settings at a path of ProfileManager::getSettingsPath(). Null for a bare name, which means
+/// that the configuration folder cannot be made: such a file would lie in the folder in which the
+/// user happens to work. Nothing is read or stored then.
+[[nodiscard]] std::unique_ptr<QSettings> open(const QString& path);
 
 /// Why settings cannot be saved, for people: a folder or a file that may not be written, a disk
 /// that is full or read-only. Empty where they can. Tries by writing a file beside them, which is

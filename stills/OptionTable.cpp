@@ -34,8 +34,8 @@ std::vector<OptionEntry> framesOptions()
          "All key frames: the quickest way through a video.", "all key frames", Completes::Nothing,
          nullptr},
         {section, "--scenes", "[=THRESHOLD]", &T::scenes,
-         "The first frame of each scene. The threshold, above 0 and up to 1, says how different "
-         "it has to be from the frame before; 0.3 unless you say otherwise.",
+         "The first frame of each scene. The threshold, above 0 and up to 1, says how much "
+         "it must differ from the previous frame; 0.3 by default.",
          "the first frame of each scene", Completes::Nothing, nullptr},
         {section, "--best", "N", &T::best,
          "The N best frames, well spread: in each of N equal parts the sharpest one that is not "
@@ -81,16 +81,16 @@ std::vector<OptionEntry> pictureOptions()
          "PNG and TIFF pictures with 16 bits a channel, where the video has more than 8.", nullptr,
          Completes::Nothing, nullptr},
         {section, "-q,--quality", "N", &T::quality,
-         "The quality of JPEG, WebP, AVIF and JPEG XL pictures, 0 to 100; 90 unless a profile or "
-         "you say otherwise.",
+         "The quality of JPEG, WebP, AVIF and JPEG XL pictures, 0 to 100. The default is 90, or "
+         "what --profile says.",
          nullptr, Completes::Nothing, nullptr},
         {section, "--deinterlace", "WHEN", &T::deinterlace,
-         "What becomes of interlaced video: auto makes the pictures that comb whole, on takes each "
-         "picture for one that does, off leaves all as they are stored. The default is auto, or "
+         "How to treat interlaced video: auto repairs the pictures that comb, on treats every "
+         "picture as one that does, off leaves all as they are stored. The default is auto, or "
          "what --profile says.",
          nullptr, Completes::Words, deinterlacings},
         {section, "--hdr", "HOW", &T::hdr,
-         "What becomes of high dynamic range: tone-mapped brings it to sRGB, as the screen shows "
+         "How to treat high dynamic range: tone-mapped converts it to sRGB, as the screen shows "
          "it; stored keeps the video's own values in PNG and TIFF pictures of 16 bits a channel, "
          "for grading. The default is tone-mapped, or what --profile says.",
          nullptr, Completes::Words, hdrs},
@@ -120,17 +120,17 @@ std::vector<OptionEntry> sheetOptions()
     return {
         {section, "--sheet", "[=NAME]", &T::sheet,
          "One contact sheet a video in place of single pictures: small pictures side by side. "
-         "The name may have the field {stem}; it is {stem}-sheet unless you say otherwise.",
+         "The name may have the field {stem}; it is {stem}-sheet by default.",
          "one contact sheet a video", Completes::Nothing, nullptr},
         {section, "--with-pictures", nullptr, &T::withPictures,
          "Beside the sheet, the single pictures too.", nullptr, Completes::Nothing, nullptr},
         {section, "--columns", "N", &T::columns,
-         "How many pictures stand side by side, 1 to 100; about as many as below each other "
-         "unless you say otherwise.",
+         "How many pictures stand side by side, 1 to 100; by default, about as many as there are "
+         "rows.",
          nullptr, Completes::Nothing, nullptr},
         {section, "--sheet-gap", "PIXELS", &T::sheetGap,
-         "The space between the pictures, 0 to 500; 12 unless you say otherwise.", nullptr,
-         Completes::Nothing, nullptr},
+         "The space between the pictures, 0 to 500; 12 by default.", nullptr, Completes::Nothing,
+         nullptr},
         {section, "--sheet-times", nullptr, &T::sheetTimes,
          "Write the time under each picture, as it is done anyway.", nullptr, Completes::Nothing,
          nullptr},
@@ -218,21 +218,22 @@ std::vector<OptionEntry> otherOptions()
 {
     return {
         {Section::Running, "-j,--jobs", "N", &T::jobs,
-         "How many decoders work at once, 1 to 256; one for each core unless you say otherwise.",
-         nullptr, Completes::Nothing, nullptr},
+         "How many decoders work at once, 1 to 256; one for each core by default.", nullptr,
+         Completes::Nothing, nullptr},
         {Section::Running, "--memory", "SIZE", &T::memory,
-         "How much memory pictures may take that wait for their turn, such as 800M or 2G; a "
-         "quarter of the machine's and 2G at most unless you say otherwise.",
+         "How much memory pictures may take while they are made or wait for their turn, such as "
+         "800M or 2G; by default a quarter of the machine's, but at most 2G. Pictures wait in "
+         "hidden files beside the others, except with --overwrite and -o -: then they wait in "
+         "memory, and the decoders pause when it is used up.",
          nullptr, Completes::Nothing, nullptr},
         {Section::Running, "--picture-memory", "SIZE", &T::pictureMemory,
          "How much memory one picture of a video may take, decoded and converted, such as 500M; 1G "
-         "unless you say otherwise. A video that declares larger ones is an error.",
+         "by default. A video that declares larger ones is an error.",
          nullptr, Completes::Nothing, nullptr},
         {Section::Running, "--position-timeout", "TIME", &T::positionTimeout,
-         "How long one position may take, or the opening of a video, such as 10s or 5m; 0 for any "
-         "time, 60s unless you say otherwise. It is an error then, and the run goes on. After "
-         "three "
-         "of them the rest of the video is given up.",
+         "How long one position may take, or the opening of a video, such as 10s or 5m; 0 for no "
+         "limit, 60s by default. A position that takes longer is an error, and the run goes on; "
+         "after three of them the rest of the video is given up.",
          nullptr, Completes::Nothing, nullptr},
         {Section::Information, "-h,--help", nullptr, &T::help, "Show the most useful options.",
          nullptr, Completes::Nothing, nullptr},

@@ -239,8 +239,8 @@ int refuse(const std::string& error)
 /// Moves unreadable settings aside and reports them once.
 void tellDamagedSettings()
 {
-    for (const QString& text : SettingsFile::putDamagedAside()) {
-        std::fprintf(stderr, "stills: %s\n", bytesOf(text).c_str());
+    for (const SettingsFile::PutAside& damaged : SettingsFile::putDamagedAside()) {
+        std::fprintf(stderr, "stills: %s\n", bytesOf(SettingsFile::text(damaged)).c_str());
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QTest>
+#include <QTranslator>
 
 #include <sys/stat.h>
 
@@ -26,6 +27,22 @@ QByteArray contentOf(const QString& path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
+
+/// A language that says everything in capital letters, while it exists.
+class ShoutingTranslator : public QTranslator
+{
+public:
+    ShoutingTranslator() { QCoreApplication::installTranslator(this); }
+    ~ShoutingTranslator() override { QCoreApplication::removeTranslator(this); }
+
+    QString translate(const char* /*context*/, const char* text, const char* /*comment*/,
+                      int /*count*/) const override
+    {
+        return QString::fromUtf8(text).toUpper();
+    }
+
+    bool isEmpty() const override { return false; }
+};
 
 } // namespace
 
@@ -96,27 +113,39 @@ private Q_SLOTS:
         const QByteArray damage(100, '\0');
         for (const char* const aside : {".bad", ".bad2"}) {
             QVERIFY(m_home->writeSettingsFile(settingsFileName, damage));
-            const QStringList texts = SettingsFile::putDamagedAside();
-            QCOMPARE(texts.size(), 1);
-            QVERIFY(texts.first().contains(path() + QString::fromLatin1(aside)));
+            const auto damaged = SettingsFile::putDamagedAside();
+            QCOMPARE(damaged.size(), 1);
+            QCOMPARE(damaged.first().path, path());
+            QCOMPARE(damaged.first().keptPath, path() + QString::fromLatin1(aside));
+            const QString text = SettingsFile::text(damaged.first());
+            QVERIFY(text.contains(damaged.first().keptPath));
             QVERIFY(!QFile::exists(path()));
             QCOMPARE(contentOf(path() + QString::fromLatin1(aside)), damage);
-            QCOMPARE(SettingsFile::putDamagedAside(), QStringList());
+            QVERIFY(SettingsFile::putDamagedAside().isEmpty());
         }
+    }
+
+    void damage_isTold_inTheLanguageThatIsChosenLater()
+    {
+        QVERIFY(m_home->writeSettingsFile(settingsFileName, QByteArray(10, '\0')));
+        const auto damaged = SettingsFile::putDamagedAside();
+        QCOMPARE(damaged.size(), 1);
+        const ShoutingTranslator language;
+        QVERIFY(SettingsFile::text(damaged.first()).startsWith(QStringLiteral("THE SETTINGS IN ")));
     }
 
     void listsThatDeclareTooMuch_areDamage_whereQtWouldThrow()
     {
         const QByteArray text = "[profiles]\nA\\id=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n";
         QVERIFY(m_home->writeSettingsFile(settingsFileName, text));
-        const QStringList texts = SettingsFile::putDamagedAside();
+        const auto damaged = SettingsFile::putDamagedAside();
         QSettings settings(path(), QSettings::IniFormat);
 #if QT_VERSION_MAJOR >= 6
         // It comes to the end of the value before it takes the memory.
-        QCOMPARE(texts, QStringList());
+        QVERIFY(damaged.isEmpty());
         QCOMPARE(settings.value(QStringLiteral("profiles/A/id")).toList(), QVariantList());
 #else
-        QCOMPARE(texts.size(), 1);
+        QCOMPARE(damaged.size(), 1);
         QCOMPARE(settings.allKeys(), QStringList());
 #endif
         settings.setValue(QStringLiteral("a"), 1);

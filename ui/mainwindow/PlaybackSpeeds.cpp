@@ -2,6 +2,8 @@
 
 #include <QtAV/AVPlayer.h>
 
+#include <QGuiApplication>
+
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -31,5 +33,8 @@ qreal PlaybackSpeeds::faster(qreal speed)
 
 QString PlaybackSpeeds::text(qreal speed)
 {
-    return QStringLiteral("%1\u00d7").arg(speed);
+    const QString text = QStringLiteral("%1\u00d7").arg(speed);
+    // Without marks, the sign would come before the number in a line from right to left.
+    constexpr QChar fromLeft(0x200e);
+    return QGuiApplication::isRightToLeft() ? fromLeft + text + fromLeft : text;
 }

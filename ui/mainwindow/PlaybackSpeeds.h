@@ -10,7 +10,7 @@ namespace PlaybackSpeeds {
 [[nodiscard]] qreal slower(qreal speed);
 [[nodiscard]] qreal faster(qreal speed);
 
-/// A text such as "1.5×".
+/// A text such as "1.5×", which looks the same in a line from right to left.
 [[nodiscard]] QString text(qreal speed);
 
 } // namespace PlaybackSpeeds

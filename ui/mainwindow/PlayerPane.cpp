@@ -57,6 +57,7 @@ bool PlayerPane::setupPlayer(const VideoOutputFactory& makeVideoOutput, qint64 p
     connectControls();
     alignControls();
     setupSteering();
+    showSpeed(m_player->speed());
     showOpenButton(m_ui->openVideoLabel->text());
     return true;
 }

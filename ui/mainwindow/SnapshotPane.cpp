@@ -105,6 +105,7 @@ void SnapshotPane::setupLooks()
     // Two lines, so that the snapshot keeps its size when its line appears.
     m_ui->snapshotSummaryLabel->setFixedHeight(
         2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());
+    m_ui->snapshotSummaryLabel->setSeparator(SnapshotSummary::separator);
     m_ui->originalSizeButton->giveWayTo(*m_ui->snapshotSummaryLabel, 2);
     m_ui->snapshotImageView->setPlaceholder(theme::icon(QStringLiteral("Image"), theme::Ink::Quiet),
                                             tr("No snapshot yet"));

@@ -50,5 +50,5 @@ QString SnapshotSummary::text(const QSize& saved, const QSize& frame, const QStr
     if (recipe.watermark) {
         parts += translatedSummary(QT_TRANSLATE_NOOP("SnapshotSummary", "watermark"));
     }
-    return parts.join(QStringLiteral(" \u00b7 "));
+    return parts.join(separator);
 }

@@ -15,8 +15,10 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QTest>
+#include <QTextLayout>
 
 #include <algorithm>
 
@@ -62,6 +64,7 @@ private Q_SLOTS:
     void unplayableVideo_isNamed_andOthersAreOffered();
     void buttons_showTheirKeys();
     void speedButton_showsTheSpeed();
+    void speed_hasItsSignBehindTheNumber_fromRightToLeft();
     void window_fitsASmallScreen_withLargeFonts();
 };
 
@@ -218,6 +221,25 @@ void MainWindowLooksTest::speedButton_showsTheSpeed()
     QCOMPARE(button.text(), QStringLiteral("1\u00d7"));
     window.player().setSpeed(1.5);
     QTRY_COMPARE(button.text(), QStringLiteral("1.5\u00d7"));
+}
+
+void MainWindowLooksTest::speed_hasItsSignBehindTheNumber_fromRightToLeft()
+{
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto restore = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+    OpenWindow window;
+    const QString text = window.find<QPushButton>("speedButton").text();
+    QTextLayout layout(text);
+    QTextOption option;
+    option.setTextDirection(Qt::RightToLeft);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    const auto placeOf = [&](const QString& character) {
+        return line.cursorToX(text.indexOf(character));
+    };
+    QVERIFY(placeOf(QStringLiteral("1")) < placeOf(QStringLiteral("\u00d7")));
 }
 
 void MainWindowLooksTest::window_fitsASmallScreen_withLargeFonts()

@@ -3,17 +3,13 @@
 #include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
-#include "ui/mainwindow/OpenVideoButton.h"
-#include "ui/mainwindow/PlayerSteering.h"
 #include "ui/mainwindow/RecentFiles.h"
-#include "ui/mainwindow/TimeSlider.h"
 #include "ui/theme/ActionButton.h"
 #include "ui/widgets/VolumePopup.h"
 
 #include <QtAV/AVPlayer.h>
 #include <QtAV/VideoOutput.h>
 
-#include <QApplication>
 #include <QLabel>
 #include <QSettings>
 #include <QSignalSpy>
