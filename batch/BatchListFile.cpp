@@ -2,7 +2,6 @@
 
 #include "batch/BatchWorkerConfig.h"
 #include "profiles/ProfileManager.h"
-#include "profiles/SettingsFile.h"
 
 #include <QMetaProperty>
 #include <QSettings>
@@ -33,11 +32,7 @@ void forEachSetting(const std::function<void(const char* name)>& use)
 
 void BatchListFile::save(const QList<BatchWorkerConfig*>& jobs)
 {
-    const auto file = SettingsFile::open(path());
-    if (file == nullptr) {
-        return;
-    }
-    QSettings& settings = *file;
+    QSettings settings(path(), QSettings::IniFormat);
     settings.remove(jobsArray);
     settings.beginWriteArray(jobsArray, jobs.size());
     for (int i = 0; i < jobs.size(); ++i) {
@@ -51,11 +46,7 @@ void BatchListFile::save(const QList<BatchWorkerConfig*>& jobs)
 
 QList<BatchWorkerConfig*> BatchListFile::load(QObject* parent)
 {
-    const auto file = SettingsFile::open(path());
-    if (file == nullptr) {
-        return {};
-    }
-    QSettings& settings = *file;
+    QSettings settings(path(), QSettings::IniFormat);
     QList<BatchWorkerConfig*> jobs;
     const int count = settings.beginReadArray(jobsArray);
     for (int i = 0; i < count; ++i) {

@@ -4,7 +4,6 @@
 #include "batch/SecondsText.h"
 #include "profiles/OutputNaming.h"
 #include "profiles/ProfileManager.h"
-#include "profiles/SettingsFile.h"
 
 #include <QFileInfo>
 #include <QMetaProperty>
@@ -154,12 +153,9 @@ void BatchWorkerConfig::loadVideoInfo()
 
 void BatchWorkerConfig::saveAsDefault() const
 {
-    const auto settings = SettingsFile::open(getSettingsPath());
-    if (settings == nullptr) {
-        return;
-    }
+    QSettings settings(getSettingsPath(), QSettings::IniFormat);
     forEachDefault(*this, [this, &settings](const char* name) {
-        settings->setValue(QString::fromLatin1(name), property(name));
+        settings.setValue(QString::fromLatin1(name), property(name));
     });
 }
 
@@ -168,14 +164,11 @@ void BatchWorkerConfig::loadFromLastUsed()
     setImageProfile(dynamic_cast<ImageProfile*>(ImageProfile::profileManager()->lastUsedProfile()));
     setFileNameProfile(
         dynamic_cast<FileNameProfile*>(FileNameProfile::profileManager()->lastUsedProfile()));
-    const auto settings = SettingsFile::open(getSettingsPath());
-    if (settings == nullptr) {
-        return;
-    }
+    const QSettings settings(getSettingsPath(), QSettings::IniFormat);
     forEachDefault(*this, [this, &settings](const char* name) {
         const QString key = QString::fromLatin1(name);
-        if (settings->contains(key)) {
-            setProperty(name, settings->value(key));
+        if (settings.contains(key)) {
+            setProperty(name, settings.value(key));
         }
     });
 }

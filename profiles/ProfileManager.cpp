@@ -1,7 +1,6 @@
 #include "profiles/ProfileManager.h"
 
 #include "profiles/ProfileNames.h"
-#include "profiles/SettingsFile.h"
 
 #include <QDebug>
 #include <QDir>
@@ -82,13 +81,7 @@ ProfileManager::~ProfileManager() = default;
 
 void ProfileManager::loadProfilesFromFile()
 {
-    const auto file = SettingsFile::open(getSettingsPath(m_fileName));
-    if (file == nullptr) {
-        m_stored.clear();
-        m_profiles.clear();
-        return;
-    }
-    QSettings& settings = *file;
+    QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
 
     std::vector<LoadedProfile> loaded;
     QHash<const BaseProfile*, QVariantMap> stored;
@@ -140,11 +133,7 @@ void ProfileManager::loadProfilesFromFile()
 /// Writes only what has changed here: another program may have changed the rest meanwhile.
 void ProfileManager::saveProfiles()
 {
-    const auto file = SettingsFile::open(getSettingsPath(m_fileName));
-    if (file == nullptr) {
-        return;
-    }
-    QSettings& settings = *file;
+    QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
 
     settings.beginGroup(profilesGroup);
     int sortOrder = 0;
@@ -201,9 +190,10 @@ bool ProfileManager::removeProfile(BaseProfile* profile)
     if (m_lastUsedProfile == profile) {
         m_lastUsedProfile = m_profiles.first();
     }
-    if (const auto file = SettingsFile::open(getSettingsPath(m_fileName))) {
-        file->beginGroup(profilesGroup);
-        file->remove(profile->id());
+    {
+        QSettings settings(getSettingsPath(m_fileName), QSettings::IniFormat);
+        settings.beginGroup(profilesGroup);
+        settings.remove(profile->id());
     }
     saveProfiles();
     return true;

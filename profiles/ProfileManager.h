@@ -19,8 +19,7 @@ class QSettings;
 /// so that pointers to them stay valid. The manager deletes no profile, not even in its destructor.
 ///
 /// A profile's values reach the file only through saveProfiles(). Failures to read count as an
-/// empty file and failures to write are ignored, both without a message, as if the configuration
-/// folder cannot be made; groups and keys in the
+/// empty file and failures to write are ignored, both without a message; groups and keys in the
 /// file that the manager does not know stay there.
 ///
 /// User-interface thread only.
@@ -87,7 +86,7 @@ public:
 
     /// The full path of the settings file with the bare name `fileName` in the application's
     /// configuration folder, which is made if it is missing. If it cannot be made, `fileName`
-    /// itself: SettingsFile::open() opens nothing then.
+    /// itself, which is then relative to the working directory.
     static QString getSettingsPath(const QString& fileName);
 
 private:

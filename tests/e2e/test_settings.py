@@ -106,30 +106,6 @@ class SettingsTest(MorvantileCase):
         self.desktop.key("Return")
         wait_until((elsewhere / "picture.png").exists, "nothing was saved beside the video")
 
-    def test_window_without_a_folder_for_settings_says_so_and_works_on(self):
-        self.home.mkdir()
-        (self.home / "config").write_text("a file where the folder should be")
-        # The program is started in its home folder.
-        before = {path.name for path in self.home.iterdir()}
-        program = self.start()
-        self.end_message(program, "Settings cannot be saved")
-        self.open_paused(program, self.sample("h264_bframes.mp4"))
-        self.take_snapshot(program)
-        self.save_as(program, self.folder / "one.png")
-        self.assertFalse(any("cannot be saved" in label.name for label in program.find_all("label")))
-        self.close(program)
-        new = {path.name for path in self.home.iterdir()} - before
-        self.assertLessEqual(new, {"morvantile.log", "data", "cache"})
-
-    def test_damaged_settings_are_told_in_the_chosen_language(self):
-        folder = self.home / "config/Morvantile"
-        folder.mkdir(parents=True)
-        settings = folder / "Morvantile.conf"
-        settings.write_bytes(bytes(100))
-        program = self.start(["--language=de"])
-        self.end_message(program, "Die Einstellungen in")
-        self.assertTrue(settings.with_name("Morvantile.conf.bad").exists())
-
     # --- what the cases are made of ------------------------------------------------------------
 
     def open_volume(self, program):
@@ -137,17 +113,6 @@ class SettingsTest(MorvantileCase):
         program.open_with_dialog(self.sample("h264_gop250.mp4"))
         program.click("push button", "Volume Control")
         return wait_until(lambda: self.desktop.window_area("Form"), "no popup")
-
-    def end_message(self, program, text):
-        """Ends the message with the text, which is the only one."""
-
-        def told():
-            return [label for label in program.find_all("label") if text in label.name]
-
-        wait_until(lambda: len(told()) == 1, lambda: f"{len(told())} messages say: {text}")
-        self.desktop.key("Return")
-        wait_until(lambda: not told(), "the message stays")
-        program.window("Morvantile")
 
     def wait_for_setting(self, key, wanted):
         """Waits until the settings file has an expected value."""

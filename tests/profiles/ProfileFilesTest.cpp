@@ -247,7 +247,7 @@ private slots:
         QCOMPARE(ProfileManager::getSettingsPath(fileName), fileName);
     }
 
-    void nothingIsStored_whenTheConfigurationFolderCannotBeMade()
+    void profiles_areKeptInTheWorkingFolder_whenTheConfigurationFolderCannotBeMade()
     {
         QFile obstacle(home().path(QStringLiteral("config")));
         QVERIFY(obstacle.open(QIODevice::WriteOnly));
@@ -255,23 +255,10 @@ private slots:
         const auto goBack = qScopeGuard([&workingFolder] { QDir::setCurrent(workingFolder); });
         QVERIFY(QDir::setCurrent(home().path(QString())));
 
-        // Neither may a file of that name be taken for ours.
-        QFile foreign(QStringLiteral("other-") + fileName);
-        QVERIFY(foreign.open(QIODevice::WriteOnly));
-        foreign.write("[profiles]\nA\\name=x\n");
-        foreign.close();
-        const ProfileManager reader(foreign.fileName(), factory(), false);
-        QVERIFY(reader.profiles().isEmpty());
-
-        const QStringList before = QDir().entryList();
-        ProfileManager manager(fileName, factory(), true);
-        QCOMPARE(namesOf(manager), QStringList(QStringLiteral("[Unnamed Settings]")));
-        BaseProfile* const added = manager.createProfile();
-        manager.addProfile(added);
-        manager.setLastUsedProfile(added);
-        QVERIFY(manager.removeProfile(manager.profiles().constFirst()));
-        QCOMPARE(manager.profiles(), QList<BaseProfile*>{added});
-        QCOMPARE(QDir().entryList(), before);
+        const ProfileManager manager(fileName, factory(), true);
+        QVERIFY(QFileInfo(home().path(fileName)).isFile());
+        const ProfileManager reader(fileName, factory(), false);
+        QCOMPARE(reader.profiles().constFirst()->id(), manager.profiles().constFirst()->id());
     }
 };
 
