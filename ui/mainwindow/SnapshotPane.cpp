@@ -102,7 +102,9 @@ void SnapshotPane::connectControls()
 
 void SnapshotPane::setupLooks()
 {
-    // Two lines, so that the snapshot keeps its size when its line appears.
+    // Two lines, so that the snapshot keeps its size when its line appears. Their font is set when
+    // the label is polished.
+    m_ui->snapshotSummaryLabel->ensurePolished();
     m_ui->snapshotSummaryLabel->setFixedHeight(
         2 * m_ui->snapshotSummaryLabel->fontMetrics().lineSpacing());
     m_ui->snapshotSummaryLabel->setSeparator(SnapshotSummary::separator);
