@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <optional>
 
 extern "C" {
@@ -117,6 +118,17 @@ Colours::Primaries primariesOf(const AVFrame& frame)
                                                                    : Colours::Primaries::Standard;
 }
 
+/// The value, or another one if it is none of its enumeration: FFmpeg passes on any number that it
+/// finds in a file.
+template <typename Value>
+Value knownOr(Value other, const Value& value, Value end)
+{
+    int number = 0;
+    static_assert(sizeof number == sizeof value);
+    std::memcpy(&number, &value, sizeof number);
+    return number >= 0 && number < static_cast<int>(end) ? value : other;
+}
+
 } // namespace
 
 bool Colours::isStandard() const
@@ -133,15 +145,25 @@ FramePtr statedColours(const AVStream& stream)
 {
     FramePtr stated = makeFrame();
     const AVCodecParameters& codec = *stream.codecpar;
-    stated->color_primaries = codec.color_primaries;
-    stated->color_trc = codec.color_trc;
-    stated->colorspace = codec.color_space;
-    stated->color_range = codec.color_range;
+    stated->color_primaries = knownOr(AVCOL_PRI_UNSPECIFIED, codec.color_primaries, AVCOL_PRI_NB);
+    stated->color_trc = knownOr(AVCOL_TRC_UNSPECIFIED, codec.color_trc, AVCOL_TRC_NB);
+    stated->colorspace = knownOr(AVCOL_SPC_UNSPECIFIED, codec.color_space, AVCOL_SPC_NB);
+    stated->color_range = knownOr(AVCOL_RANGE_UNSPECIFIED, codec.color_range, AVCOL_RANGE_NB);
     addSideData(*stated, AV_FRAME_DATA_CONTENT_LIGHT_LEVEL,
                 sideDataOf(stream, AV_PKT_DATA_CONTENT_LIGHT_LEVEL));
     addSideData(*stated, AV_FRAME_DATA_MASTERING_DISPLAY_METADATA,
                 sideDataOf(stream, AV_PKT_DATA_MASTERING_DISPLAY_METADATA));
     return stated;
+}
+
+void forgetUnknownColours(AVFrame& frame)
+{
+    frame.color_primaries = knownOr(AVCOL_PRI_UNSPECIFIED, frame.color_primaries, AVCOL_PRI_NB);
+    frame.color_trc = knownOr(AVCOL_TRC_UNSPECIFIED, frame.color_trc, AVCOL_TRC_NB);
+    frame.colorspace = knownOr(AVCOL_SPC_UNSPECIFIED, frame.colorspace, AVCOL_SPC_NB);
+    frame.color_range = knownOr(AVCOL_RANGE_UNSPECIFIED, frame.color_range, AVCOL_RANGE_NB);
+    frame.chroma_location =
+        knownOr(AVCHROMA_LOC_UNSPECIFIED, frame.chroma_location, AVCHROMA_LOC_NB);
 }
 
 void completeColours(AVFrame& frame, const AVFrame& stated)

@@ -26,6 +26,9 @@ struct Colours : StoredColours
 /// pixels. Null when memory runs out.
 [[nodiscard]] FramePtr statedColours(const AVStream& stream);
 
+/// Replaces values that no version of this program's FFmpeg defines by "unspecified".
+void forgetUnknownColours(AVFrame& frame);
+
 /// Adds what a picture does not state about its colours itself. Decoders drop some of what the
 /// container states.
 void completeColours(AVFrame& frame, const AVFrame& stated);
