@@ -69,6 +69,8 @@ public:
         Running,
     };
 
+    bool openContext();
+    void leaveStuckThreads();
     bool sendAndReceive(const AVPacket* packet);
     bool wantsKeyFrameAtOnce() const;
     void startBehindKeyFrame(const AVPacket& packet);
@@ -98,6 +100,7 @@ public:
     /// sent.
     qint64 startTicks = AV_NOPTS_VALUE;
     bool draining = false;
+    bool decodesOneAtATime = false; ///< of an AV1 stream in which there was an error
     bool hasSubLayers = false;
     UnreferencedPictures unreferenced;
     SequenceChange sequenceChange;
@@ -123,6 +126,7 @@ void VideoDecoder::setCodecContext(const VideoCodecContext* context)
 {
     close();
     d->parameters = context ? context->parameters() : nullptr;
+    d->decodesOneAtATime = false;
 }
 
 void VideoDecoder::setPictureMemory(qint64 bytes)
@@ -148,30 +152,36 @@ bool VideoDecoder::open()
     }
     routeFFmpegLog();
     const AVCodecParameters& stream = *d->parameters->codec;
-    if (!d->memory.begin(*d->parameters)) {
+    if (!d->memory.begin(*d->parameters) || !d->openContext()) {
         return false;
     }
-    const AVCodec* codec = decoderFor(*d->parameters);
-    CodecContextPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);
-    if (!context || avcodec_parameters_to_context(context.get(), d->parameters->codec.get()) < 0) {
-        return false;
-    }
-    context->pkt_timebase = d->parameters->timeline.timeBase();
-    const QVariantHash section = d->options.value(QStringLiteral("avcodec")).toHash();
-    d->memory.provideFor(*context, section.value(QStringLiteral("threads"), 0).toInt());
-    // Otherwise pictures that are cropped at the left or the top are cropped at a column that suits
-    // the processor.
-    context->flags |= AV_CODEC_FLAG_UNALIGNED;
-    if (avcodec_open2(context.get(), codec, nullptr) < 0) {
-        return false;
-    }
-    d->context = std::move(context);
     d->converter = std::make_shared<PictureConverter>();
     d->hasSubLayers = stream.codec_id == AV_CODEC_ID_HEVC &&
                       hevcHasSubLayers(stream.extradata, stream.extradata_size);
     d->unreferenced = UnreferencedPictures(stream);
     d->sequenceChange = SequenceChange(stream);
     d->applySkipOptions();
+    return true;
+}
+
+bool VideoDecoder::Private::openContext()
+{
+    const AVCodec* codec = decoderFor(*parameters);
+    CodecContextPtr opened(codec ? avcodec_alloc_context3(codec) : nullptr);
+    if (!opened || avcodec_parameters_to_context(opened.get(), parameters->codec.get()) < 0) {
+        return false;
+    }
+    opened->pkt_timebase = parameters->timeline.timeBase();
+    const QVariantHash section = options.value(QStringLiteral("avcodec")).toHash();
+    memory.provideFor(*opened, section.value(QStringLiteral("threads"), 0).toInt());
+    // Otherwise pictures that are cropped at the left or the top are cropped at a column that suits
+    // the processor.
+    opened->flags |= AV_CODEC_FLAG_UNALIGNED;
+    opened->flags |= decodesOneAtATime ? AV_CODEC_FLAG_LOW_DELAY : 0;
+    if (avcodec_open2(opened.get(), codec, nullptr) < 0) {
+        return false;
+    }
+    context = std::move(opened);
     return true;
 }
 
@@ -366,9 +376,12 @@ bool VideoDecoder::Private::resumeAfterKeyFrame()
     return sendAndReceive(packet->get());
 }
 
-/// A null packet drains.
+/// A null packet drains. Fails if there is no decoder, see leaveStuckThreads().
 bool VideoDecoder::Private::sendAndReceive(const AVPacket* packet)
 {
+    if (!context) {
+        return false;
+    }
     if (draining && packet) {
         avcodec_flush_buffers(context.get());
         draining = false;
@@ -383,7 +396,24 @@ bool VideoDecoder::Private::sendAndReceive(const AVPacket* packet)
         draining = !packet;
     }
     receiveAll(failed);
+    const bool mayGetStuck = context->codec_id == AV_CODEC_ID_AV1 && context->thread_count != 1;
+    if (failed && mayGetStuck && !decodesOneAtATime) {
+        leaveStuckThreads();
+    }
     return !failed;
+}
+
+/// After an error in AV1, the decoder's threads may wait for each other for ever when they are
+/// given more pictures. A new decoder that works on one picture at a time does not; what refers to
+/// earlier pictures is lost until the next key frame.
+void VideoDecoder::Private::leaveStuckThreads()
+{
+    decodesOneAtATime = true;
+    draining = false;
+    context.reset();
+    if (openContext()) {
+        applySkipOptions();
+    }
 }
 
 /// Releases all frames held and prepares the decoder for a new start.
@@ -426,6 +456,7 @@ void VideoDecoder::Private::deliver(FramePtr frame)
     repeatedTicks = AV_NOPTS_VALUE;
     lastTicks = ticks;
     nextTicks = ticks + std::max<qint64>(1, durationTicks(*frame));
+    forgetUnknownColours(*frame);
     completeColours(*frame, *parameters->statedColours);
     if (parameters->cleanAperture) {
         cutTo(*parameters->cleanAperture, *frame, *parameters->codec);

@@ -6,6 +6,8 @@
 #include <QTemporaryFile>
 #include <QTest>
 
+#include <memory>
+
 using namespace decoding;
 using testsupport::Sample;
 using testsupport::Trait;
@@ -20,6 +22,32 @@ QVariantHash skipping(int discard)
     return {
         {QStringLiteral("avcodec"), QVariantHash{{QStringLiteral("skip_frame"), discard},
                                                  {QStringLiteral("skip_loop_filter"), discard}}}};
+}
+
+/// A copy of the sample with noise in its third video packet, behind the first `intact` bytes. Null
+/// if that fails.
+std::unique_ptr<QTemporaryFile> damagedCopy(const QString& name, int intact)
+{
+    Player whole(testsupport::samplePath(name));
+    QFile source(testsupport::samplePath(name));
+    auto copy = std::make_unique<QTemporaryFile>();
+    if (!whole.isReady() || !source.open(QIODevice::ReadOnly) || !copy->open()) {
+        return nullptr;
+    }
+    QByteArray packet;
+    for (int i = 0; i < 3; ++i) {
+        packet = whole.nextVideoPacket()->data;
+    }
+    QByteArray content = source.readAll();
+    const int at = content.indexOf(packet);
+    if (at < 0) {
+        return nullptr;
+    }
+    const int damaged = packet.size() - intact;
+    content.replace(at + intact, damaged, QByteArray(damaged, '\x5a'));
+    copy->write(content);
+    copy->close();
+    return copy;
 }
 
 } // namespace
@@ -46,6 +74,7 @@ private slots:
     void options_areIgnored_whenUnknown();
     void drainPackets_giveNoFrame_whenNoneIsHeld();
     void decoder_staysUsable_afterDamagedPackets();
+    void av1_goesOn_atTheNextKeyFrame_afterAnError();
     void decoder_startsOver_whenGivenPacketsAfterTheEnd();
 };
 
@@ -285,25 +314,9 @@ void VideoDecoderTest::decoder_staysUsable_afterDamagedPackets()
 {
     const QString name = QStringLiteral("h264_bframes.mp4");
     const Sample& sample = testsupport::sampleNamed(name);
-    // A file like the sample, but with noise instead of its third packet's picture.
-    Player whole(testsupport::samplePath(name));
-    QVERIFY(whole.isReady());
-    QByteArray damaged;
-    for (int i = 0; i < 3; ++i) {
-        damaged = whole.nextVideoPacket()->data;
-    }
-    QFile source(testsupport::samplePath(name));
-    QVERIFY(source.open(QIODevice::ReadOnly));
-    QByteArray content = source.readAll();
-    const int at = content.indexOf(damaged);
-    QVERIFY(at > 0);
-    content.replace(at, damaged.size(), QByteArray(damaged.size(), '\x5a'));
-    QTemporaryFile copy;
-    QVERIFY(copy.open());
-    copy.write(content);
-    copy.close();
-
-    Player player(copy.fileName());
+    const auto copy = damagedCopy(name, 0);
+    QVERIFY(copy);
+    Player player(copy->fileName());
     QVERIFY(player.isReady());
     bool failed = false;
     for (int i = 0; i < 20; ++i) {
@@ -315,6 +328,25 @@ void VideoDecoderTest::decoder_staysUsable_afterDamagedPackets()
     QVERIFY(player.demuxer.seek(testsupport::frameTimeMs(sample, lastKey)));
     player.decoder->flush();
     QCOMPARE(player.showRest(), expectedFrom(sample, lastKey));
+}
+
+void VideoDecoderTest::av1_goesOn_atTheNextKeyFrame_afterAnError()
+{
+    const QString name = QStringLiteral("av1.mp4");
+    const Sample& sample = testsupport::sampleNamed(name);
+    const auto copy = damagedCopy(name, 12);
+    QVERIFY(copy);
+    Player player(copy->fileName(), 4);
+    QVERIFY(player.isReady());
+    bool failed = false;
+    for (int i = 0; i < 8; ++i) {
+        failed = !player.decoder->decode(*player.nextVideoPacket()) || failed;
+    }
+    QVERIFY(failed);
+    const auto expected = expectedFrom(sample, testsupport::keyFrames(sample).constLast());
+    const auto shown = player.showRest();
+    QVERIFY(shown.size() >= expected.size());
+    QCOMPARE(shown.mid(shown.size() - expected.size()), expected);
 }
 
 void VideoDecoderTest::decoder_startsOver_whenGivenPacketsAfterTheEnd()
