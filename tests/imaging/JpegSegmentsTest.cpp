@@ -9,7 +9,7 @@ namespace {
 QByteArray jfif()
 {
     QByteArray bytes("\xff\xd8\xff\xe0\x00\x12JFIF\0\x01\x01\x00\x00\x01\x00\x01\x00\x00##\xff\xdb",
-                     26);
+                     24);
     return bytes.append("table");
 }
 
