@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
 #include <utility>
 
 using QtAV::FrameAnswer;
@@ -39,6 +40,11 @@ QImage thumbnailOf(const QImage& image, const QSize& bounds)
 {
     const QSize size = image.size().scaled(bounds, Qt::KeepAspectRatio);
     return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QString noMemoryText()
+{
+    return QCoreApplication::translate("imaging", "Not enough memory");
 }
 
 /// Renders and encodes a picture; on failure, sets the error instead.
@@ -118,8 +124,13 @@ bool SeriesLane::open(int video, QString& error)
     m_reader.setDeinterlacing(QtAV::deinterlacingNamed(m_jobs.at(video).recipe.deinterlacing));
     m_overdue = 0;
     beginPosition();
-    if (!m_reader.open(m_jobs.at(video).video, m_isCancelledOrLate, error)) {
-        error = m_deadline->hasPassed() ? overdueText() : error;
+    try {
+        if (!m_reader.open(m_jobs.at(video).video, m_isCancelledOrLate, error)) {
+            error = m_deadline->hasPassed() ? overdueText() : error;
+            return false;
+        }
+    } catch (const std::bad_alloc&) {
+        error = noMemoryText();
         return false;
     }
     m_video = video;
@@ -130,6 +141,16 @@ bool SeriesLane::open(int video, QString& error)
 }
 
 SeriesBoard::Task SeriesLane::plan(const Task& task)
+{
+    try {
+        return makePlan(task);
+    } catch (const std::bad_alloc&) {
+        m_board.failed(task.video, noMemoryText());
+        return {};
+    }
+}
+
+SeriesBoard::Task SeriesLane::makePlan(const Task& task)
 {
     QString error;
     if (!open(task.video, error)) {
@@ -291,6 +312,15 @@ bool SeriesLane::enter(const Task& task, qint64 pictureBytes, QString& error)
 
 QString SeriesLane::walkStretch(const Task& task)
 {
+    try {
+        return walkAll(task);
+    } catch (const std::bad_alloc&) {
+        return noMemoryText();
+    }
+}
+
+QString SeriesLane::walkAll(const Task& task)
+{
     beginPosition();
     m_reader.setThreads(task.threads);
     m_knowsKeyFrames = !m_board.plan(task.video).keyFramesMs.isEmpty();
@@ -352,7 +382,18 @@ bool SeriesLane::walkTarget(const Task& task, int index)
         return deliver(task, std::move(delivery), {FrameAnswer::Failed, {}, overdueText()});
     }
     beginPosition();
-    return deliver(task, std::move(delivery), inTime(find(target)));
+    return deliver(task, std::move(delivery), inTime(findIfPossible(target)));
+}
+
+/// Reports a lack of memory as a failure: the next position may need less.
+FrameResult SeriesLane::findIfPossible(const SeriesTarget& target)
+{
+    try {
+        return find(target);
+    } catch (const std::bad_alloc&) {
+        m_startsAnew = true;
+        return {FrameAnswer::Failed, {}, noMemoryText()};
+    }
 }
 
 FrameResult SeriesLane::find(const SeriesTarget& target)

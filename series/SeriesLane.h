@@ -26,6 +26,7 @@ private:
     using Delivery = SeriesBoard::Delivery;
 
     [[nodiscard]] Task plan(const Task& task);
+    [[nodiscard]] Task makePlan(const Task& task);
     [[nodiscard]] FramePositions bestPositions(const FramePositions& wanted, qint64 durationMs,
                                                QString& error);
     [[nodiscard]] QVector<SeriesTarget> neededTargets(int video, const FramePositions& positions,
@@ -41,11 +42,13 @@ private:
     void walk(const Task& task);
     [[nodiscard]] bool enter(const Task& task, qint64 pictureBytes, QString& error);
     [[nodiscard]] QString walkStretch(const Task& task);
+    [[nodiscard]] QString walkAll(const Task& task);
     void walkTargets(const Task& task);
     [[nodiscard]] bool walkTarget(const Task& task, int index);
     void begin(const Task& task);
     void approach(qint64 ms);
     [[nodiscard]] bool wantsToStartAnew(qint64 ms, qint64 lastMs) const;
+    [[nodiscard]] QtAV::FrameResult findIfPossible(const SeriesTarget& target);
     [[nodiscard]] QtAV::FrameResult find(const SeriesTarget& target);
     template <typename Next, typename IsWanted>
     [[nodiscard]] QString walkPart(const Task& task, const SeriesPlan::Stretch& part,

@@ -139,8 +139,9 @@ class Writing(FaultCase):
         self.assertEqual(self.visible(), [])
 
     def test_few_descriptors_and_little_memory_are_errors(self):
-        for limits in ([(resource.RLIMIT_NOFILE, 9)], [(resource.RLIMIT_NOFILE, 14)],
-                       [(resource.RLIMIT_AS, 700 << 20)], [(resource.RLIMIT_AS, 400 << 20)]):
+        descriptors = [(resource.RLIMIT_NOFILE, number) for number in (9, 14)]
+        memory = [(resource.RLIMIT_AS, mebibytes << 20) for mebibytes in (330, 400, 490, 700)]
+        for limits in ([limit] for limit in descriptors + memory):
             with self.subTest(limits):
                 result = self.stills(sample("h264_2160p.mp4"), "-c3", "-o", self.out, limits=limits)
                 self.assertIn(result.status, (0, 1), str(result))
