@@ -181,12 +181,6 @@ QString SettingsFile::text(const PutAside& damaged)
         .arg(QDir::toNativeSeparators(damaged.path), QDir::toNativeSeparators(damaged.keptPath));
 }
 
-std::unique_ptr<QSettings> SettingsFile::open(const QString& path)
-{
-    return QFileInfo(path).isAbsolute() ? std::make_unique<QSettings>(path, QSettings::IniFormat)
-                                        : nullptr;
-}
-
 QString SettingsFile::writeProblem()
 {
     const QFileInfo own(ownFile());

@@ -3,10 +3,7 @@
 #include <QString>
 #include <QVector>
 
-#include <memory>
 #include <optional>
-
-class QSettings;
 
 /// The files in which settings and profiles are stored.
 ///
@@ -39,11 +36,6 @@ struct PutAside
 /// A text for people with both names, in the current language. The settings hold the language, so
 /// that it is known only after damaged files were put aside.
 [[nodiscard]] QString text(const PutAside& damaged);
-
-/// The settings at a path of ProfileManager::getSettingsPath(). Null for a bare name, which means
-/// that the configuration folder cannot be made: such a file would lie in the folder in which the
-/// user happens to work. Nothing is read or stored then.
-[[nodiscard]] std::unique_ptr<QSettings> open(const QString& path);
 
 /// Why settings cannot be saved, for people: a folder or a file that may not be written, a disk
 /// that is full or read-only. Empty where they can. Tries by writing a file beside them, which is
