@@ -65,7 +65,7 @@ private Q_SLOTS:
 
     void setResolution_changesNothing_withoutHeader()
     {
-        QByteArray bytes("\xff\xd8\xff\xdb and much more of that table", 34);
+        QByteArray bytes("\xff\xd8\xff\xdb and much more of that table");
         const QByteArray before = bytes;
         QVERIFY(!JpegSegments::setResolution(bytes, 96, 96));
         QCOMPARE(bytes, before);
