@@ -86,6 +86,10 @@ void AVPlayerSpeedTest::sound_isPlayed_betweenHalfAndDouble()
     const qint64 before = stage.player.position();
     stage.player.setSpeed(speed);
     stage.player.play();
+    if (isHeard) {
+        // On a busy machine the device may start after the picture.
+        QTRY_VERIFY_WITH_TIMEOUT(devices.record.heardBytes > 0, patienceMs);
+    }
     QTRY_VERIFY_WITH_TIMEOUT(stage.player.position() > before + 120, patienceMs);
     QCOMPARE(devices.record.heardBytes > 0, isHeard);
 }
