@@ -1,6 +1,7 @@
 #include "imaging/ImageFileWriter.h"
 
 #include "imaging/HdrColours.h"
+#include "imaging/ImageFormats.h"
 #include "imaging/JpegEncoder.h"
 
 #include <QBuffer>
@@ -45,7 +46,7 @@ protected:
 
 bool isJpeg(const QByteArray& format)
 {
-    return format == "jpg" || format == "jpeg";
+    return ImageFormats::isJpeg(QString::fromLatin1(format));
 }
 
 /// Whether the plugin of the format detects that memory runs out. The others work on copies without

@@ -36,8 +36,8 @@ bool is(const QString& suffix, Property property)
 /// plugins, and with them libraries for vector graphics and widgets.
 bool isAlwaysWritable(const QString& suffix)
 {
-    return suffix == QLatin1String("jpg") || suffix == QLatin1String("jpeg") ||
-           suffix == QLatin1String("png") || suffix == QLatin1String("bmp");
+    return ImageFormats::isJpeg(suffix) || suffix == QLatin1String("png") ||
+           suffix == QLatin1String("bmp");
 }
 
 const QList<QByteArray>& writable()
@@ -63,6 +63,12 @@ bool ImageFormats::canWrite(const QString& suffix)
 {
     const QString lower = suffix.toLower();
     return isAlwaysWritable(lower) || writable().contains(lower.toUtf8());
+}
+
+bool ImageFormats::isJpeg(const QString& suffix)
+{
+    const QString lower = suffix.toLower();
+    return lower == QLatin1String("jpg") || lower == QLatin1String("jpeg");
 }
 
 bool ImageFormats::hasQuality(const QString& suffix)

@@ -17,6 +17,9 @@ namespace ImageFormats {
 /// True if files with this suffix, case-insensitive, can be written, even if it is not offered.
 [[nodiscard]] bool canWrite(const QString& suffix);
 
+/// True if files with this suffix, case-insensitive, are JPEG.
+[[nodiscard]] bool isJpeg(const QString& suffix);
+
 /// True if files with this suffix, case-insensitive, have a quality setting.
 [[nodiscard]] bool hasQuality(const QString& suffix);
 

@@ -16,6 +16,9 @@ namespace {
 
 constexpr double inchesPerMeter = 1 / 0.0254;
 
+/// What a QByteArray can hold, and some bytes for its own header.
+constexpr unsigned long mostBytes = std::numeric_limits<int>::max() - 4096;
+
 struct CompressorDeleter
 {
     void operator()(void* compressor) const { tjDestroy(compressor); }
@@ -66,7 +69,6 @@ QByteArray JpegEncoder::encode(const QImage& image, int quality)
     // Allocating the worst case takes no memory for pages that stay untouched; growing would take
     // it twice.
     unsigned long size = tjBufSize(source.width(), source.height(), TJSAMP_444);
-    constexpr auto mostBytes = static_cast<unsigned long>(std::numeric_limits<int>::max() - 4096);
     if (size > mostBytes) {
         return {};
     }

@@ -1,5 +1,6 @@
 #include "imaging/Metadata.h"
 
+#include "imaging/ImageFormats.h"
 #include "imaging/JpegSegments.h"
 #include "imaging/RecipeTexts.h"
 #include "imaging/Rendering.h"
@@ -260,17 +261,12 @@ QByteArray jpegSegments(Exiv2::ExifData& exif, const std::string& packet)
                 : QByteArray();
 }
 
-bool isJpeg(const QString& type)
-{
-    const QString name = type.toLower();
-    return name == QLatin1String("jpg") || name == QLatin1String("jpeg");
-}
-
 /// Changes nothing if it throws.
 void addTo(QByteArray& content, const QString& type, Exiv2::ExifData exif,
            const std::string& packet)
 {
-    const QByteArray segments = isJpeg(type) ? jpegSegments(exif, packet) : QByteArray();
+    const QByteArray segments =
+        ImageFormats::isJpeg(type) ? jpegSegments(exif, packet) : QByteArray();
     if (segments.isEmpty() || !JpegSegments::add(content, segments)) {
         content = rewritten(content, exif, packet);
     }
