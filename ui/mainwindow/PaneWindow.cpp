@@ -149,11 +149,6 @@ void PaneWindow::on_volumeButton_clicked()
     m_playerPane->showVolumePopup();
 }
 
-void PaneWindow::fitVideo()
-{
-    m_playerPane->zoom().fit();
-}
-
 void PaneWindow::showActualSize()
 {
     m_playerPane->zoom().showActualSize();
@@ -259,11 +254,6 @@ void PaneWindow::on_imageProfileComboBox_activated(int index)
 {
     Q_UNUSED(index)
     m_snapshotPane->chooseImageProfile();
-}
-
-void PaneWindow::on_originalSizeButton_clicked()
-{
-    m_snapshotPane->chooseOriginalSize();
 }
 
 void PaneWindow::on_filenameProfileComboBox_activated(int index)

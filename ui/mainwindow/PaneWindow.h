@@ -65,7 +65,6 @@ public Q_SLOTS:
     void step(SeekDirection direction);
     void volumeChanged(int volume);
     void on_volumeButton_clicked();
-    void fitVideo();
     void showActualSize();
     void showFourfold();
     void toggleActualSize();
@@ -81,7 +80,6 @@ public Q_SLOTS:
     void on_actionCopy_Snapshot_triggered();
     void on_actionCopy_Full_Frame_triggered();
     void on_imageProfileComboBox_activated(int index);
-    void on_originalSizeButton_clicked();
     void on_filenameProfileComboBox_activated(int index);
     void on_selectOutputFolderButton_clicked();
     void on_automaticFileNameGroupBox_toggled(bool on);
