@@ -230,7 +230,7 @@ QImage PictureConverter::imageOf(const AVFrame& picture, const Colours& colours,
     const QSize size(picture.width, picture.height);
     const bool hasAlpha = format == QImage::Format_ARGB32;
     const bool isDeep = !hasAlpha && format != QImage::Format_RGB888;
-    QImage image = (hasAlpha ? m_imagesWithAlpha : m_images).take(size, format);
+    QImage image = (hasAlpha ? m_shownImages : m_capturedImages).take(size, format);
     if (image.isNull()) {
         return image;
     }

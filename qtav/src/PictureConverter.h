@@ -88,8 +88,8 @@ private:
     [[nodiscard]] std::optional<Scaler> takeScaler(const Task& task);
     void keepScaler(Scaler scaler);
 
-    ImagePool m_imagesWithAlpha; ///< for the screen, while others are captured
-    ImagePool m_images;
+    ImagePool m_shownImages; ///< in the screen's format, while others are captured
+    ImagePool m_capturedImages;
     std::mutex m_mutex;
     std::vector<Scaler> m_idle;             ///< guarded by m_mutex
     std::shared_ptr<const ColourMap> m_map; ///< the most recent one; guarded by m_mutex
