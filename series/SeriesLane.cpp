@@ -382,18 +382,7 @@ bool SeriesLane::walkTarget(const Task& task, int index)
         return deliver(task, std::move(delivery), {FrameAnswer::Failed, {}, overdueText()});
     }
     beginPosition();
-    return deliver(task, std::move(delivery), inTime(findIfPossible(target)));
-}
-
-/// Reports a lack of memory as a failure: the next position may need less.
-FrameResult SeriesLane::findIfPossible(const SeriesTarget& target)
-{
-    try {
-        return find(target);
-    } catch (const std::bad_alloc&) {
-        m_startsAnew = true;
-        return {FrameAnswer::Failed, {}, noMemoryText()};
-    }
+    return deliver(task, std::move(delivery), inTime(find(target)));
 }
 
 FrameResult SeriesLane::find(const SeriesTarget& target)

@@ -48,7 +48,6 @@ private:
     void begin(const Task& task);
     void approach(qint64 ms);
     [[nodiscard]] bool wantsToStartAnew(qint64 ms, qint64 lastMs) const;
-    [[nodiscard]] QtAV::FrameResult findIfPossible(const SeriesTarget& target);
     [[nodiscard]] QtAV::FrameResult find(const SeriesTarget& target);
     template <typename Next, typename IsWanted>
     [[nodiscard]] QString walkPart(const Task& task, const SeriesPlan::Stretch& part,

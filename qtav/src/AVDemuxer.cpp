@@ -4,6 +4,7 @@
 
 #include "qtav/src/Container.h"
 #include "qtav/src/DurationProbe.h"
+#include "qtav/src/FFmpegLog.h"
 #include "qtav/src/KeyFrameSearch.h"
 #include "qtav/src/PacketHandle.h"
 #include "qtav/src/PictureLimit.h"
@@ -14,6 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <deque>
+#include <new>
 #include <optional>
 
 namespace QtAV {
@@ -415,7 +417,14 @@ bool AVDemuxer::readFrame()
     if (!fresh) {
         return d->drain();
     }
-    d->takePacket(std::move(fresh));
+    try {
+        d->takePacket(std::move(fresh));
+    } catch (const std::bad_alloc&) {
+        // The packet is missing, so only a seek helps.
+        d->error = ffmpegErrorText(AVERROR(ENOMEM));
+        d->lost = true;
+        return false;
+    }
     if (d->fileEnded && d->kept.empty()) {
         d->beginDraining();
     }
