@@ -1,5 +1,7 @@
 #include "profiles/SettingsFile.h"
 
+#include "profiles/SettingsVariants.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -143,7 +145,8 @@ bool SettingsFile::isDamaged(const QString& path)
     if (!file.open(QIODevice::ReadOnly)) {
         return false;
     }
-    return !isSettings(file.read(largestFile + 1)) || !canBeParsed(path);
+    const QByteArray content = file.read(largestFile + 1);
+    return !isSettings(content) || !SettingsVariants::areHarmless(content) || !canBeParsed(path);
 }
 
 std::optional<SettingsFile::PutAside> SettingsFile::putAsideIfDamaged(const QString& path)

@@ -21,8 +21,8 @@ struct PutAside
 };
 
 /// True if the path is not one of our settings files: no regular file, larger than any settings, or
-/// with lines or characters that no settings file has. False if there is no file or it cannot be
-/// read.
+/// with lines, characters or types of values that no settings file has. False if there is no file
+/// or it cannot be read.
 [[nodiscard]] bool isDamaged(const QString& path);
 
 /// Renames a damaged settings file: appends ".bad", or ".bad2" and so on if that name is taken.

@@ -2,9 +2,12 @@
 
 #include "tests/profiles/ProfileTestSupport.h"
 
+#include <QColor>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFont>
 #include <QSettings>
 #include <QTest>
 #include <QTranslator>
@@ -76,6 +79,21 @@ private Q_SLOTS:
         row("cut in a key", "[a]\nx=1\nlastUsed", true);
         row("cut in a section", "[a]\nx=1\n[Gene", true);
         row("a picture", "\x89PNG\r\n\x1a\n=", true);
+        const auto variant = [](const QByteArray& stream) { return "[a]\nx=" + stream + ")\n"; };
+        row("a colour", variant("@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0"),
+            false);
+        row("a pixmap", variant("@Variant(\\0\\0\\0\\x41"), true);
+        row("an icon", variant("\"@Variant(\\0\\0\\0\\x45"), true);
+        row("a bitmap", variant("@Variant(\\0\\0\\0I"), true);
+        row("a bitmap in octal digits", variant("@Variant(\\0\\0\\0\\111"), true);
+        row("a bitmap behind an escape that means nothing", variant("@Variant(\\0\\0\\0\\@I"),
+            true);
+        row("a bitmap in a list of values", variant("1, @Variant(\\0\\0\\0I"), true);
+        row("a bitmap whose name is escaped", variant("\\x40Va\\@r\"ian\"t(\\0\\0\\0I"), true);
+        row("a bitmap as a date", variant("@DateTime(\\0\\0\\0I"), true);
+        row("lists in lists",
+            variant("@Variant(\\0\\0\\0\\t\\0\\0\\0\\x1\\0\\0\\0\\t\\0\\0\\0\\x1"), true);
+        row("a type that is cut", variant("@Variant(\\0\\0"), true);
         row("endless", QByteArray("x=1\n").repeated(5 << 20), true);
     }
     void damage_isSeen()
@@ -103,7 +121,15 @@ private Q_SLOTS:
             settings.setValue(QStringLiteral("bytes"), QByteArray("\0\1\n\r=[;\\", 9));
             settings.setValue(QStringLiteral("profiles/[ä;\n]/名"), QStringLiteral("a\nb\\"));
             settings.setValue(QStringLiteral("list"), QStringList{QStringLiteral("a, b"), {}});
-            settings.setValue(QStringLiteral("size"), QVariant(QSizeF(1.5, 2.5)));
+            const std::initializer_list<QVariant> values{QSizeF(1.5, 2.5),
+                                                         QColor(Qt::red),
+                                                         QFont(QStringLiteral("Serif")),
+                                                         1.5F,
+                                                         QDateTime::currentDateTime(),
+                                                         QStringList{QString()}};
+            for (const QVariant& value : values) {
+                settings.setValue(QLatin1String(value.typeName()), value);
+            }
         }
         QVERIFY2(!SettingsFile::isDamaged(path()), contentOf(path()).constData());
     }
@@ -136,14 +162,14 @@ private Q_SLOTS:
 
     void listsThatDeclareTooMuch_areDamage_whereQtWouldThrow()
     {
-        const QByteArray text = "[profiles]\nA\\id=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n";
+        const QByteArray text = "[profiles]\nA\\id=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n";
         QVERIFY(m_home->writeSettingsFile(settingsFileName, text));
         const auto damaged = SettingsFile::putDamagedAside();
         QSettings settings(path(), QSettings::IniFormat);
 #if QT_VERSION_MAJOR >= 6
         // It comes to the end of the value before it takes the memory.
         QVERIFY(damaged.isEmpty());
-        QCOMPARE(settings.value(QStringLiteral("profiles/A/id")).toList(), QVariantList());
+        QCOMPARE(settings.value(QStringLiteral("profiles/A/id")).toStringList(), QStringList());
 #else
         QCOMPARE(damaged.size(), 1);
         QCOMPARE(settings.allKeys(), QStringList());
