@@ -21,8 +21,12 @@ using QtAV::toMilliseconds;
 
 namespace {
 
-/// Up to this distance, reading on without decoding is cheaper than a search for the key frame.
+/// Up to this distance, reading on without decoding is tried before a search for the key frame,
+/// which may lie before the frames that are decoded already.
 constexpr qint64 longestReadAheadMs = 15000;
+
+/// A search for a key frame reads about as much as a stretch of this length.
+constexpr qint64 searchCostMs = 3000;
 
 /// Restarting at a key frame is worthwhile if it is nearer by this much.
 constexpr qint64 worthStartingMs = 200;
@@ -424,7 +428,11 @@ void SeriesLane::approach(qint64 ms)
 bool SeriesLane::wantsToStartAnew(qint64 ms, qint64 lastMs) const
 {
     if (!m_knowsKeyFrames) {
-        return ms - lastMs > longestReadAheadMs;
+        const std::optional<qint64> groupMs = m_reader.longestGroupMs();
+        const qint64 readAheadMs = groupMs
+                                       ? std::min(2 * *groupMs + searchCostMs, longestReadAheadMs)
+                                       : longestReadAheadMs;
+        return ms - lastMs > readAheadMs;
     }
     return m_board.plan(m_video).keyFrameBefore(ms) - lastMs > worthStartingMs;
 }

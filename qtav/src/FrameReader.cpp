@@ -88,6 +88,8 @@ bool FrameReader::open(const QString& path, const IsCancelled& isCancelled, QStr
         close();
         return false;
     }
+    m_longestGroup = 0;
+    m_hasReadGroup = false;
     m_deinterlacer = std::make_shared<Deinterlacer>();
     m_isInterlaced = isMarkedInterlaced(*context->parameters());
     seek(0);
@@ -158,6 +160,7 @@ FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
     }
     m_first = Packet();
     m_ahead.clear();
+    m_groupStart.reset();
     if (!m_demuxer.seek(*m_target)) {
         if (m_demuxer.canGoOn()) {
             return FrameAnswer::End;
@@ -218,11 +221,31 @@ FrameAnswer FrameReader::readFromFile(Packet& packet, const IsCancelled& isCance
         }
         packet = m_demuxer.packet();
         if (packet.isValid()) {
+            measureGroup(packet);
             return FrameAnswer::Frame;
         }
         ++m_invalidPackets;
     }
     return FrameAnswer::End;
+}
+
+void FrameReader::measureGroup(const Packet& packet)
+{
+    if (packet.isDrain()) {
+        return;
+    }
+    if (m_groupStart) {
+        m_longestGroup = std::max(m_longestGroup, packet.pts - *m_groupStart);
+    }
+    if (packet.hasKeyFrame) {
+        m_hasReadGroup = m_hasReadGroup || m_groupStart;
+        m_groupStart = packet.pts;
+    }
+}
+
+std::optional<qint64> FrameReader::longestGroupMs() const
+{
+    return m_hasReadGroup ? std::optional(toMilliseconds(m_longestGroup)) : std::nullopt;
 }
 
 FrameResult FrameReader::next(const IsCancelled& isCancelled)

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void find_givesTheSameFrame_whenFramesBeforeMayBeSkipped();
     void find_givesTheLastFrame_behindTheEnd();
     void find_isCancelled_beforeItBegins();
+    void longestGroup_isKnown_fromThePacketsRead();
     void open_fails_withAText();
     void frames_fail_whenTheFileIsOverwritten_data();
     void frames_fail_whenTheFileIsOverwritten();
@@ -196,6 +197,28 @@ void FrameReaderTest::find_isCancelled_beforeItBegins()
     QCOMPARE(openError(reader, samplePath(QStringLiteral("h264_bframes.mp4"))), QString());
     QCOMPARE(reader.find(atOrAfter(1000), always).answer, FrameAnswer::Cancelled);
     QCOMPARE(reader.find(atOrAfter(1000), never).answer, FrameAnswer::Frame);
+}
+
+void FrameReaderTest::longestGroup_isKnown_fromThePacketsRead()
+{
+    FrameReader reader;
+    QCOMPARE(openError(reader, samplePath(QStringLiteral("h264_2fps.ts"))), QString());
+    QVERIFY(!reader.longestGroupMs());
+    QCOMPARE(reader.readAhead(5000, never), FrameAnswer::Frame);
+    // Its first call only lands.
+    QCOMPARE(reader.next(never).answer, FrameAnswer::Frame);
+    QCOMPARE(reader.readAhead(5000, never), FrameAnswer::Frame);
+    QCOMPARE(reader.longestGroupMs(), std::optional<qint64>(1000));
+
+    reader.seek(40000);
+    QCOMPARE(reader.next(never).answer, FrameAnswer::Frame);
+    QCOMPARE(reader.readAhead(45000, never), FrameAnswer::Frame);
+    QVERIFY(*reader.longestGroupMs() >= 15000 && *reader.longestGroupMs() < 20000);
+    QCOMPARE(reader.readAhead(55000, never), FrameAnswer::Frame);
+    QCOMPARE(reader.longestGroupMs(), std::optional<qint64>(20000));
+
+    QCOMPARE(openError(reader, samplePath(QStringLiteral("h264_2fps.ts"))), QString());
+    QVERIFY(!reader.longestGroupMs());
 }
 
 void FrameReaderTest::open_fails_withAText()

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void frames_areDecodedOnce_howeverDenseThePositions_data();
     void frames_areDecodedOnce_howeverDenseThePositions();
     void groupsBetweenPositions_areNotDecoded();
+    void longGroupsAmongShortOnes_areDecodedTwiceAtMost();
     void framesThatNobodyNeeds_areLeftOut_fromTheFirstPictureOn();
     void keyFrames_areAllThatIsDecoded_whenTheyAreWanted();
 };
@@ -100,6 +101,15 @@ void SeriesDecodingTest::groupsBetweenPositions_areNotDecoded()
     QVERIFY(decoded.total() > 0);
     QVERIFY2(decoded.total() <= 2 * (11 + mostReordered),
              qPrintable(QString::number(decoded.total())));
+}
+
+void SeriesDecodingTest::longGroupsAmongShortOnes_areDecodedTwiceAtMost()
+{
+    const DecodedPackets decoded = decodedFor(QStringLiteral("h264_2fps.ts"), every(6000), 1, 10);
+    // At 36, 42 and 48 seconds in the group from 30 to 50: the search for 42 seconds begins anew.
+    QVERIFY(decoded.times.size() >= 10);
+    const int repeated = decoded.total() - decoded.times.size();
+    QVERIFY2(repeated <= 13 + mostReordered, qPrintable(QString::number(repeated)));
 }
 
 void SeriesDecodingTest::framesThatNobodyNeeds_areLeftOut_fromTheFirstPictureOn()

@@ -50,6 +50,8 @@ void SeriesSamplesTest::every_givesTheFrameAtOrAfterEachPosition_data()
             }
         }
     }
+    // Far enough to search for key frames whose times are in no index.
+    QTest::newRow("h264_2fps.ts, 6000 ms") << QStringLiteral("h264_2fps.ts") << 6000 << 1;
 }
 
 void SeriesSamplesTest::every_givesTheFrameAtOrAfterEachPosition()

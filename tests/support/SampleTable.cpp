@@ -137,6 +137,7 @@ QList<Sample> codecSamples()
         Entry("mpeg2_ntsc.mpg", 60, ntsc).with(Trait::NoStatedDuration | Trait::OpenGop),
         Entry("mpeg1.mpg", 50).with(Trait::NoStatedDuration | Trait::OpenGop),
         Entry("h264.ts", 75).with(Trait::NoStatedDuration),
+        Entry("h264_2fps.ts", 120, {2, 1}, {160, 120}).with(Trait::NoStatedDuration),
         Entry("h264_5994fps.ts", 120, ntscFields).with(Trait::NoStatedDuration),
         Entry("hevc.ts", 50).with(Trait::NoStatedDuration),
         Entry("mpeg4_bframes.avi", 75).with(Trait::NoPresentationTimes),

@@ -115,6 +115,10 @@ public:
     /// Returns Frame, also at the end of the video, unless reading failed or was cancelled.
     [[nodiscard]] FrameAnswer readAhead(qint64 ms, const IsCancelled& isCancelled);
 
+    /// The longest distance in milliseconds between key frames that were read one after the other,
+    /// or from a key frame to the packet read last; nothing before two were read since open().
+    [[nodiscard]] std::optional<qint64> longestGroupMs() const;
+
     /// The next key frame before a time in milliseconds, without the frames between; End if there
     /// is none. Call only after seek() or another nextKeyFrame(). The neighbours of the key frame
     /// are unknown: where wantsNeighbours() is true, a search for its time gives a better picture.
@@ -216,6 +220,7 @@ private:
     [[nodiscard]] bool wantsNeighbours(const VideoFrame& frame) const;
     [[nodiscard]] VideoFrame withNeighbours(const Decoded& decoded) const;
     void landOnAhead(size_t index);
+    void measureGroup(const Packet& packet);
     [[nodiscard]] FrameAnswer readFromFile(Packet& packet, const IsCancelled& isCancelled);
     [[nodiscard]] Way walk(const Search& search, const IsCancelled& isCancelled);
     [[nodiscard]] FrameResult findFrom(Search search, const IsCancelled& isCancelled);
@@ -234,12 +239,15 @@ private:
     qint64 m_pictureMemory = usualPictureBytes;
     std::shared_ptr<const Deadline> m_deadline;
     int m_threads = 0;
-    int m_decoderThreads = 0;       ///< those of m_decoder
-    std::optional<qint64> m_target; ///< of a seek that has not landed yet, in milliseconds
-    qint64 m_origin = 0;            ///< the position of the last seek in milliseconds
-    bool m_resumes = false;         ///< m_target returns to where reading was interrupted
-    Packet m_first;                 ///< read by land() and not decoded yet
-    std::deque<Packet> m_ahead;     ///< packets read after m_first by readAhead()
+    int m_decoderThreads = 0;           ///< those of m_decoder
+    std::optional<qint64> m_target;     ///< of a seek that has not landed yet, in milliseconds
+    qint64 m_origin = 0;                ///< the position of the last seek in milliseconds
+    bool m_resumes = false;             ///< m_target returns to where reading was interrupted
+    Packet m_first;                     ///< read by land() and not decoded yet
+    std::deque<Packet> m_ahead;         ///< packets read after m_first by readAhead()
+    std::optional<double> m_groupStart; ///< time of the key frame read last since land()
+    double m_longestGroup = 0;          ///< in seconds, see longestGroupMs()
+    bool m_hasReadGroup = false;        ///< two key frames were read one after the other
     Deinterlacing m_wantedDeinterlacing = Deinterlacing::Automatic;
     Deinterlacing m_deinterlacing = Deinterlacing::Automatic; ///< in effect since seek()
     std::shared_ptr<Deinterlacer> m_deinterlacer;             ///< of the open file

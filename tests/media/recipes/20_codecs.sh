@@ -62,6 +62,9 @@ sample mpeg2_ntsc.mpg encode 320x240 30000/1001 60 -c:v mpeg2video -q:v 4 -g 15 
 sample mpeg1.mpg encode 320x240 25 50 -c:v mpeg1video -q:v 4 -g 12 -bf 2
 sample h264.ts encode 320x240 25 75 "${X264[@]}" -x264-params keyint=25:bframes=3 \
     -output_ts_offset 95000
+# Groups of a second, then one of 20 seconds, as a camera makes when nothing moves.
+sample h264_2fps.ts encode 160x120 2 120 "${X264[@]}" -x264-params keyint=250:scenecut=0:bframes=2 \
+    -force_key_frames 'expr:not(mod(n,2))*(lte(n,60)+gte(n,100))'
 sample h264_5994fps.ts encode 320x240 60000/1001 120 "${X264[@]}" \
     -x264-params keyint=60:bframes=2
 sample hevc.ts encode 320x240 25 50 "${X265[@]}" \
