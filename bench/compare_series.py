@@ -2,10 +2,14 @@
 """Compares taking series of pictures with the programs ffmpeg and mpv, and with the library FFMS2.
 
     compare_series.py [--build build/release] [--media build/bench-media] [--runs N] [--case NAME]...
+                      [--chroma full|halved]
 
 All write the same pictures as JPEG files, in turn, so that other load on the machine affects all of
 them; the video is in the page cache. Each time is that of the whole program, from its start to its end.
 The output has the medians, and the ratio to the fastest of the others.
+
+Our pictures have full chroma, and so have those of the others by default. `--chroma halved` leaves the
+others at their own default, which takes them less time; it does not change ours.
 
 - ours: `stills`, with its defaults except for the positions;
 - ffmpeg, one process for all pictures: it decodes the whole video with all cores, and `select` picks
@@ -106,10 +110,14 @@ class Peers:
     """The other programs. Each function writes the pictures of a case into a folder."""
 
     FFMPEG = ["ffmpeg", "-nostdin", "-loglevel", "error", "-y"]
-    JPEG = ["-q:v", "3"]
 
-    def __init__(self, ffms):
-        self.ffms = ffms
+    def __init__(self, ffms, chroma):
+        self.ffms = [ffms, chroma]
+        self.jpeg = ["-q:v", "3"]
+        self.mpv_filter = []
+        if chroma == "full":
+            self.jpeg += ["-pix_fmt", "yuvj444p"]
+            self.mpv_filter = ["--vf=format=yuv444p"]
 
     def select(self, videos, positions, folder):
         """One process: the first frame at or after each position."""
@@ -117,11 +125,11 @@ class Peers:
         # Its parser does not accept long sums.
         terms = [f"eq(n,{number})" for number in wanted]
         chosen = "+".join(f"({'+'.join(terms[i : i + 40])})" for i in range(0, len(terms), 40))
-        run([*self.FFMPEG, "-i", videos[0], "-an", "-vf", f"select='{chosen}'", "-vsync", "0", *self.JPEG,
+        run([*self.FFMPEG, "-i", videos[0], "-an", "-vf", f"select='{chosen}'", "-vsync", "0", *self.jpeg,
              f"{folder}/%05d.jpg"])
 
     def keys(self, videos, positions, folder):
-        run([*self.FFMPEG, "-skip_frame", "nokey", "-i", videos[0], "-an", "-vsync", "0", *self.JPEG,
+        run([*self.FFMPEG, "-skip_frame", "nokey", "-i", videos[0], "-an", "-vsync", "0", *self.jpeg,
              f"{folder}/%05d.jpg"])
 
     def each(self, videos, positions, folder):
@@ -132,23 +140,24 @@ class Peers:
             lead = min(position, 800) if videos[0].suffix == ".ts" else 0
             near = ["-ss", f"{lead / 1000}"] if lead else []
             commands.append([*self.FFMPEG, *threads, "-ss", f"{(position - lead) / 1000}", "-i", videos[0],
-                             *near, "-an", "-frames:v", "1", *self.JPEG, f"{folder}/{number:05}.jpg"])
+                             *near, "-an", "-frames:v", "1", *self.jpeg, f"{folder}/{number:05}.jpg"])
         run_by_twos(commands)
 
     def clips(self, videos, positions, folder):
         """One process per clip, two at a time."""
         run_by_twos([*self.FFMPEG, "-threads", "1", "-ss", f"{positions[0] / 1000}", "-i", video, "-an",
-                     "-frames:v", "1", *self.JPEG, f"{folder}/{video.stem}.jpg"] for video in videos)
+                     "-frames:v", "1", *self.jpeg, f"{folder}/{video.stem}.jpg"] for video in videos)
 
     def mpv(self, videos, positions, folder):
         run_by_twos(["mpv", "--no-config", "--no-audio", "--really-quiet", "--vo=image",
                      "--vo-image-format=jpg", f"--vo-image-outdir={folder}/{number:05}", "--frames=1",
+                     *self.mpv_filter,
                      "--hr-seek=yes", f"--start={position / 1000}", videos[0]]
                     for number, position in enumerate(positions))
 
     def ffms2(self, videos, positions, folder):
         numbers = [str(-(-position // FRAME_MS)) for position in positions]
-        run([self.ffms, videos[0], folder, *numbers])
+        run([*self.ffms, videos[0], folder, *numbers])
 
     def named(self, name):
         return {"ffmpeg select": self.select, "ffmpeg each": self.each, "ffmpeg keys": self.keys,
@@ -281,6 +290,7 @@ def main():
     parser.add_argument("--media", type=pathlib.Path, default=ROOT / "build/bench-media")
     parser.add_argument("--runs", type=int, default=5)
     parser.add_argument("--case", action="append")
+    parser.add_argument("--chroma", choices=("full", "halved"), default="full")
     arguments = parser.parse_args()
     programs = arguments.build.absolute()
     ffms = programs / "bench/ffms_series"
@@ -293,7 +303,8 @@ def main():
     for case in CASES:
         if arguments.case and case.name not in arguments.case:
             continue
-        measures = measure(case, programs, Peers(ffms), arguments.media.absolute(), arguments.runs)
+        measures = measure(case, programs, Peers(ffms, arguments.chroma), arguments.media.absolute(),
+                           arguments.runs)
         report(case, measures)
 
 

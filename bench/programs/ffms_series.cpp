@@ -1,12 +1,14 @@
 // Extracts frames of a video by number with the library FFMS2, for comparison:
 //
-//   ffms_series VIDEO FOLDER NUMBER…
+//   ffms_series full|halved VIDEO FOLDER NUMBER…
 //
 // The index is created each time, as for a video that is opened for the first time. The frames
-// are converted to RGB by the library and written as JPEG files of quality 90.
+// are converted to RGB by the library and written as JPEG files of quality 90, with full or halved
+// chroma.
+
+#include "bench/bare/BareJpeg.h"
 
 #include <QFile>
-#include <QImage>
 #include <QString>
 
 #include <ffms.h>
@@ -16,6 +18,8 @@
 #include <cstdlib>
 #include <memory>
 #include <string>
+
+using bench::BareJpeg;
 
 namespace {
 
@@ -60,39 +64,56 @@ Video open(const char* path, Failure& failure)
     return video;
 }
 
+/// Makes the library deliver pixels of four bytes. Returns the size of the pictures.
+QSize chooseFormat(FFMS_VideoSource* video, Failure& failure)
+{
+    const FFMS_Frame* const first = FFMS_GetFrame(video, 0, &failure.info);
+    if (first == nullptr) {
+        fail(failure.text.data());
+    }
+    const QSize size(first->EncodedWidth, first->EncodedHeight);
+    const std::array<int, 2> formats{FFMS_GetPixFmt("bgr0"), -1};
+    if (FFMS_SetOutputFormatV2(video, formats.data(), size.width(), size.height(),
+                               FFMS_RESIZER_BICUBIC, &failure.info) != 0) {
+        fail(failure.text.data());
+    }
+    return size;
+}
+
+void write(const QString& path, const BareJpeg& jpeg, std::size_t bytes)
+{
+    QFile file(path);
+    const auto size = static_cast<qint64>(bytes);
+    if (size == 0 || !file.open(QIODevice::WriteOnly) ||
+        file.write(reinterpret_cast<const char*>(jpeg.data()), size) != size) {
+        fail("cannot write " + path.toStdString());
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc < 4) {
-        fail("ffms_series VIDEO FOLDER NUMBER…");
+    const std::string chroma = argc > 1 ? argv[1] : "";
+    if (argc < 5 || (chroma != "full" && chroma != "halved")) {
+        fail("ffms_series full|halved VIDEO FOLDER NUMBER…");
     }
     FFMS_Init(0, 0);
     Failure failure;
-    const Video video = open(argv[1], failure);
-    const FFMS_Frame* const first = FFMS_GetFrame(video.get(), 0, &failure.info);
-    if (first == nullptr) {
-        fail(failure.text.data());
-    }
-    const std::array<int, 2> formats{FFMS_GetPixFmt("rgb24"), -1};
-    if (FFMS_SetOutputFormatV2(video.get(), formats.data(), first->EncodedWidth,
-                               first->EncodedHeight, FFMS_RESIZER_BICUBIC, &failure.info) != 0) {
-        fail(failure.text.data());
-    }
-    for (int i = 3; i < argc; ++i) {
+    const Video video = open(argv[2], failure);
+    BareJpeg jpeg(chooseFormat(video.get(), failure),
+                  chroma == "full" ? BareJpeg::Chroma::Full : BareJpeg::Chroma::Halved);
+    for (int i = 4; i < argc; ++i) {
         const FFMS_Frame* const frame =
             FFMS_GetFrame(video.get(), std::atoi(argv[i]), &failure.info);
         if (frame == nullptr) {
             fail(failure.text.data());
         }
-        const QImage image(frame->Data[0], frame->EncodedWidth, frame->EncodedHeight,
-                           frame->Linesize[0], QImage::Format_RGB888);
         const QString path = QStringLiteral("%1/%2.jpg")
-                                 .arg(QFile::decodeName(argv[2]))
-                                 .arg(i - 3, 5, 10, QLatin1Char('0'));
-        if (!image.save(path, "jpeg", 90)) {
-            fail("cannot write " + path.toStdString());
-        }
+                                 .arg(QFile::decodeName(argv[3]))
+                                 .arg(i - 4, 5, 10, QLatin1Char('0'));
+        const auto bytesPerLine = static_cast<std::size_t>(frame->Linesize[0]);
+        write(path, jpeg, jpeg.encode(frame->Data[0], bytesPerLine, 90));
     }
     return 0;
 }
