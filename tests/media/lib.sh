@@ -84,7 +84,7 @@ encode_filtered() {
 with_sound() {
     local file=$1 video_start=$2 sound_start=$3 codec=$4
     shift 4
-    ff -itsoffset "$video_start" -f lavfi -i "$(pictures 320x240 25)" \
+    ff -itsoffset "$video_start" -f lavfi -i "$(pictures 160x120 25)" \
         -itsoffset "$sound_start" -f lavfi -i "$(sound 3)" -map 0 -map 1 -frames:v 75 \
         -vsync passthrough \
         "${EXACT[@]}" "${X264[@]}" -x264-params keyint=25:bframes=2 \

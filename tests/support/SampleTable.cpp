@@ -8,14 +8,15 @@ namespace testsupport {
 
 namespace {
 
-constexpr QSize small{320, 240};
+constexpr QSize small{160, 120};
+constexpr QSize medium{320, 240};
 constexpr Rational variableRate{0, 1};
 constexpr Rational pal{25, 1};
 constexpr Rational film{24000, 1001};
 constexpr Rational ntsc{30000, 1001};
 constexpr Rational ntscFields{60000, 1001};
 constexpr QSize palSize{720, 576};
-constexpr QSize oddSize{321, 241};
+constexpr QSize oddSize{161, 121};
 
 /// The unit of the times in a container, determined by the file's extension.
 Rational tickOf(const QString& file)
@@ -97,8 +98,8 @@ QList<Sample> joined(std::initializer_list<QList<Sample>> lists)
 QList<Sample> h264Samples()
 {
     return {
-        Entry("h264_bframes.mp4", 100),
-        Entry("h264_gop250.mp4", 520, pal, {160, 120}),
+        Entry("h264_bframes.mp4", 100, pal, medium),
+        Entry("h264_gop250.mp4", 520),
         Entry("h264_open_gop_bframes.mp4", 100).with(Trait::OpenGop),
         Entry("h264_intra_only.mp4", 50),
         Entry("h264_intra_refresh.mp4", 100).with(Trait::IntraRefresh),
@@ -120,7 +121,7 @@ QList<Sample> codecSamples()
 {
     return {
         Entry("hevc_8bit.mp4", 75),
-        Entry("hevc_10bit.mkv", 75),
+        Entry("hevc_10bit.mkv", 75, pal, medium),
         Entry("hevc_open_gop.mp4", 75).with(Trait::OpenGop),
         Entry("hevc_temporal_layers.mp4", 75),
         Entry("vp8.webm", 75),
@@ -133,23 +134,23 @@ QList<Sample> codecSamples()
         Entry("vp9_alpha.webm", 50).with(Trait::Alpha),
         Entry("prores_alpha.mov", 50).with(Trait::Alpha),
         Entry("mpeg2.ts", 75).with(Trait::NoStatedDuration | Trait::OpenGop),
-        Entry("mpeg2.mpg", 75).with(Trait::NoStatedDuration | Trait::OpenGop),
-        Entry("mpeg2_ntsc.mpg", 60, ntsc).with(Trait::NoStatedDuration | Trait::OpenGop),
-        Entry("mpeg1.mpg", 50).with(Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("mpeg2.mpg", 75, pal, medium).with(Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("mpeg2_ntsc.mpg", 60, ntsc, medium).with(Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("mpeg1.mpg", 50, pal, medium).with(Trait::NoStatedDuration | Trait::OpenGop),
         Entry("h264.ts", 75).with(Trait::NoStatedDuration),
-        Entry("h264_2fps.ts", 120, {2, 1}, {160, 120}).with(Trait::NoStatedDuration),
+        Entry("h264_2fps.ts", 120, {2, 1}).with(Trait::NoStatedDuration),
         Entry("h264_5994fps.ts", 120, ntscFields).with(Trait::NoStatedDuration),
         Entry("hevc.ts", 50).with(Trait::NoStatedDuration),
         Entry("mpeg4_bframes.avi", 75).with(Trait::NoPresentationTimes),
         Entry("mpeg4_packed_bframes.avi", 75).with(Trait::NoPresentationTimes),
         Entry("h264_bframes.avi", 75).with(Trait::NoPresentationTimes),
         Entry("mpeg4.mp4", 50),
-        Entry("msmpeg4.avi", 50).with(Trait::NoPresentationTimes),
+        Entry("msmpeg4.avi", 50, pal, medium).with(Trait::NoPresentationTimes),
         Entry("mjpeg.avi", 50).with(Trait::NoPresentationTimes),
         Entry("theora.ogv", 75),
         Entry("wmv2.wmv", 75),
         Entry("flv1.flv", 75),
-        Entry("h264_bframes.flv", 75),
+        Entry("h264_bframes.flv", 75, pal, medium),
         // The AVI states that its pixels are square, unlike the pictures in it.
         Entry("dv.avi", 15, pal, palSize).with(Trait::NoPresentationTimes),
         Entry("dv.dv", 15, pal, palSize)
@@ -158,7 +159,8 @@ QList<Sample> codecSamples()
         Entry("prores.mov", 25),
         Entry("animated.gif", 40),
         Entry("ffv1.mkv", 25),
-        Entry("raw.h264", 75).with(Trait::NoStatedDuration | Trait::NoPresentationTimes),
+        Entry("raw.h264", 75, pal, medium)
+            .with(Trait::NoStatedDuration | Trait::NoPresentationTimes),
         Entry("raw.hevc", 50).with(Trait::NoStatedDuration | Trait::NoPresentationTimes),
         Entry("raw.m2v", 50)
             .with(Trait::NoStatedDuration | Trait::NoPresentationTimes | Trait::OpenGop),
@@ -168,19 +170,19 @@ QList<Sample> codecSamples()
 QList<Sample> geometrySamples()
 {
     return {
-        Entry("turned_90.mp4", 50, pal, {240, 320})
+        Entry("turned_90.mp4", 50, pal, {120, 160})
             .shownAs(small)
             .with(Trait::Turned | Trait::Sideways),
         Entry("turned_180.mp4", 50).with(Trait::Turned),
-        Entry("turned_270.mp4", 50, pal, {240, 320})
+        Entry("turned_270.mp4", 50, pal, {120, 160})
             .shownAs(small)
             .with(Trait::Turned | Trait::Sideways),
         Entry("mirrored_left_right.mp4", 50).with(Trait::Turned),
         Entry("mirrored_up_down.mp4", 50).with(Trait::Turned),
-        Entry("transposed.mp4", 50, pal, {240, 320})
+        Entry("transposed.mp4", 50, pal, {120, 160})
             .shownAs(small)
             .with(Trait::Turned | Trait::Sideways),
-        Entry("anti_transposed.mp4", 50, pal, {240, 320})
+        Entry("anti_transposed.mp4", 50, pal, {120, 160})
             .shownAs(small)
             .with(Trait::Turned | Trait::Sideways),
         Entry("turned_90_anamorphic.mp4", 50, pal, {240, 320})
@@ -192,11 +194,11 @@ QList<Sample> geometrySamples()
         Entry("anamorphic_ntsc.mp4", 30, ntsc, {720, 480})
             .shownAs({720, 540})
             .with(Trait::Anamorphic),
-        Entry("anamorphic_4_3.mkv", 25, pal, {240, 240}).shownAs(small).with(Trait::Anamorphic),
-        Entry("h264_cropped.mp4", 25),
-        Entry("hevc_cropped.mp4", 25),
-        Entry("h264_clean_aperture.mp4", 25).with(Trait::CleanAperture),
-        Entry("h264_clean_aperture.mov", 25).with(Trait::CleanAperture),
+        Entry("anamorphic_4_3.mkv", 25, pal, {120, 120}).shownAs(small).with(Trait::Anamorphic),
+        Entry("h264_cropped.mp4", 25, pal, medium),
+        Entry("hevc_cropped.mp4", 25, pal, medium),
+        Entry("h264_clean_aperture.mp4", 25, pal, medium).with(Trait::CleanAperture),
+        Entry("h264_clean_aperture.mov", 25, pal, medium).with(Trait::CleanAperture),
         Entry("h264_interlaced.mp4", 50).with(Trait::Interlaced),
         Entry("mpeg2_interlaced.ts", 50)
             .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
@@ -215,7 +217,7 @@ QList<Sample> geometrySamples()
         Entry("odd_size_small.webm", 20, pal, {175, 99}),
         Entry("h264_2160p.mp4", 12, {30, 1}, {3840, 2160}).with(Trait::Large),
         Entry("hevc_2160p.mp4", 8, {30, 1}, {3840, 2160}).with(Trait::Large),
-        Entry("h264_full_range.mp4", 50),
+        Entry("h264_full_range.mp4", 50, pal, medium),
     };
 }
 
@@ -235,9 +237,9 @@ QList<Sample> containerSamples()
         Entry("variable_rate.mp4", 60, variableRate).at(variableTimes()),
         Entry("h264_23976fps.mkv", 96, film),
         Entry("h264_5994fps.mov", 60, ntscFields),
-        Entry("edit_list.mp4", 65).countingFrom(35).with(Trait::StartsInsideGop),
-        Entry("h264_index_first.mp4", 100),
-        Entry("h264_bframes.mkv", 100),
+        Entry("edit_list.mp4", 65, pal, medium).countingFrom(35).with(Trait::StartsInsideGop),
+        Entry("h264_index_first.mp4", 100, pal, medium),
+        Entry("h264_bframes.mkv", 100, pal, medium),
         Entry("sound.mp4", 75).with(Trait::Sound),
         Entry("sound_earlier.mp4", 75).startingAt({48, 100}).with(Trait::Sound),
         Entry("sound_earlier.mkv", 75).startingAt({490, 1000}).with(Trait::Sound),
@@ -286,8 +288,8 @@ QList<Sample> missingTimesSamples()
     const Traits program = wrapping | Trait::UntimedPackets;
     const Traits noTimes = Trait::NoPresentationTimes;
     return {
-        Entry("mpeg4_xvid_packed.avi", 250, variableRate).at(xvidTimes()).with(noTimes),
-        Entry("mpeg4_xvid_unpacked.avi", 250).with(noTimes),
+        Entry("mpeg4_xvid_packed.avi", 250, variableRate, medium).at(xvidTimes()).with(noTimes),
+        Entry("mpeg4_xvid_unpacked.avi", 250, pal, medium).with(noTimes),
         Entry("mpeg2_untimed_keys.mpg", 250, pal, tiny).with(program),
         Entry("mpeg2_untimed_keys.vob", 250, pal, tiny).with(program),
         Entry("mpeg2_untimed_keys_svcd.mpg", 250, pal, tiny).with(program),
@@ -300,7 +302,7 @@ QList<Sample> missingTimesSamples()
             .with(program | Trait::Sound),
         Entry("h264_clock_wraps.ts", 75).with(Trait::NoStatedDuration),
         Entry("mpeg2_clock_wraps.ts", 75).with(wrapping),
-        Entry("h264_all_flagged_key.mp4", 100),
+        Entry("h264_all_flagged_key.mp4", 100, pal, medium),
         Entry("h264_open_gop.mov", 125).with(Trait::OpenGop),
         Entry("mpeg2_open_gop.mov", 125).with(Trait::OpenGop),
         Entry("h264_long_refresh.mp4", 250).with(Trait::IntraRefresh),
@@ -359,8 +361,8 @@ QList<Sample> recordingSamples()
 {
     const Traits aviTraits = Trait::WrongDuration | Trait::NoPresentationTimes;
     return {
-        Entry("duration_too_short.mkv", 100).with(Trait::WrongDuration),
-        Entry("duration_too_long.mkv", 100).with(Trait::WrongDuration),
+        Entry("duration_too_short.mkv", 100, pal, medium).with(Trait::WrongDuration),
+        Entry("duration_too_long.mkv", 100, pal, medium).with(Trait::WrongDuration),
         Entry("duration_too_short.avi", 75).with(aviTraits),
         Entry("duration_too_long.avi", 75).with(aviTraits),
         Entry("duration_too_short.mp4", 100).with(Trait::WrongDuration),
@@ -374,7 +376,7 @@ QList<Sample> recordingSamples()
             .at(unsteadyTimes())
             .with(Trait::NoStatedDuration),
         Entry("meeting.mp4", 150, variableRate).at(unsteadyTimes()).with(Trait::Sound),
-        Entry("phone.mp4", 65, pal, {240, 320})
+        Entry("phone.mp4", 65, pal, {120, 160})
             .shownAs(small)
             .countingFrom(35)
             .with(Trait::Turned | Trait::Sideways | Trait::StartsInsideGop),
@@ -404,13 +406,13 @@ QList<Sample> noVideoSampleTable()
 QList<Sample> brokenSampleTable()
 {
     QList<Sample> samples{
-        Entry("truncated.mp4", 100).with(Trait::Damaged),
+        Entry("truncated.mp4", 100, pal, medium).with(Trait::Damaged),
         Entry("truncated.ts", 75).with(Trait::Damaged | Trait::NoStatedDuration),
-        Entry("truncated.mkv", 100).with(Trait::Damaged),
+        Entry("truncated.mkv", 100, pal, medium).with(Trait::Damaged),
         Entry("truncated.avi", 75).with(Trait::Damaged | Trait::NoPresentationTimes),
-        Entry("bit_flipped.mp4", 100).with(Trait::Damaged),
+        Entry("bit_flipped.mp4", 100, pal, medium).with(Trait::Damaged),
         Entry("bit_flipped.ts", 75).with(Trait::Damaged | Trait::NoStatedDuration),
-        Entry("bit_flipped.mkv", 100).with(Trait::Damaged),
+        Entry("bit_flipped.mkv", 100, pal, medium).with(Trait::Damaged),
     };
     for (const char* file : {"truncated_without_moov.mp4", "empty.mp4", "text.mp4",
                              "random_bytes.mp4", "folder.mp4"}) {

@@ -5,16 +5,16 @@ variable_rate() {
     local file=$1
     shift
     local ms='floor(N/4)*173+40*gte(mod(N,4),1)+20*gte(mod(N,4),2)+80*gte(mod(N,4),3)'
-    encode_filtered "$file" 320x240 25 60 "settb=1/1000,setpts='$ms'" "${X264[@]}" \
+    encode_filtered "$file" 160x120 25 60 "settb=1/1000,setpts='$ms'" "${X264[@]}" \
         -vsync passthrough -enc_time_base 1/1000 -x264-params keyint=20:bframes=2 "$@"
 }
 
 sample variable_rate.mkv variable_rate
 sample variable_rate.mp4 variable_rate -video_track_timescale 1000
 
-sample h264_23976fps.mkv encode 320x240 24000/1001 96 "${X264[@]}" \
+sample h264_23976fps.mkv encode 160x120 24000/1001 96 "${X264[@]}" \
     -x264-params keyint=24:bframes=2
-sample h264_5994fps.mov encode 320x240 60000/1001 60 "${X264[@]}" \
+sample h264_5994fps.mov encode 160x120 60000/1001 60 "${X264[@]}" \
     -x264-params keyint=30:bframes=2
 
 # Begins with frame 35, ten frames behind a key frame.
@@ -28,17 +28,17 @@ sample sound_later.mp4 with_sound 0 0.48 aac
 sample sound_later.mkv with_sound 0 0.48 mp2
 
 sound_first() {
-    ff -f lavfi -i "$(sound 2)" -f lavfi -i "$(pictures 320x240 25 trim=end_frame=50)" \
+    ff -f lavfi -i "$(sound 2)" -f lavfi -i "$(pictures 160x120 25 trim=end_frame=50)" \
         -map 0 -map 1 "${EXACT[@]}" "${X264[@]}" -c:a mp2 "$1"
 }
 sample sound_first_stream.mkv sound_first
 
 # Written to a pipe, a WebM cannot go back to fill in its duration and index.
 through_pipe() {
-    encode - 320x240 25 75 -c:v libvpx "${VPX[@]}" -g 25 -f webm >"$1"
+    encode - 160x120 25 75 -c:v libvpx "${VPX[@]}" -g 25 -f webm >"$1"
 }
 sample no_duration.webm through_pipe
-sample no_duration.flv encode 320x240 25 75 -c:v flv -q:v 4 -g 25 \
+sample no_duration.flv encode 160x120 25 75 -c:v flv -q:v 4 -g 25 \
     -flvflags no_duration_filesize+no_metadata
 
 derived no_cues.webm vp8.webm patched_webm without-cues
@@ -76,14 +76,14 @@ sample sound_only.wav sound_only
 video_with_cover() {
     local file=$1 cover=$2
     shift 2
-    ff -f lavfi -i "$(pictures 320x240 25 trim=end_frame=50)" -f lavfi -i "$(sound 2)" \
+    ff -f lavfi -i "$(pictures 160x120 25 trim=end_frame=50)" -f lavfi -i "$(sound 2)" \
         -i "$cover" -map 1 -map 0 -map 2 "${EXACT[@]}" "${X264[@]}" -c:v:1 copy \
         -disposition:v:1 attached_pic -c:a aac "$@" "$file"
 }
 derived cover_and_video.mp4 cover.jpg video_with_cover
 
 video_with_attachment() {
-    ff -f lavfi -i "$(pictures 320x240 25 trim=end_frame=50)" -f lavfi -i "$(sound 2)" \
+    ff -f lavfi -i "$(pictures 160x120 25 trim=end_frame=50)" -f lavfi -i "$(sound 2)" \
         -attach "$2" -metadata:s:t mimetype=image/jpeg -metadata:s:t filename=cover.jpg \
         -map 1 -map 0 "${EXACT[@]}" "${X264[@]}" -c:a mp2 "$1"
 }
@@ -92,7 +92,7 @@ derived cover_and_video.mkv cover.jpg video_with_attachment
 two_videos() {
     local second="color=gray:s=160x120:r=25,format=yuv444p,setsar=1[scene];"
     second+="$(numbers 160x120 25 1000)[number];[scene][number]overlay=format=yuv444"
-    ff -f lavfi -i "$(pictures 320x240 25)" -f lavfi -i "$second" \
+    ff -f lavfi -i "$(pictures 160x120 25)" -f lavfi -i "$second" \
         -map 0 -map 1 -frames:v 50 "${EXACT[@]}" "${X264[@]}" \
         -x264-params keyint=25:bframes=2 "$1"
 }

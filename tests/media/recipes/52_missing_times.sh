@@ -38,9 +38,9 @@ small_pictures_with_sound() {
 sample mpeg2_untimed_keys_sound.vob small_pictures_with_sound
 
 # The clock of 33 bits starts again from 0 after 95443.7 seconds, and 0.8 seconds into the file.
-sample h264_clock_wraps.ts encode 320x240 25 75 "${X264[@]}" -x264-params keyint=25:bframes=3 \
+sample h264_clock_wraps.ts encode 160x120 25 75 "${X264[@]}" -x264-params keyint=25:bframes=3 \
     -output_ts_offset 95441.5
-sample mpeg2_clock_wraps.ts encode 320x240 25 75 -c:v mpeg2video -q:v 8 -g 12 -bf 2 \
+sample mpeg2_clock_wraps.ts encode 160x120 25 75 -c:v mpeg2video -q:v 8 -g 12 -bf 2 \
     -output_ts_offset 95441.5
 
 # Without its list of key frames an MP4 says that every frame is one.
@@ -51,14 +51,14 @@ derived h264_all_flagged_key.mp4 h264_bframes.mp4 all_flagged_key
 misflagged h264_all_flagged_key.mp4
 
 # As cameras record: key frames are followed by frames that need the group before.
-sample h264_open_gop.mov encode 320x240 25 125 "${X264[@]}" \
+sample h264_open_gop.mov encode 160x120 25 125 "${X264[@]}" \
     -x264-params keyint=25:scenecut=0:open-gop=1:bframes=3
-sample mpeg2_open_gop.mov encode 320x240 25 125 -c:v mpeg2video -q:v 8 -g 15 -bf 2
+sample mpeg2_open_gop.mov encode 160x120 25 125 -c:v mpeg2video -q:v 8 -g 15 -bf 2
 
 # A picture is refreshed stripe by stripe, for four seconds; none but the first is whole at once.
-sample h264_long_refresh.mp4 encode 320x240 25 250 "${X264[@]}" \
+sample h264_long_refresh.mp4 encode 160x120 25 250 "${X264[@]}" \
     -x264-params intra-refresh=1:keyint=100:bframes=0
-sample h264_long_refresh.mkv encode 320x240 25 250 "${X264[@]}" \
+sample h264_long_refresh.mkv encode 160x120 25 250 "${X264[@]}" \
     -x264-params intra-refresh=1:keyint=100:bframes=2
-sample h264_long_refresh.ts encode 320x240 25 250 "${X264[@]}" \
+sample h264_long_refresh.ts encode 160x120 25 250 "${X264[@]}" \
     -x264-params intra-refresh=1:keyint=100:bframes=0

@@ -6,7 +6,7 @@ screen_recording() {
     local file=$1 burst='mod(floor(N/5),4)'
     shift
     local ms="floor(N/20)*26600+mod(N,5)*100+3400*gte($burst,1)+10400*gte($burst,2)+5400*gte($burst,3)"
-    encode_filtered "$file" 320x240 25 40 "settb=1/1000,setpts='$ms'" \
+    encode_filtered "$file" 160x120 25 40 "settb=1/1000,setpts='$ms'" \
         -vsync passthrough -enc_time_base 1/1000 "$@"
 }
 sample screen_recording.mkv screen_recording "${X264[@]}" -x264-params keyint=250:bframes=2
@@ -24,7 +24,7 @@ sample video_from_3s.ts with_sound 3 0 mp2
 sound_goes_on() {
     local file=$1 codec=$2
     shift 2
-    ff -f lavfi -i "$(pictures 320x240 25 trim=end_frame=75)" -f lavfi -i "$(sound 13)" \
+    ff -f lavfi -i "$(pictures 160x120 25 trim=end_frame=75)" -f lavfi -i "$(sound 13)" \
         -map 0 -map 1 "${EXACT[@]}" "$@" -c:a "$codec" -b:a 64k "$file"
 }
 sample sound_goes_on.mp4 sound_goes_on aac "${X264[@]}" -x264-params keyint=25:bframes=2
