@@ -52,15 +52,18 @@ const QList<Sample>& allVideoSamples()
 
 const QList<Sample>& videoSamplesToRepeat()
 {
-    static const QList<Sample> samples = [] {
-        constexpr int step = isSanitized ? 5 : 1;
-        QList<Sample> chosen;
-        for (int i = 0; i < allVideoSamples().size(); i += step) {
-            chosen.append(allVideoSamples().at(i));
-        }
-        return chosen;
-    }();
+    static const QList<Sample> samples = samplesToRepeat(allVideoSamples());
     return samples;
+}
+
+QList<Sample> samplesToRepeat(const QList<Sample>& samples)
+{
+    constexpr int step = isSanitized ? 5 : 1;
+    QList<Sample> chosen;
+    for (int i = 0; i < samples.size(); i += step) {
+        chosen.append(samples.at(i));
+    }
+    return chosen;
 }
 
 const QList<Sample>& noVideoSamples()

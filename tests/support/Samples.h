@@ -74,6 +74,9 @@ struct Sample
 /// then covers all code paths, but not each with every sample.
 [[nodiscard]] const QList<Sample>& videoSamplesToRepeat();
 
+/// The same of some of them: of each kind of sample that a test is about, at least one remains.
+[[nodiscard]] QList<Sample> samplesToRepeat(const QList<Sample>& samples);
+
 /// Files without video: only sound, or sound with a cover picture.
 [[nodiscard]] const QList<Sample>& noVideoSamples();
 

@@ -101,22 +101,42 @@ BatchWorkerConfig& addSpreadJob(RunningBatch& batch, const QString& video, const
     return config;
 }
 
-/// Measures the longest time that an event had to wait during its lifetime.
+/// How long this thread has been ready to run while no processor was free; 0 if the system does not
+/// tell.
+qint64 processorWaitMs()
+{
+    QFile file(QStringLiteral("/proc/thread-self/schedstat"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    return file.readAll().split(' ').value(1).toLongLong() / 1'000'000;
+}
+
+/// Measures the longest time that an event had to wait during its lifetime, without the time for
+/// which other programs had the processors.
 class Heartbeat : public QObject
 {
 public:
     Heartbeat()
     {
-        connect(&m_timer, &QTimer::timeout, this,
-                [this] { m_longestMs = qMax(m_longestMs, m_clock.restart()); });
+        connect(&m_timer, &QTimer::timeout, this, &Heartbeat::beat);
         m_clock.start();
         m_timer.start(5);
     }
     qint64 longestMs() const { return m_longestMs; }
 
 private:
+    void beat()
+    {
+        const qint64 processorWait = processorWaitMs();
+        const qint64 ms = m_clock.restart() - (processorWait - m_processorWaitMs);
+        m_processorWaitMs = processorWait;
+        m_longestMs = qMax(m_longestMs, ms);
+    }
+
     QTimer m_timer;
     QElapsedTimer m_clock;
+    qint64 m_processorWaitMs = processorWaitMs();
     qint64 m_longestMs = 0;
 };
 
