@@ -108,7 +108,9 @@ template <typename IsHarmless>
 bool areHarmless(std::string_view text, std::string_view start, const IsHarmless& isHarmless)
 {
     for (auto at = text.find(start); at != std::string_view::npos; at = text.find(start, at + 1)) {
-        if (!isHarmless(typeAt(text.substr(at + start.size())))) {
+        // QSettings doubles the first character of texts that begin with it.
+        const bool isText = at > 0 && text[at - 1] == '@';
+        if (!isText && !isHarmless(typeAt(text.substr(at + start.size())))) {
             return false;
         }
     }

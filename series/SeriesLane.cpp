@@ -428,10 +428,9 @@ void SeriesLane::approach(qint64 ms)
 bool SeriesLane::wantsToStartAnew(qint64 ms, qint64 lastMs) const
 {
     if (!m_knowsKeyFrames) {
-        const std::optional<qint64> groupMs = m_reader.longestGroupMs();
-        const qint64 readAheadMs = groupMs
-                                       ? std::min(2 * *groupMs + searchCostMs, longestReadAheadMs)
-                                       : longestReadAheadMs;
+        const qint64 groupMs =
+            std::min(m_reader.longestGroupMs().value_or(longestReadAheadMs), longestReadAheadMs);
+        const qint64 readAheadMs = std::min(2 * groupMs + searchCostMs, longestReadAheadMs);
         return ms - lastMs > readAheadMs;
     }
     return m_board.plan(m_video).keyFrameBefore(ms) - lastMs > worthStartingMs;

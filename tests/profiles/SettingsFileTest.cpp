@@ -121,6 +121,7 @@ private Q_SLOTS:
             settings.setValue(QStringLiteral("bytes"), QByteArray("\0\1\n\r=[;\\", 9));
             settings.setValue(QStringLiteral("profiles/[ä;\n]/名"), QStringLiteral("a\nb\\"));
             settings.setValue(QStringLiteral("list"), QStringList{QStringLiteral("a, b"), {}});
+            settings.setValue(QStringLiteral("text"), QStringLiteral("@Variant(I"));
             const std::initializer_list<QVariant> values{QSizeF(1.5, 2.5),
                                                          QColor(Qt::red),
                                                          QFont(QStringLiteral("Serif")),
