@@ -16,7 +16,7 @@ constexpr Rational film{24000, 1001};
 constexpr Rational ntsc{30000, 1001};
 constexpr Rational ntscFields{60000, 1001};
 constexpr QSize palSize{720, 576};
-constexpr QSize oddSize{161, 121};
+constexpr QSize oddSize{321, 241};
 
 /// The unit of the times in a container, determined by the file's extension.
 Rational tickOf(const QString& file)

@@ -59,11 +59,11 @@ interlaced() {
 sample h264_interlaced.mp4 interlaced 160x120 "${X264[@]}" -x264-params keyint=25:tff=1:bframes=2
 sample mpeg2_interlaced.ts interlaced 160x120 -c:v mpeg2video -q:v 4 -g 12 -bf 2
 
-sample odd_size_420.mkv encode 161x121 25 20 -c:v ffv1 -pix_fmt yuv420p
-sample odd_size_444.mkv encode 161x121 25 20 -c:v ffv1 -pix_fmt yuv444p
-sample odd_size_444.mp4 encode 161x121 25 20 "${X264[@]}" -pix_fmt yuv444p
-sample odd_size.webm encode 161x121 25 20 -c:v libvpx-vp9 "${VPX[@]}" -pix_fmt yuv420p
-sample odd_size.gif encode 161x121 25 20
+sample odd_size_420.mkv encode 321x241 25 20 -c:v ffv1 -pix_fmt yuv420p
+sample odd_size_444.mkv encode 321x241 25 20 -c:v ffv1 -pix_fmt yuv444p
+sample odd_size_444.mp4 encode 321x241 25 20 "${X264[@]}" -pix_fmt yuv444p
+sample odd_size.webm encode 321x241 25 20 -c:v libvpx-vp9 "${VPX[@]}" -pix_fmt yuv420p
+sample odd_size.gif encode 321x241 25 20
 sample odd_size_small.mkv encode 175x99 25 20 -c:v ffv1 -pix_fmt yuv420p
 sample odd_size_small.webm encode 175x99 25 20 -c:v libvpx "${VPX[@]}"
 
