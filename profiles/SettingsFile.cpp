@@ -18,7 +18,7 @@
 namespace {
 
 /// Enough for more than a thousand profiles.
-constexpr qint64 largestFile = 16 * 1024 * 1024;
+constexpr qint64 largestFile = qint64{16} * 1024 * 1024;
 constexpr int mostNames = 1000;
 
 /// The only control characters within a line are tabs; carriage returns come from other systems.

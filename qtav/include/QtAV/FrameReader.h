@@ -242,17 +242,14 @@ private:
     int m_decoderThreads = 0;           ///< those of m_decoder
     std::optional<qint64> m_target;     ///< of a seek that has not landed yet, in milliseconds
     qint64 m_origin = 0;                ///< the position of the last seek in milliseconds
-    bool m_resumes = false;             ///< m_target returns to where reading was interrupted
     Packet m_first;                     ///< read by land() and not decoded yet
     std::deque<Packet> m_ahead;         ///< packets read after m_first by readAhead()
     std::optional<double> m_groupStart; ///< time of the key frame read last since land()
     double m_longestGroup = 0;          ///< in seconds, see longestGroupMs()
-    bool m_hasReadGroup = false;        ///< two key frames were read one after the other
     Deinterlacing m_wantedDeinterlacing = Deinterlacing::Automatic;
     Deinterlacing m_deinterlacing = Deinterlacing::Automatic; ///< in effect since seek()
     std::shared_ptr<Deinterlacer> m_deinterlacer;             ///< of the open file
-    bool m_isInterlaced = false;    ///< neighbours may be needed in the open file
-    std::deque<Decoded> m_decoded;  ///< decoded and not delivered yet
+    std::deque<Decoded> m_decoded;                            ///< decoded and not delivered yet
     std::optional<double> m_newest; ///< the time of the most recently decoded frame
     qint64 m_completeFrom = 0;
     double m_skippedUpTo = -1.0; ///< frames up to this time may be missing
@@ -261,6 +258,9 @@ private:
     bool m_decoderHurries = true; ///< m_decoder delivers key frames at once
     bool m_startedAtZero = true;
     bool m_isLost = false;
+    bool m_isInterlaced = false; ///< neighbours may be needed in the open file
+    bool m_resumes = false;      ///< m_target returns to where reading was interrupted
+    bool m_hasReadGroup = false; ///< two key frames were read one after the other
     int m_invalidPackets = 0;
     std::optional<double> m_landing;
     bool m_landedOnKeyFrame = false;
