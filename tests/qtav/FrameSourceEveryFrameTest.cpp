@@ -19,7 +19,7 @@ using testsupport::Sample;
 
 namespace {
 
-/// Limit on decoding for one row of seeks, in frames of 160x120.
+/// Limit on decoding for one row of seeks, in frames of 320x240.
 constexpr int mostDecoded = 500;
 constexpr int mostDecodedOnManyCores = 150;
 

@@ -7,7 +7,7 @@ namespace testsupport {
 
 namespace {
 
-constexpr qint64 pixelsOfSmallPicture = 160 * 120;
+constexpr qint64 pixelsOfSmallPicture = 320 * 240;
 constexpr int namedMistakes = 8;
 
 /// Total number of small pictures to decode for reaching each frame from its key frame.

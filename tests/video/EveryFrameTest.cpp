@@ -21,7 +21,7 @@ using testsupport::Sample;
 
 namespace {
 
-/// Limit on decoding for one row, in frames of 160x120, when each frame is requested at its time:
+/// Limit on decoding for one row, in frames of 320x240, when each frame is requested at its time:
 /// all frames of most samples, some of those with long groups of pictures.
 constexpr int mostDecoded = 1700;
 constexpr int mostDecodedOnManyCores = 150;
