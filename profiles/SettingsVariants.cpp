@@ -47,6 +47,7 @@ public:
     QByteArray decoded()
     {
         QByteArray text;
+        text.reserve(static_cast<int>(m_end - m_next));
         while (m_next != m_end) {
             const char c = *m_next++;
             if (c == '\\') {
