@@ -29,8 +29,9 @@ class Deinterlacer;
 /// slightly earlier. Everything documented about last() and its predecessor refers to the delivered
 /// frame.
 ///
-/// The implementation is split: FrameReader.cpp delivers frames in sequence, FrameReader_search.cpp
-/// searches for one.
+/// The implementation is split: FrameReader.cpp delivers frames in sequence,
+/// FrameReader_packets.cpp seeks and reads without decoding, FrameReader_search.cpp searches for a
+/// frame.
 ///
 /// Not thread-safe, but tied to no thread: one thread at a time may use it.
 class FrameReader
