@@ -90,8 +90,6 @@ WriteResult SnapshotPane::save(const Saving& saving, const QString& path, Existi
         // Another snapshot may be shown by now.
         const bool isShown = saving.captured.image.cacheKey() == m_captured.image.cacheKey();
         m_isKept = m_isKept || isShown;
-    }
-    if (result == WriteResult::Written) {
         reportSaved(path);
     } else {
         reportUnsaved(path, failure);
