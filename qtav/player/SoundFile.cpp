@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 namespace QtAV {
 
@@ -22,8 +23,21 @@ constexpr double stepsBackSeconds[] = {0.0, 2.0, 10.0};
 /// Sound whose times deviate more than this is moved to where they say.
 constexpr double mostOffsetSeconds = 0.05;
 
-/// Maximum silence that fills a gap, which damaged times may claim to be any length.
-constexpr double longestSilenceSeconds = 3600.0;
+/// Maximum gap between the times of two frames, which damaged times may claim to be any length.
+constexpr double longestGapSeconds = 24 * 3600.0;
+
+/// What a frame of sound may declare. Others are damaged, and would take any amount of memory: at
+/// one sample per second, a short frame lasts for hours, and at a thousand million, a resampler's
+/// filter has as many coefficients.
+constexpr int lowestRate = 1000;
+constexpr int highestRate = 1000000;
+constexpr int longestFrameSeconds = 10;
+
+bool isPlausible(const AVFrame& frame)
+{
+    return frame.sample_rate >= lowestRate && frame.sample_rate <= highestRate &&
+           frame.nb_samples / frame.sample_rate < longestFrameSeconds;
+}
 
 } // namespace
 
@@ -84,6 +98,7 @@ bool SoundFile::seek(double seconds)
         avcodec_flush_buffers(m_decoder.get());
         m_resampler.reset();
         makeTempo();
+        m_silence = 0;
         m_placed.clear();
         m_ready.clear();
         m_readyFrom = 0;
@@ -128,31 +143,30 @@ qint64 SoundFile::read(char* data, qint64 bytes)
     return done;
 }
 
-/// Returns false at the end.
+/// Replaces what was read; returns false at the end.
 bool SoundFile::makeMore()
 {
-    if (decodeMore()) {
+    m_ready.clear();
+    m_readyFrom = 0;
+    const bool isWaiting = m_silence > 0 || !m_placed.isEmpty();
+    if (isWaiting || decodeMore()) {
+        passOn();
         return true;
     }
     if (m_tempo) {
         m_tempo->finish(m_ready);
     }
-    return m_readyFrom < m_ready.size();
+    return !m_ready.isEmpty();
 }
 
 /// Decodes one more frame; returns false at the end.
 bool SoundFile::decodeMore()
 {
-    if (m_readyFrom == m_ready.size()) {
-        m_ready.clear();
-        m_readyFrom = 0;
-    }
     const FramePtr frame = makeFrame();
     for (;;) {
         const int result = avcodec_receive_frame(m_decoder.get(), frame.get());
         if (result >= 0) {
             take(*frame);
-            passOn();
             return true;
         }
         if (result == AVERROR_EOF || m_isDrained) {
@@ -182,20 +196,24 @@ bool SoundFile::sendPacket()
     }
 }
 
+/// Makes the next samples ready: a second of silence, or those behind it.
 void SoundFile::passOn()
 {
+    const qint64 silence = std::min<qint64>(m_silence, m_rate);
+    m_silence -= silence;
+    const QByteArray samples = silence > 0 ? QByteArray(int(silence) * bytesPerFrame(), '\0')
+                                           : std::exchange(m_placed, {});
     // Without SoundTempo there is no sound, but the next seek creates another one.
     if (!m_tempo) {
-        m_ready.append(m_placed);
-    } else if (!m_tempo->put(m_placed, m_ready)) {
+        m_ready = samples;
+    } else if (!m_tempo->put(samples, m_ready)) {
         qCWarning(lcQtAV, "No memory for sound at another speed.");
     }
-    m_placed.clear();
 }
 
 void SoundFile::take(const AVFrame& frame)
 {
-    if (!prepareResampler(frame)) {
+    if (!isPlausible(frame) || !prepareResampler(frame)) {
         return;
     }
     if (frame.best_effort_timestamp != AV_NOPTS_VALUE) {
@@ -225,16 +243,14 @@ void SoundFile::placeAt(double seconds)
     } else if (std::abs(offset) < mostOffsetSeconds) {
         return;
     }
+    const qint64 samples = samplesFor(std::min(std::abs(offset), longestGapSeconds));
     if (offset > 0.0) {
-        const double silence = std::min(offset, longestSilenceSeconds);
-        qint64 samples = samplesFor(silence);
         const qint64 skipped = std::min(samples, m_toSkip);
         m_toSkip -= skipped;
-        samples -= skipped;
-        m_placed.append(int(samples) * bytesPerFrame(), '\0');
-        m_made += samples;
+        m_silence = samples - skipped;
+        m_made += m_silence;
     } else {
-        m_toSkip += samplesFor(-offset);
+        m_toSkip += samples;
     }
 }
 

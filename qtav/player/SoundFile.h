@@ -71,9 +71,10 @@ private:
     qint64 m_made = 0;                   ///< samples per channel placed since then
     qint64 m_toSkip = 0;                 ///< samples per channel before it that are skipped
     bool m_isDrained = false;
-    QByteArray m_placed; ///< converted samples at their place in time
-    QByteArray m_ready;  ///< the same at the requested speed, not yet read
-    int m_readyFrom = 0; ///< read position in m_ready, in bytes
+    qint64 m_silence = 0; ///< samples per channel that come before m_placed
+    QByteArray m_placed;  ///< converted samples of one frame
+    QByteArray m_ready;   ///< samples at the requested speed, not yet read
+    int m_readyFrom = 0;  ///< read position in m_ready, in bytes
 };
 
 } // namespace QtAV

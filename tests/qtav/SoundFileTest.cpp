@@ -1,5 +1,6 @@
 #include "qtav/player/SoundFile.h"
 
+#include "tests/support/ResourceLimits.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
 
@@ -8,14 +9,19 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 using QtAV::SoundFile;
+using testsupport::MemoryLimit;
 using testsupport::samplePath;
 using testsupport::TestDir;
 
 namespace {
 
 constexpr int soundRate = 48000;
+
+/// Enough for a second of sound and what FFmpeg needs.
+constexpr rlim_t littleMemory = 64 << 20;
 
 /// Opens a file and makes it deliver samples of one channel.
 [[nodiscard]] bool openMono(SoundFile& sound, const QString& path)
@@ -85,8 +91,8 @@ void append(QByteArray& bytes, quint32 number, int count)
     }
 }
 
-/// A WAV file of one channel with a tone of that frequency.
-QByteArray toneOf(double hertz, int samples)
+/// A WAV file of one channel with a tone of that frequency, for samples at 48 kHz.
+QByteArray toneOf(double hertz, int samples, quint32 declaredRate = soundRate)
 {
     QByteArray wav("RIFF");
     append(wav, quint32(36 + 2 * samples), 4);
@@ -94,8 +100,8 @@ QByteArray toneOf(double hertz, int samples)
     append(wav, 16, 4);
     append(wav, 1, 2);
     append(wav, 1, 2);
-    append(wav, soundRate, 4);
-    append(wav, 2 * soundRate, 4);
+    append(wav, declaredRate, 4);
+    append(wav, 2 * declaredRate, 4);
     append(wav, 2, 2);
     append(wav, 16, 2);
     wav += "data";
@@ -141,6 +147,7 @@ class SoundFileTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { MemoryLimit::prepare(); }
     void samples_areThoseOfTheFile_atEachPosition();
     void samples_areAsManyAsTheFormatWants();
     void speed_givesTheFileInLessTime_orInMore();
@@ -148,6 +155,10 @@ private slots:
     void speed_keepsThePitch();
     void lateSound_isPrecededBySilence_data();
     void lateSound_isPrecededBySilence();
+    void gap_isSilent_atEachSpeed();
+    void gap_takesLittleMemory_howeverManyChannelsTheDeviceHas();
+    void sampleRateThatNobodyUses_givesNoSound_andTakesLittleMemory_data();
+    void sampleRateThatNobodyUses_givesNoSound_andTakesLittleMemory();
     void sound_endsWhereTheFileEndsIt();
     void nothing_isRead_behindTheEnd();
     void seeking_works_afterTheEnd();
@@ -264,6 +275,65 @@ void SoundFileTest::lateSound_isPrecededBySilence()
     }
     QVERIFY(sound.seek(1.0));
     QVERIFY(firstLoudSecond(readRest(sound)) < 0.01);
+}
+
+/// The sound of a second, and a minute later that of another one.
+void SoundFileTest::gap_isSilent_atEachSpeed()
+{
+    SoundFile sound;
+    QVERIFY(openMono(sound, samplePath(QStringLiteral("sound_with_gap.mka"))));
+    for (const double speed : {1.0, 2.0, 4.0}) {
+        sound.setFormat(soundRate, 1, speed);
+        QVERIFY(sound.seek(0.0));
+        const QVector<qint16> samples = readRest(sound);
+        QVERIFY(std::abs(double(samples.size()) / soundRate - 62.0 / speed) < 0.03);
+        QVERIFY(strength(samples, 0.1, 0.9 / speed) > 100.0);
+        QCOMPARE(strength(samples, 1.2 / speed, 60.9 / speed), 0.0);
+        QVERIFY(strength(samples, 61.2 / speed, 61.9 / speed) > 100.0);
+    }
+    sound.setFormat(soundRate, 1);
+    QVERIFY(sound.seek(30.0));
+    QVERIFY(std::abs(firstLoudSecond(readRest(sound)) - 31.056) < 0.01);
+}
+
+void SoundFileTest::gap_takesLittleMemory_howeverManyChannelsTheDeviceHas()
+{
+    if (!MemoryLimit::isPossible()) {
+        QSKIP("Sanitizers end a program that gets no memory.");
+    }
+    SoundFile sound;
+    QVERIFY(openMono(sound, samplePath(QStringLiteral("sound_with_gap.mka"))));
+    sound.setFormat(192000, 8);
+    QByteArray part(192000 * 8 * 2, '\0');
+    const MemoryLimit limit(littleMemory);
+    QVERIFY(sound.seek(0.0));
+    for (int second = 0; second < 10; ++second) {
+        QCOMPARE(sound.read(part.data(), part.size()), qint64(part.size()));
+    }
+}
+
+void SoundFileTest::sampleRateThatNobodyUses_givesNoSound_andTakesLittleMemory_data()
+{
+    QTest::addColumn<quint32>("rate");
+    for (const quint32 rate : {1U, 999U, 1000001U, 2000000000U}) {
+        QTest::addRow("%u per second", rate) << rate;
+    }
+}
+
+void SoundFileTest::sampleRateThatNobodyUses_givesNoSound_andTakesLittleMemory()
+{
+    QFETCH(const quint32, rate);
+    const TestDir dir;
+    const QString path = dir.filePath(QStringLiteral("rate.wav"));
+    write(path, toneOf(440.0, soundRate, rate));
+    SoundFile sound;
+    QVERIFY(openMono(sound, path));
+    std::optional<MemoryLimit> limit;
+    if (MemoryLimit::isPossible()) {
+        limit.emplace(littleMemory);
+    }
+    static_cast<void>(sound.seek(0.0));
+    QVERIFY(readRest(sound).isEmpty());
 }
 
 /// Half way through the pictures.

@@ -25,7 +25,6 @@ private:
 ///
 /// Leave some room for small allocations of the code under test and of the test itself. Large
 /// blocks freed before might be reused, so call prepare() when the test program starts.
-/// blocks freed before might still be found, so call prepare() when the test program starts.
 class MemoryLimit
 {
 public:

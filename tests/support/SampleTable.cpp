@@ -396,8 +396,8 @@ QList<Sample> noVideoSampleTable()
 {
     QList<Sample> samples;
     for (const char* file :
-         {"sound_only.mp3", "sound_only.mp4", "sound_only.wav", "sound_with_cover.mp3",
-          "sound_with_cover.m4a", "sound_with_cover.flac"}) {
+         {"sound_only.mp3", "sound_only.mp4", "sound_only.wav", "sound_with_gap.mka",
+          "sound_with_cover.mp3", "sound_with_cover.m4a", "sound_with_cover.flac"}) {
         samples.append(Entry(file, 0).with(Trait::NoVideo | Trait::Sound));
     }
     return samples;

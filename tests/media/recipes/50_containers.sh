@@ -72,6 +72,12 @@ sample sound_only.mp3 sound_only -c:a libmp3lame
 sample sound_only.mp4 sound_only -c:a aac
 sample sound_only.wav sound_only
 
+# A recording that was paused for a minute.
+sound_with_gap() {
+    ff -f lavfi -i "$(sound 2),asetpts=PTS+gte(T\\,1)*60/TB" "${EXACT[@]}" -c:a flac "$1"
+}
+sample sound_with_gap.mka sound_with_gap
+
 # video_with_cover FILE COVER ARG…: sound is stream 0 and the video comes behind it.
 video_with_cover() {
     local file=$1 cover=$2
