@@ -29,7 +29,8 @@ QImage smallPicture(const QtAV::VideoFrame& frame, QImage::Format format, const 
 } // namespace
 
 QVector<qint64> series::findBest(FrameReader& reader, const VideoStretch& stretch, int count,
-                                 const QtAV::IsCancelled& isCancelled, QString& error)
+                                 const QtAV::IsCancelled& isCancelled, QString& error,
+                                 const std::function<void()>& onFrame)
 {
     const qint64 start = std::max<qint64>(0, stretch.fromMs - aroundMs);
     reader.setKeyFrameAtOnce(false);
@@ -48,6 +49,9 @@ QVector<qint64> series::findBest(FrameReader& reader, const VideoStretch& stretc
         if (found.answer != FrameAnswer::Frame) {
             error = found.answer == FrameAnswer::Failed ? found.error : QString();
             break;
+        }
+        if (onFrame) {
+            onFrame();
         }
         const qint64 ms = toMilliseconds(found.frame.timestamp());
         if (ms >= stretch.toMs + aroundMs) {

@@ -10,6 +10,8 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
+
 namespace QtAV {
 class FrameReader;
 } // namespace QtAV
@@ -33,10 +35,11 @@ struct BestFrames
 namespace series {
 
 /// The times of the best frames, using an open reader that afterwards needs a seek. Empty, without
-/// an error, if all frames are empty, blurred or next to cuts.
+/// an error, if all frames are empty, blurred or next to cuts, or if it was cancelled.
+/// @param onFrame  called for each frame that was decoded; may be empty
 [[nodiscard]] QVector<qint64> findBest(QtAV::FrameReader& reader, const VideoStretch& stretch,
                                        int count, const QtAV::IsCancelled& isCancelled,
-                                       QString& error);
+                                       QString& error, const std::function<void()>& onFrame = {});
 
 /// Like above for the video at a path, with pictures that fit into a size in pixels.
 [[nodiscard]] BestFrames findBest(const QString& video, QtAV::Deinterlacing deinterlacing,

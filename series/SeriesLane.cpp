@@ -197,7 +197,8 @@ SeriesBoard::Task SeriesLane::makePlan(const Task& task)
     return m_board.planned(task.video, std::move(plan), facts, std::move(failures));
 }
 
-/// This lane examines all frames alone, with as many decoding threads as there are lanes.
+/// This lane examines all frames alone, with as many decoding threads as there are lanes. The time
+/// limit applies to each of them.
 FramePositions SeriesLane::bestPositions(const FramePositions& wanted, qint64 durationMs,
                                          QString& error)
 {
@@ -206,14 +207,19 @@ FramePositions SeriesLane::bestPositions(const FramePositions& wanted, qint64 du
     m_reader.setThreads(m_options.lanes);
     FramePositions best;
     best.kind = FramePositions::Kind::List;
-    const QVector<qint64> times =
-        series::findBest(m_reader, stretch, wanted.count, m_isCancelled, error);
+    beginPosition();
+    const QVector<qint64> times = series::findBest(
+        m_reader, stretch, wanted.count, m_isCancelledOrLate, error, [this] { beginPosition(); });
     for (const qint64 ms : times) {
         best.list.push_back({FramePosition::Kind::Milliseconds, static_cast<double>(ms)});
     }
     if (times.isEmpty() && error.isEmpty()) {
-        error = QCoreApplication::translate("series", "All frames are black, blurred or at a cut.");
+        error = m_deadline->hasPassed()
+                    ? overdueText()
+                    : QCoreApplication::translate("series",
+                                                  "All frames are black, blurred or at a cut.");
     }
+    m_deadline->start(std::chrono::milliseconds(0));
     return best;
 }
 

@@ -63,6 +63,15 @@ class Reading(FaultCase):
                              faults="call=read,slow=1000,after=12")
         self.check_told(result, "Given up after 0.2 seconds")
 
+    def test_best_frames_of_a_slow_disk_are_those_of_the_whole_video(self):
+        # Examining all frames takes longer than any of them may.
+        shutil.copy(sample("dv.avi"), self.video)
+        expected, _ = self.pictures("--best", "4", "-j1")
+        given, result = self.pictures("--best", "4", "-j1", "--position-timeout", "1500ms",
+                                      faults="call=read,slow=100,after=50")
+        self.assertEqual(result.status, 0, str(result))
+        self.assertEqual(given, expected)
+
     def test_disk_that_never_answers_does_not_hold_the_run_up(self):
         result = self.stills(self.video, "-c1", "--position-timeout", "300ms", "-o", self.out,
                              below=self.videos, faults="call=read,slow=600000", timeout=20)
