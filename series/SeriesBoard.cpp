@@ -275,13 +275,21 @@ void SeriesBoard::finished(int video, int stretch, const QString& error)
 }
 
 /// Passes to the output everything whose turn it is. If another lane is doing so, that lane takes
-/// over the new picture.
+/// over the new picture. If the output throws, the rest is passed on with the next picture.
 void SeriesBoard::drain(std::unique_lock<std::mutex>& lock)
 {
     if (std::exchange(m_isDraining, true)) {
         return;
     }
-    while (!m_isCancelled() && drainOne(lock)) {
+    try {
+        while (!m_isCancelled() && drainOne(lock)) {
+        }
+    } catch (...) {
+        if (!lock.owns_lock()) {
+            lock.lock();
+        }
+        m_isDraining = false;
+        throw;
     }
     m_isDraining = false;
 }

@@ -1,8 +1,7 @@
 #include "series/SeriesLane.h"
 
-#include "imaging/FramePicture.h"
-#include "imaging/Rendering.h"
 #include "series/BestFrames.h"
+#include "series/SeriesPictures.h"
 
 #include <QtAV/AVDemuxer.h>
 #include <QtAV/Times.h>
@@ -40,43 +39,15 @@ constexpr int mostOverdue = 3;
 /// Minimum reading speed for a whole file: that of a slow network share.
 constexpr qint64 slowestBytesPerMs = 1000;
 
-QImage thumbnailOf(const QImage& image, const QSize& bounds)
-{
-    const QSize size = image.size().scaled(bounds, Qt::KeepAspectRatio);
-    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
 QString noMemoryText()
 {
     return QCoreApplication::translate("imaging", "Not enough memory");
 }
 
-/// Renders and encodes a picture; on failure, sets the error instead.
-void makePicture(SeriesPicture& picture, const SeriesJob& job, const QtAV::VideoFrame& frame,
-                 const PictureSource& source)
+QString tooMuchText()
 {
-    const ImageRecipe recipe = forType(job.recipe, job.type);
-    const imaging::Rendering made = imaging::render(imaging::pictureOf(frame, recipe), recipe);
-    picture.size = made.image.size();
-    picture.error = made.error;
-    if (made.image.isNull()) {
-        return;
-    }
-    if (!job.type.isEmpty()) {
-        picture.content = imaging::encode(made.image, recipe, job.type, source);
-        if (picture.content.isEmpty()) {
-            picture.error =
-                QCoreApplication::translate("series", "The picture could not be encoded as %1.")
-                    .arg(job.type);
-            return;
-        }
-    }
-    if (!job.thumbnail.isEmpty()) {
-        picture.thumbnail = thumbnailOf(made.image, job.thumbnail);
-    }
-    if (job.keepsImage) {
-        picture.image = made.image;
-    }
+    return QCoreApplication::translate("series", "More than %1 pictures would be needed.")
+        .arg(mostTargets);
 }
 
 } // namespace
@@ -189,6 +160,10 @@ SeriesBoard::Task SeriesLane::makePlan(const Task& task)
                         length.durationMs - msOf(positions.back, length.durationMs) + 1,
                         std::move(keyFrames), m_options.lanes);
     } else {
+        if (isTooMuch(positions, length)) {
+            m_board.failed(task.video, tooMuchText());
+            return {};
+        }
         QVector<SeriesTarget> targets = neededTargets(task.video, positions, length, failures);
         facts.expected = targets.size() + static_cast<int>(failures.size());
         plan = planTargets(std::move(targets), std::move(keyFrames), m_options.lanes);
@@ -468,8 +443,9 @@ bool SeriesLane::deliver(const Task& task, Delivery delivery, const FrameResult&
         if (time != times.cend() && *time == *picture.timeMs) {
             picture.frame = time - times.cbegin();
         }
-        makePicture(picture, m_jobs.at(task.video), found.frame,
-                    m_source.at(*delivery.seconds, found.frame.displaySize(), picture.frame));
+        series::makePicture(
+            picture, m_jobs.at(task.video), found.frame,
+            m_source.at(*delivery.seconds, found.frame.displaySize(), picture.frame));
     } else {
         picture.error =
             found.answer == FrameAnswer::Failed

@@ -87,6 +87,14 @@ qint64 msOf(const SeriesSkip& skip, qint64 durationMs)
                                                   : static_cast<qint64>(std::llround(skip.value));
 }
 
+bool isTooMuch(const FramePositions& positions, const SeriesLength& length)
+{
+    const qint64 from = msOf(positions.front, length.durationMs);
+    const qint64 to = length.durationMs - msOf(positions.back, length.durationMs);
+    return positions.kind == FramePositions::Kind::Every &&
+           (to - from) / std::max<qint64>(1, positions.everyMs) >= mostTargets;
+}
+
 QVector<SeriesTarget> targetsOf(const FramePositions& positions, const SeriesLength& length,
                                 std::vector<FramePosition>* missing)
 {

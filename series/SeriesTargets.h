@@ -28,6 +28,13 @@ struct SeriesLength
     QVector<qint64> frameTimesMs = {};
 };
 
+/// Maximum number of targets of a video: each millisecond of more than an hour, or each frame of a
+/// day.
+constexpr int mostTargets = 5000000;
+
+/// Whether the positions are more than mostTargets. A damaged video may state any length.
+[[nodiscard]] bool isTooMuch(const FramePositions& positions, const SeriesLength& length);
+
 /// The targets in rising order, without duplicates. Empty for KeyFrames, Scenes and Best, which are
 /// determined while decoding. Numbers of frames that do not exist are omitted and returned in
 /// `missing`.

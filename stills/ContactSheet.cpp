@@ -89,30 +89,24 @@ QRect centred(QSize size, const QRect& area)
 
 bool ContactSheet::add(const QImage& picture, qint64 timeMs)
 {
-    if (m_pictures.size() >= mostPictures) {
+    const QSize largest = m_largest.expandedTo(picture.size());
+    const qint64 pixels = qint64(largest.width()) * largest.height() * (count() + 1);
+    if (count() >= mostPictures || pixels > SheetLayout::mostPixels) {
         return false;
     }
+    m_largest = largest;
     m_pictures.append({picture, timeMs});
     return true;
 }
 
-QSize ContactSheet::largest() const
-{
-    QSize size(1, 1);
-    for (const Picture& picture : m_pictures) {
-        size = size.expandedTo(picture.image.size());
-    }
-    return size;
-}
-
 QImage ContactSheet::draw(const QString& title, const QString& facts) const
 {
-    const Letters letters(largest().width());
+    const Letters letters(m_largest.width());
     Heading heading{title, facts};
     if (m_sheet.title) {
         heading = {readable(pathOf(*m_sheet.title)), {}};
     }
-    const SheetLayout layout({count(), largest(), m_sheet.columns, m_sheet.gap,
+    const SheetLayout layout({count(), m_largest, m_sheet.columns, m_sheet.gap,
                               m_sheet.hasTimes ? letters.captionHeight() : 0,
                               heading.height(letters)});
     if (!layout.isPossible()) {

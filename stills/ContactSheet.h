@@ -20,7 +20,7 @@ public:
         : m_sheet(sheet)
     {}
 
-    /// False if the maximum is reached.
+    /// False if the maximum is reached, or the sheet would be too large.
     [[nodiscard]] bool add(const QImage& picture, qint64 timeMs);
 
     [[nodiscard]] int count() const { return m_pictures.size(); }
@@ -37,9 +37,8 @@ private:
         qint64 timeMs = 0;
     };
 
-    [[nodiscard]] QSize largest() const;
-
     Sheet m_sheet;
+    QSize m_largest{1, 1}; ///< width and height of the largest pictures
     QVector<Picture> m_pictures;
 };
 

@@ -8,8 +8,7 @@ namespace stills {
 namespace {
 
 constexpr int smallestMargin = 16;
-constexpr int longestSide = 65500;             // what a JPEG file can hold
-constexpr qint64 mostPixels = qint64(1) << 28; // a gigabyte of memory
+constexpr int longestSide = 65500; // what a JPEG file can hold
 
 } // namespace
 

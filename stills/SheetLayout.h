@@ -2,6 +2,7 @@
 
 #include <QRect>
 #include <QSize>
+#include <QtGlobal>
 
 namespace stills {
 
@@ -18,6 +19,9 @@ struct SheetLayout
         int captionHeight = 0; ///< height of the text below each picture; 0 for none
         int titleHeight = 0;   ///< height of the title; 0 for none
     };
+
+    /// Maximum number of pixels of a sheet, which takes a gigabyte of memory then.
+    static constexpr qint64 mostPixels = qint64(1) << 28;
 
     explicit SheetLayout(const Parts& parts);
 

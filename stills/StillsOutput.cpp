@@ -19,6 +19,11 @@ QString tr(const char* text)
     return QCoreApplication::translate("stills", text);
 }
 
+QString sheetTooLargeText()
+{
+    return tr("The contact sheet would be too large; ask for fewer pictures.");
+}
+
 /// A key for a position; the last frame has no time of its own.
 qint64 keyOf(const SeriesTarget& target)
 {
@@ -169,8 +174,10 @@ void StillsOutput::take(SeriesPicture picture)
     m_pictureSize = picture.size;
     m_report.noteOnce(QtAV::textOf(picture.baseLayer));
     if (m_sheet && !m_sheet->add(picture.thumbnail, picture.timeMs.value_or(0))) {
-        failVideo(tr("More than %1 pictures have no place on a contact sheet.")
-                      .arg(ContactSheet::mostPictures));
+        failVideo(m_sheet->count() < ContactSheet::mostPictures
+                      ? sheetTooLargeText()
+                      : tr("More than %1 pictures have no place on a contact sheet.")
+                            .arg(ContactSheet::mostPictures));
         m_sheet.reset();
     }
     if (m_options.makesPictures) {
@@ -322,7 +329,7 @@ void StillsOutput::finishSheet(const VideoTask& task)
     const QString title = readable(QFileInfo(pathOf(task.path)).fileName());
     const QImage sheet = m_sheet->draw(title, factsText());
     if (sheet.isNull()) {
-        failVideo(tr("The contact sheet would be too large; ask for fewer pictures."));
+        failVideo(sheetTooLargeText());
         return;
     }
     writeSheet(task, sheet);

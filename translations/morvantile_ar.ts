@@ -2573,5 +2573,9 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
         <source>There is no picture at this position.</source>
         <translation>لا توجد صورة عند هذا الموضع.</translation>
     </message>
+    <message>
+        <source>More than %1 pictures would be needed.</source>
+        <translation>سيلزم أكثر من %1 صورة.</translation>
+    </message>
 </context>
 </TS>

@@ -2519,5 +2519,9 @@ Morvantile requires macOS 10.10 (Yosemite) or higher</source>
         <source>There is no picture at this position.</source>
         <translation>An dieser Position ist kein Bild.</translation>
     </message>
+    <message>
+        <source>More than %1 pictures would be needed.</source>
+        <translation>Dafür wären mehr als %1 Bilder nötig.</translation>
+    </message>
 </context>
 </TS>

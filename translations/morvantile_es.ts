@@ -2521,5 +2521,9 @@ Morvantile necesita macOS 10.10 (Yosemite) o posterior</translation>
         <source>There is no picture at this position.</source>
         <translation>No hay ninguna imagen en esta posición.</translation>
     </message>
+    <message>
+        <source>More than %1 pictures would be needed.</source>
+        <translation>Harían falta más de %1 imágenes.</translation>
+    </message>
 </context>
 </TS>

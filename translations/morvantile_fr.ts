@@ -2521,5 +2521,9 @@ Morvantile nécessite macOS 10.10 (Yosemite) ou une version plus récente</trans
         <source>There is no picture at this position.</source>
         <translation>Il n’y a pas d’image à cette position.</translation>
     </message>
+    <message>
+        <source>More than %1 pictures would be needed.</source>
+        <translation>Il faudrait plus de %1 images.</translation>
+    </message>
 </context>
 </TS>

@@ -2508,5 +2508,9 @@ Morvantile には macOS 10.10 (Yosemite) 以降が必要です</translation>
         <source>There is no picture at this position.</source>
         <translation>この位置に画像はありません。</translation>
     </message>
+    <message>
+        <source>More than %1 pictures would be needed.</source>
+        <translation>%1 枚を超える画像が必要になります。</translation>
+    </message>
 </context>
 </TS>

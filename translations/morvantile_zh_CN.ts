@@ -2508,5 +2508,9 @@ Morvantile 需要 macOS 10.10 (Yosemite) 或更高版本</translation>
         <source>There is no picture at this position.</source>
         <translation>此位置没有画面。</translation>
     </message>
+    <message>
+        <source>More than %1 pictures would be needed.</source>
+        <translation>需要的图片会超过 %1 张。</translation>
+    </message>
 </context>
 </TS>

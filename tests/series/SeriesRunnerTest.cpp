@@ -2,6 +2,7 @@
 
 #include "imaging/Rendering.h"
 #include "tests/support/Pixels.h"
+#include "tests/support/RunProgram.h"
 #include "tests/support/TestDir.h"
 
 #include <QDeadlineTimer>
@@ -11,11 +12,13 @@
 
 #include <algorithm>
 #include <atomic>
+#include <new>
 
 using namespace seriestests;
 using testsupport::pixelsOf;
 using testsupport::Sample;
 using testsupport::samplePath;
+using testsupport::TestDir;
 
 class SeriesRunnerTest : public QObject
 {
@@ -31,6 +34,8 @@ private Q_SLOTS:
     void unneededTargets_areLeftOut();
     void encodedPictures_areThoseOfTheRecipe();
     void thumbnails_fitIntoTheirBounds();
+    void outputThatFails_losesItsPictureOnly();
+    void lengthWithoutReason_makesNoListWithoutEnd();
     void brokenVideos_endWithAnError_andOthersGoOn();
     void vanishingVideos_failTheirPictures_andOthersGoOn();
     void cancelling_endsAtOnce_withoutAnotherPicture();
@@ -175,6 +180,55 @@ void SeriesRunnerTest::thumbnails_fitIntoTheirBounds()
     QVERIFY(record.pictures.first().image.isNull());
 }
 
+/// As after a lack of memory.
+void SeriesRunnerTest::outputThatFails_losesItsPictureOnly()
+{
+    Record record;
+    int taken = 0;
+    record.onPicture = [&taken] {
+        if (++taken == 2) {
+            throw std::bad_alloc();
+        }
+    };
+    SeriesOptions options;
+    options.lanes = 1;
+    const QVector<SeriesJob> jobs{jobFor(QStringLiteral("h264_bframes.mp4"), every(1000)),
+                                  jobFor(QStringLiteral("h264_gop250.mp4"), spread(1))};
+    QVERIFY(series::run(jobs, record, neverCancelled, options));
+    QCOMPARE(record.ended, QList<int>({0, 1}));
+    QVERIFY(!record.errors.at(0).isEmpty());
+    QCOMPARE(record.of(1).size(), 1);
+    QCOMPARE(record.errors.at(1), QString());
+}
+
+void SeriesRunnerTest::lengthWithoutReason_makesNoListWithoutEnd()
+{
+    const TestDir dir;
+    const QString path = dir.filePath(QStringLiteral("made.mkv"));
+    // Two frames a year apart.
+    const testsupport::ProgramResult made = testsupport::runProgram(
+        QStringLiteral("ffmpeg"),
+        {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-f"),
+         QStringLiteral("lavfi"), QStringLiteral("-i"), QStringLiteral("testsrc=s=64x64:r=1:d=2"),
+         QStringLiteral("-vf"), QStringLiteral("setpts=N*31536000/TB"), QStringLiteral("-vsync"),
+         QStringLiteral("passthrough"), QStringLiteral("-c:v"), QStringLiteral("ffv1"), path});
+    QVERIFY2(made.succeeded(), made.standardError.constData());
+    SeriesJob job;
+    job.video = path;
+    job.positions = every(5000);
+    Record record;
+    QVERIFY(series::run({job}, record, neverCancelled));
+    QVERIFY(record.pictures.isEmpty());
+    QVERIFY2(record.errors.value(0).contains(QStringLiteral("5000000")),
+             qPrintable(record.errors.value(0)));
+    // Rarer ones are the usual ones.
+    job.positions = every(20000000000);
+    Record rare;
+    QVERIFY(series::run({job}, rare, neverCancelled));
+    QCOMPARE(rare.errors, QStringList{QString()});
+    QCOMPARE(rare.pictures.size(), 2);
+}
+
 void SeriesRunnerTest::brokenVideos_endWithAnError_andOthersGoOn()
 {
     QVector<SeriesJob> jobs;
@@ -199,7 +253,7 @@ void SeriesRunnerTest::brokenVideos_endWithAnError_andOthersGoOn()
 /// Truncated to nothing while being read.
 void SeriesRunnerTest::vanishingVideos_failTheirPictures_andOthersGoOn()
 {
-    const testsupport::TestDir dir;
+    const TestDir dir;
     const QString path = dir.filePath(QStringLiteral("film.mkv"));
     QVERIFY(QFile::copy(samplePath(QStringLiteral("h264_bframes.mkv")), path));
     SeriesJob job = jobFor(QStringLiteral("h264_bframes.mkv"), every(40));

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void longTitles_stayInTheSheet();
     void sheet_isNull_whenItWouldBeTooLarge();
     void sheet_takesSoManyPictures();
+    void sheet_takesNoMorePixels_thanItCanHave();
 };
 
 void ContactSheetTest::pictures_areAllThere_unchanged()
@@ -124,6 +125,23 @@ void ContactSheetTest::sheet_takesSoManyPictures()
     }
     QVERIFY(!sheet.add(picture, 0));
     QCOMPARE(sheet.count(), ContactSheet::mostPictures);
+}
+
+void ContactSheetTest::sheet_takesNoMorePixels_thanItCanHave()
+{
+    // Copies share their pixels.
+    const QImage picture = filled(QSize(4096, 4096), Qt::red);
+    ContactSheet sheet({});
+    for (int i = 0; i < 16; ++i) {
+        QVERIFY(sheet.add(picture, i));
+    }
+    QVERIFY(!sheet.add(picture, 16));
+    // Every place is as large as the largest picture.
+    ContactSheet other({});
+    for (int i = 0; i < 16; ++i) {
+        QVERIFY(other.add(filled(QSize(16, 16), Qt::red), i));
+    }
+    QVERIFY(!other.add(picture, 16));
 }
 
 QTEST_MAIN(ContactSheetTest)

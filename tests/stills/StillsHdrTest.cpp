@@ -74,6 +74,7 @@ private Q_SLOTS:
     void storedPictures_haveTheVideosValues_data();
     void storedPictures_haveTheVideosValues();
     void otherVideos_giveTheSamePictures();
+    void sheets_areForScreens_alsoBesideStoredPictures();
     void stored_isRefused_forFilesThatCannotHoldIt();
     void storedPicture_canBeMadeAgain();
     void whatIsNotShown_isSaidOnce_data();
@@ -134,6 +135,24 @@ void StillsHdrTest::otherVideos_giveTheSamePictures()
         QCOMPARE(a, b);
         QVERIFY(a.colorSpace() == QColorSpace(QColorSpace::SRgb));
     }
+}
+
+void StillsHdrTest::sheets_areForScreens_alsoBesideStoredPictures()
+{
+    const QString video = samplePath(QStringLiteral("colour_pq_sei.mp4"));
+    const auto sheetOf = [&video](const QStringList& options) {
+        const TestDir dir;
+        const ProgramResult result = stillsprogram::run(
+            QStringList{video, QStringLiteral("--count"), QStringLiteral("2"),
+                        QStringLiteral("--sheet"), QStringLiteral("-o"), dir.path()} +
+            options);
+        return result.succeeded() ? QImage(dir.filePath(QStringLiteral("colour_pq_sei-sheet.png")))
+                                  : QImage();
+    };
+    const QStringList stored = storedAs(QStringLiteral("png"));
+    const QImage alone = sheetOf({QStringLiteral("--format"), QStringLiteral("png")});
+    QVERIFY(!alone.isNull());
+    QCOMPARE(sheetOf(stored + QStringList{QStringLiteral("--with-pictures")}), alone);
 }
 
 void StillsHdrTest::stored_isRefused_forFilesThatCannotHoldIt()
