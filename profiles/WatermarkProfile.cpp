@@ -19,6 +19,7 @@ QImage readPicture(const QString& path)
         return {};
     }
     QImageReader reader(path);
+    reader.setAutoTransform(true);
     const QSize size = reader.size();
     const bool isTooLarge = qint64{size.width()} * size.height() > WatermarkProfile::mostPixels;
     return size.isValid() && isTooLarge ? QImage() : reader.read();

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImageWriter>
 #include <QSettings>
 #include <QTest>
 
@@ -185,6 +186,17 @@ private slots:
         file.write("no picture");
         file.close();
         QVERIFY(imageOf(QStringLiteral("text.png")).isNull());
+    }
+
+    void image_isUpright_asItsFileSays()
+    {
+        const TestHome home;
+        QImage stored(32, 16, QImage::Format_RGB32);
+        stored.fill(Qt::red);
+        QImageWriter writer(WatermarkProfile::pathForImage(QStringLiteral("turned.jpg")));
+        writer.setTransformation(QImageIOHandler::TransformationRotate90);
+        QVERIFY(writer.write(stored));
+        QCOMPARE(imageOf(QStringLiteral("turned.jpg")).size(), QSize(16, 32));
     }
 
     void image_isNullAgain_whenTheFileNameIsEmptied()

@@ -32,6 +32,7 @@ QImage WatermarkPicture::readForDisplay(const QString& path)
         return {};
     }
     QImageReader reader(path);
+    reader.setAutoTransform(true);
     const QSize size = reader.size();
     if (::isTooLarge(size)) {
         return {};

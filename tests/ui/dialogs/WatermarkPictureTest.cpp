@@ -4,6 +4,7 @@
 #include "tests/ui/dialogs/support/TestProfiles.h"
 
 #include <QFile>
+#include <QImageWriter>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void smallPicture_isReadAsItIs();
     void alpha_isKept();
     void largePicture_isMadeToFit();
+    void pictures_areUpright_asTheirFilesSay();
     void narrowPicture_keepsAPixel();
     void tooLargePicture_isNotRead();
     void longPicture_isRead();
@@ -97,6 +99,19 @@ void WatermarkPictureTest::largePicture_isMadeToFit()
         const QImage read = WatermarkPicture::readForDisplay(path);
         QCOMPARE(read.size(), QSize(682, 1024));
         QVERIFY2(read.pixelColor(300, 500).blue() > 250, name);
+    }
+}
+
+void WatermarkPictureTest::pictures_areUpright_asTheirFilesSay()
+{
+    const TestProfiles profiles;
+    const QString path = profiles.dir().filePath(QStringLiteral("turned.jpg"));
+    for (const QSize stored : {QSize(32, 16), QSize(4096, 2048)}) {
+        QImageWriter writer(path);
+        writer.setTransformation(QImageIOHandler::TransformationRotate90);
+        QVERIFY(writer.write(plainPicture(stored, Qt::red)));
+        const QSize shown = WatermarkPicture::readForDisplay(path).size();
+        QCOMPARE(shown, stored.transposed().boundedTo({512, 1024}));
     }
 }
 
