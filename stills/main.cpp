@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <dlfcn.h>
 #include <string>
+#include <sys/resource.h>
 #include <unistd.h>
 #include <vector>
 
@@ -51,6 +52,16 @@ int run(const stills::Options& options)
     return entry(options);
 }
 
+/// A picture that waits for its turn is an open file. Does nothing if the system refuses.
+void allowManyFiles()
+{
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) == 0) {
+        limit.rlim_cur = limit.rlim_max;
+        static_cast<void>(::setrlimit(RLIMIT_NOFILE, &limit));
+    }
+}
+
 int print(const std::string& text)
 {
     const bool isWritten =
@@ -66,6 +77,7 @@ int main(int argc, char** argv)
     const stills::CommandLine line = stills::parseCommandLine(arguments);
     switch (line.wants) {
     case stills::CommandLine::Wants::Run:
+        allowManyFiles();
         return run(line.options);
     case stills::CommandLine::Wants::Print:
         return print(line.text);

@@ -58,7 +58,7 @@ class FaultCase(unittest.TestCase):
     def start(self, program, *arguments, faults=None, below=None, limits=()):
         def limit():
             for kind, value in limits:
-                resource.setrlimit(kind, (value, value))
+                resource.setrlimit(kind, value if isinstance(value, tuple) else (value, value))
         return subprocess.Popen(
             [os.environ[program], *map(str, arguments)], stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE, stderr=subprocess.STDOUT,

@@ -248,6 +248,53 @@ class Killing(FaultCase):
         self.check_clean()
 
 
+class Waiting(FaultCase):
+    """Finished pictures that wait for their turn in hidden files."""
+
+    def running(self, **options):
+        """A run with several such pictures."""
+        process = self.start("STILLS", VIDEO, "--every", "20ms", "-f", "png", "-j2", "-o", self.out,
+                             faults="call=write,slow=20", **options)
+        self.addCleanup(process.kill)
+        deadline = time.monotonic() + 20
+        while len(self.hidden()) < 5 and time.monotonic() < deadline:
+            time.sleep(0.001)
+        return process
+
+    def test_pictures_of_a_suspended_run_outlast_another_run(self):
+        process = self.running()
+        process.send_signal(signal.SIGSTOP)
+        os.waitpid(process.pid, os.WUNTRACED)
+        waiting = self.hidden()
+        self.assertGreater(len(waiting), 2)
+        for path in waiting:
+            os.utime(path, (time.time() - 7200,) * 2)
+        self.assertEqual(self.stills(VIDEO, "-c1", "-f", "png", "-o", self.out).status, 0)
+        self.assertEqual(self.hidden(), waiting)
+        process.send_signal(signal.SIGCONT)
+        result = self.finish(process)
+        self.assertEqual(result.status, 0, str(result))
+        self.assertIn("100 pictures", result.output)
+        self.assertEqual(len(self.visible()), 101)
+        self.check_clean()
+
+    def test_pictures_wait_in_files_beyond_the_usual_limit_on_descriptors(self):
+        hard = resource.getrlimit(resource.RLIMIT_NOFILE)[1]
+        process = self.running(limits=[(resource.RLIMIT_NOFILE, (40, hard))])
+        waiting = len(self.hidden())
+        result = self.finish(process)
+        self.assertGreaterEqual(waiting, 5, str(result))
+        self.assertEqual(result.status, 0, str(result))
+        self.check_clean()
+
+    def test_pictures_wait_in_memory_where_descriptors_are_few(self):
+        result = self.stills(VIDEO, "--every", "20ms", "-f", "png", "-j2", "-o", self.out,
+                             limits=[(resource.RLIMIT_NOFILE, 40)])
+        self.assertEqual(result.status, 0, str(result))
+        self.assertEqual(len(self.visible()), 100)
+        self.check_clean()
+
+
 class Settings(FaultCase):
     OLD = "[profiles]\nA\\id=A\nA\\name=mine\nA\\imageQuality=33\n"
 
