@@ -142,14 +142,23 @@ QString withoutLinks(const QString& fileName)
     return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
 }
 
+/// Why the existing file may not be replaced, as the system's error number; 0 if it may.
+int refusalOf(const QFileInfo& target)
+{
+    if (!target.isFile()) {
+        return target.isDir() ? EISDIR : EOPNOTSUPP;
+    }
+    return target.isWritable() ? 0 : EACCES;
+}
+
 Ending published(const QString& fileName, const QByteArray& content, ExistingFile existing)
 {
     const bool isReplacing = existing == ExistingFile::Replace;
     const QFileInfo target(isReplacing ? withoutLinks(fileName) : fileName);
-    if (isReplacing && target.exists() && (!target.isFile() || !target.isWritable())) {
-        return Ending::failed(target.isDir() ? EISDIR : EACCES);
-    }
     const bool isOldFile = isReplacing && target.exists();
+    if (const int refusal = isOldFile ? refusalOf(target) : 0; refusal != 0) {
+        return Ending::failed(refusal);
+    }
     const QString folder = target.absolutePath();
     HiddenFile file;
     if (!file.create(folder)) {

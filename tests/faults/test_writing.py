@@ -80,6 +80,24 @@ class Writing(FaultCase):
                     self.assertEqual({p: p.read_bytes() for p in self.visible()}, before)
                 self.check_clean()
 
+    def test_files_that_cannot_be_replaced_are_named_and_the_others_are_written(self):
+        self.assertEqual(self.stills(VIDEO, "-c4", "-o", self.out).status, 0)
+        before = {path: path.read_bytes() for path in self.visible()}
+        protected, pipe, *others = self.visible()
+        for path in others:
+            path.write_bytes(b"old")
+        pipe.unlink()
+        os.mkfifo(pipe)
+        self.give_to_nobody()
+        protected.chmod(0o444)
+        result = self.stills(VIDEO, "-c4", "--overwrite", "-o", self.out, as_nobody=True)
+        self.check_told(result, f"Cannot be written: {protected} (Permission denied)",
+                        f"Cannot be written: {pipe} (Operation not supported)", "2 pictures")
+        self.assertTrue(pipe.is_fifo())
+        for path in [protected, *others]:
+            self.assertEqual(path.read_bytes(), before[path])
+        self.assertEqual(self.hidden(), [])
+
     def test_full_disk_says_how_much_is_missing(self):
         with small_disk(self.out, "100k") as is_mounted:
             print("\nA full disk by", "tmpfs" if is_mounted else "the library's ENOSPC")
