@@ -1,6 +1,7 @@
 // The command `stills`. It parses its arguments before it loads any large library, so that help and
 // mistakes are answered at once; a module beside it does the work.
 
+#include "app/StandardStreams.h"
 #include "stills/CommandLineParser.h"
 #include "stills/StillsModule.h"
 
@@ -73,6 +74,9 @@ int print(const std::string& text)
 
 int main(int argc, char** argv)
 {
+    if (!StandardStreams::fillGaps()) {
+        return failure;
+    }
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     const stills::CommandLine line = stills::parseCommandLine(arguments);
     switch (line.wants) {

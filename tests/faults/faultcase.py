@@ -61,15 +61,19 @@ class FaultCase(unittest.TestCase):
         for path in (self.folder, *self.folder.rglob("*")):
             path.chmod(0o777 if path.is_dir() else 0o666)
 
-    def start(self, program, *arguments, faults=None, below=None, limits=(), as_nobody=False):
-        """With as_nobody, root's programs run as a user without privileges."""
-        def limit():
+    def start(self, program, *arguments, faults=None, below=None, limits=(), as_nobody=False,
+              closed=()):
+        """With as_nobody, root's programs run as a user without privileges. The standard streams of
+        the numbers in closed are closed."""
+        def prepare():
+            for stream in closed:
+                os.close(stream)
             for kind, value in limits:
                 resource.setrlimit(kind, value if isinstance(value, tuple) else (value, value))
         return subprocess.Popen(
             [os.environ[program], *map(str, arguments)], stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-            env=self.environment(faults, below), preexec_fn=limit,
+            env=self.environment(faults, below), preexec_fn=prepare,
             user=NOBODY if as_nobody and os.geteuid() == 0 else None)
 
     def finish(self, process, timeout=60):
