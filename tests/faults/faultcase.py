@@ -10,6 +10,7 @@ import os
 import pathlib
 import resource
 import shutil
+import signal
 import subprocess
 import tempfile
 import unittest
@@ -66,6 +67,8 @@ class FaultCase(unittest.TestCase):
         """With as_nobody, root's programs run as a user without privileges. The standard streams of
         the numbers in closed are closed."""
         def prepare():
+            # Shells ignore this signal for programs in the background, and stills would inherit that.
+            signal.signal(signal.SIGINT, signal.SIG_DFL)
             for stream in closed:
                 os.close(stream)
             for kind, value in limits:

@@ -1,8 +1,12 @@
 """Standard input, output and error that are closed, or that nobody reads."""
 
+import fcntl
 import itertools
 import os
 import signal
+import struct
+import subprocess
+import termios
 import time
 import unittest
 
@@ -64,6 +68,49 @@ class Closed(FaultCase):
             self.assertEqual(result.status, 1, str(result))
             if 2 not in closed:
                 self.assertIn("cannot be read", result.output)
+
+
+class Unread(FaultCase):
+    """The output is a pipe that somebody has open and does not read. One signal must end the run."""
+
+    SMALL = 4096
+
+    def blocked(self, *arguments):
+        """A run that waits for room in the pipe to which its output and messages go."""
+        process = self.start("STILLS", VIDEO, "--every", "20ms", "-f", "png", "-j2", *arguments)
+        self.addCleanup(process.stdout.close)
+        self.addCleanup(process.kill)
+        fcntl.fcntl(process.stdout, fcntl.F_SETPIPE_SZ, self.SMALL)
+        deadline = time.monotonic() + 30
+        before = -1
+        while time.monotonic() < deadline and process.poll() is None:
+            filled = struct.unpack("i", fcntl.ioctl(process.stdout, termios.FIONREAD, b"\0" * 4))[0]
+            if before == filled > 0:
+                return process
+            before = filled
+            time.sleep(0.5)
+        return self.fail("The pipe does not fill.")
+
+    def check_ends(self, process, number):
+        process.send_signal(number)
+        try:
+            self.assertEqual(process.wait(timeout=20), 128 + number)
+        except subprocess.TimeoutExpired:
+            self.fail("One signal does not end the run.")
+        self.check_clean()
+
+    def test_one_signal_ends_a_run_whose_output_nobody_reads(self):
+        for arguments in (("-o", "-"), ("--json", "-o", self.out), ("-v", "-o", self.out)):
+            for number in (signal.SIGINT, signal.SIGTERM):
+                with self.subTest((arguments, number)):
+                    self.check_ends(self.blocked(*arguments), number)
+
+    def test_picture_is_whole_if_its_reader_goes_on_after_the_signal(self):
+        process = self.blocked("--quiet", "-o", "-")
+        process.send_signal(signal.SIGTERM)
+        content, _ = process.communicate(timeout=20)
+        self.assertEqual(process.returncode, 128 + signal.SIGTERM)
+        self.assertTrue(content.endswith(b"IEND\xae\x42\x60\x82"), content[-20:])
 
 
 if __name__ == "__main__":
