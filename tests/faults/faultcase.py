@@ -63,7 +63,7 @@ class FaultCase(unittest.TestCase):
             path.chmod(0o777 if path.is_dir() else 0o666)
 
     def start(self, program, *arguments, faults=None, below=None, limits=(), as_nobody=False,
-              closed=()):
+              closed=(), stdin=subprocess.DEVNULL):
         """With as_nobody, root's programs run as a user without privileges. The standard streams of
         the numbers in closed are closed."""
         def prepare():
@@ -74,7 +74,7 @@ class FaultCase(unittest.TestCase):
             for kind, value in limits:
                 resource.setrlimit(kind, value if isinstance(value, tuple) else (value, value))
         return subprocess.Popen(
-            [os.environ[program], *map(str, arguments)], stdin=subprocess.DEVNULL,
+            [os.environ[program], *map(str, arguments)], stdin=stdin,
             stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
             env=self.environment(faults, below), preexec_fn=prepare,
             user=NOBODY if as_nobody and os.geteuid() == 0 else None)

@@ -113,5 +113,36 @@ class Unread(FaultCase):
         self.assertTrue(content.endswith(b"IEND\xae\x42\x60\x82"), content[-20:])
 
 
+class Unwritten(FaultCase):
+    """The list is read from standard input, and nobody writes it."""
+
+    def check_ends(self, process, number):
+        for stream in (process.stdin, process.stdout):
+            self.addCleanup(stream.close)
+        self.addCleanup(process.kill)
+        time.sleep(1)
+        process.send_signal(number)
+        try:
+            self.assertEqual(process.wait(timeout=20), 128 + number)
+        except subprocess.TimeoutExpired:
+            self.fail("One signal does not end the run.")
+
+    def test_one_signal_ends_a_run_that_waits_for_its_list(self):
+        for number in (signal.SIGINT, signal.SIGTERM):
+            with self.subTest(number):
+                self.check_ends(self.start("STILLS", "--files-from", "-", "-o", self.out,
+                                           stdin=subprocess.PIPE), number)
+
+    def test_one_signal_before_the_run_waits_for_its_list_ends_it(self):
+        config = self.folder / "home/config/Morvantile/Morvantile"
+        config.mkdir(parents=True)
+        (config / "ImageProfiles.ini").write_text("[profiles]\nA\\id=A\nA\\name=mine\n")
+        process = self.start("STILLS", "--profile", "mine", "--files-from", "-", "-o", self.out,
+                             stdin=subprocess.PIPE, faults="call=read,slow=3000,times=1",
+                             below=config)
+        self.check_ends(process, signal.SIGTERM)
+        self.assertTrue((self.folder / "faults.log").exists(), "no call was slow")
+
+
 if __name__ == "__main__":
     unittest.main()
