@@ -23,8 +23,8 @@ class Closed(FaultCase):
         for count in (1, 2, 3):
             for closed in itertools.combinations(NAMES, count):
                 with self.subTest([NAMES[stream] for stream in closed]):
-                    self.check_occupied("STILLS", [VIDEO, "--every", "20ms", "-f", "png", "-o", self.out],
-                                        closed)
+                    arguments = [VIDEO, "--every", "20ms", "-f", "png", "-o", self.out]
+                    self.check_occupied("STILLS", arguments, closed)
 
     def test_no_file_gets_the_number_of_a_closed_stream_of_the_older_command(self):
         self.check_occupied("MORVANTILE_CLI", [VIDEO, self.out, "--count", "50"], (0, 1, 2))
@@ -71,7 +71,7 @@ class Closed(FaultCase):
 
 
 class Unread(FaultCase):
-    """The output is a pipe that somebody has open and does not read. One signal must end the run."""
+    """The output is an open pipe that nobody reads. One signal must end the run."""
 
     SMALL = 4096
 
@@ -84,7 +84,8 @@ class Unread(FaultCase):
         deadline = time.monotonic() + 30
         before = -1
         while time.monotonic() < deadline and process.poll() is None:
-            filled = struct.unpack("i", fcntl.ioctl(process.stdout, termios.FIONREAD, b"\0" * 4))[0]
+            answer = fcntl.ioctl(process.stdout, termios.FIONREAD, b"\0" * 4)
+            filled = struct.unpack("i", answer)[0]
             if before == filled > 0:
                 return process
             before = filled
