@@ -1,12 +1,15 @@
 // The command line: one batch job, without a window and without a display.
 
 #include "app/CommandLineProcessor.h"
+#include "app/StandardStreams.h"
 #include "app/Startup.h"
 #include "profiles/SettingsFile.h"
 
 #include <QDebug>
 #include <QGuiApplication>
 #include <QLoggingCategory>
+
+#include <cstdlib>
 
 namespace {
 
@@ -26,6 +29,9 @@ void hideDebugLines()
 
 int main(int argc, char** argv)
 {
+    if (!StandardStreams::fillGaps()) {
+        return EXIT_FAILURE;
+    }
     needNoDisplay();
     hideDebugLines();
     Startup::makeSignalsErrors();

@@ -5,6 +5,7 @@
 #include "app/MemoryPolicy.h"
 #include "app/Presentation.h"
 #include "app/RunningInstance.h"
+#include "app/StandardStreams.h"
 #include "app/Startup.h"
 #include "app/SupportedOS.h"
 #include "profiles/SettingsFile.h"
@@ -19,6 +20,9 @@
 
 int main(int argc, char** argv)
 {
+    if (!StandardStreams::fillGaps()) {
+        return EXIT_FAILURE;
+    }
 #if QT_VERSION_MAJOR < 6 // later versions do so by default
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, true);

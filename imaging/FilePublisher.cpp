@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -141,14 +142,23 @@ QString withoutLinks(const QString& fileName)
     return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
 }
 
+/// Why the existing file may not be replaced, as the system's error number; 0 if it may.
+int refusalOf(const QFileInfo& target)
+{
+    if (!target.isFile()) {
+        return target.isDir() ? EISDIR : EOPNOTSUPP;
+    }
+    return target.isWritable() ? 0 : EACCES;
+}
+
 Ending published(const QString& fileName, const QByteArray& content, ExistingFile existing)
 {
     const bool isReplacing = existing == ExistingFile::Replace;
     const QFileInfo target(isReplacing ? withoutLinks(fileName) : fileName);
-    if (isReplacing && target.exists() && (!target.isFile() || !target.isWritable())) {
-        return Ending::failed(target.isDir() ? EISDIR : EACCES);
-    }
     const bool isOldFile = isReplacing && target.exists();
+    if (const int refusal = isOldFile ? refusalOf(target) : 0; refusal != 0) {
+        return Ending::failed(refusal);
+    }
     const QString folder = target.absolutePath();
     HiddenFile file;
     if (!file.create(folder)) {
@@ -166,6 +176,20 @@ Ending published(const QString& fileName, const QByteArray& content, ExistingFil
         return Ending::failed(errno);
     }
     return replacing(file.path(), target, content);
+}
+
+/// How many files may exist at once if one more is prepared. Each has a descriptor open, and half
+/// of the process's stay for everything else.
+int mostPrepared()
+{
+    constexpr rlim_t reserved = 32;
+    constexpr rlim_t most = 1 << 20;
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) {
+        return 0;
+    }
+    const rlim_t half = std::min(limit.rlim_cur / 2, most);
+    return static_cast<int>(half > reserved ? half - reserved : 0);
 }
 
 WriteResult told(const Ending& ending, const QString& fileName, qint64 bytes, WriteFailure* failure)
@@ -187,8 +211,12 @@ WriteResult FilePublisher::publish(const QString& fileName, const QByteArray& co
 
 std::shared_ptr<HiddenFile> FilePublisher::prepare(const QString& folder, const QByteArray& content)
 {
+    if (HiddenFile::count() >= mostPrepared()) {
+        return nullptr;
+    }
     auto file = std::make_shared<HiddenFile>();
-    return file->create(folder) && file->fill(content) ? file : nullptr;
+    const bool isReady = file->create(folder) && file->fill(content) && file->isProtected();
+    return isReady ? file : nullptr;
 }
 
 qint64 FilePublisher::sizeOf(const HiddenFile& prepared)

@@ -56,8 +56,9 @@ namespace FilePublisher {
                                   ExistingFile existing, WriteFailure* failure = nullptr);
 
 /// Writes content to a hidden file in a folder before its name is known, so that it takes no memory
-/// until then. The file is removed with the object unless it was published. Null on failure:
-/// publish the content itself then, which reports the reason.
+/// until then. The file is removed with the object unless it was published, and locked until then,
+/// however long that takes, so that no sweep() removes it. Null on failure, and if the process has
+/// too few descriptors for another lock: publish the content itself then, which reports the reason.
 [[nodiscard]] std::shared_ptr<HiddenFile> prepare(const QString& folder, const QByteArray& content);
 
 /// The number of bytes in a prepared file.

@@ -5,17 +5,21 @@
 #include <QRandomGenerator>
 #include <QRegularExpression>
 
+#include <atomic>
 #include <cerrno>
 #include <ctime>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
 constexpr int nameAttempts = 16;
 constexpr std::time_t oldSeconds = 60 * 60;
+
+std::atomic<int> liveFiles{0};
 
 QByteArray newPath(const QString& folder)
 {
@@ -55,7 +59,13 @@ HiddenFile::~HiddenFile()
     }
     if (!m_path.isEmpty()) {
         ::unlink(m_path.constData());
+        --liveFiles;
     }
+}
+
+int HiddenFile::count()
+{
+    return liveFiles.load();
 }
 
 bool HiddenFile::failed()
@@ -71,7 +81,8 @@ bool HiddenFile::create(const QString& folder)
         m_file = ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (m_file >= 0) {
             m_path = path;
-            // On file systems without locks, only the age counts.
+            ++liveFiles;
+            // Where locks are missing, sweep() gets none either and removes nothing.
             static_cast<void>(::flock(m_file, LOCK_EX | LOCK_NB));
             return true;
         }
@@ -96,8 +107,15 @@ bool HiddenFile::fill(const QByteArray& content)
         done += written;
         m_size += written;
     }
-    const int result = ::close(m_file);
-    m_file = -1;
+    return close();
+}
+
+/// A duplicate shares the lock, which lasts until both are closed.
+bool HiddenFile::close()
+{
+    const int lock = ::fcntl(m_file, F_DUPFD_CLOEXEC, 0);
+    m_isProtected = lock >= 0;
+    const int result = ::close(std::exchange(m_file, lock));
     return result == 0 || failed();
 }
 

@@ -30,6 +30,18 @@ QString folderOf(const QString& path)
     return QFileInfo(path).absolutePath();
 }
 
+/// Whether the system refuses because of the folder. A file that exists may be protected itself, or
+/// be a link into a folder that is.
+bool isRefusedByFolder(int error, const QString& path)
+{
+    if (error != EACCES && error != EPERM) {
+        return false;
+    }
+    const QFileInfo file(path);
+    const bool isTaken = file.exists() || file.isSymLink();
+    return !isTaken || !QFileInfo(folderOf(path)).isWritable();
+}
+
 } // namespace
 
 WriteFailure WriteFailure::of(const QString& path, qint64 bytes, int error)
@@ -39,6 +51,11 @@ WriteFailure WriteFailure::of(const QString& path, qint64 bytes, int error)
         failure.missing = missingBytes(path, bytes);
     }
     return failure;
+}
+
+bool WriteFailure::isOfFolder() const
+{
+    return error == EROFS || !QFileInfo(folderOf(path)).isDir() || isRefusedByFolder(error, path);
 }
 
 QString WriteFailure::text() const
@@ -57,7 +74,7 @@ QString WriteFailure::text() const
         return QCoreApplication::translate("imaging", "The folder is gone: %1")
             .arg(folder.filePath());
     }
-    if (error == EACCES || error == EPERM) {
+    if (isRefusedByFolder(error, path)) {
         return QCoreApplication::translate("imaging", "The folder does not let you write: %1")
             .arg(folder.filePath());
     }

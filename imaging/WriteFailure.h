@@ -13,6 +13,10 @@ struct WriteFailure
     /// True if files of this size cannot be written there until something is removed.
     [[nodiscard]] bool isLackOfRoom() const { return missing > 0; }
 
+    /// True if the folder or its disk takes no file at all: it is gone, protected or read-only.
+    /// False if only what stands under this name cannot be replaced. Asks the file system.
+    [[nodiscard]] bool isOfFolder() const;
+
     /// Describes a failure by the system's error number.
     [[nodiscard]] static WriteFailure of(const QString& path, qint64 bytes, int error);
 

@@ -69,7 +69,7 @@ layer batch batch/ series/ video/ profiles/ imaging/
 layer ui/mainwindow ui/ batch/ series/ video/ profiles/ imaging/ product/
 layer ui ui/ profiles/ imaging/ product/
 layer stills stills/ series/ imaging/ profiles/ product/ app/MemoryPolicy.h \
-    app/RuntimeFolder.h
+    app/RuntimeFolder.h app/StandardStreams.h
 # app/ is above all others.
 
 # Only headers generated for the including file may be included without a folder, and none with `..`.

@@ -25,7 +25,8 @@ void handle(int number)
     }
     struct sigaction action = {};
     action.sa_handler = noteSignal;
-    // Without SA_RESTART, so that blocked reads and writes return.
+    // Without SA_RESTART, so that calls that wait in this thread return; those in other threads
+    // poll the flag.
     action.sa_flags = static_cast<int>(SA_RESETHAND);
     sigemptyset(&action.sa_mask);
     ::sigaction(number, &action, nullptr);

@@ -1,5 +1,7 @@
 #include "stills/ListFile.h"
 
+#include "stills/Interruption.h"
+
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -18,6 +20,8 @@ using Text = Result<std::string>;
 
 /// Polling interval for a pipe without a writer.
 constexpr std::chrono::milliseconds lookInterval{20};
+/// Polling interval for signals.
+constexpr std::chrono::duration<int, std::milli> signalInterval{50};
 
 Text failure()
 {
@@ -54,11 +58,14 @@ private:
     const int m_file;
 };
 
-/// Waits for more data from a connected writer; false if a signal arrives.
-bool waitForMore(int file)
+/// Waits until reading does not block, or a signal arrives. Failures are left to the reading.
+void waitForData(int file)
 {
-    pollfd question{file, POLLIN, 0};
-    return ::poll(&question, 1, -1) >= 0;
+    int count = 0;
+    while (count == 0 && Interruption::signalNumber() == 0) {
+        pollfd question{file, POLLIN, 0};
+        count = ::poll(&question, 1, signalInterval.count());
+    }
 }
 
 } // namespace
@@ -77,15 +84,18 @@ Text readList(const std::string& path, std::chrono::milliseconds patience, std::
     std::string content;
     std::array<char, 65536> buffer{};
     while (content.size() <= longest) {
+        if (!awaitsWriter) {
+            waitForData(input.file());
+        }
+        if (Interruption::signalNumber() != 0) {
+            return Text::failure("cannot be read: interrupted");
+        }
         const ssize_t count = ::read(input.file(), buffer.data(), buffer.size());
         if (count > 0) {
             content.append(buffer.data(), static_cast<std::size_t>(count));
             awaitsWriter = false;
-        } else if (count < 0 && errno == EAGAIN) {
-            awaitsWriter = false;
-            if (!waitForMore(input.file())) {
-                return failure();
-            }
+        } else if (count < 0 && (errno == EAGAIN || errno == EINTR)) {
+            awaitsWriter = awaitsWriter && errno == EINTR;
         } else if (count < 0) {
             return failure();
         } else if (count == 0 && !awaitsWriter) {

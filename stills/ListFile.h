@@ -14,7 +14,8 @@ constexpr std::size_t longestList = std::size_t(256) << 20;
 constexpr std::chrono::seconds writerPatience{5};
 
 /// The content of a list of videos; "-" is standard input. A pipe is read until its writers are
-/// gone; one that is never opened for writing is given up after `writerPatience`.
+/// gone; one that is never opened for writing is given up after `writerPatience`. A signal ends the
+/// waiting, see Interruption.
 [[nodiscard]] Result<std::string> readList(const std::string& path,
                                            std::chrono::milliseconds patience = writerPatience,
                                            std::size_t longest = longestList);

@@ -7,8 +7,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <cerrno>
-
 namespace stills {
 
 namespace {
@@ -37,8 +35,7 @@ QString tr(const char* text)
 /// Whether writing other pictures there would fail, too.
 bool isHopeless(const WriteFailure& failure)
 {
-    return failure.isLackOfRoom() || failure.error == EACCES || failure.error == EPERM ||
-           failure.error == EROFS || !QFileInfo(failure.path).absoluteDir().exists();
+    return failure.isLackOfRoom() || failure.isOfFolder();
 }
 
 } // namespace

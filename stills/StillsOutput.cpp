@@ -2,6 +2,7 @@
 
 #include "imaging/FilePublisher.h"
 #include "imaging/Rendering.h"
+#include "stills/Interruption.h"
 #include "stills/Texts.h"
 
 #include <QCoreApplication>
@@ -193,8 +194,7 @@ void StillsOutput::writePicture(const SeriesPicture& picture, int number)
         if (m_standardOutput.write(picture.content)) {
             m_report.addPicture(written);
         } else {
-            fail(picture.askedMs,
-                 {PictureFiles::Outcome::Kind::NoRoom, {}, tr("Nobody reads the pictures.")});
+            failStandardOutput(picture.askedMs);
         }
         return;
     }
@@ -227,6 +227,14 @@ void StillsOutput::fail(std::optional<qint64> askedMs, const PictureFiles::Outco
     const bool isHopeless = outcome.kind == PictureFiles::Outcome::Kind::NoRoom &&
                             (hasOneFolder() || m_options.writesToStandardOutput);
     m_wantsToStop = m_wantsToStop || isHopeless || m_options.failsFast;
+}
+
+/// After a signal, the picture was given up for that reason, which is no error.
+void StillsOutput::failStandardOutput(std::optional<qint64> askedMs)
+{
+    if (Interruption::signalNumber() == 0) {
+        fail(askedMs, {PictureFiles::Outcome::Kind::NoRoom, {}, tr("Nobody reads the pictures.")});
+    }
 }
 
 /// What the rest of the run needs on a disk that is full; empty where nobody knows, where nothing
@@ -347,7 +355,7 @@ void StillsOutput::writeSheet(const VideoTask& task, const QImage& sheet)
         if (m_standardOutput.write(content)) {
             m_report.addSheet({}, sheet.size(), pictures);
         } else {
-            fail({}, {PictureFiles::Outcome::Kind::NoRoom, {}, tr("Nobody reads the pictures.")});
+            failStandardOutput({});
         }
         return;
     }

@@ -60,6 +60,7 @@ private:
     void finishSheet(const VideoTask& task);
     void writeSheet(const VideoTask& task, const QImage& sheet);
     void fail(std::optional<qint64> askedMs, const PictureFiles::Outcome& outcome);
+    void failStandardOutput(std::optional<qint64> askedMs);
     [[nodiscard]] QString roomText(const SeriesPicture& picture,
                                    const PictureFiles::Outcome& outcome);
     [[nodiscard]] PicturesLeft picturesLeft(int number);

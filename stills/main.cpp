@@ -1,6 +1,7 @@
 // The command `stills`. It parses its arguments before it loads any large library, so that help and
 // mistakes are answered at once; a module beside it does the work.
 
+#include "app/StandardStreams.h"
 #include "stills/CommandLineParser.h"
 #include "stills/StillsModule.h"
 
@@ -8,6 +9,7 @@
 #include <cstdio>
 #include <dlfcn.h>
 #include <string>
+#include <sys/resource.h>
 #include <unistd.h>
 #include <vector>
 
@@ -51,6 +53,16 @@ int run(const stills::Options& options)
     return entry(options);
 }
 
+/// A picture that waits for its turn is an open file. Does nothing if the system refuses.
+void allowManyFiles()
+{
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) == 0) {
+        limit.rlim_cur = limit.rlim_max;
+        static_cast<void>(::setrlimit(RLIMIT_NOFILE, &limit));
+    }
+}
+
 int print(const std::string& text)
 {
     const bool isWritten =
@@ -62,10 +74,14 @@ int print(const std::string& text)
 
 int main(int argc, char** argv)
 {
+    if (!StandardStreams::fillGaps()) {
+        return failure;
+    }
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     const stills::CommandLine line = stills::parseCommandLine(arguments);
     switch (line.wants) {
     case stills::CommandLine::Wants::Run:
+        allowManyFiles();
         return run(line.options);
     case stills::CommandLine::Wants::Print:
         return print(line.text);

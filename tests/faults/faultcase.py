@@ -10,6 +10,7 @@ import os
 import pathlib
 import resource
 import shutil
+import signal
 import subprocess
 import tempfile
 import unittest
@@ -17,6 +18,7 @@ import unittest
 from PIL import Image
 
 HIDDEN = ".morvantile-*.part"
+NOBODY = 65534
 
 
 def sample(name):
@@ -55,14 +57,27 @@ class FaultCase(unittest.TestCase):
                 "FAULTS_LOG": str(self.folder / "faults.log")})
         return environment
 
-    def start(self, program, *arguments, faults=None, below=None, limits=()):
-        def limit():
+    def give_to_nobody(self):
+        """Lets runs as nobody use the folders."""
+        for path in (self.folder, *self.folder.rglob("*")):
+            path.chmod(0o777 if path.is_dir() else 0o666)
+
+    def start(self, program, *arguments, faults=None, below=None, limits=(), as_nobody=False,
+              closed=(), stdin=subprocess.DEVNULL):
+        """With as_nobody, root's programs run as a user without privileges. The standard streams of
+        the numbers in closed are closed."""
+        def prepare():
+            # Shells ignore this signal for programs in the background, and stills would inherit that.
+            signal.signal(signal.SIGINT, signal.SIG_DFL)
+            for stream in closed:
+                os.close(stream)
             for kind, value in limits:
-                resource.setrlimit(kind, (value, value))
+                resource.setrlimit(kind, value if isinstance(value, tuple) else (value, value))
         return subprocess.Popen(
-            [os.environ[program], *map(str, arguments)], stdin=subprocess.DEVNULL,
+            [os.environ[program], *map(str, arguments)], stdin=stdin,
             stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-            env=self.environment(faults, below), preexec_fn=limit)
+            env=self.environment(faults, below), preexec_fn=prepare,
+            user=NOBODY if as_nobody and os.geteuid() == 0 else None)
 
     def finish(self, process, timeout=60):
         try:

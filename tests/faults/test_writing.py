@@ -80,6 +80,24 @@ class Writing(FaultCase):
                     self.assertEqual({p: p.read_bytes() for p in self.visible()}, before)
                 self.check_clean()
 
+    def test_files_that_cannot_be_replaced_are_named_and_the_others_are_written(self):
+        self.assertEqual(self.stills(VIDEO, "-c4", "-o", self.out).status, 0)
+        before = {path: path.read_bytes() for path in self.visible()}
+        protected, pipe, *others = self.visible()
+        for path in others:
+            path.write_bytes(b"old")
+        pipe.unlink()
+        os.mkfifo(pipe)
+        self.give_to_nobody()
+        protected.chmod(0o444)
+        result = self.stills(VIDEO, "-c4", "--overwrite", "-o", self.out, as_nobody=True)
+        self.check_told(result, f"Cannot be written: {protected} (Permission denied)",
+                        f"Cannot be written: {pipe} (Operation not supported)", "2 pictures")
+        self.assertTrue(pipe.is_fifo())
+        for path in [protected, *others]:
+            self.assertEqual(path.read_bytes(), before[path])
+        self.assertEqual(self.hidden(), [])
+
     def test_full_disk_says_how_much_is_missing(self):
         with small_disk(self.out, "100k") as is_mounted:
             print("\nA full disk by", "tmpfs" if is_mounted else "the library's ENOSPC")
@@ -245,6 +263,53 @@ class Killing(FaultCase):
         self.assertEqual((self.folder / "final").read_bytes(), b"half")
         for name in left:
             (self.out / name).unlink()
+        self.check_clean()
+
+
+class Waiting(FaultCase):
+    """Finished pictures that wait for their turn in hidden files."""
+
+    def running(self, **options):
+        """A run with several such pictures."""
+        process = self.start("STILLS", VIDEO, "--every", "20ms", "-f", "png", "-j2", "-o", self.out,
+                             faults="call=write,slow=20", **options)
+        self.addCleanup(process.kill)
+        deadline = time.monotonic() + 20
+        while len(self.hidden()) < 5 and time.monotonic() < deadline:
+            time.sleep(0.001)
+        return process
+
+    def test_pictures_of_a_suspended_run_outlast_another_run(self):
+        process = self.running()
+        process.send_signal(signal.SIGSTOP)
+        os.waitpid(process.pid, os.WUNTRACED)
+        waiting = self.hidden()
+        self.assertGreater(len(waiting), 2)
+        for path in waiting:
+            os.utime(path, (time.time() - 7200,) * 2)
+        self.assertEqual(self.stills(VIDEO, "-c1", "-f", "png", "-o", self.out).status, 0)
+        self.assertEqual(self.hidden(), waiting)
+        process.send_signal(signal.SIGCONT)
+        result = self.finish(process)
+        self.assertEqual(result.status, 0, str(result))
+        self.assertIn("100 pictures", result.output)
+        self.assertEqual(len(self.visible()), 101)
+        self.check_clean()
+
+    def test_pictures_wait_in_files_beyond_the_usual_limit_on_descriptors(self):
+        hard = resource.getrlimit(resource.RLIMIT_NOFILE)[1]
+        process = self.running(limits=[(resource.RLIMIT_NOFILE, (40, hard))])
+        waiting = len(self.hidden())
+        result = self.finish(process)
+        self.assertGreaterEqual(waiting, 5, str(result))
+        self.assertEqual(result.status, 0, str(result))
+        self.check_clean()
+
+    def test_pictures_wait_in_memory_where_descriptors_are_few(self):
+        result = self.stills(VIDEO, "--every", "20ms", "-f", "png", "-j2", "-o", self.out,
+                             limits=[(resource.RLIMIT_NOFILE, 40)])
+        self.assertEqual(result.status, 0, str(result))
+        self.assertEqual(len(self.visible()), 100)
         self.check_clean()
 
 

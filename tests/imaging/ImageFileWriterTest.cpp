@@ -22,7 +22,7 @@ using testsupport::pixelsOf;
 
 namespace {
 
-QImage picture()
+QImage gradient()
 {
     QImage image(40, 30, QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
@@ -83,7 +83,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QByteArray, format);
         const QString path = m_folder->filePath(name);
-        QCOMPARE(ImageFileWriter::write(path, picture(), ImageFileWriter::defaultQuality,
+        QCOMPARE(ImageFileWriter::write(path, gradient(), ImageFileWriter::defaultQuality,
                                         ExistingFile::Keep),
                  WriteResult::Written);
         QCOMPARE(files(), QStringList{name});
@@ -91,9 +91,9 @@ private slots:
         reader.setDecideFormatFromContent(true);
         QCOMPARE(reader.format(), format);
         const QImage image = reader.read();
-        QCOMPARE(image.size(), picture().size());
+        QCOMPARE(image.size(), gradient().size());
         if (format != "jpeg") {
-            QCOMPARE(pixelsOf(image, QImage::Format_ARGB32), picture());
+            QCOMPARE(pixelsOf(image, QImage::Format_ARGB32), gradient());
         }
     }
 
@@ -119,10 +119,10 @@ private slots:
         const QString qts = m_folder->filePath(QStringLiteral("qts.") + suffix);
         QImageWriter writer(qts);
         writer.setQuality(quality);
-        QImage tagged = picture();
+        QImage tagged = gradient();
         tagged.setColorSpace(QColorSpace(QColorSpace::SRgb));
         QVERIFY(writer.write(tagged));
-        QCOMPARE(ImageFileWriter::write(ours, picture(), quality, ExistingFile::Keep),
+        QCOMPARE(ImageFileWriter::write(ours, gradient(), quality, ExistingFile::Keep),
                  WriteResult::Written);
         QVERIFY(contentOf(ours) == contentOf(qts));
     }
@@ -156,7 +156,7 @@ private slots:
 
     void write_compressesPngs_whateverTheQuality()
     {
-        const QImage image = picture().scaled(400, 300);
+        const QImage image = gradient().scaled(400, 300);
         const auto size = [&image](int quality) {
             const QByteArray content =
                 ImageFileWriter::encode(image, QStringLiteral("png"), quality);
@@ -185,15 +185,15 @@ private slots:
         const auto profileOf = [&](const QImage& image) {
             return QImage::fromData(ImageFileWriter::encode(image, suffix, quality)).colorSpace();
         };
-        QCOMPARE(profileOf(picture()), QColorSpace(QColorSpace::SRgb));
-        QImage wide = picture();
+        QCOMPARE(profileOf(gradient()), QColorSpace(QColorSpace::SRgb));
+        QImage wide = gradient();
         wide.setColorSpace(QColorSpace(QColorSpace::AdobeRgb));
         QCOMPARE(profileOf(wide), QColorSpace(QColorSpace::AdobeRgb));
     }
 
     void write_leavesTheImageAsItIs()
     {
-        QImage image = picture().convertToFormat(QImage::Format_Indexed8);
+        QImage image = gradient().convertToFormat(QImage::Format_Indexed8);
         image.setText(QStringLiteral("Title"), QStringLiteral("a title"));
         const QByteArray content = ImageFileWriter::encode(image, QStringLiteral("png"), -1);
         QVERIFY(!image.colorSpace().isValid());
@@ -208,12 +208,12 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QImage>("image");
         QTest::newRow("null image") << QStringLiteral("a.jpg") << QImage();
-        QTest::newRow("unknown suffix") << QStringLiteral("a.xyz") << picture();
-        QTest::newRow("empty suffix") << QStringLiteral("a.") << picture();
-        QTest::newRow("no suffix") << QStringLiteral("png") << picture();
-        QTest::newRow("format that is only read") << QStringLiteral("a.gif") << picture();
-        QTest::newRow("suffix beyond ASCII") << QStringLiteral("a.ſpng") << picture();
-        QTest::newRow("missing folder") << QStringLiteral("missing/a.jpg") << picture();
+        QTest::newRow("unknown suffix") << QStringLiteral("a.xyz") << gradient();
+        QTest::newRow("empty suffix") << QStringLiteral("a.") << gradient();
+        QTest::newRow("no suffix") << QStringLiteral("png") << gradient();
+        QTest::newRow("format that is only read") << QStringLiteral("a.gif") << gradient();
+        QTest::newRow("suffix beyond ASCII") << QStringLiteral("a.ſpng") << gradient();
+        QTest::newRow("missing folder") << QStringLiteral("missing/a.jpg") << gradient();
         QTest::newRow("larger than a JPEG can be")
             << QStringLiteral("a.jpg") << QImage(66000, 2, QImage::Format_Grayscale8);
     }
@@ -269,13 +269,13 @@ private slots:
     void write_passesOnWhatToDoWithAnExistingFile()
     {
         const QString path = m_folder->filePath(QStringLiteral("a.png"));
-        const QImage other = picture().mirrored();
+        const QImage other = gradient().mirrored();
         const auto write = [&path](const QImage& image, ExistingFile existing) {
             return ImageFileWriter::write(path, image, ImageFileWriter::defaultQuality, existing);
         };
-        QCOMPARE(write(picture(), ExistingFile::Keep), WriteResult::Written);
+        QCOMPARE(write(gradient(), ExistingFile::Keep), WriteResult::Written);
         QCOMPARE(write(other, ExistingFile::Keep), WriteResult::AlreadyExists);
-        QCOMPARE(pixelsOf(QImage(path), QImage::Format_ARGB32), picture());
+        QCOMPARE(pixelsOf(QImage(path), QImage::Format_ARGB32), gradient());
         QCOMPARE(write(other, ExistingFile::Replace), WriteResult::Written);
         QCOMPARE(pixelsOf(QImage(path), QImage::Format_ARGB32), other);
     }

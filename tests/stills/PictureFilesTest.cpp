@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <sys/stat.h>
+
 using stills::Existing;
 using stills::PictureFiles;
 using testsupport::TestDir;
@@ -45,6 +47,7 @@ private Q_SLOTS:
     void existingFiles_areOverwritten_onRequest();
     void filesOfThisRun_areNeverOverwritten();
     void missingFolder_isAnError_thatNamesIt();
+    void fileThatCannotBeReplaced_isAnErrorOfItsOwn_thatNamesIt();
 };
 
 void PictureFilesTest::takenNames_giveWayToTheNextFreeOne()
@@ -109,6 +112,17 @@ void PictureFilesTest::missingFolder_isAnError_thatNamesIt()
     const auto outcome = PictureFiles(Existing::NextName).write(folder, nameFor, QByteArray("new"));
     QVERIFY(outcome.kind == Kind::NoRoom);
     QVERIFY(outcome.error.contains(folder));
+}
+
+void PictureFilesTest::fileThatCannotBeReplaced_isAnErrorOfItsOwn_thatNamesIt()
+{
+    const TestDir dir;
+    const QString pipe = dir.filePath(QStringLiteral("a.jpg"));
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const auto outcome =
+        PictureFiles(Existing::Overwrite).write(dir.path(), nameFor, QByteArray("new"));
+    QVERIFY(outcome.kind == Kind::Failed);
+    QVERIFY(outcome.error.contains(pipe));
 }
 
 QTEST_GUILESS_MAIN(PictureFilesTest)
