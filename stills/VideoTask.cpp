@@ -27,6 +27,32 @@ std::string folderOf(const std::string& path)
     return folder.empty() ? "." : folder;
 }
 
+/// Gives each folder one spelling, the first.
+class Folders
+{
+public:
+    const std::string& spellingOf(const std::string& folder)
+    {
+        const auto [known, isNew] = m_known.emplace(folder, folder);
+        if (isNew) {
+            known->second = m_spellings.emplace(canonical(folder), folder).first->second;
+        }
+        return known->second;
+    }
+
+private:
+    /// The same for all spellings of a folder, which need not exist.
+    static std::string canonical(const std::string& folder)
+    {
+        std::error_code error;
+        const fs::path path = fs::weakly_canonical(fs::absolute(folder, error), error);
+        return error ? folder : path.string();
+    }
+
+    std::map<std::string, std::string> m_spellings; // by canonical paths
+    std::map<std::string, std::string> m_known;     // so that each is looked up on the disk once
+};
+
 } // namespace
 
 std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
@@ -38,8 +64,10 @@ std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
     const auto key = [](const VideoTask& task) {
         return Name{task.folder, cutBetweenCharacters(task.stem, comparedBytes)};
     };
+    Folders folders;
     for (const std::string& video : videos) {
-        tasks.push_back({video, folder.value_or(folderOf(video)), stemOf(video), {}});
+        tasks.push_back(
+            {video, folders.spellingOf(folder.value_or(folderOf(video))), stemOf(video), {}});
         stems.insert(key(tasks.back()));
     }
     std::set<Name> seen;

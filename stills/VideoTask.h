@@ -13,7 +13,7 @@ namespace stills {
 struct VideoTask
 {
     std::string path;   ///< as given by the user
-    std::string folder; ///< of its pictures
+    std::string folder; ///< of its pictures; spelled alike in all tasks with that folder
     std::string stem;   ///< its name without the last suffix
     std::string tail;   ///< distinguishes it from other videos with that stem and folder: "-2",
                         ///< "-3" …
@@ -21,6 +21,9 @@ struct VideoTask
 
 /// The tasks of all videos, in order. Tails depend on the whole list, so that they are the same in
 /// each shard and in each run.
+///
+/// A folder that the videos spell differently, also by links, is spelled as the first of them does.
+/// Otherwise names that are taken would seem free.
 ///
 /// @param folder  for all pictures; without one, the folder of each video
 [[nodiscard]] std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
