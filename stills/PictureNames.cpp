@@ -28,12 +28,33 @@ bool asksForTimes(const FramePositions& positions)
     return !asksForNumbers(positions);
 }
 
-NameFields fieldsOf(const VideoTask& task)
+NameFields fieldsOf(const VideoTask& task, const NameTemplate& names)
 {
     NameFields fields;
     fields.stem = task.stem;
-    fields.tail = task.tail;
+    fields.tail = names.uses(Field::Stem) ? task.tail : task.folderTail;
     return fields;
+}
+
+/// The tail of a video in a profile's name, apart from digits that follow it.
+std::string tailFor(const OutputNaming& naming, const VideoTask& task, int counter)
+{
+    const std::string tail = naming.baseName.isEmpty() ? task.tail : task.folderTail;
+    const QString next = naming.suffix + naming.counterText(counter);
+    const bool isApart = tail.empty() || next.isEmpty() || !next.front().isDigit();
+    return isApart ? tail : tail + '-';
+}
+
+/// The profile's name for a picture, without dot and type.
+std::string profileName(OutputNaming naming, const VideoTask& task, int counter)
+{
+    const std::string tail = tailFor(naming, task, counter);
+    const std::string stem = naming.baseName.isEmpty()
+                                 ? cutBetweenCharacters(task.stem, longestProfileStem)
+                                 : bytesOf(naming.baseName);
+    naming.baseName = pathOf(stem + tail);
+    const QString name = naming.fileName(QString(), counter);
+    return bytesOf(name.left(name.size() - naming.type.size() - 1));
 }
 
 } // namespace
@@ -57,12 +78,10 @@ QByteArray PictureNames::name(const VideoTask& task, const SeriesPicture& pictur
         const bool isSingle = isOnly && attempt == 1;
         const int counter =
             isSingle ? OutputNaming::noCounter : number + attempt - (isOnly ? 2 : 1);
-        const std::string stem = cutBetweenCharacters(task.stem, longestProfileStem) + task.tail;
-        const QString whole = m_naming->fileName(pathOf(stem), counter);
-        const QString base = whole.left(whole.size() - m_naming->type.size() - 1);
-        return QByteArray::fromStdString(safeFileName(bytesOf(base), m_suffix));
+        return QByteArray::fromStdString(
+            safeFileName(profileName(*m_naming, task, counter), m_suffix));
     }
-    NameFields fields = fieldsOf(task);
+    NameFields fields = fieldsOf(task, m_template);
     fields.number = number;
     fields.frame = picture.frame;
     fields.timeMs =
@@ -89,7 +108,7 @@ std::optional<QByteArray> PictureNames::nameBefore(const VideoTask& task,
 
 QByteArray PictureNames::sheetName(const VideoTask& task, int attempt) const
 {
-    return QByteArray::fromStdString(m_sheet.fileName(fieldsOf(task), m_suffix, attempt));
+    return QByteArray::fromStdString(m_sheet.fileName(fieldsOf(task, m_sheet), m_suffix, attempt));
 }
 
 } // namespace stills

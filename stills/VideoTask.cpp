@@ -27,30 +27,41 @@ std::string folderOf(const std::string& path)
     return folder.empty() ? "." : folder;
 }
 
-/// Gives each folder one spelling, the first.
+std::string tailOf(int number)
+{
+    return "-" + std::to_string(number);
+}
+
+/// The folders of pictures, and how many videos have each.
 class Folders
 {
 public:
-    const std::string& spellingOf(const std::string& folder)
+    struct Folder
     {
-        const auto [known, isNew] = m_known.emplace(folder, folder);
+        std::string spelling;
+        int videos = 0;
+    };
+
+    Folder& operator[](const std::string& spelling)
+    {
+        const auto [known, isNew] = m_bySpelling.emplace(spelling, nullptr);
         if (isNew) {
-            known->second = m_spellings.emplace(canonical(folder), folder).first->second;
+            known->second = &m_folders.emplace(canonical(spelling), Folder{spelling}).first->second;
         }
-        return known->second;
+        return *known->second;
     }
 
 private:
     /// The same for all spellings of a folder, which need not exist.
-    static std::string canonical(const std::string& folder)
+    static std::string canonical(const std::string& spelling)
     {
         std::error_code error;
-        const fs::path path = fs::weakly_canonical(fs::absolute(folder, error), error);
-        return error ? folder : path.string();
+        const fs::path path = fs::weakly_canonical(fs::absolute(spelling, error), error);
+        return error ? spelling : path.string();
     }
 
-    std::map<std::string, std::string> m_spellings; // by canonical paths
-    std::map<std::string, std::string> m_known;     // so that each is looked up on the disk once
+    std::map<std::string, Folder> m_folders;
+    std::map<std::string, Folder*> m_bySpelling; // so that each is looked up on the disk once
 };
 
 } // namespace
@@ -66,8 +77,9 @@ std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
     };
     Folders folders;
     for (const std::string& video : videos) {
-        tasks.push_back(
-            {video, folders.spellingOf(folder.value_or(folderOf(video))), stemOf(video), {}});
+        Folders::Folder& place = folders[folder.value_or(folderOf(video))];
+        const std::string folderTail = ++place.videos > 1 ? tailOf(place.videos) : std::string();
+        tasks.push_back({video, place.spelling, stemOf(video), {}, folderTail});
         stems.insert(key(tasks.back()));
     }
     std::set<Name> seen;
@@ -78,7 +90,7 @@ std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
         int& number = lastNumbers.emplace(stem, 1).first->second;
         // No other video may have this combined name as its own.
         while (seen.count(name) > 0 || (!task.tail.empty() && stems.count(name) > 0)) {
-            task.tail = "-" + std::to_string(++number);
+            task.tail = tailOf(++number);
             name = {task.folder, stem.second + task.tail};
         }
         seen.insert(name);

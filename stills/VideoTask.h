@@ -12,11 +12,13 @@ namespace stills {
 /// One video of a run, and the folder for its pictures.
 struct VideoTask
 {
-    std::string path;   ///< as given by the user
-    std::string folder; ///< of its pictures; spelled alike in all tasks with that folder
-    std::string stem;   ///< its name without the last suffix
-    std::string tail;   ///< distinguishes it from other videos with that stem and folder: "-2",
-                        ///< "-3" …
+    std::string path;       ///< as given by the user
+    std::string folder;     ///< of its pictures; spelled alike in all tasks with that folder
+    std::string stem;       ///< its name without the last suffix
+    std::string tail;       ///< distinguishes it from other videos with that stem and folder: "-2",
+                            ///< "-3" …
+    std::string folderTail; ///< distinguishes it from all other videos with that folder, for names
+                            ///< without the stem
 };
 
 /// The tasks of all videos, in order. Tails depend on the whole list, so that they are the same in

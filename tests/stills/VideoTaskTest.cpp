@@ -35,6 +35,7 @@ private Q_SLOTS:
     void stems_areFull();
     void sameStems_inOneFolder_areNumbered();
     void folder_isOne_howeverItIsSpelled();
+    void videosOfOneFolder_areNumbered_forNamesWithoutAStem();
     void numbers_avoidTheStemsOfOthers();
     void stemsThatAreLongAndAlike_areNumbered();
     void manyVideosOfOneStem_areAllDifferent();
@@ -75,6 +76,20 @@ void VideoTaskTest::folder_isOne_howeverItIsSpelled()
     QCOMPARE(namesOf(planTasks({top + "/link/a.mp4", top + "/real/a.mp4", relative + "/real/a.mov"},
                                {})),
              (Names{top + "/link/a", top + "/link/a-2", top + "/link/a-3"}));
+}
+
+void VideoTaskTest::videosOfOneFolder_areNumbered_forNamesWithoutAStem()
+{
+    const auto tails = [](const std::vector<VideoTask>& tasks) {
+        Names found;
+        for (const VideoTask& task : tasks) {
+            found.push_back(task.folderTail);
+        }
+        return found;
+    };
+    const Names videos{"x/a.mp4", "y/b.mp4", "./x/b.mp4", "x/a.mkv"};
+    QCOMPARE(tails(planTasks(videos, {})), (Names{"", "", "-2", "-3"}));
+    QCOMPARE(tails(planTasks(videos, std::string("o"))), (Names{"", "-2", "-3", "-4"}));
 }
 
 void VideoTaskTest::numbers_avoidTheStemsOfOthers()
