@@ -3,6 +3,8 @@
 #include "series/SeriesTargets.h"
 #include "stills/Texts.h"
 
+#include <algorithm>
+
 namespace stills {
 
 namespace {
@@ -11,6 +13,8 @@ using Field = NameTemplate::Field;
 
 /// In bytes; leaves room for the parts that profiles add.
 constexpr std::size_t longestProfileStem = 150;
+/// In bytes, whatever the counter, so that the names of all pictures are truncated alike.
+constexpr std::size_t counterRoom = 10;
 
 bool asksForTimes(const FramePositions& positions)
 {
@@ -45,14 +49,43 @@ std::string tailFor(const OutputNaming& naming, const VideoTask& task, int count
     return isApart ? tail : tail + '-';
 }
 
-/// The profile's name for a picture, without dot and type.
-std::string profileName(OutputNaming naming, const VideoTask& task, int counter)
+/// Truncates a text to this many bytes, between characters.
+void cut(QString& text, std::size_t bytes)
+{
+    text = pathOf(cutBetweenCharacters(bytesOf(text), bytes));
+}
+
+std::size_t sizeOf(const QString& text)
+{
+    return bytesOf(text).size();
+}
+
+/// Difference that is 0 at least.
+std::size_t less(std::size_t a, std::size_t b)
+{
+    return a > b ? a - b : 0;
+}
+
+/// Truncates the parts until they have that many bytes together: the base name as far as videos
+/// stay distinguishable, and then what is in front of it and behind it, the longer one first.
+void shorten(OutputNaming& naming, std::size_t room)
+{
+    const std::size_t around = sizeOf(naming.prefix) + sizeOf(naming.suffix);
+    cut(naming.baseName, std::max(distinctStem, less(room, around)));
+    const std::size_t left = less(room, sizeOf(naming.baseName));
+    cut(naming.suffix, std::max(left / 2, less(left, sizeOf(naming.prefix))));
+    cut(naming.prefix, less(left, sizeOf(naming.suffix)));
+}
+
+/// The profile's name for a picture, without dot and type. Tail and counter are never truncated.
+std::string profileName(OutputNaming naming, const VideoTask& task, int counter, std::size_t room)
 {
     const std::string tail = tailFor(naming, task, counter);
-    const std::string stem = naming.baseName.isEmpty()
-                                 ? cutBetweenCharacters(task.stem, longestProfileStem)
-                                 : bytesOf(naming.baseName);
-    naming.baseName = pathOf(stem + tail);
+    if (naming.baseName.isEmpty()) {
+        naming.baseName = pathOf(cutBetweenCharacters(task.stem, longestProfileStem));
+    }
+    shorten(naming, less(room, tail.size() + counterRoom));
+    naming.baseName += pathOf(tail);
     const QString name = naming.fileName(QString(), counter);
     return bytesOf(name.left(name.size() - naming.type.size() - 1));
 }
@@ -79,7 +112,7 @@ QByteArray PictureNames::name(const VideoTask& task, const SeriesPicture& pictur
         const int counter =
             isSingle ? OutputNaming::noCounter : number + attempt - (isOnly ? 2 : 1);
         return QByteArray::fromStdString(
-            safeFileName(profileName(*m_naming, task, counter), m_suffix));
+            safeFileName(profileName(*m_naming, task, counter, longestBase(m_suffix)), m_suffix));
     }
     NameFields fields = fieldsOf(task, m_template);
     fields.number = number;

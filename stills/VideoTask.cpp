@@ -11,9 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Names that are equal up to here may become equal when truncated.
-constexpr std::size_t comparedBytes = 100;
-
 std::string stemOf(const std::string& path)
 {
     const std::string name = fs::path(path).filename().string();
@@ -73,7 +70,7 @@ std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
     std::vector<VideoTask> tasks;
     std::set<Name> stems;
     const auto key = [](const VideoTask& task) {
-        return Name{task.folder, cutBetweenCharacters(task.stem, comparedBytes)};
+        return Name{task.folder, cutBetweenCharacters(task.stem, distinctStem)};
     };
     Folders folders;
     for (const std::string& video : videos) {

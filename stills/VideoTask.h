@@ -9,6 +9,9 @@
 
 namespace stills {
 
+/// In bytes. Stems that are equal up to here count as equal, since names may truncate them.
+constexpr std::size_t distinctStem = 100;
+
 /// One video of a run, and the folder for its pictures.
 struct VideoTask
 {

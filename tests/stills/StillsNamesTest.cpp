@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 using stillsprogram::filesIn;
@@ -80,6 +81,8 @@ private Q_SLOTS:
     void sheetsWithoutAStem_areThoseOfOneVideo();
     void tails_areApartFromCounters_data();
     void tails_areApartFromCounters();
+    void longProfiles_keepTailAndCounter_data();
+    void longProfiles_keepTailAndCounter();
 };
 
 void StillsNamesTest::namesWithoutAStem_areThoseOfOneVideo_data()
@@ -152,6 +155,37 @@ void StillsNamesTest::tails_areApartFromCounters()
     const TestDir out;
     QVERIFY(studio.run(out.path(), words("--at 1,2 --name-profile mine")));
     QCOMPARE(filesIn(out.path()), words(qPrintable(names)));
+}
+
+void StillsNamesTest::longProfiles_keepTailAndCounter_data()
+{
+    QTest::addColumn<int>("prefix");
+    QTest::addColumn<int>("baseName");
+    QTest::addColumn<int>("suffix");
+    QTest::newRow("base name") << 1 << 250 << 1;
+    QTest::newRow("prefix") << 250 << 1 << 1;
+    QTest::newRow("suffix") << 1 << 1 << 250;
+    QTest::newRow("together") << 80 << 80 << 80;
+    QTest::newRow("all") << 250 << 250 << 250;
+}
+
+void StillsNamesTest::longProfiles_keepTailAndCounter()
+{
+    QFETCH(const int, prefix);
+    QFETCH(const int, baseName);
+    QFETCH(const int, suffix);
+    const Studio studio({QString(prefix, QLatin1Char('p')), QString(baseName, QLatin1Char('b')),
+                         QString(suffix, QLatin1Char('s'))});
+    const TestDir out;
+    const QStringList options = words("--at 1,2 --name-profile mine --skip-existing");
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(studio.run(out.path(), options));
+        QCOMPARE(filesIn(out.path()).size(), 4);
+    }
+    static const QRegularExpression pattern(QStringLiteral("^p+b+(-2)?s+[12]\\.jpg$"));
+    for (const QString& name : filesIn(out.path())) {
+        QVERIFY2(pattern.match(name).hasMatch(), qPrintable(name));
+    }
 }
 
 QTEST_GUILESS_MAIN(StillsNamesTest)
