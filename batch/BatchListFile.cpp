@@ -5,7 +5,10 @@
 
 #include <QMetaProperty>
 #include <QSettings>
+#include <QStringList>
+#include <QVector>
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -28,6 +31,23 @@ void forEachSetting(const std::function<void(const char* name)>& use)
     }
 }
 
+/// The indices of the jobs that the file holds, in order. Its stated size may be any number.
+QVector<int> storedIndices(QSettings& settings)
+{
+    const int size = settings.beginReadArray(jobsArray);
+    QVector<int> indices;
+    const QStringList groups = settings.childGroups();
+    for (const QString& group : groups) {
+        const int number = group.toInt();
+        if (number >= 1 && number <= size && QString::number(number) == group) {
+            indices.append(number - 1);
+        }
+    }
+    settings.endArray();
+    std::sort(indices.begin(), indices.end());
+    return indices;
+}
+
 } // namespace
 
 void BatchListFile::save(const QList<BatchWorkerConfig*>& jobs)
@@ -48,9 +68,10 @@ QList<BatchWorkerConfig*> BatchListFile::load(QObject* parent)
 {
     QSettings settings(path(), QSettings::IniFormat);
     QList<BatchWorkerConfig*> jobs;
-    const int count = settings.beginReadArray(jobsArray);
-    for (int i = 0; i < count; ++i) {
-        settings.setArrayIndex(i);
+    const QVector<int> indices = storedIndices(settings);
+    settings.beginReadArray(jobsArray);
+    for (const int index : indices) {
+        settings.setArrayIndex(index);
         auto* const job = new BatchWorkerConfig(parent);
         job->loadFromLastUsed();
         forEachSetting([&](const char* name) {

@@ -10,12 +10,16 @@
 #include <deque>
 #include <mutex>
 #include <optional>
+#include <system_error>
 
 namespace {
 
 /// Maximum time to wait for a cancelled read. Most notice sooner; in some files FFmpeg reads
 /// gigabytes before it polls for an interrupt.
 constexpr std::chrono::milliseconds longestWait{250};
+
+/// How often to try to start the thread while the system provides no more.
+constexpr std::chrono::milliseconds startInterval{500};
 
 } // namespace
 
@@ -113,7 +117,11 @@ bool VideoInfoLoader::Reader::end()
 
 VideoInfoLoader::VideoInfoLoader(QObject* parent)
     : QObject(parent)
-{}
+{
+    m_nextStart.setSingleShot(true);
+    m_nextStart.setInterval(startInterval);
+    connect(&m_nextStart, &QTimer::timeout, this, &VideoInfoLoader::startThread);
+}
 
 VideoInfoLoader::~VideoInfoLoader()
 {
@@ -149,12 +157,27 @@ void VideoInfoLoader::start()
 {
     m_loadedCount = 0;
     m_reader = std::make_shared<Reader>(*this);
-    m_thread = std::thread([reader = m_reader] { reader->run(); });
+    startThread();
+}
+
+/// Reading in this thread instead would block it, and without threads no file can be opened.
+void VideoInfoLoader::startThread()
+{
+    try {
+        m_thread = std::thread([reader = m_reader] { reader->run(); });
+    } catch (const std::system_error&) {
+        m_nextStart.start();
+    }
 }
 
 void VideoInfoLoader::stop()
 {
     if (!m_reader) {
+        return;
+    }
+    m_nextStart.stop();
+    if (!m_thread.joinable()) {
+        m_reader.reset();
         return;
     }
     if (m_reader->end()) {

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QTimer>
 
 #include <memory>
 #include <thread>
@@ -12,7 +13,8 @@ class BatchWorkerConfig;
 ///
 /// A large damaged video takes minutes to read, and a disk may not answer at all. So the owner
 /// never waits for a video: a read that does not end soon after its cancellation is abandoned
-/// together with its thread, which ends with the read.
+/// together with its thread, which ends with the read. While the system provides no more threads,
+/// the jobs wait.
 ///
 /// Belongs to the user-interface thread, where its signals are emitted from the event loop.
 /// Connected slots may load more or cancel, but must not delete it.
@@ -58,6 +60,7 @@ private:
     class Reader;
 
     void start();
+    void startThread();
     void stop();
     void takeFacts();
 
@@ -66,5 +69,6 @@ private:
     int m_loadedCount = 0;
     /// Shared with the thread; null while nothing is being read.
     std::shared_ptr<Reader> m_reader;
-    std::thread m_thread;
+    std::thread m_thread; ///< not started while m_nextStart runs
+    QTimer m_nextStart;
 };

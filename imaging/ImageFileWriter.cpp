@@ -112,23 +112,14 @@ QByteArray encodedByQt(const QImage& image, const QByteArray& format, int qualit
     return writer.write(image) ? content : QByteArray();
 }
 
-QByteArray encodedWithWholeChroma(const QImage& image, int quality)
-{
-    try {
-        return JpegEncoder::encode(image, std::min(quality, highestQuality));
-    } catch (const std::bad_alloc&) {
-        return {};
-    }
-}
-
 /// The encoded picture; empty if the format is unknown or cannot hold the picture, or if memory
-/// runs out.
+/// runs out. Throws std::bad_alloc in the latter case, too.
 QByteArray encoded(const QImage& image, const QByteArray& format, int quality)
 {
     const bool keepsChroma = quality >= wholeChromaQuality && JpegEncoder::hasChroma(image);
     const QImage tagged = withColorSpace(image);
     if (isJpeg(format) && keepsChroma) {
-        return encodedWithWholeChroma(tagged, quality);
+        return JpegEncoder::encode(tagged, std::min(quality, highestQuality));
     }
     const QByteArray content = encodedByQt(tagged, format, quality);
     const auto hdr = HdrColours::of(image);
@@ -140,7 +131,11 @@ QByteArray encoded(const QImage& image, const QByteArray& format, int quality)
 QByteArray ImageFileWriter::encode(const QImage& image, const QString& type, int quality)
 {
     const QByteArray format = type.toLower().toUtf8();
-    return image.isNull() || format.isEmpty() ? QByteArray() : encoded(image, format, quality);
+    try {
+        return image.isNull() || format.isEmpty() ? QByteArray() : encoded(image, format, quality);
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
 }
 
 WriteResult ImageFileWriter::write(const QString& fileName, const QImage& image, int quality,

@@ -184,13 +184,13 @@ void addPosition(Exiv2::XmpData& xmp, const PictureSource& source)
 QString writablePath(const QString& path)
 {
     const QString back = QString::fromUtf8(path.toUtf8());
-    return back == path && plainText(path) == path ? path : QString();
+    return back == path && plainName(path) == path ? path : QString();
 }
 
 Exiv2::XmpData xmpOf(const PictureSource& source, const ImageRecipe& recipe, const QString& type)
 {
     Exiv2::XmpData xmp;
-    const std::string name = bytesOf(QFileInfo(source.video).fileName());
+    const std::string name = plainName(QFileInfo(source.video).fileName()).toStdString();
     set(xmp, "Xmp.xmp.CreatorTool", bytesOf(programText()));
     set(xmp, "Xmp.dc.source", name);
     set(xmp, "Xmp.photoshop.Source", name);
@@ -311,8 +311,8 @@ std::optional<imaging::StillOrigin> originFrom(const Exiv2::XmpData& xmp)
     imaging::StillOrigin origin;
     origin.positionMs = *position;
     // Only a name, nothing that leads to another folder.
-    origin.videoName = QFileInfo(plainText(textOf(xmp, "Xmp.dc.source"))).fileName();
-    origin.videoPath = plainText(texts.value(QStringLiteral("VideoPath")));
+    origin.videoName = QFileInfo(plainName(textOf(xmp, "Xmp.dc.source"))).fileName();
+    origin.videoPath = plainName(texts.value(QStringLiteral("VideoPath")));
     origin.recipe = RecipeTexts::recipeFrom(texts);
     origin.hadPictureWatermark = RecipeTexts::hasPictureWatermark(texts);
     return origin;

@@ -103,6 +103,11 @@ QString plainText(const QString& text)
     return characters(text, ' ').simplified();
 }
 
+QString plainName(const QString& text)
+{
+    return characters(text, ' ');
+}
+
 QString plainLines(const QString& text)
 {
     return characters(text, '\n');

@@ -50,5 +50,8 @@ struct Recording
 /// spaces at the ends and doubled ones are removed, and long texts are truncated.
 [[nodiscard]] QString plainText(const QString& text);
 
-/// Like plainText(), but keeps line breaks.
+/// Like plainText(), but keeps all spaces, of whatever kind: for names and paths of files.
+[[nodiscard]] QString plainName(const QString& text);
+
+/// Like plainText(), but keeps all spaces and line breaks.
 [[nodiscard]] QString plainLines(const QString& text);

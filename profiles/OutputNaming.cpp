@@ -4,9 +4,11 @@ namespace {
 
 constexpr int paddedCounterWidth = 5;
 
-QString counterText(int counter, bool padsZeros)
+} // namespace
+
+QString OutputNaming::counterText(int counter) const
 {
-    if (counter == OutputNaming::noCounter) {
+    if (counter == noCounter) {
         return QString();
     }
     if (!padsZeros) {
@@ -15,10 +17,8 @@ QString counterText(int counter, bool padsZeros)
     return QStringLiteral("%1").arg(qlonglong(counter), paddedCounterWidth, 10, QLatin1Char('0'));
 }
 
-} // namespace
-
 QString OutputNaming::fileName(const QString& videoBaseName, int counter) const
 {
     return prefix + (baseName.isEmpty() ? videoBaseName : baseName) + suffix +
-           counterText(counter, padsZeros) + QLatin1Char('.') + type;
+           counterText(counter) + QLatin1Char('.') + type;
 }

@@ -34,13 +34,6 @@ std::string padded(std::int64_t number, int width)
     return text.size() < wanted ? std::string(wanted - text.size(), '0') + text : text;
 }
 
-/// Maximum size of the part before the counter, the dot and the suffix.
-std::size_t baseRoom(const std::string& suffix)
-{
-    const std::size_t taken = counterRoom + 1 + suffix.size();
-    return taken < longestName ? longestName - taken : 1;
-}
-
 bool isForbidden(char c)
 {
     return static_cast<unsigned char>(c) < 0x20 || c == 0x7f || c == '/' || c == '\\';
@@ -87,9 +80,15 @@ std::string cutBetweenCharacters(std::string text, std::size_t bytes)
     return text;
 }
 
+std::size_t longestBase(const std::string& suffix)
+{
+    const std::size_t taken = counterRoom + 1 + suffix.size();
+    return taken < longestName ? longestName - taken : 1;
+}
+
 std::string safeFileName(const std::string& base, const std::string& suffix, int counter)
 {
-    return joined(cutBetweenCharacters(safe(base), baseRoom(suffix)), suffix, counter);
+    return joined(cutBetweenCharacters(safe(base), longestBase(suffix)), suffix, counter);
 }
 
 Result<NameTemplate::Part> NameTemplate::parseField(const std::string& content)
@@ -196,7 +195,7 @@ std::string NameTemplate::fileName(const NameFields& fields, const std::string& 
                                    int counter) const
 {
     std::string base = expanded(fields);
-    const std::size_t room = baseRoom(suffix);
+    const std::size_t room = longestBase(suffix);
     const auto stems = static_cast<std::size_t>(
         std::count_if(m_parts.begin(), m_parts.end(),
                       [](const Part& part) { return part.field == Field::Stem; }));

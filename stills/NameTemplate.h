@@ -63,6 +63,9 @@ private:
 [[nodiscard]] std::string safeFileName(const std::string& base, const std::string& suffix,
                                        int counter = 1);
 
+/// Maximum size in bytes of a base that safeFileName() does not truncate.
+[[nodiscard]] std::size_t longestBase(const std::string& suffix);
+
 /// "00.01.02.500": hours, minutes, seconds and milliseconds, so that names sort by time.
 [[nodiscard]] std::string timeForNames(std::int64_t ms);
 

@@ -156,11 +156,13 @@ std::vector<OptionEntry> fileOptions()
          "without its suffix, {number} that of the position, from 1, {frame} the frame's, from 0, "
          "{time} the time that was asked for, or the frame's own where none was, as 00.01.02.500; "
          "{width} and {height} are the picture's. {number:4} fills up with zeros; {{ and }} stand "
-         "for braces. The default is '{stem}-{time}'.",
+         "for braces. The default is '{stem}-{time}'. Without {stem}, the names of the second "
+         "video in a folder get -2, and so on.",
          nullptr, Completes::Nothing, nullptr},
         {section, "--name-profile", "NAME", &T::nameProfile,
          "Name the pictures, and choose their type, by a file-name profile that was made in the "
-         "window.",
+         "window. Its fixed base name, if it has one, gets -2 for the second video in a folder, "
+         "and so on.",
          nullptr, Completes::Nothing, nullptr},
         {section, "--skip-existing", nullptr, &T::skipExisting,
          "Do not make pictures again that are there: a second run goes on where the first one was "

@@ -146,6 +146,7 @@ public:
 private:
     [[nodiscard]] std::vector<VideoTask> chooseTasks(const std::vector<std::string>& videos);
     [[nodiscard]] bool isDone(const VideoTask& task) const;
+    void reportProblems(const VideoList& list, Report& report) const;
     [[nodiscard]] bool work(const std::vector<VideoTask>& tasks, Report& report) const;
 
     const Options& m_options;
@@ -180,6 +181,17 @@ std::vector<VideoTask> Run::chooseTasks(const std::vector<std::string>& videos)
     return chosen;
 }
 
+/// One of several shards reports what all of them would. But each says if its list may lack videos:
+/// shards on other machines may have read it.
+void Run::reportProblems(const VideoList& list, Report& report) const
+{
+    for (const VideoList::Problem& problem : list.problems) {
+        if (problem.hidesVideos || m_options.shard.number == 1) {
+            report.addProblem(pathOf(problem.path), QString::fromStdString(problem.text));
+        }
+    }
+}
+
 /// Returns true unless an error ended the run.
 bool Run::work(const std::vector<VideoTask>& tasks, Report& report) const
 {
@@ -208,12 +220,7 @@ int Run::execute()
     const std::vector<VideoTask> tasks = chooseTasks(list.videos);
     Report report(styleOf(m_options), static_cast<int>(tasks.size()) + m_done);
     report.addSkipped(m_done);
-    // Otherwise each of several shards would report them.
-    if (m_options.shard.number == 1) {
-        for (const VideoList::Problem& problem : list.problems) {
-            report.addProblem(pathOf(problem.path), QString::fromStdString(problem.text));
-        }
-    }
+    reportProblems(list, report);
     const QString folderError = prepareFolder(m_options);
     if (!folderError.isEmpty()) {
         report.addProblem(pathOf(*m_options.folder), folderError);

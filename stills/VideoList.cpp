@@ -39,13 +39,15 @@ public:
         } else if (m_isRecursive) {
             addFolder(path);
         } else {
-            addProblem(path, "is a folder; --recursive takes the videos in it");
+            m_list.problems.push_back(
+                {path, "is a folder; --recursive takes the videos in it", false});
         }
     }
 
-    void addProblem(const std::string& path, const std::string& text)
+    /// Adds a list or a folder whose videos are unknown.
+    void addUnreadable(const std::string& path, const std::string& text)
     {
-        m_list.problems.push_back({path, text});
+        m_list.problems.push_back({path, text, true});
     }
 
     [[nodiscard]] VideoList taken() { return std::move(m_list); }
@@ -79,7 +81,7 @@ private:
             entry.increment(error);
         }
         if (error) {
-            addProblem(path, "cannot be read: " + error.message());
+            addUnreadable(path, "cannot be read: " + error.message());
         }
         std::sort(files.begin(), files.end());
         std::sort(folders.begin(), folders.end());
@@ -148,7 +150,7 @@ VideoList findVideos(const Options& options)
                 collector.add(name);
             }
         } else {
-            collector.addProblem(*options.listFile, content.error);
+            collector.addUnreadable(*options.listFile, content.error);
         }
     }
     return collector.taken();

@@ -14,6 +14,7 @@ struct VideoList
     {
         std::string path;
         std::string text; ///< a text for people
+        bool hidesVideos; ///< the list may lack videos because of it
     };
 
     std::vector<std::string> videos; ///< in the order named; those of a folder by name; without

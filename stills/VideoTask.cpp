@@ -11,9 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Names that are equal up to here may become equal when truncated.
-constexpr std::size_t comparedBytes = 100;
-
 std::string stemOf(const std::string& path)
 {
     const std::string name = fs::path(path).filename().string();
@@ -27,6 +24,43 @@ std::string folderOf(const std::string& path)
     return folder.empty() ? "." : folder;
 }
 
+std::string tailOf(int number)
+{
+    return "-" + std::to_string(number);
+}
+
+/// The folders of pictures, and how many videos have each.
+class Folders
+{
+public:
+    struct Folder
+    {
+        std::string spelling;
+        int videos = 0;
+    };
+
+    Folder& operator[](const std::string& spelling)
+    {
+        const auto [known, isNew] = m_bySpelling.emplace(spelling, nullptr);
+        if (isNew) {
+            known->second = &m_folders.emplace(canonical(spelling), Folder{spelling}).first->second;
+        }
+        return *known->second;
+    }
+
+private:
+    /// The same for all spellings of a folder, which need not exist.
+    static std::string canonical(const std::string& spelling)
+    {
+        std::error_code error;
+        const fs::path path = fs::weakly_canonical(fs::absolute(spelling, error), error);
+        return error ? spelling : path.string();
+    }
+
+    std::map<std::string, Folder> m_folders;
+    std::map<std::string, Folder*> m_bySpelling; // so that each is looked up on the disk once
+};
+
 } // namespace
 
 std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
@@ -36,10 +70,13 @@ std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
     std::vector<VideoTask> tasks;
     std::set<Name> stems;
     const auto key = [](const VideoTask& task) {
-        return Name{task.folder, cutBetweenCharacters(task.stem, comparedBytes)};
+        return Name{task.folder, cutBetweenCharacters(task.stem, distinctStem)};
     };
+    Folders folders;
     for (const std::string& video : videos) {
-        tasks.push_back({video, folder.value_or(folderOf(video)), stemOf(video), {}});
+        Folders::Folder& place = folders[folder.value_or(folderOf(video))];
+        const std::string folderTail = ++place.videos > 1 ? tailOf(place.videos) : std::string();
+        tasks.push_back({video, place.spelling, stemOf(video), {}, folderTail});
         stems.insert(key(tasks.back()));
     }
     std::set<Name> seen;
@@ -50,7 +87,7 @@ std::vector<VideoTask> planTasks(const std::vector<std::string>& videos,
         int& number = lastNumbers.emplace(stem, 1).first->second;
         // No other video may have this combined name as its own.
         while (seen.count(name) > 0 || (!task.tail.empty() && stems.count(name) > 0)) {
-            task.tail = "-" + std::to_string(++number);
+            task.tail = tailOf(++number);
             name = {task.folder, stem.second + task.tail};
         }
         seen.insert(name);

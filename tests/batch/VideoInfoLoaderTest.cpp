@@ -1,6 +1,7 @@
 #include "batch/VideoInfoLoader.h"
 
 #include "batch/BatchWorkerConfig.h"
+#include "tests/support/ResourceLimits.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
 #include "tests/video/MakeVideo.h"
@@ -11,8 +12,10 @@
 #include <QTimer>
 
 #include <memory>
+#include <pthread.h>
 #include <vector>
 
+using testsupport::MemoryLimit;
 using testsupport::samplePath;
 using testsupport::TestDir;
 
@@ -71,6 +74,46 @@ void turnEventLoop(int times)
     QTRY_VERIFY_WITH_TIMEOUT(turns >= times, 60000);
 }
 
+/// During its lifetime, the process cannot start threads: there is no memory for their stacks.
+class NoMoreThreads
+{
+public:
+    NoMoreThreads()
+    {
+#ifdef __GLIBC__
+        ::pthread_getattr_default_np(&m_before);
+        pthread_attr_t large;
+        ::pthread_getattr_default_np(&large);
+        ::pthread_attr_setstacksize(&large, size_t(1) << 30);
+        ::pthread_setattr_default_np(&large);
+        ::pthread_attr_destroy(&large);
+#endif
+    }
+    ~NoMoreThreads()
+    {
+#ifdef __GLIBC__
+        ::pthread_setattr_default_np(&m_before);
+        ::pthread_attr_destroy(&m_before);
+#endif
+    }
+    NoMoreThreads(const NoMoreThreads&) = delete;
+    NoMoreThreads& operator=(const NoMoreThreads&) = delete;
+
+    /// False if a case must be skipped.
+    static bool isPossible()
+    {
+#ifdef __GLIBC__
+        return MemoryLimit::isPossible();
+#else
+        return false;
+#endif
+    }
+
+private:
+    pthread_attr_t m_before{};
+    MemoryLimit m_limit{64 * 1024 * 1024};
+};
+
 } // namespace
 
 class VideoInfoLoaderTest : public QObject
@@ -88,6 +131,8 @@ private Q_SLOTS:
     void cancel_isSilent_whenNothingWaits();
     void jobs_areLoaded_afterACancelledRead();
     void destruction_doesNotWait_forTheRead();
+    void jobs_wait_untilThereIsAThread();
+    void jobs_canBeCancelled_whileTheyWaitForAThread();
     void slots_mayCancel();
     void slots_mayLoadMore();
 };
@@ -269,6 +314,49 @@ void VideoInfoLoaderTest::destruction_doesNotWait_forTheRead()
     }
     turnEventLoop(20);
     QCOMPARE(reports, 0);
+}
+
+void VideoInfoLoaderTest::jobs_wait_untilThereIsAThread()
+{
+    if (!NoMoreThreads::isPossible()) {
+        QSKIP("Threads cannot be limited here.");
+    }
+    Jobs jobs;
+    const QList<BatchWorkerConfig*> all = jobs.add({goodVideo(), goodVideo()});
+    VideoInfoLoader loader;
+    const Reports reports(loader);
+    {
+        const NoMoreThreads limit;
+        loader.load(all.mid(0, 1));
+        turnEventLoop(5);
+        loader.load(all.mid(1));
+        turnEventLoop(5);
+    }
+    QCOMPARE(reports.loaded().size(), 0);
+    QVERIFY(loader.isLoading());
+    QTRY_COMPARE_WITH_TIMEOUT(reports.finished(), 1, 60000);
+    QCOMPARE(reports.loaded(), all);
+    QVERIFY(all.first()->videoInfo().loaded);
+}
+
+void VideoInfoLoaderTest::jobs_canBeCancelled_whileTheyWaitForAThread()
+{
+    if (!NoMoreThreads::isPossible()) {
+        QSKIP("Threads cannot be limited here.");
+    }
+    Jobs jobs;
+    const QList<BatchWorkerConfig*> all = jobs.add({goodVideo(), goodVideo()});
+    VideoInfoLoader loader;
+    const Reports reports(loader);
+    {
+        const NoMoreThreads limit;
+        loader.load(all);
+        QCOMPARE(loader.cancel(), all);
+    }
+    QCOMPARE(reports.finished(), 1);
+    loader.load(all);
+    QTRY_COMPARE_WITH_TIMEOUT(reports.finished(), 2, 60000);
+    QCOMPARE(reports.loaded(), all);
 }
 
 void VideoInfoLoaderTest::slots_mayCancel()

@@ -1,5 +1,6 @@
 #include "imaging/ImageFileWriter.h"
 
+#include "imaging/HdrColours.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/ResourceLimits.h"
 #include "tests/support/TestDir.h"
@@ -34,14 +35,24 @@ QImage gradient()
 }
 
 /// A picture that no format compresses much.
-QImage noise(QSize size)
+QImage noise(QSize size, QImage::Format format = QImage::Format_RGB888)
 {
     QRandomGenerator generator(7);
-    QImage image(size, QImage::Format_RGB888);
+    QImage image(size, format);
     for (int y = 0; y < size.height(); ++y) {
         uchar* const line = image.scanLine(y);
-        std::generate(line, line + 3 * size.width(), [&] { return uchar(generator.generate()); });
+        std::generate(line, line + image.depth() / 8 * size.width(),
+                      [&] { return uchar(generator.generate()); });
     }
+    return image;
+}
+
+/// Of high dynamic range, as it is stored.
+QImage hdrNoise(QSize size)
+{
+    QImage image = noise(size, QImage::Format_RGBX64);
+    image.setColorSpace(HdrColours::colorSpaceOf(
+        {QtAV::StoredColours::Transfer::Pq, QtAV::StoredColours::Primaries::Bt2020}));
     return image;
 }
 
@@ -232,9 +243,12 @@ private slots:
     void write_writesAllOrNothing_howeverLittleMemoryThereIs_data()
     {
         QTest::addColumn<QString>("name");
+        QTest::addColumn<QImage>("image");
+        const QImage image = noise(QSize(2000, 1500));
         for (const char* const name : {"a.jpg", "a.png", "a.bmp", "a.tiff"}) {
-            QTest::newRow(name) << QString::fromLatin1(name);
+            QTest::newRow(name) << QString::fromLatin1(name) << image;
         }
+        QTest::newRow("HDR") << QStringLiteral("a.png") << hdrNoise(QSize(1500, 1000));
     }
     void write_writesAllOrNothing_howeverLittleMemoryThereIs()
     {
@@ -242,13 +256,13 @@ private slots:
             QSKIP("Memory cannot be limited here.");
         }
         QFETCH(QString, name);
+        QFETCH(const QImage, image);
         const QString path = m_folder->filePath(name);
-        const auto write = [&path](const QImage& image) {
+        const auto write = [&path, &image] {
             return ImageFileWriter::write(path, image, 100, ExistingFile::Replace);
         };
-        const QImage image = noise(QSize(2000, 1500));
         // The plugin of the format allocates its memory only now.
-        QCOMPARE(write(image), WriteResult::Written);
+        QCOMPARE(write(), WriteResult::Written);
         const QByteArray whole = contentOf(path);
         int failures = 0;
         for (rlim_t mebibytes = 1; mebibytes < 128; mebibytes += mebibytes / 4 + 1) {
@@ -256,7 +270,7 @@ private slots:
             WriteResult result = WriteResult::Written;
             {
                 const MemoryLimit limit(mebibytes * 1024 * 1024);
-                result = write(image);
+                result = write();
             }
             failures += result == WriteResult::Failed ? 1 : 0;
             QCOMPARE(files().size(), result == WriteResult::Failed ? 0 : 1);

@@ -136,6 +136,8 @@ private Q_SLOTS:
         QCOMPARE(plainText(QString(5000, QLatin1Char('x'))).size(), 1000);
         const QString wide = QString::fromUtf8("\xf0\x9f\x8e\xa5").repeated(1500);
         QCOMPARE(plainText(wide), QString::fromUtf8("\xf0\x9f\x8e\xa5").repeated(1000));
+        QCOMPARE(plainName(QStringLiteral(" a  b\u3000\u202fc\n\td ")),
+                 QStringLiteral(" a  b\u3000\u202fc  d "));
         QCOMPARE(plainLines(QStringLiteral(" a\nb\rc ")), QStringLiteral(" a\nb c "));
     }
 };

@@ -30,7 +30,9 @@ void OutputNamingTest::counter_isLeftOut_orWrittenInFull()
     const OutputNaming naming;
     const QString video = QStringLiteral("film");
     QCOMPARE(naming.fileName(video, OutputNaming::noCounter), QStringLiteral("film-.jpeg"));
+    QCOMPARE(naming.counterText(OutputNaming::noCounter), QString());
     QCOMPARE(naming.fileName(video, 0), QStringLiteral("film-00000.jpeg"));
+    QCOMPARE(naming.counterText(0), QStringLiteral("00000"));
     QCOMPARE(naming.fileName(video, std::numeric_limits<int>::max()),
              QStringLiteral("film-2147483647.jpeg"));
 }

@@ -11,7 +11,10 @@
 #include <QImage>
 #include <QTest>
 
+#include <climits>
 #include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using stillsprogram::filesIn;
@@ -40,6 +43,35 @@ bool areWhole(const QString& folder)
     return true;
 }
 
+/// A folder that nobody can read, whatever their rights: its path is longer than the system allows.
+class TooDeepFolder
+{
+public:
+    explicit TooDeepFolder(const QString& top)
+    {
+        QString path = top;
+        while (path.size() + m_name.size() < PATH_MAX) {
+            path += QLatin1Char('/') + QString::fromLatin1(m_name);
+        }
+        const bool isMade = QDir().mkpath(path);
+        m_parent = ::open(qUtf8Printable(path), O_RDONLY | O_DIRECTORY);
+        if (!isMade || ::mkdirat(m_parent, m_name.constData(), S_IRWXU) != 0) {
+            qFatal("Cannot make a folder below %s", qUtf8Printable(top));
+        }
+    }
+    ~TooDeepFolder()
+    {
+        ::unlinkat(m_parent, m_name.constData(), AT_REMOVEDIR);
+        ::close(m_parent);
+    }
+    TooDeepFolder(const TooDeepFolder&) = delete;
+    TooDeepFolder& operator=(const TooDeepFolder&) = delete;
+
+private:
+    QByteArray m_name = QByteArray(200, 'x');
+    int m_parent = -1;
+};
+
 } // namespace
 
 class StillsFailuresTest : public QObject
@@ -52,6 +84,9 @@ private Q_SLOTS:
     void brokenVideos_areErrors_data();
     void brokenVideos_areErrors();
     void damagedVideos_endWithoutACrash();
+    void unreadableListsAndFolders_areErrors_inEveryShard_data();
+    void unreadableListsAndFolders_areErrors_inEveryShard();
+    void folder_isAnErrorOfOneShard_withoutTheOption();
     void failFast_stopsAtTheFirstError();
     void quiet_leavesErrorsAlone();
     void progress_isQuietInAPipe_unlessAskedFor();
@@ -131,6 +166,43 @@ void StillsFailuresTest::damagedVideos_endWithoutACrash()
     QCOMPARE(summary.value(QLatin1String("delivered")).toInt(), filesIn(dir.path()).size());
     QCOMPARE(summary.value(QLatin1String("failed")).toInt(),
              objects(result.standardOutput, QStringLiteral("error")).size());
+}
+
+void StillsFailuresTest::unreadableListsAndFolders_areErrors_inEveryShard_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("list") << words("-o out --files-from missing.txt");
+    QTest::newRow("folder") << words("-o out -r deep");
+}
+
+void StillsFailuresTest::unreadableListsAndFolders_areErrors_inEveryShard()
+{
+    QFETCH(const QStringList, options);
+    const TestDir dir;
+    const TooDeepFolder folder(dir.filePath(QStringLiteral("deep")));
+    for (const char* const shard : {"1/4", "2/4", "4/4"}) {
+        QProcess process;
+        process.setWorkingDirectory(dir.path());
+        process.start(stillsprogram::program(),
+                      options + QStringList{QStringLiteral("--shard"), QLatin1String(shard)});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 1);
+        const QByteArray errors = process.readAllStandardError();
+        QVERIFY2(errors.startsWith("stills: " + options.last().toUtf8()), errors.constData());
+        QVERIFY2(errors.contains("0 pictures in out (1 error)"), errors.constData());
+    }
+}
+
+void StillsFailuresTest::folder_isAnErrorOfOneShard_withoutTheOption()
+{
+    const TestDir dir;
+    for (const int shard : {1, 2}) {
+        const ProgramResult result =
+            stillsprogram::run({dir.path(), QStringLiteral("-o"), dir.path(),
+                                QStringLiteral("--shard"), QStringLiteral("%1/2").arg(shard)});
+        QCOMPARE(result.exitCode, shard == 1 ? 1 : 0);
+        QCOMPARE(result.standardError.contains("--recursive"), shard == 1);
+    }
 }
 
 void StillsFailuresTest::failFast_stopsAtTheFirstError()

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void skipExisting_makesNoSecondPicture_ofAFrame();
     void overwrite_replaces_butNotWhatThisRunWrote();
     void videosOfOneStem_getNumbers_inShardsToo();
+    void videosOfOneFolder_keepTheirPictures_howeverItIsSpelled();
     void folders_areSearched();
     void lists_areRead();
     void namesThatAreNoText_work();
@@ -286,6 +287,23 @@ void StillsFilesTest::videosOfOneStem_getNumbers_inShardsToo()
                 .succeeded());
     }
     QCOMPARE(filesIn(out.path()), words("film-00.00.01.000.jpg film-2-00.00.01.000.jpg"));
+}
+
+void StillsFilesTest::videosOfOneFolder_keepTheirPictures_howeverItIsSpelled()
+{
+    const TestDir dir;
+    copySample(dir.filePath(QStringLiteral("d/a.mp4")));
+    copySample(dir.filePath(QStringLiteral("d/a.mov")));
+    for (const char* const option : {"--overwrite", "--skip-existing"}) {
+        QProcess process;
+        process.setWorkingDirectory(dir.path());
+        process.start(stillsprogram::program(),
+                      words("--at 1 d/a.mp4 ./d/a.mov") + QStringList{QLatin1String(option)});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 0);
+        QCOMPARE(filesIn(dir.filePath(QStringLiteral("d"))),
+                 words("a-00.00.01.000.jpg a-2-00.00.01.000.jpg a.mov a.mp4"));
+    }
 }
 
 void StillsFilesTest::folders_areSearched()

@@ -63,6 +63,8 @@ class StillsLikeTest : public QObject
 private Q_SLOTS:
     void like_makesTheSameFileAgain_data();
     void like_makesTheSameFileAgain();
+    void like_findsTheVideo_whateverSpacesItsNameHas_data();
+    void like_findsTheVideo_whateverSpacesItsNameHas();
     void otherOptions_win();
     void like_takesOtherVideos_whereTheyAreNamed();
     void like_findsAVideoThatLiesElsewhere_byItsPath();
@@ -97,6 +99,37 @@ void StillsLikeTest::like_makesTheSameFileAgain()
         QCOMPARE(QImage(path), QImage(studio.still));
     } else {
         QVERIFY(contentOf(path) == contentOf(studio.still));
+    }
+}
+
+void StillsLikeTest::like_findsTheVideo_whateverSpacesItsNameHas_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("doubled") << QStringLiteral("Show  - 01.mkv");
+    QTest::newRow("at the ends") << QStringLiteral(" Show .mkv ");
+    QTest::newRow("ideographic") << QStringLiteral("映画　第1話.mp4");
+    QTest::newRow("narrow") << QStringLiteral("a\u202fb\u00a0c.mp4");
+}
+
+void StillsLikeTest::like_findsTheVideo_whateverSpacesItsNameHas()
+{
+    QFETCH(const QString, name);
+    for (const QString& folder : {QString(), QStringLiteral("a  b\u3000c/")}) {
+        const TestDir dir;
+        const QString video = dir.filePath(folder + name);
+        QVERIFY(QDir().mkpath(QFileInfo(video).path()));
+        QVERIFY(QFile::copy(samplePath(shortSample), video));
+        const QString out = dir.filePath(QStringLiteral("out"));
+        // Beside the still's folder it is found by its name, elsewhere by its path.
+        const char* const stored = folder.isEmpty() ? "without-place" : "all";
+        QVERIFY(stillsprogram::run({video, QStringLiteral("--at=1"), QStringLiteral("--metadata"),
+                                    QLatin1String(stored), QStringLiteral("-o"), out})
+                    .succeeded());
+        const QString still = QDir(out).filePath(filesIn(out).value(0));
+        const ProgramResult again = stillsprogram::run(
+            QStringList{QStringLiteral("--like"), still, QStringLiteral("-o"), out});
+        QVERIFY2(again.succeeded(), again.standardError.constData());
+        QCOMPARE(numbersIn(out), (QList<int>{25, 25}));
     }
 }
 

@@ -80,6 +80,7 @@ void VideoListTest::folder_isAnError_withoutTheOption()
     QVERIFY(list.videos.empty());
     QCOMPARE(list.problems.size(), std::size_t(1));
     QVERIFY(list.problems.front().text.find("--recursive") != std::string::npos);
+    QVERIFY(!list.problems.front().hidesVideos);
 }
 
 void VideoListTest::folder_givesItsVideos_byName()
@@ -161,7 +162,9 @@ void VideoListTest::list_isAnError_whenItCannotBeRead()
     for (const QString& name : {QStringLiteral("missing"), QStringLiteral(".")}) {
         Options options;
         options.listFile = dir.filePath(name).toStdString();
-        QCOMPARE(stills::findVideos(options).problems.size(), std::size_t(1));
+        const VideoList list = stills::findVideos(options);
+        QCOMPARE(list.problems.size(), std::size_t(1));
+        QVERIFY(list.problems.front().hidesVideos);
     }
 }
 

@@ -1,5 +1,9 @@
 #include "stills/VideoTask.h"
 
+#include "tests/support/TestDir.h"
+
+#include <QDir>
+#include <QFile>
 #include <QTest>
 
 #include <algorithm>
@@ -30,6 +34,8 @@ private Q_SLOTS:
     void pictures_goBesideTheVideo_orIntoTheFolder();
     void stems_areFull();
     void sameStems_inOneFolder_areNumbered();
+    void folder_isOne_howeverItIsSpelled();
+    void videosOfOneFolder_areNumbered_forNamesWithoutAStem();
     void numbers_avoidTheStemsOfOthers();
     void stemsThatAreLongAndAlike_areNumbered();
     void manyVideosOfOneStem_areAllDifferent();
@@ -54,6 +60,36 @@ void VideoTaskTest::sameStems_inOneFolder_areNumbered()
              (Names{"o/a", "o/a-2", "o/a-3"}));
     QCOMPARE(namesOf(planTasks({"x/a.mp4", "y/a.mp4", "x/a.mkv"}, {})),
              (Names{"x/a", "y/a", "x/a-2"}));
+}
+
+void VideoTaskTest::folder_isOne_howeverItIsSpelled()
+{
+    QCOMPARE(namesOf(planTasks({"x/a.mp4", "./x/a.mkv", "x/../x//a.mov", "a.mp4", "./a.mkv"}, {})),
+             (Names{"x/a", "x/a-2", "x/a-3", "./a", "./a-2"}));
+
+    const testsupport::TestDir dir;
+    QVERIFY(QDir().mkpath(dir.filePath(QStringLiteral("real"))));
+    QVERIFY(
+        QFile::link(dir.filePath(QStringLiteral("real")), dir.filePath(QStringLiteral("link"))));
+    const std::string top = dir.path().toStdString();
+    const std::string relative = QDir().relativeFilePath(dir.path()).toStdString();
+    QCOMPARE(namesOf(planTasks({top + "/link/a.mp4", top + "/real/a.mp4", relative + "/real/a.mov"},
+                               {})),
+             (Names{top + "/link/a", top + "/link/a-2", top + "/link/a-3"}));
+}
+
+void VideoTaskTest::videosOfOneFolder_areNumbered_forNamesWithoutAStem()
+{
+    const auto tails = [](const std::vector<VideoTask>& tasks) {
+        Names found;
+        for (const VideoTask& task : tasks) {
+            found.push_back(task.folderTail);
+        }
+        return found;
+    };
+    const Names videos{"x/a.mp4", "y/b.mp4", "./x/b.mp4", "x/a.mkv"};
+    QCOMPARE(tails(planTasks(videos, {})), (Names{"", "", "-2", "-3"}));
+    QCOMPARE(tails(planTasks(videos, std::string("o"))), (Names{"", "-2", "-3", "-4"}));
 }
 
 void VideoTaskTest::numbers_avoidTheStemsOfOthers()
