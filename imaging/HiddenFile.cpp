@@ -45,7 +45,8 @@ bool isLeftOver(const QByteArray& path)
     struct stat facts = {};
     const bool isOld = ::fstat(file, &facts) == 0 && S_ISREG(facts.st_mode) &&
                        std::time(nullptr) - facts.st_mtime > oldSeconds;
-    const bool isFree = isOld && ::flock(file, LOCK_EX | LOCK_NB) == 0;
+    // A shared lock conflicts with the creator's, too. NFS gives no other one for reading.
+    const bool isFree = isOld && ::flock(file, LOCK_SH | LOCK_NB) == 0;
     ::close(file);
     return isFree;
 }
