@@ -90,7 +90,7 @@ void SnapshotPane::connectControls()
             &SnapshotPane::chooseOutputFolder);
     // Not on every key, because each partial path would raise the counter.
     connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this, [this] {
-        noteOutputFolder();
+        noteTypedFolder();
         updateAutomaticFileNameDisplay();
     });
     // The field itself uses Space and the keys that take, copy and step.
@@ -144,6 +144,8 @@ void SnapshotPane::setupFileDialogs()
 
 void SnapshotPane::setVideo(const QString& path)
 {
+    // The field may still have the keyboard, and loses it only after its video.
+    noteTypedFolder();
     m_video = path;
     if (path.isEmpty()) {
         return;
@@ -206,7 +208,7 @@ void SnapshotPane::setControlsEnabled(bool on)
 {
     m_ui->snapshotControlsFrame->setEnabled(on);
     if (!on) {
-        m_ui->outputFolderLineEdit->clear();
+        fillOutputFolder({});
     }
     updateAutomaticFileNameDisplay();
 }

@@ -162,6 +162,8 @@ private:
     [[nodiscard]] QString typeToSave() const;
     void restoreOutputFolder();
     void showOutputFolder(const QFileInfo& video);
+    void fillOutputFolder(const QString& text);
+    void noteTypedFolder();
     void noteOutputFolder();
     [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
     struct Saving;
@@ -190,6 +192,7 @@ private:
     bool m_isKept = true;
     /// For automatic names, as chosen by the user; empty for the video's folder.
     QString m_outputFolder;
+    QString m_notedFolder; ///< the text of the field, as filled in or noted last
     QString m_lastSavedFile;
     int m_fileCounter = 1; ///< the number of the next automatic file name
 };

@@ -236,14 +236,28 @@ void SnapshotPane::restoreOutputFolder()
 void SnapshotPane::showOutputFolder(const QFileInfo& video)
 {
     const bool isChosen = !m_outputFolder.isEmpty() && QDir(m_outputFolder).exists();
-    m_ui->outputFolderLineEdit->setText(
-        QDir::toNativeSeparators(isChosen ? m_outputFolder : video.absolutePath()));
+    fillOutputFolder(QDir::toNativeSeparators(isChosen ? m_outputFolder : video.absolutePath()));
+}
+
+void SnapshotPane::fillOutputFolder(const QString& text)
+{
+    m_ui->outputFolderLineEdit->setText(text);
+    m_notedFolder = text;
+}
+
+/// Leaves a text alone that the user did not change: the choice may be another one.
+void SnapshotPane::noteTypedFolder()
+{
+    if (m_ui->outputFolderLineEdit->text() != m_notedFolder) {
+        noteOutputFolder();
+    }
 }
 
 /// An empty field, or the video's own folder, clears the choice.
 void SnapshotPane::noteOutputFolder()
 {
     const QString typed = m_ui->outputFolderLineEdit->text();
+    m_notedFolder = typed;
     const QString videoFolder = QFileInfo(m_video).absolutePath();
     const bool isChosen =
         QDir::isAbsolutePath(typed) && QDir(typed) != QDir(videoFolder) && !m_video.isEmpty();
