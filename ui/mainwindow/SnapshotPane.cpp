@@ -151,10 +151,10 @@ void SnapshotPane::setVideo(const QString& path)
         return;
     }
     const QFileInfo video(path);
-    m_saveDialog.follow(video);
-    showOutputFolder(video);
-    m_fileCounter = 1;
-    updateAutomaticFileNameDisplay();
+    m_saveDialog.followFolder(video);
+    showOutputFolder(video.absolutePath());
+    m_namesVideo.clear();
+    followVideoForNames();
 }
 
 void SnapshotPane::capture(const CapturedPicture& picture)
@@ -167,6 +167,7 @@ void SnapshotPane::showNew(const MadeSnapshot& made, const QString& place)
     m_captured = made.picture;
     m_place = place;
     m_id.clear();
+    followVideoForNames();
     showMade(made);
     m_isKept = m_image.isNull();
     m_ui->savedNotice->clear();
@@ -180,6 +181,7 @@ void SnapshotPane::showEarlier(const CapturedPicture& picture, const QString& pl
     m_place = place;
     m_id = id;
     m_isKept = isKept;
+    followVideoForNames();
     m_ui->savedNotice->clear();
     processFullFrameImage(nullptr);
     showWhatIsNext();
@@ -194,6 +196,7 @@ void SnapshotPane::clear()
     m_id.clear();
     m_ui->snapshotImageView->setImage(m_image);
     m_ui->savedNotice->clear();
+    followVideoForNames();
     showSummary();
     showWhatIsNext();
 }
