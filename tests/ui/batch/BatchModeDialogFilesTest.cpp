@@ -45,21 +45,30 @@ void chooseFiles(SmartFileDialog& dialog, const QString& folder, const QStringLi
     static_cast<QDialog&>(dialog).accept();
 }
 
-/// Drops files on the list, which passes them on to the dialog.
-bool drop(const ModeDialog& mode, const QList<QUrl>& urls)
+/// Drags files over the list, which passes them on to the dialog. Returns whether it takes them.
+bool drag(const ModeDialog& mode, QMimeData& data, const QList<QUrl>& urls,
+          Qt::DropActions possible)
 {
-    QMimeData data;
     data.setUrls(urls);
     QWidget* const viewport = mode.table().viewport();
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter({5, 5}, possible, &data, Qt::LeftButton, Qt::ShiftModifier);
     enter.ignore();
     QCoreApplication::sendEvent(viewport->window(), &enter);
-    if (viewport->acceptDrops() || !enter.isAccepted()) {
-        return false;
+    return !viewport->acceptDrops() && enter.isAccepted() && enter.dropAction() == Qt::CopyAction;
+}
+
+/// Drops files on the list. Returns what the other program is told: nothing if they are refused.
+Qt::DropAction drop(const ModeDialog& mode, const QList<QUrl>& urls,
+                    Qt::DropActions possible = Qt::CopyAction)
+{
+    QMimeData data;
+    if (!drag(mode, data, urls, possible)) {
+        return Qt::IgnoreAction;
     }
-    QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(viewport->window(), &event);
-    return true;
+    QDropEvent event({5, 5}, possible, &data, Qt::LeftButton, Qt::ShiftModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(mode.table().viewport()->window(), &event);
+    return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
 }
 
 } // namespace
@@ -76,6 +85,8 @@ private Q_SLOTS:
     void loadedVideo_isProbed();
     void cancelledLoading_addsNothing();
     void droppedFiles_areLoaded_andFoldersAreNot();
+    void droppedFiles_areNeverMoved();
+    void draggedFiles_areNotLookedAt_beforeTheyAreDropped();
     void removal_takesTheSelectedOnes_data();
     void removal_takesTheSelectedOnes();
     void jobs_surviveTheirRemoval();
@@ -149,14 +160,40 @@ void BatchModeDialogFilesTest::droppedFiles_areLoaded_andFoldersAreNot()
     ModeDialog mode;
     const QString path = mode.dir().filePath(QStringLiteral("dropped.mov"));
     makeFile(path);
-    QVERIFY(!drop(mode, {QUrl::fromLocalFile(mode.dir().path())}));
-    QVERIFY(!drop(mode, {QUrl(QStringLiteral("https://morvantile.example/video.mov"))}));
+    QCOMPARE(drop(mode, {QUrl::fromLocalFile(mode.dir().path())}), Qt::IgnoreAction);
+    QCOMPARE(drop(mode, {QUrl(QStringLiteral("https://morvantile.example/video.mov"))}),
+             Qt::IgnoreAction);
     QCOMPARE(mode.model().rowCount(), 0);
-    QVERIFY(drop(mode, {QUrl::fromLocalFile(path), QUrl::fromLocalFile(mode.dir().path())}));
+    QCOMPARE(drop(mode, {QUrl::fromLocalFile(path), QUrl::fromLocalFile(mode.dir().path())}),
+             Qt::CopyAction);
     mode.waitUntilLoaded();
     QCOMPARE(mode.model().rowCount(), 1);
     QCOMPARE(mode.job(0).source(), path);
     QCOMPARE(mode.selectedRows(), QList<int>{0});
+}
+
+/// The other program would delete them after that.
+void BatchModeDialogFilesTest::droppedFiles_areNeverMoved()
+{
+    ModeDialog mode;
+    const QString path = mode.dir().filePath(QStringLiteral("dropped.mov"));
+    makeFile(path);
+    QCOMPARE(drop(mode, {QUrl::fromLocalFile(path)}, Qt::CopyAction | Qt::MoveAction),
+             Qt::CopyAction);
+    mode.waitUntilLoaded();
+    QCOMPARE(mode.model().rowCount(), 1);
+}
+
+/// Their disk may be slow.
+void BatchModeDialogFilesTest::draggedFiles_areNotLookedAt_beforeTheyAreDropped()
+{
+    ModeDialog mode;
+    const QList<QUrl> missing{
+        QUrl::fromLocalFile(mode.dir().filePath(QStringLiteral("missing.mov")))};
+    QMimeData data;
+    QVERIFY(drag(mode, data, missing, Qt::CopyAction));
+    QCOMPARE(drop(mode, missing), Qt::IgnoreAction);
+    QCOMPARE(mode.model().rowCount(), 0);
 }
 
 void BatchModeDialogFilesTest::removal_takesTheSelectedOnes_data()
