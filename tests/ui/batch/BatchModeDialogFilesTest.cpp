@@ -24,6 +24,7 @@ using testsupport::child;
 using testsupport::endBatch;
 using testsupport::ModalScript;
 using testsupport::ModeDialog;
+using testsupport::multiple;
 using testsupport::samplePath;
 
 namespace {
@@ -34,6 +35,15 @@ void makeFile(const QString& path)
     if (!file.open(QIODevice::WriteOnly)) {
         qFatal("cannot make a file");
     }
+}
+
+const char* const folderField = "fileOutputFolderTextEdit";
+
+void emptyFolder(const ModeDialog& mode)
+{
+    auto& field = mode.find<QLineEdit>(folderField);
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_Delete);
 }
 
 /// Chooses files of one folder and accepts, as their user would.
@@ -91,6 +101,11 @@ private Q_SLOTS:
     void removal_takesTheSelectedOnes();
     void jobs_surviveTheirRemoval();
     void chosenFolder_goesIntoTheSelectedJobs();
+    void emptiedFolder_becomesThatOfEachVideo_onceItIsLeft();
+    void folderOfSeveral_isLeftAlone_whenItIsOnlyPassed();
+    void relativeFolder_isTakenBack_data();
+    void relativeFolder_isTakenBack();
+    void relativeFolder_isTakenBack_whereJobsDiffer();
     void folderDialog_startsWhereItShould_data();
     void folderDialog_startsWhereItShould();
     void savedNameProfile_goesIntoTheSelectedJobs();
@@ -250,6 +265,79 @@ void BatchModeDialogFilesTest::chosenFolder_goesIntoTheSelectedJobs()
     QCOMPARE(mode.job(0).fileOutputPath(), folder);
     QCOMPARE(mode.job(1).fileOutputPath(), folder);
     QVERIFY(QSettings().contains(QStringLiteral("batchOutputFolder_dialogPath")));
+}
+
+void BatchModeDialogFilesTest::emptiedFolder_becomesThatOfEachVideo_onceItIsLeft()
+{
+    ModeDialog mode;
+    const QString other = mode.dir().filePath(QStringLiteral("other"));
+    QVERIFY(QDir().mkpath(other));
+    const QStringList videos{mode.dir().filePath(QStringLiteral("a.mov")),
+                             other + QStringLiteral("/b.mov")};
+    for (const QString& video : videos) {
+        makeFile(video);
+    }
+    mode.load(videos);
+    mode.enter(folderField, QStringLiteral("/tmp"));
+    QCOMPARE(mode.job(1).fileOutputPath(), QStringLiteral("/tmp"));
+    emptyFolder(mode);
+    // More may be typed.
+    QCOMPARE(mode.job(1).fileOutputPath(), QStringLiteral("/tmp"));
+    QTest::keyClick(&mode.find<QLineEdit>(folderField), Qt::Key_Return);
+    QCOMPARE(mode.job(0).fileOutputPath(), mode.dir().path());
+    QCOMPARE(mode.job(1).fileOutputPath(), other);
+    QCOMPARE(mode.text(folderField), QString());
+    QCOMPARE(mode.placeholder(folderField), multiple);
+    mode.select({1});
+    QCOMPARE(mode.text(folderField), other);
+}
+
+void BatchModeDialogFilesTest::folderOfSeveral_isLeftAlone_whenItIsOnlyPassed()
+{
+    ModeDialog mode;
+    mode.load(2);
+    mode.job(0).setFileOutputPath(QStringLiteral("/tmp"));
+    mode.select({0, 1});
+    QTest::keyClick(&mode.find<QLineEdit>(folderField), Qt::Key_Return);
+    QCOMPARE(mode.job(0).fileOutputPath(), QStringLiteral("/tmp"));
+    QCOMPARE(mode.placeholder(folderField), multiple);
+}
+
+void BatchModeDialogFilesTest::relativeFolder_isTakenBack_data()
+{
+    QTest::addColumn<QString>("typed");
+    for (const char* const typed : {"pictures", "./pictures", "../pictures", "~/pictures", " "}) {
+        QTest::newRow(typed) << QString::fromLatin1(typed);
+    }
+}
+
+void BatchModeDialogFilesTest::relativeFolder_isTakenBack()
+{
+    QFETCH(const QString, typed);
+    ModeDialog mode;
+    mode.load(1);
+    mode.enter(folderField, QStringLiteral("/tmp"));
+    mode.type(folderField, typed);
+    QCOMPARE(mode.job(0).fileOutputPath(), QStringLiteral("/tmp"));
+    mode.enter(folderField, typed);
+    QCOMPARE(mode.text(folderField), QStringLiteral("/tmp"));
+    emptyFolder(mode);
+    mode.enter(folderField, typed);
+    QCOMPARE(mode.text(folderField), QStringLiteral("/tmp"));
+    QCOMPARE(mode.job(0).fileOutputPath(), QStringLiteral("/tmp"));
+}
+
+void BatchModeDialogFilesTest::relativeFolder_isTakenBack_whereJobsDiffer()
+{
+    ModeDialog mode;
+    mode.load(2);
+    mode.job(0).setFileOutputPath(QStringLiteral("/tmp"));
+    mode.select({0, 1});
+    mode.enter(folderField, QStringLiteral("pictures"));
+    QCOMPARE(mode.text(folderField), QString());
+    QCOMPARE(mode.placeholder(folderField), multiple);
+    QCOMPARE(mode.job(0).fileOutputPath(), QStringLiteral("/tmp"));
+    QCOMPARE(mode.job(1).fileOutputPath(), mode.dir().path());
 }
 
 void BatchModeDialogFilesTest::folderDialog_startsWhereItShould_data()
