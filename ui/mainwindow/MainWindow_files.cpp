@@ -178,10 +178,10 @@ void MainWindow::closeEvent(QCloseEvent* event)
     endWhenSafe();
 }
 
-/// Waits for pending writes; the window stays responsive meanwhile.
+/// Waits for pending captures and writes; the window stays responsive meanwhile.
 void MainWindow::endWhenSafe()
 {
-    if (!m_filmstrip->shelf().isSettled()) {
+    if (!areCapturesDone() || !m_filmstrip->shelf().isSettled()) {
         m_isEnding = true;
         statusBar()->showMessage(tr("Waiting until snapshots are written\u2026"));
         return;

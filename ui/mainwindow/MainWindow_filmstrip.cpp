@@ -49,11 +49,7 @@ void MainWindow::setupFilmstrip()
             [this] { showMessage(tr("The picture of this snapshot cannot be read any more.")); });
     connect(&shelf, &SnapshotShelf::noticed, this,
             [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(&shelf, &SnapshotShelf::settled, this, [this] {
-        if (m_isEnding) {
-            endWhenSafe();
-        }
-    });
+    connect(&shelf, &SnapshotShelf::settled, this, &MainWindow::continueEnding);
     connect(m_snapshotSaver, &SnapshotSaver::progressed, this, [this](int done, int all) {
         statusBar()->showMessage(tr("Saved %1 of %2").arg(done).arg(all));
     });

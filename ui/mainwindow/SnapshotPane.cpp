@@ -162,6 +162,11 @@ void SnapshotPane::capture(const CapturedPicture& picture)
     m_maker->capture(picture, recipes::of(*m_imageProfile));
 }
 
+bool SnapshotPane::isCapturing() const
+{
+    return m_maker->isCapturing();
+}
+
 void SnapshotPane::showNew(const MadeSnapshot& made, const QString& place)
 {
     m_captured = made.picture;

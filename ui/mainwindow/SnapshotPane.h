@@ -64,6 +64,8 @@ public:
 
     /// Makes a snapshot of a frame with the selected profile; made() answers every call.
     void capture(const CapturedPicture& picture);
+    /// Whether made() is still to come.
+    [[nodiscard]] bool isCapturing() const;
     /// Shows the answer to capture() as a new snapshot without an id, unsaved.
     /// @param place  the video and time of its frame, for messages
     void showNew(const MadeSnapshot& made, const QString& place);
