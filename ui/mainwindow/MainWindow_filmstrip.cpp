@@ -185,7 +185,7 @@ void MainWindow::saveSnapshots(const QStringList& ids)
 {
     const QString folder = ids.isEmpty() ? QString() : snapshotPane()->folderForSnapshots();
     if (folder.isEmpty()) {
-        m_isEnding = false;
+        stopEnding();
         return;
     }
     const ProfileManager& profiles = *ImageProfile::profileManager();
@@ -205,8 +205,9 @@ void MainWindow::saveSnapshots(const QStringList& ids)
 
 void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& lastFile)
 {
-    // Closing must not continue if saving failed.
-    m_isEnding = m_isEnding && failed == 0;
+    if (failed > 0) {
+        stopEnding();
+    }
     const QString count =
         saved == 1 ? tr("Saved 1 snapshot") : tr("Saved %n snapshots", nullptr, saved);
     const QString text =

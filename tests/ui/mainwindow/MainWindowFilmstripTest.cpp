@@ -46,6 +46,7 @@ private Q_SLOTS:
     void closing_asksOnce_whatTheDiskDoesNotTake();
     void snapshotTimes_areThoseOfTheOpenVideo();
     void snapshots_areWritten_whenTheSessionEnds();
+    void system_endsTheProgram_althoughSnapshotsCannotBeSaved();
 
 private:
     TestDir m_config;
@@ -378,6 +379,27 @@ void MainWindowFilmstripTest::snapshots_areWritten_whenTheSessionEnds()
     static_cast<void>(window.takeAt(1000));
     QVERIFY(window->prepareForSessionEnd(true));
     QCOMPARE(window.shelf().unsafeCount(), 0);
+}
+
+/// They are on the disk, and are restored by the next start.
+void MainWindowFilmstripTest::system_endsTheProgram_althoughSnapshotsCannotBeSaved()
+{
+    const TestDir kept;
+    Window window(kept);
+    QVERIFY(window.openPaused(samplePath(clip)));
+    static_cast<void>(window.takeAt(1000));
+    static_cast<void>(window.takeAt(2000));
+    QVERIFY(window.settle());
+    window.saveInto(QStringLiteral("/proc/self"));
+    QTimer watchdog;
+    connect(&watchdog, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
+    watchdog.start(patienceMs);
+    QTimer::singleShot(0, &window.window(), [&] {
+        window.find<QPushButton>("saveAllButton").click();
+        window->quitWhenKept();
+    });
+    QCOMPARE(QApplication::exec(), 0);
+    QCOMPARE(window.shelf().unsaved().size(), 2);
 }
 
 QTEST_MAIN(MainWindowFilmstripTest)
