@@ -18,6 +18,7 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -188,6 +189,8 @@ void MainWindow::endWhenSafe()
     }
     m_isEnding = false;
     if (m_endsUnasked || mayAllGo()) {
+        // Quitting, Qt 6 closes the window once more, which must not ask again.
+        const QScopedValueRollback<bool> unasked(m_endsUnasked, true);
         quit();
     }
 }
