@@ -66,7 +66,7 @@ QString BatchWorkerConfig::fileOutputPath() const
 
 void BatchWorkerConfig::setFileOutputPath(const QString& path)
 {
-    m_outputDir = QDir(path);
+    m_outputDir = path.isEmpty() ? QFileInfo(m_source).absoluteDir() : QDir(path);
 }
 
 void BatchWorkerConfig::setImageProfile(ImageProfile* profile)

@@ -64,7 +64,8 @@ public:
     /// The folder for the images. Meaningful only after it or the source was set.
     QDir outputDir() const { return m_outputDir; }
     void setOutputDir(const QDir& dir) { m_outputDir = dir; }
-    /// The output folder as an absolute path with native separators.
+    /// The output folder as an absolute path with native separators. Setting an empty path restores
+    /// the source's folder.
     QString fileOutputPath() const;
     void setFileOutputPath(const QString& path);
 

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QSettings>
 #include <QSize>
+#include <QVariantMap>
 
 #include <algorithm>
 
@@ -41,13 +42,16 @@ void addProfile(ProfileManager& manager, const QString& name, const QSize& size)
     manager.addProfile(profile);
 }
 
-/// Whether two profiles are equal except for the size and its options.
-bool areAlikeButForSize(const ImageProfile& a, const ImageProfile& b)
+/// The values of a profile without those that change nothing while it keeps the video's size.
+QVariantMap valuesBesideSize(const ImageProfile& profile)
 {
-    return a.imageContrast() == b.imageContrast() && a.imageBrightness() == b.imageBrightness() &&
-           a.imageQuality() == b.imageQuality() &&
-           a.watermarkProfileId() == b.watermarkProfileId() && a.metadata() == b.metadata() &&
-           a.deepColours() == b.deepColours() && a.deinterlacing() == b.deinterlacing();
+    QVariantMap values = profile.values();
+    for (const char* const key :
+         {"name", "id", "objectName", "sameSizeAsVideo", "imageWidth", "imageHeight",
+          "maintainAspectRatio", "resizeFilter", "resizeInLinearLight"}) {
+        values.remove(QLatin1String(key));
+    }
+    return values;
 }
 
 } // namespace
@@ -81,7 +85,7 @@ ImageProfile* ReadyProfiles::inOriginalSize(ImageProfile& profile, ProfileManage
     for (BaseProfile* const listed : profiles) {
         auto* const candidate = qobject_cast<ImageProfile*>(listed);
         if (candidate != nullptr && candidate->sameSizeAsVideo() &&
-            areAlikeButForSize(*candidate, profile)) {
+            valuesBesideSize(*candidate) == valuesBesideSize(profile)) {
             return candidate;
         }
     }

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void setSource_namesFileAndFolder();
     void setSource_replacesTheOutputFolder();
     void outputFolder_canBeSet_eitherWay();
+    void emptyOutputFolder_isThatOfTheSource();
     void setProfileId_takesTheProfile_ignoringCase();
     void setProfileId_changesNothing_forAnUnknownId();
     void setProfile_changesNothing_forNull();
@@ -154,6 +155,15 @@ void BatchWorkerConfigTest::outputFolder_canBeSet_eitherWay()
     QCOMPARE(config.fileOutputPath(), QStringLiteral("/e"));
     config.outputDir().cdUp();
     QCOMPARE(config.fileOutputPath(), QStringLiteral("/e"));
+}
+
+void BatchWorkerConfigTest::emptyOutputFolder_isThatOfTheSource()
+{
+    BatchWorkerConfig config;
+    config.setSource(QStringLiteral("/a/b/clip.mov"));
+    config.setFileOutputPath(QStringLiteral("/c/d"));
+    config.setFileOutputPath({});
+    QCOMPARE(config.fileOutputPath(), QStringLiteral("/a/b"));
 }
 
 void BatchWorkerConfigTest::setProfileId_takesTheProfile_ignoringCase()

@@ -5,6 +5,7 @@
 #include "tests/profiles/ManagerCases.h"
 #include "tests/profiles/ProfileTestSupport.h"
 
+#include <QMetaProperty>
 #include <QSettings>
 #include <QTest>
 
@@ -18,6 +19,8 @@ private Q_SLOTS:
     void deletedProfile_doesNotComeBack_atTheNextStart();
     void originalSize_isTheProfileItself_whenItKeepsTheSize();
     void originalSize_isAListedProfile_onlyWhenAllElseIsTheSame();
+    void originalSize_keepsEverySetting_exceptThoseOfTheSize_data();
+    void originalSize_keepsEverySetting_exceptThoseOfTheSize();
 };
 
 namespace {
@@ -25,6 +28,16 @@ namespace {
 const ImageProfile& at(const ProfileManager& manager, int index)
 {
     return *static_cast<ImageProfile*>(manager.profiles().at(index));
+}
+
+/// A value of the same type that differs.
+QVariant otherThan(const QVariant& value)
+{
+    if (value.userType() == QMetaType::Bool) {
+        return !value.toBool();
+    }
+    return value.userType() == QMetaType::Int ? QVariant(value.toInt() + 1)
+                                              : QVariant(value.toString() + QLatin1Char('x'));
 }
 
 } // namespace
@@ -108,6 +121,45 @@ void ReadyProfilesTest::originalSize_isAListedProfile_onlyWhenAllElseIsTheSame()
     QCOMPARE(manager.profiles().size(), count + 1);
     QCOMPARE(manager.profileForId(made->id()), made);
     delete made;
+}
+
+void ReadyProfilesTest::originalSize_keepsEverySetting_exceptThoseOfTheSize_data()
+{
+    // Those that change nothing while the size is the video's.
+    const QStringList ofTheSize{QStringLiteral("imageWidth"), QStringLiteral("imageHeight"),
+                                QStringLiteral("maintainAspectRatio"),
+                                QStringLiteral("resizeFilter"),
+                                QStringLiteral("resizeInLinearLight")};
+    QTest::addColumn<bool>("isOfTheSize");
+    const QMetaObject& meta = ImageProfile::staticMetaObject;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+        const char* const name = meta.property(i).name();
+        if (qstrcmp(name, "sameSizeAsVideo") != 0) {
+            QTest::newRow(name) << ofTheSize.contains(QLatin1String(name));
+        }
+    }
+}
+
+void ReadyProfilesTest::originalSize_keepsEverySetting_exceptThoseOfTheSize()
+{
+    QFETCH(const bool, isOfTheSize);
+    const char* const name = QTest::currentDataTag();
+    const TestHome home;
+    ProfileKeeper keeper;
+    ProfileManager manager(QStringLiteral("a.ini"), keeper.factory<ImageProfile>(), true);
+    auto& profile = *static_cast<ImageProfile*>(manager.profiles().constFirst());
+    auto* const original = static_cast<ImageProfile*>(manager.createProfile());
+    original->setSameSizeAsVideo(true);
+    manager.addProfile(original);
+    const QVariant other = otherThan(profile.property(name));
+    QVERIFY(profile.setProperty(name, other));
+    ImageProfile* const found = ReadyProfiles::inOriginalSize(profile, manager);
+    QCOMPARE(found == original, isOfTheSize);
+    QVERIFY(found->sameSizeAsVideo());
+    if (!isOfTheSize) {
+        QCOMPARE(found->property(name), other);
+        delete found;
+    }
 }
 
 QTEST_GUILESS_MAIN(ReadyProfilesTest)

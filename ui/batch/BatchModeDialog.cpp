@@ -286,11 +286,12 @@ void BatchModeDialog::fieldUpdated(Field* field)
     }
 }
 
-/// Whether the typed value is valid: any text for a text, a sufficiently large number for a number.
+/// Whether the typed value is valid: an absolute path for the folder, a sufficiently large number
+/// for a number.
 bool BatchModeDialog::isSensible(const QLineEdit& edit) const
 {
     if (&edit == m_ui->fileOutputFolderTextEdit) {
-        return true;
+        return QDir::isAbsolutePath(edit.text());
     }
     if (&edit == m_ui->intervalImagesTextEdit) {
         bool isNumber = false;
@@ -335,11 +336,16 @@ void BatchModeDialog::on_intervalImagesTextEdit_textChanged(QString const& arg1)
     useInterval(*m_ui->intervalImagesRadioButton, *m_ui->intervalImagesTextEdit, arg1);
 }
 
-/// Leaves a text alone that was not typed here, such as the placeholder for several values.
+/// Whether the text was not typed here, such as the placeholder for several values.
+bool BatchModeDialog::isUntouched(const QLineEdit& edit) const
+{
+    const bool hasOnlyPlaceholder = edit.text().isEmpty() && !edit.placeholderText().isEmpty();
+    return m_isLoading || hasOnlyPlaceholder || !edit.isEnabled();
+}
+
 void BatchModeDialog::takeBackUnlessSensible(QLineEdit& edit)
 {
-    const bool isUntouched = edit.text().isEmpty() && !edit.placeholderText().isEmpty();
-    if (m_isLoading || isUntouched || !edit.isEnabled()) {
+    if (isUntouched(edit)) {
         return;
     }
     while (!isSensible(edit) && edit.isUndoAvailable()) {
@@ -368,6 +374,23 @@ void BatchModeDialog::on_skipFrontTextEdit_editingFinished()
 void BatchModeDialog::on_skipBackTextEdit_editingFinished()
 {
     takeBackUnlessSensible(*m_ui->skipBackTextEdit);
+}
+
+/// An emptied field restores the folder of each video: only now, because more could be typed until
+/// here.
+void BatchModeDialog::on_fileOutputFolderTextEdit_editingFinished()
+{
+    QLineEdit& edit = *m_ui->fileOutputFolderTextEdit;
+    if (!edit.text().isEmpty() || isUntouched(edit)) {
+        takeBackUnlessSensible(edit);
+        return;
+    }
+    const QList<BatchWorkerConfig*> configs = getSelectedConfigs();
+    for (BatchWorkerConfig* const config : configs) {
+        config->setFileOutputPath({});
+        m_model->configUpdated(config);
+    }
+    loadFormValues();
 }
 
 void BatchModeDialog::keyPressEvent(QKeyEvent* event)

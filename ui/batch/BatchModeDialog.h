@@ -99,6 +99,7 @@ private Q_SLOTS:
     void on_intervalImagesTextEdit_editingFinished();
     void on_skipFrontTextEdit_editingFinished();
     void on_skipBackTextEdit_editingFinished();
+    void on_fileOutputFolderTextEdit_editingFinished();
     void on_fileOutputFolderSelectButton_clicked();
     void on_imageProfileComboBox_currentIndexChanged(int index);
     void on_imageProfileEditButton_clicked();
@@ -132,6 +133,7 @@ private:
     void loadProfileComboBox(QComboBox* comboBox, ProfileManager* manager);
     void setupComboBox(QComboBox* comboBox);
     bool isSensible(const QLineEdit& edit) const;
+    [[nodiscard]] bool isUntouched(const QLineEdit& edit) const;
     void useInterval(QRadioButton& radioButton, QLineEdit& edit, const QString& text);
     void takeBackUnlessSensible(QLineEdit& edit);
     void showJobsAnew();

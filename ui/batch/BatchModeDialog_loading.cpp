@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 
 namespace {
 
@@ -27,16 +28,32 @@ constexpr std::chrono::milliseconds longestUnseenLoading{300};
 /// In average letters.
 constexpr int progressBarWidth = 12;
 
-QStringList localFiles(const QMimeData& data)
+/// The local paths among what is dragged: of files, folders and what is not there any more.
+QStringList localPaths(const QMimeData& data)
 {
-    QStringList files;
+    QStringList paths;
     const QList<QUrl> urls = data.urls();
     for (const QUrl& url : urls) {
-        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
-            files.append(url.toLocalFile());
+        if (url.isLocalFile()) {
+            paths.append(url.toLocalFile());
         }
     }
+    return paths;
+}
+
+QStringList filesAmong(const QStringList& paths)
+{
+    QStringList files;
+    std::copy_if(paths.cbegin(), paths.cend(), std::back_inserter(files),
+                 [](const QString& path) { return QFileInfo(path).isFile(); });
     return files;
+}
+
+/// Never a move, because the source program would then delete the files.
+void acceptAsCopy(QDropEvent& event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
 }
 
 } // namespace
@@ -200,15 +217,21 @@ void BatchModeDialog::selectNewJobs()
     selection.select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
+/// Does not look at the files, because their disk may be slow.
 void BatchModeDialog::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!localFiles(*event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
+    if (!localPaths(*event->mimeData()).isEmpty()) {
+        acceptAsCopy(*event);
     }
 }
 
 void BatchModeDialog::dropEvent(QDropEvent* event)
 {
-    loadVideos(localFiles(*event->mimeData()));
-    event->acceptProposedAction();
+    const QStringList files = filesAmong(localPaths(*event->mimeData()));
+    if (files.isEmpty()) {
+        event->ignore();
+        return;
+    }
+    acceptAsCopy(*event);
+    loadVideos(files);
 }

@@ -30,6 +30,9 @@ public:
         return true;
     }
 
+    /// Whether a relevant answer is still to come.
+    [[nodiscard]] bool arePending() const { return m_current > 0; }
+
 private:
     int m_current = 0;
     int m_stale = 0;

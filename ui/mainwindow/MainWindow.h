@@ -21,6 +21,7 @@ class FrameProposals;
 class FullScreen;
 class QAction;
 class QImage;
+class QTimer;
 class RecentMenu;
 class SnapshotSaver;
 struct MadeSnapshot;
@@ -177,6 +178,12 @@ private:
     void capture(bool isToBeSaved = false);
     [[nodiscard]] bool takeSaving();
     void takeCapture(const MadeSnapshot& made);
+    void showCapture(const MadeSnapshot& made, bool isToBeSaved);
+    void reportCaptureFailure(const QString& reason);
+    [[nodiscard]] bool areCapturesDone();
+    void giveUpCaptures();
+    void continueEnding();
+    void stopEnding();
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QSettings m_settings;
@@ -190,11 +197,13 @@ private:
     QAction* m_bestFramesAction = nullptr;
     SpokenEvents* m_spoken = nullptr;   ///< null in a window without a player
     FullScreen* m_fullScreen = nullptr; ///< null in a window without a player
+    QTimer* m_captureLimit = nullptr;
     CaptureTickets m_captures;
     std::deque<bool> m_savesCapture; ///< for each pending capture, whether to save it at once
     QString m_capturedPlace;         ///< the file and time of the last capture, for messages
     QString m_wantedSnapshot;        ///< to be shown once it has been read
     QVector<qint64> m_toldSnapshotTimes;
-    bool m_isEnding = false;    ///< end as soon as everything is written
-    bool m_endsUnasked = false; ///< end without asking
+    bool m_isTakingCapture = false; ///< a capture was answered and is being shown, or saved
+    bool m_isEnding = false;        ///< end as soon as everything is taken and written
+    bool m_endsUnasked = false;     ///< end without asking
 };

@@ -18,6 +18,7 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -178,16 +179,18 @@ void MainWindow::closeEvent(QCloseEvent* event)
     endWhenSafe();
 }
 
-/// Waits for pending writes; the window stays responsive meanwhile.
+/// Waits for pending captures and writes; the window stays responsive meanwhile.
 void MainWindow::endWhenSafe()
 {
-    if (!m_filmstrip->shelf().isSettled()) {
+    if (!areCapturesDone() || !m_filmstrip->shelf().isSettled()) {
         m_isEnding = true;
         statusBar()->showMessage(tr("Waiting until snapshots are written\u2026"));
         return;
     }
     m_isEnding = false;
     if (m_endsUnasked || mayAllGo()) {
+        // Quitting, Qt 6 closes the window once more, which must not ask again.
+        const QScopedValueRollback<bool> unasked(m_endsUnasked, true);
         quit();
     }
 }

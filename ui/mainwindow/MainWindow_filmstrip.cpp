@@ -49,11 +49,7 @@ void MainWindow::setupFilmstrip()
             [this] { showMessage(tr("The picture of this snapshot cannot be read any more.")); });
     connect(&shelf, &SnapshotShelf::noticed, this,
             [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(&shelf, &SnapshotShelf::settled, this, [this] {
-        if (m_isEnding) {
-            endWhenSafe();
-        }
-    });
+    connect(&shelf, &SnapshotShelf::settled, this, &MainWindow::continueEnding);
     connect(m_snapshotSaver, &SnapshotSaver::progressed, this, [this](int done, int all) {
         statusBar()->showMessage(tr("Saved %1 of %2").arg(done).arg(all));
     });
@@ -189,7 +185,7 @@ void MainWindow::saveSnapshots(const QStringList& ids)
 {
     const QString folder = ids.isEmpty() ? QString() : snapshotPane()->folderForSnapshots();
     if (folder.isEmpty()) {
-        m_isEnding = false;
+        stopEnding();
         return;
     }
     const ProfileManager& profiles = *ImageProfile::profileManager();
@@ -209,8 +205,9 @@ void MainWindow::saveSnapshots(const QStringList& ids)
 
 void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& lastFile)
 {
-    // Closing must not continue if saving failed.
-    m_isEnding = m_isEnding && failed == 0;
+    if (failed > 0) {
+        stopEnding();
+    }
     const QString count =
         saved == 1 ? tr("Saved 1 snapshot") : tr("Saved %n snapshots", nullptr, saved);
     const QString text =

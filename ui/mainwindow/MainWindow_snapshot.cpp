@@ -11,8 +11,15 @@
 #include <QtAV/Times.h>
 
 #include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include <chrono>
 
 namespace {
+
+/// Maximum time for which ending waits for captures: the video's disk may not answer at all.
+constexpr std::chrono::seconds longestCaptureWait{10};
 
 /// The source of a picture of the player's video; empty without one.
 PictureSource sourceOf(const CapturedPicture& picture, const QtAV::AVPlayer& player)
@@ -46,6 +53,11 @@ void warnOfCapture(const QString& place, const QString& reason)
 void MainWindow::connectSnapshotPane()
 {
     m_ui->actionShow_in_Folder->setEnabled(false);
+    m_captureLimit = new QTimer(this);
+    m_captureLimit->setObjectName(QStringLiteral("captureLimit"));
+    m_captureLimit->setSingleShot(true);
+    m_captureLimit->setInterval(longestCaptureWait);
+    connect(m_captureLimit, &QTimer::timeout, this, &MainWindow::giveUpCaptures);
     connect(snapshotPane(), &SnapshotPane::made, this, &MainWindow::takeCapture);
     connect(snapshotPane(), &SnapshotPane::imageProfileChanged, this,
             &MainWindow::followImageProfile);
@@ -116,27 +128,93 @@ void MainWindow::takeCapture(const MadeSnapshot& made)
     if (!m_captures.answer()) {
         return;
     }
-    const bool isToBeSaved = takeSaving();
+    {
+        const QScopedValueRollback<bool> taking(m_isTakingCapture, true);
+        showCapture(made, takeSaving());
+    }
+    continueEnding();
+}
+
+void MainWindow::showCapture(const MadeSnapshot& made, bool isToBeSaved)
+{
     snapshotPane()->showNew(made, m_capturedPlace);
     addToFilmstrip();
     // Even without a snapshot: the profile may be the cause, and can be edited then.
     setSnapshotControlsEnabled(true);
     if (!made.rendering.error.isEmpty()) {
-        warnOfCapture(m_capturedPlace, made.rendering.error);
+        reportCaptureFailure(made.rendering.error);
         return;
     }
     m_spoken->tell(tr("Snapshot taken: %1").arg(m_capturedPlace));
     if (isToBeSaved) {
         snapshotPane()->saveWithAutomaticFileName();
+        if (!snapshotPane()->isKept()) {
+            stopEnding();
+        }
     }
 }
 
 void MainWindow::onCaptureError()
 {
-    if (m_captures.answer()) {
-        (void)takeSaving();
-        warnOfCapture(m_capturedPlace, {});
+    if (!m_captures.answer()) {
+        return;
     }
+    {
+        const QScopedValueRollback<bool> taking(m_isTakingCapture, true);
+        (void)takeSaving();
+        reportCaptureFailure({});
+    }
+    continueEnding();
+}
+
+void MainWindow::reportCaptureFailure(const QString& reason)
+{
+    // Otherwise the box would hold up the end.
+    if (!m_endsUnasked) {
+        warnOfCapture(m_capturedPlace, reason);
+    }
+}
+
+/// Whether nothing that was asked for is still to come, or to be answered by the user. Limits the
+/// time until that is given up.
+bool MainWindow::areCapturesDone()
+{
+    if (m_captures.arePending()) {
+        if (!m_captureLimit->isActive()) {
+            m_captureLimit->start();
+        }
+        return false;
+    }
+    m_captureLimit->stop();
+    return m_endsUnasked || !m_isTakingCapture;
+}
+
+/// Pictures that are there are waited for, because making a snapshot of them takes a limited time.
+void MainWindow::giveUpCaptures()
+{
+    if (!m_isEnding) {
+        return;
+    }
+    if (snapshotPane()->isCapturing()) {
+        m_captureLimit->start();
+        return;
+    }
+    m_captures.forgetAll();
+    m_savesCapture.clear();
+    continueEnding();
+}
+
+void MainWindow::continueEnding()
+{
+    if (m_isEnding) {
+        endWhenSafe();
+    }
+}
+
+/// Closing must not continue if saving failed, unless it is the system that ends the program.
+void MainWindow::stopEnding()
+{
+    m_isEnding = m_isEnding && m_endsUnasked;
 }
 
 void MainWindow::setSnapshotControlsEnabled(bool on)

@@ -39,14 +39,13 @@ void SaveDialog::restoreFolder()
     }
 }
 
-void SaveDialog::follow(const QFileInfo& video)
+void SaveDialog::followName(const QFileInfo& video)
 {
     const QString suffix = QFileInfo(m_fileName).suffix();
     m_fileName = video.completeBaseName();
     if (!suffix.isEmpty()) {
         m_fileName += QLatin1Char('.') + suffix;
     }
-    followFolder(video);
 }
 
 void SaveDialog::followFolder(const QFileInfo& video)

@@ -25,8 +25,10 @@ public:
     /// Goes to the folder that the last window saved in, if there is such a folder.
     void restoreFolder();
 
-    /// Another video is open. Its name is proposed from now on, with the type that was saved last.
-    void follow(const QFileInfo& video);
+    /// Proposes the video's name from now on, with the type that was saved last.
+    void followName(const QFileInfo& video);
+    /// Proposes the video's folder from now on, unless the user saved elsewhere on purpose.
+    void followFolder(const QFileInfo& video);
 
     /// The path that the user chooses, with a suffix; empty when nothing is to be saved. Asks about
     /// a file of that name, too.
@@ -41,7 +43,6 @@ public:
     [[nodiscard]] QString type() const;
 
 private:
-    void followFolder(const QFileInfo& video);
     void storeFolder();
     [[nodiscard]] bool isReplacingWanted(const QString& path) const;
 

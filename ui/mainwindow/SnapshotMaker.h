@@ -33,6 +33,9 @@ public:
     /// Makes the first snapshot of a frame. Every call is answered by captured(), in order.
     void capture(const CapturedPicture& picture, const ImageRecipe& recipe);
 
+    /// Whether captured() is still to come.
+    [[nodiscard]] bool isCapturing() const { return m_capturesToCome > 0; }
+
     /// Makes another snapshot of a frame. Only the newest request is answered, by remade().
     void remake(const CapturedPicture& picture, const ImageRecipe& recipe);
     /// Completes the pending request before it returns. Waits for a large one.

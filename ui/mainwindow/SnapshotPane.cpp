@@ -90,7 +90,7 @@ void SnapshotPane::connectControls()
             &SnapshotPane::chooseOutputFolder);
     // Not on every key, because each partial path would raise the counter.
     connect(m_ui->outputFolderLineEdit, &QLineEdit::editingFinished, this, [this] {
-        noteOutputFolder();
+        noteTypedFolder();
         updateAutomaticFileNameDisplay();
     });
     // The field itself uses Space and the keys that take, copy and step.
@@ -144,15 +144,17 @@ void SnapshotPane::setupFileDialogs()
 
 void SnapshotPane::setVideo(const QString& path)
 {
+    // The field may still have the keyboard, and loses it only after its video.
+    noteTypedFolder();
     m_video = path;
     if (path.isEmpty()) {
         return;
     }
     const QFileInfo video(path);
-    m_saveDialog.follow(video);
-    showOutputFolder(video);
-    m_fileCounter = 1;
-    updateAutomaticFileNameDisplay();
+    m_saveDialog.followFolder(video);
+    showOutputFolder(video.absolutePath());
+    m_namesVideo.clear();
+    followVideoForNames();
 }
 
 void SnapshotPane::capture(const CapturedPicture& picture)
@@ -160,11 +162,17 @@ void SnapshotPane::capture(const CapturedPicture& picture)
     m_maker->capture(picture, recipes::of(*m_imageProfile));
 }
 
+bool SnapshotPane::isCapturing() const
+{
+    return m_maker->isCapturing();
+}
+
 void SnapshotPane::showNew(const MadeSnapshot& made, const QString& place)
 {
     m_captured = made.picture;
     m_place = place;
     m_id.clear();
+    followVideoForNames();
     showMade(made);
     m_isKept = m_image.isNull();
     m_ui->savedNotice->clear();
@@ -178,6 +186,7 @@ void SnapshotPane::showEarlier(const CapturedPicture& picture, const QString& pl
     m_place = place;
     m_id = id;
     m_isKept = isKept;
+    followVideoForNames();
     m_ui->savedNotice->clear();
     processFullFrameImage(nullptr);
     showWhatIsNext();
@@ -192,6 +201,7 @@ void SnapshotPane::clear()
     m_id.clear();
     m_ui->snapshotImageView->setImage(m_image);
     m_ui->savedNotice->clear();
+    followVideoForNames();
     showSummary();
     showWhatIsNext();
 }
@@ -206,7 +216,7 @@ void SnapshotPane::setControlsEnabled(bool on)
 {
     m_ui->snapshotControlsFrame->setEnabled(on);
     if (!on) {
-        m_ui->outputFolderLineEdit->clear();
+        fillOutputFolder({});
     }
     updateAutomaticFileNameDisplay();
 }

@@ -27,9 +27,10 @@ class SnapshotPane;
 /// The right pane of the window: the snapshot with a line that describes its file, the profiles,
 /// the automatic name, the button that saves, and the result.
 ///
-/// It makes the snapshot from a captured frame, saves and copies it. Its owner captures the frames,
-/// names the open video, and keeps the other snapshots: id() is the name of the shown one among
-/// them. Implemented in SnapshotPane.cpp and, for files and their names, SnapshotPane_saving.cpp.
+/// It makes the snapshot from a captured frame, saves and copies it. A file is named after the
+/// video of its snapshot, which need not be open any more. The owner captures the frames, names the
+/// open video, and keeps the other snapshots: id() is the name of the shown one among them.
+/// Implemented in SnapshotPane.cpp and, for files and their names, SnapshotPane_saving.cpp.
 ///
 /// Settings: those of SaveDialog; "outputFolder" of the automatic names, "automaticFileName".
 /// User-interface thread only.
@@ -57,11 +58,14 @@ public:
     /// Creates the save dialog; call it once, after the pane was put into its window.
     void setupFileDialogs();
 
-    /// Sets the open video, which names the files; an empty path for none. The snapshot stays.
+    /// Sets the open video, in whose folder files are saved unless the user chooses another; an
+    /// empty path for none. The snapshot stays.
     void setVideo(const QString& path);
 
     /// Makes a snapshot of a frame with the selected profile; made() answers every call.
     void capture(const CapturedPicture& picture);
+    /// Whether made() is still to come.
+    [[nodiscard]] bool isCapturing() const;
     /// Shows the answer to capture() as a new snapshot without an id, unsaved.
     /// @param place  the video and time of its frame, for messages
     void showNew(const MadeSnapshot& made, const QString& place);
@@ -160,8 +164,13 @@ private:
     void showSummary();
     void showWhatIsNext();
     [[nodiscard]] QString typeToSave() const;
+    [[nodiscard]] QString videoForNames() const;
+    void followVideoForNames();
+    [[nodiscard]] QString freeName(const QString& video, const QDir& dir, int& counter) const;
     void restoreOutputFolder();
-    void showOutputFolder(const QFileInfo& video);
+    void showOutputFolder(const QString& usual);
+    void fillOutputFolder(const QString& text);
+    void noteTypedFolder();
     void noteOutputFolder();
     [[nodiscard]] bool isOutputFolderUsable(const QDir& folder);
     struct Saving;
@@ -180,7 +189,8 @@ private:
     SnapshotMaker* const m_maker;
     ImageProfile* m_imageProfile = nullptr;
     FileNameProfile* m_fileNameProfile = nullptr;
-    QString m_video;
+    QString m_video;      ///< the open one
+    QString m_namesVideo; ///< the one that files are named after, as followed last
     /// The frame, the recipe and the result; the latter is null until the first capture.
     CapturedPicture m_captured;
     ImageRecipe m_recipe;
@@ -190,6 +200,7 @@ private:
     bool m_isKept = true;
     /// For automatic names, as chosen by the user; empty for the video's folder.
     QString m_outputFolder;
+    QString m_notedFolder; ///< the text of the field, as filled in or noted last
     QString m_lastSavedFile;
     int m_fileCounter = 1; ///< the number of the next automatic file name
 };

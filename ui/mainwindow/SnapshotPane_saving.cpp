@@ -19,6 +19,8 @@
 #include <QMessageBox>
 #include <QSettings>
 
+#include <algorithm>
+
 namespace {
 
 const QString outputFolderKey = QStringLiteral("outputFolder");
@@ -131,14 +133,20 @@ void SnapshotPane::saveWithAutomaticFileName()
         return;
     }
     const Saving saving = savingNow();
+    const QString video = videoForNames();
+    int counter = m_fileCounter;
     auto result = WriteResult::AlreadyExists;
     while (result == WriteResult::AlreadyExists) {
-        const QString path = folder.absoluteFilePath(automaticFileName(folder));
+        const QString path = folder.absoluteFilePath(freeName(video, folder, counter));
         result = save(saving, path, ExistingFile::Keep);
         // The number is used up, even if another program created the file.
         if (result != WriteResult::Failed) {
-            ++m_fileCounter;
+            ++counter;
         }
+    }
+    // Another snapshot may be shown by now.
+    if (video == m_namesVideo) {
+        m_fileCounter = std::max(m_fileCounter, counter);
     }
     updateAutomaticFileNameDisplay();
 }
@@ -167,20 +175,60 @@ bool SnapshotPane::isOutputFolderUsable(const QDir& folder)
     return true;
 }
 
-QString SnapshotPane::automaticFileName(const QDir& dir)
+/// An absolute path; empty where nothing can be saved.
+QString SnapshotPane::videoForNames() const
 {
-    const QString baseName = QFileInfo(m_video).baseName();
-    for (;; ++m_fileCounter) {
-        const QString name = m_fileNameProfile->generateFileName(baseName, m_fileCounter);
+    if (m_captured.source.isKnown()) {
+        return m_captured.source.video;
+    }
+    return m_video.isEmpty() ? QString() : QFileInfo(m_video).absoluteFilePath();
+}
+
+/// The numbers start over with each video. While none is open, its folder is used, too.
+void SnapshotPane::followVideoForNames()
+{
+    const QString path = videoForNames();
+    if (path == m_namesVideo) {
+        return;
+    }
+    noteTypedFolder();
+    m_namesVideo = path;
+    m_fileCounter = 1;
+    const QFileInfo video(path);
+    if (!path.isEmpty()) {
+        m_saveDialog.followName(video);
+    }
+    if (!path.isEmpty() && m_video.isEmpty()) {
+        const bool isThere = video.absoluteDir().exists();
+        if (isThere) {
+            m_saveDialog.followFolder(video);
+        }
+        showOutputFolder(isThere ? video.absolutePath() : QString());
+    }
+    updateAutomaticFileNameDisplay();
+}
+
+/// The first name from the counter on that the folder does not have; the counter is set to its
+/// number.
+QString SnapshotPane::freeName(const QString& video, const QDir& dir, int& counter) const
+{
+    const QString baseName = QFileInfo(video).baseName();
+    for (;; ++counter) {
+        const QString name = m_fileNameProfile->generateFileName(baseName, counter);
         if (!QFileInfo::exists(dir.absoluteFilePath(name))) {
             return name;
         }
     }
 }
 
+QString SnapshotPane::automaticFileName(const QDir& dir)
+{
+    return freeName(videoForNames(), dir, m_fileCounter);
+}
+
 void SnapshotPane::updateAutomaticFileNameDisplay()
 {
-    const bool isShown = !m_video.isEmpty() && m_ui->automaticFileNameGroupBox->isChecked();
+    const bool isShown = !m_namesVideo.isEmpty() && m_ui->automaticFileNameGroupBox->isChecked();
     m_ui->nextFileNameLabel->setVisible(isShown);
     m_ui->nextFileNameDescriptionLabel->setVisible(isShown);
     if (isShown) {
@@ -205,7 +253,7 @@ void SnapshotPane::chooseOutputFolder()
 
 void SnapshotPane::showSaveDialog()
 {
-    const QString path = m_saveDialog.ask(QFileInfo(m_video));
+    const QString path = m_saveDialog.ask(QFileInfo(m_namesVideo));
     if (!path.isEmpty() && saveSnapshot(path)) {
         m_saveDialog.noteSaved(path);
         showSummary();
@@ -232,21 +280,34 @@ void SnapshotPane::restoreOutputFolder()
     m_saveDialog.restoreFolder();
 }
 
-/// Uses the video's folder, unless the user chose one that still exists.
-void SnapshotPane::showOutputFolder(const QFileInfo& video)
+/// Uses the usual folder, unless the user chose one that still exists.
+void SnapshotPane::showOutputFolder(const QString& usual)
 {
     const bool isChosen = !m_outputFolder.isEmpty() && QDir(m_outputFolder).exists();
-    m_ui->outputFolderLineEdit->setText(
-        QDir::toNativeSeparators(isChosen ? m_outputFolder : video.absolutePath()));
+    fillOutputFolder(QDir::toNativeSeparators(isChosen ? m_outputFolder : usual));
+}
+
+void SnapshotPane::fillOutputFolder(const QString& text)
+{
+    m_ui->outputFolderLineEdit->setText(text);
+    m_notedFolder = text;
+}
+
+/// Leaves a text alone that the user did not change: the choice may be another one.
+void SnapshotPane::noteTypedFolder()
+{
+    if (m_ui->outputFolderLineEdit->text() != m_notedFolder) {
+        noteOutputFolder();
+    }
 }
 
 /// An empty field, or the video's own folder, clears the choice.
 void SnapshotPane::noteOutputFolder()
 {
     const QString typed = m_ui->outputFolderLineEdit->text();
-    const QString videoFolder = QFileInfo(m_video).absolutePath();
-    const bool isChosen =
-        QDir::isAbsolutePath(typed) && QDir(typed) != QDir(videoFolder) && !m_video.isEmpty();
+    m_notedFolder = typed;
+    const QFileInfo video(m_video.isEmpty() ? m_namesVideo : m_video);
+    const bool isChosen = QDir::isAbsolutePath(typed) && QDir(typed) != video.absoluteDir();
     m_outputFolder = isChosen ? QDir(typed).absolutePath() : QString();
     m_settings.setValue(outputFolderKey, m_outputFolder);
 }

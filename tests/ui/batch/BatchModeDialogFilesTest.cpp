@@ -24,6 +24,7 @@ using testsupport::child;
 using testsupport::endBatch;
 using testsupport::ModalScript;
 using testsupport::ModeDialog;
+using testsupport::multiple;
 using testsupport::samplePath;
 
 namespace {
@@ -36,6 +37,15 @@ void makeFile(const QString& path)
     }
 }
 
+const char* const folderField = "fileOutputFolderTextEdit";
+
+void emptyFolder(const ModeDialog& mode)
+{
+    auto& field = mode.find<QLineEdit>(folderField);
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_Delete);
+}
+
 /// Chooses files of one folder and accepts, as their user would.
 void chooseFiles(SmartFileDialog& dialog, const QString& folder, const QStringList& names)
 {
@@ -45,21 +55,30 @@ void chooseFiles(SmartFileDialog& dialog, const QString& folder, const QStringLi
     static_cast<QDialog&>(dialog).accept();
 }
 
-/// Drops files on the list, which passes them on to the dialog.
-bool drop(const ModeDialog& mode, const QList<QUrl>& urls)
+/// Drags files over the list, which passes them on to the dialog. Returns whether it takes them.
+bool drag(const ModeDialog& mode, QMimeData& data, const QList<QUrl>& urls,
+          Qt::DropActions possible)
 {
-    QMimeData data;
     data.setUrls(urls);
     QWidget* const viewport = mode.table().viewport();
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter({5, 5}, possible, &data, Qt::LeftButton, Qt::ShiftModifier);
     enter.ignore();
     QCoreApplication::sendEvent(viewport->window(), &enter);
-    if (viewport->acceptDrops() || !enter.isAccepted()) {
-        return false;
+    return !viewport->acceptDrops() && enter.isAccepted() && enter.dropAction() == Qt::CopyAction;
+}
+
+/// Drops files on the list. Returns what the other program is told: nothing if they are refused.
+Qt::DropAction drop(const ModeDialog& mode, const QList<QUrl>& urls,
+                    Qt::DropActions possible = Qt::CopyAction)
+{
+    QMimeData data;
+    if (!drag(mode, data, urls, possible)) {
+        return Qt::IgnoreAction;
     }
-    QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(viewport->window(), &event);
-    return true;
+    QDropEvent event({5, 5}, possible, &data, Qt::LeftButton, Qt::ShiftModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(mode.table().viewport()->window(), &event);
+    return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
 }
 
 } // namespace
@@ -76,10 +95,17 @@ private Q_SLOTS:
     void loadedVideo_isProbed();
     void cancelledLoading_addsNothing();
     void droppedFiles_areLoaded_andFoldersAreNot();
+    void droppedFiles_areNeverMoved();
+    void draggedFiles_areNotLookedAt_beforeTheyAreDropped();
     void removal_takesTheSelectedOnes_data();
     void removal_takesTheSelectedOnes();
     void jobs_surviveTheirRemoval();
     void chosenFolder_goesIntoTheSelectedJobs();
+    void emptiedFolder_becomesThatOfEachVideo_onceItIsLeft();
+    void folderOfSeveral_isLeftAlone_whenItIsOnlyPassed();
+    void relativeFolder_isTakenBack_data();
+    void relativeFolder_isTakenBack();
+    void relativeFolder_isTakenBack_whereJobsDiffer();
     void folderDialog_startsWhereItShould_data();
     void folderDialog_startsWhereItShould();
     void savedNameProfile_goesIntoTheSelectedJobs();
@@ -149,14 +175,40 @@ void BatchModeDialogFilesTest::droppedFiles_areLoaded_andFoldersAreNot()
     ModeDialog mode;
     const QString path = mode.dir().filePath(QStringLiteral("dropped.mov"));
     makeFile(path);
-    QVERIFY(!drop(mode, {QUrl::fromLocalFile(mode.dir().path())}));
-    QVERIFY(!drop(mode, {QUrl(QStringLiteral("https://morvantile.example/video.mov"))}));
+    QCOMPARE(drop(mode, {QUrl::fromLocalFile(mode.dir().path())}), Qt::IgnoreAction);
+    QCOMPARE(drop(mode, {QUrl(QStringLiteral("https://morvantile.example/video.mov"))}),
+             Qt::IgnoreAction);
     QCOMPARE(mode.model().rowCount(), 0);
-    QVERIFY(drop(mode, {QUrl::fromLocalFile(path), QUrl::fromLocalFile(mode.dir().path())}));
+    QCOMPARE(drop(mode, {QUrl::fromLocalFile(path), QUrl::fromLocalFile(mode.dir().path())}),
+             Qt::CopyAction);
     mode.waitUntilLoaded();
     QCOMPARE(mode.model().rowCount(), 1);
     QCOMPARE(mode.job(0).source(), path);
     QCOMPARE(mode.selectedRows(), QList<int>{0});
+}
+
+/// The other program would delete them after that.
+void BatchModeDialogFilesTest::droppedFiles_areNeverMoved()
+{
+    ModeDialog mode;
+    const QString path = mode.dir().filePath(QStringLiteral("dropped.mov"));
+    makeFile(path);
+    QCOMPARE(drop(mode, {QUrl::fromLocalFile(path)}, Qt::CopyAction | Qt::MoveAction),
+             Qt::CopyAction);
+    mode.waitUntilLoaded();
+    QCOMPARE(mode.model().rowCount(), 1);
+}
+
+/// Their disk may be slow.
+void BatchModeDialogFilesTest::draggedFiles_areNotLookedAt_beforeTheyAreDropped()
+{
+    ModeDialog mode;
+    const QList<QUrl> missing{
+        QUrl::fromLocalFile(mode.dir().filePath(QStringLiteral("missing.mov")))};
+    QMimeData data;
+    QVERIFY(drag(mode, data, missing, Qt::CopyAction));
+    QCOMPARE(drop(mode, missing), Qt::IgnoreAction);
+    QCOMPARE(mode.model().rowCount(), 0);
 }
 
 void BatchModeDialogFilesTest::removal_takesTheSelectedOnes_data()
@@ -213,6 +265,79 @@ void BatchModeDialogFilesTest::chosenFolder_goesIntoTheSelectedJobs()
     QCOMPARE(mode.job(0).fileOutputPath(), folder);
     QCOMPARE(mode.job(1).fileOutputPath(), folder);
     QVERIFY(QSettings().contains(QStringLiteral("batchOutputFolder_dialogPath")));
+}
+
+void BatchModeDialogFilesTest::emptiedFolder_becomesThatOfEachVideo_onceItIsLeft()
+{
+    ModeDialog mode;
+    const QString other = mode.dir().filePath(QStringLiteral("other"));
+    QVERIFY(QDir().mkpath(other));
+    const QStringList videos{mode.dir().filePath(QStringLiteral("a.mov")),
+                             other + QStringLiteral("/b.mov")};
+    for (const QString& video : videos) {
+        makeFile(video);
+    }
+    mode.load(videos);
+    mode.enter(folderField, QStringLiteral("/tmp"));
+    QCOMPARE(mode.job(1).fileOutputPath(), QStringLiteral("/tmp"));
+    emptyFolder(mode);
+    // More may be typed.
+    QCOMPARE(mode.job(1).fileOutputPath(), QStringLiteral("/tmp"));
+    QTest::keyClick(&mode.find<QLineEdit>(folderField), Qt::Key_Return);
+    QCOMPARE(mode.job(0).fileOutputPath(), mode.dir().path());
+    QCOMPARE(mode.job(1).fileOutputPath(), other);
+    QCOMPARE(mode.text(folderField), QString());
+    QCOMPARE(mode.placeholder(folderField), multiple);
+    mode.select({1});
+    QCOMPARE(mode.text(folderField), other);
+}
+
+void BatchModeDialogFilesTest::folderOfSeveral_isLeftAlone_whenItIsOnlyPassed()
+{
+    ModeDialog mode;
+    mode.load(2);
+    mode.job(0).setFileOutputPath(QStringLiteral("/tmp"));
+    mode.select({0, 1});
+    QTest::keyClick(&mode.find<QLineEdit>(folderField), Qt::Key_Return);
+    QCOMPARE(mode.job(0).fileOutputPath(), QStringLiteral("/tmp"));
+    QCOMPARE(mode.placeholder(folderField), multiple);
+}
+
+void BatchModeDialogFilesTest::relativeFolder_isTakenBack_data()
+{
+    QTest::addColumn<QString>("typed");
+    for (const char* const typed : {"pictures", "./pictures", "../pictures", "~/pictures", " "}) {
+        QTest::newRow(typed) << QString::fromLatin1(typed);
+    }
+}
+
+void BatchModeDialogFilesTest::relativeFolder_isTakenBack()
+{
+    QFETCH(const QString, typed);
+    ModeDialog mode;
+    mode.load(1);
+    mode.enter(folderField, QStringLiteral("/tmp"));
+    mode.type(folderField, typed);
+    QCOMPARE(mode.job(0).fileOutputPath(), QStringLiteral("/tmp"));
+    mode.enter(folderField, typed);
+    QCOMPARE(mode.text(folderField), QStringLiteral("/tmp"));
+    emptyFolder(mode);
+    mode.enter(folderField, typed);
+    QCOMPARE(mode.text(folderField), QStringLiteral("/tmp"));
+    QCOMPARE(mode.job(0).fileOutputPath(), QStringLiteral("/tmp"));
+}
+
+void BatchModeDialogFilesTest::relativeFolder_isTakenBack_whereJobsDiffer()
+{
+    ModeDialog mode;
+    mode.load(2);
+    mode.job(0).setFileOutputPath(QStringLiteral("/tmp"));
+    mode.select({0, 1});
+    mode.enter(folderField, QStringLiteral("pictures"));
+    QCOMPARE(mode.text(folderField), QString());
+    QCOMPARE(mode.placeholder(folderField), multiple);
+    QCOMPARE(mode.job(0).fileOutputPath(), QStringLiteral("/tmp"));
+    QCOMPARE(mode.job(1).fileOutputPath(), mode.dir().path());
 }
 
 void BatchModeDialogFilesTest::folderDialog_startsWhereItShould_data()

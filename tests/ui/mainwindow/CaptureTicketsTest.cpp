@@ -10,6 +10,7 @@ private Q_SLOTS:
     void answer_matters_whenItWasAskedFor();
     void answer_matters_whenNobodyAsked();
     void answer_doesNotMatter_whenItsQuestionWasForgotten();
+    void answers_arePending_untilTheyArrive_orAreForgotten();
 };
 
 void CaptureTicketsTest::answer_matters_whenItWasAskedFor()
@@ -40,6 +41,23 @@ void CaptureTicketsTest::answer_doesNotMatter_whenItsQuestionWasForgotten()
     tickets.ask();
     QVERIFY(!tickets.answer());
     QVERIFY(tickets.answer());
+}
+
+void CaptureTicketsTest::answers_arePending_untilTheyArrive_orAreForgotten()
+{
+    CaptureTickets tickets;
+    QVERIFY(!tickets.arePending());
+    tickets.ask();
+    tickets.ask();
+    QVERIFY(tickets.answer());
+    QVERIFY(tickets.arePending());
+    tickets.forgetAll();
+    QVERIFY(!tickets.arePending());
+    tickets.ask();
+    QVERIFY(!tickets.answer());
+    QVERIFY(tickets.arePending());
+    QVERIFY(tickets.answer());
+    QVERIFY(!tickets.arePending());
 }
 
 QTEST_APPLESS_MAIN(CaptureTicketsTest)

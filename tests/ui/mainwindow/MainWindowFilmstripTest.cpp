@@ -15,6 +15,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -34,6 +35,8 @@ private Q_SLOTS:
     void chosenSnapshot_isShown_atItsFrame();
     void chosenSnapshot_opensItsVideo_atItsFrame();
     void chosenSnapshot_isShown_whenItsVideoIsGone();
+    void chosenSnapshot_isNamedAfterItsVideo_whenThatIsGone_data();
+    void chosenSnapshot_isNamedAfterItsVideo_whenThatIsGone();
     void snapshot_outlivesItsWindow_withAllItsBits();
     void saveAll_savesEachWithItsProfile_underFreeNames();
     void deletedSnapshot_comesBack_andIsNotAskedAbout();
@@ -43,6 +46,7 @@ private Q_SLOTS:
     void closing_asksOnce_whatTheDiskDoesNotTake();
     void snapshotTimes_areThoseOfTheOpenVideo();
     void snapshots_areWritten_whenTheSessionEnds();
+    void system_endsTheProgram_althoughSnapshotsCannotBeSaved();
 
 private:
     TestDir m_config;
@@ -154,6 +158,49 @@ void MainWindowFilmstripTest::chosenSnapshot_isShown_whenItsVideoIsGone()
     QTRY_VERIFY_WITH_TIMEOUT(copy.isEnabled(), patienceMs);
     QCOMPARE(window.shownFrame(), std::optional<int>(25));
     QVERIFY(!window->isVideoLoaded());
+}
+
+void MainWindowFilmstripTest::chosenSnapshot_isNamedAfterItsVideo_whenThatIsGone_data()
+{
+    QTest::addColumn<bool>("isAnotherOpen");
+    QTest::newRow("another one is open") << true;
+    QTest::newRow("none is open") << false;
+}
+
+void MainWindowFilmstripTest::chosenSnapshot_isNamedAfterItsVideo_whenThatIsGone()
+{
+    QFETCH(const bool, isAnotherOpen);
+    const TestDir kept;
+    Window window(kept);
+    const auto& field = window.find<QLineEdit>("outputFolderLineEdit");
+    const auto& next = window.find<QLabel>("nextFileNameLabel");
+    window.find<QGroupBox>("automaticFileNameGroupBox").setChecked(true);
+    const QString video = window.copyOf(clip, QStringLiteral("first.mp4"));
+    const QString otherFolder = window.dir().filePath(QStringLiteral("other"));
+    QVERIFY(QDir().mkpath(otherFolder));
+    const QString other = window.copyOf(clip, QStringLiteral("other/second.mp4"));
+    QVERIFY(window.openPaused(video));
+    const QString id = window.takeAt(1000);
+    if (isAnotherOpen) {
+        QVERIFY(window.openPaused(other));
+    } else {
+        window->closeVideo();
+    }
+    QVERIFY(QFile::remove(video));
+    window.choose(id);
+    const QAction& copy = window.find<QAction>("actionCopy_Full_Frame");
+    QTRY_VERIFY_WITH_TIMEOUT(copy.isEnabled(), patienceMs);
+    QCOMPARE(field.text(), isAnotherOpen ? otherFolder : window.dir().path());
+    QVERIFY(next.isVisible());
+    QCOMPARE(next.text(), QStringLiteral("first-00001.jpeg"));
+    window->saveButtonPressed();
+    QCOMPARE(QDir(field.text()).entryList({QStringLiteral("*.jpeg")}),
+             QStringList(QStringLiteral("first-00001.jpeg")));
+    QCOMPARE(next.text(), QStringLiteral("first-00002.jpeg"));
+    if (isAnotherOpen) {
+        static_cast<void>(window.takeAt(2000));
+        QCOMPARE(next.text(), QStringLiteral("second-00001.jpeg"));
+    }
 }
 
 /// Including deep colours: the file equals one that is saved at once.
@@ -332,6 +379,27 @@ void MainWindowFilmstripTest::snapshots_areWritten_whenTheSessionEnds()
     static_cast<void>(window.takeAt(1000));
     QVERIFY(window->prepareForSessionEnd(true));
     QCOMPARE(window.shelf().unsafeCount(), 0);
+}
+
+/// They are on the disk, and are restored by the next start.
+void MainWindowFilmstripTest::system_endsTheProgram_althoughSnapshotsCannotBeSaved()
+{
+    const TestDir kept;
+    Window window(kept);
+    QVERIFY(window.openPaused(samplePath(clip)));
+    static_cast<void>(window.takeAt(1000));
+    static_cast<void>(window.takeAt(2000));
+    QVERIFY(window.settle());
+    window.saveInto(QStringLiteral("/proc/self"));
+    QTimer watchdog;
+    connect(&watchdog, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
+    watchdog.start(patienceMs);
+    QTimer::singleShot(0, &window.window(), [&] {
+        window.find<QPushButton>("saveAllButton").click();
+        window->quitWhenKept();
+    });
+    QCOMPARE(QApplication::exec(), 0);
+    QCOMPARE(window.shelf().unsaved().size(), 2);
 }
 
 QTEST_MAIN(MainWindowFilmstripTest)

@@ -11,6 +11,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QGroupBox>
+#include <QImage>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSlider>
 #include <QStatusBar>
@@ -34,6 +36,15 @@ private Q_SLOTS:
     void snapshot_isNotAskedAbout_onceSavedOrCopied_data();
     void snapshot_isNotAskedAbout_onceSavedOrCopied();
     void closing_asksAboutAnUnsavedSnapshot();
+    void ending_waitsForTheSnapshotThatIsBeingTaken_data();
+    void ending_waitsForTheSnapshotThatIsBeingTaken();
+    void ending_waitsForTheSnapshotThatIsBeingSaved_data();
+    void ending_waitsForTheSnapshotThatIsBeingSaved();
+    void closing_asksAboutTheSnapshotThatIsBeingTaken_whenItCannotBeKept();
+    void ending_goesOn_whenTheSnapshotFails_data();
+    void ending_goesOn_whenTheSnapshotFails();
+    void ending_goesOn_whenNoSnapshotComes();
+    void closing_stops_whenTheSnapshotCannotBeSaved();
     void batchMode_keepsVideoAndSnapshot();
     void fileThatIsNoVideo_disablesWhatNeedsOne();
     void fileThatIsNoVideo_isExplainedInWordsForPeople_data();
@@ -64,8 +75,39 @@ public:
     QString next;
 };
 
+/// Its snapshots are made in the background.
+const QString largeClip = QStringLiteral("h264_2160p.mp4");
+
+enum class Ending { ByTheUser, ByTheSystem };
+
+void addEndings()
+{
+    QTest::addColumn<Ending>("ending");
+    QTest::newRow("by the user") << Ending::ByTheUser;
+    QTest::newRow("by the system") << Ending::ByTheSystem;
+}
+
+/// Does this in the application's own loop and ends the window at once. Returns false if the
+/// application does not end.
+bool endsAfter(OpenWindow& window, Ending ending, const std::function<void()>& action)
+{
+    QTimer watchdog;
+    QObject::connect(&watchdog, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
+    watchdog.start(patienceMs);
+    QTimer::singleShot(0, &window.window(), [&] {
+        action();
+        if (ending == Ending::ByTheUser) {
+            window->close();
+        } else {
+            window->quitWhenKept();
+        }
+    });
+    return QApplication::exec() == 0;
+}
+
 } // namespace
 
+Q_DECLARE_METATYPE(Ending)
 Q_DECLARE_METATYPE(std::function<void(Snapshot&)>)
 
 void MainWindowLosingTest::unsavedSnapshot_staysWithItsVideo_whenTheQuestionIsCancelled()
@@ -148,6 +190,98 @@ void MainWindowLosingTest::closing_asksAboutAnUnsavedSnapshot()
     QCoreApplication::processEvents();
     QVERIFY(!hasEnded);
     QVERIFY(window.hasSnapshot());
+}
+
+void MainWindowLosingTest::ending_waitsForTheSnapshotThatIsBeingTaken_data()
+{
+    addEndings();
+}
+
+void MainWindowLosingTest::ending_waitsForTheSnapshotThatIsBeingTaken()
+{
+    QFETCH(const Ending, ending);
+    OpenWindow window;
+    window->keepSnapshots(window.dir().filePath(QStringLiteral("kept")));
+    QVERIFY(window.openPaused(samplePath(largeClip)));
+    QVERIFY(endsAfter(window, ending, [&] { window->snapshotButtonPressed(); }));
+    const SnapshotShelf& shelf = window->findChild<Filmstrip*>()->shelf();
+    QCOMPARE(shelf.rowCount(), 1);
+    QCOMPARE(shelf.unsafeCount(), 0);
+}
+
+void MainWindowLosingTest::ending_waitsForTheSnapshotThatIsBeingSaved_data()
+{
+    addEndings();
+}
+
+void MainWindowLosingTest::ending_waitsForTheSnapshotThatIsBeingSaved()
+{
+    QFETCH(const Ending, ending);
+    OpenWindow window;
+    QVERIFY(window.openPaused(window.copyOf(largeClip, QStringLiteral("large.mp4"))));
+    QVERIFY(endsAfter(window, ending, [&] { window->takeAndSave(); }));
+    QVERIFY(!QImage(window.dir().filePath(QStringLiteral("large-00001.jpeg"))).isNull());
+}
+
+void MainWindowLosingTest::closing_asksAboutTheSnapshotThatIsBeingTaken_whenItCannotBeKept()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(largeClip)));
+    SeenBox box;
+    answerNextBox(QMessageBox::Discard, box);
+    QVERIFY(endsAfter(window, Ending::ByTheUser, [&] { window->snapshotButtonPressed(); }));
+    QCOMPARE(box.text, QStringLiteral("The snapshot has not been saved."));
+}
+
+void MainWindowLosingTest::ending_goesOn_whenTheSnapshotFails_data()
+{
+    addEndings();
+}
+
+/// Without a video, there is no picture. The system gets no question.
+void MainWindowLosingTest::ending_goesOn_whenTheSnapshotFails()
+{
+    QFETCH(const Ending, ending);
+    OpenWindow window;
+    SeenBox box;
+    if (ending == Ending::ByTheUser) {
+        answerNextBox(QMessageBox::Ok, box);
+    }
+    QVERIFY(endsAfter(window, ending, [&] { window->snapshotButtonPressed(); }));
+    QCOMPARE(box.text.isEmpty(), ending == Ending::ByTheSystem);
+}
+
+/// As when the video's disk does not answer.
+void MainWindowLosingTest::ending_goesOn_whenNoSnapshotComes()
+{
+    OpenWindow window;
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window.find<QTimer>("captureLimit").setInterval(100);
+    window.player().videoCapture()->setTaker([] {});
+    QVERIFY(endsAfter(window, Ending::ByTheUser, [&] { window->snapshotButtonPressed(); }));
+}
+
+void MainWindowLosingTest::closing_stops_whenTheSnapshotCannotBeSaved()
+{
+    constexpr int staysOpen = 3;
+    OpenWindow window;
+    window->keepSnapshots(window.dir().filePath(QStringLiteral("kept")));
+    QVERIFY(window.openPaused(samplePath(largeClip)));
+    window.find<QLineEdit>("outputFolderLineEdit").setText(QStringLiteral("/proc/self"));
+    const SnapshotShelf& shelf = window->findChild<Filmstrip*>()->shelf();
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, &window.window(), [&] {
+        const QString shown = window->statusBar()->currentMessage();
+        if (shown.startsWith(QStringLiteral("Could not save ")) && shelf.isSettled()) {
+            QCoreApplication::exit(staysOpen);
+        }
+    });
+    poll.start(50);
+    QTimer::singleShot(0, &window.window(), [&] {
+        window->takeAndSave();
+        window->close();
+    });
+    QCOMPARE(QApplication::exec(), staysOpen);
 }
 
 void MainWindowLosingTest::batchMode_keepsVideoAndSnapshot()

@@ -1,10 +1,12 @@
 #include "tests/ui/mainwindow/OpenWindow.h"
 
 #include "tests/support/Samples.h"
+#include "ui/filmstrip/Filmstrip.h"
 
 #include <QtAV/AVPlayer.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QGroupBox>
@@ -33,6 +35,7 @@ private Q_SLOTS:
     void chosenOutputFolder_staysForOtherVideosAndWindows();
     void outputFolder_followsTheVideoAgain_onceItIsGivenUp_data();
     void outputFolder_followsTheVideoAgain_onceItIsGivenUp();
+    void folderBeingTyped_isChosen_whenAnotherVideoIsOpened();
     void openedFolder_isWhereTheNextDialogStarts();
     void savedFile_isShownInItsFolder();
 
@@ -135,6 +138,31 @@ void MainWindowMemoryTest::outputFolder_followsTheVideoAgain_onceItIsGivenUp()
     QCOMPARE(folderIn(window), other);
     QVERIFY(window.openPaused(window.dir().filePath(QStringLiteral("a.mp4"))));
     QCOMPARE(folderIn(window), window.dir().path());
+}
+
+/// The buttons do not take the keyboard from the field.
+void MainWindowMemoryTest::folderBeingTyped_isChosen_whenAnotherVideoIsOpened()
+{
+    OpenWindow window;
+    const QString stills = makeFolder(window, QStringLiteral("stills"));
+    const QString next = window.copyOf(clip, QStringLiteral("b.mp4"));
+    QVERIFY(window.openPaused(window.copyOf(clip, QStringLiteral("a.mp4"))));
+    window.find<QGroupBox>("automaticFileNameGroupBox").setChecked(true);
+    QVERIFY(window.takeSnapshot());
+    QApplication::setActiveWindow(&window.window());
+    auto& field = window.find<QLineEdit>("outputFolderLineEdit");
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, stills);
+    QTest::mouseClick(&window.find<QPushButton>("snapshotButton"), Qt::LeftButton);
+    QTRY_COMPARE(window->findChild<Filmstrip*>()->shelf().rowCount(), 2);
+    QVERIFY(field.hasFocus());
+    QTRY_VERIFY(window.find<QAction>("actionNextVideo").isEnabled());
+    press(Qt::Key_PageDown, Qt::ControlModifier);
+    QTRY_COMPARE(window->currentVideoFilePath(), next);
+    QVERIFY(!field.hasFocus());
+    QCOMPARE(folderIn(window), stills);
+    QCOMPARE(QSettings().value(QStringLiteral("outputFolder")).toString(), stills);
 }
 
 void MainWindowMemoryTest::openedFolder_isWhereTheNextDialogStarts()

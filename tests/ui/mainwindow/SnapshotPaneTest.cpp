@@ -10,12 +10,15 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 using namespace testsupport;
 
@@ -28,6 +31,13 @@ CapturedPicture pictureOf(const QColor& colour)
     CapturedPicture picture;
     picture.image = QImage(320, 240, QImage::Format_RGB888);
     picture.image.fill(colour);
+    return picture;
+}
+
+CapturedPicture earlierPicture(const QString& video)
+{
+    CapturedPicture picture = pictureOf(Qt::blue);
+    picture.source.video = video;
     return picture;
 }
 
@@ -64,6 +74,30 @@ public:
         return *found;
     }
 
+    /// The name that the save dialog proposes; the dialog is cancelled.
+    [[nodiscard]] QString proposedName()
+    {
+        QString name;
+        QTimer::singleShot(0, &pane, [&name] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) {
+                qFatal("no save dialog");
+            }
+            name = QFileInfo(dialog->selectedFiles().value(0)).fileName();
+            dialog->reject();
+        });
+        pane.showSaveDialog();
+        return name;
+    }
+
+    void typeFolder(const QString& folder)
+    {
+        auto& field = find<QLineEdit>("outputFolderLineEdit");
+        field.selectAll();
+        QTest::keyClicks(&field, folder);
+        QTest::keyClick(&field, Qt::Key_Return);
+    }
+
 private:
     TestSettings m_settings;
 
@@ -87,6 +121,8 @@ private Q_SLOTS:
     void automaticName_isTheNextFreeOne_inTheFolderOfTheVideo();
     void automaticNames_areKeptForTheNextPane();
     void earlierSnapshot_isMadeWithTheSelectedProfile();
+    void earlierSnapshot_isNamedAfterItsOwnVideo();
+    void folder_isThatOfTheEarlierSnapshot_onlyWithoutAVideoAndAChoice();
     void profileChosenByTheUser_changesTheSnapshot_andIsTold();
     void controls_needASnapshot();
     void folderField_givesTheKeyboardUp_atReturn();
@@ -194,6 +230,55 @@ void SnapshotPaneTest::earlierSnapshot_isMadeWithTheSelectedProfile()
     QVERIFY(!pane.pane.isKept());
     pane.pane.copySnapshot();
     QCOMPARE(QApplication::clipboard()->image().width(), 32);
+}
+
+void SnapshotPaneTest::earlierSnapshot_isNamedAfterItsOwnVideo()
+{
+    Pane pane;
+    const QDir folder(pane.path({}));
+    const QString name = pane.pane.automaticFileName(folder);
+    QVERIFY(name.startsWith(QStringLiteral("film-")));
+    pane.find<QGroupBox>("automaticFileNameGroupBox").setChecked(true);
+    pane.pane.capture(pictureOf(Qt::red));
+    pane.pane.save();
+    pane.pane.showEarlier(earlierPicture(pane.path(QStringLiteral("gone/old.mp4"))), place,
+                          QStringLiteral("two"), false);
+    // The numbers start over, too.
+    QCOMPARE(pane.pane.automaticFileName(folder),
+             QString(name).replace(0, 4, QStringLiteral("old")));
+    QCOMPARE(pane.proposedName(), QStringLiteral("old"));
+    pane.pane.clear();
+    QVERIFY(pane.pane.automaticFileName(folder).startsWith(QStringLiteral("film-")));
+    QCOMPARE(pane.proposedName(), QStringLiteral("film"));
+}
+
+void SnapshotPaneTest::folder_isThatOfTheEarlierSnapshot_onlyWithoutAVideoAndAChoice()
+{
+    Pane pane;
+    const auto& field = pane.find<QLineEdit>("outputFolderLineEdit");
+    const QString others = pane.path(QStringLiteral("others"));
+    const QString chosen = pane.path(QStringLiteral("chosen"));
+    QVERIFY(QDir().mkpath(others) && QDir().mkpath(chosen));
+    const auto show = [&pane](const QString& video) {
+        pane.pane.showEarlier(earlierPicture(video), place, QStringLiteral("two"), false);
+        pane.pane.setControlsEnabled(true);
+    };
+    show(others + QStringLiteral("/old.mp4"));
+    QCOMPARE(QDir(field.text()), QDir(pane.path({})));
+    pane.pane.setVideo({});
+    pane.pane.setControlsEnabled(false);
+    pane.pane.clear();
+    show(others + QStringLiteral("/old.mp4"));
+    QCOMPARE(field.text(), others);
+    show(pane.path(QStringLiteral("gone/older.mp4")));
+    QCOMPARE(field.text(), QString());
+    // A choice made without a video lasts.
+    pane.find<QGroupBox>("automaticFileNameGroupBox").setChecked(true);
+    pane.typeFolder(chosen);
+    show(others + QStringLiteral("/old.mp4"));
+    QCOMPARE(field.text(), chosen);
+    pane.pane.setVideo(pane.path(QStringLiteral("film.mp4")));
+    QCOMPARE(field.text(), chosen);
 }
 
 void SnapshotPaneTest::profileChosenByTheUser_changesTheSnapshot_andIsTold()
