@@ -206,7 +206,8 @@ bool MainWindow::prepareForSessionEnd(bool mayAsk)
     saveLayout();
     QElapsedTimer waited;
     waited.start();
-    while (!m_filmstrip->shelf().isSettled() && !waited.hasExpired(longestWaitMs)) {
+    const auto isReady = [this] { return areCapturesDone() && m_filmstrip->shelf().isSettled(); };
+    while (!isReady() && !waited.hasExpired(longestWaitMs)) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 50);
     }
     return !mayAsk || mayAllGo();
