@@ -45,6 +45,7 @@ VideoPackets::VideoPackets(Container& container, int stream)
 {
     describeStream();
     chooseOrder();
+    choosePairing();
     m_keyPictures.emplace(*m_parameters->codec);
 }
 
@@ -105,6 +106,16 @@ void VideoPackets::chooseOrder()
     }
 }
 
+/// Other containers hold both fields of a frame in one packet, and so do the packets that FFmpeg's
+/// parsers of other codecs make.
+void VideoPackets::choosePairing()
+{
+    const AVCodecParameters& codec = *m_parameters->codec;
+    if (codec.codec_id == AV_CODEC_ID_H264 && (m_isRaw || m_container.isTransmission())) {
+        m_pairs = std::make_unique<FieldPairs>(codec);
+    }
+}
+
 PacketAnswer VideoPackets::read(PacketPtr& packet)
 {
     while (m_ready.empty()) {
@@ -114,11 +125,7 @@ PacketAnswer VideoPackets::read(PacketPtr& packet)
         PacketPtr fresh;
         const PacketAnswer answer = m_container.read(fresh);
         if (answer == PacketAnswer::End) {
-            m_ended = true;
-            if (m_order) {
-                m_order->finish();
-                takeOrdered();
-            }
+            acceptEnd();
         } else if (answer != PacketAnswer::Packet) {
             return answer;
         } else if (fresh->stream_index == m_audioStream) {
@@ -134,10 +141,38 @@ PacketAnswer VideoPackets::read(PacketPtr& packet)
 
 void VideoPackets::accept(PacketPtr packet)
 {
-    if (!m_unpackBFrames) {
+    if (m_unpackBFrames) {
+        unpack(std::move(packet));
+    } else if (m_pairs) {
+        m_pairs->push(std::move(packet));
+        takePairs();
+    } else {
         order(std::move(packet));
-        return;
     }
+}
+
+void VideoPackets::acceptEnd()
+{
+    m_ended = true;
+    if (m_pairs) {
+        m_pairs->finish();
+        takePairs();
+    }
+    if (m_order) {
+        m_order->finish();
+        takeOrdered();
+    }
+}
+
+void VideoPackets::takePairs()
+{
+    while (PacketPtr packet = m_pairs->pop()) {
+        order(std::move(packet));
+    }
+}
+
+void VideoPackets::unpack(PacketPtr packet)
+{
     if (av_bsf_send_packet(m_unpackBFrames.get(), packet.get()) < 0) {
         return;
     }
@@ -277,6 +312,9 @@ void VideoPackets::forgetPosition()
     m_tailTicks = AV_NOPTS_VALUE;
     if (m_order) {
         m_order->reset();
+    }
+    if (m_pairs) {
+        m_pairs->reset();
     }
     if (m_unpackBFrames) {
         av_bsf_flush(m_unpackBFrames.get());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qtav/src/Container.h"
+#include "qtav/src/FieldPairs.h"
 #include "qtav/src/KeyPictures.h"
 #include "qtav/src/PresentationOrder.h"
 #include "qtav/src/RawStreamIndex.h"
@@ -16,8 +17,8 @@ namespace QtAV {
 /// flag, together with the unmodified packets of one audio stream.
 ///
 /// Packets of raw streams are numbered, those of AVI files and program streams get times in
-/// presentation order, packed B-frames are split, and gaps are bridged. KeyFrameSearch makes up for
-/// inexact seeks of containers.
+/// presentation order, packed B-frames are split, single fields are joined to frames, and gaps are
+/// bridged. KeyFrameSearch makes up for inexact seeks of containers.
 ///
 /// Not thread-safe, but tied to no thread. The container must outlive it.
 class VideoPackets
@@ -73,7 +74,11 @@ private:
     void describeStream();
     void unpackBFrames(CodecParametersPtr& codec);
     void chooseOrder();
+    void choosePairing();
     void accept(PacketPtr packet);
+    void unpack(PacketPtr packet);
+    void acceptEnd();
+    void takePairs();
     void order(PacketPtr packet);
     [[nodiscard]] bool joinsBehindTail(AVPacket& packet);
     void takeOrdered();
@@ -88,6 +93,7 @@ private:
     const bool m_isRaw;
     std::shared_ptr<const StreamParameters> m_parameters;
     BitstreamFilterPtr m_unpackBFrames;
+    std::unique_ptr<FieldPairs> m_pairs;        ///< null if no packet can hold a single field
     std::unique_ptr<PresentationOrder> m_order; ///< null if the container gives a time to all
                                                 ///< packets
     bool m_fillsGaps = false;

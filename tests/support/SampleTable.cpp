@@ -33,7 +33,7 @@ Rational tickOf(const QString& file)
     if (isOneOf({"mkv", "webm", "flv", "wmv"})) {
         return {1, 1000};
     }
-    if (isOneOf({"ts", "mpg", "vob"})) {
+    if (isOneOf({"ts", "m2ts", "mpg", "vob"})) {
         return {1, 90000};
     }
     return {0, 1};
@@ -206,6 +206,14 @@ QList<Sample> geometrySamples()
             .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
         Entry("fields_h264_bff.ts", 25, pal, {352, 288})
             .with(Trait::Interlaced | Trait::NoStatedDuration),
+        Entry("h264_fields_single.ts", 78).with(Trait::Interlaced | Trait::NoStatedDuration),
+        Entry("h264_fields_single.m2ts", 79)
+            .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("h264_fields_paired.ts", 78).with(Trait::Interlaced | Trait::NoStatedDuration),
+        Entry("h264_fields_paired.m2ts", 79)
+            .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("h264_fields.h264", 78)
+            .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::NoPresentationTimes),
         Entry("fields_dv_pal.avi", 12, pal, palSize)
             .with(Trait::Interlaced | Trait::NoPresentationTimes),
         Entry("odd_size_420.mkv", 20, pal, oddSize),
