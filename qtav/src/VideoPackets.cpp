@@ -7,10 +7,14 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace QtAV {
 
 namespace {
+
+/// Maximum size of the hidden packets that wait for one that is shown.
+constexpr qint64 mostHiddenBytes = qint64{64} * 1024 * 1024;
 
 /// Codecs whose presentation order follows from the picture types alone.
 bool isOrderedByType(AVCodecID codec)
@@ -162,6 +166,8 @@ void VideoPackets::acceptEnd()
         m_order->finish();
         takeOrdered();
     }
+    dropHiddenGroup();
+    deliverHidden();
 }
 
 void VideoPackets::takePairs()
@@ -188,7 +194,7 @@ void VideoPackets::order(PacketPtr packet)
     flagKey(*packet);
     if (!m_order) {
         setMissingTime(*packet);
-        m_ready.push_back(std::move(packet));
+        keepOrDeliver(std::move(packet));
         return;
     }
     if (m_isRaw || m_container.isAvi()) {
@@ -199,6 +205,34 @@ void VideoPackets::order(PacketPtr packet)
     const qint64 ticks = frameTicks(*packet);
     m_order->push(std::move(packet), ticks);
     takeOrdered();
+}
+
+void VideoPackets::keepOrDeliver(PacketPtr packet)
+{
+    if (packet->flags & AV_PKT_FLAG_DISCARD) {
+        m_hiddenBytes += packet->size;
+        m_hidden.push_back(std::move(packet));
+        if (m_hiddenBytes > mostHiddenBytes) {
+            deliverHidden();
+        }
+        return;
+    }
+    deliverHidden();
+    m_ready.push_back(std::move(packet));
+}
+
+/// At the end, no shown picture refers to a hidden key picture or what follows it.
+void VideoPackets::dropHiddenGroup()
+{
+    const auto isKey = [](const PacketPtr& packet) { return packet->flags & AV_PKT_FLAG_KEY; };
+    m_hidden.erase(std::find_if(m_hidden.begin(), m_hidden.end(), isKey), m_hidden.end());
+}
+
+void VideoPackets::deliverHidden()
+{
+    std::move(m_hidden.begin(), m_hidden.end(), std::back_inserter(m_ready));
+    m_hidden.clear();
+    m_hiddenBytes = 0;
 }
 
 /// Reading a transmission from the middle may begin with the useless end of a picture. FFmpeg puts
@@ -306,6 +340,8 @@ bool VideoPackets::seekInRawStream(qint64 ms)
 void VideoPackets::forgetPosition()
 {
     m_ready.clear();
+    m_hidden.clear();
+    m_hiddenBytes = 0;
     m_nextTicks = 0;
     m_ended = false;
     m_joins = true;

@@ -18,7 +18,8 @@ namespace QtAV {
 ///
 /// Packets of raw streams are numbered, those of AVI files and program streams get times in
 /// presentation order, packed B-frames are split, single fields are joined to frames, and gaps are
-/// bridged. KeyFrameSearch makes up for inexact seeks of containers.
+/// bridged. Key pictures that an edit list hides at the end are skipped: decoding must not start
+/// there. KeyFrameSearch makes up for inexact seeks of containers.
 ///
 /// Not thread-safe, but tied to no thread. The container must outlive it.
 class VideoPackets
@@ -82,6 +83,9 @@ private:
     void order(PacketPtr packet);
     [[nodiscard]] bool joinsBehindTail(AVPacket& packet);
     void takeOrdered();
+    void keepOrDeliver(PacketPtr packet);
+    void dropHiddenGroup();
+    void deliverHidden();
     void flagKey(AVPacket& packet) const;
     void setMissingTime(AVPacket& packet);
     [[nodiscard]] bool seekInRawStream(qint64 ms);
@@ -101,7 +105,10 @@ private:
     RawStreamIndex m_rawIndex;
 
     std::deque<PacketPtr> m_ready; ///< read and not delivered yet
-    qint64 m_nextTicks = 0;        ///< time of the next packet without any time
+    /// Packets of pictures that an edit list hides, until one follows that is shown.
+    std::deque<PacketPtr> m_hidden;
+    qint64 m_hiddenBytes = 0;
+    qint64 m_nextTicks = 0; ///< time of the next packet without any time
     bool m_ended = false;
     bool m_joins = false;                ///< nothing has been read since the last seek
     qint64 m_tailTicks = AV_NOPTS_VALUE; ///< time assigned to a tail before the first picture

@@ -246,6 +246,8 @@ QList<Sample> containerSamples()
         Entry("h264_23976fps.mkv", 96, film),
         Entry("h264_5994fps.mov", 60, ntscFields),
         Entry("edit_list.mp4", 65, pal, medium).countingFrom(35).with(Trait::StartsInsideGop),
+        Entry("edit_list_end.mp4", 42, pal, medium),
+        Entry("edit_list_end_open_gop.mp4", 55).with(Trait::OpenGop),
         Entry("h264_index_first.mp4", 100, pal, medium),
         Entry("h264_bframes.mkv", 100, pal, medium),
         Entry("sound.mp4", 75).with(Trait::Sound),
