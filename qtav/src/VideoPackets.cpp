@@ -47,6 +47,7 @@ VideoPackets::VideoPackets(Container& container, int stream)
     , m_stream(stream)
     , m_isRaw(container.isRawStream())
 {
+    m_isLikeAvi = container.isAvi() || hasDecodingTimesOnly();
     describeStream();
     chooseOrder();
     choosePairing();
@@ -55,6 +56,28 @@ VideoPackets::VideoPackets(Container& container, int stream)
 
 VideoPackets::~VideoPackets() = default;
 
+/// True for Matroska files that hold a stream the way an AVI does, with a header and a tag of that
+/// (V_MS/VFW/FOURCC). FFmpeg states no more than the tag, which streams with presentation times may
+/// have, too. These have one for their first packet.
+bool VideoPackets::hasDecodingTimesOnly()
+{
+    const AVCodecParameters& codec = *m_container.stream(m_stream).codecpar;
+    const bool hasOtherTimes =
+        m_isRaw || m_container.isTransmission() || m_container.indexesAllPackets();
+    const bool isReordered = codec.video_delay > 0 && (codec.codec_id == AV_CODEC_ID_MPEG4 ||
+                                                       codec.codec_id == AV_CODEC_ID_H264);
+    if (hasOtherTimes || !isReordered || codec.codec_tag == 0 || !rewind()) {
+        return false;
+    }
+    PacketPtr packet;
+    PacketAnswer answer = m_container.read(packet);
+    while (answer == PacketAnswer::Packet && packet->stream_index != m_stream) {
+        answer = m_container.read(packet);
+    }
+    return answer == PacketAnswer::Packet && packet->pts == AV_NOPTS_VALUE &&
+           packet->dts != AV_NOPTS_VALUE && rewind();
+}
+
 void VideoPackets::describeStream()
 {
     const AVStream& stream = m_container.stream(m_stream);
@@ -62,7 +85,7 @@ void VideoPackets::describeStream()
     parameters->codec.reset(avcodec_parameters_alloc());
     Q_CHECK_PTR(parameters->codec.get());
     avcodec_parameters_copy(parameters->codec.get(), stream.codecpar);
-    if (m_container.isAvi() && stream.codecpar->codec_id == AV_CODEC_ID_MPEG4) {
+    if (m_isLikeAvi && stream.codecpar->codec_id == AV_CODEC_ID_MPEG4) {
         unpackBFrames(parameters->codec);
     }
     parameters->timeline =
@@ -100,7 +123,7 @@ void VideoPackets::chooseOrder()
     const int delay = m_container.stream(m_stream).codecpar->video_delay;
     const AVRational timeBase = timeline().timeBase();
     using Times = PresentationOrder::Times;
-    if (m_isRaw || (m_container.isAvi() && delay > 0)) {
+    if (m_isRaw || (m_isLikeAvi && delay > 0)) {
         m_order = std::make_unique<PresentationOrder>(codec, delay, Times::OfDecoding, timeBase);
     } else if (m_container.isTransmission() && isOrderedByType(codec.codec_id)) {
         m_order = std::make_unique<PresentationOrder>(codec, delay, Times::WithGaps, timeBase);
@@ -197,7 +220,7 @@ void VideoPackets::order(PacketPtr packet)
         keepOrDeliver(std::move(packet));
         return;
     }
-    if (m_isRaw || m_container.isAvi()) {
+    if (m_isRaw || m_isLikeAvi) {
         setMissingTime(*packet);
     } else if (joinsBehindTail(*packet)) {
         return;
@@ -374,7 +397,7 @@ bool VideoPackets::rewind()
     if (goesByBytes && m_container.seekToByte(0)) {
         return true;
     }
-    return m_container.seekNear(m_stream, timeline().lastTickOf(0)) || reopen();
+    return m_container.seekNear(m_stream, m_container.timeline(m_stream).lastTickOf(0)) || reopen();
 }
 
 bool VideoPackets::reopen()

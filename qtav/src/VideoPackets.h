@@ -16,10 +16,10 @@ namespace QtAV {
 /// The packets of one video stream in file order, each with a presentation time and a correct key
 /// flag, together with the unmodified packets of one audio stream.
 ///
-/// Packets of raw streams are numbered, those of AVI files and program streams get times in
-/// presentation order, packed B-frames are split, single fields are joined to frames, and gaps are
-/// bridged. Key pictures that an edit list hides at the end are skipped: decoding must not start
-/// there. KeyFrameSearch makes up for inexact seeks of containers.
+/// Packets of raw streams are numbered, those of AVI files, program streams and Matroska files made
+/// of AVIs get times in presentation order, packed B-frames are split, single fields are joined to
+/// frames, and gaps are bridged. Key pictures that an edit list hides at the end are skipped:
+/// decoding must not start there. KeyFrameSearch makes up for inexact seeks of containers.
 ///
 /// Not thread-safe, but tied to no thread. The container must outlive it.
 class VideoPackets
@@ -72,6 +72,7 @@ public:
     qint64 rawLengthMs() const { return timeline().milliseconds(m_rawIndex.lengthTicks()); }
 
 private:
+    [[nodiscard]] bool hasDecodingTimesOnly();
     void describeStream();
     void unpackBFrames(CodecParametersPtr& codec);
     void chooseOrder();
@@ -95,6 +96,8 @@ private:
     const int m_stream;
     int m_audioStream = -1;
     const bool m_isRaw;
+    bool m_isLikeAvi =
+        false; ///< the container has only decoding times, and may have packed B-frames
     std::shared_ptr<const StreamParameters> m_parameters;
     BitstreamFilterPtr m_unpackBFrames;
     std::unique_ptr<FieldPairs> m_pairs;        ///< null if no packet can hold a single field

@@ -82,6 +82,10 @@ void VideoPacketsTest::packets_bearTheTimesOfTheFrames_data()
               "mpeg4_packed_bframes.avi",
               "mpeg4_xvid_packed.avi",
               "mpeg4_xvid_unpacked.avi",
+              "mpeg4_vfw.mkv",
+              "mpeg4_vfw_unpacked.mkv",
+              "mpeg4_vfw_packed.mkv",
+              "h264_vfw.mkv",
               "h264_bframes.avi",
               "mjpeg.avi",
               "raw.h264",
@@ -112,9 +116,9 @@ void VideoPacketsTest::packets_bearTheTimesOfTheFrames()
 void VideoPacketsTest::keyPackets_areTheRealOnes_data()
 {
     addFiles({"h264_all_flagged_key.mp4", "h264_bframes.mp4", "mpeg4_xvid_packed.avi",
-              "mpeg4_xvid_unpacked.avi", "mpeg4_packed_bframes.avi", "mpeg2_untimed_keys.vob",
-              "raw.h264", "raw.m2v", "h264_fields_single.ts", "h264_fields_single.m2ts",
-              "h264_fields_paired.m2ts", "h264_fields.h264"});
+              "mpeg4_xvid_unpacked.avi", "mpeg4_packed_bframes.avi", "mpeg4_vfw_packed.mkv",
+              "mpeg2_untimed_keys.vob", "raw.h264", "raw.m2v", "h264_fields_single.ts",
+              "h264_fields_single.m2ts", "h264_fields_paired.m2ts", "h264_fields.h264"});
 }
 
 void VideoPacketsTest::keyPackets_areTheRealOnes()

@@ -300,6 +300,10 @@ QList<Sample> missingTimesSamples()
     return {
         Entry("mpeg4_xvid_packed.avi", 250, variableRate, medium).at(xvidTimes()).with(noTimes),
         Entry("mpeg4_xvid_unpacked.avi", 250, pal, medium).with(noTimes),
+        Entry("mpeg4_vfw.mkv", 75).with(noTimes),
+        Entry("mpeg4_vfw_unpacked.mkv", 250, pal, medium).with(noTimes),
+        Entry("mpeg4_vfw_packed.mkv", 250, variableRate, medium).at(xvidTimes()).with(noTimes),
+        Entry("h264_vfw.mkv", 75).with(noTimes),
         Entry("mpeg2_untimed_keys.mpg", 250, pal, tiny).with(program),
         Entry("mpeg2_untimed_keys.vob", 250, pal, tiny).with(program),
         Entry("mpeg2_untimed_keys_svcd.mpg", 250, pal, tiny).with(program),
