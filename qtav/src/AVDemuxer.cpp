@@ -211,7 +211,7 @@ void AVDemuxer::Private::takePacket(PacketPtr source)
     lastVideoPts = packet.pts;
     // The file continues behind its supposed end.
     const qint64 ms = toMilliseconds(packet.pts);
-    if (ms > duration) {
+    if (ms > duration && !packet.isHidden) {
         duration = ms + toMilliseconds(packet.duration);
         durationSource = DurationSource::Scan;
     }

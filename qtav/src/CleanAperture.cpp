@@ -31,11 +31,12 @@ int trackNumber(Mp4Boxes& boxes, const Mp4Box& header)
 std::optional<Mp4Box> descriptionOf(Mp4Boxes& boxes, qint64 fileBytes, int track)
 {
     std::optional<Mp4Box> movie = boxes.find("moov", {0, fileBytes});
-    for (qint64 after = 0; movie; movie->begin = after) {
-        const std::optional<Mp4Box> candidate = boxes.find("trak", *movie, &after);
+    while (movie) {
+        const std::optional<Mp4Box> candidate = boxes.find("trak", *movie);
         if (!candidate) {
             return std::nullopt;
         }
+        movie->begin = candidate->end;
         const std::optional<Mp4Box> header = boxes.find("tkhd", *candidate);
         if (header && trackNumber(boxes, *header) == track) {
             return boxes.find(*candidate, "mdia", "minf", "stbl", "stsd");

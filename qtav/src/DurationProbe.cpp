@@ -158,13 +158,13 @@ DurationProbe::End DurationProbe::readToEnd()
         const bool counts = m_container.videoStreams().contains(stream) ||
                             m_container.audioStreams().contains(stream);
         const qint64 ticks = presentationTicks(*packet);
-        if (!counts || ticks == AV_NOPTS_VALUE) {
+        const bool isHidden = packet->flags & AV_PKT_FLAG_DISCARD;
+        if (!counts || isHidden || ticks == AV_NOPTS_VALUE) {
             continue;
         }
         const Timeline timeline = m_container.timeline(stream);
         end.ms = std::max(end.ms, timeline.milliseconds(ticks + packet->duration));
-        const bool isShown = !(packet->flags & AV_PKT_FLAG_DISCARD);
-        if (isShown && m_video && stream == m_video->stream()) {
+        if (m_video && stream == m_video->stream()) {
             end.pictureMs = std::max(end.pictureMs, timeline.milliseconds(ticks));
         }
     }

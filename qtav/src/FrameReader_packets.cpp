@@ -184,7 +184,7 @@ QVector<qint64> FrameReader::readFrameTimes(const IsCancelled& isCancelled)
         if (!packet.isValid()) {
             answer = readPacket(packet, isCancelled);
         }
-        if (answer == FrameAnswer::Frame && !packet.isDrain()) {
+        if (answer == FrameAnswer::Frame && !packet.isDrain() && !packet.isHidden) {
             times.append(toMilliseconds(packet.pts));
         }
     }

@@ -17,8 +17,8 @@ struct Mp4Box
     qint64 bytes() const { return end - begin; }
 };
 
-/// Finds boxes in an MP4 or MOV file whose contents FFmpeg does not provide. Ignores sizes that
-/// exceed the enclosing box, and examines at most a thousand boxes side by side.
+/// Finds boxes in an MP4 or MOV file whose contents FFmpeg does not provide. As in FFmpeg, a box
+/// that exceeds the enclosing one ends with that.
 class Mp4Boxes
 {
 public:
@@ -29,9 +29,19 @@ public:
     /// Reads this many bytes; returns none if not all can be read.
     [[nodiscard]] QByteArray read(qint64 position, int bytes);
 
-    /// The next box with a name at or behind a position. `after` receives the end of that box.
-    [[nodiscard]] std::optional<Mp4Box> find(const char* name, const Mp4Box& within,
-                                             qint64* after = nullptr);
+    /// A box with its name of four bytes.
+    struct Named
+    {
+        QByteArray name;
+        Mp4Box content;
+    };
+
+    /// The first box within another one; nothing if there is none. The next one begins where its
+    /// content ends.
+    [[nodiscard]] std::optional<Named> first(const Mp4Box& within);
+
+    /// The first box with a name; nothing if it is not among the first thousand boxes.
+    [[nodiscard]] std::optional<Mp4Box> find(const char* name, const Mp4Box& within);
 
     /// The first box with a name within the first box with another name, and so on.
     template <typename... Names>
@@ -49,8 +59,9 @@ private:
     FileInput& m_input;
 };
 
-/// Whether a video track of an MP4 or MOV file declares more pictures than the file can hold.
-/// FFmpeg allocates memory for each declared picture, and a kilobyte can declare many millions.
+/// Whether the tracks of an MP4 or MOV file together declare more pictures, or packets of sound,
+/// than the file can hold. FFmpeg allocates memory for each of them, and a kilobyte can declare
+/// many millions. Those in fragments are not counted: FFmpeg reads these one after another.
 [[nodiscard]] bool declaresTooManyPictures(FileInput& input);
 
 } // namespace QtAV

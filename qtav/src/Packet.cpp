@@ -23,6 +23,7 @@ Packet PacketHandle::wrap(PacketPtr source, const Timeline& timeline)
     packet.duration = timeline.lengthSeconds(std::max<qint64>(0, source->duration));
     packet.hasKeyFrame = source->flags & AV_PKT_FLAG_KEY;
     packet.isCorrupt = source->flags & AV_PKT_FLAG_CORRUPT;
+    packet.isHidden = source->flags & AV_PKT_FLAG_DISCARD;
     packet.data = QByteArray(reinterpret_cast<const char*>(source->data), source->size);
     packet.m_handle = std::make_shared<const PacketHandle>(std::move(source));
     return packet;

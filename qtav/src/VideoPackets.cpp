@@ -7,10 +7,14 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace QtAV {
 
 namespace {
+
+/// Maximum size of the hidden packets that wait for one that is shown.
+constexpr qint64 mostHiddenBytes = qint64{64} * 1024 * 1024;
 
 /// Codecs whose presentation order follows from the picture types alone.
 bool isOrderedByType(AVCodecID codec)
@@ -43,12 +47,36 @@ VideoPackets::VideoPackets(Container& container, int stream)
     , m_stream(stream)
     , m_isRaw(container.isRawStream())
 {
+    m_isLikeAvi = container.isAvi() || hasDecodingTimesOnly();
     describeStream();
     chooseOrder();
+    choosePairing();
     m_keyPictures.emplace(*m_parameters->codec);
 }
 
 VideoPackets::~VideoPackets() = default;
+
+/// True for Matroska files that hold a stream the way an AVI does, with a header and a tag of that
+/// (V_MS/VFW/FOURCC). FFmpeg states no more than the tag, which streams with presentation times may
+/// have, too. These have one for their first packet.
+bool VideoPackets::hasDecodingTimesOnly()
+{
+    const AVCodecParameters& codec = *m_container.stream(m_stream).codecpar;
+    const bool hasOtherTimes =
+        m_isRaw || m_container.isTransmission() || m_container.indexesAllPackets();
+    const bool isReordered = codec.video_delay > 0 && (codec.codec_id == AV_CODEC_ID_MPEG4 ||
+                                                       codec.codec_id == AV_CODEC_ID_H264);
+    if (hasOtherTimes || !isReordered || codec.codec_tag == 0 || !rewind()) {
+        return false;
+    }
+    PacketPtr packet;
+    PacketAnswer answer = m_container.read(packet);
+    while (answer == PacketAnswer::Packet && packet->stream_index != m_stream) {
+        answer = m_container.read(packet);
+    }
+    return answer == PacketAnswer::Packet && packet->pts == AV_NOPTS_VALUE &&
+           packet->dts != AV_NOPTS_VALUE && rewind();
+}
 
 void VideoPackets::describeStream()
 {
@@ -57,7 +85,7 @@ void VideoPackets::describeStream()
     parameters->codec.reset(avcodec_parameters_alloc());
     Q_CHECK_PTR(parameters->codec.get());
     avcodec_parameters_copy(parameters->codec.get(), stream.codecpar);
-    if (m_container.isAvi() && stream.codecpar->codec_id == AV_CODEC_ID_MPEG4) {
+    if (m_isLikeAvi && stream.codecpar->codec_id == AV_CODEC_ID_MPEG4) {
         unpackBFrames(parameters->codec);
     }
     parameters->timeline =
@@ -95,13 +123,23 @@ void VideoPackets::chooseOrder()
     const int delay = m_container.stream(m_stream).codecpar->video_delay;
     const AVRational timeBase = timeline().timeBase();
     using Times = PresentationOrder::Times;
-    if (m_isRaw || (m_container.isAvi() && delay > 0)) {
+    if (m_isRaw || (m_isLikeAvi && delay > 0)) {
         m_order = std::make_unique<PresentationOrder>(codec, delay, Times::OfDecoding, timeBase);
     } else if (m_container.isTransmission() && isOrderedByType(codec.codec_id)) {
         m_order = std::make_unique<PresentationOrder>(codec, delay, Times::WithGaps, timeBase);
         m_fillsGaps = true;
         // FFmpeg's guesses can give two pictures the same time.
         m_container.setMissingTimes(Container::MissingTimes::Leave);
+    }
+}
+
+/// Other containers hold both fields of a frame in one packet, and so do the packets that FFmpeg's
+/// parsers of other codecs make.
+void VideoPackets::choosePairing()
+{
+    const AVCodecParameters& codec = *m_parameters->codec;
+    if (codec.codec_id == AV_CODEC_ID_H264 && (m_isRaw || m_container.isTransmission())) {
+        m_pairs = std::make_unique<FieldPairs>(codec);
     }
 }
 
@@ -114,11 +152,7 @@ PacketAnswer VideoPackets::read(PacketPtr& packet)
         PacketPtr fresh;
         const PacketAnswer answer = m_container.read(fresh);
         if (answer == PacketAnswer::End) {
-            m_ended = true;
-            if (m_order) {
-                m_order->finish();
-                takeOrdered();
-            }
+            acceptEnd();
         } else if (answer != PacketAnswer::Packet) {
             return answer;
         } else if (fresh->stream_index == m_audioStream) {
@@ -134,10 +168,40 @@ PacketAnswer VideoPackets::read(PacketPtr& packet)
 
 void VideoPackets::accept(PacketPtr packet)
 {
-    if (!m_unpackBFrames) {
+    if (m_unpackBFrames) {
+        unpack(std::move(packet));
+    } else if (m_pairs) {
+        m_pairs->push(std::move(packet));
+        takePairs();
+    } else {
         order(std::move(packet));
-        return;
     }
+}
+
+void VideoPackets::acceptEnd()
+{
+    m_ended = true;
+    if (m_pairs) {
+        m_pairs->finish();
+        takePairs();
+    }
+    if (m_order) {
+        m_order->finish();
+        takeOrdered();
+    }
+    dropHiddenGroup();
+    deliverHidden();
+}
+
+void VideoPackets::takePairs()
+{
+    while (PacketPtr packet = m_pairs->pop()) {
+        order(std::move(packet));
+    }
+}
+
+void VideoPackets::unpack(PacketPtr packet)
+{
     if (av_bsf_send_packet(m_unpackBFrames.get(), packet.get()) < 0) {
         return;
     }
@@ -153,10 +217,10 @@ void VideoPackets::order(PacketPtr packet)
     flagKey(*packet);
     if (!m_order) {
         setMissingTime(*packet);
-        m_ready.push_back(std::move(packet));
+        keepOrDeliver(std::move(packet));
         return;
     }
-    if (m_isRaw || m_container.isAvi()) {
+    if (m_isRaw || m_isLikeAvi) {
         setMissingTime(*packet);
     } else if (joinsBehindTail(*packet)) {
         return;
@@ -164,6 +228,34 @@ void VideoPackets::order(PacketPtr packet)
     const qint64 ticks = frameTicks(*packet);
     m_order->push(std::move(packet), ticks);
     takeOrdered();
+}
+
+void VideoPackets::keepOrDeliver(PacketPtr packet)
+{
+    if (packet->flags & AV_PKT_FLAG_DISCARD) {
+        m_hiddenBytes += packet->size;
+        m_hidden.push_back(std::move(packet));
+        if (m_hiddenBytes > mostHiddenBytes) {
+            deliverHidden();
+        }
+        return;
+    }
+    deliverHidden();
+    m_ready.push_back(std::move(packet));
+}
+
+/// At the end, no shown picture refers to a hidden key picture or what follows it.
+void VideoPackets::dropHiddenGroup()
+{
+    const auto isKey = [](const PacketPtr& packet) { return packet->flags & AV_PKT_FLAG_KEY; };
+    m_hidden.erase(std::find_if(m_hidden.begin(), m_hidden.end(), isKey), m_hidden.end());
+}
+
+void VideoPackets::deliverHidden()
+{
+    std::move(m_hidden.begin(), m_hidden.end(), std::back_inserter(m_ready));
+    m_hidden.clear();
+    m_hiddenBytes = 0;
 }
 
 /// Reading a transmission from the middle may begin with the useless end of a picture. FFmpeg puts
@@ -271,12 +363,17 @@ bool VideoPackets::seekInRawStream(qint64 ms)
 void VideoPackets::forgetPosition()
 {
     m_ready.clear();
+    m_hidden.clear();
+    m_hiddenBytes = 0;
     m_nextTicks = 0;
     m_ended = false;
     m_joins = true;
     m_tailTicks = AV_NOPTS_VALUE;
     if (m_order) {
         m_order->reset();
+    }
+    if (m_pairs) {
+        m_pairs->reset();
     }
     if (m_unpackBFrames) {
         av_bsf_flush(m_unpackBFrames.get());
@@ -300,7 +397,7 @@ bool VideoPackets::rewind()
     if (goesByBytes && m_container.seekToByte(0)) {
         return true;
     }
-    return m_container.seekNear(m_stream, timeline().lastTickOf(0)) || reopen();
+    return m_container.seekNear(m_stream, m_container.timeline(m_stream).lastTickOf(0)) || reopen();
 }
 
 bool VideoPackets::reopen()

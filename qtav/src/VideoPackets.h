@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qtav/src/Container.h"
+#include "qtav/src/FieldPairs.h"
 #include "qtav/src/KeyPictures.h"
 #include "qtav/src/PresentationOrder.h"
 #include "qtav/src/RawStreamIndex.h"
@@ -15,9 +16,10 @@ namespace QtAV {
 /// The packets of one video stream in file order, each with a presentation time and a correct key
 /// flag, together with the unmodified packets of one audio stream.
 ///
-/// Packets of raw streams are numbered, those of AVI files and program streams get times in
-/// presentation order, packed B-frames are split, and gaps are bridged. KeyFrameSearch makes up for
-/// inexact seeks of containers.
+/// Packets of raw streams are numbered, those of AVI files, program streams and Matroska files made
+/// of AVIs get times in presentation order, packed B-frames are split, single fields are joined to
+/// frames, and gaps are bridged. Key pictures that an edit list hides at the end are skipped:
+/// decoding must not start there. KeyFrameSearch makes up for inexact seeks of containers.
 ///
 /// Not thread-safe, but tied to no thread. The container must outlive it.
 class VideoPackets
@@ -70,13 +72,21 @@ public:
     qint64 rawLengthMs() const { return timeline().milliseconds(m_rawIndex.lengthTicks()); }
 
 private:
+    [[nodiscard]] bool hasDecodingTimesOnly();
     void describeStream();
     void unpackBFrames(CodecParametersPtr& codec);
     void chooseOrder();
+    void choosePairing();
     void accept(PacketPtr packet);
+    void unpack(PacketPtr packet);
+    void acceptEnd();
+    void takePairs();
     void order(PacketPtr packet);
     [[nodiscard]] bool joinsBehindTail(AVPacket& packet);
     void takeOrdered();
+    void keepOrDeliver(PacketPtr packet);
+    void dropHiddenGroup();
+    void deliverHidden();
     void flagKey(AVPacket& packet) const;
     void setMissingTime(AVPacket& packet);
     [[nodiscard]] bool seekInRawStream(qint64 ms);
@@ -86,8 +96,11 @@ private:
     const int m_stream;
     int m_audioStream = -1;
     const bool m_isRaw;
+    bool m_isLikeAvi =
+        false; ///< the container has only decoding times, and may have packed B-frames
     std::shared_ptr<const StreamParameters> m_parameters;
     BitstreamFilterPtr m_unpackBFrames;
+    std::unique_ptr<FieldPairs> m_pairs;        ///< null if no packet can hold a single field
     std::unique_ptr<PresentationOrder> m_order; ///< null if the container gives a time to all
                                                 ///< packets
     bool m_fillsGaps = false;
@@ -95,7 +108,10 @@ private:
     RawStreamIndex m_rawIndex;
 
     std::deque<PacketPtr> m_ready; ///< read and not delivered yet
-    qint64 m_nextTicks = 0;        ///< time of the next packet without any time
+    /// Packets of pictures that an edit list hides, until one follows that is shown.
+    std::deque<PacketPtr> m_hidden;
+    qint64 m_hiddenBytes = 0;
+    qint64 m_nextTicks = 0; ///< time of the next packet without any time
     bool m_ended = false;
     bool m_joins = false;                ///< nothing has been read since the last seek
     qint64 m_tailTicks = AV_NOPTS_VALUE; ///< time assigned to a tail before the first picture

@@ -193,18 +193,71 @@ class Hostile(FaultCase):
         self.assertEqual(text.count("too large"), 1, "once for the video")
         self.assertLess(peak, 400)
 
-    def test_more_pictures_than_the_file_holds_are_refused(self):
-        # All pictures of one byte each, and eighty million of them: FFmpeg would list each.
-        content = bytearray(sample("h264_bframes.mp4").read_bytes())
-        sizes = content.find(b"stsz")
-        content[sizes + 8:sizes + 16] = (1).to_bytes(4, "big") + (80_000_000).to_bytes(4, "big")
-        chunks = content.find(b"stsc")
-        content[chunks + 16:chunks + 20] = (80_000_000).to_bytes(4, "big")
+    def check_too_many(self, content):
         video = self.folder / "many.mp4"
         video.write_bytes(content)
         status, text, peak = self.memory(video, "-c2", "-o", self.out)
         self.assertEqual(status, 1, text)
         self.assertIn("more pictures than it can hold", text)
+        self.assertLess(peak, 300)
+
+    @staticmethod
+    def declare(content, count, track=0):
+        """Makes a track declare samples of one byte each, all in one chunk: FFmpeg lists each."""
+        sizes = chunks = 0
+        for _ in range(track + 1):
+            sizes = content.index(b"stsz", sizes + 1)
+            chunks = content.index(b"stsc", chunks + 1)
+        content[sizes + 8:sizes + 16] = (1).to_bytes(4, "big") + count.to_bytes(4, "big")
+        content[chunks + 16:chunks + 20] = count.to_bytes(4, "big")
+
+    def test_more_pictures_than_the_file_holds_are_refused(self):
+        content = bytearray(sample("h264_bframes.mp4").read_bytes())
+        self.declare(content, 80_000_000)
+        self.check_too_many(content)
+
+    def test_more_sound_than_the_file_holds_is_refused(self):
+        content = bytearray(sample("sound.mp4").read_bytes())
+        self.declare(content, 30_000_000, track=1)
+        self.check_too_many(content)
+
+    def test_boxes_larger_than_the_file_hide_no_pictures(self):
+        for box in b"moov", b"trak", b"stbl":
+            with self.subTest(box):
+                content = bytearray(sample("h264_bframes.mp4").read_bytes())
+                self.declare(content, 30_000_000)
+                at = content.index(box)
+                content[at - 4:at] = (0x7fffffff).to_bytes(4, "big")
+                self.check_too_many(content)
+
+    def test_many_boxes_hide_no_pictures(self):
+        content = bytearray(sample("h264_bframes.mp4").read_bytes())
+        self.declare(content, 30_000_000)
+        movie = content.index(b"moov") - 4
+        content[movie:movie] = (b"\0\0\0\x08free") * 2000
+        self.check_too_many(content)
+
+    def test_tracks_may_not_declare_more_together_than_the_file_holds(self):
+        content = bytearray(sample("h264_bframes.mp4").read_bytes())
+        self.declare(content, 900_000)
+        movie, track = content.index(b"moov") - 4, content.index(b"trak") - 4
+        size = int.from_bytes(content[track:track + 4], "big")
+        self.assertEqual(movie + int.from_bytes(content[movie:movie + 4], "big"), len(content))
+        content += content[track:track + size] * 30
+        content[movie:movie + 4] = (len(content) - movie).to_bytes(4, "big")
+        self.check_too_many(content)
+
+    def test_uncompressed_sound_may_have_many_samples(self):
+        # Of one tick each: FFmpeg lists their chunks alone.
+        content = bytearray(sample("sound.mp4").read_bytes())
+        sizes = content.index(b"stsz", content.index(b"stsz") + 1)
+        content[sizes + 8:sizes + 16] = (1).to_bytes(4, "big") + (30_000_000).to_bytes(4, "big")
+        times = content.index(b"stts", content.index(b"stts") + 1)
+        content[times + 8:times + 20] = b"".join(n.to_bytes(4, "big") for n in (1, 30_000_000, 1))
+        video = self.folder / "sound.mp4"
+        video.write_bytes(content)
+        status, text, peak = self.memory(video, "-c2", "-o", self.out)
+        self.assertEqual(status, 0, text)
         self.assertLess(peak, 300)
 
     def test_limit_can_be_set(self):

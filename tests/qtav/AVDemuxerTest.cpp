@@ -32,6 +32,8 @@ private slots:
     void load_succeeds_afterAFailure();
     void duration_isMeasured_whereTheHeaderDoesNotTell_data();
     void duration_isMeasured_whereTheHeaderDoesNotTell();
+    void duration_stays_ifAnEditListHidesTheEnd_data();
+    void duration_stays_ifAnEditListHidesTheEnd();
     void coverPicture_isNoVideoStream();
     void soundAlone_hasNoVideoStream();
     void streams_areChosenByTheirPlace();
@@ -205,6 +207,29 @@ void AVDemuxerTest::duration_isMeasured_whereTheHeaderDoesNotTell()
     } else {
         QVERIFY(demuxer.durationSource() != AVDemuxer::DurationSource::Unknown);
     }
+}
+
+void AVDemuxerTest::duration_stays_ifAnEditListHidesTheEnd_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"edit_list_end.mp4", "edit_list_end_open_gop.mp4"}) {
+        QTest::newRow(file) << QString::fromLatin1(file);
+    }
+}
+
+void AVDemuxerTest::duration_stays_ifAnEditListHidesTheEnd()
+{
+    QFETCH(QString, file);
+    const qint64 expectedMs = 40 * testsupport::sampleNamed(file).frames;
+    AVDemuxer demuxer;
+    demuxer.setMedia(testsupport::samplePath(file));
+    QVERIFY(demuxer.load());
+    QCOMPARE(demuxer.duration(), expectedMs);
+    while (!demuxer.atEnd()) {
+        static_cast<void>(demuxer.readFrame());
+    }
+    QCOMPARE(demuxer.duration(), expectedMs);
+    QCOMPARE(demuxer.durationSource(), AVDemuxer::DurationSource::Header);
 }
 
 void AVDemuxerTest::coverPicture_isNoVideoStream()

@@ -82,11 +82,20 @@ void VideoPacketsTest::packets_bearTheTimesOfTheFrames_data()
               "mpeg4_packed_bframes.avi",
               "mpeg4_xvid_packed.avi",
               "mpeg4_xvid_unpacked.avi",
+              "mpeg4_vfw.mkv",
+              "mpeg4_vfw_unpacked.mkv",
+              "mpeg4_vfw_packed.mkv",
+              "h264_vfw.mkv",
               "h264_bframes.avi",
               "mjpeg.avi",
               "raw.h264",
               "raw.hevc",
               "raw.m2v",
+              "h264_fields_single.ts",
+              "h264_fields_single.m2ts",
+              "h264_fields_paired.ts",
+              "h264_fields_paired.m2ts",
+              "h264_fields.h264",
               "h264_bframes.mp4",
               "h264_bframes.mkv",
               "variable_rate.mkv",
@@ -107,8 +116,9 @@ void VideoPacketsTest::packets_bearTheTimesOfTheFrames()
 void VideoPacketsTest::keyPackets_areTheRealOnes_data()
 {
     addFiles({"h264_all_flagged_key.mp4", "h264_bframes.mp4", "mpeg4_xvid_packed.avi",
-              "mpeg4_xvid_unpacked.avi", "mpeg4_packed_bframes.avi", "mpeg2_untimed_keys.vob",
-              "raw.h264", "raw.m2v"});
+              "mpeg4_xvid_unpacked.avi", "mpeg4_packed_bframes.avi", "mpeg4_vfw_packed.mkv",
+              "mpeg2_untimed_keys.vob", "raw.h264", "raw.m2v", "h264_fields_single.ts",
+              "h264_fields_single.m2ts", "h264_fields_paired.m2ts", "h264_fields.h264"});
 }
 
 void VideoPacketsTest::keyPackets_areTheRealOnes()
@@ -140,11 +150,28 @@ void VideoPacketsTest::packedPictures_comeInPacketsOfTheirOwn()
 
 void VideoPacketsTest::reading_givesTheSameTimes_fromTheMiddle_data()
 {
-    addFiles({"mpeg1_untimed_keys.mpg", "mpeg1_untimed_keys_vcd.mpg", "mpeg2_untimed_keys.mpg",
-              "mpeg2_untimed_keys.vob", "mpeg2_untimed_keys_svcd.mpg",
-              "mpeg2_untimed_keys_sound.vob", "mpeg2_untimed_no_bframes.vob", "mpeg2.mpg",
-              "mpeg2.ts", "h264.ts", "mpeg4_xvid_packed.avi", "mpeg4_bframes.avi",
-              "h264_bframes.avi", "raw.h264", "raw.m2v", "h264_bframes.mp4", "h264_bframes.mkv"});
+    addFiles({"mpeg1_untimed_keys.mpg",
+              "mpeg1_untimed_keys_vcd.mpg",
+              "mpeg2_untimed_keys.mpg",
+              "mpeg2_untimed_keys.vob",
+              "mpeg2_untimed_keys_svcd.mpg",
+              "mpeg2_untimed_keys_sound.vob",
+              "mpeg2_untimed_no_bframes.vob",
+              "mpeg2.mpg",
+              "mpeg2.ts",
+              "h264.ts",
+              "mpeg4_xvid_packed.avi",
+              "mpeg4_bframes.avi",
+              "h264_bframes.avi",
+              "raw.h264",
+              "raw.m2v",
+              "h264_fields_single.ts",
+              "h264_fields_single.m2ts",
+              "h264_fields_paired.ts",
+              "h264_fields_paired.m2ts",
+              "h264_fields.h264",
+              "h264_bframes.mp4",
+              "h264_bframes.mkv"});
 }
 
 /// From the first key packet on, because those before it cannot be decoded.

@@ -33,7 +33,7 @@ Rational tickOf(const QString& file)
     if (isOneOf({"mkv", "webm", "flv", "wmv"})) {
         return {1, 1000};
     }
-    if (isOneOf({"ts", "mpg", "vob"})) {
+    if (isOneOf({"ts", "m2ts", "mpg", "vob"})) {
         return {1, 90000};
     }
     return {0, 1};
@@ -206,6 +206,14 @@ QList<Sample> geometrySamples()
             .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
         Entry("fields_h264_bff.ts", 25, pal, {352, 288})
             .with(Trait::Interlaced | Trait::NoStatedDuration),
+        Entry("h264_fields_single.ts", 78).with(Trait::Interlaced | Trait::NoStatedDuration),
+        Entry("h264_fields_single.m2ts", 79)
+            .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("h264_fields_paired.ts", 78).with(Trait::Interlaced | Trait::NoStatedDuration),
+        Entry("h264_fields_paired.m2ts", 79)
+            .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::OpenGop),
+        Entry("h264_fields.h264", 78)
+            .with(Trait::Interlaced | Trait::NoStatedDuration | Trait::NoPresentationTimes),
         Entry("fields_dv_pal.avi", 12, pal, palSize)
             .with(Trait::Interlaced | Trait::NoPresentationTimes),
         Entry("odd_size_420.mkv", 20, pal, oddSize),
@@ -238,6 +246,8 @@ QList<Sample> containerSamples()
         Entry("h264_23976fps.mkv", 96, film),
         Entry("h264_5994fps.mov", 60, ntscFields),
         Entry("edit_list.mp4", 65, pal, medium).countingFrom(35).with(Trait::StartsInsideGop),
+        Entry("edit_list_end.mp4", 42, pal, medium),
+        Entry("edit_list_end_open_gop.mp4", 55).with(Trait::OpenGop),
         Entry("h264_index_first.mp4", 100, pal, medium),
         Entry("h264_bframes.mkv", 100, pal, medium),
         Entry("sound.mp4", 75).with(Trait::Sound),
@@ -290,6 +300,10 @@ QList<Sample> missingTimesSamples()
     return {
         Entry("mpeg4_xvid_packed.avi", 250, variableRate, medium).at(xvidTimes()).with(noTimes),
         Entry("mpeg4_xvid_unpacked.avi", 250, pal, medium).with(noTimes),
+        Entry("mpeg4_vfw.mkv", 75).with(noTimes),
+        Entry("mpeg4_vfw_unpacked.mkv", 250, pal, medium).with(noTimes),
+        Entry("mpeg4_vfw_packed.mkv", 250, variableRate, medium).at(xvidTimes()).with(noTimes),
+        Entry("h264_vfw.mkv", 75).with(noTimes),
         Entry("mpeg2_untimed_keys.mpg", 250, pal, tiny).with(program),
         Entry("mpeg2_untimed_keys.vob", 250, pal, tiny).with(program),
         Entry("mpeg2_untimed_keys_svcd.mpg", 250, pal, tiny).with(program),

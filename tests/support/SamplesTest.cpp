@@ -90,7 +90,10 @@ double number(const QJsonObject& object, const QString& key)
 double startOf(const QJsonObject& format, const Sample& sample)
 {
     const double start = number(format, QStringLiteral("start_time"));
-    return sample.file.endsWith(QLatin1String(".mp4")) && start < 0.0 ? 0.0 : start;
+    // ffmpeg states no start where the first frame has only a decoding time.
+    const bool hasNone = std::isnan(start);
+    const bool isEarlier = sample.file.endsWith(QLatin1String(".mp4")) && start < 0.0;
+    return hasNone || isEarlier ? 0.0 : start;
 }
 
 /// The shown frames from the ffmpeg program. It drops the picture that its MPEG-2 decoder holds

@@ -27,7 +27,9 @@ private Q_SLOTS:
 void FrameCounterTest::frames_areNumbered_byTheirTimes_data()
 {
     QTest::addColumn<QString>("file");
-    for (const char* file : {"h264_bframes.mp4", "h264_bframes.mkv", "variable_rate.mkv"}) {
+    for (const char* file :
+         {"h264_bframes.mp4", "h264_bframes.mkv", "variable_rate.mkv", "h264_fields_single.ts",
+          "h264_fields_paired.m2ts", "edit_list_end.mp4", "edit_list_end_open_gop.mp4"}) {
         QTest::newRow(file) << QString::fromLatin1(file);
     }
 }

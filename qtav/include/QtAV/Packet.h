@@ -39,6 +39,8 @@ public:
     bool hasKeyFrame = false;
     /// The container says that the data is damaged.
     bool isCorrupt = false;
+    /// The picture must be decoded, because others refer to it, but an edit list hides it.
+    bool isHidden = false;
     /// The compressed data; empty in a drain packet.
     QByteArray data;
 

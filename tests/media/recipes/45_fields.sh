@@ -89,3 +89,48 @@ film_repeating() {
     ff -i "$file.m2v" -c copy -bsf:v "setts=ts=N*1001/24000/TB" -fflags +bitexact "$file"
 }
 sample telecine_by_flags.mkv film_repeating 352x240 24
+
+# coded_fields FILE KIND FRAMES: frames coded as two fields each, of the kinds of h264_fields.pl, without
+# a container.
+coded_fields() {
+    local file=$1 kind=$2 frames=$3
+    mkdir "$file.fields"
+    tool h264_fields "$kind" "$frames" "$file.fields"
+    seq -f "$file.fields/%g.h264" 0 $((frames - 1)) | xargs -d '\n' cat >"$file"
+}
+
+# single_fields FILE KIND FRAMES GROUP: the same, each field in a packet of its own with its own time.
+single_fields() {
+    local file=$1 kind=$2 frames=$3 group=$4
+    coded_fields "$file.h264" "$kind" "$frames"
+    timed_fields "$file" "$group" 'floor(N/2)' 'mod(N,2)/2' -i "$file.h264"
+}
+
+# paired_fields FILE KIND FRAMES GROUP: the same, both fields of a frame in one packet.
+paired_fields() {
+    local file=$1 kind=$2 frames=$3 group=$4
+    mkdir "$file.fields"
+    tool h264_fields "$kind" "$frames" "$file.fields"
+    timed_fields "$file" "$group" N 0 -f image2 -c:v h264 -start_number 0 -i "$file.fields/%d.h264"
+}
+
+# timed_fields FILE GROUP PLACE LATER ARG…: copies packets with their times; PLACE is that of their
+# frame in the order of decoding, and LATER how many frames they are shown later than that.
+timed_fields() {
+    local file=$1 group=$2 place=$3 later=$4
+    local in_group="mod($place,$group)"
+    local reordered="gt($in_group,0)*(2*mod($in_group,2)-1)"
+    shift 4
+    ff "$@" -c copy -map_metadata -1 -fflags +bitexact \
+        -bsf:v "setts=dts='3600*($place+$later)':pts='3600*($place+$later+1+$reordered)'" \
+        "$file"
+}
+sample h264_fields_single.ts single_fields IDR 78 13
+sample h264_fields_single.m2ts single_fields OPEN 79 79
+sample h264_fields_paired.ts paired_fields IDR 78 13
+sample h264_fields_paired.m2ts paired_fields OPEN 79 79
+sample h264_fields.h264 coded_fields IDR 78
+# Second fields are shown with the first ones, and are no frames.
+for name in h264_fields{_single.ts,_single.m2ts,_paired.ts,_paired.m2ts,.h264}; do
+    misflagged "$name"
+done

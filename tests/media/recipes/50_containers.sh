@@ -20,6 +20,13 @@ sample h264_5994fps.mov encode 160x120 60000/1001 60 "${X264[@]}" \
 # Begins with frame 35, ten frames behind a key frame.
 derived edit_list.mp4 h264_bframes.mp4 cut_at_front
 
+# The edit list hides the last pictures, some of which those before refer to.
+cut_at_end() {
+    tool mp4_cut_end "$2" "$1" "$3"
+}
+derived edit_list_end.mp4 h264_bframes.mp4 cut_at_end 1680
+derived edit_list_end_open_gop.mp4 h264_open_gop_bframes.mp4 cut_at_end 2200
+
 sample sound.mp4 with_sound 0 0 aac
 sample sound_earlier.mp4 with_sound 0.48 0 aac
 sample sound_earlier.mkv with_sound 0.48 0 mp2

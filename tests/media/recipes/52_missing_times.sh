@@ -16,6 +16,18 @@ unpacked() {
 }
 derived mpeg4_xvid_unpacked.avi mpeg4_xvid_packed.avi unpacked
 
+# as_vfw FILE SOURCE TAG: an AVI's packets in Matroska as muxers put them there for years, with nothing
+# but their decoding times. FFmpeg does that only for codecs for which Matroska has no name of its own.
+as_vfw() {
+    local file=$1 source=$2 tag=$3
+    ff -c:v wmv2 -i "$source" -c copy -map_metadata -1 -fflags +bitexact -write_crc32 0 "$file"
+    LC_ALL=C sed -i "s/WMV2/$tag/" "$file"
+}
+derived mpeg4_vfw.mkv mpeg4_bframes.avi as_vfw XVID
+derived mpeg4_vfw_unpacked.mkv mpeg4_xvid_unpacked.avi as_vfw XVID
+derived mpeg4_vfw_packed.mkv mpeg4_xvid_packed.avi as_vfw XVID
+derived h264_vfw.mkv h264_bframes.avi as_vfw H264
+
 # small_pictures FILE FRAMES ARG…: of so few bytes that several begin in one pack of a program
 # stream. Only the first of them has a time there, so that most key packets have none.
 small_pictures() {
