@@ -168,6 +168,21 @@ class BatchTest(MorvantileCase):
         self.assertEqual(self.column(2), ["Every 5 s", "Every 2 s"])
         self.assertEqual(self.column(4), ["4", "9"])
 
+    def test_list_comes_back_when_the_system_ended_the_program_in_batch_mode(self):
+        videos = [self.sample("h264_gop250.mp4", name) for name in ("a.mp4", "b.mp4")]
+        self.open_batch_mode()
+        self.load(*videos)
+        self.select("b")
+        self.program.fill("Seconds from image to image", "2")
+        self.program.find("label", "About 13 images of 2 videos")
+        self.program.terminate()
+        self.assertEqual(self.program.wait_for_end(), 0)
+
+        self.program = self.start()
+        self.open_batch_mode()
+        wait_until(lambda: self.column(0) == ["a", "b"], lambda: f"listed: {self.column(0)}")
+        self.assertEqual(self.column(2), ["Every 5 s", "Every 2 s"])
+
     # --- what the cases are made of ------------------------------------------------------------
 
     def open_batch_mode(self):

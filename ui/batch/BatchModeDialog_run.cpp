@@ -197,10 +197,12 @@ void BatchModeDialog::saveList(const QList<BatchWorkerConfig*>& unread) const
     }
 }
 
-/// Videos that have not been read are read when the list is restored.
+/// Videos that have not been read are read when the list is restored. Closing the dialog ends its
+/// list; where the application ends under it, only the destructor does.
 void BatchModeDialog::endList()
 {
     const QList<BatchWorkerConfig*> unread = m_loader->cancel();
     saveList(unread);
     qDeleteAll(unread);
+    m_keepsList = false;
 }

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void outputExample_hasNoNumber_ofASingleShot();
     void editedJob_isNoDefault_untilItIsSaidSo();
     void list_comesBack_alsoWhatWasNotRead();
+    void list_comesBack_whenTheDialogWasNotClosed();
+    void list_isNotStoredAgain_onceTheDialogWasClosed();
     void list_isNotKept_unlessAsked();
 };
 
@@ -54,6 +56,18 @@ bool isMarked(const ModeDialog& mode, int row)
 {
     return mode.model().index(row, 0).data(Qt::AccessibleDescriptionRole).toString() ==
            QLatin1String("Failed");
+}
+
+/// The videos of the listed jobs.
+QStringList sources(const BatchModeDialog& dialog)
+{
+    const auto& model = *static_cast<const BatchModeListModel*>(
+        testsupport::child<QTableView>(dialog, "filesTableView").model());
+    QStringList videos;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        videos.append(model.getConfig(row)->source());
+    }
+    return videos;
 }
 
 /// Expects a question, and stores its text when it is answered.
@@ -286,6 +300,45 @@ void BatchModeDialogRunTest::list_comesBack_alsoWhatWasNotRead()
     QCOMPARE(model.getConfig(1)->imageProfile()->name(), QStringLiteral("Two"));
     QCOMPARE(model.getConfig(2)->skipFront(), 2000);
     QCOMPARE(model.getConfig(3)->source(), unread);
+}
+
+/// As when the event loop ends under the dialog.
+void BatchModeDialogRunTest::list_comesBack_whenTheDialogWasNotClosed()
+{
+    const ModeDialog mode;
+    const QString unread = samplePath(QStringLiteral("mpeg4.mp4"));
+    {
+        BatchModeDialog ended;
+        ended.keepList();
+        ended.loadVideos({samplePath(clip)});
+        QTRY_VERIFY(!ended.isLoading());
+        ended.loadVideos({unread});
+    }
+    BatchModeDialog next;
+    next.keepList();
+    QTRY_VERIFY(!next.isLoading());
+    QCOMPARE(sources(next), (QStringList{samplePath(clip), unread}));
+}
+
+void BatchModeDialogRunTest::list_isNotStoredAgain_onceTheDialogWasClosed()
+{
+    const ModeDialog mode;
+    {
+        BatchModeDialog closed;
+        closed.keepList();
+        closed.loadVideos({samplePath(clip)});
+        QTRY_VERIFY(!closed.isLoading());
+        closed.done(QDialog::Rejected);
+        BatchModeDialog other;
+        other.keepList();
+        other.loadVideos({samplePath(clip)});
+        QTRY_VERIFY(!other.isLoading());
+        other.done(QDialog::Rejected);
+    }
+    BatchModeDialog next;
+    next.keepList();
+    QTRY_VERIFY(!next.isLoading());
+    QCOMPARE(sources(next), (QStringList{samplePath(clip), samplePath(clip)}));
 }
 
 void BatchModeDialogRunTest::list_isNotKept_unlessAsked()
