@@ -213,5 +213,6 @@ void MainWindow::quit()
 {
     saveLayout();
     playerPane()->releaseVideo();
-    QCoreApplication::quit();
+    // Not quit(), which in Qt 6 closes the windows first: they would ask once more, or refuse.
+    QCoreApplication::exit(0);
 }
