@@ -5,6 +5,7 @@
 #include "ui/theme/Icons.h"
 #include "ui/theme/Spacing.h"
 #include "ui/theme/TextSize.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QDir>
 #include <QEvent>
@@ -99,7 +100,10 @@ QPushButton* OpenVideoButton::makeEntry(const QString& path)
     entry->setText(shown.replace(QLatin1Char('&'), QLatin1String("&&")));
     entry->setAccessibleName(name);
     entry->setObjectName(QStringLiteral("recentFileButton"));
-    entry->setToolTip(QDir::toNativeSeparators(path));
+    const QString place = QDir::toNativeSeparators(path);
+    entry->setToolTip(asPlainText(place));
+    // By default that is the tool tip, with its markup.
+    entry->setAccessibleDescription(place);
     entry->setFlat(true);
     entry->setFocusPolicy(Qt::TabFocus);
     entry->setCursor(Qt::PointingHandCursor);

@@ -1,6 +1,7 @@
 #include "ui/mainwindow/RecentMenu.h"
 
 #include "ui/mainwindow/RecentFiles.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QAction>
 #include <QDir>
@@ -27,7 +28,7 @@ void RecentMenu::fill()
         }
         QString name = QFileInfo(file).fileName();
         QAction* const action = addAction(name.replace(QLatin1Char('&'), QLatin1String("&&")));
-        action->setToolTip(QDir::toNativeSeparators(file));
+        action->setToolTip(asPlainText(QDir::toNativeSeparators(file)));
         connect(action, &QAction::triggered, this, [this, file] { Q_EMIT chosen(file); });
     }
     if (isEmpty()) {

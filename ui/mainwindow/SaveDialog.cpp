@@ -2,6 +2,7 @@
 
 #include "imaging/ImageFormats.h"
 #include "ui/mainwindow/SavePath.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -89,7 +90,7 @@ bool SaveDialog::isReplacingWanted(const QString& path) const
             .arg(QFileInfo(path).fileName());
     return QMessageBox::question(m_dialog->parentWidget(),
                                  translated(QT_TRANSLATE_NOOP("MainWindow", "Save Snapshot")),
-                                 question, QMessageBox::Yes | QMessageBox::No,
+                                 asPlainText(question), QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No) == QMessageBox::Yes;
 }
 

@@ -5,6 +5,7 @@
 #include "tests/ui/batch/ModeDialog.h"
 #include "tests/ui/dialogs/support/DialogDriving.h"
 #include "tests/ui/dialogs/support/ModalScript.h"
+#include "tests/ui/support/ShownText.h"
 #include "ui/batch/BatchProcessingDialog.h"
 
 #include <QDir>
@@ -20,6 +21,7 @@ using testsupport::endBatch;
 using testsupport::ModalScript;
 using testsupport::ModeDialog;
 using testsupport::samplePath;
+using testsupport::shownText;
 using testsupport::writeGrowingVideo;
 
 /// Before and after a batch: the questions asked, and what remains.
@@ -32,6 +34,8 @@ private Q_SLOTS:
     void manyImages_areAskedAbout();
     void missingFolder_isMade_whenWanted();
     void missingFolder_keepsTheBatchFromStarting_whenNotWanted();
+    void folderLikeMarkup_isNamedAsItIs();
+    void failureWithANameLikeMarkup_isShownAsItIs();
     void failedJobs_areMarked_andCanBeRetriedAlone();
     void retry_makesFailedPositionsAlone_data();
     void retry_makesFailedPositionsAlone();
@@ -74,7 +78,7 @@ QStringList sources(const BatchModeDialog& dialog)
 void answer(ModalScript& script, QMessageBox::StandardButton button, QString& said)
 {
     script.expect<QMessageBox>([button, &said](QMessageBox& box) {
-        said = box.text() + QLatin1Char('\n') + box.informativeText();
+        said = shownText(box.text()) + QLatin1Char('\n') + shownText(box.informativeText());
         box.button(button)->click();
     });
 }
@@ -157,6 +161,41 @@ void BatchModeDialogRunTest::missingFolder_keepsTheBatchFromStarting_whenNotWant
     mode.click("startButton");
     QVERIFY(script.isDone());
     QVERIFY2(said.contains(QStringLiteral("could not be created")), qPrintable(said));
+}
+
+void BatchModeDialogRunTest::folderLikeMarkup_isNamedAsItIs()
+{
+    ModeDialog mode;
+    mode.load({samplePath(clip)});
+    const QString folder =
+        mode.dir().makeFile(QStringLiteral("no folder<b>")) + QStringLiteral("/new");
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(folder);
+    QString question;
+    QString failure;
+    ModalScript script;
+    answer(script, QMessageBox::Yes, question);
+    answer(script, QMessageBox::Ok, failure);
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    QVERIFY2(question.contains(folder), qPrintable(question));
+    QVERIFY2(failure.contains(folder), qPrintable(failure));
+}
+
+void BatchModeDialogRunTest::failureWithANameLikeMarkup_isShownAsItIs()
+{
+    ModeDialog mode;
+    // Its images would have names that are too long.
+    const QString name = QStringLiteral("a<b>") + QString(246, QLatin1Char('x'));
+    const QString video = mode.dir().filePath(name + QStringLiteral(".mp4"));
+    QVERIFY(QFile::copy(samplePath(clip), video));
+    mode.load({video});
+    mode.click("intervalSingleShotRadioButton");
+    ModalScript script;
+    script.expect<BatchProcessingDialog>(endBatch);
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    const QString tip = shownText(mode.model().index(0, 0).data(Qt::ToolTipRole).toString());
+    QVERIFY2(tip.contains(name), qPrintable(tip));
 }
 
 void BatchModeDialogRunTest::failedJobs_areMarked_andCanBeRetriedAlone()

@@ -2,7 +2,9 @@
 
 #include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
+#include "tests/support/TestDir.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
+#include "tests/ui/support/ShownText.h"
 #include "ui/mainwindow/RecentFiles.h"
 #include "ui/theme/ActionButton.h"
 #include "ui/widgets/VolumePopup.h"
@@ -79,6 +81,7 @@ class PlayerPaneTest : public QObject
 private Q_SLOTS:
     void emptyPane_requestsAVideo_whenItIsClicked();
     void emptyPane_passesTheRecentFileThatIsChosen();
+    void recentFileLikeMarkup_isNamedAsItIs();
     void openVideo_isShown_withItsDuration();
     void click_pausesThePlayingVideo();
     void slider_seeks_evenWhilePaused();
@@ -110,6 +113,19 @@ void PlayerPaneTest::emptyPane_passesTheRecentFileThatIsChosen()
     pane.find<QPushButton>("recentFileButton").click();
     QTRY_COMPARE_WITH_TIMEOUT(chosen.size(), 1, patienceMs);
     QCOMPARE(chosen.first().first().toString(), samplePath(clip));
+}
+
+void PlayerPaneTest::recentFileLikeMarkup_isNamedAsItIs()
+{
+    PlayingPane pane;
+    const TestDir dir;
+    const QString film = dir.makeFile(QStringLiteral("a<b>.mp4"));
+    RecentFiles::add(pane.settings, film);
+    pane.pane.showRecentFiles();
+    const auto& button = pane.find<QPushButton>("recentFileButton");
+    QCOMPARE(button.text(), QStringLiteral("a<b>.mp4"));
+    QCOMPARE(shownText(button.toolTip()), film);
+    QCOMPARE(button.accessibleDescription(), film);
 }
 
 void PlayerPaneTest::openVideo_isShown_withItsDuration()
