@@ -1,5 +1,6 @@
 #include "ui/mainwindow/OpenVideoButton.h"
 
+#include "ui/mainwindow/RecentFiles.h"
 #include "ui/mainwindow/ReturnKey.h"
 #include "ui/theme/ActionButton.h"
 #include "ui/theme/Icons.h"
@@ -77,8 +78,9 @@ void OpenVideoButton::setRecentFiles(const QStringList& paths)
 {
     qDeleteAll(m_entries);
     m_entries.clear();
-    for (const QString& path : paths) {
-        if (m_entries.size() < mostEntries && QFileInfo(path).isFile()) {
+    if (!paths.isEmpty()) {
+        const QStringList present = RecentFiles::present(paths).mid(0, mostEntries);
+        for (const QString& path : present) {
             m_entries.append(makeEntry(path));
         }
     }

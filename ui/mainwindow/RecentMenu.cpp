@@ -21,11 +21,8 @@ RecentMenu::RecentMenu(QSettings& settings, QWidget* parent)
 void RecentMenu::fill()
 {
     clear();
-    const QStringList files = RecentFiles::in(m_settings);
+    const QStringList files = RecentFiles::present(RecentFiles::in(m_settings));
     for (const QString& file : files) {
-        if (!QFileInfo(file).isFile()) {
-            continue;
-        }
         QString name = QFileInfo(file).fileName();
         QAction* const action = addAction(name.replace(QLatin1Char('&'), QLatin1String("&&")));
         action->setToolTip(asPlainText(QDir::toNativeSeparators(file)));

@@ -276,12 +276,18 @@ void MainWindowSavingTest::nextName_isTheOneOfTheFolder_onceThatIsTyped()
 
 void MainWindowSavingTest::saveDialog_offersTheImageTypes()
 {
-    OpenWindow window;
-    const QFileDialog& dialog = window.find<QFileDialog>("saveDialog");
-    QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
-    QCOMPARE(dialog.nameFilters(), SavePath::nameFilters());
-    QCOMPARE(dialog.nameFilters().mid(0, 4).join(QLatin1Char(';')),
-             QStringLiteral("JPEG (*.jpg *.jpeg);PNG (*.png);BMP (*.bmp);TIFF (*.tif *.tiff)"));
+    Snapshot window;
+    bool isSeen = false;
+    saveWithDialog(window, [&isSeen](QFileDialog& dialog) {
+        isSeen = true;
+        QCOMPARE(dialog.objectName(), QStringLiteral("saveDialog"));
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(dialog.nameFilters(), SavePath::nameFilters());
+        QCOMPARE(dialog.nameFilters().mid(0, 4).join(QLatin1Char(';')),
+                 QStringLiteral("JPEG (*.jpg *.jpeg);PNG (*.png);BMP (*.bmp);TIFF (*.tif *.tiff)"));
+        dialog.reject();
+    });
+    QVERIFY(isSeen);
 }
 
 void MainWindowSavingTest::saveDialog_proposesTheVideosName()
