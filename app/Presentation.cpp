@@ -109,7 +109,9 @@ void Presentation::applyStyleSheet(QApplication& app, const QString& path)
 
 void Presentation::centre(QWidget& widget, const QRect& screen)
 {
-    widget.move((screen.width() - widget.width()) / 2, (screen.height() - widget.height()) / 2);
+    const QPoint middle((screen.width() - widget.width()) / 2,
+                        (screen.height() - widget.height()) / 2);
+    widget.move(screen.topLeft() + middle);
 }
 
 void showMainWindow(QApplication& app, const QStringList& files, const QStringList& news)

@@ -45,7 +45,8 @@ public:
     void removeRows(const QList<QModelIndex>& indexes);
     using QAbstractTableModel::removeRows;
 
-    /// Marks the job as failed for these reasons; an empty text removes the mark.
+    /// Marks the job as failed for these reasons, as a text for tool tips; an empty one removes the
+    /// mark.
     void setFailure(BatchWorkerConfig* config, const QString& reasons);
     /// The jobs marked as failed, in the order of the rows.
     QList<BatchWorkerConfig*> failedConfigs() const;

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void styleSheet_isReadAsLatin1();
     void styleSheet_missing_isNotedAndLeavesTheApplicationUnstyled();
     void centre_putsTheWindowInTheMiddle();
+    void centre_staysOnAScreenBesideAnother();
     void centre_cutsHalfPixels_whenTheWindowIsLargerThanTheScreen();
     void mainWindow_isShownCentredAndStyled_untilTheLoopEnds();
 };
@@ -73,6 +74,14 @@ void PresentationTest::centre_putsTheWindowInTheMiddle()
     window.resize(800, 600);
     Presentation::centre(window, QRect(0, 0, 1920, 1080));
     QCOMPARE(window.pos(), QPoint(560, 240));
+}
+
+void PresentationTest::centre_staysOnAScreenBesideAnother()
+{
+    QWidget window;
+    window.resize(800, 600);
+    Presentation::centre(window, QRect(1920, 120, 1280, 1024));
+    QCOMPARE(window.pos(), QPoint(1920 + 240, 120 + 212));
 }
 
 void PresentationTest::centre_cutsHalfPixels_whenTheWindowIsLargerThanTheScreen()

@@ -148,6 +148,21 @@ class BatchTest(MorvantileCase):
             [f"{name}-{i:05}.jpeg" for name in ("broken", "good") for i in range(1, 5)],
         )
 
+    def test_running_batch_does_not_keep_the_system_from_ending_the_program(self):
+        self.open_batch_mode()
+        self.load(self.sample("h264_gop250.mp4", "a.mp4"))
+        self.program.fill("Folder", str(self.pictures))
+        # 168 images, with a pause after each.
+        self.program.fill("Seconds from image to image", "0.1")
+        self.program.click("push button", "Start")
+        self.program.window(RUN)
+        wait_until(lambda: images_in(self.pictures), "it does not begin")
+        self.program.terminate()
+        self.assertEqual(self.program.wait_for_end(), 0)
+        self.assertLess(len(images_in(self.pictures)), 168)
+        numbers = [frame_in(file) for file in self.pictures.iterdir()]
+        self.assertNotIn(None, numbers)
+
     def test_list_comes_back_after_a_restart(self):
         videos = [self.sample("h264_gop250.mp4", name) for name in ("a.mp4", "b.mp4")]
         self.open_batch_mode()
@@ -167,6 +182,21 @@ class BatchTest(MorvantileCase):
         self.assertEqual(self.column(1), [str(self.videos), str(self.pictures)])
         self.assertEqual(self.column(2), ["Every 5 s", "Every 2 s"])
         self.assertEqual(self.column(4), ["4", "9"])
+
+    def test_list_comes_back_when_the_system_ended_the_program_in_batch_mode(self):
+        videos = [self.sample("h264_gop250.mp4", name) for name in ("a.mp4", "b.mp4")]
+        self.open_batch_mode()
+        self.load(*videos)
+        self.select("b")
+        self.program.fill("Seconds from image to image", "2")
+        self.program.find("label", "About 13 images of 2 videos")
+        self.program.terminate()
+        self.assertEqual(self.program.wait_for_end(), 0)
+
+        self.program = self.start()
+        self.open_batch_mode()
+        wait_until(lambda: self.column(0) == ["a", "b"], lambda: f"listed: {self.column(0)}")
+        self.assertEqual(self.column(2), ["Every 5 s", "Every 2 s"])
 
     # --- what the cases are made of ------------------------------------------------------------
 

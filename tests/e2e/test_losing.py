@@ -32,6 +32,13 @@ class LosingTest(MorvantileCase):
         self.assertEqual(self.program.wait_for_end(), 0)
         self.assertTrue(file.exists())
 
+    def test_quitting_by_the_menu_asks_once(self):
+        self.take_snapshot(self.program)
+        self.program.click("menu item", "File")
+        self.program.click("menu item", "Exit")
+        self.program.click_in(QUESTION, "Discard")
+        self.assertEqual(self.program.wait_for_end(), 0)
+
     def test_quitting_asks_nothing_once_the_snapshot_is_saved(self):
         self.take_snapshot(self.program)
         self.save_as(self.program, self.folder / "saved.png")

@@ -3,7 +3,8 @@
 //
 //   FAULTS_BELOW=/folder   what the rules are for; an absolute path without links
 //   FAULTS=RULE;RULE…      each of settings with commas between them:
-//       call=read|write|open|rename|fsync|close   which kind of call (see the table below)
+//       call=read|write|open|rename|fsync|close   which kind of call (see the table below),
+//            list|stat                            also to list a folder or to ask about a file
 //       error=ENOSPC                              with which error it fails
 //       short=1                                   it does half of what it is to do instead
 //       slow=50                                   it takes so many milliseconds longer
@@ -23,6 +24,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <iterator>
@@ -32,7 +34,7 @@
 
 namespace {
 
-enum class Call { Read, Write, Open, Rename, Sync, Close };
+enum class Call { Read, Write, Open, Rename, Sync, Close, List, Stat };
 
 struct Rule
 {
@@ -57,7 +59,8 @@ struct Word
 
 constexpr Word calls[] = {{"read", int(Call::Read)},  {"write", int(Call::Write)},
                           {"open", int(Call::Open)},  {"rename", int(Call::Rename)},
-                          {"fsync", int(Call::Sync)}, {"close", int(Call::Close)}};
+                          {"fsync", int(Call::Sync)}, {"close", int(Call::Close)},
+                          {"list", int(Call::List)},  {"stat", int(Call::Stat)}};
 constexpr Word errors[] = {{"EIO", EIO},       {"ENOSPC", ENOSPC}, {"EDQUOT", EDQUOT},
                            {"EACCES", EACCES}, {"EROFS", EROFS},   {"EMFILE", EMFILE},
                            {"ENOENT", ENOENT}, {"EINTR", EINTR},   {"ENOMEM", ENOMEM}};
@@ -407,6 +410,40 @@ int linkat(int fromFolder, const char* from, int toFolder, const char* to, int f
     }
 SYNC(fsync)
 SYNC(fdatasync)
+
+DIR* opendir(const char* path)
+{
+    return strikeName(Call::List, AT_FDCWD, path).fails
+               ? nullptr
+               : real<DIR* (*)(const char*)>("opendir")(path);
+}
+
+int statx(int folder, const char* path, int flags, unsigned mask, struct statx* result)
+{
+    return strikeName(Call::Stat, folder, path).fails
+               ? -1
+               : real<int (*)(int, const char*, int, unsigned, struct statx*)>("statx")(
+                     folder, path, flags, mask, result);
+}
+
+#define STAT(name, type)                                                                           \
+    int name(const char* path, struct type* result)                                                \
+    {                                                                                              \
+        return strikeName(Call::Stat, AT_FDCWD, path).fails                                        \
+                   ? -1                                                                            \
+                   : real<int (*)(const char*, struct type*)>(#name)(path, result);                \
+    }
+STAT(stat, stat)
+STAT(lstat, stat)
+STAT(stat64, stat64)
+STAT(lstat64, stat64)
+
+int access(const char* path, int mode)
+{
+    return strikeName(Call::Stat, AT_FDCWD, path).fails
+               ? -1
+               : real<int (*)(const char*, int)>("access")(path, mode);
+}
 
 int close(int file)
 {

@@ -18,10 +18,11 @@ SLOW_MS = 20000
 
 
 class WindowFaults(MorvantileCase):
-    def start_with(self, faults, below):
+    def start_with(self, faults, below, arguments=()):
         """Starts the program with faults for what lies below a folder."""
         self.faults_log = self.folder / "faults.log"
         return self.start(
+            arguments,
             environment={
                 "LD_PRELOAD": os.environ["FAULTS_LIBRARY"],
                 "FAULTS": faults,
@@ -131,6 +132,44 @@ class ReadingFaults(WindowFaults):
         program = self.play("call=read,slow=600000,megabyte=3")
         self.wait_for_fault()
         self.check_answers(program, 2.0)
+        self.desktop.key("alt+F4")
+        self.assertEqual(program.wait_for_end(15), 0)
+
+
+class FolderFaults(WindowFaults):
+    """Disks that answer no question about what is on them."""
+
+    HANG = "slow=600000"
+
+    def test_folder_that_cannot_be_listed_holds_neither_the_window_nor_its_end(self):
+        video = self.sample("h264_gop250.mp4")
+        program = self.start_with(f"call=list,{self.HANG}", self.videos, [str(video)])
+        self.wait_for_fault()
+        self.check_answers(program, 2.0)
+        self.desktop.key("alt+F4")
+        self.assertEqual(program.wait_for_end(15), 0)
+
+    def test_recent_videos_that_cannot_be_asked_about_hold_up_nothing_and_are_offered(self):
+        video = self.sample("h264_gop250.mp4")
+        program = self.start()
+        self.open_paused(program, video)
+        # The next window looks for this folder, too.
+        stills = self.videos / "stills"
+        stills.mkdir()
+        self.take_snapshot(program)
+        self.save_as(program, stills / "kept.png")
+        self.desktop.key("alt+F4")
+        self.assertEqual(program.wait_for_end(), 0)
+
+        program = self.start_with(f"call=stat,{self.HANG}", self.videos)
+        self.wait_for_fault()
+        program.find("push button", video.name)
+        self.check_answers(program, 2.0)
+        program.click("menu item", "File")
+        program.click("menu item", "Open Recent")
+        program.find("menu item", video.name)
+        self.desktop.key("Escape", "Escape")
+        self.check_answers(program, 1.0)
         self.desktop.key("alt+F4")
         self.assertEqual(program.wait_for_end(15), 0)
 

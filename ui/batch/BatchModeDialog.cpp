@@ -68,7 +68,12 @@ BatchModeDialog::BatchModeDialog(QWidget* parent)
     DialogSize::open(*this, openLetters);
 }
 
-BatchModeDialog::~BatchModeDialog() = default;
+BatchModeDialog::~BatchModeDialog()
+{
+    // Its signals would fill the form once more.
+    m_loader->disconnect(this);
+    endList();
+}
 
 void BatchModeDialog::arrangeButtons()
 {

@@ -166,5 +166,5 @@ private:
     QHash<const BatchWorkerConfig*, Rest> m_rests;
     /// True while the program fills the form, so that changes are not treated as user input.
     bool m_isLoading = false;
-    bool m_keepsList = false;
+    bool m_keepsList = false; ///< until the list has ended
 };

@@ -7,6 +7,7 @@
 #include "batch/BatchWorkerConfig.h"
 #include "batch/VideoInfoLoader.h"
 #include "ui/batch/BatchProcessingDialog.h"
+#include "ui/widgets/PlainText.h"
 #include "ui_BatchModeDialog.h"
 
 #include <QDir>
@@ -109,7 +110,7 @@ bool BatchModeDialog::areFoldersUsable(const QList<BatchWorkerConfig*>& jobs)
                                  : tr("These folders for the images do not exist. Create them?");
     QMessageBox box(QMessageBox::Question, tr("Folder does not exist"), question,
                     QMessageBox::Yes | QMessageBox::No, this);
-    box.setInformativeText(namesOf(missing));
+    box.setInformativeText(asPlainText(namesOf(missing)));
     box.setDefaultButton(QMessageBox::Yes);
     if (box.exec() != QMessageBox::Yes) {
         return false;
@@ -118,7 +119,7 @@ bool BatchModeDialog::areFoldersUsable(const QList<BatchWorkerConfig*>& jobs)
         if (!QDir().mkpath(folder)) {
             QMessageBox::warning(
                 this, tr("Folder does not exist"),
-                tr("%1 could not be created.").arg(QDir::toNativeSeparators(folder)));
+                asPlainText(tr("%1 could not be created.").arg(QDir::toNativeSeparators(folder))));
             return false;
         }
     }
@@ -163,7 +164,8 @@ void BatchModeDialog::run(const QList<BatchWorkerConfig*>& jobs, Extent extent)
     for (BatchWorkerConfig* const job : jobs) {
         m_rests.insert(job,
                        {dialog.missedPositions(job).value_or(QVector<qint64>()), samplingOf(*job)});
-        m_model->setFailure(job, dialog.report().causesOf(job).join(QLatin1Char('\n')));
+        m_model->setFailure(job,
+                            asPlainText(dialog.report().causesOf(job).join(QLatin1Char('\n'))));
     }
     // The workers may have corrected intervals.
     showJobsAnew();
@@ -197,10 +199,12 @@ void BatchModeDialog::saveList(const QList<BatchWorkerConfig*>& unread) const
     }
 }
 
-/// Videos that have not been read are read when the list is restored.
+/// Videos that have not been read are read when the list is restored. Closing the dialog ends its
+/// list; where the application ends under it, only the destructor does.
 void BatchModeDialog::endList()
 {
     const QList<BatchWorkerConfig*> unread = m_loader->cancel();
     saveList(unread);
     qDeleteAll(unread);
+    m_keepsList = false;
 }

@@ -4,6 +4,7 @@
 #include "batch/BatchWorkerConfig.h"
 #include "imaging/WriteFailure.h"
 #include "ui/widgets/Announcer.h"
+#include "ui/widgets/PlainText.h"
 #include "ui_BatchProcessingDialog.h"
 
 #include <QCloseEvent>
@@ -109,7 +110,7 @@ bool BatchProcessingDialog::confirmAbort()
 
 bool BatchProcessingDialog::askForRoom(const WriteFailure& failure)
 {
-    QMessageBox box(QMessageBox::Warning, tr("Images Cannot Be Saved"), failure.text(),
+    QMessageBox box(QMessageBox::Warning, tr("Images Cannot Be Saved"), asPlainText(failure.text()),
                     QMessageBox::NoButton, this);
     box.setInformativeText(
         tr("Free some space and try again, or stop. Images that are saved already are kept."));

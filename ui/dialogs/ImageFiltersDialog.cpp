@@ -5,6 +5,7 @@
 #include "profiles/ProfileManager.h"
 #include "ui/dialogs/PreviewMaker.h"
 #include "ui/dialogs/SamplePicture.h"
+#include "ui/widgets/PlainText.h"
 #include "ui_ImageFiltersDialog.h"
 
 #include <chrono>
@@ -79,8 +80,9 @@ void ImageFiltersDialog::setProfile(ImageProfile* profile)
     m_profile = profile;
     m_ui->applyButton->setEnabled(profile != nullptr);
     if (profile != nullptr) {
-        m_ui->applyButton->setToolTip(tr("Put these values into the image profile \u201c%1\u201d")
-                                          .arg(profile->shownName().toHtmlEscaped()));
+        m_ui->applyButton->setToolTip(
+            asPlainText(tr("Put these values into the image profile \u201c%1\u201d")
+                            .arg(profile->shownName())));
         m_ui->brightnessSlider->setValue(neutralPosition + profile->imageBrightness());
         m_ui->contrastSlider->setValue(neutralPosition + profile->imageContrast());
         m_ui->filterComboBox->setCurrentIndex(

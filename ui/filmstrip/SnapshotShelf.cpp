@@ -2,6 +2,7 @@
 
 #include "profiles/ProfileNames.h"
 #include "ui/filmstrip/SnapshotFolder.h"
+#include "ui/widgets/PlainText.h"
 #include "ui/widgets/TaskThread.h"
 #include "ui/widgets/TimeText.h"
 
@@ -450,7 +451,7 @@ QVariant SnapshotShelf::data(const QModelIndex& index, int role) const
     case Qt::AccessibleTextRole:
         return tr("%1, %2, %3, %4").arg(time, profileName, video, state);
     case Qt::ToolTipRole:
-        return tr("%1 at %2\n%3, %4").arg(video, time, profileName, state);
+        return asPlainText(tr("%1 at %2\n%3, %4").arg(video, time, profileName, state));
     case ThumbnailRole:
         return entry.thumbnail;
     case IdRole:

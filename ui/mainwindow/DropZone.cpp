@@ -50,10 +50,13 @@ void DropZone::search(const QStringList& paths)
     m_isSearching = true;
     const int search = ++m_search;
     QTimer::singleShot(m_patience, this, [this, search] { showProgress(search); });
-    m_task.start([this, search, paths](const NewestTask::IsCancelled& isCancelled) {
-        const QStringList videos = DroppedVideos::among(paths, isCancelled);
-        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, search),
-                                  Q_ARG(QStringList, videos));
+    m_task.start([this, search, paths](const DiskTask::Run& run) {
+        const QStringList videos =
+            DroppedVideos::among(paths, [&run] { return run.isCancelled(); });
+        run.answer([&] {
+            QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, search),
+                                      Q_ARG(QStringList, videos));
+        });
     });
 }
 

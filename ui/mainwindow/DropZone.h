@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/widgets/NewestTask.h"
+#include "ui/widgets/DiskTask.h"
 
 #include <QObject>
 #include <QPointer>
@@ -56,6 +56,6 @@ private:
     DropHighlight* const m_highlight;
     QPointer<QProgressDialog> m_progress; ///< exists while a search takes long
     bool m_isSearching = false;
-    int m_search = 0;  ///< changes with each drop
-    NewestTask m_task; ///< last, since its thread calls the other members
+    int m_search = 0; ///< changes with each drop
+    DiskTask m_task;
 };

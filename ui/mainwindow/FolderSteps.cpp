@@ -53,10 +53,12 @@ void FolderSteps::look()
         m_task.cancel();
         return;
     }
-    m_task.start([this, look, video = m_video](const NewestTask::IsCancelled&) {
+    m_task.start([this, look, video = m_video](const DiskTask::Run& run) {
         const VideoNames::Neighbours found = VideoNames::neighboursOf(video);
-        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, look),
-                                  Q_ARG(QString, found.previous), Q_ARG(QString, found.next));
+        run.answer([&] {
+            QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, look),
+                                      Q_ARG(QString, found.previous), Q_ARG(QString, found.next));
+        });
     });
 }
 

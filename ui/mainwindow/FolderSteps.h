@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/widgets/NewestTask.h"
+#include "ui/widgets/DiskTask.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
@@ -42,5 +42,5 @@ private:
     int m_look = 0; ///< changes whenever the folder is read
     QFileSystemWatcher m_watcher;
     QTimer m_settling; ///< limits how often a busy folder is read
-    NewestTask m_task; ///< last, since its thread calls the other members
+    DiskTask m_task;
 };

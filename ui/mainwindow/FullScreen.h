@@ -7,7 +7,8 @@ class QMainWindow;
 class QWidget;
 
 /// Shows a window's player full screen, hiding the other widgets; these return with the normal
-/// window. User-interface thread only.
+/// window. It is the same whether setOn() or the window manager changes the window. User-interface
+/// thread only.
 class FullScreen : public QObject
 {
     Q_OBJECT
@@ -19,10 +20,14 @@ public:
     bool isOn() const { return m_isOn; }
     void setOn(bool on);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     void toggled(bool on);
 
 private:
+    void follow(Qt::WindowStates before);
+
     QMainWindow& m_window;
     const QVector<QWidget*> m_others;
     bool m_isOn = false;

@@ -8,6 +8,7 @@
 #include "ui/mainwindow/FolderSteps.h"
 #include "ui/mainwindow/RecentMenu.h"
 #include "ui/mainwindow/SnapshotPane.h"
+#include "ui/widgets/PlainText.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -150,8 +151,8 @@ void MainWindow::openDropped(const QStringList& videos)
                     this);
     box.setObjectName(QStringLiteral("severalVideosBox"));
     box.setInformativeText(
-        tr("Open the first one, %1, or put all of them into the list of batch mode?")
-            .arg(QFileInfo(videos.first()).fileName()));
+        asPlainText(tr("Open the first one, %1, or put all of them into the list of batch mode?")
+                        .arg(QFileInfo(videos.first()).fileName())));
     QPushButton* const open = box.addButton(tr("Open"), QMessageBox::AcceptRole);
     QPushButton* const batch = box.addButton(tr("Batch"), QMessageBox::AcceptRole);
     box.setDefaultButton(open);
@@ -217,5 +218,6 @@ void MainWindow::quit()
 {
     saveLayout();
     playerPane()->releaseVideo();
-    QCoreApplication::quit();
+    // Not quit(), which in Qt 6 closes the windows first: they would ask once more, or refuse.
+    QCoreApplication::exit(0);
 }

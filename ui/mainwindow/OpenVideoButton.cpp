@@ -1,10 +1,12 @@
 #include "ui/mainwindow/OpenVideoButton.h"
 
+#include "ui/mainwindow/RecentFiles.h"
 #include "ui/mainwindow/ReturnKey.h"
 #include "ui/theme/ActionButton.h"
 #include "ui/theme/Icons.h"
 #include "ui/theme/Spacing.h"
 #include "ui/theme/TextSize.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QDir>
 #include <QEvent>
@@ -76,8 +78,9 @@ void OpenVideoButton::setRecentFiles(const QStringList& paths)
 {
     qDeleteAll(m_entries);
     m_entries.clear();
-    for (const QString& path : paths) {
-        if (m_entries.size() < mostEntries && QFileInfo(path).isFile()) {
+    if (!paths.isEmpty()) {
+        const QStringList present = RecentFiles::present(paths).mid(0, mostEntries);
+        for (const QString& path : present) {
             m_entries.append(makeEntry(path));
         }
     }
@@ -99,7 +102,10 @@ QPushButton* OpenVideoButton::makeEntry(const QString& path)
     entry->setText(shown.replace(QLatin1Char('&'), QLatin1String("&&")));
     entry->setAccessibleName(name);
     entry->setObjectName(QStringLiteral("recentFileButton"));
-    entry->setToolTip(QDir::toNativeSeparators(path));
+    const QString place = QDir::toNativeSeparators(path);
+    entry->setToolTip(asPlainText(place));
+    // By default that is the tool tip, with its markup.
+    entry->setAccessibleDescription(place);
     entry->setFlat(true);
     entry->setFocusPolicy(Qt::TabFocus);
     entry->setCursor(Qt::PointingHandCursor);

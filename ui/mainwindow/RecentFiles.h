@@ -15,6 +15,10 @@ constexpr int most = 10;
 /// The absolute paths, the newest first, including files that no longer exist.
 [[nodiscard]] QStringList in(const QSettings& settings);
 
+/// Those of the files that are there. If the disk does not tell within a moment, they count as
+/// there.
+[[nodiscard]] QStringList present(const QStringList& files);
+
 /// Puts the file at the front.
 void add(QSettings& settings, const QString& path);
 

@@ -1,6 +1,7 @@
 #include "ui/mainwindow/RecentMenu.h"
 
 #include "ui/mainwindow/RecentFiles.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QAction>
 #include <QDir>
@@ -20,14 +21,11 @@ RecentMenu::RecentMenu(QSettings& settings, QWidget* parent)
 void RecentMenu::fill()
 {
     clear();
-    const QStringList files = RecentFiles::in(m_settings);
+    const QStringList files = RecentFiles::present(RecentFiles::in(m_settings));
     for (const QString& file : files) {
-        if (!QFileInfo(file).isFile()) {
-            continue;
-        }
         QString name = QFileInfo(file).fileName();
         QAction* const action = addAction(name.replace(QLatin1Char('&'), QLatin1String("&&")));
-        action->setToolTip(QDir::toNativeSeparators(file));
+        action->setToolTip(asPlainText(QDir::toNativeSeparators(file)));
         connect(action, &QAction::triggered, this, [this, file] { Q_EMIT chosen(file); });
     }
     if (isEmpty()) {

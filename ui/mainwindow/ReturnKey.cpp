@@ -30,7 +30,10 @@ bool press(QObject& control)
 
 void ReturnKey::pressControls(QWidget& widget)
 {
-    auto* const filter = new ReturnKey(&widget);
+    auto* filter = widget.findChild<ReturnKey*>(QString(), Qt::FindDirectChildrenOnly);
+    if (filter == nullptr) {
+        filter = new ReturnKey(&widget);
+    }
     const auto controls = widget.findChildren<QWidget*>();
     for (QWidget* const control : controls) {
         control->installEventFilter(filter);

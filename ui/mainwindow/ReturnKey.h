@@ -11,7 +11,8 @@ class ReturnKey : public QObject
     Q_OBJECT
 
 public:
-    /// Applies to the controls that the widget contains now; lives as long as the widget.
+    /// Applies to the controls that the widget contains now, and may be called again for others;
+    /// lives as long as the widget.
     static void pressControls(QWidget& widget);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -2,6 +2,8 @@
 
 #include "imaging/ImageFormats.h"
 #include "ui/mainwindow/SavePath.h"
+#include "ui/widgets/DiskTask.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -9,10 +11,26 @@
 #include <QMessageBox>
 #include <QSettings>
 
+#include <atomic>
+#include <memory>
+
 namespace {
 
 const QString videoFolderKey = QStringLiteral("lastOpenDir");
 const QString folderKey = QStringLiteral("lastSaveDir");
+
+/// Whether the folder exists, and is not the other one. If the disk does not tell within a moment,
+/// it counts as that, so that the user's choice stays.
+bool isThereBeside(const QDir& other, const QString& folder)
+{
+    const auto answer = std::make_shared<std::atomic<bool>>(true);
+    // Paths, because objects of Qt's folders share what they know.
+    const auto ask = [other = other.path(), folder, answer] {
+        *answer = QDir(folder).exists() && QDir(folder) != QDir(other);
+    };
+    static_cast<void>(DiskTask::endsSoon(ask));
+    return *answer;
+}
 
 } // namespace
 
@@ -24,9 +42,18 @@ SaveDialog::SaveDialog(QSettings& settings)
 
 void SaveDialog::makeIn(QWidget& window)
 {
-    m_dialog = new QFileDialog(&window);
+    m_window = &window;
+}
+
+/// Not made before it is needed: Qt's dialog goes to its own last folder at once, whose disk may
+/// not answer.
+void SaveDialog::prepareDialog()
+{
+    if (m_dialog != nullptr) {
+        return;
+    }
+    m_dialog = new QFileDialog(m_window);
     m_dialog->setObjectName(QStringLiteral("saveDialog"));
-    m_dialog->setDirectory(m_folder.absolutePath());
     m_dialog->setNameFilters(SavePath::nameFilters());
     m_dialog->setAcceptMode(QFileDialog::AcceptSave);
 }
@@ -34,7 +61,7 @@ void SaveDialog::makeIn(QWidget& window)
 void SaveDialog::restoreFolder()
 {
     const QString stored = m_settings.value(folderKey).toString();
-    if (!stored.isEmpty() && QDir(stored).exists()) {
+    if (!stored.isEmpty() && isThereBeside(m_videoFolder, stored)) {
         m_folder = QDir(stored);
     }
 }
@@ -50,7 +77,7 @@ void SaveDialog::followName(const QFileInfo& video)
 
 void SaveDialog::followFolder(const QFileInfo& video)
 {
-    if (m_folder.exists() && m_folder != m_videoFolder) {
+    if (isThereBeside(m_videoFolder, m_folder.path())) {
         return;
     }
     m_videoFolder = video.absoluteDir();
@@ -61,6 +88,7 @@ void SaveDialog::followFolder(const QFileInfo& video)
 
 QString SaveDialog::ask(const QFileInfo& video)
 {
+    prepareDialog();
     m_dialog->setDirectory(m_folder);
     if (!m_nameFilter.isEmpty()) {
         m_dialog->selectNameFilter(m_nameFilter);
@@ -86,9 +114,9 @@ bool SaveDialog::isReplacingWanted(const QString& path) const
         translated(
             QT_TRANSLATE_NOOP("MainWindow", "%1 already exists.\nDo you want to replace it?"))
             .arg(QFileInfo(path).fileName());
-    return QMessageBox::question(m_dialog->parentWidget(),
+    return QMessageBox::question(m_window,
                                  translated(QT_TRANSLATE_NOOP("MainWindow", "Save Snapshot")),
-                                 question, QMessageBox::Yes | QMessageBox::No,
+                                 asPlainText(question), QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No) == QMessageBox::Yes;
 }
 

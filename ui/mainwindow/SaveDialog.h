@@ -19,7 +19,7 @@ public:
     /// The settings outlive the object.
     explicit SaveDialog(QSettings& settings);
 
-    /// Makes the dialog, which belongs to the window: once, before ask().
+    /// Sets the window that the dialog belongs to: once, before ask().
     void makeIn(QWidget& window);
 
     /// Goes to the folder that the last window saved in, if there is such a folder.
@@ -43,11 +43,13 @@ public:
     [[nodiscard]] QString type() const;
 
 private:
+    void prepareDialog();
     void storeFolder();
     [[nodiscard]] bool isReplacingWanted(const QString& path) const;
 
     QSettings& m_settings;
-    QFileDialog* m_dialog = nullptr;
+    QWidget* m_window = nullptr;
+    QFileDialog* m_dialog = nullptr; ///< null until it is needed
     QDir m_videoFolder;
     QDir m_folder;
     QString m_fileName;

@@ -110,14 +110,16 @@ QPixmap ThemeStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* op
     return icon.pixmap(edge, edge);
 }
 
-/// In dialogs, the text of a button is sufficient.
 int ThemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* returnData) const
 {
-    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+    switch (hint) {
+    case SH_DialogButtonBox_ButtonsHaveIcons: // the text of a button is sufficient
+    case SH_ItemView_ActivateItemOnSingleClick:
         return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
     }
-    return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 
 QPalette ThemeStyle::standardPalette() const

@@ -24,6 +24,8 @@ public:
                        const QWidget* widget) const override;
     QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption* option,
                            const QWidget* widget) const override;
+    /// Dialog buttons have no icons. A click activates no item, although it does so elsewhere on
+    /// some desktops: lists here give it another meaning.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returnData) const override;
     QPalette standardPalette() const override;

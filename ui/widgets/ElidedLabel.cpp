@@ -1,5 +1,7 @@
 #include "ui/widgets/ElidedLabel.h"
 
+#include "ui/widgets/PlainText.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -61,10 +63,12 @@ QString ElidedLabel::elidedText() const
 
 QString ElidedLabel::wholeToolTip() const
 {
-    // Explicitly rich text, because otherwise the format is guessed.
+    // Always rich text, so that long lines are broken.
     const QString whole = Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal);
     if (toolTip().isEmpty()) {
         return whole;
     }
-    return elidedText() == text() ? toolTip() : whole + toolTip();
+    return elidedText() == text()
+               ? asPlainText(toolTip())
+               : whole + Qt::convertFromPlainText(toolTip(), Qt::WhiteSpaceNormal);
 }

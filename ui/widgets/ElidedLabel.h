@@ -5,7 +5,8 @@
 
 /// A label for one line of plain text, elided in the middle if there is not enough room. Its tool
 /// tip shows the whole text, followed by its own tool tip if one is set; only the latter if the
-/// label shows everything. It never makes its window wider. User-interface thread only.
+/// label shows everything. Both are plain text. It never makes its window wider. User-interface
+/// thread only.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT

@@ -3,6 +3,7 @@
 #include "ui/widgets/ProfileSelector.h"
 
 #include "profiles/ProfileManager.h"
+#include "ui/widgets/PlainText.h"
 #include "ui_ProfileSelector.h"
 
 #include <QInputDialog>
@@ -50,8 +51,9 @@ bool ProfileSelector::maySave()
     }
     return QMessageBox::question(
                this, tr("Replace Profile"),
-               tr("A profile \u201c%1\u201d exists already. Replace its settings with these?")
-                   .arg(target->shownName()),
+               asPlainText(
+                   tr("A profile \u201c%1\u201d exists already. Replace its settings with these?")
+                       .arg(target->shownName())),
                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
@@ -77,7 +79,7 @@ void ProfileSelector::renameProfile()
     }
     if (isNameTaken(name, profile)) {
         QMessageBox::warning(this, tr("Rename Profile"),
-                             tr("A profile \u201c%1\u201d exists already.").arg(name));
+                             asPlainText(tr("A profile \u201c%1\u201d exists already.").arg(name)));
         return;
     }
     profile->setName(name);
@@ -111,10 +113,10 @@ void ProfileSelector::deleteProfile()
 {
     BaseProfile* const profile = selectedProfile();
     if (profile == nullptr || m_profiles.size() < 2 ||
-        QMessageBox::question(this, tr("Delete Profile"),
-                              tr("Delete the profile \u201c%1\u201d?").arg(profile->shownName()),
-                              QMessageBox::Yes | QMessageBox::No,
-                              QMessageBox::No) != QMessageBox::Yes) {
+        QMessageBox::question(
+            this, tr("Delete Profile"),
+            asPlainText(tr("Delete the profile \u201c%1\u201d?").arg(profile->shownName())),
+            QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes) {
         return;
     }
     if (!m_profileManager->removeProfile(profile)) {

@@ -5,6 +5,7 @@
 #include "tests/ui/batch/ModeDialog.h"
 #include "tests/ui/dialogs/support/DialogDriving.h"
 #include "tests/ui/dialogs/support/ModalScript.h"
+#include "tests/ui/support/ShownText.h"
 #include "ui/batch/BatchProcessingDialog.h"
 
 #include <QDir>
@@ -20,6 +21,7 @@ using testsupport::endBatch;
 using testsupport::ModalScript;
 using testsupport::ModeDialog;
 using testsupport::samplePath;
+using testsupport::shownText;
 using testsupport::writeGrowingVideo;
 
 /// Before and after a batch: the questions asked, and what remains.
@@ -32,12 +34,16 @@ private Q_SLOTS:
     void manyImages_areAskedAbout();
     void missingFolder_isMade_whenWanted();
     void missingFolder_keepsTheBatchFromStarting_whenNotWanted();
+    void folderLikeMarkup_isNamedAsItIs();
+    void failureWithANameLikeMarkup_isShownAsItIs();
     void failedJobs_areMarked_andCanBeRetriedAlone();
     void retry_makesFailedPositionsAlone_data();
     void retry_makesFailedPositionsAlone();
     void outputExample_hasNoNumber_ofASingleShot();
     void editedJob_isNoDefault_untilItIsSaidSo();
     void list_comesBack_alsoWhatWasNotRead();
+    void list_comesBack_whenTheDialogWasNotClosed();
+    void list_isNotStoredAgain_onceTheDialogWasClosed();
     void list_isNotKept_unlessAsked();
 };
 
@@ -56,11 +62,23 @@ bool isMarked(const ModeDialog& mode, int row)
            QLatin1String("Failed");
 }
 
+/// The videos of the listed jobs.
+QStringList sources(const BatchModeDialog& dialog)
+{
+    const auto& model = *static_cast<const BatchModeListModel*>(
+        testsupport::child<QTableView>(dialog, "filesTableView").model());
+    QStringList videos;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        videos.append(model.getConfig(row)->source());
+    }
+    return videos;
+}
+
 /// Expects a question, and stores its text when it is answered.
 void answer(ModalScript& script, QMessageBox::StandardButton button, QString& said)
 {
     script.expect<QMessageBox>([button, &said](QMessageBox& box) {
-        said = box.text() + QLatin1Char('\n') + box.informativeText();
+        said = shownText(box.text()) + QLatin1Char('\n') + shownText(box.informativeText());
         box.button(button)->click();
     });
 }
@@ -143,6 +161,41 @@ void BatchModeDialogRunTest::missingFolder_keepsTheBatchFromStarting_whenNotWant
     mode.click("startButton");
     QVERIFY(script.isDone());
     QVERIFY2(said.contains(QStringLiteral("could not be created")), qPrintable(said));
+}
+
+void BatchModeDialogRunTest::folderLikeMarkup_isNamedAsItIs()
+{
+    ModeDialog mode;
+    mode.load({samplePath(clip)});
+    const QString folder =
+        mode.dir().makeFile(QStringLiteral("no folder<b>")) + QStringLiteral("/new");
+    mode.find<QLineEdit>("fileOutputFolderTextEdit").setText(folder);
+    QString question;
+    QString failure;
+    ModalScript script;
+    answer(script, QMessageBox::Yes, question);
+    answer(script, QMessageBox::Ok, failure);
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    QVERIFY2(question.contains(folder), qPrintable(question));
+    QVERIFY2(failure.contains(folder), qPrintable(failure));
+}
+
+void BatchModeDialogRunTest::failureWithANameLikeMarkup_isShownAsItIs()
+{
+    ModeDialog mode;
+    // Its images would have names that are too long.
+    const QString name = QStringLiteral("a<b>") + QString(246, QLatin1Char('x'));
+    const QString video = mode.dir().filePath(name + QStringLiteral(".mp4"));
+    QVERIFY(QFile::copy(samplePath(clip), video));
+    mode.load({video});
+    mode.click("intervalSingleShotRadioButton");
+    ModalScript script;
+    script.expect<BatchProcessingDialog>(endBatch);
+    mode.click("startButton");
+    QVERIFY(script.isDone());
+    const QString tip = shownText(mode.model().index(0, 0).data(Qt::ToolTipRole).toString());
+    QVERIFY2(tip.contains(name), qPrintable(tip));
 }
 
 void BatchModeDialogRunTest::failedJobs_areMarked_andCanBeRetriedAlone()
@@ -286,6 +339,45 @@ void BatchModeDialogRunTest::list_comesBack_alsoWhatWasNotRead()
     QCOMPARE(model.getConfig(1)->imageProfile()->name(), QStringLiteral("Two"));
     QCOMPARE(model.getConfig(2)->skipFront(), 2000);
     QCOMPARE(model.getConfig(3)->source(), unread);
+}
+
+/// As when the event loop ends under the dialog.
+void BatchModeDialogRunTest::list_comesBack_whenTheDialogWasNotClosed()
+{
+    const ModeDialog mode;
+    const QString unread = samplePath(QStringLiteral("mpeg4.mp4"));
+    {
+        BatchModeDialog ended;
+        ended.keepList();
+        ended.loadVideos({samplePath(clip)});
+        QTRY_VERIFY(!ended.isLoading());
+        ended.loadVideos({unread});
+    }
+    BatchModeDialog next;
+    next.keepList();
+    QTRY_VERIFY(!next.isLoading());
+    QCOMPARE(sources(next), (QStringList{samplePath(clip), unread}));
+}
+
+void BatchModeDialogRunTest::list_isNotStoredAgain_onceTheDialogWasClosed()
+{
+    const ModeDialog mode;
+    {
+        BatchModeDialog closed;
+        closed.keepList();
+        closed.loadVideos({samplePath(clip)});
+        QTRY_VERIFY(!closed.isLoading());
+        closed.done(QDialog::Rejected);
+        BatchModeDialog other;
+        other.keepList();
+        other.loadVideos({samplePath(clip)});
+        QTRY_VERIFY(!other.isLoading());
+        other.done(QDialog::Rejected);
+    }
+    BatchModeDialog next;
+    next.keepList();
+    QTRY_VERIFY(!next.isLoading());
+    QCOMPARE(sources(next), (QStringList{samplePath(clip), samplePath(clip)}));
 }
 
 void BatchModeDialogRunTest::list_isNotKept_unlessAsked()

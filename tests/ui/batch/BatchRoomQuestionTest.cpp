@@ -1,6 +1,7 @@
 #include "ui/batch/BatchProcessingDialog.h"
 
 #include "imaging/WriteFailure.h"
+#include "tests/ui/support/ShownText.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -12,7 +13,7 @@
 
 namespace {
 
-const QString path = QStringLiteral("/mnt/pictures/film-00001.jpg");
+const QString path = QStringLiteral("/mnt/pictures/film<b>-00001.jpg");
 
 /// The failure for a picture without room.
 WriteFailure failure()
@@ -33,7 +34,7 @@ struct Answer
         QTimer::singleShot(0, [this, button] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             QVERIFY(box != nullptr);
-            text = box->text();
+            text = testsupport::shownText(box->text());
             const QList<QAbstractButton*> buttons = box->buttons();
             for (QAbstractButton* const candidate : buttons) {
                 if (candidate->text() == button) {

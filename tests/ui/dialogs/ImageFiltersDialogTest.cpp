@@ -3,6 +3,7 @@
 #include "profiles/ImageProfile.h"
 #include "profiles/ProfileManager.h"
 #include "tests/ui/dialogs/support/TestProfiles.h"
+#include "tests/ui/support/ShownText.h"
 #include "ui/widgets/ComparisonView.h"
 
 #include <QComboBox>
@@ -54,6 +55,8 @@ private Q_SLOTS:
     void values_beginAsInTheProfile();
     void values_goIntoTheProfile_onlyWhenApplied();
     void nothingCanBeApplied_withoutAProfile();
+    void profile_isNamedAsItIs_data();
+    void profile_isNamedAsItIs();
     void draggedValues_outliveTheDialog();
 };
 
@@ -149,6 +152,24 @@ void ImageFiltersDialogTest::nothingCanBeApplied_withoutAProfile()
 {
     const ImageFiltersDialog dialog(nullptr);
     QVERIFY(!dialog.findChild<QPushButton*>(QStringLiteral("applyButton"))->isEnabled());
+}
+
+void ImageFiltersDialogTest::profile_isNamedAsItIs_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("ampersand") << "Tom & Jerry";
+    QTest::newRow("markup") << "a<b>";
+}
+
+void ImageFiltersDialogTest::profile_isNamedAsItIs()
+{
+    QFETCH(const QString, name);
+    const TestProfiles profiles;
+    ImageFiltersDialog dialog(nullptr);
+    dialog.setProfile(&profiles.add<ImageProfile>(name));
+    const auto& button = *dialog.findChild<QPushButton*>(QStringLiteral("applyButton"));
+    const QString shown = testsupport::shownText(button.toolTip());
+    QVERIFY2(shown.contains(name), qPrintable(shown));
 }
 
 void ImageFiltersDialogTest::draggedValues_outliveTheDialog()

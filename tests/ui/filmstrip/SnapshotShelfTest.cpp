@@ -3,6 +3,7 @@
 #include "tests/support/ResourceLimits.h"
 #include "tests/support/TestDir.h"
 #include "tests/ui/filmstrip/Snapshots.h"
+#include "tests/ui/support/ShownText.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void folderOfAnotherShelf_isLeftAlone();
     void damagedList_isToldOnce();
     void times_areThoseOfOneVideo_inOrder();
+    void toolTip_namesVideoAndProfile_alsoLikeMarkup();
     void loading_answersByFailure_whenTheFileIsGone();
 };
 
@@ -273,6 +275,16 @@ void SnapshotShelfTest::times_areThoseOfOneVideo_inOrder()
     }
     QCOMPARE(shelf.timesIn(video), (QVector<qint64>{500, 2000}));
     QVERIFY(shelf.timesIn(QStringLiteral("/videos/other.mp4")).isEmpty());
+}
+
+void SnapshotShelfTest::toolTip_namesVideoAndProfile_alsoLikeMarkup()
+{
+    SnapshotShelf shelf;
+    CapturedPicture picture = pictureAt(1.5);
+    picture.source.video = QStringLiteral("/videos/a<b>.mp4");
+    const QString id = shelf.add(picture, {}, QStringLiteral("<i>mine"));
+    QCOMPARE(shownText(shelf.indexOf(id).data(Qt::ToolTipRole).toString()),
+             QStringLiteral("a<b>.mp4 at 00:00:01.500\n<i>mine, not saved"));
 }
 
 void SnapshotShelfTest::loading_answersByFailure_whenTheFileIsGone()

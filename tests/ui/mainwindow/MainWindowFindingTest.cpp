@@ -5,6 +5,7 @@
 #include "tests/support/Samples.h"
 #include "tests/support/SharpFrames.h"
 #include "tests/support/TestDir.h"
+#include "tests/ui/support/ShownText.h"
 #include "ui/batch/BatchModeDialog.h"
 #include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/BestFramesDialog.h"
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void nextAndPreviousVideo_areOpenedByKeys();
     void nextVideo_isAskedAbout_whenASnapshotWouldBeLost();
     void recentVideo_isOpenedFromTheMenu();
+    void severalVideos_areAskedAbout_withTheNameOfTheFirst();
     void severalVideos_areOpenedOrGoToBatchMode_data();
     void severalVideos_areOpenedOrGoToBatchMode();
     void bestFrame_isTaken();
@@ -192,6 +194,23 @@ void MainWindowFindingTest::recentVideo_isOpenedFromTheMenu()
     QCOMPARE(menu.actions().at(1)->text(), QStringLiteral("a.mp4"));
     menu.actions().at(1)->trigger();
     QCOMPARE(window->currentVideoFilePath(), first);
+}
+
+void MainWindowFindingTest::severalVideos_areAskedAbout_withTheNameOfTheFirst()
+{
+    OpenWindow window;
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(window.dir().makeFile(QStringLiteral("a<b>.mp4"))),
+                  QUrl::fromLocalFile(window.dir().makeFile(QStringLiteral("b.mp4")))});
+    SeenBox box;
+    answerNextBox(QMessageBox::Cancel, box);
+    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QDropEvent drop({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window.window(), &enter);
+    QCoreApplication::sendEvent(&window.window(), &drop);
+    QTRY_VERIFY_WITH_TIMEOUT(!box.text.isEmpty(), patienceMs);
+    const QString shown = shownText(box.informativeText);
+    QVERIFY2(shown.contains(QStringLiteral("a<b>.mp4")), qPrintable(shown));
 }
 
 void MainWindowFindingTest::severalVideos_areOpenedOrGoToBatchMode_data()

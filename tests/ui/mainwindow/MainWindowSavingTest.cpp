@@ -5,6 +5,7 @@
 #include "profiles/ProfileManager.h"
 #include "tests/support/FrameNumber.h"
 #include "tests/support/Samples.h"
+#include "tests/ui/support/ShownText.h"
 #include "ui/mainwindow/SavePath.h"
 
 #include <QtAV/AVPlayer.h>
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void saveDialog_remembersWhatWasSaved();
     void saveDialog_remembersNothing_whenCancelled();
     void saveDialog_asksBeforeReplacing_whenItCompletesTheName();
+    void saveDialog_asksWithTheNameAsItIs();
     void savedElsewhere_staysThere_whenAnotherVideoIsOpened();
     void saveSnapshot_writesTheFile_orSaysThatItCouldNot();
     void savedFile_tellsWhichFrameItIs_andWhatMadeIt();
@@ -274,12 +276,18 @@ void MainWindowSavingTest::nextName_isTheOneOfTheFolder_onceThatIsTyped()
 
 void MainWindowSavingTest::saveDialog_offersTheImageTypes()
 {
-    OpenWindow window;
-    const QFileDialog& dialog = window.find<QFileDialog>("saveDialog");
-    QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
-    QCOMPARE(dialog.nameFilters(), SavePath::nameFilters());
-    QCOMPARE(dialog.nameFilters().mid(0, 4).join(QLatin1Char(';')),
-             QStringLiteral("JPEG (*.jpg *.jpeg);PNG (*.png);BMP (*.bmp);TIFF (*.tif *.tiff)"));
+    Snapshot window;
+    bool isSeen = false;
+    saveWithDialog(window, [&isSeen](QFileDialog& dialog) {
+        isSeen = true;
+        QCOMPARE(dialog.objectName(), QStringLiteral("saveDialog"));
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(dialog.nameFilters(), SavePath::nameFilters());
+        QCOMPARE(dialog.nameFilters().mid(0, 4).join(QLatin1Char(';')),
+                 QStringLiteral("JPEG (*.jpg *.jpeg);PNG (*.png);BMP (*.bmp);TIFF (*.tif *.tiff)"));
+        dialog.reject();
+    });
+    QVERIFY(isSeen);
 }
 
 void MainWindowSavingTest::saveDialog_proposesTheVideosName()
@@ -351,6 +359,19 @@ void MainWindowSavingTest::saveDialog_asksBeforeReplacing_whenItCompletesTheName
         QVERIFY(box.text.startsWith(QStringLiteral("clip.jpg already exists.")));
     }
     QVERIFY(QFileInfo(path).size() > 4);
+}
+
+void MainWindowSavingTest::saveDialog_asksWithTheNameAsItIs()
+{
+    Snapshot window;
+    writeFile(window.dir().filePath(QStringLiteral("a<b>.jpg")), "mine");
+    SeenBox box;
+    saveWithDialog(window, [&box](QFileDialog& dialog) {
+        answerNextBox(QMessageBox::No, box);
+        chooseIn(dialog, QStringLiteral("a<b>"));
+    });
+    const QString shown = shownText(box.text);
+    QVERIFY2(shown.startsWith(QStringLiteral("a<b>.jpg already exists.\n")), qPrintable(shown));
 }
 
 void MainWindowSavingTest::savedElsewhere_staysThere_whenAnotherVideoIsOpened()

@@ -2,7 +2,9 @@
 
 #include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
+#include "tests/support/TestDir.h"
 #include "tests/ui/mainwindow/OpenWindow.h"
+#include "tests/ui/support/ShownText.h"
 #include "ui/mainwindow/RecentFiles.h"
 #include "ui/theme/ActionButton.h"
 #include "ui/widgets/VolumePopup.h"
@@ -10,6 +12,7 @@
 #include <QtAV/AVPlayer.h>
 #include <QtAV/VideoOutput.h>
 
+#include <QApplication>
 #include <QLabel>
 #include <QSettings>
 #include <QSignalSpy>
@@ -79,6 +82,8 @@ class PlayerPaneTest : public QObject
 private Q_SLOTS:
     void emptyPane_requestsAVideo_whenItIsClicked();
     void emptyPane_passesTheRecentFileThatIsChosen();
+    void recentFiles_canBeShownAnyNumberOfTimes();
+    void recentFileLikeMarkup_isNamedAsItIs();
     void openVideo_isShown_withItsDuration();
     void click_pausesThePlayingVideo();
     void slider_seeks_evenWhilePaused();
@@ -110,6 +115,37 @@ void PlayerPaneTest::emptyPane_passesTheRecentFileThatIsChosen()
     pane.find<QPushButton>("recentFileButton").click();
     QTRY_COMPARE_WITH_TIMEOUT(chosen.size(), 1, patienceMs);
     QCOMPARE(chosen.first().first().toString(), samplePath(clip));
+}
+
+void PlayerPaneTest::recentFiles_canBeShownAnyNumberOfTimes()
+{
+    PlayingPane pane;
+    pane.pane.resize(800, 600);
+    QApplication::setActiveWindow(&pane.pane);
+    RecentFiles::add(pane.settings, samplePath(clip));
+    pane.pane.showRecentFiles();
+    const int objects = pane.pane.findChildren<QObject*>().size();
+    pane.pane.showRecentFiles();
+    pane.pane.showRecentFiles();
+    QCOMPARE(int(pane.pane.findChildren<QObject*>().size()), objects);
+    auto& button = pane.find<QPushButton>("recentFileButton");
+    QSignalSpy chosen(&pane.pane, &PlayerPane::fileChosen);
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_Return);
+    QTRY_COMPARE_WITH_TIMEOUT(chosen.size(), 1, patienceMs);
+}
+
+void PlayerPaneTest::recentFileLikeMarkup_isNamedAsItIs()
+{
+    PlayingPane pane;
+    const TestDir dir;
+    const QString film = dir.makeFile(QStringLiteral("a<b>.mp4"));
+    RecentFiles::add(pane.settings, film);
+    pane.pane.showRecentFiles();
+    const auto& button = pane.find<QPushButton>("recentFileButton");
+    QCOMPARE(button.text(), QStringLiteral("a<b>.mp4"));
+    QCOMPARE(shownText(button.toolTip()), film);
+    QCOMPARE(button.accessibleDescription(), film);
 }
 
 void PlayerPaneTest::openVideo_isShown_withItsDuration()

@@ -1,6 +1,7 @@
 #include "ui/mainwindow/RecentMenu.h"
 
 #include "tests/support/TestDir.h"
+#include "tests/ui/support/ShownText.h"
 #include "ui/mainwindow/RecentFiles.h"
 
 #include <QDir>
@@ -17,6 +18,7 @@ class RecentMenuTest : public QObject
 
 private Q_SLOTS:
     void videos_areOffered_theNewestFirst_andChosen();
+    void nameLikeMarkup_isShownAsItIs();
     void videosThatAreGone_areNotOffered();
     void list_isCleared();
 };
@@ -69,6 +71,16 @@ void RecentMenuTest::videos_areOffered_theNewestFirst_andChosen()
     QCOMPARE(chosen.first().first().toString(), both);
     // The next window offers them, too.
     QVERIFY(Menu(dir).menu.isEnabled());
+}
+
+void RecentMenuTest::nameLikeMarkup_isShownAsItIs()
+{
+    const TestDir dir;
+    const QString film = dir.makeFile(QStringLiteral("a<b>.mp4"));
+    Menu menu(dir);
+    menu.menu.note(film);
+    QCOMPARE(menu.texts().first(), QStringLiteral("a<b>.mp4"));
+    QCOMPARE(testsupport::shownText(menu.menu.actions().first()->toolTip()), film);
 }
 
 void RecentMenuTest::videosThatAreGone_areNotOffered()

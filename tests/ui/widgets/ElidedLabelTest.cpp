@@ -1,15 +1,16 @@
 #include "ui/widgets/ElidedLabel.h"
 
 #include "tests/ui/support/Painting.h"
+#include "tests/ui/support/ShownText.h"
 
 #include <QApplication>
 #include <QHelpEvent>
 #include <QTest>
-#include <QTextDocument>
 #include <QToolTip>
 
 using testsupport::paintedBounds;
 using testsupport::paintedBy;
+using testsupport::shownText;
 
 class ElidedLabelTest : public QObject
 {
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void toolTip_isTheWholeText();
     void toolTip_isTheOneThatWasSet_whileTextFits();
     void toolTip_isTextAndTheOneThatWasSet_whenTextIsElided();
+    void toolTipThatWasSet_isPlainText();
     void cleanup() { QToolTip::hideText(); }
 };
 
@@ -36,16 +38,6 @@ QString shownToolTip(ElidedLabel& label)
     QHelpEvent hover(QEvent::ToolTip, middle, label.mapToGlobal(middle));
     QApplication::sendEvent(&label, &hover);
     return QToolTip::text();
-}
-
-/// The visible text of a rich-text tool tip.
-QString asPlainText(const QString& toolTip)
-{
-    QTextDocument document;
-    if (Qt::mightBeRichText(toolTip)) {
-        document.setHtml(toolTip);
-    }
-    return document.toPlainText();
 }
 
 } // namespace
@@ -107,9 +99,9 @@ void ElidedLabelTest::toolTip_isTheWholeText()
     label.resize(120, 20);
     label.show();
     label.setText(longText);
-    QCOMPARE(asPlainText(shownToolTip(label)), longText);
+    QCOMPARE(shownText(shownToolTip(label)), longText);
     label.setText(QStringLiteral("Tom & <b>Jerry</b>"));
-    QCOMPARE(asPlainText(shownToolTip(label)), QStringLiteral("Tom & <b>Jerry</b>"));
+    QCOMPARE(shownText(shownToolTip(label)), QStringLiteral("Tom & <b>Jerry</b>"));
 }
 
 void ElidedLabelTest::toolTip_isTheOneThatWasSet_whileTextFits()
@@ -129,7 +121,20 @@ void ElidedLabelTest::toolTip_isTextAndTheOneThatWasSet_whenTextIsElided()
     label.show();
     label.setText(longText);
     label.setToolTip(QStringLiteral("What it is."));
-    QCOMPARE(asPlainText(shownToolTip(label)), longText + QStringLiteral("\nWhat it is."));
+    QCOMPARE(shownText(shownToolTip(label)), longText + QStringLiteral("\nWhat it is."));
+}
+
+void ElidedLabelTest::toolTipThatWasSet_isPlainText()
+{
+    const QString tip = QStringLiteral("Could not write a<b>.jpg");
+    ElidedLabel label;
+    label.resize(120, 20);
+    label.show();
+    label.setText(QStringLiteral("short"));
+    label.setToolTip(tip);
+    QCOMPARE(shownText(shownToolTip(label)), tip);
+    label.setText(longText);
+    QCOMPARE(shownText(shownToolTip(label)), longText + QLatin1Char('\n') + tip);
 }
 
 QTEST_MAIN(ElidedLabelTest)

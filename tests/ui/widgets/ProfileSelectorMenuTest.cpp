@@ -1,4 +1,5 @@
 #include "tests/ui/dialogs/support/ModalScript.h"
+#include "tests/ui/support/ShownText.h"
 #include "tests/ui/widgets/NameForm.h"
 
 #include <QAction>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void deletedProfile_stays_whenTheQuestionIsDenied();
     void onlyProfile_cannotBeDeleted();
     void menu_offersNothing_withoutAProfile();
+    void nameLikeMarkup_isShownAsItIs_inEveryQuestion();
     void saving_isAskedAbout_whenTheNameIsThatOfAnotherProfile();
 };
 
@@ -50,9 +52,14 @@ void enter(ModalScript& script, const QString& name)
     });
 }
 
-void answer(ModalScript& script, QMessageBox::StandardButton button)
+void answer(ModalScript& script, QMessageBox::StandardButton button, QString* said = nullptr)
 {
-    script.expect<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
+    script.expect<QMessageBox>([button, said](QMessageBox& box) {
+        if (said != nullptr) {
+            *said = testsupport::shownText(box.text());
+        }
+        box.button(button)->click();
+    });
 }
 
 } // namespace
@@ -152,6 +159,28 @@ void ProfileSelectorMenuTest::menu_offersNothing_withoutAProfile()
          {"renameProfileAction", "duplicateProfileAction", "deleteProfileAction"}) {
         QVERIFY2(!action(form, name).isEnabled(), name);
     }
+}
+
+void ProfileSelectorMenuTest::nameLikeMarkup_isShownAsItIs_inEveryQuestion()
+{
+    const QString name = QStringLiteral("a<b>");
+    NameForm form({QStringLiteral("A"), name});
+    QString said;
+    ModalScript script;
+    form.selector().loadProfile(form.profile(0));
+    enter(script, name);
+    answer(script, QMessageBox::Ok, &said);
+    action(form, "renameProfileAction").trigger();
+    QVERIFY2(said.contains(name), qPrintable(said));
+    form.combo().setEditText(name);
+    answer(script, QMessageBox::No, &said);
+    QVERIFY(!form.selector().maySave());
+    QVERIFY2(said.contains(name), qPrintable(said));
+    form.selector().loadProfile(form.profile(1));
+    answer(script, QMessageBox::No, &said);
+    action(form, "deleteProfileAction").trigger();
+    QVERIFY2(said.contains(name), qPrintable(said));
+    QVERIFY(script.isDone());
 }
 
 void ProfileSelectorMenuTest::saving_isAskedAbout_whenTheNameIsThatOfAnotherProfile()
