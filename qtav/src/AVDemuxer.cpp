@@ -68,6 +68,7 @@ public:
 
     bool positioned = false;
     bool lost = false;          ///< reading failed for good or was interrupted: only a seek helps
+    bool interrupted = false;   ///< the last seek or packet
     std::deque<PacketPtr> kept; ///< read by the last seek
     bool fileEnded = false;
     int drainsLeft = 0;
@@ -131,6 +132,7 @@ bool AVDemuxer::Private::seek(qint64 ms)
     }
     KeyFrameSearch search(*video, duration, container->isTransmission() ? usualStepBackMs : 0);
     const PacketAnswer answer = search.run(ms);
+    interrupted = answer == PacketAnswer::Cancelled;
     if (answer != PacketAnswer::Packet) {
         error = container->errorText();
         lost = answer != PacketAnswer::End;
@@ -148,6 +150,7 @@ void AVDemuxer::Private::forgetPackets()
     kept.clear();
     fileEnded = false;
     lost = false;
+    interrupted = false;
     drainsLeft = 0;
     videoPackets = 0;
     packet = Packet();
@@ -404,6 +407,7 @@ bool AVDemuxer::readFrame()
         d->kept.pop_front();
     } else if (!d->fileEnded) {
         const PacketAnswer answer = d->readPacket(fresh);
+        d->interrupted = answer == PacketAnswer::Cancelled;
         if (answer != PacketAnswer::Packet) {
             d->error = d->container->errorText();
         }
@@ -434,6 +438,11 @@ bool AVDemuxer::readFrame()
 bool AVDemuxer::canGoOn() const
 {
     return d->container && !d->lost;
+}
+
+bool AVDemuxer::wasInterrupted() const
+{
+    return d->interrupted;
 }
 
 Packet AVDemuxer::packet() const

@@ -15,7 +15,8 @@ namespace QtAV {
 
 namespace {
 
-/// Reading a packet is abandoned after this time if an interrupt is requested.
+/// Reading a packet is abandoned after this time if an interrupt is requested. Between packets, the
+/// request is noticed after this time.
 constexpr std::chrono::milliseconds longestPacket{100};
 
 template <size_t Count>
@@ -207,6 +208,16 @@ bool Container::isInterrupted()
     return m_wasInterrupted;
 }
 
+/// Many packets that each come at once can take long together. Here an interrupt loses nothing.
+bool Container::isInterruptedBetweenPackets()
+{
+    if (m_began - m_asked >= longestPacket) {
+        m_asked = m_began;
+        m_wasInterrupted = m_isCancelled();
+    }
+    return m_wasInterrupted;
+}
+
 int Container::interrupt(void* container)
 {
     return static_cast<Container*>(container)->isInterrupted() ? 1 : 0;
@@ -312,6 +323,9 @@ PacketAnswer Container::read(PacketPtr& packet)
         return PacketAnswer::Failed;
     }
     begin(Patience::Some);
+    if (isInterruptedBetweenPackets()) {
+        return PacketAnswer::Cancelled;
+    }
     packet = makePacket();
     const int result = av_read_frame(m_format, packet.get());
     if (result < 0) {

@@ -54,7 +54,7 @@ FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
 /// After an interruption, reading restarts at the last delivered frame.
 FrameAnswer FrameReader::lost(const IsCancelled& isCancelled)
 {
-    if (!isCancelled()) {
+    if (!m_demuxer.wasInterrupted() && !isCancelled()) {
         m_isLost = true;
         m_target.reset();
         return FrameAnswer::Failed;
