@@ -1,6 +1,7 @@
 #include "qtav/src/PictureLimit.h"
 
 #include "tests/qtav/Decoding.h"
+#include "tests/qtav/Ivf.h"
 #include "tests/support/GrowingVideo.h"
 #include "tests/support/RunProgram.h"
 
@@ -45,68 +46,15 @@ void makeVideo(const QString& path, const QString& encoder, const QSize& size = 
     }
 }
 
-template <typename Number>
-QByteArray littleEndian(Number number)
-{
-    QByteArray bytes(sizeof(Number), Qt::Uninitialized);
-    qToLittleEndian(number, bytes.data());
-    return bytes;
-}
-
-/// An IVF file: a header, and packets with their times.
-struct Ivf
-{
-    struct Packet
-    {
-        quint64 time;
-        QByteArray data;
-    };
-
-    QByteArray header;
-    QList<Packet> packets;
-};
-
-Ivf readIvf(const QString& path)
-{
-    constexpr int headerBytes = 32;
-    constexpr int packetHeaderBytes = 12;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("%s cannot be read", qUtf8Printable(path));
-    }
-    const QByteArray content = file.readAll();
-    Ivf ivf{content.left(headerBytes), {}};
-    for (int place = headerBytes; place < content.size();) {
-        const auto bytes = int(qFromLittleEndian<quint32>(content.constData() + place));
-        const auto time = qFromLittleEndian<quint64>(content.constData() + place + 4);
-        ivf.packets.append({time, content.mid(place + packetHeaderBytes, bytes)});
-        place += packetHeaderBytes + bytes;
-    }
-    return ivf;
-}
-
-void writeIvf(const QString& path, const Ivf& ivf)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        qFatal("%s cannot be written", qUtf8Printable(path));
-    }
-    file.write(ivf.header);
-    for (const Ivf::Packet& packet : ivf.packets) {
-        file.write(littleEndian(quint32(packet.data.size())) + littleEndian(packet.time) +
-                   packet.data);
-    }
-}
-
 /// Appends the packets of one file to those of another, with later times.
 void appendPackets(const QString& from, const QString& to)
 {
-    Ivf whole = readIvf(to);
+    ivf::File whole = ivf::read(to);
     const auto first = quint64(whole.packets.size());
-    for (const Ivf::Packet& packet : readIvf(from).packets) {
+    for (const ivf::Packet& packet : ivf::read(from).packets) {
         whole.packets.append({first + packet.time, packet.data});
     }
-    writeIvf(to, whole);
+    ivf::write(to, whole);
 }
 
 /// One packet of VP9 with several pictures: those, and an index of their sizes.
@@ -120,7 +68,7 @@ QByteArray superframe(const QList<QByteArray>& pictures)
     QByteArray index = marker;
     for (const QByteArray& picture : pictures) {
         joined += picture;
-        index += littleEndian(quint32(picture.size()));
+        index += ivf::littleEndian(quint32(picture.size()));
     }
     return joined + index + marker;
 }
@@ -128,17 +76,17 @@ QByteArray superframe(const QList<QByteArray>& pictures)
 /// Joins so many packets of an IVF file with VP9 to one each.
 void joinPackets(const QString& path, int together)
 {
-    const Ivf single = readIvf(path);
-    Ivf joined{single.header, {}};
+    const ivf::File single = ivf::read(path);
+    ivf::File joined{single.header, {}};
     QList<QByteArray> pictures;
-    for (const Ivf::Packet& packet : single.packets) {
+    for (const ivf::Packet& packet : single.packets) {
         pictures.append(packet.data);
         if (pictures.size() == together) {
             joined.packets.append({packet.time, superframe(pictures)});
             pictures.clear();
         }
     }
-    writeIvf(path, joined);
+    ivf::write(path, joined);
 }
 
 /// Changes the size that an MP4 or IVF file with AV1 declares outside of the stream.
