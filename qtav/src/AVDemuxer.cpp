@@ -26,7 +26,7 @@ namespace {
 constexpr int mostHeldFrames = 64;
 
 /// Later positions are behind the end of any video. Small enough to avoid overflow.
-constexpr qint64 lastPositionMs = qint64(1) << 40;
+constexpr qint64 lastPositionMs = Timeline::longestMs;
 
 /// An index that ends further before the end of the video does not cover all of it.
 constexpr qint64 longestGroupMs = 20000;
@@ -114,7 +114,7 @@ bool AVDemuxer::Private::load()
 void AVDemuxer::Private::findDuration()
 {
     const DurationProbe::Length length = DurationProbe(*container, video.get()).run();
-    duration = length.ms;
+    duration = std::min(length.ms, Timeline::longestMs);
     if (duration > 0) {
         durationSource = length.isMeasured ? DurationSource::Scan : DurationSource::Header;
     }
@@ -215,7 +215,7 @@ void AVDemuxer::Private::takePacket(PacketPtr source)
     // The file continues behind its supposed end.
     const qint64 ms = toMilliseconds(packet.pts);
     if (ms > duration) {
-        duration = ms + toMilliseconds(packet.duration);
+        duration = std::min(ms + toMilliseconds(packet.duration), Timeline::longestMs);
         durationSource = DurationSource::Scan;
     }
 }

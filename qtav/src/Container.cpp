@@ -444,7 +444,7 @@ qint64 Container::statedDuration() const
     if (m_format->duration == AV_NOPTS_VALUE || isGuess) {
         return 0;
     }
-    return std::max<qint64>(0, m_format->duration / (AV_TIME_BASE / 1000));
+    return std::clamp<qint64>(m_format->duration / (AV_TIME_BASE / 1000), 0, Timeline::longestMs);
 }
 
 bool Container::durationIsMeasured() const
