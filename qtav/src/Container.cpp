@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <mutex>
 #include <vector>
 
 namespace QtAV {
@@ -82,6 +83,19 @@ int findStreamInfo(AVFormatContext& format, const PictureLimit& limit)
     return result;
 }
 
+/// Covers declarations that are not checked explicitly. Applies to the whole process, so it only
+/// rises: another file may be open with a higher limit.
+void allowBlocksOf(size_t bytes)
+{
+    static std::mutex mutex;
+    static size_t largest = 0; // guarded by mutex
+    const std::lock_guard lock(mutex);
+    if (bytes > largest) {
+        largest = bytes;
+        av_max_alloc(largest);
+    }
+}
+
 /// Prevents a file from opening other files.
 int refuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
 {
@@ -100,8 +114,7 @@ std::unique_ptr<Container> Container::open(const QString& path, const IsCancelle
                                            QString& error, const PictureLimit& limit)
 {
     routeFFmpegLog();
-    // Applies to the whole process and covers declarations that are not checked explicitly.
-    av_max_alloc(limit.mostAtOnce());
+    allowBlocksOf(limit.mostAtOnce());
     std::unique_ptr<Container> container(new Container(path));
     container->m_isCancelled = isCancelled;
     container->m_limit = limit;

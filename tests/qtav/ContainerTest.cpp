@@ -108,6 +108,7 @@ private Q_SLOTS:
     void open_takesANameForAName_notForAPattern();
     void open_refusesWhatIsNoRegularFile();
     void open_endsSoon_whenCancelled();
+    void open_leavesOthersTheMemoryThatTheyMayTake();
     void read_tellsTheEnd_fromAFailure();
     void read_fails_whenTheFileIsCutToNothing_data();
     void read_fails_whenTheFileIsCutToNothing();
@@ -190,6 +191,20 @@ void ContainerTest::open_endsSoon_whenCancelled()
     QVERIFY(!Container::open(path, isCancelledNow, error));
     QVERIFY(!error.isEmpty());
     QVERIFY(timer.elapsed() < 1000);
+}
+
+/// FFmpeg has one limit for the whole process.
+void ContainerTest::open_leavesOthersTheMemoryThatTheyMayTake()
+{
+    constexpr qint64 gibibyte = qint64(1) << 30;
+    const QString path = samplePath(QStringLiteral("h264_bframes.mp4"));
+    QString error;
+    const auto large = Container::open(path, never, error, QtAV::PictureLimit(2 * gibibyte));
+    QVERIFY(large);
+    QVERIFY(opened(path));
+    void* const block = av_malloc(gibibyte);
+    QVERIFY(block);
+    av_free(block);
 }
 
 void ContainerTest::read_tellsTheEnd_fromAFailure()
