@@ -311,6 +311,9 @@ bool VideoDecoder::decode(const Packet& packet)
         if (d->start == Private::Start::KeyFrameTaken) {
             succeeded = d->resumeAfterKeyFrame();
         }
+        if (!d->context) {
+            return false;
+        }
         if (isFirstKeyFrame) {
             d->startBehindKeyFrame(*handle->get());
         }
