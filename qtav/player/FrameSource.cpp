@@ -31,6 +31,9 @@ constexpr FrameSource::Rest beforeTurningBack{1000};
 
 constexpr int usualGapMs = 40;
 
+/// Files state rates of less than a frame in a thousand years.
+constexpr double longestIntervalMs = 24.0 * 3600.0 * 1000.0;
+
 } // namespace
 
 FrameSource::FrameSource()
@@ -88,7 +91,7 @@ int FrameSource::frameInterval() const
     if (rate.num <= 0 || rate.den <= 0) {
         return usualGapMs;
     }
-    return std::max(1, qRound(1000.0 * rate.den / rate.num));
+    return qRound(std::clamp(1000.0 * rate.den / rate.num, 1.0, longestIntervalMs));
 }
 
 void FrameSource::setFocus(double seconds)
@@ -125,7 +128,8 @@ void FrameSource::keep()
         m_cache.setFirst(time);
     }
     if (predecessor) {
-        m_longestGapMs = std::max(m_longestGapMs, toMilliseconds(time - *predecessor));
+        const qint64 gapMs = std::min(toMilliseconds(time - *predecessor), Timeline::longestMs);
+        m_longestGapMs = std::max(m_longestGapMs, gapMs);
     }
     if (toMilliseconds(time) >= m_reader.completeFrom() && m_reader.looksAsEver()) {
         m_cache.insert(frame, predecessor);

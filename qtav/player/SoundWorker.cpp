@@ -52,7 +52,7 @@ protected:
 
 private:
     SoundFile& m_file;
-    bool m_hasEnded = false;
+    std::atomic<bool> m_hasEnded{false}; ///< the device may read in a thread of its own
 };
 
 SoundWorker::SoundWorker(SoundDevice::Factory makeDevice)

@@ -26,7 +26,7 @@ namespace {
 constexpr int mostHeldFrames = 64;
 
 /// Later positions are behind the end of any video. Small enough to avoid overflow.
-constexpr qint64 lastPositionMs = qint64(1) << 40;
+constexpr qint64 lastPositionMs = Timeline::longestMs;
 
 /// An index that ends further before the end of the video does not cover all of it.
 constexpr qint64 longestGroupMs = 20000;
@@ -68,6 +68,7 @@ public:
 
     bool positioned = false;
     bool lost = false;          ///< reading failed for good or was interrupted: only a seek helps
+    bool interrupted = false;   ///< the last seek or packet
     std::deque<PacketPtr> kept; ///< read by the last seek
     bool fileEnded = false;
     int drainsLeft = 0;
@@ -113,7 +114,7 @@ bool AVDemuxer::Private::load()
 void AVDemuxer::Private::findDuration()
 {
     const DurationProbe::Length length = DurationProbe(*container, video.get()).run();
-    duration = length.ms;
+    duration = std::min(length.ms, Timeline::longestMs);
     if (duration > 0) {
         durationSource = length.isMeasured ? DurationSource::Scan : DurationSource::Header;
     }
@@ -131,6 +132,7 @@ bool AVDemuxer::Private::seek(qint64 ms)
     }
     KeyFrameSearch search(*video, duration, container->isTransmission() ? usualStepBackMs : 0);
     const PacketAnswer answer = search.run(ms);
+    interrupted = answer == PacketAnswer::Cancelled;
     if (answer != PacketAnswer::Packet) {
         error = container->errorText();
         lost = answer != PacketAnswer::End;
@@ -148,6 +150,7 @@ void AVDemuxer::Private::forgetPackets()
     kept.clear();
     fileEnded = false;
     lost = false;
+    interrupted = false;
     drainsLeft = 0;
     videoPackets = 0;
     packet = Packet();
@@ -212,7 +215,7 @@ void AVDemuxer::Private::takePacket(PacketPtr source)
     // The file continues behind its supposed end.
     const qint64 ms = toMilliseconds(packet.pts);
     if (ms > duration && !packet.isHidden) {
-        duration = ms + toMilliseconds(packet.duration);
+        duration = std::min(ms + toMilliseconds(packet.duration), Timeline::longestMs);
         durationSource = DurationSource::Scan;
     }
 }
@@ -404,6 +407,7 @@ bool AVDemuxer::readFrame()
         d->kept.pop_front();
     } else if (!d->fileEnded) {
         const PacketAnswer answer = d->readPacket(fresh);
+        d->interrupted = answer == PacketAnswer::Cancelled;
         if (answer != PacketAnswer::Packet) {
             d->error = d->container->errorText();
         }
@@ -434,6 +438,11 @@ bool AVDemuxer::readFrame()
 bool AVDemuxer::canGoOn() const
 {
     return d->container && !d->lost;
+}
+
+bool AVDemuxer::wasInterrupted() const
+{
+    return d->interrupted;
 }
 
 Packet AVDemuxer::packet() const

@@ -9,13 +9,15 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <mutex>
 #include <vector>
 
 namespace QtAV {
 
 namespace {
 
-/// Reading a packet is abandoned after this time if an interrupt is requested.
+/// Reading a packet is abandoned after this time if an interrupt is requested. Between packets, the
+/// request is noticed after this time.
 constexpr std::chrono::milliseconds longestPacket{100};
 
 template <size_t Count>
@@ -81,6 +83,19 @@ int findStreamInfo(AVFormatContext& format, const PictureLimit& limit)
     return result;
 }
 
+/// Covers declarations that are not checked explicitly. Applies to the whole process, so it only
+/// rises: another file may be open with a higher limit.
+void allowBlocksOf(size_t bytes)
+{
+    static std::mutex mutex;
+    static size_t largest = 0; // guarded by mutex
+    const std::lock_guard lock(mutex);
+    if (bytes > largest) {
+        largest = bytes;
+        av_max_alloc(largest);
+    }
+}
+
 /// Prevents a file from opening other files.
 int refuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
 {
@@ -99,8 +114,7 @@ std::unique_ptr<Container> Container::open(const QString& path, const IsCancelle
                                            QString& error, const PictureLimit& limit)
 {
     routeFFmpegLog();
-    // Applies to the whole process and covers declarations that are not checked explicitly.
-    av_max_alloc(limit.mostAtOnce());
+    allowBlocksOf(limit.mostAtOnce());
     std::unique_ptr<Container> container(new Container(path));
     container->m_isCancelled = isCancelled;
     container->m_limit = limit;
@@ -204,6 +218,16 @@ bool Container::isInterrupted()
         return false;
     }
     m_wasInterrupted = m_isCancelled();
+    return m_wasInterrupted;
+}
+
+/// Many packets that each come at once can take long together. Here an interrupt loses nothing.
+bool Container::isInterruptedBetweenPackets()
+{
+    if (m_began - m_asked >= longestPacket) {
+        m_asked = m_began;
+        m_wasInterrupted = m_isCancelled();
+    }
     return m_wasInterrupted;
 }
 
@@ -312,6 +336,9 @@ PacketAnswer Container::read(PacketPtr& packet)
         return PacketAnswer::Failed;
     }
     begin(Patience::Some);
+    if (isInterruptedBetweenPackets()) {
+        return PacketAnswer::Cancelled;
+    }
     packet = makePacket();
     const int result = av_read_frame(m_format, packet.get());
     if (result < 0) {
@@ -430,7 +457,7 @@ qint64 Container::statedDuration() const
     if (m_format->duration == AV_NOPTS_VALUE || isGuess) {
         return 0;
     }
-    return std::max<qint64>(0, m_format->duration / (AV_TIME_BASE / 1000));
+    return std::clamp<qint64>(m_format->duration / (AV_TIME_BASE / 1000), 0, Timeline::longestMs);
 }
 
 bool Container::durationIsMeasured() const

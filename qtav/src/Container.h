@@ -22,7 +22,7 @@ enum class PacketAnswer {
     Packet,
     End,
     Failed,    ///< the packet could not be read; the next may be, while canGoOn() is true
-    Cancelled, ///< interrupted; the position in the file is now undefined
+    Cancelled, ///< interrupted; unless canGoOn(), the position in the file is now undefined
 };
 
 /// One open video file: its streams, its packets as they are stored, and FFmpeg's inexact seeks.
@@ -85,7 +85,7 @@ public:
     /// Reads the next packet of any stream.
     [[nodiscard]] PacketAnswer read(PacketPtr& packet);
 
-    /// False if reading failed for good, until the next seek.
+    /// False if reading failed for good or was interrupted within a packet, until the next seek.
     bool canGoOn() const { return !m_isLost; }
 
     /// True if the last operation was interrupted.
@@ -152,6 +152,7 @@ private:
     QVector<Chapter> chapters() const;
     void begin(Patience patience);
     bool isInterrupted();
+    bool isInterruptedBetweenPackets();
     static int interrupt(void* container);
     void forgetFailures();
     [[nodiscard]] PacketAnswer failed(int result);
@@ -161,6 +162,7 @@ private:
     IsCancelled m_isCancelled;
     Patience m_patience = Patience::None;
     std::chrono::steady_clock::time_point m_began;
+    std::chrono::steady_clock::time_point m_asked; ///< between two packets, the last time
     bool m_wasInterrupted = false;
 
     std::unique_ptr<FileInput> m_input;

@@ -3,11 +3,15 @@
 #include "qtav/src/FFmpegCompat.h"
 #include "qtav/src/VideoFramePrivate.h"
 
+#include <cerrno>
 #include <utility>
 
 namespace QtAV {
 
 namespace {
+
+/// What a picture takes beside its pixels.
+constexpr qint64 frameBytes = 2048;
 
 QSize sizeOf(const AVCodecParameters& codec)
 {
@@ -51,9 +55,63 @@ void DecoderMemory::provideFor(AVCodecContext& decoder, int wantedThreads)
     const QSize stored(decoder.width, decoder.height);
     decoder.thread_count = m_limit.threadsFor(decoder.pix_fmt, stored, wantedThreads);
     m_mostHeldBytes = m_limit.heldBytes(decoder.pix_fmt, stored, decoder.thread_count);
+    if (decoder.codec_id == AV_CODEC_ID_AV1) {
+        decoder.max_pixels = m_limit.mostPixels();
+    }
     decoder.opaque = this;
     decoder.get_buffer2 = &DecoderMemory::take;
     allowCallsFromThreads(decoder);
+}
+
+bool DecoderMemory::allowsOutput(const AVFrame& frame)
+{
+    const bool wasChecked = frame.opaque_ref;
+    return wasChecked || (!isLate() && allows({frame.width, frame.height},
+                                              static_cast<AVPixelFormat>(frame.format),
+                                              frame.sample_aspect_ratio));
+}
+
+bool DecoderMemory::keepWaiting(AVFrame& frame)
+{
+    const qint64 bytes =
+        frameBytes + PictureLimit::decodedBytes(static_cast<AVPixelFormat>(frame.format),
+                                                {frame.width, frame.height});
+    return allowsToHold(bytes) && m_held.add(frame, bytes);
+}
+
+/// Without a limit the stream's header, read again, tells the size. That takes no pictures.
+void DecoderMemory::explainOpening(const AVCodec& codec, const AVCodecParameters& stream)
+{
+    if (codec.id != AV_CODEC_ID_AV1) {
+        return;
+    }
+    const CodecContextPtr decoder(avcodec_alloc_context3(&codec));
+    if (!decoder || avcodec_parameters_to_context(decoder.get(), &stream) < 0) {
+        return;
+    }
+    decoder->thread_count = 1;
+    if (avcodec_open2(decoder.get(), &codec, nullptr) >= 0) {
+        static_cast<void>(allows({decoder->width, decoder->height}, decoder->pix_fmt,
+                                 decoder->sample_aspect_ratio));
+    }
+}
+
+void DecoderMemory::explainPacket(int error, AVCodecContext& decoder, const AVPacket& packet)
+{
+    if (error != AVERROR(ERANGE)) {
+        return;
+    }
+    const ParserPtr parser(av_parser_init(decoder.codec_id));
+    if (!parser) {
+        return;
+    }
+    uint8_t* data = nullptr;
+    int size = 0;
+    av_parser_parse2(parser.get(), &decoder, &data, &size, packet.data, packet.size, packet.pts,
+                     packet.dts, packet.pos);
+    static_cast<void>(allows({parser->width, parser->height},
+                             static_cast<AVPixelFormat>(parser->format),
+                             decoder.sample_aspect_ratio));
 }
 
 QString DecoderMemory::refusal() const
@@ -100,7 +158,7 @@ int DecoderMemory::take(AVCodecContext* decoder, AVFrame* frame, int flags)
     if (!self.allows(stored, format, decoder->sample_aspect_ratio) || !self.allowsToHold(bytes)) {
         return AVERROR(ENOMEM);
     }
-    if (self.m_deadline && self.m_deadline->hasPassed()) {
+    if (self.isLate()) {
         return AVERROR_EXIT;
     }
     const int result = avcodec_default_get_buffer2(decoder, frame, flags);

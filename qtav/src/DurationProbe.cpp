@@ -81,8 +81,8 @@ qint64 DurationProbe::endOfPictures(qint64 statedMs)
         if (answer != PacketAnswer::Packet) {
             return end;
         }
-        const qint64 ticks = presentationTicks(*packet) + m_video->frameTicks(*packet);
-        end = std::max(end, m_video->timeline().milliseconds(ticks));
+        end = std::max(end, m_video->timeline().endMilliseconds(presentationTicks(*packet),
+                                                                m_video->frameTicks(*packet)));
     }
 }
 
@@ -163,7 +163,7 @@ DurationProbe::End DurationProbe::readToEnd()
             continue;
         }
         const Timeline timeline = m_container.timeline(stream);
-        end.ms = std::max(end.ms, timeline.milliseconds(ticks + packet->duration));
+        end.ms = std::max(end.ms, timeline.endMilliseconds(ticks, packet->duration));
         if (m_video && stream == m_video->stream()) {
             end.pictureMs = std::max(end.pictureMs, timeline.milliseconds(ticks));
         }

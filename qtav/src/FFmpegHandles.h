@@ -56,6 +56,9 @@ using ParserPtr = std::unique_ptr<AVCodecParserContext, FreeByPointer<av_parser_
 using ResamplerPtr = std::unique_ptr<SwrContext, FreeByAddress<swr_free>>;
 using ScalerPtr = std::unique_ptr<SwsContext, FreeByPointer<sws_freeContext>>;
 
+/// About what a packet takes in memory beside its data.
+constexpr int bytesBesideData = 512;
+
 /// A new, empty packet or frame. Running out of memory for one ends the program, as `new` does.
 PacketPtr makePacket();
 FramePtr makeFrame();

@@ -65,7 +65,8 @@ public:
     [[nodiscard]] bool end();
 
     int file = -1;
-    std::vector<uint8_t> buffer; ///< used only by the thread while a job runs
+    /// Used only by the thread while a job runs. Does not grow: no memory must run out there.
+    std::vector<uint8_t> buffer = std::vector<uint8_t>(bufferBytes);
 
 private:
     std::mutex m_mutex;
@@ -230,9 +231,8 @@ int FileInput::readAt(qint64 position, uint8_t* buffer, int bytes)
         return ready;
     }
     const auto read = [position, bytes](Reader& reader) -> qint64 {
-        reader.buffer.resize(static_cast<size_t>(bytes));
-        const ssize_t got =
-            ::pread(reader.file, reader.buffer.data(), static_cast<size_t>(bytes), position);
+        const size_t part = std::min(static_cast<size_t>(bytes), reader.buffer.size());
+        const ssize_t got = ::pread(reader.file, reader.buffer.data(), part, position);
         return got >= 0 ? got : AVERROR(errno);
     };
     const auto result = static_cast<int>(m_reader->carryOut(read, m_isCancelled));

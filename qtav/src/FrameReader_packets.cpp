@@ -2,6 +2,7 @@
 
 #include <QtAV/Times.h>
 
+#include "qtav/src/FFmpegHandles.h"
 #include "qtav/src/Interruptible.h"
 
 #include <algorithm>
@@ -11,8 +12,13 @@ namespace QtAV {
 
 namespace {
 
-/// Maximum size of what readAhead() keeps while no key frame comes.
+/// Maximum memory for what readAhead() keeps while no key frame comes.
 constexpr qint64 mostAheadBytes = qint64{64} * 1024 * 1024;
+
+qint64 keptBytes(const Packet& packet)
+{
+    return packet.data.size() + bytesBesideData;
+}
 
 } // namespace
 
@@ -54,7 +60,7 @@ FrameAnswer FrameReader::land(const IsCancelled& isCancelled)
 /// After an interruption, reading restarts at the last delivered frame.
 FrameAnswer FrameReader::lost(const IsCancelled& isCancelled)
 {
-    if (!isCancelled()) {
+    if (!m_demuxer.wasInterrupted() && !isCancelled()) {
         m_isLost = true;
         m_target.reset();
         return FrameAnswer::Failed;
@@ -132,7 +138,7 @@ FrameAnswer FrameReader::readAhead(qint64 ms, const IsCancelled& isCancelled)
     };
     qint64 bytes = 0;
     for (size_t i = m_ahead.size(); i-- > 0;) {
-        bytes += m_ahead[i].data.size();
+        bytes += keptBytes(m_ahead[i]);
         if (m_ahead[i].hasKeyFrame && !isBehind(m_ahead[i])) {
             landOnAhead(i);
             break;
@@ -147,7 +153,7 @@ FrameAnswer FrameReader::readAhead(qint64 ms, const IsCancelled& isCancelled)
         if (answer != FrameAnswer::Frame) {
             return answer;
         }
-        bytes += packet.data.size();
+        bytes += keptBytes(packet);
         m_ahead.push_back(std::move(packet));
         if (m_ahead.back().hasKeyFrame && !isBehind(m_ahead.back())) {
             landOnAhead(m_ahead.size() - 1);

@@ -113,7 +113,7 @@ PacketAnswer KeyFrameSearch::scan(Accept accept)
 /// Returns false if the maximum is reached.
 bool KeyFrameSearch::keep(PacketPtr packet)
 {
-    m_keptBytes += packet->size;
+    m_keptBytes += packet->size + bytesBesideData;
     m_packets.push_back(std::move(packet));
     return m_keptBytes < m_mostKeptBytes;
 }

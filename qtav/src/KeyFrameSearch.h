@@ -16,8 +16,8 @@ namespace QtAV {
 class KeyFrameSearch
 {
 public:
-    /// Maximum size of the packets kept of one group of pictures. Beyond that the first key frame
-    /// found is taken, even if a later one might follow: decoding from there reaches the same
+    /// Maximum memory for the packets kept of one group of pictures. Beyond that the first key
+    /// frame found is taken, even if a later one might follow: decoding from there reaches the same
     /// frames.
     static constexpr qint64 maximumKeptBytes = qint64(256) << 20;
 

@@ -56,10 +56,11 @@ bool isIntraSlice(const NalUnits::Unit& unit)
     return type == 2 || type == 4;
 }
 
-/// A number coded as bytes of 255 followed by a smaller one.
-int messageNumber(const NalUnits::Unit& unit, qsizetype& place)
+/// A number coded as bytes of 255 followed by a smaller one. The bytes of a damaged packet can add
+/// up to more than 31 bits hold.
+qint64 messageNumber(const NalUnits::Unit& unit, qsizetype& place)
 {
-    int number = 0;
+    qint64 number = 0;
     while (place < unit.size && unit.data[place] == 255) {
         number += 255;
         ++place;
@@ -71,12 +72,15 @@ bool announcesRecovery(const NalUnits::Unit& unit, qsizetype headerBytes)
 {
     // Each message has a type and a length; two bytes end the last one.
     for (qsizetype place = headerBytes; place + 2 < unit.size;) {
-        const int type = messageNumber(unit, place);
-        const int length = messageNumber(unit, place);
+        const qint64 type = messageNumber(unit, place);
+        const qint64 length = messageNumber(unit, place);
         if (type == recoveryPoint) {
             return true;
         }
-        place += length;
+        if (length > unit.size - place) {
+            return false;
+        }
+        place += static_cast<qsizetype>(length);
     }
     return false;
 }

@@ -61,6 +61,16 @@ double Timeline::seconds(qint64 ticks) const
     return result;
 }
 
+double Timeline::lengthSeconds(qint64 ticks) const
+{
+    return std::min(double(ticks) * av_q2d(m_timeBase), double(longestMs) / 1000.0);
+}
+
+qint64 Timeline::endMilliseconds(qint64 ticks, qint64 length) const
+{
+    return std::min(milliseconds(narrowed(ticks) + narrowed(length)), longestMs);
+}
+
 qint64 Timeline::lastTickOf(qint64 ms) const
 {
     // The first tick of the next millisecond, rounded up, less one.

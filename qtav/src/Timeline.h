@@ -30,8 +30,14 @@ public:
     /// The last tick whose whole milliseconds are `ms`.
     qint64 lastTickOf(qint64 ms) const;
 
-    /// A duration in seconds.
-    double lengthSeconds(qint64 ticks) const { return double(ticks) * av_q2d(m_timeBase); }
+    /// No length is longer: files state anything, and calculations need room.
+    static constexpr qint64 longestMs = qint64(1) << 40;
+
+    /// A duration in seconds, at most longestMs.
+    double lengthSeconds(qint64 ticks) const;
+
+    /// Where something ends that begins at these ticks, in whole milliseconds, at most longestMs.
+    qint64 endMilliseconds(qint64 ticks, qint64 length) const;
 
     AVRational timeBase() const { return m_timeBase; }
 

@@ -76,9 +76,9 @@ public:
     void startBehindKeyFrame(const AVPacket& packet);
     bool startAtKeyFrame(const Packet& packet);
     bool resumeAfterKeyFrame();
-    void drain(bool& failed);
-    void receiveAll(bool& failed);
-    void deliver(FramePtr frame);
+    bool drain(bool& failed);
+    bool receiveAll(bool& failed);
+    bool deliver(FramePtr frame);
     void restart();
     void applySkipOptions() const;
     void watchSubLayers(const AVPacket& packet);
@@ -179,6 +179,7 @@ bool VideoDecoder::Private::openContext()
     opened->flags |= AV_CODEC_FLAG_UNALIGNED;
     opened->flags |= decodesOneAtATime ? AV_CODEC_FLAG_LOW_DELAY : 0;
     if (avcodec_open2(opened.get(), codec, nullptr) < 0) {
+        memory.explainOpening(*codec, *parameters->codec);
         return false;
     }
     context = std::move(opened);
@@ -310,6 +311,9 @@ bool VideoDecoder::decode(const Packet& packet)
         if (d->start == Private::Start::KeyFrameTaken) {
             succeeded = d->resumeAfterKeyFrame();
         }
+        if (!d->context) {
+            return false;
+        }
         if (isFirstKeyFrame) {
             d->startBehindKeyFrame(*handle->get());
         }
@@ -322,6 +326,7 @@ bool VideoDecoder::decode(const Packet& packet)
     if (succeeded && !d->frames.empty()) {
         d->current = std::move(d->frames.front());
         d->frames.pop_front();
+        HeldPictures::giveAway(*VideoFramePrivate::of(d->current)->frame);
     }
     return succeeded;
 }
@@ -387,20 +392,24 @@ bool VideoDecoder::Private::sendAndReceive(const AVPacket* packet)
         draining = false;
     }
     bool failed = false;
+    bool isRefused = false;
     if (packet && sequenceChange.isAt(*packet)) {
-        drain(failed);
+        isRefused = !drain(failed);
     }
     if (packet || !draining) {
         const int result = avcodec_send_packet(context.get(), packet);
         failed = result < 0 && result != AVERROR_EOF;
         draining = !packet;
+        if (packet) {
+            memory.explainPacket(result, *context, *packet);
+        }
     }
-    receiveAll(failed);
+    isRefused = !receiveAll(failed) || isRefused;
     const bool mayGetStuck = context->codec_id == AV_CODEC_ID_AV1 && context->thread_count != 1;
     if (failed && mayGetStuck && !decodesOneAtATime) {
         leaveStuckThreads();
     }
-    return !failed;
+    return !failed && !isRefused;
 }
 
 /// After an error in AV1, the decoder's threads may wait for each other for ever when they are
@@ -416,32 +425,36 @@ void VideoDecoder::Private::leaveStuckThreads()
     }
 }
 
-/// Releases all frames held and prepares the decoder for a new start.
-void VideoDecoder::Private::drain(bool& failed)
+/// Releases all frames held and prepares the decoder for a new start. Returns false if one was
+/// refused.
+bool VideoDecoder::Private::drain(bool& failed)
 {
-    if (avcodec_send_packet(context.get(), nullptr) >= 0) {
-        receiveAll(failed);
-    }
+    const bool isRefused = avcodec_send_packet(context.get(), nullptr) >= 0 && !receiveAll(failed);
     avcodec_flush_buffers(context.get());
+    return !isRefused;
 }
 
-void VideoDecoder::Private::receiveAll(bool& failed)
+/// Returns false if a picture was refused.
+bool VideoDecoder::Private::receiveAll(bool& failed)
 {
     for (;;) {
         FramePtr frame = makeFrame();
         const int result = avcodec_receive_frame(context.get(), frame.get());
         if (result == AVERROR(EAGAIN) || result == AVERROR_EOF) {
-            return;
+            return true;
         }
         if (result < 0) {
             failed = true;
-            return;
+            return true;
         }
-        deliver(std::move(frame));
+        if (!memory.allowsOutput(*frame) || !deliver(std::move(frame))) {
+            return false;
+        }
     }
 }
 
-void VideoDecoder::Private::deliver(FramePtr frame)
+/// Returns false if too many pictures wait. One packet can give any number of them.
+bool VideoDecoder::Private::deliver(FramePtr frame)
 {
     HeldPictures::giveAway(*frame);
     const bool hasTime = frame->best_effort_timestamp != AV_NOPTS_VALUE;
@@ -451,7 +464,10 @@ void VideoDecoder::Private::deliver(FramePtr frame)
         if (ticks == repeatedTicks) {
             repeatedTicks = AV_NOPTS_VALUE;
         }
-        return;
+        return true;
+    }
+    if (!frames.empty() && !memory.keepWaiting(*frame)) {
+        return false;
     }
     repeatedTicks = AV_NOPTS_VALUE;
     lastTicks = ticks;
@@ -462,6 +478,7 @@ void VideoDecoder::Private::deliver(FramePtr frame)
         cutTo(*parameters->cleanAperture, *frame, *parameters->codec);
     }
     frames.emplace_back(new VideoFramePrivate(std::move(frame), ticks, parameters, converter));
+    return true;
 }
 
 VideoFrame VideoDecoder::frame()

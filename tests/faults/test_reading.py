@@ -56,6 +56,16 @@ class Reading(FaultCase):
         # One read is in the way of the end.
         self.assertLess(time.monotonic() - began, 20)
 
+    def test_opening_that_reads_all_of_a_slow_file_is_given_up(self):
+        video = self.videos / "video.h264"
+        whole = pathlib.Path(sample("raw.h264")).read_bytes()
+        video.write_bytes(whole * (16 * 2**20 // len(whole)))
+        result = self.stills(video, "-c1", "--position-timeout", "300ms", "-o", self.out,
+                             below=self.videos, faults="call=read,slow=20")
+        self.check_told(result, "Given up after 0.3 seconds")
+        # It has 256 blocks to read.
+        self.assertLess(len(result.faults), 150, str(result))
+
     def test_slow_positions_end_with_the_rest_given_up(self):
         # Opening is quick, and what is read then is not.
         result = self.stills(self.video, "-c40", "-j1", "--position-timeout", "200ms", "-o",

@@ -21,6 +21,9 @@ using testsupport::TestDir;
 
 namespace {
 
+/// After this time an interrupt takes effect.
+constexpr std::chrono::milliseconds timeToTakeEffect{150};
+
 std::unique_ptr<Container> opened(const QString& path)
 {
     QString error;
@@ -79,6 +82,20 @@ void growEndless(const QString& path)
     }
 }
 
+/// Reads a file that grew endless, and cancels while FFmpeg searches for the next packet.
+void readUntilCancelled(Container& container, PacketAnswer& last)
+{
+    std::atomic<bool> isCancelled{false};
+    container.setInterrupt([&isCancelled] { return isCancelled.load(); });
+    std::thread canceller([&isCancelled] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        isCancelled = true;
+    });
+    readAll(container, last);
+    canceller.join();
+    container.setInterrupt(never);
+}
+
 } // namespace
 
 class ContainerTest : public QObject
@@ -91,9 +108,11 @@ private Q_SLOTS:
     void open_takesANameForAName_notForAPattern();
     void open_refusesWhatIsNoRegularFile();
     void open_endsSoon_whenCancelled();
+    void open_leavesOthersTheMemoryThatTheyMayTake();
     void read_tellsTheEnd_fromAFailure();
     void read_fails_whenTheFileIsCutToNothing_data();
     void read_fails_whenTheFileIsCutToNothing();
+    void read_isCancelled_betweenPacketsThatComeAtOnce();
     void read_isCancelled_inAPacketThatTakesLong();
     void reopen_startsAgain();
     void reopen_keepsWhatThereWas_whenOtherStreamsAreThere();
@@ -174,6 +193,20 @@ void ContainerTest::open_endsSoon_whenCancelled()
     QVERIFY(timer.elapsed() < 1000);
 }
 
+/// FFmpeg has one limit for the whole process.
+void ContainerTest::open_leavesOthersTheMemoryThatTheyMayTake()
+{
+    constexpr qint64 gibibyte = qint64(1) << 30;
+    const QString path = samplePath(QStringLiteral("h264_bframes.mp4"));
+    QString error;
+    const auto large = Container::open(path, never, error, QtAV::PictureLimit(2 * gibibyte));
+    QVERIFY(large);
+    QVERIFY(opened(path));
+    void* const block = av_malloc(gibibyte);
+    QVERIFY(block);
+    av_free(block);
+}
+
 void ContainerTest::read_tellsTheEnd_fromAFailure()
 {
     const auto container = opened(samplePath(QStringLiteral("h264_bframes.mp4")));
@@ -214,6 +247,26 @@ void ContainerTest::read_fails_whenTheFileIsCutToNothing()
     QVERIFY(container->isOverwritten());
 }
 
+/// Nothing was read, so reading can go on where it was.
+void ContainerTest::read_isCancelled_betweenPacketsThatComeAtOnce()
+{
+    const auto container = opened(samplePath(QStringLiteral("h264_bframes.mkv")));
+    QVERIFY(container);
+    PacketAnswer last = PacketAnswer::Failed;
+    const int all = readAll(*container, last);
+    QVERIFY(container->seekNear(container->videoStreams().first(), 0));
+    PacketPtr packet;
+    QCOMPARE(container->read(packet), PacketAnswer::Packet);
+    container->setInterrupt([] { return true; });
+    std::this_thread::sleep_for(timeToTakeEffect);
+    QCOMPARE(container->read(packet), PacketAnswer::Cancelled);
+    QVERIFY(container->wasInterrupted());
+    QVERIFY(container->canGoOn());
+    container->setInterrupt(never);
+    QCOMPARE(readAll(*container, last), all - 1);
+    QCOMPARE(last, PacketAnswer::End);
+}
+
 void ContainerTest::read_isCancelled_inAPacketThatTakesLong()
 {
     const TestDir dir;
@@ -221,18 +274,11 @@ void ContainerTest::read_isCancelled_inAPacketThatTakesLong()
     const auto container = opened(path);
     QVERIFY(container);
     growEndless(path);
-    std::atomic<bool> isCancelled{false};
-    container->setInterrupt([&isCancelled] { return isCancelled.load(); });
-    std::thread canceller([&isCancelled] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(200));
-        isCancelled = true;
-    });
     QElapsedTimer timer;
     timer.start();
     PacketAnswer last = PacketAnswer::Packet;
-    readAll(*container, last);
+    readUntilCancelled(*container, last);
     const qint64 elapsed = timer.elapsed();
-    canceller.join();
     QCOMPARE(last, PacketAnswer::Cancelled);
     QVERIFY(!container->canGoOn());
     QVERIFY2(elapsed < 2000, qPrintable(QString::number(elapsed)));
@@ -292,11 +338,10 @@ void ContainerTest::seek_makesReadingPossibleAgain_afterACancelledRead()
     const auto container = opened(path);
     QVERIFY(container);
     growEndless(path);
-    container->setInterrupt([] { return true; });
     PacketAnswer last = PacketAnswer::Packet;
-    readAll(*container, last);
+    readUntilCancelled(*container, last);
     QCOMPARE(last, PacketAnswer::Cancelled);
-    container->setInterrupt(never);
+    QVERIFY(!container->canGoOn());
     QVERIFY(container->seekNear(container->videoStreams().first(), 0));
     PacketPtr packet;
     QCOMPARE(container->read(packet), PacketAnswer::Packet);

@@ -1,6 +1,8 @@
 #include <QtAV/FrameReader.h>
 
 #include "tests/qtav/Decoding.h"
+#include "tests/qtav/Ivf.h"
+#include "tests/support/RunProgram.h"
 #include "tests/support/Sanitizers.h"
 #include "tests/support/TestDir.h"
 
@@ -58,6 +60,7 @@ private Q_SLOTS:
     void find_givesTheLastFrame_behindTheEnd();
     void find_isCancelled_beforeItBegins();
     void longestGroup_isKnown_fromThePacketsRead();
+    void readAhead_keepsLittle_ofManySmallPackets();
     void open_fails_withAText();
     void frames_fail_whenTheFileIsOverwritten_data();
     void frames_fail_whenTheFileIsOverwritten();
@@ -219,6 +222,37 @@ void FrameReaderTest::longestGroup_isKnown_fromThePacketsRead()
 
     QCOMPARE(openError(reader, samplePath(QStringLiteral("h264_2fps.ts"))), QString());
     QVERIFY(!reader.longestGroupMs());
+}
+
+/// Each costs more than its data.
+void FrameReaderTest::readAhead_keepsLittle_ofManySmallPackets()
+{
+    constexpr int packets = 200000;
+    const TestDir dir;
+    const QString path = dir.filePath(QStringLiteral("packets.ivf"));
+    const QString command = QStringLiteral("-v error -f lavfi -i color=size=16x16:rate=25 "
+                                           "-frames:v 2 -c:v libvpx");
+    const auto made = testsupport::runProgram(QStringLiteral("ffmpeg"),
+                                              command.split(QLatin1Char(' ')) + QStringList{path});
+    QVERIFY2(made.succeeded(), made.standardError.constData());
+    ivf::File file = ivf::read(path);
+    QCOMPARE(file.packets.size(), 2);
+    const QByteArray small = file.packets.constLast().data;
+    QVERIFY(small.size() < 100);
+    while (file.packets.size() < packets) {
+        file.packets.append({quint64(file.packets.size()), small});
+    }
+    ivf::write(path, file);
+    FrameReader reader;
+    QCOMPARE(openError(reader, path), QString());
+    QCOMPARE(reader.next(never).answer, FrameAnswer::Frame);
+    int asked = 0;
+    const auto counting = [&asked] {
+        ++asked;
+        return false;
+    };
+    QCOMPARE(reader.readAhead(reader.demuxer().duration(), counting), FrameAnswer::Frame);
+    QVERIFY2(asked > 1000 && asked < packets * 3 / 4, QByteArray::number(asked).constData());
 }
 
 void FrameReaderTest::open_fails_withAText()

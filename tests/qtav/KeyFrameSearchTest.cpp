@@ -1,17 +1,12 @@
 #include "qtav/src/KeyFrameSearch.h"
 
 #include "tests/qtav/PacketReading.h"
+#include "tests/qtav/PretendedDisk.h"
 #include "tests/support/Samples.h"
 
 #include <QTest>
 
 #include <algorithm>
-#include <atomic>
-#include <cerrno>
-#include <chrono>
-#include <dlfcn.h>
-#include <sys/uio.h>
-#include <thread>
 
 using packetreading::addFiles;
 using packetreading::OpenVideo;
@@ -29,46 +24,7 @@ qint64 durationMs(const Sample& sample)
     return frameTimeMs(sample, sample.frames - 1) + 40;
 }
 
-/// While true, nothing is cached in memory and the disk does not answer.
-std::atomic<bool> diskHangs{false};
-
-/// Makes the disk hang during its lifetime.
-class HangingDisk
-{
-public:
-    HangingDisk() { diskHangs = true; }
-    ~HangingDisk() { diskHangs = false; }
-    HangingDisk(const HangingDisk&) = delete;
-    HangingDisk& operator=(const HangingDisk&) = delete;
-};
-
-template <typename Function>
-Function* systemsOwn(const char* name)
-{
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
-
 } // namespace
-
-// These functions replace the system's in this program.
-extern "C" ssize_t pread(int file, void* buffer, size_t bytes, off_t position)
-{
-    static const auto original = systemsOwn<decltype(pread)>("pread");
-    while (diskHangs) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    }
-    return original(file, buffer, bytes, position);
-}
-
-extern "C" ssize_t preadv2(int file, const iovec* parts, int count, off_t position, int flags)
-{
-    static const auto original = systemsOwn<decltype(preadv2)>("preadv2");
-    if (diskHangs) {
-        errno = EAGAIN;
-        return -1;
-    }
-    return original(file, parts, count, position, flags);
-}
 
 /// The search for the key frame from which a position is decoded.
 class KeyFrameSearchTest : public QObject
@@ -268,7 +224,7 @@ void KeyFrameSearchTest::memory_isLimited_alsoForPacketsOfOtherStreams()
     qint64 bytes = 0;
     for (const QtAV::PacketPtr& packet : search.packets()) {
         QVERIFY2(bytes < limit, "more was read than may be kept");
-        bytes += packet->size;
+        bytes += packet->size + QtAV::bytesBesideData;
     }
     QVERIFY(bytes >= limit);
 }
@@ -288,7 +244,7 @@ void KeyFrameSearchTest::search_isCancelled_whileTheDiskHangs()
     const QList<Read> all = video.readRest(); // so that no buffer holds the target
     video.container->setInterrupt([] { return true; });
     {
-        const HangingDisk disk;
+        const pretended::HangingDisk disk;
         KeyFrameSearch cancelled(video.packets, durationMs(sample), 0);
         QCOMPARE(cancelled.run(500), PacketAnswer::Cancelled);
         QVERIFY(video.packets.wasInterrupted());

@@ -113,6 +113,8 @@ class KeyPicturesTest : public QObject
 private slots:
     void bitstream_decides_data();
     void bitstream_decides();
+    void longNumbersInMessages_endWithTheirUnit_data();
+    void longNumbersInMessages_endWithTheirUnit();
     void noData_isNoKeyPicture();
     void otherCodecs_countAsKey();
     void keyPictures_areThoseThatTheContainerFlags_data();
@@ -140,6 +142,25 @@ void KeyPicturesTest::bitstream_decides()
     QFETCH(QByteArray, packet);
     const auto pictures = madeFor<KeyPictures>(static_cast<AVCodecID>(codec), lengthBytes);
     QTEST(isIn(pictures, packet), "isKey");
+}
+
+void KeyPicturesTest::longNumbersInMessages_endWithTheirUnit_data()
+{
+    QTest::addColumn<bool>("isOfType");
+    QTest::newRow("length") << false;
+    QTest::newRow("type") << true;
+}
+
+/// So many bytes of 255 that their sum exceeds 31 bits.
+void KeyPicturesTest::longNumbersInMessages_endWithTheirUnit()
+{
+    QFETCH(const bool, isOfType);
+    constexpr int manyBytes = 8421505 + 255;
+    const QByteArray marker = QByteArray::fromHex("000001");
+    const QByteArray message = QByteArray(1, '\x06') + QByteArray(isOfType ? 0 : 1, '\x05') +
+                               QByteArray(manyBytes, '\xff') + QByteArray(64, '\x02');
+    const QByteArray packet = marker + message + marker + QByteArray::fromHex("41c004");
+    QVERIFY(!isIn(madeFor<KeyPictures>(AV_CODEC_ID_H264), packet));
 }
 
 void KeyPicturesTest::noData_isNoKeyPicture()

@@ -21,6 +21,7 @@ private slots:
     void lastTickOf_isTheLastOneOfItsMillisecond();
     void times_stayFinite_forAbsurdTicks();
     void seconds_end_whereNumbersGetCoarse();
+    void lengths_stayUsable_forAbsurdTicks();
 };
 
 void TimelineTest::milliseconds_areCutOff_notRounded()
@@ -116,6 +117,17 @@ void TimelineTest::seconds_end_whereNumbersGetCoarse()
             QCOMPARE(static_cast<qint64>(timeline.seconds(ticks) * 1000.0), ms);
         }
     }
+}
+
+/// Whole milliseconds of a length and of an end have room for calculations.
+void TimelineTest::lengths_stayUsable_forAbsurdTicks()
+{
+    constexpr qint64 most = std::numeric_limits<qint64>::max();
+    const Timeline timeline({std::numeric_limits<int>::max(), 1}, 0, {1, 1});
+    QCOMPARE(static_cast<qint64>(timeline.lengthSeconds(most) * 1000.0), qint64(1) << 40);
+    QCOMPARE(timeline.endMilliseconds(most, most), qint64(1) << 40);
+    QCOMPARE(Timeline({1, 1000}, 0, {1, 1000}).endMilliseconds(40, 20), qint64(60));
+    QCOMPARE(Timeline({1, 1000}, 0, {1, 1000}).lengthSeconds(20), 0.02);
 }
 
 QTEST_GUILESS_MAIN(TimelineTest)

@@ -129,8 +129,12 @@ public:
     /// failed; atEnd() tells these apart.
     [[nodiscard]] bool readFrame();
 
-    /// False after reading failed for good or was interrupted. Only seek() and load() help then.
+    /// False after reading failed for good or was interrupted within a packet. Only seek() and
+    /// load() help then.
     bool canGoOn() const;
+
+    /// True if the last seek() or readFrame() was interrupted.
+    bool wasInterrupted() const;
 
     /// The packet that readFrame() read last.
     Packet packet() const;

@@ -36,8 +36,8 @@ public:
 
     /// Memory limit for one picture in bytes (see usualPictureBytes), from the next open() on.
     /// Larger pictures are refused, where the stream declares them by open() itself; and so is a
-    /// picture when those that the decoder keeps for others would take more than twice as much,
-    /// beside one for each of its threads.
+    /// picture when those that the decoder keeps for others, and those that wait for decode() to be
+    /// called again, would take more than twice as much, beside one for each of its threads.
     void setPictureMemory(qint64 bytes);
 
     /// What one picture of the stream takes in memory, decoded and as an image, by what the stream
