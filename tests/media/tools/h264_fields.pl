@@ -15,12 +15,12 @@ my $width = 160;
 my $columns = $width / 16;
 my $rows = 4; # of macroblocks in a field: 64 lines, of which 60 are shown
 
-sub ue {
+sub golomb {
     my $code = sprintf '%b', $_[0] + 1;
     return '0' x (length($code) - 1) . $code;
 }
 
-sub se { return ue($_[0] > 0 ? 2 * $_[0] - 1 : -2 * $_[0]) }
+sub signed_golomb { return golomb($_[0] > 0 ? 2 * $_[0] - 1 : -2 * $_[0]) }
 
 sub fixed {
     my ($value, $bits) = @_;
@@ -41,18 +41,18 @@ sub unit {
 # Main profile, level 3; frame numbers and picture order counts of eight bits; two reference frames;
 # field coding; eight lines cropped; 25 frames per second.
 sub sequence_parameters {
-    my $vui = '0000' . '1' . fixed(1, 32) . fixed(50, 32) . '1' . '000' . '1' . '1' . ue(0) .
-        ue(0) . ue(10) . ue(10) . ue(1) . ue(2);
-    return unit(0x67, fixed(77, 8) . fixed(0, 8) . fixed(30, 8) . ue(0) . ue(4) . ue(0) . ue(4) .
-        ue(2) . '0' . ue($columns - 1) . ue($rows - 1) . '0' . '0' . '1' .
-        '1' . ue(0) . ue(0) . ue(0) . ue(2) . '1' . $vui);
+    my $vui = '0000' . '1' . fixed(1, 32) . fixed(50, 32) . '1' . '000' . '1' . '1' . golomb(0) .
+        golomb(0) . golomb(10) . golomb(10) . golomb(1) . golomb(2);
+    return unit(0x67, fixed(77, 8) . fixed(0, 8) . fixed(30, 8) . golomb(0) . golomb(4) .
+        golomb(0) . golomb(4) . golomb(2) . '0' . golomb($columns - 1) . golomb($rows - 1) . '0' . '0' . '1' .
+        '1' . golomb(0) . golomb(0) . golomb(0) . golomb(2) . '1' . $vui);
 }
 
 # Without entropy coding by arithmetic, with one reference by default, and with control over the
 # deblocking filter, which is off.
 sub picture_parameters {
-    return unit(0x68, ue(0) . ue(0) . '0' . '0' . ue(0) . ue(0) . ue(0) . '0' . '00' . se(0) .
-        se(0) . se(0) . '1' . '0' . '0');
+    return unit(0x68, golomb(0) . golomb(0) . '0' . '0' . golomb(0) . golomb(0) . golomb(0) .
+        '0' . '00' . signed_golomb(0) . signed_golomb(0) . signed_golomb(0) . '1' . '0' . '0');
 }
 
 # brightness NUMBER X LINE: of the number in the picture, grey elsewhere.
@@ -82,16 +82,16 @@ sub field {
     my %first_type = (I => 0, P => 5, B => 23); # of the types of macroblocks, that of intra ones
     my %slice_type = (P => 5, B => 6, I => 7);
     my $is_intra = $of{type} eq 'I';
-    my $bits = ue(0) . ue($slice_type{$of{type}}) . ue(0) . fixed($of{frame_number} % 256, 8) .
+    my $bits = golomb(0) . golomb($slice_type{$of{type}}) . golomb(0) . fixed($of{frame_number} % 256, 8) .
         '1' . $of{bottom};
-    $bits .= ue($of{idr_id}) if $of{idr};
+    $bits .= golomb($of{idr_id}) if $of{idr};
     $bits .= fixed($of{order} % 256, 8);
     $bits .= '1' if $of{type} eq 'B';        # direct prediction in space
     $bits .= '0' if !$is_intra;              # the default number of references
     $bits .= '0' if !$is_intra;              # in the default order
     $bits .= '0' if $of{type} eq 'B';        # in both lists
     $bits .= $of{idr} ? '00' : '0' if $of{reference};
-    $bits .= se(0) . ue(1);                  # quantiser, no deblocking
+    $bits .= signed_golomb(0) . golomb(1);                  # quantiser, no deblocking
     my $header = ($of{reference} ? 0x60 : 0) | ($of{idr} ? 5 : 1);
 
     my $coded_rows = $is_intra ? $rows : 1;
@@ -99,13 +99,13 @@ sub field {
     # which is a whole byte.
     for my $row (0 .. $coded_rows - 1) {
         for my $column (0 .. $columns - 1) {
-            $bits .= ue(0) if !$is_intra;    # none skipped before it
-            $bits .= ue($first_type{$of{type}} + 25);
+            $bits .= golomb(0) if !$is_intra;    # none skipped before it
+            $bits .= golomb($first_type{$of{type}} + 25);
             $bits .= '0' x (-length($bits) % 8);
             $bits .= unpack 'B*', samples($of{number}, $of{bottom}, $column, $row);
         }
     }
-    $bits .= ue($columns * ($rows - 1)) if !$is_intra;
+    $bits .= golomb($columns * ($rows - 1)) if !$is_intra;
     return unit($header, $bits);
 }
 
