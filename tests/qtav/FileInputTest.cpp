@@ -25,9 +25,9 @@ std::unique_ptr<FileInput> openedFile(const QString& path, const QByteArray& con
         qFatal("Cannot write %s", qUtf8Printable(path));
     }
     file.close();
+    const QtAV::IsCancelled never = [] { return false; };
     QString error;
-    return FileInput::open(
-        path, [] { return false; }, error);
+    return FileInput::open(path, never, error);
 }
 
 QByteArray countingBytes(int size)

@@ -120,9 +120,12 @@ timed_fields() {
     local file=$1 group=$2 place=$3 later=$4
     local in_group="mod($place,$group)"
     local reordered="gt($in_group,0)*(2*mod($in_group,2)-1)"
+    # Of a frame. In FFmpeg 5, times are in the container's units here, although TB is the input's.
+    local length='(1/25/TB)'
+    [[ $(ffmpeg -version) != "ffmpeg version 5."* ]] || length=3600
     shift 4
     ff "$@" -c copy -map_metadata -1 -fflags +bitexact \
-        -bsf:v "setts=dts='3600*($place+$later)':pts='3600*($place+$later+1+$reordered)'" \
+        -bsf:v "setts=dts='round(($place+$later)*$length)':pts='round(($place+$later+1+$reordered)*$length)'" \
         "$file"
 }
 sample h264_fields_single.ts single_fields IDR 78 13
