@@ -18,6 +18,9 @@ constexpr int mostLevels = 10;
 /// they hold.
 constexpr qint64 harmlessSamples = 1000000;
 
+/// More than any file has; twice that can be added to it without overflow.
+constexpr qint64 mostBytes = qint64(1) << 61;
+
 /// Samples (pictures or packets of sound) that tracks declare without storing the size of each.
 struct Declared
 {
@@ -28,6 +31,12 @@ struct Declared
 
     /// FFmpeg does not list single samples of uncompressed sound.
     bool isListed() const { return !(isSound && isUncompressed); }
+
+    void add(qint64 moreSamples, qint64 moreBytes)
+    {
+        samples += moreSamples;
+        bytes = std::min(bytes + moreBytes, mostBytes);
+    }
 };
 
 quint32 numberAt(const QByteArray& data, int position)
@@ -41,8 +50,8 @@ void addSizes(Mp4Boxes& boxes, const Mp4Box& sizes, Declared& declared)
     const QByteArray head = boxes.read(sizes.begin, 12);
     const quint32 bytes = head.isEmpty() ? 0 : numberAt(head, 4);
     if (bytes > 0) {
-        declared.samples += numberAt(head, 8);
-        declared.bytes += qint64(numberAt(head, 8)) * bytes;
+        const qint64 samples = numberAt(head, 8);
+        declared.add(samples, samples > mostBytes / bytes ? mostBytes : samples * bytes);
     }
 }
 
@@ -155,8 +164,7 @@ bool declaresTooManyPictures(FileInput& input)
             examine(boxes, box->content, 0, track);
         }
         if (track.isListed()) {
-            all.samples += track.samples;
-            all.bytes += track.bytes;
+            all.add(track.samples, track.bytes);
         }
         movie->begin = box->content.end;
     }
