@@ -1,5 +1,7 @@
 #include "series/SeriesBoard.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -26,6 +28,23 @@ qint64 bytesOf(const SeriesPicture& picture)
 {
     return picture.content.size() + picture.image.sizeInBytes() + picture.thumbnail.sizeInBytes();
 }
+
+/// Releases a lock during its lifetime, also where an exception ends that.
+class Unlocked
+{
+public:
+    explicit Unlocked(std::unique_lock<std::mutex>& lock)
+        : m_lock(lock)
+    {
+        m_lock.unlock();
+    }
+    ~Unlocked() { m_lock.lock(); }
+    Unlocked(const Unlocked&) = delete;
+    Unlocked& operator=(const Unlocked&) = delete;
+
+private:
+    std::unique_lock<std::mutex>& m_lock;
+};
 
 } // namespace
 
@@ -281,17 +300,9 @@ void SeriesBoard::drain(std::unique_lock<std::mutex>& lock)
     if (std::exchange(m_isDraining, true)) {
         return;
     }
-    try {
-        while (!m_isCancelled() && drainOne(lock)) {
-        }
-    } catch (...) {
-        if (!lock.owns_lock()) {
-            lock.lock();
-        }
-        m_isDraining = false;
-        throw;
+    const auto ended = qScopeGuard([this] { m_isDraining = false; });
+    while (!m_isCancelled() && drainOne(lock)) {
     }
-    m_isDraining = false;
 }
 
 bool SeriesBoard::drainOne(std::unique_lock<std::mutex>& lock)
@@ -305,9 +316,8 @@ bool SeriesBoard::drainOne(std::unique_lock<std::mutex>& lock)
     }
     if (state.state == State::Planned && !std::exchange(state.hasBegun, true)) {
         const SeriesFacts facts = state.facts;
-        lock.unlock();
+        const Unlocked unlocked(lock);
         m_output.begin(facts);
-        lock.lock();
         return true;
     }
     if (state.stretch < static_cast<int>(state.stretches.size())) {
@@ -325,9 +335,10 @@ bool SeriesBoard::drainOne(std::unique_lock<std::mutex>& lock)
     }
     const int video = m_head;
     const QString error = state.error;
-    lock.unlock();
-    m_output.end(video, error);
-    lock.lock();
+    {
+        const Unlocked unlocked(lock);
+        m_output.end(video, error);
+    }
     // The plan of the video is no longer needed.
     state.stretches.clear();
     state.plan = SeriesPlan();
@@ -342,6 +353,10 @@ void SeriesBoard::giveNext(std::unique_lock<std::mutex>& lock, StretchState& str
     Delivery delivery = std::move(stretch.waiting.front());
     stretch.waiting.pop_front();
     const qint64 bytes = bytesOf(delivery.picture);
+    const auto taken = qScopeGuard([this, bytes] {
+        m_waitingBytes -= bytes;
+        m_changed.notify_all();
+    });
     const bool isRepeated = delivery.seconds && delivery.seconds == state.lastSeconds;
     if (delivery.seconds) {
         state.lastSeconds = delivery.seconds;
@@ -350,10 +365,7 @@ void SeriesBoard::giveNext(std::unique_lock<std::mutex>& lock, StretchState& str
         ++state.pictures;
         const bool hasTargets = !state.plan.targets.isEmpty();
         delivery.picture.number = hasTargets ? delivery.index + 1 : state.pictures;
-        lock.unlock();
+        const Unlocked unlocked(lock);
         m_output.take(std::move(delivery.picture));
-        lock.lock();
     }
-    m_waitingBytes -= bytes;
-    m_changed.notify_all();
 }
