@@ -36,7 +36,7 @@ Prepared preparedFiles(const QString& folder, int count)
     return files;
 }
 
-/// Makes all files in the folder look like ones that nobody has written to for a day.
+/// Makes all files in the folder a day old.
 bool makeOld(const QString& folder)
 {
     const std::time_t yesterday = std::time(nullptr) - 24 * 60 * 60;

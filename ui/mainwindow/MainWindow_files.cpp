@@ -19,7 +19,6 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScopedValueRollback>
 
 namespace {
 
@@ -190,8 +189,6 @@ void MainWindow::endWhenSafe()
     }
     m_isEnding = false;
     if (m_endsUnasked || mayAllGo()) {
-        // Quitting, Qt 6 closes the window once more, which must not ask again.
-        const QScopedValueRollback<bool> unasked(m_endsUnasked, true);
         quit();
     }
 }

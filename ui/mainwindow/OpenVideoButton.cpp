@@ -78,11 +78,9 @@ void OpenVideoButton::setRecentFiles(const QStringList& paths)
 {
     qDeleteAll(m_entries);
     m_entries.clear();
-    if (!paths.isEmpty()) {
-        const QStringList present = RecentFiles::present(paths).mid(0, mostEntries);
-        for (const QString& path : present) {
-            m_entries.append(makeEntry(path));
-        }
+    const QStringList present = RecentFiles::present(paths).mid(0, mostEntries);
+    for (const QString& path : present) {
+        m_entries.append(makeEntry(path));
     }
     QWidget* before = this;
     for (QPushButton* const entry : qAsConst(m_entries)) {

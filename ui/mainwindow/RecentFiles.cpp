@@ -22,6 +22,9 @@ QStringList RecentFiles::in(const QSettings& settings)
 
 QStringList RecentFiles::present(const QStringList& files)
 {
+    if (files.isEmpty()) {
+        return {};
+    }
     const auto areMissing =
         std::make_shared<std::vector<std::atomic<bool>>>(std::size_t(files.size()));
     const auto ask = [files, areMissing] {
