@@ -35,8 +35,20 @@ bool isOurName(const QString& name)
     return ours.match(name).hasMatch();
 }
 
-/// Whether the file is an old one of ours that is not locked by its creator.
-bool isLeftOver(const QByteArray& path)
+/// Locks a new file for its creator. False if another program's sweep() was quicker, which removes
+/// the file: a process may have been suspended since it created the file.
+bool isLocked(int file)
+{
+    // Where locks are missing, sweep() gets none either and removes nothing.
+    if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
+        return errno != EWOULDBLOCK;
+    }
+    struct stat facts = {};
+    return ::fstat(file, &facts) != 0 || facts.st_nlink > 0;
+}
+
+/// Removes the file if it is an old one of ours that is not locked by its creator.
+bool removeLeftOver(const QByteArray& path)
 {
     const int file = ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0) {
@@ -45,22 +57,24 @@ bool isLeftOver(const QByteArray& path)
     struct stat facts = {};
     const bool isOld = ::fstat(file, &facts) == 0 && S_ISREG(facts.st_mode) &&
                        std::time(nullptr) - facts.st_mtime > oldSeconds;
-    // A shared lock conflicts with the creator's, too. NFS gives no other one for reading.
-    const bool isFree = isOld && ::flock(file, LOCK_SH | LOCK_NB) == 0;
+    // A shared lock conflicts with the creator's, too. NFS gives no other one for reading. It is
+    // held until the file is gone, so that the creator cannot get its own in between.
+    const bool isRemoved =
+        isOld && ::flock(file, LOCK_SH | LOCK_NB) == 0 && ::unlink(path.constData()) == 0;
     ::close(file);
-    return isFree;
+    return isRemoved;
 }
 
 } // namespace
 
 HiddenFile::~HiddenFile()
 {
-    if (m_file >= 0) {
-        ::close(m_file);
-    }
     if (!m_path.isEmpty()) {
         ::unlink(m_path.constData());
         --liveFiles;
+    }
+    if (m_file >= 0) {
+        ::close(m_file);
     }
 }
 
@@ -79,16 +93,18 @@ bool HiddenFile::create(const QString& folder)
 {
     for (int attempt = 0; attempt < nameAttempts; ++attempt) {
         const QByteArray path = newPath(folder);
-        m_file = ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (m_file >= 0) {
+        const int file = ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (file < 0 && errno != EEXIST && errno != EINTR) {
+            break;
+        }
+        if (file >= 0 && isLocked(file)) {
+            m_file = file;
             m_path = path;
             ++liveFiles;
-            // Where locks are missing, sweep() gets none either and removes nothing.
-            static_cast<void>(::flock(m_file, LOCK_EX | LOCK_NB));
             return true;
         }
-        if (errno != EEXIST && errno != EINTR) {
-            break;
+        if (file >= 0) {
+            ::close(file);
         }
     }
     return failed();
@@ -127,7 +143,7 @@ int HiddenFile::sweep(const QString& folder)
         QDir(folder).entryList({QStringLiteral(".morvantile-*.part")}, QDir::Files | QDir::Hidden);
     for (const QString& name : names) {
         const QByteArray path = QFile::encodeName(folder + QLatin1Char('/') + name);
-        if (isOurName(name) && isLeftOver(path) && ::unlink(path.constData()) == 0) {
+        if (isOurName(name) && removeLeftOver(path)) {
             ++removed;
         }
     }

@@ -13,6 +13,7 @@ import shutil
 import signal
 import subprocess
 import tempfile
+import time
 import unittest
 
 from PIL import Image
@@ -102,6 +103,12 @@ class FaultCase(unittest.TestCase):
 
     def hidden(self, folder=None):
         return sorted((folder or self.out).glob(HIDDEN))
+
+    def make_old(self):
+        """Lets two hours pass for the hidden files."""
+        for path in self.hidden():
+            with contextlib.suppress(FileNotFoundError):
+                os.utime(path, (time.time() - 7200,) * 2)
 
     def check_whole(self, folder=None):
         """Every file under a final name must be a complete picture."""

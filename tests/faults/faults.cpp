@@ -4,7 +4,8 @@
 //   FAULTS_BELOW=/folder   what the rules are for; an absolute path without links
 //   FAULTS=RULE;RULE…      each of settings with commas between them:
 //       call=read|write|open|rename|fsync|close   which kind of call (see the table below),
-//            list|stat                            also to list a folder or to ask about a file
+//            list|stat|lock                       also to list a folder, to ask about a file or
+//                                                 to lock it
 //       error=ENOSPC                              with which error it fails
 //       short=1                                   it does half of what it is to do instead
 //       slow=50                                   it takes so many milliseconds longer
@@ -28,13 +29,14 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <iterator>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
 namespace {
 
-enum class Call { Read, Write, Open, Rename, Sync, Close, List, Stat };
+enum class Call { Read, Write, Open, Rename, Sync, Close, List, Stat, Lock };
 
 struct Rule
 {
@@ -57,10 +59,10 @@ struct Word
     int value;
 };
 
-constexpr Word calls[] = {{"read", int(Call::Read)},  {"write", int(Call::Write)},
-                          {"open", int(Call::Open)},  {"rename", int(Call::Rename)},
-                          {"fsync", int(Call::Sync)}, {"close", int(Call::Close)},
-                          {"list", int(Call::List)},  {"stat", int(Call::Stat)}};
+constexpr Word calls[] = {
+    {"read", int(Call::Read)},     {"write", int(Call::Write)}, {"open", int(Call::Open)},
+    {"rename", int(Call::Rename)}, {"fsync", int(Call::Sync)},  {"close", int(Call::Close)},
+    {"list", int(Call::List)},     {"stat", int(Call::Stat)},   {"lock", int(Call::Lock)}};
 constexpr Word errors[] = {{"EIO", EIO},       {"ENOSPC", ENOSPC}, {"EDQUOT", EDQUOT},
                            {"EACCES", EACCES}, {"EROFS", EROFS},   {"EMFILE", EMFILE},
                            {"ENOENT", ENOENT}, {"EINTR", EINTR},   {"ENOMEM", ENOMEM}};
@@ -410,6 +412,13 @@ int linkat(int fromFolder, const char* from, int toFolder, const char* to, int f
     }
 SYNC(fsync)
 SYNC(fdatasync)
+
+int flock(int file, int operation)
+{
+    return strikeFile(Call::Lock, file, 0).fails
+               ? -1
+               : real<int (*)(int, int)>("flock")(file, operation);
+}
 
 DIR* opendir(const char* path)
 {
