@@ -5,6 +5,7 @@
 #include "profiles/ReadyProfiles.h"
 #include "ui/mainwindow/MainWindow.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -59,8 +60,9 @@ void tell(MainWindow& window, const QStringList& news)
     if (news.isEmpty()) {
         return;
     }
-    auto* const box = new QMessageBox(QMessageBox::Warning, window.windowTitle(),
-                                      news.join(QLatin1Char('\n')), QMessageBox::Ok, &window);
+    auto* const box =
+        new QMessageBox(QMessageBox::Warning, window.windowTitle(),
+                        asPlainText(news.join(QLatin1Char('\n'))), QMessageBox::Ok, &window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setModal(false);
     box->show();

@@ -17,7 +17,7 @@
 namespace {
 
 constexpr int nameAttempts = 16;
-constexpr std::time_t oldSeconds = 60 * 60;
+constexpr std::time_t oldSeconds = 3600;
 
 std::atomic<int> liveFiles{0};
 

@@ -5,6 +5,7 @@
 #include "ui/filmstrip/Filmstrip.h"
 #include "ui/mainwindow/SnapshotPane.h"
 #include "ui/mainwindow/SpokenEvents.h"
+#include "ui/widgets/PlainText.h"
 #include "ui_MainWindow.h"
 
 #include <QtAV/AVPlayer.h>
@@ -38,13 +39,9 @@ void warnOfCapture(const QString& place, const QString& reason)
 {
     QMessageBox box(QMessageBox::Warning, MainWindow::tr("Morvantile video capture"),
                     MainWindow::tr("Failed to capture video frame"), QMessageBox::Ok);
-    QStringList details{place.toHtmlEscaped(), reason.toHtmlEscaped()};
+    QStringList details{place, reason};
     details.removeAll(QString());
-    if (!details.isEmpty()) {
-        // Marked as rich text, because otherwise the box guesses from the file's name.
-        box.setInformativeText(
-            QStringLiteral("<qt>%1</qt>").arg(details.join(QStringLiteral("<br>"))));
-    }
+    box.setInformativeText(asPlainText(details.join(QLatin1Char('\n'))));
     box.exec();
 }
 
