@@ -33,16 +33,26 @@ std::mutex& xmpMutex()
     return mutex;
 }
 
-/// Initialises the toolkit. Call with the mutex held.
-void prepareXmp()
+/// The initialised toolkit, which knows our names.
+class XmpToolkit
 {
-    static const bool isPrepared = [] {
+public:
+    XmpToolkit()
+    {
         Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
         Exiv2::XmpParser::initialize();
         Exiv2::XmpProperties::registerNs(ourNamespace, ourPrefix);
-        return true;
-    }();
-    static_cast<void>(isPrepared);
+    }
+    /// Exiv2 frees the copies that it made of the names for nobody else.
+    ~XmpToolkit() { Exiv2::XmpProperties::unregisterNs(ourNamespace); }
+    XmpToolkit(const XmpToolkit&) = delete;
+    XmpToolkit& operator=(const XmpToolkit&) = delete;
+};
+
+/// Initialises the toolkit. Call with the mutex held.
+void prepareXmp()
+{
+    static const XmpToolkit toolkit;
 }
 
 bool canHoldMetadata(const QString& type)
