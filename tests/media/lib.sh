@@ -189,11 +189,21 @@ make_one() {
 # start) has no place and is left out. They are those that the container marks, unless packets
 # without a time leave their places unknown.
 list_key_frames() {
-    local file=$1 stream
-    stream=$(main_video_stream "$file") || return 0
-    [[ -n $stream ]] || return 0
-    ffprobe -v quiet -select_streams "$stream" -show_entries packet=pts,flags -of csv=p=0 "$file" |
-        tool rank_key_packets || list_decoded_key_frames "$file"
+    local file=$1 packets
+    packets=$(main_video_packets "$file") || return 0
+    [[ -n $packets ]] || return 0
+    tool rank_key_packets <<<"$packets" || list_decoded_key_frames "$file"
+}
+
+# main_video_packets FILE: time and flags of the packets of its main video stream, one a line. One
+# run of ffprobe, because starting it takes longer than the reading.
+main_video_packets() {
+    [[ -f $1 ]] || return 0
+    ffprobe -v quiet -select_streams v -of csv "$1" -show_entries \
+        packet=stream_index,pts,flags:stream=index:stream_disposition=attached_pic |
+        awk -F , '$1 == "packet" { packets[$2] = packets[$2] $3 "," $4 "\n" }
+                  $1 == "stream" && $3 == 0 && main == "" { main = $2 }
+                  END { printf "%s", packets[main] }'
 }
 
 # list_decoded_key_frames FILE: the same as the decoder sees it.
