@@ -11,6 +11,11 @@ from gi.repository import Atspi, GLib  # noqa: E402
 Atspi.set_timeout(10_000, 20_000)
 
 
+# Controls of these roles have no others inside, unlike a check box, which may be that of a group, and
+# the button in the place of the video.
+LEAVES = {"label", "radio button", "separator", "slider", "text"}
+
+
 class Control:
     """A control of a program. What it says of itself is asked of the program each time.
 
@@ -95,13 +100,15 @@ class Control:
         for child in self.children:
             if not child.is_showing:
                 continue
+            child_role = child.role
             if (
-                (role is None or child.role == role)
+                role in (None, child_role)
                 and (name is None or child.name == name)
                 and (description is None or child.description == description)
             ):
                 yield child
-            yield from child.all(role, name, description)
+            if child_role not in LEAVES:
+                yield from child.all(role, name, description)
 
     def __str__(self):
         return f'{self.role} "{self.name}"'

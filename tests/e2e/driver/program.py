@@ -26,6 +26,7 @@ class Program:
         self._arguments = list(arguments)
         self._environment = environment or {}
         self._process = None
+        self._known = {}
 
     def __enter__(self):
         self._start()
@@ -205,10 +206,20 @@ class Program:
 
     # --- the main window -----------------------------------------------------------------------
 
+    def _known_or(self, key, find):
+        """What `find` found before, as long as it is on the screen: searching for a control takes
+        some hundred questions, and tests ask again and again until something has changed."""
+        with contextlib.suppress(KeyError, Control.Gone):
+            if self._known[key].is_showing:
+                return self._known[key]
+        self._known[key] = find()
+        return self._known[key]
+
     @property
     def position(self):
         """The shown position, in milliseconds."""
-        return _milliseconds(self.find("label", description="Position").name)
+        label = self._known_or("position", lambda: self.find("label", description="Position"))
+        return _milliseconds(label.name)
 
     @property
     def duration(self):
@@ -222,7 +233,10 @@ class Program:
             buttons = self._controls("push button", None, None)
             return next((button for button in buttons if button.description in wanted), None)
 
-        return wait_until(found, "neither a video nor a button that opens one")
+        def search():
+            return wait_until(found, "neither a video nor a button that opens one")
+
+        return self._known_or("open button", search)
 
     def open_with_dialog(self, path):
         """Opens the video like a user, and waits until it is on the screen."""
@@ -246,7 +260,7 @@ class Program:
 
     def offers_to_play(self):
         """Whether the play button shows the triangle, not the two bars."""
-        button = self.find("push button", "Play/Pause")
+        button = self._known_or("play", lambda: self.find("push button", "Play/Pause"))
         picture = self.desktop.picture(button.area).convert("L")
         # The middle is inside the triangle, and between the bars, where the ground shows; beside
         # the ring of the focus there is nothing but ground.
