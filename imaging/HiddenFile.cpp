@@ -37,7 +37,7 @@ bool isOurName(const QString& name)
 
 /// Locks a new file for its creator. False if another program's sweep() was quicker, which removes
 /// the file: a process may have been suspended since it created the file.
-bool isLocked(int file)
+bool lockNew(int file)
 {
     // Where locks are missing, sweep() gets none either and removes nothing.
     if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
@@ -97,13 +97,14 @@ bool HiddenFile::create(const QString& folder)
         if (file < 0 && errno != EEXIST && errno != EINTR) {
             break;
         }
-        if (file >= 0 && isLocked(file)) {
+        if (file >= 0 && lockNew(file)) {
             m_file = file;
             m_path = path;
             ++liveFiles;
             return true;
         }
         if (file >= 0) {
+            ::unlink(path.constData());
             ::close(file);
         }
     }

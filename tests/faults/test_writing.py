@@ -273,10 +273,13 @@ class Waiting(FaultCase):
         process = self.start("STILLS", VIDEO, "--every", "20ms", "-f", "png", "-j2", "-o", self.out,
                              faults="call=write,slow=20", **options)
         self.addCleanup(process.kill)
-        deadline = time.monotonic() + 20
-        while len(self.hidden()) < 5 and time.monotonic() < deadline:
-            time.sleep(0.001)
+        self.wait_for_hidden(5)
         return process
+
+    def wait_for_hidden(self, count):
+        deadline = time.monotonic() + 20
+        while len(self.hidden()) < count and time.monotonic() < deadline:
+            time.sleep(0.001)
 
     def test_pictures_of_a_suspended_run_outlast_another_run(self):
         process = self.running()
@@ -299,9 +302,7 @@ class Waiting(FaultCase):
         process = self.start("STILLS", VIDEO, "-c1", "-f", "png", "-o", self.out,
                              faults="call=lock,slow=3000,times=1")
         self.addCleanup(process.kill)
-        deadline = time.monotonic() + 20
-        while not self.hidden() and time.monotonic() < deadline:
-            time.sleep(0.001)
+        self.wait_for_hidden(1)
         created = set(self.hidden())
         self.make_old()
         self.assertEqual(self.stills(VIDEO, "-c1", "-f", "png", "-o", self.out).status, 0)
