@@ -7,6 +7,7 @@
 #include "product/ProductInfo.h"
 
 #include <exiv2/exiv2.hpp>
+#include <exiv2/webpimage.hpp>
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -300,6 +301,15 @@ RecipeTexts::Texts ourTexts(const Exiv2::XmpData& xmp)
     return texts;
 }
 
+/// Whether it is a file of a kind that holds our metadata. Exiv2 recognises others too, such as
+/// videos, but writes beyond its memory while it reads damaged ones.
+bool canBeOurs(const Exiv2::Image& image)
+{
+    const auto type = image.imageType();
+    return type == Exiv2::ImageType::jpeg || type == Exiv2::ImageType::png ||
+           type == Exiv2::ImageType::tiff || type == Exiv2::ImageType::webp;
+}
+
 /// In milliseconds; nothing where it is no position in any video.
 std::optional<qint64> positionFrom(const QString& text)
 {
@@ -366,7 +376,9 @@ std::optional<imaging::StillOrigin> imaging::readOrigin(const QString& path, QSt
         const std::lock_guard<std::mutex> lock(xmpMutex());
         prepareXmp();
         const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-        image->readMetadata();
+        if (canBeOurs(*image)) {
+            image->readMetadata();
+        }
         if (const auto origin = originFrom(image->xmpData())) {
             return origin;
         }

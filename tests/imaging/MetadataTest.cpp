@@ -394,6 +394,9 @@ void MetadataTest::origin_isNone_whereThereIsNone_data()
     QTest::newRow("no picture") << QByteArray("a text");
     QTest::newRow("another picture") << imaging::encode(picture(), 95, textOf("jpg"));
     QTest::newRow("of no format for metadata") << imaging::encode(picture(), 95, textOf("bmp"));
+    // Exiv2 0.27 has room for 100 bytes of it.
+    QTest::newRow("a video with too long a date")
+        << QByteArray("RIFF\xf4\x03\0\0AVI IDIT\xe8\x03\0\0", 20) + QByteArray(1000, '\xff');
     QTest::newRow("damaged") << QByteArray("\xff\xd8\xff\xe1\xff\xff http://ns.adobe.com/xap/1.0/");
 }
 
