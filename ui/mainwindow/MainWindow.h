@@ -11,6 +11,7 @@
 #include <QVector>
 
 #include <deque>
+#include <functional>
 #include <memory>
 
 class BatchModeDialog;
@@ -81,7 +82,8 @@ public Q_SLOTS:
     void showSelectVideoDialog();
     void openVideo(QString path);
     void closeVideo();
-    /// Opens a video, if an unsaved snapshot may be dropped.
+    /// Opens a video as soon as no snapshot is being taken or saved, if an unsaved one may be
+    /// dropped.
     void openFromOutside(const QString& path);
 
     /// Proposes the best frames of the open video at or after `fromMs` and before `toMs`.
@@ -157,6 +159,7 @@ private:
     void openDropped(const QStringList& videos);
     void quit();
     void endWhenSafe();
+    void showWaiting(bool on);
     void saveLayout();
 
     [[nodiscard]] bool maySnapshotGo();
@@ -167,6 +170,7 @@ private:
     void setupFilmstrip();
     void addToFilmstrip();
     void returnToSnapshot(const QString& id);
+    void showSnapshotAgain(const QString& id);
     void returnToFrame(const PictureSource& source);
     void showKeptSnapshot(const QString& id, const CapturedPicture& picture);
     void followShownSnapshot();
@@ -182,8 +186,10 @@ private:
     void reportCaptureFailure(const QString& reason);
     [[nodiscard]] bool areCapturesDone();
     void giveUpCaptures();
-    void continueEnding();
-    void stopEnding();
+    void openWhenSafe(const QString& path);
+    void leaveWhenCaptured(std::function<void()> action);
+    void continueLeaving();
+    void stopLeaving();
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     QSettings m_settings;
@@ -203,7 +209,8 @@ private:
     QString m_capturedPlace;         ///< the file and time of the last capture, for messages
     QString m_wantedSnapshot;        ///< to be shown once it has been read
     QVector<qint64> m_toldSnapshotTimes;
-    bool m_isTakingCapture = false; ///< a capture was answered and is being shown, or saved
-    bool m_isEnding = false;        ///< end as soon as everything is taken and written
-    bool m_endsUnasked = false;     ///< end without asking
+    bool m_isTakingCapture = false;  ///< a capture was answered and is being shown, or saved
+    std::function<void()> m_leaving; ///< waits until everything is taken; empty for nothing
+    bool m_isEnding = false;         ///< end as soon as everything is taken and written
+    bool m_endsUnasked = false;      ///< end without asking
 };

@@ -97,9 +97,16 @@ void MainWindow::comeToFront()
 void MainWindow::openFromOutside(const QString& path)
 {
     retakeFocusAfterDialog();
-    if (maySnapshotGo()) {
-        openVideo(path);
-    }
+    openWhenSafe(path);
+}
+
+void MainWindow::openWhenSafe(const QString& path)
+{
+    leaveWhenCaptured([this, path] {
+        if (maySnapshotGo()) {
+            openVideo(path);
+        }
+    });
 }
 
 void MainWindow::setupFileMenu()
@@ -179,14 +186,26 @@ void MainWindow::closeEvent(QCloseEvent* event)
     endWhenSafe();
 }
 
+void MainWindow::showWaiting(bool on)
+{
+    const QString text = tr("Waiting until snapshots are written\u2026");
+    if (on) {
+        statusBar()->showMessage(text);
+    } else if (statusBar()->currentMessage() == text) {
+        statusBar()->clearMessage();
+    }
+}
+
 /// Waits for pending captures and writes; the window stays responsive meanwhile.
 void MainWindow::endWhenSafe()
 {
+    m_leaving = nullptr;
     if (!areCapturesDone() || !m_filmstrip->shelf().isSettled()) {
         m_isEnding = true;
-        statusBar()->showMessage(tr("Waiting until snapshots are written\u2026"));
+        showWaiting(true);
         return;
     }
+    showWaiting(false);
     m_isEnding = false;
     if (m_endsUnasked || mayAllGo()) {
         quit();

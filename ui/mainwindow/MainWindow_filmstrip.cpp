@@ -49,7 +49,7 @@ void MainWindow::setupFilmstrip()
             [this] { showMessage(tr("The picture of this snapshot cannot be read any more.")); });
     connect(&shelf, &SnapshotShelf::noticed, this,
             [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(&shelf, &SnapshotShelf::settled, this, &MainWindow::continueEnding);
+    connect(&shelf, &SnapshotShelf::settled, this, &MainWindow::continueLeaving);
     connect(m_snapshotSaver, &SnapshotSaver::progressed, this, [this](int done, int all) {
         statusBar()->showMessage(tr("Saved %1 of %2").arg(done).arg(all));
     });
@@ -77,8 +77,13 @@ void MainWindow::addToFilmstrip()
     }
 }
 
-/// The frame and the picture arrive independently.
 void MainWindow::returnToSnapshot(const QString& id)
+{
+    leaveWhenCaptured([this, id] { showSnapshotAgain(id); });
+}
+
+/// The frame and the picture arrive independently.
+void MainWindow::showSnapshotAgain(const QString& id)
 {
     const std::optional<KeptSnapshot> snapshot = m_filmstrip->shelf().snapshot(id);
     if (!snapshot || (id != snapshotPane()->id() && !maySnapshotGo())) {
@@ -185,7 +190,7 @@ void MainWindow::saveSnapshots(const QStringList& ids)
 {
     const QString folder = ids.isEmpty() ? QString() : snapshotPane()->folderForSnapshots();
     if (folder.isEmpty()) {
-        stopEnding();
+        stopLeaving();
         return;
     }
     const ProfileManager& profiles = *ImageProfile::profileManager();
@@ -206,7 +211,7 @@ void MainWindow::saveSnapshots(const QStringList& ids)
 void MainWindow::reportSavedSnapshots(int saved, int failed, const QString& lastFile)
 {
     if (failed > 0) {
-        stopEnding();
+        stopLeaving();
     }
     const QString count =
         saved == 1 ? tr("Saved 1 snapshot") : tr("Saved %n snapshots", nullptr, saved);

@@ -53,8 +53,8 @@ void MainWindow::showSelectVideoDialog()
         return;
     }
     const QString file = dialog.selectedFiles().value(0);
-    if (!file.isEmpty() && maySnapshotGo()) {
-        openVideo(file);
+    if (!file.isEmpty()) {
+        openWhenSafe(file);
     }
 }
 
@@ -84,6 +84,7 @@ void MainWindow::closeVideo()
     m_folderSteps->setVideo({});
     m_proposals->reset();
     m_savesCapture.clear();
+    m_leaving = nullptr;
     updateWindowTitle();
     setVideoControlsEnabled(false);
     setSnapshotControlsEnabled(false);

@@ -16,6 +16,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -129,7 +130,7 @@ void MainWindow::takeCapture(const MadeSnapshot& made)
         const QScopedValueRollback<bool> taking(m_isTakingCapture, true);
         showCapture(made, takeSaving());
     }
-    continueEnding();
+    continueLeaving();
 }
 
 void MainWindow::showCapture(const MadeSnapshot& made, bool isToBeSaved)
@@ -146,7 +147,7 @@ void MainWindow::showCapture(const MadeSnapshot& made, bool isToBeSaved)
     if (isToBeSaved) {
         snapshotPane()->saveWithAutomaticFileName();
         if (!snapshotPane()->isKept()) {
-            stopEnding();
+            stopLeaving();
         }
     }
 }
@@ -161,7 +162,7 @@ void MainWindow::onCaptureError()
         (void)takeSaving();
         reportCaptureFailure({});
     }
-    continueEnding();
+    continueLeaving();
 }
 
 void MainWindow::reportCaptureFailure(const QString& reason)
@@ -189,7 +190,7 @@ bool MainWindow::areCapturesDone()
 /// Pictures that are there are waited for, because making a snapshot of them takes a limited time.
 void MainWindow::giveUpCaptures()
 {
-    if (!m_isEnding) {
+    if (!m_isEnding && !m_leaving) {
         return;
     }
     if (snapshotPane()->isCapturing()) {
@@ -198,19 +199,37 @@ void MainWindow::giveUpCaptures()
     }
     m_captures.forgetAll();
     m_savesCapture.clear();
-    continueEnding();
+    if (!m_isEnding) {
+        const QScopedValueRollback<bool> taking(m_isTakingCapture, true);
+        reportCaptureFailure({});
+    }
+    continueLeaving();
 }
 
-void MainWindow::continueEnding()
+/// Does what leaves the open video once all snapshots of it are taken. A later call replaces an
+/// earlier one.
+void MainWindow::leaveWhenCaptured(std::function<void()> action)
+{
+    m_leaving = std::move(action);
+    continueLeaving();
+}
+
+void MainWindow::continueLeaving()
 {
     if (m_isEnding) {
         endWhenSafe();
+    } else if (m_leaving && !areCapturesDone()) {
+        showWaiting(true);
+    } else if (m_leaving) {
+        showWaiting(false);
+        std::exchange(m_leaving, nullptr)();
     }
 }
 
-/// Closing must not continue if saving failed, unless it is the system that ends the program.
-void MainWindow::stopEnding()
+/// What leaves the video must not go on if saving failed, unless the system ends the program.
+void MainWindow::stopLeaving()
 {
+    m_leaving = nullptr;
     m_isEnding = m_isEnding && m_endsUnasked;
 }
 

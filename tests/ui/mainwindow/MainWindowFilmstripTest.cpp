@@ -34,6 +34,7 @@ private Q_SLOTS:
 
     void chosenSnapshot_isShown_atItsFrame();
     void chosenSnapshot_opensItsVideo_atItsFrame();
+    void chosenSnapshot_waitsForTheOneThatIsBeingSaved();
     void chosenSnapshot_isShown_whenItsVideoIsGone();
     void chosenSnapshot_isNamedAfterItsVideo_whenThatIsGone_data();
     void chosenSnapshot_isNamedAfterItsVideo_whenThatIsGone();
@@ -142,6 +143,24 @@ void MainWindowFilmstripTest::chosenSnapshot_opensItsVideo_atItsFrame()
     QVERIFY(window.player().isPaused());
     QTest::qWait(100);
     QCOMPARE(window.player().displayPosition(), 1000);
+}
+
+/// Pictures of the second video are made in the background.
+void MainWindowFilmstripTest::chosenSnapshot_waitsForTheOneThatIsBeingSaved()
+{
+    const TestDir kept;
+    Window window(kept);
+    const QString video = window.copyOf(clip, QStringLiteral("first.mp4"));
+    QVERIFY(window.openPaused(video));
+    const QString id = window.takeAt(1000);
+    QVERIFY(window.openPaused(
+        window.copyOf(QStringLiteral("h264_2160p.mp4"), QStringLiteral("second.mp4"))));
+    window->takeAndSave();
+    window.choose(id);
+    QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), video, patienceMs);
+    QCOMPARE(frameNumber(QImage(window.dir().filePath(QStringLiteral("second-00001.jpeg")))),
+             std::optional<int>(0));
+    QTRY_COMPARE_WITH_TIMEOUT(window.shownFrame(), std::optional<int>(25), patienceMs);
 }
 
 void MainWindowFilmstripTest::chosenSnapshot_isShown_whenItsVideoIsGone()

@@ -1,5 +1,6 @@
 #include "tests/ui/mainwindow/OpenWindow.h"
 
+#include "tests/support/FrameNumber.h"
 #include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "tests/ui/dialogs/support/ModalScript.h"
@@ -45,6 +46,10 @@ private Q_SLOTS:
     void ending_goesOn_whenTheSnapshotFails();
     void ending_goesOn_whenNoSnapshotComes();
     void closing_stops_whenTheSnapshotCannotBeSaved();
+    void anotherVideo_waitsForTheSnapshotThatIsBeingSaved();
+    void anotherVideo_asksAboutTheSnapshotThatIsBeingTaken();
+    void anotherVideo_isNotOpened_whenTheSnapshotCannotBeSaved();
+    void anotherVideo_isOpened_whenNoSnapshotComes();
     void batchMode_keepsVideoAndSnapshot();
     void fileThatIsNoVideo_disablesWhatNeedsOne();
     void fileThatIsNoVideo_isExplainedInWordsForPeople_data();
@@ -52,6 +57,13 @@ private Q_SLOTS:
 };
 
 namespace {
+
+SnapshotShelf::Limits noRoom()
+{
+    SnapshotShelf::Limits limits;
+    limits.count = 0;
+    return limits;
+}
 
 /// A window with a snapshot of a paused video, for which the filmstrip has no room.
 class Snapshot : public OpenWindow
@@ -61,9 +73,7 @@ public:
     {
         video = copyOf(clip, QStringLiteral("clip.mp4"));
         next = copyOf(clip, QStringLiteral("next.mp4"));
-        SnapshotShelf::Limits limits;
-        limits.count = 0;
-        window().findChild<Filmstrip*>()->shelf().setLimits(limits);
+        window().findChild<Filmstrip*>()->shelf().setLimits(noRoom());
         if (!openPaused(video) || !takeSnapshot()) {
             qFatal("no snapshot");
         }
@@ -77,6 +87,9 @@ public:
 
 /// Its snapshots are made in the background.
 const QString largeClip = QStringLiteral("h264_2160p.mp4");
+
+/// In the status bar.
+const QString waiting = QStringLiteral("Waiting until snapshots are written…");
 
 enum class Ending { ByTheUser, ByTheSystem };
 
@@ -282,6 +295,73 @@ void MainWindowLosingTest::closing_stops_whenTheSnapshotCannotBeSaved()
         window->close();
     });
     QCOMPARE(QApplication::exec(), staysOpen);
+}
+
+/// As when someone saves a frame of each video in a folder, without looking.
+void MainWindowLosingTest::anotherVideo_waitsForTheSnapshotThatIsBeingSaved()
+{
+    OpenWindow window;
+    const QString large = window.copyOf(largeClip, QStringLiteral("large.mp4"));
+    const QString next = window.copyOf(clip, QStringLiteral("next.mp4"));
+    QVERIFY(window.openPaused(large));
+    window->takeAndSave();
+    window->openFromOutside(next);
+    QCOMPARE(window->currentVideoFilePath(), large);
+    QCOMPARE(window->statusBar()->currentMessage(), waiting);
+    QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), next, patienceMs);
+    QCOMPARE(frameNumber(QImage(window.dir().filePath(QStringLiteral("large-00001.jpeg")))),
+             std::optional<int>(0));
+    QVERIFY(window->statusBar()->currentMessage() != waiting);
+}
+
+void MainWindowLosingTest::anotherVideo_asksAboutTheSnapshotThatIsBeingTaken()
+{
+    OpenWindow window;
+    window->findChild<Filmstrip*>()->shelf().setLimits(noRoom());
+    const QString next = window.copyOf(clip, QStringLiteral("next.mp4"));
+    QVERIFY(window.openPaused(samplePath(largeClip)));
+    SeenBox box;
+    answerNextBox(QMessageBox::Cancel, box);
+    window->snapshotButtonPressed();
+    window->openFromOutside(next);
+    QVERIFY(box.text.isEmpty());
+    QTRY_COMPARE_WITH_TIMEOUT(box.text, QStringLiteral("The snapshot has not been saved."),
+                              patienceMs);
+    QCOMPARE(window->currentVideoFilePath(), samplePath(largeClip));
+    QVERIFY(window->statusBar()->currentMessage() != waiting);
+}
+
+void MainWindowLosingTest::anotherVideo_isNotOpened_whenTheSnapshotCannotBeSaved()
+{
+    OpenWindow window;
+    const QString next = window.copyOf(clip, QStringLiteral("next.mp4"));
+    QVERIFY(window.openPaused(samplePath(largeClip)));
+    window.find<QLineEdit>("outputFolderLineEdit").setText(QStringLiteral("/proc/self"));
+    window->takeAndSave();
+    window->openFromOutside(next);
+    const auto tellsOfFailure = [&window] {
+        return window->statusBar()->currentMessage().startsWith(QStringLiteral("Could not save "));
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(tellsOfFailure(), patienceMs);
+    QCoreApplication::processEvents();
+    QCOMPARE(window->currentVideoFilePath(), samplePath(largeClip));
+    QVERIFY(window.find<QAction>("actionCopy_Snapshot").isEnabled());
+}
+
+/// As when the video's disk does not answer.
+void MainWindowLosingTest::anotherVideo_isOpened_whenNoSnapshotComes()
+{
+    OpenWindow window;
+    const QString next = window.copyOf(clip, QStringLiteral("next.mp4"));
+    QVERIFY(window.openPaused(samplePath(clip)));
+    window.find<QTimer>("captureLimit").setInterval(100);
+    window.player().videoCapture()->setTaker([] {});
+    SeenBox box;
+    answerNextBox(QMessageBox::Ok, box);
+    window->takeAndSave();
+    window->openFromOutside(next);
+    QTRY_COMPARE_WITH_TIMEOUT(window->currentVideoFilePath(), next, patienceMs);
+    QCOMPARE(box.text, QStringLiteral("Failed to capture video frame"));
 }
 
 void MainWindowLosingTest::batchMode_keepsVideoAndSnapshot()
