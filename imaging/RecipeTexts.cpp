@@ -130,7 +130,7 @@ void addWatermark(Texts& texts, const WatermarkRecipe& watermark)
 QFont fontFrom(const QString& text)
 {
     QFont font;
-    const bool isFont = font.fromString(text);
+    const bool isFont = font.fromString(plainText(text));
     const bool isSmall = font.pointSizeF() <= largestFont && font.pixelSize() <= largestFont;
     return isFont && isSmall ? font : QFont();
 }

@@ -187,6 +187,18 @@ private Q_SLOTS:
         QCOMPARE(recipe.watermark->xMargin, 0);
         QCOMPARE(recipe.watermark->alignment, WatermarkRecipe().alignment);
     }
+
+    void textsThatAreReadBack_areStoredAlike_whateverTheFontIsCalled()
+    {
+        for (const char* const name : {"DejaVu Sans", " \x1b[1m Sans\t", "\x01\x02\x03"}) {
+            const ImageRecipe recipe = RecipeTexts::recipeFrom(
+                {{QStringLiteral("Watermark"), QStringLiteral("Text")},
+                 {QStringLiteral("WatermarkText"), QStringLiteral("x")},
+                 {QStringLiteral("WatermarkFont"), QString::fromLatin1(name)}});
+            const Texts stored = textsOf(recipe);
+            QCOMPARE(textsOf(RecipeTexts::recipeFrom(stored)), stored);
+        }
+    }
 };
 
 QTEST_MAIN(RecipeTextsTest)
