@@ -105,7 +105,7 @@ Q_SIGNALS:
     void jobDone(BatchWorker* worker);
 
 private Q_SLOTS:
-    void frameExtracted(QtAV::VideoFrame frame, qint64 position);
+    void frameExtracted(const QtAV::VideoFrame& frame, qint64 position);
     void extractorError(QString message);
     void tellNews();
 
