@@ -4,22 +4,22 @@
 #include "batch/BatchWorker.h"
 #include "batch/BatchWorkerConfig.h"
 #include "imaging/WriteFailure.h"
+#include "tests/batch/ThreadEvents.h"
 #include "tests/batch/WorkerEvents.h"
+#include "tests/support/Patience.h"
 #include "tests/support/Samples.h"
 #include "tests/support/SmallDisk.h"
 
 #include <QDir>
 #include <QImage>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
 
+using testsupport::patienceMs;
 using testsupport::samplePath;
 
 namespace {
-
-constexpr int patienceMs = 30000;
 
 /// A disk of a megabyte, almost full.
 class FullDisk : public testsupport::SmallDisk
@@ -62,10 +62,10 @@ struct Batch
 
     void run()
     {
-        QSignalSpy done(&thread, &BatchThread::threadDone);
+        const ThreadEvents threadEvents(thread);
         thread.addWorker(worker);
         thread.start();
-        QVERIFY(done.wait(patienceMs));
+        QVERIFY(threadEvents.waitForEnd());
         QVERIFY(thread.wait(patienceMs));
         QCoreApplication::processEvents();
     }

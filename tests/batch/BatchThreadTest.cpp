@@ -2,7 +2,9 @@
 
 #include "batch/BatchWorker.h"
 #include "batch/BatchWorkerConfig.h"
+#include "tests/batch/ThreadEvents.h"
 #include "tests/batch/WorkerEvents.h"
+#include "tests/support/Patience.h"
 #include "tests/support/RunProgram.h"
 #include "tests/support/Samples.h"
 #include "tests/support/TestDir.h"
@@ -16,13 +18,12 @@
 #include <memory>
 #include <mutex>
 
+using testsupport::patienceMs;
 using testsupport::ProgramResult;
 using testsupport::samplePath;
 using testsupport::TestDir;
 
 namespace {
-
-constexpr int limitMs = 60000;
 
 /// Makes the test program add a worker to a running thread.
 const char* const addLate = "--add-a-worker-after-start";
@@ -44,31 +45,6 @@ public:
 
 private:
     Script m_script;
-};
-
-/// Records the signals of a thread as texts, in the order of their arrival in this thread.
-class ThreadEvents : public QObject
-{
-public:
-    explicit ThreadEvents(BatchThread& thread)
-    {
-        connect(&thread, &BatchThread::progressUpdate, this, [this](float overall, float current) {
-            all.append(QStringLiteral("%1 %2")
-                           .arg(static_cast<double>(overall), 0, 'f', 4)
-                           .arg(static_cast<double>(current), 0, 'f', 4));
-            isHere = isHere && QThread::currentThread() == this->thread();
-        });
-        connect(&thread, &BatchThread::threadDone, this,
-                [this] { all.append(QStringLiteral("done")); });
-    }
-
-    bool waitForEnd() const
-    {
-        return QTest::qWaitFor([this] { return all.contains(QStringLiteral("done")); }, limitMs);
-    }
-
-    QStringList all;
-    bool isHere = true;
 };
 
 /// What the command of the test program does.
@@ -204,7 +180,7 @@ void BatchThreadTest::progress_countsForItsOwnJob_whenItArrivesLate()
     thread.addWorker(new ScriptedWorker([](ScriptedWorker& worker) { worker.setProgress(0.5F); }));
     thread.addWorker(new ScriptedWorker([](ScriptedWorker& worker) { worker.setProgress(0.5F); }));
     thread.start();
-    QVERIFY(thread.wait(limitMs));
+    QVERIFY(thread.wait(patienceMs));
     QVERIFY(events.waitForEnd());
     QCOMPARE(events.all.filter(QStringLiteral(" 0.5000")),
              (QStringList{QStringLiteral("0.2500 0.5000"), QStringLiteral("0.7500 0.5000")}));
@@ -296,7 +272,7 @@ void BatchThreadTest::lastImages_areSavedAndTold_howeverBusyTheirThreadIs()
     const WorkerEvents workerEvents(*worker);
     thread.addWorker(worker);
     thread.start();
-    QVERIFY(thread.wait(limitMs));
+    QVERIFY(thread.wait(patienceMs));
     QVERIFY(QDir(dir.path()).isEmpty());
     QVERIFY(events.waitForEnd());
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files).size(), 2);
@@ -315,7 +291,7 @@ void BatchThreadTest::workers_outliveTheNewsOfThem()
             [&wasAlive, &worker] { wasAlive = !worker.isNull(); });
     thread.addWorker(worker);
     thread.start();
-    QVERIFY(thread.wait(limitMs));
+    QVERIFY(thread.wait(patienceMs));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
     QVERIFY(wasAlive);
@@ -360,7 +336,7 @@ void BatchThreadTest::interruption_stopsTheRunningJob_andThoseToCome()
     }));
     thread.addWorker(new ScriptedWorker([&thirdRan](const ScriptedWorker&) { thirdRan = true; }));
     thread.start();
-    QVERIFY(QTest::qWaitFor([&secondRuns] { return secondRuns.load(); }, limitMs));
+    QVERIFY(QTest::qWaitFor([&secondRuns] { return secondRuns.load(); }, patienceMs));
     thread.requestInterruption();
     QVERIFY(events.waitForEnd());
     QCOMPARE(events.all, (QStringList{QStringLiteral("0.3333 1.0000"), QStringLiteral("done")}));
@@ -387,7 +363,7 @@ void BatchThreadTest::interruption_isNotForgotten()
     thread.requestInterruption();
     QVERIFY(thread.isInterruptionRequested());
     thread.start();
-    QVERIFY(thread.wait(limitMs));
+    QVERIFY(thread.wait(patienceMs));
     QVERIFY(thread.isInterruptionRequested());
 }
 
@@ -404,7 +380,7 @@ void BatchThreadTest::thread_canEnd_whileItRuns()
         wasInterrupted = true;
     }));
     thread->start();
-    QVERIFY(QTest::qWaitFor([&isRunning] { return isRunning.load(); }, limitMs));
+    QVERIFY(QTest::qWaitFor([&isRunning] { return isRunning.load(); }, patienceMs));
     thread.reset();
     QVERIFY(wasInterrupted);
 }

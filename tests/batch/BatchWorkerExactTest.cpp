@@ -1,6 +1,7 @@
 #include "batch/BatchThread.h"
 #include "batch/BatchWorker.h"
 #include "batch/BatchWorkerConfig.h"
+#include "tests/batch/ThreadEvents.h"
 #include "tests/batch/WorkerEvents.h"
 #include "tests/support/FrameNumber.h"
 #include "tests/support/RunProgram.h"
@@ -9,7 +10,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
@@ -21,8 +21,6 @@ namespace {
 
 /// 520 frames, 25 a second, a key frame every ten seconds.
 const QString exactBase = QStringLiteral("h264_gop250");
-
-constexpr int limitMs = 30000;
 
 struct ExactJob
 {
@@ -193,9 +191,9 @@ void BatchWorkerExactTest::images_areToldInTheWorkersThread()
         isHere = isHere && QThread::currentThread() == this->thread() && !image.isNull();
     });
     thread.addWorker(worker);
-    QSignalSpy done(&thread, &BatchThread::threadDone);
+    const ThreadEvents events(thread);
     thread.start();
-    QVERIFY(done.wait(limitMs));
+    QVERIFY(events.waitForEnd());
     QTRY_COMPARE(images, 17);
     QVERIFY(isHere);
     QCOMPARE(namesIn(dir.path()).size(), 17);
@@ -266,9 +264,9 @@ void BatchWorkerExactTest::interruption_endsTheJob()
     worker->setConfig(&config);
     connect(worker, &BatchWorker::imageReady, this, [&thread] { thread->requestInterruption(); });
     thread->addWorker(worker);
-    QSignalSpy done(thread.get(), &BatchThread::threadDone);
+    const ThreadEvents events(*thread);
     thread->start();
-    QVERIFY(done.wait(limitMs));
+    QVERIFY(events.waitForEnd());
     thread.reset();
     const QStringList names = namesIn(dir.path());
     QVERIFY(!names.isEmpty());
