@@ -336,16 +336,24 @@ void SnapshotShelf::post(std::function<void()> task, std::function<void()> done)
     ++m_pendingTasks;
     m_thread->post([this, task = std::move(task), done = std::move(done)] {
         task();
-        const auto finish = [this, done] {
-            done();
-            finishTask();
-        };
-        QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
+        {
+            const std::lock_guard<std::mutex> lock(m_callbacksMutex);
+            m_callbacks.push_back(done);
+        }
+        QMetaObject::invokeMethod(this, "finishTask", Qt::QueuedConnection);
     });
 }
 
+/// The tasks end in the order in which they were posted.
 void SnapshotShelf::finishTask()
 {
+    std::function<void()> done;
+    {
+        const std::lock_guard<std::mutex> lock(m_callbacksMutex);
+        done = std::move(m_callbacks.front());
+        m_callbacks.pop_front();
+    }
+    done();
     --m_pendingTasks;
     if (m_pendingTasks == 0) {
         Q_EMIT settled();
