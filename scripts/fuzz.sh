@@ -3,6 +3,8 @@
 #   scripts/fuzz.sh MINUTES [HARNESS…]   this many minutes for each of video, player, profiles,
 #                                        arguments and metadata, or for the named ones
 #   scripts/fuzz.sh --seeds [HARNESS…]   only the stored inputs, in the build with sanitizers
+#   scripts/fuzz.sh --thin [HARNESS…]    removes generated inputs that reach nothing new; every run
+#                                        begins with all of them, which can take all of its time
 # Needs the packages [run] and [fuzz] of packages.txt, and the sample videos of the tests, in
 # build/media or the folder named by MORVANTILE_MEDIA. Findings are stored in build/fuzz/findings;
 # add a file to fuzz/seeds and a test for each.
@@ -55,12 +57,29 @@ fuzz() {
             say "$name: a finding in build/fuzz/findings/$name"
             failed=1
         }
-        grep -h -E 'stat::number_of_executed_units|DONE' "$build/fuzz/$name.log" | tail -n 2 >&2 || true
+        # INITED tells how many of the inputs were there before.
+        grep -h -E 'stat::number_of_executed_units|INITED|DONE' "$build/fuzz/$name.log" >&2 || true
+    done
+}
+
+thin() {
+    local name corpus
+    for name in "$@"; do
+        corpus=$build/corpus/$name
+        [[ -d $corpus ]] || continue
+        rm -rf -- "$corpus.thin"
+        mkdir -- "$corpus.thin"
+        "$build/fuzz/fuzz_$name" -merge=1 -timeout=25 -rss_limit_mb=2500 -max_len=131072 \
+            "$corpus.thin" "$corpus" >"$build/fuzz/$name.log" 2>&1 ||
+            { tail -n 40 "$build/fuzz/$name.log" >&2; die "$name cannot be thinned"; }
+        say "$name: $(find "$corpus" -type f | wc -l) inputs, now $(find "$corpus.thin" -type f | wc -l)"
+        rm -rf -- "$corpus"
+        mv -- "$corpus.thin" "$corpus"
     done
 }
 
 all=(video player profiles arguments metadata)
-(($#)) || die "say how many minutes, or --seeds"
+(($#)) || die "say how many minutes, --seeds or --thin"
 minutes=$1
 shift
 harnesses=("$@")
@@ -81,12 +100,16 @@ if [[ $minutes == --seeds ]]; then
     replay "${harnesses[@]}"
     exit 0
 fi
-[[ $minutes =~ ^[1-9][0-9]*$ ]] || die "no number of minutes: $minutes"
+[[ $minutes == --thin || $minutes =~ ^[1-9][0-9]*$ ]] || die "no number of minutes: $minutes"
 build=$root/build/fuzz
 cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ -DMORVANTILE_BUILD_TESTS=OFF \
     -DMORVANTILE_BUILD_FUZZERS=ON \
     -DMORVANTILE_SANITIZE=address,undefined,fuzzer-no-link >/dev/null
 ninja -C "$build" "${harnesses[@]/#/fuzz_}" >&2
+if [[ $minutes == --thin ]]; then
+    thin "${harnesses[@]}"
+    exit 0
+fi
 fuzz "${harnesses[@]}"
 exit "$failed"
