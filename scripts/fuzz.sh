@@ -89,7 +89,8 @@ for name in "${harnesses[@]}"; do
 done
 failed=0
 export QT_QPA_PLATFORM=offscreen
-export ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1
+# The last one as in tests/CMakeLists.txt.
+export ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1:intercept_tls_get_addr=0
 export LSAN_OPTIONS=suppressions=$root/tests/support/lsan.supp:print_suppressions=0
 
 if [[ $minutes == --seeds ]]; then
