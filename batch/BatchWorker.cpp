@@ -310,26 +310,11 @@ void BatchWorker::runSeries(const std::function<void()>& work)
 /// Queues a report for the worker's own thread, in order.
 void BatchWorker::tell(std::function<void()> news)
 {
-    {
-        const std::lock_guard<std::mutex> lock(m_newsMutex);
-        m_news.push_back(std::move(news));
-    }
-    QMetaObject::invokeMethod(this, "tellNews", Qt::QueuedConnection);
-}
-
-void BatchWorker::tellNews()
-{
-    std::deque<std::function<void()>> news;
-    {
-        const std::lock_guard<std::mutex> lock(m_newsMutex);
-        news.swap(m_news);
-    }
-    for (const auto& one : news) {
-        if (isInterruptionRequested()) {
-            return;
+    m_news.post([this, news = std::move(news)] {
+        if (!isInterruptionRequested()) {
+            news();
         }
-        one();
-    }
+    });
 }
 
 void BatchWorker::showSaved(QImage image)

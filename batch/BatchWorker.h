@@ -1,6 +1,7 @@
 #pragma once
 
 #include "batch/Worker.h"
+#include "utils/CallQueue.h"
 
 #include <QtAV/VideoFrame.h>
 
@@ -107,7 +108,6 @@ Q_SIGNALS:
 private Q_SLOTS:
     void frameExtracted(const QtAV::VideoFrame& frame, qint64 position);
     void extractorError(QString message);
-    void tellNews();
 
 private:
     /// Interval of checks for fewer waiting images or for an answer, and the maximum time of
@@ -159,9 +159,7 @@ private:
                                                    ///< opened it
     struct Series;
     std::unique_ptr<const Series> m_series; ///< of a job with exact frames, once prepared
-    std::mutex m_newsMutex;
-    /// Reports for the worker's own thread, in order. Guarded by m_newsMutex.
-    std::deque<std::function<void()>> m_news;
+    CallQueue m_news{this};                 ///< reports for the worker's own thread
     /// Number of the frame to request next.
     int m_frameCounter = 0;
     bool m_hasAnnouncedBaseLayer = false;

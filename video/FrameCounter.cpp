@@ -61,12 +61,10 @@ void FrameCounter::count()
     if (isCounted() || isCounting() || m_path.isEmpty()) {
         return;
     }
-    qRegisterMetaType<QVector<qint64>>("QVector<qint64>");
     m_isCancelled = std::make_shared<std::atomic<bool>>(false);
     const auto work = [this, run = m_run, path = m_path, cancelled = m_isCancelled] {
-        const auto times = readTimes(path, [cancelled] { return cancelled->load(); });
-        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, run),
-                                  Q_ARG(QVector<qint64>, times));
+        auto times = readTimes(path, [cancelled] { return cancelled->load(); });
+        m_results.post([this, run, times = std::move(times)] { take(run, times); });
     };
     m_thread.reset(QThread::create(work));
     m_thread->start(QThread::IdlePriority);

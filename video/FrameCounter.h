@@ -1,5 +1,7 @@
 #pragma once
 
+#include "utils/CallQueue.h"
+
 #include <QObject>
 #include <QString>
 #include <QVector>
@@ -50,11 +52,12 @@ Q_SIGNALS:
 
 private:
     void drop();
-    Q_INVOKABLE void take(int run, const QVector<qint64>& times);
+    void take(int run, const QVector<qint64>& times);
 
     QString m_path;
     QVector<qint64> m_times; ///< in rising order
     int m_run = 0;           ///< changes when the counting in progress is no longer wanted
+    CallQueue m_results{this};
     std::shared_ptr<std::atomic<bool>> m_isCancelled;
     std::unique_ptr<QThread> m_thread; ///< null when not counting
     /// Threads of earlier counts. They end soon, but run only when the machine is otherwise idle.

@@ -38,7 +38,7 @@ QImage smallPicture(const QtAV::VideoFrame& frame)
 class Thumbnails::Maker
 {
 public:
-    using Deliver = std::function<void(int source, qint64 ms, const QImage&)>;
+    using Deliver = std::function<void(int source, qint64 ms, QImage)>;
 
     /// @param deliver  called on the thread.
     explicit Maker(Deliver deliver)
@@ -131,9 +131,9 @@ private:
             return m_isOutdated ||
                    (m_hasNewer && std::chrono::steady_clock::now() - started > patience);
         };
-        const QImage picture = pictureAt(ms, isCancelled);
+        QImage picture = pictureAt(ms, isCancelled);
         if (!picture.isNull()) {
-            m_deliver(m_openSource, ms, picture);
+            m_deliver(m_openSource, ms, std::move(picture));
         }
         lock.lock();
     }
@@ -195,9 +195,9 @@ Thumbnails::Thumbnails(QObject* parent)
     : QObject(parent)
     , m_pictures(mostBytes)
 {
-    const auto deliver = [this](int source, qint64 ms, const QImage& picture) {
-        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, source),
-                                  Q_ARG(qint64, ms), Q_ARG(QImage, picture));
+    const auto deliver = [this](int source, qint64 ms, QImage picture) {
+        m_results.post(
+            [this, source, ms, picture = std::move(picture)] { take(source, ms, picture); });
     };
     m_maker = std::make_unique<Maker>(deliver);
 }

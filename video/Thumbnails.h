@@ -1,5 +1,7 @@
 #pragma once
 
+#include "utils/CallQueue.h"
+
 #include <QCache>
 #include <QImage>
 #include <QObject>
@@ -47,9 +49,10 @@ Q_SIGNALS:
 private:
     class Maker;
 
-    Q_INVOKABLE void take(int source, qint64 ms, const QImage& picture);
+    void take(int source, qint64 ms, const QImage& picture);
 
     QCache<qint64, QImage> m_pictures; ///< by requested position, with costs in bytes
     int m_source = 0;                  ///< changes with the video
-    std::unique_ptr<Maker> m_maker;    ///< last, since its thread calls the other members
+    CallQueue m_results{this};
+    std::unique_ptr<Maker> m_maker; ///< last, since its thread calls the other members
 };

@@ -4,6 +4,7 @@
 #include "ui/widgets/LargePicture.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -33,9 +34,7 @@ QVector<QImage> picturesOf(const QImage& frame, const QVector<ImageRecipe>& reci
 
 PreviewMaker::PreviewMaker(QObject* parent)
     : QObject(parent)
-{
-    qRegisterMetaType<QVector<QImage>>("QVector<QImage>");
-}
+{}
 
 PreviewMaker::~PreviewMaker() = default;
 
@@ -48,9 +47,9 @@ void PreviewMaker::make(const QImage& frame, const QVector<ImageRecipe>& recipes
     }
     const int request = m_request;
     m_task.start([this, request, frame, recipes](const NewestTask::IsCancelled& isCancelled) {
-        const QVector<QImage> pictures = picturesOf(frame, recipes, isCancelled);
-        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, request),
-                                  Q_ARG(QVector<QImage>, pictures));
+        QVector<QImage> pictures = picturesOf(frame, recipes, isCancelled);
+        m_results.post(
+            [this, request, pictures = std::move(pictures)] { take(request, pictures); });
     });
 }
 

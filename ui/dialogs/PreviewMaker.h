@@ -2,6 +2,7 @@
 
 #include "imaging/ImageRecipe.h"
 #include "ui/widgets/NewestTask.h"
+#include "utils/CallQueue.h"
 
 #include <QImage>
 #include <QObject>
@@ -29,8 +30,9 @@ Q_SIGNALS:
     void made(const QVector<QImage>& pictures);
 
 private:
-    Q_INVOKABLE void take(int request, const QVector<QImage>& pictures);
+    void take(int request, const QVector<QImage>& pictures);
 
     int m_request = 0; ///< changes with what is asked for
+    CallQueue m_results{this};
     NewestTask m_task; ///< last: its thread calls for the others
 };

@@ -336,23 +336,13 @@ void SnapshotShelf::post(std::function<void()> task, std::function<void()> done)
     ++m_pendingTasks;
     m_thread->post([this, task = std::move(task), done = std::move(done)] {
         task();
-        {
-            const std::lock_guard<std::mutex> lock(m_callbacksMutex);
-            m_callbacks.push_back(done);
-        }
-        QMetaObject::invokeMethod(this, "finishTask", Qt::QueuedConnection);
+        m_callbacks.post([this, done] { finishTask(done); });
     });
 }
 
 /// The tasks end in the order in which they were posted.
-void SnapshotShelf::finishTask()
+void SnapshotShelf::finishTask(const std::function<void()>& done)
 {
-    std::function<void()> done;
-    {
-        const std::lock_guard<std::mutex> lock(m_callbacksMutex);
-        done = std::move(m_callbacks.front());
-        m_callbacks.pop_front();
-    }
     done();
     --m_pendingTasks;
     if (m_pendingTasks == 0) {

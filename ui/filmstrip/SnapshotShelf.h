@@ -2,6 +2,7 @@
 
 #include "imaging/CapturedPicture.h"
 #include "ui/filmstrip/KeptSnapshot.h"
+#include "utils/CallQueue.h"
 
 #include <QAbstractListModel>
 #include <QImage>
@@ -9,10 +10,8 @@
 #include <QStringList>
 #include <QVector>
 
-#include <deque>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <optional>
 
 class SnapshotFolder;
@@ -107,9 +106,6 @@ Q_SIGNALS:
     void noticed(const QString& text);
     void settled();
 
-private Q_SLOTS:
-    void finishTask();
-
 private:
     enum class Place {
         InMemory, ///< being written, or could not be written
@@ -126,6 +122,7 @@ private:
     };
 
     void post(std::function<void()> task, std::function<void()> done);
+    void finishTask(const std::function<void()>& done);
     void bringBack(const SnapshotContents& contents);
     void write(Entry& entry);
     void noticeWritten(const QString& id, const QImage& thumbnail, bool isWritten);
@@ -149,10 +146,7 @@ private:
     qint64 m_diskBytes = 0;                   ///< as last measured
     bool m_hasFailed = false;                 ///< writing has failed; reported once
     std::shared_ptr<SnapshotFolder> m_folder; ///< null without one; used by the tasks
-    std::mutex m_callbacksMutex;
-    /// Of the tasks that have ended. Guarded by m_callbacksMutex: thread sanitizer sees its lock,
-    /// but not those of the queue of events, which could carry them, too.
-    std::deque<std::function<void()>> m_callbacks;
+    CallQueue m_callbacks{this};              ///< of the tasks that have ended
     /// Destroyed first: its tasks use the members above.
     std::unique_ptr<TaskThread> m_thread;
 };

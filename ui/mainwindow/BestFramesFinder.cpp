@@ -1,10 +1,10 @@
 #include "ui/mainwindow/BestFramesFinder.h"
 
+#include <utility>
+
 BestFramesFinder::BestFramesFinder(QObject* parent)
     : QObject(parent)
-{
-    qRegisterMetaType<BestFrames>("BestFrames");
-}
+{}
 
 BestFramesFinder::~BestFramesFinder() = default;
 
@@ -13,10 +13,9 @@ void BestFramesFinder::search(const QString& video, QtAV::Deinterlacing deinterl
 {
     const int search = ++m_search;
     m_task.start([=](const NewestTask::IsCancelled& isCancelled) {
-        const BestFrames best =
+        BestFrames best =
             series::findBest(video, deinterlacing, stretch, count, pictureSize, isCancelled);
-        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, search),
-                                  Q_ARG(BestFrames, best));
+        m_results.post([this, search, best = std::move(best)] { take(search, best); });
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "series/BestFrames.h"
 #include "ui/widgets/NewestTask.h"
+#include "utils/CallQueue.h"
 
 #include <QMetaType>
 #include <QObject>
@@ -30,8 +31,9 @@ Q_SIGNALS:
     void found(const BestFrames& best);
 
 private:
-    Q_INVOKABLE void take(int search, const BestFrames& best);
+    void take(int search, const BestFrames& best);
 
-    int m_search = 0;  ///< changes with each search and each cancel()
+    int m_search = 0; ///< changes with each search and each cancel()
+    CallQueue m_results{this};
     NewestTask m_task; ///< last, since its thread calls the other members
 };

@@ -53,10 +53,7 @@ void DropZone::search(const QStringList& paths)
     m_task.start([this, search, paths](const DiskTask::Run& run) {
         const QStringList videos =
             DroppedVideos::among(paths, [&run] { return run.isCancelled(); });
-        run.answer([&] {
-            QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, search),
-                                      Q_ARG(QStringList, videos));
-        });
+        run.answer([&] { m_answers.post([this, search, videos] { take(search, videos); }); });
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/widgets/DiskTask.h"
+#include "utils/CallQueue.h"
 
 #include <QObject>
 #include <QPointer>
@@ -49,7 +50,7 @@ private:
     void cancel();
     void showProgress(int search);
     void hideProgress();
-    Q_INVOKABLE void take(int search, const QStringList& videos);
+    void take(int search, const QStringList& videos);
 
     QWidget& m_window;
     const std::chrono::milliseconds m_patience;
@@ -57,5 +58,6 @@ private:
     QPointer<QProgressDialog> m_progress; ///< exists while a search takes long
     bool m_isSearching = false;
     int m_search = 0; ///< changes with each drop
-    DiskTask m_task;
+    CallQueue m_answers{this};
+    DiskTask m_task; ///< last, since its thread calls the other members
 };

@@ -56,18 +56,14 @@ void FolderSteps::look()
     m_task.start([this, look, video = m_video](const DiskTask::Run& run) {
         const VideoNames::Neighbours found = VideoNames::neighboursOf(video);
         run.answer([&] {
-            QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, look),
-                                      Q_ARG(QString, found.previous), Q_ARG(QString, found.next));
+            m_answers.post([this, look, found] {
+                // Another video may have been opened in the meantime.
+                if (look == m_look) {
+                    show(found.previous, found.next);
+                }
+            });
         });
     });
-}
-
-void FolderSteps::take(int look, const QString& previous, const QString& next)
-{
-    // Another video may have been opened while the result was in transit.
-    if (look == m_look) {
-        show(previous, next);
-    }
 }
 
 void FolderSteps::show(const QString& previous, const QString& next)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/widgets/DiskTask.h"
+#include "utils/CallQueue.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
@@ -32,7 +33,6 @@ Q_SIGNALS:
 private:
     void look();
     void show(const QString& previous, const QString& next);
-    Q_INVOKABLE void take(int look, const QString& previous, const QString& next);
 
     QAction& m_nextAction;
     QAction& m_previousAction;
@@ -42,5 +42,6 @@ private:
     int m_look = 0; ///< changes whenever the folder is read
     QFileSystemWatcher m_watcher;
     QTimer m_settling; ///< limits how often a busy folder is read
-    DiskTask m_task;
+    CallQueue m_answers{this};
+    DiskTask m_task; ///< last, since its thread calls the other members
 };

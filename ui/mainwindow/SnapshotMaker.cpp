@@ -21,9 +21,7 @@ MadeSnapshot made(const CapturedPicture& picture, const ImageRecipe& recipe)
 
 SnapshotMaker::SnapshotMaker(QObject* parent)
     : QObject(parent)
-{
-    qRegisterMetaType<MadeSnapshot>("MadeSnapshot");
-}
+{}
 
 SnapshotMaker::~SnapshotMaker() = default;
 
@@ -36,9 +34,7 @@ void SnapshotMaker::capture(const CapturedPicture& picture, const ImageRecipe& r
     }
     ++m_capturesToCome;
     m_captures.post([this, picture, recipe] {
-        const MadeSnapshot result = made(picture, recipe);
-        QMetaObject::invokeMethod(this, "takeCaptured", Qt::QueuedConnection,
-                                  Q_ARG(MadeSnapshot, result));
+        m_results.post([this, result = made(picture, recipe)] { takeCaptured(result); });
     });
 }
 
@@ -60,9 +56,8 @@ void SnapshotMaker::remake(const CapturedPicture& picture, const ImageRecipe& re
     m_pending = MadeSnapshot{picture, recipe, {}};
     const int request = m_request;
     m_remaking.start([this, request, picture, recipe](const NewestTask::IsCancelled&) {
-        const MadeSnapshot result = made(picture, recipe);
-        QMetaObject::invokeMethod(this, "takeRemade", Qt::QueuedConnection, Q_ARG(int, request),
-                                  Q_ARG(MadeSnapshot, result));
+        m_results.post(
+            [this, request, result = made(picture, recipe)] { takeRemade(request, result); });
     });
 }
 

@@ -5,6 +5,7 @@
 #include "imaging/Rendering.h"
 #include "ui/widgets/NewestTask.h"
 #include "ui/widgets/TaskThread.h"
+#include "utils/CallQueue.h"
 
 #include <QMetaType>
 #include <QObject>
@@ -48,12 +49,13 @@ Q_SIGNALS:
     void remade(const MadeSnapshot& made);
 
 private:
-    Q_INVOKABLE void takeCaptured(const MadeSnapshot& made);
-    Q_INVOKABLE void takeRemade(int request, const MadeSnapshot& made);
+    void takeCaptured(const MadeSnapshot& made);
+    void takeRemade(int request, const MadeSnapshot& made);
 
     int m_capturesToCome = 0;
     int m_request = 0;                     ///< changes with each request
     std::optional<MadeSnapshot> m_pending; ///< the pending request
+    CallQueue m_results{this};
     // Last, since their threads call the other members.
     TaskThread m_captures;
     NewestTask m_remaking;

@@ -126,9 +126,7 @@ void ImageView::request(const QSize& pixels)
     m_wantedSize = pixels;
     const int request = ++m_request;
     m_task.start([this, request, pixels, image = m_image](const NewestTask::IsCancelled&) {
-        const QImage made = averaged(image, pixels);
-        QMetaObject::invokeMethod(this, "take", Qt::QueuedConnection, Q_ARG(int, request),
-                                  Q_ARG(QImage, made));
+        m_results.post([this, request, made = averaged(image, pixels)] { take(request, made); });
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/widgets/NewestTask.h"
+#include "utils/CallQueue.h"
 
 #include <QIcon>
 #include <QImage>
@@ -43,7 +44,7 @@ private:
     const QImage& imageFor(QSize pixels);
     void paintPlaceholder(QPainter& painter) const;
     void request(const QSize& pixels);
-    Q_INVOKABLE void take(int request, const QImage& image);
+    void take(int request, const QImage& image);
     void paintZoomed(QPainter& painter, const QRect& place);
 
     ZoomGestures* const m_zoom;
@@ -54,5 +55,6 @@ private:
     QImage m_smallImage;
     QSize m_wantedSize; ///< the size for which m_smallImage is, or is being, made
     int m_request = 0;  ///< changes with each requested image and size
-    NewestTask m_task;  ///< last, since its thread calls the other members
+    CallQueue m_results{this};
+    NewestTask m_task; ///< last, since its thread calls the other members
 };
