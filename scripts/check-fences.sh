@@ -59,15 +59,15 @@ only_in() {
 
 layer product product/
 layer qtav qtav/
-layer video video/
+layer video video/ utils/CallQueue.h
 layer profiles profiles/
 layer utils utils/
 layer imaging imaging/ profiles/ utils/ product/
 layer series series/ imaging/
 layer ui/batch batch/ ui/ video/ profiles/ imaging/
-layer batch batch/ series/ video/ profiles/ imaging/
-layer ui/mainwindow ui/ batch/ series/ video/ profiles/ imaging/ product/
-layer ui ui/ profiles/ imaging/ product/
+layer batch batch/ series/ video/ profiles/ imaging/ utils/CallQueue.h
+layer ui/mainwindow ui/ batch/ series/ video/ profiles/ imaging/ product/ utils/CallQueue.h
+layer ui ui/ profiles/ imaging/ product/ utils/CallQueue.h
 layer stills stills/ series/ imaging/ profiles/ product/ app/MemoryPolicy.h \
     app/RuntimeFolder.h app/StandardStreams.h
 # app/ is above all others.
