@@ -8,6 +8,7 @@
 #include <QVector>
 
 #include <functional>
+#include <future>
 #include <memory>
 #include <numeric>
 #include <thread>
@@ -42,7 +43,7 @@ void CallQueueTest::functions_areCalledInTheOwnersThread_inTheirOrder()
     CallQueue queue;
     QVector<int> order;
     QVector<QThread*> threads;
-    std::thread poster([&] {
+    const auto poster = std::async(std::launch::async, [&queue, &order, &threads] {
         for (int i = 0; i < count; ++i) {
             queue.post([&order, &threads, numbers = QVector<int>{i}] {
                 order += numbers;
@@ -51,7 +52,6 @@ void CallQueueTest::functions_areCalledInTheOwnersThread_inTheirOrder()
         }
     });
     QTRY_COMPARE_WITH_TIMEOUT(order.size(), count, patienceMs);
-    poster.join();
     QVector<int> expected(count);
     std::iota(expected.begin(), expected.end(), 0);
     QCOMPARE(order, expected);
