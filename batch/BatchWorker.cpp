@@ -310,7 +310,7 @@ void BatchWorker::runSeries(const std::function<void()>& work)
 /// Queues a report for the worker's own thread, in order.
 void BatchWorker::tell(std::function<void()> news)
 {
-    m_news.post([this, news = std::move(news)] {
+    m_handover.post([this, news = std::move(news)] {
         if (!isInterruptionRequested()) {
             news();
         }
@@ -402,8 +402,12 @@ void BatchWorker::tickProgress()
 void BatchWorker::passOn(const QtAV::VideoFrame& frame)
 {
     ++m_waitingFrames;
-    QMetaObject::invokeMethod(this, "frameExtracted", Q_ARG(QtAV::VideoFrame, frame),
-                              Q_ARG(qint64, m_frameGrabber->getPosition()));
+    const qint64 position = m_frameGrabber->getPosition();
+    if (QThread::currentThread() == thread()) {
+        frameExtracted(frame, position);
+    } else {
+        m_handover.post([this, frame, position] { frameExtracted(frame, position); });
+    }
 }
 
 /// Reports it once per job, unless the whole range is shown.

@@ -159,7 +159,7 @@ private:
                                                    ///< opened it
     struct Series;
     std::unique_ptr<const Series> m_series; ///< of a job with exact frames, once prepared
-    CallQueue m_news{this};                 ///< reports for the worker's own thread
+    CallQueue m_handover{this};             ///< frames and reports for the worker's own thread
     /// Number of the frame to request next.
     int m_frameCounter = 0;
     bool m_hasAnnouncedBaseLayer = false;

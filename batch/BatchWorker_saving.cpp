@@ -18,9 +18,6 @@
 
 void BatchWorker::frameExtracted(const QtAV::VideoFrame& frame, qint64 position)
 {
-    // Reading the count orders this after passOn() in a way that thread sanitizer sees, unlike the
-    // queue of events.
-    static_cast<void>(m_waitingFrames.load());
     // The dialog that asks lets other events be processed.
     if (m_isAsking) {
         m_postponed.emplace_back(frame, position);
