@@ -51,6 +51,11 @@ endfunction()
 function(morvantile_add_test path)
   cmake_parse_arguments(ARG "MEDIA;EXHAUSTIVE;OPTIMISED;CORE_ONLY;ALONE" "TIMEOUT"
     "SOURCES;LIBS;DEFINITIONS;NEEDS;LABELS" ${ARGN})
+  # Sanitizers skip the cases that limit memory, which then would run nowhere.
+  file(STRINGS "${path}.cpp" limits REGEX "::isPossible\\(\\)")
+  if(limits AND NOT ARG_OPTIMISED)
+    message(FATAL_ERROR "${path} limits memory, so it must be OPTIMISED")
+  endif()
   if(MORVANTILE_SANITIZE AND ARG_EXHAUSTIVE)
     return()
   endif()
